@@ -1,0 +1,106 @@
+# shellcheck shell=bash
+# SPDX-FileCopyrightText: 2026 The Fishbone authors
+# SPDX-License-Identifier: MIT
+#
+# Checks of the sources and of what is built from them. Each function prints what it found wrong and
+# fails when that is anything at all.
+
+# The C++ files of the project; with an argument only those with that ending.
+sources() {
+    local folder folders=()
+    for folder in app benchmarks cmake examples fishbone tests; do
+        [[ ! -d $folder ]] || folders+=("$folder")
+    done
+    find "${folders[@]}" -type f \( -name "*.${1:-h}" -o -name "*.${1:-cpp}" \) | sort
+}
+
+# grep, for which finding nothing is no failure, while an error stays one.
+search() {
+    grep "$@" || (($? == 1))
+}
+
+# Prints the findings that come in, and fails when there are any.
+none() {
+    ! grep .
+}
+
+check_format() {
+    sources | xargs clang-format --dry-run --Werror
+}
+
+check_scripts() {
+    shellcheck --external-sources scripts/bootstrap scripts/run scripts/test scripts/*.sh .ci/run
+}
+
+# Every file says whose it is and under which terms, a script below its first line.
+check_licence_lines() {
+    local file
+    {
+        sources
+        find . -path ./build -prune -o \( -name CMakeLists.txt -o -name '*.cmake' \) -print
+        find scripts .ci -type f ! -name packages.txt
+    } | while read -r file; do
+        if [[ $(head -n 3 "$file") != *SPDX-FileCopyrightText:\ *' The Fishbone authors'*SPDX-License-Identifier:\ MIT* ]]; then
+            echo "$file: no licence lines on top"
+        fi
+    done | none
+}
+
+check_include_guards() {
+    local file
+    sources h | while read -r file; do
+        grep -q '^#pragma once$' "$file" || echo "$file: no #pragma once"
+    done | none
+}
+
+# There is one spelling of an include, from the top folder; only moc output is included as a neighbour.
+check_includes() {
+    local files
+    mapfile -t files <<<"$(sources)"
+    search -nE '^[[:space:]]*#[[:space:]]*include[[:space:]]+"' "${files[@]}" |
+        search -vE '"[a-z0-9_]+\.moc"$' | none
+}
+
+# Each public header, which is one that exports something, has a test program of its own.
+check_tests_exist() {
+    local header name
+    grep -rl --include='*.h' FISHBONE_EXPORT fishbone | sort | while read -r header; do
+        name=tst_$(basename "$header" .h).cpp
+        compgen -G "tests/*/$name" >/dev/null || echo "$header: no tests/*/$name"
+    done | none
+}
+
+# Each test program is one that ctest runs.
+check_tests_registered() {
+    local known file
+    known=$(ctest --preset dev --show-only)
+    find tests -name 'tst_*.cpp' | sort | while read -r file; do
+        grep -qE ": $(basename "$file" .cpp)\$" <<<"$known" || echo "$file: not registered"
+    done | none
+}
+
+# Marks of unfinished work, of a merge and of one developer's machine, and tests that cannot fail.
+check_words() {
+    {
+        search -rnIE --exclude-dir=build --exclude-dir=.git --exclude=checks.sh \
+            '\b(TODO|FIXME|XXX|HACK)\b|^(<{7}|>{7}) |(^|[^A-Za-z0-9.])/(home|root|Users)/[a-z]' .
+        search -rnE 'QVERIFY2?\((true|1)\b|QSKIP\(' tests
+    } | none
+}
+
+# A host finds the installed package, compiles each public header alone and shows a diagram.
+check_package() {
+    local prefix=$PWD/build/package
+    rm -rf "$prefix"
+    cmake --install build/release --prefix "$prefix" >/dev/null
+    cmake -S cmake/consumer -B build/consumer -G Ninja -DCMAKE_PREFIX_PATH="$prefix"
+    cmake --build build/consumer
+    QT_QPA_PLATFORM=offscreen build/consumer/consumer
+}
+
+# Where there is no display, scripts/run draws a sample.
+check_run() {
+    local picture
+    picture=$(env -u DISPLAY -u WAYLAND_DISPLAY scripts/run | tail -n 1 | sed 's/.* is drawn in //')
+    [[ $(head -c 4 "$picture" | tail -c 3) == PNG ]]
+}
