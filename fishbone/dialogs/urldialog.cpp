@@ -1,0 +1,190 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#include <fishbone/dialogs/urldialog.h>
+
+#include <fishbone/dialogs/modalanswer.h>
+
+#include <QComboBox>
+#include <QCompleter>
+#include <QFile>
+#include <QFileInfo>
+#include <QGridLayout>
+#include <QGuiApplication>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QSaveFile>
+#include <QStringList>
+
+namespace {
+
+/// Shows the wait cursor as long as it lives.
+class WaitCursor
+{
+    Q_DISABLE_COPY(WaitCursor)
+
+public:
+    WaitCursor() { QGuiApplication::setOverrideCursor(Qt::WaitCursor); }
+    ~WaitCursor() { QGuiApplication::restoreOverrideCursor(); }
+};
+
+QStringList urlsFromText(const QString &text)
+{
+    QStringList urls;
+    const QStringList lines = text.split(QLatin1Char('\n'));
+    for (const QString &line : lines) {
+        const QString url = line.trimmed();
+        if (!url.isEmpty())
+            urls.append(url);
+    }
+    return urls;
+}
+
+QByteArray textFromUrls(const QComboBox *urls)
+{
+    QString text;
+    for (int i = 0; i < urls->count(); ++i)
+        text += urls->itemText(i) + QLatin1Char('\n');
+    return text.toUtf8();
+}
+
+/// Opens the file and hands the whole content on to the system. What stays in the buffer until a
+/// file is closed or committed could fail without a report.
+bool write(QFileDevice &file, const QByteArray &content)
+{
+    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.flush();
+}
+
+/// Replaces the content of a file, whole or not at all; returns what went wrong, if anything.
+QString replaceContent(const QString &fileName, const QByteArray &content)
+{
+    const WaitCursor cursor;
+    const QFileInfo target(fileName);
+    if (target.exists() && !target.isFile()) {
+        // Replacing a device or a pipe would remove it.
+        QFile file(fileName);
+        return write(file, content) ? QString() : file.errorString();
+    }
+    QSaveFile file(fileName);
+    file.setDirectWriteFallback(true);
+    return write(file, content) && file.commit() ? QString() : file.errorString();
+}
+
+} // namespace
+
+URLDialog::URLDialog(const QString &title, const QString &fileName, QWidget *parent)
+    : QDialog(parent)
+    , m_fileName(fileName.isEmpty() ? QStringLiteral("moraine2.urllist") : fileName)
+    , m_urls(new QComboBox(this))
+{
+    setWindowTitle(title.isEmpty() ? tr("Input Url") : title);
+
+    m_urls->setEditable(true);
+    m_urls->setInsertPolicy(QComboBox::NoInsert);
+    // URLs that differ in case are different ones, which completing must not mix up.
+    m_urls->completer()->setCaseSensitivity(Qt::CaseSensitive);
+    m_urls->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    m_urls->setMinimumContentsLength(40);
+    m_urls->setAccessibleName(tr("Url:"));
+
+    buildLayout();
+    loadUrl();
+}
+
+void URLDialog::buildLayout()
+{
+    auto *const label = new QLabel(tr("Url:"), this);
+    label->setBuddy(m_urls);
+
+    auto *const clean = new QPushButton(tr("Clean"), this);
+    auto *const open = new QPushButton(tr("Open"), this);
+    auto *const cancel = new QPushButton(tr("Cancel"), this);
+    connect(clean, &QPushButton::clicked, this, &URLDialog::clean);
+    connect(open, &QPushButton::clicked, this, &URLDialog::accept);
+    connect(cancel, &QPushButton::clicked, this, &URLDialog::reject);
+    clean->setAutoDefault(false);
+    open->setDefault(true);
+    cancel->setAutoDefault(false);
+
+    auto *const buttons = new QHBoxLayout;
+    buttons->addWidget(clean);
+    buttons->addStretch();
+    buttons->addWidget(open);
+    buttons->addWidget(cancel);
+
+    auto *const layout = new QGridLayout(this);
+    layout->addWidget(label, 0, 0);
+    layout->addWidget(m_urls, 0, 1);
+    layout->addLayout(buttons, 1, 0, 1, 2);
+    layout->setColumnStretch(1, 1);
+    layout->setRowStretch(2, 1);
+}
+
+QUrl URLDialog::linkToUrlDialog(const QString &url, QWidget *parent)
+{
+    auto *const dialog = new URLDialog(tr("Link to url"), QStringLiteral("linkto.urllist"), parent);
+    dialog->setUrl(url);
+    return modalAnswer(dialog, &URLDialog::url).value_or(QUrl());
+}
+
+QUrl URLDialog::saveUrlDialog(QWidget *parent)
+{
+    auto *const dialog = new URLDialog(tr("Save url"), QStringLiteral("save.urllist"), parent);
+    return modalAnswer(dialog, &URLDialog::url).value_or(QUrl());
+}
+
+QUrl URLDialog::openUrlDialog(QWidget *parent)
+{
+    auto *const dialog = new URLDialog(tr("Open url"), QStringLiteral("open.urllist"), parent);
+    return modalAnswer(dialog, &URLDialog::url).value_or(QUrl());
+}
+
+QUrl URLDialog::url() const
+{
+    return QUrl(m_urls->currentText(), QUrl::TolerantMode);
+}
+
+void URLDialog::setUrl(const QString &url)
+{
+    m_urls->setCurrentText(url);
+    m_urls->lineEdit()->selectAll();
+}
+
+void URLDialog::loadUrl()
+{
+    QFile file(m_fileName);
+    if (!file.open(QIODevice::ReadOnly))
+        return;
+    const WaitCursor cursor;
+    m_urls->addItems(urlsFromText(QString::fromUtf8(file.readAll())));
+    m_urls->lineEdit()->selectAll();
+}
+
+void URLDialog::saveUrl()
+{
+    const QString failure = replaceContent(m_fileName, textFromUrls(m_urls));
+    if (!failure.isEmpty())
+        QMessageBox::warning(this, tr("Error"),
+                             tr("Failed to open %1\n%2").arg(m_fileName, failure));
+}
+
+void URLDialog::clean()
+{
+    m_urls->clear();
+    saveUrl();
+}
+
+void URLDialog::accept()
+{
+    const QString text = m_urls->currentText().trimmed();
+    if (text.isEmpty())
+        return;
+    m_urls->setEditText(text);
+    if (m_urls->findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive) < 0)
+        m_urls->addItem(text);
+    saveUrl();
+    QDialog::accept();
+}

@@ -1,0 +1,64 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <fishbone/fishbone_export.h>
+
+#include <QDialog>
+#include <QPen>
+
+class QComboBox;
+class QLabel;
+class QLineEdit;
+
+/**
+ * A modal dialog that edits one pen: width, line style, cap style, join style and colour, with a
+ * sample line that follows every change.
+ *
+ * The dialog works on a copy and starts on its values. A value that the widgets do not offer (a
+ * width outside 1 to 5, a custom dash pattern) is kept until the user chooses another one. Ask
+ * selectedPen() for the result once the dialog was accepted.
+ */
+class FISHBONE_EXPORT PenSelect : public QDialog
+{
+    Q_OBJECT
+
+public:
+    /** Makes a dialog that starts on \a pen. */
+    explicit PenSelect(const QPen &pen, QWidget *parent = nullptr);
+
+    /** The pen as edited so far. */
+    QPen selectedPen() const;
+
+public Q_SLOTS:
+    /** Sets the width, in pixels, to the integer that \a text holds; does nothing if it holds none.
+     */
+    void widthChanged(const QString &text);
+
+    /** Sets the line style to the \c Qt::PenStyle value \a style; an unknown value is no pen. */
+    void styleChanged(int style);
+
+    /** Sets the cap to the \c Qt::PenCapStyle value \a style; an unknown value is a flat cap. */
+    void capStyleChanged(int style);
+
+    /** Sets the join to the \c Qt::PenJoinStyle value \a style; an unknown value is a miter join.
+     */
+    void joinStyleChanged(int style);
+
+    /** Lets the user choose the colour, transparency included. */
+    void openColor();
+
+    /** Draws the sample line with the pen as it is now. */
+    void updatePreview();
+
+private:
+    void buildLayout();
+
+    QPen m_pen;
+    QLineEdit *m_width;
+    QComboBox *m_style;
+    QComboBox *m_capStyle;
+    QComboBox *m_joinStyle;
+    QLabel *m_preview;
+};

@@ -1,0 +1,324 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#include <fishbone/dialogs/replacefinddialog.h>
+#include <tests/dialogs/replacefindparts.h>
+#include <tests/support/messagebox.h>
+
+#include <QCheckBox>
+#include <QtTest>
+
+#include <memory>
+
+using namespace ReplaceFindParts;
+using TestSupport::keepMessage;
+using TestSupport::Message;
+using TestSupport::ModalDriver;
+
+class tst_ReplaceFindSearch : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void shouldFindOnEveryLevelInPreOrder();
+    void shouldSearchTheChosenColumn_data();
+    void shouldSearchTheChosenColumn();
+    void shouldCompareCaseAsTheBoxSays();
+    void shouldCompareIdentifiersByTheirEnding_data();
+    void shouldCompareIdentifiersByTheirEnding();
+    void shouldMatchEverythingWithAnEmptyText();
+    void shouldFindNothingInAnEmptyModel();
+    void shouldFindNothingInAColumnThatIsNotThere();
+    void shouldSearchAnewOnlyWhenSomethingChanged();
+    void shouldSearchAnewWhileNothingIsFound();
+    void shouldEmptyTheMatchesWhenTheColumnChanges();
+    void shouldKeepTheMatchesWhenTheColumnStays();
+    void shouldKeepMatchesThroughEdits();
+    void shouldSearchAnewWhenAllMatchesAreGone();
+    void shouldEmptyTheMatchesWithAnotherModel();
+    void shouldKeepTheMatchesWithTheSameModel();
+    void shouldForgetAModelThatDies();
+};
+
+void tst_ReplaceFindSearch::shouldFindOnEveryLevelInPreOrder()
+{
+    RecordingModel model;
+    fill(model);
+    ReplaceFindDialog dialog;
+    dialog.setModel(&model);
+    search(dialog, QStringLiteral("man"));
+    QCOMPARE(titles(dialog.matches()), QStringLiteral("Man|man power|Manual"));
+    QCOMPARE(model.m_searches.join(QLatin1Char('\n')),
+             QStringLiteral("row 0 column 0 role 0 \"man\" hits -1 flags 65"));
+}
+
+void tst_ReplaceFindSearch::shouldSearchTheChosenColumn_data()
+{
+    QTest::addColumn<int>("column");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("found");
+    QTest::addColumn<int>("flags");
+    QTest::newRow("title") << 0 << "MA"
+                           << "Man|man power|Machine|Manual" << 65;
+    QTest::newRow("uuid") << 1 << "-05}"
+                          << "man power" << 67;
+    QTest::newRow("showid") << 2 << "10"
+                            << "Effect|Man|Machine|Other" << 65;
+    QTest::newRow("pid") << 3 << "02}"
+                         << "Training|man power" << 67;
+}
+
+void tst_ReplaceFindSearch::shouldSearchTheChosenColumn()
+{
+    QFETCH(int, column);
+    QFETCH(QString, text);
+    QFETCH(int, flags);
+    RecordingModel model;
+    fill(model);
+    ReplaceFindDialog dialog;
+    dialog.setModel(&model);
+    dialog.show();
+    for (int i = 0; i < column; ++i)
+        QTest::keyClick(columnCombo(dialog), Qt::Key_Down);
+    search(dialog, text);
+    QTEST(titles(dialog.matches()), "found");
+    for (const QModelIndex &match : dialog.matches())
+        QCOMPARE(match.column(), column);
+    QCOMPARE(model.m_searches.join(QLatin1Char('\n')),
+             QStringLiteral("row 0 column %1 role 0 \"%2\" hits -1 flags %3")
+                 .arg(column)
+                 .arg(text)
+                 .arg(flags));
+}
+
+void tst_ReplaceFindSearch::shouldCompareCaseAsTheBoxSays()
+{
+    RecordingModel model;
+    fill(model);
+    ReplaceFindDialog dialog;
+    dialog.setModel(&model);
+    dialog.show();
+    QTest::keyClick(dialog.findChild<QCheckBox *>(), Qt::Key_Space);
+    search(dialog, QStringLiteral("Man"));
+    QCOMPARE(titles(dialog.matches()), QStringLiteral("Man|Manual"));
+    QVERIFY(model.m_searches.last().endsWith(QLatin1String("flags 81")));
+
+    columnCombo(dialog)->setCurrentIndex(1);
+    search(dialog, QStringLiteral("man-02}"));
+    QVERIFY(model.m_searches.last().endsWith(QLatin1String("flags 83")));
+}
+
+void tst_ReplaceFindSearch::shouldCompareIdentifiersByTheirEnding_data()
+{
+    QTest::addColumn<int>("column");
+    QTest::newRow("uuid") << 1;
+    QTest::newRow("pid") << 3;
+}
+
+void tst_ReplaceFindSearch::shouldCompareIdentifiersByTheirEnding()
+{
+    QFETCH(int, column);
+    QStandardItemModel model;
+    fill(model);
+    ReplaceFindDialog dialog;
+    dialog.setModel(&model);
+    columnCombo(dialog)->setCurrentIndex(column);
+    Message message;
+    const ModalDriver<QMessageBox> user(keepMessage(message));
+    search(dialog, QStringLiteral("{head"));
+    QVERIFY(user.isDone());
+    QVERIFY(dialog.matches().isEmpty());
+    search(dialog, QStringLiteral("HEAD-01}"));
+    QCOMPARE(titles(dialog.matches()),
+             column == 1 ? QStringLiteral("Effect") : QStringLiteral("Man|Machine"));
+}
+
+void tst_ReplaceFindSearch::shouldMatchEverythingWithAnEmptyText()
+{
+    QStandardItemModel model;
+    fill(model);
+    ReplaceFindDialog dialog;
+    dialog.setModel(&model);
+    dialog.find();
+    QCOMPARE(dialog.matches().size(), 7);
+}
+
+void tst_ReplaceFindSearch::shouldFindNothingInAnEmptyModel()
+{
+    QStandardItemModel model;
+    ReplaceFindDialog dialog;
+    dialog.setModel(&model);
+    Message message;
+    const ModalDriver<QMessageBox> user(keepMessage(message));
+    dialog.find();
+    QVERIFY(user.isDone());
+    QCOMPARE(message.text, QStringLiteral("Not found key word ."));
+}
+
+void tst_ReplaceFindSearch::shouldFindNothingInAColumnThatIsNotThere()
+{
+    QStandardItemModel model;
+    model.appendRow(new QStandardItem(QStringLiteral("Effect")));
+    ReplaceFindDialog dialog;
+    dialog.setModel(&model);
+    columnCombo(dialog)->setCurrentIndex(2);
+    Message message;
+    const ModalDriver<QMessageBox> user(keepMessage(message));
+    search(dialog, QStringLiteral("Effect"));
+    QVERIFY(user.isDone());
+    QVERIFY(dialog.matches().isEmpty());
+}
+
+void tst_ReplaceFindSearch::shouldSearchAnewOnlyWhenSomethingChanged()
+{
+    RecordingModel model;
+    fill(model);
+    ReplaceFindDialog dialog;
+    dialog.setModel(&model);
+    search(dialog, QStringLiteral("man"));
+    search(dialog, QStringLiteral("man"));
+    QCOMPARE(model.m_searches.size(), 1);
+    dialog.findChild<QCheckBox *>()->setChecked(true);
+    search(dialog, QStringLiteral("man"));
+    QCOMPARE(model.m_searches.size(), 2);
+    search(dialog, QStringLiteral("Man"));
+    QCOMPARE(model.m_searches.size(), 3);
+    search(dialog, QStringLiteral("Man"));
+    QCOMPARE(model.m_searches.size(), 3);
+}
+
+void tst_ReplaceFindSearch::shouldSearchAnewWhileNothingIsFound()
+{
+    RecordingModel model;
+    fill(model);
+    ReplaceFindDialog dialog;
+    dialog.setModel(&model);
+    for (int time = 1; time <= 2; ++time) {
+        Message message;
+        const ModalDriver<QMessageBox> user(keepMessage(message));
+        search(dialog, QStringLiteral("Method"));
+        QVERIFY(user.isDone());
+        QCOMPARE(model.m_searches.size(), time);
+    }
+    model.appendRow(new QStandardItem(QStringLiteral("Method")));
+    search(dialog, QStringLiteral("Method"));
+    QCOMPARE(titles(dialog.matches()), QStringLiteral("Method"));
+}
+
+void tst_ReplaceFindSearch::shouldEmptyTheMatchesWhenTheColumnChanges()
+{
+    RecordingModel model;
+    fill(model);
+    ReplaceFindDialog dialog;
+    dialog.setModel(&model);
+    search(dialog, QStringLiteral("man"));
+    QVERIFY(!dialog.matches().isEmpty());
+    columnCombo(dialog)->setCurrentIndex(2);
+    QVERIFY(dialog.matches().isEmpty());
+    columnCombo(dialog)->setCurrentIndex(0);
+    search(dialog, QStringLiteral("man"));
+    QCOMPARE(model.m_searches.size(), 2);
+    QCOMPARE(titles(dialog.matches()), QStringLiteral("Man|man power|Manual"));
+}
+
+void tst_ReplaceFindSearch::shouldKeepTheMatchesWhenTheColumnStays()
+{
+    QStandardItemModel model;
+    fill(model);
+    ReplaceFindDialog dialog;
+    dialog.setModel(&model);
+    search(dialog, QStringLiteral("man"));
+    dialog.enableCtrl(0);
+    QCOMPARE(dialog.matches().size(), 3);
+}
+
+void tst_ReplaceFindSearch::shouldKeepMatchesThroughEdits()
+{
+    QStandardItemModel model;
+    fill(model);
+    ReplaceFindDialog dialog;
+    dialog.setModel(&model);
+    search(dialog, QStringLiteral("man"));
+    model.insertRow(0, row("Manner", "{new-08}", "120", ""));
+    QCOMPARE(titles(dialog.matches()), QStringLiteral("Man|man power|Manual"));
+    model.item(1)->removeRow(0);
+    QCOMPARE(titles(dialog.matches()), QStringLiteral("Manual"));
+
+    replaceEdit(dialog)->setText(QStringLiteral("x"));
+    click(dialog, "Replace");
+    QCOMPARE(titles(dialog.matches()), QStringLiteral("Manual"));
+}
+
+void tst_ReplaceFindSearch::shouldSearchAnewWhenAllMatchesAreGone()
+{
+    RecordingModel model;
+    fill(model);
+    ReplaceFindDialog dialog;
+    dialog.setModel(&model);
+    search(dialog, QStringLiteral("Manual"));
+    model.removeRow(1);
+    QVERIFY(dialog.matches().isEmpty());
+    replaceEdit(dialog)->setText(QStringLiteral("x"));
+    click(dialog, "Replace");
+
+    Message message;
+    const ModalDriver<QMessageBox> user(keepMessage(message));
+    search(dialog, QStringLiteral("Manual"));
+    QVERIFY(user.isDone());
+    QCOMPARE(model.m_searches.size(), 2);
+}
+
+void tst_ReplaceFindSearch::shouldEmptyTheMatchesWithAnotherModel()
+{
+    QStandardItemModel first;
+    fill(first);
+    RecordingModel second;
+    fill(second);
+    ReplaceFindDialog dialog;
+    dialog.setModel(&first);
+    search(dialog, QStringLiteral("man"));
+    dialog.setModel(&second);
+    QVERIFY(dialog.matches().isEmpty());
+    search(dialog, QStringLiteral("man"));
+    QCOMPARE(second.m_searches.size(), 1);
+    QCOMPARE(dialog.matches().size(), 3);
+    QCOMPARE(dialog.matches().first().model(), &second);
+    dialog.setModel(nullptr);
+    QVERIFY(dialog.matches().isEmpty());
+}
+
+void tst_ReplaceFindSearch::shouldKeepTheMatchesWithTheSameModel()
+{
+    QStandardItemModel model;
+    fill(model);
+    ReplaceFindDialog dialog;
+    dialog.setModel(&model);
+    search(dialog, QStringLiteral("man"));
+    dialog.setModel(&model);
+    QCOMPARE(dialog.matches().size(), 3);
+}
+
+void tst_ReplaceFindSearch::shouldForgetAModelThatDies()
+{
+    auto model = std::make_unique<QStandardItemModel>();
+    fill(*model);
+    ReplaceFindDialog dialog;
+    dialog.setModel(model.get());
+    search(dialog, QStringLiteral("man"));
+    QCOMPARE(dialog.matches().size(), 3);
+    model.reset();
+    QVERIFY(dialog.matches().isEmpty());
+    replaceEdit(dialog)->setText(QStringLiteral("x"));
+    bool warned = false;
+    const ModalDriver<QMessageBox> user([&](QMessageBox &box) {
+        warned = true;
+        box.accept();
+    });
+    search(dialog, QStringLiteral("man"));
+    click(dialog, "Replace");
+    click(dialog, "Replace All");
+    QVERIFY(!warned);
+}
+
+QTEST_MAIN(tst_ReplaceFindSearch)
+#include "tst_replacefindsearch.moc"

@@ -1,0 +1,210 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <algorithm>
+#include <cstdlib>
+
+#include <QEvent>
+#include <QGraphicsItem>
+#include <QGraphicsScene>
+#include <QGraphicsView>
+#include <QImage>
+#include <QPaintEvent>
+#include <QPainter>
+#include <QScreen>
+#include <QStyleOptionGraphicsItem>
+#include <QTest>
+
+namespace TestSupport
+{
+
+inline QImage whitePicture(const QSize &size)
+{
+    QImage picture(size, QImage::Format_RGB32);
+    picture.fill(Qt::white);
+    return picture;
+}
+
+/// Says how two pictures differ; empty when every pixel is the same.
+inline QString difference(const QImage &actual, const QImage &expected)
+{
+    if (actual.size() != expected.size())
+        return QStringLiteral("%1x%2 pixels instead of %3x%4")
+            .arg(actual.width())
+            .arg(actual.height())
+            .arg(expected.width())
+            .arg(expected.height());
+    int count = 0;
+    int most = 0;
+    QRect area;
+    for (int y = 0; y < expected.height(); ++y) {
+        for (int x = 0; x < expected.width(); ++x) {
+            const QRgb a = actual.pixel(x, y);
+            const QRgb b = expected.pixel(x, y);
+            if (a == b)
+                continue;
+            ++count;
+            most = std::max({most, std::abs(qRed(a) - qRed(b)), std::abs(qGreen(a) - qGreen(b)),
+                             std::abs(qBlue(a) - qBlue(b))});
+            area |= QRect(x, y, 1, 1);
+        }
+    }
+    if (count == 0)
+        return {};
+    return QStringLiteral("%1 pixels differ by up to %2 within %3,%4 %5x%6")
+        .arg(count)
+        .arg(most)
+        .arg(area.x())
+        .arg(area.y())
+        .arg(area.width())
+        .arg(area.height());
+}
+
+/// How many pixels have exactly that colour.
+inline int pixelsOf(const QImage &picture, const QColor &color)
+{
+    int count = 0;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x)
+            count += picture.pixel(x, y) == color.rgb();
+    }
+    return count;
+}
+
+/// How many pixels are not white.
+inline int inkedPixels(const QImage &picture)
+{
+    return picture.width() * picture.height() - pixelsOf(picture, Qt::white);
+}
+
+/// The smallest rectangle with all pixels of exactly that colour.
+inline QRect areaOf(const QImage &picture, const QColor &color)
+{
+    QRect area;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            if (picture.pixel(x, y) == color.rgb())
+                area |= QRect(x, y, 1, 1);
+        }
+    }
+    return area;
+}
+
+/// The part of a coordinate system that a test paints, \a scale pixels for each unit, and where its
+/// points are in the picture.
+struct Canvas
+{
+    QRect area;
+    int scale = 1;
+
+    QSize size() const { return area.size() * scale; }
+    QPoint pixelAt(const QPointF &point) const
+    {
+        const QPointF pixel = (point - QPointF(area.topLeft())) * scale;
+        return {qFloor(pixel.x()), qFloor(pixel.y())};
+    }
+    QColor colorAt(const QImage &picture, const QPointF &point) const
+    {
+        const QPoint pixel = pixelAt(point);
+        return picture.valid(pixel) ? picture.pixelColor(pixel) : QColor();
+    }
+    void setUp(QPainter &painter) const
+    {
+        painter.scale(scale, scale);
+        painter.translate(-QPointF(area.topLeft()));
+    }
+};
+
+/// What an item alone paints, in its own coordinates, when it is given \a state.
+inline QImage paintedItem(QGraphicsItem &item, const Canvas &canvas,
+                          QStyle::State state = QStyle::State_None)
+{
+    QImage picture = whitePicture(canvas.size());
+    QPainter painter(&picture);
+    canvas.setUp(painter);
+    QStyleOptionGraphicsItem option;
+    option.state = state | QStyle::State_Enabled;
+    option.rect = item.boundingRect().toRect();
+    option.exposedRect = item.boundingRect();
+    item.paint(&painter, &option);
+    return picture;
+}
+
+/// A part of a scene painted in one go.
+inline QImage paintedAtOnce(QGraphicsScene &scene, const Canvas &canvas,
+                            QPainter::RenderHints hints = {})
+{
+    QImage picture = whitePicture(canvas.size());
+    QPainter painter(&picture);
+    painter.setRenderHints(hints);
+    scene.render(&painter, QRectF(picture.rect()), QRectF(canvas.area));
+    return picture;
+}
+
+/// The same part of the scene painted in squares, each of which exposes its own items only and is
+/// clipped.
+inline QImage paintedInPieces(QGraphicsScene &scene, const Canvas &canvas, int pieceUnits,
+                              QPainter::RenderHints hints = {})
+{
+    QImage picture = whitePicture(canvas.size());
+    QPainter painter(&picture);
+    painter.setRenderHints(hints);
+    for (int y = canvas.area.top(); y <= canvas.area.bottom(); y += pieceUnits) {
+        for (int x = canvas.area.left(); x <= canvas.area.right(); x += pieceUnits) {
+            const QRect piece = QRect(x, y, pieceUnits, pieceUnits) & canvas.area;
+            const QRect pixels(canvas.pixelAt(piece.topLeft()), piece.size() * canvas.scale);
+            scene.render(&painter, QRectF(pixels), QRectF(piece), Qt::IgnoreAspectRatio);
+        }
+    }
+    return picture;
+}
+
+/// Counts how often a widget is painted.
+class PaintCounter : public QObject
+{
+public:
+    explicit PaintCounter(QWidget *widget) { widget->installEventFilter(this); }
+
+    int count = 0;
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        Q_UNUSED(watched)
+        count += event->type() == QEvent::Paint;
+        return false;
+    }
+};
+
+/// Waits until everything that was scheduled so far is painted. False when no paint comes.
+inline bool paintScheduled(QGraphicsView &view)
+{
+    // The scene first turns changes of its items into updates of its views, which are collected until
+    // the view is painted; a pixel of its own tells when that is.
+    QCoreApplication::sendPostedEvents();
+    const PaintCounter painted(view.viewport());
+    view.viewport()->update(0, 0, 1, 1);
+    return QTest::qWaitFor([&painted] { return painted.count > 0; });
+}
+
+/// Paints the whole view anew. False when no paint comes.
+inline bool paintEverything(QGraphicsView &view)
+{
+    view.viewport()->update();
+    return paintScheduled(view);
+}
+
+/// What the view's viewport shows on the screen, as it has been painted so far.
+inline QImage shownPicture(QGraphicsView &view)
+{
+    QWidget *const window = view.window();
+    const QRect viewport(view.viewport()->mapTo(window, QPoint(0, 0)), view.viewport()->size());
+    return window->screen()
+        ->grabWindow(window->winId(), viewport.x(), viewport.y(), viewport.width(),
+                     viewport.height())
+        .toImage()
+        .convertToFormat(QImage::Format_RGB32);
+}
+
+} // namespace TestSupport
