@@ -1,0 +1,82 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#include <fishbone/model/documentfile.h>
+
+#include <QDateTime>
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+
+#include <algorithm>
+
+namespace {
+
+/** Leaves room for the time, and for the ending of the temporary file, in the usual 255 bytes. */
+constexpr int longestNamePart = 200;
+
+bool isForbiddenInNames(QChar c)
+{
+    if (c == QLatin1Char('/') || c == QLatin1Char('\\') || c.category() == QChar::Other_Control)
+        return true;
+#ifdef Q_OS_WIN
+    return QStringLiteral("<>:\"|?*").contains(c);
+#else
+    return false;
+#endif
+}
+
+bool writeInPlace(const QString &fileName, const QByteArray &content)
+{
+    QFile file(fileName);
+    return file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) &&
+           file.write(content) == content.size();
+}
+
+} // namespace
+
+namespace DocumentFile {
+
+bool replace(const QString &fileName, const QByteArray &content)
+{
+    const QFileInfo target(fileName);
+    if (target.exists() && !target.isFile())
+        return writeInPlace(fileName, content); // replacing a device would remove it
+    QSaveFile file(fileName);
+    file.setDirectWriteFallback(true);
+    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size() &&
+           file.commit();
+}
+
+void makeEmpty(const QString &fileName)
+{
+    QFile(fileName).open(QIODevice::WriteOnly | QIODevice::Truncate);
+}
+
+QString namePart(const QString &title)
+{
+    QString part = title;
+    std::replace_if(part.begin(), part.end(), isForbiddenInNames, QLatin1Char('_'));
+    while (part.toUtf8().size() > longestNamePart) {
+        const int excess = part.toUtf8().size() - longestNamePart;
+        part.chop(std::max(1, excess / 3)); // a UTF-16 unit makes at most three bytes
+        if (part.at(part.size() - 1).isHighSurrogate())
+            part.chop(1);
+    }
+    return part;
+}
+
+QString reserveName(const QString &folder, const QString &title)
+{
+    static qint64 lastStamp = 0;
+    const QString stem = folder + namePart(title) + QLatin1Char('.');
+    lastStamp = std::max(QDateTime::currentMSecsSinceEpoch(), lastStamp + 1);
+    for (;; ++lastStamp) {
+        const QString name = stem + QString::number(lastStamp);
+        // Only one process gets a file that is new. Where none can be made, the name has to do.
+        if (QFile(name).open(QIODevice::WriteOnly | QIODevice::NewOnly) || !QFileInfo::exists(name))
+            return name;
+    }
+}
+
+} // namespace DocumentFile

@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+class QByteArray;
+class QString;
+
+/** How documents reach the disk, and how autosave names its files. */
+namespace DocumentFile {
+
+/**
+ * Writes @p content to @p fileName, whole or not at all. A link is followed, permissions stay. In a
+ * folder that is not writable, and on a device, it is written in place. False when it failed.
+ */
+bool replace(const QString &fileName, const QByteArray &content);
+
+/** Makes @p fileName an empty file. */
+void makeEmpty(const QString &fileName);
+
+/**
+ * @p title as a part of a file name: without separators and control characters, and short enough
+ * for any file system. An ordinary title stands unchanged.
+ */
+QString namePart(const QString &title);
+
+/**
+ * Makes an empty file in @p folder under a name that nobody else was given: @p title, a dot, and
+ * the time in milliseconds since the epoch, put forward where that name is taken. Returns the path,
+ * also when no file can be made there.
+ */
+QString reserveName(const QString &folder, const QString &title);
+
+} // namespace DocumentFile

@@ -1,0 +1,123 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <fishbone/fishbone_export.h>
+
+#include <QAbstractItemModel>
+#include <QObject>
+#include <QPointer>
+#include <QStringList>
+
+#include <memory>
+
+class FishModel;
+class TreeItem;
+
+/**
+ * One diagram as a document: its tree, its file, its unsaved changes and its autosave.
+ *
+ * The tree hangs under an invisible container, treeItem(), whose first child is the diagram's head.
+ * A document without a head is possible (a file that holds no node) and has nothing to show.
+ *
+ * A FishModel owns the documents in its list. A document that is deleted while a model lists it
+ * leaves that list first, announced; one that is reset or loaded into while listed announces a
+ * reset of the model.
+ */
+class FISHBONE_EXPORT FishInfo : public QObject
+{
+    Q_OBJECT
+
+public:
+    /** An unnamed, empty document called "fish%1.json" after a counter of the process. */
+    explicit FishInfo(QObject *parent = nullptr);
+    /** Deletes the tree. */
+    ~FishInfo() override;
+
+    /** The document's file; a canonical path once setCurrentFile() named it. */
+    QString fileName() const { return m_curFile; }
+    void setFileName(const QString &fileName) { m_curFile = fileName; }
+    bool modified() const { return m_modified; }
+    /** Saving does not clear the flag: the host does, here or with setCurrentFile(). */
+    void setModified(bool modified) { m_modified = modified; }
+    /** True until setCurrentFile() names the document. */
+    bool isUntitled() const { return m_isUntitled; }
+    /** The container of the tree, never null; its child 0 is the head. Owned by the document. */
+    TreeItem *treeItem() const { return m_treeItem.get(); }
+    /** How many nodes the last load made. */
+    int nodeCount() const { return m_nodeCount; }
+    void setNodeCount(int count) { m_nodeCount = count; }
+    /** How many nodes have no parent task: as loaded, or as last recounted. */
+    int noParentNodeCount() const { return m_noParentNodeCount; }
+    void setNoParentNodeCount(int count) { m_noParentNodeCount = count; }
+    /** The file that autosave writes; empty until the first autosave picks one. */
+    QString autoSaveFile() const { return m_autoSaveFile; }
+    void setAutoSaveFile(const QString &fileName) { m_autoSaveFile = fileName; }
+    /** The model that shows the document; not owned, null when there is none. */
+    QAbstractItemModel *model() const { return m_model.data(); }
+    void setModel(QAbstractItemModel *model) { m_model = model; }
+
+    /** Names the document after the canonical form of @p path; its changes count as saved then. */
+    void setCurrentFile(const QString &path);
+    /** The file-name part of @p path. */
+    QString strippedName(const QString &path) const;
+    QString userFriendlyCurrentFile() const;
+
+    /** Empties the tree and clears the modified flag; counters, names and history stay. */
+    void reset();
+    /**
+     * Builds the tree of @p root under the container, counts its nodes and stores @p model. An
+     * empty object anywhere is skipped with all below it.
+     */
+    void loadFish(const QJsonObject &root, QAbstractItemModel *model);
+
+    /**
+     * Writes the diagram to @p fileName, whole or not at all; the old content stays when it fails.
+     * A file in a folder that is not writable is written in place. False also for a tree that nests
+     * too deep to be read again, and, leaving an empty file, for a document without a model.
+     */
+    bool saveFile(const QString &fileName);
+    /** saveFile() under the document's name, or saveAs() while it has none. */
+    bool save();
+    /** Asks for a file and writes it. The document keeps its name and its flags. */
+    bool saveAs();
+    /** Offers to save unsaved changes; false when the user cancels or saving fails. */
+    bool maybeSave();
+    /**
+     * Autosave: writes autoSaveFile(), or a new file named after the model's first head in the
+     * application's autosave folder. False, with nothing touched, without a model or a head.
+     */
+    bool saveTmpFile();
+    /** Removes the file @p path. */
+    bool deleteOldTmpFile(const QString &path);
+
+    /**
+     * Remembers the subject at @p index, the four latest at most; false when it is remembered
+     * already or is no subject of the document's model.
+     */
+    bool addFishToHistory(const QModelIndex &index);
+    /** Uuids of the remembered subjects, oldest first. */
+    QStringList fishHistorys() const { return m_historys; }
+
+    /** Recounts noParentNodeCount() over the head's direct children. */
+    void updateNoParentNodeCount();
+
+private:
+    friend class FishModel;
+
+    void clearTree();
+    void buildTree(const QJsonObject &root);
+    QString newAutoSaveFile() const;
+
+    QString m_curFile;
+    QString m_autoSaveFile;
+    std::unique_ptr<TreeItem> m_treeItem;
+    bool m_modified = false;
+    bool m_isUntitled = true;
+    int m_nodeCount = 0;
+    int m_noParentNodeCount = 0;
+    QStringList m_historys;
+    QPointer<QAbstractItemModel> m_model;
+    FishModel *m_owner = nullptr; // the model that lists the document, kept by that model
+};

@@ -1,0 +1,273 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <fishbone/fishbone_export.h>
+#include <fishbone/model/dragdropmodel.h>
+
+#include <QIcon>
+#include <QList>
+#include <QMetaType>
+#include <QSet>
+
+class FishInfo;
+class QByteArray;
+class QJsonObject;
+class QNetworkReply;
+class QUrl;
+class TreeItem;
+
+/** What the rows of diagram heads show. */
+enum FISH_MODEL_TYPE : int {
+    FISH_MODEL_NORMAL = 0, ///< the title followed by the task counts
+    FISH_MODEL_DIAGRAM = 1 ///< the plain title, as for any other value but 0
+};
+
+/** The outcome of a load. */
+enum MODEL_ERROR : int {
+    MODEL_NO_ERROR = 0,
+    MODEL_FILE_OPEN_ERROR = -10001, ///< the file or template cannot be opened for reading
+    MODEL_DATA_ERROR = -10002,      ///< what arrived is no JSON document, or did not arrive
+    MODEL_NO_DOCUMENT = -10003      ///< a reload was given no document
+};
+
+Q_DECLARE_METATYPE(MODEL_ERROR)
+
+/**
+ * The loaded diagrams as an item model.
+ *
+ * A top-level row stands for a document (FishInfo) and points at its head; the rows below a node
+ * are its children. The internal pointer of an index is its TreeItem. Columns: title, uuid, showid,
+ * pid, type. The top-level index of a document without a head is invalid, and everything skips it.
+ *
+ * The model owns its documents, and they know it. Row operations check their arguments first,
+ * announce exactly what they do, and on false have changed nothing. The tree must not be changed
+ * behind the model's back while views are attached; insertFishToList() and removeFishFromList(),
+ * which are meant for callers that announce by themselves, keep persistent indexes valid but tell
+ * no view.
+ */
+class FISHBONE_EXPORT FishModel : public DragDropModel
+{
+    Q_OBJECT
+
+public:
+    explicit FishModel(QObject *parent = nullptr);
+    /** Deletes the documents. */
+    ~FishModel() override;
+
+    /** @name Structure and data @{ */
+    QModelIndex index(int row, int column,
+                      const QModelIndex &parent = QModelIndex()) const override;
+    using QObject::parent;
+    /** Constant time, also with many documents. */
+    QModelIndex parent(const QModelIndex &index) const override;
+    int rowCount(const QModelIndex &parent = QModelIndex()) const override;
+    int columnCount(const QModelIndex &parent = QModelIndex()) const override;
+    QVariant headerData(int section, Qt::Orientation orientation,
+                        int role = Qt::DisplayRole) const override;
+    /** Selectable and enabled, nothing else. */
+    Qt::ItemFlags flags(const QModelIndex &index) const override;
+    QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
+    /** Edits a column. The type (column 4) is stored, but the result is false and no signal comes.
+     */
+    bool setData(const QModelIndex &index, const QVariant &value, int role = Qt::EditRole) override;
+    /** @} */
+
+    /** @name Row operations @{ */
+    /**
+     * Inserts new subjects, or new documents at the top level, each with a uuid of its own; or the
+     * nodes that insertExistItemRows() left waiting, all at @p row, so that they end up in reverse.
+     */
+    bool insertRows(int row, int count, const QModelIndex &parent = QModelIndex()) override;
+    /**
+     * Appends existing nodes under @p parent, or as new documents at the top level, and takes them
+     * over. Null entries are skipped. A node that is in this model already, or above @p parent,
+     * stays where it is; the result is false when the last one was such a node, otherwise true.
+     */
+    bool insertExistItemRows(const QModelIndex &parent, const QList<TreeItem *> &items);
+    /** Deletes rows with all below them; at the top level the documents. */
+    bool removeRows(int row, int count, const QModelIndex &parent = QModelIndex()) override;
+    /**
+     * Moves rows as TreeItem::moveChildren() does. A head that moves under a node loses its
+     * document, a node that moves to the top level becomes the head of a new one and has no parent
+     * task then. A move below a moved row is refused; one that leaves everything in place is true.
+     */
+    bool moveRows(const QModelIndex &sourceParent, int sourceRow, int count,
+                  const QModelIndex &destinationParent, int destinationChild) override;
+    /** As moveRows(), with nodes for the parents and null for the top level; announced alike. */
+    bool moveSrcToDstWithList(TreeItem *source, int sourceRow, int count, TreeItem *destination,
+                              int destinationChild);
+    /**
+     * Takes a row out, announced, and hands it to the caller without a parent. At the top level the
+     * head is handed out and its document deleted. Null when there is no such row.
+     */
+    TreeItem *takeRow(int row, const QModelIndex &parent);
+    /**
+     * The reverse of takeRow() below a node: puts @p item, which no list may hold, at @p row,
+     * announced, and takes it over; its pid stays. False, with nothing changed, otherwise.
+     */
+    bool putRow(int row, TreeItem *item, const QModelIndex &parent);
+    /**
+     * Copies title, detail, manager, followers, planned end and priority of @p source to the node
+     * at
+     * @p index and marks it edited. Emits nothing: the caller refreshes.
+     */
+    void updateItem(const QModelIndex &index, TreeItem *source);
+    /** Announces a reset of the whole model. */
+    void refreshModel();
+    /** @} */
+
+    /** @name Documents @{ */
+    QList<FishInfo *> fishList() const { return m_fishList; }
+    /** Makes @p count documents with a head without uuid at @p row; tells no view. */
+    bool insertFishToList(int row, int count);
+    /** Makes a document of @p head at @p row; tells no view. False for a node of this model. */
+    bool insertFishToList(int row, TreeItem *head);
+    /** Deletes @p count documents from @p row on; tells no view. */
+    bool removeFishFromList(int row, int count);
+    /** Deletes @p document, announced; nothing for one that this model does not list. */
+    void unloadFish(FishInfo *document);
+    /** Takes a document out of the model, announced; the caller owns it. Null for a wrong row. */
+    FishInfo *takeFish(int row);
+    /**
+     * Puts @p document into the model, announced, and takes it over. False for null, for a row
+     * outside 0..number of documents and for a document that some model lists already.
+     */
+    bool insertFish(int row, FishInfo *document);
+    /**
+     * Moves the head of the document at @p row to @p position under @p parent, announced as a move.
+     * The emptied document leaves the model, and the caller owns it. Null, with nothing changed,
+     * when moveRows() would refuse.
+     */
+    FishInfo *moveHeadUnder(int row, const QModelIndex &parent, int position);
+    /**
+     * Moves the node at @p index to the top level, announced as a move, as the head of @p document.
+     * The document must be empty and in no model; it enters at @p row, and the model takes it over.
+     * The node's pid stays. False, with nothing changed, otherwise.
+     */
+    bool moveToTopLevel(const QModelIndex &index, int row, FishInfo *document);
+    /**
+     * Makes @p newHead, which no list may hold, the head of @p document, with the old head as its
+     * first child, whose pid becomes its uuid. Announced as a change of the layout, with the
+     * document and its row as they were. False, with nothing changed, when that cannot be.
+     */
+    bool wrapHead(FishInfo *document, TreeItem *newHead);
+    /**
+     * The reverse: makes @p child, a child of the head of @p document, the head. The old head leaves
+     * the model with its other children, and the caller owns it. Null, with nothing changed, when
+     * @p child is no such child.
+     */
+    TreeItem *unwrapHead(FishInfo *document, TreeItem *child);
+    /** The row of @p document, -1 when this model does not list it. */
+    int fishRow(const FishInfo *document) const;
+    /** The document that holds @p item, null when no document of this model does. */
+    FishInfo *fishOf(const TreeItem *item) const;
+    /** The top-level index of the first document of that file name. */
+    QModelIndex findFish(const QString &fileName) const;
+    /** @} */
+
+    /** @name Lookup @{ */
+    /** The node of @p index, null for an invalid index and for one of another model. */
+    TreeItem *getTreeItem(const QModelIndex &index) const;
+    /** The node above @p index, null for a head. */
+    TreeItem *getParentTreeItem(const QModelIndex &index) const;
+    /** The head of the first document. */
+    TreeItem *getFishHeadTreeItem() const;
+    /**
+     * The index of a living node, invalid when it is not in this model. Takes a step for each level
+     * above the node.
+     */
+    QModelIndex indexFromItem(const TreeItem *item, int column = 0) const;
+    /** Whether @p item is a node of this model; only compared, so it may point anywhere. Linear. */
+    bool contains(const TreeItem *item) const;
+    /** The first index, in pre-order, whose node has exactly this uuid. Linear. */
+    QModelIndex modelIndexByUuid(const QString &uuid) const;
+    /** All indexes, in pre-order, whose title contains @p key in any case. Linear. */
+    QModelIndexList searchModelIndexes(const QString &key) const;
+    FISH_MODEL_TYPE modelType() const { return m_modelType; }
+    void setModelType(FISH_MODEL_TYPE type) { m_modelType = type; }
+    /** @} */
+
+    /** @name Loading: each success appends a document @{ */
+    /** Loads from text; null when it is no JSON document. Emits no fishLoaded(). */
+    FishInfo *loadJsonFish(const QByteArray &json);
+    /** Loads a file and names the document after it. Returns a MODEL_ERROR number. */
+    int loadFishFromFile(const QString &path);
+    /** Loads the host's template diagram, unnamed and without a signal. A MODEL_ERROR number. */
+    int loadFishTempl();
+    /** Loads a file as an unnamed document. Returns a MODEL_ERROR number. */
+    int loadFishFromTemplate(const QString &path);
+    /**
+     * Starts to fetch a diagram; fishLoaded() comes exactly once, never before this returns.
+     * Redirects are followed, but never from https down to http.
+     */
+    void loadFishFromUrl(const QUrl &url);
+    /** Loads @p path into @p document in place of its tree. Returns a MODEL_ERROR number. */
+    int reloadDataFromFile(const QString &path, FishInfo *document);
+    /** A transfer without progress for @p ms milliseconds fails; 0 waits for ever. Default 30000.
+     */
+    void setTransferTimeout(int ms) { m_transferTimeout = ms; }
+    /** A reply of more than @p bytes fails; 0 takes any size. Default 256 MiB. */
+    void setReplyLimit(qint64 bytes) { m_replyLimit = bytes; }
+    /** @} */
+
+    /** @name Node objects of the diagram format @{ */
+    /**
+     * Sets @p out to the object of @p item with its subtree, or, with @p includeItem false, to that
+     * of its last child (@p out stays when it has none). Nothing for null. A subtree of more than
+     * 20,000 levels leaves @p out empty, since no JSON value of that depth can be destroyed safely.
+     */
+    static void write(QJsonObject &out, TreeItem *item, bool includeItem);
+    /**
+     * Inserts the subtree of @p root at @p position under @p parent, at the end when that is
+     * negative or past it, announced. Descendants are placed with the same @p position, so that the
+     * later ones of a longer list come in reverse from there on. Nothing for a null parent.
+     */
+    void read(const QJsonObject &root, TreeItem *parent, int position);
+    /** @} */
+
+public Q_SLOTS:
+    /** Takes the reply of a fetch; it is freed later. */
+    void replyFinished(QNetworkReply *reply);
+
+Q_SIGNALS:
+    /** A load ended; @p index is the document's top-level index, invalid on an error. */
+    void fishLoaded(const QModelIndex &index, MODEL_ERROR errorCode);
+
+protected:
+    QModelIndexList indexesFromRecords(const QVector<Record> &records) const override;
+
+private:
+    friend class FishInfo; // announces its own reset, load and death
+
+    TreeItem *headAt(int row) const;
+    int containerRow(const TreeItem *container) const;
+    int rowOf(const TreeItem *item) const;
+    QModelIndex rowIndex(const TreeItem *item) const;
+    QString headText(const TreeItem *head) const;
+
+    bool resolve(const QModelIndex &parent, TreeItem **node) const;
+    int rowsBelow(const TreeItem *node) const;
+    bool insertPending(int row, TreeItem *node, const QList<TreeItem *> &pending);
+    bool canEnter(const TreeItem *item, const QSet<const TreeItem *> &entering) const;
+    void createFish(int row, int count);
+    void enter(int row, FishInfo *document);
+    FishInfo *leave(int row);
+    bool canMove(const TreeItem *source, int sourceRow, int count,
+                 const TreeItem *destination) const;
+    void moveRow(TreeItem *source, int sourceRow, TreeItem *destination, int position);
+    FishInfo *moveHead(int row, TreeItem *destination, int position);
+    void moveToTop(TreeItem *source, int sourceRow, int row, FishInfo *document);
+    void shiftHeadIndexes(int firstRow, int by);
+    void dropIndexes(int row, int count);
+
+    int loadFile(const QString &path, bool named);
+
+    QList<FishInfo *> m_fishList;
+    QList<TreeItem *> m_pendingItems;
+    FISH_MODEL_TYPE m_modelType = FISH_MODEL_NORMAL;
+    mutable QIcon m_noParentIcon;
+    int m_transferTimeout = 30000;
+    qint64 m_replyLimit = Q_INT64_C(256) * 1024 * 1024;
+};

@@ -1,0 +1,142 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+//
+// How documents get into FishModel from text, files and the network.
+
+#include <fishbone/model/fishmodel.h>
+
+#include <fishbone/model/fishinfo.h>
+
+#include <QFile>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QNetworkAccessManager>
+#include <QNetworkReply>
+#include <QNetworkRequest>
+
+#include <memory>
+
+namespace {
+
+/** Reads a whole file; false when it cannot be opened. */
+bool readFile(const QString &path, QByteArray *content)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return false;
+    *content = file.readAll();
+    return true;
+}
+
+/** Ends @p reply as soon as it is known to be larger than @p limit bytes. */
+void limitReply(QNetworkReply *reply, qint64 limit)
+{
+    const auto check = [reply, limit] {
+        const qint64 announced = reply->header(QNetworkRequest::ContentLengthHeader).toLongLong();
+        if (reply->isRunning() && (announced > limit || reply->bytesAvailable() > limit))
+            reply->abort();
+    };
+    QObject::connect(reply, &QNetworkReply::metaDataChanged, reply, check);
+    QObject::connect(reply, &QNetworkReply::readyRead, reply, check);
+}
+
+} // namespace
+
+FishInfo *FishModel::loadJsonFish(const QByteArray &json)
+{
+    const QJsonDocument parsed = QJsonDocument::fromJson(json);
+    if (parsed.isNull())
+        return nullptr;
+    auto document = std::make_unique<FishInfo>();
+    document->buildTree(parsed.object());
+    const int row = m_fishList.size();
+    insertFish(row, document.get());
+    return document.release();
+}
+
+/** Loads a file and announces it; the document takes the file's name when it is to be @p named. */
+int FishModel::loadFile(const QString &path, bool named)
+{
+    QByteArray content;
+    if (!readFile(path, &content))
+        return MODEL_FILE_OPEN_ERROR;
+    FishInfo *const document = loadJsonFish(content);
+    if (!document)
+        return MODEL_DATA_ERROR;
+    if (named)
+        document->setFileName(path);
+    Q_EMIT fishLoaded(index(m_fishList.size() - 1, 0), MODEL_NO_ERROR);
+    return MODEL_NO_ERROR;
+}
+
+int FishModel::loadFishFromFile(const QString &path)
+{
+    return loadFile(path, true);
+}
+
+int FishModel::loadFishFromTemplate(const QString &path)
+{
+    return loadFile(path, false);
+}
+
+int FishModel::loadFishTempl()
+{
+    QByteArray content;
+    if (!readFile(QStringLiteral(":/res/default.json"), &content))
+        return MODEL_FILE_OPEN_ERROR;
+    return loadJsonFish(content) ? MODEL_NO_ERROR : MODEL_DATA_ERROR;
+}
+
+void FishModel::loadFishFromUrl(const QUrl &url)
+{
+    QNetworkRequest request(url);
+    request.setAttribute(QNetworkRequest::RedirectPolicyAttribute,
+                         QNetworkRequest::NoLessSafeRedirectPolicy);
+    request.setTransferTimeout(m_transferTimeout);
+    auto *const manager = new QNetworkAccessManager(this);
+    connect(manager, &QNetworkAccessManager::finished, this, &FishModel::replyFinished);
+    QNetworkReply *const reply = manager->get(request);
+    if (m_replyLimit > 0)
+        limitReply(reply, m_replyLimit);
+}
+
+void FishModel::replyFinished(QNetworkReply *reply)
+{
+    if (!reply)
+        return;
+    reply->deleteLater();
+    QNetworkAccessManager *const manager = reply->manager();
+    if (manager && manager->QObject::parent() == this)
+        manager->deleteLater();
+
+    const bool fits = m_replyLimit <= 0 || reply->bytesAvailable() <= m_replyLimit;
+    FishInfo *document = nullptr;
+    if (fits && reply->error() == QNetworkReply::NoError)
+        document = loadJsonFish(reply->readAll());
+    if (!document) {
+        Q_EMIT fishLoaded(QModelIndex(), MODEL_DATA_ERROR);
+        return;
+    }
+    document->setFileName(reply->url().toString());
+    Q_EMIT fishLoaded(index(m_fishList.size() - 1, 0), MODEL_NO_ERROR);
+}
+
+int FishModel::reloadDataFromFile(const QString &path, FishInfo *document)
+{
+    QByteArray content;
+    if (!readFile(path, &content))
+        return MODEL_FILE_OPEN_ERROR;
+    const QJsonDocument parsed = QJsonDocument::fromJson(content);
+    if (parsed.isNull())
+        return MODEL_DATA_ERROR;
+    if (!document)
+        return MODEL_NO_DOCUMENT;
+    FishModel *const shown = document->m_owner ? document->m_owner : this;
+    shown->beginResetModel();
+    document->clearTree();
+    document->buildTree(parsed.object());
+    document->setModel(shown);
+    shown->endResetModel();
+    Q_EMIT fishLoaded(findFish(path), MODEL_NO_ERROR);
+    return MODEL_NO_ERROR;
+}

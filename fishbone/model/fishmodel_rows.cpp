@@ -1,0 +1,213 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+//
+// The row operations of FishModel: what changes the tree and the list of documents.
+
+#include <fishbone/model/fishmodel.h>
+
+#include <fishbone/model/fishinfo.h>
+#include <fishbone/model/treeitem.h>
+
+#include <QSet>
+
+#include <limits>
+#include <memory>
+#include <utility>
+
+/** The node behind @p parent, null for the top level; false when the index is another model's. */
+bool FishModel::resolve(const QModelIndex &parent, TreeItem **node) const
+{
+    *node = getTreeItem(parent);
+    return *node || !parent.isValid();
+}
+
+int FishModel::rowsBelow(const TreeItem *node) const
+{
+    return node ? node->childCount() : m_fishList.size();
+}
+
+bool FishModel::insertRows(int row, int count, const QModelIndex &parent)
+{
+    const QList<TreeItem *> pending = std::exchange(m_pendingItems, {});
+    TreeItem *node = nullptr;
+    if (!resolve(parent, &node) || row < 0 || row > rowsBelow(node))
+        return false;
+    if (!pending.isEmpty())
+        return insertPending(row, node, pending);
+    if (count < 1)
+        return true;
+    if (count > std::numeric_limits<int>::max() - rowsBelow(node))
+        return false;
+    beginInsertRows(rowIndex(node), row, row + count - 1);
+    if (node)
+        node->insertChildren(row, count, node->uuid());
+    else
+        createFish(row, count);
+    for (int i = row; i < row + count; ++i)
+        (node ? node->childItems().at(i) : headAt(i))->ensureUuid();
+    endInsertRows();
+    return true;
+}
+
+/** Whether @p item is outside this model, and outside the subtrees that are @p entering it. */
+bool FishModel::canEnter(const TreeItem *item, const QSet<const TreeItem *> &entering) const
+{
+    const TreeItem *above = item;
+    while (above && !entering.contains(above))
+        above = above->m_lister;
+    return !above && !fishOf(item);
+}
+
+bool FishModel::insertPending(int row, TreeItem *node, const QList<TreeItem *> &pending)
+{
+    QList<TreeItem *> inRowOrder; // each goes in front of those before it
+    QSet<const TreeItem *> entering;
+    bool lastEnters = true;
+    for (TreeItem *item : pending) {
+        if (!item)
+            continue;
+        lastEnters = canEnter(item, entering);
+        if (lastEnters) {
+            entering.insert(item);
+            inRowOrder.prepend(item);
+        }
+    }
+    if (inRowOrder.isEmpty())
+        return lastEnters;
+    beginInsertRows(rowIndex(node), row, row + inRowOrder.size() - 1);
+    for (TreeItem *item : std::as_const(inRowOrder)) {
+        if (node) {
+            node->insertChildAtPosition(row, item);
+        } else {
+            auto *const document = new FishInfo;
+            document->treeItem()->appendChild(item);
+            enter(row, document);
+        }
+        item->ensureUuid();
+        ++row;
+    }
+    endInsertRows();
+    return lastEnters;
+}
+
+bool FishModel::insertExistItemRows(const QModelIndex &parent, const QList<TreeItem *> &items)
+{
+    if (items.isEmpty())
+        return true;
+    m_pendingItems = items;
+    TreeItem *node = nullptr;
+    resolve(parent, &node);
+    return insertRows(rowsBelow(node), items.count(), parent);
+}
+
+bool FishModel::removeRows(int row, int count, const QModelIndex &parent)
+{
+    TreeItem *node = nullptr;
+    if (!resolve(parent, &node) || row < 0 || count > rowsBelow(node) - row)
+        return false;
+    if (count < 1)
+        return true;
+    QList<FishInfo *> documents;
+    beginRemoveRows(rowIndex(node), row, row + count - 1);
+    if (node)
+        node->removeChildren(row, count);
+    else
+        for (int i = 0; i < count; ++i)
+            documents.append(leave(row));
+    endRemoveRows();
+    qDeleteAll(documents);
+    return true;
+}
+
+TreeItem *FishModel::takeRow(int row, const QModelIndex &parent)
+{
+    TreeItem *node = nullptr;
+    if (!resolve(parent, &node) || row < 0 || row >= rowsBelow(node))
+        return nullptr;
+    if (!node && m_fishList.at(row)->treeItem()->childCount() != 1)
+        return nullptr;
+    beginRemoveRows(rowIndex(node), row, row);
+    const std::unique_ptr<FishInfo> document(node ? nullptr : leave(row));
+    TreeItem *const taken = node ? node->takeAt(row) : document->treeItem()->takeAt(0);
+    taken->setParent(nullptr);
+    endRemoveRows();
+    return taken;
+}
+
+bool FishModel::moveRows(const QModelIndex &sourceParent, int sourceRow, int count,
+                         const QModelIndex &destinationParent, int destinationChild)
+{
+    TreeItem *source = nullptr;
+    TreeItem *destination = nullptr;
+    return resolve(sourceParent, &source) && resolve(destinationParent, &destination) &&
+           moveSrcToDstWithList(source, sourceRow, count, destination, destinationChild);
+}
+
+/** Whether the rows may go below @p destination, as far as the tree is concerned. */
+bool FishModel::canMove(const TreeItem *source, int sourceRow, int count,
+                        const TreeItem *destination) const
+{
+    if (source == destination || !destination)
+        return true;
+    const int branch = source ? source->branchOf(destination) : containerRow(destination->root());
+    if (branch >= sourceRow && branch < sourceRow + count)
+        return false;
+    for (int row = sourceRow; !source && row < sourceRow + count; ++row) {
+        if (m_fishList.at(row)->treeItem()->childCount() != 1)
+            return false; // no head, or more than would move
+    }
+    return true;
+}
+
+bool FishModel::moveSrcToDstWithList(TreeItem *source, int sourceRow, int count,
+                                     TreeItem *destination, int destinationChild)
+{
+    if (sourceRow < 0 || destinationChild < 0 || count > rowsBelow(source) - sourceRow ||
+        destinationChild > rowsBelow(destination))
+        return false;
+    if (count < 1)
+        return true;
+    const bool sourceIsHere = !source || indexFromItem(source).isValid();
+    const bool destinationIsHere = !destination || indexFromItem(destination).isValid();
+    if (!sourceIsHere && !destinationIsHere)
+        return source->moveChildren(sourceRow, count, destination, destinationChild);
+    if (!sourceIsHere || !destinationIsHere || !canMove(source, sourceRow, count, destination))
+        return false;
+
+    if (source && destination && source != destination) {
+        beginMoveRows(rowIndex(source), sourceRow, sourceRow + count - 1, rowIndex(destination),
+                      destinationChild);
+        source->moveChildren(sourceRow, count, destination, destinationChild);
+        endMoveRows();
+        return true;
+    }
+    // Within one list the rows that follow close up after each step, so that several rows do not
+    // stay together; no single announcement could tell that.
+    const int back = source == destination && destinationChild > sourceRow ? 1 : 0;
+    for (int k = 0; k < count; ++k)
+        moveRow(source, sourceRow, destination, destinationChild - back + k);
+    return true;
+}
+
+/** Moves one row, announced. @p position is where it stands afterwards, or the end when past it. */
+void FishModel::moveRow(TreeItem *source, int sourceRow, TreeItem *destination, int position)
+{
+    if (source != destination) {
+        if (source)
+            moveToTop(source, sourceRow, position, new FishInfo);
+        else
+            delete moveHead(sourceRow, destination, position);
+        return;
+    }
+    const int row = qMin(position, rowsBelow(source) - 1);
+    if (row == sourceRow)
+        return;
+    const int before = row > sourceRow ? row + 1 : row; // counted while the row is still there
+    const QModelIndex parent = rowIndex(source);
+    beginMoveRows(parent, sourceRow, sourceRow, parent, before);
+    if (source)
+        source->moveChildren(sourceRow, 1, source, before);
+    else
+        m_fishList.move(sourceRow, row);
+    endMoveRows();
+}

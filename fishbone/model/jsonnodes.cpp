@@ -1,0 +1,173 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#include <fishbone/model/jsonnodes.h>
+
+#include <fishbone/model/treeitem.h>
+#include <fishbone/style/spearstyle.h>
+
+#include <QByteArray>
+#include <QJsonArray>
+#include <QQueue>
+
+#include <algorithm>
+#include <vector>
+
+namespace {
+
+using namespace JsonNodes;
+
+void insertUnlessNull(QJsonObject &object, QLatin1String key, const QString &text)
+{
+    if (!text.isNull())
+        object.insert(key, text);
+}
+
+/** The object of one node. Its keys go in in sorted order, since each goes where it stays then. */
+QJsonObject nodeObject(const TreeItem &node, const QJsonArray &children)
+{
+    QJsonObject object;
+    object.insert(childrenKey, children);
+    object.insert(createDateKey, double(node.createDate()));
+    insertUnlessNull(object, creatorIdKey, node.creatorId());
+    insertUnlessNull(object, creatorNameKey, node.creatorName());
+    object.insert(detailKey, node.detail());
+    if (!node.followers().isEmpty())
+        object.insert(followersKey, QJsonArray::fromStringList(node.followers()));
+    insertUnlessNull(object, managerIdKey, node.managerId());
+    insertUnlessNull(object, managerNameKey, node.managerName());
+    object.insert(pidKey, node.pid());
+    object.insert(planEndDateKey, double(node.planEndDate()));
+    object.insert(priorityKey, node.priority());
+    object.insert(progressKey, node.progress());
+    object.insert(showidKey, node.showid());
+    if (const SpearStyle *const style = node.spearStyle()) {
+        QJsonObject values;
+        style->write(values);
+        object.insert(spearStyleKey, values);
+    }
+    object.insert(statusKey, node.status());
+    object.insert(titleKey, node.title());
+    object.insert(typeKey, node.type());
+    insertUnlessNull(object, urlKey, node.url());
+    object.insert(uuidKey, node.uuid());
+    return object;
+}
+
+/** A children array whose nodes are still to be made. */
+struct Pending
+{
+    QJsonArray objects;
+    TreeItem *parent;
+};
+
+/** Queues what lies below @p object, the object of @p node. */
+void queueChildren(QQueue<Pending> &queue, const QJsonObject &object, TreeItem *node)
+{
+    const QJsonArray children = object.value(childrenKey).toArray();
+    if (!children.isEmpty())
+        queue.enqueue({children, node});
+}
+
+} // namespace
+
+namespace JsonNodes {
+
+int write(QJsonObject &out, const TreeItem &top, int maxLevels)
+{
+    struct Frame
+    {
+        const TreeItem *node;
+        QJsonArray children = {}; // the finished ones
+    };
+    std::size_t levels = 1;
+    std::vector<Frame> frames;
+    frames.push_back({&top});
+    for (;;) {
+        Frame &frame = frames.back();
+        const int next = frame.children.size();
+        if (next < frame.node->childCount()) {
+            if (int(frames.size()) >= maxLevels)
+                return 0;
+            const TreeItem *const child = frame.node->childItems().at(next);
+            frames.push_back({child});
+            levels = std::max(levels, frames.size());
+            continue;
+        }
+        const QJsonObject object = nodeObject(*frame.node, frame.children);
+        frames.pop_back();
+        if (frames.empty()) {
+            out = object;
+            return int(levels);
+        }
+        frames.back().children.append(object);
+    }
+}
+
+int nesting(const QByteArray &json)
+{
+    int depth = 0;
+    int deepest = 0;
+    bool inString = false;
+    for (int i = 0; i < json.size(); ++i) {
+        const char c = json.at(i);
+        if (inString) {
+            if (c == '\\')
+                ++i;
+            else if (c == '"')
+                inString = false;
+        } else if (c == '"') {
+            inString = true;
+        } else if (c == '{' || c == '[') {
+            deepest = std::max(deepest, ++depth);
+        } else if (c == '}' || c == ']') {
+            --depth;
+        }
+    }
+    return deepest;
+}
+
+std::unique_ptr<TreeItem> read(const QJsonObject &root, TreeItem *parent, int position)
+{
+    auto top = std::make_unique<TreeItem>(root, parent);
+    QQueue<Pending> queue;
+    queueChildren(queue, root, top.get());
+    while (!queue.isEmpty()) {
+        const Pending pending = queue.dequeue();
+        const int count = pending.objects.size();
+        const int inOrder = position < 0 ? count : std::min(position, count);
+        for (int i = 0; i < count; ++i) {
+            const int from = i < inOrder ? i : count - 1 - (i - inOrder);
+            const QJsonObject object = pending.objects.at(from).toObject();
+            auto *const node = new TreeItem(object, pending.parent);
+            pending.parent->appendChild(node);
+            queueChildren(queue, object, node);
+        }
+    }
+    return top;
+}
+
+Counts load(const QJsonObject &root, TreeItem &container)
+{
+    // The head has no parent task and is not meant.
+    Counts counts{0, -1};
+    QQueue<Pending> queue;
+    queue.enqueue({QJsonArray{root}, &container});
+    while (!queue.isEmpty()) {
+        const Pending pending = queue.dequeue();
+        for (const QJsonValue &value : pending.objects) {
+            const QJsonObject object = value.toObject();
+            if (object.isEmpty())
+                continue;
+            auto *const node = new TreeItem(object, pending.parent);
+            pending.parent->appendChild(node);
+            ++counts.nodes;
+            if (!node->isHaveParentTask())
+                ++counts.withoutParentTask;
+            queueChildren(queue, object, node);
+        }
+    }
+    return counts;
+}
+
+} // namespace JsonNodes

@@ -1,0 +1,73 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QJsonObject>
+#include <QLatin1String>
+
+#include <memory>
+
+class QByteArray;
+class TreeItem;
+
+/** The node objects of the diagram format: their keys, and trees to and from them. */
+namespace JsonNodes {
+
+constexpr QLatin1String childrenKey("children");
+constexpr QLatin1String createDateKey("createdate");
+constexpr QLatin1String creatorIdKey("creatorid");
+constexpr QLatin1String creatorNameKey("creatorname");
+constexpr QLatin1String detailKey("detail");
+constexpr QLatin1String followersKey("followers");
+constexpr QLatin1String isMovableKey("ismovable");
+constexpr QLatin1String managerIdKey("mgrid");
+constexpr QLatin1String managerNameKey("mgrname");
+constexpr QLatin1String pidKey("pid");
+constexpr QLatin1String planEndDateKey("planenddate");
+constexpr QLatin1String priorityKey("priority");
+constexpr QLatin1String progressKey("progress");
+constexpr QLatin1String showidKey("showid");
+constexpr QLatin1String spearStyleKey("spearstyle");
+constexpr QLatin1String statusKey("status");
+constexpr QLatin1String titleKey("title");
+constexpr QLatin1String typeKey("type");
+constexpr QLatin1String urlKey("url");
+constexpr QLatin1String uuidKey("uuid");
+
+/** How deep the text of a document may nest for Qt's reader to take it. */
+constexpr int readableNesting = 1024;
+/** The levels of a tree of subjects without styles that fit into readableNesting. */
+constexpr int readableLevels = readableNesting / 2;
+/** How much deeper than its node's own object a style nests, at most. */
+constexpr int styleNesting = 4;
+/** The levels that a QJsonObject may have: Qt destroys it with recursion, and stacks are small. */
+constexpr int buildableLevels = 20000;
+
+/**
+ * Sets @p out to the object of @p top with its subtree and returns the number of levels that it
+ * has. Returns 0, with @p out untouched, when there are more than @p maxLevels.
+ */
+int write(QJsonObject &out, const TreeItem &top, int maxLevels);
+
+/** How deep the objects and arrays of a JSON text nest. */
+int nesting(const QByteArray &json);
+
+/**
+ * Makes the subtree of @p root. Its top names @p parent but is not in its list.
+ * Of each children list the first @p position stay in order and the others follow in reverse; a
+ * negative position keeps all in order.
+ */
+std::unique_ptr<TreeItem> read(const QJsonObject &root, TreeItem *parent, int position);
+
+/** What a document's load counts. */
+struct Counts
+{
+    int nodes = 0;
+    int withoutParentTask = 0;
+};
+
+/** Appends the tree of @p root to @p container. Empty objects are left out with all below them. */
+Counts load(const QJsonObject &root, TreeItem &container);
+
+} // namespace JsonNodes
