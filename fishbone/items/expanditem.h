@@ -1,0 +1,42 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <fishbone/items/spearpointer.h>
+#include <fishbone/items/svgitem.h>
+
+class FishEditor;
+
+/// The button at the end of a bone that shows or hides the bone's children. A press also builds the
+/// children's spears when they were never made.
+class FISHBONE_EXPORT ExpandItem : public SvgItem
+{
+    Q_OBJECT
+
+public:
+    enum { Type = UserType + 2 };
+
+    /// The button of \a spear, without a parent; the spear that is given the button becomes its
+    /// parent. Shows "contract" for an expanded spear, else "expand".
+    explicit ExpandItem(SpearItem *spear);
+
+    int type() const override { return Type; }
+
+    /// Sets the editor that builds spears for buttons whose scene is shown by no editor; null is
+    /// ignored. The editor may be destroyed at any time.
+    static void setFishEditor(FishEditor *editor);
+
+    /// Brings the picture in line with the spear's expand flag.
+    void updateSvgIcon();
+
+protected:
+    void mousePressEvent(QGraphicsSceneMouseEvent *event) override;
+    void hoverEnterEvent(QGraphicsSceneHoverEvent *event) override;
+
+private:
+    FishEditor *responsibleEditor() const;
+    bool generateMissingChildren(SpearItem *spear) const;
+
+    SpearPointer m_spear;
+};

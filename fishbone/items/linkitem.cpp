@@ -1,0 +1,47 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#include <fishbone/items/linkitem.h>
+
+#include <QDesktopServices>
+#include <QGraphicsSceneMouseEvent>
+#include <QUrl>
+
+namespace {
+std::function<void(const QUrl &)> &linkOpener()
+{
+    static std::function<void(const QUrl &)> opener;
+    return opener;
+}
+} // namespace
+
+LinkItem::LinkItem(const QString &url)
+    : SvgItem(QStringLiteral(":/fishboneDiagram/link.png"), nullptr)
+    , m_url(url)
+{
+    setAcceptedMouseButtons(Qt::LeftButton);
+}
+
+void LinkItem::setOpener(std::function<void(const QUrl &)> opener)
+{
+    linkOpener() = std::move(opener);
+}
+
+void LinkItem::open(const QString &url)
+{
+    const QUrl target(url, QUrl::TolerantMode);
+    // A copy, since an opener may well set another one.
+    if (const auto opener = linkOpener())
+        opener(target);
+    else
+        QDesktopServices::openUrl(target);
+}
+
+void LinkItem::mousePressEvent(QGraphicsSceneMouseEvent *event)
+{
+    if (event->button() != Qt::LeftButton)
+        return;
+    // What opens the link may show a dialog, edit or reload: this item may be gone afterwards.
+    const QString url = m_url;
+    open(url);
+}

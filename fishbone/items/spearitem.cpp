@@ -1,0 +1,376 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#include <fishbone/items/spearitem.h>
+
+#include <QGraphicsSceneHoverEvent>
+#include <QPainter>
+#include <QStyleOptionGraphicsItem>
+
+#include <fishbone/items/hovercursor.h>
+#include <fishbone/items/taskstatusitem.h>
+#include <fishbone/items/textitem.h>
+#include <fishbone/model/fishmodel.h>
+#include <fishbone/model/treeitem.h>
+
+SpearItem::SpearItem(const QString &text, int direction, double spearSize)
+    : m_text(text)
+    , m_direction(direction)
+    , m_spearSize(spearSize)
+{
+    loadPictures();
+    setToolTip(text);
+    setFlags(ItemIsMovable | ItemIsSelectable | ItemSendsGeometryChanges | ItemIsPanel);
+    m_textItem = new TextItem(QString(), this);
+    m_statusItem = new TaskStatusItem(this, tsUnknown, 0);
+    setAcceptHoverEvents(true);
+    applyState(SpearStyle::ssNormal);
+}
+
+SpearItem::~SpearItem()
+{
+    if (m_guardCell)
+        *m_guardCell = nullptr;
+    TreeItem *const subject = m_treeItem;
+    m_treeItem = nullptr;
+    if (subject && subject->spear() == this)
+        subject->setSpear(nullptr, QModelIndex());
+    releasePictures();
+}
+
+void SpearItem::setModelIndex(const QModelIndex &index)
+{
+    m_model = qobject_cast<const FishModel *>(index.model());
+    TreeItem *const subject = m_model ? m_model->getTreeItem(index) : nullptr;
+    if (subject != m_treeItem)
+        attachTreeItem(subject);
+    if (subject && subject->spear() != this) {
+        // Given an index directly, not through the subject: link both ends, which comes back here.
+        subject->setSpear(this, index);
+        return;
+    }
+    updateTaskStatus();
+    applyState(m_currentState);
+}
+
+QModelIndex SpearItem::modelIndex() const
+{
+    return m_model && m_treeItem ? m_model->indexFromItem(m_treeItem) : QModelIndex();
+}
+
+void SpearItem::attachTreeItem(TreeItem *item)
+{
+    TreeItem *const previous = m_treeItem;
+    m_treeItem = item;
+    if (previous && previous != item && previous->spear() == this)
+        previous->setSpear(nullptr, QModelIndex());
+}
+
+void SpearItem::forgetTreeItem()
+{
+    m_treeItem = nullptr;
+    m_model.clear();
+}
+
+bool SpearItem::isMovable() const
+{
+    return !m_treeItem || m_treeItem->spearItemIsMovable();
+}
+
+void SpearItem::updateMovableFlag()
+{
+    setFlag(ItemIsMovable, isMovable());
+}
+
+void SpearItem::setTaskStatus(int status)
+{
+    if (!m_treeItem)
+        return;
+    m_treeItem->setStatus(status);
+    m_statusItem->setStatus(static_cast<TaskStatus>(status));
+    updatePosition(QPointF(0, 0));
+}
+
+void SpearItem::updateTaskStatus()
+{
+    if (m_treeItem)
+        m_statusItem->setTask(m_treeItem->status(), m_treeItem->progress());
+}
+
+void SpearItem::updateToolTip()
+{
+    if (m_treeItem)
+        setToolTip(m_treeItem->toolTipString());
+}
+
+void SpearItem::setText(const QString &text)
+{
+    m_text = text;
+    setToolTip(text);
+    updateTextMetrics();
+    update();
+}
+
+double SpearItem::textWidth() const
+{
+    return m_textItem->textWidth();
+}
+
+double SpearItem::textHeight() const
+{
+    return m_textItem->textHeight();
+}
+
+QString SpearItem::displayText() const
+{
+    const int count = textDisplayCount();
+    if (count < 1 || count >= m_text.length())
+        return m_text;
+    const bool splitsPair =
+        m_text.at(count - 1).isHighSurrogate() && m_text.at(count).isLowSurrogate();
+    return m_text.left(splitsPair ? count - 1 : count);
+}
+
+namespace {
+/// The part of \a text before the first "(" that an ASCII digit follows: a head's title without
+/// the counts that the model appends.
+QString withoutCounts(const QString &text)
+{
+    for (int i = text.indexOf(QLatin1Char('(')); i >= 0;
+         i = text.indexOf(QLatin1Char('('), i + 1)) {
+        const ushort next = i + 1 < text.length() ? text.at(i + 1).unicode() : 0;
+        if (next >= '0' && next <= '9')
+            return text.left(i);
+    }
+    return text;
+}
+} // namespace
+
+void SpearItem::updateTextMetrics()
+{
+    const QString shown = displayText();
+    const QFont shownFont = textFont(textState());
+    if (!m_textItem->shows(shownFont, shown)) {
+        prepareGeometryChange();
+        m_textItem->showText(shownFont, shown);
+    }
+    // The box goes on showing the counts; only what is reported as the display text goes without.
+    m_textDisplay = m_treeItem && m_treeItem->isTopVaildItem() ? withoutCounts(shown) : shown;
+}
+
+SpearStyle *SpearItem::style() const
+{
+    SpearStyle *const own = m_treeItem ? m_treeItem->spearStyle() : nullptr;
+    return own ? own : SpearStyle::global();
+}
+
+SpearStyle::SpearState SpearItem::spearState(const QStyleOptionGraphicsItem *option) const
+{
+    if (m_linked)
+        return SpearStyle::ssLinked;
+    if (option->state & QStyle::State_MouseOver)
+        return SpearStyle::ssHovered;
+    if (option->state & QStyle::State_Selected)
+        return SpearStyle::ssSelected;
+    return SpearStyle::ssNormal;
+}
+
+QStyle::State SpearItem::interactionFlags() const
+{
+    QStyle::State flags = QStyle::State_None;
+    flags.setFlag(QStyle::State_MouseOver, m_hovered);
+    flags.setFlag(QStyle::State_Selected, isSelected());
+    return flags;
+}
+
+SpearStyle::SpearState SpearItem::interactionState() const
+{
+    QStyleOptionGraphicsItem option;
+    option.state = interactionFlags();
+    return spearState(&option);
+}
+
+/// The state that the text is drawn in: a linked header keeps its normal text.
+SpearStyle::SpearState SpearItem::textState() const
+{
+    const bool linkedHeader = m_currentState == SpearStyle::ssLinked && isHeader();
+    return linkedHeader ? SpearStyle::ssNormal : m_currentState;
+}
+
+void SpearItem::applyState(SpearStyle::SpearState state)
+{
+    m_currentState = state;
+    updateTextMetrics();
+    m_textItem->showColor(textColor(textState()));
+    setPen(broaderPen(state));
+}
+
+QFont SpearItem::textFont(SpearStyle::SpearState state) const
+{
+    const QFont *const set = style()->textFont(state);
+    return set ? *set : QFont();
+}
+
+QFont SpearItem::font() const
+{
+    return textFont(m_currentState);
+}
+
+QColor SpearItem::textColor(SpearStyle::SpearState state) const
+{
+    return style()->textColor(state);
+}
+
+QColor SpearItem::textBkColor(SpearStyle::SpearState state) const
+{
+    return style()->textBkColor(state);
+}
+
+QPen SpearItem::broaderPen(SpearStyle::SpearState state) const
+{
+    const QPen *const set = style()->broderPen(state);
+    return set ? *set : QPen();
+}
+
+int SpearItem::textDisplayCount() const
+{
+    return style()->textCount();
+}
+
+void SpearItem::setLinked(bool linked, int number)
+{
+    m_linked = linked;
+    m_linkNumber = number;
+    applyState(interactionState());
+}
+
+void SpearItem::setExpand(bool expand)
+{
+    m_expand = expand;
+    showChildren();
+    update();
+}
+
+void SpearItem::showChildren()
+{
+    const QList<SpearItem *> children = childSpears();
+    for (SpearItem *child : children)
+        child->setVisible(m_expand);
+}
+
+int SpearItem::depth() const
+{
+    int ancestors = 0;
+    for (const QGraphicsItem *item = parentItem(); item; item = item->parentItem())
+        ++ancestors;
+    return ancestors;
+}
+
+QList<SpearItem *> SpearItem::childSpears() const
+{
+    QList<SpearItem *> spears;
+    const QList<QGraphicsItem *> items = childItems();
+    for (QGraphicsItem *item : items) {
+        if (auto *const spear = qgraphicsitem_cast<SpearItem *>(item))
+            spears.append(spear);
+    }
+    return spears;
+}
+
+void SpearItem::stackChildrenInRowOrder()
+{
+    if (!m_treeItem)
+        return;
+    // From the last row to the first, so that each one moved stands before all that follow it.
+    const auto &subjects = m_treeItem->childItems();
+    const SpearItem *next = nullptr;
+    for (auto subject = subjects.crbegin(); subject != subjects.crend(); ++subject) {
+        SpearItem *const spear = (*subject)->spear();
+        if (!spear || spear->parentItem() != this)
+            continue;
+        if (next)
+            spear->stackBefore(next);
+        next = spear;
+    }
+}
+
+SpearItem *SpearItem::parentSpear() const
+{
+    return qgraphicsitem_cast<SpearItem *>(parentItem());
+}
+
+void SpearItem::setCompanion(QGraphicsItem *&companion, QGraphicsItem *item)
+{
+    if (item == companion)
+        return;
+    const std::unique_ptr<QGraphicsItem> replaced(companion);
+    companion = item;
+    if (item)
+        item->setParentItem(this);
+}
+
+void SpearItem::setLinkItem(QGraphicsItem *item)
+{
+    setCompanion(m_linkItem, item);
+    if (m_linkItem)
+        m_linkItem->setPos(linkBuddyPosition());
+}
+
+void SpearItem::setExpandBuddy(QGraphicsItem *item)
+{
+    setCompanion(m_expandBuddy, item);
+    if (m_expandBuddy)
+        m_expandBuddy->setPos(expandBuddyPosition());
+}
+
+QVariant SpearItem::itemChange(GraphicsItemChange change, const QVariant &value)
+{
+    const QVariant result = QGraphicsLineItem::itemChange(change, value);
+    if (change == ItemSelectedHasChanged) {
+        // Applied here rather than by the next paint, which must find nothing to change.
+        applyState(interactionState());
+        m_textItem->update();
+    } else if (change == ItemChildRemovedChange) {
+        // A companion that dies or is given to somebody else is forgotten.
+        const auto *const removed = value.value<QGraphicsItem *>();
+        if (removed == m_linkItem)
+            m_linkItem = nullptr;
+        if (removed == m_expandBuddy)
+            m_expandBuddy = nullptr;
+    }
+    return result;
+}
+
+void SpearItem::hoverEnterEvent(QGraphicsSceneHoverEvent *event)
+{
+    m_hovered = true;
+    applyState(interactionState());
+    update();
+    m_textItem->update();
+    showHoverCursor(*this, event->scenePos());
+    updateToolTip();
+    QGraphicsLineItem::hoverEnterEvent(event);
+}
+
+void SpearItem::hoverMoveEvent(QGraphicsSceneHoverEvent *event)
+{
+    showHoverCursor(*this, event->scenePos());
+    QGraphicsLineItem::hoverMoveEvent(event);
+}
+
+void SpearItem::hoverLeaveEvent(QGraphicsSceneHoverEvent *event)
+{
+    m_hovered = false;
+    applyState(interactionState());
+    update();
+    m_textItem->update();
+    showArrowCursor(*this);
+    QGraphicsLineItem::hoverLeaveEvent(event);
+}
+
+std::shared_ptr<SpearItem *> SpearItem::guardCell()
+{
+    if (!m_guardCell)
+        m_guardCell = std::make_shared<SpearItem *>(this);
+    return m_guardCell;
+}

@@ -1,0 +1,282 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <memory>
+
+#include <QGraphicsLineItem>
+#include <QPen>
+#include <QPointer>
+#include <QStyle>
+
+#include <fishbone/fishbone_export.h>
+#include <fishbone/style/spearstyle.h>
+
+class FishModel;
+class TaskStatusItem;
+class TextItem;
+class TreeItem;
+
+/// The graphics item of one subject: the header (the diagram's head with its backbone) or one bone
+/// hanging off its parent's bone.
+///
+/// The item's line is the bone, in the coordinates that the whole drawing shares (every spear
+/// stands at position (0, 0)). Child spears are child items, in the row order of their subjects, so
+/// that a subtree moves and dies with its root. The text box and the status icon are made with the
+/// spear; the link icon and the expand button are given to it and become its child items as well.
+///
+/// A spear shows one subject (TreeItem) and a subject knows one spear. The link is cleared from
+/// both ends: whichever dies first leaves nothing dangling. A spear without a subject draws with
+/// the global style and ignores everything that concerns a task.
+///
+/// The layout works in passes (see FishEditor::updateFish()): initData() on every spear, then sizes
+/// from the leaves up with sumChildSize(), then positions from the head down with setOffset() and
+/// updatePosition(). All lengths are in scene units, all angles named "angle" in degrees.
+class FISHBONE_EXPORT SpearItem : public QGraphicsLineItem
+{
+public:
+    enum { Type = UserType + 1 };
+
+    /// A spear titled \a text. \a direction is 0 for a horizontal bone, 1 or -1 for a slanted one
+    /// on either side of its parent; \a spearSize is the extra height of a horizontal bone.
+    SpearItem(const QString &text, int direction, double spearSize);
+    ~SpearItem() override;
+
+    int type() const override { return Type; }
+
+    /// \name The subject
+    /// @{
+
+    /// Shows the subject behind \a index and its status from now on. An index that belongs to no
+    /// FishModel leaves the spear without a subject. A subject's spear is set through
+    /// TreeItem::setSpear(), which calls this.
+    void setModelIndex(const QModelIndex &index);
+    /// Where the subject stands in its model now; invalid without a subject in a model.
+    QModelIndex modelIndex() const;
+    /// The subject, or null.
+    TreeItem *treeItem() const { return m_treeItem; }
+    /// Makes \a item the subject without touching the item's own link. For TreeItem.
+    void attachTreeItem(TreeItem *item);
+    /// The subject is gone or has another spear. For TreeItem.
+    void forgetTreeItem();
+
+    /// Whether the subject may be dragged; true without a subject.
+    bool isMovable() const;
+    /// Sets or clears ItemIsMovable from isMovable().
+    void updateMovableFlag();
+    /// Stores \a status in the subject, shows it and places the companions anew.
+    void setTaskStatus(int status);
+    /// Brings the status icon in line with the subject; a subject of status -1 shows none.
+    void updateTaskStatus();
+    /// Sets the tool tip to the subject's.
+    void updateToolTip();
+    /// @}
+
+    /// \name Text
+    /// @{
+
+    /// Sets title and tool tip.
+    void setText(const QString &text);
+    /// The full title.
+    QString text() const { return m_text; }
+    /// The title as measured: cut to the style's count and, for the head of a document, without
+    /// the counts in parentheses.
+    QString textDisplay() const { return m_textDisplay; }
+    /// Brings the text box in line with title, style and current state; lays out nothing that has
+    /// not changed.
+    void updateTextMetrics();
+    /// Width of the text box's document.
+    double textWidth() const;
+    /// Height of the text box's document.
+    double textHeight() const;
+    /// @}
+
+    /// \name Style
+    /// @{
+
+    /// The subject's own style, or the global one. Never null.
+    SpearStyle *style() const;
+    /// The state that \a option asks for: linked wins over hovered, hovered over selected.
+    SpearStyle::SpearState spearState(const QStyleOptionGraphicsItem *option) const;
+    /// The state applied last.
+    SpearStyle::SpearState currentState() const { return m_currentState; }
+    /// Applies \a state: its font, text colour and line width, where they differ from what is
+    /// shown.
+    void applyState(SpearStyle::SpearState state);
+    /// QStyle::State_Selected and QStyle::State_MouseOver as far as they hold for this spear now.
+    QStyle::State interactionFlags() const;
+
+    QFont textFont(SpearStyle::SpearState state) const;     ///< a default font when unset
+    QFont font() const;                                     ///< the font of the current state
+    QColor textColor(SpearStyle::SpearState state) const;   ///< invalid when unset
+    QColor textBkColor(SpearStyle::SpearState state) const; ///< invalid when unset
+    QPen broaderPen(SpearStyle::SpearState state) const;    ///< a default pen when unset
+    int textDisplayCount() const;                           ///< characters shown; below 1: all
+    /// @}
+
+    /// \name Flags
+    /// @{
+
+    bool isLinked() const { return m_linked; }
+    int linkNumber() const { return m_linkNumber; }
+    /// Marks the spear as a link target; \a number is the child row that the circle stands before.
+    void setLinked(bool linked, int number);
+    bool isMoving() const { return m_moving; }
+    /// While set, the bone's line is not drawn.
+    void setMoving(bool moving) { m_moving = moving; }
+    bool isExpand() const { return m_expand; }
+    /// Stores the flag and shows or hides every child spear.
+    void setExpand(bool expand);
+    /// @}
+
+    /// \name The tree of spears
+    /// @{
+
+    /// True when there is no parent item: the spear is the head with the backbone.
+    bool isHeader() const { return !parentItem(); }
+    /// Number of item ancestors; 0 for the header.
+    int depth() const;
+    /// The child items that are spears, in stacking order. Linear in the number of child items.
+    QList<SpearItem *> childSpears() const;
+    /// Number of child spears. Linear: in a loop, take childSpears() once.
+    int childCount() const { return childSpears().count(); }
+    /// Child spear \a i, or null. Linear: in a loop, take childSpears() once.
+    SpearItem *childSpear(int i) const { return childSpears().value(i); }
+    /// Stacks the child spears in the row order of their subjects, which the layout follows. Linear
+    /// for each child spear that stands behind where it belongs; to bring one forward, make it the
+    /// last one first, by taking its parent item away and giving it back.
+    void stackChildrenInRowOrder();
+    /// @}
+
+    /// \name Companions
+    /// @{
+
+    TextItem *textItem() const { return m_textItem; }
+    TaskStatusItem *statusItem() const { return m_statusItem; }
+    QGraphicsItem *linkItem() const { return m_linkItem; }
+    QGraphicsItem *expandBuddy() const { return m_expandBuddy; }
+    /// Gives the spear its link icon. The spear becomes its parent and owner; the icon it replaces
+    /// is deleted. Null removes the icon.
+    void setLinkItem(QGraphicsItem *item);
+    /// Gives the spear its expand button, as setLinkItem() does.
+    void setExpandBuddy(QGraphicsItem *item);
+    /// @}
+
+    /// \name Geometry
+    /// @{
+
+    int direction() const { return m_direction; }
+    void setDirection(int direction);
+    /// -1: the drawing grows to the left of the head.
+    int side() const { return m_side; }
+    double spearSize() const { return m_spearSize; }
+    /// Distance along the parent's bone.
+    double offset() const { return m_offset; }
+    /// Adds \a distance to the offset; initData() starts it at 0.
+    void setOffset(double distance) { m_offset += distance; }
+
+    /// Resets the item for a new layout: position, offset, line, recorded child sizes.
+    void initData(int direction);
+    /// As initData(), but the line stays until updatePosition() replaces it, so that a layout that
+    /// changes nothing repaints nothing.
+    void beginLayout(int direction);
+    /// Records the size of the next child spear.
+    void sumChildSize(const QSizeF &size);
+    /// Extent along the horizontal, children included.
+    double spearWidth() const;
+    /// Extent along the vertical of a horizontal bone, length of a slanted one; children included.
+    double spearHeight() const;
+    /// Half the angle of the header's wedge in radians; 0 for a spear with a parent.
+    double backboneAngle() const;
+    /// Sets the line from the parent's line and places the companions. The argument is not used.
+    void updatePosition(const QPointF &position);
+
+    QRectF textRect() const; ///< what the text adds to the bounding rectangle
+    QPointF expandBuddyPosition() const;
+    QPointF linkBuddyPosition() const;
+    QPointF TaskStateItemPosition() const;
+    /// The text box's position. Also sets the text box's rotation.
+    QPointF textBuddyPosition();
+
+    QRectF boundingRect() const override;
+    QPainterPath shape() const override;
+    /// @}
+
+    /// Stores the state that \a option asks for as the current one and draws the bone or, without
+    /// a parent item, the backbone between head and tail picture. Schedules no repaint when the
+    /// state was applied before.
+    void paint(QPainter *painter, const QStyleOptionGraphicsItem *option,
+               QWidget *widget = nullptr) override;
+
+    /// What SpearPointer shares with the spear. For SpearPointer.
+    std::shared_ptr<SpearItem *> guardCell();
+
+    static QPixmap *m_pixHeader; ///< head picture, shared; null while there is no spear
+    static QPixmap *m_pixTail;   ///< tail picture, shared; null while there is no spear
+    static int m_refCount;       ///< number of living spears
+
+protected:
+    QVariant itemChange(GraphicsItemChange change, const QVariant &value) override;
+    void hoverEnterEvent(QGraphicsSceneHoverEvent *event) override;
+    void hoverMoveEvent(QGraphicsSceneHoverEvent *event) override;
+    void hoverLeaveEvent(QGraphicsSceneHoverEvent *event) override;
+
+private:
+    /// What the layout needs to know of the recorded child sizes.
+    struct ChildExtents
+    {
+        int count = 0;
+        double widest = 0;
+        double tallest = 0;
+        double heightSum = 0;
+        double widthSum = 0;          ///< over all children
+        double sideWidth[2] = {0, 0}; ///< over the children of even and of odd number
+    };
+
+    SpearItem *parentSpear() const;
+    SpearStyle::SpearState interactionState() const;
+    SpearStyle::SpearState textState() const;
+    void resetLayout(int direction);
+    void showChildren();
+    QString displayText() const;
+    void setCompanion(QGraphicsItem *&companion, QGraphicsItem *item);
+    void placeCompanions();
+
+    QLineF headerLine() const;
+    QLineF horizontalLine(const SpearItem &parent) const;
+    QLineF slantedLine(const SpearItem &parent) const;
+    QRectF headRect() const;
+    QRectF tailRect() const;
+    QPolygonF slantedTextOutline() const;
+
+    void drawSpearItem(QPainter *painter, const QStyleOptionGraphicsItem *option);
+    void drawHeader(QPainter *painter, const QStyleOptionGraphicsItem *option);
+    void drawBackbone(QPainter *painter) const;
+    void drawLinkCircle(QPainter *painter) const;
+    QPointF linkCircleCenter() const;
+
+    static void loadPictures();
+    static void releasePictures();
+
+    SpearStyle::SpearState m_currentState = SpearStyle::ssNormal;
+    QString m_text;
+    QString m_textDisplay;
+    ChildExtents m_children;
+    double m_offset = 0;
+    int m_direction;
+    int m_side = -1;
+    QPointer<const FishModel> m_model;
+    int m_linkNumber = 0;
+    bool m_linked = false;
+    bool m_moving = false;
+    bool m_expand = false;
+    bool m_hovered = false;
+    TextItem *m_textItem = nullptr;
+    QGraphicsItem *m_linkItem = nullptr;
+    QGraphicsItem *m_expandBuddy = nullptr;
+    TaskStatusItem *m_statusItem = nullptr;
+    TreeItem *m_treeItem = nullptr;
+    double m_spearSize;
+    std::shared_ptr<SpearItem *> m_guardCell;
+};

@@ -1,0 +1,40 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QGraphicsSvgItem>
+
+#include <fishbone/fishbone_export.h>
+
+/// A picture item whose file can be set. Items that show the same file share one renderer, so that
+/// the file is parsed once per process whatever the number of items.
+class FISHBONE_EXPORT SvgItem : public QGraphicsSvgItem
+{
+    Q_OBJECT
+
+public:
+    /// An item without a picture; it has an empty bounding rectangle and paints nothing.
+    explicit SvgItem(QGraphicsItem *parent = nullptr);
+    /// An item that shows \a file and accepts hover events.
+    explicit SvgItem(const QString &file, QGraphicsItem *parent = nullptr);
+
+    /// Shows \a file from now on. An empty name, a missing file and one that is no SVG picture show
+    /// nothing; setting the file that is shown already changes nothing.
+    void setSvgFile(const QString &file);
+    /// The file given last, whether or not it could be shown.
+    QString svgFile() const { return m_file; }
+
+    QRectF boundingRect() const override;
+    void paint(QPainter *painter, const QStyleOptionGraphicsItem *option,
+               QWidget *widget = nullptr) override;
+
+protected:
+    void hoverEnterEvent(QGraphicsSceneHoverEvent *event) override;
+    void hoverMoveEvent(QGraphicsSceneHoverEvent *event) override;
+    void hoverLeaveEvent(QGraphicsSceneHoverEvent *event) override;
+
+private:
+    QString m_file;
+    bool m_shown = false; ///< a picture is there to paint
+};

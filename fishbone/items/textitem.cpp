@@ -1,0 +1,113 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#include <fishbone/items/textitem.h>
+
+#include <QGraphicsSceneHoverEvent>
+#include <QPainter>
+#include <QStyleOptionGraphicsItem>
+#include <QTextDocument>
+
+#include <fishbone/items/hovercursor.h>
+#include <fishbone/items/spearitem.h>
+
+namespace {
+constexpr qreal cornerRoundness = 5; ///< per cent of half the box's width and height
+
+bool isHighlighted(QStyle::State state)
+{
+    return state & (QStyle::State_Selected | QStyle::State_MouseOver);
+}
+} // namespace
+
+TextItem::TextItem(const QString &text, QGraphicsItem *parent)
+    : QGraphicsTextItem(parent)
+{
+    showText(font(), text);
+}
+
+bool TextItem::shows(const QFont &font, const QString &text) const
+{
+    return m_text == text && this->font() == font;
+}
+
+void TextItem::showText(const QFont &font, const QString &text)
+{
+    // The font first: the other way round the text would be laid out twice.
+    if (this->font() != font)
+        setFont(font);
+    if (m_text != text) {
+        m_text = text;
+        setPlainText(text);
+    }
+}
+
+void TextItem::showColor(const QColor &color)
+{
+    if (defaultTextColor() != color)
+        setDefaultTextColor(color);
+}
+
+SpearItem *TextItem::parentSpear() const
+{
+    return qgraphicsitem_cast<SpearItem *>(parentItem());
+}
+
+void TextItem::paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget)
+{
+    QColor fill;
+    QPen frame = painter->pen();
+    bool boxed = isHighlighted(option->state);
+    if (SpearItem *const spear = parentSpear()) {
+        QStyleOptionGraphicsItem followed(*option);
+        followed.state |= spear->interactionFlags();
+        const SpearStyle::SpearState state = spear->spearState(&followed);
+        spear->applyState(state);
+        fill = spear->textBkColor(state);
+        frame = spear->broaderPen(state);
+        boxed = isHighlighted(followed.state) || spear->isLinked();
+    } else {
+        showText(QFont(), m_text);
+        showColor(QColor());
+    }
+    if (boxed)
+        paintBox(painter, QRectF(option->rect), fill, frame);
+    QGraphicsTextItem::paint(painter, option, widget);
+}
+
+void TextItem::paintBox(QPainter *painter, const QRectF &exposed, const QColor &fill,
+                        const QPen &frame)
+{
+    painter->save();
+    if (fill.isValid())
+        painter->fillRect(exposed & boundingRect(), fill);
+    // The frame stays inside the item's rectangle, half its pen on either side of the outline, so
+    // that no partial repaint can leave a piece of it behind. A wider pen than this fills the box.
+    const QRectF box = QRectF(boundingRect().toRect()) & boundingRect();
+    QPen pen(frame);
+    pen.setWidthF(qMin(pen.widthF(), qMin(box.width(), box.height()) / 2));
+    const qreal inset = qMax<qreal>(pen.widthF(), 1) / 2;
+    painter->setPen(pen);
+    painter->setBrush(Qt::NoBrush);
+    painter->drawRoundedRect(box.adjusted(inset, inset, -inset, -inset), cornerRoundness,
+                             cornerRoundness, Qt::RelativeSize);
+    painter->restore();
+}
+
+void TextItem::hoverEnterEvent(QGraphicsSceneHoverEvent *event)
+{
+    showHoverCursor(*this, event->scenePos());
+    QGraphicsTextItem::hoverEnterEvent(event);
+}
+
+void TextItem::hoverMoveEvent(QGraphicsSceneHoverEvent *event)
+{
+    showHoverCursor(*this, event->scenePos());
+    QGraphicsTextItem::hoverMoveEvent(event);
+}
+
+void TextItem::hoverLeaveEvent(QGraphicsSceneHoverEvent *event)
+{
+    showArrowCursor(*this);
+    QGraphicsTextItem::hoverLeaveEvent(event);
+}

@@ -1,0 +1,283 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#include <fishbone/items/svgitem.h>
+
+#include <QBuffer>
+#include <QFile>
+#include <QGraphicsScene>
+#include <QSvgGenerator>
+#include <QSvgRenderer>
+#include <QtTest>
+
+#include <fishbone/items/svgcache.h>
+#include <tests/support/drawing.h>
+#include <tests/support/pictures.h>
+
+using namespace TestSupport;
+
+class TestSvgItem : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void shouldShowNothingAtFirst();
+    void shouldShowTheFileThatItIsMadeWith();
+    void shouldBelongToItsParent();
+    void shouldBeAsLargeAsItsPicture_data();
+    void shouldBeAsLargeAsItsPicture();
+    void shouldPaintItsPicture_data();
+    void shouldPaintItsPicture();
+    void shouldShowNothingWithoutAPicture_data();
+    void shouldShowNothingWithoutAPicture();
+    void shouldShowAnotherFile();
+    void shouldShowAPictureAgainAfterNone();
+    void shouldShareTheRendererOfAFile();
+    void shouldParseEachFileOnce();
+    void shouldChangeNothingForTheFileThatIsShown();
+    void shouldScheduleOnePaintForAnotherFile();
+    void shouldStayVectorsInAnExport();
+    void shouldShowTheArrowWhileHovered();
+    void shouldAcceptHoverWhenMadeWithAFile();
+};
+
+namespace
+{
+QString picture(const char *name)
+{
+    return QLatin1String(":/fishboneDiagram/") + QLatin1String(name);
+}
+
+QString expandFile()
+{
+    return picture("expand.svg");
+}
+
+QString contractFile()
+{
+    return picture("contract.svg");
+}
+
+QImage pictureOf(const QString &file, const Canvas &canvas)
+{
+    QImage image = whitePicture(canvas.size());
+    QPainter painter(&image);
+    canvas.setUp(painter);
+    QSvgRenderer renderer(file);
+    renderer.render(&painter, QRectF(QPointF(), renderer.defaultSize()));
+    return image;
+}
+
+const Canvas canvas{{-4, -4, 40, 40}, 3};
+} // namespace
+
+void TestSvgItem::shouldShowNothingAtFirst()
+{
+    SvgItem item;
+
+    QCOMPARE(item.svgFile(), QString());
+    QCOMPARE(item.boundingRect(), QRectF());
+    QCOMPARE(item.parentItem(), nullptr);
+    QVERIFY(!item.acceptHoverEvents());
+    QCOMPARE(inkedPixels(paintedItem(item, canvas)), 0);
+}
+
+void TestSvgItem::shouldShowTheFileThatItIsMadeWith()
+{
+    const SvgItem item(expandFile());
+
+    QCOMPARE(item.svgFile(), expandFile());
+    QCOMPARE(item.parentItem(), nullptr);
+}
+
+void TestSvgItem::shouldBelongToItsParent()
+{
+    QGraphicsRectItem parent;
+
+    // Both are deleted with their parent.
+    const auto *const empty = std::make_unique<SvgItem>(&parent).release();
+    const auto *const shown = std::make_unique<SvgItem>(expandFile(), &parent).release();
+
+    QCOMPARE(empty->parentItem(), &parent);
+    QCOMPARE(shown->parentItem(), &parent);
+}
+
+void TestSvgItem::shouldBeAsLargeAsItsPicture_data()
+{
+    QTest::addColumn<QString>("file");
+
+    for (const char *name : {"expand.svg", "contract.svg", "link.png", "head.svg", "tail.svg",
+                             "status/finish.svg", "status/running_progress_40.svg"})
+        QTest::newRow(name) << picture(name);
+}
+
+void TestSvgItem::shouldBeAsLargeAsItsPicture()
+{
+    QFETCH(QString, file);
+    const SvgItem item(file);
+
+    QCOMPARE(item.boundingRect(), QRectF(QPointF(), QSvgRenderer(file).defaultSize()));
+    QVERIFY(!item.boundingRect().isEmpty());
+}
+
+void TestSvgItem::shouldPaintItsPicture_data()
+{
+    shouldBeAsLargeAsItsPicture_data();
+}
+
+void TestSvgItem::shouldPaintItsPicture()
+{
+    QFETCH(QString, file);
+    SvgItem item(file);
+
+    const QImage painted = paintedItem(item, canvas);
+
+    QVERIFY(inkedPixels(painted) > 100);
+    QCOMPARE(difference(painted, pictureOf(file, canvas)), QString());
+}
+
+void TestSvgItem::shouldShowNothingWithoutAPicture_data()
+{
+    QTest::addColumn<QString>("file");
+
+    QTest::newRow("no name") << QString();
+    QTest::newRow("empty name") << QStringLiteral("");
+    QTest::newRow("missing resource") << picture("nothing.svg");
+    QTest::newRow("missing file") << QStringLiteral("nothing.svg");
+    QTest::newRow("bitmap") << picture("noparent.png");
+}
+
+void TestSvgItem::shouldShowNothingWithoutAPicture()
+{
+    QFETCH(QString, file);
+    SvgItem item(expandFile());
+
+    item.setSvgFile(file);
+
+    QCOMPARE(item.svgFile(), file);
+    QCOMPARE(item.boundingRect(), QRectF());
+    QCOMPARE(inkedPixels(paintedItem(item, canvas)), 0);
+}
+
+void TestSvgItem::shouldShowAnotherFile()
+{
+    SvgItem item(expandFile());
+
+    item.setSvgFile(contractFile());
+
+    QCOMPARE(item.svgFile(), contractFile());
+    QCOMPARE(difference(paintedItem(item, canvas), pictureOf(contractFile(), canvas)), QString());
+    QVERIFY(!difference(paintedItem(item, canvas), pictureOf(expandFile(), canvas)).isEmpty());
+}
+
+void TestSvgItem::shouldShowAPictureAgainAfterNone()
+{
+    SvgItem item(expandFile());
+    item.setSvgFile(QString());
+
+    item.setSvgFile(expandFile());
+
+    QCOMPARE(difference(paintedItem(item, canvas), pictureOf(expandFile(), canvas)), QString());
+    QVERIFY(!item.boundingRect().isEmpty());
+}
+
+void TestSvgItem::shouldShareTheRendererOfAFile()
+{
+    const SvgItem first(expandFile());
+    SvgItem second;
+    second.setSvgFile(expandFile());
+    const SvgItem other(contractFile());
+
+    QCOMPARE(first.renderer(), sharedSvgRenderer(expandFile()));
+    QCOMPARE(second.renderer(), first.renderer());
+    QVERIFY(other.renderer() != first.renderer());
+}
+
+void TestSvgItem::shouldParseEachFileOnce()
+{
+    const SvgItem expand(expandFile());
+    const SvgItem contract(contractFile());
+    const int before = parsedSvgFileCount();
+
+    for (int i = 0; i < 50; ++i) {
+        SvgItem item(i % 2 ? expandFile() : contractFile());
+        item.setSvgFile(i % 2 ? contractFile() : expandFile());
+    }
+
+    QCOMPARE(parsedSvgFileCount(), before);
+}
+
+void TestSvgItem::shouldChangeNothingForTheFileThatIsShown()
+{
+    QGraphicsScene scene;
+    auto *const item = std::make_unique<SvgItem>(expandFile()).release();
+    scene.addItem(item);
+    QSignalSpy changes(&scene, &QGraphicsScene::changed);
+    QCoreApplication::processEvents();
+    changes.clear();
+
+    item->setSvgFile(expandFile());
+    QCoreApplication::processEvents();
+
+    QCOMPARE(changes.count(), 0);
+}
+
+void TestSvgItem::shouldScheduleOnePaintForAnotherFile()
+{
+    QGraphicsScene scene;
+    auto *const item = std::make_unique<SvgItem>(expandFile()).release();
+    scene.addItem(item);
+    QSignalSpy changes(&scene, &QGraphicsScene::changed);
+    QCoreApplication::processEvents();
+    changes.clear();
+
+    item->setSvgFile(contractFile());
+    QCoreApplication::processEvents();
+    item->setSvgFile(QString());
+    QCoreApplication::processEvents();
+
+    QCOMPARE(changes.count(), 2);
+}
+
+void TestSvgItem::shouldStayVectorsInAnExport()
+{
+    QGraphicsScene scene;
+    scene.addItem(std::make_unique<SvgItem>(expandFile()).release());
+    QBuffer buffer;
+    {
+        QSvgGenerator generator;
+        generator.setOutputDevice(&buffer);
+        QPainter painter(&generator);
+        scene.render(&painter);
+    }
+
+    QVERIFY(buffer.data().contains("<path"));
+    QVERIFY(!buffer.data().contains("<image"));
+}
+
+void TestSvgItem::shouldShowTheArrowWhileHovered()
+{
+    QGraphicsScene scene;
+    auto *const item = std::make_unique<SvgItem>(expandFile()).release();
+    scene.addItem(item);
+    QVERIFY(!item->hasCursor());
+
+    sendHover(*item, QEvent::GraphicsSceneHoverEnter);
+    QVERIFY(item->hasCursor());
+    QCOMPARE(item->cursor().shape(), Qt::ArrowCursor);
+
+    sendHover(*item, QEvent::GraphicsSceneHoverMove, QPointF(3, 3));
+    QCOMPARE(item->cursor().shape(), Qt::ArrowCursor);
+
+    sendHover(*item, QEvent::GraphicsSceneHoverLeave);
+    QVERIFY(!item->hasCursor());
+}
+
+void TestSvgItem::shouldAcceptHoverWhenMadeWithAFile()
+{
+    QVERIFY(SvgItem(expandFile()).acceptHoverEvents());
+    QVERIFY(SvgItem(QString()).acceptHoverEvents());
+}
+
+QTEST_MAIN(TestSvgItem)
+#include "tst_svgitem.moc"
