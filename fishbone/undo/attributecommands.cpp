@@ -1,0 +1,131 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#include <fishbone/undo/attributecommands.h>
+
+#include <fishbone/model/fishmodel.h>
+#include <fishbone/model/treeitem.h>
+#include <fishbone/undo/subjectlookup.h>
+
+struct AttributeCommand::Private
+{
+    QPointer<QAbstractItemModel> model;
+    SubjectKey subject;
+};
+
+AttributeCommand::AttributeCommand(const QString &text, QAbstractItemModel *model,
+                                   const QModelIndex &index)
+    : UndoCommand(text)
+    , m_d(std::make_unique<Private>())
+{
+    m_d->model = model;
+    m_d->subject = keyFromIndex(index);
+}
+
+AttributeCommand::~AttributeCommand() = default;
+
+QString AttributeCommand::uuid() const
+{
+    return m_d->subject.uuid;
+}
+
+QAbstractItemModel *AttributeCommand::model() const
+{
+    return m_d->model;
+}
+
+QModelIndex AttributeCommand::subjectIndex() const
+{
+    return indexFromKey(m_d->model, m_d->subject);
+}
+
+TreeItem *AttributeCommand::subject() const
+{
+    return itemFromIndex(subjectIndex());
+}
+
+ModifyName::ModifyName(QAbstractItemModel *model, const QModelIndex &index, const QString &name)
+    : AttributeCommand(tr("Modify subject name"), model, index)
+    , m_newName(name)
+{
+}
+
+void ModifyName::redo()
+{
+    const QModelIndex index = subjectIndex();
+    m_isApplied = index.isValid();
+    if (!m_isApplied)
+        return;
+    // What the model shows for a head has the counts behind the title.
+    const TreeItem *const item = itemFromIndex(index);
+    m_oldName = item ? item->title() : index.data(Qt::DisplayRole).toString();
+    model()->setData(index, m_newName, Qt::EditRole);
+}
+
+void ModifyName::undo()
+{
+    const QModelIndex index = subjectIndex();
+    if (m_isApplied && index.isValid())
+        model()->setData(index, m_oldName, Qt::EditRole);
+}
+
+ModifyLinkTo::ModifyLinkTo(QAbstractItemModel *model, const QModelIndex &index, const QString &url)
+    : AttributeCommand(tr("Modify link to"), model, index)
+    , m_newUrl(url)
+{
+}
+
+void ModifyLinkTo::redo()
+{
+    TreeItem *const item = subject();
+    m_isApplied = item;
+    if (!m_isApplied)
+        return;
+    m_oldUrl = item->url();
+    item->setUrl(m_newUrl);
+}
+
+void ModifyLinkTo::undo()
+{
+    TreeItem *const item = subject();
+    if (m_isApplied && item)
+        item->setUrl(m_oldUrl);
+}
+
+ModifyDelLink::ModifyDelLink(QAbstractItemModel *model, const QModelIndex &index)
+    : AttributeCommand(tr("Delete link"), model, index)
+{
+}
+
+void ModifyDelLink::redo()
+{
+    TreeItem *const item = subject();
+    m_isApplied = item;
+    if (!m_isApplied)
+        return;
+    m_oldUrl = item->url();
+    item->setUrl(QStringLiteral(""));
+}
+
+void ModifyDelLink::undo()
+{
+    TreeItem *const item = subject();
+    if (m_isApplied && item)
+        item->setUrl(m_oldUrl);
+}
+
+EditModify::EditModify(FishModel *model, const QModelIndex &index, TreeItem *item)
+    : AttributeCommand(tr("Modify Item"), model, index)
+    , m_item(item)
+{
+}
+
+void EditModify::redo()
+{
+    if (auto *const subjects = qobject_cast<FishModel *>(model()))
+        subjects->updateItem(subjectIndex(), m_item);
+}
+
+void EditModify::undo()
+{
+}

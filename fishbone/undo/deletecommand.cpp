@@ -1,0 +1,157 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+//
+// The command that deletes the subjects of a snapshot.
+
+#include <fishbone/undo/structuralcommands.h>
+
+#include <fishbone/model/fishmodel.h>
+#include <fishbone/model/treeitem.h>
+#include <fishbone/undo/heldsubject.h>
+#include <fishbone/undo/subjectlookup.h>
+#include <fishbone/undo/subjectspears.h>
+
+#include <QJsonObject>
+
+#include <vector>
+
+namespace {
+
+/** One deleted subject and where it belongs. */
+struct Deletion
+{
+    HeldSubject held;
+    SubjectKey parent; // of none for a head
+    bool isHead;
+    int row;
+};
+
+} // namespace
+
+struct EditDelete::Private
+{
+    void deleteSubject(TreeItem *subject);
+    TreeItem *restore(Deletion &deletion, SubjectFinder &finder);
+
+    QPointer<FishModel> model;
+    QJsonObject objects;
+    QVector<SubjectKey> subjects;
+    QList<int> rows;
+    std::vector<Deletion> deletions; // in the order of the subjects
+};
+
+void EditDelete::Private::deleteSubject(TreeItem *subject)
+{
+    const bool isHead = subject->isTopVaildItem();
+    Deletion deletion{{}, {}, isHead, rows.last()};
+    if (!isHead)
+        deletion.parent = keyFromItem(*model, subject->parent());
+    if (deletion.held.take(*model, subject))
+        deletions.push_back(std::move(deletion));
+}
+
+/** Puts a subject back; null when it cannot go back. */
+TreeItem *EditDelete::Private::restore(Deletion &deletion, SubjectFinder &finder)
+{
+    TreeItem *const parent = model && !deletion.isHead ? finder.find(deletion.parent) : nullptr;
+    TreeItem *const subject = deletion.held.item();
+    if (!model || (!parent && !deletion.isHead) ||
+        !deletion.held.putBack(*model, parent, deletion.row) || !model)
+        return nullptr;
+    finder.add(subject);
+    return subject;
+}
+
+EditDelete::EditDelete(FishModel *model, const QJsonObject &objects)
+    : UndoCommand(tr("Delete selecteds"))
+    , m_d(std::make_unique<Private>())
+{
+    init(model, objects);
+}
+
+EditDelete::EditDelete(FishModel *model, const QModelIndex &index)
+    : UndoCommand(tr("Delete current selected"))
+    , m_d(std::make_unique<Private>())
+{
+    m_d->model = model;
+    m_d->subjects.append(keyFromIndex(index));
+    FishModel::write(m_d->objects, itemFromIndex(index), true);
+}
+
+EditDelete::~EditDelete() = default;
+
+void EditDelete::init(FishModel *model, const QJsonObject &objects)
+{
+    m_d->model = model;
+    m_d->objects = objects;
+    m_d->subjects = snapshotKeys(objects);
+    if (model)
+        nameSubjects(*model, m_d->subjects);
+}
+
+void EditDelete::setDocument(FishInfo *document)
+{
+    for (SubjectKey &key : m_d->subjects)
+        key.document = document;
+}
+
+void EditDelete::setSubjects(const QList<TreeItem *> &subjects)
+{
+    const int count = qMin(subjects.size(), m_d->subjects.size());
+    for (int i = 0; i < count; ++i)
+        m_d->subjects[i].node = subjects.at(i);
+}
+
+void EditDelete::redo()
+{
+    m_d->rows.clear();
+    if (!m_d->model)
+        return;
+    SubjectFinder finder(*m_d->model, m_d->subjects);
+    for (SubjectKey &key : m_d->subjects) {
+        TreeItem *const subject = m_d->model ? finder.findNamed(key, {}) : nullptr;
+        m_d->rows.append(subject ? m_d->model->indexFromItem(subject).row() : -1);
+        if (!subject)
+            continue;
+        key.document = m_d->model->fishOf(subject);
+        key.node = subject;
+        m_d->deleteSubject(subject);
+    }
+}
+
+void EditDelete::undo()
+{
+    if (!m_d->model)
+        return;
+    QVector<SubjectKey> keys;
+    for (const Deletion &deletion : m_d->deletions)
+        keys.append(deletion.parent);
+    SubjectFinder finder(*m_d->model, keys);
+
+    // What cannot go back, because its parent is not there, waits for the next time.
+    std::vector<Deletion> waiting;
+    QSet<TreeItem *> parents;
+    while (!m_d->deletions.empty()) {
+        Deletion deletion = std::move(m_d->deletions.back());
+        m_d->deletions.pop_back();
+        if (const TreeItem *const subject = m_d->restore(deletion, finder))
+            parents.insert(subject->parent());
+        else if (!deletion.held.isEmpty())
+            waiting.insert(waiting.begin(), std::move(deletion));
+    }
+    m_d->deletions = std::move(waiting);
+    for (TreeItem *parent : qAsConst(parents)) {
+        if (m_d->model)
+            generateMissingSpears(*m_d->model, parent);
+    }
+}
+
+QJsonObject EditDelete::objects() const
+{
+    return m_d->objects;
+}
+
+QList<int> EditDelete::rows() const
+{
+    return m_d->rows;
+}

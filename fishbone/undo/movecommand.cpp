@@ -1,0 +1,181 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+//
+// The command that moves the subjects of a snapshot.
+
+#include <fishbone/undo/structuralcommands.h>
+
+#include <fishbone/model/fishmodel.h>
+#include <fishbone/model/treeitem.h>
+#include <fishbone/undo/subjectlookup.h>
+#include <fishbone/undo/subjectmove.h>
+#include <fishbone/undo/subjectspears.h>
+
+#include <QJsonObject>
+
+#include <algorithm>
+#include <utility>
+#include <vector>
+
+namespace {
+
+/** One subject of the snapshot and, once it was moved, where it came from. */
+struct Move
+{
+    SubjectKey name;                         // as it is looked for by redo()
+    std::unique_ptr<FishInfo> document = {}; // without a head, while the subject heads none
+    bool isMoved = false;
+    SubjectKey subject = {}; // as it is looked for by undo()
+    bool wasHead = false;
+    SubjectKey parent = {}; // of none for a head
+    int row = -1;
+    QString pid = {};
+};
+
+} // namespace
+
+struct EditMove::Private
+{
+    bool carryOut(Move &move, TreeItem *subject, TreeItem *to);
+    void takeBack(Move &move, SubjectFinder &finder);
+    void completeSpears();
+
+    QPointer<FishModel> model;
+    QJsonObject objects;
+    SubjectKey target;
+    int row = 0;
+    bool wasMoved = false; // so that a row that is too great now was not so from the beginning
+    std::vector<Move> moves;
+    QList<int> sourceRows;
+    QSet<TreeItem *> newParents; // within one redo() or undo()
+};
+
+bool EditMove::Private::carryOut(Move &move, TreeItem *subject, TreeItem *to)
+{
+    move.name.document = model->fishOf(subject);
+    move.name.node = subject;
+    move.wasHead = subject->isTopVaildItem();
+    move.parent = move.wasHead ? SubjectKey() : keyFromItem(*model, subject->parent());
+    move.row = sourceRows.last();
+    move.pid = subject->pid();
+    const int rows = model->rowCount(model->indexFromItem(to));
+    const int position = wasMoved ? qMin(row, rows) : row;
+    if (!moveSubject(*model, subject, to, position, move.document) || !model)
+        return false;
+    move.isMoved = true;
+    move.subject = keyFromItem(*model, subject);
+    moveSpear(subject);
+    newParents.insert(subject->parent());
+    return true;
+}
+
+void EditMove::Private::takeBack(Move &move, SubjectFinder &finder)
+{
+    TreeItem *const subject = finder.find(move.subject);
+    TreeItem *const parent = move.wasHead ? nullptr : finder.find(move.parent);
+    if (!subject || (!parent && !move.wasHead) ||
+        !moveSubjectToRow(*model, subject, parent, move.row, move.document) || !model)
+        return;
+    restorePid(*model, subject, move.pid);
+    moveSpear(subject);
+    newParents.insert(subject->parent());
+}
+
+/** Makes and orders the spears where subjects have come to. */
+void EditMove::Private::completeSpears()
+{
+    for (TreeItem *parent : qAsConst(newParents)) {
+        if (model)
+            generateMissingSpears(*model, parent);
+    }
+    newParents.clear();
+}
+
+EditMove::EditMove(FishModel *model, const QModelIndex &target, int row, const QJsonObject &objects)
+    : UndoCommand(tr("Move subjects"))
+    , m_d(std::make_unique<Private>())
+{
+    m_d->model = model;
+    m_d->objects = objects;
+    m_d->target = keyFromIndex(target);
+    m_d->row = row;
+    QVector<SubjectKey> keys = snapshotKeys(objects);
+    for (SubjectKey &key : keys) {
+        key.document = m_d->target.document;
+        m_d->moves.push_back({key});
+    }
+    if (model)
+        nameSubjects(*model, keys);
+}
+
+EditMove::~EditMove() = default;
+
+void EditMove::setDocument(FishInfo *document)
+{
+    for (Move &move : m_d->moves)
+        move.name.document = document;
+}
+
+void EditMove::setSubjects(const QList<TreeItem *> &subjects)
+{
+    const std::size_t count = std::min(std::size_t(subjects.size()), m_d->moves.size());
+    for (std::size_t i = 0; i < count; ++i)
+        m_d->moves[i].name.node = subjects.at(int(i));
+}
+
+void EditMove::redo()
+{
+    m_d->sourceRows.clear();
+    FishModel *const model = m_d->model;
+    if (!model)
+        return;
+    QVector<SubjectKey> keys;
+    for (const Move &move : m_d->moves)
+        keys.append(move.name);
+    SubjectFinder finder(*model, keys);
+    TreeItem *const to = findSubject(*model, m_d->target);
+    QSet<const TreeItem *> moved;
+    for (Move &move : m_d->moves) {
+        TreeItem *const subject = m_d->model ? finder.findNamed(move.name, moved) : nullptr;
+        m_d->sourceRows.append(subject ? model->indexFromItem(subject).row() : -1);
+        if (subject && m_d->carryOut(move, subject, to))
+            moved.insert(subject);
+    }
+    m_d->wasMoved = m_d->wasMoved || !moved.isEmpty();
+    m_d->completeSpears();
+}
+
+void EditMove::undo()
+{
+    if (!m_d->model)
+        return;
+    QVector<SubjectKey> keys;
+    for (const Move &move : m_d->moves)
+        keys << move.subject << move.parent;
+    SubjectFinder finder(*m_d->model, keys);
+    std::for_each(m_d->moves.rbegin(), m_d->moves.rend(), [&](Move &move) {
+        if (std::exchange(move.isMoved, false) && m_d->model)
+            m_d->takeBack(move, finder);
+    });
+    m_d->completeSpears();
+}
+
+QJsonObject EditMove::objects() const
+{
+    return m_d->objects;
+}
+
+QString EditMove::targetUuid() const
+{
+    return m_d->target.uuid;
+}
+
+int EditMove::row() const
+{
+    return m_d->row;
+}
+
+QList<int> EditMove::sourceRows() const
+{
+    return m_d->sourceRows;
+}

@@ -1,0 +1,253 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#include <fishbone/undo/subjectlookup.h>
+
+#include <fishbone/model/fishmodel.h>
+#include <fishbone/model/jsonnodes.h>
+#include <fishbone/model/treeitem.h>
+#include <fishbone/undo/subjectwalk.h>
+
+#include <QJsonArray>
+
+namespace {
+
+constexpr int uuidColumn = 1;
+
+/** The documents of @p model in the order in which they are searched. */
+QList<FishInfo *> searchOrder(const FishModel &model, const FishInfo *first)
+{
+    QList<FishInfo *> documents = model.fishList();
+    const int row = model.fishRow(first);
+    if (row > 0)
+        documents.move(row, 0);
+    return documents;
+}
+
+/** The head of @p document, null when it has none. */
+TreeItem *headOf(const FishInfo *document)
+{
+    return document->treeItem()->childAtIndex(0);
+}
+
+bool endsWith(const TreeItem *subject, const QString &uuid)
+{
+    return subject->uuid().endsWith(uuid, Qt::CaseInsensitive);
+}
+
+/** indexFromUuid() for a model that is known by its column of uuids only. */
+QModelIndex matchUuid(const QAbstractItemModel &model, const QString &uuid, int column)
+{
+    const QModelIndex start = model.index(0, uuidColumn);
+    QModelIndexList hits =
+        model.match(start, Qt::DisplayRole, uuid, 1, Qt::MatchRecursive | Qt::MatchExactly);
+    if (hits.isEmpty())
+        hits = model.match(start, Qt::DisplayRole, uuid, 1, Qt::MatchRecursive | Qt::MatchEndsWith);
+    return hits.isEmpty() ? QModelIndex() : hits.first().siblingAtColumn(column);
+}
+
+} // namespace
+
+bool namesSubject(const QString &uuid)
+{
+    return !uuid.isEmpty() && uuid != QLatin1String("-1");
+}
+
+TreeItem *itemFromIndex(const QModelIndex &index)
+{
+    const auto *const model = qobject_cast<const FishModel *>(index.model());
+    return model ? model->getTreeItem(index) : nullptr;
+}
+
+QString uuidFromIndex(const QModelIndex &index)
+{
+    if (const TreeItem *const item = itemFromIndex(index))
+        return item->uuid();
+    const QString shown = index.siblingAtColumn(uuidColumn).data().toString();
+    return shown.isEmpty() ? QStringLiteral("-1") : shown;
+}
+
+void ensureUuids(TreeItem *subject)
+{
+    subject->ensureUuid();
+    // What is above a head is no subject.
+    if (subject->parent() && !subject->isTopVaildItem())
+        subject->parent()->ensureUuid();
+}
+
+SubjectKey keyFromItem(const FishModel &model, TreeItem *subject)
+{
+    subject->ensureUuid();
+    return {subject->uuid(), model.fishOf(subject), subject};
+}
+
+SubjectKey keyFromIndex(const QModelIndex &index)
+{
+    TreeItem *const subject = itemFromIndex(index);
+    if (!subject)
+        return {uuidFromIndex(index), nullptr, nullptr};
+    ensureUuids(subject);
+    return keyFromItem(*qobject_cast<const FishModel *>(index.model()), subject);
+}
+
+TreeItem *findSubject(const FishModel &model, const SubjectKey &key)
+{
+    if (!namesSubject(key.uuid))
+        return nullptr;
+    TreeItem *same = nullptr;
+    TreeItem *first = nullptr;
+    const auto look = [&](TreeItem *subject) {
+        if (subject == key.node && endsWith(subject, key.uuid))
+            same = subject;
+        else if (!first && subject->uuid() == key.uuid)
+            first = subject;
+        return !same && (key.node || !first);
+    };
+    const QList<FishInfo *> documents = searchOrder(model, key.document);
+    for (const FishInfo *document : documents) {
+        TreeItem *const head = headOf(document);
+        if (head && !visitSubjects(head, look))
+            break;
+    }
+    return same ? same : first;
+}
+
+QModelIndex indexFromKey(const QAbstractItemModel *model, const SubjectKey &key)
+{
+    const auto *const subjects = qobject_cast<const FishModel *>(model);
+    if (!subjects)
+        return indexFromUuid(model, key.uuid);
+    return subjects->indexFromItem(findSubject(*subjects, key));
+}
+
+QModelIndex indexFromUuid(const QAbstractItemModel *model, const QString &uuid, int column,
+                          const FishInfo *document)
+{
+    if (!model || !namesSubject(uuid))
+        return QModelIndex();
+    const auto *const subjects = qobject_cast<const FishModel *>(model);
+    if (!subjects)
+        return matchUuid(*model, uuid, column);
+    const SubjectKey key{uuid, const_cast<FishInfo *>(document), nullptr};
+    return subjects->indexFromItem(SubjectFinder(*subjects, {key}).findNamed(key, {}), column);
+}
+
+QVector<QJsonObject> snapshotSubjects(const QJsonObject &objects)
+{
+    const QJsonValue uuid = objects.value(JsonNodes::uuidKey);
+    if (!uuid.isUndefined() && !uuid.isNull())
+        return {objects};
+    QVector<QJsonObject> subjects;
+    const QJsonArray elements = objects.value(JsonNodes::childrenKey).toArray();
+    subjects.reserve(elements.size());
+    for (const QJsonValue &element : elements)
+        subjects.append(element.toObject());
+    return subjects;
+}
+
+QVector<SubjectKey> snapshotKeys(const QJsonObject &objects)
+{
+    QVector<SubjectKey> keys;
+    const QVector<QJsonObject> subjects = snapshotSubjects(objects);
+    keys.reserve(subjects.size());
+    for (const QJsonObject &subject : subjects)
+        keys.append({subject.value(JsonNodes::uuidKey).toString(), nullptr, nullptr});
+    return keys;
+}
+
+void nameSubjects(const FishModel &model, const QVector<SubjectKey> &keys)
+{
+    SubjectFinder finder(model, keys);
+    for (const SubjectKey &key : keys) {
+        if (TreeItem *const subject = finder.findNamed(key, {}))
+            ensureUuids(subject);
+    }
+}
+
+SubjectFinder::SubjectFinder(const FishModel &model, const QVector<SubjectKey> &keys)
+    : m_model(model)
+{
+    m_uuids.reserve(keys.size());
+    m_endings.reserve(keys.size());
+    for (const SubjectKey &key : keys) {
+        if (!namesSubject(key.uuid))
+            continue;
+        m_uuids.insert(key.uuid);
+        m_endings.insert(key.uuid.toCaseFolded());
+        m_lengths.insert(key.uuid.size());
+    }
+}
+
+void SubjectFinder::collect(TreeItem *top, Match match, Candidates &candidates) const
+{
+    visitSubjects(top, [&](TreeItem *subject) {
+        const QString &uuid = subject->uuid();
+        if (match == Match::Exact) {
+            if (m_uuids.contains(uuid))
+                candidates[uuid].append(subject);
+            return true;
+        }
+        for (int length : m_lengths) {
+            const QString ending = uuid.right(length).toCaseFolded();
+            if (uuid.size() >= length && m_endings.contains(ending))
+                candidates[ending].append(subject);
+        }
+        return true;
+    });
+}
+
+/** The candidates of one document, looked for when they are first asked for. */
+const SubjectFinder::Candidates &SubjectFinder::candidates(const FishInfo *document, Match match)
+{
+    auto &known = match == Match::Exact ? m_exact : m_ending;
+    if (!known.contains(document)) {
+        Candidates &found = known[document];
+        if (TreeItem *const head = headOf(document))
+            collect(head, match, found);
+    }
+    return known[document];
+}
+
+TreeItem *SubjectFinder::pick(const SubjectKey &key, Match match,
+                              const QSet<const TreeItem *> &except)
+{
+    const QString name = match == Match::Exact ? key.uuid : key.uuid.toCaseFolded();
+    TreeItem *first = nullptr;
+    const QList<FishInfo *> documents = searchOrder(m_model, key.document);
+    for (const FishInfo *document : documents) {
+        const QVector<TreeItem *> subjects = candidates(document, match).value(name);
+        for (TreeItem *subject : subjects) {
+            if (except.contains(subject) || !m_model.fishOf(subject))
+                continue;
+            if (subject == key.node)
+                return subject;
+            if (!first)
+                first = subject;
+        }
+        if (first && !key.node)
+            break;
+    }
+    return first;
+}
+
+TreeItem *SubjectFinder::find(const SubjectKey &key)
+{
+    return namesSubject(key.uuid) ? pick(key, Match::Exact, {}) : nullptr;
+}
+
+TreeItem *SubjectFinder::findNamed(const SubjectKey &key, const QSet<const TreeItem *> &except)
+{
+    if (!namesSubject(key.uuid))
+        return nullptr;
+    TreeItem *const exact = pick(key, Match::Exact, except);
+    return exact ? exact : pick(key, Match::Ending, except);
+}
+
+void SubjectFinder::add(TreeItem *subject)
+{
+    const FishInfo *const document = m_model.fishOf(subject);
+    if (m_exact.contains(document))
+        collect(subject, Match::Exact, m_exact[document]);
+    if (m_ending.contains(document))
+        collect(subject, Match::Ending, m_ending[document]);
+}

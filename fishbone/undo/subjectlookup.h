@@ -1,0 +1,109 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QHash>
+#include <QPointer>
+#include <QSet>
+#include <QString>
+#include <QVector>
+
+#include <fishbone/model/fishinfo.h>
+
+class FishModel;
+class QAbstractItemModel;
+class QJsonObject;
+class QModelIndex;
+class TreeItem;
+
+/**
+ * How a command knows a subject, whose index and node may come and go between redo() and undo().
+ *
+ * Uuids tell subjects apart as a rule, but the same file may be open twice, and copies may share the
+ * uuid of their original. So the document and the node serve as hints: among subjects of the same
+ * uuid the very node is meant, then one of that document.
+ */
+struct SubjectKey
+{
+    QString uuid = QStringLiteral("-1");
+    QPointer<FishInfo> document;
+    const TreeItem *node = nullptr; ///< only compared: it may be gone
+};
+
+/** Whether @p uuid is one: "" and "-1" stand for none. */
+bool namesSubject(const QString &uuid);
+
+/** The node behind @p index; null for none, also in a model without nodes. */
+TreeItem *itemFromIndex(const QModelIndex &index);
+/** The uuid of the subject at @p index, "-1" for an invalid index. */
+QString uuidFromIndex(const QModelIndex &index);
+/** Gives @p subject and its parent a uuid when they have none; nobody is told. */
+void ensureUuids(TreeItem *subject);
+/** The key of a node of @p model, which gets a uuid when it has none. */
+SubjectKey keyFromItem(const FishModel &model, TreeItem *subject);
+/** The key of the subject at @p index, which gets a uuid as its parent does. */
+SubjectKey keyFromIndex(const QModelIndex &index);
+
+/**
+ * The subject that @p key means; null when it is not in the model. One walk over the nodes, which
+ * ends where the subject is found.
+ */
+TreeItem *findSubject(const FishModel &model, const SubjectKey &key);
+/** The index of the subject that @p key means, in any model whose column 1 shows the uuids. */
+QModelIndex indexFromKey(const QAbstractItemModel *model, const SubjectKey &key);
+/**
+ * The index of the first subject with exactly that uuid, in @p document if there is one, and failing
+ * that of the first one whose uuid ends with it, in any case. Documents without a head are skipped.
+ */
+QModelIndex indexFromUuid(const QAbstractItemModel *model, const QString &uuid, int column = 0,
+                          const FishInfo *document = nullptr);
+
+/**
+ * The subjects of a snapshot: the object itself when it has a uuid, otherwise the elements of its
+ * "children".
+ */
+QVector<QJsonObject> snapshotSubjects(const QJsonObject &objects);
+/** Keys for the subjects of a snapshot, without hints. */
+QVector<SubjectKey> snapshotKeys(const QJsonObject &objects);
+
+/** Gives the subjects that @p keys name, and their parents, a uuid when they have none. */
+void nameSubjects(const FishModel &model, const QVector<SubjectKey> &keys);
+
+/**
+ * Finds many subjects in one walk over the nodes.
+ *
+ * It looks at a document the first time it needs it, and holds for as long as subjects only move or
+ * leave the model without being deleted; add() tells it what comes back.
+ */
+class SubjectFinder
+{
+public:
+    SubjectFinder(const FishModel &model, const QVector<SubjectKey> &keys);
+
+    /** The subject that @p key, one of those given, means; null when it is not in the model. */
+    TreeItem *find(const SubjectKey &key);
+    /**
+     * As find(), for a name from outside: none of @p except, and failing all others one whose uuid
+     * only ends with it, in any case.
+     */
+    TreeItem *findNamed(const SubjectKey &key, const QSet<const TreeItem *> &except);
+    /** Looks at @p subject and what is below it, which has come into the model. */
+    void add(TreeItem *subject);
+
+private:
+    /** The subjects that may be meant by each uuid, in pre-order. */
+    using Candidates = QHash<QString, QVector<TreeItem *>>;
+    enum class Match { Exact, Ending };
+
+    void collect(TreeItem *top, Match match, Candidates &candidates) const;
+    const Candidates &candidates(const FishInfo *document, Match match);
+    TreeItem *pick(const SubjectKey &key, Match match, const QSet<const TreeItem *> &except);
+
+    const FishModel &m_model;
+    QSet<QString> m_uuids;
+    QSet<QString> m_endings; ///< the same, without regard to case
+    QSet<int> m_lengths;     ///< of the endings
+    QHash<const FishInfo *, Candidates> m_exact;
+    QHash<const FishInfo *, Candidates> m_ending;
+};
