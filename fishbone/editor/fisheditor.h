@@ -1,0 +1,381 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <memory>
+
+#include <QFrame>
+#include <QGraphicsItem>
+#include <QJsonObject>
+#include <QPersistentModelIndex>
+#include <QPointer>
+
+#include <fishbone/fishbone_export.h>
+#include <fishbone/items/spearpointer.h>
+#include <fishbone/model/treeitem.h>
+
+class FishInfo;
+class FishModel;
+class FishScene;
+class GraphicsView;
+class QMenu;
+class QMimeData;
+class QTimer;
+class SpearItem;
+class UndoCommand;
+class UndoStack;
+
+/// What made subjects change their parent; sent with FishEditor::changeTaskParent().
+enum CHANGE_PARENT_TYPE : int {
+    CHANGE_PARENT_BY_DROP = 0, ///< a drop of dragged rows
+    CHANGE_PARENT_BY_MOVE = 1, ///< a move of spears with the mouse
+};
+Q_DECLARE_METATYPE(CHANGE_PARENT_TYPE)
+
+/// The widget that a host embeds: it draws one diagram of a FishModel, the subtree under the root
+/// index, as a fishbone and lets the user edit it.
+///
+/// The editor owns its view, scene, undo stack and autosave timer; it does not own the model, which
+/// may be destroyed, reset or emptied at any time: the editor then shows nothing. Several editors
+/// may stand side by side, on different models or on different documents of one model; of two that
+/// are given the same document, the later one shows it and the earlier one shows nothing.
+///
+/// The drawing is a tree of SpearItem that mirrors the tree of subjects. The head and the main
+/// bones exist from setRootIndex() on, deeper bones are made when they are first shown. Every edit
+/// ends in updateFish().
+///
+/// The editor never acts on what concerns a task outside the diagram (opening it, creating a real
+/// sub-task, editing its details): it reports the gesture with a signal. No operation reports an
+/// error; one whose index or selection is unusable does nothing.
+class FISHBONE_EXPORT FishEditor : public QFrame
+{
+    Q_OBJECT
+
+public:
+    /// An editor that shows nothing. The newest editor also serves the expand buttons of scenes
+    /// that no editor shows.
+    explicit FishEditor(QWidget *parent = nullptr);
+    ~FishEditor() override;
+
+    /// \name Parts and state
+    /// @{
+
+    GraphicsView *view() const { return m_view; }         ///< a child widget
+    FishScene *scene() const { return m_scene.get(); }    ///< owned by the editor
+    UndoStack *undoStack() const { return m_undoStack; }  ///< owned by the editor
+    QAbstractItemModel *model() const { return m_model; } ///< not owned; null until setModel()
+    /// Sets the model and connects it. The drawing and the root index stay as they are, and a model
+    /// set before stays connected.
+    void setModel(QAbstractItemModel *model);
+    /// The model's FishModel::modelType(), 0 without a model.
+    int modelType() const;
+    /// The shown subject; invalid when nothing was ever shown or the subject is gone.
+    QModelIndex rootIndex() const { return m_rootIndex; }
+    /// The spear of the shown subject; null when nothing is shown.
+    SpearItem *headSpear() const { return m_headSpear.get(); }
+    /// The index of the subject that \a spear shows; invalid for null.
+    QModelIndex spearIndex(SpearItem *spear) const;
+    /// The document that holds the shown subject, or null.
+    FishInfo *currentFishInfo() const;
+    /// Whether the shown document has unsaved changes; false without a document.
+    bool isModified() const;
+    /// Marks the shown document; nothing without one.
+    void setModified(bool modified);
+    /// Starts the timer that calls saveTmpFile() every 30 seconds. Called on construction.
+    void startSaveTmpFileTimer();
+    /// @}
+
+    /// \name Building and laying out the drawing
+    /// @{
+
+    /// The direction of a spear in \a row below \a parent, standing on \a level (1: main bones).
+    static int directionFor(const SpearItem *parent, int level, int row);
+    /// Makes the head and the main bones of \a index and adds them to the scene. Neither clears nor
+    /// lays out; setRootIndex() does both.
+    void loadFish(const QModelIndex &index);
+    /// Makes the missing spears of the children of \a index.
+    void generateSpear(QAbstractItemModel *model, const QModelIndex &index);
+    /// Makes the missing spears of all descendants of \a index.
+    void generateAllSubSpear(QAbstractItemModel *model, const QModelIndex &index);
+    /// Makes new spears for \a index and all its descendants, in \a row on \a level below \a
+    /// parent.
+    void generateSpear(const QModelIndex &index, int level, int row, SpearItem *parent);
+    /// Lays the drawing out again; with \a rebuild makes it anew, with all main bones contracted.
+    /// Linear in the number of spears.
+    void updateFish(bool rebuild);
+    /// The second pass of a relayout: every visible spear adds its size to its parent.
+    void updateSpearSize();
+    /// The third pass of a relayout: places all spears from the head down.
+    void updateSpearPostion();
+    /// Expands or contracts every spear but the head, then lays out. Makes no spears.
+    void expandorContractAll(bool expand);
+    /// @}
+
+    /// \name Selection
+    /// @{
+
+    /// The scene's selected items: spears in document order (parents before children, siblings by
+    /// row), then whatever else is selected.
+    QList<QGraphicsItem *> selectedItems() const;
+    /// Whether anything is selected.
+    bool hasSelection() const;
+    /// The first selected spear, also when its text box is what is selected; null for none.
+    SpearItem *firstSelectedSpear() const;
+    /// The index of firstSelectedSpear(); invalid for none.
+    QModelIndex firstSelectedSpearIndex() const;
+    /// Removes the items without a parent item (the head) from \a items.
+    static void excludeCenterSubject(QList<QGraphicsItem *> &items);
+    /// Removes the items that have an ancestor in \a items; the others keep their order.
+    static void excludeChildSubject(QList<QGraphicsItem *> &items);
+    /// @}
+
+    /// \name Editing
+    /// Every change is a command on the undo stack, which runs it at once, unless said otherwise.
+    /// @{
+
+    bool canUndo() const;
+    bool canRedo() const;
+    /// Deletes the subject \a index with all below it.
+    void deleteItem(const QModelIndex &index);
+    /// Deletes the subjects of \a objects, as saveObjects() makes it.
+    void deleteItems(const QJsonObject &objects);
+    /// Pastes the copy buffer below \a index and rebuilds the drawing.
+    void pasteItem(const QModelIndex &index);
+    /// Gives the subject \a index the title \a name.
+    void renameItem(const QModelIndex &index, const QString &name);
+    /// Lets the user edit the selected subject's own style. Not undoable, marks nothing.
+    void setSpearStyle();
+    /// Removes the selected subject's own style. Not undoable, marks nothing.
+    void delSpearStyle();
+    /// The link text of the selected subject: the display text of column 2 in its row.
+    QString currItemUrl() const;
+    /// @}
+
+    /// \name Copy buffer
+    /// The buffer is the editor's own; it survives pastes and a change of the diagram.
+    /// @{
+
+    /// Whether the copy buffer holds anything.
+    bool hasClipBoardData() const { return !m_copyBuffer.isEmpty(); }
+    /// Copies the selected subjects into the buffer and emits clipBoardAvailable().
+    void copyItemToClipBoard();
+    /// saveObjects() of the selected items.
+    void selectedObjects(QJsonObject &objects) const;
+    /// Writes the subjects of \a items with all below them to \a objects: one as its node object,
+    /// several as an array "children" in the order of \a items, none as the empty object. The head
+    /// and items below other listed items are left out. Subjects without a uuid, and their parents,
+    /// are given one.
+    void saveObjects(QJsonObject &objects, const QList<QGraphicsItem *> &items) const;
+    /// With \a pasteAsNew, pasted subjects whose uuids the model holds already get fresh ones. Off
+    /// unless set: a subject pasted twice exists twice with one uuid.
+    void setPasteAsNew(bool pasteAsNew) { m_pasteAsNew = pasteAsNew; }
+    /// The subject that a drag of \a mimeData carries: the last one, when it lives in the model;
+    /// else null.
+    TreeItem *treeItemFromMimeData(const QMimeData *mimeData) const;
+    /// A placeholder that does nothing.
+    void insertItem(const QModelIndex &index, QAbstractItemModel *model, const QModelIndex &parent);
+    /// A placeholder; false.
+    bool pasteItemFromClipBoard();
+    /// @}
+
+    /// \name Viewport
+    /// @{
+
+    int zoomValue() const { return m_zoomValue; }     ///< 250 is 1:1, 50 more doubles the scale
+    int rotateValue() const { return m_rotateValue; } ///< degrees
+    /// Fits \a rect (scene units) into the view with margins of 50 pixels, without rotation. Does
+    /// nothing for an empty rectangle or a viewport of 100 pixels or less. Emits
+    /// zoomValueChanged() and rotateValueChanged().
+    void equalRatio(const QRectF &rect);
+    /// Centres the spear of \a index; nothing when it has none.
+    void centerView(const QModelIndex &index);
+    /// Scrolls the spear of \a index into view; nothing when it has none.
+    void ensureVisible(const QModelIndex &index);
+    /// @}
+
+Q_SIGNALS:
+    /// The selection changed; the argument says whether anything is selected.
+    void copyAvailable(bool);
+    /// The user contracted the subject \a index.
+    void onCollaps(const QModelIndex &index);
+    /// The user expanded the subject \a index.
+    void onExpand(const QModelIndex &index);
+    /// Everything was contracted.
+    void onCollapsAll();
+    /// Everything was expanded.
+    void onExpandAll();
+    /// Subjects were copied or cut; the argument says whether the copy buffer holds anything.
+    void clipBoardAvailable(bool);
+    /// Declared for the host; the editor never emits it.
+    void contentsChanged();
+    /// Open the task \a taskId.
+    void oneTaskClicked(const QString &title, const QString &taskId);
+    /// Create a sub-task of the task \a taskId.
+    void createNewSubTask(const QString &title, const QString &taskId, const QString &showid);
+    /// The subjects with the uuids \a childIds were given a new parent, whose uuid is the second
+    /// argument.
+    void changeTaskParent(QStringList childIds, QString, CHANGE_PARENT_TYPE type);
+    /// Show \a index as a diagram of its own.
+    void changeFishWithModelIndex(const QModelIndex &index);
+    /// Edit the details of \a index.
+    void editTaskDetail(const QModelIndex &index);
+    /// Create a child of \a parentIndex.
+    void insertChildTask(const QModelIndex &parentIndex);
+    /// The zoom value to set is \a value; hosts hand it to zoomFish(), which applies it.
+    void zoomValueChanged(int value);
+    /// The rotation was set to \a value degrees.
+    void rotateValueChanged(int value);
+
+public Q_SLOTS:
+    /// Prints the visible viewport on one page, after the print dialog.
+    void print();
+    /// 1:1, with the scene's origin in view; keeps the rotation. Emits zoomValueChanged().
+    void fullSize();
+    /// Adds \a level to the zoom value and emits zoomValueChanged(); the view stays as it is.
+    void zoomIn(int level);
+    /// Takes \a level off the zoom value and emits zoomValueChanged(); the view stays as it is.
+    void zoomOut(int level);
+    /// Stores the zoom value; the view stays as it is.
+    void setZoomValue(int value);
+    /// Stores the rotation; the view stays as it is.
+    void setRotateValue(int value);
+    /// Stores the zoom value and applies it.
+    void zoomFish(int value);
+    /// Stores the rotation and applies it.
+    void rotateFish(int value);
+    /// Applies rotation 0.
+    void rotateReset();
+    /// Fits everything below the head.
+    void showEntire();
+    /// Fits the selected items' rectangles, each in its own coordinates.
+    void showSelected();
+    /// Contracts every spear but the head.
+    void contractAll();
+    /// Makes all missing spears and expands every one.
+    void expandAll();
+    /// Undoes the last command and rebuilds the drawing.
+    void undo();
+    /// Redoes the next command and rebuilds the drawing.
+    void redo();
+    /// Copies the selected subjects, then deletes them.
+    void cut();
+    /// Copies the selected subjects. Emits clipBoardAvailable().
+    void copy();
+    /// Pastes the copy buffer below the selected subject.
+    void paste();
+    /// Deletes the selected subjects.
+    void del();
+    /// Selects everything that is visible and can be selected.
+    void selectAll();
+    /// Inserts a subject before the selected one.
+    void insertSubject();
+    /// Inserts a subject after the selected one.
+    void appendSubject();
+    /// Appends a subject below the selected one.
+    void insertChildSubject();
+    /// Inserts a subject between the selected one and its parent.
+    void insertParentSubject();
+    /// Appends a document with a free subject to the model. Not undoable.
+    void insertFreeSubject();
+    /// Appends \a item below the given index. While undone, the item belongs to the history.
+    void insertChildSubject(const QModelIndex &, TreeItem *item);
+    /// Copies the attributes of \a item, which stays the caller's, to the subject of the given
+    /// index. Not undoable.
+    void editSubject(const QModelIndex &, TreeItem *item);
+    /// Deletes the subject of the given index, as deleteItem() does.
+    void deleteSubject(const QModelIndex &);
+    /// Asks for a URL and links the selected subject to it.
+    void modifyLink();
+    /// Removes the link of the selected subject.
+    void modifyDelLink();
+    /// Opens currItemUrl().
+    void modifyOpenLink();
+    /// Expands the selected spear and emits onExpand().
+    void modifyExpand();
+    /// Contracts the selected spear and emits onCollaps().
+    void modifyContract();
+    /// Expands every spear there is and emits onExpandAll(). Makes no spears.
+    void modifyExpandAll();
+    /// Contracts every spear and emits onCollapsAll().
+    void modifyContractAll();
+    /// Shows the diagram under the given index, all main bones contracted. An invalid index shows
+    /// nothing and keeps the root index, so that updateFish(true) brings the old diagram back.
+    void setRootIndex(const QModelIndex &);
+    /// Applies zoom value and rotation to the view; a zoom value whose scale no matrix can hold
+    /// leaves the view as it is.
+    void setupMatrix();
+    /// Emits copyAvailable(). Connected to the scene.
+    void sceneSelectionChanged();
+    /// Lays out when a title may have changed and marks the document. Connected to the model.
+    void modelDataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight);
+    /// The first pass of a relayout: brings every spear in line with its subject and resets it.
+    void refreshFish();
+    /// Shows the context menu of \a data, a SpearItem, and does what is chosen. Connected to the
+    /// view.
+    void onRightClicked(void *data);
+    /// Carries out, or refuses, a move of spears with the mouse: the arguments are those of
+    /// GraphicsView::moveSpear(), to which this is connected.
+    void moveItems(const QPoint &, const QList<QGraphicsItem *> &srcs, const QModelIndex &, int);
+    /// Carries out a drop of dragged rows on \a indexTo, at the row given last; not undoable.
+    /// Connected to GraphicsView::dropTo(), queued.
+    void onDropTo(const QMimeData *mimeData, const QModelIndex &indexTo, int);
+    /// Autosaves the shown document; nothing without one.
+    void saveTmpFile();
+
+public:
+    /// Fills \a menu with the entries for \a spear in the model's mode.
+    void createPopMenu(QMenu &menu, SpearItem *spear);
+    /// Reports a double click on the selected spear. For the view.
+    void doubleClicked(QMouseEvent *event);
+
+private:
+    /// The root that was shown last, remembered across what makes its index invalid.
+    struct ShownRoot
+    {
+        QPointer<FishInfo> document;
+        const TreeItem *subject = nullptr; ///< only compared: it may be gone
+        bool isHead = false;               ///< the document's head, whichever that is
+    };
+
+    FishModel *fishModel() const;
+    SpearItem *spearOf(const QModelIndex &index) const;
+    bool isListed(const FishInfo *document) const;
+    void showNothing();
+    void unlinkShownSubjects();
+    void takeOverFromOtherEditors();
+    bool isShownByAnotherEditor(const FishInfo *document) const;
+    void rememberShownRoot();
+    QModelIndex rememberedRoot() const;
+    void updateHeadText();
+    void runMenuEntry(int entry, const SpearItem &spear);
+    static QList<TreeItem *> subjectsOf(QList<QGraphicsItem *> items);
+    void deleteSubjects(const QJsonObject &objects, const QList<TreeItem *> &subjects);
+    void execute(std::unique_ptr<UndoCommand> command);
+    void afterEdit();
+    void updateLinkOf(const QModelIndex &index) const;
+    bool isWithin(const QModelIndex &target, const TreeItem *subject) const;
+    void reportNewParent(const QStringList &children, const QModelIndex &parent,
+                         CHANGE_PARENT_TYPE type);
+    void connectModel(QAbstractItemModel *model);
+    void forgetRemovedRoot(const QModelIndex &parent, int first, int last);
+    void showReturnedRoot(const QModelIndex &parent);
+    void followReset();
+    void followHead();
+    void followMove();
+    void forgetDestroyedModel();
+
+    QPersistentModelIndex m_rootIndex;
+    QJsonObject m_copyBuffer;
+    GraphicsView *m_view = nullptr;
+    QPointer<QAbstractItemModel> m_model;
+    std::unique_ptr<FishScene> m_scene;
+    SpearPointer m_headSpear;
+    UndoStack *m_undoStack = nullptr;
+    int m_zoomValue = 250;
+    int m_rotateValue = 0;
+    QTimer *m_saveTimer = nullptr;
+    bool m_pasteAsNew = false;
+    ShownRoot m_shown;
+    bool m_rootRemoved = false; ///< the shown root left the model; it may come back
+};

@@ -1,0 +1,77 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+// The part of FishEditor that copies subjects: its copy buffer and the payloads of drags.
+
+#include <fishbone/editor/fisheditor.h>
+
+#include <QJsonArray>
+#include <QMimeData>
+
+#include <fishbone/items/spearitem.h>
+#include <fishbone/model/fishmodel.h>
+#include <fishbone/undo/subjectlookup.h>
+
+void FishEditor::copyItemToClipBoard()
+{
+    selectedObjects(m_copyBuffer);
+    Q_EMIT clipBoardAvailable(hasClipBoardData());
+}
+
+void FishEditor::selectedObjects(QJsonObject &objects) const
+{
+    saveObjects(objects, selectedItems());
+}
+
+/// The subjects that an operation on \a items concerns, each subtree once and without the head.
+QList<TreeItem *> FishEditor::subjectsOf(QList<QGraphicsItem *> items)
+{
+    excludeCenterSubject(items);
+    excludeChildSubject(items);
+    QList<TreeItem *> subjects;
+    for (const QGraphicsItem *item : qAsConst(items)) {
+        const auto *const spear = qgraphicsitem_cast<const SpearItem *>(item);
+        if (spear && spear->modelIndex().isValid())
+            subjects.append(spear->treeItem());
+    }
+    return subjects;
+}
+
+void FishEditor::saveObjects(QJsonObject &objects, const QList<QGraphicsItem *> &items) const
+{
+    objects = QJsonObject();
+    QJsonArray children;
+    const QList<TreeItem *> subjects = subjectsOf(items);
+    for (TreeItem *subject : subjects) {
+        ensureUuids(subject);
+        QJsonObject child;
+        FishModel::write(child, subject, true);
+        children.append(child);
+    }
+    if (children.count() == 1)
+        objects = children.first().toObject();
+    else if (!children.isEmpty())
+        objects.insert(QStringLiteral("children"), children);
+}
+
+TreeItem *FishEditor::treeItemFromMimeData(const QMimeData *mimeData) const
+{
+    const FishModel *const model = fishModel();
+    if (!model || !mimeData || !mimeData->hasFormat(QStringLiteral("QModelIndexList")))
+        return nullptr;
+    const QModelIndexList indexes = model->indexList(mimeData);
+    return indexes.isEmpty() ? nullptr : model->getTreeItem(indexes.last());
+}
+
+void FishEditor::insertItem(const QModelIndex &index, QAbstractItemModel *model,
+                            const QModelIndex &parent)
+{
+    Q_UNUSED(index)
+    Q_UNUSED(model)
+    Q_UNUSED(parent)
+}
+
+bool FishEditor::pasteItemFromClipBoard()
+{
+    return false;
+}

@@ -1,0 +1,121 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+// The part of FishEditor that follows what happens to the model underneath it.
+
+#include <fishbone/editor/fisheditor.h>
+
+#include <fishbone/model/fishinfo.h>
+#include <fishbone/model/fishmodel.h>
+
+void FishEditor::connectModel(QAbstractItemModel *model)
+{
+    // Unique, so that a model that is set twice is not heard twice.
+    using Model = QAbstractItemModel;
+    connect(model, &Model::dataChanged, this, &FishEditor::modelDataChanged, Qt::UniqueConnection);
+    connect(model, &Model::rowsAboutToBeRemoved, this, &FishEditor::forgetRemovedRoot,
+            Qt::UniqueConnection);
+    connect(model, &Model::rowsInserted, this, &FishEditor::showReturnedRoot, Qt::UniqueConnection);
+    connect(model, &Model::rowsMoved, this, &FishEditor::followMove, Qt::UniqueConnection);
+    connect(model, &Model::modelReset, this, &FishEditor::followReset, Qt::UniqueConnection);
+    connect(model, &Model::layoutChanged, this, &FishEditor::followHead, Qt::UniqueConnection);
+    connect(model, &QObject::destroyed, this, &FishEditor::forgetDestroyedModel,
+            Qt::UniqueConnection);
+}
+
+bool FishEditor::isListed(const FishInfo *document) const
+{
+    const FishModel *const model = fishModel();
+    return model && document && model->fishList().contains(const_cast<FishInfo *>(document));
+}
+
+void FishEditor::rememberShownRoot()
+{
+    m_rootRemoved = false;
+    m_shown.document = currentFishInfo();
+    m_shown.subject = fishModel()->getTreeItem(m_rootIndex);
+    m_shown.isHead = !m_rootIndex.parent().isValid();
+}
+
+/// Where the root that was shown last stands now; invalid when it is not in the model.
+QModelIndex FishEditor::rememberedRoot() const
+{
+    const FishModel *const model = fishModel();
+    if (!isListed(m_shown.document))
+        return {};
+    if (m_shown.isHead)
+        return model->index(model->fishList().indexOf(m_shown.document), 0);
+    // Compared only until it is known to be alive.
+    return model->contains(m_shown.subject) ? model->indexFromItem(m_shown.subject) : QModelIndex();
+}
+
+void FishEditor::forgetRemovedRoot(const QModelIndex &parent, int first, int last)
+{
+    if (sender() != m_rootIndex.model())
+        return; // also when nothing is shown, or what is shown came from a model set earlier
+    QModelIndex above = m_rootIndex;
+    while (above.isValid() && above.parent() != parent)
+        above = above.parent();
+    if (!above.isValid() || above.row() < first || above.row() > last)
+        return;
+    showNothing();
+    m_rootRemoved = true;
+}
+
+void FishEditor::showReturnedRoot(const QModelIndex &parent)
+{
+    if (sender() != m_model || parent.isValid() || !m_rootRemoved)
+        return;
+    const QModelIndex root = rememberedRoot();
+    if (root.isValid())
+        setRootIndex(root);
+}
+
+void FishEditor::followReset()
+{
+    if (sender() != m_model || !headSpear())
+        return;
+    // A reset makes every index invalid, whether or not the subject is still there. One that is
+    // keeps its spear; a document that was loaded anew has other subjects.
+    const FishModel *const model = fishModel();
+    if (model && model->contains(m_shown.subject) && m_shown.subject->spear() == headSpear()) {
+        m_rootIndex = model->indexFromItem(m_shown.subject);
+        updateFish(false);
+    } else {
+        showNothing();
+    }
+}
+
+void FishEditor::followHead()
+{
+    if (sender() != m_model || !m_shown.isHead)
+        return;
+    const QModelIndex head = rememberedRoot();
+    if (head.isValid() && fishModel()->getTreeItem(head) != m_shown.subject)
+        setRootIndex(head);
+}
+
+void FishEditor::followMove()
+{
+    if (sender() != m_model)
+        return;
+    if (m_rootRemoved && m_shown.isHead) {
+        const QModelIndex head = rememberedRoot();
+        if (head.isValid())
+            setRootIndex(head);
+    } else if (headSpear() && currentFishInfo() != m_shown.document &&
+               isShownByAnotherEditor(currentFishInfo())) {
+        // What moved into that editor's document is drawn there from now on.
+        showNothing();
+        m_rootIndex = QModelIndex();
+        m_rootRemoved = true;
+    }
+}
+
+void FishEditor::forgetDestroyedModel()
+{
+    if (m_rootIndex.isValid())
+        return; // another one, set earlier
+    showNothing();
+    m_shown = ShownRoot();
+}

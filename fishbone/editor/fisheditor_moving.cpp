@@ -1,0 +1,104 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+// The part of FishEditor that moves subjects to another place.
+
+#include <fishbone/editor/fisheditor.h>
+
+#include <algorithm>
+
+#include <QJsonArray>
+
+#include <fishbone/editor/fishscene.h>
+#include <fishbone/items/spearitem.h>
+#include <fishbone/model/fishmodel.h>
+#include <fishbone/undo/structuralcommands.h>
+#include <fishbone/undo/undostack.h>
+
+namespace {
+bool isImmovable(const QGraphicsItem *item)
+{
+    const auto *const spear = qgraphicsitem_cast<const SpearItem *>(item);
+    return spear && !spear->isMovable();
+}
+
+QStringList uuidsOf(const QJsonObject &snapshot)
+{
+    const QString uuid = QStringLiteral("uuid");
+    if (snapshot.contains(uuid))
+        return {snapshot.value(uuid).toString()};
+    QStringList uuids;
+    const QJsonArray children = snapshot.value(QStringLiteral("children")).toArray();
+    for (const QJsonValue &child : children)
+        uuids.append(child.toObject().value(uuid).toString());
+    return uuids;
+}
+} // namespace
+
+/// Whether \a target is \a subject or stands below it.
+bool FishEditor::isWithin(const QModelIndex &target, const TreeItem *subject) const
+{
+    const TreeItem *const node = fishModel()->getTreeItem(target);
+    return node && subject && (node == subject || subject->isAncestorOf(node));
+}
+
+void FishEditor::moveItems(const QPoint &pos, const QList<QGraphicsItem *> &srcs,
+                           const QModelIndex &target, int row)
+{
+    Q_UNUSED(pos)
+    FishModel *const model = fishModel();
+    const auto movesIntoItself = [&](const QGraphicsItem *item) {
+        const auto *const spear = qgraphicsitem_cast<const SpearItem *>(item);
+        return spear && isWithin(target, spear->treeItem());
+    };
+    // The mouse has dragged the items along already, so a refusal puts them back.
+    if (!model || !target.isValid() || target.model() != model ||
+        std::any_of(srcs.cbegin(), srcs.cend(), isImmovable) ||
+        std::any_of(srcs.cbegin(), srcs.cend(), movesIntoItself)) {
+        updateFish(false);
+        return;
+    }
+    QJsonObject snapshot;
+    saveObjects(snapshot, srcs);
+    if (snapshot.isEmpty())
+        return;
+    const QPersistentModelIndex parent = target;
+    auto command = std::make_unique<EditMove>(model, target, row, snapshot);
+    command->setDocument(currentFishInfo());
+    command->setSubjects(subjectsOf(srcs));
+    execute(std::move(command));
+    setModified(true);
+    updateFish(false);
+    reportNewParent(uuidsOf(snapshot), parent, CHANGE_PARENT_BY_MOVE);
+}
+
+void FishEditor::onDropTo(const QMimeData *mimeData, const QModelIndex &indexTo, int row)
+{
+    FishModel *const model = fishModel();
+    TreeItem *const dropped = treeItemFromMimeData(mimeData);
+    if (!model || !dropped || !indexTo.isValid() || indexTo.model() != model ||
+        isWithin(indexTo, dropped))
+        return;
+    dropped->ensureUuid();
+    QJsonObject snapshot;
+    FishModel::write(snapshot, dropped, true);
+    const QPersistentModelIndex parent = indexTo;
+    // The command also makes the spears of a subject that was not shown here.
+    EditMove command(model, indexTo, row, snapshot);
+    command.setDocument(model->fishOf(dropped));
+    command.setSubjects({dropped});
+    command.redo();
+    setModified(true);
+    updateFish(false);
+    reportNewParent({dropped->uuid()}, parent, CHANGE_PARENT_BY_DROP);
+}
+
+void FishEditor::reportNewParent(const QStringList &children, const QModelIndex &parent,
+                                 CHANGE_PARENT_TYPE type)
+{
+    const FishModel *const model = fishModel();
+    if (!model || model->modelType() != FISH_MODEL_NORMAL)
+        return;
+    const TreeItem *const subject = model->getTreeItem(parent);
+    Q_EMIT changeTaskParent(children, subject ? subject->uuid() : QString(), type);
+}

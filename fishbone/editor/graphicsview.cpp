@@ -1,0 +1,289 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#include <fishbone/editor/graphicsview.h>
+
+#include <algorithm>
+
+#include <QApplication>
+#include <QContextMenuEvent>
+#include <QDebug>
+#include <QPointer>
+#include <QScrollBar>
+#include <QWheelEvent>
+
+#include <fishbone/editor/fisheditor.h>
+#include <fishbone/editor/itemancestry.h>
+#include <fishbone/items/spearitem.h>
+#include <fishbone/items/textitem.h>
+
+namespace {
+constexpr qreal fadedOpacity = 0.2;
+constexpr int wheelZoomStep = 6;
+
+SpearItem *toSpear(QGraphicsItem *item)
+{
+    return qgraphicsitem_cast<SpearItem *>(item);
+}
+
+/// The spear that \a item is or whose text box it is; else null.
+SpearItem *spearOfItem(QGraphicsItem *item)
+{
+    if (SpearItem *const spear = toSpear(item))
+        return spear;
+    const auto *const text = qgraphicsitem_cast<TextItem *>(item);
+    return text ? toSpear(text->parentItem()) : nullptr;
+}
+
+/// A spear and its text box are separate items, and both show whether the spear is linked.
+void repaintSpear(SpearItem *spear)
+{
+    spear->update();
+    spear->textItem()->update();
+}
+
+QSet<const QGraphicsItem *> asSet(const QList<SpearItem *> &spears)
+{
+    QSet<const QGraphicsItem *> set;
+    set.reserve(spears.count());
+    for (const SpearItem *spear : spears)
+        set.insert(spear);
+    return set;
+}
+} // namespace
+
+GraphicsView::GraphicsView(FishEditor *editor)
+    : m_editor(editor)
+{
+    setAcceptDrops(true);
+    setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing |
+                   QPainter::SmoothPixmapTransform);
+    setDragMode(ScrollHandDrag);
+    setOptimizationFlag(DontSavePainterState);
+    setViewportUpdateMode(SmartViewportUpdate);
+    setTransformationAnchor(AnchorUnderMouse);
+}
+
+QList<QGraphicsItem *> GraphicsView::itemsAround(const QPoint &pos) const
+{
+    return items(QRect(pos - QPoint(5, 5), pos + QPoint(4, 4)), Qt::IntersectsItemShape);
+}
+
+SpearItem *GraphicsView::topmostSpearAround(const QPoint &pos) const
+{
+    const QList<QGraphicsItem *> around = itemsAround(pos);
+    const auto spear = std::find_if(around.cbegin(), around.cend(), toSpear);
+    return spear != around.cend() ? toSpear(*spear) : nullptr;
+}
+
+QList<SpearItem *> GraphicsView::livingSelection() const
+{
+    QList<SpearItem *> living;
+    for (const SpearPointer &spear : m_selected) {
+        if (spear.get())
+            living.append(spear.get());
+    }
+    return living;
+}
+
+void GraphicsView::mousePressEvent(QMouseEvent *event)
+{
+    qDebug() << "GraphicsView::mousePressEvent" << event;
+    // What a press opens (a link, say) may end with the host destroying the editor.
+    const QPointer<GraphicsView> alive(this);
+    QGraphicsView::mousePressEvent(event);
+    if (!alive)
+        return;
+    viewport()->setCursor(Qt::ArrowCursor);
+    if (event->button() != Qt::LeftButton || !scene())
+        return;
+    m_selected.clear();
+    const QList<QGraphicsItem *> selected = m_editor->selectedItems();
+    for (QGraphicsItem *item : selected) {
+        if (SpearItem *const spear = toSpear(item))
+            m_selected.append(spear);
+    }
+    unmarkTarget();
+    m_dropRow = 0;
+    m_pressed = true;
+    m_pressedSpear = SpearPointer();
+    const QSet<const QGraphicsItem *> candidates = asSet(livingSelection());
+    const QList<QGraphicsItem *> around = itemsAround(event->pos());
+    const auto pressed =
+        std::find_if(around.cbegin(), around.cend(),
+                     [&candidates](QGraphicsItem *item) { return candidates.contains(item); });
+    if (pressed != around.cend())
+        m_pressedSpear = toSpear(*pressed);
+    beginMoving();
+}
+
+void GraphicsView::beginMoving()
+{
+    endMoving(); // a press whose release went elsewhere leaves its items faded
+    const QList<SpearItem *> selected = livingSelection();
+    const QSet<const QGraphicsItem *> set = asSet(selected);
+    for (SpearItem *spear : selected) {
+        if (hasAncestorIn(spear, set))
+            continue;
+        m_moving.append(spear);
+        fade(spear, true);
+    }
+}
+
+void GraphicsView::endMoving()
+{
+    for (const SpearPointer &spear : qAsConst(m_moving)) {
+        if (spear.get())
+            fade(spear.get(), false);
+    }
+    m_moving.clear();
+}
+
+void GraphicsView::fade(SpearItem *spear, bool faded) const
+{
+    spear->setMoving(faded);
+    spear->setOpacity(faded ? fadedOpacity : 1.0);
+    repaintSpear(spear);
+}
+
+void GraphicsView::markTarget(SpearItem *spear, const QPoint &pos, SpearItem *moving)
+{
+    if (spear == m_linkedSpear.get())
+        return;
+    unmarkTarget();
+    m_linkedSpear = spear;
+    m_dropRow = insertRow(pos, moving);
+    spear->setLinked(true, m_dropRow);
+    repaintSpear(spear);
+}
+
+void GraphicsView::unmarkTarget()
+{
+    if (SpearItem *const spear = m_linkedSpear.get()) {
+        spear->setLinked(false, 0);
+        repaintSpear(spear);
+    }
+    m_linkedSpear = SpearPointer();
+}
+
+void GraphicsView::mouseMoveEvent(QMouseEvent *event)
+{
+    if (m_pressed && !m_selected.isEmpty()) {
+        const QSet<const QGraphicsItem *> selected = asSet(livingSelection());
+        const QList<QGraphicsItem *> around = itemsAround(event->pos());
+        const auto candidate =
+            std::find_if(around.crbegin(), around.crend(), [&selected](QGraphicsItem *item) {
+                return toSpear(item) && !selected.contains(item);
+            });
+        if (candidate != around.crend())
+            markTarget(toSpear(*candidate), event->pos(), m_pressedSpear.get());
+        else
+            unmarkTarget();
+    }
+    QGraphicsView::mouseMoveEvent(event);
+}
+
+int GraphicsView::insertRow(const QPoint &pos, SpearItem *moving) const
+{
+    const SpearItem *const target = m_linkedSpear.get();
+    if (!target)
+        return 0;
+    const QList<SpearItem *> children = target->childSpears();
+    const int movingRow = moving ? children.indexOf(moving) : -1;
+    const int direction = target->direction();
+    const QPointF at = mapToScene(pos);
+    for (int row = 0; row < children.count(); ++row) {
+        // Before the spear behind the moving one is where the moving one stands already.
+        if (movingRow >= 0 && row == movingRow + 1)
+            continue;
+        const SpearItem *const child = children.at(row);
+        const QPointF start = child->mapToScene(child->line().p1());
+        const bool reached =
+            direction == 0 ? start.x() <= at.x() : direction * at.y() <= direction * start.y();
+        if (reached)
+            return row;
+    }
+    return children.count();
+}
+
+void GraphicsView::mouseReleaseEvent(QMouseEvent *event)
+{
+    qDebug() << "GraphicsView::mouseReleaseEvent" << event;
+    const QPointer<GraphicsView> alive(this);
+    if (event->button() == Qt::LeftButton && m_pressed)
+        releaseMovingItems(event->pos());
+    if (!alive)
+        return;
+    m_pressed = false;
+    m_pressedSpear = SpearPointer();
+    QGraphicsView::mouseReleaseEvent(event);
+    if (alive)
+        viewport()->setCursor(Qt::ArrowCursor);
+}
+
+void GraphicsView::releaseMovingItems(const QPoint &pos)
+{
+    endMoving();
+    SpearItem *const target = m_linkedSpear.get();
+    unmarkTarget();
+    const QList<SpearItem *> selected = livingSelection();
+    if (selected.isEmpty())
+        return;
+    QList<QGraphicsItem *> moved;
+    moved.reserve(selected.count());
+    for (SpearItem *spear : selected)
+        moved.append(spear);
+    // A move into the moved subject's own subtree has no target.
+    const bool intoItself = target && hasAncestorIn(target, asSet(selected));
+    const QModelIndex index = target && !intoItself ? m_editor->spearIndex(target) : QModelIndex();
+    Q_EMIT moveSpear(pos, moved, index, m_dropRow);
+}
+
+void GraphicsView::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    event->accept();
+    m_editor->doubleClicked(event);
+}
+
+void GraphicsView::wheelEvent(QWheelEvent *event)
+{
+    if (!event->modifiers().testFlag(Qt::ControlModifier)) {
+        QApplication::sendEvent(horizontalScrollBar(), event);
+        return;
+    }
+    if (event->angleDelta().y() > 0)
+        m_editor->zoomIn(wheelZoomStep);
+    else
+        m_editor->zoomOut(wheelZoomStep);
+    event->accept();
+}
+
+void GraphicsView::contextMenuEvent(QContextMenuEvent *event)
+{
+    if (!scene())
+        return;
+    if (!scene()->selectedItems().isEmpty())
+        scene()->clearSelection();
+    const QList<QGraphicsItem *> under =
+        scene()->items(mapToScene(event->pos()), Qt::IntersectsItemShape, Qt::DescendingOrder,
+                       viewportTransform());
+    if (SpearItem *const spear = spearOfItem(under.value(0))) {
+        spear->setSelected(true);
+        Q_EMIT rightClicked(spear);
+        return;
+    }
+    const QPointer<GraphicsView> alive(this);
+    QGraphicsView::contextMenuEvent(event);
+    if (alive)
+        Q_EMIT rightClicked(nullptr);
+}
+
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+void GraphicsView::enterEvent(QEnterEvent *event)
+#else
+void GraphicsView::enterEvent(QEvent *event)
+#endif
+{
+    QGraphicsView::enterEvent(event);
+    viewport()->setCursor(Qt::ArrowCursor);
+}

@@ -1,0 +1,87 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QGraphicsView>
+#include <QModelIndex>
+
+#include <fishbone/fishbone_export.h>
+#include <fishbone/items/spearpointer.h>
+
+class FishEditor;
+class FishScene;
+class QMimeData;
+class TreeItem;
+
+/// The editor's view. Besides scrolling by hand and selecting by click it moves subjects: a left
+/// press fades the selected spears, moving the mouse marks the spear under the cursor as the target
+/// together with the row at which they would land, and the release asks the editor, through
+/// moveSpear(), to carry out the move. Drags from other views are shown and reported the same way
+/// through dropTo(). Ctrl and the wheel zoom; a right click asks for the context menu.
+///
+/// Spears that die or are rebuilt while a button is held are forgotten.
+class FISHBONE_EXPORT GraphicsView : public QGraphicsView
+{
+    Q_OBJECT
+
+public:
+    /// A view without a parent widget, for \a editor, which must outlive it.
+    explicit GraphicsView(FishEditor *editor);
+
+    /// The spear shown as the target of a move or drop; null when there is none.
+    SpearItem *linkedSpear() const { return m_linkedSpear.get(); }
+
+    /// The row below linkedSpear() at which \a moving would be inserted when released at \a pos
+    /// (viewport coordinates). \a moving may be null. 0 without a linked spear.
+    int insertRow(const QPoint &pos, SpearItem *moving) const;
+
+Q_SIGNALS:
+    /// The context menu is wanted for \a item, a SpearItem, or for the canvas (null).
+    void rightClicked(void *item);
+    /// Moving subjects with the mouse has ended over \a target (invalid: over none that may take
+    /// them), where they would be inserted at \a row.
+    void moveSpear(const QPoint &pos, const QList<QGraphicsItem *> &items,
+                   const QModelIndex &target, int row);
+    /// \a data was dropped on \a target; it would be inserted at \a row. The data is a copy that
+    /// lives until receivers with a queued connection have been called as well.
+    void dropTo(const QMimeData *data, const QModelIndex &target, int row);
+    /// Declared for the host; the view never emits it.
+    void spearItemClicked(SpearItem *spear);
+
+protected:
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
+    void wheelEvent(QWheelEvent *event) override;
+    void contextMenuEvent(QContextMenuEvent *event) override;
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dragMoveEvent(QDragMoveEvent *event) override;
+    void dragLeaveEvent(QDragLeaveEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+    void enterEvent(QEnterEvent *event) override;
+#else
+    void enterEvent(QEvent *event) override;
+#endif
+
+private:
+    QList<QGraphicsItem *> itemsAround(const QPoint &pos) const;
+    SpearItem *topmostSpearAround(const QPoint &pos) const;
+    QList<SpearItem *> livingSelection() const;
+    void beginMoving();
+    void endMoving();
+    void fade(SpearItem *spear, bool faded) const;
+    void markTarget(SpearItem *spear, const QPoint &pos, SpearItem *moving);
+    void unmarkTarget();
+    void releaseMovingItems(const QPoint &pos);
+
+    FishEditor *m_editor;
+    QList<SpearPointer> m_selected; ///< the selection at the last left press, in document order
+    QList<SpearPointer> m_moving;   ///< those of m_selected without a selected ancestor
+    SpearPointer m_linkedSpear;
+    SpearPointer m_pressedSpear;
+    int m_dropRow = 0;
+    bool m_pressed = false;
+};

@@ -1,0 +1,77 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+// The part of GraphicsView that takes drags from other views.
+
+#include <fishbone/editor/graphicsview.h>
+
+#include <memory>
+#include <utility>
+
+#include <QDebug>
+#include <QDragEnterEvent>
+#include <QMimeData>
+
+#include <fishbone/editor/fisheditor.h>
+#include <fishbone/items/spearitem.h>
+
+namespace {
+/// A copy of \a data that is deleted when the events posted so far have been handled.
+QMimeData *copyForQueuedReceivers(const QMimeData &data)
+{
+    auto copy = std::make_unique<QMimeData>();
+    const QStringList formats = data.formats();
+    for (const QString &format : formats)
+        copy->setData(format, data.data(format));
+    copy->deleteLater();
+    return copy.release();
+}
+} // namespace
+
+void GraphicsView::dragEnterEvent(QDragEnterEvent *event)
+{
+    unmarkTarget();
+    m_dropRow = 0;
+    event->acceptProposedAction();
+}
+
+void GraphicsView::dragMoveEvent(QDragMoveEvent *event)
+{
+    const TreeItem *const dragged = m_editor->treeItemFromMimeData(event->mimeData());
+    if (!dragged) {
+        unmarkTarget();
+        event->ignore();
+        return;
+    }
+    SpearItem *const spear = topmostSpearAround(event->pos());
+    if (!spear) {
+        unmarkTarget();
+        event->acceptProposedAction();
+        return;
+    }
+    const TreeItem *const subject = spear->treeItem();
+    if (!subject || subject == dragged || dragged->isAncestorOf(subject)) {
+        unmarkTarget();
+        event->ignore();
+        return;
+    }
+    markTarget(spear, event->pos(), dragged->spear());
+    event->acceptProposedAction();
+}
+
+void GraphicsView::dragLeaveEvent(QDragLeaveEvent *event)
+{
+    event->accept();
+}
+
+void GraphicsView::dropEvent(QDropEvent *event)
+{
+    qDebug() << "GraphicsView::dropEvent";
+    event->acceptProposedAction();
+    SpearItem *const target = m_linkedSpear.get();
+    if (!target)
+        return;
+    const int row = std::exchange(m_dropRow, 0);
+    unmarkTarget();
+    Q_EMIT dropTo(copyForQueuedReceivers(*event->mimeData()), m_editor->spearIndex(target), row);
+}

@@ -1,0 +1,505 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#include <QFile>
+#include <QGraphicsSceneMouseEvent>
+#include <QHBoxLayout>
+#include <QMenu>
+#include <QMimeData>
+#include <QPointer>
+#include <QStandardItemModel>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <QtTest>
+
+#include <fishbone/items/expanditem.h>
+#include <fishbone/undo/undostack.h>
+#include <tests/support/drawingtext.h>
+#include <tests/support/editorfixture.h>
+#include <tests/support/signalrecorder.h>
+
+using namespace TestSupport;
+
+class TestFishEditorConstruction : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void shouldTakeTheParentItIsGiven();
+    void shouldBeASunkenStyledPanel();
+    void shouldShowNothingAtFirst();
+    void shouldHoldItsViewAloneInAHorizontalLayout();
+    void shouldOwnItsScene();
+    void shouldOwnItsUndoStack();
+    void shouldReportWhetherAnythingIsSelected();
+    void shouldCarryOutAMoveAtOnce();
+    void shouldCarryOutADropWhenTheDragHasEnded();
+    void shouldAnswerARightClickWithAMenu();
+    void shouldServeExpandButtonsThatNoEditorShows();
+    void shouldAutosaveEveryThirtySeconds();
+    void shouldGoOnAutosaving();
+    void shouldAutosaveTheShownDocument();
+    void shouldAutosaveNothingWithoutADocument();
+    void shouldStoreTheModelAndShowNothingOfIt();
+    void shouldKeepTheDrawingWhenTheModelIsReplaced();
+    void shouldConnectAModelOnce();
+    void shouldGoOnListeningToAnEarlierModel();
+    void shouldTellTheTypeOfItsModel();
+    void shouldAnswerWithoutAModel();
+    void shouldAnswerWithAModelOfAnotherKind();
+    void shouldTellWhereASpearsSubjectStands();
+    void shouldFindTheDocumentOfWhatItShows();
+    void shouldMarkTheShownDocumentOnly();
+};
+
+namespace
+{
+/// A model that tells how many receivers a signal has.
+class CountingModel : public FishModel
+{
+public:
+    int listeners() const
+    {
+        return receivers(SIGNAL(dataChanged(QModelIndex, QModelIndex, QVector<int>)));
+    }
+    int allListeners() const
+    {
+        return listeners() + receivers(SIGNAL(modelReset()))
+            + receivers(SIGNAL(layoutChanged(QList<QPersistentModelIndex>,
+                                             QAbstractItemModel::LayoutChangeHint)))
+            + receivers(SIGNAL(rowsAboutToBeRemoved(QModelIndex, int, int)))
+            + receivers(SIGNAL(rowsInserted(QModelIndex, int, int)))
+            + receivers(SIGNAL(rowsMoved(QModelIndex, int, int, QModelIndex, int)))
+            + receivers(SIGNAL(destroyed(QObject *)));
+    }
+};
+
+/// A payload as a tree view of the model drags it.
+std::unique_ptr<QMimeData> dragged(const FishModel &model, const QModelIndex &index)
+{
+    return std::unique_ptr<QMimeData>(model.mimeData({index}));
+}
+
+QTimer *autosaveTimer(const FishEditor &editor)
+{
+    const auto timers = editor.findChildren<QTimer *>(QString(), Qt::FindDirectChildrenOnly);
+    return timers.size() == 1 ? timers.first() : nullptr;
+}
+
+QString effect()
+{
+    return QStringLiteral("Effect[Man[Training],Machine]");
+}
+} // namespace
+
+void TestFishEditorConstruction::shouldTakeTheParentItIsGiven()
+{
+    QWidget parent;
+
+    QCOMPARE(FishEditor().parentWidget(), nullptr);
+    QCOMPARE((new FishEditor(&parent))->parentWidget(), &parent);
+}
+
+void TestFishEditorConstruction::shouldBeASunkenStyledPanel()
+{
+    const FishEditor editor;
+
+    QCOMPARE(editor.frameStyle(), 54);
+    QCOMPARE(editor.frameShape(), QFrame::StyledPanel);
+    QCOMPARE(editor.frameShadow(), QFrame::Sunken);
+}
+
+void TestFishEditorConstruction::shouldShowNothingAtFirst()
+{
+    const FishEditor editor;
+
+    QVERIFY(!editor.rootIndex().isValid());
+    QVERIFY(!editor.headSpear());
+    QVERIFY(!editor.model());
+    QVERIFY(!editor.currentFishInfo());
+    QVERIFY(editor.scene()->items().isEmpty());
+    QVERIFY(!editor.hasSelection());
+    QVERIFY(!editor.hasClipBoardData());
+    QVERIFY(!editor.isModified());
+    QVERIFY(!editor.canUndo());
+    QVERIFY(!editor.canRedo());
+    QCOMPARE(editor.zoomValue(), 250);
+    QCOMPARE(editor.rotateValue(), 0);
+    QCOMPARE(editor.view()->transform(), QTransform());
+}
+
+void TestFishEditorConstruction::shouldHoldItsViewAloneInAHorizontalLayout()
+{
+    const FishEditor editor;
+
+    QVERIFY(qobject_cast<QHBoxLayout *>(editor.layout()));
+    QCOMPARE(editor.layout()->count(), 1);
+    QCOMPARE(editor.layout()->itemAt(0)->widget(), editor.view());
+    QCOMPARE(editor.view()->parentWidget(), &editor);
+}
+
+void TestFishEditorConstruction::shouldOwnItsScene()
+{
+    auto editor = std::make_unique<FishEditor>();
+    const QPointer<FishScene> scene = editor->scene();
+    QVERIFY(scene);
+    QCOMPARE(scene->parent(), nullptr);
+    QCOMPARE(editor->view()->scene(), scene);
+    QCOMPARE(scene->currentGraphicsView(), editor->view());
+
+    editor.reset();
+
+    QVERIFY(!scene);
+}
+
+void TestFishEditorConstruction::shouldOwnItsUndoStack()
+{
+    auto editor = std::make_unique<FishEditor>();
+    const QPointer<UndoStack> stack = editor->undoStack();
+    QCOMPARE(stack->parent(), editor.get());
+
+    editor.reset();
+
+    QVERIFY(!stack);
+}
+
+void TestFishEditorConstruction::shouldReportWhetherAnythingIsSelected()
+{
+    EditorFixture fish(effect());
+    SignalRecorder recorder(fish.editor);
+
+    fish.spear(QStringLiteral("Man"))->setSelected(true);
+    QCOMPARE(recorder.take(), QStringLiteral("copyAvailable(true)"));
+    fish.spear(QStringLiteral("Machine"))->setSelected(true);
+    QCOMPARE(recorder.take(), QStringLiteral("copyAvailable(true)"));
+    fish.editor.scene()->clearSelection();
+    QCOMPARE(recorder.take(), QStringLiteral("copyAvailable(false)"));
+}
+
+void TestFishEditorConstruction::shouldCarryOutAMoveAtOnce()
+{
+    EditorFixture fish(effect());
+    SpearItem *const man = fish.spear(QStringLiteral("Man"));
+    man->setPos(40, 50);
+
+    // No target: the drawing goes back to where it was.
+    Q_EMIT fish.editor.view()->moveSpear(QPoint(), {man}, QModelIndex(), 0);
+
+    QCOMPARE(man->pos(), QPointF(0, 0));
+}
+
+void TestFishEditorConstruction::shouldCarryOutADropWhenTheDragHasEnded()
+{
+    EditorFixture fish(effect());
+    const auto payload = dragged(fish.model, fish.index(QStringLiteral("Machine")));
+
+    Q_EMIT fish.editor.view()->dropTo(payload.get(), fish.index(QStringLiteral("Man")), 0);
+    QCOMPARE(treeToText(*fish.subject(QStringLiteral("Effect"))), effect());
+
+    QTRY_COMPARE(treeToText(*fish.subject(QStringLiteral("Effect"))),
+                 QStringLiteral("Effect[Man[Machine,Training]]"));
+}
+
+void TestFishEditorConstruction::shouldAnswerARightClickWithAMenu()
+{
+    EditorFixture fish(effect());
+    int entries = 0;
+    QTimer closer;
+    connect(&closer, &QTimer::timeout, &closer, [&entries] {
+        if (auto *const menu = qobject_cast<QMenu *>(QApplication::activePopupWidget())) {
+            entries = menu->actions().count();
+            menu->close();
+        }
+    });
+    closer.start(2);
+
+    Q_EMIT fish.editor.view()->rightClicked(fish.spear(QStringLiteral("Man")));
+
+    QCOMPARE(entries, 3);
+}
+
+void TestFishEditorConstruction::shouldServeExpandButtonsThatNoEditorShows()
+{
+    FishModel model;
+    loadDocument(model, effect());
+    FishEditor first;
+    first.setModel(nullptr);
+    FishEditor last;
+    last.setModel(&model);
+    const QModelIndex man = indexTitled(model, QStringLiteral("Man"));
+    QGraphicsScene scene;
+    auto *const spear = new SpearItem(QStringLiteral("Man"), 1, 20);
+    scene.addItem(spear);
+    nodeTitled(model, QStringLiteral("Man"))->setSpear(spear, man);
+    auto *const button = new ExpandItem(spear);
+    spear->setExpandBuddy(button);
+
+    QGraphicsSceneMouseEvent press(QEvent::GraphicsSceneMousePress);
+    press.setButton(Qt::LeftButton);
+    scene.sendEvent(button, &press);
+
+    QCOMPARE(spear->childCount(), 1);
+    QCOMPARE(spear->childSpear(0)->text(), QStringLiteral("Training"));
+}
+
+void TestFishEditorConstruction::shouldAutosaveEveryThirtySeconds()
+{
+    const FishEditor editor;
+
+    const QTimer *const timer = autosaveTimer(editor);
+    QVERIFY(timer);
+    QCOMPARE(timer->interval(), 30000);
+    QVERIFY(timer->isActive());
+    QVERIFY(!timer->isSingleShot());
+}
+
+void TestFishEditorConstruction::shouldGoOnAutosaving()
+{
+    const QTemporaryDir folder;
+    const QString file = folder.filePath(QStringLiteral("saved"));
+    EditorFixture fish(effect());
+    fish.info->setAutoSaveFile(file);
+
+    autosaveTimer(fish.editor)->start(1);
+
+    for (int round = 0; round < 3; ++round) {
+        QTRY_VERIFY(QFile::exists(file));
+        // In between, so that each round needs an autosave of its own.
+        QVERIFY(QFile::remove(file));
+    }
+}
+
+void TestFishEditorConstruction::shouldAutosaveTheShownDocument()
+{
+    const QTemporaryDir folder;
+    EditorFixture fish(effect());
+    FishInfo *const other = loadDocument(fish.model, QStringLiteral("Other[Bone[Branch]]"));
+    fish.info->setAutoSaveFile(folder.filePath(QStringLiteral("first")));
+    other->setAutoSaveFile(folder.filePath(QStringLiteral("second")));
+    // A subject inside the document stands for the document as well.
+    fish.editor.setRootIndex(fish.index(QStringLiteral("Bone")));
+
+    fish.editor.saveTmpFile();
+
+    QVERIFY(!QFile::exists(folder.filePath(QStringLiteral("first"))));
+    QFile saved(folder.filePath(QStringLiteral("second")));
+    QVERIFY(saved.open(QIODevice::ReadOnly));
+    FishModel again;
+    QVERIFY(again.loadJsonFish(saved.readAll()));
+    QCOMPARE(treeToText(*again.getFishHeadTreeItem()), QStringLiteral("Other[Bone[Branch]]"));
+}
+
+void TestFishEditorConstruction::shouldAutosaveNothingWithoutADocument()
+{
+    FishModel model;
+    loadDocument(model, effect());
+    FishEditor editor;
+    const QString folder = QCoreApplication::applicationDirPath() + QStringLiteral("/tmp");
+    QVERIFY(!QFile::exists(folder));
+
+    editor.saveTmpFile();
+    editor.setModel(&model);
+    editor.saveTmpFile();
+
+    QVERIFY(!QFile::exists(folder));
+}
+
+void TestFishEditorConstruction::shouldStoreTheModelAndShowNothingOfIt()
+{
+    FishModel model;
+    loadDocument(model, effect());
+    FishEditor editor;
+
+    editor.setModel(&model);
+
+    QCOMPARE(editor.model(), &model);
+    QVERIFY(!editor.rootIndex().isValid());
+    QVERIFY(editor.scene()->items().isEmpty());
+}
+
+void TestFishEditorConstruction::shouldKeepTheDrawingWhenTheModelIsReplaced()
+{
+    EditorFixture fish(effect());
+    FishModel other;
+    const QStringList drawn = drawingText(fish.editor.headSpear());
+
+    fish.editor.setModel(&other);
+
+    QCOMPARE(fish.editor.model(), &other);
+    QCOMPARE(fish.editor.rootIndex(), fish.index(QStringLiteral("Effect")));
+    QCOMPARE(drawingText(fish.editor.headSpear()), drawn);
+}
+
+void TestFishEditorConstruction::shouldConnectAModelOnce()
+{
+    CountingModel model;
+    loadDocument(model, effect());
+    FishEditor editor;
+    QCOMPARE(model.listeners(), 0);
+
+    editor.setModel(&model);
+    QCOMPARE(model.listeners(), 1);
+    const int all = model.allListeners();
+    editor.setModel(&model);
+    editor.setModel(&model);
+
+    QCOMPARE(model.listeners(), 1);
+    QCOMPARE(model.allListeners(), all);
+}
+
+void TestFishEditorConstruction::shouldGoOnListeningToAnEarlierModel()
+{
+    CountingModel model;
+    FishInfo *const info = loadDocument(model, effect());
+    CountingModel other;
+    FishEditor editor;
+    editor.setModel(&model);
+
+    editor.setModel(&other);
+    QCOMPARE(model.listeners(), 1);
+    editor.setModel(nullptr);
+    QCOMPARE(model.listeners(), 1);
+    QCOMPARE(other.listeners(), 1);
+    QVERIFY(!editor.model());
+
+    // What it hears is acted on: the document that is shown again is marked.
+    editor.setModel(&other);
+    editor.setModel(&model);
+    editor.setRootIndex(model.index(0, 0));
+    model.setData(model.index(0, 0), QStringLiteral("Cause"));
+    QVERIFY(info->modified());
+}
+
+void TestFishEditorConstruction::shouldTellTheTypeOfItsModel()
+{
+    FishModel model;
+    FishEditor editor;
+    QCOMPARE(editor.modelType(), 0);
+
+    editor.setModel(&model);
+    QCOMPARE(editor.modelType(), 0);
+    model.setModelType(FISH_MODEL_DIAGRAM);
+    QCOMPARE(editor.modelType(), 1);
+    model.setModelType(static_cast<FISH_MODEL_TYPE>(7));
+    QCOMPARE(editor.modelType(), 7);
+    editor.setModel(nullptr);
+    QCOMPARE(editor.modelType(), 0);
+}
+
+namespace
+{
+/// Everything that needs a diagram, on an editor that has none.
+void useEverything(FishEditor &editor, const QModelIndex &index)
+{
+    editor.setRootIndex(index);
+    editor.loadFish(index);
+    editor.generateSpear(editor.model(), index);
+    editor.generateAllSubSpear(editor.model(), index);
+    editor.generateSpear(index, 1, 0, nullptr);
+    editor.updateFish(false);
+    editor.updateFish(true);
+    editor.refreshFish();
+    editor.updateSpearSize();
+    editor.updateSpearPostion();
+    editor.expandAll();
+    editor.contractAll();
+    editor.modifyExpand();
+    editor.modifyContract();
+    editor.modifyExpandAll();
+    editor.modifyContractAll();
+    editor.centerView(index);
+    editor.ensureVisible(index);
+    editor.showEntire();
+    editor.showSelected();
+    editor.modelDataChanged(index, index);
+    editor.setModified(true);
+    editor.saveTmpFile();
+}
+} // namespace
+
+void TestFishEditorConstruction::shouldAnswerWithoutAModel()
+{
+    FishModel foreign;
+    loadDocument(foreign, effect());
+    FishEditor editor;
+
+    useEverything(editor, QModelIndex());
+    useEverything(editor, foreign.index(0, 0));
+
+    QVERIFY(!editor.headSpear());
+    QVERIFY(!editor.rootIndex().isValid());
+    QVERIFY(editor.scene()->items().isEmpty());
+    QVERIFY(!nodeTitled(foreign, QStringLiteral("Effect"))->spear());
+}
+
+void TestFishEditorConstruction::shouldAnswerWithAModelOfAnotherKind()
+{
+    QStandardItemModel model(3, 1);
+    FishEditor editor;
+    editor.setModel(&model);
+
+    useEverything(editor, model.index(1, 0));
+
+    QCOMPARE(editor.model(), &model);
+    QCOMPARE(editor.modelType(), 0);
+    QVERIFY(!editor.headSpear());
+    QVERIFY(!editor.currentFishInfo());
+    QVERIFY(editor.scene()->items().isEmpty());
+}
+
+void TestFishEditorConstruction::shouldTellWhereASpearsSubjectStands()
+{
+    EditorFixture fish(effect());
+    const SpearItem unlinked(QStringLiteral("x"), 0, 20);
+
+    QCOMPARE(fish.editor.spearIndex(fish.spear(QStringLiteral("Machine"))),
+             fish.index(QStringLiteral("Machine")));
+    QVERIFY(!fish.editor.spearIndex(nullptr).isValid());
+    QVERIFY(!fish.editor.spearIndex(const_cast<SpearItem *>(&unlinked)).isValid());
+}
+
+void TestFishEditorConstruction::shouldFindTheDocumentOfWhatItShows()
+{
+    EditorFixture fish(effect());
+    FishInfo *const other = loadDocument(fish.model, QStringLiteral("Other[Bone[Branch[Twig]]]"));
+    QCOMPARE(fish.editor.currentFishInfo(), fish.info);
+
+    fish.editor.setRootIndex(fish.index(QStringLiteral("Branch")));
+    QCOMPARE(fish.editor.currentFishInfo(), other);
+
+    // Another document in front moves the row, not the answer.
+    fish.model.insertRows(0, 1);
+    QCOMPARE(fish.editor.currentFishInfo(), other);
+
+    FishModel unrelated;
+    loadDocument(unrelated, QStringLiteral("A"));
+    loadDocument(unrelated, QStringLiteral("B"));
+    loadDocument(unrelated, QStringLiteral("C"));
+    fish.editor.setModel(&unrelated);
+    QCOMPARE(fish.editor.currentFishInfo(), nullptr);
+    fish.editor.setModel(nullptr);
+    QCOMPARE(fish.editor.currentFishInfo(), nullptr);
+}
+
+void TestFishEditorConstruction::shouldMarkTheShownDocumentOnly()
+{
+    EditorFixture fish(effect());
+    FishInfo *const other = loadDocument(fish.model, QStringLiteral("Other[Bone]"));
+    QVERIFY(!fish.editor.isModified());
+
+    fish.editor.setModified(true);
+    QVERIFY(fish.editor.isModified());
+    QVERIFY(fish.info->modified());
+    QVERIFY(!other->modified());
+
+    fish.editor.setRootIndex(fish.index(QStringLiteral("Other")));
+    QVERIFY(!fish.editor.isModified());
+    fish.info->setModified(false);
+    other->setModified(true);
+    QVERIFY(fish.editor.isModified());
+    fish.editor.setModified(false);
+    QVERIFY(!other->modified());
+}
+
+QTEST_MAIN(TestFishEditorConstruction)
+#include "tst_fisheditor_construction.moc"
