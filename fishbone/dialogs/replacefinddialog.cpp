@@ -172,5 +172,5 @@ void ReplaceFindDialog::replace()
 
 void ReplaceFindDialog::replaceAll()
 {
-    // Nothing to compute for one match alone, and nothing may be changed, as in replace().
+    // As in replace(), the model is not changed from here.
 }

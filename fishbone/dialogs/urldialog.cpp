@@ -4,11 +4,11 @@
 #include <fishbone/dialogs/urldialog.h>
 
 #include <fishbone/dialogs/modalanswer.h>
+#include <fishbone/model/filereplacement.h>
 
 #include <QComboBox>
 #include <QCompleter>
 #include <QFile>
-#include <QFileInfo>
 #include <QGridLayout>
 #include <QGuiApplication>
 #include <QHBoxLayout>
@@ -16,7 +16,6 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QSaveFile>
 #include <QStringList>
 
 namespace {
@@ -51,26 +50,11 @@ QByteArray textFromUrls(const QComboBox *urls)
     return text.toUtf8();
 }
 
-/// Opens the file and hands the whole content on to the system. What stays in the buffer until a
-/// file is closed or committed could fail without a report.
-bool write(QFileDevice &file, const QByteArray &content)
-{
-    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.flush();
-}
-
-/// Replaces the content of a file, whole or not at all; returns what went wrong, if anything.
+/// Replaces the content of a file under the wait cursor; returns what went wrong, if anything.
 QString replaceContent(const QString &fileName, const QByteArray &content)
 {
     const WaitCursor cursor;
-    const QFileInfo target(fileName);
-    if (target.exists() && !target.isFile()) {
-        // Replacing a device or a pipe would remove it.
-        QFile file(fileName);
-        return write(file, content) ? QString() : file.errorString();
-    }
-    QSaveFile file(fileName);
-    file.setDirectWriteFallback(true);
-    return write(file, content) && file.commit() ? QString() : file.errorString();
+    return replaceFile(fileName, content);
 }
 
 } // namespace

@@ -19,7 +19,6 @@
 
 namespace {
 constexpr qreal fadedOpacity = 0.2;
-constexpr int wheelZoomStep = 6;
 
 SpearItem *toSpear(QGraphicsItem *item)
 {
@@ -62,6 +61,7 @@ GraphicsView::GraphicsView(FishEditor *editor)
     setOptimizationFlag(DontSavePainterState);
     setViewportUpdateMode(SmartViewportUpdate);
     setTransformationAnchor(AnchorUnderMouse);
+    viewport()->grabGesture(Qt::PinchGesture);
 }
 
 QList<QGraphicsItem *> GraphicsView::itemsAround(const QPoint &pos) const
@@ -148,11 +148,12 @@ void GraphicsView::fade(SpearItem *spear, bool faded) const
 
 void GraphicsView::markTarget(SpearItem *spear, const QPoint &pos, SpearItem *moving)
 {
-    if (spear == m_linkedSpear.get())
-        return;
-    unmarkTarget();
+    if (spear != m_linkedSpear.get())
+        unmarkTarget();
     m_linkedSpear = spear;
     m_dropRow = insertRow(pos, moving);
+    if (spear->isLinked() && spear->linkNumber() == m_dropRow)
+        return;
     spear->setLinked(true, m_dropRow);
     repaintSpear(spear);
 }
@@ -210,8 +211,14 @@ void GraphicsView::mouseReleaseEvent(QMouseEvent *event)
 {
     qDebug() << "GraphicsView::mouseReleaseEvent" << event;
     const QPointer<GraphicsView> alive(this);
-    if (event->button() == Qt::LeftButton && m_pressed)
-        releaseMovingItems(event->pos());
+    if (event->button() == Qt::LeftButton) {
+        // Nothing stays faded or marked, also when another button has ended the gesture before.
+        SpearItem *const target = m_linkedSpear.get();
+        endMoving();
+        unmarkTarget();
+        if (m_pressed)
+            reportMove(event->pos(), target);
+    }
     if (!alive)
         return;
     m_pressed = false;
@@ -221,11 +228,8 @@ void GraphicsView::mouseReleaseEvent(QMouseEvent *event)
         viewport()->setCursor(Qt::ArrowCursor);
 }
 
-void GraphicsView::releaseMovingItems(const QPoint &pos)
+void GraphicsView::reportMove(const QPoint &pos, SpearItem *target)
 {
-    endMoving();
-    SpearItem *const target = m_linkedSpear.get();
-    unmarkTarget();
     const QList<SpearItem *> selected = livingSelection();
     if (selected.isEmpty())
         return;
@@ -247,6 +251,10 @@ void GraphicsView::mouseDoubleClickEvent(QMouseEvent *event)
 
 void GraphicsView::wheelEvent(QWheelEvent *event)
 {
+    if (isTouchpadScroll(*event)) {
+        followTouchpad(*event);
+        return;
+    }
     if (!event->modifiers().testFlag(Qt::ControlModifier)) {
         QApplication::sendEvent(horizontalScrollBar(), event);
         return;

@@ -18,7 +18,8 @@ class TreeItem;
 /// press fades the selected spears, moving the mouse marks the spear under the cursor as the target
 /// together with the row at which they would land, and the release asks the editor, through
 /// moveSpear(), to carry out the move. Drags from other views are shown and reported the same way
-/// through dropTo(). Ctrl and the wheel zoom; a right click asks for the context menu.
+/// through dropTo(). The wheel scrolls sideways and zooms with Ctrl; two fingers on a touchpad
+/// scroll both ways, a pinch zooms. A right click asks for the context menu.
 ///
 /// Spears that die or are rebuilt while a button is held are forgotten.
 class FISHBONE_EXPORT GraphicsView : public QGraphicsView
@@ -50,6 +51,7 @@ Q_SIGNALS:
     void spearItemClicked(SpearItem *spear);
 
 protected:
+    bool viewportEvent(QEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
@@ -67,6 +69,14 @@ protected:
 #endif
 
 private:
+    /// What a step of the wheel with Ctrl adds to the zoom value.
+    static constexpr int wheelZoomStep = 6;
+
+    static bool isTouchpadScroll(const QWheelEvent &event);
+    void followTouchpad(QWheelEvent &event);
+    void zoomSmoothly(double steps);
+    bool followPinch(QEvent &event);
+
     QList<QGraphicsItem *> itemsAround(const QPoint &pos) const;
     SpearItem *topmostSpearAround(const QPoint &pos) const;
     QList<SpearItem *> livingSelection() const;
@@ -75,7 +85,7 @@ private:
     void fade(SpearItem *spear, bool faded) const;
     void markTarget(SpearItem *spear, const QPoint &pos, SpearItem *moving);
     void unmarkTarget();
-    void releaseMovingItems(const QPoint &pos);
+    void reportMove(const QPoint &pos, SpearItem *target);
 
     FishEditor *m_editor;
     QList<SpearPointer> m_selected; ///< the selection at the last left press, in document order
@@ -83,5 +93,6 @@ private:
     SpearPointer m_linkedSpear;
     SpearPointer m_pressedSpear;
     int m_dropRow = 0;
+    double m_zoomRemainder = 0; ///< what smooth zooming has asked for beyond whole steps
     bool m_pressed = false;
 };

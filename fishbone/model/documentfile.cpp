@@ -6,7 +6,6 @@
 #include <QDateTime>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 
 #include <algorithm>
 
@@ -26,27 +25,9 @@ bool isForbiddenInNames(QChar c)
 #endif
 }
 
-bool writeInPlace(const QString &fileName, const QByteArray &content)
-{
-    QFile file(fileName);
-    return file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) &&
-           file.write(content) == content.size();
-}
-
 } // namespace
 
 namespace DocumentFile {
-
-bool replace(const QString &fileName, const QByteArray &content)
-{
-    const QFileInfo target(fileName);
-    if (target.exists() && !target.isFile())
-        return writeInPlace(fileName, content); // replacing a device would remove it
-    QSaveFile file(fileName);
-    file.setDirectWriteFallback(true);
-    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size() &&
-           file.commit();
-}
 
 void makeEmpty(const QString &fileName)
 {

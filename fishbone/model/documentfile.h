@@ -3,17 +3,10 @@
 
 #pragma once
 
-class QByteArray;
 class QString;
 
 /** How documents reach the disk, and how autosave names its files. */
 namespace DocumentFile {
-
-/**
- * Writes @p content to @p fileName, whole or not at all. A link is followed, permissions stay. In a
- * folder that is not writable, and on a device, it is written in place. False when it failed.
- */
-bool replace(const QString &fileName, const QByteArray &content);
 
 /** Makes @p fileName an empty file. */
 void makeEmpty(const QString &fileName);

@@ -4,6 +4,7 @@
 #include <fishbone/model/fishinfo.h>
 
 #include <fishbone/model/documentfile.h>
+#include <fishbone/model/filereplacement.h>
 #include <fishbone/model/fishmodel.h>
 #include <fishbone/model/jsonnodes.h>
 #include <fishbone/model/systemhelper.h>
@@ -125,7 +126,7 @@ bool FishInfo::saveFile(const QString &fileName)
         qDebug() << "FishInfo::saveFile: the diagram nests too deep to be read again";
         return false;
     }
-    return DocumentFile::replace(fileName, text);
+    return replaceFile(fileName, text).isEmpty();
 }
 
 bool FishInfo::save()

@@ -151,7 +151,7 @@ void SubtreeMatches::rowsGoing(const QModelIndex &parent, int first, int last)
         return;
     m_matchGoes = false;
     for (int row = first; row <= last && !m_matchGoes; ++row)
-        m_matchGoes = known(m_source->index(row, 0, parent)) == Answer::Yes;
+        m_matchGoes = contains(m_source->index(row, 0, parent));
     forget(parent, first, last);
 }
 

@@ -3,6 +3,7 @@
 
 #include <fishbone/style/spearstyle.h>
 
+#include <fishbone/model/filereplacement.h>
 #include <fishbone/model/systemhelper.h>
 
 #include <QCoreApplication>
@@ -12,7 +13,6 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QPen>
-#include <QSaveFile>
 
 namespace {
 
@@ -243,11 +243,5 @@ void SpearStyle::saveGlobal()
         return;
     QJsonObject object;
     global()->write(object);
-    const QByteArray text = QJsonDocument(object).toJson();
-    QSaveFile file(spearStyleFilePath());
-    file.setDirectWriteFallback(true);
-    if (!file.open(QIODevice::WriteOnly))
-        return;
-    file.write(text);
-    file.commit();
+    replaceFile(spearStyleFilePath(), QJsonDocument(object).toJson());
 }

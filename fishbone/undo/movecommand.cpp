@@ -36,8 +36,9 @@ struct Move
 
 struct EditMove::Private
 {
-    bool carryOut(Move &move, TreeItem *subject, TreeItem *to);
+    bool carryOut(Move &move, TreeItem *to, SubjectFinder &finder);
     void takeBack(Move &move, SubjectFinder &finder);
+    void follow(TreeItem *subject, const FishInfo *formerDocument, SubjectFinder &finder);
     void completeSpears();
 
     QPointer<FishModel> model;
@@ -47,12 +48,20 @@ struct EditMove::Private
     bool wasMoved = false; // so that a row that is too great now was not so from the beginning
     std::vector<Move> moves;
     QList<int> sourceRows;
-    QSet<TreeItem *> newParents; // within one redo() or undo()
+    // Within one redo() or undo():
+    QSet<const TreeItem *> moved;
+    QSet<TreeItem *> newParents;
 };
 
-bool EditMove::Private::carryOut(Move &move, TreeItem *subject, TreeItem *to)
+/** Moves the subject that @p move names; false when it is not there or the model refuses. */
+bool EditMove::Private::carryOut(Move &move, TreeItem *to, SubjectFinder &finder)
 {
-    move.name.document = model->fishOf(subject);
+    TreeItem *const subject = model ? finder.findNamed(move.name, moved) : nullptr;
+    sourceRows.append(subject ? model->indexFromItem(subject).row() : -1);
+    if (!subject)
+        return false;
+    FishInfo *const document = model->fishOf(subject);
+    move.name.document = document;
     move.name.node = subject;
     move.wasHead = subject->isTopVaildItem();
     move.parent = move.wasHead ? SubjectKey() : keyFromItem(*model, subject->parent());
@@ -62,28 +71,41 @@ bool EditMove::Private::carryOut(Move &move, TreeItem *subject, TreeItem *to)
     const int position = wasMoved ? qMin(row, rows) : row;
     if (!moveSubject(*model, subject, to, position, move.document) || !model)
         return false;
-    move.isMoved = true;
     move.subject = keyFromItem(*model, subject);
-    moveSpear(subject);
-    newParents.insert(subject->parent());
+    follow(subject, document, finder);
     return true;
 }
 
+/** Puts a subject back, unless it or its old parent is not there. */
 void EditMove::Private::takeBack(Move &move, SubjectFinder &finder)
 {
     TreeItem *const subject = finder.find(move.subject);
     TreeItem *const parent = move.wasHead ? nullptr : finder.find(move.parent);
-    if (!subject || (!parent && !move.wasHead) ||
-        !moveSubjectToRow(*model, subject, parent, move.row, move.document) || !model)
+    if (!subject || (!parent && !move.wasHead))
+        return;
+    const FishInfo *const document = model->fishOf(subject);
+    if (!moveSubjectToRow(*model, subject, parent, move.row, move.document) || !model)
         return;
     restorePid(*model, subject, move.pid);
+    if (model)
+        follow(subject, document, finder);
+}
+
+/** What else a move of @p subject entails. */
+void EditMove::Private::follow(TreeItem *subject, const FishInfo *formerDocument,
+                               SubjectFinder &finder)
+{
+    moved.insert(subject);
+    if (model->fishOf(subject) != formerDocument)
+        finder.add(subject);
     moveSpear(subject);
     newParents.insert(subject->parent());
 }
 
-/** Makes and orders the spears where subjects have come to. */
+/** Makes and orders the spears where subjects have come to, after the last move. */
 void EditMove::Private::completeSpears()
 {
+    moved.clear();
     for (TreeItem *parent : qAsConst(newParents)) {
         if (model)
             generateMissingSpears(*model, parent);
@@ -134,14 +156,9 @@ void EditMove::redo()
         keys.append(move.name);
     SubjectFinder finder(*model, keys);
     TreeItem *const to = findSubject(*model, m_d->target);
-    QSet<const TreeItem *> moved;
-    for (Move &move : m_d->moves) {
-        TreeItem *const subject = m_d->model ? finder.findNamed(move.name, moved) : nullptr;
-        m_d->sourceRows.append(subject ? model->indexFromItem(subject).row() : -1);
-        if (subject && m_d->carryOut(move, subject, to))
-            moved.insert(subject);
-    }
-    m_d->wasMoved = m_d->wasMoved || !moved.isEmpty();
+    for (Move &move : m_d->moves)
+        move.isMoved = m_d->carryOut(move, to, finder);
+    m_d->wasMoved = m_d->wasMoved || !m_d->moved.isEmpty();
     m_d->completeSpears();
 }
 

@@ -73,8 +73,8 @@ void nameSubjects(const FishModel &model, const QVector<SubjectKey> &keys);
 /**
  * Finds many subjects in one walk over the nodes.
  *
- * It looks at a document the first time it needs it, and holds for as long as subjects only move or
- * leave the model without being deleted; add() tells it what comes back.
+ * It looks at a document the first time it needs it, and holds for as long as subjects only move
+ * within their document or leave the model without being deleted; add() tells it of others.
  */
 class SubjectFinder
 {
@@ -88,7 +88,7 @@ public:
      * only ends with it, in any case.
      */
     TreeItem *findNamed(const SubjectKey &key, const QSet<const TreeItem *> &except);
-    /** Looks at @p subject and what is below it, which has come into the model. */
+    /** Looks at @p subject and what is below it, which has come into its document. */
     void add(TreeItem *subject);
 
 private:

@@ -14,21 +14,10 @@
 
 namespace {
 
-/** Makes the spears that the children of @p parent lack and queues those with children. */
-void generateChildSpears(const FishModel &model, const TreeItem &parent, QQueue<TreeItem *> &queue)
+/** Whether @p spear is the top of a drawing that somebody else than the one of @p parent shows. */
+bool headsAnotherDrawing(const SpearItem *spear, const SpearItem *parent)
 {
-    const QModelIndex index = model.indexFromItem(&parent);
-    const QList<TreeItem *> children = parent.children();
-    for (int row = 0; row < children.size(); ++row) {
-        TreeItem *const child = children.at(row);
-        if (child->spear())
-            continue;
-        SpearItem *const spear =
-            makeSpear(model, model.index(row, 0, index), 0, parent.spear()->spearSize());
-        spear->setParentItem(parent.spear());
-        if (child->childCount() > 0)
-            queue.enqueue(child);
-    }
+    return spear && !spear->parentItem() && spear->scene() != parent->scene();
 }
 
 /** Leaves the spears of @p subject and of everything below it without their subjects. */
@@ -38,6 +27,25 @@ void unlinkSpears(TreeItem *subject)
         below->setSpear(nullptr, QModelIndex());
         return true;
     });
+}
+
+/** Makes the spears that the children of @p parent lack and queues those with children. */
+void generateChildSpears(const FishModel &model, const TreeItem &parent, QQueue<TreeItem *> &queue)
+{
+    const QModelIndex index = model.indexFromItem(&parent);
+    const QList<TreeItem *> children = parent.children();
+    for (int row = 0; row < children.size(); ++row) {
+        TreeItem *const child = children.at(row);
+        if (headsAnotherDrawing(child->spear(), parent.spear()))
+            unlinkSpears(child);
+        if (child->spear())
+            continue;
+        SpearItem *const spear =
+            makeSpear(model, model.index(row, 0, index), 0, parent.spear()->spearSize());
+        spear->setParentItem(parent.spear());
+        if (child->childCount() > 0)
+            queue.enqueue(child);
+    }
 }
 
 } // namespace
@@ -70,7 +78,7 @@ void moveSpear(TreeItem *subject)
     if (!spear->parentItem()) {
         if (!parent)
             return;
-        if (spear->scene() != parent->scene()) {
+        if (headsAnotherDrawing(spear, parent)) {
             unlinkSpears(subject); // whoever shows that drawing still holds the spear
             return;
         }

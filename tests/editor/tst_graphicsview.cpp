@@ -346,9 +346,12 @@ void TestGraphicsView::shouldRestoreFadedSpearsAfterAnotherButton()
 void TestGraphicsView::shouldRestoreSpearsThatAnEarlierPressLeftFaded()
 {
     Stage stage;
-    stage.mouse.press(stage.tip("Method"));
+    stage.select({QStringLiteral("Method")});
+    stage.mouse.press(stage.nowhere());
+    QCOMPARE(stage.faded(), QStringLiteral("Method"));
     stage.select({QStringLiteral("Wear")});
 
+    // The release got lost.
     stage.mouse.press(stage.tip("Wear"));
 
     QCOMPARE(stage.faded(), QStringLiteral("Wear"));
@@ -373,12 +376,15 @@ void TestGraphicsView::shouldMarkWithinTenPixels_data()
     QTest::addColumn<QPoint>("offset");
     QTest::addColumn<bool>("isMarked");
 
-    // The square from (x - 5, y - 5) to (x + 4, y + 4), against an edge at x = 100 on the right of
-    // which everything belongs to the target.
+    // The pixels from x - 5 to x + 4, against a line of width 1 around x = 100.
     QTest::newRow("far to the left") << QPoint(-20, 0) << false;
-    QTest::newRow("just not") << QPoint(-6, 0) << false;
-    QTest::newRow("just") << QPoint(-3, 0) << true;
-    QTest::newRow("inside") << QPoint(5, 0) << true;
+    QTest::newRow("six to the left") << QPoint(-6, 0) << false;
+    QTest::newRow("five to the left") << QPoint(-5, 0) << true;
+    QTest::newRow("on the line") << QPoint(0, 0) << true;
+    QTest::newRow("five to the right") << QPoint(5, 0) << true;
+    QTest::newRow("six to the right") << QPoint(6, 0) << false;
+    QTest::newRow("five below its end") << QPoint(0, 155) << true;
+    QTest::newRow("six below its end") << QPoint(0, 156) << false;
 }
 
 void TestGraphicsView::shouldMarkWithinTenPixels()
@@ -389,13 +395,12 @@ void TestGraphicsView::shouldMarkWithinTenPixels()
     stage.editor.zoomFish(250);
     // A spear alone, its line vertical through x = 100 of the viewport.
     auto *const target = new SpearItem(QStringLiteral("x"), 0, 20);
-    stage.editor.scene()->addItem(target);
+    target->setParentItem(stage.editor.headSpear());
     const QPointF at = stage.view.mapToScene(100, 100);
     target->setLine(QLineF(at, at + QPointF(0, 200)));
     target->textItem()->setPos(at + QPointF(50, 300));
     stage.mouse.press(stage.tip("Method"));
 
-    // A line of width 1 covers half a pixel on either side.
     stage.mouse.move(QPoint(100, 150) + offset);
 
     QCOMPARE(target->isLinked(), isMarked);
@@ -536,12 +541,13 @@ void TestGraphicsView::shouldForgetMovedSpearsThatDie()
     stage.mouse.release(stage.tip("Matter"));
     QCOMPARE(stage.takeMoves(), QStringLiteral("Method to Matter row 0"));
 
-    stage.mouse.press(stage.tip("Method"));
-    stage.mouse.move(stage.tip("Matter"));
-    delete stage.spear("Method");
-    stage.mouse.release(stage.tip("Matter"));
-    QCOMPARE(stage.takeMoves(), QString());
-    QCOMPARE(stage.linked(), QString());
+    Stage another;
+    another.mouse.press(another.tip("Method"));
+    another.mouse.move(another.tip("Matter"));
+    delete another.spear("Method");
+    another.mouse.release(another.tip("Matter"));
+    QCOMPARE(another.takeMoves(), QString());
+    QCOMPARE(another.linked(), QString());
 }
 
 void TestGraphicsView::shouldForgetEverythingThatIsRebuilt()

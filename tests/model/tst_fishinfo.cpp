@@ -92,6 +92,7 @@ void TestFishInfo::shouldTakeTheCanonicalNameOfAFile()
     const QString path = folder.filePath(QStringLiteral("effect.json"));
     QFile file(path);
     QVERIFY(file.open(QIODevice::WriteOnly));
+    QVERIFY(QDir(folder.path()).mkdir(QStringLiteral("x")));
     QVERIFY(QFile::link(path, folder.filePath(QStringLiteral("link.json"))));
     FishInfo info;
     info.setModified(true);

@@ -11,6 +11,7 @@
 #include <tests/support/messagebox.h>
 #include <tests/support/modaldriver.h>
 
+#include <QDialogButtonBox>
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
@@ -97,6 +98,7 @@ private Q_SLOTS:
     void shouldReportFilesThatCannotBeWritten_data();
     void shouldReportFilesThatCannotBeWritten();
     void shouldFollowALinkAndKeepPermissions();
+    void shouldWriteInPlaceWhereTheFolderIsReadOnly();
     void shouldRefuseWhatCouldNotBeReadAgain_data();
     void shouldRefuseWhatCouldNotBeReadAgain();
     void shouldSaveUnderItsName();
@@ -244,6 +246,22 @@ void TestFishInfoSaving::shouldFollowALinkAndKeepPermissions()
     QVERIFY(QFileInfo(path("link.json")).isSymLink());
     QVERIFY(contentOf(path("target.json")).contains("Plan"));
     QCOMPARE(QFile::permissions(path("target.json")), permissions);
+}
+
+void TestFishInfoSaving::shouldWriteInPlaceWhereTheFolderIsReadOnly()
+{
+    QVERIFY(makeFile(path("effect.json"), "old"));
+    const QFile::Permissions all = QFile::permissions(m_folder->path());
+    QVERIFY(QFile::setPermissions(m_folder->path(), QFile::ReadOwner | QFile::ExeOwner));
+    const bool isReadOnly = !makeFile(path("other"), "");
+
+    const bool saved = m_info->saveFile(path("effect.json"));
+    const bool savedNew = m_info->saveFile(path("new.json"));
+
+    QVERIFY(QFile::setPermissions(m_folder->path(), all));
+    QVERIFY(saved);
+    QVERIFY(contentOf(path("effect.json")).contains("Plan"));
+    QCOMPARE(savedNew, !isReadOnly); // the superuser writes anywhere
 }
 
 void TestFishInfoSaving::shouldRefuseWhatCouldNotBeReadAgain_data()

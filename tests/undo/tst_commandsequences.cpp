@@ -34,7 +34,9 @@ public:
         case 4: return new InsertFree(model);
         case 5: return new EditDelete(model, index);
         case 6: return new EditDelete(model, randomSnapshot());
-        case 7: return randomPaste(index);
+        case 7: // pastes of pastes grow fast
+            return isLarge() ? static_cast<UndoCommand *>(new EditDelete(model, index))
+                             : randomPaste(index);
         case 8: return new ModifyName(model, index, QString::number(m_random.bounded(1000)));
         case 9: return new ModifyLinkTo(model, index, QString::number(m_random.bounded(1000)));
         case 10: return randomItem(index);
@@ -43,6 +45,8 @@ public:
     }
 
 private:
+    bool isLarge() const { return allNodes(*m_fixture.model).size() > 100; }
+
     TreeItem *randomNode()
     {
         const std::vector<TreeItem *> nodes = allNodes(*m_fixture.model);
@@ -142,7 +146,7 @@ QString difficultDocuments(CommandFixture &f, int seed)
 
 void TestCommandSequences::shouldUndoAndRedoEverything_data()
 {
-    addSeeds(60);
+    addSeeds(20);
 }
 
 void TestCommandSequences::shouldUndoAndRedoEverything()
@@ -165,13 +169,13 @@ void TestCommandSequences::shouldUndoAndRedoEverything()
         for (int step = 59; step >= 0; --step) {
             f.stack->undo();
             QVERIFY2(modelText(*f.model) == states.at(step),
-                     qPrintable(QStringLiteral("undo of %1: %2").arg(f.stack->commandNames().at(step), f.text())));
+                     qPrintable(QStringLiteral("undo of step %1: ").arg(step) + f.text()));
             QCOMPARE(spearFault(*f.model), QString());
         }
         for (int step = 0; step < 60; ++step) {
             f.stack->redo();
             QVERIFY2(modelText(*f.model) == states.at(step + 1),
-                     qPrintable(QStringLiteral("redo of %1: %2").arg(f.stack->commandNames().at(step), f.text())));
+                     qPrintable(QStringLiteral("redo of step %1: ").arg(step) + f.text()));
             QCOMPARE(spearFault(*f.model), QString());
         }
     }
@@ -179,7 +183,7 @@ void TestCommandSequences::shouldUndoAndRedoEverything()
 
 void TestCommandSequences::shouldSurviveEditsOutsideTheHistory_data()
 {
-    addSeeds(60);
+    addSeeds(20);
 }
 
 void TestCommandSequences::shouldSurviveEditsOutsideTheHistory()
@@ -190,7 +194,7 @@ void TestCommandSequences::shouldSurviveEditsOutsideTheHistory()
     CommandSource source(f, quint32(seed));
     QRandomGenerator random(quint32(seed + 1000));
 
-    for (int step = 0; step < 300; ++step) {
+    for (int step = 0; step < 150; ++step) {
         switch (random.bounded(6)) {
         case 0:
         case 1: f.stack->push(source.next()); break;

@@ -8,7 +8,7 @@
 #include <fishbone/undo/subjectlookup.h>
 #include <fishbone/undo/subjectspears.h>
 #include <tests/support/commandfixture.h>
-#include <tests/support/drawings.h>
+#include <tests/support/drawingtext.h>
 
 using namespace TestSupport;
 

@@ -1,0 +1,100 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <fishbone/fishbone_export.h>
+
+#include <QColor>
+#include <QCoreApplication>
+#include <QRectF>
+#include <QSize>
+#include <QString>
+
+#include <optional>
+
+class QByteArray;
+class QGraphicsScene;
+
+/** How a picture of a drawing shall look. */
+struct PictureOptions
+{
+    /** Picture units for each scene unit; counts only while @c size is not valid. */
+    double scale = 1;
+    /** The picture's size in picture units; the drawing is centred in it, as large as it fits. */
+    QSize size;
+    /** Free space around the drawing, in scene units. */
+    double margin = 20;
+    /** What the picture is filled with; an invalid or transparent colour fills nothing. */
+    QColor background = Qt::white;
+    /** The title that the file carries; empty for none. */
+    QString title;
+};
+
+/**
+ * Writes the drawing of a scene as a picture: PNG, SVG or PDF.
+ *
+ * A picture is cropped to the visible items. Its unit is the scene's, scaled: a pixel of a PNG, a
+ * unit of the view box of an SVG, and as much of a PDF's page as the unit takes on the screen. SVG
+ * and PDF hold lines and real text, and the page of a PDF is as large as the drawing.
+ *
+ * The scene is drawn as it stands: who does not want the selection in the picture clears it before.
+ * Its background brush is left out in favour of PictureOptions::background. Needs a QGuiApplication.
+ */
+class FISHBONE_EXPORT PictureExport
+{
+    Q_DECLARE_TR_FUNCTIONS(PictureExport)
+
+public:
+    enum class Format {
+        Png, ///< pixels
+        Svg, ///< scalable vector graphics
+        Pdf, ///< a document of one page
+    };
+
+    enum class Error {
+        None,          ///< the picture is complete
+        UnknownFormat, ///< the file name's suffix names no format
+        BadOptions,    ///< a scale, size or margin that makes no picture
+        NothingToDraw, ///< the scene shows nothing
+        TooLarge,      ///< more than the format or the memory holds
+        CannotWrite,   ///< the file cannot be written; what it held before is still there
+    };
+
+    /** The outcome of an export. */
+    struct Result
+    {
+        Error error = Error::None;
+        QString reason; ///< for the user, translated, a clause without a full stop; empty on success
+
+        /** Whether the export succeeded. */
+        explicit operator bool() const { return error == Error::None; }
+    };
+
+    /** The longest side of a PNG, in pixels. */
+    static constexpr int maximalPixels = 32767;
+    /** The most memory that the pixels of a PNG may take, in bytes. */
+    static constexpr qint64 maximalBytes = Q_INT64_C(1) << 30;
+    /** The longest side of the page of a PDF, in points of 1/72 inch. */
+    static constexpr int maximalPoints = 14400;
+
+    /** The format that the suffix of @p fileName names, in any case; nothing for an unknown one. */
+    static std::optional<Format> formatOf(const QString &fileName);
+
+    /**
+     * The part of @p scene that its visible items cover; empty when it shows nothing. Linear in the
+     * number of items, without recursion.
+     */
+    static QRectF visibleRect(const QGraphicsScene &scene);
+
+    /** Draws @p scene and stores the bytes of the picture in @p picture, empty on failure. */
+    static Result render(QGraphicsScene &scene, Format format, const PictureOptions &options,
+                         QByteArray &picture);
+
+    /**
+     * Draws @p scene into the file @p fileName, in the format that its suffix names. The file is
+     * replaced whole or not at all; in a folder that is not writable it is written in place.
+     */
+    static Result write(QGraphicsScene &scene, const QString &fileName,
+                        const PictureOptions &options = PictureOptions());
+};
