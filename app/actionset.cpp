@@ -1,0 +1,55 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#include <app/actionset.h>
+
+#include <app/themedicon.h>
+
+#include <QAction>
+#include <QWidget>
+
+ActionSet::ActionSet(QObject *parent)
+    : QObject(parent)
+{
+}
+
+QAction *ActionSet::add(const QString &name, const QString &text,
+                        const QList<QKeySequence> &shortcuts, Scope scope,
+                        std::function<void()> run)
+{
+    Q_ASSERT(!m_actions.contains(name));
+    auto *const action = new QAction(text, this);
+    action->setObjectName(name);
+    action->setShortcuts(shortcuts);
+    if (scope == Scope::Selection)
+        action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    QString tip = text;
+    tip.remove(QLatin1Char('&')).remove(QStringLiteral("…"));
+    if (!shortcuts.isEmpty() && !shortcuts.constFirst().isEmpty())
+        tip += QStringLiteral(" (%1)").arg(shortcuts.constFirst().toString(QKeySequence::NativeText));
+    action->setToolTip(tip);
+    connect(action, &QAction::triggered, this, [run = std::move(run)] { run(); });
+    m_actions.insert(name, action);
+    m_order.append(action);
+    return action;
+}
+
+QAction *ActionSet::action(const QString &name) const
+{
+    Q_ASSERT(m_actions.contains(name));
+    return m_actions.value(name);
+}
+
+void ActionSet::addSelectionWidget(QWidget *widget) const
+{
+    for (QAction *action : m_order) {
+        if (action->shortcutContext() == Qt::WidgetWithChildrenShortcut)
+            widget->addAction(action);
+    }
+}
+
+void ActionSet::updateIcons(const QPalette &palette) const
+{
+    for (QAction *action : m_order)
+        action->setIcon(ThemedIcon::icon(action->objectName(), palette));
+}

@@ -1,0 +1,52 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QHash>
+#include <QKeySequence>
+#include <QList>
+#include <QObject>
+
+#include <functional>
+
+class QAction;
+class QPalette;
+class QWidget;
+
+/**
+ * The program's actions by name. The name is also the action's object name and that of its icon.
+ *
+ * An action that works on what is selected counts its shortcuts only in the widgets that show the
+ * selection, so that they stay free for typing elsewhere.
+ */
+class ActionSet : public QObject
+{
+    Q_OBJECT
+
+public:
+    /** Where the shortcuts of an action count. */
+    enum class Scope {
+        Window,    ///< everywhere in the window
+        Selection, ///< in the widgets of addSelectionWidget()
+    };
+
+    explicit ActionSet(QObject *parent = nullptr);
+
+    /** Makes an action, owned by the set. The menu key stands in @p text behind an "&". */
+    QAction *add(const QString &name, const QString &text, const QList<QKeySequence> &shortcuts,
+                 Scope scope, std::function<void()> run);
+
+    /** The action of that name, which must exist. */
+    QAction *action(const QString &name) const;
+
+    /** Makes the shortcuts of the Selection scope count in @p widget and below it. */
+    void addSelectionWidget(QWidget *widget) const;
+
+    /** Draws the icons in the colours of @p palette. */
+    void updateIcons(const QPalette &palette) const;
+
+private:
+    QHash<QString, QAction *> m_actions;
+    QList<QAction *> m_order;
+};

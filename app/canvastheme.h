@@ -1,0 +1,57 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QColor>
+#include <QJsonObject>
+#include <QObject>
+
+class FishEditor;
+class QPalette;
+
+/**
+ * Makes canvas and bones suit the palette: paper with the global style in a light one, and a dark
+ * canvas with a style of its own in a dark one. Both styles can be edited; they are kept in files
+ * beside the program, and in place of a file that is missing stands what is built in.
+ */
+class CanvasTheme : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit CanvasTheme(FishEditor *editor, QObject *parent = nullptr);
+
+    /** Shows the canvas that suits @p palette. */
+    void follow(const QPalette &palette);
+
+    bool isDark() const { return m_isDark; }
+    /** The colour of the canvas as it is shown. */
+    QColor canvasColor() const;
+
+    /** Lets the user edit the style of all bones without a style of their own, and keeps it. */
+    void editStyle(QWidget *parent);
+
+    /** Shows the drawing as on paper while it lives, whatever the palette: to print or export it. */
+    class Paper
+    {
+        Q_DISABLE_COPY(Paper)
+
+    public:
+        explicit Paper(CanvasTheme *theme);
+        ~Paper();
+
+    private:
+        CanvasTheme *m_theme;
+        bool m_wasDark;
+    };
+
+private:
+    void show(bool dark);
+    void storeStyle();
+
+    FishEditor *m_editor;
+    QJsonObject m_light;
+    QJsonObject m_dark;
+    bool m_isDark = false;
+};

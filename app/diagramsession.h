@@ -1,0 +1,98 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <app/drawingstate.h>
+
+#include <fishbone/editor/fisheditor.h>
+#include <fishbone/model/fishinfo.h>
+#include <fishbone/model/fishmodel.h>
+
+#include <QHash>
+#include <QModelIndexList>
+#include <QObject>
+#include <QPersistentModelIndex>
+#include <QPointer>
+#include <QTimer>
+
+#include <functional>
+
+class ModifiedTracker;
+
+/**
+ * The documents that are open and the one that is shown. Knows how to get from one drawing to
+ * another without losing what the user had expanded, selected and scrolled to, and how to edit
+ * without losing it when the editor rebuilds the drawing.
+ */
+class DiagramSession : public QObject
+{
+    Q_OBJECT
+
+public:
+    /** Neither is owned; @p editor shows @p model. */
+    DiagramSession(FishModel *model, FishEditor *editor, QObject *parent = nullptr);
+
+    FishModel *model() const { return m_model; }
+    FishEditor *editor() const { return m_editor; }
+    /** The document that is shown, or null. */
+    FishInfo *document() const;
+    /** The head of @p document. */
+    QModelIndex headOf(const FishInfo *document) const;
+
+    /** Shows the whole diagram of @p document, or leaves it when it is shown already. */
+    void showDocument(FishInfo *document);
+    /** Shows the subject at @p index as a diagram of its own; its document remembers the visit. */
+    void showAsDiagram(const QModelIndex &index);
+    /** The subjects of the shown document that were shown as diagrams, the oldest first. */
+    QModelIndexList visited() const;
+    /** Whether less than the whole diagram is shown. */
+    bool canGoBack() const;
+    /** Shows what was visited before, at the latest the whole diagram. */
+    void goBack();
+    /** Shows the whole diagram. */
+    void showWhole();
+
+    /** Selects the subject at @p index alone and brings it into view: shows its document and
+     * expands what is above it. */
+    void select(const QModelIndex &index);
+    /** Selects the subjects at @p indexes, which are brought into view as by select(). */
+    void select(const QModelIndexList &indexes);
+
+    /** Runs @p edit, which inserts a subject, and selects that. Its index, or an invalid one. */
+    QModelIndex insert(const std::function<void()> &edit);
+    /** Deletes what is selected, after copying it to the clipboard if @p cut, and selects a
+     * neighbour. */
+    void removeSelected(bool cut);
+    void paste();
+    void undo();
+    void redo();
+    /** Undoes or redoes until the command at @p index of the undo stack is the last one done. */
+    void jumpTo(int index);
+
+    /** Announces stateChanged() soon. */
+    void touch();
+
+Q_SIGNALS:
+    /** Something that is shown somewhere may have changed. Comes once for any number of changes. */
+    void stateChanged();
+    /** Bones were built, expanded or contracted all over the drawing. */
+    void drawingRebuilt();
+
+private:
+    void leave();
+    void showRoot(const QModelIndex &root);
+    bool reveal(const QModelIndex &index);
+    QModelIndex indexInDocument(const FishInfo *document, const QString &uuid) const;
+    void preserve(const std::function<void()> &change);
+    void forgetDocuments(const QModelIndex &parent, int first, int last);
+    void settle();
+
+    QPointer<FishModel> m_model;
+    QPointer<FishEditor> m_editor;
+    QTimer m_settle;
+    QHash<const FishInfo *, DrawingState> m_states; ///< of the documents that are not shown
+    QPersistentModelIndex m_inserted;               ///< the newest row
+    QPersistentModelIndex m_removedFrom;            ///< where a row was removed last
+    QPointer<FishInfo> m_changed;                   ///< the document that changed last
+};

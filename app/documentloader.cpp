@@ -1,0 +1,152 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#include <app/documentloader.h>
+
+#include <fishbone/model/fishinfo.h>
+#include <fishbone/model/treeitem.h>
+
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonDocument>
+#include <QNetworkReply>
+#include <QUrl>
+
+namespace {
+
+bool isNetworkUrl(const QUrl &url)
+{
+    return url.scheme() == QLatin1String("http") || url.scheme() == QLatin1String("https");
+}
+
+/** What keeps @p json from being read as a document. */
+QString reasonOfText(const QByteArray &json)
+{
+    QJsonParseError error;
+    QJsonDocument::fromJson(json, &error);
+    if (json.isEmpty())
+        return DocumentLoader::tr("it is empty");
+    if (error.error == QJsonParseError::NoError)
+        return DocumentLoader::tr("it is not a JSON document");
+    return DocumentLoader::tr("it is not a JSON document (line %1: %2)")
+        .arg(json.left(error.offset).count('\n') + 1)
+        .arg(error.errorString());
+}
+
+} // namespace
+
+DocumentLoader::DocumentLoader(FishModel *model, QObject *parent)
+    : QObject(parent)
+    , m_model(model)
+{
+}
+
+QString DocumentLoader::localPath(const QString &source)
+{
+    const QUrl url(source);
+    if (isNetworkUrl(url))
+        return QString();
+    return url.isLocalFile() ? url.toLocalFile() : source;
+}
+
+QString DocumentLoader::reasonOf(const QString &path)
+{
+    const QFileInfo info(path);
+    if (info.isDir())
+        return tr("it is a folder");
+    if (!info.exists())
+        return tr("there is no such file");
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return file.errorString();
+    return reasonOfText(file.readAll());
+}
+
+void DocumentLoader::load(const QString &source)
+{
+    m_waiting.append(source);
+    if (m_waiting.size() == 1)
+        loadNext();
+}
+
+void DocumentLoader::loadNext()
+{
+    const QString source = m_waiting.constFirst();
+    if (!m_model)
+        finish(nullptr, tr("the program is closing"));
+    else if (const QString path = localPath(source); !path.isEmpty())
+        loadFile(path);
+    else if (!source.isEmpty())
+        fetch(QUrl(source));
+    else
+        finish(nullptr, tr("there is no such file"));
+}
+
+void DocumentLoader::loadFile(const QString &path)
+{
+    const QString canonical = QFileInfo(path).canonicalFilePath();
+    if (const QModelIndex open = m_model->findFish(canonical); open.isValid()) {
+        finish(m_model->fishList().at(open.row()), QString());
+        return;
+    }
+    if (m_model->loadFishFromFile(path) != MODEL_NO_ERROR) {
+        finish(nullptr, reasonOf(path));
+        return;
+    }
+    FishInfo *const document = m_model->fishList().constLast();
+    document->setCurrentFile(path);
+    finish(document, QString());
+}
+
+void DocumentLoader::fetch(const QUrl &url)
+{
+    m_fetched = connect(m_model, &FishModel::fishLoaded, this, &DocumentLoader::endFetch);
+    const QList<QNetworkReply *> earlier = m_model->findChildren<QNetworkReply *>();
+    m_model->loadFishFromUrl(url);
+    const QList<QNetworkReply *> replies = m_model->findChildren<QNetworkReply *>();
+    for (QNetworkReply *reply : replies) {
+        if (!earlier.contains(reply))
+            m_reply = reply;
+    }
+}
+
+void DocumentLoader::endFetch(const QModelIndex &index, MODEL_ERROR error)
+{
+    Q_UNUSED(index) // invalid for a document without a head
+    if (m_reply && !m_reply->isFinished())
+        return; // somebody else loaded a file meanwhile
+    disconnect(m_fetched);
+    if (error == MODEL_NO_ERROR)
+        finish(m_model->fishList().constLast(), QString());
+    else
+        finish(nullptr, reasonOfReply());
+}
+
+/** Why what arrived was not loaded. */
+QString DocumentLoader::reasonOfReply() const
+{
+    if (!m_reply || m_reply->error() == QNetworkReply::NoError)
+        return tr("the reply is not a JSON document");
+    if (m_reply->error() == QNetworkReply::OperationCanceledError)
+        return tr("the reply took too long or was too large");
+    return m_reply->errorString();
+}
+
+/** Reports the end of the load under way: @p document, or null and the reason. */
+void DocumentLoader::finish(FishInfo *document, const QString &reason)
+{
+    const QString source = m_waiting.constFirst();
+    if (document && document->treeItem()->childCount() == 0) {
+        m_model->unloadFish(document);
+        Q_EMIT failed(source, tr("it holds no diagram"));
+    } else if (document) {
+        Q_EMIT loaded(source, document);
+    } else {
+        Q_EMIT failed(source, reason);
+    }
+    m_waiting.removeFirst();
+    if (m_waiting.isEmpty())
+        Q_EMIT idle();
+    else
+        QMetaObject::invokeMethod(this, &DocumentLoader::loadNext, Qt::QueuedConnection);
+}

@@ -1,0 +1,63 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <fishbone/model/fishmodel.h>
+
+#include <QObject>
+#include <QPointer>
+#include <QStringList>
+
+class FishInfo;
+class QNetworkReply;
+
+/**
+ * Loads documents into a model, in the order in which they were asked for, and can say why one
+ * failed. Files are named after their path, so that they are saved where they come from; what comes
+ * from a URL has to be given a name.
+ */
+class DocumentLoader : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit DocumentLoader(FishModel *model, QObject *parent = nullptr);
+
+    /** Loads @p source, a file's path or an http, https or file URL. Reports with a signal, for a
+     * file usually before this returns. */
+    void load(const QString &source);
+
+    /** Whether there are no loads under way. */
+    bool isIdle() const { return m_waiting.isEmpty(); }
+
+    /** Whether nothing waits behind the load that is being reported. */
+    bool isLast() const { return m_waiting.size() <= 1; }
+
+    /** Why the file @p path cannot be loaded. */
+    static QString reasonOf(const QString &path);
+
+    /** The path that @p source stands for, empty when it is fetched from the network. */
+    static QString localPath(const QString &source);
+
+Q_SIGNALS:
+    /** @p source was loaded, or had been loaded before, as @p document, which has a head. */
+    void loaded(const QString &source, FishInfo *document);
+    /** @p source cannot be loaded; @p reason is a clause for the user. */
+    void failed(const QString &source, const QString &reason);
+    /** There is nothing more to load. */
+    void idle();
+
+private:
+    void loadNext();
+    void loadFile(const QString &path);
+    void fetch(const QUrl &url);
+    void endFetch(const QModelIndex &index, MODEL_ERROR error);
+    void finish(FishInfo *document, const QString &reason);
+    QString reasonOfReply() const;
+
+    QPointer<FishModel> m_model;
+    QStringList m_waiting; ///< the first one is being loaded
+    QPointer<QNetworkReply> m_reply;
+    QMetaObject::Connection m_fetched;
+};

@@ -1,0 +1,202 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#include <app/editcommands.h>
+
+#include <app/actionset.h>
+#include <app/diagramsession.h>
+#include <app/finder.h>
+#include <app/titleeditor.h>
+
+#include <fishbone/editor/fisheditor.h>
+#include <fishbone/items/spearitem.h>
+#include <fishbone/items/taskstatusinfo.h>
+#include <fishbone/model/fishmodel.h>
+#include <fishbone/model/systemhelper.h>
+#include <fishbone/model/treeitem.h>
+#include <fishbone/style/spearstyle.h>
+#include <fishbone/undo/undostack.h>
+
+#include <QAction>
+#include <QDateTime>
+#include <QInputDialog>
+#include <QJsonObject>
+
+#include <memory>
+
+namespace {
+
+/** All of a subject's own style, an empty object when it has none. */
+QJsonObject styleOf(const FishEditor &editor)
+{
+    QJsonObject style;
+    const SpearItem *const spear = editor.firstSelectedSpear();
+    if (spear && spear->treeItem() && spear->treeItem()->spearStyle())
+        spear->treeItem()->spearStyle()->write(style);
+    return style;
+}
+
+/** The platform's, and the one that people bring from others. */
+QList<QKeySequence> redoShortcuts()
+{
+    QList<QKeySequence> shortcuts = QKeySequence::keyBindings(QKeySequence::Redo);
+    if (const QKeySequence other(Qt::CTRL + Qt::Key_Y); !shortcuts.contains(other))
+        shortcuts.append(other);
+    return shortcuts;
+}
+
+} // namespace
+
+EditCommands::EditCommands(DiagramSession *session, ActionSet *actions, QWidget *window)
+    : QObject(window)
+    , m_session(session)
+    , m_editor(session->editor())
+    , m_actions(actions)
+    , m_window(window)
+    , m_finder(new Finder(session, window))
+{
+    connect(m_editor, &FishEditor::clipBoardAvailable, this,
+            [this](bool available) { m_canPaste = available; });
+    connect(m_finder, &Finder::message, this, &EditCommands::message);
+    addHistoryActions();
+    addClipboardActions();
+    addInsertActions();
+    addSubjectActions();
+}
+
+void EditCommands::add(const char *name, const QString &text, const QKeySequence &shortcut,
+                       std::function<void()> run)
+{
+    m_actions->add(QLatin1String(name), text, {shortcut}, ActionSet::Scope::Selection,
+                   std::move(run));
+}
+
+void EditCommands::addHistoryActions()
+{
+    const UndoStack *const stack = m_editor->undoStack();
+    QAction *const undo =
+        m_actions->add(QStringLiteral("undo"), tr("&Undo"), {QKeySequence::Undo},
+                       ActionSet::Scope::Window, [this] { m_session->undo(); });
+    QAction *const redo =
+        m_actions->add(QStringLiteral("redo"), tr("&Redo"),
+                       redoShortcuts(),
+                       ActionSet::Scope::Window, [this] { m_session->redo(); });
+    undo->setEnabled(stack->canUndo());
+    redo->setEnabled(stack->canRedo());
+    connect(stack, &UndoStack::undoAvailable, undo, &QAction::setEnabled);
+    connect(stack, &UndoStack::redoAvailable, redo, &QAction::setEnabled);
+    m_actions->add(QStringLiteral("find"), tr("&Find and replace…"), {QKeySequence::Find},
+                   ActionSet::Scope::Window, [this] { m_finder->show(); });
+}
+
+void EditCommands::addClipboardActions()
+{
+    add("cut", tr("Cu&t"), QKeySequence::Cut, [this] { m_session->removeSelected(true); });
+    add("copy", tr("&Copy"), QKeySequence::Copy, [this] { m_editor->copy(); });
+    add("paste", tr("&Paste"), QKeySequence::Paste, [this] { m_session->paste(); });
+    add("delete", tr("&Delete"), QKeySequence::Delete,
+        [this] { m_session->removeSelected(false); });
+    add("selectAll", tr("Select &all"), QKeySequence::SelectAll,
+        [this] { m_editor->selectAll(); });
+}
+
+void EditCommands::addInsertActions()
+{
+    add("child", tr("&Child subject"), Qt::Key_Insert, [this] {
+        insertAndRename([this] { m_editor->insertChildSubject(); });
+    });
+    add("before", tr("Subject &before"), QKeySequence(Qt::SHIFT + Qt::Key_Return), [this] {
+        insertAndRename([this] { m_editor->insertSubject(); });
+    });
+    add("after", tr("Subject &after"), Qt::Key_Return, [this] {
+        insertAndRename([this] { m_editor->appendSubject(); });
+    });
+    add("parent", tr("&Parent subject"), QKeySequence(Qt::CTRL + Qt::Key_Return), [this] {
+        insertAndRename([this] { m_editor->insertParentSubject(); });
+    });
+    add("free", tr("&Free subject (a new diagram)"),
+        QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_Return), [this] {
+            insertAndRename([this] { m_editor->insertFreeSubject(); });
+        });
+    add("subTask", tr("&Sub-task…"), QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_T),
+        [this] { insertSubTask(m_editor->firstSelectedSpearIndex()); });
+}
+
+void EditCommands::addSubjectActions()
+{
+    add("rename", tr("&Rename"), Qt::Key_F2,
+        [this] { rename(m_editor->firstSelectedSpearIndex()); });
+    add("link", tr("&Link to…"), QKeySequence(Qt::CTRL + Qt::Key_L),
+        [this] { m_editor->modifyLink(); });
+    add("openLink", tr("&Open link"), {}, [this] { m_editor->modifyOpenLink(); });
+    add("unlink", tr("Remove l&ink"), {}, [this] { m_editor->modifyDelLink(); });
+    add("style", tr("&Style…"), {}, [this] {
+        changeStyle([this] { m_editor->setSpearStyle(); });
+    });
+    add("removeStyle", tr("Remove s&tyle"), {}, [this] {
+        changeStyle([this] { m_editor->delSpearStyle(); });
+    });
+}
+
+/** Runs @p edit on the style of the selected subject. The editor leaves it to the host to count that
+ * as a change of the document. */
+void EditCommands::changeStyle(const std::function<void()> &edit)
+{
+    const QJsonObject before = styleOf(*m_editor);
+    edit();
+    if (styleOf(*m_editor) != before)
+        m_editor->setModified(true);
+    m_session->touch();
+}
+
+void EditCommands::insertAndRename(const std::function<void()> &edit)
+{
+    rename(m_session->insert(edit));
+}
+
+void EditCommands::rename(const QModelIndex &index)
+{
+    TitleEditor::open(m_editor, index);
+}
+
+void EditCommands::insertChild(const QModelIndex &parent)
+{
+    m_session->select(parent);
+    insertAndRename([this] { m_editor->insertChildSubject(); });
+}
+
+void EditCommands::insertSubTask(const QModelIndex &parent)
+{
+    const QPersistentModelIndex above = parent; // the dialog runs an event loop
+    if (!above.isValid())
+        return;
+    const QString title = QInputDialog::getText(m_window, tr("New sub-task"), tr("Title:"));
+    const TreeItem *const task = m_session->model()->getTreeItem(above);
+    if (title.isEmpty() || !task)
+        return;
+    auto made = std::make_unique<TreeItem>(title, SystemHelper::randomUuid(), QString(),
+                                           task->uuid(), task->type());
+    made->setStatus(tsWaitting);
+    made->setCreateDate(QDateTime::currentMSecsSinceEpoch());
+    m_session->insert([&] {
+        m_editor->insertChildSubject(above, made.release()); // which takes it over
+    });
+}
+
+void EditCommands::updateActions()
+{
+    const SpearItem *const spear = m_editor->firstSelectedSpear();
+    const TreeItem *const subject = spear ? spear->treeItem() : nullptr;
+    const bool isBone = subject && !spear->isHeader();
+    for (const char *name : {"child", "before", "after", "parent", "subTask", "rename", "link",
+                             "style"})
+        m_actions->action(QLatin1String(name))->setEnabled(subject);
+    for (const char *name : {"cut", "copy", "delete"})
+        m_actions->action(QLatin1String(name))->setEnabled(isBone || m_editor->selectedItems().size() > 1);
+    m_actions->action(QStringLiteral("paste"))->setEnabled(subject && m_canPaste);
+    m_actions->action(QStringLiteral("selectAll"))->setEnabled(m_editor->headSpear());
+    m_actions->action(QStringLiteral("openLink"))->setEnabled(subject && !subject->url().isEmpty());
+    m_actions->action(QStringLiteral("unlink"))->setEnabled(subject && !subject->url().isEmpty());
+    m_actions->action(QStringLiteral("removeStyle"))->setEnabled(subject && subject->spearStyle());
+    m_actions->action(QStringLiteral("find"))->setEnabled(m_session->model()->rowCount() > 0);
+}

@@ -1,0 +1,56 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QObject>
+#include <QPersistentModelIndex>
+
+#include <functional>
+
+class ActionSet;
+class DiagramSession;
+class FishEditor;
+class Finder;
+class QWidget;
+
+/** The commands on the subjects of a diagram. */
+class EditCommands : public QObject
+{
+    Q_OBJECT
+
+public:
+    /** Adds the actions to @p actions. Dialogs stand over @p window, which owns this object. */
+    EditCommands(DiagramSession *session, ActionSet *actions, QWidget *window);
+
+    /** Enables the actions as the selection, the clipboard and the undo history allow. */
+    void updateActions();
+
+    /** Opens a field for the title of the subject at @p index. */
+    void rename(const QModelIndex &index);
+    /** Inserts a child under the subject at @p parent and opens a field for its title. */
+    void insertChild(const QModelIndex &parent);
+    /** Asks for a title and inserts a task of that title under the one at @p parent. */
+    void insertSubTask(const QModelIndex &parent);
+
+Q_SIGNALS:
+    /** Something for the status bar. */
+    void message(const QString &text);
+
+private:
+    void addHistoryActions();
+    void addClipboardActions();
+    void addInsertActions();
+    void addSubjectActions();
+    void add(const char *name, const QString &text, const QKeySequence &shortcut,
+             std::function<void()> run);
+    void insertAndRename(const std::function<void()> &edit);
+    void changeStyle(const std::function<void()> &edit);
+
+    DiagramSession *m_session;
+    FishEditor *m_editor;
+    ActionSet *m_actions;
+    QWidget *m_window;
+    Finder *m_finder;
+    bool m_canPaste = false;
+};

@@ -1,0 +1,24 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+class FishEditor;
+class SpearItem;
+
+/** How far the bones of a drawing are expanded. */
+namespace Expansion {
+
+/**
+ * Expands @p levels levels of bones below the main bones, whose spears are made where they are
+ * missing, and contracts what lies deeper; a negative number expands all. Lays out anew.
+ */
+void expandLevels(FishEditor &editor, int levels);
+
+/**
+ * Expands or contracts one spear, whose child spears are made where they are missing. Does not lay
+ * out: one FishEditor::updateFish() follows any number of these.
+ */
+void setExpanded(FishEditor &editor, SpearItem &spear, bool expanded);
+
+} // namespace Expansion

@@ -1,0 +1,62 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#include <app/exportrun.h>
+
+#include <app/commandline.h>
+#include <app/documentloader.h>
+#include <app/expansion.h>
+
+#include <fishbone/editor/fisheditor.h>
+#include <fishbone/editor/fishscene.h>
+#include <fishbone/model/fishinfo.h>
+#include <fishbone/model/fishmodel.h>
+#include <fishbone/model/treeitem.h>
+
+#include <QEventLoop>
+
+namespace {
+
+/** Loads @p source into @p loader's model; null and a message when that fails. */
+FishInfo *loadNow(DocumentLoader &loader, const QString &source, QString &message)
+{
+    FishInfo *loadedDocument = nullptr;
+    QEventLoop loop;
+    QObject::connect(&loader, &DocumentLoader::loaded, &loop,
+                     [&](const QString &, FishInfo *document) { loadedDocument = document; });
+    QObject::connect(&loader, &DocumentLoader::failed, &loop,
+                     [&](const QString &, const QString &reason) {
+                         message = CommandLine::tr("cannot read %1: %2").arg(source, reason);
+                     });
+    QObject::connect(&loader, &DocumentLoader::idle, &loop, &QEventLoop::quit);
+    loader.load(source);
+    if (!loader.isIdle())
+        loop.exec();
+    return loadedDocument;
+}
+
+} // namespace
+
+int runExport(const CommandLine &line, QString &message)
+{
+    FishModel model;
+    model.setModelType(FISH_MODEL_DIAGRAM); // a picture shows the diagram's title without counts
+    DocumentLoader loader(&model);
+    FishInfo *const document = loadNow(loader, line.documents.constFirst(), message);
+    if (!document)
+        return CommandLine::failure;
+
+    FishEditor editor;
+    editor.setModel(&model);
+    editor.setRootIndex(model.index(model.fishRow(document), 0));
+    Expansion::expandLevels(editor, line.levels);
+
+    PictureOptions options = line.options;
+    options.title = document->treeItem()->childAtIndex(0)->title();
+    const PictureExport::Result result =
+        PictureExport::write(*editor.scene(), line.picture, options);
+    if (result)
+        return CommandLine::success;
+    message = CommandLine::tr("cannot write %1: %2").arg(line.picture, result.reason);
+    return CommandLine::failure;
+}

@@ -1,0 +1,16 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QString>
+
+struct CommandLine;
+
+/**
+ * Carries out an export that was asked for on the command line: loads the document, which may take
+ * an event loop when it comes from a URL, draws it as a picture and writes the file. Shows no window.
+ *
+ * Returns an exit code of CommandLine; when that is a failure, @p message says what went wrong.
+ */
+int runExport(const CommandLine &line, QString &message);

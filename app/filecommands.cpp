@@ -1,0 +1,306 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#include <app/filecommands.h>
+
+#include <app/actionset.h>
+#include <app/autosave.h>
+#include <app/canvastheme.h>
+#include <app/diagramsession.h>
+#include <app/documentloader.h>
+#include <app/exportdialog.h>
+
+#include <fishbone/dialogs/urldialog.h>
+#include <fishbone/editor/fisheditor.h>
+#include <fishbone/editor/fishscene.h>
+#include <fishbone/model/fishinfo.h>
+#include <fishbone/model/fishmodel.h>
+#include <fishbone/model/systemhelper.h>
+#include <fishbone/model/treeitem.h>
+
+#include <QAction>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMessageBox>
+#include <QUrl>
+
+#include <cstdio>
+
+namespace {
+
+QString documentFilter()
+{
+    return FileCommands::tr("Fishbone diagrams (*.json);;All files (*)");
+}
+
+QString shownName(const FishInfo *document)
+{
+    return document->userFriendlyCurrentFile();
+}
+
+} // namespace
+
+FileCommands::FileCommands(DiagramSession *session, CanvasTheme *theme, ActionSet *actions,
+                           QWidget *window)
+    : QObject(window)
+    , m_session(session)
+    , m_theme(theme)
+    , m_actions(actions)
+    , m_window(window)
+    , m_loader(new DocumentLoader(session->model(), this))
+{
+    connect(m_loader, &DocumentLoader::loaded, this, &FileCommands::showLoaded);
+    connect(m_loader, &DocumentLoader::failed, this, &FileCommands::reportFailure);
+    addActions(actions);
+}
+
+void FileCommands::addActions(ActionSet *actions)
+{
+    using Scope = ActionSet::Scope;
+    const auto add = [&](const char *name, const QString &text, const QKeySequence &shortcut,
+                         void (FileCommands::*run)()) {
+        actions->add(QLatin1String(name), text, {shortcut}, Scope::Window,
+                     [this, run] { (this->*run)(); });
+    };
+    add("new", tr("&New"), QKeySequence::New, &FileCommands::newDocument);
+    add("newExample", tr("New from the &example"), {}, &FileCommands::newFromBuiltInTemplate);
+    actions->add(QStringLiteral("newFromTemplate"), tr("New from &template…"), {}, Scope::Window,
+                 [this] { newFromTemplate(startFolder()); });
+    add("open", tr("&Open…"), QKeySequence::Open, &FileCommands::openFiles);
+    add("url", tr("Open &URL…"), QKeySequence(Qt::CTRL + Qt::Key_U), &FileCommands::openUrl);
+    actions->add(QStringLiteral("recover"), tr("Open an a&utosave…"), {}, Scope::Window,
+                 [this] { newFromTemplate(Autosave::folder()); });
+    actions->add(QStringLiteral("save"), tr("&Save"), {QKeySequence::Save}, Scope::Window,
+                 [this] { save(m_session->document()); });
+    actions->add(QStringLiteral("saveAs"), tr("Save &as…"),
+                 {QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_S)}, Scope::Window,
+                 [this] { saveAs(m_session->document()); });
+    add("saveAll", tr("Save a&ll"), {}, &FileCommands::saveAll);
+    add("export", tr("&Export picture…"), QKeySequence(Qt::CTRL + Qt::Key_E),
+        &FileCommands::exportPicture);
+    add("print", tr("&Print…"), QKeySequence::Print, &FileCommands::print);
+    add("close", tr("&Close"), QKeySequence(Qt::CTRL + Qt::Key_W), &FileCommands::closeDocument);
+    actions->add(QStringLiteral("quit"), tr("&Quit"), {QKeySequence(Qt::CTRL + Qt::Key_Q)},
+                 Scope::Window, [this] { m_window->close(); });
+}
+
+void FileCommands::updateActions()
+{
+    const bool shown = m_session->document() != nullptr;
+    for (const char *name : {"save", "saveAs", "saveAll", "export", "print", "close"})
+        m_actions->action(QLatin1String(name))->setEnabled(shown);
+}
+
+QString FileCommands::startFolder() const
+{
+    const FishInfo *const shown = m_session->document();
+    if (shown && !shown->isUntitled())
+        return QFileInfo(shown->fileName()).absolutePath();
+    return SystemHelper::documentsLocation();
+}
+
+void FileCommands::open(const QStringList &sources)
+{
+    if (sources.isEmpty())
+        newFromBuiltInTemplate();
+    for (const QString &source : sources)
+        m_loader->load(source);
+}
+
+void FileCommands::showLoaded(const QString &source, FishInfo *document)
+{
+    m_session->showDocument(document);
+    const QString path = DocumentLoader::localPath(source);
+    Q_EMIT message(tr("%1 loaded").arg(shownName(document)));
+    if (!path.isEmpty() && document->autoSaveFile() == document->fileName())
+        offerAutosave(document->fileName(), document);
+    Autosave::redirect(document);
+}
+
+/** Takes over what an earlier run has left for the file that was just loaded, if the user likes. */
+void FileCommands::offerAutosave(const QString &path, FishInfo *document)
+{
+    const QFileInfo left(Autosave::fileFor(path));
+    if (!Autosave::differs(left.filePath(), document))
+        return;
+    const QString question = tr("There is an autosave of %1 from %2, which an earlier run did not "
+                                "remove. Show that instead?");
+    if (QMessageBox::question(m_window, tr("Autosave"),
+                              question.arg(shownName(document).toHtmlEscaped(),
+                                           QLocale().toString(left.lastModified())))
+        != QMessageBox::Yes)
+        return;
+    if (m_session->model()->reloadDataFromFile(left.filePath(), document) == MODEL_NO_ERROR) {
+        document->setModified(true);
+        m_session->showDocument(document);
+    }
+}
+
+void FileCommands::reportFailure(const QString &source, const QString &reason)
+{
+    const QString text = tr("cannot open %1: %2").arg(source, reason);
+    std::fprintf(stderr, "fishbone: %s\n", qPrintable(text));
+    Q_EMIT message(text);
+    // A window that was to show nothing else shows something to begin with.
+    if (m_session->model()->fishList().isEmpty() && m_loader->isLast())
+        newFromBuiltInTemplate();
+}
+
+void FileCommands::newDocument()
+{
+    FishModel *const model = m_session->model();
+    const int row = model->rowCount();
+    if (!model->insertRows(row, 1))
+        return;
+    FishInfo *const document = model->fishList().at(row);
+    Autosave::redirect(document);
+    m_session->showDocument(document);
+}
+
+void FileCommands::newFromBuiltInTemplate()
+{
+    if (m_session->model()->loadFishTempl() != MODEL_NO_ERROR)
+        return;
+    FishInfo *const document = m_session->model()->fishList().constLast();
+    Autosave::redirect(document);
+    m_session->showDocument(document);
+}
+
+void FileCommands::newFromTemplate(const QString &folder)
+{
+    const QString path = QFileDialog::getOpenFileName(m_window, tr("New from template"), folder,
+                                                      documentFilter());
+    if (path.isEmpty())
+        return;
+    FishModel *const model = m_session->model();
+    if (model->loadFishFromTemplate(path) != MODEL_NO_ERROR) {
+        reportFailure(path, DocumentLoader::reasonOf(path));
+        return;
+    }
+    FishInfo *const document = model->fishList().constLast();
+    Autosave::redirect(document);
+    m_session->showDocument(document);
+}
+
+void FileCommands::openFiles()
+{
+    const QStringList paths = QFileDialog::getOpenFileNames(m_window, tr("Open"), startFolder(),
+                                                            documentFilter());
+    for (const QString &path : paths)
+        m_loader->load(path);
+}
+
+void FileCommands::openUrl()
+{
+    const QUrl url = URLDialog::openUrlDialog(m_window);
+    if (url.isEmpty())
+        return;
+    m_loader->load(url.toString());
+    if (!m_loader->isIdle())
+        Q_EMIT message(tr("Loading %1…").arg(url.toDisplayString()));
+}
+
+bool FileCommands::save(FishInfo *document)
+{
+    if (!document)
+        return false;
+    return document->isUntitled() ? saveAs(document) : writeTo(document, document->fileName());
+}
+
+bool FileCommands::saveAs(FishInfo *document)
+{
+    if (!document)
+        return false;
+    const QString proposed = startFolder() + QLatin1Char('/') + shownName(document);
+    const QString path =
+        QFileDialog::getSaveFileName(m_window, tr("Save as"), proposed, documentFilter());
+    return !path.isEmpty() && writeTo(document, path);
+}
+
+bool FileCommands::writeTo(FishInfo *document, const QString &path)
+{
+    if (!document->saveFile(path)) {
+        QMessageBox::warning(m_window, tr("Save"),
+                             tr("%1 cannot be written.").arg(path.toHtmlEscaped()));
+        return false;
+    }
+    Autosave::discard(document);
+    document->setCurrentFile(path);
+    Autosave::redirect(document);
+    m_session->touch();
+    Q_EMIT message(tr("%1 saved").arg(shownName(document)));
+    return true;
+}
+
+void FileCommands::saveAll()
+{
+    const QList<FishInfo *> documents = m_session->model()->fishList();
+    for (FishInfo *document : documents) {
+        if (document->modified() && !save(document))
+            return;
+    }
+}
+
+/** Lets the user save or cancel; the document may go when the result is true. */
+bool FileCommands::mayClose(FishInfo *document)
+{
+    if (document->modified())
+        m_session->showDocument(document); // so that the user sees what the question is about
+    return document->maybeSave();
+}
+
+void FileCommands::closeDocument()
+{
+    FishInfo *const document = m_session->document();
+    if (!document || !mayClose(document))
+        return;
+    Autosave::discard(document);
+    m_session->model()->unloadFish(document);
+}
+
+bool FileCommands::closeAll()
+{
+    const QList<FishInfo *> documents = m_session->model()->fishList();
+    for (FishInfo *document : documents) {
+        if (!mayClose(document))
+            return false;
+    }
+    for (FishInfo *document : documents)
+        Autosave::discard(document);
+    return true;
+}
+
+void FileCommands::exportPicture()
+{
+    const FishInfo *const document = m_session->document();
+    if (!document)
+        return;
+    const QString name = QFileInfo(shownName(document)).completeBaseName();
+    ExportDialog dialog(QStringLiteral("%1/%2.png").arg(startFolder(), name), m_window);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    PictureOptions options = dialog.options();
+    options.title = m_session->model()->getTreeItem(m_session->editor()->rootIndex())->title();
+    FishScene *const scene = m_session->editor()->scene();
+    const QList<QGraphicsItem *> selected = m_session->editor()->selectedItems();
+    scene->clearSelection();
+    PictureExport::Result result;
+    {
+        const CanvasTheme::Paper paper(m_theme);
+        result = PictureExport::write(*scene, dialog.fileName(), options);
+    }
+    for (QGraphicsItem *item : selected)
+        item->setSelected(true);
+    if (result)
+        Q_EMIT message(tr("%1 written").arg(dialog.fileName()));
+    else
+        QMessageBox::warning(m_window, tr("Export picture"),
+                             tr("%1 cannot be written: %2.")
+                                 .arg(dialog.fileName().toHtmlEscaped(), result.reason));
+}
+
+void FileCommands::print()
+{
+    const CanvasTheme::Paper paper(m_theme);
+    m_session->editor()->print();
+}

@@ -1,0 +1,91 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#include <app/commandline.h>
+#include <app/documentloader.h>
+#include <app/exportrun.h>
+#include <app/language.h>
+#include <app/mainwindow.h>
+#include <app/startup.h>
+
+#include <QApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QLoggingCategory>
+#include <QStandardPaths>
+
+#include <cstdio>
+
+namespace {
+
+int fail(const QString &message, int code)
+{
+    std::fprintf(stderr, "fishbone: %s\n", qPrintable(message));
+    return code;
+}
+
+int print(const QString &text)
+{
+    std::fputs(qPrintable(text), stdout);
+    return CommandLine::success;
+}
+
+/** @p source in a form that does not depend on the working folder. */
+QString absolute(const QString &source)
+{
+    const QString path = DocumentLoader::localPath(source);
+    return path.isEmpty() ? source : QFileInfo(path).absoluteFilePath();
+}
+
+/** The library keeps the history of entered URLs in the working folder. */
+void useDataFolder()
+{
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation);
+    if (QDir().mkpath(folder))
+        QDir::setCurrent(folder);
+}
+
+int showWindow(const StartUp &startUp, const CommandLine &line)
+{
+    if (startUp.lacksDisplay())
+        return fail(CommandLine::tr("there is no display to open a window on; --export needs none"),
+                    CommandLine::failure);
+    QStringList sources;
+    for (const QString &source : line.documents)
+        sources.append(absolute(source));
+    useDataFolder();
+    MainWindow window;
+    window.show();
+    window.open(sources);
+    return QApplication::exec();
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    StartUp startUp(argc, argv);
+    const QApplication application(startUp.argc(), startUp.argv());
+    StartUp::restoreMessages();
+    QApplication::setApplicationName(QStringLiteral("Fishbone"));
+    QApplication::setOrganizationName(QStringLiteral("Fishbone"));
+    QApplication::setApplicationVersion(QStringLiteral(FISHBONE_VERSION));
+    QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false"));
+
+    Language::install(CommandLine::parse(QApplication::arguments()).language);
+    const CommandLine line = CommandLine::parse(QApplication::arguments()); // in that language now
+    QString message;
+    switch (line.action) {
+    case CommandLine::Action::ShowWindow:
+        return showWindow(startUp, line);
+    case CommandLine::Action::Export: {
+        const int code = runExport(line, message);
+        return code == CommandLine::success ? code : fail(message, code);
+    }
+    case CommandLine::Action::Print:
+        return print(line.text.isEmpty() ? CommandLine::helpText() : line.text);
+    case CommandLine::Action::Refuse:
+        return fail(line.text, CommandLine::badUsage);
+    }
+    return CommandLine::failure;
+}

@@ -1,0 +1,88 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#include <app/menus.h>
+
+#include <app/actionset.h>
+
+#include <QAction>
+#include <QCoreApplication>
+#include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QToolBar>
+
+namespace {
+
+struct Bar
+{
+    const char *name;
+    const char *title;
+    const char *actions; ///< names; "|" stands for a separator, "visited" for that menu
+};
+
+constexpr Bar menus[] = {
+    {"fileMenu", QT_TRANSLATE_NOOP("Menus", "&File"),
+     "new newExample newFromTemplate | open url recover | save saveAs saveAll | export print | "
+     "close quit"},
+    {"editMenu", QT_TRANSLATE_NOOP("Menus", "&Edit"),
+     "undo redo | cut copy paste delete | selectAll find"},
+    {"subjectMenu", QT_TRANSLATE_NOOP("Menus", "&Subject"),
+     "child before after parent subTask free | rename details | link openLink unlink | style "
+     "removeStyle"},
+    {"viewMenu", QT_TRANSLATE_NOOP("Menus", "&View"),
+     "zoomin zoomout fullsize fit fitselection | rotateLeft rotateRight rotateReset | expand "
+     "contract expandall contractall | asDiagram back whole visited | diagramMode taskMode | "
+     "canvasStyle"},
+};
+
+constexpr Bar toolBars[] = {
+    {"fileBar", QT_TRANSLATE_NOOP("Menus", "File"), "new open save | export print"},
+    {"editBar", QT_TRANSLATE_NOOP("Menus", "Edit"), "undo redo | cut copy paste delete"},
+    {"subjectBar", QT_TRANSLATE_NOOP("Menus", "Subject"),
+     "child before after parent | rename link style"},
+    {"viewBar", QT_TRANSLATE_NOOP("Menus", "View"),
+     "expandall contractall | zoomin zoomout fullsize fit | back find"},
+};
+
+QString translated(const char *text)
+{
+    return QCoreApplication::translate("Menus", text);
+}
+
+void fill(QWidget *bar, const char *names, const ActionSet &actions, QMenu *visited)
+{
+    const QStringList list = QString::fromLatin1(names).split(QLatin1Char(' '));
+    for (const QString &name : list) {
+        if (name == QLatin1String("|")) {
+            auto *const separator = new QAction(bar);
+            separator->setSeparator(true);
+            bar->addAction(separator);
+        } else if (name == QLatin1String("visited")) {
+            bar->addAction(visited->menuAction());
+        } else {
+            bar->addAction(actions.action(name));
+        }
+    }
+}
+
+} // namespace
+
+namespace Menus {
+
+void build(QMainWindow *window, const ActionSet &actions, QMenu *visited)
+{
+    for (const Bar &bar : menus) {
+        QMenu *const menu = window->menuBar()->addMenu(translated(bar.title));
+        menu->setObjectName(QLatin1String(bar.name));
+        fill(menu, bar.actions, actions, visited);
+    }
+    for (const Bar &bar : toolBars) {
+        QToolBar *const toolBar = window->addToolBar(translated(bar.title));
+        toolBar->setObjectName(QLatin1String(bar.name));
+        toolBar->setIconSize(QSize(20, 20));
+        fill(toolBar, bar.actions, actions, visited);
+    }
+}
+
+} // namespace Menus

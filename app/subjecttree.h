@@ -1,0 +1,60 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QModelIndexList>
+#include <QTreeView>
+#include <QWidget>
+
+class FishModel;
+class QLineEdit;
+class SubjectProxyModel;
+
+/** A tree view whose drags move what is dragged and leave it to the receiver to carry that out. */
+class SubjectTreeView : public QTreeView
+{
+    Q_OBJECT
+
+public:
+    explicit SubjectTreeView(QWidget *parent = nullptr);
+
+    /** Until the next event, expanding and collapsing rows costs no layout. */
+    void delayLayout() { scheduleDelayedItemsLayout(); }
+
+protected:
+    void startDrag(Qt::DropActions supportedActions) override;
+};
+
+/** The open documents as a tree of subjects, with a field that filters them by title. */
+class SubjectTree : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit SubjectTree(FishModel *model, QWidget *parent = nullptr);
+
+    SubjectTreeView *view() const { return m_view; }
+    SubjectProxyModel *proxy() const { return m_proxy; }
+
+    /** Whether a filter is set. Everything that matches is shown expanded then. */
+    bool isFiltered() const;
+
+    /** The selected subjects as indexes of the documents' model, in the order of the tree. */
+    QModelIndexList selectedSubjects() const;
+    /** Selects exactly these subjects, given as indexes of the documents' model. */
+    void selectSubjects(const QModelIndexList &indexes);
+
+Q_SIGNALS:
+    /** The filter is about to hide and show rows. */
+    void filterAboutToChange();
+    /** The filter has hidden and shown rows. */
+    void filterChanged();
+
+private:
+    void setFilter(const QString &text);
+
+    SubjectProxyModel *m_proxy;
+    QLineEdit *m_filter;
+    SubjectTreeView *m_view;
+};

@@ -1,0 +1,116 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#include <app/titleeditor.h>
+
+#include <fishbone/editor/fisheditor.h>
+#include <fishbone/editor/fishscene.h>
+#include <fishbone/editor/graphicsview.h>
+#include <fishbone/items/spearitem.h>
+#include <fishbone/items/textitem.h>
+#include <fishbone/model/fishmodel.h>
+#include <fishbone/model/treeitem.h>
+
+#include <QKeyEvent>
+#include <QScrollBar>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int minimalWidth = 160;
+
+TreeItem *subjectAt(const FishEditor &editor, const QModelIndex &index)
+{
+    const auto *const model = qobject_cast<const FishModel *>(editor.model());
+    return model ? model->getTreeItem(index) : nullptr;
+}
+
+} // namespace
+
+void TitleEditor::open(FishEditor *editor, const QModelIndex &index)
+{
+    const TreeItem *const subject = subjectAt(*editor, index);
+    if (!subject || !subject->spear() || !subject->spear()->isVisible())
+        return;
+    editor->ensureVisible(index);
+    auto *const field = new TitleEditor(editor, index); // owned by the viewport
+    field->show();
+    field->setFocus();
+    field->selectAll();
+}
+
+TitleEditor::TitleEditor(FishEditor *editor, const QModelIndex &index)
+    : QLineEdit(subjectAt(*editor, index)->title(), editor->view()->viewport())
+    , m_editor(editor)
+    , m_index(index)
+{
+    setObjectName(QStringLiteral("title"));
+    setAccessibleName(tr("Title"));
+    place();
+    connect(this, &QLineEdit::editingFinished, this, &TitleEditor::finish);
+    connect(editor->scene(), &QGraphicsScene::changed, this, &TitleEditor::place);
+    for (const QScrollBar *bar :
+         {editor->view()->horizontalScrollBar(), editor->view()->verticalScrollBar()})
+        connect(bar, &QScrollBar::valueChanged, this, &TitleEditor::place);
+}
+
+/** Follows the text, which may move or go away while its title is edited. */
+void TitleEditor::place()
+{
+    const TreeItem *const subject = subjectAt(*m_editor, m_index);
+    if (!subject || !subject->spear()) {
+        close();
+        return;
+    }
+    const TextItem *const text = subject->spear()->textItem();
+    const QRect box =
+        m_editor->view()->mapFromScene(text->mapToScene(text->boundingRect())).boundingRect();
+    const QRect room = parentWidget()->rect();
+    const QSize wanted(std::max(box.width() + 40, minimalWidth), sizeHint().height());
+    const QPoint free(std::max(0, room.width() - wanted.width()),
+                      std::max(0, room.height() - wanted.height()));
+    const QPoint topLeft = box.center() - QPoint(wanted.width() / 2, wanted.height() / 2);
+    setGeometry(QRect(QPoint(qBound(0, topLeft.x(), free.x()), qBound(0, topLeft.y(), free.y())),
+                      wanted));
+}
+
+bool TitleEditor::event(QEvent *event)
+{
+    // Every key is for the field, also those that are shortcuts of the drawing below.
+    if (event->type() == QEvent::ShortcutOverride) {
+        event->accept();
+        return true;
+    }
+    return QLineEdit::event(event);
+}
+
+void TitleEditor::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Escape)
+        close();
+    else
+        QLineEdit::keyPressEvent(event);
+}
+
+void TitleEditor::finish()
+{
+    if (m_isClosed)
+        return;
+    const TreeItem *const subject = subjectAt(*m_editor, m_index);
+    const QString title = text();
+    const bool changed = subject && title != subject->title();
+    close();
+    if (changed)
+        m_editor->renameItem(m_index, title);
+}
+
+void TitleEditor::close()
+{
+    if (m_isClosed)
+        return;
+    m_isClosed = true;
+    hide();
+    m_editor->view()->setFocus();
+    deleteLater();
+}

@@ -1,0 +1,36 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QLineEdit>
+#include <QPersistentModelIndex>
+
+class FishEditor;
+
+/**
+ * A field over a bone's text in which its title is changed. Return, or leaving the field, takes the
+ * new title, Esc keeps the old one; the field then deletes itself.
+ */
+class TitleEditor : public QLineEdit
+{
+    Q_OBJECT
+
+public:
+    /** Opens the field over the bone of the subject at @p index; does nothing when it has none. */
+    static void open(FishEditor *editor, const QModelIndex &index);
+
+protected:
+    bool event(QEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+
+private:
+    TitleEditor(FishEditor *editor, const QModelIndex &index);
+    void place();
+    void finish();
+    void close();
+
+    FishEditor *m_editor;
+    QPersistentModelIndex m_index;
+    bool m_isClosed = false;
+};

@@ -1,0 +1,506 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#include <tests/app/appfixture.h>
+
+#include <tests/support/modaldriver.h>
+
+#include <fishbone/style/spearstyledialog.h>
+
+#include <QDialogButtonBox>
+#include <QInputDialog>
+#include <QLineEdit>
+#include <QListWidget>
+
+using TestSupport::ModalDriver;
+
+namespace {
+
+/// The field over the drawing in which a title is changed; null when none is open.
+QLineEdit *titleField(const AppFixture &app)
+{
+    const QList<QLineEdit *> fields =
+        app.window.editor()->view()->viewport()->findChildren<QLineEdit *>();
+    for (QLineEdit *field : fields) {
+        if (field->isVisible())
+            return field;
+    }
+    return nullptr;
+}
+
+QStringList rows(const QListWidget &list)
+{
+    QStringList texts;
+    for (int row = 0; row < list.count(); ++row)
+        texts.append(list.item(row)->text());
+    return texts;
+}
+
+QString original()
+{
+    return QStringLiteral("Late[People[Too few[Illness],Too new],Machines,Material[Rust]]");
+}
+
+} // namespace
+
+class TestEditCommands : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void shouldInsertByShortcutAndName_data();
+    void shouldInsertByShortcutAndName();
+    void shouldInsertByMenu_data();
+    void shouldInsertByMenu();
+    void shouldKeepTheDefaultTitleOnEscape();
+    void shouldLeaveShortcutsToWidgetsThatTakeText();
+    void shouldInsertAFreeSubjectAsADocument();
+    void shouldRename();
+    void shouldDeleteAndSelectANeighbour_data();
+    void shouldDeleteAndSelectANeighbour();
+    void shouldCutAndPaste();
+    void shouldGivePastedSubjectsUuidsOfTheirOwn();
+    void shouldEnableUndoAndRedoWithTheStack();
+    void shouldKeepTheDrawingsLookOnUndo();
+    void shouldShowTheDocumentThatUndoChanges();
+    void shouldMarkTheDocumentOnUndo();
+    void shouldListTheHistoryAndJump();
+    void shouldGoOnUndoingBeyondTheBound();
+    void shouldSelectAll();
+    void shouldLinkAndUnlink();
+    void shouldMarkAChangedStyle();
+    void shouldInsertASubTask();
+    void shouldInsertNoSubTaskWhenCancelled();
+    void shouldAnswerTheEditorsGestures();
+};
+
+void TestEditCommands::initTestCase()
+{
+    QStandardPaths::setTestModeEnabled(true);
+    QCoreApplication::setApplicationName(QStringLiteral("tst_editcommands"));
+}
+
+void TestEditCommands::shouldInsertByShortcutAndName_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::addColumn<int>("modifiers");
+    QTest::addColumn<QString>("result");
+
+    QTest::newRow("child") << int(Qt::Key_Insert) << int(Qt::NoModifier)
+                           << QStringLiteral("Late[People[Too few[Illness],Too new],Machines[New],"
+                                             "Material[Rust]]");
+    QTest::newRow("before") << int(Qt::Key_Return) << int(Qt::ShiftModifier)
+                            << QStringLiteral("Late[People[Too few[Illness],Too new],New,Machines,"
+                                              "Material[Rust]]");
+    QTest::newRow("after") << int(Qt::Key_Return) << int(Qt::NoModifier)
+                           << QStringLiteral("Late[People[Too few[Illness],Too new],Machines,New,"
+                                             "Material[Rust]]");
+    QTest::newRow("parent") << int(Qt::Key_Return) << int(Qt::ControlModifier)
+                            << QStringLiteral("Late[People[Too few[Illness],Too new],New[Machines],"
+                                              "Material[Rust]]");
+}
+
+void TestEditCommands::shouldInsertByShortcutAndName()
+{
+    QFETCH(int, key);
+    QFETCH(int, modifiers);
+    QFETCH(QString, result);
+    AppFixture app;
+    app.select("Machines");
+
+    QTest::keyClick(app.window.editor()->view(), Qt::Key(key), Qt::KeyboardModifiers(modifiers));
+    AppFixture::settle();
+    QLineEdit *const field = titleField(app);
+    QVERIFY(field);
+    QVERIFY(field->hasFocus());
+    QTest::keyClicks(field, QStringLiteral("New"));
+    QTest::keyClick(field, Qt::Key_Return);
+    AppFixture::settle();
+
+    QVERIFY(!titleField(app));
+    QCOMPARE(app.text(), result);
+    QCOMPARE(app.selectedInDrawing(), QStringList(QStringLiteral("New")));
+    QVERIFY(app.subject("New")->spear()->isVisible());
+    QVERIFY(app.window.editor()->view()->hasFocus());
+
+    app.trigger("undo");
+    app.trigger("undo");
+    QCOMPARE(app.text(), original());
+}
+
+void TestEditCommands::shouldInsertByMenu_data()
+{
+    QTest::addColumn<QByteArray>("name");
+    QTest::addColumn<QString>("result");
+
+    QTest::newRow("child") << QByteArray("child") << QStringLiteral("Material[Rust,子主题]");
+    QTest::newRow("before") << QByteArray("before") << QStringLiteral("子主题,Material[Rust]");
+    QTest::newRow("after") << QByteArray("after") << QStringLiteral("Material[Rust],子主题");
+    QTest::newRow("parent") << QByteArray("parent") << QStringLiteral("子主题[Material[Rust]]");
+}
+
+void TestEditCommands::shouldInsertByMenu()
+{
+    QFETCH(QByteArray, name);
+    QFETCH(QString, result);
+    AppFixture app;
+    app.select("Material");
+    app.trigger(name.constData());
+    QCOMPARE(app.text(),
+             QStringLiteral("Late[People[Too few[Illness],Too new],Machines,%1]").arg(result));
+    QCOMPARE(app.selectedInTree(), QStringList(QStringLiteral("子主题")));
+}
+
+void TestEditCommands::shouldKeepTheDefaultTitleOnEscape()
+{
+    AppFixture app;
+    app.select("Machines");
+    app.trigger("child");
+    QTest::keyClicks(titleField(app), QStringLiteral("abc"));
+    QTest::keyClick(titleField(app), Qt::Key_Escape);
+    AppFixture::settle();
+    QVERIFY(!titleField(app));
+    QVERIFY(app.text().contains(QStringLiteral("Machines[子主题]")));
+    QCOMPARE(app.window.editor()->undoStack()->commandNames().size(), 1);
+}
+
+void TestEditCommands::shouldLeaveShortcutsToWidgetsThatTakeText()
+{
+    AppFixture app;
+    app.select("Machines");
+    auto *const filter = app.widget<QLineEdit>("filter");
+    filter->setFocus();
+    QTest::keyClicks(filter, QStringLiteral("Mach+-"));
+    QTest::keyClick(filter, Qt::Key_Delete);
+    QTest::keyClick(filter, Qt::Key_Return);
+    AppFixture::settle();
+    QCOMPARE(filter->text(), QStringLiteral("Mach+-"));
+    QCOMPARE(app.text(), original());
+}
+
+void TestEditCommands::shouldInsertAFreeSubjectAsADocument()
+{
+    AppFixture app;
+    app.trigger("free");
+    QCOMPARE(app.window.model()->rowCount(), 2);
+    QCOMPARE(app.text(), QStringLiteral("自由主题"));
+    QVERIFY(!app.window.editor()->undoStack()->canUndo());
+}
+
+void TestEditCommands::shouldRename()
+{
+    AppFixture app;
+    app.select("Too few");
+    QTest::keyClick(app.window.editor()->view(), Qt::Key_F2);
+    QLineEdit *const field = titleField(app);
+    QVERIFY(field);
+    QCOMPARE(field->text(), QStringLiteral("Too few"));
+    field->setText(QStringLiteral("Not enough"));
+    app.window.editor()->view()->setFocus(); // leaving the field takes the title
+    AppFixture::settle();
+    QVERIFY(!titleField(app));
+    QVERIFY(app.text().contains(QLatin1String("Not enough[Illness]")));
+    QCOMPARE(app.find("Not enough").data().toString(), QStringLiteral("Not enough"));
+    QVERIFY(app.window.isWindowModified());
+
+    app.trigger("rename");
+    QTest::keyClick(titleField(app), Qt::Key_Return); // nothing changed
+    QCOMPARE(app.window.editor()->undoStack()->commandNames().size(), 1);
+}
+
+void TestEditCommands::shouldDeleteAndSelectANeighbour_data()
+{
+    QTest::addColumn<QByteArray>("title");
+    QTest::addColumn<QString>("result");
+    QTest::addColumn<QString>("selected");
+
+    QTest::newRow("the next one") << QByteArray("People") << QStringLiteral("Late[Machines,Material[Rust]]")
+                                  << QStringLiteral("Machines");
+    QTest::newRow("the previous one")
+        << QByteArray("Material")
+        << QStringLiteral("Late[People[Too few[Illness],Too new],Machines]")
+        << QStringLiteral("Machines");
+    QTest::newRow("the parent")
+        << QByteArray("Rust")
+        << QStringLiteral("Late[People[Too few[Illness],Too new],Machines,Material]")
+        << QStringLiteral("Material");
+}
+
+void TestEditCommands::shouldDeleteAndSelectANeighbour()
+{
+    QFETCH(QByteArray, title);
+    QFETCH(QString, result);
+    QFETCH(QString, selected);
+    AppFixture app;
+    app.select(title.constData());
+    QTest::keyClick(app.window.editor()->view(), Qt::Key_Delete);
+    AppFixture::settle();
+    QCOMPARE(app.text(), result);
+    QCOMPARE(app.selectedInDrawing(), QStringList(selected));
+    QCOMPARE(app.selectedInTree(), QStringList(selected));
+    app.trigger("undo");
+    QCOMPARE(app.text(), original());
+}
+
+void TestEditCommands::shouldCutAndPaste()
+{
+    AppFixture app;
+    app.select("Too few");
+    app.trigger("cut");
+    QCOMPARE(app.text(), QStringLiteral("Late[People[Too new],Machines,Material[Rust]]"));
+    app.select("Machines");
+    app.trigger("paste");
+    QCOMPARE(app.text(),
+             QStringLiteral("Late[People[Too new],Machines[Too few[Illness]],Material[Rust]]"));
+    QCOMPARE(app.selectedInDrawing(), QStringList(QStringLiteral("Too few")));
+    QCOMPARE(app.subject("Too few")->uuid(), QStringLiteral("{b}")); // it is the same one
+}
+
+void TestEditCommands::shouldGivePastedSubjectsUuidsOfTheirOwn()
+{
+    AppFixture app;
+    app.select("Material");
+    app.trigger("copy");
+    app.select("Machines");
+    app.trigger("paste");
+    QCOMPARE(app.text(), QStringLiteral("Late[People[Too few[Illness],Too new],"
+                                        "Machines[Material[Rust]],Material[Rust]]"));
+    QSet<QString> uuids;
+    const QModelIndexList all = app.window.model()->searchModelIndexes(QString());
+    for (const QModelIndex &index : all)
+        uuids.insert(app.window.model()->getTreeItem(index)->uuid());
+    QCOMPARE(uuids.size(), all.size());
+}
+
+void TestEditCommands::shouldEnableUndoAndRedoWithTheStack()
+{
+    AppFixture app;
+    QVERIFY(!app.action("undo")->isEnabled());
+    QVERIFY(!app.action("redo")->isEnabled());
+    app.select("Machines");
+    app.trigger("delete");
+    QVERIFY(app.action("undo")->isEnabled());
+    QVERIFY(!app.action("redo")->isEnabled());
+    QTest::keyClick(&app.window, Qt::Key_Z, Qt::ControlModifier);
+    AppFixture::settle();
+    QCOMPARE(app.text(), original());
+    QVERIFY(!app.action("undo")->isEnabled());
+    QVERIFY(app.action("redo")->isEnabled());
+    QTest::keyClick(&app.window, Qt::Key_Y, Qt::ControlModifier);
+    AppFixture::settle();
+    QCOMPARE(app.text(), QStringLiteral("Late[People[Too few[Illness],Too new],Material[Rust]]"));
+}
+
+void TestEditCommands::shouldKeepTheDrawingsLookOnUndo()
+{
+    AppFixture app;
+    app.select("Illness");
+    app.select("Rust");
+    app.trigger("child");
+    app.trigger("undo");
+    QVERIFY(app.subject("People")->spear()->isExpand());
+    QVERIFY(app.subject("Too few")->spear()->isExpand());
+    QVERIFY(app.subject("Illness")->spear()->isVisible());
+    QVERIFY(app.subject("Rust")->spear()->isVisible());
+
+    app.select("People");
+    app.trigger("delete");
+    app.trigger("undo"); // other objects, the same subjects
+    QVERIFY(app.subject("Material")->spear()->isExpand());
+}
+
+void TestEditCommands::shouldShowTheDocumentThatUndoChanges()
+{
+    AppFixture app;
+    app.select("Machines");
+    app.trigger("delete");
+    FishInfo *const changed = app.document();
+    app.trigger("new");
+    QVERIFY(app.document() != changed);
+    app.trigger("undo");
+    QCOMPARE(app.document(), changed);
+    QCOMPARE(app.text(), original());
+}
+
+void TestEditCommands::shouldMarkTheDocumentOnUndo()
+{
+    AppFixture app;
+    app.select("Machines");
+    app.trigger("delete");
+    app.document()->setModified(false); // as after saving
+    app.trigger("undo");
+    QVERIFY(app.document()->modified());
+
+    app.document()->setModified(false);
+    app.subject("Machines")->setUrl(QStringLiteral("http://localhost/"));
+    app.select("Machines");
+    app.window.session()->touch();
+    AppFixture::settle();
+    app.trigger("unlink");
+    app.document()->setModified(false);
+    app.trigger("undo"); // the model does not tell of links
+    QCOMPARE(app.subject("Machines")->url(), QStringLiteral("http://localhost/"));
+    QVERIFY(app.document()->modified());
+}
+
+void TestEditCommands::shouldListTheHistoryAndJump()
+{
+    AppFixture app;
+    auto *const list = app.widget<QListWidget>("history");
+    QCOMPARE(list->count(), 1);
+    QCOMPARE(list->currentRow(), 0);
+    app.select("Rust");
+    app.trigger("delete");
+    app.select("Machines");
+    app.trigger("delete");
+    app.select("People");
+    app.trigger("parent");
+    QCOMPARE(rows(*list).mid(1), app.window.editor()->undoStack()->commandNames());
+    QCOMPARE(list->count(), 4);
+    QCOMPARE(list->currentRow(), 3);
+
+    list->setCurrentRow(1);
+    AppFixture::settle();
+    QCOMPARE(app.text(), QStringLiteral("Late[People[Too few[Illness],Too new],Machines,Material]"));
+    QCOMPARE(app.window.editor()->undoStack()->currentIndex(), 0);
+    QVERIFY(app.subject("Machines")->spear()); // the drawing follows
+
+    list->setCurrentRow(0);
+    AppFixture::settle();
+    QCOMPARE(app.text(), original());
+    QVERIFY(!app.action("undo")->isEnabled());
+    list->setCurrentRow(3);
+    AppFixture::settle();
+    QCOMPARE(app.text(), QStringLiteral("Late[子主题[People[Too few[Illness],Too new]],Material]"));
+    QVERIFY(!app.action("redo")->isEnabled());
+
+    app.trigger("undo");
+    QCOMPARE(list->currentRow(), 2);
+    app.select("Material");
+    app.trigger("delete"); // in place of what was undone
+    QCOMPARE(list->count(), 4);
+    QCOMPARE(list->currentRow(), 3);
+}
+
+void TestEditCommands::shouldGoOnUndoingBeyondTheBound()
+{
+    AppFixture app;
+    const QModelIndex machines = app.find("Machines");
+    for (int i = 0; i < 120; ++i)
+        app.window.editor()->renameItem(machines, QString::number(i));
+    AppFixture::settle();
+    QVERIFY(app.action("undo")->isEnabled());
+    app.trigger("undo");
+    QCOMPARE(machines.data().toString(), QStringLiteral("118"));
+    auto *const list = app.widget<QListWidget>("history");
+    QCOMPARE(list->currentRow(), list->count() - 2);
+}
+
+void TestEditCommands::shouldSelectAll()
+{
+    AppFixture app;
+    QTest::keyClick(app.window.editor()->view(), Qt::Key_A, Qt::ControlModifier);
+    AppFixture::settle();
+    for (const char *title : {"People", "Machines", "Material"})
+        QVERIFY2(app.selectedInDrawing().contains(QLatin1String(title)), title);
+    app.trigger("delete");
+    QCOMPARE(app.text(), QStringLiteral("Late"));
+}
+
+void TestEditCommands::shouldLinkAndUnlink()
+{
+    AppFixture app;
+    app.select("Machines");
+    QVERIFY(!app.action("openLink")->isEnabled());
+    QVERIFY(!app.action("unlink")->isEnabled());
+    const ModalDriver<QDialog> driver([](QDialog &dialog) {
+        dialog.findChild<QLineEdit *>()->setText(QStringLiteral("http://localhost/page"));
+        dialog.accept();
+    });
+    app.trigger("link");
+    QVERIFY(driver.isDone());
+    QCOMPARE(app.subject("Machines")->url(), QStringLiteral("http://localhost/page"));
+    QVERIFY(app.subject("Machines")->spear()->linkItem());
+    QVERIFY(app.action("openLink")->isEnabled());
+
+    app.trigger("unlink");
+    QVERIFY(app.subject("Machines")->url().isEmpty());
+    QVERIFY(!app.subject("Machines")->spear()->linkItem());
+    QVERIFY(!app.action("unlink")->isEnabled());
+}
+
+void TestEditCommands::shouldMarkAChangedStyle()
+{
+    AppFixture app;
+    app.select("Machines");
+    QVERIFY(!app.action("removeStyle")->isEnabled());
+    {
+        const ModalDriver<SpearStyleDialog> driver([](SpearStyleDialog &dialog) { dialog.reject(); });
+        app.trigger("style");
+        QVERIFY(driver.isDone());
+    }
+    QVERIFY(!app.document()->modified());
+    {
+        const ModalDriver<SpearStyleDialog> driver([](SpearStyleDialog &dialog) { dialog.accept(); });
+        app.trigger("style");
+        QVERIFY(driver.isDone());
+    }
+    QVERIFY(app.subject("Machines")->spearStyle());
+    QVERIFY(app.document()->modified());
+
+    app.document()->setModified(false);
+    app.trigger("removeStyle");
+    QVERIFY(!app.subject("Machines")->spearStyle());
+    QVERIFY(app.document()->modified());
+    QVERIFY(app.window.isWindowModified());
+}
+
+void TestEditCommands::shouldInsertASubTask()
+{
+    AppFixture app;
+    app.select("Machines");
+    const ModalDriver<QInputDialog> driver([](QInputDialog &dialog) {
+        dialog.setTextValue(QStringLiteral("Repair"));
+        dialog.accept();
+    });
+    Q_EMIT app.window.editor()->createNewSubTask(QStringLiteral("Machines"), QStringLiteral("{e}"),
+                                                 QString());
+    AppFixture::settle();
+    QVERIFY(driver.isDone());
+    QVERIFY(app.text().contains(QLatin1String("Machines[Repair]")));
+    const TreeItem *const made = app.subject("Repair");
+    QCOMPARE(made->pid(), QStringLiteral("{e}"));
+    QVERIFY(!made->uuid().isEmpty());
+    QVERIFY(made->createDate() > 0);
+    QCOMPARE(app.selectedInDrawing(), QStringList(QStringLiteral("Repair")));
+    app.trigger("undo");
+    QCOMPARE(app.text(), original());
+    app.trigger("redo");
+    QVERIFY(app.text().contains(QLatin1String("Machines[Repair]")));
+}
+
+void TestEditCommands::shouldInsertNoSubTaskWhenCancelled()
+{
+    AppFixture app;
+    app.select("Machines");
+    const ModalDriver<QInputDialog> driver([](QInputDialog &dialog) { dialog.reject(); });
+    app.trigger("subTask");
+    QVERIFY(driver.isDone());
+    QCOMPARE(app.text(), original());
+}
+
+void TestEditCommands::shouldAnswerTheEditorsGestures()
+{
+    AppFixture app;
+    Q_EMIT app.window.editor()->insertChildTask(app.find("Machines"));
+    AppFixture::settle();
+    QVERIFY(titleField(app));
+    QTest::keyClicks(titleField(app), QStringLiteral("Wear"));
+    QTest::keyClick(titleField(app), Qt::Key_Return);
+    AppFixture::settle();
+    QVERIFY(app.text().contains(QLatin1String("Machines[Wear]")));
+}
+
+QTEST_MAIN(TestEditCommands)
+#include "tst_editcommands.moc"

@@ -1,0 +1,238 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#include <app/exportdialog.h>
+#include <app/language.h>
+#include <app/mainwindow.h>
+
+#include <fishbone/dialogs/replacefinddialog.h>
+#include <fishbone/dialogs/urldialog.h>
+#include <fishbone/style/penselect.h>
+#include <fishbone/style/spearstyle.h>
+#include <fishbone/style/spearstyledialog.h>
+
+#include <QAction>
+#include <QLabel>
+#include <QLocale>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QTranslator>
+#include <QtTest>
+
+#include <functional>
+#include <memory>
+
+namespace {
+
+using DialogMaker = std::function<std::unique_ptr<QWidget>()>;
+
+/// Adds the mnemonic of \a text to \a taken; false when it is there already.
+bool take(QList<QKeySequence> &taken, const QString &text)
+{
+    const QKeySequence mnemonic = QKeySequence::mnemonic(text);
+    if (mnemonic.isEmpty())
+        return true;
+    if (taken.contains(mnemonic))
+        return false;
+    taken.append(mnemonic);
+    return true;
+}
+
+/// The texts of the labels and buttons in \a widget that are shown.
+QStringList shownTexts(const QWidget &widget)
+{
+    QStringList texts;
+    for (const QWidget *each : widget.findChildren<QWidget *>()) {
+        if (!each->isVisible())
+            continue;
+        if (const auto *const label = qobject_cast<const QLabel *>(each))
+            texts.append(label->text());
+        else if (const auto *const button = qobject_cast<const QAbstractButton *>(each))
+            texts.append(button->text());
+    }
+    return texts;
+}
+
+/// The texts in \a widget that are shown and find no room.
+QStringList cutTexts(const QWidget &widget)
+{
+    QStringList cut;
+    for (const QWidget *each : widget.findChildren<QWidget *>()) {
+        const auto *const label = qobject_cast<const QLabel *>(each);
+        const auto *const button = qobject_cast<const QAbstractButton *>(each);
+        const QString text = label ? label->text() : button ? button->text() : QString();
+        if (!text.isEmpty() && each->isVisible() && each->width() < each->minimumSizeHint().width())
+            cut.append(text);
+    }
+    return cut;
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(DialogMaker)
+
+/// The window and the dialogs in each language.
+class TestLanguageWindow : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup();
+
+    void shouldGiveNoMnemonicTwiceInAMenu_data() { addLanguages(); }
+    void shouldGiveNoMnemonicTwiceInAMenu();
+    void shouldGiveEveryEntryOfAMenuAMnemonic_data() { addLanguages(); }
+    void shouldGiveEveryEntryOfAMenuAMnemonic();
+    void shouldGiveNoMnemonicTwiceInTheWindow_data() { addLanguages(); }
+    void shouldGiveNoMnemonicTwiceInTheWindow();
+    void shouldShowToolTipsWithoutMnemonics_data() { addLanguages(); }
+    void shouldShowToolTipsWithoutMnemonics();
+    void shouldHaveRoomForTheTextsOfTheWindow_data() { addLanguages(); }
+    void shouldHaveRoomForTheTextsOfTheWindow();
+    void shouldHaveRoomForTheTextsOfADialog_data();
+    void shouldHaveRoomForTheTextsOfADialog();
+    void shouldGiveNoMnemonicTwiceInADialog_data() { shouldHaveRoomForTheTextsOfADialog_data(); }
+    void shouldGiveNoMnemonicTwiceInADialog();
+
+private:
+    static void addLanguages()
+    {
+        QTest::addColumn<QString>("language");
+        QTest::newRow("Chinese") << QStringLiteral("zh");
+        QTest::newRow("English") << QStringLiteral("en");
+    }
+
+    /// Installs the current row's language.
+    static void useLanguage()
+    {
+        QFETCH(QString, language);
+        Language::install(language);
+    }
+
+    /// The current row's dialog, shown in its language.
+    static std::unique_ptr<QWidget> shownDialog()
+    {
+        useLanguage();
+        QFETCH(DialogMaker, make);
+        std::unique_ptr<QWidget> dialog = make();
+        dialog->show();
+        return dialog;
+    }
+
+    SpearStyle m_style;
+    QLocale m_locale; ///< the default before anything changed it
+};
+
+/// Takes out what a test has installed.
+void TestLanguageWindow::cleanup()
+{
+    qDeleteAll(QCoreApplication::instance()->findChildren<QTranslator *>());
+    QLocale::setDefault(m_locale);
+}
+
+void TestLanguageWindow::shouldGiveNoMnemonicTwiceInAMenu()
+{
+    useLanguage();
+    const MainWindow window;
+    const QList<QMenu *> menus = window.findChildren<QMenu *>();
+    QVERIFY(menus.size() >= 5);
+    for (const QMenu *menu : menus) {
+        QList<QKeySequence> taken;
+        for (const QAction *action : menu->actions())
+            QVERIFY2(take(taken, action->text()), qPrintable(menu->title() + action->text()));
+    }
+}
+
+void TestLanguageWindow::shouldGiveEveryEntryOfAMenuAMnemonic()
+{
+    useLanguage();
+    const MainWindow window;
+    for (const char *name : {"fileMenu", "editMenu", "subjectMenu", "viewMenu"}) {
+        const auto *const menu = window.findChild<QMenu *>(QLatin1String(name));
+        QVERIFY2(menu, name);
+        QVERIFY2(!QKeySequence::mnemonic(menu->title()).isEmpty(), name);
+        for (const QAction *action : menu->actions()) {
+            QVERIFY2(action->isSeparator() || !QKeySequence::mnemonic(action->text()).isEmpty(),
+                     qPrintable(action->text()));
+        }
+    }
+}
+
+void TestLanguageWindow::shouldGiveNoMnemonicTwiceInTheWindow()
+{
+    useLanguage();
+    MainWindow window;
+    window.show();
+    QList<QKeySequence> taken;
+    for (const QAction *action : window.findChild<QMenuBar *>()->actions())
+        QVERIFY2(take(taken, action->text()), qPrintable(action->text()));
+    QVERIFY(taken.size() >= 5);
+    for (const QString &text : shownTexts(window))
+        QVERIFY2(take(taken, text), qPrintable(text));
+}
+
+void TestLanguageWindow::shouldShowToolTipsWithoutMnemonics()
+{
+    useLanguage();
+    const MainWindow window;
+    static const QRegularExpression mark(
+        QStringLiteral("&|\\([A-Z0-9]\\)(?!$)|\\([A-Z0-9]\\) \\("));
+    int count = 0;
+    for (const QAction *action : window.findChildren<QAction *>()) {
+        // Those that name a text were made with one.
+        if (action->objectName().isEmpty() || action->isSeparator())
+            continue;
+        ++count;
+        QVERIFY2(!action->toolTip().isEmpty(), qPrintable(action->objectName()));
+        QVERIFY2(!mark.match(action->toolTip()).hasMatch(), qPrintable(action->toolTip()));
+    }
+    QVERIFY(count > 30);
+}
+
+void TestLanguageWindow::shouldHaveRoomForTheTextsOfTheWindow()
+{
+    useLanguage();
+    MainWindow window;
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QCOMPARE(cutTexts(window), QStringList());
+}
+
+void TestLanguageWindow::shouldHaveRoomForTheTextsOfADialog_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<DialogMaker>("make");
+
+    const QHash<QByteArray, DialogMaker> dialogs{
+        {"export", [] { return std::make_unique<ExportDialog>(QStringLiteral("a.png")); }},
+        {"find", [] { return std::make_unique<ReplaceFindDialog>(); }},
+        {"url", [] { return std::make_unique<URLDialog>(); }},
+        {"style", [this] { return std::make_unique<SpearStyleDialog>(m_style); }},
+        {"pen", [] { return std::make_unique<PenSelect>(QPen()); }},
+    };
+    for (const char *language : {"zh", "en"}) {
+        for (auto dialog = dialogs.cbegin(); dialog != dialogs.cend(); ++dialog)
+            QTest::addRow("%s, %s", dialog.key().constData(), language)
+                << QString::fromLatin1(language) << dialog.value();
+    }
+}
+
+void TestLanguageWindow::shouldHaveRoomForTheTextsOfADialog()
+{
+    const std::unique_ptr<QWidget> dialog = shownDialog();
+    QVERIFY(QTest::qWaitForWindowExposed(dialog.get()));
+    QVERIFY(shownTexts(*dialog).size() > 3);
+    QCOMPARE(cutTexts(*dialog), QStringList());
+}
+
+void TestLanguageWindow::shouldGiveNoMnemonicTwiceInADialog()
+{
+    const std::unique_ptr<QWidget> dialog = shownDialog();
+    QList<QKeySequence> taken;
+    for (const QString &text : shownTexts(*dialog))
+        QVERIFY2(take(taken, text), qPrintable(text));
+}
+
+QTEST_MAIN(TestLanguageWindow)
+#include "tst_languagewindow.moc"
