@@ -150,6 +150,9 @@ int FishEditor::directionFor(const SpearItem *parent, int level, int row)
 void FishEditor::showNothing()
 {
     m_headSpear = SpearPointer();
+    // One report for all of them: items that die selected are reported one by one, and each report
+    // costs its listeners a look at the whole selection.
+    m_scene->clearSelection();
     m_scene->clear();
 }
 

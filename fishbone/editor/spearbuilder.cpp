@@ -61,9 +61,10 @@ SpearItem *SpearBuilder::makeBone(const QModelIndex &index, SpearItem *parent, i
                                   double size) const
 {
     SpearItem *const bone = makeSpear(m_model, index, direction, size);
-    bone->setParentItem(parent);
+    // Before the bone hangs anywhere: an item that is placed tells all above it.
     if (bone->treeItem()->childCount() > 0)
         giveExpandItem(bone);
+    bone->setParentItem(parent);
     return bone;
 }
 

@@ -88,6 +88,7 @@ bool ExpandItem::generateMissingChildren(SpearItem *spear) const
     FishEditor *const editor = responsibleEditor();
     if (!editor || !qobject_cast<FishModel *>(editor->model()))
         return false;
+    // Builds nothing when the editor shows another model.
     editor->generateSpear(editor->model(), spear->modelIndex());
-    return true;
+    return !spear->childSpears().isEmpty();
 }

@@ -175,33 +175,36 @@ SpearStyle::SpearState SpearItem::spearState(const QStyleOptionGraphicsItem *opt
     return SpearStyle::ssNormal;
 }
 
-QStyle::State SpearItem::interactionFlags() const
-{
-    QStyle::State flags = QStyle::State_None;
-    flags.setFlag(QStyle::State_MouseOver, m_hovered);
-    flags.setFlag(QStyle::State_Selected, isSelected());
-    return flags;
-}
-
 SpearStyle::SpearState SpearItem::interactionState() const
 {
     QStyleOptionGraphicsItem option;
-    option.state = interactionFlags();
+    option.state.setFlag(QStyle::State_MouseOver, m_hovered);
+    option.state.setFlag(QStyle::State_Selected, isSelected());
     return spearState(&option);
+}
+
+SpearStyle::SpearState SpearItem::boxState() const
+{
+    return qMax(m_currentState, m_textItem->ownState()); // they are numbered by their strength
 }
 
 /// The state that the text is drawn in: a linked header keeps its normal text.
 SpearStyle::SpearState SpearItem::textState() const
 {
-    const bool linkedHeader = m_currentState == SpearStyle::ssLinked && isHeader();
-    return linkedHeader ? SpearStyle::ssNormal : m_currentState;
+    const SpearStyle::SpearState state = boxState();
+    return state == SpearStyle::ssLinked && isHeader() ? SpearStyle::ssNormal : state;
+}
+
+void SpearItem::updateTextLooks()
+{
+    updateTextMetrics();
+    m_textItem->showColor(textColor(textState()));
 }
 
 void SpearItem::applyState(SpearStyle::SpearState state)
 {
     m_currentState = state;
-    updateTextMetrics();
-    m_textItem->showColor(textColor(textState()));
+    updateTextLooks();
     setPen(broaderPen(state));
 }
 
@@ -239,6 +242,7 @@ int SpearItem::textDisplayCount() const
 
 void SpearItem::setLinked(bool linked, int number)
 {
+    prepareGeometryChange(); // the circle may lie outside the bone
     m_linked = linked;
     m_linkNumber = number;
     applyState(interactionState());
@@ -330,6 +334,9 @@ QVariant SpearItem::itemChange(GraphicsItemChange change, const QVariant &value)
         // Applied here rather than by the next paint, which must find nothing to change.
         applyState(interactionState());
         m_textItem->update();
+    } else if (change == ItemSceneHasChanged && m_hovered) {
+        m_hovered = false; // the scene that it left sends no further event
+        applyState(interactionState());
     } else if (change == ItemChildRemovedChange) {
         // A companion that dies or is given to somebody else is forgotten.
         const auto *const removed = value.value<QGraphicsItem *>();

@@ -8,7 +8,6 @@
 #include <QGraphicsLineItem>
 #include <QPen>
 #include <QPointer>
-#include <QStyle>
 
 #include <fishbone/fishbone_export.h>
 #include <fishbone/style/spearstyle.h>
@@ -104,8 +103,11 @@ public:
     /// Applies \a state: its font, text colour and line width, where they differ from what is
     /// shown.
     void applyState(SpearStyle::SpearState state);
-    /// QStyle::State_Selected and QStyle::State_MouseOver as far as they hold for this spear now.
-    QStyle::State interactionFlags() const;
+    /// The state that the text box shows: currentState() or the box's own, whichever is stronger.
+    SpearStyle::SpearState boxState() const;
+    /// Brings font, colour and text of the text box in line with boxState(), where they differ. The
+    /// text of a header stays normal while it is linked.
+    void updateTextLooks();
 
     QFont textFont(SpearStyle::SpearState state) const;     ///< a default font when unset
     QFont font() const;                                     ///< the font of the current state
@@ -199,6 +201,9 @@ public:
     /// The text box's position. Also sets the text box's rotation.
     QPointF textBuddyPosition();
 
+    /// Line, text and, for the header, pictures, as far as they are painted by the spear itself;
+    /// also the link circle, which lies beside a contracted bone. Linear in the child items while
+    /// linked.
     QRectF boundingRect() const override;
     QPainterPath shape() const override;
     /// @}
@@ -255,6 +260,7 @@ private:
     void drawBackbone(QPainter *painter) const;
     void drawLinkCircle(QPainter *painter) const;
     QPointF linkCircleCenter() const;
+    QRectF linkCircleRect() const;
 
     static void loadPictures();
     static void releasePictures();

@@ -215,11 +215,15 @@ QLineF SpearItem::slantedLine(const SpearItem &parent) const
 void SpearItem::updatePosition(const QPointF &position)
 {
     Q_UNUSED(position)
-    const SpearItem *const parent = parentSpear();
-    if (!parent)
-        setLine(headerLine());
-    else
-        setLine(m_direction == 0 ? horizontalLine(*parent) : slantedLine(*parent));
+    SpearItem *const parent = parentSpear();
+    const QLineF placed = !parent            ? headerLine()
+                          : m_direction == 0 ? horizontalLine(*parent)
+                                             : slantedLine(*parent);
+    if (parent && parent->isLinked() && placed != line()) {
+        parent->prepareGeometryChange(); // its circle stands between the lines of its children
+        parent->update();
+    }
+    setLine(placed);
     placeCompanions();
 }
 
@@ -272,10 +276,11 @@ QRectF SpearItem::boundingRect() const
             if (!picture.isEmpty())
                 rect |= picture;
         }
-        return rect;
+    } else {
+        const double margin = (pen().width() + 20) * 0.5;
+        rect = (rect | textRect()).normalized().adjusted(-margin, -margin, margin, margin);
     }
-    const double margin = (pen().width() + 20) * 0.5;
-    return (rect | textRect()).normalized().adjusted(-margin, -margin, margin, margin);
+    return m_linked ? rect | linkCircleRect() : rect;
 }
 
 QPolygonF SpearItem::slantedTextOutline() const

@@ -156,3 +156,11 @@ void SpearItem::drawLinkCircle(QPainter *painter) const
     painter->drawEllipse(linkCircleCenter(), linkCircleRadius, linkCircleRadius);
     painter->restore();
 }
+
+QRectF SpearItem::linkCircleRect() const
+{
+    const double extent = 2 * linkCircleRadius + qMax(pen().widthF(), 1.0);
+    QRectF rect(0, 0, extent, extent);
+    rect.moveCenter(linkCircleCenter());
+    return rect;
+}

@@ -14,16 +14,19 @@
 namespace {
 constexpr qreal cornerRoundness = 5; ///< per cent of half the box's width and height
 
-bool isHighlighted(QStyle::State state)
+SpearStyle::SpearState stateOf(bool hovered, bool selected)
 {
-    return state & (QStyle::State_Selected | QStyle::State_MouseOver);
+    if (hovered)
+        return SpearStyle::ssHovered;
+    return selected ? SpearStyle::ssSelected : SpearStyle::ssNormal;
 }
 } // namespace
 
 TextItem::TextItem(const QString &text, QGraphicsItem *parent)
     : QGraphicsTextItem(parent)
 {
-    showText(font(), text);
+    showText(QFont(), text);
+    showColor(QColor());
 }
 
 bool TextItem::shows(const QFont &font, const QString &text) const
@@ -55,22 +58,21 @@ SpearItem *TextItem::parentSpear() const
 
 void TextItem::paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget)
 {
+    m_ownState =
+        stateOf(option->state & QStyle::State_MouseOver, option->state & QStyle::State_Selected);
+    SpearStyle::SpearState state = m_ownState;
     QColor fill;
     QPen frame = painter->pen();
-    bool boxed = isHighlighted(option->state);
     if (SpearItem *const spear = parentSpear()) {
-        QStyleOptionGraphicsItem followed(*option);
-        followed.state |= spear->interactionFlags();
-        const SpearStyle::SpearState state = spear->spearState(&followed);
-        spear->applyState(state);
+        spear->updateTextLooks();
+        state = spear->boxState();
         fill = spear->textBkColor(state);
         frame = spear->broaderPen(state);
-        boxed = isHighlighted(followed.state) || spear->isLinked();
     } else {
         showText(QFont(), m_text);
         showColor(QColor());
     }
-    if (boxed)
+    if (state != SpearStyle::ssNormal)
         paintBox(painter, QRectF(option->rect), fill, frame);
     QGraphicsTextItem::paint(painter, option, widget);
 }
@@ -94,8 +96,32 @@ void TextItem::paintBox(QPainter *painter, const QRectF &exposed, const QColor &
     painter->restore();
 }
 
+/// Applied before the next paint, which must find nothing to change.
+void TextItem::followInteraction()
+{
+    const SpearStyle::SpearState state = stateOf(m_hovered, isSelected());
+    if (state == m_ownState)
+        return;
+    m_ownState = state;
+    if (SpearItem *const spear = parentSpear())
+        spear->updateTextLooks();
+    update();
+}
+
+QVariant TextItem::itemChange(GraphicsItemChange change, const QVariant &value)
+{
+    const QVariant result = QGraphicsTextItem::itemChange(change, value);
+    if (change == ItemSceneHasChanged)
+        m_hovered = false; // the scene that it left sends no further event
+    if (change == ItemSceneHasChanged || change == ItemSelectedHasChanged)
+        followInteraction();
+    return result;
+}
+
 void TextItem::hoverEnterEvent(QGraphicsSceneHoverEvent *event)
 {
+    m_hovered = true;
+    followInteraction();
     showHoverCursor(*this, event->scenePos());
     QGraphicsTextItem::hoverEnterEvent(event);
 }
@@ -108,6 +134,8 @@ void TextItem::hoverMoveEvent(QGraphicsSceneHoverEvent *event)
 
 void TextItem::hoverLeaveEvent(QGraphicsSceneHoverEvent *event)
 {
+    m_hovered = false;
+    followInteraction();
     showArrowCursor(*this);
     QGraphicsTextItem::hoverLeaveEvent(event);
 }

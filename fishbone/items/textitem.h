@@ -7,6 +7,7 @@
 #include <QTextDocument>
 
 #include <fishbone/fishbone_export.h>
+#include <fishbone/style/spearstyle.h>
 
 class SpearItem;
 
@@ -38,19 +39,27 @@ public:
     /// Shows the text in \a color; the colour already shown schedules no repaint.
     void showColor(const QColor &color);
 
-    /// Paints the box of the parent spear's state, then the text. Schedules no repaint when font,
-    /// colour and text are those of the state already.
+    /// What the box itself gives cause for: ssHovered or ssSelected as it was at its last event or
+    /// paint, else ssNormal. The mouse may be over the box and not count as being over the spear.
+    SpearStyle::SpearState ownState() const { return m_ownState; }
+
+    /// Paints the box of the parent spear's state or its own, the stronger one, then the text.
+    /// Schedules no repaint when font, colour and text are those of the state already.
     void paint(QPainter *painter, const QStyleOptionGraphicsItem *option,
                QWidget *widget = nullptr) override;
 
 protected:
+    QVariant itemChange(GraphicsItemChange change, const QVariant &value) override;
     void hoverEnterEvent(QGraphicsSceneHoverEvent *event) override;
     void hoverMoveEvent(QGraphicsSceneHoverEvent *event) override;
     void hoverLeaveEvent(QGraphicsSceneHoverEvent *event) override;
 
 private:
     SpearItem *parentSpear() const;
+    void followInteraction();
     void paintBox(QPainter *painter, const QRectF &exposed, const QColor &fill, const QPen &frame);
 
+    SpearStyle::SpearState m_ownState = SpearStyle::ssNormal;
+    bool m_hovered = false;
     QString m_text; ///< what the document was given last; cheaper to compare than the document
 };

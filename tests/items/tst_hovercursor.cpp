@@ -23,8 +23,7 @@ private Q_SLOTS:
     void shouldLeaveTheItemsOwnCursorAlone();
 };
 
-namespace
-{
+namespace {
 /// A square of 10 units in a scene with a view.
 struct Scenery
 {

@@ -91,7 +91,8 @@ void TestLinkItem::shouldTakeTheLeftButtonOnly()
 void TestLinkItem::shouldOpenTheUrlOnALeftPress()
 {
     QGraphicsScene scene;
-    auto *const item = std::make_unique<LinkItem>(QStringLiteral("https://example.org/a")).release();
+    auto *const item =
+        std::make_unique<LinkItem>(QStringLiteral("https://example.org/a")).release();
     scene.addItem(item);
 
     sendPress(*item, Qt::LeftButton);
@@ -212,7 +213,8 @@ void TestLinkItem::shouldOpenWhenTheIconIsClickedInAView()
 {
     Drawing drawing(QStringLiteral("Effect[Man]"));
     SpearItem *const spear = drawing.spear(QStringLiteral("Man"));
-    auto *const item = std::make_unique<LinkItem>(QStringLiteral("https://example.org/c")).release();
+    auto *const item =
+        std::make_unique<LinkItem>(QStringLiteral("https://example.org/c")).release();
     spear->setLinkItem(item);
     QGraphicsView view(&drawing.scene);
     view.resize(600, 400);

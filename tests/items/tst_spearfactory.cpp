@@ -84,9 +84,8 @@ void TestSpearFactory::shouldTitleTheSpearAsTheModelShowsTheSubject_data()
     QTest::addColumn<QString>("subject");
     QTest::addColumn<QString>("text");
 
-    QTest::newRow("a head with its counts")
-        << int(FISH_MODEL_NORMAL) << QStringLiteral("Effect")
-        << QStringLiteral("Effect(0个无父任务/共4个任务)");
+    QTest::newRow("a head with its counts") << int(FISH_MODEL_NORMAL) << QStringLiteral("Effect")
+                                            << QStringLiteral("Effect(0个无父任务/共4个任务)");
     QTest::newRow("a head without counts")
         << int(FISH_MODEL_DIAGRAM) << QStringLiteral("Effect") << QStringLiteral("Effect");
     QTest::newRow("any other subject")

@@ -40,8 +40,7 @@ private Q_SLOTS:
     void shouldUpdateTheToolTipWhenTheMouseEnters();
 };
 
-namespace
-{
+namespace {
 std::unique_ptr<SpearItem> newSpear(const QString &title = QStringLiteral("Cause"))
 {
     return std::make_unique<SpearItem>(title, 0, 20.0);
@@ -66,9 +65,9 @@ void TestSpearItem::shouldBeFreshAfterConstruction()
     QCOMPARE(spear.line(), QLineF());
     QCOMPARE(spear.parentItem(), nullptr);
     QCOMPARE(int(spear.flags()), 0x4803);
-    QCOMPARE(spear.flags(),
-             QGraphicsItem::ItemIsMovable | QGraphicsItem::ItemIsSelectable
-                 | QGraphicsItem::ItemSendsGeometryChanges | QGraphicsItem::ItemIsPanel);
+    QCOMPARE(spear.flags(), QGraphicsItem::ItemIsMovable | QGraphicsItem::ItemIsSelectable |
+                                QGraphicsItem::ItemSendsGeometryChanges |
+                                QGraphicsItem::ItemIsPanel);
     QVERIFY(spear.acceptHoverEvents());
     QCOMPARE(spear.currentState(), SpearStyle::ssNormal);
     QVERIFY(!spear.modelIndex().isValid());
@@ -104,8 +103,10 @@ void TestSpearItem::shouldShareThePicturesAndReleaseThemWithTheLastSpear()
         QCOMPARE(SpearItem::m_refCount, 1);
         const QPixmap *const head = SpearItem::m_pixHeader;
         const QPixmap *const tail = SpearItem::m_pixTail;
-        QCOMPARE(head->size(), QSvgRenderer(QStringLiteral(":/fishboneDiagram/head.svg")).defaultSize());
-        QCOMPARE(tail->size(), QSvgRenderer(QStringLiteral(":/fishboneDiagram/tail.svg")).defaultSize());
+        QCOMPARE(head->size(),
+                 QSvgRenderer(QStringLiteral(":/fishboneDiagram/head.svg")).defaultSize());
+        QCOMPARE(tail->size(),
+                 QSvgRenderer(QStringLiteral(":/fishboneDiagram/tail.svg")).defaultSize());
         QVERIFY(head->hasAlphaChannel());
 
         auto second = newSpear();
@@ -313,8 +314,8 @@ void TestSpearItem::shouldShowTheHandWhileItIsTopmost()
     const QGraphicsView view(&drawing.scene);
     const QWidget *const viewport = view.viewport();
     const QPointF onBone = spear->line().p2() * 0.9 + spear->line().p1() * 0.1;
-    const QPointF onText = spear->mapFromItem(spear->textItem(),
-                                              spear->textItem()->boundingRect().center());
+    const QPointF onText =
+        spear->mapFromItem(spear->textItem(), spear->textItem()->boundingRect().center());
 
     sendHover(*spear, QEvent::GraphicsSceneHoverEnter, onBone);
     QCOMPARE(viewport->cursor().shape(), Qt::PointingHandCursor);

@@ -18,8 +18,7 @@
 
 using namespace TestSupport;
 
-namespace
-{
+namespace {
 const QString man = QStringLiteral("Man");
 const QString machine = QStringLiteral("Machine");
 
@@ -385,8 +384,7 @@ void TestSpearItemLinks::shouldAdoptACompanion_data()
     QTest::newRow("expand button in a scene") << expand << true;
 }
 
-namespace
-{
+namespace {
 /// A spear, in a scene or not, with a companion of one kind.
 struct Owner
 {

@@ -43,8 +43,7 @@ private Q_SLOTS:
     void shouldNotDrawItsText();
 };
 
-namespace
-{
+namespace {
 const QString man = QStringLiteral("Man");
 const QColor backbone(60, 184, 121);
 constexpr int scale = 4;
@@ -70,8 +69,8 @@ struct FlatBone
         return double(areaOf(picture.copy(canvas.pixelAt(QPointF(-100, 0)).x(), 0, 1,
                                           picture.height()),
                              color)
-                          .height())
-            / scale;
+                          .height()) /
+               scale;
     }
 
     Drawing drawing;
@@ -92,8 +91,8 @@ bool isAbout(const QRectF &actual, const QRectF &expected)
 {
     const QRectF difference(actual.topLeft() - expected.topLeft(),
                             actual.bottomRight() - expected.bottomRight());
-    return std::abs(difference.left()) <= 0.5 && std::abs(difference.top()) <= 0.5
-        && std::abs(difference.right()) <= 0.5 && std::abs(difference.bottom()) <= 0.5;
+    return std::abs(difference.left()) <= 0.5 && std::abs(difference.top()) <= 0.5 &&
+           std::abs(difference.right()) <= 0.5 && std::abs(difference.bottom()) <= 0.5;
 }
 
 QRectF square(const QPointF &center, double side)
@@ -113,8 +112,8 @@ void TestSpearItemPainting::shouldDrawTheBoneInThePenOfItsState_data()
     QTest::newRow("normal") << false << 0 << int(SpearStyle::ssNormal);
     QTest::newRow("selected") << false << selected << int(SpearStyle::ssSelected);
     QTest::newRow("hovered") << false << hovered << int(SpearStyle::ssHovered);
-    QTest::newRow("selected, hovered") << false << (selected | hovered)
-                                       << int(SpearStyle::ssHovered);
+    QTest::newRow("selected, hovered")
+        << false << (selected | hovered) << int(SpearStyle::ssHovered);
     QTest::newRow("linked") << true << 0 << int(SpearStyle::ssLinked);
     QTest::newRow("all") << true << (selected | hovered) << int(SpearStyle::ssLinked);
 }
@@ -134,7 +133,8 @@ void TestSpearItemPainting::shouldDrawTheBoneInThePenOfItsState()
         QCOMPARE(bone.thickness(picture, pen.color()), i == look ? pen.widthF() : 0.0);
     }
     const double width = lookOf(SpearStyle::SpearState(look)).pen.widthF();
-    const QRectF whole = unitsOf(picture, bone.canvas, lookOf(SpearStyle::SpearState(look)).pen.color());
+    const QRectF whole =
+        unitsOf(picture, bone.canvas, lookOf(SpearStyle::SpearState(look)).pen.color());
     QVERIFY(std::abs(whole.left() - (-200 - width / 2)) <= 0.5); // to its end, with a square cap
 }
 
@@ -146,7 +146,8 @@ void TestSpearItemPainting::shouldDrawAnImmovableBoneRed_data()
     for (const QStyle::State state :
          {QStyle::State_None, QStyle::State_Selected, QStyle::State_MouseOver}) {
         QTest::addRow("thick, state %x", unsigned(state)) << int(state) << QPen(Qt::blue, 9);
-        QTest::addRow("dashed, state %x", unsigned(state)) << int(state) << QPen(Qt::blue, 3, Qt::DotLine);
+        QTest::addRow("dashed, state %x", unsigned(state))
+            << int(state) << QPen(Qt::blue, 3, Qt::DotLine);
         QTest::addRow("no pen, state %x", unsigned(state)) << int(state) << QPen(Qt::NoPen);
     }
 }
@@ -267,7 +268,8 @@ void TestSpearItemPainting::shouldDrawTheCircleBetweenTheNumberedAndTheLastChild
     QCOMPARE(canvas.colorAt(picture, center + QPointF(5, 5)), pen.color());
     QCOMPARE(canvas.colorAt(picture, center + QPointF(7.5, 7.5)), QColor(Qt::white)); // round
     const double radius = 8 + pen.widthF() / 2;
-    QVERIFY(std::abs(inkedPixels(picture) - std::acos(-1.0) * radius * radius * scale * scale) < 100);
+    QVERIFY(std::abs(inkedPixels(picture) - std::acos(-1.0) * radius * radius * scale * scale) <
+            100);
 }
 
 void TestSpearItemPainting::shouldDrawTheCircleAtItsStartWithoutChildren()

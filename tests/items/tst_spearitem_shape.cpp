@@ -30,15 +30,14 @@ private Q_SLOTS:
     void shouldGrowByTheWholePenWidth();
     void shouldCoverThePicturesOfAHeader();
     void shouldLeaveOutAPictureThatIsMissing();
+    void shouldCoverItsLinkCircle_data();
+    void shouldCoverItsLinkCircle();
     void shouldBeHitOnLineAndText_data();
     void shouldBeHitOnLineAndText();
     void shouldBeHitAsHeaderOnLineAndPictures();
 
 private:
-    static QSizeF textSize(const SpearItem &spear)
-    {
-        return spear.textItem()->document()->size();
-    }
+    static QSizeF textSize(const SpearItem &spear) { return spear.textItem()->document()->size(); }
 };
 
 void TestSpearItemShape::shouldReserveASquareForTheTextOfAHeader_data()
@@ -95,7 +94,8 @@ void TestSpearItemShape::shouldSurroundLineAndText_data()
     QTest::addColumn<QPointF>("text");
 
     QTest::newRow("horizontal") << 0 << QLineF(-50, 40, -300, 40) << QPointF(-80, 12);
-    QTest::newRow("horizontal, text beside it") << 0 << QLineF(-50, 40, -60, 40) << QPointF(-200, 0);
+    QTest::newRow("horizontal, text beside it")
+        << 0 << QLineF(-50, 40, -60, 40) << QPointF(-200, 0);
     QTest::newRow("slanted down") << 1 << QLineF(-50, 40, -130, 260) << QPointF(-70, 80);
     QTest::newRow("slanted up") << -1 << QLineF(-50, 40, -130, -180) << QPointF(-70, 0);
     QTest::newRow("rightwards") << 1 << QLineF(-130, 260, -50, 40) << QPointF(-40, 80);
@@ -143,8 +143,8 @@ void TestSpearItemShape::shouldGrowByTheWholePenWidth()
 
     bones.spear->setPen(QPen(Qt::black, width));
 
-    const QRectF expected = QRectF(QPointF(-130, 40), QPointF(-50, 260))
-                                .adjusted(-margin, -margin, margin, margin);
+    const QRectF expected =
+        QRectF(QPointF(-130, 40), QPointF(-50, 260)).adjusted(-margin, -margin, margin, margin);
     QCOMPARE(bones.spear->boundingRect(), expected);
 }
 
@@ -155,9 +155,9 @@ void TestSpearItemShape::shouldCoverThePicturesOfAHeader()
 
     const QSizeF head = SpearItem::m_pixHeader->size();
     const QSizeF tail = SpearItem::m_pixTail->size();
-    const QRectF expected = QRectF(QPointF(-500, 20), QPointF(10, 26))
-        | QRectF(QPointF(10, 20 - head.height() / 2), head)
-        | QRectF(QPointF(-500 - tail.width(), 26 - tail.height() / 2), tail);
+    const QRectF expected = QRectF(QPointF(-500, 20), QPointF(10, 26)) |
+                            QRectF(QPointF(10, 20 - head.height() / 2), head) |
+                            QRectF(QPointF(-500 - tail.width(), 26 - tail.height() / 2), tail);
     QCOMPARE(header.boundingRect(), expected);
 }
 
@@ -181,6 +181,39 @@ void TestSpearItemShape::shouldLeaveOutAPictureThatIsMissing()
                                         QSizeF(tail.size())));
     QCOMPARE(withoutBoth, line);
     QVERIFY(!hitWhereTheHeadWas);
+}
+
+void TestSpearItemShape::shouldCoverItsLinkCircle_data()
+{
+    QTest::addColumn<QPointF>("lastChild");
+    QTest::addColumn<bool>("beside");
+
+    QTest::newRow("on the bone") << QPointF(-90, 150) << false;
+    QTest::newRow("at its end") << QPointF(-210, 420) << false; // half way to there
+    QTest::newRow("beyond a contracted bone") << QPointF(-400, 800) << true;
+}
+
+void TestSpearItemShape::shouldCoverItsLinkCircle()
+{
+    QFETCH(QPointF, lastChild);
+    QFETCH(bool, beside);
+    DeeperBone bones(1, 0);
+    SpearItem &bone = *bones.parent;
+    bone.setLine(-50, 40, -130, 260);
+    bone.textItem()->setPos(-70, 80);
+    bones.spear->setLine(QLineF(lastChild, lastChild - QPointF(80, 0)));
+    const QRectF plain = bone.boundingRect();
+
+    bone.setLinked(true, 1); // behind its only child: half way between that and its own start
+    const QRectF linked = bone.boundingRect();
+    bone.setLinked(false, 0);
+
+    const QPointF center = (lastChild + QPointF(-50, 40)) / 2;
+    const double extent = 8 + bone.pen().widthF() / 2;
+    const QRectF circle = QRectF(center, QSizeF(0, 0)).adjusted(-extent, -extent, extent, extent);
+    QCOMPARE(linked, plain | circle);
+    QCOMPARE(linked != plain, beside);
+    QCOMPARE(bone.boundingRect(), plain);
 }
 
 void TestSpearItemShape::shouldBeHitOnLineAndText_data()
@@ -213,8 +246,7 @@ void TestSpearItemShape::shouldBeHitOnLineAndText()
     int hits = 0;
     int misses = 0;
     int both = 0;
-    const QRectF around =
-        bones.spear->boundingRect() | box->mapRectToParent(box->boundingRect());
+    const QRectF around = bones.spear->boundingRect() | box->mapRectToParent(box->boundingRect());
     for (double y = around.top() - 20; y < around.bottom() + 20; y += 1.3) {
         for (double x = around.left() - 20; x < around.right() + 20; x += 1.3) {
             const QPointF point(x, y);
@@ -266,7 +298,8 @@ void TestSpearItemShape::shouldBeHitAsHeaderOnLineAndPictures()
         QVERIFY(!shape.contains(outside.topLeft()) && !shape.contains(outside.bottomRight()));
     }
     QVERIFY(shape.contains(QPointF(-1000, 0)));
-    QVERIFY(std::tan(header.backboneAngle()) * 1800 > 3.5); // there is a wedge, but it does not count
+    QVERIFY(std::tan(header.backboneAngle()) * 1800 >
+            3.5); // there is a wedge, but it does not count
     QVERIFY(!shape.contains(QPointF(-200, 3)));
     QVERIFY(!shape.contains(QPointF(-200, -3)));
 }

@@ -24,8 +24,7 @@ private Q_SLOTS:
     void shouldBeMadeOfASpearThatHadPointersBefore();
 };
 
-namespace
-{
+namespace {
 std::unique_ptr<SpearItem> newSpear()
 {
     return std::make_unique<SpearItem>(QStringLiteral("Cause"), 0, 20.0);
@@ -122,7 +121,9 @@ void TestSpearPointer::shouldNotFollowASpearThatItLeft()
 void TestSpearPointer::shouldBeMadeOfASpearThatHadPointersBefore()
 {
     auto spear = newSpear();
-    { const SpearPointer gone(spear.get()); }
+    {
+        const SpearPointer gone(spear.get());
+    }
     const SpearPointer pointer(spear.get());
 
     QCOMPARE(pointer.get(), spear.get());

@@ -8,8 +8,7 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
-namespace
-{
+namespace {
 /// What the first of the two application objects of this program saw.
 struct FirstApplication
 {
@@ -56,7 +55,7 @@ private:
         const QString path = m_folder.filePath(name);
         QFile file(path);
         return file.open(QIODevice::WriteOnly) && file.write(content) == content.size() ? path
-                                                                                       : QString();
+                                                                                        : QString();
     }
 
     QTemporaryDir m_folder;
@@ -101,8 +100,8 @@ void TestSvgCache::shouldShareTheRendererOfAFile()
 
 void TestSvgCache::shouldKeepFilesApart()
 {
-    QVERIFY(sharedSvgRenderer(expandFile())
-            != sharedSvgRenderer(QStringLiteral(":/fishboneDiagram/contract.svg")));
+    QVERIFY(sharedSvgRenderer(expandFile()) !=
+            sharedSvgRenderer(QStringLiteral(":/fishboneDiagram/contract.svg")));
 }
 
 void TestSvgCache::shouldHaveNothingForAnEmptyName()

@@ -41,8 +41,7 @@ private Q_SLOTS:
     void shouldAcceptHoverWhenMadeWithAFile();
 };
 
-namespace
-{
+namespace {
 QString picture(const char *name)
 {
     return QLatin1String(":/fishboneDiagram/") + QLatin1String(name);

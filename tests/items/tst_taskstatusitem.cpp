@@ -40,12 +40,11 @@ private:
     SpearItem m_spear{QStringLiteral("Cause"), 0, 20.0};
 };
 
-namespace
-{
+namespace {
 QString icon(const char *identifier)
 {
-    return QLatin1String(":/fishboneDiagram/status/") + QLatin1String(identifier)
-        + QLatin1String(".svg");
+    return QLatin1String(":/fishboneDiagram/status/") + QLatin1String(identifier) +
+           QLatin1String(".svg");
 }
 } // namespace
 

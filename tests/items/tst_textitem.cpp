@@ -13,8 +13,7 @@
 
 using namespace TestSupport;
 
-namespace
-{
+namespace {
 /// Which looks and flags a spear is given before its text box is painted.
 enum class SpearIs { Untouched, Selected, Hovered, Linked };
 
@@ -40,6 +39,8 @@ private Q_SLOTS:
     void shouldLookAsTheStateAsks_data();
     void shouldLookAsTheStateAsks();
     void shouldKeepTheTextOfALinkedHeaderNormal();
+    void shouldFollowItsOwnInteractionBeforeItIsPainted();
+    void shouldForgetTheMouseWhenItLeavesItsScene();
     void shouldFrameTheInsideOfItsRectangle_data();
     void shouldFrameTheInsideOfItsRectangle();
     void shouldStayInsideItsRectangleWithAnyPen_data();
@@ -161,10 +162,10 @@ void TestTextItem::shouldLookAsTheStateAsks_data()
     const int selected = QStyle::State_Selected;
     const int hovered = QStyle::State_MouseOver;
     QTest::newRow("nothing") << SpearIs::Untouched << none << int(SpearStyle::ssNormal) << false;
-    QTest::newRow("selected box")
-        << SpearIs::Untouched << selected << int(SpearStyle::ssSelected) << true;
-    QTest::newRow("hovered box")
-        << SpearIs::Untouched << hovered << int(SpearStyle::ssHovered) << true;
+    QTest::newRow("selected box") << SpearIs::Untouched << selected << int(SpearStyle::ssSelected)
+                                  << true;
+    QTest::newRow("hovered box") << SpearIs::Untouched << hovered << int(SpearStyle::ssHovered)
+                                 << true;
     QTest::newRow("selected and hovered box")
         << SpearIs::Untouched << (selected | hovered) << int(SpearStyle::ssHovered) << true;
     QTest::newRow("focus alone") << SpearIs::Untouched << int(QStyle::State_HasFocus)
@@ -173,7 +174,8 @@ void TestTextItem::shouldLookAsTheStateAsks_data()
         << SpearIs::Selected << none << int(SpearStyle::ssSelected) << true;
     QTest::newRow("selected spear, hovered box")
         << SpearIs::Selected << hovered << int(SpearStyle::ssHovered) << true;
-    QTest::newRow("hovered spear") << SpearIs::Hovered << none << int(SpearStyle::ssHovered) << true;
+    QTest::newRow("hovered spear")
+        << SpearIs::Hovered << none << int(SpearStyle::ssHovered) << true;
     QTest::newRow("hovered spear, selected box")
         << SpearIs::Hovered << selected << int(SpearStyle::ssHovered) << true;
     QTest::newRow("linked spear") << SpearIs::Linked << none << int(SpearStyle::ssLinked) << true;
@@ -227,6 +229,52 @@ void TestTextItem::shouldKeepTheTextOfALinkedHeaderNormal()
     QCOMPARE(item->font(), normal.font);
 }
 
+void TestTextItem::shouldFollowItsOwnInteractionBeforeItIsPainted()
+{
+    const Drawing drawing(QStringLiteral("Effect[Man]"), styleWithLooks());
+    SpearItem *const spear = drawing.spear(QStringLiteral("Man"));
+    TextItem *const item = spear->textItem();
+    item->setFlag(QGraphicsItem::ItemIsSelectable);
+    const auto shows = [&](SpearStyle::SpearState own, SpearStyle::SpearState look) {
+        return item->ownState() == own && item->font() == lookOf(look).font &&
+               item->defaultTextColor() == lookOf(look).text;
+    };
+    QVERIFY(shows(SpearStyle::ssNormal, SpearStyle::ssNormal));
+
+    sendHover(*item, QEvent::GraphicsSceneHoverEnter);
+    QVERIFY(shows(SpearStyle::ssHovered, SpearStyle::ssHovered));
+    QCOMPARE(spear->currentState(), SpearStyle::ssNormal); // the spear is not below the mouse
+    item->setSelected(true);
+    QVERIFY(shows(SpearStyle::ssHovered, SpearStyle::ssHovered));
+    sendHover(*item, QEvent::GraphicsSceneHoverLeave);
+    QVERIFY(shows(SpearStyle::ssSelected, SpearStyle::ssSelected));
+    QCOMPARE(spear->currentState(), SpearStyle::ssNormal);
+    spear->setLinked(true, 0);
+    QVERIFY(shows(SpearStyle::ssSelected, SpearStyle::ssLinked));
+    spear->setLinked(false, 0);
+    QVERIFY(shows(SpearStyle::ssSelected, SpearStyle::ssSelected));
+    item->setSelected(false);
+    QVERIFY(shows(SpearStyle::ssNormal, SpearStyle::ssNormal));
+    spear->setSelected(true);
+    QVERIFY(shows(SpearStyle::ssNormal, SpearStyle::ssSelected));
+    sendHover(*item, QEvent::GraphicsSceneHoverEnter);
+    QVERIFY(shows(SpearStyle::ssHovered, SpearStyle::ssHovered));
+}
+
+void TestTextItem::shouldForgetTheMouseWhenItLeavesItsScene()
+{
+    Drawing drawing(QStringLiteral("Effect[Man]"), styleWithLooks());
+    TextItem *const item = drawing.spear(QStringLiteral("Man"))->textItem();
+    sendHover(*item, QEvent::GraphicsSceneHoverEnter);
+
+    drawing.scene.removeItem(drawing.head);
+    QCOMPARE(item->ownState(), SpearStyle::ssNormal);
+    QCOMPARE(item->font(), lookOf(SpearStyle::ssNormal).font);
+
+    drawing.scene.addItem(drawing.head);
+    QCOMPARE(item->ownState(), SpearStyle::ssNormal);
+}
+
 void TestTextItem::shouldFrameTheInsideOfItsRectangle_data()
 {
     QTest::addColumn<int>("optionState");
@@ -260,11 +308,12 @@ void TestTextItem::shouldFrameTheInsideOfItsRectangle()
     QCOMPARE(canvas.colorAt(picture, QPointF(x, rect.top() + 0.2)), expected.pen.color());
     QCOMPARE(canvas.colorAt(picture, QPointF(x, rect.top() - 0.2)), nothing());
     // The corners are rounded: 5 per cent of half the box leave less than a unit of this one.
-    QVERIFY(canvas.colorAt(picture, rect.topLeft() + QPointF(0.1, 0.1)) == expected.background
-            || canvas.colorAt(picture, rect.topLeft() + QPointF(0.1, 0.1)) == expected.pen.color());
-    QVERIFY(areaOf(picture, expected.background)
-                .contains(QRect(canvas.pixelAt(rect.topLeft() + QPointF(width + 1, width + 1)),
-                                canvas.pixelAt(rect.bottomRight() - QPointF(width + 1, width + 1)))));
+    QVERIFY(canvas.colorAt(picture, rect.topLeft() + QPointF(0.1, 0.1)) == expected.background ||
+            canvas.colorAt(picture, rect.topLeft() + QPointF(0.1, 0.1)) == expected.pen.color());
+    QVERIFY(
+        areaOf(picture, expected.background)
+            .contains(QRect(canvas.pixelAt(rect.topLeft() + QPointF(width + 1, width + 1)),
+                            canvas.pixelAt(rect.bottomRight() - QPointF(width + 1, width + 1)))));
 }
 
 void TestTextItem::shouldStayInsideItsRectangleWithAnyPen_data()
@@ -341,7 +390,7 @@ void TestTextItem::shouldUseDefaultsOfAStyleWithoutAnything()
     QCOMPARE(item->font(), QFont());
     const QPointF left(item->boundingRect().left() + 0.2, item->boundingRect().center().y());
     QCOMPARE(canvas.colorAt(plain, left), nothing());
-    QCOMPARE(canvas.colorAt(picture, left), QColor(Qt::black)); // the default pen
+    QCOMPARE(canvas.colorAt(picture, left), QColor(Qt::black));           // the default pen
     QCOMPARE(canvas.colorAt(picture, left + QPointF(1.5, 0)), nothing()); // one unit wide
 }
 
@@ -388,7 +437,7 @@ void TestTextItem::shouldShowTheArrowWhileCovered()
     Drawing drawing(QStringLiteral("Effect[Man]"));
     TextItem *const item = drawing.spear(QStringLiteral("Man"))->textItem();
     const QPointF middle = item->boundingRect().center();
-    drawing.scene.addRect(QRectF(item->mapToScene(middle), QSizeF()).adjusted(-5, -5, 5, 5));
+    drawing.scene.addRect(QRectF(item->mapToScene(middle), QSizeF(0, 0)).adjusted(-5, -5, 5, 5));
     QGraphicsView view(&drawing.scene);
     view.viewport()->setCursor(Qt::CrossCursor);
 

@@ -19,8 +19,7 @@
 #include <fishbone/undo/undostack.h>
 #include <tests/support/documents.h>
 
-namespace TestSupport
-{
+namespace TestSupport {
 
 /// All nodes of a model, heads first and in the order of the documents.
 inline std::vector<TreeItem *> allNodes(const FishModel &model)
@@ -89,8 +88,8 @@ class CommandFixture
     Q_DISABLE_COPY(CommandFixture)
 
 public:
-    /// The documents are written as documentFromText() reads them, with ";" between them. Heads show
-    /// their plain title: the counts of the first document change what the other rows show.
+    /// The documents are written as documentFromText() reads them, with ";" between them. Heads
+    /// show their plain title: the counts of the first document change what the other rows show.
     explicit CommandFixture(const QString &documents = QString())
     {
         model->setModelType(FISH_MODEL_DIAGRAM);
@@ -119,10 +118,7 @@ public:
         m_isDrawn = true;
     }
 
-    TreeItem *node(const char *title) const
-    {
-        return nodeTitled(*model, QString::fromUtf8(title));
-    }
+    TreeItem *node(const char *title) const { return nodeTitled(*model, QString::fromUtf8(title)); }
     QModelIndex index(const char *title) const { return model->indexFromItem(node(title)); }
     SpearItem *spear(const char *title) const { return node(title)->spear(); }
     FishInfo *document(int row) const { return model->fishList().at(row); }
@@ -191,7 +187,8 @@ private:
         int line = 0;
         while (line < lines.size() && lines.at(line) == expectedLines.value(line))
             ++line;
-        return QStringLiteral("\n%1\nexpected\n%2").arg(lines.value(line), expectedLines.value(line));
+        return QStringLiteral("\n%1\nexpected\n%2")
+            .arg(lines.value(line), expectedLines.value(line));
     }
 
     std::vector<std::unique_ptr<QGraphicsScene>> m_scenes;

@@ -16,8 +16,7 @@
 #include <fishbone/items/textitem.h>
 #include <tests/support/documents.h>
 
-namespace TestSupport
-{
+namespace TestSupport {
 
 /// A model with one document and a scene with all its spears, expanded and laid out; no editor and
 /// no view. Heads show their plain title.
@@ -63,7 +62,8 @@ public:
     SpearItem *head = nullptr;
 
 private:
-    QAbstractItemModelTester m_tester{&model, QAbstractItemModelTester::FailureReportingMode::Fatal};
+    QAbstractItemModelTester m_tester{&model,
+                                      QAbstractItemModelTester::FailureReportingMode::Fatal};
 };
 
 /// Lets an item have a hover event at a point of its own, without a mouse.

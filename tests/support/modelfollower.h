@@ -11,8 +11,7 @@
 #include <memory>
 #include <vector>
 
-namespace TestSupport
-{
+namespace TestSupport {
 
 /// Keeps a copy of what a model shows in one column, going by the model's announcements alone, as a
 /// view does. When copy and model differ, the model did something else than it announced.
@@ -88,8 +87,7 @@ private:
         ++m_announcements;
         Node &node = at(parent);
         for (int row = first; row <= last; ++row)
-            node.children.insert(node.children.begin() + row,
-                                 make(m_model.index(row, 0, parent)));
+            node.children.insert(node.children.begin() + row, make(m_model.index(row, 0, parent)));
     }
 
     void removeRows(const QModelIndex &parent, int first, int last)
@@ -114,8 +112,7 @@ private:
         m_from->children.erase(m_from->children.begin() + first,
                                m_from->children.begin() + last + 1);
         const int row = m_from == m_to && before > last ? before - int(moved.size()) : before;
-        m_to->children.insert(m_to->children.begin() + row,
-                              std::make_move_iterator(moved.begin()),
+        m_to->children.insert(m_to->children.begin() + row, std::make_move_iterator(moved.begin()),
                               std::make_move_iterator(moved.end()));
     }
 
@@ -131,8 +128,9 @@ private:
         QStringList parts;
         for (const std::unique_ptr<Node> &child : node.children) {
             const QString below = textBelow(*child, QLatin1Char(','));
-            parts.append(below.isEmpty() ? child->text
-                                         : child->text + QLatin1Char('[') + below + QLatin1Char(']'));
+            parts.append(below.isEmpty()
+                             ? child->text
+                             : child->text + QLatin1Char('[') + below + QLatin1Char(']'));
         }
         return parts.join(separator);
     }

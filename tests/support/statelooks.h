@@ -11,8 +11,7 @@
 
 #include <fishbone/style/spearstyle.h>
 
-namespace TestSupport
-{
+namespace TestSupport {
 
 /// How one state of the tests' style looks. No two states share a value.
 struct StateLook
