@@ -126,6 +126,4 @@ void EditModify::redo()
         subjects->updateItem(subjectIndex(), m_item);
 }
 
-void EditModify::undo()
-{
-}
+void EditModify::undo() {}

@@ -114,7 +114,8 @@ class FISHBONE_EXPORT EditModify : public AttributeCommand
     Q_OBJECT
 
 public:
-    /** @p item holds the new values. It is not owned, and has to live as long as redo() is called. */
+    /** @p item holds the new values. It is not owned, and has to live as long as redo() is called.
+     */
     EditModify(FishModel *model, const QModelIndex &index, TreeItem *item);
 
     /** Does nothing: the values before are not kept. */

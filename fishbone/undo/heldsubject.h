@@ -34,8 +34,9 @@ public:
     /** Takes @p subject out of @p model, its spears deleted. False when it is not in there. */
     bool take(FishModel &model, TreeItem *subject);
     /**
-     * Puts what is held into @p row below @p parent, or, for a document and without a parent, of the
-     * top level; a row past the end is the end. False, still holding it, when it cannot go there.
+     * Puts what is held into @p row below @p parent, or, for a document and without a parent, of
+     * the top level; a row past the end is the end. False, still holding it, when it cannot go
+     * there.
      */
     bool putBack(FishModel &model, TreeItem *parent, int row);
 

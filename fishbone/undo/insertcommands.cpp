@@ -202,11 +202,12 @@ void InsertParent::redo()
         return;
     if (subject)
         m_pid = subject->pid();
+    const SpearPointer former = subject ? subject->spear() : nullptr;
     const QModelIndex below = m_d->referenceIndex();
     m_d->model->moveRows(below.parent(), below.row(), 1, m_d->insertedIndex(), 0);
     if (subject && m_d->model) {
-        moveSpear(subject);
-        generateMissingSpears(*subjects, subject->parent());
+        moveSpear(subject, former);
+        generateMissingSpears(*subjects, subject->parent(), {subject});
     }
 }
 
@@ -243,13 +244,14 @@ void InsertParent::undo()
     const QModelIndex below = m_d->referenceIndex();
     if (!above.isValid())
         return;
-    if (below.isValid() && !m_d->model->moveRows(below.parent(), below.row(), 1, above.parent(),
-                                                 above.row()))
+    const SpearPointer former = subject ? subject->spear() : nullptr;
+    if (below.isValid() &&
+        !m_d->model->moveRows(below.parent(), below.row(), 1, above.parent(), above.row()))
         return;
     if (subject && m_d->model) {
         restorePid(*subjects, subject, m_pid);
-        moveSpear(subject);
-        generateMissingSpears(*subjects, subject->parent());
+        moveSpear(subject, former);
+        generateMissingSpears(*subjects, subject->parent(), {subject});
     }
     if (m_d->model)
         m_d->take();

@@ -32,13 +32,20 @@ struct Move
     QString pid = {};
 };
 
+/** What a subject was part of before a move. */
+struct Before
+{
+    FishInfo *document;
+    SpearPointer spear;
+};
+
 } // namespace
 
 struct EditMove::Private
 {
     bool carryOut(Move &move, TreeItem *to, SubjectFinder &finder);
     void takeBack(Move &move, SubjectFinder &finder);
-    void follow(TreeItem *subject, const FishInfo *formerDocument, SubjectFinder &finder);
+    void follow(TreeItem *subject, const Before &before, SubjectFinder &finder);
     void completeSpears();
 
     QPointer<FishModel> model;
@@ -50,7 +57,7 @@ struct EditMove::Private
     QList<int> sourceRows;
     // Within one redo() or undo():
     QSet<const TreeItem *> moved;
-    QSet<TreeItem *> newParents;
+    QHash<TreeItem *, QList<TreeItem *>> arrivals; // by their new parent
 };
 
 /** Moves the subject that @p move names; false when it is not there or the model refuses. */
@@ -60,8 +67,8 @@ bool EditMove::Private::carryOut(Move &move, TreeItem *to, SubjectFinder &finder
     sourceRows.append(subject ? model->indexFromItem(subject).row() : -1);
     if (!subject)
         return false;
-    FishInfo *const document = model->fishOf(subject);
-    move.name.document = document;
+    const Before before{model->fishOf(subject), subject->spear()};
+    move.name.document = before.document;
     move.name.node = subject;
     move.wasHead = subject->isTopVaildItem();
     move.parent = move.wasHead ? SubjectKey() : keyFromItem(*model, subject->parent());
@@ -72,7 +79,7 @@ bool EditMove::Private::carryOut(Move &move, TreeItem *to, SubjectFinder &finder
     if (!moveSubject(*model, subject, to, position, move.document) || !model)
         return false;
     move.subject = keyFromItem(*model, subject);
-    follow(subject, document, finder);
+    follow(subject, before, finder);
     return true;
 }
 
@@ -83,34 +90,31 @@ void EditMove::Private::takeBack(Move &move, SubjectFinder &finder)
     TreeItem *const parent = move.wasHead ? nullptr : finder.find(move.parent);
     if (!subject || (!parent && !move.wasHead))
         return;
-    const FishInfo *const document = model->fishOf(subject);
+    const Before before{model->fishOf(subject), subject->spear()};
     if (!moveSubjectToRow(*model, subject, parent, move.row, move.document) || !model)
         return;
     restorePid(*model, subject, move.pid);
     if (model)
-        follow(subject, document, finder);
+        follow(subject, before, finder);
 }
 
 /** What else a move of @p subject entails. */
-void EditMove::Private::follow(TreeItem *subject, const FishInfo *formerDocument,
-                               SubjectFinder &finder)
+void EditMove::Private::follow(TreeItem *subject, const Before &before, SubjectFinder &finder)
 {
     moved.insert(subject);
-    if (model->fishOf(subject) != formerDocument)
+    if (model->fishOf(subject) != before.document)
         finder.add(subject);
-    moveSpear(subject);
-    newParents.insert(subject->parent());
+    moveSpear(subject, before.spear);
+    arrivals[subject->parent()].append(subject);
 }
 
 /** Makes and orders the spears where subjects have come to, after the last move. */
 void EditMove::Private::completeSpears()
 {
     moved.clear();
-    for (TreeItem *parent : qAsConst(newParents)) {
-        if (model)
-            generateMissingSpears(*model, parent);
-    }
-    newParents.clear();
+    for (auto parent = arrivals.cbegin(); parent != arrivals.cend() && model; ++parent)
+        generateMissingSpears(*model, parent.key(), parent.value());
+    arrivals.clear();
 }
 
 EditMove::EditMove(FishModel *model, const QModelIndex &target, int row, const QJsonObject &objects)

@@ -177,8 +177,8 @@ public:
     /** Where the subjects of the snapshot are looked for first; documents may share uuids. */
     void setDocument(FishInfo *document);
     /**
-     * The very subjects that the snapshot was taken of, in its order; among several of one uuid they
-     * are the ones meant. To be called before redo().
+     * The very subjects that the snapshot was taken of, in its order; among several of one uuid
+     * they are the ones meant. To be called before redo().
      */
     void setSubjects(const QList<TreeItem *> &subjects);
 
@@ -211,9 +211,9 @@ public:
     ~EditPaste() override;
 
     /**
-     * Whether the copies become subjects of their own: a uuid that the model has already is replaced
-     * by a new one, the pids of the children follow, and descendants keep their order. Off at first.
-     * To be called before redo().
+     * Whether the copies become subjects of their own: a uuid that the model has already is
+     * replaced by a new one, the pids of the children follow, and descendants keep their order. Off
+     * at first. To be called before redo().
      */
     void setPasteAsNew(bool pasteAsNew);
 
@@ -252,8 +252,8 @@ public:
     /** Where the subjects are looked for first; the target's document unless set. */
     void setDocument(FishInfo *document);
     /**
-     * The very subjects that the snapshot was taken of, in its order; among several of one uuid they
-     * are the ones meant. To be called before redo().
+     * The very subjects that the snapshot was taken of, in its order; among several of one uuid
+     * they are the ones meant. To be called before redo().
      */
     void setSubjects(const QList<TreeItem *> &subjects);
 

@@ -20,9 +20,9 @@ class TreeItem;
 /**
  * How a command knows a subject, whose index and node may come and go between redo() and undo().
  *
- * Uuids tell subjects apart as a rule, but the same file may be open twice, and copies may share the
- * uuid of their original. So the document and the node serve as hints: among subjects of the same
- * uuid the very node is meant, then one of that document.
+ * Uuids tell subjects apart as a rule, but the same file may be open twice, and copies may share
+ * the uuid of their original. So the document and the node serve as hints: among subjects of the
+ * same uuid the very node is meant, then one of that document.
  */
 struct SubjectKey
 {
@@ -53,8 +53,9 @@ TreeItem *findSubject(const FishModel &model, const SubjectKey &key);
 /** The index of the subject that @p key means, in any model whose column 1 shows the uuids. */
 QModelIndex indexFromKey(const QAbstractItemModel *model, const SubjectKey &key);
 /**
- * The index of the first subject with exactly that uuid, in @p document if there is one, and failing
- * that of the first one whose uuid ends with it, in any case. Documents without a head are skipped.
+ * The index of the first subject with exactly that uuid, in @p document if there is one, and
+ * failing that of the first one whose uuid ends with it, in any case. Documents without a head are
+ * skipped.
  */
 QModelIndex indexFromUuid(const QAbstractItemModel *model, const QString &uuid, int column = 0,
                           const FishInfo *document = nullptr);

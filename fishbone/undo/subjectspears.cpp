@@ -29,9 +29,46 @@ void unlinkSpears(TreeItem *subject)
     });
 }
 
-/** Makes the spears that the children of @p parent lack and queues those with children. */
-void generateChildSpears(const FishModel &model, const TreeItem &parent, QQueue<TreeItem *> &queue)
+/** The spears of @p subjects that are children of @p parent. */
+QList<SpearItem *> spearsBelow(const SpearItem *parent, const QList<TreeItem *> &subjects)
 {
+    QList<SpearItem *> spears;
+    for (const TreeItem *subject : subjects) {
+        if (subject->spear() && subject->spear()->parentItem() == parent)
+            spears.append(subject->spear());
+    }
+    return spears;
+}
+
+/** Makes @p spears, children of @p parent, the last ones in their order. */
+void moveToEnd(SpearItem *parent, const QList<SpearItem *> &spears)
+{
+    // Away and back: they stay in the scene and as visible as they are, so that this costs little.
+    QGraphicsLineItem away(parent);
+    for (SpearItem *spear : spears)
+        spear->setParentItem(&away);
+    for (SpearItem *spear : spears)
+        spear->setParentItem(parent);
+}
+
+/** Stacks the children of the spear of @p parent in row order, when only @p changed are not. */
+void orderSpears(const TreeItem &parent, const QList<TreeItem *> &changed)
+{
+    constexpr int few = 8;
+    SpearItem *const spear = parent.spear();
+    if (changed.size() > few) {
+        moveToEnd(spear, spearsBelow(spear, parent.childItems()));
+    } else if (!changed.isEmpty()) {
+        // Each goes past those behind its place; one in front would send all of them past it.
+        moveToEnd(spear, spearsBelow(spear, changed));
+        spear->stackChildrenInRowOrder();
+    }
+}
+
+/** Makes the spears that the children of @p parent lack, and returns those children. */
+QList<TreeItem *> generateChildSpears(const FishModel &model, const TreeItem &parent)
+{
+    QList<TreeItem *> made;
     const QModelIndex index = model.indexFromItem(&parent);
     const QList<TreeItem *> children = parent.children();
     for (int row = 0; row < children.size(); ++row) {
@@ -43,22 +80,23 @@ void generateChildSpears(const FishModel &model, const TreeItem &parent, QQueue<
         SpearItem *const spear =
             makeSpear(model, model.index(row, 0, index), 0, parent.spear()->spearSize());
         spear->setParentItem(parent.spear());
-        if (child->childCount() > 0)
-            queue.enqueue(child);
+        made.append(child);
     }
+    return made;
 }
 
 } // namespace
 
-void generateMissingSpears(const FishModel &model, TreeItem *parent)
+void generateMissingSpears(const FishModel &model, TreeItem *parent, const QList<TreeItem *> &moved)
 {
     if (!parent || !parent->spear())
         return;
     QQueue<TreeItem *> queue;
-    generateChildSpears(model, *parent, queue);
-    parent->spear()->stackChildrenInRowOrder();
+    queue.append(generateChildSpears(model, *parent));
+    if (queue.size() < parent->childCount())
+        orderSpears(*parent, queue + moved);
     while (!queue.isEmpty())
-        generateChildSpears(model, *queue.dequeue(), queue);
+        queue.append(generateChildSpears(model, *queue.dequeue()));
 }
 
 void deleteSpears(TreeItem *subject)
@@ -69,10 +107,12 @@ void deleteSpears(TreeItem *subject)
     });
 }
 
-void moveSpear(TreeItem *subject)
+void moveSpear(TreeItem *subject, const SpearPointer &former)
 {
     SpearItem *const spear = subject->spear();
     SpearItem *const parent = subject->parent() ? subject->parent()->spear() : nullptr;
+    if (former.get() && former.get() != spear && former.get()->parentItem())
+        delete former.get();
     if (!spear)
         return;
     if (!spear->parentItem()) {
@@ -87,10 +127,7 @@ void moveSpear(TreeItem *subject)
         delete spear;
         return;
     }
-    // Also among siblings, so that what comes forward only has to go past those behind its place.
     if (spear->scene() && spear->scene() != parent->scene())
         spear->scene()->removeItem(spear);
-    else
-        spear->setParentItem(nullptr);
     spear->setParentItem(parent);
 }

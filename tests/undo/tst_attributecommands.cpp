@@ -17,8 +17,7 @@ using namespace TestSupport;
 using MakeCommand = std::function<AttributeCommand *(FishModel *, const QModelIndex &)>;
 Q_DECLARE_METATYPE(MakeCommand)
 
-namespace
-{
+namespace {
 /// Title and link of a node.
 QString attributes(const TreeItem *node)
 {
@@ -94,19 +93,24 @@ void TestAttributeCommands::shouldChangeAndChangeBack_data()
     QTest::addColumn<bool>("isTakenBack");
     QTest::newRow("title") << MakeCommand([](FishModel *model, const QModelIndex &index) {
         return new ModifyName(model, index, QStringLiteral("new"));
-    }) << QStringLiteral("new|old url") << true;
+    }) << QStringLiteral("new|old url")
+                           << true;
     QTest::newRow("empty title") << MakeCommand([](FishModel *model, const QModelIndex &index) {
         return new ModifyName(model, index, QString());
-    }) << QStringLiteral("|old url") << true;
+    }) << QStringLiteral("|old url")
+                                 << true;
     QTest::newRow("link") << MakeCommand([](FishModel *model, const QModelIndex &index) {
         return new ModifyLinkTo(model, index, QStringLiteral("new url"));
-    }) << QStringLiteral("old|new url") << true;
+    }) << QStringLiteral("old|new url")
+                          << true;
     QTest::newRow("no link") << MakeCommand([](FishModel *model, const QModelIndex &index) {
         return new ModifyDelLink(model, index);
-    }) << QStringLiteral("old|") << true;
+    }) << QStringLiteral("old|")
+                             << true;
     QTest::newRow("record") << MakeCommand([](FishModel *model, const QModelIndex &index) {
         return new EditModify(model, index, record());
-    }) << QStringLiteral("new|old url") << false;
+    }) << QStringLiteral("new|old url")
+                            << false;
 }
 
 void TestAttributeCommands::shouldChangeAndChangeBack()
@@ -418,8 +422,7 @@ void TestAttributeCommands::shouldShowANewTitleInTheSpear()
 void TestAttributeCommands::shouldTakeTheOldTitleAfresh()
 {
     CommandFixture f(QStringLiteral("H[A]"));
-    auto *const command =
-        new ModifyName(f.model.get(), f.index("A"), QStringLiteral("new"));
+    auto *const command = new ModifyName(f.model.get(), f.index("A"), QStringLiteral("new"));
     f.stack->push(command);
     QCOMPARE(command->oldName(), QStringLiteral("A"));
     f.stack->undo();
@@ -471,8 +474,7 @@ void TestAttributeCommands::shouldTakeTheOldLinkAfresh()
 {
     CommandFixture f(QStringLiteral("H[A]"));
     TreeItem *const node = f.node("A");
-    auto *const link =
-        new ModifyLinkTo(f.model.get(), f.index("A"), QStringLiteral("new url"));
+    auto *const link = new ModifyLinkTo(f.model.get(), f.index("A"), QStringLiteral("new url"));
     f.stack->push(link);
     f.stack->undo();
     node->setUrl(QStringLiteral("between"));

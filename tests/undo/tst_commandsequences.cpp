@@ -10,8 +10,7 @@
 
 using namespace TestSupport;
 
-namespace
-{
+namespace {
 /// Makes commands for anything in a model, heads included, reproducibly.
 class CommandSource
 {
@@ -27,20 +26,31 @@ public:
         FishModel *const model = m_fixture.model.get();
         const QModelIndex index = randomIndex();
         switch (m_random.bounded(12)) {
-        case 0: return new InsertChild(model, index);
-        case 1: return new InsertBack(model, index);
-        case 2: return new InsertFront(model, index);
-        case 3: return new InsertParent(model, index);
-        case 4: return new InsertFree(model);
-        case 5: return new EditDelete(model, index);
-        case 6: return new EditDelete(model, randomSnapshot());
+        case 0:
+            return new InsertChild(model, index);
+        case 1:
+            return new InsertBack(model, index);
+        case 2:
+            return new InsertFront(model, index);
+        case 3:
+            return new InsertParent(model, index);
+        case 4:
+            return new InsertFree(model);
+        case 5:
+            return new EditDelete(model, index);
+        case 6:
+            return new EditDelete(model, randomSnapshot());
         case 7: // pastes of pastes grow fast
             return isLarge() ? static_cast<UndoCommand *>(new EditDelete(model, index))
                              : randomPaste(index);
-        case 8: return new ModifyName(model, index, QString::number(m_random.bounded(1000)));
-        case 9: return new ModifyLinkTo(model, index, QString::number(m_random.bounded(1000)));
-        case 10: return randomItem(index);
-        default: return randomMove(index);
+        case 8:
+            return new ModifyName(model, index, QString::number(m_random.bounded(1000)));
+        case 9:
+            return new ModifyLinkTo(model, index, QString::number(m_random.bounded(1000)));
+        case 10:
+            return randomItem(index);
+        default:
+            return randomMove(index);
         }
     }
 
@@ -114,8 +124,7 @@ private Q_SLOTS:
     void shouldSurviveEditsOutsideTheHistory();
 };
 
-namespace
-{
+namespace {
 void addSeeds(int count)
 {
     QTest::addColumn<int>("seed");
@@ -132,11 +141,20 @@ QString difficultDocuments(CommandFixture &f, int seed)
     QRandomGenerator random(static_cast<quint32>(seed));
     for (TreeItem *node : allNodes(*f.model)) {
         switch (random.bounded(8)) {
-        case 0: node->setPid(QStringLiteral("nobody")); break;
-        case 1: node->setPid(QStringLiteral("u-B")); break;
-        case 2: node->setSpearItemIsMovable(false); break;
-        case 3: node->setUuid(QStringLiteral("u-a")); break;
-        default: break;
+        case 0:
+            node->setPid(QStringLiteral("nobody"));
+            break;
+        case 1:
+            node->setPid(QStringLiteral("u-B"));
+            break;
+        case 2:
+            node->setSpearItemIsMovable(false);
+            break;
+        case 3:
+            node->setUuid(QStringLiteral("u-a"));
+            break;
+        default:
+            break;
         }
     }
     f.draw();
@@ -146,7 +164,7 @@ QString difficultDocuments(CommandFixture &f, int seed)
 
 void TestCommandSequences::shouldUndoAndRedoEverything_data()
 {
-    addSeeds(20);
+    addSeeds(12);
 }
 
 void TestCommandSequences::shouldUndoAndRedoEverything()
@@ -157,7 +175,8 @@ void TestCommandSequences::shouldUndoAndRedoEverything()
     CommandSource source(f, quint32(seed));
 
     QStringList states{modelText(*f.model)};
-    for (int step = 0; step < 60; ++step) {
+    constexpr int steps = 40;
+    for (int step = 0; step < steps; ++step) {
         // Making a command may already give a subject a uuid, which then stays.
         UndoCommand *const command = source.next();
         states.last() = modelText(*f.model);
@@ -166,13 +185,13 @@ void TestCommandSequences::shouldUndoAndRedoEverything()
         QCOMPARE(spearFault(*f.model), QString());
     }
     for (int pass = 0; pass < 2; ++pass) {
-        for (int step = 59; step >= 0; --step) {
+        for (int step = steps - 1; step >= 0; --step) {
             f.stack->undo();
             QVERIFY2(modelText(*f.model) == states.at(step),
                      qPrintable(QStringLiteral("undo of step %1: ").arg(step) + f.text()));
             QCOMPARE(spearFault(*f.model), QString());
         }
-        for (int step = 0; step < 60; ++step) {
+        for (int step = 0; step < steps; ++step) {
             f.stack->redo();
             QVERIFY2(modelText(*f.model) == states.at(step + 1),
                      qPrintable(QStringLiteral("redo of step %1: ").arg(step) + f.text()));
@@ -183,7 +202,7 @@ void TestCommandSequences::shouldUndoAndRedoEverything()
 
 void TestCommandSequences::shouldSurviveEditsOutsideTheHistory_data()
 {
-    addSeeds(20);
+    addSeeds(12);
 }
 
 void TestCommandSequences::shouldSurviveEditsOutsideTheHistory()
@@ -194,16 +213,22 @@ void TestCommandSequences::shouldSurviveEditsOutsideTheHistory()
     CommandSource source(f, quint32(seed));
     QRandomGenerator random(quint32(seed + 1000));
 
-    for (int step = 0; step < 150; ++step) {
+    for (int step = 0; step < 100; ++step) {
         switch (random.bounded(6)) {
         case 0:
-        case 1: f.stack->push(source.next()); break;
-        case 2: f.stack->redo(); break;
+        case 1:
+            f.stack->push(source.next());
+            break;
+        case 2:
+            f.stack->redo();
+            break;
         case 3:
             // A command that no history keeps, as for drops.
             std::unique_ptr<UndoCommand>(source.next())->redo();
             break;
-        default: f.stack->undo(); break;
+        default:
+            f.stack->undo();
+            break;
         }
         QCOMPARE(spearFault(*f.model), QString());
         for (const TreeItem *node : allNodes(*f.model))

@@ -10,8 +10,7 @@
 
 using namespace TestSupport;
 
-namespace
-{
+namespace {
 std::unique_ptr<TreeItem> makeItem(const char *title = "item")
 {
     auto item = std::make_unique<TreeItem>();
@@ -165,7 +164,8 @@ void TestInsertTreeItem::shouldDeleteTheItemOnlyWhileItIsOut_data()
         QTest::addRow("model first after %d steps", steps) << steps << "model,stack" << !isIn;
         QTest::addRow("document first after %d steps", steps)
             << steps << "document,stack,model" << !isIn;
-        QTest::addRow("parent first after %d steps", steps) << steps << "parent,stack,model" << !isIn;
+        QTest::addRow("parent first after %d steps", steps)
+            << steps << "parent,stack,model" << !isIn;
     }
 }
 

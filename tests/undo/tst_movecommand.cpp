@@ -4,7 +4,6 @@
 #include <QSignalSpy>
 #include <QtTest>
 
-#include <fishbone/items/spearfactory.h>
 #include <fishbone/undo/structuralcommands.h>
 #include <tests/support/commandfixture.h>
 #include <tests/support/dialogchecks.h>
@@ -43,18 +42,6 @@ private Q_SLOTS:
     void shouldDeleteTheDocumentItStillHolds();
     void shouldGiveANewHeadTheSameDocumentAgain();
     void shouldReturnAHeadThatOthersMadeAHeadAgain();
-
-    void shouldMoveTheSpearAlong();
-    void shouldKeepTheStackingOfASubjectThatStays();
-    void shouldMakeAllSpearsOfABoneThatWasNeverExpanded();
-    void shouldMakeTheSpearOfASubjectThatHadNone();
-    void shouldDeleteTheSpearOfASubjectThatLeavesTheDrawing();
-    void shouldDeleteTheSpearOfASubjectThatBecomesAHead();
-    void shouldMoveASpearIntoAnotherScene();
-    void shouldLeaveTheDrawingOfAHeadWithoutItsSubjects();
-    void shouldKeepTheDrawingOfASubjectThatMovesOutOfSight();
-    void shouldTakeInASpearWithoutParent();
-    void shouldMoveNoSpearWhenTheModelRefuses();
 
     void shouldOutliveTheModel();
     void shouldMoveManySubjectsInReasonableTime();
@@ -292,8 +279,8 @@ void TestMoveCommand::shouldKeepMovability()
 {
     CommandFixture f(QStringLiteral("H[A,B]"));
     f.node("A")->setSpearItemIsMovable(false);
-    QCOMPARE(f.roundTripFault(new EditMove(f.model.get(), f.index("B"), 0,
-                                           f.snapshot({QStringLiteral("A")}))),
+    QCOMPARE(f.roundTripFault(
+                 new EditMove(f.model.get(), f.index("B"), 0, f.snapshot({QStringLiteral("A")}))),
              QString());
     QVERIFY(!f.node("A")->spearItemIsMovable());
 }
@@ -357,9 +344,9 @@ void TestMoveCommand::shouldStayInTheDocumentOfTheTarget()
     CommandFixture f(QStringLiteral("H[A,B];H[A,B]"));
     f.draw();
     const QModelIndex second = f.model->index(1, 0, f.model->index(1, 0));
-    QCOMPARE(f.roundTripFault(
-                 new EditMove(f.model.get(), second, 0, f.snapshot({QStringLiteral("A")}))),
-             QString());
+    QCOMPARE(
+        f.roundTripFault(new EditMove(f.model.get(), second, 0, f.snapshot({QStringLiteral("A")}))),
+        QString());
     QCOMPARE(f.text(), QStringLiteral("H[A,B];H[B[A]]"));
 }
 
@@ -368,8 +355,7 @@ void TestMoveCommand::shouldLookFirstInTheDocumentItIsGiven()
     CommandFixture f(QStringLiteral("H[A,B];H[A,B]"));
     f.draw();
     const QModelIndex second = f.model->index(1, 0, f.model->index(1, 0));
-    auto *const command =
-        new EditMove(f.model.get(), second, 0, f.snapshot({QStringLiteral("A")}));
+    auto *const command = new EditMove(f.model.get(), second, 0, f.snapshot({QStringLiteral("A")}));
     command->setDocument(f.document(0));
     QCOMPARE(f.roundTripFault(command), QString());
     QCOMPARE(f.text(), QStringLiteral("H[B];H[A,B[A]]"));
@@ -440,153 +426,6 @@ void TestMoveCommand::shouldReturnAHeadThatOthersMadeAHeadAgain()
     QCOMPARE(f.text(), QStringLiteral("G[C];F;H[A]"));
     f.stack->undo();
     QCOMPARE(f.text(), QStringLiteral("H[A];G[C];F"));
-}
-
-void TestMoveCommand::shouldMoveTheSpearAlong()
-{
-    CommandFixture f(QStringLiteral("H[A[a],B[b]]"));
-    f.draw();
-    SpearItem *const spear = f.spear("A");
-    f.stack->push(new EditMove(f.model.get(), f.index("B"), 0, f.snapshot({QStringLiteral("A")})));
-    QCOMPARE(f.spear("A"), spear);
-    QCOMPARE(spear->parentItem(), f.spear("B"));
-    QCOMPARE(f.spear("B")->childSpears(), (QList<SpearItem *>{spear, f.spear("b")}));
-    f.stack->undo();
-    QCOMPARE(f.spear("A"), spear);
-    QCOMPARE(f.spear("H")->childSpears(), (QList<SpearItem *>{spear, f.spear("B")}));
-}
-
-void TestMoveCommand::shouldKeepTheStackingOfASubjectThatStays()
-{
-    for (int row : {1, 2}) {
-        CommandFixture f(QStringLiteral("H[A,B,C]"));
-        f.draw();
-        const QList<SpearItem *> before = f.spear("H")->childSpears();
-        f.stack->push(
-            new EditMove(f.model.get(), f.index("H"), row, f.snapshot({QStringLiteral("B")})));
-        QCOMPARE(f.spear("H")->childSpears(), before);
-    }
-}
-
-void TestMoveCommand::shouldMakeAllSpearsOfABoneThatWasNeverExpanded()
-{
-    CommandFixture f(QStringLiteral("H[A,B[b[x],c]]"));
-    QGraphicsScene scene;
-    scene.addItem(SpearBuilder(*f.model).buildHead(f.index("H")));
-    f.stack->push(new EditMove(f.model.get(), f.index("B"), 1, f.snapshot({QStringLiteral("A")})));
-    QCOMPARE(spearFault(*f.model), QString());
-    QCOMPARE(f.spear("B")->childSpears(),
-             (QList<SpearItem *>{f.spear("b"), f.spear("A"), f.spear("c")}));
-    QCOMPARE(f.spear("x")->parentItem(), f.spear("b"));
-    f.stack->undo();
-    QCOMPARE(spearFault(*f.model), QString());
-}
-
-void TestMoveCommand::shouldMakeTheSpearOfASubjectThatHadNone()
-{
-    CommandFixture f(QStringLiteral("H[A[a[x]],B]"));
-    QGraphicsScene scene;
-    scene.addItem(SpearBuilder(*f.model).buildHead(f.index("H")));
-    QVERIFY(!f.spear("a"));
-    f.stack->push(new EditMove(f.model.get(), f.index("H"), 0, f.snapshot({QStringLiteral("a")})));
-    QCOMPARE(spearFault(*f.model), QString());
-    QCOMPARE(f.spear("a")->parentItem(), f.spear("H"));
-    QCOMPARE(f.spear("x")->parentItem(), f.spear("a"));
-}
-
-void TestMoveCommand::shouldDeleteTheSpearOfASubjectThatLeavesTheDrawing()
-{
-    CommandFixture f(QStringLiteral("H[A[a],B];G[C]"));
-    QGraphicsScene scene;
-    scene.addItem(SpearBuilder(*f.model).buildHead(f.index("H")));
-    SpearBuilder(*f.model).buildDescendants(f.index("H"));
-    f.stack->push(new EditMove(f.model.get(), f.index("C"), 0, f.snapshot({QStringLiteral("A")})));
-    QVERIFY(!f.spear("A"));
-    QVERIFY(!f.spear("a"));
-    QCOMPARE(f.spear("H")->childSpears(), QList<SpearItem *>{f.spear("B")});
-    f.stack->undo();
-    QCOMPARE(spearFault(*f.model), QString());
-    QVERIFY(f.spear("a"));
-}
-
-void TestMoveCommand::shouldDeleteTheSpearOfASubjectThatBecomesAHead()
-{
-    CommandFixture f(QStringLiteral("H[A[a],B]"));
-    f.draw();
-    f.stack->push(new EditMove(f.model.get(), QModelIndex(), 0, f.snapshot({QStringLiteral("A")})));
-    QVERIFY(!f.spear("A"));
-    QVERIFY(!f.spear("a"));
-    QCOMPARE(f.spear("H")->childSpears(), QList<SpearItem *>{f.spear("B")});
-}
-
-void TestMoveCommand::shouldMoveASpearIntoAnotherScene()
-{
-    CommandFixture f(QStringLiteral("H[A[a],B];G[C]"));
-    f.draw();
-    QGraphicsScene *const first = f.spear("H")->scene();
-    QGraphicsScene *const second = f.spear("G")->scene();
-    QVERIFY(first != second);
-    f.stack->push(new EditMove(f.model.get(), f.index("C"), 0, f.snapshot({QStringLiteral("A")})));
-    QCOMPARE(f.spear("A")->scene(), second);
-    QCOMPARE(f.spear("a")->scene(), second);
-    f.stack->undo();
-    QCOMPARE(f.spear("A")->scene(), first);
-    QCOMPARE(f.spear("a")->scene(), first);
-}
-
-void TestMoveCommand::shouldLeaveTheDrawingOfAHeadWithoutItsSubjects()
-{
-    CommandFixture f(QStringLiteral("H[A[a]];G[C]"));
-    f.draw();
-    SpearItem *const former = f.spear("H");
-    f.stack->push(new EditMove(f.model.get(), f.index("C"), 0, f.snapshot({QStringLiteral("H")})));
-    QCOMPARE(spearFault(*f.model), QString());
-    QVERIFY(f.spear("H") != former);
-    QCOMPARE(f.spear("H")->parentItem(), f.spear("C"));
-    QCOMPARE(f.spear("a")->scene(), f.spear("G")->scene());
-    QVERIFY(!former->treeItem());
-    QCOMPARE(former->childSpears().size(), 1);
-    QVERIFY(!former->childSpear(0)->treeItem());
-    f.stack->undo();
-    QVERIFY(!f.spear("H"));
-    QVERIFY(!f.spear("a"));
-}
-
-void TestMoveCommand::shouldKeepTheDrawingOfASubjectThatMovesOutOfSight()
-{
-    CommandFixture f(QStringLiteral("H[A[a],B]"));
-    QGraphicsScene scene;
-    scene.addItem(SpearBuilder(*f.model).buildHead(f.index("A")));
-    SpearItem *const shown = f.spear("A");
-    f.stack->push(new EditMove(f.model.get(), f.index("B"), 0, f.snapshot({QStringLiteral("A")})));
-    QCOMPARE(f.spear("A"), shown);
-    QVERIFY(!shown->parentItem());
-    f.stack->undo();
-    QCOMPARE(f.spear("A"), shown);
-    QCOMPARE(shown->childSpears().size(), 1);
-}
-
-void TestMoveCommand::shouldTakeInASpearWithoutParent()
-{
-    CommandFixture f(QStringLiteral("H[A,B]"));
-    QGraphicsScene scene;
-    scene.addItem(makeSpear(*f.model, f.index("A"), 0, 20));
-    scene.addItem(makeSpear(*f.model, f.index("B"), 0, 20));
-    f.spear("A")->setZValue(-100);
-    f.stack->push(new EditMove(f.model.get(), f.index("B"), 0, f.snapshot({QStringLiteral("A")})));
-    QCOMPARE(f.spear("A")->parentItem(), f.spear("B"));
-    QCOMPARE(f.spear("A")->zValue(), 0.0);
-}
-
-void TestMoveCommand::shouldMoveNoSpearWhenTheModelRefuses()
-{
-    CommandFixture f(QStringLiteral("H[A[a],B]"));
-    f.draw();
-    f.stack->push(new EditMove(f.model.get(), f.index("a"), 0, f.snapshot({QStringLiteral("A")})));
-    QCOMPARE(f.spear("A")->parentItem(), f.spear("H"));
-    QCOMPARE(spearFault(*f.model), QString());
-    f.stack->undo();
-    QCOMPARE(spearFault(*f.model), QString());
 }
 
 void TestMoveCommand::shouldOutliveTheModel()

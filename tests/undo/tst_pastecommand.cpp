@@ -119,9 +119,9 @@ void TestPasteCommand::shouldKnowTargetAndSnapshot()
 void TestPasteCommand::shouldListThePastedSubjectsNewestFirst()
 {
     CommandFixture f(QStringLiteral("H[A,B,C,T]"));
-    auto *const command = new EditPaste(
-        f.model.get(), f.index("T"),
-        f.snapshot({QStringLiteral("A"), QStringLiteral("B"), QStringLiteral("C")}));
+    auto *const command =
+        new EditPaste(f.model.get(), f.index("T"),
+                      f.snapshot({QStringLiteral("A"), QStringLiteral("B"), QStringLiteral("C")}));
     const QStringList expected{QStringLiteral("u-C"), QStringLiteral("u-B"), QStringLiteral("u-A")};
     f.stack->push(command);
     QCOMPARE(command->pastedUuids(), expected);
@@ -133,8 +133,7 @@ void TestPasteCommand::shouldListThePastedSubjectsNewestFirst()
 void TestPasteCommand::shouldKeepUuidsAndPidsOfTheSnapshot()
 {
     CommandFixture f(QStringLiteral("H[A[a],B]"));
-    f.stack->push(
-        new EditPaste(f.model.get(), f.index("B"), f.snapshot({QStringLiteral("A")})));
+    f.stack->push(new EditPaste(f.model.get(), f.index("B"), f.snapshot({QStringLiteral("A")})));
     const TreeItem *const copy = f.node("B")->childAtIndex(0);
     QCOMPARE(copy->uuid(), QStringLiteral("u-A"));
     QCOMPARE(copy->pid(), QStringLiteral("u-H"));
@@ -159,8 +158,7 @@ void TestPasteCommand::shouldOrderDescendantsAsReadingThereDoes()
 void TestPasteCommand::shouldBringBackTheVeryCopies()
 {
     CommandFixture f(QStringLiteral("H[A[a],B]"));
-    f.stack->push(
-        new EditPaste(f.model.get(), f.index("B"), f.snapshot({QStringLiteral("A")})));
+    f.stack->push(new EditPaste(f.model.get(), f.index("B"), f.snapshot({QStringLiteral("A")})));
     const TreeItem *const copy = f.node("B")->childAtIndex(0);
     f.stack->undo();
     f.stack->redo();
@@ -201,7 +199,8 @@ void TestPasteCommand::shouldPasteNothingWithoutATarget()
     f.model->removeRows(1, 1, f.index("H"));
     QCOMPARE(f.roundTripFault(gone), QString());
     QCOMPARE(gone->pastedUuids(), QStringList());
-    QCOMPARE(f.roundTripFault(new EditPaste(f.model.get(), f.index("A"), QJsonObject())), QString());
+    QCOMPARE(f.roundTripFault(new EditPaste(f.model.get(), f.index("A"), QJsonObject())),
+             QString());
     QCOMPARE(f.text(), QStringLiteral("H[A]"));
 }
 
@@ -250,8 +249,7 @@ void TestPasteCommand::shouldTakeOutNothingWhenOnlyTheOriginalIsLeft()
 void TestPasteCommand::shouldFindACopyThatWasMoved()
 {
     CommandFixture f(QStringLiteral("H[A,B];G"));
-    f.stack->push(
-        new EditPaste(f.model.get(), f.index("B"), f.snapshot({QStringLiteral("A")})));
+    f.stack->push(new EditPaste(f.model.get(), f.index("B"), f.snapshot({QStringLiteral("A")})));
     f.model->moveRows(f.index("B"), 0, 1, f.index("G"), 0);
     QCOMPARE(f.text(), QStringLiteral("H[A,B];G[A]"));
     f.stack->undo();
@@ -297,9 +295,9 @@ void TestPasteCommand::shouldStayInTheDocumentItWasMadeFor()
 {
     CommandFixture f(QStringLiteral("H[A,B];H[A,B]"));
     const QModelIndex second = f.model->index(1, 0, f.model->index(1, 0));
-    QCOMPARE(f.roundTripFault(
-                 new EditPaste(f.model.get(), second, f.snapshot({QStringLiteral("A")}))),
-             QString());
+    QCOMPARE(
+        f.roundTripFault(new EditPaste(f.model.get(), second, f.snapshot({QStringLiteral("A")}))),
+        QString());
     QCOMPARE(f.text(), QStringLiteral("H[A,B];H[A,B[A]]"));
 }
 
@@ -402,8 +400,7 @@ void TestPasteCommand::shouldMakeTheSpearsOfWhatItPastes()
 {
     CommandFixture f(QStringLiteral("H[A[a[x]],B]"));
     f.draw();
-    f.stack->push(
-        new EditPaste(f.model.get(), f.index("B"), f.snapshot({QStringLiteral("A")})));
+    f.stack->push(new EditPaste(f.model.get(), f.index("B"), f.snapshot({QStringLiteral("A")})));
     const TreeItem *const copy = f.node("B")->childAtIndex(0);
     QCOMPARE(copy->spear()->parentItem(), f.spear("B"));
     QCOMPARE(copy->childAtIndex(0)->childAtIndex(0)->spear()->depth(), 4);
@@ -415,8 +412,7 @@ void TestPasteCommand::shouldMakeAllSpearsOfABoneThatWasNeverExpanded()
     CommandFixture f(QStringLiteral("H[A,B[b[x],c]]"));
     QGraphicsScene scene;
     scene.addItem(SpearBuilder(*f.model).buildHead(f.index("H")));
-    f.stack->push(
-        new EditPaste(f.model.get(), f.index("B"), f.snapshot({QStringLiteral("A")})));
+    f.stack->push(new EditPaste(f.model.get(), f.index("B"), f.snapshot({QStringLiteral("A")})));
     QCOMPARE(spearFault(*f.model), QString());
     QCOMPARE(f.spear("B")->childSpears().size(), 3);
     QCOMPARE(f.spear("x")->parentItem(), f.spear("b"));
@@ -427,8 +423,7 @@ void TestPasteCommand::shouldMakeNoSpearsBelowATargetWithout()
     CommandFixture f(QStringLiteral("H[A,B[b]]"));
     QGraphicsScene scene;
     scene.addItem(SpearBuilder(*f.model).buildHead(f.index("H")));
-    f.stack->push(
-        new EditPaste(f.model.get(), f.index("b"), f.snapshot({QStringLiteral("A")})));
+    f.stack->push(new EditPaste(f.model.get(), f.index("b"), f.snapshot({QStringLiteral("A")})));
     QVERIFY(!f.node("b")->childAtIndex(0)->spear());
 }
 

@@ -12,8 +12,7 @@
 
 using namespace TestSupport;
 
-namespace
-{
+namespace {
 /// A model that tells when it is searched in the slow way.
 class MatchCounter : public FishModel
 {
@@ -164,9 +163,8 @@ void TestSubjectLookup::shouldFindByUuid()
     // What Qt's own search would find by the ending agrees where nothing matches exactly.
     const auto *const exact = f.model->getTreeItem(f.model->modelIndexByUuid(uuid));
     if (!exact && namesSubject(uuid)) {
-        const QModelIndexList hits =
-            f.model->match(f.model->index(0, 1), Qt::DisplayRole, uuid, 1,
-                           Qt::MatchRecursive | Qt::MatchEndsWith);
+        const QModelIndexList hits = f.model->match(f.model->index(0, 1), Qt::DisplayRole, uuid, 1,
+                                                    Qt::MatchRecursive | Qt::MatchEndsWith);
         QCOMPARE(found, hits.value(0).siblingAtColumn(0));
     }
 }
@@ -351,7 +349,8 @@ void TestSubjectLookup::shouldFindManyAsOne()
     f.node("B")->setUuid(QStringLiteral("-1"));
     QVector<SubjectKey> keys;
     for (const TreeItem *node : allNodes(*f.model)) {
-        for (FishInfo *document : {f.document(0), f.document(1), static_cast<FishInfo *>(nullptr)}) {
+        for (FishInfo *document :
+             {f.document(0), f.document(1), static_cast<FishInfo *>(nullptr)}) {
             keys.append({node->uuid(), document, nullptr});
             keys.append({node->uuid(), document, node});
         }
