@@ -154,8 +154,9 @@ public:
      */
     bool wrapHead(FishInfo *document, TreeItem *newHead);
     /**
-     * The reverse: makes @p child, a child of the head of @p document, the head. The old head leaves
-     * the model with its other children, and the caller owns it. Null, with nothing changed, when
+     * The reverse: makes @p child, a child of the head of @p document, the head. The old head
+     * leaves the model with its other children, and the caller owns it. Null, with nothing changed,
+     * when
      * @p child is no such child.
      */
     TreeItem *unwrapHead(FishInfo *document, TreeItem *child);

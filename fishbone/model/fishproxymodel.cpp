@@ -22,7 +22,8 @@ struct FishProxyModel::Memo
     void follow(const FishProxyModel &proxy);
 
     SubtreeMatches matches;
-    bool ancestorsChanged = false;
+    bool ancestorsChanged = false; ///< since the base class was last told to filter again
+    bool mappingCleared = false;   ///< by the base class, since the last move of source rows
     QVector<QMetaObject::Connection> connections;
 
 private:
@@ -64,8 +65,10 @@ FishProxyModel::FishProxyModel(QObject *parent)
     // then.
     connect(this, &QAbstractItemModel::layoutAboutToBeChanged, this,
             [this](const QList<QPersistentModelIndex> &, LayoutChangeHint hint) {
-                if (hint == NoLayoutChangeHint)
-                    m_memo->matches.clear();
+                if (hint != NoLayoutChangeHint)
+                    return;
+                m_memo->matches.clear();
+                m_memo->mappingCleared = true;
             });
 }
 
@@ -88,45 +91,67 @@ void FishProxyModel::setSourceModel(QAbstractItemModel *sourceModel)
 void FishProxyModel::listenBefore(const QAbstractItemModel &source)
 {
     using Model = QAbstractItemModel;
-    Memo &memo = *m_memo;
-    const auto clear = [&memo] { memo.matches.clear(); };
-    memo.connections << connect(&source, &Model::dataChanged, this,
-                                [&memo](const QModelIndex &first, const QModelIndex &last) {
-                                    memo.ancestorsChanged |= memo.matches.rowsChanged(
-                                        first.parent(), first.row(), last.row());
-                                })
-                     << connect(&source, &Model::rowsInserted, this,
-                                [&memo](const QModelIndex &parent, int first, int last) {
-                                    memo.ancestorsChanged |=
-                                        memo.matches.rowsInserted(parent, first, last);
-                                })
-                     << connect(&source, &Model::rowsAboutToBeRemoved, this,
-                                [&memo](const QModelIndex &parent, int first, int last) {
-                                    memo.matches.rowsGoing(parent, first, last);
-                                })
-                     << connect(&source, &Model::rowsRemoved, this,
-                                [&memo](const QModelIndex &parent) {
-                                    memo.ancestorsChanged |= memo.matches.rowsGone(parent);
-                                })
-                     << connect(&source, &Model::rowsMoved, this, clear)
-                     << connect(&source, &Model::columnsInserted, this, clear)
-                     << connect(&source, &Model::columnsRemoved, this, clear)
-                     << connect(&source, &Model::columnsMoved, this, clear)
-                     << connect(&source, &Model::layoutChanged, this, clear)
-                     << connect(&source, &Model::modelReset, this, clear);
+    using Index = QModelIndex;
+    SubtreeMatches &matches = m_memo->matches;
+    bool &changed = m_memo->ancestorsChanged;
+    const auto forget = [&matches, &changed] {
+        matches.clear();
+        changed = true;
+    };
+    const auto listen = [this, &source](auto signal, auto slot) {
+        m_memo->connections.append(connect(&source, signal, this, slot));
+    };
+    listen(&Model::dataChanged, [&matches, &changed](const Index &first, const Index &last) {
+        changed |= matches.rowsChanged(first.parent(), first.row(), last.row());
+    });
+    listen(&Model::rowsInserted, [&matches, &changed](const Index &parent, int first, int last) {
+        changed |= matches.rowsInserted(parent, first, last);
+    });
+    listen(&Model::rowsAboutToBeRemoved, [&matches](const Index &parent, int first, int last) {
+        matches.rowsGoing(parent, first, last);
+    });
+    listen(&Model::rowsRemoved,
+           [&matches, &changed](const Index &parent) { changed |= matches.rowsGone(parent); });
+    listen(&Model::rowsAboutToBeMoved, [this](const Index &parent, int first, int last) {
+        m_memo->mappingCleared = false;
+        m_memo->matches.rowsAboutToMove(parent, first, last);
+    });
+    listen(&Model::rowsMoved, [&matches, &changed](const Index &from, int, int, const Index &to) {
+        changed |= matches.rowsMoved(from, to);
+    });
+    listen(&Model::columnsInserted, forget);
+    listen(&Model::columnsRemoved, forget);
+    listen(&Model::columnsMoved, forget);
+    listen(&Model::layoutChanged, forget);
+    listen(&Model::modelReset, forget);
 }
 
 /** Connects what brings the ancestors of a change in step once the base class is done with it. */
 void FishProxyModel::listenAfter(const QAbstractItemModel &source)
 {
     using Model = QAbstractItemModel;
+    // The base class skips moves between parents that are filtered out, but keeps what it knows of
+    // their rows, which is wrong then.
+    m_memo->connections.append(connect(&source, &Model::rowsMoved, this, [this] {
+        if (!m_memo->mappingCleared)
+            invalidate();
+    }));
     const auto refilter = [this] {
         if (std::exchange(m_memo->ancestorsChanged, false) && dynamicSortFilter())
             QSortFilterProxyModel::invalidateFilter();
     };
-    m_memo->connections << connect(&source, &Model::dataChanged, this, refilter)
-                        << connect(&source, &Model::rowsInserted, this, refilter)
-                        << connect(&source, &Model::rowsRemoved, this, refilter);
+    const auto listen = [this, &source, refilter](auto signal) {
+        m_memo->connections.append(connect(&source, signal, this, refilter));
+    };
+    listen(&Model::dataChanged);
+    listen(&Model::rowsInserted);
+    listen(&Model::rowsRemoved);
+    listen(&Model::rowsMoved);
+    listen(&Model::columnsInserted);
+    listen(&Model::columnsRemoved);
+    listen(&Model::columnsMoved);
+    listen(&Model::layoutChanged);
+    listen(&Model::modelReset);
 }
 
 bool FishProxyModel::filterAcceptsRow(int sourceRow, const QModelIndex &sourceParent) const

@@ -43,6 +43,10 @@ public:
     void rowsGoing(const QModelIndex &parent, int first, int last);
     /** The rows of the last rowsGoing() are gone. */
     bool rowsGone(const QModelIndex &parent);
+    /** Rows are about to move elsewhere. */
+    void rowsAboutToMove(const QModelIndex &parent, int first, int last);
+    /** The rows of the last rowsAboutToMove() moved from one parent to another. */
+    bool rowsMoved(const QModelIndex &from, const QModelIndex &to);
 
 private:
     using Key = QPair<quintptr, int>;

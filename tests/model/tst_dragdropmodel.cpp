@@ -217,8 +217,7 @@ void TestDragDropModel::shouldLetMovableNodesBeDragged()
     model.node(1)->setSpearItemIsMovable(false);
     const Qt::ItemFlags base = Qt::ItemIsSelectable | Qt::ItemIsEnabled;
 
-    QCOMPARE(model.flags(model.index(0, 0)),
-             base | Qt::ItemIsDragEnabled | Qt::ItemIsDropEnabled);
+    QCOMPARE(model.flags(model.index(0, 0)), base | Qt::ItemIsDragEnabled | Qt::ItemIsDropEnabled);
     QCOMPARE(model.flags(model.index(1, 0)), base);
     QCOMPARE(model.flags(model.createIndex(0, 0)), base);
     QCOMPARE(model.flags(QModelIndex()), Qt::ItemFlags(Qt::NoItemFlags));
@@ -259,8 +258,8 @@ void TestDragDropModel::shouldNeverBelievePointersInAFishModel()
     Q_UNUSED(info)
     TreeItem *const a = nodeTitled(model, QStringLiteral("a"));
 
-    const auto mime = mimeWith(record(0, 0, pointer) + record(0, 0, number(a))
-                               + record(0, 0, pointer));
+    const auto mime =
+        mimeWith(record(0, 0, pointer) + record(0, 0, number(a)) + record(0, 0, pointer));
 
     // The others keep their places, so that the last one stays the last one.
     QCOMPARE(model.indexList(mime.get()),

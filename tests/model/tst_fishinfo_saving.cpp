@@ -200,8 +200,7 @@ void TestFishInfoSaving::shouldSaveADocumentWithoutAHead()
 
     QVERIFY(m_info->saveFile(path("effect.json")));
 
-    QCOMPARE(QJsonDocument::fromJson(contentOf(path("effect.json"))),
-             QJsonDocument(QJsonObject()));
+    QCOMPARE(QJsonDocument::fromJson(contentOf(path("effect.json"))), QJsonDocument(QJsonObject()));
 }
 
 void TestFishInfoSaving::shouldReportFilesThatCannotBeWritten_data()
@@ -226,9 +225,9 @@ void TestFishInfoSaving::shouldReportFilesThatCannotBeWritten()
 
     QVERIFY(!m_info->saveFile(path));
 
-    QCOMPARE(QDir(m_folder->path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot
-                                              | QDir::Hidden),
-             QStringList({QStringLiteral("file"), QStringLiteral("folder")}));
+    QCOMPARE(
+        QDir(m_folder->path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden),
+        QStringList({QStringLiteral("file"), QStringLiteral("folder")}));
     QCOMPARE(contentOf(m_folder->filePath(QStringLiteral("file"))), QByteArray("old"));
     QVERIFY(!QFileInfo(QStringLiteral("/dev/full")).isFile());
 }
@@ -236,8 +235,8 @@ void TestFishInfoSaving::shouldReportFilesThatCannotBeWritten()
 void TestFishInfoSaving::shouldFollowALinkAndKeepPermissions()
 {
     QVERIFY(makeFile(path("target.json"), "old"));
-    const QFile::Permissions permissions = QFile::ReadOwner | QFile::WriteOwner | QFile::ReadUser
-        | QFile::WriteUser | QFile::ReadGroup;
+    const QFile::Permissions permissions = QFile::ReadOwner | QFile::WriteOwner | QFile::ReadUser |
+                                           QFile::WriteUser | QFile::ReadGroup;
     QVERIFY(QFile::setPermissions(path("target.json"), permissions));
     QVERIFY(QFile::link(path("target.json"), path("link.json")));
 
@@ -358,7 +357,8 @@ void TestFishInfoSaving::shouldProposeItsStrippedName()
 
     QVERIFY(user.isDone());
     QCOMPARE(folder, QDir(SystemHelper::documentsLocation()).absolutePath());
-    QCOMPARE(files, QStringList(SystemHelper::documentsLocation() + QStringLiteral("/effect.json")));
+    QCOMPARE(files,
+             QStringList(SystemHelper::documentsLocation() + QStringLiteral("/effect.json")));
 }
 
 void TestFishInfoSaving::shouldSaveNothingWhenNoNameIsChosen()
@@ -506,9 +506,10 @@ void TestFishInfoSaving::shouldTellWhenItMakesTheFolder()
     QVERIFY(m_info->saveTmpFile());
     QCOMPARE(debug.lines().size(), 1);
 
-    QVERIFY(QDir(QCoreApplication::applicationDirPath() + QStringLiteral("/tmp"))
-                .removeRecursively());
-    QVERIFY(makeFile(QCoreApplication::applicationDirPath() + QStringLiteral("/tmp"), "in the way"));
+    QVERIFY(
+        QDir(QCoreApplication::applicationDirPath() + QStringLiteral("/tmp")).removeRecursively());
+    QVERIFY(
+        makeFile(QCoreApplication::applicationDirPath() + QStringLiteral("/tmp"), "in the way"));
     m_info->setAutoSaveFile(QString());
     QVERIFY(!m_info->saveTmpFile());
     QVERIFY(QFile::remove(QCoreApplication::applicationDirPath() + QStringLiteral("/tmp")));
@@ -538,8 +539,8 @@ void TestFishInfoSaving::shouldAutoSaveUnderSafeNames_data()
     for (int i = 0; i < 60; ++i)
         pairs += QString::fromUcs4(U"\U0001F41F", 1);
     QTest::newRow("too long in pairs") << pairs << pairs.left(100);
-    QTest::newRow("pair at the end") << QStringLiteral("abc") + pairs
-                                     << QStringLiteral("abc") + pairs.left(98);
+    QTest::newRow("pair at the end")
+        << QStringLiteral("abc") + pairs << QStringLiteral("abc") + pairs.left(98);
 }
 
 void TestFishInfoSaving::shouldAutoSaveUnderSafeNames()

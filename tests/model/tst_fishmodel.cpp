@@ -207,9 +207,9 @@ void TestFishModel::shouldTitleItsColumns()
     for (int section = 0; section < model.columnCount(); ++section)
         titles.append(model.headerData(section, Qt::Horizontal).toString());
 
-    QCOMPARE(titles, QStringList({QStringLiteral("title"), QStringLiteral("uuid"),
-                                  QStringLiteral("showid"), QStringLiteral("pid"),
-                                  QStringLiteral("type")}));
+    QCOMPARE(titles,
+             QStringList({QStringLiteral("title"), QStringLiteral("uuid"), QStringLiteral("showid"),
+                          QStringLiteral("pid"), QStringLiteral("type")}));
 }
 
 void TestFishModel::shouldHaveHeadersOnlyForColumns_data()
@@ -275,7 +275,8 @@ void TestFishModel::shouldShowTheCountsOfTheFirstDocumentOnEveryHead()
 
     first->setNoParentNodeCount(12);
     first->setNodeCount(345);
-    QCOMPARE(model.index(1, 0).data().toString(), QStringLiteral("Other(12个无父任务/共345个任务)"));
+    QCOMPARE(model.index(1, 0).data().toString(),
+             QStringLiteral("Other(12个无父任务/共345个任务)"));
     QCOMPARE(model.index(0, 0, model.index(0, 0)).data().toString(), QStringLiteral("a"));
 }
 
@@ -525,7 +526,8 @@ void TestFishModel::shouldSkipDocumentsWithoutAHead()
     QVERIFY(!model.index(0, 0).data().isValid());
     QCOMPARE(model.getFishHeadTreeItem(), nullptr);
     QCOMPARE(model.index(1, 0).data().toString(), QStringLiteral("T(-1个无父任务/共0个任务)"));
-    QCOMPARE(model.modelIndexByUuid(QStringLiteral("u-a")), indexTitled(model, QStringLiteral("a")));
+    QCOMPARE(model.modelIndexByUuid(QStringLiteral("u-a")),
+             indexTitled(model, QStringLiteral("a")));
     QCOMPARE(model.searchModelIndexes(QStringLiteral("a")).size(), 1);
     QVERIFY(!model.findFish(headless->fileName()).isValid());
     QVERIFY(model.contains(nodeTitled(model, QStringLiteral("a"))));

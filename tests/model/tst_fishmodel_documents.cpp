@@ -90,8 +90,8 @@ void TestFishModelDocuments::shouldMakeDocumentsWithoutSignals()
 void TestFishModelDocuments::shouldMakeADocumentOfAHeadWithoutSignals()
 {
     QSignalSpy about(m_model.get(), &QAbstractItemModel::rowsAboutToBeInserted);
-    auto *const head = new TreeItem(QStringLiteral("new"), QString(), QString(),
-                                    QStringLiteral("kept"), 0);
+    auto *const head =
+        new TreeItem(QStringLiteral("new"), QString(), QString(), QStringLiteral("kept"), 0);
 
     QVERIFY(m_model->insertFishToList(3, head));
 
@@ -306,7 +306,8 @@ void TestFishModelDocuments::shouldAnnounceAHeadForADocumentWithoutOne()
     const ModelFollower follower(*m_model);
     m_model->fishList().at(1)->reset();
 
-    m_model->read(documentFromText(QStringLiteral("N[n]")), m_model->fishList().at(1)->treeItem(), 0);
+    m_model->read(documentFromText(QStringLiteral("N[n]")), m_model->fishList().at(1)->treeItem(),
+                  0);
 
     QCOMPARE(follower.text(), QStringLiteral("A[a];N[n];C[c]"));
 }

@@ -211,9 +211,8 @@ void TestFishModelLoading::shouldReloadADocument()
     const QPersistentModelIndex head = model.index(0, 0);
     const ModelFollower follower(model);
     QString whenAnnounced;
-    connect(&model, &QAbstractItemModel::modelAboutToBeReset, this, [&model, &whenAnnounced] {
-        whenAnnounced = treeToText(*model.getFishHeadTreeItem());
-    });
+    connect(&model, &QAbstractItemModel::modelAboutToBeReset, this,
+            [&model, &whenAnnounced] { whenAnnounced = treeToText(*model.getFishHeadTreeItem()); });
     SignalRecorder signals(model, {QStringLiteral("fishLoaded"), QStringLiteral("modelReset")});
 
     QCOMPARE(model.reloadDataFromFile(file, info), 0);

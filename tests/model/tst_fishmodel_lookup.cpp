@@ -54,7 +54,8 @@ void TestFishModelLookup::shouldFindNodesByUuid()
     loadDocument(model, QStringLiteral("B[v[w]]"));
 
     QCOMPARE(model.modelIndexByUuid(QStringLiteral("u-A")), model.index(0, 0));
-    QCOMPARE(model.modelIndexByUuid(QStringLiteral("u-w")), indexTitled(model, QStringLiteral("w")));
+    QCOMPARE(model.modelIndexByUuid(QStringLiteral("u-w")),
+             indexTitled(model, QStringLiteral("w")));
     QVERIFY(!model.modelIndexByUuid(QStringLiteral("w")).isValid());
     QVERIFY(!model.modelIndexByUuid(QStringLiteral("u-")).isValid());
     QVERIFY(!model.modelIndexByUuid(QString()).isValid());
@@ -102,10 +103,9 @@ void TestFishModelLookup::shouldSearchTitles_data()
                              << QStringList({QStringLiteral("xABCx"), QStringLiteral("x")});
     QTest::newRow("none") << QStringLiteral("q") << QStringList();
     QTest::newRow("no pattern") << QStringLiteral(".") << QStringList();
-    QTest::newRow("everything")
-        << QString()
-        << QStringList({QStringLiteral("A"), QStringLiteral("xABCx"), QStringLiteral("ärger"),
-                        QStringLiteral("x")});
+    QTest::newRow("everything") << QString()
+                                << QStringList({QStringLiteral("A"), QStringLiteral("xABCx"),
+                                                QStringLiteral("ärger"), QStringLiteral("x")});
 }
 
 void TestFishModelLookup::shouldSearchTitles()

@@ -263,8 +263,8 @@ void TestFishModelMoves::shouldRefuseMovesOutsideTheRange_data()
 
     for (const bool fromTop : {false, true}) {
         for (const bool toTop : {false, true}) {
-            const QByteArray name = QByteArray(fromTop ? "top" : "node") + " to "
-                + QByteArray(toTop ? "top" : "node") + ": ";
+            const QByteArray name = QByteArray(fromTop ? "top" : "node") + " to " +
+                                    QByteArray(toTop ? "top" : "node") + ": ";
             const auto add = [&](const char *what, int row, int count, int destination) {
                 QTest::newRow(name + what) << fromTop << toTop << row << count << destination;
             };

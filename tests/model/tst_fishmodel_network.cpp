@@ -27,10 +27,11 @@ constexpr int patience = 20000;
 
 const char *const document = R"({"title": "Effect", "children": [{"title": "Man"}]})";
 
-QByteArray response(const QByteArray &status, const QByteArray &body, const QByteArray &headers = {})
+QByteArray response(const QByteArray &status, const QByteArray &body,
+                    const QByteArray &headers = {})
 {
-    return "HTTP/1.1 " + status + "\r\nContent-Length: " + QByteArray::number(body.size()) + "\r\n"
-        + headers + "Connection: close\r\n\r\n" + body;
+    return "HTTP/1.1 " + status + "\r\nContent-Length: " + QByteArray::number(body.size()) +
+           "\r\n" + headers + "Connection: close\r\n\r\n" + body;
 }
 
 /** A web server on this machine that answers each path as it was told, and says nothing else. */
@@ -48,8 +49,9 @@ public:
 
     QUrl url(const char *path) const
     {
-        return QUrl(QStringLiteral("http://127.0.0.1:%1%2").arg(serverPort()).arg(
-            QString::fromLatin1(path)));
+        return QUrl(QStringLiteral("http://127.0.0.1:%1%2")
+                        .arg(serverPort())
+                        .arg(QString::fromLatin1(path)));
     }
 
     /** Sends @p bytes for @p path and ends the connection, or leaves it open. */
@@ -245,8 +247,8 @@ void TestFishModelNetwork::shouldEndRepliesThatAreTooLarge_data()
         << QByteArray("HTTP/1.1 200 OK\r\nContent-Length: 99999999\r\n\r\n") + document;
     QTest::newRow("of unknown size")
         << QByteArray("HTTP/1.1 200 OK\r\nConnection: close\r\n\r\n") + large;
-    QTest::newRow("one byte too large")
-        << response("200 OK", QByteArray(document) + QByteArray(1001 - int(qstrlen(document)), ' '));
+    QTest::newRow("one byte too large") << response(
+        "200 OK", QByteArray(document) + QByteArray(1001 - int(qstrlen(document)), ' '));
 }
 
 void TestFishModelNetwork::shouldEndRepliesThatAreTooLarge()
@@ -309,8 +311,7 @@ void TestFishModelNetwork::shouldFreeEverythingAfterALoad()
 
     m_model->loadFishFromUrl(m_server->url("/"));
 
-    const QPointer<QNetworkAccessManager> manager =
-        m_model->findChild<QNetworkAccessManager *>();
+    const QPointer<QNetworkAccessManager> manager = m_model->findChild<QNetworkAccessManager *>();
     QVERIFY(manager);
     const QPointer<QNetworkReply> reply = manager->findChild<QNetworkReply *>();
     QVERIFY(reply);
@@ -321,8 +322,7 @@ void TestFishModelNetwork::shouldBeDestroyedWhileLoading()
 {
     m_server->tell("/", response("200 OK", document));
     m_model->loadFishFromUrl(m_server->url("/"));
-    const QPointer<QNetworkAccessManager> manager =
-        m_model->findChild<QNetworkAccessManager *>();
+    const QPointer<QNetworkAccessManager> manager = m_model->findChild<QNetworkAccessManager *>();
 
     m_model.reset();
 

@@ -22,8 +22,8 @@ using namespace TestSupport;
 namespace {
 
 /**
- * What the model should hold, as plain lists of nodes. Null stands for the top level. The operations
- * are spelled out step by step, without the model's code.
+ * What the model should hold, as plain lists of nodes. Null stands for the top level. The
+ * operations are spelled out step by step, without the model's code.
  */
 class Mirror
 {
@@ -68,7 +68,8 @@ public:
         }
     }
 
-    /** The nodes that went since forgetDropped(), also those that came back or whose place in memory did. */
+    /** The nodes that went since forgetDropped(), also those that came back or whose place in
+     * memory did. */
     const QSet<TreeItem *> &dropped() const { return m_dropped; }
     void forgetDropped() { m_dropped.clear(); }
 
@@ -322,8 +323,8 @@ private:
             if (m_mirror.dropped().contains(node)) {
                 if (index.isValid())
                     return QStringLiteral("index of a lost node");
-            } else if (m_model.getTreeItem(index) != node
-                       || QModelIndex(index) != m_model.indexFromItem(node, index.column())) {
+            } else if (m_model.getTreeItem(index) != node ||
+                       QModelIndex(index) != m_model.indexFromItem(node, index.column())) {
                 return QStringLiteral("index off its node");
             }
         }

@@ -22,8 +22,8 @@ constexpr int maxInt = std::numeric_limits<int>::max();
 
 TreeItem *makeNode(const char *title)
 {
-    return new TreeItem(QString::fromLatin1(title), QStringLiteral("u-") + QString::fromLatin1(title),
-                        QString(), QString(), 0);
+    return new TreeItem(QString::fromLatin1(title),
+                        QStringLiteral("u-") + QString::fromLatin1(title), QString(), QString(), 0);
 }
 
 } // namespace

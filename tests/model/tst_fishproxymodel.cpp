@@ -61,9 +61,9 @@ QString expectedText(const FishProxyModel &proxy, const QModelIndex &parent, QCh
         if (!isShown(proxy, index))
             continue;
         const QString below = expectedText(proxy, index, QLatin1Char(','));
-        parts.append(below.isEmpty() ? index.data().toString()
-                                     : index.data().toString() + QLatin1Char('[') + below
-                             + QLatin1Char(']'));
+        parts.append(below.isEmpty()
+                         ? index.data().toString()
+                         : index.data().toString() + QLatin1Char('[') + below + QLatin1Char(']'));
     }
     return parts.join(separator);
 }
@@ -162,12 +162,14 @@ void TestFishProxyModel::shouldFilter_data()
     QTest::newRow("nothing to look for")
         << QString()
         << QStringLiteral("Effect[Man[Training[Needle],Skill],Machine[Wear]];Cause[Method]");
-    QTest::newRow("grandchild") << QStringLiteral("Skill") << QStringLiteral("Effect[Man[Skill]];Cause");
+    QTest::newRow("grandchild") << QStringLiteral("Skill")
+                                << QStringLiteral("Effect[Man[Skill]];Cause");
     QTest::newRow("deeper") << QStringLiteral("Needle")
                             << QStringLiteral("Effect[Man[Training[Needle]]];Cause");
     QTest::newRow("inner row without what is below it")
         << QStringLiteral("Training") << QStringLiteral("Effect[Man[Training]];Cause");
-    QTest::newRow("several") << QStringLiteral("M") << QStringLiteral("Effect[Man,Machine];Cause[Method]");
+    QTest::newRow("several") << QStringLiteral("M")
+                             << QStringLiteral("Effect[Man,Machine];Cause[Method]");
     QTest::newRow("nowhere") << QStringLiteral("xyz") << QStringLiteral("Effect;Cause");
     QTest::newRow("head") << QStringLiteral("Effect") << QStringLiteral("Effect;Cause");
     QTest::newRow("case") << QStringLiteral("needle") << QStringLiteral("Effect;Cause");
@@ -441,8 +443,8 @@ void TestFishProxyModel::shouldFilterModelsOfOtherKinds()
     QCOMPARE(follower.text(), QStringLiteral("a[b[needle]];d[e[needle]]"));
     source.item(0)->child(0)->removeRow(1);
     QCOMPARE(follower.text(), QStringLiteral("a;d[e[needle]]"));
-    source.item(0)->child(0)->child(0)->appendRow(makeItems({QStringLiteral("y"),
-                                                             QStringLiteral("needle")}));
+    source.item(0)->child(0)->child(0)->appendRow(
+        makeItems({QStringLiteral("y"), QStringLiteral("needle")}));
     QCOMPARE(follower.text(), QStringLiteral("a[b[z[y[needle]]]];d[e[needle]]"));
     source.removeRow(1);
     QCOMPARE(follower.text(), expectedText(proxy));

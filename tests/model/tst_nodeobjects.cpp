@@ -41,15 +41,13 @@ QJsonObject written(TreeItem &node)
 /** The keys of a node that was made by the program and has no style and no followers. */
 QStringList ordinaryKeys()
 {
-    return {QStringLiteral("children"),  QStringLiteral("createdate"),
-            QStringLiteral("creatorid"), QStringLiteral("creatorname"),
-            QStringLiteral("detail"),    QStringLiteral("mgrid"),
-            QStringLiteral("mgrname"),   QStringLiteral("pid"),
-            QStringLiteral("planenddate"), QStringLiteral("priority"),
-            QStringLiteral("progress"),  QStringLiteral("showid"),
-            QStringLiteral("status"),    QStringLiteral("title"),
-            QStringLiteral("type"),      QStringLiteral("url"),
-            QStringLiteral("uuid")};
+    return {
+        QStringLiteral("children"),    QStringLiteral("createdate"), QStringLiteral("creatorid"),
+        QStringLiteral("creatorname"), QStringLiteral("detail"),     QStringLiteral("mgrid"),
+        QStringLiteral("mgrname"),     QStringLiteral("pid"),        QStringLiteral("planenddate"),
+        QStringLiteral("priority"),    QStringLiteral("progress"),   QStringLiteral("showid"),
+        QStringLiteral("status"),      QStringLiteral("title"),      QStringLiteral("type"),
+        QStringLiteral("url"),         QStringLiteral("uuid")};
 }
 
 } // namespace
@@ -206,7 +204,8 @@ void TestNodeObjects::shouldReadDates()
     QFETCH(QByteArray, value);
     QFETCH(qint64, msecs);
 
-    const TreeItem node(objectFrom("{\"createdate\": " + value + ", \"planenddate\": " + value + '}'));
+    const TreeItem node(
+        objectFrom("{\"createdate\": " + value + ", \"planenddate\": " + value + '}'));
 
     QCOMPARE(node.createDate(), msecs);
     QCOMPARE(node.planEndDate(), msecs);
@@ -310,13 +309,14 @@ void TestNodeObjects::shouldWriteTheOrdinaryKeys()
 
 void TestNodeObjects::shouldWriteEveryValue()
 {
-    const QByteArray json = R"({"children":[],"createdate":1500000000000,"creatorid":"c",)"
-                            R"("creatorname":"Wang","detail":"text","followers":["a","b"],)"
-                            R"("mgrid":"m","mgrname":"Li","pid":"u0","planenddate":-5,)"
-                            R"("priority":2,"progress":50,"showid":"T-1",)"
-                            R"("spearstyle":{"inheritanceParent":true,"spearStates":[],"textCount":9},)"
-                            R"("status":4,"title":"Man","type":3,"url":"https://example.org",)"
-                            R"("uuid":"u1"})";
+    const QByteArray json =
+        R"({"children":[],"createdate":1500000000000,"creatorid":"c",)"
+        R"("creatorname":"Wang","detail":"text","followers":["a","b"],)"
+        R"("mgrid":"m","mgrname":"Li","pid":"u0","planenddate":-5,)"
+        R"("priority":2,"progress":50,"showid":"T-1",)"
+        R"("spearstyle":{"inheritanceParent":true,"spearStates":[],"textCount":9},)"
+        R"("status":4,"title":"Man","type":3,"url":"https://example.org",)"
+        R"("uuid":"u1"})";
     TreeItem node(objectFrom(json));
 
     QCOMPARE(textOf(written(node)), json);
@@ -505,10 +505,12 @@ void TestNodeObjects::shouldLoadOddDocuments_data()
         << QByteArray(R"({"title": "a", "children": [{}, {"title": "b"}]})")
         << QStringLiteral("a[b]") << 2;
     QTest::newRow("child no object skipped")
-        << QByteArray(R"({"title": "a", "children": [1, null, "x", [{"title": "c"}], {"title": "b"}]})")
+        << QByteArray(
+               R"({"title": "a", "children": [1, null, "x", [{"title": "c"}], {"title": "b"}]})")
         << QStringLiteral("a[b]") << 2;
     QTest::newRow("child without title")
-        << QByteArray(R"({"title": "a", "children": [{"uuid": "b"}]})") << QStringLiteral("a[]") << 2;
+        << QByteArray(R"({"title": "a", "children": [{"uuid": "b"}]})") << QStringLiteral("a[]")
+        << 2;
 }
 
 void TestNodeObjects::shouldLoadOddDocuments()
@@ -532,9 +534,12 @@ void TestNodeObjects::shouldCountNodesWithoutParentTask_data()
     QTest::addColumn<QByteArray>("grandchildPid");
     QTest::addColumn<int>("count");
 
-    QTest::newRow("all have one but the head") << QByteArray("-1") << QByteArray("h") << QByteArray("h") << 0;
-    QTest::newRow("one child without") << QByteArray("-1") << QByteArray("") << QByteArray("h") << 1;
-    QTest::newRow("deeper ones count too") << QByteArray("-1") << QByteArray("") << QByteArray("-1") << 2;
+    QTest::newRow("all have one but the head")
+        << QByteArray("-1") << QByteArray("h") << QByteArray("h") << 0;
+    QTest::newRow("one child without")
+        << QByteArray("-1") << QByteArray("") << QByteArray("h") << 1;
+    QTest::newRow("deeper ones count too")
+        << QByteArray("-1") << QByteArray("") << QByteArray("-1") << 2;
     QTest::newRow("head has one") << QByteArray("x") << QByteArray("h") << QByteArray("h") << -1;
     QTest::newRow("case matters") << QByteArray("-1") << QByteArray("H") << QByteArray("-1 ") << 0;
 }
@@ -548,8 +553,11 @@ void TestNodeObjects::shouldCountNodesWithoutParentTask()
     FishInfo info;
 
     info.loadFish(objectFrom(R"({"uuid": "h", "pid": ")" + headPid + R"(", "children": [
-        {"pid": "h"}, {"pid": "h"}, {"pid": ")" + childPid + R"(", "children": [
-            {"pid": ")" + grandchildPid + R"("}]}]})"), nullptr);
+        {"pid": "h"}, {"pid": "h"}, {"pid": ")" +
+                             childPid + R"(", "children": [
+            {"pid": ")" + grandchildPid +
+                             R"("}]}]})"),
+                  nullptr);
 
     QCOMPARE(info.nodeCount(), 5);
     QCOMPARE(info.noParentNodeCount(), count);

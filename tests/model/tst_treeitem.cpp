@@ -100,8 +100,9 @@ void TestTreeItem::shouldStartWithTextsThatAreEmptyButNotNull()
 {
     const TreeItem node;
 
-    const QStringList texts{node.showid(),    node.detail(),      node.url(),      node.managerName(),
-                            node.managerId(), node.creatorName(), node.creatorId()};
+    const QStringList texts{node.showid(),      node.detail(),    node.url(),
+                            node.managerName(), node.managerId(), node.creatorName(),
+                            node.creatorId()};
     for (const QString &text : texts) {
         QVERIFY(text.isEmpty());
         QVERIFY(!text.isNull());
@@ -254,9 +255,8 @@ void TestTreeItem::shouldAppendFollowersOfAnArray()
 
     node.setFollowers(QJsonArray{QStringLiteral("a"), 5, QStringLiteral("b")});
 
-    QCOMPARE(node.followers(),
-             QStringList({QStringLiteral("old"), QStringLiteral("a"), QString(),
-                          QStringLiteral("b")}));
+    QCOMPARE(node.followers(), QStringList({QStringLiteral("old"), QStringLiteral("a"), QString(),
+                                            QStringLiteral("b")}));
 }
 
 void TestTreeItem::shouldTellWhetherThereIsAParentTask_data()
@@ -347,9 +347,9 @@ void TestTreeItem::shouldDescribeItselfInATooltip_data()
                              << QStringLiteral("A\n 创建时间:") + date;
     QTest::newRow("due") << none << a << none << qint64(0) << dayOfMarch
                          << QStringLiteral("A\n 截止时间:") + date;
-    QTest::newRow("before the epoch") << none << a << none << qint64(0) << qint64(-86400000 * 3)
-                                      << QStringLiteral("A\n 截止时间:")
-            + SystemHelper::stringFromDateTimeMsecs(-86400000 * 3);
+    QTest::newRow("before the epoch")
+        << none << a << none << qint64(0) << qint64(-86400000 * 3)
+        << QStringLiteral("A\n 截止时间:") + SystemHelper::stringFromDateTimeMsecs(-86400000 * 3);
     QTest::newRow("everything")
         << id << a << li << dayOfMarch << dayOfMarch
         << QStringLiteral("T-1 A\n 负责人:Li\n 创建时间:%1\n 截止时间:%1").arg(date);
