@@ -18,8 +18,11 @@
 
 #include <QAbstractItemModelTester>
 #include <QAction>
+#include <QApplication>
+#include <QDialog>
 #include <QFile>
 #include <QTemporaryDir>
+#include <QTimer>
 #include <QtTest>
 
 /// The program's window with the small diagram "Late": bones "People" (with "Too few" (with
@@ -31,6 +34,8 @@ class AppFixture
 public:
     AppFixture()
     {
+        QObject::connect(&m_watchdog, &QTimer::timeout, &m_watchdog, [this] { closeForgotten(); });
+        m_watchdog.start(500);
         writeFile(path(), diagram());
         window.resize(1200, 800);
         window.show();
@@ -153,6 +158,28 @@ public:
         return titles;
     }
 
+private:
+    /// Closes a dialog that nobody answers, so that a test fails instead of hanging.
+    void closeForgotten()
+    {
+        QWidget *const modal = QApplication::activeModalWidget();
+        if (modal != m_modal)
+            m_age = 0;
+        m_modal = modal;
+        if (!modal || ++m_age < 20)
+            return;
+        qCritical() << "nobody answers" << modal;
+        if (auto *const dialog = qobject_cast<QDialog *>(modal))
+            dialog->reject();
+        else
+            modal->close();
+    }
+
+    QTimer m_watchdog;
+    const QWidget *m_modal = nullptr; ///< only compared
+    int m_age = 0;
+
+public:
     QTemporaryDir folder;
     MainWindow window;
     QAbstractItemModelTester tester{window.model(),

@@ -135,12 +135,16 @@ void TestFinder::shouldRespectTheCase()
 {
     FinderFixture app;
     app.dialog->findChild<QCheckBox *>()->setChecked(true);
-    app.search(QStringLiteral("m"));
-    app.field(1)->setText(QStringLiteral("M"));
-    QString said;
+    app.field(0)->setText(QStringLiteral("m"));
+    app.field(1)->setText(QStringLiteral("X"));
     const ModalDriver<QMessageBox> driver([](QMessageBox &box) { box.accept(); });
     app.press("Replace All");
-    QVERIFY(!app.window.editor()->undoStack()->canUndo()); // there is no small m
+    QVERIFY(driver.isDone()); // there is no small m
+    QVERIFY(!app.window.editor()->undoStack()->canUndo());
+
+    app.field(0)->setText(QStringLiteral("M"));
+    app.press("Replace All");
+    QVERIFY(app.text().contains(QLatin1String("Xachines,Xaterial")));
 }
 
 void TestFinder::shouldReplaceNothingButTitles()

@@ -121,7 +121,7 @@ void TestFishEditorBuilding::shouldClearTheSceneForAnInvalidIndexAndKeepTheRoot(
 {
     EditorFixture fish(effect());
     fish.editor.expandAll();
-    fish.select({QStringLiteral("Man")});
+    fish.select({QStringLiteral("Man"), QStringLiteral("Train"), QStringLiteral("Method")});
     SignalRecorder recorder(fish.editor);
 
     fish.editor.setRootIndex(QModelIndex());
