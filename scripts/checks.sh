@@ -29,7 +29,8 @@ check_format() {
 }
 
 check_scripts() {
-    shellcheck --external-sources scripts/bootstrap scripts/run scripts/test scripts/*.sh .ci/run
+    shellcheck --external-sources scripts/bootstrap scripts/run scripts/test scripts/update-translations \
+        scripts/*.sh .ci/run
 }
 
 # Every file says whose it is and under which terms, a script below its first line.
@@ -61,12 +62,13 @@ check_includes() {
         search -vE '"[a-z0-9_]+\.moc"$' | none
 }
 
-# Each public header, which is one that exports something, has a test program of its own.
+# Each public header, which is one that exports something, has test programs of its name.
 check_tests_exist() {
     local header name
     grep -rl --include='*.h' FISHBONE_EXPORT fishbone | sort | while read -r header; do
-        name=tst_$(basename "$header" .h).cpp
-        compgen -G "tests/*/$name" >/dev/null || echo "$header: no tests/*/$name"
+        name=tst_$(basename "$header" .h)
+        compgen -G "tests/*/$name.cpp" >/dev/null || compgen -G "tests/*/${name}_*.cpp" >/dev/null ||
+            echo "$header: no tests/*/$name.cpp"
     done | none
 }
 
@@ -84,7 +86,20 @@ check_words() {
     {
         search -rnIE --exclude-dir=build --exclude-dir=.git --exclude=checks.sh \
             '\b(TODO|FIXME|XXX|HACK)\b|^(<{7}|>{7}) |(^|[^A-Za-z0-9.])/(home|root|Users)/[a-z]' .
-        search -rnE 'QVERIFY2?\((true|1)\b|QSKIP\(' tests
+        search -rnE 'QVERIFY2?\((true|1)\b' tests
+    } | none
+}
+
+# The translations hold the texts of the sources and no others, and each of them is translated.
+check_translations() {
+    local copies=$PWD/build/translations
+    rm -rf "$copies"
+    mkdir -p "$copies"
+    cp translations/*.ts "$copies"
+    {
+        scripts/update-translations "$copies" 2>&1
+        search -nE 'type="(unfinished|vanished|obsolete)"' "$copies"/*.ts
+        diff --recursive --unified=1 --exclude=CMakeLists.txt --exclude='*.qrc' translations "$copies"
     } | none
 }
 

@@ -1,0 +1,1206 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en">
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>Show this help and quit.</source>
+        <translation>Show this help and quit.</translation>
+    </message>
+    <message>
+        <source>Show the version and quit.</source>
+        <translation>Show the version and quit.</translation>
+    </message>
+    <message>
+        <source>Show texts in &lt;language&gt;, zh or en, instead of the system&apos;s.</source>
+        <translation>Show texts in &lt;language&gt;, zh or en, instead of the system&apos;s.</translation>
+    </message>
+    <message>
+        <source>Draw the diagram into the picture &lt;file&gt; and quit. The ending .png, .svg or .pdf tells the format. Needs no display.</source>
+        <translation>Draw the diagram into the picture &lt;file&gt; and quit. The ending .png, .svg or .pdf tells the format. Needs no display.</translation>
+    </message>
+    <message>
+        <source>How far to expand the bones of the picture: all (the default), none, or a number of levels below the main bones.</source>
+        <translation>How far to expand the bones of the picture: all (the default), none, or a number of levels below the main bones.</translation>
+    </message>
+    <message>
+        <source>Make the picture &lt;width&gt;x&lt;height&gt; in size and fit the drawing in.</source>
+        <translation>Make the picture &lt;width&gt;x&lt;height&gt; in size and fit the drawing in.</translation>
+    </message>
+    <message>
+        <source>Draw &lt;factor&gt; times as large as on the screen at 100 %.</source>
+        <translation>Draw &lt;factor&gt; times as large as on the screen at 100 %.</translation>
+    </message>
+    <message>
+        <source>Fill the picture with &lt;colour&gt;, a name or #rrggbb, or leave it transparent. White is the default.</source>
+        <translation>Fill the picture with &lt;colour&gt;, a name or #rrggbb, or leave it transparent. White is the default.</translation>
+    </message>
+    <message>
+        <source>Edits fishbone diagrams of tasks.</source>
+        <translation>Edits fishbone diagrams of tasks.</translation>
+    </message>
+    <message>
+        <source>Diagrams to open: files, or http and https URLs. Without one, a new diagram.</source>
+        <translation>Diagrams to open: files, or http and https URLs. Without one, a new diagram.</translation>
+    </message>
+    <message>
+        <source>--%1 takes %2, not &quot;%3&quot;</source>
+        <translation>--%1 takes %2, not &quot;%3&quot;</translation>
+    </message>
+    <message>
+        <source>zh or en</source>
+        <translation>zh or en</translation>
+    </message>
+    <message>
+        <source>--%1 needs --export</source>
+        <translation>--%1 needs --export</translation>
+    </message>
+    <message>
+        <source>the format of &quot;%1&quot; is unknown: the name must end in .png, .svg or .pdf</source>
+        <translation>the format of &quot;%1&quot; is unknown: the name must end in .png, .svg or .pdf</translation>
+    </message>
+    <message>
+        <source>--export takes one document, not %1</source>
+        <translation>--export takes one document, not %1</translation>
+    </message>
+    <message>
+        <source>--size and --scale exclude each other</source>
+        <translation>--size and --scale exclude each other</translation>
+    </message>
+    <message>
+        <source>all, none or a number of levels</source>
+        <translation>all, none or a number of levels</translation>
+    </message>
+    <message>
+        <source>a size such as 1600x900</source>
+        <translation>a size such as 1600x900</translation>
+    </message>
+    <message>
+        <source>a number above 0</source>
+        <translation>a number above 0</translation>
+    </message>
+    <message>
+        <source>the name of a colour, #rrggbb or transparent</source>
+        <translation>the name of a colour, #rrggbb or transparent</translation>
+    </message>
+    <message>
+        <source>cannot read %1: %2</source>
+        <translation>cannot read %1: %2</translation>
+    </message>
+    <message>
+        <source>cannot write %1: %2</source>
+        <translation>cannot write %1: %2</translation>
+    </message>
+    <message>
+        <source>there is no display to open a window on; --export needs none</source>
+        <translation>there is no display to open a window on; --export needs none</translation>
+    </message>
+</context>
+<context>
+    <name>DetailsPanel</name>
+    <message>
+        <source>&amp;Apply</source>
+        <translation>&amp;Apply</translation>
+    </message>
+    <message>
+        <source>Re&amp;vert</source>
+        <translation>&amp;Revert</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>unknown</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>cancelled</translation>
+    </message>
+    <message>
+        <source>finished</source>
+        <translation>finished</translation>
+    </message>
+    <message>
+        <source>finished late</source>
+        <translation>finished late</translation>
+    </message>
+    <message>
+        <source>postponed</source>
+        <translation>postponed</translation>
+    </message>
+    <message>
+        <source>under way</source>
+        <translation>under way</translation>
+    </message>
+    <message>
+        <source>waiting</source>
+        <translation>waiting</translation>
+    </message>
+    <message>
+        <source>waiting for approval</source>
+        <translation>waiting for approval</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>none</translation>
+    </message>
+    <message>
+        <source>separated by commas</source>
+        <translation>name, name</translation>
+    </message>
+    <message>
+        <source>Has a planned end</source>
+        <translation>Has a planned end</translation>
+    </message>
+    <message>
+        <source>Title:</source>
+        <translation>Title:</translation>
+    </message>
+    <message>
+        <source>Status:</source>
+        <translation>Status:</translation>
+    </message>
+    <message>
+        <source>Progress:</source>
+        <translation>Progress:</translation>
+    </message>
+    <message>
+        <source>Priority:</source>
+        <translation>Priority:</translation>
+    </message>
+    <message>
+        <source>Responsible:</source>
+        <translation>Responsible:</translation>
+    </message>
+    <message>
+        <source>Their id:</source>
+        <translation>Their id:</translation>
+    </message>
+    <message>
+        <source>Followers:</source>
+        <translation>Followers:</translation>
+    </message>
+    <message>
+        <source>Planned end:</source>
+        <translation>Planned end:</translation>
+    </message>
+    <message>
+        <source>Details:</source>
+        <translation>Details:</translation>
+    </message>
+    <message>
+        <source>Number: %1</source>
+        <translation>Number: %1</translation>
+    </message>
+    <message>
+        <source>Created by: %1</source>
+        <translation>Created by: %1</translation>
+    </message>
+    <message>
+        <source>Created on: %1</source>
+        <translation>Created on: %1</translation>
+    </message>
+    <message>
+        <source>Link: %1</source>
+        <translation>Link: %1</translation>
+    </message>
+</context>
+<context>
+    <name>DocumentLoader</name>
+    <message>
+        <source>it is empty</source>
+        <translation>it is empty</translation>
+    </message>
+    <message>
+        <source>it is not a JSON document</source>
+        <translation>it is not a JSON document</translation>
+    </message>
+    <message>
+        <source>it is not a JSON document (line %1: %2)</source>
+        <translation>it is not a JSON document (line %1: %2)</translation>
+    </message>
+    <message>
+        <source>it is a folder</source>
+        <translation>it is a folder</translation>
+    </message>
+    <message>
+        <source>there is no such file</source>
+        <translation>there is no such file</translation>
+    </message>
+    <message>
+        <source>the program is closing</source>
+        <translation>the program is closing</translation>
+    </message>
+    <message>
+        <source>the reply is not a JSON document</source>
+        <translation>the reply is not a JSON document</translation>
+    </message>
+    <message>
+        <source>the reply took too long or was too large</source>
+        <translation>the reply took too long or was too large</translation>
+    </message>
+    <message>
+        <source>it holds no diagram</source>
+        <translation>it holds no diagram</translation>
+    </message>
+</context>
+<context>
+    <name>EditCommands</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Undo</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Redo</translation>
+    </message>
+    <message>
+        <source>&amp;Find and replace…</source>
+        <translation>&amp;Find and replace…</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>Cu&amp;t</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copy</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>&amp;Paste</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Delete</translation>
+    </message>
+    <message>
+        <source>Select &amp;all</source>
+        <translation>Select &amp;all</translation>
+    </message>
+    <message>
+        <source>&amp;Child subject</source>
+        <translation>&amp;Child subject</translation>
+    </message>
+    <message>
+        <source>Subject &amp;before</source>
+        <translation>Subject &amp;before</translation>
+    </message>
+    <message>
+        <source>Subject &amp;after</source>
+        <translation>Subject &amp;after</translation>
+    </message>
+    <message>
+        <source>&amp;Parent subject</source>
+        <translation>&amp;Parent subject</translation>
+    </message>
+    <message>
+        <source>&amp;Free subject (a new diagram)</source>
+        <translation>&amp;Free subject (a new diagram)</translation>
+    </message>
+    <message>
+        <source>&amp;Sub-task…</source>
+        <translation>&amp;Sub-task…</translation>
+    </message>
+    <message>
+        <source>&amp;Rename</source>
+        <translation>&amp;Rename</translation>
+    </message>
+    <message>
+        <source>&amp;Link to…</source>
+        <translation>&amp;Link to…</translation>
+    </message>
+    <message>
+        <source>&amp;Open link</source>
+        <translation>&amp;Open link</translation>
+    </message>
+    <message>
+        <source>Remove l&amp;ink</source>
+        <translation>Remove l&amp;ink</translation>
+    </message>
+    <message>
+        <source>&amp;Style…</source>
+        <translation>St&amp;yle…</translation>
+    </message>
+    <message>
+        <source>Remove s&amp;tyle</source>
+        <translation>Remove s&amp;tyle</translation>
+    </message>
+    <message>
+        <source>New sub-task</source>
+        <translation>New sub-task</translation>
+    </message>
+    <message>
+        <source>Title:</source>
+        <translation>Title:</translation>
+    </message>
+</context>
+<context>
+    <name>EditDelete</name>
+    <message>
+        <source>Delete selecteds</source>
+        <translation>Delete subjects</translation>
+    </message>
+    <message>
+        <source>Delete current selected</source>
+        <translation>Delete subject</translation>
+    </message>
+</context>
+<context>
+    <name>EditModify</name>
+    <message>
+        <source>Modify Item</source>
+        <translation>Edit subject</translation>
+    </message>
+</context>
+<context>
+    <name>EditMove</name>
+    <message>
+        <source>Move subjects</source>
+        <translation>Move subjects</translation>
+    </message>
+</context>
+<context>
+    <name>EditPaste</name>
+    <message>
+        <source>Paste from clipborad</source>
+        <translation>Paste from clipboard</translation>
+    </message>
+</context>
+<context>
+    <name>ExportDialog</name>
+    <message>
+        <source>Export picture</source>
+        <translation>Export picture</translation>
+    </message>
+    <message>
+        <source>White</source>
+        <translation>White</translation>
+    </message>
+    <message>
+        <source>Transparent</source>
+        <translation>Transparent</translation>
+    </message>
+    <message>
+        <source>&amp;Browse…</source>
+        <translation>B&amp;rowse…</translation>
+    </message>
+    <message>
+        <source>&amp;File:</source>
+        <translation>&amp;File:</translation>
+    </message>
+    <message>
+        <source>&amp;Scale:</source>
+        <translation>&amp;Scale:</translation>
+    </message>
+    <message>
+        <source>&amp;Background:</source>
+        <translation>&amp;Background:</translation>
+    </message>
+    <message>
+        <source>Pictures (*.png *.svg *.pdf)</source>
+        <translation>Pictures (*.png *.svg *.pdf)</translation>
+    </message>
+    <message>
+        <source>The file name must end in .png, .svg or .pdf.</source>
+        <translation>The file name must end in .png, .svg or .pdf.</translation>
+    </message>
+    <message>
+        <source>%1 exists already. Replace it?</source>
+        <translation>%1 exists already. Replace it?</translation>
+    </message>
+</context>
+<context>
+    <name>FileCommands</name>
+    <message>
+        <source>Fishbone diagrams (*.json);;All files (*)</source>
+        <translation>Fishbone diagrams (*.json);;All files (*)</translation>
+    </message>
+    <message>
+        <source>&amp;New</source>
+        <translation>&amp;New</translation>
+    </message>
+    <message>
+        <source>New from the &amp;example</source>
+        <translation>New from the exa&amp;mple</translation>
+    </message>
+    <message>
+        <source>New from &amp;template…</source>
+        <translation>New from &amp;template…</translation>
+    </message>
+    <message>
+        <source>&amp;Open…</source>
+        <translation>&amp;Open…</translation>
+    </message>
+    <message>
+        <source>Open &amp;URL…</source>
+        <translation>Open &amp;URL…</translation>
+    </message>
+    <message>
+        <source>Open an a&amp;utosave…</source>
+        <translation>Open an autosa&amp;ve…</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Save</translation>
+    </message>
+    <message>
+        <source>Save &amp;as…</source>
+        <translation>Save &amp;as…</translation>
+    </message>
+    <message>
+        <source>Save a&amp;ll</source>
+        <translation>Save a&amp;ll</translation>
+    </message>
+    <message>
+        <source>&amp;Export picture…</source>
+        <translation>&amp;Export picture…</translation>
+    </message>
+    <message>
+        <source>&amp;Print…</source>
+        <translation>&amp;Print…</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Close</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Quit</translation>
+    </message>
+    <message>
+        <source>%1 loaded</source>
+        <translation>%1 loaded</translation>
+    </message>
+    <message>
+        <source>There is an autosave of %1 from %2, which an earlier run did not remove. Show that instead?</source>
+        <translation>There is an autosave of %1 from %2, which an earlier run did not remove. Show that instead?</translation>
+    </message>
+    <message>
+        <source>Autosave</source>
+        <translation>Autosave</translation>
+    </message>
+    <message>
+        <source>cannot open %1: %2</source>
+        <translation>cannot open %1: %2</translation>
+    </message>
+    <message>
+        <source>New from template</source>
+        <translation>New from template</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Open</translation>
+    </message>
+    <message>
+        <source>Loading %1…</source>
+        <translation>Loading %1…</translation>
+    </message>
+    <message>
+        <source>Save as</source>
+        <translation>Save as</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Save</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written.</source>
+        <translation>%1 cannot be written.</translation>
+    </message>
+    <message>
+        <source>%1 saved</source>
+        <translation>%1 saved</translation>
+    </message>
+    <message>
+        <source>%1 written</source>
+        <translation>%1 written</translation>
+    </message>
+    <message>
+        <source>Export picture</source>
+        <translation>Export picture</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2.</source>
+        <translation>%1 cannot be written: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>Finder</name>
+    <message>
+        <source>Match %1 of %2</source>
+        <translation>Match %1 of %2</translation>
+    </message>
+    <message>
+        <source>Only titles can be replaced.</source>
+        <translation>Only titles can be replaced.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n title(s) replaced</source>
+        <translation>
+            <numerusform>%n title replaced</numerusform>
+            <numerusform>%n titles replaced</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>FishInfo</name>
+    <message>
+        <source>fish%1.json</source>
+        <translation>fish%1.json</translation>
+    </message>
+    <message>
+        <source>Save As</source>
+        <translation>Save as</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; has been modified.
+Do you want to save your changes?</source>
+        <translation>&apos;%1&apos; has been modified.
+Do you want to save your changes?</translation>
+    </message>
+    <message>
+        <source>FishInfo</source>
+        <translation>Unsaved changes</translation>
+    </message>
+</context>
+<context>
+    <name>FishModel</name>
+    <message>
+        <source>个无父任务/共</source>
+        <translation> without a parent task / </translation>
+    </message>
+    <message>
+        <source>个任务</source>
+        <translation> in all</translation>
+    </message>
+    <message>
+        <source>自由主题</source>
+        <translation>Free topic</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryPanel</name>
+    <message>
+        <source>History</source>
+        <translation>History</translation>
+    </message>
+    <message>
+        <source>(beginning)</source>
+        <translation>(beginning)</translation>
+    </message>
+</context>
+<context>
+    <name>InsertBack</name>
+    <message>
+        <source>Insert subject back</source>
+        <translation>Insert subject after</translation>
+    </message>
+</context>
+<context>
+    <name>InsertChild</name>
+    <message>
+        <source>Insert child subject</source>
+        <translation>Insert child subject</translation>
+    </message>
+</context>
+<context>
+    <name>InsertFree</name>
+    <message>
+        <source>Insert free subject</source>
+        <translation>Insert free subject</translation>
+    </message>
+</context>
+<context>
+    <name>InsertFront</name>
+    <message>
+        <source>Insert subject front</source>
+        <translation>Insert subject before</translation>
+    </message>
+</context>
+<context>
+    <name>InsertParent</name>
+    <message>
+        <source>Insert subject as parent</source>
+        <translation>Insert parent subject</translation>
+    </message>
+</context>
+<context>
+    <name>LinkOpener</name>
+    <message>
+        <source>Open link</source>
+        <translation>Open link</translation>
+    </message>
+    <message>
+        <source>This link is neither a web page nor a mail address. Open it?</source>
+        <translation>This link is neither a web page nor a mail address. Open it?</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>&amp;Details</source>
+        <translation>&amp;Details</translation>
+    </message>
+    <message>
+        <source>Documents</source>
+        <translation>Documents</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Details</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>History</translation>
+    </message>
+    <message>
+        <source>Shown be&amp;fore</source>
+        <translation>Show&amp;n before</translation>
+    </message>
+    <message>
+        <source>&amp;Panels</source>
+        <translation>&amp;Panels</translation>
+    </message>
+    <message>
+        <source>Nothing opens %1</source>
+        <translation>Nothing opens %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n task(s) moved to %1</source>
+        <translation>
+            <numerusform>%n task moved to %1</numerusform>
+            <numerusform>%n tasks moved to %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>the top</source>
+        <translation>the top</translation>
+    </message>
+    <message>
+        <source>%1[*] – Fishbone</source>
+        <translation>%1[*] – Fishbone</translation>
+    </message>
+    <message>
+        <source>Fishbone</source>
+        <translation>Fishbone</translation>
+    </message>
+</context>
+<context>
+    <name>Menus</name>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;File</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Edit</translation>
+    </message>
+    <message>
+        <source>&amp;Subject</source>
+        <translation>&amp;Subject</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;View</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>File</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Edit</translation>
+    </message>
+    <message>
+        <source>Subject</source>
+        <translation>Subject</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>View</translation>
+    </message>
+</context>
+<context>
+    <name>ModifyDelLink</name>
+    <message>
+        <source>Delete link</source>
+        <translation>Remove link</translation>
+    </message>
+</context>
+<context>
+    <name>ModifyLinkTo</name>
+    <message>
+        <source>Modify link to</source>
+        <translation>Change link</translation>
+    </message>
+</context>
+<context>
+    <name>ModifyName</name>
+    <message>
+        <source>Modify subject name</source>
+        <translation>Rename subject</translation>
+    </message>
+</context>
+<context>
+    <name>PenSelect</name>
+    <message>
+        <source>NoPen</source>
+        <translation>No line</translation>
+    </message>
+    <message>
+        <source>SolidLine</source>
+        <translation>Solid</translation>
+    </message>
+    <message>
+        <source>DashLine</source>
+        <translation>Dashed</translation>
+    </message>
+    <message>
+        <source>DotLine</source>
+        <translation>Dotted</translation>
+    </message>
+    <message>
+        <source>DashDotLine</source>
+        <translation>Dash, dot</translation>
+    </message>
+    <message>
+        <source>DashDotDotLine</source>
+        <translation>Dash, dot, dot</translation>
+    </message>
+    <message>
+        <source>FlatCap</source>
+        <translation>Flat</translation>
+    </message>
+    <message>
+        <source>SquareCap</source>
+        <translation>Square</translation>
+    </message>
+    <message>
+        <source>RoundCap</source>
+        <translation>Round</translation>
+    </message>
+    <message>
+        <source>MiterJoin</source>
+        <translation>Mitred</translation>
+    </message>
+    <message>
+        <source>BevelJoin</source>
+        <translation>Bevelled</translation>
+    </message>
+    <message>
+        <source>RoundJoin</source>
+        <translation>Round</translation>
+    </message>
+    <message>
+        <source>Pen</source>
+        <translation>Pen</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>Choose…</translation>
+    </message>
+    <message>
+        <source>PenWidth</source>
+        <translation>Width:</translation>
+    </message>
+    <message>
+        <source>PenStyle</source>
+        <translation>Line:</translation>
+    </message>
+    <message>
+        <source>PenCapStyle</source>
+        <translation>Ends:</translation>
+    </message>
+    <message>
+        <source>PenJoinStyle</source>
+        <translation>Corners:</translation>
+    </message>
+    <message>
+        <source>PenColor</source>
+        <translation>Colour:</translation>
+    </message>
+    <message>
+        <source>Accept</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+</context>
+<context>
+    <name>PictureExport</name>
+    <message>
+        <source>a picture of %1 × %2 is too large: %3</source>
+        <translation>a picture of %1 × %2 is too large: %3</translation>
+    </message>
+    <message>
+        <source>the drawing cannot be encoded</source>
+        <translation>the drawing cannot be encoded</translation>
+    </message>
+    <message>
+        <source>a PNG has at most %1 pixels on a side</source>
+        <translation>a PNG has at most %1 pixels on a side</translation>
+    </message>
+    <message>
+        <source>its pixels would take more than %1 MiB</source>
+        <translation>its pixels would take more than %1 MiB</translation>
+    </message>
+    <message>
+        <source>there is not enough memory</source>
+        <translation>there is not enough memory</translation>
+    </message>
+    <message>
+        <source>a PDF has at most %1 points (1/72 inch) on a side</source>
+        <translation>a PDF has at most %1 points (1/72 inch) on a side</translation>
+    </message>
+    <message>
+        <source>the scale, the size or the margin makes no picture</source>
+        <translation>the scale, the size or the margin makes no picture</translation>
+    </message>
+    <message>
+        <source>there is nothing to draw</source>
+        <translation>there is nothing to draw</translation>
+    </message>
+    <message>
+        <source>a drawing without height or width needs a margin</source>
+        <translation>a drawing without height or width needs a margin</translation>
+    </message>
+    <message>
+        <source>a side has at most %1 units</source>
+        <translation>a side has at most %1 units</translation>
+    </message>
+    <message>
+        <source>the file name must end in .png, .svg or .pdf</source>
+        <translation>the file name must end in .png, .svg or .pdf</translation>
+    </message>
+</context>
+<context>
+    <name>QObject</name>
+    <message>
+        <source>新建子任务</source>
+        <translation>New sub-task</translation>
+    </message>
+    <message>
+        <source>查看详情</source>
+        <translation>Show details</translation>
+    </message>
+    <message>
+        <source>用鱼骨图详细查看</source>
+        <translation>Show as a diagram of its own</translation>
+    </message>
+    <message>
+        <source>编辑节点</source>
+        <translation>Edit subject</translation>
+    </message>
+    <message>
+        <source>新建子节点</source>
+        <translation>New child subject</translation>
+    </message>
+    <message>
+        <source>删除节点</source>
+        <translation>Delete subject</translation>
+    </message>
+</context>
+<context>
+    <name>ReplaceFindDialog</name>
+    <message>
+        <source>Case sensitive</source>
+        <translation>Case sensitive</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Replace</translation>
+    </message>
+    <message>
+        <source>Replace All</source>
+        <translation>Replace all</translation>
+    </message>
+    <message>
+        <source>Finder</source>
+        <translation>Find and replace</translation>
+    </message>
+    <message>
+        <source>title</source>
+        <translation>Title</translation>
+    </message>
+    <message>
+        <source>uuid</source>
+        <translation>Uuid</translation>
+    </message>
+    <message>
+        <source>showid</source>
+        <translation>Number</translation>
+    </message>
+    <message>
+        <source>pid</source>
+        <translation>Parent task&apos;s uuid</translation>
+    </message>
+    <message>
+        <source>Find what:</source>
+        <translation>Find what:</translation>
+    </message>
+    <message>
+        <source>Replace with:</source>
+        <translation>Replace with:</translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation>Find</translation>
+    </message>
+    <message>
+        <source>Column</source>
+        <translation>Column</translation>
+    </message>
+    <message>
+        <source>Not found key word %1.</source>
+        <translation>“%1” was not found.</translation>
+    </message>
+</context>
+<context>
+    <name>SpearStyleDialog</name>
+    <message>
+        <source>InheritanceParent</source>
+        <translation>Inherit the parent&apos;s style</translation>
+    </message>
+    <message>
+        <source>Preview 预览测试 ABC xyz</source>
+        <translation>Preview ABC xyz 123</translation>
+    </message>
+    <message>
+        <source>Spear style</source>
+        <translation>Style</translation>
+    </message>
+    <message>
+        <source>textCount</source>
+        <translation>Characters shown:</translation>
+    </message>
+    <message>
+        <source>ssNormal</source>
+        <translation>Normal</translation>
+    </message>
+    <message>
+        <source>ssSelected</source>
+        <translation>Selected</translation>
+    </message>
+    <message>
+        <source>ssHovered</source>
+        <translation>Under the mouse</translation>
+    </message>
+    <message>
+        <source>ssLinked</source>
+        <translation>Target of a move</translation>
+    </message>
+    <message>
+        <source>SpearState</source>
+        <translation>State:</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Preview</translation>
+    </message>
+    <message>
+        <source>Accept</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Parent</source>
+        <translation>Parent</translation>
+    </message>
+    <message>
+        <source>Set TextFont</source>
+        <translation>Text font…</translation>
+    </message>
+    <message>
+        <source>Set TextColor</source>
+        <translation>Text colour…</translation>
+    </message>
+    <message>
+        <source>Set TextBkColor</source>
+        <translation>Text background…</translation>
+    </message>
+    <message>
+        <source>Set BroderPen</source>
+        <translation>Border pen…</translation>
+    </message>
+</context>
+<context>
+    <name>SubjectTree</name>
+    <message>
+        <source>Filter by title</source>
+        <translation>Filter by title</translation>
+    </message>
+    <message>
+        <source>Documents</source>
+        <translation>Documents</translation>
+    </message>
+</context>
+<context>
+    <name>TitleEditor</name>
+    <message>
+        <source>Title</source>
+        <translation>Title</translation>
+    </message>
+</context>
+<context>
+    <name>TreeItem</name>
+    <message>
+        <source>负责人:</source>
+        <translation>Responsible: </translation>
+    </message>
+    <message>
+        <source>创建时间:</source>
+        <translation>Created on: </translation>
+    </message>
+    <message>
+        <source>截止时间:</source>
+        <translation>Planned end: </translation>
+    </message>
+    <message>
+        <source>子主题</source>
+        <translation>Subtopic</translation>
+    </message>
+</context>
+<context>
+    <name>URLDialog</name>
+    <message>
+        <source>Input Url</source>
+        <translation>Enter a URL</translation>
+    </message>
+    <message>
+        <source>Url:</source>
+        <translation>URL:</translation>
+    </message>
+    <message>
+        <source>Clean</source>
+        <translation>Clear history</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Link to url</source>
+        <translation>Link to a URL</translation>
+    </message>
+    <message>
+        <source>Save url</source>
+        <translation>Save to a URL</translation>
+    </message>
+    <message>
+        <source>Open url</source>
+        <translation>Open a URL</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Error</translation>
+    </message>
+    <message>
+        <source>Failed to open %1
+%2</source>
+        <translation>Cannot open %1
+%2</translation>
+    </message>
+</context>
+<context>
+    <name>ViewCommands</name>
+    <message>
+        <source>Zoom &amp;in</source>
+        <translation>Zoom &amp;in</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;out</source>
+        <translation>Zoom &amp;out</translation>
+    </message>
+    <message>
+        <source>&amp;100 %</source>
+        <translation>&amp;100 %</translation>
+    </message>
+    <message>
+        <source>&amp;Fit all</source>
+        <translation>&amp;Fit all</translation>
+    </message>
+    <message>
+        <source>Fit &amp;selection</source>
+        <translation>Fit &amp;selection</translation>
+    </message>
+    <message>
+        <source>Rotate &amp;right</source>
+        <translation>Rotate &amp;right</translation>
+    </message>
+    <message>
+        <source>Rotate &amp;left</source>
+        <translation>Rotate &amp;left</translation>
+    </message>
+    <message>
+        <source>&amp;Upright</source>
+        <translation>&amp;Upright</translation>
+    </message>
+    <message>
+        <source>&amp;Expand</source>
+        <translation>&amp;Expand</translation>
+    </message>
+    <message>
+        <source>&amp;Contract</source>
+        <translation>&amp;Contract</translation>
+    </message>
+    <message>
+        <source>Expand &amp;all</source>
+        <translation>Expand &amp;all</translation>
+    </message>
+    <message>
+        <source>Con&amp;tract all</source>
+        <translation>Con&amp;tract all</translation>
+    </message>
+    <message>
+        <source>Show as a &amp;diagram of its own</source>
+        <translation>Show as a &amp;diagram of its own</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>&amp;Back</translation>
+    </message>
+    <message>
+        <source>Show the &amp;whole diagram</source>
+        <translation>Show the &amp;whole diagram</translation>
+    </message>
+    <message>
+        <source>Style of &amp;all subjects…</source>
+        <translation>St&amp;yle of all subjects…</translation>
+    </message>
+    <message>
+        <source>&amp;Diagram mode</source>
+        <translation>Dia&amp;gram mode</translation>
+    </message>
+    <message>
+        <source>&amp;Task mode</source>
+        <translation>Task &amp;mode</translation>
+    </message>
+    <message>
+        <source>(nothing yet)</source>
+        <translation>(nothing yet)</translation>
+    </message>
+</context>
+<context>
+    <name>ZoomControls</name>
+    <message>
+        <source>Zoom</source>
+        <translation>Zoom</translation>
+    </message>
+    <message>
+        <source>Show at 100 %</source>
+        <translation>Show at 100 %</translation>
+    </message>
+    <message>
+        <source>Rotation</source>
+        <translation>Rotation</translation>
+    </message>
+</context>
+</TS>

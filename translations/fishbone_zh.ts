@@ -1,0 +1,1204 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh">
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>Show this help and quit.</source>
+        <translation>显示此帮助并退出。</translation>
+    </message>
+    <message>
+        <source>Show the version and quit.</source>
+        <translation>显示版本并退出。</translation>
+    </message>
+    <message>
+        <source>Show texts in &lt;language&gt;, zh or en, instead of the system&apos;s.</source>
+        <translation>以 &lt;language&gt;（zh 或 en）显示文字，而不用系统语言。</translation>
+    </message>
+    <message>
+        <source>Draw the diagram into the picture &lt;file&gt; and quit. The ending .png, .svg or .pdf tells the format. Needs no display.</source>
+        <translation>将鱼骨图绘制到图片 &lt;file&gt; 中并退出。格式由扩展名 .png、.svg 或 .pdf 决定。无需图形显示。</translation>
+    </message>
+    <message>
+        <source>How far to expand the bones of the picture: all (the default), none, or a number of levels below the main bones.</source>
+        <translation>图片中鱼骨展开到何处：all（全部，默认）、none（不展开），或大骨以下的层数。</translation>
+    </message>
+    <message>
+        <source>Make the picture &lt;width&gt;x&lt;height&gt; in size and fit the drawing in.</source>
+        <translation>图片尺寸为 &lt;width&gt;x&lt;height&gt;，图形缩放到适合其中。</translation>
+    </message>
+    <message>
+        <source>Draw &lt;factor&gt; times as large as on the screen at 100 %.</source>
+        <translation>按屏幕上 100 % 显示时大小的 &lt;factor&gt; 倍绘制。</translation>
+    </message>
+    <message>
+        <source>Fill the picture with &lt;colour&gt;, a name or #rrggbb, or leave it transparent. White is the default.</source>
+        <translation>用 &lt;colour&gt;（颜色名称或 #rrggbb）填充图片，或以 transparent 保持透明。默认为白色。</translation>
+    </message>
+    <message>
+        <source>Edits fishbone diagrams of tasks.</source>
+        <translation>编辑任务鱼骨图。</translation>
+    </message>
+    <message>
+        <source>Diagrams to open: files, or http and https URLs. Without one, a new diagram.</source>
+        <translation>要打开的鱼骨图：文件，或 http、https 网址。不指定时新建一个。</translation>
+    </message>
+    <message>
+        <source>--%1 takes %2, not &quot;%3&quot;</source>
+        <translation>--%1 的值应为 %2，而不是“%3”</translation>
+    </message>
+    <message>
+        <source>zh or en</source>
+        <translation>zh 或 en</translation>
+    </message>
+    <message>
+        <source>--%1 needs --export</source>
+        <translation>--%1 只能与 --export 一起使用</translation>
+    </message>
+    <message>
+        <source>the format of &quot;%1&quot; is unknown: the name must end in .png, .svg or .pdf</source>
+        <translation>无法识别“%1”的格式：文件名必须以 .png、.svg 或 .pdf 结尾</translation>
+    </message>
+    <message>
+        <source>--export takes one document, not %1</source>
+        <translation>--export 需要一个文档，而不是 %1 个</translation>
+    </message>
+    <message>
+        <source>--size and --scale exclude each other</source>
+        <translation>--size 与 --scale 不能同时使用</translation>
+    </message>
+    <message>
+        <source>all, none or a number of levels</source>
+        <translation>all、none 或层数</translation>
+    </message>
+    <message>
+        <source>a size such as 1600x900</source>
+        <translation>1600x900 这样的尺寸</translation>
+    </message>
+    <message>
+        <source>a number above 0</source>
+        <translation>大于 0 的数</translation>
+    </message>
+    <message>
+        <source>the name of a colour, #rrggbb or transparent</source>
+        <translation>颜色名称、#rrggbb 或 transparent</translation>
+    </message>
+    <message>
+        <source>cannot read %1: %2</source>
+        <translation>无法读取 %1：%2</translation>
+    </message>
+    <message>
+        <source>cannot write %1: %2</source>
+        <translation>无法写入 %1：%2</translation>
+    </message>
+    <message>
+        <source>there is no display to open a window on; --export needs none</source>
+        <translation>没有可打开窗口的图形显示；--export 不需要图形显示</translation>
+    </message>
+</context>
+<context>
+    <name>DetailsPanel</name>
+    <message>
+        <source>&amp;Apply</source>
+        <translation>应用(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Re&amp;vert</source>
+        <translation>还原(&amp;R)</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>未知</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>已取消</translation>
+    </message>
+    <message>
+        <source>finished</source>
+        <translation>已完成</translation>
+    </message>
+    <message>
+        <source>finished late</source>
+        <translation>逾期完成</translation>
+    </message>
+    <message>
+        <source>postponed</source>
+        <translation>已推迟</translation>
+    </message>
+    <message>
+        <source>under way</source>
+        <translation>进行中</translation>
+    </message>
+    <message>
+        <source>waiting</source>
+        <translation>等待中</translation>
+    </message>
+    <message>
+        <source>waiting for approval</source>
+        <translation>等待审批</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>separated by commas</source>
+        <translation>以半角逗号分隔</translation>
+    </message>
+    <message>
+        <source>Has a planned end</source>
+        <translation>设有截止时间</translation>
+    </message>
+    <message>
+        <source>Title:</source>
+        <translation>标题：</translation>
+    </message>
+    <message>
+        <source>Status:</source>
+        <translation>状态：</translation>
+    </message>
+    <message>
+        <source>Progress:</source>
+        <translation>进度：</translation>
+    </message>
+    <message>
+        <source>Priority:</source>
+        <translation>优先级：</translation>
+    </message>
+    <message>
+        <source>Responsible:</source>
+        <translation>负责人：</translation>
+    </message>
+    <message>
+        <source>Their id:</source>
+        <translation>负责人 ID：</translation>
+    </message>
+    <message>
+        <source>Followers:</source>
+        <translation>关注人：</translation>
+    </message>
+    <message>
+        <source>Planned end:</source>
+        <translation>截止时间：</translation>
+    </message>
+    <message>
+        <source>Details:</source>
+        <translation>详情：</translation>
+    </message>
+    <message>
+        <source>Number: %1</source>
+        <translation>编号：%1</translation>
+    </message>
+    <message>
+        <source>Created by: %1</source>
+        <translation>创建人：%1</translation>
+    </message>
+    <message>
+        <source>Created on: %1</source>
+        <translation>创建时间：%1</translation>
+    </message>
+    <message>
+        <source>Link: %1</source>
+        <translation>链接：%1</translation>
+    </message>
+</context>
+<context>
+    <name>DocumentLoader</name>
+    <message>
+        <source>it is empty</source>
+        <translation>内容为空</translation>
+    </message>
+    <message>
+        <source>it is not a JSON document</source>
+        <translation>不是 JSON 文档</translation>
+    </message>
+    <message>
+        <source>it is not a JSON document (line %1: %2)</source>
+        <translation>不是 JSON 文档（第 %1 行：%2）</translation>
+    </message>
+    <message>
+        <source>it is a folder</source>
+        <translation>这是一个文件夹</translation>
+    </message>
+    <message>
+        <source>there is no such file</source>
+        <translation>文件不存在</translation>
+    </message>
+    <message>
+        <source>the program is closing</source>
+        <translation>程序正在关闭</translation>
+    </message>
+    <message>
+        <source>the reply is not a JSON document</source>
+        <translation>返回的内容不是 JSON 文档</translation>
+    </message>
+    <message>
+        <source>the reply took too long or was too large</source>
+        <translation>等待返回的时间过长，或返回的内容过大</translation>
+    </message>
+    <message>
+        <source>it holds no diagram</source>
+        <translation>其中没有鱼骨图</translation>
+    </message>
+</context>
+<context>
+    <name>EditCommands</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>撤销(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>重做(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Find and replace…</source>
+        <translation>查找和替换(&amp;F)…</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>剪切(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>复制(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>粘贴(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>删除(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Select &amp;all</source>
+        <translation>全选(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Child subject</source>
+        <translation>插入子主题(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Subject &amp;before</source>
+        <translation>在前面插入主题(&amp;B)</translation>
+    </message>
+    <message>
+        <source>Subject &amp;after</source>
+        <translation>在后面插入主题(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Parent subject</source>
+        <translation>插入父主题(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Free subject (a new diagram)</source>
+        <translation>插入自由主题（新图）(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Sub-task…</source>
+        <translation>新建子任务(&amp;S)…</translation>
+    </message>
+    <message>
+        <source>&amp;Rename</source>
+        <translation>重命名(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Link to…</source>
+        <translation>链接到(&amp;L)…</translation>
+    </message>
+    <message>
+        <source>&amp;Open link</source>
+        <translation>打开链接(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Remove l&amp;ink</source>
+        <translation>移除链接(&amp;I)</translation>
+    </message>
+    <message>
+        <source>&amp;Style…</source>
+        <translation>样式(&amp;Y)…</translation>
+    </message>
+    <message>
+        <source>Remove s&amp;tyle</source>
+        <translation>移除样式(&amp;T)</translation>
+    </message>
+    <message>
+        <source>New sub-task</source>
+        <translation>新建子任务</translation>
+    </message>
+    <message>
+        <source>Title:</source>
+        <translation>标题：</translation>
+    </message>
+</context>
+<context>
+    <name>EditDelete</name>
+    <message>
+        <source>Delete selecteds</source>
+        <translation>删除所选主题</translation>
+    </message>
+    <message>
+        <source>Delete current selected</source>
+        <translation>删除当前主题</translation>
+    </message>
+</context>
+<context>
+    <name>EditModify</name>
+    <message>
+        <source>Modify Item</source>
+        <translation>修改主题</translation>
+    </message>
+</context>
+<context>
+    <name>EditMove</name>
+    <message>
+        <source>Move subjects</source>
+        <translation>移动主题</translation>
+    </message>
+</context>
+<context>
+    <name>EditPaste</name>
+    <message>
+        <source>Paste from clipborad</source>
+        <translation>从剪贴板粘贴</translation>
+    </message>
+</context>
+<context>
+    <name>ExportDialog</name>
+    <message>
+        <source>Export picture</source>
+        <translation>导出图片</translation>
+    </message>
+    <message>
+        <source>White</source>
+        <translation>白色</translation>
+    </message>
+    <message>
+        <source>Transparent</source>
+        <translation>透明</translation>
+    </message>
+    <message>
+        <source>&amp;Browse…</source>
+        <translation>浏览(&amp;R)…</translation>
+    </message>
+    <message>
+        <source>&amp;File:</source>
+        <translation>文件(&amp;F)：</translation>
+    </message>
+    <message>
+        <source>&amp;Scale:</source>
+        <translation>比例(&amp;S)：</translation>
+    </message>
+    <message>
+        <source>&amp;Background:</source>
+        <translation>背景(&amp;B)：</translation>
+    </message>
+    <message>
+        <source>Pictures (*.png *.svg *.pdf)</source>
+        <translation>图片 (*.png *.svg *.pdf)</translation>
+    </message>
+    <message>
+        <source>The file name must end in .png, .svg or .pdf.</source>
+        <translation>文件名必须以 .png、.svg 或 .pdf 结尾。</translation>
+    </message>
+    <message>
+        <source>%1 exists already. Replace it?</source>
+        <translation>%1 已存在。要替换它吗？</translation>
+    </message>
+</context>
+<context>
+    <name>FileCommands</name>
+    <message>
+        <source>Fishbone diagrams (*.json);;All files (*)</source>
+        <translation>鱼骨图 (*.json);;所有文件 (*)</translation>
+    </message>
+    <message>
+        <source>&amp;New</source>
+        <translation>新建(&amp;N)</translation>
+    </message>
+    <message>
+        <source>New from the &amp;example</source>
+        <translation>从示例新建(&amp;M)</translation>
+    </message>
+    <message>
+        <source>New from &amp;template…</source>
+        <translation>从模板新建(&amp;T)…</translation>
+    </message>
+    <message>
+        <source>&amp;Open…</source>
+        <translation>打开(&amp;O)…</translation>
+    </message>
+    <message>
+        <source>Open &amp;URL…</source>
+        <translation>打开网址(&amp;U)…</translation>
+    </message>
+    <message>
+        <source>Open an a&amp;utosave…</source>
+        <translation>打开自动保存的文件(&amp;V)…</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>保存(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Save &amp;as…</source>
+        <translation>另存为(&amp;A)…</translation>
+    </message>
+    <message>
+        <source>Save a&amp;ll</source>
+        <translation>全部保存(&amp;L)</translation>
+    </message>
+    <message>
+        <source>&amp;Export picture…</source>
+        <translation>导出图片(&amp;E)…</translation>
+    </message>
+    <message>
+        <source>&amp;Print…</source>
+        <translation>打印(&amp;P)…</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>关闭(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>退出(&amp;Q)</translation>
+    </message>
+    <message>
+        <source>%1 loaded</source>
+        <translation>已加载 %1</translation>
+    </message>
+    <message>
+        <source>There is an autosave of %1 from %2, which an earlier run did not remove. Show that instead?</source>
+        <translation>%1 有一份 %2 的自动保存文件，是先前运行时留下的。要改为显示它吗？</translation>
+    </message>
+    <message>
+        <source>Autosave</source>
+        <translation>自动保存</translation>
+    </message>
+    <message>
+        <source>cannot open %1: %2</source>
+        <translation>无法打开 %1：%2</translation>
+    </message>
+    <message>
+        <source>New from template</source>
+        <translation>从模板新建</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>打开</translation>
+    </message>
+    <message>
+        <source>Loading %1…</source>
+        <translation>正在加载 %1…</translation>
+    </message>
+    <message>
+        <source>Save as</source>
+        <translation>另存为</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written.</source>
+        <translation>无法写入 %1。</translation>
+    </message>
+    <message>
+        <source>%1 saved</source>
+        <translation>已保存 %1</translation>
+    </message>
+    <message>
+        <source>%1 written</source>
+        <translation>已写入 %1</translation>
+    </message>
+    <message>
+        <source>Export picture</source>
+        <translation>导出图片</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2.</source>
+        <translation>无法写入 %1：%2。</translation>
+    </message>
+</context>
+<context>
+    <name>Finder</name>
+    <message>
+        <source>Match %1 of %2</source>
+        <translation>第 %1 个匹配，共 %2 个</translation>
+    </message>
+    <message>
+        <source>Only titles can be replaced.</source>
+        <translation>只能替换标题。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n title(s) replaced</source>
+        <translation>
+            <numerusform>已替换 %n 个标题</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>FishInfo</name>
+    <message>
+        <source>fish%1.json</source>
+        <translation>fish%1.json</translation>
+    </message>
+    <message>
+        <source>Save As</source>
+        <translation>另存为</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; has been modified.
+Do you want to save your changes?</source>
+        <translation>“%1”已修改。
+要保存所做的更改吗？</translation>
+    </message>
+    <message>
+        <source>FishInfo</source>
+        <translation>未保存的更改</translation>
+    </message>
+</context>
+<context>
+    <name>FishModel</name>
+    <message>
+        <source>个无父任务/共</source>
+        <translation>个无父任务/共</translation>
+    </message>
+    <message>
+        <source>个任务</source>
+        <translation>个任务</translation>
+    </message>
+    <message>
+        <source>自由主题</source>
+        <translation>自由主题</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryPanel</name>
+    <message>
+        <source>History</source>
+        <translation>历史记录</translation>
+    </message>
+    <message>
+        <source>(beginning)</source>
+        <translation>（初始状态）</translation>
+    </message>
+</context>
+<context>
+    <name>InsertBack</name>
+    <message>
+        <source>Insert subject back</source>
+        <translation>在后面插入主题</translation>
+    </message>
+</context>
+<context>
+    <name>InsertChild</name>
+    <message>
+        <source>Insert child subject</source>
+        <translation>插入子主题</translation>
+    </message>
+</context>
+<context>
+    <name>InsertFree</name>
+    <message>
+        <source>Insert free subject</source>
+        <translation>插入自由主题</translation>
+    </message>
+</context>
+<context>
+    <name>InsertFront</name>
+    <message>
+        <source>Insert subject front</source>
+        <translation>在前面插入主题</translation>
+    </message>
+</context>
+<context>
+    <name>InsertParent</name>
+    <message>
+        <source>Insert subject as parent</source>
+        <translation>插入父主题</translation>
+    </message>
+</context>
+<context>
+    <name>LinkOpener</name>
+    <message>
+        <source>Open link</source>
+        <translation>打开链接</translation>
+    </message>
+    <message>
+        <source>This link is neither a web page nor a mail address. Open it?</source>
+        <translation>此链接既不是网页，也不是邮件地址。要打开它吗？</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>&amp;Details</source>
+        <translation>详情(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Documents</source>
+        <translation>文档</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>详情</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>历史记录</translation>
+    </message>
+    <message>
+        <source>Shown be&amp;fore</source>
+        <translation>显示过的图(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Panels</source>
+        <translation>面板(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Nothing opens %1</source>
+        <translation>没有程序能打开 %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n task(s) moved to %1</source>
+        <translation>
+            <numerusform>已将 %n 个任务移至 %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>the top</source>
+        <translation>顶层</translation>
+    </message>
+    <message>
+        <source>%1[*] – Fishbone</source>
+        <translation>%1[*] – Fishbone</translation>
+    </message>
+    <message>
+        <source>Fishbone</source>
+        <translation>Fishbone</translation>
+    </message>
+</context>
+<context>
+    <name>Menus</name>
+    <message>
+        <source>&amp;File</source>
+        <translation>文件(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>编辑(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;Subject</source>
+        <translation>主题(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>视图(&amp;V)</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>文件</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>编辑</translation>
+    </message>
+    <message>
+        <source>Subject</source>
+        <translation>主题</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>视图</translation>
+    </message>
+</context>
+<context>
+    <name>ModifyDelLink</name>
+    <message>
+        <source>Delete link</source>
+        <translation>删除链接</translation>
+    </message>
+</context>
+<context>
+    <name>ModifyLinkTo</name>
+    <message>
+        <source>Modify link to</source>
+        <translation>修改链接</translation>
+    </message>
+</context>
+<context>
+    <name>ModifyName</name>
+    <message>
+        <source>Modify subject name</source>
+        <translation>修改主题名称</translation>
+    </message>
+</context>
+<context>
+    <name>PenSelect</name>
+    <message>
+        <source>NoPen</source>
+        <translation>无线条</translation>
+    </message>
+    <message>
+        <source>SolidLine</source>
+        <translation>实线</translation>
+    </message>
+    <message>
+        <source>DashLine</source>
+        <translation>虚线</translation>
+    </message>
+    <message>
+        <source>DotLine</source>
+        <translation>点线</translation>
+    </message>
+    <message>
+        <source>DashDotLine</source>
+        <translation>点划线</translation>
+    </message>
+    <message>
+        <source>DashDotDotLine</source>
+        <translation>双点划线</translation>
+    </message>
+    <message>
+        <source>FlatCap</source>
+        <translation>平头</translation>
+    </message>
+    <message>
+        <source>SquareCap</source>
+        <translation>方头</translation>
+    </message>
+    <message>
+        <source>RoundCap</source>
+        <translation>圆头</translation>
+    </message>
+    <message>
+        <source>MiterJoin</source>
+        <translation>尖角</translation>
+    </message>
+    <message>
+        <source>BevelJoin</source>
+        <translation>斜角</translation>
+    </message>
+    <message>
+        <source>RoundJoin</source>
+        <translation>圆角</translation>
+    </message>
+    <message>
+        <source>Pen</source>
+        <translation>画笔</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>选择…</translation>
+    </message>
+    <message>
+        <source>PenWidth</source>
+        <translation>线宽：</translation>
+    </message>
+    <message>
+        <source>PenStyle</source>
+        <translation>线型：</translation>
+    </message>
+    <message>
+        <source>PenCapStyle</source>
+        <translation>端点：</translation>
+    </message>
+    <message>
+        <source>PenJoinStyle</source>
+        <translation>拐角：</translation>
+    </message>
+    <message>
+        <source>PenColor</source>
+        <translation>颜色：</translation>
+    </message>
+    <message>
+        <source>Accept</source>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+</context>
+<context>
+    <name>PictureExport</name>
+    <message>
+        <source>a picture of %1 × %2 is too large: %3</source>
+        <translation>%1 × %2 的图片过大：%3</translation>
+    </message>
+    <message>
+        <source>the drawing cannot be encoded</source>
+        <translation>无法对图形进行编码</translation>
+    </message>
+    <message>
+        <source>a PNG has at most %1 pixels on a side</source>
+        <translation>PNG 图片每边最多 %1 像素</translation>
+    </message>
+    <message>
+        <source>its pixels would take more than %1 MiB</source>
+        <translation>其像素数据将超过 %1 MiB</translation>
+    </message>
+    <message>
+        <source>there is not enough memory</source>
+        <translation>内存不足</translation>
+    </message>
+    <message>
+        <source>a PDF has at most %1 points (1/72 inch) on a side</source>
+        <translation>PDF 每边最多 %1 点（1/72 英寸）</translation>
+    </message>
+    <message>
+        <source>the scale, the size or the margin makes no picture</source>
+        <translation>以此比例、尺寸或边距无法生成图片</translation>
+    </message>
+    <message>
+        <source>there is nothing to draw</source>
+        <translation>没有可绘制的内容</translation>
+    </message>
+    <message>
+        <source>a drawing without height or width needs a margin</source>
+        <translation>高度或宽度为零的图形需要边距</translation>
+    </message>
+    <message>
+        <source>a side has at most %1 units</source>
+        <translation>每边最多 %1 个单位</translation>
+    </message>
+    <message>
+        <source>the file name must end in .png, .svg or .pdf</source>
+        <translation>文件名必须以 .png、.svg 或 .pdf 结尾</translation>
+    </message>
+</context>
+<context>
+    <name>QObject</name>
+    <message>
+        <source>新建子任务</source>
+        <translation>新建子任务</translation>
+    </message>
+    <message>
+        <source>查看详情</source>
+        <translation>查看详情</translation>
+    </message>
+    <message>
+        <source>用鱼骨图详细查看</source>
+        <translation>用鱼骨图详细查看</translation>
+    </message>
+    <message>
+        <source>编辑节点</source>
+        <translation>编辑节点</translation>
+    </message>
+    <message>
+        <source>新建子节点</source>
+        <translation>新建子节点</translation>
+    </message>
+    <message>
+        <source>删除节点</source>
+        <translation>删除节点</translation>
+    </message>
+</context>
+<context>
+    <name>ReplaceFindDialog</name>
+    <message>
+        <source>Case sensitive</source>
+        <translation>区分大小写</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>替换</translation>
+    </message>
+    <message>
+        <source>Replace All</source>
+        <translation>全部替换</translation>
+    </message>
+    <message>
+        <source>Finder</source>
+        <translation>查找和替换</translation>
+    </message>
+    <message>
+        <source>title</source>
+        <translation>标题</translation>
+    </message>
+    <message>
+        <source>uuid</source>
+        <translation>唯一标识 (uuid)</translation>
+    </message>
+    <message>
+        <source>showid</source>
+        <translation>编号</translation>
+    </message>
+    <message>
+        <source>pid</source>
+        <translation>父任务标识 (pid)</translation>
+    </message>
+    <message>
+        <source>Find what:</source>
+        <translation>查找内容：</translation>
+    </message>
+    <message>
+        <source>Replace with:</source>
+        <translation>替换为：</translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation>查找</translation>
+    </message>
+    <message>
+        <source>Column</source>
+        <translation>查找范围</translation>
+    </message>
+    <message>
+        <source>Not found key word %1.</source>
+        <translation>未找到关键字“%1”。</translation>
+    </message>
+</context>
+<context>
+    <name>SpearStyleDialog</name>
+    <message>
+        <source>InheritanceParent</source>
+        <translation>继承父主题的样式</translation>
+    </message>
+    <message>
+        <source>Preview 预览测试 ABC xyz</source>
+        <translation>预览测试 ABC xyz</translation>
+    </message>
+    <message>
+        <source>Spear style</source>
+        <translation>样式</translation>
+    </message>
+    <message>
+        <source>textCount</source>
+        <translation>显示字数：</translation>
+    </message>
+    <message>
+        <source>ssNormal</source>
+        <translation>普通</translation>
+    </message>
+    <message>
+        <source>ssSelected</source>
+        <translation>选中</translation>
+    </message>
+    <message>
+        <source>ssHovered</source>
+        <translation>鼠标悬停</translation>
+    </message>
+    <message>
+        <source>ssLinked</source>
+        <translation>移动目标</translation>
+    </message>
+    <message>
+        <source>SpearState</source>
+        <translation>状态：</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>预览</translation>
+    </message>
+    <message>
+        <source>Accept</source>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Parent</source>
+        <translation>父主题</translation>
+    </message>
+    <message>
+        <source>Set TextFont</source>
+        <translation>文字字体…</translation>
+    </message>
+    <message>
+        <source>Set TextColor</source>
+        <translation>文字颜色…</translation>
+    </message>
+    <message>
+        <source>Set TextBkColor</source>
+        <translation>文字背景…</translation>
+    </message>
+    <message>
+        <source>Set BroderPen</source>
+        <translation>边框画笔…</translation>
+    </message>
+</context>
+<context>
+    <name>SubjectTree</name>
+    <message>
+        <source>Filter by title</source>
+        <translation>按标题筛选</translation>
+    </message>
+    <message>
+        <source>Documents</source>
+        <translation>文档</translation>
+    </message>
+</context>
+<context>
+    <name>TitleEditor</name>
+    <message>
+        <source>Title</source>
+        <translation>标题</translation>
+    </message>
+</context>
+<context>
+    <name>TreeItem</name>
+    <message>
+        <source>负责人:</source>
+        <translation>负责人:</translation>
+    </message>
+    <message>
+        <source>创建时间:</source>
+        <translation>创建时间:</translation>
+    </message>
+    <message>
+        <source>截止时间:</source>
+        <translation>截止时间:</translation>
+    </message>
+    <message>
+        <source>子主题</source>
+        <translation>子主题</translation>
+    </message>
+</context>
+<context>
+    <name>URLDialog</name>
+    <message>
+        <source>Input Url</source>
+        <translation>输入网址</translation>
+    </message>
+    <message>
+        <source>Url:</source>
+        <translation>网址：</translation>
+    </message>
+    <message>
+        <source>Clean</source>
+        <translation>清空历史记录</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Link to url</source>
+        <translation>链接到网址</translation>
+    </message>
+    <message>
+        <source>Save url</source>
+        <translation>保存到网址</translation>
+    </message>
+    <message>
+        <source>Open url</source>
+        <translation>打开网址</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>错误</translation>
+    </message>
+    <message>
+        <source>Failed to open %1
+%2</source>
+        <translation>无法打开 %1
+%2</translation>
+    </message>
+</context>
+<context>
+    <name>ViewCommands</name>
+    <message>
+        <source>Zoom &amp;in</source>
+        <translation>放大(&amp;I)</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;out</source>
+        <translation>缩小(&amp;O)</translation>
+    </message>
+    <message>
+        <source>&amp;100 %</source>
+        <translation>实际大小（100 %）(&amp;1)</translation>
+    </message>
+    <message>
+        <source>&amp;Fit all</source>
+        <translation>显示全部(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Fit &amp;selection</source>
+        <translation>显示所选(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Rotate &amp;right</source>
+        <translation>向右旋转(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Rotate &amp;left</source>
+        <translation>向左旋转(&amp;L)</translation>
+    </message>
+    <message>
+        <source>&amp;Upright</source>
+        <translation>取消旋转(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Expand</source>
+        <translation>展开(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;Contract</source>
+        <translation>折叠(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Expand &amp;all</source>
+        <translation>全部展开(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Con&amp;tract all</source>
+        <translation>全部折叠(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Show as a &amp;diagram of its own</source>
+        <translation>单独显示为鱼骨图(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>返回(&amp;B)</translation>
+    </message>
+    <message>
+        <source>Show the &amp;whole diagram</source>
+        <translation>显示整个鱼骨图(&amp;W)</translation>
+    </message>
+    <message>
+        <source>Style of &amp;all subjects…</source>
+        <translation>全部主题的样式(&amp;Y)…</translation>
+    </message>
+    <message>
+        <source>&amp;Diagram mode</source>
+        <translation>鱼骨图模式(&amp;G)</translation>
+    </message>
+    <message>
+        <source>&amp;Task mode</source>
+        <translation>任务模式(&amp;M)</translation>
+    </message>
+    <message>
+        <source>(nothing yet)</source>
+        <translation>（暂无）</translation>
+    </message>
+</context>
+<context>
+    <name>ZoomControls</name>
+    <message>
+        <source>Zoom</source>
+        <translation>缩放</translation>
+    </message>
+    <message>
+        <source>Show at 100 %</source>
+        <translation>以 100 % 显示</translation>
+    </message>
+    <message>
+        <source>Rotation</source>
+        <translation>旋转</translation>
+    </message>
+</context>
+</TS>
