@@ -6,6 +6,7 @@
 #include <app/themedicon.h>
 
 #include <QAction>
+#include <QRegularExpression>
 #include <QWidget>
 
 ActionSet::ActionSet(QObject *parent)
@@ -23,10 +24,13 @@ QAction *ActionSet::add(const QString &name, const QString &text,
     action->setShortcuts(shortcuts);
     if (scope == Scope::Selection)
         action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    // In Chinese the mnemonic is a letter of its own, in brackets behind the text.
+    static const QRegularExpression mnemonicInBrackets(QStringLiteral("\\(&[A-Z0-9]\\)"));
     QString tip = text;
-    tip.remove(QLatin1Char('&')).remove(QStringLiteral("…"));
+    tip.remove(mnemonicInBrackets).remove(QLatin1Char('&')).remove(QStringLiteral("…"));
     if (!shortcuts.isEmpty() && !shortcuts.constFirst().isEmpty())
-        tip += QStringLiteral(" (%1)").arg(shortcuts.constFirst().toString(QKeySequence::NativeText));
+        tip +=
+            QStringLiteral(" (%1)").arg(shortcuts.constFirst().toString(QKeySequence::NativeText));
     action->setToolTip(tip);
     connect(action, &QAction::triggered, this, [run = std::move(run)] { run(); });
     m_actions.insert(name, action);

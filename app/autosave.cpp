@@ -20,8 +20,8 @@ namespace Autosave {
 
 QString folder()
 {
-    return QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation)
-           + QStringLiteral("/autosave");
+    return QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation) +
+           QStringLiteral("/autosave");
 }
 
 QString fileFor(const QString &path)
@@ -47,10 +47,10 @@ bool differs(const QString &path, const FishInfo *document)
 void redirect(FishInfo *document)
 {
     QDir().mkpath(folder());
-    const QString name =
-        document->isUntitled()
-            ? QStringLiteral("%1#%2").arg(QCoreApplication::applicationPid()).arg(document->fileName())
-            : document->fileName();
+    const QString name = document->isUntitled() ? QStringLiteral("%1#%2")
+                                                      .arg(QCoreApplication::applicationPid())
+                                                      .arg(document->fileName())
+                                                : document->fileName();
     document->setAutoSaveFile(fileFor(name));
 }
 

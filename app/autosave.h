@@ -8,9 +8,9 @@
 class FishInfo;
 
 /**
- * Where the editor's autosave goes: into the user's data folder, never over a document's own file, so
- * that changes can still be thrown away. What is found there for a file that is opened was left by a
- * run that did not end well.
+ * Where the editor's autosave goes: into the user's data folder, never over a document's own file,
+ * so that changes can still be thrown away. What is found there for a file that is opened was left
+ * by a run that did not end well.
  */
 namespace Autosave {
 

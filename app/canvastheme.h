@@ -32,7 +32,8 @@ public:
     /** Lets the user edit the style of all bones without a style of their own, and keeps it. */
     void editStyle(QWidget *parent);
 
-    /** Shows the drawing as on paper while it lives, whatever the palette: to print or export it. */
+    /** Shows the drawing as on paper while it lives, whatever the palette: to print or export it.
+     */
     class Paper
     {
         Q_DISABLE_COPY(Paper)

@@ -132,8 +132,8 @@ CommandLine CommandLine::parse(const QStringList &arguments)
         line.text = versionText();
     } else if (!wellFormed) {
         line.refuse(parser.errorText());
-    } else if (!line.language.isEmpty() && line.language != QLatin1String("zh")
-               && line.language != QLatin1String("en")) {
+    } else if (!line.language.isEmpty() && line.language != QLatin1String("zh") &&
+               line.language != QLatin1String("en")) {
         line.refuse(expected(QStringLiteral("language"), line.language, tr("zh or en")));
     } else {
         line.readExport(parser);
@@ -162,13 +162,13 @@ bool CommandLine::readExport(const QCommandLineParser &parser)
     if (parser.isSet(QStringLiteral("size")) && parser.isSet(QStringLiteral("scale")))
         return refuse(tr("--size and --scale exclude each other"));
     return readOption(parser, QStringLiteral("expand"), levelsFrom,
-                      tr("all, none or a number of levels"), levels)
-           && readOption(parser, QStringLiteral("size"), sizeFrom, tr("a size such as 1600x900"),
-                         options.size)
-           && readOption(parser, QStringLiteral("scale"), scaleFrom, tr("a number above 0"),
-                         options.scale)
-           && readOption(parser, QStringLiteral("background"), colorFrom,
-                         tr("the name of a colour, #rrggbb or transparent"), options.background);
+                      tr("all, none or a number of levels"), levels) &&
+           readOption(parser, QStringLiteral("size"), sizeFrom, tr("a size such as 1600x900"),
+                      options.size) &&
+           readOption(parser, QStringLiteral("scale"), scaleFrom, tr("a number above 0"),
+                      options.scale) &&
+           readOption(parser, QStringLiteral("background"), colorFrom,
+                      tr("the name of a colour, #rrggbb or transparent"), options.background);
 }
 
 /** Reads the option @p name into @p target with @p read; false when that finds no value. */

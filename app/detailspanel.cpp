@@ -78,9 +78,9 @@ DetailsPanel::DetailsPanel(DiagramSession *session, QWidget *parent)
 
 void DetailsPanel::buildLayout()
 {
-    const QString names[] = {tr("unknown"), tr("cancelled"), tr("finished"), tr("finished late"),
-                             tr("postponed"), tr("under way"), tr("waiting"),
-                             tr("waiting for approval")};
+    const QString names[] = {tr("unknown"),       tr("cancelled"),           tr("finished"),
+                             tr("finished late"), tr("postponed"),           tr("under way"),
+                             tr("waiting"),       tr("waiting for approval")};
     m_status->addItem(tr("none"), noStatus);
     for (int status = tsUnknown; status <= tsWaittingAgree; ++status) {
         const TaskStatusInfo info{TaskStatus(status), 0};

@@ -74,13 +74,10 @@ void EditCommands::add(const char *name, const QString &text, const QKeySequence
 void EditCommands::addHistoryActions()
 {
     const UndoStack *const stack = m_editor->undoStack();
-    QAction *const undo =
-        m_actions->add(QStringLiteral("undo"), tr("&Undo"), {QKeySequence::Undo},
-                       ActionSet::Scope::Window, [this] { m_session->undo(); });
-    QAction *const redo =
-        m_actions->add(QStringLiteral("redo"), tr("&Redo"),
-                       redoShortcuts(),
-                       ActionSet::Scope::Window, [this] { m_session->redo(); });
+    QAction *const undo = m_actions->add(QStringLiteral("undo"), tr("&Undo"), {QKeySequence::Undo},
+                                         ActionSet::Scope::Window, [this] { m_session->undo(); });
+    QAction *const redo = m_actions->add(QStringLiteral("redo"), tr("&Redo"), redoShortcuts(),
+                                         ActionSet::Scope::Window, [this] { m_session->redo(); });
     undo->setEnabled(stack->canUndo());
     redo->setEnabled(stack->canRedo());
     connect(stack, &UndoStack::undoAvailable, undo, &QAction::setEnabled);
@@ -96,28 +93,22 @@ void EditCommands::addClipboardActions()
     add("paste", tr("&Paste"), QKeySequence::Paste, [this] { m_session->paste(); });
     add("delete", tr("&Delete"), QKeySequence::Delete,
         [this] { m_session->removeSelected(false); });
-    add("selectAll", tr("Select &all"), QKeySequence::SelectAll,
-        [this] { m_editor->selectAll(); });
+    add("selectAll", tr("Select &all"), QKeySequence::SelectAll, [this] { m_editor->selectAll(); });
 }
 
 void EditCommands::addInsertActions()
 {
-    add("child", tr("&Child subject"), Qt::Key_Insert, [this] {
-        insertAndRename([this] { m_editor->insertChildSubject(); });
-    });
-    add("before", tr("Subject &before"), QKeySequence(Qt::SHIFT + Qt::Key_Return), [this] {
-        insertAndRename([this] { m_editor->insertSubject(); });
-    });
-    add("after", tr("Subject &after"), Qt::Key_Return, [this] {
-        insertAndRename([this] { m_editor->appendSubject(); });
-    });
-    add("parent", tr("&Parent subject"), QKeySequence(Qt::CTRL + Qt::Key_Return), [this] {
-        insertAndRename([this] { m_editor->insertParentSubject(); });
-    });
+    add("child", tr("&Child subject"), Qt::Key_Insert,
+        [this] { insertAndRename([this] { m_editor->insertChildSubject(); }); });
+    add("before", tr("Subject &before"), QKeySequence(Qt::SHIFT + Qt::Key_Return),
+        [this] { insertAndRename([this] { m_editor->insertSubject(); }); });
+    add("after", tr("Subject &after"), Qt::Key_Return,
+        [this] { insertAndRename([this] { m_editor->appendSubject(); }); });
+    add("parent", tr("&Parent subject"), QKeySequence(Qt::CTRL + Qt::Key_Return),
+        [this] { insertAndRename([this] { m_editor->insertParentSubject(); }); });
     add("free", tr("&Free subject (a new diagram)"),
-        QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_Return), [this] {
-            insertAndRename([this] { m_editor->insertFreeSubject(); });
-        });
+        QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_Return),
+        [this] { insertAndRename([this] { m_editor->insertFreeSubject(); }); });
     add("subTask", tr("&Sub-task…"), QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_T),
         [this] { insertSubTask(m_editor->firstSelectedSpearIndex()); });
 }
@@ -130,16 +121,13 @@ void EditCommands::addSubjectActions()
         [this] { m_editor->modifyLink(); });
     add("openLink", tr("&Open link"), {}, [this] { m_editor->modifyOpenLink(); });
     add("unlink", tr("Remove l&ink"), {}, [this] { m_editor->modifyDelLink(); });
-    add("style", tr("&Style…"), {}, [this] {
-        changeStyle([this] { m_editor->setSpearStyle(); });
-    });
-    add("removeStyle", tr("Remove s&tyle"), {}, [this] {
-        changeStyle([this] { m_editor->delSpearStyle(); });
-    });
+    add("style", tr("&Style…"), {}, [this] { changeStyle([this] { m_editor->setSpearStyle(); }); });
+    add("removeStyle", tr("Remove s&tyle"), {},
+        [this] { changeStyle([this] { m_editor->delSpearStyle(); }); });
 }
 
-/** Runs @p edit on the style of the selected subject. The editor leaves it to the host to count that
- * as a change of the document. */
+/** Runs @p edit on the style of the selected subject. The editor leaves it to the host to count
+ * that as a change of the document. */
 void EditCommands::changeStyle(const std::function<void()> &edit)
 {
     const QJsonObject before = styleOf(*m_editor);
@@ -188,11 +176,12 @@ void EditCommands::updateActions()
     const SpearItem *const spear = m_editor->firstSelectedSpear();
     const TreeItem *const subject = spear ? spear->treeItem() : nullptr;
     const bool isBone = subject && !spear->isHeader();
-    for (const char *name : {"child", "before", "after", "parent", "subTask", "rename", "link",
-                             "style"})
+    for (const char *name :
+         {"child", "before", "after", "parent", "subTask", "rename", "link", "style"})
         m_actions->action(QLatin1String(name))->setEnabled(subject);
     for (const char *name : {"cut", "copy", "delete"})
-        m_actions->action(QLatin1String(name))->setEnabled(isBone || m_editor->selectedItems().size() > 1);
+        m_actions->action(QLatin1String(name))
+            ->setEnabled(isBone || m_editor->selectedItems().size() > 1);
     m_actions->action(QStringLiteral("paste"))->setEnabled(subject && m_canPaste);
     m_actions->action(QStringLiteral("selectAll"))->setEnabled(m_editor->headSpear());
     m_actions->action(QStringLiteral("openLink"))->setEnabled(subject && !subject->url().isEmpty());

@@ -10,6 +10,7 @@
 #include <QFileInfo>
 #include <QFormLayout>
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
@@ -41,7 +42,9 @@ ExportDialog::ExportDialog(const QString &path, QWidget *parent)
     connect(buttons, &QDialogButtonBox::rejected, this, &ExportDialog::reject);
 
     auto *const layout = new QFormLayout(this);
-    layout->addRow(tr("&File:"), file);
+    auto *const fileLabel = new QLabel(tr("&File:"), this);
+    fileLabel->setBuddy(m_file); // a row finds one by itself only for a widget
+    layout->addRow(fileLabel, file);
     layout->addRow(tr("&Scale:"), m_scale);
     layout->addRow(tr("&Background:"), m_background);
     layout->addRow(buttons);
@@ -62,9 +65,9 @@ PictureOptions ExportDialog::options() const
 
 void ExportDialog::browse()
 {
-    const QString chosen = QFileDialog::getSaveFileName(
-        this, windowTitle(), fileName(),
-        tr("Pictures (*.png *.svg *.pdf)"), nullptr, QFileDialog::DontConfirmOverwrite);
+    const QString chosen = QFileDialog::getSaveFileName(this, windowTitle(), fileName(),
+                                                        tr("Pictures (*.png *.svg *.pdf)"), nullptr,
+                                                        QFileDialog::DontConfirmOverwrite);
     if (!chosen.isEmpty())
         m_file->setText(chosen);
 }
@@ -76,11 +79,11 @@ void ExportDialog::accept()
                              tr("The file name must end in .png, .svg or .pdf."));
         return;
     }
-    if (QFileInfo::exists(fileName())
-        && QMessageBox::question(this, windowTitle(),
-                                 tr("%1 exists already. Replace it?")
-                                     .arg(QFileInfo(fileName()).fileName().toHtmlEscaped()))
-               != QMessageBox::Yes)
+    if (QFileInfo::exists(fileName()) &&
+        QMessageBox::question(this, windowTitle(),
+                              tr("%1 exists already. Replace it?")
+                                  .arg(QFileInfo(fileName()).fileName().toHtmlEscaped())) !=
+            QMessageBox::Yes)
         return;
     QDialog::accept();
 }

@@ -9,7 +9,8 @@ struct CommandLine;
 
 /**
  * Carries out an export that was asked for on the command line: loads the document, which may take
- * an event loop when it comes from a URL, draws it as a picture and writes the file. Shows no window.
+ * an event loop when it comes from a URL, draws it as a picture and writes the file. Shows no
+ * window.
  *
  * Returns an exit code of CommandLine; when that is a failure, @p message says what went wrong.
  */

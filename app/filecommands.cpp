@@ -127,8 +127,8 @@ void FileCommands::offerAutosave(const QString &path, FishInfo *document)
                                 "remove. Show that instead?");
     if (QMessageBox::question(m_window, tr("Autosave"),
                               question.arg(shownName(document).toHtmlEscaped(),
-                                           QLocale().toString(left.lastModified())))
-        != QMessageBox::Yes)
+                                           QLocale().toString(left.lastModified()))) !=
+        QMessageBox::Yes)
         return;
     if (m_session->model()->reloadDataFromFile(left.filePath(), document) == MODEL_NO_ERROR) {
         document->setModified(true);
@@ -168,8 +168,8 @@ void FileCommands::newFromBuiltInTemplate()
 
 void FileCommands::newFromTemplate(const QString &folder)
 {
-    const QString path = QFileDialog::getOpenFileName(m_window, tr("New from template"), folder,
-                                                      documentFilter());
+    const QString path =
+        QFileDialog::getOpenFileName(m_window, tr("New from template"), folder, documentFilter());
     if (path.isEmpty())
         return;
     FishModel *const model = m_session->model();
@@ -184,8 +184,8 @@ void FileCommands::newFromTemplate(const QString &folder)
 
 void FileCommands::openFiles()
 {
-    const QStringList paths = QFileDialog::getOpenFileNames(m_window, tr("Open"), startFolder(),
-                                                            documentFilter());
+    const QStringList paths =
+        QFileDialog::getOpenFileNames(m_window, tr("Open"), startFolder(), documentFilter());
     for (const QString &path : paths)
         m_loader->load(path);
 }
@@ -294,9 +294,9 @@ void FileCommands::exportPicture()
     if (result)
         Q_EMIT message(tr("%1 written").arg(dialog.fileName()));
     else
-        QMessageBox::warning(m_window, tr("Export picture"),
-                             tr("%1 cannot be written: %2.")
-                                 .arg(dialog.fileName().toHtmlEscaped(), result.reason));
+        QMessageBox::warning(
+            m_window, tr("Export picture"),
+            tr("%1 cannot be written: %2.").arg(dialog.fileName().toHtmlEscaped(), result.reason));
 }
 
 void FileCommands::print()

@@ -56,9 +56,9 @@ QPushButton *Finder::button(const QString &text) const
 QLineEdit *Finder::field(const QString &label) const
 {
     const QList<QLineEdit *> fields = m_dialog->findChildren<QLineEdit *>();
-    const auto found =
-        std::find_if(fields.cbegin(), fields.cend(),
-                     [&](const QLineEdit *each) { return each->accessibleName() == label; });
+    const auto found = std::find_if(fields.cbegin(), fields.cend(), [&](const QLineEdit *each) {
+        return each->accessibleName() == label;
+    });
     Q_ASSERT(found != fields.cend());
     return *found;
 }

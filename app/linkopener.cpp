@@ -16,7 +16,8 @@ LinkOpener::LinkOpener(QWidget *window)
 {
     // Later, since a question must not be asked in the middle of a mouse press.
     LinkItem::setOpener([this](const QUrl &url) {
-        QMetaObject::invokeMethod(this, [this, url] { open(url); }, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(
+            this, [this, url] { open(url); }, Qt::QueuedConnection);
     });
 }
 
@@ -28,8 +29,8 @@ LinkOpener::~LinkOpener()
 bool LinkOpener::isHarmless(const QUrl &url)
 {
     const QString scheme = url.scheme();
-    return scheme == QLatin1String("http") || scheme == QLatin1String("https")
-           || scheme == QLatin1String("mailto");
+    return scheme == QLatin1String("http") || scheme == QLatin1String("https") ||
+           scheme == QLatin1String("mailto");
 }
 
 void LinkOpener::open(const QUrl &url)

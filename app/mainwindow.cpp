@@ -165,9 +165,8 @@ void MainWindow::showDetails(const QModelIndex &index)
 void MainWindow::updateState()
 {
     const FishInfo *const document = m_session->document();
-    setWindowTitle(document
-                       ? tr("%1[*] – Fishbone").arg(document->userFriendlyCurrentFile())
-                       : tr("Fishbone"));
+    setWindowTitle(document ? tr("%1[*] – Fishbone").arg(document->userFriendlyCurrentFile())
+                            : tr("Fishbone"));
     setWindowModified(document && document->modified());
     m_files->updateActions();
     m_edits->updateActions();
@@ -181,8 +180,8 @@ void MainWindow::updateState()
 void MainWindow::updateCanvasRect()
 {
     constexpr double margin = 20;
-    m_editor->view()->setSceneRect(PictureExport::visibleRect(*m_editor->scene())
-                                       .adjusted(-margin, -margin, margin, margin));
+    m_editor->view()->setSceneRect(
+        PictureExport::visibleRect(*m_editor->scene()).adjusted(-margin, -margin, margin, margin));
 }
 
 /** The subject whose bone, or what stands at it, is drawn at @p pos of the viewport. */
@@ -212,7 +211,8 @@ bool MainWindow::eventFilter(QObject *watched, QEvent *event)
 void MainWindow::followClick()
 {
     m_sync->followBone(m_pressed);
-    // A view that is scrolled by hand deselects everything after a click on a button beside its bone.
+    // A view that is scrolled by hand deselects everything after a click on a button beside its
+    // bone.
     if (m_pressed.isValid() && !m_editor->hasSelection())
         m_session->select(m_pressed);
     m_session->touch();

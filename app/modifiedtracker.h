@@ -9,8 +9,8 @@
 #include <QPointer>
 
 /**
- * Marks documents as modified when their subjects change, by whichever way: undo and redo, drops and
- * changes in a document that is not shown included, which no editor marks.
+ * Marks documents as modified when their subjects change, by whichever way: undo and redo, drops
+ * and changes in a document that is not shown included, which no editor marks.
  */
 class ModifiedTracker : public QObject
 {

@@ -13,8 +13,8 @@
  *
  * A run that shows no window (an export, a help text) gets Qt's offscreen platform, whatever the
  * environment and the arguments say, so that it works without a display and draws the same
- * everywhere. So does a run that wants a window where there is no display: it lives just long enough
- * to say so.
+ * everywhere. So does a run that wants a window where there is no display: it lives just long
+ * enough to say so.
  */
 class StartUp
 {

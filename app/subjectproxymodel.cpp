@@ -17,7 +17,6 @@ Qt::ItemFlags SubjectProxyModel::flags(const QModelIndex &index) const
     const Qt::ItemFlags base = FishProxyModel::flags(index);
     const auto *const model = qobject_cast<const FishModel *>(sourceModel());
     const TreeItem *const subject = model ? model->getTreeItem(mapToSource(index)) : nullptr;
-    const bool draggable =
-        subject && !subject->isTopVaildItem() && subject->spearItemIsMovable();
+    const bool draggable = subject && !subject->isTopVaildItem() && subject->spearItemIsMovable();
     return draggable ? base | Qt::ItemIsDragEnabled : base;
 }

@@ -5,7 +5,8 @@
 
 #include <fishbone/model/fishproxymodel.h>
 
-/** The documents as the tree shows them: filtered by title, and with subjects that can be dragged. */
+/** The documents as the tree shows them: filtered by title, and with subjects that can be dragged.
+ */
 class SubjectProxyModel : public FishProxyModel
 {
     Q_OBJECT

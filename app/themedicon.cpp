@@ -35,8 +35,9 @@ QIcon icon(const QString &name, const QPalette &palette)
     QIcon icon;
     for (const int side : {16, 24, 32, 48}) {
         icon.addPixmap(drawn(picture, palette.color(QPalette::Active, QPalette::WindowText), side));
-        icon.addPixmap(drawn(picture, palette.color(QPalette::Disabled, QPalette::WindowText), side),
-                       QIcon::Disabled);
+        icon.addPixmap(
+            drawn(picture, palette.color(QPalette::Disabled, QPalette::WindowText), side),
+            QIcon::Disabled);
     }
     return icon;
 }

@@ -71,8 +71,8 @@ void TitleEditor::place()
     const QPoint free(std::max(0, room.width() - wanted.width()),
                       std::max(0, room.height() - wanted.height()));
     const QPoint topLeft = box.center() - QPoint(wanted.width() / 2, wanted.height() / 2);
-    setGeometry(QRect(QPoint(qBound(0, topLeft.x(), free.x()), qBound(0, topLeft.y(), free.y())),
-                      wanted));
+    setGeometry(
+        QRect(QPoint(qBound(0, topLeft.x(), free.x()), qBound(0, topLeft.y(), free.y())), wanted));
 }
 
 bool TitleEditor::event(QEvent *event)

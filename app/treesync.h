@@ -12,9 +12,9 @@ class QModelIndex;
 class SubjectTree;
 
 /**
- * Keeps the tree of documents and the drawing in step, both ways: what is selected, which subject is
- * the current one and so which document is shown, and what is expanded. While the tree is filtered
- * its rows are expanded as the filter wants and say nothing about the drawing.
+ * Keeps the tree of documents and the drawing in step, both ways: what is selected, which subject
+ * is the current one and so which document is shown, and what is expanded. While the tree is
+ * filtered its rows are expanded as the filter wants and say nothing about the drawing.
  */
 class TreeSync : public QObject
 {

@@ -26,8 +26,8 @@ constexpr int rotateStep = 15;
 
 } // namespace
 
-ViewCommands::ViewCommands(DiagramSession *session, CanvasTheme *theme,
-                           ZoomControls *controls, ActionSet *actions, QWidget *window)
+ViewCommands::ViewCommands(DiagramSession *session, CanvasTheme *theme, ZoomControls *controls,
+                           ActionSet *actions, QWidget *window)
     : QObject(window)
     , m_session(session)
     , m_editor(session->editor())

@@ -31,8 +31,8 @@ ZoomControls::ZoomControls(FishEditor *editor, QWidget *parent)
     m_percentage->setObjectName(QStringLiteral("percentage"));
     m_percentage->setAutoRaise(true);
     m_percentage->setToolTip(tr("Show at 100 %"));
-    m_percentage->setMinimumWidth(m_percentage->fontMetrics().horizontalAdvance(percentage(maximum))
-                                  + 16);
+    m_percentage->setMinimumWidth(
+        m_percentage->fontMetrics().horizontalAdvance(percentage(maximum)) + 16);
     m_rotation->setObjectName(QStringLiteral("rotation"));
     m_rotation->setRange(-180, 180);
     m_rotation->setSingleStep(5);
@@ -62,7 +62,8 @@ ZoomControls::ZoomControls(FishEditor *editor, QWidget *parent)
 QString ZoomControls::percentage(int zoomValue)
 {
     const double factor = std::pow(2.0, (zoomValue - 250) / 50.0);
-    return QStringLiteral("%1 %").arg(QLocale().toString(factor * 100, 'f', factor < 0.095 ? 1 : 0));
+    return QStringLiteral("%1 %").arg(
+        QLocale().toString(factor * 100, 'f', factor < 0.095 ? 1 : 0));
 }
 
 void ZoomControls::applyZoom(int value)

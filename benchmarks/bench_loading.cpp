@@ -18,8 +18,8 @@
 #include <fishbone/model/fishinfo.h>
 #include <fishbone/model/fishmodel.h>
 
-#include "paired.h"
-#include "synthetic.h"
+#include <benchmarks/paired.h>
+#include <benchmarks/synthetic.h>
 
 namespace {
 

@@ -9,7 +9,7 @@
 #include <QCoreApplication>
 #include <QSaveFile>
 
-#include "synthetic.h"
+#include <benchmarks/synthetic.h>
 
 namespace {
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Fishbone authors
 // SPDX-License-Identifier: MIT
 
-#include "synthetic.h"
+#include <benchmarks/synthetic.h>
 
 #include <deque>
 

@@ -13,6 +13,7 @@
 #include <fishbone/editor/fishlayout.h>
 #include <fishbone/editor/fishscene.h>
 #include <fishbone/editor/graphicsview.h>
+#include <fishbone/editor/selectionhold.h>
 #include <fishbone/editor/spearbuilder.h>
 #include <fishbone/items/expanditem.h>
 #include <fishbone/items/spearitem.h>
@@ -150,9 +151,7 @@ int FishEditor::directionFor(const SpearItem *parent, int level, int row)
 void FishEditor::showNothing()
 {
     m_headSpear = SpearPointer();
-    // One report for all of them: items that die selected are reported one by one, and each report
-    // costs its listeners a look at the whole selection.
-    m_scene->clearSelection();
+    const SelectionHold hold(this);
     m_scene->clear();
 }
 
@@ -294,8 +293,10 @@ void FishEditor::updateSpearPostion()
 
 void FishEditor::expandorContractAll(bool expand)
 {
-    if (headSpear())
+    if (headSpear()) {
+        const SelectionHold hold(this);
         FishLayout(headSpear()).expandBones(expand);
+    }
     updateFish(false);
 }
 
@@ -338,7 +339,10 @@ void FishEditor::modifyContract()
     const QModelIndex index = firstSelectedSpearIndex();
     if (!index.isValid())
         return;
-    firstSelectedSpear()->setExpand(false);
+    {
+        const SelectionHold hold(this);
+        firstSelectedSpear()->setExpand(false);
+    }
     Q_EMIT onCollaps(index);
     updateFish(false);
 }

@@ -338,6 +338,8 @@ private:
         bool isHead = false;               ///< the document's head, whichever that is
     };
 
+    class SelectionHold;
+
     FishModel *fishModel() const;
     SpearItem *spearOf(const QModelIndex &index) const;
     bool isListed(const FishInfo *document) const;
@@ -377,5 +379,7 @@ private:
     QTimer *m_saveTimer = nullptr;
     bool m_pasteAsNew = false;
     ShownRoot m_shown;
-    bool m_rootRemoved = false; ///< the shown root left the model; it may come back
+    int m_selectionHolds = 0;
+    bool m_selectionChanged = false; ///< while held
+    bool m_rootRemoved = false;      ///< the shown root left the model; it may come back
 };

@@ -7,6 +7,7 @@
 
 #include <fishbone/dialogs/urldialog.h>
 #include <fishbone/editor/fishscene.h>
+#include <fishbone/editor/selectionhold.h>
 #include <fishbone/editor/spearbuilder.h>
 #include <fishbone/items/linkitem.h>
 #include <fishbone/items/spearitem.h>
@@ -21,6 +22,7 @@ constexpr int linkColumn = 2; ///< the column whose text counts as a subject's l
 
 void FishEditor::execute(std::unique_ptr<UndoCommand> command)
 {
+    const SelectionHold hold(this);
     m_undoStack->push(command.release());
 }
 
@@ -42,12 +44,14 @@ bool FishEditor::canRedo() const
 
 void FishEditor::undo()
 {
+    const SelectionHold hold(this);
     m_undoStack->undo();
     updateFish(true);
 }
 
 void FishEditor::redo()
 {
+    const SelectionHold hold(this);
     m_undoStack->redo();
     updateFish(true);
 }

@@ -78,5 +78,8 @@ void FishEditor::excludeChildSubject(QList<QGraphicsItem *> &items)
 
 void FishEditor::sceneSelectionChanged()
 {
-    Q_EMIT copyAvailable(hasSelection());
+    if (m_selectionHolds > 0)
+        m_selectionChanged = true;
+    else
+        Q_EMIT copyAvailable(hasSelection());
 }

@@ -16,16 +16,15 @@
 #include <fishbone/items/spearitem.h>
 
 namespace {
-/// A copy of \a data that is deleted when the events posted so far have been handled.
-QMimeData *copyForQueuedReceivers(const QMimeData &data)
+std::unique_ptr<QMimeData> copyOf(const QMimeData &data)
 {
     auto copy = std::make_unique<QMimeData>();
     const QStringList formats = data.formats();
     for (const QString &format : formats)
         copy->setData(format, data.data(format));
-    copy->deleteLater();
-    return copy.release();
+    return copy;
 }
+
 } // namespace
 
 void GraphicsView::dragEnterEvent(QDragEnterEvent *event)
@@ -73,5 +72,8 @@ void GraphicsView::dropEvent(QDropEvent *event)
         return;
     const int row = std::exchange(m_dropRow, 0);
     unmarkTarget();
-    Q_EMIT dropTo(copyForQueuedReceivers(*event->mimeData()), m_editor->spearIndex(target), row);
+    QMimeData *const payload = copyOf(*event->mimeData()).release();
+    Q_EMIT dropTo(payload, m_editor->spearIndex(target), row);
+    // Posted behind the calls of queued receivers, so that they find it alive.
+    payload->deleteLater();
 }

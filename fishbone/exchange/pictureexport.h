@@ -39,7 +39,8 @@ struct PictureOptions
  * and PDF hold lines and real text, and the page of a PDF is as large as the drawing.
  *
  * The scene is drawn as it stands: who does not want the selection in the picture clears it before.
- * Its background brush is left out in favour of PictureOptions::background. Needs a QGuiApplication.
+ * Its background brush is left out in favour of PictureOptions::background. Needs a
+ * QGuiApplication.
  */
 class FISHBONE_EXPORT PictureExport
 {
@@ -65,7 +66,8 @@ public:
     struct Result
     {
         Error error = Error::None;
-        QString reason; ///< for the user, translated, a clause without a full stop; empty on success
+        QString
+            reason; ///< for the user, translated, a clause without a full stop; empty on success
 
         /** Whether the export succeeded. */
         explicit operator bool() const { return error == Error::None; }

@@ -111,9 +111,11 @@ void SpearItem::drawHeader(QPainter *painter, const QStyleOptionGraphicsItem *op
     drawBackbone(painter);
     const QPointF head = line().p1();
     const QPointF tail = line().p2();
-    drawPicture(painter, head - QPointF(0, m_pixHeader->height() / 2), *m_pixHeader, headFile());
-    drawPicture(painter, tail - QPointF(m_pixTail->width(), m_pixTail->height() / 2), *m_pixTail,
-                tailFile());
+    // Whole pixels, so that a picture of odd height is not blurred.
+    const int aboveHead = m_pixHeader->height() / 2;
+    const int aboveTail = m_pixTail->height() / 2;
+    drawPicture(painter, head - QPointF(0, aboveHead), *m_pixHeader, headFile());
+    drawPicture(painter, tail - QPointF(m_pixTail->width(), aboveTail), *m_pixTail, tailFile());
     painter->setFont(textFont(textState()));
     painter->setPen(textColor(textState()));
     drawLinkCircle(painter);

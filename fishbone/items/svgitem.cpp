@@ -3,6 +3,7 @@
 
 #include <fishbone/items/svgitem.h>
 
+#include <QCursor>
 #include <QGraphicsSceneHoverEvent>
 #include <QSvgRenderer>
 

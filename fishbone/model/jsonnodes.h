@@ -14,26 +14,26 @@ class TreeItem;
 /** The node objects of the diagram format: their keys, and trees to and from them. */
 namespace JsonNodes {
 
-constexpr QLatin1String childrenKey("children");
-constexpr QLatin1String createDateKey("createdate");
-constexpr QLatin1String creatorIdKey("creatorid");
-constexpr QLatin1String creatorNameKey("creatorname");
-constexpr QLatin1String detailKey("detail");
-constexpr QLatin1String followersKey("followers");
-constexpr QLatin1String isMovableKey("ismovable");
-constexpr QLatin1String managerIdKey("mgrid");
-constexpr QLatin1String managerNameKey("mgrname");
-constexpr QLatin1String pidKey("pid");
-constexpr QLatin1String planEndDateKey("planenddate");
-constexpr QLatin1String priorityKey("priority");
-constexpr QLatin1String progressKey("progress");
-constexpr QLatin1String showidKey("showid");
-constexpr QLatin1String spearStyleKey("spearstyle");
-constexpr QLatin1String statusKey("status");
-constexpr QLatin1String titleKey("title");
-constexpr QLatin1String typeKey("type");
-constexpr QLatin1String urlKey("url");
-constexpr QLatin1String uuidKey("uuid");
+inline const QLatin1String childrenKey("children");
+inline const QLatin1String createDateKey("createdate");
+inline const QLatin1String creatorIdKey("creatorid");
+inline const QLatin1String creatorNameKey("creatorname");
+inline const QLatin1String detailKey("detail");
+inline const QLatin1String followersKey("followers");
+inline const QLatin1String isMovableKey("ismovable");
+inline const QLatin1String managerIdKey("mgrid");
+inline const QLatin1String managerNameKey("mgrname");
+inline const QLatin1String pidKey("pid");
+inline const QLatin1String planEndDateKey("planenddate");
+inline const QLatin1String priorityKey("priority");
+inline const QLatin1String progressKey("progress");
+inline const QLatin1String showidKey("showid");
+inline const QLatin1String spearStyleKey("spearstyle");
+inline const QLatin1String statusKey("status");
+inline const QLatin1String titleKey("title");
+inline const QLatin1String typeKey("type");
+inline const QLatin1String urlKey("url");
+inline const QLatin1String uuidKey("uuid");
 
 /** How deep the text of a document may nest for Qt's reader to take it. */
 constexpr int readableNesting = 1024;

@@ -60,7 +60,7 @@ struct EditMove::Private
     QHash<TreeItem *, QList<TreeItem *>> arrivals; // by their new parent
 };
 
-/** Moves the subject that @p move names; false when it is not there or the model refuses. */
+/** Moves the subject that @p move names; false when it is not there or stays where it is. */
 bool EditMove::Private::carryOut(Move &move, TreeItem *to, SubjectFinder &finder)
 {
     TreeItem *const subject = model ? finder.findNamed(move.name, moved) : nullptr;
@@ -74,13 +74,14 @@ bool EditMove::Private::carryOut(Move &move, TreeItem *to, SubjectFinder &finder
     move.parent = move.wasHead ? SubjectKey() : keyFromItem(*model, subject->parent());
     move.row = sourceRows.last();
     move.pid = subject->pid();
+    const TreeItem *const parent = subject->parent();
     const int rows = model->rowCount(model->indexFromItem(to));
     const int position = wasMoved ? qMin(row, rows) : row;
     if (!moveSubject(*model, subject, to, position, move.document) || !model)
         return false;
     move.subject = keyFromItem(*model, subject);
     follow(subject, before, finder);
-    return true;
+    return subject->parent() != parent || model->indexFromItem(subject).row() != move.row;
 }
 
 /** Puts a subject back, unless it or its old parent is not there. */

@@ -103,8 +103,9 @@ void UndoStack::undo()
 bool UndoStack::run(Command command, void (UndoCommand::*step)())
 {
     const QPointer<UndoStack> self(this);
+    const Command kept = std::move(command);
     ++m_running;
-    (command.get()->*step)();
+    (kept.get()->*step)();
     if (!self)
         return false;
     --m_running;

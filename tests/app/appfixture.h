@@ -64,6 +64,12 @@ public:
         QCOMPARE(file.write(content), qint64(content.size()));
     }
 
+    static QByteArray contentOf(const QString &name)
+    {
+        QFile file(name);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
     /// Lets the window answer what has happened.
     static void settle()
     {
@@ -102,8 +108,7 @@ public:
     /// The subject of that title; invalid when there is none.
     QModelIndex find(const char *title) const
     {
-        const QModelIndexList found =
-            window.model()->searchModelIndexes(QString::fromUtf8(title));
+        const QModelIndexList found = window.model()->searchModelIndexes(QString::fromUtf8(title));
         for (const QModelIndex &index : found) {
             if (window.model()->getTreeItem(index)->title() == QString::fromUtf8(title))
                 return index;
@@ -111,10 +116,7 @@ public:
         return {};
     }
 
-    TreeItem *subject(const char *title) const
-    {
-        return window.model()->getTreeItem(find(title));
-    }
+    TreeItem *subject(const char *title) const { return window.model()->getTreeItem(find(title)); }
 
     void select(const char *title)
     {

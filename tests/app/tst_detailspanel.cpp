@@ -6,9 +6,9 @@
 #include <fishbone/items/taskstatusinfo.h>
 #include <fishbone/items/taskstatusitem.h>
 
+#include <QCheckBox>
 #include <QComboBox>
 #include <QDateEdit>
-#include <QCheckBox>
 #include <QDockWidget>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -179,8 +179,8 @@ void TestDetailsPanel::shouldOpenOnTheEditorsGestures()
     FishEditor *const editor = app.window.editor();
     app.select("Machines");
     if (gesture == 0) {
-        const QPoint at = editor->view()->mapFromScene(
-            app.subject("Machines")->spear()->line().center());
+        const QPoint at =
+            editor->view()->mapFromScene(app.subject("Machines")->spear()->line().center());
         QTest::mouseDClick(editor->view()->viewport(), Qt::LeftButton, {}, at);
     } else if (gesture == 1) {
         Q_EMIT editor->oneTaskClicked(QStringLiteral("Machines"), QStringLiteral("{e}"));
@@ -189,8 +189,7 @@ void TestDetailsPanel::shouldOpenOnTheEditorsGestures()
     } else if (gesture == 3) {
         app.trigger("details");
     } else {
-        Q_EMIT app.window.tree()->view()->doubleClicked(
-            app.window.tree()->view()->currentIndex());
+        Q_EMIT app.window.tree()->view()->doubleClicked(app.window.tree()->view()->currentIndex());
     }
     AppFixture::settle();
     QVERIFY(dock->isVisible());

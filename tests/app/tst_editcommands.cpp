@@ -7,10 +7,8 @@
 
 #include <fishbone/style/spearstyledialog.h>
 
-#include <QDialogButtonBox>
 #include <QInputDialog>
 #include <QLineEdit>
-#include <QListWidget>
 
 using TestSupport::ModalDriver;
 
@@ -26,14 +24,6 @@ QLineEdit *titleField(const AppFixture &app)
             return field;
     }
     return nullptr;
-}
-
-QStringList rows(const QListWidget &list)
-{
-    QStringList texts;
-    for (int row = 0; row < list.count(); ++row)
-        texts.append(list.item(row)->text());
-    return texts;
 }
 
 QString original()
@@ -61,12 +51,6 @@ private Q_SLOTS:
     void shouldDeleteAndSelectANeighbour();
     void shouldCutAndPaste();
     void shouldGivePastedSubjectsUuidsOfTheirOwn();
-    void shouldEnableUndoAndRedoWithTheStack();
-    void shouldKeepTheDrawingsLookOnUndo();
-    void shouldShowTheDocumentThatUndoChanges();
-    void shouldMarkTheDocumentOnUndo();
-    void shouldListTheHistoryAndJump();
-    void shouldGoOnUndoingBeyondTheBound();
     void shouldSelectAll();
     void shouldLinkAndUnlink();
     void shouldMarkAChangedStyle();
@@ -215,16 +199,17 @@ void TestEditCommands::shouldDeleteAndSelectANeighbour_data()
     QTest::addColumn<QString>("result");
     QTest::addColumn<QString>("selected");
 
-    QTest::newRow("the next one") << QByteArray("People") << QStringLiteral("Late[Machines,Material[Rust]]")
+    QTest::newRow("the next one") << QByteArray("People")
+                                  << QStringLiteral("Late[Machines,Material[Rust]]")
                                   << QStringLiteral("Machines");
     QTest::newRow("the previous one")
         << QByteArray("Material")
         << QStringLiteral("Late[People[Too few[Illness],Too new],Machines]")
         << QStringLiteral("Machines");
-    QTest::newRow("the parent")
-        << QByteArray("Rust")
-        << QStringLiteral("Late[People[Too few[Illness],Too new],Machines,Material]")
-        << QStringLiteral("Material");
+    QTest::newRow("the parent") << QByteArray("Rust")
+                                << QStringLiteral(
+                                       "Late[People[Too few[Illness],Too new],Machines,Material]")
+                                << QStringLiteral("Material");
 }
 
 void TestEditCommands::shouldDeleteAndSelectANeighbour()
@@ -273,130 +258,6 @@ void TestEditCommands::shouldGivePastedSubjectsUuidsOfTheirOwn()
     QCOMPARE(uuids.size(), all.size());
 }
 
-void TestEditCommands::shouldEnableUndoAndRedoWithTheStack()
-{
-    AppFixture app;
-    QVERIFY(!app.action("undo")->isEnabled());
-    QVERIFY(!app.action("redo")->isEnabled());
-    app.select("Machines");
-    app.trigger("delete");
-    QVERIFY(app.action("undo")->isEnabled());
-    QVERIFY(!app.action("redo")->isEnabled());
-    QTest::keyClick(&app.window, Qt::Key_Z, Qt::ControlModifier);
-    AppFixture::settle();
-    QCOMPARE(app.text(), original());
-    QVERIFY(!app.action("undo")->isEnabled());
-    QVERIFY(app.action("redo")->isEnabled());
-    QTest::keyClick(&app.window, Qt::Key_Y, Qt::ControlModifier);
-    AppFixture::settle();
-    QCOMPARE(app.text(), QStringLiteral("Late[People[Too few[Illness],Too new],Material[Rust]]"));
-}
-
-void TestEditCommands::shouldKeepTheDrawingsLookOnUndo()
-{
-    AppFixture app;
-    app.select("Illness");
-    app.select("Rust");
-    app.trigger("child");
-    app.trigger("undo");
-    QVERIFY(app.subject("People")->spear()->isExpand());
-    QVERIFY(app.subject("Too few")->spear()->isExpand());
-    QVERIFY(app.subject("Illness")->spear()->isVisible());
-    QVERIFY(app.subject("Rust")->spear()->isVisible());
-
-    app.select("People");
-    app.trigger("delete");
-    app.trigger("undo"); // other objects, the same subjects
-    QVERIFY(app.subject("Material")->spear()->isExpand());
-}
-
-void TestEditCommands::shouldShowTheDocumentThatUndoChanges()
-{
-    AppFixture app;
-    app.select("Machines");
-    app.trigger("delete");
-    FishInfo *const changed = app.document();
-    app.trigger("new");
-    QVERIFY(app.document() != changed);
-    app.trigger("undo");
-    QCOMPARE(app.document(), changed);
-    QCOMPARE(app.text(), original());
-}
-
-void TestEditCommands::shouldMarkTheDocumentOnUndo()
-{
-    AppFixture app;
-    app.select("Machines");
-    app.trigger("delete");
-    app.document()->setModified(false); // as after saving
-    app.trigger("undo");
-    QVERIFY(app.document()->modified());
-
-    app.document()->setModified(false);
-    app.subject("Machines")->setUrl(QStringLiteral("http://localhost/"));
-    app.select("Machines");
-    app.window.session()->touch();
-    AppFixture::settle();
-    app.trigger("unlink");
-    app.document()->setModified(false);
-    app.trigger("undo"); // the model does not tell of links
-    QCOMPARE(app.subject("Machines")->url(), QStringLiteral("http://localhost/"));
-    QVERIFY(app.document()->modified());
-}
-
-void TestEditCommands::shouldListTheHistoryAndJump()
-{
-    AppFixture app;
-    auto *const list = app.widget<QListWidget>("history");
-    QCOMPARE(list->count(), 1);
-    QCOMPARE(list->currentRow(), 0);
-    app.select("Rust");
-    app.trigger("delete");
-    app.select("Machines");
-    app.trigger("delete");
-    app.select("People");
-    app.trigger("parent");
-    QCOMPARE(rows(*list).mid(1), app.window.editor()->undoStack()->commandNames());
-    QCOMPARE(list->count(), 4);
-    QCOMPARE(list->currentRow(), 3);
-
-    list->setCurrentRow(1);
-    AppFixture::settle();
-    QCOMPARE(app.text(), QStringLiteral("Late[People[Too few[Illness],Too new],Machines,Material]"));
-    QCOMPARE(app.window.editor()->undoStack()->currentIndex(), 0);
-    QVERIFY(app.subject("Machines")->spear()); // the drawing follows
-
-    list->setCurrentRow(0);
-    AppFixture::settle();
-    QCOMPARE(app.text(), original());
-    QVERIFY(!app.action("undo")->isEnabled());
-    list->setCurrentRow(3);
-    AppFixture::settle();
-    QCOMPARE(app.text(), QStringLiteral("Late[子主题[People[Too few[Illness],Too new]],Material]"));
-    QVERIFY(!app.action("redo")->isEnabled());
-
-    app.trigger("undo");
-    QCOMPARE(list->currentRow(), 2);
-    app.select("Material");
-    app.trigger("delete"); // in place of what was undone
-    QCOMPARE(list->count(), 4);
-    QCOMPARE(list->currentRow(), 3);
-}
-
-void TestEditCommands::shouldGoOnUndoingBeyondTheBound()
-{
-    AppFixture app;
-    const QModelIndex machines = app.find("Machines");
-    for (int i = 0; i < 120; ++i)
-        app.window.editor()->renameItem(machines, QString::number(i));
-    AppFixture::settle();
-    QVERIFY(app.action("undo")->isEnabled());
-    app.trigger("undo");
-    QCOMPARE(machines.data().toString(), QStringLiteral("118"));
-    auto *const list = app.widget<QListWidget>("history");
-    QCOMPARE(list->currentRow(), list->count() - 2);
-}
-
 void TestEditCommands::shouldSelectAll()
 {
     AppFixture app;
@@ -436,13 +297,15 @@ void TestEditCommands::shouldMarkAChangedStyle()
     app.select("Machines");
     QVERIFY(!app.action("removeStyle")->isEnabled());
     {
-        const ModalDriver<SpearStyleDialog> driver([](SpearStyleDialog &dialog) { dialog.reject(); });
+        const ModalDriver<SpearStyleDialog> driver(
+            [](SpearStyleDialog &dialog) { dialog.reject(); });
         app.trigger("style");
         QVERIFY(driver.isDone());
     }
     QVERIFY(!app.document()->modified());
     {
-        const ModalDriver<SpearStyleDialog> driver([](SpearStyleDialog &dialog) { dialog.accept(); });
+        const ModalDriver<SpearStyleDialog> driver(
+            [](SpearStyleDialog &dialog) { dialog.accept(); });
         app.trigger("style");
         QVERIFY(driver.isDone());
     }

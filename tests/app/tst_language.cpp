@@ -10,15 +10,14 @@
 #include <fishbone/model/treeitem.h>
 #include <fishbone/undo/attributecommands.h>
 #include <fishbone/undo/structuralcommands.h>
+#include <tests/app/programrunner.h>
 #include <tests/support/documents.h>
 
 #include <QAbstractItemModelTester>
-#include <QFile>
 #include <QJsonArray>
 #include <QJsonObject>
 #include <QLocale>
 #include <QMenu>
-#include <QProcess>
 #include <QTemporaryDir>
 #include <QTranslator>
 #include <QtTest>
@@ -44,12 +43,6 @@ struct Counted
     FishModel model;
     QAbstractItemModelTester tester{&model, QAbstractItemModelTester::FailureReportingMode::QtTest};
 };
-
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 /// The entries of the menu that the editor shows for a bone, in the model's mode.
 QStringList menuEntries(FISH_MODEL_TYPE type)
@@ -369,7 +362,7 @@ void TestLanguage::shouldSaveTheSameFileInEveryLanguage()
         const int error = model.loadFishFromFile(sample);
         const QString path = folder.filePath(name);
         return error == MODEL_NO_ERROR && model.fishList().constFirst()->saveFile(path)
-                   ? contentOf(path)
+                   ? ProgramRunner::contentOf(path)
                    : QByteArray();
     };
     const QByteArray untranslated = save(QStringLiteral("a.json"));
@@ -416,15 +409,12 @@ void TestLanguage::shouldBeTheLanguageOfTheProgram()
     QFETCH(QString, locale);
     QFETCH(QString, text);
 
-    QProcess process;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    const QTemporaryDir home;
+    QProcessEnvironment environment = ProgramRunner::bareEnvironment(home.path());
     environment.insert(QStringLiteral("LC_ALL"), locale);
     environment.remove(QStringLiteral("LANGUAGE"));
-    process.setProcessEnvironment(environment);
-    process.setProcessChannelMode(QProcess::MergedChannels);
-    process.start(QStringLiteral(FISHBONE_PROGRAM), arguments);
-    QVERIFY(process.waitForFinished(60000));
-    const QString output = QString::fromUtf8(process.readAll());
+    const ProgramRunner::Outcome outcome = ProgramRunner::run(arguments, environment);
+    const QString output = outcome.out + outcome.err;
     QVERIFY2(output.contains(text), qPrintable(output));
 }
 

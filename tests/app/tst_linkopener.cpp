@@ -80,7 +80,8 @@ void TestLinkOpener::shouldOpenHarmlessLinksAtOnce_data()
     QTest::addColumn<QString>("link");
     QTest::addColumn<QString>("opened");
 
-    QTest::newRow("http") << QStringLiteral("http://localhost/a") << QStringLiteral("http://localhost/a");
+    QTest::newRow("http") << QStringLiteral("http://localhost/a")
+                          << QStringLiteral("http://localhost/a");
     QTest::newRow("mail") << QStringLiteral("mailto:a@localhost")
                           << QStringLiteral("mailto:a@localhost");
     QTest::newRow("typed without a scheme")
@@ -139,8 +140,7 @@ void TestLinkOpener::shouldAskBeforeOtherLinks()
     QTRY_VERIFY(driver.isDone());
     QVERIFY(named.contains(link));
     QVERIFY(cancelIsPreset); // Return alone opens nothing
-    QCOMPARE(desktop.opened,
-             answer == QMessageBox::Open ? QStringList(link) : QStringList());
+    QCOMPARE(desktop.opened, answer == QMessageBox::Open ? QStringList(link) : QStringList());
 }
 
 QTEST_MAIN(TestLinkOpener)

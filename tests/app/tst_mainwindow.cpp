@@ -3,17 +3,9 @@
 
 #include <tests/app/appfixture.h>
 
-#include <app/canvastheme.h>
-#include <app/subjectproxymodel.h>
-
-#include <QLineEdit>
-#include <QListWidget>
 #include <QMenuBar>
-#include <QSlider>
-#include <QSpinBox>
 #include <QStatusBar>
 #include <QToolBar>
-#include <QToolButton>
 
 class TestMainWindow : public QObject
 {
@@ -32,18 +24,9 @@ private Q_SLOTS:
     void shouldGiveEveryToolBarButtonAnIcon();
     void shouldDisableWhatNeedsADocument();
     void shouldDisableWhatNeedsASelection();
-    void shouldZoomWithSliderActionsAndWheel();
-    void shouldKeepTheZoomWithinTheSlidersRange();
-    void shouldRotate();
-    void shouldFitTheDrawing();
     void shouldDeselectOnAPressOnTheCanvas();
     void shouldNotMoveTheSelectionFromAPressOnTheCanvas();
-    void shouldSwitchBetweenTaskAndDiagramMode();
-    void shouldShowAPartAsADiagramAndComeBack();
-    void shouldListWhatWasShownBefore();
     void shouldKeepTheLookOfADocumentThatIsLeft();
-    void shouldFollowADarkPalette();
-    void shouldPrintOnPaper();
 };
 
 void TestMainWindow::initTestCase()
@@ -144,16 +127,24 @@ void TestMainWindow::shouldOfferEveryActionInAMenu()
         for (const QAction *action : actions)
             offered.insert(action->objectName());
     }
-    for (const char *name :
-         {"new",        "newExample", "newFromTemplate", "open",        "url",        "recover",
-          "save",       "saveAs",     "saveAll",         "export",      "print",      "close",
-          "quit",       "undo",       "redo",            "cut",         "copy",       "paste",
-          "delete",     "selectAll",  "find",            "child",       "before",     "after",
-          "parent",     "subTask",    "free",            "rename",      "details",    "link",
-          "openLink",   "unlink",     "style",           "removeStyle", "zoomin",     "zoomout",
-          "fullsize",   "fit",        "fitselection",    "rotateLeft",  "rotateRight", "rotateReset",
-          "expand",     "contract",   "expandall",       "contractall", "asDiagram",  "back",
-          "whole",      "diagramMode", "taskMode",       "canvasStyle"})
+    for (const char *name : {"new",         "newExample",  "newFromTemplate",
+                             "open",        "url",         "recover",
+                             "save",        "saveAs",      "saveAll",
+                             "export",      "print",       "close",
+                             "quit",        "undo",        "redo",
+                             "cut",         "copy",        "paste",
+                             "delete",      "selectAll",   "find",
+                             "child",       "before",      "after",
+                             "parent",      "subTask",     "free",
+                             "rename",      "details",     "link",
+                             "openLink",    "unlink",      "style",
+                             "removeStyle", "zoomin",      "zoomout",
+                             "fullsize",    "fit",         "fitselection",
+                             "rotateLeft",  "rotateRight", "rotateReset",
+                             "expand",      "contract",    "expandall",
+                             "contractall", "asDiagram",   "back",
+                             "whole",       "diagramMode", "taskMode",
+                             "canvasStyle"})
         QVERIFY2(offered.contains(QLatin1String(name)), name);
 }
 
@@ -206,9 +197,9 @@ void TestMainWindow::shouldDisableWhatNeedsADocument()
 void TestMainWindow::shouldDisableWhatNeedsASelection()
 {
     AppFixture app;
-    for (const char *name : {"child", "before", "after", "parent", "subTask", "rename", "delete",
-                             "cut", "copy", "paste", "link", "style", "expand", "contract",
-                             "asDiagram", "fitselection"})
+    for (const char *name :
+         {"child", "before", "after", "parent", "subTask", "rename", "delete", "cut", "copy",
+          "paste", "link", "style", "expand", "contract", "asDiagram", "fitselection"})
         QVERIFY2(!app.action(name)->isEnabled(), name);
     app.select("People");
     for (const char *name : {"child", "before", "after", "parent", "subTask", "rename", "delete",
@@ -219,91 +210,6 @@ void TestMainWindow::shouldDisableWhatNeedsASelection()
     app.select("Late");
     for (const char *name : {"delete", "cut", "copy", "expand", "contract", "asDiagram"})
         QVERIFY2(!app.action(name)->isEnabled(), name);
-}
-
-void TestMainWindow::shouldZoomWithSliderActionsAndWheel()
-{
-    AppFixture app;
-    auto *const slider = app.widget<QSlider>("zoom");
-    auto *const percentage = app.widget<QToolButton>("percentage");
-    GraphicsView *const view = app.window.editor()->view();
-    QCOMPARE(slider->value(), 250);
-    QCOMPARE(percentage->text(), QStringLiteral("100 %"));
-
-    slider->setValue(300);
-    QCOMPARE(view->transform().m11(), 2.0);
-    QCOMPARE(percentage->text(), QStringLiteral("200 %"));
-    app.trigger("zoomout");
-    QCOMPARE(slider->value(), 275);
-    app.trigger("zoomin");
-    QCOMPARE(view->transform().m11(), 2.0);
-
-    const QPointF at(50, 50);
-    QWheelEvent wheel(at, view->viewport()->mapToGlobal(at.toPoint()), QPoint(), QPoint(0, -120),
-                      Qt::NoButton, Qt::ControlModifier, Qt::NoScrollPhase, false);
-    QCoreApplication::sendEvent(view->viewport(), &wheel);
-    QCOMPARE(slider->value(), 294);
-    QCOMPARE(view->transform().m11(), std::pow(2.0, 44 / 50.0));
-
-    percentage->click();
-    QCOMPARE(slider->value(), 250);
-    QCOMPARE(view->transform().m11(), 1.0);
-}
-
-void TestMainWindow::shouldKeepTheZoomWithinTheSlidersRange()
-{
-    AppFixture app;
-    for (int i = 0; i < 30; ++i)
-        app.window.editor()->zoomIn(25);
-    QCOMPARE(app.window.editor()->zoomValue(), 500);
-    QCOMPARE(app.widget<QToolButton>("percentage")->text(), QStringLiteral("3,200 %"));
-    for (int i = 0; i < 30; ++i)
-        app.window.editor()->zoomOut(25);
-    QCOMPARE(app.window.editor()->zoomValue(), 0);
-    QCOMPARE(app.widget<QToolButton>("percentage")->text(), QStringLiteral("3.1 %"));
-}
-
-void TestMainWindow::shouldRotate()
-{
-    AppFixture app;
-    auto *const field = app.widget<QSpinBox>("rotation");
-    app.trigger("rotateRight");
-    QCOMPARE(field->value(), 15);
-    QCOMPARE(app.window.editor()->rotateValue(), 15);
-    QVERIFY(app.window.editor()->view()->transform().isRotating());
-    app.trigger("rotateLeft");
-    app.trigger("rotateLeft");
-    QCOMPARE(app.window.editor()->rotateValue(), -15);
-    field->setValue(90);
-    QCOMPARE(app.window.editor()->rotateValue(), 90);
-    app.trigger("rotateReset");
-    QCOMPARE(field->value(), 0);
-    QVERIFY(!app.window.editor()->view()->transform().isRotating());
-
-    field->setValue(90);
-    app.trigger("fit"); // which turns the drawing upright
-    QCOMPARE(field->value(), 0);
-}
-
-void TestMainWindow::shouldFitTheDrawing()
-{
-    AppFixture app;
-    app.trigger("expandall");
-    app.widget<QSlider>("zoom")->setValue(400);
-    app.trigger("fit");
-    const GraphicsView *const view = app.window.editor()->view();
-    const QRectF shown = view->mapToScene(view->viewport()->rect()).boundingRect();
-    const QList<QGraphicsItem *> items = app.window.editor()->scene()->items();
-    for (const QGraphicsItem *item : items) {
-        if (item->isVisible() && !item->boundingRect().isEmpty())
-            QVERIFY(shown.contains(item->sceneBoundingRect()));
-    }
-    const int zoom = app.window.editor()->zoomValue();
-    QCOMPARE(app.widget<QSlider>("zoom")->value(), zoom);
-
-    app.select("Rust");
-    app.trigger("fitselection");
-    QVERIFY(app.window.editor()->zoomValue() > zoom);
 }
 
 void TestMainWindow::shouldDeselectOnAPressOnTheCanvas()
@@ -335,71 +241,6 @@ void TestMainWindow::shouldNotMoveTheSelectionFromAPressOnTheCanvas()
     QVERIFY(!app.window.editor()->undoStack()->canUndo());
 }
 
-void TestMainWindow::shouldSwitchBetweenTaskAndDiagramMode()
-{
-    AppFixture app;
-    QCOMPARE(app.window.model()->modelType(), FISH_MODEL_DIAGRAM);
-    QVERIFY(app.action("diagramMode")->isChecked());
-    QCOMPARE(app.window.editor()->headSpear()->text(), QStringLiteral("Late"));
-
-    app.trigger("taskMode");
-    QCOMPARE(app.window.model()->modelType(), FISH_MODEL_NORMAL);
-    QVERIFY(!app.action("diagramMode")->isChecked());
-    QVERIFY(app.window.editor()->headSpear()->text().startsWith(QLatin1String("Late(")));
-
-    app.trigger("diagramMode");
-    QCOMPARE(app.window.editor()->headSpear()->text(), QStringLiteral("Late"));
-}
-
-void TestMainWindow::shouldShowAPartAsADiagramAndComeBack()
-{
-    AppFixture app;
-    QVERIFY(!app.action("back")->isEnabled());
-    app.select("People");
-    app.trigger("asDiagram");
-    QCOMPARE(app.window.editor()->rootIndex(), app.find("People"));
-    app.select("Too few");
-    Q_EMIT app.window.editor()->changeFishWithModelIndex(app.find("Too few"));
-    AppFixture::settle();
-    QCOMPARE(app.window.editor()->rootIndex(), app.find("Too few"));
-
-    app.trigger("back");
-    QCOMPARE(app.window.editor()->rootIndex(), app.find("People"));
-    app.trigger("back");
-    QCOMPARE(app.window.editor()->rootIndex(), app.find("Late"));
-    QVERIFY(!app.action("back")->isEnabled());
-
-    app.select("People");
-    app.trigger("asDiagram");
-    app.select("Rust"); // lies elsewhere
-    QCOMPARE(app.window.editor()->rootIndex(), app.find("Late"));
-    QCOMPARE(app.selectedInDrawing(), QStringList(QStringLiteral("Rust")));
-}
-
-void TestMainWindow::shouldListWhatWasShownBefore()
-{
-    AppFixture app;
-    app.window.session()->showAsDiagram(app.find("People"));
-    app.window.session()->showAsDiagram(app.find("Material"));
-    QCOMPARE(app.document()->fishHistorys(),
-             QStringList({QStringLiteral("{a}"), QStringLiteral("{f}")}));
-    AppFixture::settle();
-    app.trigger("whole");
-
-    QMenu *visited = nullptr;
-    const QList<QMenu *> menus = app.window.findChildren<QMenu *>();
-    for (QMenu *menu : menus) {
-        if (menu->title().contains(QLatin1String("Shown")))
-            visited = menu;
-    }
-    QVERIFY(visited);
-    Q_EMIT visited->aboutToShow();
-    QCOMPARE(visited->actions().size(), 2);
-    QCOMPARE(visited->actions().at(0)->text(), QStringLiteral("People"));
-    visited->actions().at(1)->trigger();
-    QCOMPARE(app.window.editor()->rootIndex(), app.find("Material"));
-}
-
 void TestMainWindow::shouldKeepTheLookOfADocumentThatIsLeft()
 {
     AppFixture app;
@@ -412,48 +253,6 @@ void TestMainWindow::shouldKeepTheLookOfADocumentThatIsLeft()
     QCOMPARE(app.selectedInDrawing(), QStringList(QStringLiteral("Illness")));
     QVERIFY(app.subject("Illness")->spear()->isVisible());
     QVERIFY(!app.subject("Material")->spear()->isExpand());
-}
-
-void TestMainWindow::shouldFollowADarkPalette()
-{
-    AppFixture app;
-    GraphicsView *const view = app.window.editor()->view();
-    QVERIFY(view->backgroundBrush().color().lightness() > 200);
-    const QColor lightText = app.subject("People")->spear()->textColor(SpearStyle::ssNormal);
-    QVERIFY(lightText.lightness() < 128);
-
-    const QPalette light = app.window.palette();
-    QPalette dark = light;
-    dark.setColor(QPalette::Base, QColor(20, 20, 20));
-    dark.setColor(QPalette::Window, QColor(40, 40, 40));
-    dark.setColor(QPalette::WindowText, Qt::white);
-    app.window.setPalette(dark);
-    AppFixture::settle();
-    QVERIFY(view->backgroundBrush().color().lightness() < 60);
-    QVERIFY(app.subject("People")->spear()->textColor(SpearStyle::ssNormal).lightness() > 150);
-
-    app.window.setPalette(light);
-    AppFixture::settle();
-    QCOMPARE(app.subject("People")->spear()->textColor(SpearStyle::ssNormal), lightText);
-    QVERIFY(!app.document()->modified());
-}
-
-void TestMainWindow::shouldPrintOnPaper()
-{
-    AppFixture app;
-    QPalette dark = app.window.palette();
-    dark.setColor(QPalette::Base, QColor(20, 20, 20));
-    app.window.setPalette(dark);
-    AppFixture::settle();
-    auto *const theme = app.window.findChild<CanvasTheme *>();
-    QVERIFY(theme->isDark());
-    {
-        const CanvasTheme::Paper paper(theme);
-        QCOMPARE(app.window.editor()->view()->backgroundBrush().color(), QColor(Qt::white));
-        QVERIFY(app.subject("People")->spear()->textColor(SpearStyle::ssNormal).lightness() < 128);
-    }
-    QVERIFY(theme->isDark());
-    QCOMPARE(app.window.editor()->view()->backgroundBrush().color(), theme->canvasColor());
 }
 
 QTEST_MAIN(TestMainWindow)

@@ -32,6 +32,7 @@ private Q_SLOTS:
     void shouldStayInStepThroughEdits();
     void shouldLetSubjectsBeDraggedButHeads();
     void shouldMoveADraggedRowOntoABone();
+    void shouldFollowAMoveWithTheMouse();
 };
 
 void TestTreeSync::initTestCase()
@@ -263,8 +264,8 @@ void TestTreeSync::shouldStayInStepThroughEdits()
             const QModelIndex shown = app.window.tree()->proxy()->mapFromSource(index);
             if (!shown.isValid() || shown.data() != index.data())
                 return false;
-            if (spear && !spear->isHeader() && !spear->childSpears().isEmpty()
-                && spear->isExpand() != app.window.tree()->view()->isExpanded(shown))
+            if (spear && !spear->isHeader() && !spear->childSpears().isEmpty() &&
+                spear->isExpand() != app.window.tree()->view()->isExpanded(shown))
                 return false;
         }
         return app.selectedInTree() == app.selectedInDrawing();
@@ -318,6 +319,27 @@ void TestTreeSync::shouldMoveADraggedRowOntoABone()
     QCOMPARE(app.text(),
              QStringLiteral("Late[People[Too few,Too new],Machines[Illness],Material[Rust]]"));
     QVERIFY(app.window.isWindowModified());
+}
+
+void TestTreeSync::shouldFollowAMoveWithTheMouse()
+{
+    AppFixture app;
+    app.select("Rust");
+    GraphicsView *const view = app.window.editor()->view();
+    const auto pointOn = [&](const char *title) {
+        return view->mapFromScene(app.subject(title)->spear()->line().center());
+    };
+    QTest::mousePress(view->viewport(), Qt::LeftButton, {}, pointOn("Rust"));
+    QTest::mouseMove(view->viewport(), pointOn("Machines"));
+    QTest::mouseRelease(view->viewport(), Qt::LeftButton, {}, pointOn("Machines"));
+    AppFixture::settle();
+    QCOMPARE(app.text(),
+             QStringLiteral("Late[People[Too few[Illness],Too new],Machines[Rust],Material]"));
+    QCOMPARE(row(app, "Rust").parent(), row(app, "Machines"));
+    QVERIFY(app.window.isWindowModified());
+    app.trigger("undo");
+    QCOMPARE(app.text(),
+             QStringLiteral("Late[People[Too few[Illness],Too new],Machines,Material[Rust]]"));
 }
 
 QTEST_MAIN(TestTreeSync)

@@ -274,12 +274,10 @@ private:
                 return QStringLiteral("child %1 has a spear").arg(child->title());
         }
         const bool isHead = bone.parent < 0;
-        if (!isHead
-            && (spear->parentItem() != at(bone.parent).subject->spear()
-                || spear->parentItem() == nullptr))
+        if (!isHead && (spear->parentItem() != at(bone.parent).subject->spear() ||
+                        spear->parentItem() == nullptr))
             return QStringLiteral("hangs elsewhere");
-        if (!isHead
-            && at(bone.parent).subject->spear()->childSpears().value(bone.row) != spear)
+        if (!isHead && at(bone.parent).subject->spear()->childSpears().value(bone.row) != spear)
             return QStringLiteral("is not in row %1").arg(bone.row);
         if (spear->direction() != bone.direction)
             return QStringLiteral("direction is %1").arg(spear->direction());
@@ -295,7 +293,9 @@ private:
             return mismatch("size", {spear->spearWidth(), spear->spearHeight()},
                             {bone.width, bone.height});
         if (!alike(spear->offset(), bone.offset))
-            return QStringLiteral("offset is %1, expected %2").arg(spear->offset()).arg(bone.offset);
+            return QStringLiteral("offset is %1, expected %2")
+                .arg(spear->offset())
+                .arg(bone.offset);
         if (!alike(spear->pos(), QPointF()))
             return mismatch("position", spear->pos(), QPointF());
         if (!alike(spear->line().p1(), bone.line.p1()))

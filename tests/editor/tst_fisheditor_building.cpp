@@ -45,8 +45,7 @@ private Q_SLOTS:
     void shouldExcludeItemsBelowOthers();
 };
 
-namespace
-{
+namespace {
 QString effect()
 {
     return QStringLiteral("Effect[Man[Train[Cost]],Machine[Wear],Method]");
@@ -345,10 +344,10 @@ void TestFishEditorBuilding::shouldGiveTheDirectionsOfANewSubtreeByItsLevel_data
 
     // The children of the top are made on the level of the top itself, and while the top hangs
     // nowhere yet. What is deeper follows the bone two above.
-    QTest::newRow("level 1, even row") << QStringLiteral("Effect") << 1 << 2
-                                       << QStringLiteral("1[1[0[1,1]],-1[0]]");
-    QTest::newRow("level 1, odd row") << QStringLiteral("Effect") << 1 << 3
-                                      << QStringLiteral("-1[1[0[1,1]],-1[0]]");
+    QTest::newRow("level 1, even row")
+        << QStringLiteral("Effect") << 1 << 2 << QStringLiteral("1[1[0[1,1]],-1[0]]");
+    QTest::newRow("level 1, odd row")
+        << QStringLiteral("Effect") << 1 << 3 << QStringLiteral("-1[1[0[1,1]],-1[0]]");
     QTest::newRow("level 2") << QStringLiteral("Machine") << 2 << 1
                              << QStringLiteral("0[0[0[0,0]],0[0]]");
     QTest::newRow("level 3") << QStringLiteral("m") << 3 << 0
@@ -368,9 +367,9 @@ void TestFishEditorBuilding::shouldGiveTheDirectionsOfANewSubtreeByItsLevel()
     fish.editor.generateSpear(fish.index(QStringLiteral("Other")), level, row, fish.spear(parent));
 
     QString text = spearTreeText(fish.spear(QStringLiteral("Other")));
-    for (const QString &title : {QStringLiteral("Other"), QStringLiteral("a"), QStringLiteral("b"),
-                                 QStringLiteral("c"), QStringLiteral("d"), QStringLiteral("e"),
-                                 QStringLiteral("f")})
+    for (const QString &title :
+         {QStringLiteral("Other"), QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c"),
+          QStringLiteral("d"), QStringLiteral("e"), QStringLiteral("f")})
         text.replace(title, QString::number(fish.spear(title)->direction()));
     QCOMPARE(text, directions);
 }
@@ -417,11 +416,11 @@ void TestFishEditorBuilding::shouldExpandEverythingThereIsToShow()
 
     fish.editor.expandAll();
 
-    QCOMPARE(flags(fish),
-             QStringLiteral("Effect+ Man+ Train+ Cost+ Machine+ Wear+ Method+"));
+    QCOMPARE(flags(fish), QStringLiteral("Effect+ Man+ Train+ Cost+ Machine+ Wear+ Method+"));
     QVERIFY(fish.spear(QStringLiteral("Cost"))->isVisible());
-    QCOMPARE(dynamic_cast<ExpandItem *>(fish.spear(QStringLiteral("Man"))->expandBuddy())->svgFile(),
-             QStringLiteral(":/fishboneDiagram/contract.svg"));
+    QCOMPARE(
+        dynamic_cast<ExpandItem *>(fish.spear(QStringLiteral("Man"))->expandBuddy())->svgFile(),
+        QStringLiteral(":/fishboneDiagram/contract.svg"));
     QCOMPARE(recorder.take(), QString());
 }
 
@@ -434,8 +433,7 @@ void TestFishEditorBuilding::shouldContractEverythingButTheHead()
 
     fish.editor.contractAll();
 
-    QCOMPARE(flags(fish),
-             QStringLiteral("Effect+ Man- Train- Cost- Machine- Wear- Method-"));
+    QCOMPARE(flags(fish), QStringLiteral("Effect+ Man- Train- Cost- Machine- Wear- Method-"));
     QCOMPARE(drawingText(fish.editor.headSpear()), drawn);
     QCOMPARE(recorder.take(), QString());
 }

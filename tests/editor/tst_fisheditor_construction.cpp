@@ -32,6 +32,8 @@ private Q_SLOTS:
     void shouldOwnItsScene();
     void shouldOwnItsUndoStack();
     void shouldReportWhetherAnythingIsSelected();
+    void shouldReportASelectionThatChangesAtOnceOnlyOnce();
+    void shouldReportASelectionWhenTheTreeIsWholeAgain();
     void shouldCarryOutAMoveAtOnce();
     void shouldCarryOutADropWhenTheDragHasEnded();
     void shouldAnswerARightClickWithAMenu();
@@ -52,8 +54,7 @@ private Q_SLOTS:
     void shouldMarkTheShownDocumentOnly();
 };
 
-namespace
-{
+namespace {
 /// A model that tells how many receivers a signal has.
 class CountingModel : public FishModel
 {
@@ -64,13 +65,13 @@ public:
     }
     int allListeners() const
     {
-        return listeners() + receivers(SIGNAL(modelReset()))
-            + receivers(SIGNAL(layoutChanged(QList<QPersistentModelIndex>,
-                                             QAbstractItemModel::LayoutChangeHint)))
-            + receivers(SIGNAL(rowsAboutToBeRemoved(QModelIndex, int, int)))
-            + receivers(SIGNAL(rowsInserted(QModelIndex, int, int)))
-            + receivers(SIGNAL(rowsMoved(QModelIndex, int, int, QModelIndex, int)))
-            + receivers(SIGNAL(destroyed(QObject *)));
+        return listeners() + receivers(SIGNAL(modelReset())) +
+               receivers(SIGNAL(layoutChanged(QList<QPersistentModelIndex>,
+                                              QAbstractItemModel::LayoutChangeHint))) +
+               receivers(SIGNAL(rowsAboutToBeRemoved(QModelIndex, int, int))) +
+               receivers(SIGNAL(rowsInserted(QModelIndex, int, int))) +
+               receivers(SIGNAL(rowsMoved(QModelIndex, int, int, QModelIndex, int))) +
+               receivers(SIGNAL(destroyed(QObject *)));
     }
 };
 
@@ -174,6 +175,51 @@ void TestFishEditorConstruction::shouldReportWhetherAnythingIsSelected()
     QCOMPARE(recorder.take(), QStringLiteral("copyAvailable(true)"));
     fish.editor.scene()->clearSelection();
     QCOMPARE(recorder.take(), QStringLiteral("copyAvailable(false)"));
+}
+
+void TestFishEditorConstruction::shouldReportASelectionThatChangesAtOnceOnlyOnce()
+{
+    EditorFixture fish(QStringLiteral("Effect[Man[Training,Cost,Time],Machine[Wear]]"));
+    fish.editor.expandAll();
+    SignalRecorder recorder(fish.editor);
+
+    fish.editor.selectAll();
+    QCOMPARE(recorder.take(), QStringLiteral("copyAvailable(true)"));
+    // What is hidden is not selected any more, while head and main bones stay so.
+    fish.editor.contractAll();
+    QCOMPARE(fish.editor.selectedItems().size(), 3);
+    QCOMPARE(recorder.take(), QStringLiteral("copyAvailable(true)"));
+    fish.editor.expandAll();
+    fish.select({QStringLiteral("Cost"), QStringLiteral("Time"), QStringLiteral("Wear")});
+    recorder.take();
+    fish.editor.del();
+    QCOMPARE(recorder.take(), QStringLiteral("copyAvailable(false)"));
+    fish.editor.undo();
+    fish.editor.expandAll();
+    fish.editor.selectAll();
+    recorder.take();
+    fish.editor.redo();
+    QCOMPARE(recorder.take(), QStringLiteral("copyAvailable(false)"));
+    fish.editor.selectAll();
+    recorder.take();
+    fish.editor.setRootIndex(QModelIndex());
+    QCOMPARE(recorder.take(), QStringLiteral("copyAvailable(false)"));
+}
+
+void TestFishEditorConstruction::shouldReportASelectionWhenTheTreeIsWholeAgain()
+{
+    EditorFixture fish(QStringLiteral("Effect[Man[Training,Cost],Machine[Wear]]"));
+    fish.editor.expandAll();
+    fish.select({QStringLiteral("Man"), QStringLiteral("Wear")});
+    QStringList seen;
+    connect(&fish.editor, &FishEditor::copyAvailable, &fish.editor, [&fish, &seen] {
+        seen.append(treeToText(*fish.subject(QStringLiteral("Effect"))) + QLatin1Char('/') +
+                    spearTreeText(fish.editor.headSpear()));
+    });
+
+    fish.editor.del();
+
+    QCOMPARE(seen, QStringList{QStringLiteral("Effect[Machine]/Effect[Machine]")});
 }
 
 void TestFishEditorConstruction::shouldCarryOutAMoveAtOnce()
@@ -386,8 +432,7 @@ void TestFishEditorConstruction::shouldTellTheTypeOfItsModel()
     QCOMPARE(editor.modelType(), 0);
 }
 
-namespace
-{
+namespace {
 /// Everything that needs a diagram, on an editor that has none.
 void useEverything(FishEditor &editor, const QModelIndex &index)
 {

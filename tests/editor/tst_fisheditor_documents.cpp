@@ -42,8 +42,7 @@ private Q_SLOTS:
     void shouldIgnoreTheDeathOfALaterModel();
 };
 
-namespace
-{
+namespace {
 QString effect()
 {
     return QStringLiteral("Effect[Man[Train[Cost]],Machine[Wear],Method]");
@@ -137,8 +136,8 @@ void TestFishEditorDocuments::shouldDieInAnyOrder_data()
 {
     QTest::addColumn<QString>("order");
 
-    QStringList order{QStringLiteral("editor1"), QStringLiteral("editor2"),
-                      QStringLiteral("model"), QStringLiteral("window")};
+    QStringList order{QStringLiteral("editor1"), QStringLiteral("editor2"), QStringLiteral("model"),
+                      QStringLiteral("window")};
     std::sort(order.begin(), order.end());
     do {
         const QString text = order.join(QLatin1Char(' '));
@@ -369,8 +368,7 @@ void TestFishEditorDocuments::shouldShowADocumentThatUndoBringsBack()
     QCOMPARE(fish.editor.currentFishInfo(), info);
     QVERIFY(info);
     QCOMPARE(info->fileName(), QStringLiteral("mine.json"));
-    QCOMPARE(spearTreeText(fish.editor.headSpear()),
-             QStringLiteral("Effect[Man,Machine,Method]"));
+    QCOMPARE(spearTreeText(fish.editor.headSpear()), QStringLiteral("Effect[Man,Machine,Method]"));
 }
 
 void TestFishEditorDocuments::shouldShowNothingAgainWhenTheDeletionIsRedone()
@@ -382,8 +380,7 @@ void TestFishEditorDocuments::shouldShowNothingAgainWhenTheDeletionIsRedone()
     fish.editor.redo();
     expectNothing(fish.editor);
     fish.editor.undo();
-    QCOMPARE(spearTreeText(fish.editor.headSpear()),
-             QStringLiteral("Effect[Man,Machine,Method]"));
+    QCOMPARE(spearTreeText(fish.editor.headSpear()), QStringLiteral("Effect[Man,Machine,Method]"));
 
     // A host that shows something else meanwhile keeps it.
     loadDocument(fish.model, QStringLiteral("Other[Bone]"));
@@ -405,8 +402,7 @@ void TestFishEditorDocuments::shouldShowTheSubjectInsertedAboveTheHead()
     QCOMPARE(fish.editor.currentFishInfo(), fish.info);
 
     fish.editor.undo();
-    QCOMPARE(spearTreeText(fish.editor.headSpear()),
-             QStringLiteral("Effect[Man,Machine,Method]"));
+    QCOMPARE(spearTreeText(fish.editor.headSpear()), QStringLiteral("Effect[Man,Machine,Method]"));
     QCOMPARE(fish.editor.rootIndex(), fish.model.index(0, 0));
     QCOMPARE(fish.subject(QStringLiteral("Effect"))->pid(), pid);
 
@@ -421,7 +417,8 @@ void TestFishEditorDocuments::shouldSurviveTheDeathOfItsSpears()
 
     delete fish.spear(QStringLiteral("Man"));
     fish.editor.updateFish(false);
-    QCOMPARE(spearTreeText(fish.editor.headSpear()), QStringLiteral("Effect[Machine[Wear],Method]"));
+    QCOMPARE(spearTreeText(fish.editor.headSpear()),
+             QStringLiteral("Effect[Machine[Wear],Method]"));
 
     delete fish.editor.headSpear();
     QVERIFY(!fish.editor.headSpear());
@@ -431,8 +428,7 @@ void TestFishEditorDocuments::shouldSurviveTheDeathOfItsSpears()
     QCOMPARE(SpearItem::m_refCount, 0);
 
     fish.editor.updateFish(true);
-    QCOMPARE(spearTreeText(fish.editor.headSpear()),
-             QStringLiteral("Effect[Man,Machine,Method]"));
+    QCOMPARE(spearTreeText(fish.editor.headSpear()), QStringLiteral("Effect[Man,Machine,Method]"));
     fish.editor.scene()->clear();
     QVERIFY(!fish.editor.headSpear());
     useEverything(fish.editor);

@@ -28,8 +28,7 @@ private Q_SLOTS:
     void shouldNeverSayThatContentsChanged();
 };
 
-namespace
-{
+namespace {
 /// "zoomIn(int level)": the types and names of the parameters as declared.
 QString declarationOf(const QMetaMethod &method)
 {
@@ -169,8 +168,8 @@ void TestFishEditorInterface::shouldRegisterTheTypesOfItsSlots()
 void TestFishEditorInterface::shouldRunItsSlotsByName()
 {
     EditorFixture fish(QStringLiteral("Effect[Man[Training],Machine]"));
-    auto *const item = new TreeItem(QStringLiteral("New"), QStringLiteral("u-New"),
-                                    QString(), QString(), 0);
+    auto *const item =
+        new TreeItem(QStringLiteral("New"), QStringLiteral("u-New"), QString(), QString(), 0);
 
     QVERIFY(QMetaObject::invokeMethod(&fish.editor, "insertChildSubject",
                                       Q_ARG(QModelIndex, fish.index(QStringLiteral("Man"))),
@@ -193,15 +192,16 @@ void TestFishEditorInterface::shouldPassEveryArgumentOfAQueuedSignal()
 {
     FishEditor editor;
     QString received;
-    connect(&editor, &FishEditor::changeTaskParent, &editor,
-            [&received](const QStringList &ids, const QString &parent, CHANGE_PARENT_TYPE type) {
-                received = QStringLiteral("%1 %2 %3").arg(ids.join(QLatin1Char('+')), parent)
-                               .arg(int(type));
-            },
-            Qt::QueuedConnection);
+    connect(
+        &editor, &FishEditor::changeTaskParent, &editor,
+        [&received](const QStringList &ids, const QString &parent, CHANGE_PARENT_TYPE type) {
+            received =
+                QStringLiteral("%1 %2 %3").arg(ids.join(QLatin1Char('+')), parent).arg(int(type));
+        },
+        Qt::QueuedConnection);
 
-    Q_EMIT editor.changeTaskParent({QStringLiteral("a"), QStringLiteral("b")},
-                                   QStringLiteral("p"), CHANGE_PARENT_BY_MOVE);
+    Q_EMIT editor.changeTaskParent({QStringLiteral("a"), QStringLiteral("b")}, QStringLiteral("p"),
+                                   CHANGE_PARENT_BY_MOVE);
 
     QCOMPARE(received, QString());
     QTRY_COMPARE(received, QStringLiteral("a+b p 1"));

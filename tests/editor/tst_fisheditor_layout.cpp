@@ -45,8 +45,7 @@ private Q_SLOTS:
     void shouldRepaintNothingOnceItIsPainted();
 };
 
-namespace
-{
+namespace {
 const double cos70 = std::cos(qDegreesToRadians(70.0));
 
 /// The width that a slanted bone without children takes up.
@@ -133,8 +132,8 @@ void TestFishEditorLayout::shouldStackTheChildrenOfASlantedBone()
             // On the bone, at that distance from where it starts.
             QLineF along(bone->line().p1(), child->line().p1());
             QCOMPARE(along.length(), expected);
-            QVERIFY(qAbs(along.angleTo(bone->line())) < 1e-6
-                    || qAbs(along.angleTo(bone->line()) - 360) < 1e-6);
+            QVERIFY(qAbs(along.angleTo(bone->line())) < 1e-6 ||
+                    qAbs(along.angleTo(bone->line()) - 360) < 1e-6);
             QCOMPARE(child->line().y2(), child->line().y1());
             expected += child->spearHeight();
         }
@@ -305,8 +304,7 @@ void TestFishEditorLayout::shouldRebuildWhenAsked()
 {
     EditorFixture fish(QStringLiteral("Effect[Man[a],Machine[b]]"));
     fish.editor.expandAll();
-    QCOMPARE(spearTreeText(fish.editor.headSpear()),
-             QStringLiteral("Effect[Man[a],Machine[b]]"));
+    QCOMPARE(spearTreeText(fish.editor.headSpear()), QStringLiteral("Effect[Man[a],Machine[b]]"));
 
     fish.editor.updateFish(false);
     QVERIFY(fish.spear(QStringLiteral("Man"))->isExpand());

@@ -38,10 +38,9 @@ private:
     }
 };
 
-namespace
-{
-/// An editor on a random document, whose bones are expanded at random. Keeps its own account of which
-/// subjects have to have a spear and which are expanded.
+namespace {
+/// An editor on a random document, whose bones are expanded at random. Keeps its own account of
+/// which subjects have to have a spear and which are expanded.
 class RandomDiagram : public EditorFixture
 {
 public:
@@ -259,8 +258,7 @@ void TestFishEditorRandomLayout::shouldGiveTheSamePixelsAfterARebuild()
     QCOMPARE(rendered(*fish.editor.scene()), drawn);
 }
 
-namespace
-{
+namespace {
 /// One random edit of one or more random spears.
 void editAtRandom(RandomDiagram &fish)
 {

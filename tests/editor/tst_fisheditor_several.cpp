@@ -37,8 +37,7 @@ private Q_SLOTS:
     void shouldForgetEachSubjectOnce();
 };
 
-namespace
-{
+namespace {
 /// One model with two documents and two editors, each on its own.
 class Pair : public EditorFixture
 {
@@ -252,8 +251,7 @@ void TestSeveralFishEditors::shouldExpandInTheEditorWhoseButtonIsPressed()
     QVERIFY(first.show());
 
     click(first.editor, first.spear(QStringLiteral("Man"))->expandBuddy());
-    QCOMPARE(spearTreeText(first.editor.headSpear()),
-             QStringLiteral("Effect[Man[Train],Machine]"));
+    QCOMPARE(spearTreeText(first.editor.headSpear()), QStringLiteral("Effect[Man[Train],Machine]"));
     QCOMPARE(spearTreeText(second.editor.headSpear()), QStringLiteral("Other[Bone,Rib]"));
 
     click(second.editor, second.spear(QStringLiteral("Bone"))->expandBuddy());

@@ -50,8 +50,7 @@ private Q_SLOTS:
     void shouldAskToEditADoubleClickedSubject();
 };
 
-namespace
-{
+namespace {
 QString effect()
 {
     return QStringLiteral("Effect[Man[Train],Machine]");
@@ -61,11 +60,14 @@ QString effect()
 QString look(const FishEditor &editor)
 {
     const QTransform &matrix = editor.view()->transform();
-    const QPointF middle =
-        editor.view()->mapToScene(editor.view()->viewport()->rect().center());
+    const QPointF middle = editor.view()->mapToScene(editor.view()->viewport()->rect().center());
     return QStringLiteral("%1 %2 %3 %4 at %5 %6")
-        .arg(matrix.m11()).arg(matrix.m12()).arg(matrix.m21()).arg(matrix.m22())
-        .arg(middle.x()).arg(middle.y());
+        .arg(matrix.m11())
+        .arg(matrix.m12())
+        .arg(matrix.m21())
+        .arg(matrix.m22())
+        .arg(middle.x())
+        .arg(middle.y());
 }
 
 /// Whether \a rect is wholly in view with 50 pixels around it, give or take a pixel.
@@ -382,8 +384,8 @@ void TestFishEditorViewport::shouldFitNothingIntoATinyView()
 
     fish.editor.equalRatio(QRectF(0, 0, 0.5, 0.5));
 
-    QCOMPARE(recorder.take(), fits
-                 ? QStringLiteral("zoomValueChanged(300), rotateValueChanged(0)") : QString());
+    QCOMPARE(recorder.take(),
+             fits ? QStringLiteral("zoomValueChanged(300), rotateValueChanged(0)") : QString());
     QCOMPARE(view->transform(), fits ? QTransform::fromScale(2, 2) : before);
     QCOMPARE(fish.editor.zoomValue(), fits ? 300 : 250);
 }
@@ -455,8 +457,8 @@ void TestFishEditorViewport::shouldUniteSelectedRectangles()
     EditorFixture fish(effect());
     QVERIFY(fish.show(false));
     fish.select({QStringLiteral("Man"), QStringLiteral("Machine")});
-    const QRectF united = fish.spear(QStringLiteral("Man"))->boundingRect()
-        | fish.spear(QStringLiteral("Machine"))->boundingRect();
+    const QRectF united = fish.spear(QStringLiteral("Man"))->boundingRect() |
+                          fish.spear(QStringLiteral("Machine"))->boundingRect();
     const QSizeF available = fish.editor.view()->viewport()->size() - QSize(100, 100);
 
     fish.editor.showSelected();

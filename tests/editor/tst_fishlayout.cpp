@@ -34,8 +34,7 @@ private Q_SLOTS:
     void shouldNoticeNoSpearsThatComeLater();
 };
 
-namespace
-{
+namespace {
 /// A tree of spears in a scene, by name. Expanded unless said otherwise.
 class SpearTree
 {
@@ -183,8 +182,7 @@ void TestFishLayout::shouldPlaceTheBonesOfAHeadOnTwoSides()
     SpearTree tree;
     QList<SpearItem *> bones;
     for (const QString &text : {QStringLiteral("aaaaaa"), QStringLiteral("b"),
-                                QStringLiteral("cccc"), QStringLiteral("dd"),
-                                QStringLiteral("e")})
+                                QStringLiteral("cccc"), QStringLiteral("dd"), QStringLiteral("e")})
         bones.append(tree.add(tree.head, text, 0));
 
     layOut(tree.head);

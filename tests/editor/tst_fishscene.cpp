@@ -27,8 +27,7 @@ private Q_SLOTS:
     void shouldNotHandleItsSelectionByItself();
 };
 
-namespace
-{
+namespace {
 /// A scene with selectable items and the handling under test.
 class SelectionFixture
 {
@@ -161,8 +160,7 @@ void TestFishScene::shouldRememberTheFirstOfThoseThatStay()
     staying.removeLast(); // nothing was remembered
     fixture.scene.handleSelectionChanged();
     QList<int> left = fixture.selection();
-    QCOMPARE(QSet<int>(left.cbegin(), left.cend()),
-             QSet<int>(staying.cbegin(), staying.cend()));
+    QCOMPARE(QSet<int>(left.cbegin(), left.cend()), QSet<int>(staying.cbegin(), staying.cend()));
 
     // What was remembered shows in which one goes next.
     left.removeOne(left.first() == staying.first() ? left.first() : left.last());

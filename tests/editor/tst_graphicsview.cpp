@@ -50,8 +50,7 @@ private Q_SLOTS:
     void shouldPutEverythingBackWithoutATarget();
 };
 
-namespace
-{
+namespace {
 QString effect()
 {
     return QStringLiteral("Effect[Man[Train,Cost,Time],Machine[Wear],Method,Matter]");
@@ -75,13 +74,12 @@ public:
                                 const QModelIndex &target, int row) {
                              QStringList titles;
                              for (const QGraphicsItem *item : items)
-                                 titles.append(
-                                     qgraphicsitem_cast<const SpearItem *>(item)->text());
-                             moves.append(QStringLiteral("%1 to %2 row %3").arg(
-                                 titles.join(QLatin1Char('+')),
-                                 target.isValid() ? target.data().toString()
-                                                  : QStringLiteral("nothing"),
-                                 QString::number(row)));
+                                 titles.append(qgraphicsitem_cast<const SpearItem *>(item)->text());
+                             moves.append(QStringLiteral("%1 to %2 row %3")
+                                              .arg(titles.join(QLatin1Char('+')),
+                                                   target.isValid() ? target.data().toString()
+                                                                    : QStringLiteral("nothing"),
+                                                   QString::number(row)));
                              position = pos;
                          });
         if (!connected)
@@ -138,8 +136,8 @@ private:
     QStringList all() const
     {
         QStringList titles;
-        for (const char *title : {"Effect", "Man", "Train", "Cost", "Time", "Machine", "Wear",
-                                  "Method", "Matter"}) {
+        for (const char *title :
+             {"Effect", "Man", "Train", "Cost", "Time", "Machine", "Wear", "Method", "Matter"}) {
             if (spear(title))
                 titles.append(QString::fromLatin1(title));
         }
@@ -155,8 +153,8 @@ void TestGraphicsView::shouldBeSetUpForADiagram()
 
     QVERIFY(!view.parent());
     QVERIFY(view.acceptDrops());
-    QCOMPARE(view.renderHints(), QPainter::Antialiasing | QPainter::TextAntialiasing
-                 | QPainter::SmoothPixmapTransform);
+    QCOMPARE(view.renderHints(),
+             QPainter::Antialiasing | QPainter::TextAntialiasing | QPainter::SmoothPixmapTransform);
     QCOMPARE(view.dragMode(), QGraphicsView::ScrollHandDrag);
     QCOMPARE(int(view.optimizationFlags()), int(QGraphicsView::DontSavePainterState));
     QCOMPARE(view.viewportUpdateMode(), QGraphicsView::SmartViewportUpdate);
@@ -172,14 +170,15 @@ void TestGraphicsView::shouldDeclareSignalsInOrder()
     for (int i = type.methodOffset(); i < type.methodCount(); ++i) {
         const QMetaMethod method = type.method(i);
         QVERIFY(method.methodType() == QMetaMethod::Signal);
-        declared.append(QStringLiteral("%1 %2").arg(
-            QString::fromLatin1(method.methodSignature()),
-            QString::fromLatin1(method.parameterNames().join(' '))));
+        declared.append(
+            QStringLiteral("%1 %2").arg(QString::fromLatin1(method.methodSignature()),
+                                        QString::fromLatin1(method.parameterNames().join(' '))));
     }
 
     const QStringList expected{
         QStringLiteral("rightClicked(void*) item"),
-        QStringLiteral("moveSpear(QPoint,QList<QGraphicsItem*>,QModelIndex,int) pos items target row"),
+        QStringLiteral(
+            "moveSpear(QPoint,QList<QGraphicsItem*>,QModelIndex,int) pos items target row"),
         QStringLiteral("dropTo(const QMimeData*,QModelIndex,int) data target row"),
         QStringLiteral("spearItemClicked(SpearItem*) spear"),
     };
@@ -271,8 +270,8 @@ void TestGraphicsView::shouldFadeForTheLeftButtonOnly()
     stage.mouse.press(stage.tip("Method"), Qt::MouseButton(button));
     QCOMPARE(stage.faded(), button == Qt::LeftButton ? QStringLiteral("Method") : QString());
     stage.mouse.release(stage.tip("Method"), Qt::MouseButton(button));
-    QCOMPARE(stage.takeMoves(), button == Qt::LeftButton
-                 ? QStringLiteral("Method to nothing row 0") : QString());
+    QCOMPARE(stage.takeMoves(),
+             button == Qt::LeftButton ? QStringLiteral("Method to nothing row 0") : QString());
 }
 
 void TestGraphicsView::shouldFadeWhateverModifierIsHeld()
@@ -308,8 +307,7 @@ void TestGraphicsView::shouldReportTheMovedSpearsInDocumentOrder()
     stage.mouse.click(stage.tip("Matter"));
 
     // All of them, nested ones included.
-    QCOMPARE(stage.takeMoves(),
-             QStringLiteral("Man+Train+Cost+Wear+Matter to nothing row 0"));
+    QCOMPARE(stage.takeMoves(), QStringLiteral("Man+Train+Cost+Wear+Matter to nothing row 0"));
 }
 
 void TestGraphicsView::shouldReportNothingWithoutASelection()
@@ -457,7 +455,9 @@ void TestGraphicsView::shouldFollowTheMouseAlongOneTarget()
         return stage.view.mapFromScene(man->mapToScene(man->line().pointAt(part)));
     };
     const QList<SpearItem *> children = man->childSpears();
-    const auto partOf = [man](const SpearItem *child) { return child->offset() / man->line().length(); };
+    const auto partOf = [man](const SpearItem *child) {
+        return child->offset() / man->line().length();
+    };
 
     stage.mouse.move(at(partOf(children.at(0)) / 2));
     QCOMPARE(stage.linked(), QStringLiteral("Man 0"));

@@ -42,8 +42,7 @@ private Q_SLOTS:
     void shouldShowChildrenThatWereMadeJustNow();
 };
 
-namespace
-{
+namespace {
 /// An expanded diagram on the screen.
 class Stage : public EditorFixture
 {
@@ -81,11 +80,10 @@ public:
     explicit MenuRequests(Stage &stage)
     {
         QObject::disconnect(&stage.view, &GraphicsView::rightClicked, &stage.editor, nullptr);
-        QObject::connect(&stage.view, &GraphicsView::rightClicked, &stage.view,
-                         [this](void *item) {
-                             m_texts.append(item ? static_cast<SpearItem *>(item)->text()
-                                                 : QStringLiteral("canvas"));
-                         });
+        QObject::connect(&stage.view, &GraphicsView::rightClicked, &stage.view, [this](void *item) {
+            m_texts.append(item ? static_cast<SpearItem *>(item)->text()
+                                : QStringLiteral("canvas"));
+        });
     }
 
     QString take()
@@ -158,8 +156,8 @@ void TestGraphicsViewEvents::shouldFindTheRowOnAHorizontalBone()
     const QList<SpearItem *> bones = head.editor.headSpear()->childSpears();
     for (int x = -300; x < 1200; x += 3) {
         int expected = 0;
-        while (expected < 4
-               && !(bones.at(expected)->line().x1() <= head.view.mapToScene(x, 50).x()))
+        while (expected < 4 &&
+               !(bones.at(expected)->line().x1() <= head.view.mapToScene(x, 50).x()))
             ++expected;
         QCOMPARE(head.view.insertRow({x, 50}, nullptr), expected);
     }
@@ -348,8 +346,7 @@ void TestGraphicsViewEvents::shouldExpandABoneByItsButton()
     };
     const ReferenceLayout reference(
         stage.model, node("Effect"),
-        {node("Man"), node("Train"), node("Cost"), node("Machine"), node("Method")},
-        {node("Man")});
+        {node("Man"), node("Train"), node("Cost"), node("Machine"), node("Method")}, {node("Man")});
     QCOMPARE(reference.differenceTo(stage.editor.headSpear()), QString());
     QCOMPARE(dynamic_cast<ExpandItem *>(man->expandBuddy())->svgFile(),
              QStringLiteral(":/fishboneDiagram/contract.svg"));

@@ -34,8 +34,7 @@ private Q_SLOTS:
     void shouldReplaceTheIconOfAnotherLink();
 };
 
-namespace
-{
+namespace {
 /// A model with a document, and a builder on it. Spears without a scene are deleted at the end.
 class BuilderFixture
 {
@@ -64,7 +63,8 @@ public:
 
 private:
     Q_DISABLE_COPY(BuilderFixture)
-    QAbstractItemModelTester m_tester{&model, QAbstractItemModelTester::FailureReportingMode::QtTest};
+    QAbstractItemModelTester m_tester{&model,
+                                      QAbstractItemModelTester::FailureReportingMode::QtTest};
 };
 
 QString linkOf(const SpearItem *spear)
@@ -239,8 +239,8 @@ void TestSpearBuilder::shouldGiveIconsToSubjectsWithALink()
 {
     BuilderFixture fixture(QStringLiteral("Effect[Man[Train],Machine]"));
     for (const char *title : {"Effect", "Man", "Train"})
-        fixture.subject(title)->setUrl(QStringLiteral("https://example.org/")
-                                       + QString::fromLatin1(title));
+        fixture.subject(title)->setUrl(QStringLiteral("https://example.org/") +
+                                       QString::fromLatin1(title));
     fixture.buildHead();
     fixture.builder.buildChildren(fixture.index("Man"));
 

@@ -87,8 +87,8 @@ QStringList svgTexts(const QByteArray &svg)
     QStringList texts;
     QXmlStreamReader reader(svg);
     while (!reader.atEnd()) {
-        if (reader.readNext() == QXmlStreamReader::StartElement
-            && reader.name() == QLatin1String("text"))
+        if (reader.readNext() == QXmlStreamReader::StartElement &&
+            reader.name() == QLatin1String("text"))
             texts.append(reader.readElementText());
     }
     return reader.hasError() ? QStringList() : texts;
@@ -381,8 +381,8 @@ void TestPictureExport::shouldEscapeTheTitleOfTheSvg()
     QXmlStreamReader reader(rendered(scene, Format::Svg, options));
     QString title;
     while (!reader.atEnd()) {
-        if (reader.readNext() == QXmlStreamReader::StartElement
-            && reader.name() == QLatin1String("title"))
+        if (reader.readNext() == QXmlStreamReader::StartElement &&
+            reader.name() == QLatin1String("title"))
             title = reader.readElementText();
     }
     QVERIFY2(!reader.hasError(), qPrintable(reader.errorString()));
@@ -597,8 +597,7 @@ void TestPictureExport::shouldReportATargetThatCannotBeWritten()
     QVERIFY(QDir(folder.path()).mkdir(QStringLiteral("folder.png")));
 
     for (const char *name : {"missing/a.png", "folder.png"}) {
-        const auto result =
-            PictureExport::write(scene, folder.filePath(QString::fromLatin1(name)));
+        const auto result = PictureExport::write(scene, folder.filePath(QString::fromLatin1(name)));
         QCOMPARE(result.error, Error::CannotWrite);
         QVERIFY(!result.reason.isEmpty());
     }

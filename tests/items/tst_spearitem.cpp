@@ -8,6 +8,7 @@
 #include <QtTest>
 
 #include <fishbone/items/linkitem.h>
+#include <fishbone/items/svgcache.h>
 #include <fishbone/items/taskstatusitem.h>
 #include <fishbone/items/textitem.h>
 #include <tests/support/drawing.h>
@@ -24,6 +25,7 @@ private Q_SLOTS:
     void shouldBeFreshAfterConstruction();
     void shouldHaveTextAndStatusItemsOfItsOwn();
     void shouldShareThePicturesAndReleaseThemWithTheLastSpear();
+    void shouldParseEachPictureOnceHoweverManySpearsThereAre();
     void shouldStoreTheLinkMark();
     void shouldStoreTheMovingMark();
     void shouldShowAndHideItsChildSpears();
@@ -121,6 +123,29 @@ void TestSpearItem::shouldShareThePicturesAndReleaseThemWithTheLastSpear()
         QCOMPARE(SpearItem::m_pixHeader, nullptr);
         QCOMPARE(SpearItem::m_pixTail, nullptr);
     }
+}
+
+void TestSpearItem::shouldParseEachPictureOnceHoweverManySpearsThereAre()
+{
+    const auto draw = [] {
+        const Drawing drawing(QStringLiteral("Effect[A[B[C,D],E],F[G,H[I]],J,K]"));
+        for (const QString &title :
+             {QStringLiteral("A"), QStringLiteral("C"), QStringLiteral("J")}) {
+            SpearItem *const spear = drawing.spear(title);
+            spear->setLinkItem(std::make_unique<LinkItem>(title).release());
+            spear->setTaskStatus(tsFinish);
+            spear->setExpand(!spear->isExpand());
+            drawing.layOut();
+        }
+    };
+    draw();
+    const int parsed = parsedSvgFileCount();
+    QVERIFY(parsed >= 5); // head, tail, link, status and button
+
+    draw();
+    draw();
+
+    QCOMPARE(parsedSvgFileCount(), parsed);
 }
 
 void TestSpearItem::shouldStoreTheLinkMark()

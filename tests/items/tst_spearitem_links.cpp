@@ -1,17 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The Fishbone authors
 // SPDX-License-Identifier: MIT
 
-// The part of SpearItem that concerns what it is linked with: its subject and its companions.
+// The part of SpearItem that concerns the link with its subject.
 
 #include <fishbone/items/spearitem.h>
 
-#include <QGraphicsRectItem>
 #include <QStandardItemModel>
 #include <QtTest>
 
-#include <fishbone/items/expanditem.h>
-#include <fishbone/items/linkitem.h>
-#include <fishbone/items/spearpointer.h>
 #include <fishbone/items/taskstatusitem.h>
 #include <tests/support/drawing.h>
 #include <tests/support/pictures.h>
@@ -27,28 +23,6 @@ std::unique_ptr<SpearItem> newSpear()
     return std::make_unique<SpearItem>(QStringLiteral("Cause"), 0, 20.0);
 }
 
-/// An item that counts how many of its kind are deleted.
-class CountedItem : public QGraphicsRectItem
-{
-public:
-    explicit CountedItem(int *deletions)
-        : QGraphicsRectItem(0, 0, 24, 10)
-        , m_deletions(deletions)
-    {
-    }
-    ~CountedItem() override { ++*m_deletions; }
-
-private:
-    int *m_deletions;
-};
-
-/// A kind of companion: how it is given to a spear and asked for.
-struct Companion
-{
-    void (SpearItem::*set)(QGraphicsItem *);
-    QGraphicsItem *(SpearItem::*get)() const;
-};
-
 /// Ways to let the spear or the node of "Man" die.
 enum class Death {
     DeleteSpear,
@@ -63,7 +37,6 @@ enum class Death {
 };
 } // namespace
 
-Q_DECLARE_METATYPE(Companion)
 Q_DECLARE_METATYPE(Death)
 
 class TestSpearItemLinks : public QObject
@@ -85,22 +58,6 @@ private Q_SLOTS:
     void shouldLeaveNothingDangling();
     void shouldGoOnWithoutASubject();
     void shouldHaveNoIndexWhileItsSubjectIsOutOfTheModel();
-
-    void shouldAdoptACompanion_data();
-    void shouldAdoptACompanion();
-    void shouldDeleteTheCompanionThatIsReplaced_data();
-    void shouldDeleteTheCompanionThatIsReplaced();
-    void shouldDeleteTheCompanionForNone_data();
-    void shouldDeleteTheCompanionForNone();
-    void shouldKeepTheSameCompanion_data();
-    void shouldKeepTheSameCompanion();
-    void shouldForgetACompanionThatDies_data();
-    void shouldForgetACompanionThatDies();
-    void shouldForgetACompanionGivenToAnother_data();
-    void shouldForgetACompanionGivenToAnother();
-    void shouldTakeItsCompanionsAlong_data();
-    void shouldTakeItsCompanionsAlong();
-    void shouldPlaceACompanionAtOnce();
 };
 
 void TestSpearItemLinks::shouldLinkBothEndsForAnIndex()
@@ -369,195 +326,6 @@ void TestSpearItemLinks::shouldHaveNoIndexWhileItsSubjectIsOutOfTheModel()
 
     drawing.model.insertExistItemRows(head, {taken});
     QCOMPARE(spear->modelIndex(), drawing.model.index(0, 0, head));
-}
-
-void TestSpearItemLinks::shouldAdoptACompanion_data()
-{
-    QTest::addColumn<Companion>("companion");
-    QTest::addColumn<bool>("inScene");
-
-    const Companion link{&SpearItem::setLinkItem, &SpearItem::linkItem};
-    const Companion expand{&SpearItem::setExpandBuddy, &SpearItem::expandBuddy};
-    QTest::newRow("link") << link << false;
-    QTest::newRow("link in a scene") << link << true;
-    QTest::newRow("expand button") << expand << false;
-    QTest::newRow("expand button in a scene") << expand << true;
-}
-
-namespace {
-/// A spear, in a scene or not, with a companion of one kind.
-struct Owner
-{
-    Owner(const Companion &kind, bool inScene)
-        : m_kind(kind)
-    {
-        auto made = newSpear();
-        spear = made.get();
-        if (inScene)
-            scene.addItem(made.release());
-        else
-            owned = std::move(made);
-        give(spear, first = std::make_unique<CountedItem>(&deletions).release());
-    }
-
-    void give(SpearItem *to, QGraphicsItem *item) const { (to->*m_kind.set)(item); }
-    QGraphicsItem *companion() const { return (spear->*m_kind.get)(); }
-
-    QGraphicsScene scene;
-    std::unique_ptr<SpearItem> owned;
-    SpearItem *spear = nullptr;
-    CountedItem *first = nullptr;
-    int deletions = 0;
-
-private:
-    Companion m_kind;
-};
-} // namespace
-
-void TestSpearItemLinks::shouldAdoptACompanion()
-{
-    QFETCH(Companion, companion);
-    QFETCH(bool, inScene);
-    const Owner owner(companion, inScene);
-
-    QCOMPARE(owner.companion(), owner.first);
-    QCOMPARE(owner.first->parentItem(), owner.spear);
-    QCOMPARE(owner.first->scene(), owner.spear->scene());
-    QCOMPARE(owner.deletions, 0);
-}
-
-void TestSpearItemLinks::shouldDeleteTheCompanionThatIsReplaced_data()
-{
-    shouldAdoptACompanion_data();
-}
-
-void TestSpearItemLinks::shouldDeleteTheCompanionThatIsReplaced()
-{
-    QFETCH(Companion, companion);
-    QFETCH(bool, inScene);
-    Owner owner(companion, inScene);
-    int laterDeletions = 0;
-    auto *const second = std::make_unique<CountedItem>(&laterDeletions).release();
-
-    owner.give(owner.spear, second);
-
-    QCOMPARE(owner.deletions, 1);
-    QCOMPARE(laterDeletions, 0);
-    QCOMPARE(owner.companion(), second);
-    QCOMPARE(second->parentItem(), owner.spear);
-}
-
-void TestSpearItemLinks::shouldDeleteTheCompanionForNone_data()
-{
-    shouldAdoptACompanion_data();
-}
-
-void TestSpearItemLinks::shouldDeleteTheCompanionForNone()
-{
-    QFETCH(Companion, companion);
-    QFETCH(bool, inScene);
-    const Owner owner(companion, inScene);
-
-    owner.give(owner.spear, nullptr);
-    QCOMPARE(owner.deletions, 1);
-    QCOMPARE(owner.companion(), nullptr);
-
-    owner.give(owner.spear, nullptr);
-    QCOMPARE(owner.deletions, 1);
-}
-
-void TestSpearItemLinks::shouldKeepTheSameCompanion_data()
-{
-    shouldAdoptACompanion_data();
-}
-
-void TestSpearItemLinks::shouldKeepTheSameCompanion()
-{
-    QFETCH(Companion, companion);
-    QFETCH(bool, inScene);
-    const Owner owner(companion, inScene);
-
-    owner.give(owner.spear, owner.first);
-
-    QCOMPARE(owner.deletions, 0);
-    QCOMPARE(owner.companion(), owner.first);
-    QCOMPARE(owner.first->parentItem(), owner.spear);
-}
-
-void TestSpearItemLinks::shouldForgetACompanionThatDies_data()
-{
-    shouldAdoptACompanion_data();
-}
-
-void TestSpearItemLinks::shouldForgetACompanionThatDies()
-{
-    QFETCH(Companion, companion);
-    QFETCH(bool, inScene);
-    Owner owner(companion, inScene);
-
-    delete owner.first;
-
-    QCOMPARE(owner.companion(), nullptr);
-    owner.spear->updatePosition(QPointF());
-    auto *const second = std::make_unique<CountedItem>(&owner.deletions).release();
-    owner.give(owner.spear, second);
-    QCOMPARE(owner.companion(), second);
-    QCOMPARE(owner.deletions, 1);
-}
-
-void TestSpearItemLinks::shouldForgetACompanionGivenToAnother_data()
-{
-    shouldAdoptACompanion_data();
-}
-
-void TestSpearItemLinks::shouldForgetACompanionGivenToAnother()
-{
-    QFETCH(Companion, companion);
-    QFETCH(bool, inScene);
-    Owner owner(companion, inScene);
-    auto other = newSpear();
-
-    owner.give(other.get(), owner.first);
-    QCOMPARE(owner.companion(), nullptr);
-    QCOMPARE(owner.first->parentItem(), other.get());
-    owner.give(owner.spear, nullptr);
-    QCOMPARE(owner.deletions, 0);
-
-    other.reset();
-    QCOMPARE(owner.deletions, 1);
-}
-
-void TestSpearItemLinks::shouldTakeItsCompanionsAlong_data()
-{
-    shouldAdoptACompanion_data();
-}
-
-void TestSpearItemLinks::shouldTakeItsCompanionsAlong()
-{
-    QFETCH(Companion, companion);
-    QFETCH(bool, inScene);
-    Owner owner(companion, inScene);
-
-    owner.owned.reset();
-    owner.scene.clear();
-
-    QCOMPARE(owner.deletions, 1);
-}
-
-void TestSpearItemLinks::shouldPlaceACompanionAtOnce()
-{
-    const auto spear = newSpear();
-    spear->setLine(0, 0, -100, 0);
-    int deletions = 0;
-    auto *const expand = std::make_unique<CountedItem>(&deletions).release();
-    auto *const link = std::make_unique<CountedItem>(&deletions).release();
-
-    spear->setExpandBuddy(expand);
-    spear->setLinkItem(link);
-
-    QCOMPARE(expand->pos(), QPointF(-100, -8));
-    const double halves = expand->boundingRect().width() / 2 + link->boundingRect().width() / 2;
-    QCOMPARE(link->pos(), QPointF(-100 - halves, 0));
 }
 
 QTEST_MAIN(TestSpearItemLinks)

@@ -35,6 +35,7 @@ private Q_SLOTS:
     void shouldDrawTheCircleOfAnImmovableBoneAsItsBone();
     void shouldDrawTheHeader_data();
     void shouldDrawTheHeader();
+    void shouldDrawNoPictureThatIsMissing();
     void shouldMakeTheWedgeThinnerTowardsTheTail();
     void shouldLimitTheWedge_data();
     void shouldLimitTheWedge();
@@ -336,6 +337,24 @@ void TestSpearItemPainting::shouldDrawTheHeader()
 
     QVERIFY(pixelsOf(picture, backbone) > 500);
     QCOMPARE(difference(picture, expected), QString());
+}
+
+void TestSpearItemPainting::shouldDrawNoPictureThatIsMissing()
+{
+    const Drawing drawing(QStringLiteral("Effect[Man]"), styleWithLooks());
+    drawing.head->setLine(0, 0, -500, 0);
+    const Canvas canvas{drawing.head->boundingRect().toAlignedRect(), 2};
+    const QPixmap head = *SpearItem::m_pixHeader;
+    const QPixmap tail = *SpearItem::m_pixTail;
+
+    *SpearItem::m_pixHeader = QPixmap();
+    *SpearItem::m_pixTail = QPixmap();
+    const QImage picture = paintedItem(*drawing.head, canvas);
+    *SpearItem::m_pixHeader = head;
+    *SpearItem::m_pixTail = tail;
+
+    QVERIFY(pixelsOf(picture, backbone) > 500);
+    QCOMPARE(inkedPixels(picture), pixelsOf(picture, backbone)); // the wedge alone
 }
 
 void TestSpearItemPainting::shouldMakeTheWedgeThinnerTowardsTheTail()

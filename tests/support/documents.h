@@ -18,8 +18,7 @@
 #include <fishbone/model/fishmodel.h>
 #include <fishbone/model/treeitem.h>
 
-namespace TestSupport
-{
+namespace TestSupport {
 
 /// One node object of the diagram format, its children left aside.
 inline QJsonObject nodeObject(const QString &title, const QString &uuid, const QString &pid)
@@ -45,8 +44,8 @@ inline QJsonObject documentFromText(const QString &text)
         const Open node = open.takeLast();
         const bool isHead = open.size() == 1;
         const QString uuid = QStringLiteral("u-") + node.title;
-        const QString pid = isHead ? QStringLiteral("-1")
-                                   : QStringLiteral("u-") + open.last().title;
+        const QString pid =
+            isHead ? QStringLiteral("-1") : QStringLiteral("u-") + open.last().title;
         QJsonObject object = nodeObject(node.title, uuid, pid);
         object.insert(QStringLiteral("children"), node.children);
         open.last().children.append(object);
@@ -95,7 +94,8 @@ inline QString treeToText(const TreeItem &top)
     return text;
 }
 
-/// The same for what any model shows at and below \a index: the texts of \a column. For shallow trees.
+/// The same for what any model shows at and below \a index: the texts of \a column. For shallow
+/// trees.
 inline QString treeToText(const QAbstractItemModel &model, const QModelIndex &index, int column = 0)
 {
     QString text = index.siblingAtColumn(column).data().toString();
@@ -165,8 +165,9 @@ inline QJsonObject randomDocument(quint32 seed, const RandomShape &shape = {})
     };
     std::vector<Node> nodes;
     const auto uuidOf = [seed](int number) {
-        return QStringLiteral("%1-%2").arg(seed, 8, 16, QLatin1Char('0')).arg(
-            number, 8, 16, QLatin1Char('0'));
+        return QStringLiteral("%1-%2")
+            .arg(seed, 8, 16, QLatin1Char('0'))
+            .arg(number, 8, 16, QLatin1Char('0'));
     };
     for (int i = 0; i < shape.nodes; ++i) {
         int parent = -1;
@@ -179,8 +180,8 @@ inline QJsonObject randomDocument(quint32 seed, const RandomShape &shape = {})
         const int length = random.bounded(shape.longestTitle + 1);
         while (title.length() < length)
             title.append(QChar('a' + random.bounded(26)));
-        QJsonObject object = nodeObject(title, uuidOf(i),
-                                        parent < 0 ? QStringLiteral("-1") : uuidOf(parent));
+        QJsonObject object =
+            nodeObject(title, uuidOf(i), parent < 0 ? QStringLiteral("-1") : uuidOf(parent));
         if (random.bounded(100) < shape.linkPercent)
             object.insert(QStringLiteral("url"), QStringLiteral("https://example.org/%1").arg(i));
         object.insert(QStringLiteral("status"), random.bounded(-1, 8));

@@ -17,8 +17,7 @@
 #include <fishbone/items/textitem.h>
 #include <fishbone/model/treeitem.h>
 
-namespace TestSupport
-{
+namespace TestSupport {
 
 /// All spears below and at \a head, parents before children and siblings in their stacking order.
 inline std::vector<SpearItem *> spearsInOrder(SpearItem *head)
@@ -72,8 +71,8 @@ inline QString companionText(const QGraphicsItem *item)
     if (!item)
         return QStringLiteral("none");
     const auto *const svg = dynamic_cast<const SvgItem *>(item);
-    return (svg ? svg->svgFile() : QStringLiteral("item")) + QLatin1Char('@')
-        + pointText(item->pos());
+    return (svg ? svg->svgFile() : QStringLiteral("item")) + QLatin1Char('@') +
+           pointText(item->pos());
 }
 
 /// Everything that a spear shows and where, in one line.
@@ -83,22 +82,22 @@ inline QString spearText(SpearItem *spear)
     return QStringList{
         spear->text(),
         spear->textDisplay(),
-        QStringLiteral("line ") + pointText(spear->line().p1()) + QLatin1Char(' ')
-            + pointText(spear->line().p2()),
+        QStringLiteral("line ") + pointText(spear->line().p1()) + QLatin1Char(' ') +
+            pointText(spear->line().p2()),
         QStringLiteral("pos ") + pointText(spear->pos()),
         QStringLiteral("direction %1").arg(spear->direction()),
         QStringLiteral("offset ") + numberText(spear->offset()),
         QStringLiteral("z ") + numberText(spear->zValue()),
         QLatin1String(spear->isExpand() ? "expanded" : "contracted"),
         QStringLiteral("opacity ") + numberText(spear->opacity()),
-        QStringLiteral("text ") + spear->textItem()->toPlainText() + QLatin1Char('@')
-            + pointText(spear->textItem()->pos()) + QLatin1Char('/')
-            + numberText(spear->textItem()->rotation()),
-        QStringLiteral("status ") + companionText(spear->statusItem())
-            + QLatin1String(spear->statusItem()->isVisible() ? "" : " hidden"),
+        QStringLiteral("text ") + spear->textItem()->toPlainText() + QLatin1Char('@') +
+            pointText(spear->textItem()->pos()) + QLatin1Char('/') +
+            numberText(spear->textItem()->rotation()),
+        QStringLiteral("status ") + companionText(spear->statusItem()) +
+            QLatin1String(spear->statusItem()->isVisible() ? "" : " hidden"),
         QStringLiteral("expand ") + companionText(spear->expandBuddy()),
-        QStringLiteral("link ") + companionText(spear->linkItem())
-            + (link ? QLatin1Char(' ') + link->url() : QString()),
+        QStringLiteral("link ") + companionText(spear->linkItem()) +
+            (link ? QLatin1Char(' ') + link->url() : QString()),
     }
         .join(QLatin1String(" | "));
 }

@@ -16,8 +16,7 @@
 #include <fishbone/items/spearitem.h>
 #include <tests/support/documents.h>
 
-namespace TestSupport
-{
+namespace TestSupport {
 
 /// A model with one document and an editor that shows it. Heads show their plain title, unless the
 /// model's type is set back to FISH_MODEL_NORMAL before show() is called.
@@ -72,7 +71,8 @@ public:
     FishEditor editor;
 
 private:
-    QAbstractItemModelTester m_tester{&model, QAbstractItemModelTester::FailureReportingMode::QtTest};
+    QAbstractItemModelTester m_tester{&model,
+                                      QAbstractItemModelTester::FailureReportingMode::QtTest};
 };
 
 /// Counts the events of one type that an object receives.

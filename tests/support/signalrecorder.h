@@ -9,8 +9,7 @@
 #include <QStringList>
 #include <QVariant>
 
-namespace TestSupport
-{
+namespace TestSupport {
 
 /// Writes down the signals of an object, in the order in which they come and with their arguments:
 /// "zoomValueChanged(260), rotateValueChanged(0)". An index is written as its display text, a
@@ -24,8 +23,8 @@ public:
         const QMetaObject &type = *sender.metaObject();
         for (int i = QObject::staticMetaObject.methodCount(); i < type.methodCount(); ++i) {
             const QMetaMethod method = type.method(i);
-            if (method.methodType() != QMetaMethod::Signal
-                || (!names.isEmpty() && !names.contains(QString::fromLatin1(method.name()))))
+            if (method.methodType() != QMetaMethod::Signal ||
+                (!names.isEmpty() && !names.contains(QString::fromLatin1(method.name()))))
                 continue;
             QMetaObject::connect(&sender, i, this,
                                  QObject::staticMetaObject.methodCount() + m_signals.size(),

@@ -11,8 +11,7 @@
 
 #include <fishbone/items/spearitem.h>
 
-namespace TestSupport
-{
+namespace TestSupport {
 
 /// A mouse above the viewport of a view. Events go to the viewport as the window system's would.
 class ViewMouse

@@ -211,6 +211,12 @@ void TestMoveCommand::shouldPutNothingBackThatItDidNotMove()
     f.model->moveRows(f.index("H"), 0, 1, f.index("C"), 0);
     f.stack->undo();
     QCOMPARE(f.text(), QStringLiteral("H[B,C[A[a]]]"));
+    // Already there.
+    f.stack->push(new EditMove(f.model.get(), f.index("C"), 0, f.snapshot({QStringLiteral("A")})));
+    f.model->moveRows(f.index("C"), 0, 1, f.index("B"), 0);
+    f.stack->undo();
+    QCOMPARE(f.text(), QStringLiteral("H[B[A[a]],C]"));
+    f.model->moveRows(f.index("B"), 0, 1, f.index("C"), 0);
     // Not there at first, but later.
     const QJsonObject later{{QStringLiteral("uuid"), QStringLiteral("later")},
                             {QStringLiteral("pid"), QStringLiteral("u-H")}};

@@ -237,4 +237,4 @@ void TestCommandSequences::shouldSurviveEditsOutsideTheHistory()
 }
 
 QTEST_MAIN(TestCommandSequences)
-#include "tst_commandsequences.moc"
+#include "tst_structuralcommands_sequences.moc"
