@@ -15,9 +15,9 @@
 
 namespace {
 
-constexpr std::array<QLatin1String, 5> headers = {QLatin1String("title"), QLatin1String("uuid"),
-                                                  QLatin1String("showid"), QLatin1String("pid"),
-                                                  QLatin1String("type")};
+const std::array<QLatin1String, 5> headers = {QLatin1String("title"), QLatin1String("uuid"),
+                                              QLatin1String("showid"), QLatin1String("pid"),
+                                              QLatin1String("type")};
 
 /**
  * Calls @p visit for @p top and everything below it, parents before children and siblings in their

@@ -61,8 +61,7 @@ FishProxyModel::FishProxyModel(QObject *parent)
     : QSortFilterProxyModel(parent)
     , m_memo(std::make_unique<Memo>(*this))
 {
-    // invalidate() and changes of the source's layout come without a sort hint; the mapping is gone
-    // then.
+    // The base class drops what it knows of the rows, and says so without the hint that sorting has.
     connect(this, &QAbstractItemModel::layoutAboutToBeChanged, this,
             [this](const QList<QPersistentModelIndex> &, LayoutChangeHint hint) {
                 if (hint != NoLayoutChangeHint)

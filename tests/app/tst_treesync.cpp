@@ -10,6 +10,7 @@
 #include <QDropEvent>
 #include <QLineEdit>
 #include <QMimeData>
+#include <QMouseEvent>
 
 class TestTreeSync : public QObject
 {
@@ -330,8 +331,11 @@ void TestTreeSync::shouldFollowAMoveWithTheMouse()
         return view->mapFromScene(app.subject(title)->spear()->line().center());
     };
     QTest::mousePress(view->viewport(), Qt::LeftButton, {}, pointOn("Rust"));
-    QTest::mouseMove(view->viewport(), pointOn("Machines"));
-    QTest::mouseRelease(view->viewport(), Qt::LeftButton, {}, pointOn("Machines"));
+    const QPoint to = pointOn("Machines");
+    QMouseEvent move(QEvent::MouseMove, to, view->viewport()->mapToGlobal(to), Qt::NoButton,
+                     Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(view->viewport(), &move);
+    QTest::mouseRelease(view->viewport(), Qt::LeftButton, {}, to);
     AppFixture::settle();
     QCOMPARE(app.text(),
              QStringLiteral("Late[People[Too few[Illness],Too new],Machines[Rust],Material]"));

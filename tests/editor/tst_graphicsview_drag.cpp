@@ -330,7 +330,7 @@ void tst_GraphicsViewDrag::shouldMoveWithTheMouseAtAnyZoomAndRotation_data()
 {
     QTest::addColumn<int>("zoom");
     QTest::addColumn<int>("rotation");
-    for (const int zoom : {225, 250, 290}) {
+    for (const int zoom : {250, 270, 290}) {
         for (const int rotation : {0, 30, 90, 200}) {
             QTest::addRow("%d at %d degrees", zoom, rotation) << zoom << rotation;
         }
@@ -374,13 +374,13 @@ void tst_GraphicsViewDrag::shouldPaintTheSameInPiecesAsInFullDuringADrag()
         QVERIFY(paintScheduled(view));
         const QImage inPieces = shownPicture(view);
         QVERIFY(paintEverything(view));
-        QCOMPARE(difference(inPieces, shownPicture(view)), QString());
+        QCOMPARE(difference(inPieces, shownPicture(view), clipRounding), QString());
     }
     drag.move(onCanvas(fixture));
     QVERIFY(paintScheduled(view));
     const QImage inPieces = shownPicture(view);
     QVERIFY(paintEverything(view));
-    QCOMPARE(difference(inPieces, shownPicture(view)), QString());
+    QCOMPARE(difference(inPieces, shownPicture(view), clipRounding), QString());
 }
 
 QTEST_MAIN(tst_GraphicsViewDrag)
