@@ -61,7 +61,8 @@ FishProxyModel::FishProxyModel(QObject *parent)
     : QSortFilterProxyModel(parent)
     , m_memo(std::make_unique<Memo>(*this))
 {
-    // The base class drops what it knows of the rows, and says so without the hint that sorting has.
+    // The base class drops what it knows of the rows, and says so without the hint that sorting
+    // has.
     connect(this, &QAbstractItemModel::layoutAboutToBeChanged, this,
             [this](const QList<QPersistentModelIndex> &, LayoutChangeHint hint) {
                 if (hint != NoLayoutChangeHint)
