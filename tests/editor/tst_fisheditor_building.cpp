@@ -10,7 +10,7 @@
 
 using namespace TestSupport;
 
-/// Which spears there are: showing a diagram, making spears on demand, expanding and contracting.
+/// Which spears there are: showing a diagram and making spears on demand.
 class TestFishEditorBuilding : public QObject
 {
     Q_OBJECT
@@ -35,30 +35,12 @@ private Q_SLOTS:
     void shouldGiveTheDirectionsOfANewSubtreeByItsLevel_data();
     void shouldGiveTheDirectionsOfANewSubtreeByItsLevel();
     void shouldGiveTheLinkOfANewSubtreeToTheHead();
-    void shouldExpandAndContractWithoutMakingSpears();
-    void shouldExpandEverythingThereIsToShow();
-    void shouldContractEverythingButTheHead();
-    void shouldReportThatTheUserExpandedEverything();
-    void shouldReportThatTheUserExpandedASubject();
-    void shouldReportNothingWithoutASelection();
-    void shouldExcludeTopLevelItems();
-    void shouldExcludeItemsBelowOthers();
 };
 
 namespace {
 QString effect()
 {
     return QStringLiteral("Effect[Man[Train[Cost]],Machine[Wear],Method]");
-}
-
-/// "Man+ Machine-": the subjects with their expand flags, as far as they have spears.
-QString flags(const EditorFixture &fish)
-{
-    QStringList texts;
-    const std::vector<SpearItem *> spears = spearsInOrder(fish.editor.headSpear());
-    for (const SpearItem *spear : spears)
-        texts.append(spear->text() + QLatin1Char(spear->isExpand() ? '+' : '-'));
-    return texts.join(QLatin1Char(' '));
 }
 } // namespace
 
@@ -68,7 +50,8 @@ void TestFishEditorBuilding::shouldShowTheHeadAndTheMainBones()
 
     QCOMPARE(fish.editor.rootIndex(), fish.model.index(0, 0));
     QCOMPARE(spearTreeText(fish.editor.headSpear()), QStringLiteral("Effect[Man,Machine,Method]"));
-    QCOMPARE(flags(fish), QStringLiteral("Effect+ Man- Machine- Method-"));
+    QCOMPARE(expansionText(fish.editor.headSpear()),
+             QStringLiteral("Effect+ Man- Machine- Method-"));
     QCOMPARE(fish.editor.headSpear()->scene(), fish.editor.scene());
     QCOMPARE(fish.editor.headSpear()->zValue(), -100.0);
     QCOMPARE(fish.editor.headSpear()->direction(), 0);
@@ -393,135 +376,6 @@ void TestFishEditorBuilding::shouldGiveTheLinkOfANewSubtreeToTheHead()
     fish.editor.refreshFish();
     QVERIFY(!fish.editor.headSpear()->linkItem());
     QVERIFY(fish.spear(QStringLiteral("Other"))->linkItem());
-}
-
-void TestFishEditorBuilding::shouldExpandAndContractWithoutMakingSpears()
-{
-    EditorFixture fish(effect());
-    fish.editor.generateSpear(&fish.model, fish.index(QStringLiteral("Man")));
-
-    fish.editor.expandorContractAll(true);
-    QCOMPARE(flags(fish), QStringLiteral("Effect+ Man+ Train+ Machine+ Method+"));
-    QVERIFY(fish.spear(QStringLiteral("Train"))->isVisible());
-
-    fish.editor.expandorContractAll(false);
-    QCOMPARE(flags(fish), QStringLiteral("Effect+ Man- Train- Machine- Method-"));
-    QVERIFY(!fish.spear(QStringLiteral("Train"))->isVisible());
-}
-
-void TestFishEditorBuilding::shouldExpandEverythingThereIsToShow()
-{
-    EditorFixture fish(effect());
-    SignalRecorder recorder(fish.editor);
-
-    fish.editor.expandAll();
-
-    QCOMPARE(flags(fish), QStringLiteral("Effect+ Man+ Train+ Cost+ Machine+ Wear+ Method+"));
-    QVERIFY(fish.spear(QStringLiteral("Cost"))->isVisible());
-    QCOMPARE(
-        dynamic_cast<ExpandItem *>(fish.spear(QStringLiteral("Man"))->expandBuddy())->svgFile(),
-        QStringLiteral(":/fishboneDiagram/contract.svg"));
-    QCOMPARE(recorder.take(), QString());
-}
-
-void TestFishEditorBuilding::shouldContractEverythingButTheHead()
-{
-    EditorFixture fish(effect());
-    const QStringList drawn = drawingText(fish.editor.headSpear());
-    fish.editor.expandAll();
-    SignalRecorder recorder(fish.editor);
-
-    fish.editor.contractAll();
-
-    QCOMPARE(flags(fish), QStringLiteral("Effect+ Man- Train- Cost- Machine- Wear- Method-"));
-    QCOMPARE(drawingText(fish.editor.headSpear()), drawn);
-    QCOMPARE(recorder.take(), QString());
-}
-
-void TestFishEditorBuilding::shouldReportThatTheUserExpandedEverything()
-{
-    EditorFixture fish(effect());
-    SignalRecorder recorder(fish.editor);
-
-    fish.editor.modifyExpandAll();
-    QCOMPARE(flags(fish), QStringLiteral("Effect+ Man+ Machine+ Method+"));
-    QCOMPARE(recorder.take(), QStringLiteral("onExpandAll()"));
-
-    fish.editor.modifyContractAll();
-    QCOMPARE(flags(fish), QStringLiteral("Effect+ Man- Machine- Method-"));
-    QCOMPARE(recorder.take(), QStringLiteral("onCollapsAll()"));
-}
-
-void TestFishEditorBuilding::shouldReportThatTheUserExpandedASubject()
-{
-    EditorFixture fish(effect());
-    fish.editor.expandAll();
-    fish.editor.contractAll();
-    fish.select({QStringLiteral("Man")});
-    SpearItem *const man = fish.spear(QStringLiteral("Man"));
-    const QLineF contracted = man->line();
-    SignalRecorder recorder(fish.editor);
-
-    fish.editor.modifyExpand();
-    QVERIFY(man->isExpand());
-    QVERIFY(fish.spear(QStringLiteral("Train"))->isVisible());
-    QVERIFY(man->line().length() > contracted.length());
-    QCOMPARE(recorder.take(), QStringLiteral("onExpand(Man)"));
-
-    fish.editor.modifyContract();
-    QVERIFY(!man->isExpand());
-    QCOMPARE(man->line(), contracted);
-    QCOMPARE(recorder.take(), QStringLiteral("onCollaps(Man)"));
-}
-
-void TestFishEditorBuilding::shouldReportNothingWithoutASelection()
-{
-    EditorFixture fish(effect());
-    SignalRecorder recorder(fish.editor);
-
-    fish.editor.modifyExpand();
-    fish.editor.modifyContract();
-
-    QCOMPARE(recorder.take(), QString());
-    QCOMPARE(flags(fish), QStringLiteral("Effect+ Man- Machine- Method-"));
-}
-
-void TestFishEditorBuilding::shouldExcludeTopLevelItems()
-{
-    EditorFixture fish(effect());
-    SpearItem *const man = fish.spear(QStringLiteral("Man"));
-    SpearItem *const method = fish.spear(QStringLiteral("Method"));
-    auto *const other = fish.editor.scene()->addRect(0, 0, 5, 5);
-
-    QList<QGraphicsItem *> items{method, fish.editor.headSpear(), other, man};
-    FishEditor::excludeCenterSubject(items);
-    QCOMPARE(items, QList<QGraphicsItem *>({method, man}));
-
-    FishEditor::excludeCenterSubject(items);
-    QCOMPARE(items, QList<QGraphicsItem *>({method, man}));
-}
-
-void TestFishEditorBuilding::shouldExcludeItemsBelowOthers()
-{
-    EditorFixture fish(effect());
-    fish.editor.expandAll();
-    const auto spear = [&fish](const char *title) {
-        return static_cast<QGraphicsItem *>(fish.spear(QString::fromLatin1(title)));
-    };
-
-    QList<QGraphicsItem *> items{spear("Cost"), spear("Wear"), spear("Man"), spear("Method"),
-                                 spear("Train")};
-    FishEditor::excludeChildSubject(items);
-    QCOMPARE(items, QList<QGraphicsItem *>({spear("Wear"), spear("Man"), spear("Method")}));
-
-    // An ancestor that is not listed excludes nothing.
-    items = {spear("Cost"), spear("Wear")};
-    FishEditor::excludeChildSubject(items);
-    QCOMPARE(items, QList<QGraphicsItem *>({spear("Cost"), spear("Wear")}));
-
-    items = {spear("Effect"), spear("Cost"), spear("Method")};
-    FishEditor::excludeChildSubject(items);
-    QCOMPARE(items, QList<QGraphicsItem *>({spear("Effect")}));
 }
 
 QTEST_MAIN(TestFishEditorBuilding)

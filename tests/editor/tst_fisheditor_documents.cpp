@@ -37,9 +37,6 @@ private Q_SLOTS:
     void shouldShowNothingAgainWhenTheDeletionIsRedone();
     void shouldShowTheSubjectInsertedAboveTheHead();
     void shouldSurviveTheDeathOfItsSpears();
-    void shouldDrawOnWithoutAModel();
-    void shouldIgnoreWhatAnEarlierModelGoesThrough();
-    void shouldIgnoreTheDeathOfALaterModel();
 };
 
 namespace {
@@ -432,63 +429,6 @@ void TestFishEditorDocuments::shouldSurviveTheDeathOfItsSpears()
     fish.editor.scene()->clear();
     QVERIFY(!fish.editor.headSpear());
     useEverything(fish.editor);
-}
-
-void TestFishEditorDocuments::shouldDrawOnWithoutAModel()
-{
-    EditorFixture fish(effect());
-    fish.editor.expandAll();
-    const QStringList drawn = drawingText(fish.editor.headSpear());
-
-    fish.editor.setModel(nullptr);
-    fish.editor.updateFish(false);
-    fish.editor.expandAll();
-    fish.editor.setModified(true);
-
-    QCOMPARE(drawingText(fish.editor.headSpear()), drawn);
-    QVERIFY(!fish.info->modified());
-    // The model is still heard, and the drawing follows it.
-    fish.model.setData(fish.index(QStringLiteral("Man")), QStringLiteral("Men"));
-    QCOMPARE(fish.spear(QStringLiteral("Men"))->text(), QStringLiteral("Men"));
-    fish.model.unloadFish(fish.info);
-    QVERIFY(fish.editor.scene()->items().isEmpty());
-}
-
-void TestFishEditorDocuments::shouldIgnoreWhatAnEarlierModelGoesThrough()
-{
-    auto earlier = std::make_unique<FishModel>();
-    FishInfo *const info = loadDocument(*earlier, QStringLiteral("Former[Bone]"));
-    EditorFixture fish(effect());
-    fish.editor.setModel(earlier.get());
-    fish.editor.setRootIndex(earlier->index(0, 0));
-    fish.editor.setModel(&fish.model);
-    fish.editor.setRootIndex(fish.index(QStringLiteral("Effect")));
-    const SpearItem *const head = fish.editor.headSpear();
-
-    earlier->refreshModel();
-    earlier->insertRows(0, 1);
-    earlier->unloadFish(info);
-    earlier.reset();
-
-    QCOMPARE(fish.editor.headSpear(), head);
-    QCOMPARE(fish.editor.rootIndex(), fish.index(QStringLiteral("Effect")));
-    QCOMPARE(SpearItem::m_refCount, 4);
-}
-
-void TestFishEditorDocuments::shouldIgnoreTheDeathOfALaterModel()
-{
-    EditorFixture fish(effect());
-    const SpearItem *const head = fish.editor.headSpear();
-    {
-        FishModel later;
-        fish.editor.setModel(&later);
-    }
-    QVERIFY(!fish.editor.model());
-    QCOMPARE(fish.editor.headSpear(), head);
-
-    fish.model.setData(fish.index(QStringLiteral("Man")), QStringLiteral("Men"));
-    fish.editor.updateFish(false);
-    QCOMPARE(fish.spear(QStringLiteral("Men"))->text(), QStringLiteral("Men"));
 }
 
 QTEST_MAIN(TestFishEditorDocuments)

@@ -4,14 +4,11 @@
 #include <QMetaMethod>
 #include <QtTest>
 
-#include <fishbone/items/textitem.h>
-#include <tests/support/editorfixture.h>
-#include <tests/support/signalrecorder.h>
-#include <tests/support/viewmouse.h>
+#include <tests/editor/movingstage.h>
 
 using namespace TestSupport;
 
-/// The view's construction and what the left button does: pressing, moving, releasing.
+/// The view's construction, and pressing and releasing its buttons.
 class TestGraphicsView : public QObject
 {
     Q_OBJECT
@@ -33,118 +30,7 @@ private Q_SLOTS:
     void shouldReportNothingWithoutASelection();
     void shouldRestoreFadedSpearsAfterAnotherButton();
     void shouldRestoreSpearsThatAnEarlierPressLeftFaded();
-    void shouldMarkTheSpearUnderTheMouse();
-    void shouldMarkWithinTenPixels_data();
-    void shouldMarkWithinTenPixels();
-    void shouldMarkTheBottomMostSpear();
-    void shouldMarkNoSelectedSpear();
-    void shouldMarkNothingUnlessPressed();
-    void shouldFollowTheMouseAlongOneTarget();
-    void shouldReportTheTargetOfAMove();
-    void shouldReportAMoveIntoItselfWithoutTarget();
-    void shouldClearAStaleTargetAtThePress();
-    void shouldForgetATargetThatDies();
-    void shouldForgetMovedSpearsThatDie();
-    void shouldForgetEverythingThatIsRebuilt();
-    void shouldCarryOutAMoveInTheEditor();
-    void shouldPutEverythingBackWithoutATarget();
 };
-
-namespace {
-QString effect()
-{
-    return QStringLiteral("Effect[Man[Train,Cost,Time],Machine[Wear],Method,Matter]");
-}
-
-/// An expanded diagram on the screen. What the view asks of the editor after a move is written down
-/// and, unless \a connected, not carried out.
-class Stage : public EditorFixture
-{
-public:
-    explicit Stage(bool connected = false)
-        : EditorFixture(effect())
-        , view(*editor.view())
-        , mouse(view)
-    {
-        editor.expandAll();
-        if (!show())
-            qFatal("The editor does not show.");
-        QObject::connect(&view, &GraphicsView::moveSpear, &view,
-                         [this](const QPoint &pos, const QList<QGraphicsItem *> &items,
-                                const QModelIndex &target, int row) {
-                             QStringList titles;
-                             for (const QGraphicsItem *item : items)
-                                 titles.append(qgraphicsitem_cast<const SpearItem *>(item)->text());
-                             moves.append(QStringLiteral("%1 to %2 row %3")
-                                              .arg(titles.join(QLatin1Char('+')),
-                                                   target.isValid() ? target.data().toString()
-                                                                    : QStringLiteral("nothing"),
-                                                   QString::number(row)));
-                             position = pos;
-                         });
-        if (!connected)
-            QObject::disconnect(&view, &GraphicsView::moveSpear, &editor, nullptr);
-    }
-
-    QPoint tip(const char *title) const { return tipOf(view, spear(QString::fromLatin1(title))); }
-    SpearItem *spear(const QString &title) const { return EditorFixture::spear(title); }
-    SpearItem *spear(const char *title) const { return spear(QString::fromLatin1(title)); }
-    /// A point of the viewport with nothing around.
-    QPoint nowhere() const { return {8, 8}; }
-
-    /// "Man Wear": the titles of all faded spears.
-    QString faded() const
-    {
-        QStringList titles;
-        for (const QString &title : all()) {
-            const SpearItem *const item = spear(title);
-            if (qFuzzyCompare(item->opacity(), 0.2) && item->isMoving())
-                titles.append(title);
-            else if (!qFuzzyCompare(item->opacity(), 1.0) || item->isMoving())
-                titles.append(title + QLatin1Char('?'));
-        }
-        return titles.join(QLatin1Char(' '));
-    }
-
-    /// "Method 0": the target with the row shown at it.
-    QString linked() const
-    {
-        QStringList titles;
-        for (const QString &title : all()) {
-            const SpearItem *const item = spear(title);
-            if (item->isLinked() != (item == view.linkedSpear()))
-                titles.append(title + QLatin1Char('?'));
-            if (item->isLinked())
-                titles.append(QStringLiteral("%1 %2").arg(title).arg(item->linkNumber()));
-        }
-        return titles.join(QLatin1Char(' '));
-    }
-
-    QString takeMoves()
-    {
-        const QString text = moves.join(QLatin1String("; "));
-        moves.clear();
-        return text;
-    }
-
-    GraphicsView &view;
-    ViewMouse mouse;
-    QStringList moves;
-    QPoint position;
-
-private:
-    QStringList all() const
-    {
-        QStringList titles;
-        for (const char *title :
-             {"Effect", "Man", "Train", "Cost", "Time", "Machine", "Wear", "Method", "Matter"}) {
-            if (spear(title))
-                titles.append(QString::fromLatin1(title));
-        }
-        return titles;
-    }
-};
-} // namespace
 
 void TestGraphicsView::shouldBeSetUpForADiagram()
 {
@@ -187,7 +73,7 @@ void TestGraphicsView::shouldDeclareSignalsInOrder()
 
 void TestGraphicsView::shouldLogPressesAndReleases()
 {
-    Stage stage;
+    MovingStage stage;
 
     QTest::ignoreMessage(QtDebugMsg, QRegularExpression(QStringLiteral(
                                          "^GraphicsView::mousePressEvent QMouseEvent\\(.*Press")));
@@ -210,7 +96,7 @@ void TestGraphicsView::shouldShowAnArrowAfterEveryButton_data()
 void TestGraphicsView::shouldShowAnArrowAfterEveryButton()
 {
     QFETCH(int, button);
-    Stage stage;
+    MovingStage stage;
     QWidget *const viewport = stage.view.viewport();
 
     viewport->setCursor(Qt::CrossCursor);
@@ -223,7 +109,7 @@ void TestGraphicsView::shouldShowAnArrowAfterEveryButton()
 
 void TestGraphicsView::shouldShowAnArrowWhenTheMouseEnters()
 {
-    Stage stage;
+    MovingStage stage;
     stage.view.viewport()->setCursor(Qt::CrossCursor);
 
     QEnterEvent event(QPointF(1, 1), QPointF(1, 1), QPointF(1, 1));
@@ -234,7 +120,7 @@ void TestGraphicsView::shouldShowAnArrowWhenTheMouseEnters()
 
 void TestGraphicsView::shouldFadeWhatIsSelected()
 {
-    Stage stage;
+    MovingStage stage;
 
     stage.mouse.press(stage.tip("Method"));
     QCOMPARE(stage.faded(), QStringLiteral("Method"));
@@ -246,7 +132,7 @@ void TestGraphicsView::shouldFadeWhatIsSelected()
 
 void TestGraphicsView::shouldFadeTheTopmostOfNestedSpears()
 {
-    Stage stage;
+    MovingStage stage;
     stage.select({QStringLiteral("Train"), QStringLiteral("Man"), QStringLiteral("Wear")});
 
     stage.mouse.press(stage.tip("Wear"));
@@ -264,7 +150,7 @@ void TestGraphicsView::shouldFadeForTheLeftButtonOnly_data()
 void TestGraphicsView::shouldFadeForTheLeftButtonOnly()
 {
     QFETCH(int, button);
-    Stage stage;
+    MovingStage stage;
     stage.select({QStringLiteral("Method")});
 
     stage.mouse.press(stage.tip("Method"), Qt::MouseButton(button));
@@ -278,7 +164,7 @@ void TestGraphicsView::shouldFadeWhateverModifierIsHeld()
 {
     for (const Qt::KeyboardModifier modifier :
          {Qt::ShiftModifier, Qt::ControlModifier, Qt::AltModifier}) {
-        Stage stage;
+        MovingStage stage;
         stage.select({QStringLiteral("Method")});
         stage.mouse.press(stage.tip("Method"), Qt::LeftButton, modifier);
         QCOMPARE(stage.faded(), QStringLiteral("Method"));
@@ -287,7 +173,7 @@ void TestGraphicsView::shouldFadeWhateverModifierIsHeld()
 
 void TestGraphicsView::shouldReportAMoveWithoutTargetAfterAClick()
 {
-    Stage stage;
+    MovingStage stage;
     const QPoint tip = stage.tip("Method");
 
     stage.mouse.press(tip);
@@ -300,7 +186,7 @@ void TestGraphicsView::shouldReportAMoveWithoutTargetAfterAClick()
 
 void TestGraphicsView::shouldReportTheMovedSpearsInDocumentOrder()
 {
-    Stage stage;
+    MovingStage stage;
     stage.select({QStringLiteral("Matter"), QStringLiteral("Wear"), QStringLiteral("Cost"),
                   QStringLiteral("Man"), QStringLiteral("Train")});
 
@@ -312,7 +198,7 @@ void TestGraphicsView::shouldReportTheMovedSpearsInDocumentOrder()
 
 void TestGraphicsView::shouldReportNothingWithoutASelection()
 {
-    Stage stage;
+    MovingStage stage;
 
     stage.mouse.press(stage.nowhere());
     stage.mouse.move(stage.tip("Method"));
@@ -325,7 +211,7 @@ void TestGraphicsView::shouldReportNothingWithoutASelection()
 
 void TestGraphicsView::shouldRestoreFadedSpearsAfterAnotherButton()
 {
-    Stage stage;
+    MovingStage stage;
     const QPoint tip = stage.tip("Method");
     stage.mouse.press(tip);
     stage.mouse.move(stage.tip("Machine"));
@@ -343,7 +229,7 @@ void TestGraphicsView::shouldRestoreFadedSpearsAfterAnotherButton()
 
 void TestGraphicsView::shouldRestoreSpearsThatAnEarlierPressLeftFaded()
 {
-    Stage stage;
+    MovingStage stage;
     stage.select({QStringLiteral("Method")});
     stage.mouse.press(stage.nowhere());
     QCOMPARE(stage.faded(), QStringLiteral("Method"));
@@ -353,250 +239,6 @@ void TestGraphicsView::shouldRestoreSpearsThatAnEarlierPressLeftFaded()
     stage.mouse.press(stage.tip("Wear"));
 
     QCOMPARE(stage.faded(), QStringLiteral("Wear"));
-}
-
-void TestGraphicsView::shouldMarkTheSpearUnderTheMouse()
-{
-    Stage stage;
-    stage.mouse.press(stage.tip("Method"));
-    QCOMPARE(stage.linked(), QString());
-
-    stage.mouse.move(stage.tip("Matter"));
-    QCOMPARE(stage.linked(), QStringLiteral("Matter 0"));
-    stage.mouse.move(stage.tip("Wear"));
-    QCOMPARE(stage.linked(), QStringLiteral("Wear 0"));
-    stage.mouse.move(stage.nowhere());
-    QCOMPARE(stage.linked(), QString());
-}
-
-void TestGraphicsView::shouldMarkWithinTenPixels_data()
-{
-    QTest::addColumn<QPoint>("offset");
-    QTest::addColumn<bool>("isMarked");
-
-    // The pixels from x - 5 to x + 4, against a line of width 1 around x = 100.
-    QTest::newRow("far to the left") << QPoint(-20, 0) << false;
-    QTest::newRow("six to the left") << QPoint(-6, 0) << false;
-    QTest::newRow("five to the left") << QPoint(-5, 0) << true;
-    QTest::newRow("on the line") << QPoint(0, 0) << true;
-    QTest::newRow("five to the right") << QPoint(5, 0) << true;
-    QTest::newRow("six to the right") << QPoint(6, 0) << false;
-    QTest::newRow("five below its end") << QPoint(0, 155) << true;
-    QTest::newRow("six below its end") << QPoint(0, 156) << false;
-}
-
-void TestGraphicsView::shouldMarkWithinTenPixels()
-{
-    QFETCH(QPoint, offset);
-    QFETCH(bool, isMarked);
-    Stage stage;
-    stage.editor.zoomFish(250);
-    // A spear alone, its line vertical through x = 100 of the viewport.
-    auto *const target = new SpearItem(QStringLiteral("x"), 0, 20);
-    target->setParentItem(stage.editor.headSpear());
-    const QPointF at = stage.view.mapToScene(100, 100);
-    target->setLine(QLineF(at, at + QPointF(0, 200)));
-    target->textItem()->setPos(at + QPointF(50, 300));
-    stage.mouse.press(stage.tip("Method"));
-
-    stage.mouse.move(QPoint(100, 150) + offset);
-
-    QCOMPARE(target->isLinked(), isMarked);
-    QCOMPARE(stage.view.linkedSpear() == target, isMarked);
-}
-
-void TestGraphicsView::shouldMarkTheBottomMostSpear()
-{
-    Stage stage;
-    stage.mouse.press(stage.tip("Method"));
-
-    // Where a main bone meets the backbone both are under the mouse.
-    stage.mouse.move(startOf(stage.view, stage.spear("Man")));
-
-    QCOMPARE(stage.view.linkedSpear(), stage.spear("Effect"));
-}
-
-void TestGraphicsView::shouldMarkNoSelectedSpear()
-{
-    Stage stage;
-    stage.select({QStringLiteral("Method"), QStringLiteral("Matter")});
-    // Pressed where nothing moves along, so that the other one stays where it is.
-    stage.mouse.press(stage.nowhere());
-    QCOMPARE(stage.faded(), QStringLiteral("Method Matter"));
-
-    stage.mouse.move(stage.tip("Matter"));
-    QCOMPARE(stage.linked(), QString());
-    stage.mouse.move(stage.tip("Wear"));
-    QCOMPARE(stage.linked(), QStringLiteral("Wear 0"));
-}
-
-void TestGraphicsView::shouldMarkNothingUnlessPressed()
-{
-    Stage stage;
-    stage.select({QStringLiteral("Method")});
-
-    stage.mouse.move(stage.tip("Matter"));
-    QCOMPARE(stage.linked(), QString());
-    stage.mouse.press(stage.tip("Method"), Qt::RightButton);
-    stage.mouse.move(stage.tip("Matter"));
-    QCOMPARE(stage.linked(), QString());
-    stage.mouse.release(stage.tip("Method"), Qt::RightButton);
-    stage.mouse.click(stage.tip("Method"));
-    stage.mouse.move(stage.tip("Matter"));
-    QCOMPARE(stage.linked(), QString());
-}
-
-void TestGraphicsView::shouldFollowTheMouseAlongOneTarget()
-{
-    Stage stage;
-    stage.mouse.press(stage.tip("Method"));
-    const SpearItem *const man = stage.spear("Man");
-    const auto at = [&stage, man](double part) {
-        return stage.view.mapFromScene(man->mapToScene(man->line().pointAt(part)));
-    };
-    const QList<SpearItem *> children = man->childSpears();
-    const auto partOf = [man](const SpearItem *child) {
-        return child->offset() / man->line().length();
-    };
-
-    stage.mouse.move(at(partOf(children.at(0)) / 2));
-    QCOMPARE(stage.linked(), QStringLiteral("Man 0"));
-    stage.mouse.move(at((partOf(children.at(0)) + partOf(children.at(1))) / 2));
-    QCOMPARE(stage.linked(), QStringLiteral("Man 1"));
-    stage.mouse.move(at((partOf(children.at(1)) + partOf(children.at(2))) / 2));
-    QCOMPARE(stage.linked(), QStringLiteral("Man 2"));
-    stage.mouse.move(at(1));
-    QCOMPARE(stage.linked(), QStringLiteral("Man 3"));
-    stage.mouse.release(at(1));
-    QCOMPARE(stage.takeMoves(), QStringLiteral("Method to Man row 3"));
-}
-
-void TestGraphicsView::shouldReportTheTargetOfAMove()
-{
-    Stage stage;
-    stage.mouse.press(stage.tip("Method"));
-    stage.mouse.move(stage.tip("Matter"));
-
-    stage.mouse.release(stage.tip("Matter"));
-
-    QCOMPARE(stage.takeMoves(), QStringLiteral("Method to Matter row 0"));
-    QCOMPARE(stage.linked(), QString());
-    QCOMPARE(stage.faded(), QString());
-    stage.mouse.move(stage.tip("Matter"));
-    QCOMPARE(stage.linked(), QString());
-}
-
-void TestGraphicsView::shouldReportAMoveIntoItselfWithoutTarget()
-{
-    Stage stage;
-    stage.select({QStringLiteral("Man")});
-    stage.mouse.press(stage.nowhere());
-    stage.mouse.move(stage.tip("Cost"));
-    QCOMPARE(stage.linked(), QStringLiteral("Cost 0"));
-
-    stage.mouse.release(stage.tip("Cost"));
-
-    QCOMPARE(stage.takeMoves(), QStringLiteral("Man to nothing row 0"));
-    QCOMPARE(stage.linked(), QString());
-}
-
-void TestGraphicsView::shouldClearAStaleTargetAtThePress()
-{
-    Stage stage;
-    stage.mouse.press(stage.tip("Method"));
-    stage.mouse.move(stage.tip("Matter"));
-    QCOMPARE(stage.linked(), QStringLiteral("Matter 0"));
-
-    // The release got lost.
-    stage.mouse.press(stage.nowhere());
-
-    QCOMPARE(stage.linked(), QString());
-    QVERIFY(!stage.view.linkedSpear());
-    stage.mouse.release(stage.nowhere());
-    QCOMPARE(stage.takeMoves(), QStringLiteral("Method to nothing row 0"));
-}
-
-void TestGraphicsView::shouldForgetATargetThatDies()
-{
-    Stage stage;
-    stage.mouse.press(stage.tip("Method"));
-    const QPoint tip = stage.tip("Matter");
-    stage.mouse.move(tip);
-
-    delete stage.spear("Matter");
-    QVERIFY(!stage.view.linkedSpear());
-    QCOMPARE(stage.view.insertRow(tip, nullptr), 0);
-    stage.mouse.release(tip);
-
-    QCOMPARE(stage.takeMoves(), QStringLiteral("Method to nothing row 0"));
-}
-
-void TestGraphicsView::shouldForgetMovedSpearsThatDie()
-{
-    Stage stage;
-    stage.select({QStringLiteral("Method"), QStringLiteral("Wear")});
-    stage.mouse.press(stage.tip("Method"));
-    delete stage.spear("Wear");
-    stage.mouse.move(stage.tip("Matter"));
-    stage.mouse.release(stage.tip("Matter"));
-    QCOMPARE(stage.takeMoves(), QStringLiteral("Method to Matter row 0"));
-
-    Stage another;
-    another.mouse.press(another.tip("Method"));
-    another.mouse.move(another.tip("Matter"));
-    delete another.spear("Method");
-    another.mouse.release(another.tip("Matter"));
-    QCOMPARE(another.takeMoves(), QString());
-    QCOMPARE(another.linked(), QString());
-}
-
-void TestGraphicsView::shouldForgetEverythingThatIsRebuilt()
-{
-    Stage stage;
-    const QPoint tip = stage.tip("Matter");
-    stage.mouse.press(stage.tip("Method"));
-    stage.mouse.move(tip);
-
-    stage.editor.updateFish(true);
-    QCOMPARE(stage.linked(), QString());
-    QCOMPARE(stage.faded(), QString());
-    stage.mouse.move(tip);
-    stage.mouse.release(tip);
-
-    QCOMPARE(stage.takeMoves(), QString());
-    QCOMPARE(stage.linked(), QString());
-}
-
-void TestGraphicsView::shouldCarryOutAMoveInTheEditor()
-{
-    Stage stage(true);
-    stage.mouse.press(stage.tip("Method"));
-    stage.mouse.move(stage.tip("Matter"));
-    stage.mouse.release(stage.tip("Matter"));
-
-    QCOMPARE(treeToText(*stage.subject(QStringLiteral("Effect"))),
-             QStringLiteral("Effect[Man[Train,Cost,Time],Machine[Wear],Matter[Method]]"));
-    QCOMPARE(stage.spear("Method")->parentItem(), stage.spear("Matter"));
-    QVERIFY(stage.editor.canUndo());
-    QVERIFY(stage.info->modified());
-    stage.editor.undo();
-    QCOMPARE(treeToText(*stage.subject(QStringLiteral("Effect"))), effect());
-}
-
-void TestGraphicsView::shouldPutEverythingBackWithoutATarget()
-{
-    Stage stage(true);
-    const QPoint tip = stage.tip("Method");
-    stage.mouse.press(tip);
-    stage.mouse.move(tip + QPoint(30, 30));
-    QVERIFY(stage.spear("Method")->pos() != QPointF(0, 0));
-    stage.mouse.move(stage.nowhere());
-
-    stage.mouse.release(stage.nowhere());
-
-    QCOMPARE(stage.spear("Method")->pos(), QPointF(0, 0));
-    QVERIFY(!stage.editor.canUndo());
-    QVERIFY(!stage.info->modified());
 }
 
 QTEST_MAIN(TestGraphicsView)

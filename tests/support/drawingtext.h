@@ -54,6 +54,16 @@ inline QString spearTreeText(SpearItem *head)
     return head ? text + QString(depth - head->depth(), QLatin1Char(']')) : text;
 }
 
+/// "Effect+ Man- Machine-": all spears with their expand flags.
+inline QString expansionText(SpearItem *head)
+{
+    QStringList texts;
+    const std::vector<SpearItem *> spears = spearsInOrder(head);
+    for (const SpearItem *spear : spears)
+        texts.append(spear->text() + QLatin1Char(spear->isExpand() ? '+' : '-'));
+    return texts.join(QLatin1Char(' '));
+}
+
 inline QString numberText(double value)
 {
     // Rounded so that sums in another order still agree.
