@@ -59,7 +59,7 @@ public:
     bool show(bool fit = true)
     {
         editor.show();
-        if (!QTest::qWaitForWindowExposed(&editor))
+        if (!QTest::qWaitForWindowExposed(&editor) || !isAtTheRequestedRatio())
             return false;
         if (fit)
             editor.equalRatio(editor.scene()->itemsBoundingRect());
@@ -71,6 +71,13 @@ public:
     FishEditor editor;
 
 private:
+    /// Whether a screen that shall have so many device pixels a pixel has them.
+    bool isAtTheRequestedRatio() const
+    {
+        const QByteArray ratio = qgetenv("QT_SCALE_FACTOR");
+        return ratio.isEmpty() || qFuzzyCompare(editor.devicePixelRatioF(), ratio.toDouble());
+    }
+
     QAbstractItemModelTester m_tester{&model,
                                       QAbstractItemModelTester::FailureReportingMode::QtTest};
 };
