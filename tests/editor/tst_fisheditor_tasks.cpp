@@ -3,12 +3,10 @@
 
 #include <QMenu>
 #include <QMouseEvent>
-#include <QPrintDialog>
 #include <QtTest>
 
 #include <fishbone/undo/undostack.h>
 #include <tests/support/editorfixture.h>
-#include <tests/support/modaldriver.h>
 #include <tests/support/signalrecorder.h>
 
 using namespace TestSupport;
@@ -92,7 +90,6 @@ private Q_SLOTS:
     void shouldDoNothingWhenTheSubjectGoesWhileTheMenuIsOpen();
     void shouldSurviveItsOwnEndWhileTheMenuIsOpen();
     void shouldReportADoubleClickOnTheSelectedSpear();
-    void shouldPrintNothingWhenTheDialogIsCancelled();
 };
 
 void tst_FishEditorTasks::shouldOfferTheEntriesOfTheMode_data()
@@ -250,14 +247,6 @@ void tst_FishEditorTasks::shouldReportADoubleClickOnTheSelectedSpear()
                      Qt::LeftButton | Qt::RightButton, Qt::NoModifier);
     fixture.editor.doubleClicked(&both);
     QCOMPARE(recorder.take(), QString());
-}
-
-void tst_FishEditorTasks::shouldPrintNothingWhenTheDialogIsCancelled()
-{
-    EditorFixture fixture(document);
-    ModalDriver<QPrintDialog> user([](QPrintDialog &dialog) { dialog.reject(); });
-    fixture.editor.print();
-    QVERIFY(user.isDone());
 }
 
 QTEST_MAIN(tst_FishEditorTasks)
