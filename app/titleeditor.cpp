@@ -12,7 +12,6 @@
 #include <fishbone/model/treeitem.h>
 
 #include <QKeyEvent>
-#include <QScrollBar>
 
 #include <algorithm>
 
@@ -50,9 +49,7 @@ TitleEditor::TitleEditor(FishEditor *editor, const QModelIndex &index)
     place();
     connect(this, &QLineEdit::editingFinished, this, &TitleEditor::finish);
     connect(editor->scene(), &QGraphicsScene::changed, this, &TitleEditor::place);
-    for (const QScrollBar *bar :
-         {editor->view()->horizontalScrollBar(), editor->view()->verticalScrollBar()})
-        connect(bar, &QScrollBar::valueChanged, this, &TitleEditor::place);
+    parentWidget()->installEventFilter(this);
 }
 
 /** Follows the text, which may move or go away while its title is edited. */
@@ -73,6 +70,14 @@ void TitleEditor::place()
     const QPoint topLeft = box.center() - QPoint(wanted.width() / 2, wanted.height() / 2);
     setGeometry(
         QRect(QPoint(qBound(0, topLeft.x(), free.x()), qBound(0, topLeft.y(), free.y())), wanted));
+}
+
+bool TitleEditor::eventFilter(QObject *watched, QEvent *event)
+{
+    // Whatever moves the text on the screen (a scroll, a zoom, a new size) paints it anew.
+    if (event->type() == QEvent::Paint)
+        place();
+    return QLineEdit::eventFilter(watched, event);
 }
 
 bool TitleEditor::event(QEvent *event)

@@ -21,6 +21,7 @@ public:
     static void open(FishEditor *editor, const QModelIndex &index);
 
 protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
     bool event(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
 

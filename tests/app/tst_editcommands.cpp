@@ -5,6 +5,7 @@
 
 #include <tests/support/modaldriver.h>
 
+#include <fishbone/items/textitem.h>
 #include <fishbone/style/spearstyledialog.h>
 
 #include <QInputDialog>
@@ -43,6 +44,8 @@ private Q_SLOTS:
     void shouldInsertByShortcutAndName();
     void shouldInsertByMenu_data();
     void shouldInsertByMenu();
+    void shouldKeepTheFieldOverTheTitle_data();
+    void shouldKeepTheFieldOverTheTitle();
     void shouldKeepTheDefaultTitleOnEscape();
     void shouldLeaveShortcutsToWidgetsThatTakeText();
     void shouldInsertAFreeSubjectAsADocument();
@@ -134,6 +137,41 @@ void TestEditCommands::shouldInsertByMenu()
     QCOMPARE(app.text(),
              QStringLiteral("Late[People[Too few[Illness],Too new],Machines,%1]").arg(result));
     QCOMPARE(app.selectedInTree(), QStringList(QStringLiteral("子主题")));
+}
+
+void TestEditCommands::shouldKeepTheFieldOverTheTitle_data()
+{
+    QTest::addColumn<QByteArray>("title");
+    QTest::addColumn<QByteArray>("action");
+
+    QTest::newRow("child") << QByteArray("Machines") << QByteArray("child");
+    QTest::newRow("sibling") << QByteArray("Illness") << QByteArray("after");
+    QTest::newRow("head") << QByteArray("Late") << QByteArray("after");
+}
+
+void TestEditCommands::shouldKeepTheFieldOverTheTitle()
+{
+    QFETCH(QByteArray, title);
+    QFETCH(QByteArray, action);
+    AppFixture app;
+    app.window.editor()->expandAll();
+    app.select(title.constData());
+    const auto distance = [&app] {
+        const auto *const spear =
+            qgraphicsitem_cast<SpearItem *>(app.window.editor()->selectedItems().value(0));
+        const QPointF middle = spear->textItem()->sceneBoundingRect().center();
+        const QPoint field = titleField(app)->geometry().center();
+        return (app.window.editor()->view()->mapFromScene(middle) - field).manhattanLength();
+    };
+
+    app.trigger(action.constData());
+    AppFixture::settle();
+    QVERIFY(titleField(app));
+    QVERIFY2(distance() < 5, QByteArray::number(distance()));
+
+    app.window.resize(900, 900);
+    AppFixture::settle();
+    QVERIFY2(distance() < 5, QByteArray::number(distance()));
 }
 
 void TestEditCommands::shouldKeepTheDefaultTitleOnEscape()
