@@ -6,6 +6,7 @@
 #include <QCoreApplication>
 #include <QFile>
 #include <QHash>
+#include <QPainter>
 #include <QPointer>
 #include <QSvgRenderer>
 
@@ -14,10 +15,15 @@
 namespace {
 int parsedFiles = 0;
 
+using PictureKey = QPair<const QSvgRenderer *, QPair<int, int>>;
+
+constexpr int mostPictures = 1000; ///< a size a zoom step and file; small ones
+
 struct SvgCache
 {
     QPointer<QCoreApplication> application;
     QHash<QString, QSvgRenderer *> renderers;
+    QHash<PictureKey, QPixmap> pictures;
 };
 
 /// The cache of the running application; emptied when another application object took over, since
@@ -27,6 +33,7 @@ SvgCache &currentCache()
     static SvgCache cache;
     if (cache.application != QCoreApplication::instance()) {
         cache.renderers.clear();
+        cache.pictures.clear();
         cache.application = QCoreApplication::instance();
     }
     return cache;
@@ -58,6 +65,25 @@ QSvgRenderer *sharedSvgRenderer(const QString &file)
     QSvgRenderer *const renderer = parsedRenderer(file, cache.application);
     cache.renderers.insert(file, renderer);
     return renderer;
+}
+
+QPixmap screenPicture(const QString &file, const QSize &devicePixels)
+{
+    QSvgRenderer *const renderer = sharedSvgRenderer(file);
+    if (!renderer)
+        return QPixmap();
+    QHash<PictureKey, QPixmap> &pictures = currentCache().pictures;
+    const PictureKey key(renderer, {devicePixels.width(), devicePixels.height()});
+    const auto known = pictures.constFind(key);
+    if (known != pictures.constEnd())
+        return known.value();
+    if (pictures.size() >= mostPictures)
+        pictures.clear();
+    QPixmap picture(devicePixels);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    renderer->render(&painter);
+    return *pictures.insert(key, picture);
 }
 
 int parsedSvgFileCount()

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <QPixmap>
 #include <QString>
 
 class QSvgRenderer;
@@ -11,6 +12,10 @@ class QSvgRenderer;
 /// A file is read and parsed once per application object, which owns the renderer. Null for an
 /// empty name and for a file that does not exist or is no SVG picture; that result is kept too.
 QSvgRenderer *sharedSvgRenderer(const QString &file);
+
+/// The picture \a file as so many device pixels, for painting on a screen; kept for the next item
+/// that shows it in that size. Null where sharedSvgRenderer() is.
+QPixmap screenPicture(const QString &file, const QSize &devicePixels);
 
 /// Number of files that sharedSvgRenderer() has read since the process began.
 int parsedSvgFileCount();

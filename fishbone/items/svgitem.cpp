@@ -5,9 +5,15 @@
 
 #include <QCursor>
 #include <QGraphicsSceneHoverEvent>
+#include <QPainter>
+#include <QStyleOptionGraphicsItem>
 #include <QSvgRenderer>
 
 #include <fishbone/items/svgcache.h>
+
+namespace {
+constexpr int largestPixels = 256; ///< a side; what is larger is not worth keeping
+}
 
 SvgItem::SvgItem(QGraphicsItem *parent)
     : QGraphicsSvgItem(parent)
@@ -44,8 +50,33 @@ QRectF SvgItem::boundingRect() const
 
 void SvgItem::paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget)
 {
-    if (m_shown)
+    if (!m_shown)
+        return;
+    // Only the screen is painted from pixels. Exports and printers, which have no widget, get the
+    // drawing itself.
+    const bool isOnScreen = widget && !option->state.testFlag(QStyle::State_Selected);
+    if (!isOnScreen || !paintPixels(*painter))
         QGraphicsSvgItem::paint(painter, option, widget);
+}
+
+/** Paints the picture from pixels on whole pixels of the device; false where it would not fit. */
+bool SvgItem::paintPixels(QPainter &painter) const
+{
+    const QTransform onDevice = painter.deviceTransform();
+    if (onDevice.type() > QTransform::TxScale || onDevice.m11() <= 0 || onDevice.m22() <= 0)
+        return false;
+    const QRectF area = onDevice.mapRect(boundingRect());
+    const QSize size = area.size().toSize().expandedTo(QSize(1, 1));
+    if (size.width() > largestPixels || size.height() > largestPixels)
+        return false;
+    QPixmap picture = screenPicture(m_file, size);
+    painter.save();
+    painter.resetTransform();
+    const QTransform toDevice = painter.deviceTransform();
+    picture.setDevicePixelRatio(toDevice.m11());
+    painter.drawPixmap(toDevice.inverted().map(QPointF(area.topLeft().toPoint())), picture);
+    painter.restore();
+    return true;
 }
 
 void SvgItem::hoverEnterEvent(QGraphicsSceneHoverEvent *event)

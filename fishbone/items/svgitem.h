@@ -35,6 +35,8 @@ protected:
     void hoverLeaveEvent(QGraphicsSceneHoverEvent *event) override;
 
 private:
+    bool paintPixels(QPainter &painter) const;
+
     QString m_file;
     bool m_shown = false; ///< a picture is there to paint
 };

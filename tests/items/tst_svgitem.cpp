@@ -37,6 +37,9 @@ private Q_SLOTS:
     void shouldChangeNothingForTheFileThatIsShown();
     void shouldScheduleOnePaintForAnotherFile();
     void shouldStayVectorsInAnExport();
+    void shouldLookOnScreenAsItIsDrawn_data();
+    void shouldLookOnScreenAsItIsDrawn();
+    void shouldStandOnWholePixelsOfTheScreen();
     void shouldShowTheArrowWhileHovered();
     void shouldAcceptHoverWhenMadeWithAFile();
 };
@@ -252,6 +255,58 @@ void TestSvgItem::shouldStayVectorsInAnExport()
 
     QVERIFY(buffer.data().contains("<path"));
     QVERIFY(!buffer.data().contains("<image"));
+}
+
+void TestSvgItem::shouldLookOnScreenAsItIsDrawn_data()
+{
+    QTest::addColumn<QTransform>("transform");
+
+    QTest::newRow("as it is") << QTransform();
+    QTest::newRow("enlarged") << QTransform::fromScale(3, 3);
+    QTest::newRow("so large that nothing is kept") << QTransform(50, 0, 0, 50, -400, -400);
+    QTest::newRow("turned") << QTransform().rotate(30);
+    QTest::newRow("mirrored") << QTransform::fromScale(-2, 2);
+}
+
+/** Painted for a widget, the picture may come from pixels that were kept. */
+void TestSvgItem::shouldLookOnScreenAsItIsDrawn()
+{
+    QFETCH(QTransform, transform);
+    SvgItem item(expandFile());
+    QWidget screen;
+    const QStyleOptionGraphicsItem option;
+    const auto painted = [&](QWidget *widget) {
+        QImage image = whitePicture({120, 120});
+        QPainter painter(&image);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.translate(40, 40);
+        painter.setTransform(transform, true);
+        item.paint(&painter, &option, widget);
+        return image;
+    };
+
+    const QImage drawn = painted(nullptr);
+    QVERIFY(inkedPixels(drawn) > 50);
+    QCOMPARE(difference(painted(&screen), drawn, 8), QString());
+    QCOMPARE(difference(painted(&screen), drawn, 8), QString()); // now from what was kept
+}
+
+void TestSvgItem::shouldStandOnWholePixelsOfTheScreen()
+{
+    SvgItem item(expandFile());
+    QWidget screen;
+    const QStyleOptionGraphicsItem option;
+    const auto painted = [&](qreal x) {
+        QImage image = whitePicture({60, 60});
+        QPainter painter(&image);
+        painter.translate(x, 20);
+        item.paint(&painter, &option, &screen);
+        return image;
+    };
+
+    QCOMPARE(painted(20.3), painted(20));
+    QCOMPARE(painted(20.7), painted(21));
+    QVERIFY(painted(20) != painted(21));
 }
 
 void TestSvgItem::shouldShowTheArrowWhileHovered()
