@@ -5,6 +5,7 @@
 
 #include <algorithm>
 
+#include <QApplication>
 #include <QHBoxLayout>
 #include <QMimeData>
 #include <QTimer>
@@ -19,6 +20,8 @@
 #include <fishbone/items/spearitem.h>
 #include <fishbone/model/fishinfo.h>
 #include <fishbone/model/fishmodel.h>
+#include <fishbone/style/drawnchanges.h>
+#include <fishbone/style/spearstyle.h>
 #include <fishbone/undo/undostack.h>
 
 namespace {
@@ -251,13 +254,35 @@ void FishEditor::updateFish(bool rebuild)
         showNothing(); // the subject left in a way that nobody announced
     } else if (headSpear()) {
         updateHeadText();
-        FishLayout layout(headSpear());
-        layout.refreshSpears(FishLayout::Lines::Keep);
-        layout.sizeSpears();
-        layout.placeSpears();
+        if (!isLaidOut())
+            layOut();
+        return;
     }
     if (FishInfo *const document = currentFishInfo())
         document->updateNoParentNodeCount();
+}
+
+void FishEditor::layOut()
+{
+    FishLayout layout(headSpear());
+    layout.refreshSpears(FishLayout::Lines::Keep);
+    layout.sizeSpears();
+    layout.placeSpears();
+    m_laidOut = {DrawnChanges::count(), headSpear(), QApplication::font(), layout.itemCount()};
+}
+
+bool FishEditor::showsOwnItemsOnly() const
+{
+    // Counting the items of a scene without an index takes constant time.
+    return m_laidOut.changes == DrawnChanges::count() && m_laidOut.head == headSpear() &&
+           m_scene->items().size() == m_laidOut.items;
+}
+
+bool FishEditor::isLaidOut() const
+{
+    SpearStyle::global(); // its file may have come
+    return m_laidOut.changes == DrawnChanges::count() && m_laidOut.head == headSpear() &&
+           m_laidOut.font == QApplication::font();
 }
 
 void FishEditor::updateHeadText()

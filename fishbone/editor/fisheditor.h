@@ -5,6 +5,7 @@
 
 #include <memory>
 
+#include <QFont>
 #include <QFrame>
 #include <QGraphicsItem>
 #include <QJsonObject>
@@ -330,6 +331,8 @@ public:
     void doubleClicked(QMouseEvent *event);
 
 private:
+    friend class GraphicsView; // asks showsOwnItemsOnly()
+
     /// The root that was shown last, remembered across what makes its index invalid.
     struct ShownRoot
     {
@@ -338,8 +341,21 @@ private:
         bool isHead = false;               ///< the document's head, whichever that is
     };
 
+    /// What a layout was made from.
+    struct LayoutState
+    {
+        quint64 changes = 0;
+        const SpearItem *head = nullptr; ///< only compared
+        QFont font;                      ///< of the program, shown where a style sets none
+        int items = 0;                   ///< spears and companions
+    };
+
     class SelectionHold;
 
+    bool isLaidOut() const;
+    void layOut();
+    /// Whether the scene holds what was laid out last and nothing else, as far as that is known.
+    bool showsOwnItemsOnly() const;
     FishModel *fishModel() const;
     SpearItem *spearOf(const QModelIndex &index) const;
     bool isListed(const FishInfo *document) const;
@@ -373,6 +389,7 @@ private:
     QPointer<QAbstractItemModel> m_model;
     std::unique_ptr<FishScene> m_scene;
     SpearPointer m_headSpear;
+    LayoutState m_laidOut;
     UndoStack *m_undoStack = nullptr;
     int m_zoomValue = 250;
     int m_rotateValue = 0;

@@ -136,9 +136,8 @@ void FishEditor::deleteSubjects(const QJsonObject &objects, const QList<TreeItem
     FishModel *const model = fishModel();
     if (objects.isEmpty() || !model)
         return;
-    auto command = std::make_unique<EditDelete>(model, objects);
+    auto command = std::make_unique<EditDelete>(model, objects, subjects);
     command->setDocument(currentFishInfo());
-    command->setSubjects(subjects);
     execute(std::move(command));
     afterEdit();
 }

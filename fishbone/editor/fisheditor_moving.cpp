@@ -63,9 +63,8 @@ void FishEditor::moveItems(const QPoint &pos, const QList<QGraphicsItem *> &srcs
     if (snapshot.isEmpty())
         return;
     const QPersistentModelIndex parent = target;
-    auto command = std::make_unique<EditMove>(model, target, row, snapshot);
+    auto command = std::make_unique<EditMove>(model, target, row, snapshot, subjectsOf(srcs));
     command->setDocument(currentFishInfo());
-    command->setSubjects(subjectsOf(srcs));
     execute(std::move(command));
     setModified(true);
     updateFish(false);
@@ -84,9 +83,8 @@ void FishEditor::onDropTo(const QMimeData *mimeData, const QModelIndex &indexTo,
     FishModel::write(snapshot, dropped, true);
     const QPersistentModelIndex parent = indexTo;
     // The command also makes the spears of a subject that was not shown here.
-    EditMove command(model, indexTo, row, snapshot);
+    EditMove command(model, indexTo, row, snapshot, {dropped});
     command.setDocument(model->fishOf(dropped));
-    command.setSubjects({dropped});
     command.redo();
     setModified(true);
     updateFish(false);

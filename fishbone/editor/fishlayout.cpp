@@ -3,33 +3,25 @@
 
 #include <fishbone/editor/fishlayout.h>
 
-#include <memory>
+#include <numeric>
 
 #include <fishbone/editor/spearbuilder.h>
-#include <fishbone/items/expanditem.h>
 #include <fishbone/items/spearitem.h>
 #include <fishbone/model/treeitem.h>
+#include <fishbone/style/globalstylelookup.h>
 
 namespace {
 constexpr double firstOffset = 30.0;      ///< of the first child along its parent
 constexpr double secondSideOffset = 60.0; ///< of the first bone on the head's second side
 constexpr double minimumAdvance = 30.0;   ///< per child of a horizontal bone
 constexpr double textClearance = 10.0;    ///< behind the text that children of direction -1 pass
-
-void updateExpandItem(SpearItem *spear)
-{
-    if (auto *const button = qgraphicsitem_cast<ExpandItem *>(spear->expandBuddy()))
-        button->updateSvgIcon();
-    else
-        spear->setExpandBuddy(std::make_unique<ExpandItem>(spear).release());
-}
 } // namespace
 
 FishLayout::FishLayout(SpearItem *head)
 {
     m_entries.push_back({head, 1, 0, 0});
     for (std::size_t current = 0; current < m_entries.size(); ++current) {
-        const QList<SpearItem *> children = m_entries[current].spear->childSpears();
+        const QList<SpearItem *> &children = m_entries[current].spear->knownChildSpears();
         m_entries[current].firstChild = int(m_entries.size());
         m_entries[current].childCount = children.count();
         const int level = m_entries[current].level + 1;
@@ -41,18 +33,21 @@ FishLayout::FishLayout(SpearItem *head)
 void FishLayout::refreshSpears(Lines lines)
 {
     const auto reset = [lines](SpearItem *spear, int direction) {
-        if (lines == Lines::Reset)
-            spear->initData(direction);
-        else
+        if (lines == Lines::Keep) {
             spear->beginLayout(direction);
+            return;
+        }
+        spear->initData(direction);
         spear->updateTaskStatus();
     };
+    const GlobalStyleLookup lookup;
     reset(m_entries.front().spear, 0);
     updateLinkItem(m_entries.front().spear);
     for (const Entry &parent : m_entries) {
         for (int i = 0; i < parent.childCount; ++i) {
             const Entry &child = m_entries[std::size_t(parent.firstChild + i)];
             reset(child.spear, SpearBuilder::directionFor(parent.spear, parent.level, i));
+            child.spear->setVisible(parent.spear->isExpand());
             refreshCompanions(child);
         }
     }
@@ -62,9 +57,9 @@ void FishLayout::refreshCompanions(const Entry &entry) const
 {
     updateLinkItem(entry.spear);
     if (entry.childCount > 0)
-        updateExpandItem(entry.spear);
+        entry.spear->updateExpandButton();
     const TreeItem *const subject = entry.spear->treeItem();
-    if (subject && subject->childCount() < 1)
+    if (entry.spear->expandBuddy() && subject && subject->childCount() < 1)
         entry.spear->setExpandBuddy(nullptr);
 }
 
@@ -89,6 +84,7 @@ void FishLayout::placeSpears()
             placeAlongSlantedBone(parent);
         else
             placeAlongHorizontalBone(parent);
+        parent.spear->endLayout();
     }
 }
 
@@ -99,7 +95,7 @@ void FishLayout::placeAlongSlantedBone(const Entry &parent)
         SpearItem *const child = m_entries[std::size_t(parent.firstChild + i)].spear;
         child->setOffset(offset);
         offset += child->spearHeight();
-        child->updatePosition(QPointF(0, 0));
+        child->place(parent.spear);
     }
 }
 
@@ -118,8 +114,18 @@ void FishLayout::placeAlongHorizontalBone(const Entry &parent)
                                         : offset);
             offset += qMax(minimumAdvance, child->spearWidth());
         }
-        child->updatePosition(QPointF(0, 0));
+        child->place(parent.spear);
     }
+}
+
+int FishLayout::itemCount() const
+{
+    return std::accumulate(
+        m_entries.cbegin(), m_entries.cend(), 0, [](int count, const Entry &entry) {
+            const SpearItem &spear = *entry.spear;
+            const int always = 3; // the spear, its text and its status
+            return count + always + (spear.linkItem() ? 1 : 0) + (spear.expandBuddy() ? 1 : 0);
+        });
 }
 
 void FishLayout::expandBones(bool expand)

@@ -26,6 +26,8 @@ public:
     void refreshSpears(Lines lines);
     void sizeSpears();
     void placeSpears();
+    /// Number of spears, text boxes and icons.
+    int itemCount() const;
 
 private:
     struct Entry

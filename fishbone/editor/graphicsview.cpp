@@ -14,6 +14,7 @@
 
 #include <fishbone/editor/fisheditor.h>
 #include <fishbone/editor/itemancestry.h>
+#include <fishbone/items/hovercursor.h>
 #include <fishbone/items/spearitem.h>
 #include <fishbone/items/textitem.h>
 
@@ -181,6 +182,7 @@ void GraphicsView::mouseMoveEvent(QMouseEvent *event)
         else
             unmarkTarget();
     }
+    const HoverDispatch dispatch(m_editor->showsOwnItemsOnly());
     QGraphicsView::mouseMoveEvent(event);
 }
 

@@ -33,11 +33,11 @@ void updateLinkItem(SpearItem *spear)
 {
     const TreeItem *const subject = spear->treeItem();
     if (!subject || subject->url().isEmpty()) {
-        spear->setLinkItem(nullptr);
+        if (spear->linkItem())
+            spear->setLinkItem(nullptr);
         return;
     }
-    const auto *const shown = qgraphicsitem_cast<LinkItem *>(spear->linkItem());
-    if (!shown || shown->url() != subject->url())
+    if (!spear->showsLink(subject->url()))
         spear->setLinkItem(std::make_unique<LinkItem>(subject->url()).release());
 }
 

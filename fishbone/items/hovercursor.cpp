@@ -21,14 +21,20 @@ void showCursor(const QGraphicsItem &item, Qt::CursorShape shape)
     if (viewport && viewport->cursor().shape() != shape)
         viewport->setCursor(shape);
 }
+
+bool isTopmost(const QGraphicsItem &item, const QPointF &scenePos)
+{
+    if (HoverDispatch::reachesTopmost())
+        return item.contains(item.mapFromScene(scenePos));
+    return item.scene()->itemAt(scenePos, QTransform()) == &item;
+}
 } // namespace
 
 void showHoverCursor(const QGraphicsItem &item, const QPointF &scenePos)
 {
     if (!currentViewport(item))
         return;
-    const bool topmost = item.scene()->itemAt(scenePos, QTransform()) == &item;
-    showCursor(item, topmost ? Qt::PointingHandCursor : Qt::ArrowCursor);
+    showCursor(item, isTopmost(item, scenePos) ? Qt::PointingHandCursor : Qt::ArrowCursor);
 }
 
 void showArrowCursor(const QGraphicsItem &item)

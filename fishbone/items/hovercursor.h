@@ -3,13 +3,36 @@
 
 #pragma once
 
-#include <QPointF>
+#include <QtGlobal>
 
 class QGraphicsItem;
+class QPointF;
 
-/// Shows the pointing hand on the viewport of the scene's first view while \a item is the topmost
-/// one at \a scenePos, else the arrow. Does nothing without a scene or a view.
+/// Shows a pointing hand over the scene's first view when \a item is the topmost item at
+/// \a scenePos, an arrow otherwise. Does nothing outside a scene with a view.
 void showHoverCursor(const QGraphicsItem &item, const QPointF &scenePos);
 
-/// Shows the arrow on the viewport of the scene's first view.
+/// Shows an arrow over the viewport of the scene's first view, if there is one.
 void showArrowCursor(const QGraphicsItem &item);
+
+/// Held by a view while it hands a mouse move on to a scene in which every item accepts hover
+/// events: an item that gets the event then has nothing above it there, and showHoverCursor()
+/// need not search the scene a second time.
+class HoverDispatch
+{
+    Q_DISABLE_COPY(HoverDispatch)
+
+public:
+    explicit HoverDispatch(bool reachesTopmost)
+        : m_outer(m_reachesTopmost)
+    {
+        m_reachesTopmost = reachesTopmost;
+    }
+    ~HoverDispatch() { m_reachesTopmost = m_outer; }
+
+    static bool reachesTopmost() { return m_reachesTopmost; }
+
+private:
+    static inline bool m_reachesTopmost = false;
+    const bool m_outer;
+};

@@ -7,11 +7,14 @@
 #include <QPainter>
 #include <QStyleOptionGraphicsItem>
 
+#include <fishbone/items/expanditem.h>
 #include <fishbone/items/hovercursor.h>
+#include <fishbone/items/linkitem.h>
 #include <fishbone/items/taskstatusitem.h>
 #include <fishbone/items/textitem.h>
 #include <fishbone/model/fishmodel.h>
 #include <fishbone/model/treeitem.h>
+#include <fishbone/style/drawnchanges.h>
 
 SpearItem::SpearItem(const QString &text, int direction, double spearSize)
     : m_text(text)
@@ -29,8 +32,7 @@ SpearItem::SpearItem(const QString &text, int direction, double spearSize)
 
 SpearItem::~SpearItem()
 {
-    if (m_guardCell)
-        *m_guardCell = nullptr;
+    m_guard.clear();
     TreeItem *const subject = m_treeItem;
     m_treeItem = nullptr;
     if (subject && subject->spear() == this)
@@ -93,8 +95,11 @@ void SpearItem::setTaskStatus(int status)
 
 void SpearItem::updateTaskStatus()
 {
-    if (m_treeItem)
-        m_statusItem->setTask(m_treeItem->status(), m_treeItem->progress());
+    if (!m_treeItem)
+        return;
+    m_shownStatus = m_treeItem->status();
+    m_shownProgress = m_treeItem->progress();
+    m_statusItem->setTask(m_shownStatus, m_shownProgress);
 }
 
 void SpearItem::updateToolTip()
@@ -111,24 +116,30 @@ void SpearItem::setText(const QString &text)
     update();
 }
 
+QSizeF SpearItem::textSize() const
+{
+    return m_isInLayout ? m_shown.size : m_textItem->textSize();
+}
+
 double SpearItem::textWidth() const
 {
-    return m_textItem->textWidth();
+    return textSize().width();
 }
 
 double SpearItem::textHeight() const
 {
-    return m_textItem->textHeight();
+    return textSize().height();
 }
 
-QString SpearItem::displayText() const
+/** How many characters of the title are shown. */
+int SpearItem::shownLength(const SpearStyle &style) const
 {
-    const int count = textDisplayCount();
+    const int count = style.textCount();
     if (count < 1 || count >= m_text.length())
-        return m_text;
+        return m_text.length();
     const bool splitsPair =
         m_text.at(count - 1).isHighSurrogate() && m_text.at(count).isLowSurrogate();
-    return m_text.left(splitsPair ? count - 1 : count);
+    return splitsPair ? count - 1 : count;
 }
 
 namespace {
@@ -148,14 +159,33 @@ QString withoutCounts(const QString &text)
 
 void SpearItem::updateTextMetrics()
 {
-    const QString shown = displayText();
-    const QFont shownFont = textFont(textState());
-    if (!m_textItem->shows(shownFont, shown)) {
+    showText(*style());
+}
+
+void SpearItem::showText(const SpearStyle &style)
+{
+    const int length = shownLength(style);
+    const QStringView shown = QStringView(m_text).left(length);
+    const auto showIn = [this, shown, length](const QFont &font) {
+        if (m_textItem->shows(font, shown))
+            return;
         prepareGeometryChange();
-        m_textItem->showText(shownFont, shown);
-    }
+        m_shown.text = m_text.left(length);
+        m_shown.font = font;
+        m_shown.size = QSizeF();
+        unplace();
+        m_textItem->showText(font, m_shown.text);
+    };
+    // No copy of the font: this is asked for every bone of every layout.
+    if (const QFont *const set = style.textFont(textState()))
+        showIn(*set);
+    else
+        showIn(QFont());
     // The box goes on showing the counts; only what is reported as the display text goes without.
-    m_textDisplay = m_treeItem && m_treeItem->isTopVaildItem() ? withoutCounts(shown) : shown;
+    if (m_treeItem && m_treeItem->isTopVaildItem())
+        m_textDisplay = withoutCounts(m_text.left(length));
+    else if (m_textDisplay != shown)
+        m_textDisplay = m_text.left(length);
 }
 
 SpearStyle *SpearItem::style() const
@@ -197,15 +227,40 @@ SpearStyle::SpearState SpearItem::textState() const
 
 void SpearItem::updateTextLooks()
 {
-    updateTextMetrics();
-    m_textItem->showColor(textColor(textState()));
+    showLooks(*style());
+}
+
+void SpearItem::showLooks(const SpearStyle &style)
+{
+    showText(style);
+    m_shown.color = style.textColor(textState());
+    m_textItem->showColor(m_shown.color);
+}
+
+/** Whether showLooks() would change nothing, given that nobody else changed the text box. */
+bool SpearItem::showsLooks(const SpearStyle &style) const
+{
+    const SpearStyle::SpearState state = textState();
+    const QFont *const font = style.textFont(state);
+    return m_shown.text == QStringView(m_text).left(shownLength(style)) &&
+           m_shown.color == style.textColor(state) &&
+           (font ? m_shown.font == *font : m_shown.font == QFont());
 }
 
 void SpearItem::applyState(SpearStyle::SpearState state)
 {
+    const SpearStyle &applied = *style();
     m_currentState = state;
-    updateTextLooks();
-    setPen(broaderPen(state));
+    showLooks(applied);
+    showPen(applied);
+}
+
+void SpearItem::showPen(const SpearStyle &style)
+{
+    if (const QPen *const set = style.broderPen(m_currentState))
+        setPen(*set);
+    else
+        setPen(QPen());
 }
 
 QFont SpearItem::textFont(SpearStyle::SpearState state) const
@@ -251,13 +306,15 @@ void SpearItem::setLinked(bool linked, int number)
 void SpearItem::setExpand(bool expand)
 {
     m_expand = expand;
+    unplace(); // the pictures of the button need not be of one size
+    m_isButtonCurrent = false;
     showChildren();
     update();
 }
 
 void SpearItem::showChildren()
 {
-    const QList<SpearItem *> children = childSpears();
+    const QList<SpearItem *> children = knownChildSpears();
     for (SpearItem *child : children)
         child->setVisible(m_expand);
 }
@@ -281,10 +338,27 @@ QList<SpearItem *> SpearItem::childSpears() const
     return spears;
 }
 
+void SpearItem::forgetChildSpears()
+{
+    m_childSpears.clear(); // one of them may be dying
+    m_knowsChildSpears = false;
+    DrawnChanges::note();
+}
+
+const QList<SpearItem *> &SpearItem::knownChildSpears() const
+{
+    if (!m_knowsChildSpears) {
+        m_childSpears = childSpears();
+        m_knowsChildSpears = true;
+    }
+    return m_childSpears;
+}
+
 void SpearItem::stackChildrenInRowOrder()
 {
     if (!m_treeItem)
         return;
+    forgetChildSpears();
     // From the last row to the first, so that each one moved stands before all that follow it.
     const auto &subjects = m_treeItem->childItems();
     const SpearItem *next = nullptr;
@@ -309,12 +383,15 @@ void SpearItem::setCompanion(QGraphicsItem *&companion, QGraphicsItem *item)
         return;
     const std::unique_ptr<QGraphicsItem> replaced(companion);
     companion = item;
+    unplace();
     if (item)
         item->setParentItem(this);
 }
 
 void SpearItem::setLinkItem(QGraphicsItem *item)
 {
+    const auto *const link = qgraphicsitem_cast<LinkItem *>(item);
+    m_linkUrl = link ? link->url() : QString();
     setCompanion(m_linkItem, item);
     if (m_linkItem)
         m_linkItem->setPos(linkBuddyPosition());
@@ -323,8 +400,20 @@ void SpearItem::setLinkItem(QGraphicsItem *item)
 void SpearItem::setExpandBuddy(QGraphicsItem *item)
 {
     setCompanion(m_expandBuddy, item);
+    m_isButtonCurrent = false;
     if (m_expandBuddy)
         m_expandBuddy->setPos(expandBuddyPosition());
+}
+
+void SpearItem::updateExpandButton()
+{
+    if (m_isButtonCurrent)
+        return;
+    m_isButtonCurrent = true;
+    if (auto *const button = qgraphicsitem_cast<ExpandItem *>(m_expandBuddy))
+        button->updateSvgIcon();
+    else
+        setExpandBuddy(std::make_unique<ExpandItem>(this).release());
 }
 
 QVariant SpearItem::itemChange(GraphicsItemChange change, const QVariant &value)
@@ -337,13 +426,25 @@ QVariant SpearItem::itemChange(GraphicsItemChange change, const QVariant &value)
     } else if (change == ItemSceneHasChanged && m_hovered) {
         m_hovered = false; // the scene that it left sends no further event
         applyState(interactionState());
+    } else if (change == ItemPositionHasChanged) {
+        m_isDisplaced = value.toPointF() != QPointF();
+        DrawnChanges::note();
+    } else if (change == ItemVisibleHasChanged) {
+        DrawnChanges::note();
+    } else if (change == ItemParentHasChanged) {
+        unplace();
+    } else if (change == ItemChildAddedChange) {
+        forgetChildSpears();
     } else if (change == ItemChildRemovedChange) {
+        forgetChildSpears();
         // A companion that dies or is given to somebody else is forgotten.
         const auto *const removed = value.value<QGraphicsItem *>();
         if (removed == m_linkItem)
             m_linkItem = nullptr;
-        if (removed == m_expandBuddy)
+        if (removed == m_expandBuddy) {
             m_expandBuddy = nullptr;
+            m_isButtonCurrent = false;
+        }
     }
     return result;
 }
@@ -373,11 +474,4 @@ void SpearItem::hoverLeaveEvent(QGraphicsSceneHoverEvent *event)
     m_textItem->update();
     showArrowCursor(*this);
     QGraphicsLineItem::hoverLeaveEvent(event);
-}
-
-std::shared_ptr<SpearItem *> SpearItem::guardCell()
-{
-    if (!m_guardCell)
-        m_guardCell = std::make_shared<SpearItem *>(this);
-    return m_guardCell;
 }

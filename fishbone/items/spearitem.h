@@ -10,6 +10,7 @@
 #include <QPointer>
 
 #include <fishbone/fishbone_export.h>
+#include <fishbone/model/guardedpointer.h>
 #include <fishbone/style/spearstyle.h>
 
 class FishModel;
@@ -141,6 +142,8 @@ public:
     int depth() const;
     /// The child items that are spears, in stacking order. Linear in the number of child items.
     QList<SpearItem *> childSpears() const;
+    /// As childSpears(), as found when a child item came or went last. Constant time from then on.
+    const QList<SpearItem *> &knownChildSpears() const;
     /// Number of child spears. Linear: in a loop, take childSpears() once.
     int childCount() const { return childSpears().count(); }
     /// Child spear \a i, or null. Linear: in a loop, take childSpears() once.
@@ -163,11 +166,18 @@ public:
     void setLinkItem(QGraphicsItem *item);
     /// Gives the spear its expand button, as setLinkItem() does.
     void setExpandBuddy(QGraphicsItem *item);
+    /// Whether the link icon was made for \a url and the spear still has it.
+    bool showsLink(const QString &url) const { return m_linkItem && m_linkUrl == url; }
+    /// Brings the picture of the expand button in line with isExpand().
+    void updateExpandButton();
     /// @}
 
     /// \name Geometry
     /// @{
 
+    /// As the base class does; a line that was set by hand stands until the next layout.
+    void setLine(const QLineF &line);
+    void setLine(qreal x1, qreal y1, qreal x2, qreal y2) { setLine(QLineF(x1, y1, x2, y2)); }
     int direction() const { return m_direction; }
     void setDirection(int direction);
     /// -1: the drawing grows to the left of the head.
@@ -180,9 +190,14 @@ public:
 
     /// Resets the item for a new layout: position, offset, line, recorded child sizes.
     void initData(int direction);
-    /// As initData(), but the line stays until updatePosition() replaces it, so that a layout that
-    /// changes nothing repaints nothing.
+    /// As initData(), but the line and whatever looks as it should stay, so that a layout that
+    /// changes nothing repaints nothing. The caller shows the children. Until endLayout() the text
+    /// is not measured again. For FishLayout.
     void beginLayout(int direction);
+    /// As updatePosition(), but companions that stand in their places already are not placed
+    /// again. For FishLayout.
+    void place(SpearItem *parent);
+    void endLayout() { m_isInLayout = false; }
     /// Records the size of the next child spear.
     void sumChildSize(const QSizeF &size);
     /// Extent along the horizontal, children included.
@@ -215,7 +230,7 @@ public:
                QWidget *widget = nullptr) override;
 
     /// What SpearPointer shares with the spear. For SpearPointer.
-    std::shared_ptr<SpearItem *> guardCell();
+    std::shared_ptr<SpearItem *> guardCell() { return m_guard.shared(this); }
 
     static QPixmap *m_pixHeader; ///< head picture, shared; null while there is no spear
     static QPixmap *m_pixTail;   ///< tail picture, shared; null while there is no spear
@@ -228,6 +243,15 @@ protected:
     void hoverLeaveEvent(QGraphicsSceneHoverEvent *event) override;
 
 private:
+    /// What the text box was given last.
+    struct ShownText
+    {
+        QString text;
+        QFont font;
+        QColor color;
+        QSizeF size; ///< invalid until measured
+    };
+
     /// What the layout needs to know of the recorded child sizes.
     struct ChildExtents
     {
@@ -244,9 +268,18 @@ private:
     SpearStyle::SpearState textState() const;
     void resetLayout(int direction);
     void showChildren();
-    QString displayText() const;
+    int shownLength(const SpearStyle &style) const;
+    void showText(const SpearStyle &style);
+    void showLooks(const SpearStyle &style);
+    bool showsLooks(const SpearStyle &style) const;
+    QSizeF textSize() const;
     void setCompanion(QGraphicsItem *&companion, QGraphicsItem *item);
     void placeCompanions();
+    void unplace();
+    void forgetChildSpears();
+    QLineF placedLine(const SpearItem *parent) const;
+    void moveLine(SpearItem *parent, const QLineF &placed);
+    void showPen(const SpearStyle &style);
 
     QLineF headerLine() const;
     QLineF horizontalLine(const SpearItem &parent) const;
@@ -269,6 +302,16 @@ private:
     QString m_text;
     QString m_textDisplay;
     ChildExtents m_children;
+    ShownText m_shown;
+    bool m_isInLayout = false;      ///< m_shown.size is what the text box measures
+    bool m_isPlaced = false;        ///< the companions stand where the line wants them
+    bool m_isDisplaced = false;     ///< the spear itself was dragged off (0, 0)
+    bool m_isButtonCurrent = false; ///< the picture of the expand button tells m_expand
+    int m_shownStatus = 0;
+    int m_shownProgress = 0;
+    QString m_linkUrl;
+    mutable QList<SpearItem *> m_childSpears;
+    mutable bool m_knowsChildSpears = true; ///< whether m_childSpears is up to date
     double m_offset = 0;
     int m_direction;
     int m_side = -1;
@@ -284,5 +327,5 @@ private:
     TaskStatusItem *m_statusItem = nullptr;
     TreeItem *m_treeItem = nullptr;
     double m_spearSize;
-    std::shared_ptr<SpearItem *> m_guardCell;
+    GuardCell<SpearItem> m_guard;
 };

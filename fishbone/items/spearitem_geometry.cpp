@@ -14,6 +14,8 @@
 #include <fishbone/items/taskstatusitem.h>
 #include <fishbone/items/textitem.h>
 #include <fishbone/model/systemhelper.h>
+#include <fishbone/model/treeitem.h>
+#include <fishbone/style/drawnchanges.h>
 
 namespace {
 constexpr double boneAngle = 70;            ///< slant of a slanted bone, degrees
@@ -24,6 +26,7 @@ constexpr double widestWedgeAngle = 0.002181661564992912; ///< radians; an eight
 
 const double boneCos = std::cos(SystemHelper::angleToRadian(boneAngle));
 const double boneSin = std::sin(SystemHelper::angleToRadian(boneAngle));
+const double widestWedgeSlope = std::tan(widestWedgeAngle);
 
 QRectF spanned(const QLineF &line)
 {
@@ -52,26 +55,40 @@ QPolygonF corners(const QRectF &rect)
 }
 } // namespace
 
+void SpearItem::setLine(const QLineF &line)
+{
+    QGraphicsLineItem::setLine(line);
+    DrawnChanges::note();
+}
+
+void SpearItem::unplace()
+{
+    m_isPlaced = false;
+    DrawnChanges::note();
+}
+
 void SpearItem::setDirection(int direction)
 {
     if (m_direction == direction)
         return;
     prepareGeometryChange();
     m_direction = direction;
+    unplace();
 }
 
 void SpearItem::resetLayout(int direction)
 {
-    setPos(0, 0);
+    if (m_isDisplaced)
+        setPos(0, 0);
     m_offset = 0;
     setDirection(direction);
-    applyState(m_currentState);
     m_children = ChildExtents();
 }
 
 void SpearItem::initData(int direction)
 {
     resetLayout(direction);
+    applyState(m_currentState);
     setLine(QLineF(0, 0, 0, 0));
     showChildren();
 }
@@ -79,7 +96,16 @@ void SpearItem::initData(int direction)
 void SpearItem::beginLayout(int direction)
 {
     resetLayout(direction);
-    showChildren();
+    if (const SpearStyle &applied = *style(); showsLooks(applied))
+        showPen(applied);
+    else
+        applyState(m_currentState);
+    if (m_treeItem &&
+        (m_treeItem->status() != m_shownStatus || m_treeItem->progress() != m_shownProgress))
+        updateTaskStatus();
+    if (!m_shown.size.isValid())
+        m_shown.size = m_textItem->textSize();
+    m_isInLayout = true;
 }
 
 void SpearItem::sumChildSize(const QSizeF &size)
@@ -163,7 +189,7 @@ QPointF SpearItem::textBuddyPosition()
     const QPointF start = line().p1();
     if (isHeader())
         return start;
-    const QSizeF text = m_textItem->textSize();
+    const QSizeF text = textSize();
     // Compared first: setting the rotation that is there already would schedule a repaint.
     const double rotation = -boneAngle * m_direction;
     if (!qFuzzyCompare(m_textItem->rotation() + 1, rotation + 1))
@@ -172,12 +198,9 @@ QPointF SpearItem::textBuddyPosition()
         return start + QPointF((text.width() + textGap) * m_side, -text.height());
     if (m_direction == 1)
         return start + QPointF(text.width() * boneCos * m_side, text.width() * boneSin);
-    const double diagonal = std::hypot(text.width(), text.height());
-    if (diagonal <= 0)
-        return start;
-    const double angle =
-        std::acos(text.width() / diagonal) + SystemHelper::angleToRadian(boneAngle);
-    return start + QPointF(diagonal * std::cos(angle) * m_side, -diagonal * std::sin(angle));
+    // The lower left corner of the turned text comes to stand on the bone.
+    return start + QPointF((text.width() * boneCos - text.height() * boneSin) * m_side,
+                           -text.height() * boneCos - text.width() * boneSin);
 }
 
 QLineF SpearItem::headerLine() const
@@ -191,9 +214,9 @@ QLineF SpearItem::horizontalLine(const SpearItem &parent) const
     const double length = bone.length();
     QPointF start = bone.p1();
     if (length > 0) {
-        const double angle = std::acos(qBound(-1.0, bone.dx() / length, 1.0));
-        start +=
-            QPointF(m_offset * std::cos(angle), parent.direction() * m_offset * std::sin(angle));
+        const double cosine = qBound(-1.0, bone.dx() / length, 1.0);
+        const double sine = std::sqrt(1 - cosine * cosine);
+        start += QPointF(m_offset * cosine, parent.direction() * m_offset * sine);
     }
     return {start, start + QPointF(m_side * spearWidth(), 0)};
 }
@@ -206,25 +229,43 @@ QLineF SpearItem::slantedLine(const SpearItem &parent) const
     if (length > 0) {
         start.rx() += m_side * m_offset;
         if (parent.isHeader())
-            start.ry() += m_direction * (length - m_offset) * std::tan(parent.backboneAngle());
+            start.ry() += m_direction * (length - m_offset) *
+                          qMin(wedgeHalfHeight / length, widestWedgeSlope);
     }
     const double height = spearHeight();
     return {start, start + QPointF(m_side * boneCos * height, m_direction * boneSin * height)};
 }
 
+QLineF SpearItem::placedLine(const SpearItem *parent) const
+{
+    if (!parent)
+        return headerLine();
+    return m_direction == 0 ? horizontalLine(*parent) : slantedLine(*parent);
+}
+
 void SpearItem::updatePosition(const QPointF &position)
 {
     Q_UNUSED(position)
-    SpearItem *const parent = parentSpear();
-    const QLineF placed = !parent            ? headerLine()
-                          : m_direction == 0 ? horizontalLine(*parent)
-                                             : slantedLine(*parent);
+    moveLine(parentSpear(), placedLine(parentSpear()));
+    placeCompanions();
+}
+
+void SpearItem::place(SpearItem *parent)
+{
+    const QLineF placed = placedLine(parent);
+    if (m_isPlaced && placed == line())
+        return;
+    moveLine(parent, placed);
+    placeCompanions();
+}
+
+void SpearItem::moveLine(SpearItem *parent, const QLineF &placed)
+{
     if (parent && parent->isLinked() && placed != line()) {
         parent->prepareGeometryChange(); // its circle stands between the lines of its children
         parent->update();
     }
     setLine(placed);
-    placeCompanions();
 }
 
 void SpearItem::placeCompanions()
@@ -241,6 +282,7 @@ void SpearItem::placeCompanions()
     m_statusItem->setVisible(!isHeader());
     if (!isHeader())
         m_statusItem->setPos(TaskStateItemPosition());
+    m_isPlaced = true;
 }
 
 QRectF SpearItem::textRect() const

@@ -3,7 +3,10 @@
 
 #include <fishbone/items/textitem.h>
 
+#include <cmath>
+
 #include <QGraphicsSceneHoverEvent>
+#include <QPaintEngine>
 #include <QPainter>
 #include <QStyleOptionGraphicsItem>
 #include <QTextDocument>
@@ -12,6 +15,8 @@
 #include <fishbone/items/spearitem.h>
 
 namespace {
+constexpr qreal lowestReadable = 2; ///< device pixels a text is high
+constexpr qreal strokeOpacity = 0.4;
 constexpr qreal cornerRoundness = 5; ///< per cent of half the box's width and height
 
 SpearStyle::SpearState stateOf(bool hovered, bool selected)
@@ -26,10 +31,11 @@ TextItem::TextItem(const QString &text, QGraphicsItem *parent)
     : QGraphicsTextItem(parent)
 {
     showText(QFont(), text);
-    showColor(QColor());
+    if (!parentSpear()) // a spear gives its own
+        showColor(QColor());
 }
 
-bool TextItem::shows(const QFont &font, const QString &text) const
+bool TextItem::shows(const QFont &font, QStringView text) const
 {
     return m_text == text && this->font() == font;
 }
@@ -74,7 +80,30 @@ void TextItem::paint(QPainter *painter, const QStyleOptionGraphicsItem *option, 
     }
     if (state != SpearStyle::ssNormal)
         paintBox(painter, QRectF(option->rect), fill, frame);
-    QGraphicsTextItem::paint(painter, option, widget);
+    if (isReadable(*painter))
+        QGraphicsTextItem::paint(painter, option, widget);
+    else
+        paintStroke(painter);
+}
+
+/** Whether the text is high enough to be told from a line where \a painter draws it. */
+bool TextItem::isReadable(const QPainter &painter) const
+{
+    const QPaintEngine *const engine = painter.paintEngine();
+    if (!engine || engine->type() != QPaintEngine::Raster)
+        return true; // drawings can be enlarged
+    const QTransform &onDevice = painter.deviceTransform();
+    return textHeight() * std::hypot(onDevice.m21(), onDevice.m22()) >= lowestReadable;
+}
+
+/** Stands for a text that cannot be read. */
+void TextItem::paintStroke(QPainter *painter) const
+{
+    const QRectF box = boundingRect();
+    QColor color = defaultTextColor();
+    color.setAlphaF(color.alphaF() * strokeOpacity);
+    painter->fillRect(
+        QRectF(box.left(), box.top() + box.height() / 3, box.width(), box.height() / 3), color);
 }
 
 void TextItem::paintBox(QPainter *painter, const QRectF &exposed, const QColor &fill,

@@ -33,7 +33,7 @@ public:
     QSizeF textSize() const { return document()->size(); }
 
     /// Whether showText() with the same arguments would change anything.
-    bool shows(const QFont &font, const QString &text) const;
+    bool shows(const QFont &font, QStringView text) const;
     /// Shows \a text in \a font; what is shown already is not laid out again.
     void showText(const QFont &font, const QString &text);
     /// Shows the text in \a color; the colour already shown schedules no repaint.
@@ -57,6 +57,8 @@ protected:
 private:
     SpearItem *parentSpear() const;
     void followInteraction();
+    bool isReadable(const QPainter &painter) const;
+    void paintStroke(QPainter *painter) const;
     void paintBox(QPainter *painter, const QRectF &exposed, const QColor &fill, const QPen &frame);
 
     SpearStyle::SpearState m_ownState = SpearStyle::ssNormal;

@@ -6,6 +6,7 @@
 #include <fishbone/items/spearitem.h>
 #include <fishbone/model/jsonnodes.h>
 #include <fishbone/model/systemhelper.h>
+#include <fishbone/style/drawnchanges.h>
 #include <fishbone/style/spearstyle.h>
 #include <fishbone/style/spearstyledialog.h>
 
@@ -155,6 +156,7 @@ TreeItem::TreeItem(const QJsonObject &object, TreeItem *parent)
 
 TreeItem::~TreeItem()
 {
+    m_guard.clear();
     // Every node below is emptied before it is deleted, so that no destructor calls another.
     QList<TreeItem *> doomed;
     doomed.swap(m_children);
@@ -252,6 +254,24 @@ void TreeItem::setFollowers(const QJsonArray &followers)
         m_followers.append(follower.toString());
 }
 
+void TreeItem::setUrl(const QString &url)
+{
+    m_url = url;
+    DrawnChanges::note();
+}
+
+void TreeItem::setStatus(int status)
+{
+    m_status = status;
+    DrawnChanges::note();
+}
+
+void TreeItem::setProgress(int progress)
+{
+    m_progress = progress;
+    DrawnChanges::note();
+}
+
 void TreeItem::setSpear(SpearItem *spear, const QModelIndex &index)
 {
     if (m_spear && m_spear != spear) {
@@ -260,6 +280,7 @@ void TreeItem::setSpear(SpearItem *spear, const QModelIndex &index)
             former->forgetTreeItem();
     }
     m_spear = spear;
+    DrawnChanges::note();
     if (!spear)
         return;
     spear->setModelIndex(index);
@@ -298,8 +319,10 @@ void TreeItem::setSpearStyle()
 
 void TreeItem::delSpearStyle()
 {
-    if (m_spearStyle)
-        StyleSession::discard(this, std::move(m_spearStyle));
+    if (!m_spearStyle)
+        return;
+    StyleSession::discard(this, std::move(m_spearStyle));
+    DrawnChanges::note();
 }
 
 bool TreeItem::isHaveParentTask() const

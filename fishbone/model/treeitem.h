@@ -4,6 +4,7 @@
 #pragma once
 
 #include <fishbone/fishbone_export.h>
+#include <fishbone/model/guardedpointer.h>
 
 #include <QCoreApplication>
 #include <QJsonArray>
@@ -142,15 +143,15 @@ public:
     const QString &pid() const { return m_pid; }
     void setPid(const QString &pid) { m_pid = pid; }
     const QString &url() const { return m_url; }
-    void setUrl(const QString &url) { m_url = url; }
+    void setUrl(const QString &url);
     const QString &detail() const { return m_detail; }
     void setDetail(const QString &detail) { m_detail = detail; }
     int type() const { return m_type; }
     void setType(int type) { m_type = type; }
     int status() const { return m_status; }
-    void setStatus(int status) { m_status = status; }
+    void setStatus(int status);
     int progress() const { return m_progress; }
-    void setProgress(int progress) { m_progress = progress; }
+    void setProgress(int progress);
     int priority() const { return m_priority; }
     void setPriority(int priority) { m_priority = priority; }
     const QString &managerName() const { return m_managerName; }
@@ -211,6 +212,9 @@ public:
     /** The text for the bone's tooltip. */
     QString toolTipString() const;
 
+    /** What pointers that outlive the node share with it. For GuardedPointer. */
+    std::shared_ptr<TreeItem *> guardCell() { return m_guard.shared(this); }
+
 private:
     friend class FishModel; // keeps the rows of documents in their containers' row hints
 
@@ -245,6 +249,7 @@ private:
     bool m_editModified = false;
     SpearItem *m_spear = nullptr;
     std::unique_ptr<SpearStyle> m_spearStyle;
+    GuardCell<TreeItem> m_guard;
 };
 
 Q_DECLARE_METATYPE(TreeItem *)

@@ -5,6 +5,8 @@
 
 #include <fishbone/model/filereplacement.h>
 #include <fishbone/model/systemhelper.h>
+#include <fishbone/style/drawnchanges.h>
+#include <fishbone/style/globalstylelookup.h>
 
 #include <QCoreApplication>
 #include <QFile>
@@ -146,6 +148,7 @@ void SpearStyle::setTextFont(SpearState state, const QFont &font)
 {
     Q_ASSERT(state >= 0 && state < stateCount);
     m_textFonts[state] = std::make_unique<QFont>(font);
+    DrawnChanges::note();
 }
 
 QColor SpearStyle::textColor(SpearState state) const
@@ -158,6 +161,7 @@ void SpearStyle::setTextColor(SpearState state, const QColor &color)
 {
     Q_ASSERT(state >= 0 && state < stateCount);
     m_textColors[state] = color;
+    DrawnChanges::note();
 }
 
 QColor SpearStyle::textBkColor(SpearState state) const
@@ -182,6 +186,13 @@ void SpearStyle::setBroderPen(SpearState state, const QPen &pen)
 {
     Q_ASSERT(state >= 0 && state < stateCount);
     m_broderPens[state] = std::make_unique<QPen>(pen);
+    DrawnChanges::note();
+}
+
+void SpearStyle::setTextCount(int count)
+{
+    m_textCount = count;
+    DrawnChanges::note();
 }
 
 void SpearStyle::read(const QJsonObject &object)
@@ -190,6 +201,7 @@ void SpearStyle::read(const QJsonObject &object)
         return;
     m_inheritanceParent = object[inheritanceParentKey].toBool();
     m_textCount = object[textCountKey].toInt();
+    DrawnChanges::note();
     const QJsonArray states = object[spearStatesKey].toArray();
     for (const QJsonValue element : states) {
         const QJsonObject stateObject = element.toObject();
@@ -224,7 +236,7 @@ SpearStyle *SpearStyle::global()
 {
     static SpearStyle style;
     // Without an application object the folder of the program is not known.
-    if (m_isGlobalInited || !QCoreApplication::instance())
+    if (m_isGlobalInited || !QCoreApplication::instance() || !GlobalStyleLookup::isDue())
         return &style;
     QFile file(spearStyleFilePath());
     if (!file.open(QIODevice::ReadOnly))

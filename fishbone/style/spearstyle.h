@@ -71,7 +71,7 @@ public:
     int textCount() const { return m_textCount; }
 
     /** Sets how many characters of a title are shown, any number. */
-    void setTextCount(int count) { m_textCount = count; }
+    void setTextCount(int count);
 
     /** Returns a flag that users set and documents keep; nothing is drawn differently for it. */
     bool inheritanceParent() const { return m_inheritanceParent; }

@@ -30,6 +30,7 @@ struct Deletion
 
 struct EditDelete::Private
 {
+    void set(FishModel *newModel, const QJsonObject &newObjects, const QList<TreeItem *> &known);
     void deleteSubject(TreeItem *subject);
     TreeItem *restore(Deletion &deletion, SubjectFinder &finder);
 
@@ -39,6 +40,16 @@ struct EditDelete::Private
     QList<int> rows;
     std::vector<Deletion> deletions; // in the order of the subjects
 };
+
+void EditDelete::Private::set(FishModel *newModel, const QJsonObject &newObjects,
+                              const QList<TreeItem *> &known)
+{
+    model = newModel;
+    objects = newObjects;
+    subjects = snapshotKeys(objects, known);
+    if (model)
+        nameSubjects(*model, subjects);
+}
 
 void EditDelete::Private::deleteSubject(TreeItem *subject)
 {
@@ -62,11 +73,12 @@ TreeItem *EditDelete::Private::restore(Deletion &deletion, SubjectFinder &finder
     return subject;
 }
 
-EditDelete::EditDelete(FishModel *model, const QJsonObject &objects)
+EditDelete::EditDelete(FishModel *model, const QJsonObject &objects,
+                       const QList<TreeItem *> &subjects)
     : UndoCommand(tr("Delete selecteds"))
     , m_d(std::make_unique<Private>())
 {
-    init(model, objects);
+    m_d->set(model, objects, subjects);
 }
 
 EditDelete::EditDelete(FishModel *model, const QModelIndex &index)
@@ -82,24 +94,13 @@ EditDelete::~EditDelete() = default;
 
 void EditDelete::init(FishModel *model, const QJsonObject &objects)
 {
-    m_d->model = model;
-    m_d->objects = objects;
-    m_d->subjects = snapshotKeys(objects);
-    if (model)
-        nameSubjects(*model, m_d->subjects);
+    m_d->set(model, objects, {});
 }
 
 void EditDelete::setDocument(FishInfo *document)
 {
     for (SubjectKey &key : m_d->subjects)
         key.document = document;
-}
-
-void EditDelete::setSubjects(const QList<TreeItem *> &subjects)
-{
-    const int count = qMin(subjects.size(), m_d->subjects.size());
-    for (int i = 0; i < count; ++i)
-        m_d->subjects[i].node = subjects.at(i);
 }
 
 void EditDelete::redo()

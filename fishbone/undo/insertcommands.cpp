@@ -5,6 +5,7 @@
 
 #include <fishbone/undo/structuralcommands.h>
 
+#include <fishbone/items/spearitem.h>
 #include <fishbone/model/fishmodel.h>
 #include <fishbone/model/systemhelper.h>
 #include <fishbone/model/treeitem.h>
@@ -51,7 +52,7 @@ void InsertCommand::Private::remember(const QModelIndex &index, bool isNew)
         model->setData(index.siblingAtColumn(uuidColumn), inserted.uuid, Qt::EditRole);
     const FishModel *const known = subjects();
     inserted.node = itemFromIndex(index);
-    inserted.document = known ? known->fishOf(inserted.node) : nullptr;
+    inserted.document = known ? known->fishOf(inserted.node.get()) : nullptr;
     isInserted = true;
 }
 

@@ -5,6 +5,7 @@
 
 #include <fishbone/undo/structuralcommands.h>
 
+#include <fishbone/items/spearitem.h>
 #include <fishbone/model/fishmodel.h>
 #include <fishbone/model/treeitem.h>
 #include <fishbone/undo/subjectlookup.h>
@@ -118,7 +119,8 @@ void EditMove::Private::completeSpears()
     arrivals.clear();
 }
 
-EditMove::EditMove(FishModel *model, const QModelIndex &target, int row, const QJsonObject &objects)
+EditMove::EditMove(FishModel *model, const QModelIndex &target, int row, const QJsonObject &objects,
+                   const QList<TreeItem *> &subjects)
     : UndoCommand(tr("Move subjects"))
     , m_d(std::make_unique<Private>())
 {
@@ -126,7 +128,7 @@ EditMove::EditMove(FishModel *model, const QModelIndex &target, int row, const Q
     m_d->objects = objects;
     m_d->target = keyFromIndex(target);
     m_d->row = row;
-    QVector<SubjectKey> keys = snapshotKeys(objects);
+    QVector<SubjectKey> keys = snapshotKeys(objects, subjects);
     for (SubjectKey &key : keys) {
         key.document = m_d->target.document;
         m_d->moves.push_back({key});
@@ -141,13 +143,6 @@ void EditMove::setDocument(FishInfo *document)
 {
     for (Move &move : m_d->moves)
         move.name.document = document;
-}
-
-void EditMove::setSubjects(const QList<TreeItem *> &subjects)
-{
-    const std::size_t count = std::min(std::size_t(subjects.size()), m_d->moves.size());
-    for (std::size_t i = 0; i < count; ++i)
-        m_d->moves[i].name.node = subjects.at(int(i));
 }
 
 void EditMove::redo()

@@ -109,7 +109,7 @@ bool EditPaste::Private::paste(Copy &copy, TreeItem *parent, QSet<QString> &used
 TreeItem *EditPaste::Private::pastedSubject(const Copy &copy, SubjectFinder &finder) const
 {
     TreeItem *const found = finder.find(copy.key);
-    if (found == copy.key.node)
+    if (found && found == copy.key.node.get())
         return found;
     // The document was loaded anew: the last one of its uuid, unless all of them are older.
     const TreeItem *const parent = finder.find(target);

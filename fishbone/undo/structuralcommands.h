@@ -166,8 +166,13 @@ class FISHBONE_EXPORT EditDelete : public UndoCommand
     Q_OBJECT
 
 public:
-    /** Deletes the subjects that @p objects names. */
-    EditDelete(FishModel *model, const QJsonObject &objects);
+    /**
+     * Deletes the subjects that @p objects names. @p subjects are the very ones that the snapshot
+     * was taken of, in its order, where they are known: the ones meant among several of one uuid,
+     * and found without a search.
+     */
+    EditDelete(FishModel *model, const QJsonObject &objects,
+               const QList<TreeItem *> &subjects = {});
     /** Deletes the subject at @p index. */
     EditDelete(FishModel *model, const QModelIndex &index);
     ~EditDelete() override;
@@ -176,11 +181,6 @@ public:
     void init(FishModel *model, const QJsonObject &objects);
     /** Where the subjects of the snapshot are looked for first; documents may share uuids. */
     void setDocument(FishInfo *document);
-    /**
-     * The very subjects that the snapshot was taken of, in its order; among several of one uuid
-     * they are the ones meant. To be called before redo().
-     */
-    void setSubjects(const QList<TreeItem *> &subjects);
 
     void undo() override;
     void redo() override;
@@ -246,16 +246,17 @@ class FISHBONE_EXPORT EditMove : public UndoCommand
     Q_OBJECT
 
 public:
-    EditMove(FishModel *model, const QModelIndex &target, int row, const QJsonObject &objects);
+    /**
+     * Moves the subjects that @p objects names. @p subjects are the very ones that the snapshot was
+     * taken of, in its order, where they are known: the ones meant among several of one uuid, and
+     * found without a search.
+     */
+    EditMove(FishModel *model, const QModelIndex &target, int row, const QJsonObject &objects,
+             const QList<TreeItem *> &subjects = {});
     ~EditMove() override;
 
     /** Where the subjects are looked for first; the target's document unless set. */
     void setDocument(FishInfo *document);
-    /**
-     * The very subjects that the snapshot was taken of, in its order; among several of one uuid
-     * they are the ones meant. To be called before redo().
-     */
-    void setSubjects(const QList<TreeItem *> &subjects);
 
     void undo() override;
     void redo() override;

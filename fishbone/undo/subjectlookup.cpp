@@ -35,6 +35,12 @@ bool endsWith(const TreeItem *subject, const QString &uuid)
     return subject->uuid().endsWith(uuid, Qt::CaseInsensitive);
 }
 
+/** Whether the living @p subject is one of a document of @p model. */
+bool isIn(const FishModel &model, const TreeItem *subject)
+{
+    return model.indexFromItem(subject).isValid();
+}
+
 /** indexFromUuid() for a model that is known by its column of uuids only. */
 QModelIndex matchUuid(const QAbstractItemModel &model, const QString &uuid, int column)
 {
@@ -94,14 +100,14 @@ TreeItem *findSubject(const FishModel &model, const SubjectKey &key)
 {
     if (!namesSubject(key.uuid))
         return nullptr;
-    TreeItem *same = nullptr;
-    TreeItem *first = nullptr;
+    TreeItem *const node = key.node.get();
+    if (node && endsWith(node, key.uuid) && isIn(model, node))
+        return node;
+    TreeItem *found = nullptr;
     const auto look = [&](TreeItem *subject) {
-        if (subject == key.node && endsWith(subject, key.uuid))
-            same = subject;
-        else if (!first && subject->uuid() == key.uuid)
-            first = subject;
-        return !same && (key.node || !first);
+        if (subject->uuid() == key.uuid)
+            found = subject;
+        return !found;
     };
     const QList<FishInfo *> documents = searchOrder(model, key.document);
     for (const FishInfo *document : documents) {
@@ -109,7 +115,7 @@ TreeItem *findSubject(const FishModel &model, const SubjectKey &key)
         if (head && !visitSubjects(head, look))
             break;
     }
-    return same ? same : first;
+    return found;
 }
 
 QModelIndex indexFromKey(const QAbstractItemModel *model, const SubjectKey &key)
@@ -145,13 +151,14 @@ QVector<QJsonObject> snapshotSubjects(const QJsonObject &objects)
     return subjects;
 }
 
-QVector<SubjectKey> snapshotKeys(const QJsonObject &objects)
+QVector<SubjectKey> snapshotKeys(const QJsonObject &objects, const QList<TreeItem *> &subjects)
 {
     QVector<SubjectKey> keys;
-    const QVector<QJsonObject> subjects = snapshotSubjects(objects);
-    keys.reserve(subjects.size());
-    for (const QJsonObject &subject : subjects)
-        keys.append({subject.value(JsonNodes::uuidKey).toString(), nullptr, nullptr});
+    const QVector<QJsonObject> elements = snapshotSubjects(objects);
+    keys.reserve(elements.size());
+    for (const QJsonObject &element : elements)
+        keys.append({element.value(JsonNodes::uuidKey).toString(), nullptr,
+                     subjects.value(keys.size(), nullptr)});
     return keys;
 }
 
@@ -180,10 +187,12 @@ SubjectFinder::SubjectFinder(const FishModel &model, const QVector<SubjectKey> &
 
 void SubjectFinder::collect(TreeItem *top, Match match, Candidates &candidates) const
 {
+    // To compare with a single one costs less than to compute what the set wants to know.
+    const QString only = m_uuids.size() == 1 ? *m_uuids.cbegin() : QString();
     visitSubjects(top, [&](TreeItem *subject) {
         const QString &uuid = subject->uuid();
         if (match == Match::Exact) {
-            if (m_uuids.contains(uuid))
+            if (only.isEmpty() ? m_uuids.contains(uuid) : uuid == only)
                 candidates[uuid].append(subject);
             return true;
         }
@@ -211,23 +220,21 @@ const SubjectFinder::Candidates &SubjectFinder::candidates(const FishInfo *docum
 TreeItem *SubjectFinder::pick(const SubjectKey &key, Match match,
                               const QSet<const TreeItem *> &except)
 {
+    TreeItem *const node = key.node.get();
+    const bool isNamed =
+        node && (match == Match::Exact ? node->uuid() == key.uuid : endsWith(node, key.uuid));
+    if (isNamed && !except.contains(node) && isIn(m_model, node))
+        return node;
     const QString name = match == Match::Exact ? key.uuid : key.uuid.toCaseFolded();
-    TreeItem *first = nullptr;
     const QList<FishInfo *> documents = searchOrder(m_model, key.document);
     for (const FishInfo *document : documents) {
         const QVector<TreeItem *> subjects = candidates(document, match).value(name);
         for (TreeItem *subject : subjects) {
-            if (except.contains(subject) || !m_model.fishOf(subject))
-                continue;
-            if (subject == key.node)
+            if (!except.contains(subject) && m_model.fishOf(subject))
                 return subject;
-            if (!first)
-                first = subject;
         }
-        if (first && !key.node)
-            break;
     }
-    return first;
+    return nullptr;
 }
 
 TreeItem *SubjectFinder::find(const SubjectKey &key)

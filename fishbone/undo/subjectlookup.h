@@ -10,12 +10,13 @@
 #include <QVector>
 
 #include <fishbone/model/fishinfo.h>
+#include <fishbone/model/guardedpointer.h>
+#include <fishbone/model/treeitem.h>
 
 class FishModel;
 class QAbstractItemModel;
 class QJsonObject;
 class QModelIndex;
-class TreeItem;
 
 /**
  * How a command knows a subject, whose index and node may come and go between redo() and undo().
@@ -28,7 +29,7 @@ struct SubjectKey
 {
     QString uuid = QStringLiteral("-1");
     QPointer<FishInfo> document;
-    const TreeItem *node = nullptr; ///< only compared: it may be gone
+    GuardedPointer<TreeItem> node;
 };
 
 /** Whether @p uuid is one: "" and "-1" stand for none. */
@@ -46,8 +47,8 @@ SubjectKey keyFromItem(const FishModel &model, TreeItem *subject);
 SubjectKey keyFromIndex(const QModelIndex &index);
 
 /**
- * The subject that @p key means; null when it is not in the model. One walk over the nodes, which
- * ends where the subject is found.
+ * The subject that @p key means; null when it is not in the model. The node that the key was made
+ * of costs the way up to its document, another one a walk over the nodes that ends where it is.
  */
 TreeItem *findSubject(const FishModel &model, const SubjectKey &key);
 /** The index of the subject that @p key means, in any model whose column 1 shows the uuids. */
@@ -65,8 +66,8 @@ QModelIndex indexFromUuid(const QAbstractItemModel *model, const QString &uuid, 
  * "children".
  */
 QVector<QJsonObject> snapshotSubjects(const QJsonObject &objects);
-/** Keys for the subjects of a snapshot, without hints. */
-QVector<SubjectKey> snapshotKeys(const QJsonObject &objects);
+/** Keys for the subjects of a snapshot, which are the first of \a subjects in their order. */
+QVector<SubjectKey> snapshotKeys(const QJsonObject &objects, const QList<TreeItem *> &subjects);
 
 /** Gives the subjects that @p keys name, and their parents, a uuid when they have none. */
 void nameSubjects(const FishModel &model, const QVector<SubjectKey> &keys);

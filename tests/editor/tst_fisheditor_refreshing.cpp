@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Fishbone authors
 // SPDX-License-Identifier: MIT
 
+#include <functional>
+
 #include <QtTest>
 
 #include <fishbone/items/linkitem.h>
@@ -28,6 +30,8 @@ private Q_SLOTS:
     void shouldRepaintNothingWhenNothingHasChanged_data();
     void shouldRepaintNothingWhenNothingHasChanged();
     void shouldRepaintNothingOnceItIsPainted();
+    void shouldPutRightWhatWasChangedByHand_data();
+    void shouldPutRightWhatWasChangedByHand();
 };
 
 void TestFishEditorRefreshing::shouldFollowTheLinksOfItsSubjects()
@@ -230,6 +234,70 @@ void TestFishEditorRefreshing::shouldRepaintNothingOnceItIsPainted()
     settle();
 
     QCOMPARE(paints.count, 1);
+}
+
+using Change = std::function<void(EditorFixture &)>;
+Q_DECLARE_METATYPE(Change)
+
+void TestFishEditorRefreshing::shouldPutRightWhatWasChangedByHand_data()
+{
+    QTest::addColumn<Change>("change");
+    const auto row = [](const char *name, const Change &change) { QTest::newRow(name) << change; };
+    const auto man = [](EditorFixture &fish) { return fish.spear(QStringLiteral("Man")); };
+    const auto subject = [](EditorFixture &fish) { return fish.subject(QStringLiteral("Man")); };
+
+    row("a spear dragged off", [man](EditorFixture &fish) { man(fish)->setPos(30, -10); });
+    row("a line", [man](EditorFixture &fish) { man(fish)->setLine({1, 2, 3, 4}); });
+    row("a hidden bone", [man](EditorFixture &fish) { man(fish)->setVisible(false); });
+    row("a direction", [man](EditorFixture &fish) { man(fish)->setDirection(0); });
+    row("a start of the layout", [man](EditorFixture &fish) { man(fish)->initData(-1); });
+    row("a link icon", [man](EditorFixture &fish) { man(fish)->setLinkItem(nullptr); });
+    row("an expand button", [man](EditorFixture &fish) { man(fish)->setExpandBuddy(nullptr); });
+    row("a status", [subject](EditorFixture &fish) { subject(fish)->setStatus(tsFinish); });
+    row("a title", [subject](EditorFixture &fish) {
+        subject(fish)->setTitle(QStringLiteral("Somebody else"));
+    });
+    row("a style of its own", [subject](EditorFixture &fish) {
+        SpearStyle style;
+        style.setTextFont(SpearStyle::ssNormal, QFont(QStringLiteral("DejaVu Sans"), 40));
+        QJsonObject json;
+        style.write(json);
+        subject(fish)->setSpearStyle(json);
+    });
+    row("the global style", [](EditorFixture &) { SpearStyle::global()->setTextCount(2); });
+    row("the font of the program", [](EditorFixture &) {
+        QFont font = QApplication::font();
+        font.setPointSize(font.pointSize() * 2);
+        QApplication::setFont(font);
+    });
+    row("a bone taken away", [man](EditorFixture &fish) { delete man(fish); });
+}
+
+void TestFishEditorRefreshing::shouldPutRightWhatWasChangedByHand()
+{
+    QFETCH(Change, change);
+    const QFont font = QApplication::font();
+    const int textCount = SpearStyle::global()->textCount();
+    EditorFixture fish(QStringLiteral("Effect[Man[Train,Cost],Machine[Wear],Method]"));
+    fish.subject(QStringLiteral("Man"))->setUrl(QStringLiteral("https://example.org"));
+    fish.editor.expandAll();
+    fish.editor.updateFish(false);
+
+    change(fish);
+    fish.editor.updateFish(false);
+    const QStringList drawn = drawingText(fish.editor.headSpear());
+    if (fish.editor.headSpear()->childCount() == 3) { // a new drawing would have the missing bone
+        fish.editor.updateFish(true);
+        fish.editor.expandAll();
+    } else {
+        fish.editor.refreshFish();
+        fish.editor.updateSpearSize();
+        fish.editor.updateSpearPostion();
+    }
+    QCOMPARE(drawn, drawingText(fish.editor.headSpear()));
+
+    SpearStyle::global()->setTextCount(textCount);
+    QApplication::setFont(font);
 }
 
 QTEST_MAIN(TestFishEditorRefreshing)

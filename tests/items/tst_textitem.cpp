@@ -3,11 +3,14 @@
 
 #include <fishbone/items/textitem.h>
 
+#include <QBuffer>
+#include <QSvgGenerator>
 #include <QTextDocument>
 #include <QtTest>
 
 #include <fishbone/items/spearitem.h>
 #include <tests/support/drawing.h>
+#include <tests/support/pictures.h>
 #include <tests/support/statelooks.h>
 
 using namespace TestSupport;
@@ -28,6 +31,9 @@ private Q_SLOTS:
     void shouldShowTheHandWhileTopmost();
     void shouldShowTheArrowWhileCovered();
     void shouldPassHoverOnToTheBaseClass();
+    void shouldDrawAStrokeForATextTooSmallToRead_data();
+    void shouldDrawAStrokeForATextTooSmallToRead();
+    void shouldKeepTheSmallestTextInADrawing();
 };
 
 void TestTextItem::shouldShowItsText()
@@ -215,6 +221,59 @@ void TestTextItem::shouldPassHoverOnToTheBaseClass()
     sendHover(*item, QEvent::GraphicsSceneHoverMove, item->boundingRect().center());
 
     QCOMPARE(hovered.count(), 1);
+}
+
+void TestTextItem::shouldDrawAStrokeForATextTooSmallToRead_data()
+{
+    QTest::addColumn<double>("height"); // in pixels of the device
+    QTest::addColumn<double>("ratio");
+    QTest::addColumn<bool>("isStroke");
+
+    QTest::newRow("readable") << 12.0 << 1.0 << false;
+    QTest::newRow("two pixels") << 2.01 << 1.0 << false;
+    QTest::newRow("less") << 1.9 << 1.0 << true;
+    QTest::newRow("less, on a fine screen") << 1.9 << 2.0 << true;
+}
+
+void TestTextItem::shouldDrawAStrokeForATextTooSmallToRead()
+{
+    QFETCH(double, height);
+    QFETCH(double, ratio);
+    QFETCH(bool, isStroke);
+    // Blanks have no ink, so that only a stroke shows.
+    TextItem item(QStringLiteral("                              "));
+    QImage image(QSize(100, 40) * ratio, QImage::Format_ARGB32_Premultiplied);
+    image.setDevicePixelRatio(ratio);
+    image.fill(Qt::white);
+    {
+        QPainter painter(&image);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.translate(10, 10);
+        const double scale = height / ratio / item.textHeight();
+        painter.scale(scale, scale);
+        QStyleOptionGraphicsItem option;
+        option.rect = item.boundingRect().toAlignedRect();
+        item.paint(&painter, &option);
+    }
+
+    QCOMPARE(inkedPixels(image) > 0, isStroke);
+}
+
+void TestTextItem::shouldKeepTheSmallestTextInADrawing()
+{
+    TextItem item(QStringLiteral("Cause"));
+    QBuffer buffer;
+    QSvgGenerator generator;
+    generator.setOutputDevice(&buffer);
+    {
+        QPainter painter(&generator);
+        painter.scale(0.01, 0.01);
+        QStyleOptionGraphicsItem option;
+        option.rect = item.boundingRect().toAlignedRect();
+        item.paint(&painter, &option);
+    }
+
+    QVERIFY(buffer.data().contains("Cause"));
 }
 
 QTEST_MAIN(TestTextItem)

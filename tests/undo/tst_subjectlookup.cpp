@@ -103,7 +103,7 @@ void TestSubjectLookup::shouldGiveUuidsOnlyWhereThereAreNone()
     const SubjectKey key = keyFromIndex(f.index("a"));
     QCOMPARE(key.uuid, QStringLiteral("u-a"));
     QCOMPARE(key.document, f.document(0));
-    QCOMPARE(key.node, f.node("a"));
+    QCOMPARE(key.node.get(), f.node("a"));
     QCOMPARE(f.node("A")->uuid().size(), 38);
     QCOMPARE(f.node("a")->pid(), QStringLiteral("u-A"));
     QCOMPARE(keyFromIndex(QModelIndex()).uuid, QStringLiteral("-1"));
@@ -335,7 +335,7 @@ void TestSubjectLookup::shouldReadTheSubjectsOfASnapshot()
     QFETCH(QStringList, uuids);
     const QJsonObject objects = QJsonDocument::fromJson(json).object();
     QStringList read;
-    const QVector<SubjectKey> keys = snapshotKeys(objects);
+    const QVector<SubjectKey> keys = snapshotKeys(objects, {});
     for (const SubjectKey &key : keys)
         read.append(key.uuid);
     QCOMPARE(read, uuids);
@@ -348,7 +348,7 @@ void TestSubjectLookup::shouldFindManyAsOne()
     f.node("b")->setUuid(QStringLiteral("u-A"));
     f.node("B")->setUuid(QStringLiteral("-1"));
     QVector<SubjectKey> keys;
-    for (const TreeItem *node : allNodes(*f.model)) {
+    for (TreeItem *node : allNodes(*f.model)) {
         for (FishInfo *document :
              {f.document(0), f.document(1), static_cast<FishInfo *>(nullptr)}) {
             keys.append({node->uuid(), document, nullptr});
