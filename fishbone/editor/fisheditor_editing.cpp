@@ -257,6 +257,7 @@ void FishEditor::delSpearStyle()
 
 void FishEditor::selectAll()
 {
+    const int selected = m_scene->selectedItems().count();
     {
         // One report for all of them: each one costs its listeners a look at the whole selection.
         const QSignalBlocker blocker(m_scene.get());
@@ -264,5 +265,6 @@ void FishEditor::selectAll()
         for (QGraphicsItem *item : items)
             item->setSelected(true);
     }
-    Q_EMIT m_scene->selectionChanged();
+    if (m_scene->selectedItems().count() != selected)
+        Q_EMIT m_scene->selectionChanged();
 }

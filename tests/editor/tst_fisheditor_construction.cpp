@@ -32,6 +32,7 @@ private Q_SLOTS:
     void shouldOwnItsUndoStack();
     void shouldReportWhetherAnythingIsSelected();
     void shouldReportASelectionThatChangesAtOnceOnlyOnce();
+    void shouldNotReportASelectionThatStays();
     void shouldReportASelectionWhenTheTreeIsWholeAgain();
     void shouldCarryOutAMoveAtOnce();
     void shouldCarryOutADropWhenTheDragHasEnded();
@@ -173,6 +174,20 @@ void TestFishEditorConstruction::shouldReportASelectionThatChangesAtOnceOnlyOnce
     recorder.take();
     fish.editor.setRootIndex(QModelIndex());
     QCOMPARE(recorder.take(), QStringLiteral("copyAvailable(false)"));
+}
+
+void TestFishEditorConstruction::shouldNotReportASelectionThatStays()
+{
+    FishEditor empty;
+    SignalRecorder nothing(empty);
+    empty.selectAll();
+    QCOMPARE(nothing.take(), QString());
+
+    EditorFixture fish(effect());
+    fish.editor.selectAll();
+    SignalRecorder recorder(fish.editor);
+    fish.editor.selectAll();
+    QCOMPARE(recorder.take(), QString());
 }
 
 void TestFishEditorConstruction::shouldReportASelectionWhenTheTreeIsWholeAgain()
