@@ -103,8 +103,10 @@ void GraphicsView::mousePressEvent(QMouseEvent *event)
         if (SpearItem *const spear = toSpear(item))
             m_selected.append(spear);
     }
-    unmarkTarget();
-    m_dropRow = 0;
+    if (m_linkedSpear.get()) {
+        unmarkTarget();
+        m_dropRow = 0;
+    }
     m_pressed = true;
     m_pressedSpear = SpearPointer();
     const QSet<const QGraphicsItem *> candidates = asSet(livingSelection());
