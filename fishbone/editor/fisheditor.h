@@ -124,7 +124,7 @@ public:
     SpearItem *firstSelectedSpear() const;
     /// The index of firstSelectedSpear(); invalid for none.
     QModelIndex firstSelectedSpearIndex() const;
-    /// Removes the items without a parent item (the head) from \a items.
+    /// Removes the items without a parent item (the head) and null pointers from \a items.
     static void excludeCenterSubject(QList<QGraphicsItem *> &items);
     /// Removes the items that have an ancestor in \a items; the others keep their order.
     static void excludeChildSubject(QList<QGraphicsItem *> &items);
