@@ -76,21 +76,24 @@ void FishEditor::onDropTo(const QMimeData *mimeData, const QModelIndex &indexTo,
 {
     FishModel *const model = fishModel();
     TreeItem *const dropped = treeItemFromMimeData(mimeData);
-    if (!model || !dropped || !indexTo.isValid() || indexTo.model() != model ||
-        isWithin(indexTo, dropped))
+    // The drop was queued: its target may have gone since, or stand in another row.
+    const TreeItem *const under = model ? model->getTreeItem(indexTo) : nullptr;
+    if (!dropped || !under || !model->contains(under))
+        return;
+    const QPersistentModelIndex target = model->indexFromItem(under);
+    if (isWithin(target, dropped))
         return;
     dropped->ensureUuid();
     QJsonObject snapshot;
     FishModel::write(snapshot, dropped, true);
-    const QPersistentModelIndex parent = indexTo;
     // The command also makes the spears of a subject that was not shown here.
-    EditMove command(model, indexTo, row, snapshot);
+    EditMove command(model, target, row, snapshot);
     command.setDocument(model->fishOf(dropped));
     command.setSubjects({dropped});
     command.redo();
     setModified(true);
     updateFish(false);
-    reportNewParent({dropped->uuid()}, parent, CHANGE_PARENT_BY_DROP);
+    reportNewParent({dropped->uuid()}, target, CHANGE_PARENT_BY_DROP);
 }
 
 void FishEditor::reportNewParent(const QStringList &children, const QModelIndex &parent,
