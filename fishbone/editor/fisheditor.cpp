@@ -197,6 +197,7 @@ void FishEditor::setRootIndex(const QModelIndex &index)
     const FishModel *const model = fishModel();
     const QModelIndex root =
         model && index.model() == model ? index.sibling(index.row(), 0) : QModelIndex();
+    const SelectionHold hold(this); // until the new drawing stands
     unlinkShownSubjects();
     showNothing();
     if (!root.isValid())

@@ -34,6 +34,7 @@ private Q_SLOTS:
     void shouldReportASelectionThatChangesAtOnceOnlyOnce();
     void shouldNotReportASelectionThatStays();
     void shouldReportASelectionWhenTheTreeIsWholeAgain();
+    void shouldReportASelectionWhenTheDrawingIsWholeAgain();
     void shouldCarryOutAMoveAtOnce();
     void shouldCarryOutADropWhenTheDragHasEnded();
     void shouldAnswerARightClickWithAMenu();
@@ -204,6 +205,23 @@ void TestFishEditorConstruction::shouldReportASelectionWhenTheTreeIsWholeAgain()
     fish.editor.del();
 
     QCOMPARE(seen, QStringList{QStringLiteral("Effect[Machine]/Effect[Machine]")});
+}
+
+void TestFishEditorConstruction::shouldReportASelectionWhenTheDrawingIsWholeAgain()
+{
+    EditorFixture fish(effect());
+    const QModelIndex other =
+        fish.model.index(fish.model.fishRow(loadDocument(fish.model, QStringLiteral("B[C]"))), 0);
+    fish.select({QStringLiteral("Man")});
+    QStringList seen;
+    connect(&fish.editor, &FishEditor::copyAvailable, &fish.editor, [&fish, &seen] {
+        seen.append(spearTreeText(fish.editor.headSpear()) + QLatin1Char('/') +
+                    fish.editor.rootIndex().data().toString());
+    });
+
+    fish.editor.setRootIndex(other);
+
+    QCOMPARE(seen, QStringList{QStringLiteral("B[C]/B")});
 }
 
 void TestFishEditorConstruction::shouldCarryOutAMoveAtOnce()
