@@ -42,6 +42,12 @@ void repaintSpear(SpearItem *spear)
     spear->textItem()->update();
 }
 
+/// How far a wheel was turned, along the axis that it was mainly turned along.
+int deltaOf(const QPoint &angle)
+{
+    return qAbs(angle.x()) > qAbs(angle.y()) ? angle.x() : angle.y();
+}
+
 QSet<const QGraphicsItem *> asSet(const QList<SpearItem *> &spears)
 {
     QSet<const QGraphicsItem *> set;
@@ -283,7 +289,7 @@ void GraphicsView::wheelEvent(QWheelEvent *event)
         QApplication::sendEvent(horizontalScrollBar(), event);
         return;
     }
-    if (event->angleDelta().y() > 0)
+    if (deltaOf(event->angleDelta()) > 0)
         m_editor->zoomIn(wheelZoomStep);
     else
         m_editor->zoomOut(wheelZoomStep);
