@@ -246,6 +246,7 @@ void FishEditor::generateSpear(const QModelIndex &index, int level, int row, Spe
 
 void FishEditor::updateFish(bool rebuild)
 {
+    const SelectionHold hold(this);
     if (rebuild) {
         setRootIndex(rootIndex());
     } else if (headSpear() && !headSpear()->treeItem()) {
@@ -294,10 +295,9 @@ void FishEditor::updateSpearPostion()
 
 void FishEditor::expandorContractAll(bool expand)
 {
-    if (headSpear()) {
-        const SelectionHold hold(this);
+    const SelectionHold hold(this);
+    if (headSpear())
         FishLayout(headSpear()).expandBones(expand);
-    }
     updateFish(false);
 }
 
@@ -315,14 +315,18 @@ void FishEditor::expandAll()
 
 void FishEditor::modifyExpandAll()
 {
+    const QPointer<FishEditor> alive(this);
     expandorContractAll(true);
-    Q_EMIT onExpandAll();
+    if (alive)
+        Q_EMIT onExpandAll();
 }
 
 void FishEditor::modifyContractAll()
 {
+    const QPointer<FishEditor> alive(this);
     expandorContractAll(false);
-    Q_EMIT onCollapsAll();
+    if (alive)
+        Q_EMIT onCollapsAll();
 }
 
 void FishEditor::modifyExpand()
@@ -331,8 +335,10 @@ void FishEditor::modifyExpand()
     if (!index.isValid())
         return;
     firstSelectedSpear()->setExpand(true);
+    const QPointer<FishEditor> alive(this);
     Q_EMIT onExpand(index);
-    updateFish(false);
+    if (alive)
+        updateFish(false);
 }
 
 void FishEditor::modifyContract()
@@ -340,12 +346,15 @@ void FishEditor::modifyContract()
     const QModelIndex index = firstSelectedSpearIndex();
     if (!index.isValid())
         return;
+    const QPointer<FishEditor> alive(this);
     {
         const SelectionHold hold(this);
         firstSelectedSpear()->setExpand(false);
     }
-    Q_EMIT onCollaps(index);
-    updateFish(false);
+    if (alive)
+        Q_EMIT onCollaps(index);
+    if (alive)
+        updateFish(false);
 }
 
 void FishEditor::modelDataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight)

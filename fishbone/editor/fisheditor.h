@@ -45,6 +45,9 @@ Q_DECLARE_METATYPE(CHANGE_PARENT_TYPE)
 /// bones exist from setRootIndex() on, deeper bones are made when they are first shown. Every edit
 /// ends in updateFish().
 ///
+/// A listener may end the editor from any signal of an edit; what is left of the call is skipped
+/// then.
+///
 /// The editor never acts on what concerns a task outside the diagram (opening it, creating a real
 /// sub-task, editing its details): it reports the gesture with a signal. No operation reports an
 /// error; one whose index or selection is unusable does nothing.
@@ -353,7 +356,8 @@ private:
     void runMenuEntry(int entry, const SpearItem &spear);
     static QList<TreeItem *> subjectsOf(QList<QGraphicsItem *> items);
     void deleteSubjects(const QJsonObject &objects, const QList<TreeItem *> &subjects);
-    void execute(std::unique_ptr<UndoCommand> command);
+    bool execute(std::unique_ptr<UndoCommand> command);
+    bool executeOnce(UndoCommand &&command);
     void afterEdit();
     void updateLinkOf(const QModelIndex &index) const;
     bool isWithin(const QModelIndex &target, const TreeItem *subject) const;

@@ -66,7 +66,8 @@ void FishEditor::moveItems(const QPoint &pos, const QList<QGraphicsItem *> &srcs
     auto command = std::make_unique<EditMove>(model, target, row, snapshot);
     command->setDocument(currentFishInfo());
     command->setSubjects(subjectsOf(srcs));
-    execute(std::move(command));
+    if (!execute(std::move(command)))
+        return;
     setModified(true);
     updateFish(false);
     reportNewParent(uuidsOf(snapshot), parent, CHANGE_PARENT_BY_MOVE);
@@ -90,7 +91,8 @@ void FishEditor::onDropTo(const QMimeData *mimeData, const QModelIndex &indexTo,
     EditMove command(model, target, row, snapshot);
     command.setDocument(model->fishOf(dropped));
     command.setSubjects({dropped});
-    command.redo();
+    if (!executeOnce(std::move(command)))
+        return;
     setModified(true);
     updateFish(false);
     reportNewParent({dropped->uuid()}, target, CHANGE_PARENT_BY_DROP);
