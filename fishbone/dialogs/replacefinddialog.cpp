@@ -3,6 +3,8 @@
 
 #include <fishbone/dialogs/replacefinddialog.h>
 
+#include <fishbone/dialogs/warningbox.h>
+
 #include <QAbstractItemModel>
 #include <QCheckBox>
 #include <QComboBox>
@@ -10,7 +12,6 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMessageBox>
 #include <QPushButton>
 #include <QTextDocument>
 
@@ -153,8 +154,7 @@ void ReplaceFindDialog::find()
         m_matches = QList<QPersistentModelIndex>(found.cbegin(), found.cend());
     }
     if (m_matches.isEmpty())
-        QMessageBox::warning(this, tr("Finder"), literal(tr("Not found key word %1.").arg(text)),
-                             QMessageBox::Ok);
+        showWarning(tr("Finder"), literal(tr("Not found key word %1.").arg(text)), this);
 }
 
 void ReplaceFindDialog::replace()

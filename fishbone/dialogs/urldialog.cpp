@@ -4,6 +4,7 @@
 #include <fishbone/dialogs/urldialog.h>
 
 #include <fishbone/dialogs/modalanswer.h>
+#include <fishbone/dialogs/warningbox.h>
 #include <fishbone/model/filereplacement.h>
 
 #include <QComboBox>
@@ -14,7 +15,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMessageBox>
+#include <QPointer>
 #include <QPushButton>
 #include <QStringList>
 
@@ -151,8 +152,7 @@ void URLDialog::saveUrl()
 {
     const QString failure = replaceContent(m_fileName, textFromUrls(m_urls));
     if (!failure.isEmpty())
-        QMessageBox::warning(this, tr("Error"),
-                             tr("Failed to open %1\n%2").arg(m_fileName, failure));
+        showWarning(tr("Error"), tr("Failed to open %1\n%2").arg(m_fileName, failure), this);
 }
 
 void URLDialog::clean()
@@ -169,6 +169,8 @@ void URLDialog::accept()
     m_urls->setEditText(text);
     if (m_urls->findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive) < 0)
         m_urls->addItem(text);
+    const QPointer<URLDialog> alive(this);
     saveUrl();
-    QDialog::accept();
+    if (alive)
+        QDialog::accept();
 }

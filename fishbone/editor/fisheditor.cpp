@@ -200,6 +200,7 @@ void FishEditor::setRootIndex(const QModelIndex &index)
     const FishModel *const model = fishModel();
     const QModelIndex root =
         model && index.model() == model ? index.sibling(index.row(), 0) : QModelIndex();
+    const SelectionHold hold(this); // until the new drawing stands
     unlinkShownSubjects();
     showNothing();
     if (!root.isValid())
@@ -248,6 +249,7 @@ void FishEditor::generateSpear(const QModelIndex &index, int level, int row, Spe
 
 void FishEditor::updateFish(bool rebuild)
 {
+    const SelectionHold hold(this);
     if (rebuild) {
         setRootIndex(rootIndex());
     } else if (headSpear() && !headSpear()->treeItem()) {
@@ -318,10 +320,9 @@ void FishEditor::updateSpearPostion()
 
 void FishEditor::expandorContractAll(bool expand)
 {
-    if (headSpear()) {
-        const SelectionHold hold(this);
+    const SelectionHold hold(this);
+    if (headSpear())
         FishLayout(headSpear()).expandBones(expand);
-    }
     updateFish(false);
 }
 
@@ -339,14 +340,18 @@ void FishEditor::expandAll()
 
 void FishEditor::modifyExpandAll()
 {
+    const QPointer<FishEditor> alive(this);
     expandorContractAll(true);
-    Q_EMIT onExpandAll();
+    if (alive)
+        Q_EMIT onExpandAll();
 }
 
 void FishEditor::modifyContractAll()
 {
+    const QPointer<FishEditor> alive(this);
     expandorContractAll(false);
-    Q_EMIT onCollapsAll();
+    if (alive)
+        Q_EMIT onCollapsAll();
 }
 
 void FishEditor::modifyExpand()
@@ -355,8 +360,10 @@ void FishEditor::modifyExpand()
     if (!index.isValid())
         return;
     firstSelectedSpear()->setExpand(true);
+    const QPointer<FishEditor> alive(this);
     Q_EMIT onExpand(index);
-    updateFish(false);
+    if (alive)
+        updateFish(false);
 }
 
 void FishEditor::modifyContract()
@@ -364,12 +371,15 @@ void FishEditor::modifyContract()
     const QModelIndex index = firstSelectedSpearIndex();
     if (!index.isValid())
         return;
+    const QPointer<FishEditor> alive(this);
     {
         const SelectionHold hold(this);
         firstSelectedSpear()->setExpand(false);
     }
-    Q_EMIT onCollaps(index);
-    updateFish(false);
+    if (alive)
+        Q_EMIT onCollaps(index);
+    if (alive)
+        updateFish(false);
 }
 
 void FishEditor::modelDataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight)

@@ -46,6 +46,9 @@ Q_DECLARE_METATYPE(CHANGE_PARENT_TYPE)
 /// bones exist from setRootIndex() on, deeper bones are made when they are first shown. Every edit
 /// ends in updateFish().
 ///
+/// A listener may end the editor from any signal of an edit; what is left of the call is skipped
+/// then.
+///
 /// The editor never acts on what concerns a task outside the diagram (opening it, creating a real
 /// sub-task, editing its details): it reports the gesture with a signal. No operation reports an
 /// error; one whose index or selection is unusable does nothing.
@@ -125,7 +128,7 @@ public:
     SpearItem *firstSelectedSpear() const;
     /// The index of firstSelectedSpear(); invalid for none.
     QModelIndex firstSelectedSpearIndex() const;
-    /// Removes the items without a parent item (the head) from \a items.
+    /// Removes the items without a parent item (the head) and null pointers from \a items.
     static void excludeCenterSubject(QList<QGraphicsItem *> &items);
     /// Removes the items that have an ancestor in \a items; the others keep their order.
     static void excludeChildSubject(QList<QGraphicsItem *> &items);
@@ -369,7 +372,8 @@ private:
     void runMenuEntry(int entry, const SpearItem &spear);
     static QList<TreeItem *> subjectsOf(QList<QGraphicsItem *> items);
     void deleteSubjects(const QJsonObject &objects, const QList<TreeItem *> &subjects);
-    void execute(std::unique_ptr<UndoCommand> command);
+    bool execute(std::unique_ptr<UndoCommand> command);
+    bool executeOnce(UndoCommand &&command);
     void afterEdit();
     void updateLinkOf(const QModelIndex &index) const;
     bool isWithin(const QModelIndex &target, const TreeItem *subject) const;

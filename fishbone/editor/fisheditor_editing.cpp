@@ -20,10 +20,23 @@ namespace {
 constexpr int linkColumn = 2; ///< the column whose text counts as a subject's link
 } // namespace
 
-void FishEditor::execute(std::unique_ptr<UndoCommand> command)
+/// Runs a command on the stack; false when a listener has ended the editor meanwhile.
+bool FishEditor::execute(std::unique_ptr<UndoCommand> command)
 {
-    const SelectionHold hold(this);
-    m_undoStack->push(command.release());
+    const QPointer<FishEditor> alive(this);
+    {
+        const SelectionHold hold(this);
+        m_undoStack->push(command.release());
+    }
+    return !alive.isNull();
+}
+
+/// Runs a command outside the history; false when a listener has ended the editor meanwhile.
+bool FishEditor::executeOnce(UndoCommand &&command)
+{
+    const QPointer<FishEditor> alive(this);
+    command.redo();
+    return !alive.isNull();
 }
 
 void FishEditor::afterEdit()
@@ -44,16 +57,20 @@ bool FishEditor::canRedo() const
 
 void FishEditor::undo()
 {
+    const QPointer<FishEditor> alive(this);
     const SelectionHold hold(this);
     m_undoStack->undo();
-    updateFish(true);
+    if (alive)
+        updateFish(true);
 }
 
 void FishEditor::redo()
 {
+    const QPointer<FishEditor> alive(this);
     const SelectionHold hold(this);
     m_undoStack->redo();
-    updateFish(true);
+    if (alive)
+        updateFish(true);
 }
 
 void FishEditor::insertSubject()
@@ -61,8 +78,8 @@ void FishEditor::insertSubject()
     const QModelIndex index = firstSelectedSpearIndex();
     if (!index.isValid())
         return;
-    execute(std::make_unique<InsertFront>(m_model, index));
-    afterEdit();
+    if (execute(std::make_unique<InsertFront>(m_model, index)))
+        afterEdit();
 }
 
 void FishEditor::appendSubject()
@@ -70,8 +87,8 @@ void FishEditor::appendSubject()
     const QModelIndex index = firstSelectedSpearIndex();
     if (!index.isValid())
         return;
-    execute(std::make_unique<InsertBack>(m_model, index));
-    afterEdit();
+    if (execute(std::make_unique<InsertBack>(m_model, index)))
+        afterEdit();
 }
 
 void FishEditor::insertChildSubject()
@@ -79,8 +96,8 @@ void FishEditor::insertChildSubject()
     const QModelIndex index = firstSelectedSpearIndex();
     if (!index.isValid())
         return;
-    execute(std::make_unique<InsertChild>(m_model, index));
-    afterEdit();
+    if (execute(std::make_unique<InsertChild>(m_model, index)))
+        afterEdit();
 }
 
 void FishEditor::insertParentSubject()
@@ -88,8 +105,8 @@ void FishEditor::insertParentSubject()
     const QModelIndex index = firstSelectedSpearIndex();
     if (!index.isValid())
         return;
-    execute(std::make_unique<InsertParent>(m_model, index));
-    afterEdit();
+    if (execute(std::make_unique<InsertParent>(m_model, index)))
+        afterEdit();
 }
 
 void FishEditor::insertChildSubject(const QModelIndex &parent, TreeItem *item)
@@ -98,14 +115,14 @@ void FishEditor::insertChildSubject(const QModelIndex &parent, TreeItem *item)
         return;
     auto command = std::make_unique<InsertChild>(m_model, parent);
     command->setTreeItem(item);
-    execute(std::move(command));
-    afterEdit();
+    if (execute(std::move(command)))
+        afterEdit();
 }
 
 void FishEditor::insertFreeSubject()
 {
-    InsertFree(m_model).redo();
-    afterEdit();
+    if (executeOnce(InsertFree(m_model)))
+        afterEdit();
 }
 
 void FishEditor::editSubject(const QModelIndex &index, TreeItem *item)
@@ -113,8 +130,8 @@ void FishEditor::editSubject(const QModelIndex &index, TreeItem *item)
     FishModel *const model = fishModel();
     if (!index.isValid() || !item || !model)
         return;
-    EditModify(model, index, item).redo();
-    afterEdit();
+    if (executeOnce(EditModify(model, index, item)))
+        afterEdit();
 }
 
 void FishEditor::deleteItem(const QModelIndex &index)
@@ -122,8 +139,8 @@ void FishEditor::deleteItem(const QModelIndex &index)
     FishModel *const model = fishModel();
     if (!index.isValid() || !model)
         return;
-    execute(std::make_unique<EditDelete>(model, index));
-    afterEdit();
+    if (execute(std::make_unique<EditDelete>(model, index)))
+        afterEdit();
 }
 
 void FishEditor::deleteSubject(const QModelIndex &index)
@@ -138,8 +155,8 @@ void FishEditor::deleteSubjects(const QJsonObject &objects, const QList<TreeItem
         return;
     auto command = std::make_unique<EditDelete>(model, objects, subjects);
     command->setDocument(currentFishInfo());
-    execute(std::move(command));
-    afterEdit();
+    if (execute(std::move(command)))
+        afterEdit();
 }
 
 void FishEditor::deleteItems(const QJsonObject &objects)
@@ -156,8 +173,10 @@ void FishEditor::del()
 
 void FishEditor::cut()
 {
+    const QPointer<FishEditor> alive(this);
     copyItemToClipBoard();
-    deleteSubjects(m_copyBuffer, subjectsOf(selectedItems()));
+    if (alive)
+        deleteSubjects(m_copyBuffer, subjectsOf(selectedItems()));
 }
 
 void FishEditor::copy()
@@ -177,7 +196,9 @@ void FishEditor::pasteItem(const QModelIndex &index)
         return;
     auto command = std::make_unique<EditPaste>(model, index, m_copyBuffer);
     command->setPasteAsNew(m_pasteAsNew);
-    execute(std::move(command));
+    if (!execute(std::move(command)))
+        return;
+    const SelectionHold hold(this);
     updateFish(true);
     setModified(true);
 }
@@ -186,8 +207,8 @@ void FishEditor::renameItem(const QModelIndex &index, const QString &name)
 {
     if (!index.isValid())
         return;
-    execute(std::make_unique<ModifyName>(m_model, index, name));
-    setModified(true);
+    if (execute(std::make_unique<ModifyName>(m_model, index, name)))
+        setModified(true);
 }
 
 void FishEditor::updateLinkOf(const QModelIndex &index) const
@@ -206,7 +227,8 @@ void FishEditor::modifyLink()
     const QUrl url = URLDialog::linkToUrlDialog(currItemUrl(), this);
     if (!alive || !url.isValid() || !index.isValid())
         return;
-    execute(std::make_unique<ModifyLinkTo>(m_model, index, url.toString()));
+    if (!execute(std::make_unique<ModifyLinkTo>(m_model, index, url.toString())))
+        return;
     updateLinkOf(index);
     setModified(true);
 }
@@ -216,7 +238,8 @@ void FishEditor::modifyDelLink()
     const QModelIndex index = firstSelectedSpearIndex();
     if (!index.isValid())
         return;
-    execute(std::make_unique<ModifyDelLink>(m_model, index));
+    if (!execute(std::make_unique<ModifyDelLink>(m_model, index)))
+        return;
     updateLinkOf(index);
     setModified(true);
 }
@@ -256,6 +279,7 @@ void FishEditor::delSpearStyle()
 
 void FishEditor::selectAll()
 {
+    const int selected = m_scene->selectedItems().count();
     {
         // One report for all of them: each one costs its listeners a look at the whole selection.
         const QSignalBlocker blocker(m_scene.get());
@@ -263,5 +287,6 @@ void FishEditor::selectAll()
         for (QGraphicsItem *item : items)
             item->setSelected(true);
     }
-    Q_EMIT m_scene->selectionChanged();
+    if (m_scene->selectedItems().count() != selected)
+        Q_EMIT m_scene->selectionChanged();
 }

@@ -65,7 +65,8 @@ void FishEditor::moveItems(const QPoint &pos, const QList<QGraphicsItem *> &srcs
     const QPersistentModelIndex parent = target;
     auto command = std::make_unique<EditMove>(model, target, row, snapshot, subjectsOf(srcs));
     command->setDocument(currentFishInfo());
-    execute(std::move(command));
+    if (!execute(std::move(command)))
+        return;
     setModified(true);
     updateFish(false);
     reportNewParent(uuidsOf(snapshot), parent, CHANGE_PARENT_BY_MOVE);
@@ -75,20 +76,24 @@ void FishEditor::onDropTo(const QMimeData *mimeData, const QModelIndex &indexTo,
 {
     FishModel *const model = fishModel();
     TreeItem *const dropped = treeItemFromMimeData(mimeData);
-    if (!model || !dropped || !indexTo.isValid() || indexTo.model() != model ||
-        isWithin(indexTo, dropped))
+    // The drop was queued: its target may have gone since, or stand in another row.
+    const TreeItem *const under = model ? model->getTreeItem(indexTo) : nullptr;
+    if (!dropped || !under || !model->contains(under))
+        return;
+    const QPersistentModelIndex target = model->indexFromItem(under);
+    if (isWithin(target, dropped))
         return;
     dropped->ensureUuid();
     QJsonObject snapshot;
     FishModel::write(snapshot, dropped, true);
-    const QPersistentModelIndex parent = indexTo;
     // The command also makes the spears of a subject that was not shown here.
-    EditMove command(model, indexTo, row, snapshot, {dropped});
+    EditMove command(model, target, row, snapshot, {dropped});
     command.setDocument(model->fishOf(dropped));
-    command.redo();
+    if (!executeOnce(std::move(command)))
+        return;
     setModified(true);
     updateFish(false);
-    reportNewParent({dropped->uuid()}, parent, CHANGE_PARENT_BY_DROP);
+    reportNewParent({dropped->uuid()}, target, CHANGE_PARENT_BY_DROP);
 }
 
 void FishEditor::reportNewParent(const QStringList &children, const QModelIndex &parent,

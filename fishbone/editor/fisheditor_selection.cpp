@@ -63,7 +63,7 @@ QModelIndex FishEditor::firstSelectedSpearIndex() const
 
 void FishEditor::excludeCenterSubject(QList<QGraphicsItem *> &items)
 {
-    const auto isTop = [](const QGraphicsItem *item) { return !item->parentItem(); };
+    const auto isTop = [](const QGraphicsItem *item) { return !item || !item->parentItem(); };
     items.erase(std::remove_if(items.begin(), items.end(), isTop), items.end());
 }
 

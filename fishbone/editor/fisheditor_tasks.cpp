@@ -12,6 +12,7 @@
 #include <QPrintDialog>
 #include <QPrinter>
 
+#include <fishbone/dialogs/modalanswer.h>
 #include <fishbone/editor/graphicsview.h>
 #include <fishbone/items/spearitem.h>
 #include <fishbone/model/fishmodel.h>
@@ -100,10 +101,9 @@ void FishEditor::runMenuEntry(int entry, const SpearItem &spear)
 void FishEditor::print()
 {
     QPrinter printer(QPrinter::ScreenResolution);
-    QPrintDialog dialog(&printer, this);
-    const QPointer<FishEditor> alive(this);
-    if (dialog.exec() != QDialog::Accepted || !alive)
-        return;
+    const auto isAccepted = [](const QPrintDialog &) { return true; };
+    if (!modalAnswer(new QPrintDialog(&printer, this), isAccepted))
+        return; // also when the editor has died with the dialog open
     QPainter painter(&printer);
     m_view->render(&painter, QRectF(), QRect(), Qt::KeepAspectRatio);
 }

@@ -4,6 +4,7 @@
 #include <fishbone/editor/graphicsview.h>
 
 #include <algorithm>
+#include <utility>
 
 #include <QApplication>
 #include <QContextMenuEvent>
@@ -40,6 +41,12 @@ void repaintSpear(SpearItem *spear)
 {
     spear->update();
     spear->textItem()->update();
+}
+
+/// How far a wheel was turned, along the axis that it was mainly turned along.
+int deltaOf(const QPoint &angle)
+{
+    return qAbs(angle.x()) > qAbs(angle.y()) ? angle.x() : angle.y();
 }
 
 QSet<const QGraphicsItem *> asSet(const QList<SpearItem *> &spears)
@@ -87,26 +94,39 @@ QList<SpearItem *> GraphicsView::livingSelection() const
     return living;
 }
 
+bool GraphicsView::event(QEvent *event)
+{
+    const bool isHandled = QGraphicsView::event(event);
+    if (event->type() == QEvent::WindowBlocked)
+        abandonMove();
+    return isHandled;
+}
+
 void GraphicsView::mousePressEvent(QMouseEvent *event)
 {
     qDebug() << "GraphicsView::mousePressEvent" << event;
+    const bool beginsMove = event->button() == Qt::LeftButton && scene();
+    if (beginsMove) {
+        m_selected.clear();
+        m_pressed = true;
+    }
     // What a press opens (a link, say) may end with the host destroying the editor.
     const QPointer<GraphicsView> alive(this);
     QGraphicsView::mousePressEvent(event);
     if (!alive)
         return;
     viewport()->setCursor(Qt::ArrowCursor);
-    if (event->button() != Qt::LeftButton || !scene())
-        return;
-    m_selected.clear();
+    if (!beginsMove || !m_pressed)
+        return; // also when a dialog that the press has opened took the release
     const QList<QGraphicsItem *> selected = m_editor->selectedItems();
     for (QGraphicsItem *item : selected) {
         if (SpearItem *const spear = toSpear(item))
             m_selected.append(spear);
     }
-    unmarkTarget();
-    m_dropRow = 0;
-    m_pressed = true;
+    if (m_linkedSpear.get()) {
+        unmarkTarget();
+        m_dropRow = 0;
+    }
     m_pressedSpear = SpearPointer();
     const QSet<const QGraphicsItem *> candidates = asSet(livingSelection());
     const QList<QGraphicsItem *> around = itemsAround(event->pos());
@@ -138,6 +158,16 @@ void GraphicsView::endMoving()
             fade(spear.get(), false);
     }
     m_moving.clear();
+}
+
+/// Ends a move whose release will not come here.
+void GraphicsView::abandonMove()
+{
+    endMoving();
+    unmarkTarget();
+    m_pressedSpear = SpearPointer();
+    if (std::exchange(m_pressed, false))
+        reportMove(viewport()->mapFromGlobal(QCursor::pos()), nullptr);
 }
 
 void GraphicsView::fade(SpearItem *spear, bool faded) const
@@ -261,7 +291,7 @@ void GraphicsView::wheelEvent(QWheelEvent *event)
         QApplication::sendEvent(horizontalScrollBar(), event);
         return;
     }
-    if (event->angleDelta().y() > 0)
+    if (deltaOf(event->angleDelta()) > 0)
         m_editor->zoomIn(wheelZoomStep);
     else
         m_editor->zoomOut(wheelZoomStep);

@@ -21,7 +21,8 @@ class TreeItem;
 /// through dropTo(). The wheel scrolls sideways and zooms with Ctrl; two fingers on a touchpad
 /// scroll both ways, a pinch zooms. A right click asks for the context menu.
 ///
-/// Spears that die or are rebuilt while a button is held are forgotten.
+/// Spears that die or are rebuilt while a button is held are forgotten. A dialog that opens
+/// meanwhile ends the move as a release over nothing does.
 class FISHBONE_EXPORT GraphicsView : public QGraphicsView
 {
     Q_OBJECT
@@ -51,6 +52,7 @@ Q_SIGNALS:
     void spearItemClicked(SpearItem *spear);
 
 protected:
+    bool event(QEvent *event) override;
     bool viewportEvent(QEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
@@ -82,6 +84,7 @@ private:
     QList<SpearItem *> livingSelection() const;
     void beginMoving();
     void endMoving();
+    void abandonMove();
     void fade(SpearItem *spear, bool faded) const;
     void markTarget(SpearItem *spear, const QPoint &pos, SpearItem *moving);
     void unmarkTarget();

@@ -6,12 +6,11 @@
 #include <QGraphicsItem>
 #include <QSet>
 
-/// Whether an item above \a item is among \a items.
+/// Whether an item above \a item, which may be null, is among \a items.
 inline bool hasAncestorIn(const QGraphicsItem *item, const QSet<const QGraphicsItem *> &items)
 {
-    for (const QGraphicsItem *above = item->parentItem(); above; above = above->parentItem()) {
-        if (items.contains(above))
-            return true;
-    }
-    return false;
+    const QGraphicsItem *above = item ? item->parentItem() : nullptr;
+    while (above && !items.contains(above))
+        above = above->parentItem();
+    return above != nullptr;
 }

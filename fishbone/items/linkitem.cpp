@@ -4,6 +4,7 @@
 #include <fishbone/items/linkitem.h>
 
 #include <QDesktopServices>
+#include <QGraphicsScene>
 #include <QGraphicsSceneMouseEvent>
 #include <QUrl>
 
@@ -41,6 +42,9 @@ void LinkItem::mousePressEvent(QGraphicsSceneMouseEvent *event)
 {
     if (event->button() != Qt::LeftButton)
         return;
+    // Held back, the mouse would press the link again when a dialog takes the release.
+    if (scene() && scene()->mouseGrabberItem() == this)
+        ungrabMouse();
     // What opens the link may show a dialog, edit or reload: this item may be gone afterwards.
     const QString url = m_url;
     open(url);

@@ -138,8 +138,10 @@ bool FishInfo::saveAs()
 {
     const QString proposed =
         SystemHelper::documentsLocation() + QLatin1Char('/') + strippedName(m_curFile);
+    // The dialog runs an event loop, in which the document may be unloaded.
+    const QPointer<FishInfo> alive(this);
     const QString chosen = QFileDialog::getSaveFileName(nullptr, tr("Save As"), proposed);
-    return !chosen.isEmpty() && saveFile(chosen);
+    return alive && !chosen.isEmpty() && saveFile(chosen);
 }
 
 bool FishInfo::maybeSave()
@@ -148,11 +150,12 @@ bool FishInfo::maybeSave()
         return true;
     const QString question = tr("'%1' has been modified.\nDo you want to save your changes?")
                                  .arg(strippedName(m_curFile));
+    const QPointer<FishInfo> alive(this);
     const auto answer =
         QMessageBox::warning(nullptr, tr("FishInfo"), question,
                              QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel);
     if (answer == QMessageBox::Save)
-        return save();
+        return alive && save();
     return answer != QMessageBox::Cancel;
 }
 

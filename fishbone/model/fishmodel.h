@@ -191,7 +191,10 @@ public:
     /** @} */
 
     /** @name Loading: each success appends a document @{ */
-    /** Loads from text; null when it is no JSON document. Emits no fishLoaded(). */
+    /**
+     * Loads from text; null when it is no JSON document, and when a listener of the insertion has
+     * unloaded it again. Emits no fishLoaded().
+     */
     FishInfo *loadJsonFish(const QByteArray &json);
     /** Loads a file and names the document after it. Returns a MODEL_ERROR number. */
     int loadFishFromFile(const QString &path);

@@ -49,9 +49,10 @@ FishInfo *FishModel::loadJsonFish(const QByteArray &json)
         return nullptr;
     auto document = std::make_unique<FishInfo>();
     document->buildTree(parsed.object());
-    const int row = m_fishList.size();
-    insertFish(row, document.get());
-    return document.release();
+    // Who hears of the new row may unload it at once.
+    const QPointer<FishInfo> loaded(document.release());
+    insertFish(m_fishList.size(), loaded);
+    return loaded;
 }
 
 /** Loads a file and announces it; the document takes the file's name when it is to be @p named. */
@@ -65,7 +66,7 @@ int FishModel::loadFile(const QString &path, bool named)
         return MODEL_DATA_ERROR;
     if (named)
         document->setFileName(path);
-    Q_EMIT fishLoaded(index(m_fishList.size() - 1, 0), MODEL_NO_ERROR);
+    Q_EMIT fishLoaded(index(fishRow(document), 0), MODEL_NO_ERROR);
     return MODEL_NO_ERROR;
 }
 
@@ -118,7 +119,7 @@ void FishModel::replyFinished(QNetworkReply *reply)
         return;
     }
     document->setFileName(reply->url().toString());
-    Q_EMIT fishLoaded(index(m_fishList.size() - 1, 0), MODEL_NO_ERROR);
+    Q_EMIT fishLoaded(index(fishRow(document), 0), MODEL_NO_ERROR);
 }
 
 int FishModel::reloadDataFromFile(const QString &path, FishInfo *document)

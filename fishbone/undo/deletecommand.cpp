@@ -86,8 +86,11 @@ EditDelete::EditDelete(FishModel *model, const QModelIndex &index)
     , m_d(std::make_unique<Private>())
 {
     m_d->model = model;
+    TreeItem *const subject = itemFromIndex(index);
+    if (!subject)
+        return;
     m_d->subjects.append(keyFromIndex(index));
-    FishModel::write(m_d->objects, itemFromIndex(index), true);
+    FishModel::write(m_d->objects, subject, true);
 }
 
 EditDelete::~EditDelete() = default;

@@ -24,6 +24,7 @@ private Q_SLOTS:
     void shouldDoNothingWithoutAModel();
     void shouldWarnWhenNothingIsFound();
     void shouldShowMarkupInTheWarningAsItIs();
+    void shouldSurviveItsOwnEndWhileItWarns();
     void shouldSearchOnceOnReturn();
     void shouldSearchOnceOnReturnAfterAClickOnAButton();
     void shouldLetReturnPressAFocusedButton();
@@ -140,6 +141,17 @@ void tst_ReplaceFindDialog::shouldShowMarkupInTheWarningAsItIs()
     QTextDocument document;
     document.setHtml(message.text);
     QCOMPARE(document.toPlainText(), QStringLiteral("Not found key word <b>bold</b> & so on."));
+}
+
+void tst_ReplaceFindDialog::shouldSurviveItsOwnEndWhileItWarns()
+{
+    QStandardItemModel model;
+    auto dialog = std::make_unique<ReplaceFindDialog>();
+    dialog->setModel(&model);
+    const ModalDriver<QMessageBox> user([&dialog](QMessageBox &) { dialog.reset(); });
+    dialog->find();
+    QVERIFY(user.isDone());
+    QVERIFY(!dialog);
 }
 
 void tst_ReplaceFindDialog::shouldSearchOnceOnReturn()

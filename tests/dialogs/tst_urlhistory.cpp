@@ -43,6 +43,7 @@ private Q_SLOTS:
     void shouldWarnAndCloseWhenTheHistoryCannotBeWritten_data();
     void shouldWarnAndCloseWhenTheHistoryCannotBeWritten();
     void shouldWarnOnCleanWhenTheHistoryCannotBeWritten();
+    void shouldSurviveItsOwnEndWhileItWarns();
     void shouldKeepTheOldHistoryWhenTheDiskIsFull();
     void shouldWriteInPlaceWhenTheFolderIsNotWritable();
     void shouldWriteIntoAPipe();
@@ -223,6 +224,16 @@ void tst_UrlHistory::shouldWarnOnCleanWhenTheHistoryCannotBeWritten()
     dialog.clean();
     QVERIFY(user.isDone());
     QCOMPARE(message.title, QStringLiteral("Error"));
+}
+
+void tst_UrlHistory::shouldSurviveItsOwnEndWhileItWarns()
+{
+    auto dialog = std::make_unique<URLDialog>(QString(), QStringLiteral("missing/a.urllist"));
+    dialog->setUrl(QStringLiteral("http://a/"));
+    const ModalDriver<QMessageBox> user([&dialog](QMessageBox &) { dialog.reset(); });
+    dialog->accept();
+    QVERIFY(user.isDone());
+    QVERIFY(!dialog);
 }
 
 void tst_UrlHistory::shouldKeepTheOldHistoryWhenTheDiskIsFull()

@@ -28,6 +28,7 @@ class tst_FishEditorClipboard : public QObject
 private Q_SLOTS:
     void shouldStartWithAnEmptyBuffer();
     void shouldCopyNothingOfTheHeadAlone();
+    void shouldSkipItemsThatAreNotThere();
     void shouldCopyOneSubjectAsItsNodeObject();
     void shouldCopyAParentWithItsSelectedChildOnce();
     void shouldCopySeveralInDocumentOrder();
@@ -60,6 +61,19 @@ void tst_FishEditorClipboard::shouldCopyNothingOfTheHeadAlone()
     fixture.editor.copy();
     QCOMPARE(recorder.take(), QStringLiteral("clipBoardAvailable(false)"));
     QVERIFY(!fixture.editor.hasClipBoardData());
+}
+
+void tst_FishEditorClipboard::shouldSkipItemsThatAreNotThere()
+{
+    EditorFixture fixture(document);
+    QList<QGraphicsItem *> items{nullptr, fixture.spear(QStringLiteral("A")), nullptr};
+    QJsonObject copied;
+    fixture.editor.saveObjects(copied, items);
+    QCOMPARE(copied.value(QStringLiteral("title")), QJsonValue(QStringLiteral("A")));
+    FishEditor::excludeChildSubject(items);
+    QCOMPARE(items.size(), 3);
+    FishEditor::excludeCenterSubject(items);
+    QCOMPARE(items, QList<QGraphicsItem *>{fixture.spear(QStringLiteral("A"))});
 }
 
 void tst_FishEditorClipboard::shouldCopyOneSubjectAsItsNodeObject()

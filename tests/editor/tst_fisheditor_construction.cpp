@@ -32,7 +32,9 @@ private Q_SLOTS:
     void shouldOwnItsUndoStack();
     void shouldReportWhetherAnythingIsSelected();
     void shouldReportASelectionThatChangesAtOnceOnlyOnce();
+    void shouldNotReportASelectionThatStays();
     void shouldReportASelectionWhenTheTreeIsWholeAgain();
+    void shouldReportASelectionWhenTheDrawingIsWholeAgain();
     void shouldCarryOutAMoveAtOnce();
     void shouldCarryOutADropWhenTheDragHasEnded();
     void shouldAnswerARightClickWithAMenu();
@@ -175,6 +177,20 @@ void TestFishEditorConstruction::shouldReportASelectionThatChangesAtOnceOnlyOnce
     QCOMPARE(recorder.take(), QStringLiteral("copyAvailable(false)"));
 }
 
+void TestFishEditorConstruction::shouldNotReportASelectionThatStays()
+{
+    FishEditor empty;
+    SignalRecorder nothing(empty);
+    empty.selectAll();
+    QCOMPARE(nothing.take(), QString());
+
+    EditorFixture fish(effect());
+    fish.editor.selectAll();
+    SignalRecorder recorder(fish.editor);
+    fish.editor.selectAll();
+    QCOMPARE(recorder.take(), QString());
+}
+
 void TestFishEditorConstruction::shouldReportASelectionWhenTheTreeIsWholeAgain()
 {
     EditorFixture fish(QStringLiteral("Effect[Man[Training,Cost],Machine[Wear]]"));
@@ -189,6 +205,23 @@ void TestFishEditorConstruction::shouldReportASelectionWhenTheTreeIsWholeAgain()
     fish.editor.del();
 
     QCOMPARE(seen, QStringList{QStringLiteral("Effect[Machine]/Effect[Machine]")});
+}
+
+void TestFishEditorConstruction::shouldReportASelectionWhenTheDrawingIsWholeAgain()
+{
+    EditorFixture fish(effect());
+    const QModelIndex other =
+        fish.model.index(fish.model.fishRow(loadDocument(fish.model, QStringLiteral("B[C]"))), 0);
+    fish.select({QStringLiteral("Man")});
+    QStringList seen;
+    connect(&fish.editor, &FishEditor::copyAvailable, &fish.editor, [&fish, &seen] {
+        seen.append(spearTreeText(fish.editor.headSpear()) + QLatin1Char('/') +
+                    fish.editor.rootIndex().data().toString());
+    });
+
+    fish.editor.setRootIndex(other);
+
+    QCOMPARE(seen, QStringList{QStringLiteral("B[C]/B")});
 }
 
 void TestFishEditorConstruction::shouldCarryOutAMoveAtOnce()

@@ -52,6 +52,8 @@ private Q_SLOTS:
     void shouldIgnoreADropOntoTheDroppedSubtree_data();
     void shouldIgnoreADropOntoTheDroppedSubtree();
     void shouldIgnoreADropWithoutATargetOrModel();
+    void shouldIgnoreADropOnASubjectThatIsGone();
+    void shouldFollowTheTargetOfADropToItsPlace();
 };
 
 void tst_FishEditorMoving::shouldMoveSubjectsUndoably()
@@ -265,6 +267,38 @@ void tst_FishEditorMoving::shouldIgnoreADropWithoutATargetOrModel()
     FishEditor empty;
     empty.onDropTo(data.get(), fixture.index(QStringLiteral("B")), 0);
     QCOMPARE(treeOf(fixture), document);
+}
+
+void tst_FishEditorMoving::shouldIgnoreADropOnASubjectThatIsGone()
+{
+    EditorFixture fixture(document);
+    const std::unique_ptr<QMimeData> data(
+        fixture.model.mimeData({fixture.index(QStringLiteral("C"))}));
+    Q_EMIT fixture.editor.view()->dropTo(data.get(), fixture.index(QStringLiteral("B")), 0);
+    fixture.model.removeRows(1, 1, fixture.editor.rootIndex());
+    fixture.info->setModified(false);
+
+    QCoreApplication::processEvents();
+
+    QCOMPARE(fixture.model.rowCount(), 1);
+    QCOMPARE(treeOf(fixture), QStringLiteral("Head[A[A1,A2],C]"));
+    QVERIFY(!fixture.editor.isModified());
+}
+
+void tst_FishEditorMoving::shouldFollowTheTargetOfADropToItsPlace()
+{
+    EditorFixture fixture(document);
+    fixture.model.setModelType(FISH_MODEL_NORMAL);
+    SignalRecorder recorder(fixture.editor, {QStringLiteral("changeTaskParent")});
+    const std::unique_ptr<QMimeData> data(
+        fixture.model.mimeData({fixture.index(QStringLiteral("C"))}));
+    Q_EMIT fixture.editor.view()->dropTo(data.get(), fixture.index(QStringLiteral("B")), 0);
+    fixture.model.removeRows(0, 1, fixture.editor.rootIndex());
+
+    QCoreApplication::processEvents();
+
+    QCOMPARE(treeOf(fixture), QStringLiteral("Head[B[C,B1]]"));
+    QCOMPARE(recorder.take(), QStringLiteral("changeTaskParent([u-C], u-B, 0)"));
 }
 
 QTEST_MAIN(tst_FishEditorMoving)

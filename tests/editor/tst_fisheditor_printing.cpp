@@ -25,6 +25,7 @@ private Q_SLOTS:
     void shouldPrintTheWholeViewOntoOnePage();
     void shouldPrintWhatIsInViewOnly();
     void shouldLeaveTheDrawingAsItIs();
+    void shouldSurviveItsOwnEndWhileTheDialogIsOpen();
 };
 
 namespace {
@@ -168,6 +169,17 @@ void TestFishEditorPrinting::shouldLeaveTheDrawingAsItIs()
     QCOMPARE(fish.editor.view()->viewport()->grab().toImage(), before);
     QCOMPARE(fish.editor.view()->transform(), matrix);
     QVERIFY(!fish.info->modified());
+}
+
+void TestFishEditorPrinting::shouldSurviveItsOwnEndWhileTheDialogIsOpen()
+{
+    auto editor = std::make_unique<FishEditor>();
+    ModalDriver<QPrintDialog> user([&editor](QPrintDialog &) { editor.reset(); });
+
+    editor->print();
+
+    QVERIFY(user.isDone());
+    QVERIFY(!editor);
 }
 
 QTEST_MAIN(TestFishEditorPrinting)

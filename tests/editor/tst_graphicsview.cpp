@@ -4,7 +4,9 @@
 #include <QMetaMethod>
 #include <QtTest>
 
+#include <fishbone/items/linkitem.h>
 #include <tests/editor/movingstage.h>
+#include <tests/support/modaldriver.h>
 
 using namespace TestSupport;
 
@@ -30,6 +32,8 @@ private Q_SLOTS:
     void shouldReportNothingWithoutASelection();
     void shouldRestoreFadedSpearsAfterAnotherButton();
     void shouldRestoreSpearsThatAnEarlierPressLeftFaded();
+    void shouldEndAMoveWhenADialogBlocksTheWindow();
+    void shouldBeginNoMoveWhenThePressOpensADialog();
 };
 
 void TestGraphicsView::shouldBeSetUpForADiagram()
@@ -239,6 +243,46 @@ void TestGraphicsView::shouldRestoreSpearsThatAnEarlierPressLeftFaded()
     stage.mouse.press(stage.tip("Wear"));
 
     QCOMPARE(stage.faded(), QStringLiteral("Wear"));
+}
+
+void TestGraphicsView::shouldEndAMoveWhenADialogBlocksTheWindow()
+{
+    MovingStage stage;
+    stage.mouse.press(stage.tip("Method"));
+    stage.mouse.move(stage.tip("Matter"));
+    QCOMPARE(stage.linked(), QStringLiteral("Matter 0"));
+
+    // The release goes nowhere, since the window is blocked.
+    const ModalDriver<QDialog> user([](QDialog &dialog) { dialog.reject(); });
+    QDialog().exec();
+
+    QVERIFY(user.isDone());
+    QCOMPARE(stage.faded(), QString());
+    QCOMPARE(stage.linked(), QString());
+    QCOMPARE(stage.takeMoves(), QStringLiteral("Method to nothing row 0"));
+    stage.mouse.move(stage.tip("Machine"));
+    QCOMPARE(stage.linked(), QString());
+    QCOMPARE(stage.takeMoves(), QString());
+}
+
+void TestGraphicsView::shouldBeginNoMoveWhenThePressOpensADialog()
+{
+    MovingStage stage;
+    stage.subject(QStringLiteral("Matter"))->setUrl(QStringLiteral("https://example.org"));
+    stage.editor.updateFish(false);
+    stage.select({QStringLiteral("Method")});
+    LinkItem::setOpener([](const QUrl &) {
+        const ModalDriver<QDialog> user([](QDialog &dialog) { dialog.reject(); });
+        QDialog().exec();
+    });
+
+    stage.mouse.press(middleOf(stage.view, stage.spear("Matter")->linkItem()));
+    LinkItem::setOpener({});
+
+    QCOMPARE(stage.faded(), QString());
+    stage.mouse.move(stage.tip("Machine"));
+    QCOMPARE(stage.linked(), QString());
+    QCOMPARE(stage.takeMoves(), QString());
 }
 
 QTEST_MAIN(TestGraphicsView)

@@ -242,25 +242,28 @@ void TestGraphicsViewEvents::shouldScrollSidewaysWithAPlainWheel()
 
 void TestGraphicsViewEvents::shouldZoomWithControlAndTheWheel_data()
 {
-    QTest::addColumn<int>("delta");
+    QTest::addColumn<QPoint>("angle");
     QTest::addColumn<int>("value");
 
-    QTest::newRow("away from the user") << 120 << 256;
-    QTest::newRow("a little away") << 8 << 256;
-    QTest::newRow("towards the user") << -120 << 244;
-    QTest::newRow("not at all") << 0 << 244;
+    QTest::newRow("away from the user") << QPoint(0, 120) << 256;
+    QTest::newRow("a little away") << QPoint(0, 8) << 256;
+    QTest::newRow("towards the user") << QPoint(0, -120) << 244;
+    QTest::newRow("not at all") << QPoint(0, 0) << 244;
+    // With Alt as well, or on a second wheel.
+    QTest::newRow("away on the other axis") << QPoint(120, 0) << 256;
+    QTest::newRow("back on the other axis") << QPoint(-120, 0) << 244;
 }
 
 void TestGraphicsViewEvents::shouldZoomWithControlAndTheWheel()
 {
-    QFETCH(int, delta);
+    QFETCH(QPoint, angle);
     QFETCH(int, value);
     Stage stage;
     stage.editor.zoomFish(250);
     const int x = stage.view.horizontalScrollBar()->value();
     SignalRecorder recorder(stage.editor);
 
-    QVERIFY(stage.mouse.wheel({100, 100}, {0, delta}, Qt::ControlModifier));
+    QVERIFY(stage.mouse.wheel({100, 100}, angle, Qt::ControlModifier));
 
     QCOMPARE(recorder.take(), QStringLiteral("zoomValueChanged(%1)").arg(value));
     QCOMPARE(stage.editor.zoomValue(), value);

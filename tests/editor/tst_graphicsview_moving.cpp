@@ -23,6 +23,7 @@ private Q_SLOTS:
     void shouldFollowTheMouseAlongOneTarget();
     void shouldReportTheTargetOfAMove();
     void shouldReportAMoveIntoItselfWithoutTarget();
+    void shouldReportTheLastRowWithoutATarget();
     void shouldClearAStaleTargetAtThePress();
     void shouldForgetATargetThatDies();
     void shouldForgetMovedSpearsThatDie();
@@ -176,12 +177,25 @@ void TestGraphicsViewMoving::shouldReportAMoveIntoItselfWithoutTarget()
     QCOMPARE(stage.linked(), QString());
 }
 
+void TestGraphicsViewMoving::shouldReportTheLastRowWithoutATarget()
+{
+    MovingStage stage;
+    stage.mouse.press(stage.tip("Method"));
+    stage.mouse.move(stage.tip("Man"));
+    stage.mouse.move(stage.nowhere());
+    stage.mouse.release(stage.nowhere());
+    QCOMPARE(stage.takeMoves(), QStringLiteral("Method to nothing row 3"));
+
+    stage.mouse.click(stage.tip("Matter"));
+    QCOMPARE(stage.takeMoves(), QStringLiteral("Matter to nothing row 3"));
+}
+
 void TestGraphicsViewMoving::shouldClearAStaleTargetAtThePress()
 {
     MovingStage stage;
     stage.mouse.press(stage.tip("Method"));
-    stage.mouse.move(stage.tip("Matter"));
-    QCOMPARE(stage.linked(), QStringLiteral("Matter 0"));
+    stage.mouse.move(stage.tip("Man"));
+    QCOMPARE(stage.linked(), QStringLiteral("Man 3"));
 
     // The release got lost.
     stage.mouse.press(stage.nowhere());

@@ -38,6 +38,7 @@ private Q_SLOTS:
     void shouldSurviveAnOpenerThatDeletesTheItem();
     void shouldSurviveAnOpenerThatSetsAnother();
     void shouldOpenWhenTheIconIsClickedInAView();
+    void shouldOpenOnceWhenTheReleaseGetsLost();
 
 private:
     QList<QUrl> m_opened;
@@ -224,6 +225,23 @@ void TestLinkItem::shouldOpenWhenTheIconIsClickedInAView()
     QTest::mouseClick(view.viewport(), Qt::LeftButton, Qt::NoModifier, pos);
 
     QCOMPARE(m_opened, QList<QUrl>{QUrl(QStringLiteral("https://example.org/c"))});
+}
+
+void TestLinkItem::shouldOpenOnceWhenTheReleaseGetsLost()
+{
+    Drawing drawing(QStringLiteral("Effect[Man]"));
+    auto *const item = std::make_unique<LinkItem>(QStringLiteral("https://example.org")).release();
+    drawing.spear(QStringLiteral("Man"))->setLinkItem(item);
+    QGraphicsView view(&drawing.scene);
+    view.resize(600, 400);
+    view.centerOn(item);
+    const QPoint pos = view.mapFromScene(item->mapToScene(item->boundingRect().center()));
+
+    // A dialog that the opener shows takes the release.
+    QTest::mousePress(view.viewport(), Qt::LeftButton, Qt::NoModifier, pos);
+    QTest::mouseClick(view.viewport(), Qt::LeftButton, Qt::NoModifier, {3, 3});
+
+    QCOMPARE(m_opened.count(), 1);
 }
 
 QTEST_MAIN(TestLinkItem)

@@ -110,6 +110,8 @@ private Q_SLOTS:
     void shouldDoAsTheUserAnswers_data();
     void shouldDoAsTheUserAnswers();
     void shouldReportASaveThatFailsAfterTheQuestion();
+    void shouldSurviveItsOwnEndWhileItAsks();
+    void shouldSurviveItsOwnEndWhileANameIsChosen();
     void shouldAutoSaveUnderAFreshName();
     void shouldAutoSaveANamedDocumentInItsFile();
     void shouldAutoSaveWhereItIsTold();
@@ -440,6 +442,35 @@ void TestFishInfoSaving::shouldReportASaveThatFailsAfterTheQuestion()
     QVERIFY(!m_info->maybeSave());
 
     QVERIFY(user.isDone());
+}
+
+void TestFishInfoSaving::shouldSurviveItsOwnEndWhileItAsks()
+{
+    m_info->setModified(true);
+    const ModalDriver<QMessageBox> user([this](QMessageBox &box) {
+        m_model->unloadFish(m_info);
+        box.button(QMessageBox::Save)->click();
+    });
+
+    QVERIFY(!m_info->maybeSave());
+
+    QVERIFY(user.isDone());
+    QCOMPARE(m_model->rowCount(), 0);
+}
+
+void TestFishInfoSaving::shouldSurviveItsOwnEndWhileANameIsChosen()
+{
+    const QString chosen = path("chosen.json");
+    const ModalDriver<QFileDialog> user([this, &chosen](QFileDialog &dialog) {
+        m_model->unloadFish(m_info);
+        dialog.selectFile(chosen);
+        dialog.findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Save)->click();
+    });
+
+    QVERIFY(!m_info->saveAs());
+
+    QVERIFY(user.isDone());
+    QVERIFY(!QFile::exists(chosen));
 }
 
 void TestFishInfoSaving::shouldAutoSaveUnderAFreshName()

@@ -36,6 +36,8 @@ private Q_SLOTS:
     void shouldLoadDocumentsWithoutANode_data();
     void shouldLoadDocumentsWithoutANode();
     void shouldLoadFiles();
+    void shouldReportTheLoadedDocumentWhenAnotherOneFollowsAtOnce();
+    void shouldSurviveTheUnloadingOfWhatHasJustBeenLoaded();
     void shouldReportFilesThatCannotBeOpened();
     void shouldLoadTheTemplateOfTheHost();
     void shouldLoadTemplatesWithoutAName();
@@ -147,6 +149,39 @@ void TestFishModelLoading::shouldLoadFiles()
     QCOMPARE(model.fishList().last()->fileName(), file);
     QVERIFY(model.fishList().last()->isUntitled());
     QCOMPARE(model.findFish(file), model.index(1, 0));
+}
+
+void TestFishModelLoading::shouldReportTheLoadedDocumentWhenAnotherOneFollowsAtOnce()
+{
+    FishModel model;
+    model.setModelType(FISH_MODEL_DIAGRAM);
+    const QString file = makeFile("effect.json", document);
+    bool follows = false;
+    connect(&model, &FishModel::rowsInserted, &model, [&model, &follows] {
+        if (!std::exchange(follows, true))
+            loadDocument(model, QStringLiteral("Follower"));
+    });
+    SignalRecorder signals(model, {QStringLiteral("fishLoaded")});
+
+    QCOMPARE(model.loadFishFromFile(file), 0);
+
+    QCOMPARE(model.rowCount(), 2);
+    QCOMPARE(signals.take(), QStringLiteral("fishLoaded(Effect, 0)"));
+}
+
+void TestFishModelLoading::shouldSurviveTheUnloadingOfWhatHasJustBeenLoaded()
+{
+    FishModel model;
+    const QString file = makeFile("effect.json", document);
+    connect(&model, &FishModel::rowsInserted, &model,
+            [&model] { model.unloadFish(model.fishList().last()); });
+    SignalRecorder signals(model, {QStringLiteral("fishLoaded")});
+
+    QCOMPARE(model.loadJsonFish(document), nullptr);
+    QVERIFY(model.loadFishFromFile(file) != MODEL_NO_ERROR);
+
+    QCOMPARE(model.rowCount(), 0);
+    QCOMPARE(signals.take(), QString());
 }
 
 void TestFishModelLoading::shouldReportFilesThatCannotBeOpened()

@@ -24,6 +24,7 @@ private Q_SLOTS:
     void shouldTakeANewModelAndSnapshot();
     void shouldNoteTheRowsAsTheDeletionsGoOn();
     void shouldNoteNoRowOfWhatIsNotThere();
+    void shouldNoteNoRowsForNoSubject();
     void shouldPutNothingBackThatItDidNotDelete();
     void shouldReadNoSnapshotInANullUuid();
 
@@ -177,6 +178,17 @@ void TestDeleteCommand::shouldNoteNoRowOfWhatIsNotThere()
     EditDelete command(f.model.get(), snapshot);
     command.redo();
     QCOMPARE(command.rows(), (QList<int>{0, -1, 0}));
+}
+
+void TestDeleteCommand::shouldNoteNoRowsForNoSubject()
+{
+    CommandFixture f(QStringLiteral("H[A]"));
+    EditDelete command(f.model.get(), QModelIndex());
+    command.redo();
+    QCOMPARE(command.objects(), QJsonObject());
+    QCOMPARE(command.rows(), QList<int>());
+    command.undo();
+    QCOMPARE(f.text(), QStringLiteral("H[A]"));
 }
 
 void TestDeleteCommand::shouldPutNothingBackThatItDidNotDelete()
