@@ -204,6 +204,133 @@
     </message>
 </context>
 <context>
+    <name>DiagramExchange</name>
+    <message>
+        <source>it holds no diagram</source>
+        <translation>it holds no diagram</translation>
+    </message>
+    <message>
+        <source>there is no column &quot;title&quot;</source>
+        <translation>there is no column &quot;title&quot;</translation>
+    </message>
+    <message>
+        <source>the uuid &quot;%1&quot; stands twice</source>
+        <translation>the uuid &quot;%1&quot; stands twice</translation>
+    </message>
+    <message>
+        <source>there is no subject with the uuid &quot;%1&quot;</source>
+        <translation>there is no subject with the uuid &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>the subject lies below itself</source>
+        <translation>the subject lies below itself</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no value for the column &quot;%2&quot;</source>
+        <translation>&quot;%1&quot; is no value for the column &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>a quote is not closed</source>
+        <translation>a quote is not closed</translation>
+    </message>
+    <message>
+        <source>there is text behind a closing quote</source>
+        <translation>there is text behind a closing quote</translation>
+    </message>
+    <message>
+        <source>Fishbone diagram</source>
+        <translation>Fishbone diagram</translation>
+    </message>
+    <message>
+        <source>Markdown outline</source>
+        <translation>Markdown outline</translation>
+    </message>
+    <message>
+        <source>Indented text</source>
+        <translation>Indented text</translation>
+    </message>
+    <message>
+        <source>OPML outline</source>
+        <translation>OPML outline</translation>
+    </message>
+    <message>
+        <source>FreeMind mind map</source>
+        <translation>FreeMind mind map</translation>
+    </message>
+    <message>
+        <source>Mermaid ishikawa diagram</source>
+        <translation>Mermaid ishikawa diagram</translation>
+    </message>
+    <message>
+        <source>Table of tasks</source>
+        <translation>Table of tasks</translation>
+    </message>
+    <message>
+        <source>it has more than %1 levels</source>
+        <translation>it has more than %1 levels</translation>
+    </message>
+    <message>
+        <source>All formats</source>
+        <translation>All formats</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 MiB</source>
+        <translation>it is larger than %1 MiB</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>it is empty</translation>
+    </message>
+    <message>
+        <source>it is a folder</source>
+        <translation>it is a folder</translation>
+    </message>
+    <message>
+        <source>there is no such file</source>
+        <translation>there is no such file</translation>
+    </message>
+    <message>
+        <source>the text is not encoded as UTF-8</source>
+        <translation>the text is not encoded as UTF-8</translation>
+    </message>
+    <message>
+        <source>there are more than %1 levels</source>
+        <translation>there are more than %1 levels</translation>
+    </message>
+    <message>
+        <source>there are more than %1 subjects</source>
+        <translation>there are more than %1 subjects</translation>
+    </message>
+    <message>
+        <source>line %1: %2</source>
+        <translation>line %1: %2</translation>
+    </message>
+    <message>
+        <source>Imported diagram</source>
+        <translation>Imported diagram</translation>
+    </message>
+    <message>
+        <source>it is not a JSON document</source>
+        <translation>it is not a JSON document</translation>
+    </message>
+    <message>
+        <source>it is not a JSON document (line %1: %2)</source>
+        <translation>it is not a JSON document (line %1: %2)</translation>
+    </message>
+    <message>
+        <source>the diagram does not begin with &quot;ishikawa&quot;</source>
+        <translation>the diagram does not begin with &quot;ishikawa&quot;</translation>
+    </message>
+    <message>
+        <source>declarations of entities are not accepted</source>
+        <translation>declarations of entities are not accepted</translation>
+    </message>
+    <message>
+        <source>the document begins with &lt;%1&gt;, not with &lt;%2&gt;</source>
+        <translation>the document begins with &lt;%1&gt;, not with &lt;%2&gt;</translation>
+    </message>
+</context>
+<context>
     <name>DocumentLoader</name>
     <message>
         <source>it is empty</source>

@@ -204,6 +204,133 @@
     </message>
 </context>
 <context>
+    <name>DiagramExchange</name>
+    <message>
+        <source>it holds no diagram</source>
+        <translation>其中没有鱼骨图</translation>
+    </message>
+    <message>
+        <source>there is no column &quot;title&quot;</source>
+        <translation>没有名为“title”的列</translation>
+    </message>
+    <message>
+        <source>the uuid &quot;%1&quot; stands twice</source>
+        <translation>uuid“%1”出现了两次</translation>
+    </message>
+    <message>
+        <source>there is no subject with the uuid &quot;%1&quot;</source>
+        <translation>没有 uuid 为“%1”的主题</translation>
+    </message>
+    <message>
+        <source>the subject lies below itself</source>
+        <translation>该主题位于其自身之下</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no value for the column &quot;%2&quot;</source>
+        <translation>“%1”不是“%2”列的有效值</translation>
+    </message>
+    <message>
+        <source>a quote is not closed</source>
+        <translation>引号没有闭合</translation>
+    </message>
+    <message>
+        <source>there is text behind a closing quote</source>
+        <translation>闭合引号之后还有文字</translation>
+    </message>
+    <message>
+        <source>Fishbone diagram</source>
+        <translation>鱼骨图</translation>
+    </message>
+    <message>
+        <source>Markdown outline</source>
+        <translation>Markdown 大纲</translation>
+    </message>
+    <message>
+        <source>Indented text</source>
+        <translation>缩进文本</translation>
+    </message>
+    <message>
+        <source>OPML outline</source>
+        <translation>OPML 大纲</translation>
+    </message>
+    <message>
+        <source>FreeMind mind map</source>
+        <translation>FreeMind 思维导图</translation>
+    </message>
+    <message>
+        <source>Mermaid ishikawa diagram</source>
+        <translation>Mermaid 鱼骨图（ishikawa）</translation>
+    </message>
+    <message>
+        <source>Table of tasks</source>
+        <translation>任务表格</translation>
+    </message>
+    <message>
+        <source>it has more than %1 levels</source>
+        <translation>其层数超过 %1</translation>
+    </message>
+    <message>
+        <source>All formats</source>
+        <translation>所有格式</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 MiB</source>
+        <translation>它大于 %1 MiB</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>内容为空</translation>
+    </message>
+    <message>
+        <source>it is a folder</source>
+        <translation>这是一个文件夹</translation>
+    </message>
+    <message>
+        <source>there is no such file</source>
+        <translation>文件不存在</translation>
+    </message>
+    <message>
+        <source>the text is not encoded as UTF-8</source>
+        <translation>文本不是 UTF-8 编码</translation>
+    </message>
+    <message>
+        <source>there are more than %1 levels</source>
+        <translation>层数超过 %1</translation>
+    </message>
+    <message>
+        <source>there are more than %1 subjects</source>
+        <translation>主题数超过 %1</translation>
+    </message>
+    <message>
+        <source>line %1: %2</source>
+        <translation>第 %1 行：%2</translation>
+    </message>
+    <message>
+        <source>Imported diagram</source>
+        <translation>导入的鱼骨图</translation>
+    </message>
+    <message>
+        <source>it is not a JSON document</source>
+        <translation>不是 JSON 文档</translation>
+    </message>
+    <message>
+        <source>it is not a JSON document (line %1: %2)</source>
+        <translation>不是 JSON 文档（第 %1 行：%2）</translation>
+    </message>
+    <message>
+        <source>the diagram does not begin with &quot;ishikawa&quot;</source>
+        <translation>鱼骨图没有以“ishikawa”开头</translation>
+    </message>
+    <message>
+        <source>declarations of entities are not accepted</source>
+        <translation>不接受实体声明</translation>
+    </message>
+    <message>
+        <source>the document begins with &lt;%1&gt;, not with &lt;%2&gt;</source>
+        <translation>文档以 &lt;%1&gt; 而不是 &lt;%2&gt; 开头</translation>
+    </message>
+</context>
+<context>
     <name>DocumentLoader</name>
     <message>
         <source>it is empty</source>
