@@ -9,6 +9,8 @@
 
 #include <QRegularExpression>
 
+#include <utility>
+
 namespace {
 
 using MarkdownInline::Kind;
@@ -30,6 +32,7 @@ public:
     bool take(const ExchangeText::Lines &line)
     {
         const QString &text = line.text();
+        const bool continuesTitle = std::exchange(m_titleMayGoOn, false);
         if (endsOrBeginsCode(text))
             return true;
         if (!m_fence.isEmpty()) {
@@ -44,23 +47,24 @@ public:
             return true;
         if (const int level = headingLevel(text); level > 0)
             return addSubject(level, headingText(text, level), line.number());
-        if (const int length = itemMarkLength(text); length > 0)
+        if (const int length = itemMarkLength(text); length > 0) {
+            m_titleMayGoOn = true;
             return addSubject(itemRank + line.indentation(), text.mid(length).trimmed(),
                               line.number());
-        if (text.startsWith(QLatin1Char('>')))
-            addDetail(read(text.mid(1).trimmed()));
-        else if (m_tree.last())
-            addDetail(read(text));
-        else
-            return addSubject(0, text, line.number()); // the problem itself, above its causes
-        return true;
+        }
+        return takeParagraph(text, line.number(), continuesTitle);
     }
 
     /** To be called after the last line. */
     void finish()
     {
-        if (m_tree.last() && !m_detail.isEmpty())
-            m_tree.last()->setDetail(m_detail.join(QLatin1Char('\n')));
+        if (TreeItem *const subject = m_tree.last()) {
+            const MarkdownInline::Content title =
+                MarkdownInline::read(m_title.join(QLatin1Char(' ')), Kind::Title);
+            subject->setTitle(title.text);
+            subject->setUrl(title.url);
+            subject->setDetail(m_detail.join(QLatin1Char('\n')));
+        }
         m_detail.clear();
         m_followsBlank = false;
     }
@@ -71,14 +75,28 @@ private:
         return MarkdownInline::read(markdown, Kind::Detail).text;
     }
 
+    /** Takes a line of a paragraph or a quotation. */
+    bool takeParagraph(const QString &text, qint64 line, bool continuesTitle)
+    {
+        if (text.startsWith(QLatin1Char('>'))) {
+            addDetail(read(text.mid(1).trimmed()));
+            return true;
+        }
+        m_titleMayGoOn = continuesTitle || !m_tree.last();
+        if (!m_tree.last())
+            return addSubject(0, text, line); // the problem itself, above its causes
+        if (continuesTitle)
+            m_title.append(text);
+        else
+            addDetail(read(text));
+        return true;
+    }
+
     bool addSubject(int rank, const QString &markdown, qint64 line)
     {
         finish();
-        const MarkdownInline::Content content = MarkdownInline::read(markdown, Kind::Title);
-        TreeItem *const subject = m_tree.add(rank, content.text, line);
-        if (subject)
-            subject->setUrl(content.url);
-        return subject;
+        m_title = QStringList(markdown);
+        return m_tree.add(rank, QString(), line);
     }
 
     void addDetail(const QString &text)
@@ -145,8 +163,10 @@ private:
     }
 
     ImportedTree &m_tree;
-    QString m_fence;      ///< what ends the block of code that has begun
-    QStringList m_detail; ///< the lines of the last subject's detail
+    QStringList m_title;         ///< the lines of the last subject's title
+    QString m_fence;             ///< what ends the block of code that has begun
+    QStringList m_detail;        ///< the lines of the last subject's detail
+    bool m_titleMayGoOn = false; ///< in the next line
     bool m_followsBlank = false;
 };
 

@@ -51,6 +51,8 @@ void TestDiagramExchangeOutlines::shouldReadTrees_data()
     row("md code", Format::Markdown, "# a\n- b\n```sh\n# no\n- no\n```\n- c", "a[b,c]");
     row("md tildes", Format::Markdown, "# a\n~~~\n# no\n```\n~~~\n- c", "a[c]");
     row("md no heading", Format::Markdown, "# a\n- #b\n- #### \n", "a[#b,####]");
+    row("md wrapped items", Format::Markdown,
+        "Why\nlate?\n\n- b\n  b\nb\n  - c\n    [c\n    c](x)\n- d", "Why late?[b b b[c c c],d]");
     row("md CRLF", Format::Markdown, "# a\r\n\r\n- b\r\n- c\r\n", "a[b,c]");
     row("md CR", Format::Markdown, "# a\r- b\r- c\r", "a[b,c]");
     row("md empty item", Format::Markdown, "# a\n-\n  - c\n", "a[[c]]");
@@ -101,11 +103,12 @@ void TestDiagramExchangeOutlines::shouldReadDetailsOfMarkdown_data()
     };
     row("quotation", "# a\n> x\n> y\n- b\n  > z", "x\ny", "z");
     row("quotation without blanks", "# a\n>x\n- b\n  >", "x", "");
-    row("paragraph", "# a\nx *y*\nz\n\n- b\n  v\n", "x y\nz", "v");
+    row("paragraph", "# a\nx *y*\nz\n\n- b\n\n  v\n", "x y\nz", "v");
     row("two paragraphs", "# a\n\nx\n\n\ny\n\n- b", "x\n\ny", "");
     row("code", "# a\n- b\n```\n# *x*\n```\n", "", "# *x*");
     row("links stay", "# a\nsee [x](http://y) &amp; z\n- b", "see [x](http://y) & z", "");
-    row("last line", "# a\n- b\n  x", "", "x");
+    row("last line", "# a\n- b\n\n  x", "", "x");
+    row("behind a quotation", "# a\n- b\n  > x\n  y", "", "x\ny");
 }
 
 void TestDiagramExchangeOutlines::shouldReadDetailsOfMarkdown()
