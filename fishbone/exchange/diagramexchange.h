@@ -51,7 +51,7 @@ public:
     /** The subjects that a reader takes. */
     static constexpr int maximalSubjects = 500000;
     /** The bytes that a reader takes. */
-    static constexpr qint64 maximalBytes = Q_INT64_C(64) << 20;
+    static constexpr qint64 maximalBytes = Q_INT64_C(256) << 20;
 
     /** All formats, the diagram format first. */
     static QList<Format> formats();
