@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <fishbone/exchange/diagramexchange.h>
 #include <fishbone/exchange/pictureexport.h>
 
 #include <QCoreApplication>
@@ -11,6 +12,7 @@
 
 #include <optional>
 
+class QCommandLineOption;
 class QCommandLineParser;
 
 /** What the arguments of the program ask for. */
@@ -24,11 +26,21 @@ public:
         success = 0,
         failure = 1,  ///< something could not be read, drawn or written
         badUsage = 2, ///< the arguments make no sense
+        isOff = 3,    ///< something is off in the document that was asked about
+    };
+
+    /** The word that may stand before the other arguments. */
+    enum class Command {
+        None,
+        Convert, ///< "convert": from one format to another
+        Info,    ///< "info": about a document
     };
 
     enum class Action {
         ShowWindow, ///< open the documents in a window
         Export,     ///< draw the one document into a picture file
+        Convert,    ///< write the one document in another format, or as a picture
+        Info,       ///< say what is in the one document, and what is off in it
         Print,      ///< print the text to the standard output: help or version
         Refuse,     ///< print the text to the error output: the arguments make no sense
     };
@@ -40,23 +52,34 @@ public:
     static CommandLine parse(const QStringList &arguments);
 
     /** The help text, which names the options. Needs an application object. */
-    static QString helpText();
+    static QString helpText(Command command);
     /** The name of the program and its version. */
     static QString versionText();
 
     Action action = Action::ShowWindow;
-    QString text;           ///< for Refuse: what is wrong; for Print: empty for the help text
-    QString language;       ///< "zh", "en" or, to go by the locale, empty
-    QStringList documents;  ///< files and URLs
-    QString picture;        ///< the file to write
+    Command command = Command::None;
+    QString text;          ///< for Refuse: what is wrong; for Print: empty for the help text
+    QString language;      ///< "zh", "en" or, to go by the locale, empty
+    QStringList documents; ///< files and URLs
+    QString target;        ///< the file to write
+    std::optional<DiagramExchange::Format> from; ///< of the document
+    std::optional<DiagramExchange::Format> to;   ///< of the target; nothing for a picture
     int levels = allLevels; ///< how many levels of bones below the main bones to expand
     PictureOptions options;
 
 private:
+    bool readCommand(const QCommandLineParser &parser);
     bool readExport(const QCommandLineParser &parser);
+    bool readConvert(const QCommandLineParser &parser);
+    bool readInfo(const QCommandLineParser &parser);
+    bool readFormat(const QCommandLineParser &parser, const QString &name, const QString &fileName,
+                    std::optional<DiagramExchange::Format> &format);
+    bool readPicture(const QCommandLineParser &parser);
+    bool refuseOptions(const QCommandLineParser &parser, const QList<QCommandLineOption> &refused,
+                       const QString &reason);
     template <typename Value>
     bool readOption(const QCommandLineParser &parser, const QString &name,
                     std::optional<Value> (*read)(const QString &), const QString &what,
-                    Value &target);
+                    Value &destination);
     bool refuse(const QString &reason);
 };

@@ -35,17 +35,9 @@ FishInfo *loadNow(DocumentLoader &loader, const QString &source, QString &messag
     return loadedDocument;
 }
 
-} // namespace
-
-int runExport(const CommandLine &line, QString &message)
+/** Draws @p document of @p model into the target of @p line; returns an exit code. */
+int drawPicture(FishModel &model, FishInfo *document, const CommandLine &line, QString &message)
 {
-    FishModel model;
-    model.setModelType(FISH_MODEL_DIAGRAM); // a picture shows the diagram's title without counts
-    DocumentLoader loader(&model);
-    FishInfo *const document = loadNow(loader, line.documents.constFirst(), message);
-    if (!document)
-        return CommandLine::failure;
-
     FishEditor editor;
     editor.setModel(&model);
     editor.setRootIndex(model.index(model.fishRow(document), 0));
@@ -54,9 +46,28 @@ int runExport(const CommandLine &line, QString &message)
     PictureOptions options = line.options;
     options.title = document->treeItem()->childAtIndex(0)->title();
     const PictureExport::Result result =
-        PictureExport::write(*editor.scene(), line.picture, options);
+        PictureExport::write(*editor.scene(), line.target, options);
     if (result)
         return CommandLine::success;
-    message = CommandLine::tr("cannot write %1: %2").arg(line.picture, result.reason);
+    message = CommandLine::tr("cannot write %1: %2").arg(line.target, result.reason);
     return CommandLine::failure;
+}
+
+} // namespace
+
+int runExport(const CommandLine &line, QString &message)
+{
+    FishModel model;
+    model.setModelType(FISH_MODEL_DIAGRAM); // a picture shows the diagram's title without counts
+    DocumentLoader loader(&model);
+    FishInfo *const document = loadNow(loader, line.documents.constFirst(), message);
+    return document ? drawPicture(model, document, line, message) : CommandLine::failure;
+}
+
+int drawPicture(std::unique_ptr<TreeItem> head, const CommandLine &line, QString &message)
+{
+    FishModel model;
+    model.setModelType(FISH_MODEL_DIAGRAM);
+    model.insertExistItemRows(QModelIndex(), {head.release()});
+    return drawPicture(model, model.fishList().constFirst(), line, message);
 }

@@ -5,7 +5,10 @@
 
 #include <QString>
 
+#include <memory>
+
 struct CommandLine;
+class TreeItem;
 
 /**
  * Carries out an export that was asked for on the command line: loads the document, which may take
@@ -15,3 +18,6 @@ struct CommandLine;
  * Returns an exit code of CommandLine; when that is a failure, @p message says what went wrong.
  */
 int runExport(const CommandLine &line, QString &message);
+
+/** Draws the diagram of @p head into the target of @p line; otherwise as runExport(). */
+int drawPicture(std::unique_ptr<TreeItem> head, const CommandLine &line, QString &message);

@@ -2,8 +2,10 @@
 // SPDX-License-Identifier: MIT
 
 #include <app/commandline.h>
+#include <app/convertrun.h>
 #include <app/documentloader.h>
 #include <app/exportrun.h>
+#include <app/inforun.h>
 #include <app/language.h>
 #include <app/mainwindow.h>
 #include <app/startup.h>
@@ -24,10 +26,10 @@ int fail(const QString &message, int code)
     return code;
 }
 
-int print(const QString &text)
+int print(const QString &text, int code)
 {
     std::fputs(qPrintable(text), stdout);
-    return CommandLine::success;
+    return code;
 }
 
 /** @p source in a form that does not depend on the working folder. */
@@ -82,8 +84,17 @@ int main(int argc, char **argv)
         const int code = runExport(line, message);
         return code == CommandLine::success ? code : fail(message, code);
     }
+    case CommandLine::Action::Convert: {
+        const int code = runConvert(line, message);
+        return code == CommandLine::success ? code : fail(message, code);
+    }
+    case CommandLine::Action::Info: {
+        const int code = runInfo(line, message);
+        return code == CommandLine::failure ? fail(message, code) : print(message, code);
+    }
     case CommandLine::Action::Print:
-        return print(line.text.isEmpty() ? CommandLine::helpText() : line.text);
+        return print(line.text.isEmpty() ? CommandLine::helpText(line.command) : line.text,
+                     CommandLine::success);
     case CommandLine::Action::Refuse:
         return fail(line.text, CommandLine::badUsage);
     }

@@ -44,4 +44,5 @@ if(TARGET fishbone-app)
     install(TARGETS fishbone-app RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
     install(FILES "${PROJECT_SOURCE_DIR}/resources/global.spearstyle"
         DESTINATION "${CMAKE_INSTALL_BINDIR}")
+    install(FILES "${PROJECT_SOURCE_DIR}/docs/fishbone.1" DESTINATION "${CMAKE_INSTALL_MANDIR}/man1")
 endif()

@@ -36,10 +36,6 @@
         <translation>Fill the picture with &lt;colour&gt;, a name or #rrggbb, or leave it transparent. White is the default.</translation>
     </message>
     <message>
-        <source>Edits fishbone diagrams of tasks.</source>
-        <translation>Edits fishbone diagrams of tasks.</translation>
-    </message>
-    <message>
         <source>Diagrams to open: files, or http and https URLs. Without one, a new diagram.</source>
         <translation>Diagrams to open: files, or http and https URLs. Without one, a new diagram.</translation>
     </message>
@@ -94,6 +90,92 @@
     <message>
         <source>there is no display to open a window on; --export needs none</source>
         <translation>there is no display to open a window on; --export needs none</translation>
+    </message>
+    <message>
+        <source>Read the file as &lt;format&gt;, whatever its ending.</source>
+        <translation>Read the file as &lt;format&gt;, whatever its ending.</translation>
+    </message>
+    <message>
+        <source>Write &lt;format&gt;, whatever the ending.</source>
+        <translation>Write &lt;format&gt;, whatever the ending.</translation>
+    </message>
+    <message>
+        <source>Edits fishbone diagrams of tasks.
+
+Two commands need no display:
+  convert   write a diagram in another format, or as a picture
+  info      say what is in a diagram, and what is off in it
+&quot;fishbone convert --help&quot; tells more. A file of such a name is ./convert.</source>
+        <translation>Edits fishbone diagrams of tasks.
+
+Two commands need no display:
+  convert   write a diagram in another format, or as a picture
+  info      say what is in a diagram, and what is off in it
+&quot;fishbone convert --help&quot; tells more. A file of such a name is ./convert.</translation>
+    </message>
+    <message>
+        <source>Writes a diagram in another format, or as a picture.
+The endings tell the formats: %1;
+and png, svg and pdf for pictures.</source>
+        <translation>Writes a diagram in another format, or as a picture.
+The endings tell the formats: %1;
+and png, svg and pdf for pictures.</translation>
+    </message>
+    <message>
+        <source>The file to read.</source>
+        <translation>The file to read.</translation>
+    </message>
+    <message>
+        <source>The file to write.</source>
+        <translation>The file to write.</translation>
+    </message>
+    <message>
+        <source>Counts what is in a diagram and lists what is off in it.
+The exit code is 3 when anything is.</source>
+        <translation>Counts what is in a diagram and lists what is off in it.
+The exit code is 3 when anything is.</translation>
+    </message>
+    <message>
+        <source>--%1 needs convert or info</source>
+        <translation>--%1 needs convert or info</translation>
+    </message>
+    <message>
+        <source>--%1 does not go with convert</source>
+        <translation>--%1 does not go with convert</translation>
+    </message>
+    <message>
+        <source>convert takes a file to read and a file to write</source>
+        <translation>convert takes a file to read and a file to write</translation>
+    </message>
+    <message>
+        <source>--%1 needs a picture to write</source>
+        <translation>--%1 needs a picture to write</translation>
+    </message>
+    <message>
+        <source>--%1 does not go with info</source>
+        <translation>--%1 does not go with info</translation>
+    </message>
+    <message>
+        <source>info takes one file, not %1</source>
+        <translation>info takes one file, not %1</translation>
+    </message>
+    <message>
+        <source>one of %1</source>
+        <translation>one of %1</translation>
+    </message>
+    <message>
+        <source>the format of &quot;%1&quot; is unknown: --%2 takes one of %3</source>
+        <translation>the format of &quot;%1&quot; is unknown: --%2 takes one of %3</translation>
+    </message>
+    <message>
+        <source>Format: %1
+</source>
+        <translation>Format: %1
+</translation>
+    </message>
+    <message>
+        <source>The command.</source>
+        <translation>The command.</translation>
     </message>
 </context>
 <context>
@@ -204,6 +286,133 @@
     </message>
 </context>
 <context>
+    <name>DiagramExchange</name>
+    <message>
+        <source>it holds no diagram</source>
+        <translation>it holds no diagram</translation>
+    </message>
+    <message>
+        <source>there is no column &quot;title&quot;</source>
+        <translation>there is no column &quot;title&quot;</translation>
+    </message>
+    <message>
+        <source>the uuid &quot;%1&quot; stands twice</source>
+        <translation>the uuid &quot;%1&quot; stands twice</translation>
+    </message>
+    <message>
+        <source>there is no subject with the uuid &quot;%1&quot;</source>
+        <translation>there is no subject with the uuid &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>the subject lies below itself</source>
+        <translation>the subject lies below itself</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no value for the column &quot;%2&quot;</source>
+        <translation>&quot;%1&quot; is no value for the column &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>a quote is not closed</source>
+        <translation>a quote is not closed</translation>
+    </message>
+    <message>
+        <source>there is text behind a closing quote</source>
+        <translation>there is text behind a closing quote</translation>
+    </message>
+    <message>
+        <source>Fishbone diagram</source>
+        <translation>Fishbone diagram</translation>
+    </message>
+    <message>
+        <source>Markdown outline</source>
+        <translation>Markdown outline</translation>
+    </message>
+    <message>
+        <source>Indented text</source>
+        <translation>Indented text</translation>
+    </message>
+    <message>
+        <source>OPML outline</source>
+        <translation>OPML outline</translation>
+    </message>
+    <message>
+        <source>FreeMind mind map</source>
+        <translation>FreeMind mind map</translation>
+    </message>
+    <message>
+        <source>Mermaid ishikawa diagram</source>
+        <translation>Mermaid ishikawa diagram</translation>
+    </message>
+    <message>
+        <source>Table of tasks</source>
+        <translation>Table of tasks</translation>
+    </message>
+    <message>
+        <source>it has more than %1 levels</source>
+        <translation>it has more than %1 levels</translation>
+    </message>
+    <message>
+        <source>All formats</source>
+        <translation>All formats</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 MiB</source>
+        <translation>it is larger than %1 MiB</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>it is empty</translation>
+    </message>
+    <message>
+        <source>it is a folder</source>
+        <translation>it is a folder</translation>
+    </message>
+    <message>
+        <source>there is no such file</source>
+        <translation>there is no such file</translation>
+    </message>
+    <message>
+        <source>the text is not encoded as UTF-8</source>
+        <translation>the text is not encoded as UTF-8</translation>
+    </message>
+    <message>
+        <source>there are more than %1 levels</source>
+        <translation>there are more than %1 levels</translation>
+    </message>
+    <message>
+        <source>there are more than %1 subjects</source>
+        <translation>there are more than %1 subjects</translation>
+    </message>
+    <message>
+        <source>line %1: %2</source>
+        <translation>line %1: %2</translation>
+    </message>
+    <message>
+        <source>Imported diagram</source>
+        <translation>Imported diagram</translation>
+    </message>
+    <message>
+        <source>it is not a JSON document</source>
+        <translation>it is not a JSON document</translation>
+    </message>
+    <message>
+        <source>it is not a JSON document (line %1: %2)</source>
+        <translation>it is not a JSON document (line %1: %2)</translation>
+    </message>
+    <message>
+        <source>the diagram does not begin with &quot;ishikawa&quot;</source>
+        <translation>the diagram does not begin with &quot;ishikawa&quot;</translation>
+    </message>
+    <message>
+        <source>declarations of entities are not accepted</source>
+        <translation>declarations of entities are not accepted</translation>
+    </message>
+    <message>
+        <source>the document begins with &lt;%1&gt;, not with &lt;%2&gt;</source>
+        <translation>the document begins with &lt;%1&gt;, not with &lt;%2&gt;</translation>
+    </message>
+</context>
+<context>
     <name>DocumentLoader</name>
     <message>
         <source>it is empty</source>
@@ -240,6 +449,85 @@
     <message>
         <source>it holds no diagram</source>
         <translation>it holds no diagram</translation>
+    </message>
+</context>
+<context>
+    <name>DocumentReport</name>
+    <message>
+        <source>it has no uuid</source>
+        <translation>it has no uuid</translation>
+    </message>
+    <message>
+        <source>another subject has the same uuid %1</source>
+        <translation>another subject has the same uuid %1</translation>
+    </message>
+    <message>
+        <source>it is the head and has the pid %1</source>
+        <translation>it is the head and has the pid %1</translation>
+    </message>
+    <message>
+        <source>it has no pid</source>
+        <translation>it has no pid</translation>
+    </message>
+    <message>
+        <source>its pid %1 does not name its parent</source>
+        <translation>its pid %1 does not name its parent</translation>
+    </message>
+    <message>
+        <source>it has no title</source>
+        <translation>it has no title</translation>
+    </message>
+    <message>
+        <source>its status %1 is unknown</source>
+        <translation>its status %1 is unknown</translation>
+    </message>
+    <message>
+        <source>its progress %1 is not within 0 and 100</source>
+        <translation>its progress %1 is not within 0 and 100</translation>
+    </message>
+    <message>
+        <source>it is to end before it was created</source>
+        <translation>it is to end before it was created</translation>
+    </message>
+    <message>
+        <source>its link %1 is no URL</source>
+        <translation>its link %1 is no URL</translation>
+    </message>
+    <message>
+        <source>head</source>
+        <translation>head</translation>
+    </message>
+    <message>
+        <source>Title: %1</source>
+        <translation>Title: %1</translation>
+    </message>
+    <message>
+        <source>Subjects: %1</source>
+        <translation>Subjects: %1</translation>
+    </message>
+    <message>
+        <source>Main bones: %1</source>
+        <translation>Main bones: %1</translation>
+    </message>
+    <message>
+        <source>Levels: %1</source>
+        <translation>Levels: %1</translation>
+    </message>
+    <message>
+        <source>Links: %1</source>
+        <translation>Links: %1</translation>
+    </message>
+    <message>
+        <source>Own styles: %1</source>
+        <translation>Own styles: %1</translation>
+    </message>
+    <message>
+        <source>Nothing is off.</source>
+        <translation>Nothing is off.</translation>
+    </message>
+    <message>
+        <source>Off: %1</source>
+        <translation>Off: %1</translation>
     </message>
 </context>
 <context>

@@ -36,10 +36,6 @@
         <translation>用 &lt;colour&gt;（颜色名称或 #rrggbb）填充图片，或以 transparent 保持透明。默认为白色。</translation>
     </message>
     <message>
-        <source>Edits fishbone diagrams of tasks.</source>
-        <translation>编辑任务鱼骨图。</translation>
-    </message>
-    <message>
         <source>Diagrams to open: files, or http and https URLs. Without one, a new diagram.</source>
         <translation>要打开的鱼骨图：文件，或 http、https 网址。不指定时新建一个。</translation>
     </message>
@@ -94,6 +90,92 @@
     <message>
         <source>there is no display to open a window on; --export needs none</source>
         <translation>没有可打开窗口的图形显示；--export 不需要图形显示</translation>
+    </message>
+    <message>
+        <source>Read the file as &lt;format&gt;, whatever its ending.</source>
+        <translation>按 &lt;format&gt; 格式读取文件，不论其扩展名。</translation>
+    </message>
+    <message>
+        <source>Write &lt;format&gt;, whatever the ending.</source>
+        <translation>写成 &lt;format&gt; 格式，不论扩展名。</translation>
+    </message>
+    <message>
+        <source>Edits fishbone diagrams of tasks.
+
+Two commands need no display:
+  convert   write a diagram in another format, or as a picture
+  info      say what is in a diagram, and what is off in it
+&quot;fishbone convert --help&quot; tells more. A file of such a name is ./convert.</source>
+        <translation>编辑任务鱼骨图。
+
+有两个命令无需图形显示：
+  convert   将鱼骨图写成另一种格式或图片
+  info      说明鱼骨图的内容及其中的问题
+“fishbone convert --help”有更多说明。同名的文件请写作 ./convert。</translation>
+    </message>
+    <message>
+        <source>Writes a diagram in another format, or as a picture.
+The endings tell the formats: %1;
+and png, svg and pdf for pictures.</source>
+        <translation>将鱼骨图写成另一种格式或图片。
+格式由扩展名决定：%1；
+图片为 png、svg 和 pdf。</translation>
+    </message>
+    <message>
+        <source>The file to read.</source>
+        <translation>要读取的文件。</translation>
+    </message>
+    <message>
+        <source>The file to write.</source>
+        <translation>要写入的文件。</translation>
+    </message>
+    <message>
+        <source>Counts what is in a diagram and lists what is off in it.
+The exit code is 3 when anything is.</source>
+        <translation>统计鱼骨图的内容并列出其中的问题。
+如有问题，退出码为 3。</translation>
+    </message>
+    <message>
+        <source>--%1 needs convert or info</source>
+        <translation>--%1 须与 convert 或 info 一起使用</translation>
+    </message>
+    <message>
+        <source>--%1 does not go with convert</source>
+        <translation>--%1 不能与 convert 一起使用</translation>
+    </message>
+    <message>
+        <source>convert takes a file to read and a file to write</source>
+        <translation>convert 需要一个要读取的文件和一个要写入的文件</translation>
+    </message>
+    <message>
+        <source>--%1 needs a picture to write</source>
+        <translation>--%1 仅在写入图片时可用</translation>
+    </message>
+    <message>
+        <source>--%1 does not go with info</source>
+        <translation>--%1 不能与 info 一起使用</translation>
+    </message>
+    <message>
+        <source>info takes one file, not %1</source>
+        <translation>info 需要一个文件，而不是 %1 个</translation>
+    </message>
+    <message>
+        <source>one of %1</source>
+        <translation>%1 之一</translation>
+    </message>
+    <message>
+        <source>the format of &quot;%1&quot; is unknown: --%2 takes one of %3</source>
+        <translation>无法识别“%1”的格式：--%2 可取 %3 之一</translation>
+    </message>
+    <message>
+        <source>Format: %1
+</source>
+        <translation>格式：%1
+</translation>
+    </message>
+    <message>
+        <source>The command.</source>
+        <translation>命令。</translation>
     </message>
 </context>
 <context>
@@ -204,6 +286,133 @@
     </message>
 </context>
 <context>
+    <name>DiagramExchange</name>
+    <message>
+        <source>it holds no diagram</source>
+        <translation>其中没有鱼骨图</translation>
+    </message>
+    <message>
+        <source>there is no column &quot;title&quot;</source>
+        <translation>没有名为“title”的列</translation>
+    </message>
+    <message>
+        <source>the uuid &quot;%1&quot; stands twice</source>
+        <translation>uuid“%1”出现了两次</translation>
+    </message>
+    <message>
+        <source>there is no subject with the uuid &quot;%1&quot;</source>
+        <translation>没有 uuid 为“%1”的主题</translation>
+    </message>
+    <message>
+        <source>the subject lies below itself</source>
+        <translation>该主题位于其自身之下</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no value for the column &quot;%2&quot;</source>
+        <translation>“%1”不是“%2”列的有效值</translation>
+    </message>
+    <message>
+        <source>a quote is not closed</source>
+        <translation>引号没有闭合</translation>
+    </message>
+    <message>
+        <source>there is text behind a closing quote</source>
+        <translation>闭合引号之后还有文字</translation>
+    </message>
+    <message>
+        <source>Fishbone diagram</source>
+        <translation>鱼骨图</translation>
+    </message>
+    <message>
+        <source>Markdown outline</source>
+        <translation>Markdown 大纲</translation>
+    </message>
+    <message>
+        <source>Indented text</source>
+        <translation>缩进文本</translation>
+    </message>
+    <message>
+        <source>OPML outline</source>
+        <translation>OPML 大纲</translation>
+    </message>
+    <message>
+        <source>FreeMind mind map</source>
+        <translation>FreeMind 思维导图</translation>
+    </message>
+    <message>
+        <source>Mermaid ishikawa diagram</source>
+        <translation>Mermaid 鱼骨图（ishikawa）</translation>
+    </message>
+    <message>
+        <source>Table of tasks</source>
+        <translation>任务表格</translation>
+    </message>
+    <message>
+        <source>it has more than %1 levels</source>
+        <translation>其层数超过 %1</translation>
+    </message>
+    <message>
+        <source>All formats</source>
+        <translation>所有格式</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 MiB</source>
+        <translation>它大于 %1 MiB</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>内容为空</translation>
+    </message>
+    <message>
+        <source>it is a folder</source>
+        <translation>这是一个文件夹</translation>
+    </message>
+    <message>
+        <source>there is no such file</source>
+        <translation>文件不存在</translation>
+    </message>
+    <message>
+        <source>the text is not encoded as UTF-8</source>
+        <translation>文本不是 UTF-8 编码</translation>
+    </message>
+    <message>
+        <source>there are more than %1 levels</source>
+        <translation>层数超过 %1</translation>
+    </message>
+    <message>
+        <source>there are more than %1 subjects</source>
+        <translation>主题数超过 %1</translation>
+    </message>
+    <message>
+        <source>line %1: %2</source>
+        <translation>第 %1 行：%2</translation>
+    </message>
+    <message>
+        <source>Imported diagram</source>
+        <translation>导入的鱼骨图</translation>
+    </message>
+    <message>
+        <source>it is not a JSON document</source>
+        <translation>不是 JSON 文档</translation>
+    </message>
+    <message>
+        <source>it is not a JSON document (line %1: %2)</source>
+        <translation>不是 JSON 文档（第 %1 行：%2）</translation>
+    </message>
+    <message>
+        <source>the diagram does not begin with &quot;ishikawa&quot;</source>
+        <translation>鱼骨图没有以“ishikawa”开头</translation>
+    </message>
+    <message>
+        <source>declarations of entities are not accepted</source>
+        <translation>不接受实体声明</translation>
+    </message>
+    <message>
+        <source>the document begins with &lt;%1&gt;, not with &lt;%2&gt;</source>
+        <translation>文档以 &lt;%1&gt; 而不是 &lt;%2&gt; 开头</translation>
+    </message>
+</context>
+<context>
     <name>DocumentLoader</name>
     <message>
         <source>it is empty</source>
@@ -240,6 +449,85 @@
     <message>
         <source>it holds no diagram</source>
         <translation>其中没有鱼骨图</translation>
+    </message>
+</context>
+<context>
+    <name>DocumentReport</name>
+    <message>
+        <source>it has no uuid</source>
+        <translation>没有 uuid</translation>
+    </message>
+    <message>
+        <source>another subject has the same uuid %1</source>
+        <translation>另一主题有相同的 uuid %1</translation>
+    </message>
+    <message>
+        <source>it is the head and has the pid %1</source>
+        <translation>它是鱼头，却有 pid %1</translation>
+    </message>
+    <message>
+        <source>it has no pid</source>
+        <translation>没有 pid</translation>
+    </message>
+    <message>
+        <source>its pid %1 does not name its parent</source>
+        <translation>其 pid %1 不是其上级主题</translation>
+    </message>
+    <message>
+        <source>it has no title</source>
+        <translation>没有标题</translation>
+    </message>
+    <message>
+        <source>its status %1 is unknown</source>
+        <translation>其状态 %1 未知</translation>
+    </message>
+    <message>
+        <source>its progress %1 is not within 0 and 100</source>
+        <translation>其进度 %1 不在 0 到 100 之间</translation>
+    </message>
+    <message>
+        <source>it is to end before it was created</source>
+        <translation>其截止时间早于创建时间</translation>
+    </message>
+    <message>
+        <source>its link %1 is no URL</source>
+        <translation>其链接 %1 不是 URL</translation>
+    </message>
+    <message>
+        <source>head</source>
+        <translation>鱼头</translation>
+    </message>
+    <message>
+        <source>Title: %1</source>
+        <translation>标题：%1</translation>
+    </message>
+    <message>
+        <source>Subjects: %1</source>
+        <translation>主题数：%1</translation>
+    </message>
+    <message>
+        <source>Main bones: %1</source>
+        <translation>大骨数：%1</translation>
+    </message>
+    <message>
+        <source>Levels: %1</source>
+        <translation>层数：%1</translation>
+    </message>
+    <message>
+        <source>Links: %1</source>
+        <translation>链接数：%1</translation>
+    </message>
+    <message>
+        <source>Own styles: %1</source>
+        <translation>自有样式数：%1</translation>
+    </message>
+    <message>
+        <source>Nothing is off.</source>
+        <translation>没有问题。</translation>
+    </message>
+    <message>
+        <source>Off: %1</source>
+        <translation>问题数：%1</translation>
     </message>
 </context>
 <context>

@@ -1,0 +1,40 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+
+#include <vector>
+
+class ImportedTree;
+
+/** Tables as text, after RFC 4180. */
+namespace CsvTable {
+
+struct Row
+{
+    QStringList cells;
+    qint64 line = 0; ///< where it begins
+};
+
+/**
+ * The rows of @p text; empty ones are left out. Cells are separated by commas, semicolons or tabs,
+ * whichever the first line has most of. Without any, and with an error, when a quote is wrong.
+ */
+std::vector<Row> parse(const QString &text, ImportedTree &tree);
+
+/** A line of a table, with its end. */
+QByteArray line(const QStringList &cells);
+
+/**
+ * @p text in a form that no spreadsheet takes for a formula: an apostrophe is put before what
+ * begins like one.
+ */
+QString guarded(const QString &text);
+/** What guarded() was given. */
+QString unguarded(const QString &text);
+
+} // namespace CsvTable

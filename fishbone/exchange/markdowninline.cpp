@@ -1,0 +1,370 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#include <fishbone/exchange/markdowninline.h>
+
+#include <fishbone/exchange/exchangetext.h>
+
+#include <QRegularExpression>
+#include <QStringView>
+
+#include <algorithm>
+#include <vector>
+
+namespace {
+
+using MarkdownInline::Content;
+using MarkdownInline::Kind;
+
+bool isPunctuation(QChar c)
+{
+    const char16_t code = c.unicode();
+    return code < 0x7f && code > ' ' && !c.isLetterOrNumber();
+}
+
+/** Whether a reference such as "&amp;" begins at @p i. */
+bool isReference(const QString &text, int i)
+{
+    static const QRegularExpression reference(QStringLiteral("^&#?[A-Za-z0-9]{1,10};"));
+    constexpr int longest = 13;
+    return reference.match(text.mid(i, longest)).hasMatch();
+}
+
+/** Whether the character at @p i would begin something other than text in front of a line. */
+bool marksBeginning(const QString &text, int i)
+{
+    const QChar c = text.at(i);
+    if (i == 0)
+        return QStringLiteral("-+#>=~|").contains(c);
+    if (c != QLatin1Char('.') && c != QLatin1Char(')'))
+        return false;
+    // Behind digits alone, it makes a numbered item. No number of an item is longer.
+    constexpr int longest = 9;
+    return i <= longest && std::all_of(text.cbegin(), text.cbegin() + i,
+                                       [](QChar digit) { return digit.isDigit(); });
+}
+
+bool needsBackslash(const QString &text, int i)
+{
+    const QChar c = text.at(i);
+    if (QStringLiteral("\\`*[]<").contains(c) || marksBeginning(text, i))
+        return true;
+    if (c == QLatin1Char('#'))
+        return i == text.size() - 1; // as the end of a heading it would be left out
+    if (c == QLatin1Char('&'))
+        return isReference(text, i);
+    if (c != QLatin1Char('_'))
+        return false;
+    const bool isInWord = i > 0 && i + 1 < text.size() && text.at(i - 1).isLetterOrNumber() &&
+                          text.at(i + 1).isLetterOrNumber();
+    return !isInWord;
+}
+
+QString reference(QChar c)
+{
+    return QStringLiteral("&#%1;").arg(c.unicode());
+}
+
+/** Reads a piece of Markdown character by character. */
+class Reader
+{
+public:
+    Reader(const QString &markdown, Kind kind)
+        : m_markdown(markdown)
+        , m_kind(kind)
+    {
+    }
+
+    Content read()
+    {
+        while (m_position < m_markdown.size()) {
+            if (m_position == m_linkTextEnd)
+                m_position = m_linkEnd;
+            else if (!readSpecial())
+                append(m_markdown.at(m_position++));
+        }
+        return {withoutMarks(), m_url};
+    }
+
+private:
+    /** A run of marks of emphasis that may turn out to begin some. */
+    struct Opening
+    {
+        QChar mark;
+        int length;
+        int place; ///< in m_text
+    };
+
+    QChar at(int i) const { return i < m_markdown.size() ? m_markdown.at(i) : QChar(); }
+    void append(QChar c) { m_text.append(c); }
+
+    /** Reads what is more than a character at the current position; false when nothing is. */
+    bool readSpecial()
+    {
+        const QChar c = at(m_position);
+        if (c == QLatin1Char('\\'))
+            return readEscape();
+        if (c == QLatin1Char('&'))
+            return readReference();
+        if (m_kind == Kind::Target)
+            return false;
+        switch (c.unicode()) {
+        case u'<':
+            return readAngle();
+        case u'`':
+            return readCode();
+        case u'[':
+            return readLink();
+        case u'*':
+        case u'_':
+            return readEmphasis();
+        default:
+            return false;
+        }
+    }
+
+    bool readEscape()
+    {
+        if (!isPunctuation(at(m_position + 1)))
+            return false;
+        append(at(m_position + 1));
+        m_position += 2;
+        return true;
+    }
+
+    bool readReference()
+    {
+        constexpr int longest = 12;
+        const QString ahead = m_markdown.mid(m_position + 1, longest);
+        const int length = ahead.indexOf(QLatin1Char(';'));
+        const QString text = ExchangeText::referenced(ahead.left(std::max(length, 0)));
+        if (text.isNull())
+            return false;
+        m_text.append(text);
+        m_position += length + 2;
+        return true;
+    }
+
+    /** Reads a line break or a link in angle brackets. */
+    bool readAngle()
+    {
+        static const QRegularExpression lineBreak(QStringLiteral("^<br\\s?/?>"),
+                                                  QRegularExpression::CaseInsensitiveOption);
+        static const QRegularExpression scheme(QStringLiteral("^<[A-Za-z][A-Za-z0-9+.-]{1,31}:"));
+        constexpr int longest = 34;
+        const QString ahead = m_markdown.mid(m_position, longest);
+        if (const auto match = lineBreak.match(ahead); match.hasMatch()) {
+            append(QLatin1Char('\n'));
+            m_position += match.capturedLength();
+            return true;
+        }
+        if (m_kind != Kind::Title || !scheme.match(ahead).hasMatch())
+            return false;
+        const int end = find(QLatin1Char('>'), m_position);
+        if (end < 0)
+            return false;
+        const QString url = m_markdown.mid(m_position + 1, end - m_position - 1);
+        noteUrl(url);
+        m_text.append(url);
+        m_position = end + 1;
+        return true;
+    }
+
+    /** Reads a code span, whose text counts as it is. */
+    bool readCode()
+    {
+        const int length = runLength(m_position);
+        const QString run = m_markdown.mid(m_position, length);
+        int end = -1;
+        if (length <= longestCodeMark && !m_missingCodeMarks[length]) {
+            end = m_markdown.indexOf(run, m_position + length);
+            while (end >= 0 && runLength(end) != length)
+                end = m_markdown.indexOf(run, end + runLength(end));
+            m_missingCodeMarks[length] = end < 0;
+        }
+        m_text.append(end < 0 ? run
+                              : m_markdown.mid(m_position + length, end - m_position - length));
+        m_position = end < 0 ? m_position + length : end + length;
+        return true;
+    }
+
+    /** Enters the text of a link; false when none begins here. */
+    bool readLink()
+    {
+        const int textEnd = m_kind == Kind::Title ? linkTextEnd() : -1;
+        if (textEnd < 0 || at(textEnd + 1) != QLatin1Char('('))
+            return false;
+        const bool isAngled = at(textEnd + 2) == QLatin1Char('<');
+        const int begin = textEnd + (isAngled ? 3 : 2);
+        const int end = find(QLatin1Char(isAngled ? '>' : ')'), begin);
+        const int close = isAngled && end >= 0 ? find(QLatin1Char(')'), end) : end;
+        if (close < 0)
+            return false;
+        QString url = m_markdown.mid(begin, end - begin);
+        if (!isAngled)
+            url = url.section(QLatin1Char(' '), 0, 0); // a title of the link may follow
+        noteUrl(MarkdownInline::read(url, Kind::Target).text);
+        m_linkTextEnd = textEnd;
+        m_linkEnd = close + 1;
+        ++m_position;
+        return true;
+    }
+
+    /** Where the text of the link that begins here ends; -1 when it does not. */
+    int linkTextEnd() const
+    {
+        for (int i = m_position + 1; i < m_markdown.size(); ++i) {
+            const QChar c = m_markdown.at(i);
+            if (c == QLatin1Char(']'))
+                return i;
+            if (c == QLatin1Char('['))
+                return -1;
+            if (c == QLatin1Char('\\'))
+                ++i;
+        }
+        return -1;
+    }
+
+    /** Takes a run of marks out when it ends emphasis that began before. */
+    bool readEmphasis()
+    {
+        const QChar mark = at(m_position);
+        const int length = runLength(m_position);
+        const QChar before = m_position > 0 ? at(m_position - 1) : QChar();
+        const QChar after = at(m_position + length);
+        const bool mayEnd = m_position > 0 && !before.isSpace();
+        const bool mayBegin = m_position + length < m_markdown.size() && !after.isSpace();
+        const bool isInWord = before.isLetterOrNumber() && after.isLetterOrNumber();
+        m_position += length;
+        if (isInWord && mark == QLatin1Char('_')) {
+            m_text.append(QString(length, mark));
+            return true;
+        }
+        if (mayEnd && !m_openings.empty() && m_openings.back().mark == mark &&
+            m_openings.back().length == length) {
+            m_marks.push_back({m_openings.back().place, length});
+            m_openings.pop_back();
+            return true;
+        }
+        if (mayBegin)
+            m_openings.push_back({mark, length, int(m_text.size())});
+        m_text.append(QString(length, mark));
+        return true;
+    }
+
+    /** The number of equal characters from @p i on. */
+    int runLength(int i) const
+    {
+        int end = i;
+        while (end < m_markdown.size() && m_markdown.at(end) == m_markdown.at(i))
+            ++end;
+        return end - i;
+    }
+
+    /**
+     * The place of the next @p c without a backslash from @p from on, -1 when there is none, which
+     * is remembered, so that many beginnings without an end are not looked through each time.
+     */
+    int find(QLatin1Char c, int from)
+    {
+        if (m_missing.contains(c))
+            return -1;
+        for (int i = from; i < m_markdown.size(); ++i) {
+            if (m_markdown.at(i) == c)
+                return i;
+            if (m_markdown.at(i) == QLatin1Char('\\'))
+                ++i;
+        }
+        m_missing.append(c);
+        return -1;
+    }
+
+    void noteUrl(const QString &url)
+    {
+        if (m_url.isEmpty())
+            m_url = url;
+    }
+
+    /** The text without the marks that began emphasis. */
+    QString withoutMarks()
+    {
+        std::sort(m_marks.begin(), m_marks.end(),
+                  [](const Mark &a, const Mark &b) { return a.place < b.place; });
+        QString text;
+        int end = 0;
+        for (const Mark &mark : m_marks) {
+            text.append(QStringView(m_text).mid(end, mark.place - end).toString());
+            end = mark.place + mark.length;
+        }
+        return text + m_text.mid(end);
+    }
+
+    struct Mark
+    {
+        int place; ///< in m_text
+        int length;
+    };
+
+    static constexpr int longestCodeMark = 32;
+
+    const QString m_markdown;
+    const Kind m_kind;
+    int m_position = 0;
+    int m_linkTextEnd = -1; ///< of the link that was entered last
+    int m_linkEnd = -1;
+    QString m_text;
+    QString m_url;
+    QString m_missing; ///< the characters that do not come any more
+    bool m_missingCodeMarks[longestCodeMark + 1] = {};
+    std::vector<Opening> m_openings;
+    std::vector<Mark> m_marks;
+};
+
+} // namespace
+
+namespace MarkdownInline {
+
+QString escaped(const QString &text)
+{
+    QString markdown;
+    for (int i = 0; i < text.size(); ++i) {
+        const QChar c = text.at(i);
+        const bool isEdge = i == 0 || i == text.size() - 1;
+        if (c == QLatin1Char('\n')) {
+            markdown.append(QLatin1String("<br>"));
+        } else if (ExchangeText::isControl(c) || (isEdge && c.isSpace())) {
+            markdown.append(reference(c));
+        } else {
+            if (needsBackslash(text, i))
+                markdown.append(QLatin1Char('\\'));
+            markdown.append(c);
+        }
+    }
+    return markdown;
+}
+
+QString link(const QString &text, const QString &url)
+{
+    QString target;
+    for (int i = 0; i < url.size(); ++i) {
+        const QChar c = url.at(i);
+        if (ExchangeText::isControl(c) || QStringLiteral("\\<>").contains(c) ||
+            (c == QLatin1Char('&') && isReference(url, i)))
+            target.append(reference(c));
+        else
+            target.append(c);
+    }
+    const bool isPlain = std::none_of(url.cbegin(), url.cend(), [](QChar c) {
+        return c.isSpace() || QStringLiteral("()").contains(c);
+    });
+    if (!isPlain)
+        target = QLatin1Char('<') + target + QLatin1Char('>');
+    return QStringLiteral("[%1](%2)").arg(escaped(text), target);
+}
+
+Content read(const QString &markdown, Kind kind)
+{
+    return Reader(markdown, kind).read();
+}
+
+} // namespace MarkdownInline

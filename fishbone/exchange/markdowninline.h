@@ -1,0 +1,33 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QString>
+
+/** Texts within a line of Markdown. */
+namespace MarkdownInline {
+
+/** What a text says and where its first link leads. */
+struct Content
+{
+    QString text;
+    QString url; ///< empty when there is no link
+};
+
+/** What a piece of Markdown is. */
+enum class Kind {
+    Title,  ///< a text whose links are taken for their texts
+    Detail, ///< a text whose links stand as they are
+    Target, ///< where a link leads: nothing but escapes has a meaning
+};
+
+/** @p text as a piece of Markdown that shows exactly it, all in one line. */
+QString escaped(const QString &text);
+/** A link to @p url that shows @p text. */
+QString link(const QString &text, const QString &url);
+
+/** What @p markdown shows: without escapes, emphasis and links. Linear in its length. */
+Content read(const QString &markdown, Kind kind);
+
+} // namespace MarkdownInline

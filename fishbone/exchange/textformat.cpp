@@ -1,0 +1,75 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#include <fishbone/exchange/exchangetext.h>
+#include <fishbone/exchange/foreignformats.h>
+#include <fishbone/exchange/importedtree.h>
+#include <fishbone/exchange/outlinewalk.h>
+
+#include <QJsonArray>
+#include <QJsonDocument>
+
+#include <algorithm>
+
+namespace {
+
+bool looksQuoted(const QString &text)
+{
+    return text.size() >= 2 && text.startsWith(QLatin1Char('"')) && text.endsWith(QLatin1Char('"'));
+}
+
+/** Whether @p title cannot stand in a line as it is. */
+bool needsQuotes(const QString &title)
+{
+    return title.isEmpty() || title != title.trimmed() || looksQuoted(title) ||
+           title.startsWith(QChar(QChar::ByteOrderMark)) ||
+           std::any_of(title.cbegin(), title.cend(), ExchangeText::isControl);
+}
+
+/** @p title in quotes, with the escapes of JSON. */
+QString quoted(const QString &title)
+{
+    const QByteArray json = QJsonDocument(QJsonArray{title}).toJson(QJsonDocument::Compact);
+    QString text = QString::fromUtf8(json.mid(1, json.size() - 2));
+    // Qt's JSON reader takes this one at the beginning of a text for a mark of the encoding.
+    return text.replace(QChar(QChar::ByteOrderMark), QLatin1String("\\ufeff"));
+}
+
+/** The title of a line. Quotes that no title needs belong to it. */
+QString titleOf(const QString &line)
+{
+    if (!looksQuoted(line))
+        return line;
+    const QJsonArray values = QJsonDocument::fromJson('[' + line.toUtf8() + ']').array();
+    const QJsonValue value = values.at(0);
+    return values.size() == 1 && value.isString() && needsQuotes(value.toString())
+               ? value.toString()
+               : line;
+}
+
+} // namespace
+
+bool TextFormat::read(const QByteArray &bytes, ImportedTree &tree)
+{
+    const std::optional<QString> text = ExchangeText::decode(bytes, tree);
+    if (!text)
+        return false;
+    ExchangeText::Lines lines(*text);
+    while (lines.next()) {
+        if (!lines.text().isEmpty() &&
+            !tree.add(lines.indentation(), titleOf(lines.text()), lines.number()))
+            return false;
+    }
+    return true;
+}
+
+QByteArray TextFormat::write(const TreeItem &head)
+{
+    QByteArray bytes;
+    OutlineWalk::walk(head, [&bytes](const TreeItem &subject, int level) {
+        const QString &title = subject.title();
+        bytes += QByteArray(level, '\t');
+        bytes += (needsQuotes(title) ? quoted(title) : title).toUtf8() + '\n';
+    });
+    return bytes;
+}

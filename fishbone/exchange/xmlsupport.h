@@ -1,0 +1,26 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QString>
+
+class ImportedTree;
+class QXmlStreamReader;
+
+/** What the XML formats share. */
+namespace XmlSupport {
+
+/** @p text with the characters that XML cannot carry replaced by U+FFFD. */
+QString storable(const QString &text);
+
+/**
+ * Goes on to the root element, past everything before it; false, and @p tree fails, when that is
+ * not @p root or when the document declares entities.
+ */
+bool enterRoot(QXmlStreamReader &xml, const QString &root, ImportedTree &tree);
+
+/** Reads the rest of the document. Whether all of it is well-formed; @p tree fails when not. */
+bool finish(QXmlStreamReader &xml, ImportedTree &tree);
+
+} // namespace XmlSupport

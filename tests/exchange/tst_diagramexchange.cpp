@@ -1,0 +1,451 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#include <tests/exchange/exchangefixture.h>
+
+#include <QElapsedTimer>
+#include <QFile>
+#include <QJsonDocument>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <QtTest>
+
+using namespace ExchangeFixture;
+
+/// What all formats share: names, files, limits.
+class TestDiagramExchange : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void shouldNameEachFormatOnce();
+    void shouldFindAFormatByItsIdAndEndings_data() { addFormats(); }
+    void shouldFindAFormatByItsIdAndEndings();
+    void shouldFindNoFormatForOtherNames();
+    void shouldOfferEveryForeignFormatInFileDialogs();
+    void shouldGiveEverySubjectAnIdentity_data() { addFormats(); }
+    void shouldGiveEverySubjectAnIdentity();
+    void shouldReadTheDiagramFormatAsItStands();
+    void shouldTellUuidsThatStandTwiceApart();
+    void shouldPutSeveralTopSubjectsBelowANewHead_data();
+    void shouldPutSeveralTopSubjectsBelowANewHead();
+    void shouldRefuseWhatHoldsNothing_data() { addFormats(); }
+    void shouldRefuseWhatHoldsNothing();
+    void shouldRefuseWhatIsTooLarge();
+    void shouldCarryAsManyLevelsAsADocumentMayHave_data() { addFormats(); }
+    void shouldCarryAsManyLevelsAsADocumentMayHave();
+    void shouldRefuseToWriteMoreLevels_data() { addFormats(); }
+    void shouldRefuseToWriteMoreLevels();
+    void shouldRefuseToReadMoreLevels_data();
+    void shouldRefuseToReadMoreLevels();
+    void shouldRefuseAHeadForWhatIsAsDeepAsMayBe();
+    void shouldRefuseMoreSubjectsThanTheLimit();
+    void shouldReadAndWriteFiles_data() { addFormats(); }
+    void shouldReadAndWriteFiles();
+    void shouldSayWhyAFileCannotBeRead();
+    void shouldKeepTheFileThatCannotBeReplaced();
+    void shouldSayWhyADeviceTakesNothing();
+    void shouldReadEveryEncodingWithAMark_data();
+    void shouldReadEveryEncodingWithAMark();
+    void shouldRefuseTextThatIsNotUtf8();
+    void shouldSurviveBrokenInput_data() { addFormats(); }
+    void shouldSurviveBrokenInput();
+    void shouldTakeTimeInProportionToTheSize_data() { addFormats(); }
+    void shouldTakeTimeInProportionToTheSize();
+};
+
+void TestDiagramExchange::shouldNameEachFormatOnce()
+{
+    QSet<QString> ids;
+    QSet<QString> suffixes;
+    const QList<Format> formats = DiagramExchange::formats();
+    QCOMPARE(formats.size(), 7);
+    QCOMPARE(formats.first(), Format::Json);
+    for (const Format format : formats) {
+        QVERIFY(!DiagramExchange::name(format).isEmpty());
+        QVERIFY(!ids.contains(DiagramExchange::id(format)));
+        ids.insert(DiagramExchange::id(format));
+        const QStringList endings = DiagramExchange::suffixes(format);
+        QVERIFY(!endings.isEmpty());
+        for (const QString &ending : endings) {
+            QVERIFY(!suffixes.contains(ending));
+            suffixes.insert(ending);
+        }
+    }
+}
+
+void TestDiagramExchange::shouldFindAFormatByItsIdAndEndings()
+{
+    QFETCH(Format, format);
+    const QString id = DiagramExchange::id(format);
+    QCOMPARE(DiagramExchange::formatById(id), std::make_optional(format));
+    QCOMPARE(DiagramExchange::formatById(id.toUpper()), std::make_optional(format));
+    const QStringList endings = DiagramExchange::suffixes(format);
+    for (const QString &ending : endings) {
+        QCOMPARE(DiagramExchange::formatOf(QStringLiteral("a.b.") + ending),
+                 std::make_optional(format));
+        QCOMPARE(DiagramExchange::formatOf(QStringLiteral("/x.y/A.") + ending.toUpper()),
+                 std::make_optional(format));
+    }
+}
+
+void TestDiagramExchange::shouldFindNoFormatForOtherNames()
+{
+    for (const char *name : {"", "md", "a", "a.", "a.png", "a.md.bak", "folder.md/a"})
+        QVERIFY2(!DiagramExchange::formatOf(QLatin1String(name)), name);
+    for (const char *id : {"", "markdown", "png", "md "})
+        QVERIFY2(!DiagramExchange::formatById(QLatin1String(id)), id);
+}
+
+void TestDiagramExchange::shouldOfferEveryForeignFormatInFileDialogs()
+{
+    const QStringList writing = DiagramExchange::exportFilter().split(QStringLiteral(";;"));
+    const QStringList reading = DiagramExchange::importFilter().split(QStringLiteral(";;"));
+    QCOMPARE(reading.mid(1), writing);
+    QCOMPARE(writing.size(), DiagramExchange::formats().size() - 1);
+    QVERIFY(writing.contains(QStringLiteral("Markdown outline (*.md *.markdown)")));
+    const QRegularExpression form(QStringLiteral("^[^()]+ \\((\\*\\.[a-z]+ ?)+\\)$"));
+    for (const QString &filter : reading)
+        QVERIFY2(form.match(filter).hasMatch(), qPrintable(filter));
+    QVERIFY(reading.first().contains(QLatin1String("*.markdown *.txt *.text *.opml *.mm")));
+    QVERIFY(!reading.join(QString()).contains(QLatin1String("json")));
+}
+
+void TestDiagramExchange::shouldGiveEverySubjectAnIdentity()
+{
+    QFETCH(Format, format);
+    const Imported result = carriedThrough(*treeFrom("a[b[c,d],e]"), format);
+    QCOMPARE(result.text(), QStringLiteral("a[b[c,d],e]"));
+    QVERIFY(!result.head->parent());
+    QVERIFY(!result.head->isHaveParentTask());
+    QSet<QString> uuids;
+    std::vector<const TreeItem *> waiting{result.head.get()};
+    while (!waiting.empty()) {
+        const TreeItem *const subject = waiting.back();
+        waiting.pop_back();
+        QVERIFY(!subject->uuid().isEmpty());
+        QVERIFY(subject->uuid() != QLatin1String("-1"));
+        QVERIFY(!uuids.contains(subject->uuid()));
+        uuids.insert(subject->uuid());
+        for (const TreeItem *child : subject->childItems()) {
+            QCOMPARE(child->pid(), subject->uuid());
+            QCOMPARE(child->parent(), subject);
+            waiting.push_back(child);
+        }
+    }
+    QCOMPARE(uuids.size(), 5);
+}
+
+void TestDiagramExchange::shouldReadTheDiagramFormatAsItStands()
+{
+    const Imported result =
+        imported(R"({"title": "a", "children": [{"title": "b", "pid": "x", "children": [{}]}]})",
+                 Format::Json);
+    QCOMPARE(result.text(), QStringLiteral("a[b]"));
+    QCOMPARE(result.head->uuid(), QString());
+    QCOMPARE(result.head->childAtIndex(0)->pid(), QStringLiteral("x"));
+}
+
+void TestDiagramExchange::shouldTellUuidsThatStandTwiceApart()
+{
+    auto head = treeFrom("a[b,c]");
+    head->childAtIndex(0)->setUuid(QStringLiteral("u"));
+    head->childAtIndex(1)->setUuid(QStringLiteral("u"));
+    for (const Format format : {Format::Opml, Format::FreeMind, Format::Csv}) {
+        const Imported result = carriedThrough(*head, format);
+        QCOMPARE(result.text(), QStringLiteral("a[b,c]"));
+        QCOMPARE(result.head->childAtIndex(0)->uuid(), QStringLiteral("u"));
+        QCOMPARE(result.head->childAtIndex(1)->uuid().size(), 38);
+    }
+}
+
+void TestDiagramExchange::shouldPutSeveralTopSubjectsBelowANewHead_data()
+{
+    QTest::addColumn<Format>("format");
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QString>("text");
+
+    const QString made = QStringLiteral("Imported diagram[a[b],c]");
+    QTest::newRow("md") << Format::Markdown << QByteArray("- a\n  - b\n- c\n") << made;
+    QTest::newRow("md headings") << Format::Markdown << QByteArray("# a\n## b\n# c") << made;
+    QTest::newRow("txt") << Format::Text << QByteArray("a\n b\nc") << made;
+    QTest::newRow("mm") << Format::FreeMind
+                        << QByteArray(
+                               "<map><node TEXT='a'><node TEXT='b'/></node><node TEXT='c'/></map>")
+                        << made;
+    QTest::newRow("opml") << Format::Opml
+                          << QByteArray("<opml><body><outline text='a'><outline text='b'/>"
+                                        "</outline><outline text='c'/></body></opml>")
+                          << made;
+    QTest::newRow("opml with a title")
+        << Format::Opml
+        << QByteArray("<opml><head><title>All</title></head><body><outline text='a'/>"
+                      "<outline text='c'/></body></opml>")
+        << QStringLiteral("All[a,c]");
+    QTest::newRow("csv") << Format::Csv << QByteArray("title\na\nc\n")
+                         << QStringLiteral("Imported diagram[a,c]");
+}
+
+void TestDiagramExchange::shouldPutSeveralTopSubjectsBelowANewHead()
+{
+    QFETCH(Format, format);
+    QFETCH(QByteArray, content);
+    QFETCH(QString, text);
+    const Imported result = imported(content, format);
+    QCOMPARE(result.text(), text);
+    QVERIFY(!result.head->isHaveParentTask());
+    for (const TreeItem *child : result.head->childItems())
+        QCOMPARE(child->pid(), result.head->uuid());
+}
+
+void TestDiagramExchange::shouldRefuseWhatHoldsNothing()
+{
+    QFETCH(Format, format);
+    for (const char *content : {"", "\n\n  \n", "\xef\xbb\xbf"}) {
+        const Imported result = imported(content, format);
+        QVERIFY(!result.head);
+        QVERIFY(!result.error.isEmpty());
+    }
+    QCOMPARE(imported(QByteArray(), format).error, QStringLiteral("it is empty"));
+}
+
+void TestDiagramExchange::shouldRefuseWhatIsTooLarge()
+{
+    const QByteArray content(int(DiagramExchange::maximalBytes) + 1, 'x');
+    QCOMPARE(imported(content, Format::Opml).error, QStringLiteral("it is larger than 256 MiB"));
+    const QString error = imported(content.mid(1), Format::Opml).error; // not for its size
+    QVERIFY2(error.startsWith(QLatin1String("line 1: ")), qPrintable(error));
+}
+
+void TestDiagramExchange::shouldCarryAsManyLevelsAsADocumentMayHave()
+{
+    QFETCH(Format, format);
+    const auto chain = TestSupport::makeChain(DiagramExchange::maximalLevels);
+    const Imported result = carriedThrough(*chain, format);
+    QVERIFY2(result.head, qPrintable(result.error));
+    QCOMPARE(result.text(), TestSupport::treeToText(*chain));
+    // What was read can be saved and opened as a document.
+    const QByteArray json = exported(*result.head, Format::Json);
+    QVERIFY(!QJsonDocument::fromJson(json).isNull());
+}
+
+void TestDiagramExchange::shouldRefuseToWriteMoreLevels()
+{
+    QFETCH(Format, format);
+    QString error;
+    const auto chain = TestSupport::makeChain(DiagramExchange::maximalLevels + 1);
+    QVERIFY(exported(*chain, format, &error).isNull());
+    QCOMPARE(error, QStringLiteral("it has more than 512 levels"));
+    // Nor does it take stack for the depth.
+    QVERIFY(exported(*TestSupport::makeChain(100000), format).isNull());
+}
+
+void TestDiagramExchange::shouldRefuseToReadMoreLevels_data()
+{
+    QTest::addColumn<Format>("format");
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QString>("line"); ///< of the first subject that is too deep
+
+    for (const int levels : {DiagramExchange::maximalLevels + 1, 3000}) {
+        QByteArray text;
+        QByteArray markdown;
+        QByteArray mermaid = "ishikawa\n";
+        QByteArray opml = "<opml><body>\n";
+        QByteArray map = "<map>\n";
+        QByteArray table = "title,uuid,parent\n";
+        for (int i = 0; i < levels; ++i) {
+            text += QByteArray(i, ' ') + "a\n";
+            markdown += QByteArray(i, ' ') + "- a\n";
+            mermaid += QByteArray(i, ' ') + "a\n";
+            opml += "<outline text='a'>\n";
+            map += "<node TEXT='a'>\n";
+            table += "a," + QByteArray::number(i) + ',' +
+                     (i > 0 ? QByteArray::number(i - 1) : QByteArray()) + '\n';
+        }
+        const auto row = [levels](const char *name, Format format, const QByteArray &content,
+                                  int line) {
+            QTest::newRow(qPrintable(QStringLiteral("%1 %2").arg(QLatin1String(name)).arg(levels)))
+                << format << content << QStringLiteral("line %1: ").arg(line);
+        };
+        row("txt", Format::Text, text, 513);
+        row("md", Format::Markdown, markdown, 513);
+        row("mmd", Format::Mermaid, mermaid, 514);
+        row("opml", Format::Opml, opml, 514);
+        row("mm", Format::FreeMind, map, 514);
+        row("csv", Format::Csv, table, 514);
+    }
+}
+
+void TestDiagramExchange::shouldRefuseToReadMoreLevels()
+{
+    QFETCH(Format, format);
+    QFETCH(QByteArray, content);
+    QFETCH(QString, line);
+    const Imported result = imported(content, format);
+    QVERIFY(!result.head);
+    QCOMPARE(result.error, line + QStringLiteral("there are more than 512 levels"));
+}
+
+void TestDiagramExchange::shouldRefuseAHeadForWhatIsAsDeepAsMayBe()
+{
+    QByteArray text;
+    for (int i = 0; i < DiagramExchange::maximalLevels; ++i)
+        text += QByteArray(i, '\t') + "a\n";
+    QVERIFY(imported(text, Format::Text).head);
+    QCOMPARE(imported(text + "b\n", Format::Text).error,
+             QStringLiteral("there are more than 512 levels"));
+}
+
+void TestDiagramExchange::shouldRefuseMoreSubjectsThanTheLimit()
+{
+    QByteArray text = "a\n";
+    for (int i = 0; i < DiagramExchange::maximalSubjects; ++i)
+        text += "\tb\n";
+    QCOMPARE(imported(text, Format::Text).error,
+             QStringLiteral("line 500001: there are more than 500000 subjects"));
+}
+
+void TestDiagramExchange::shouldReadAndWriteFiles()
+{
+    QFETCH(Format, format);
+    const QTemporaryDir folder;
+    const QString name = folder.filePath(QStringLiteral("x.") + DiagramExchange::id(format));
+    const auto head = treeFrom("a[b,c]");
+    QString error;
+    QVERIFY2(DiagramExchange::writeFile(name, *head, format, &error), qPrintable(error));
+    QVERIFY(DiagramExchange::writeFile(name, *head, format)); // over what was there
+    const auto read = DiagramExchange::readFile(name, format, &error);
+    QVERIFY2(read, qPrintable(error));
+    QCOMPARE(TestSupport::treeToText(*read), QStringLiteral("a[b,c]"));
+    QCOMPARE(QDir(folder.path()).entryList(QDir::Files).size(), 1);
+}
+
+void TestDiagramExchange::shouldSayWhyAFileCannotBeRead()
+{
+    const QTemporaryDir folder;
+    QString error;
+    QVERIFY(!DiagramExchange::readFile(folder.path(), Format::Text, &error));
+    QCOMPARE(error, QStringLiteral("it is a folder"));
+    QVERIFY(!DiagramExchange::readFile(folder.filePath(QStringLiteral("a")), Format::Text, &error));
+    QCOMPARE(error, QStringLiteral("there is no such file"));
+    QVERIFY(!DiagramExchange::readFile(QString(), Format::Text));
+}
+
+void TestDiagramExchange::shouldKeepTheFileThatCannotBeReplaced()
+{
+    const QTemporaryDir folder;
+    const QString name = folder.filePath(QStringLiteral("a.md"));
+    QVERIFY(DiagramExchange::writeFile(name, *treeFrom("old"), Format::Markdown));
+    QString error;
+    QVERIFY(
+        !DiagramExchange::writeFile(name, *TestSupport::makeChain(600), Format::Markdown, &error));
+    QVERIFY(!error.isEmpty());
+    QCOMPARE(DiagramExchange::readFile(name, Format::Markdown)->title(), QStringLiteral("old"));
+    QVERIFY(!DiagramExchange::writeFile(folder.filePath(QStringLiteral("no/a.md")), *treeFrom("a"),
+                                        Format::Markdown, &error));
+    QVERIFY(error.contains(QLatin1String("No such file")));
+}
+
+void TestDiagramExchange::shouldSayWhyADeviceTakesNothing()
+{
+    QFile full(QStringLiteral("/dev/full"));
+    if (!full.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
+        QSKIP("there is no device that is always full");
+    QString error;
+    QVERIFY(!DiagramExchange::write(full, *treeFrom("a"), Format::Text, &error));
+    QVERIFY(!error.isEmpty());
+}
+
+void TestDiagramExchange::shouldReadEveryEncodingWithAMark_data()
+{
+    QTest::addColumn<QByteArray>("content");
+
+    const std::u32string text = U"\ufeff头\r\n\t\U0001f41f\r\t\tü\n";
+    const QString string = QChar(0xfeff) + QString::fromStdU32String(text.substr(1));
+    QTest::newRow("utf-8") << string.mid(1).toUtf8();
+    QTest::newRow("utf-8 with a mark") << string.toUtf8();
+    QByteArray little;
+    QByteArray big;
+    for (const QChar c : string) {
+        little.append(char(c.cell())).append(char(c.row()));
+        big.append(char(c.row())).append(char(c.cell()));
+    }
+    QTest::newRow("utf-16, little") << little;
+    QTest::newRow("utf-16, big") << big;
+    little.clear();
+    big.clear();
+    for (const char32_t c : text) {
+        for (const int shift : {0, 8, 16, 24}) {
+            little.append(char(c >> shift & 0xff));
+            big.append(char(c >> (24 - shift) & 0xff));
+        }
+    }
+    QTest::newRow("utf-32, little") << little;
+    QTest::newRow("utf-32, big") << big;
+}
+
+void TestDiagramExchange::shouldReadEveryEncodingWithAMark()
+{
+    QFETCH(QByteArray, content);
+    QCOMPARE(imported(content, Format::Text).text(), QString::fromUtf8("头[🐟[ü]]"));
+}
+
+void TestDiagramExchange::shouldRefuseTextThatIsNotUtf8()
+{
+    for (const Format format : {Format::Text, Format::Markdown, Format::Mermaid, Format::Csv})
+        QCOMPARE(imported("a\n\nM\xfcller\n", format).error,
+                 QStringLiteral("line 3: the text is not encoded as UTF-8"));
+    // The character that stands for what cannot be decoded is one like any other.
+    QCOMPARE(imported("\xef\xbf\xbd", Format::Text).text(), QString(QChar(0xfffd)));
+}
+
+void TestDiagramExchange::shouldSurviveBrokenInput()
+{
+    QFETCH(Format, format);
+    auto head = treeFrom("a[b[c,d],e[f]]");
+    head->setDetail(QStringLiteral("x\n\"y\","));
+    head->childAtIndex(0)->setUrl(QStringLiteral("http://x/(y)"));
+    const QByteArray whole = exported(*head, format);
+    QRandomGenerator random(quint32(format) + 1);
+    for (int i = 0; i < 1500; ++i) {
+        QByteArray broken = whole.left(random.bounded(whole.size() + 1));
+        for (int change = random.bounded(4); change > 0 && !broken.isEmpty(); --change)
+            broken[random.bounded(broken.size())] = char(random.bounded(256));
+        const Imported result = imported(broken, format);
+        QVERIFY(bool(result.head) == result.error.isEmpty());
+        if (result.head)
+            QVERIFY(!exported(*result.head, format).isEmpty());
+    }
+}
+
+void TestDiagramExchange::shouldTakeTimeInProportionToTheSize()
+{
+    QFETCH(Format, format);
+    const auto secondsFor = [format](int subjects) {
+        TestSupport::RandomShape shape;
+        shape.nodes = subjects;
+        FishModel model;
+        FishInfo *const document =
+            TestSupport::loadDocument(model, TestSupport::randomDocument(7, shape));
+        const TreeItem &head = *document->treeItem()->childAtIndex(0);
+        qint64 best = std::numeric_limits<qint64>::max();
+        for (int run = 0; run < 3; ++run) {
+            QElapsedTimer timer;
+            timer.start();
+            const Imported result = carriedThrough(head, format);
+            best = std::min(best, timer.nsecsElapsed());
+            if (result.text() != TestSupport::treeToText(head))
+                return -1.0;
+        }
+        return double(best) / 1e9;
+    };
+    const double some = secondsFor(1000);
+    const double many = secondsFor(10000);
+    QVERIFY(some > 0);
+    QVERIFY(many > 0);
+    // Ten times as much; anything that grows with the square would take a hundred times as long.
+    QVERIFY2(many < 35 * some, qPrintable(QStringLiteral("%1 s, %2 s").arg(some).arg(many)));
+}
+
+QTEST_GUILESS_MAIN(TestDiagramExchange)
+#include "tst_diagramexchange.moc"

@@ -1,0 +1,172 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#include <tests/exchange/exchangefixture.h>
+
+#include <fishbone/style/spearstyle.h>
+
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QtTest>
+
+using namespace ExchangeFixture;
+
+namespace {
+
+/// What docs/formats.md says: for each attribute, the ids of the formats that keep it.
+QMap<QString, QStringList> documentedTable()
+{
+    QFile file(QStringLiteral(FISHBONE_SOURCE_DIR "/docs/formats.md"));
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    QMap<QString, QStringList> table;
+    QStringList ids;
+    const QStringList lines = QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'));
+    for (const QString &line : lines) {
+        QStringList cells = line.split(QLatin1Char('|'));
+        for (QString &cell : cells)
+            cell = cell.trimmed();
+        const QString name = cells.value(1);
+        if (name == QLatin1String("Attribute"))
+            ids = cells.mid(2, cells.size() - 3);
+        else if (line.isEmpty())
+            ids.removeAll(QString());
+        if (ids.isEmpty() || name.isEmpty() || name == QLatin1String("Attribute") ||
+            name.startsWith(QLatin1Char('-')))
+            continue;
+        for (int i = 0; i < ids.size(); ++i) {
+            if (cells.value(i + 2) == QLatin1String("yes"))
+                table[name].append(ids.at(i));
+        }
+    }
+    return table;
+}
+
+/// A value of each attribute that no new subject has.
+QJsonObject unusualValues()
+{
+    SpearStyle style;
+    QJsonObject styleObject;
+    style.setTextCount(style.textCount() + 3);
+    style.write(styleObject);
+    return {{QStringLiteral("title"), QStringLiteral("A title")},
+            {QStringLiteral("uuid"), QStringLiteral("{u-1}")},
+            {QStringLiteral("showid"), QStringLiteral("T-7")},
+            {QStringLiteral("detail"), QStringLiteral("first line\nsecond line")},
+            {QStringLiteral("type"), 3},
+            {QStringLiteral("status"), 5},
+            {QStringLiteral("progress"), 42},
+            {QStringLiteral("priority"), 2},
+            {QStringLiteral("url"), QStringLiteral("https://example.org/a?b=1&c=(2)#d")},
+            {QStringLiteral("mgrname"), QStringLiteral("Li")},
+            {QStringLiteral("mgrid"), QStringLiteral("m-1")},
+            {QStringLiteral("creatorname"), QStringLiteral("Wang")},
+            {QStringLiteral("creatorid"), QStringLiteral("c-1")},
+            {QStringLiteral("followers"), QJsonArray{QStringLiteral("a;b"), QStringLiteral("c\\")}},
+            {QStringLiteral("createdate"), 1500000000123.0},
+            {QStringLiteral("planenddate"), -62135596800001.0}, // before the year 1
+            {QStringLiteral("spearstyle"), styleObject},
+            {QStringLiteral("children"),
+             QJsonArray{QJsonObject{{QStringLiteral("title"), QStringLiteral("child")},
+                                    {QStringLiteral("uuid"), QStringLiteral("{u-2}")}}}}};
+}
+
+QJsonObject objectOf(const TreeItem &subject)
+{
+    QJsonObject object;
+    FishModel::write(object, const_cast<TreeItem *>(&subject), true);
+    return object;
+}
+
+} // namespace
+
+/// The table of docs/formats.md against the readers and writers.
+class TestDiagramExchangeKeeping : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void shouldKeepWhatTheTableSaysAndNoMore_data();
+    void shouldKeepWhatTheTableSaysAndNoMore();
+    void shouldNameEveryAttributeInTheTable();
+    void shouldKeepEverythingTwice_data() { addFormats(); }
+    void shouldKeepEverythingTwice();
+};
+
+void TestDiagramExchangeKeeping::shouldKeepWhatTheTableSaysAndNoMore_data()
+{
+    QTest::addColumn<Format>("format");
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<bool>("isKept");
+
+    const QMap<QString, QStringList> table = documentedTable();
+    const QStringList keys = unusualValues().keys();
+    const QList<Format> formats = DiagramExchange::formats();
+    for (const Format format : formats) {
+        const QString id = DiagramExchange::id(format);
+        for (const QString &key : keys)
+            QTest::newRow(qPrintable(id + QLatin1Char(' ') + key))
+                << format << key << table.value(key).contains(id);
+    }
+}
+
+void TestDiagramExchangeKeeping::shouldKeepWhatTheTableSaysAndNoMore()
+{
+    QFETCH(Format, format);
+    QFETCH(QString, key);
+    QFETCH(bool, isKept);
+    const TreeItem original(unusualValues());
+    TreeItem head(unusualValues());
+    head.appendChild(new TreeItem(QStringLiteral("child"), QStringLiteral("{u-2}"), QString(),
+                                  QStringLiteral("{u-1}"), 0));
+    const QJsonValue unset = objectOf(TreeItem()).value(key);
+    const QJsonValue expected = objectOf(head).value(key);
+    QVERIFY(expected != unset);
+
+    const Imported result = carriedThrough(head, format);
+    QVERIFY2(result.head, qPrintable(result.error));
+    const QJsonValue kept = objectOf(*result.head).value(key);
+    if (key == QLatin1String("children")) {
+        QCOMPARE(isKept, true); // a format without a tree would be none for diagrams
+        QCOMPARE(result.head->childCount(), 1);
+        QCOMPARE(result.head->childAtIndex(0)->title(), QStringLiteral("child"));
+    } else if (isKept) {
+        QCOMPARE(kept, expected);
+    } else if (key == QLatin1String("uuid")) {
+        QVERIFY(kept != expected);
+        QVERIFY(!kept.toString().isEmpty());
+    } else {
+        QCOMPARE(kept, unset);
+    }
+}
+
+void TestDiagramExchangeKeeping::shouldNameEveryAttributeInTheTable()
+{
+    const QMap<QString, QStringList> table = documentedTable();
+    QStringList written = objectOf(TreeItem(unusualValues())).keys();
+    written.removeAll(QStringLiteral("pid")); // follows from the place in the tree
+    QCOMPARE(QStringList(table.keys()), written);
+    QStringList keys = unusualValues().keys();
+    QCOMPARE(keys, written);
+}
+
+void TestDiagramExchangeKeeping::shouldKeepEverythingTwice()
+{
+    QFETCH(Format, format);
+    FishModel model;
+    QFile sample(QStringLiteral(FISHBONE_SOURCE_DIR "/samples/checkout-outage.fishbone.json"));
+    QVERIFY(sample.open(QIODevice::ReadOnly));
+    const Imported original = imported(sample.readAll(), Format::Json);
+    QVERIFY2(original.head, qPrintable(original.error));
+
+    const Imported once = carriedThrough(*original.head, format);
+    QVERIFY2(once.head, qPrintable(once.error));
+    QCOMPARE(once.text(), original.text());
+    // What was left out the first time is all that the format leaves out.
+    QCOMPARE(exported(*once.head, format), exported(*original.head, format));
+}
+
+QTEST_MAIN(TestDiagramExchangeKeeping)
+#include "tst_diagramexchange_keeping.moc"
