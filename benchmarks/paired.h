@@ -4,24 +4,39 @@
 #pragma once
 
 #include <algorithm>
-#include <chrono>
+#include <ctime>
+#include <string>
 #include <vector>
 
 #include <benchmark/benchmark.h>
+
+#include <benchmarks/synthetic.h>
 
 /// Our way of doing something beside the bare toolkit's, taken in turns in one process, so that
 /// both meet the same machine in the same state.
 namespace Paired {
 
 constexpr int repetitions = 7;
+constexpr int fewRepetitions = 3; ///< where only the growth is looked at
+constexpr int gateSizes[] = {1000, 10000};
+constexpr int largeSize = 100000; ///< run once
 
-/// The time that \a work takes, in seconds.
+/// The processor time that this process has taken, in seconds. The time on the wall would count
+/// whatever else the machine does.
+inline double processorSeconds()
+{
+    timespec time{};
+    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time);
+    return double(time.tv_sec) + double(time.tv_nsec) * 1e-9;
+}
+
+/// The processor time that \a work takes, in seconds.
 template <typename Work>
 double secondsOf(Work &&work)
 {
-    const auto start = std::chrono::steady_clock::now();
+    const double start = processorSeconds();
     work();
-    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+    return processorSeconds() - start;
 }
 
 inline double median(std::vector<double> values)
@@ -39,9 +54,13 @@ void compare(benchmark::State &state, Ours &&ours, Bare &&bare)
     std::vector<double> ratios;
     std::vector<double> oursMs;
     std::vector<double> bareMs;
+    bool oursFirst = false;
     for (auto _ : state) {
+        double ourSeconds = oursFirst ? ours() : 0;
         const double bareSeconds = bare();
-        const double ourSeconds = ours();
+        if (!oursFirst)
+            ourSeconds = ours();
+        oursFirst = !oursFirst;
         state.SetIterationTime(ourSeconds);
         ratios.push_back(ourSeconds / bareSeconds);
         oursMs.push_back(ourSeconds * 1000);
@@ -50,6 +69,37 @@ void compare(benchmark::State &state, Ours &&ours, Bare &&bare)
     state.counters["ours_ms"] = median(oursMs);
     state.counters["bare_ms"] = median(bareMs);
     state.counters["ratio"] = median(ratios);
+}
+
+/// Registers \a run for a document of that shape and size under "name/shape/size".
+template <typename Run>
+benchmark::internal::Benchmark *add(const std::string &name, Synthetic::Shape shape, int size,
+                                    Run &&run)
+{
+    const std::string shapeName = Synthetic::nameOf(shape).toStdString();
+    return benchmark::RegisterBenchmark(
+               (name + '/' + shapeName + '/' + std::to_string(size)).c_str(),
+               [shape, size, run](benchmark::State &state) { run(state, shape, size); })
+        ->Unit(benchmark::kMillisecond);
+}
+
+/// Registers a comparison for every shape and size that it is reported for. A \a Case is made of
+/// shape and size, which is not timed, and has ours() and bare(), which return seconds.
+template <typename Case>
+void addRow(const std::string &name)
+{
+    const auto run = [](benchmark::State &state, Synthetic::Shape shape, int size) {
+        Case subject(shape, size);
+        compare(
+            state, [&subject] { return subject.ours(); }, [&subject] { return subject.bare(); });
+    };
+    using Synthetic::Shape;
+    for (const int size : gateSizes) {
+        add(name, Shape::Fan, size, run)->UseManualTime()->Iterations(repetitions);
+        for (const Shape shape : {Shape::Wide, Shape::Wide2})
+            add(name, shape, size, run)->UseManualTime()->Iterations(fewRepetitions);
+    }
+    add(name, Shape::Fan, largeSize, run)->UseManualTime()->Iterations(1);
 }
 
 } // namespace Paired

@@ -112,13 +112,22 @@ void growChains(Writer &writer, TreeItem *head, int missing, int length)
     }
 }
 
+QStringList shapeNames()
+{
+    return {QStringLiteral("fan"), QStringLiteral("wide"), QStringLiteral("wide2"),
+            QStringLiteral("deep")};
+}
+
 } // namespace
+
+QString nameOf(Shape shape)
+{
+    return shapeNames().at(int(shape));
+}
 
 bool shapeFromName(const QString &name, Shape *shape)
 {
-    static const QStringList names{QStringLiteral("fan"), QStringLiteral("wide"),
-                                   QStringLiteral("wide2"), QStringLiteral("deep")};
-    const int found = names.indexOf(name);
+    const int found = shapeNames().indexOf(name);
     if (found < 0)
         return false;
     *shape = static_cast<Shape>(found);

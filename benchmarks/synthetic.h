@@ -23,6 +23,8 @@ enum class Shape {
 
 /// The shape of that name ("fan", "wide", "wide2", "deep"); false for another name.
 bool shapeFromName(const QString &name, Shape *shape);
+/// The reverse.
+QString nameOf(Shape shape);
 
 /// A head with all its descendants, \a count subjects in all.
 std::unique_ptr<TreeItem> makeTree(Shape shape, int count, quint32 seed = 1);

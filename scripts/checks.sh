@@ -29,7 +29,7 @@ check_format() {
 }
 
 check_scripts() {
-    shellcheck --external-sources scripts/bootstrap scripts/run scripts/test scripts/update-translations \
+    shellcheck --external-sources scripts/benchmark scripts/bootstrap scripts/run scripts/test scripts/update-translations \
         scripts/*.sh .ci/run
 }
 

@@ -6,7 +6,7 @@
 #include <ctime>
 #include <functional>
 
-#include <tests/support/editorfixture.h>
+#include <tests/support/largefish.h>
 
 using namespace TestSupport;
 
@@ -29,76 +29,12 @@ private Q_SLOTS:
 };
 
 namespace {
-/// A model that counts what it is asked.
-class AskedModel : public FishModel
-{
-public:
-    QModelIndex index(int row, int column, const QModelIndex &parent) const override
-    {
-        ++questions;
-        return FishModel::index(row, column, parent);
-    }
-    QModelIndex parent(const QModelIndex &index) const override
-    {
-        ++questions;
-        return FishModel::parent(index);
-    }
-    int rowCount(const QModelIndex &parent) const override
-    {
-        ++questions;
-        return FishModel::rowCount(parent);
-    }
-    QVariant data(const QModelIndex &index, int role) const override
-    {
-        ++questions;
-        return FishModel::data(index, role);
-    }
-
-    mutable int questions = 0;
-};
-
-/// An editor on a document that was never a file.
-template <typename Model>
-class LargeFixture
-{
-public:
-    explicit LargeFixture(std::unique_ptr<TreeItem> tree)
-    {
-        model.setModelType(FISH_MODEL_DIAGRAM);
-        head = addDocument(model, std::move(tree));
-        top = model.indexFromItem(head);
-        editor.setModel(&model);
-        editor.setRootIndex(top);
-    }
-
-    Model model;
-    FishEditor editor;
-    TreeItem *head = nullptr;
-    QModelIndex top;
-};
-
 /// A main bone with \a width children.
 std::unique_ptr<TreeItem> makeBranch(int width)
 {
     auto head = std::make_unique<TreeItem>();
     head->setTitle(QStringLiteral("head"));
     head->appendChild(makeFan(width).release());
-    return head;
-}
-
-/// Three children everywhere.
-std::unique_ptr<TreeItem> makeBushy(int nodes)
-{
-    auto head = std::make_unique<TreeItem>();
-    std::vector<TreeItem *> all{head.get()};
-    for (std::size_t i = 0; int(all.size()) < nodes; ++i) {
-        for (int row = 0; row < 3; ++row) {
-            auto child = std::make_unique<TreeItem>();
-            child->setTitle(QString::number(all.size()));
-            all.push_back(child.get());
-            all[i]->appendChild(child.release());
-        }
-    }
     return head;
 }
 
