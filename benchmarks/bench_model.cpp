@@ -218,9 +218,9 @@ public:
         QJsonObject snapshot;
         FishModel::write(snapshot, subject, true);
         return secondsOfCommand([&] {
-            auto command = std::make_unique<EditMove>(&model, top(), 0, snapshot);
+            auto command =
+                std::make_unique<EditMove>(&model, top(), 0, snapshot, QList<TreeItem *>{subject});
             command->setDocument(document);
-            command->setSubjects({subject});
             return command.release();
         });
     }
