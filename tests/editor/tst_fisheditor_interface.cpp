@@ -8,6 +8,7 @@
 #include <fishbone/editor/fishscene.h>
 #include <fishbone/editor/graphicsview.h>
 #include <tests/support/editorfixture.h>
+#include <tests/support/metatypes.h>
 #include <tests/support/signalrecorder.h>
 
 using namespace TestSupport;
@@ -153,9 +154,9 @@ void TestFishEditorInterface::shouldRegisterTheTypesOfItsSlots()
 {
     const FishEditor editor;
 
-    QVERIFY(QMetaType::type("TreeItem*") != QMetaType::UnknownType);
-    QVERIFY(QMetaType::type("QList<QGraphicsItem*>") != QMetaType::UnknownType);
-    QVERIFY(QMetaType::type("CHANGE_PARENT_TYPE") != QMetaType::UnknownType);
+    QVERIFY(isRegisteredType("TreeItem*"));
+    QVERIFY(isRegisteredType("QList<QGraphicsItem*>"));
+    QVERIFY(isRegisteredType("CHANGE_PARENT_TYPE"));
     const QMetaObject &type = *editor.metaObject();
     for (int i = type.methodOffset(); i < type.methodCount(); ++i) {
         const QMetaMethod method = type.method(i);
