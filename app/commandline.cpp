@@ -3,6 +3,8 @@
 
 #include <app/commandline.h>
 
+#include <fishbone/version.h>
+
 #include <QCommandLineParser>
 #include <QRegularExpression>
 
@@ -195,5 +197,5 @@ QString CommandLine::helpText()
 
 QString CommandLine::versionText()
 {
-    return QStringLiteral("fishbone " FISHBONE_VERSION "\n");
+    return QStringLiteral("fishbone " FISHBONE_VERSION_STRING "\n");
 }
