@@ -59,11 +59,12 @@ void tst_FishEditorPlugin::shouldPutAWellFormedWidgetIntoAForm()
     QXmlStreamReader xml(m_plugin->domXml());
     QString className;
     while (!xml.atEnd()) {
-        if (xml.readNextStartElement() && xml.name() == QLatin1String("widget"))
+        if (xml.readNext() == QXmlStreamReader::StartElement &&
+            xml.name() == QLatin1String("widget"))
             className = xml.attributes().value(QLatin1String("class")).toString();
     }
     QCOMPARE(xml.error(), QXmlStreamReader::NoError);
-    QCOMPARE(className, create()->metaObject()->className());
+    QCOMPARE(className, QString::fromLatin1(create()->metaObject()->className()));
 }
 
 void tst_FishEditorPlugin::shouldShowTheTemplate()
