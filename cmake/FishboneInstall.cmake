@@ -80,7 +80,7 @@ else()
         DESTINATION "${CMAKE_INSTALL_DATADIR}/licenses/fishbone${FISHBONE_SUFFIX}" COMPONENT runtime)
 endif()
 
-# The library reads the global style from the folder of the program, which is no place for programs alone.
+# The library reads the global style from the folder of the program, and bin is for programs alone.
 if(TARGET fishbone-app)
     cmake_path(RELATIVE_PATH CMAKE_INSTALL_PREFIX
         BASE_DIRECTORY "${CMAKE_INSTALL_PREFIX}/${program_folder}" OUTPUT_VARIABLE program_to_prefix)
