@@ -62,6 +62,16 @@ check_installed_program() {
     done
 }
 
+# What is installed for Qt 5 and for Qt 6 has no file in common, so that one prefix takes both. Looks at what
+# check_package installed.
+check_side_by_side() {
+    installed() {
+        (cd "build/package/$1/moved away" && find . ! -type d | LC_ALL=C sort)
+    }
+    [[ $(installed release | wc -l) -gt 30 && $(installed qt6 | wc -l) -gt 30 ]]
+    comm -12 <(installed release) <(installed qt6) | none
+}
+
 # check_embedded <part|fetched> <option for CMake>: the library is built as a part of a host, in the way that
 # the embedding guide shows under that name, and installs nothing then.
 check_embedded() {
