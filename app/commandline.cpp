@@ -3,6 +3,8 @@
 
 #include <app/commandline.h>
 
+#include <fishbone/version.h>
+
 #include <QCommandLineParser>
 #include <QRegularExpression>
 
@@ -350,5 +352,5 @@ QString CommandLine::helpText(Command command)
 
 QString CommandLine::versionText()
 {
-    return QStringLiteral("fishbone " FISHBONE_VERSION "\n");
+    return QStringLiteral("fishbone " FISHBONE_VERSION_STRING "\n");
 }

@@ -40,7 +40,7 @@ QJsonObject styleOf(const FishEditor &editor)
 QList<QKeySequence> redoShortcuts()
 {
     QList<QKeySequence> shortcuts = QKeySequence::keyBindings(QKeySequence::Redo);
-    if (const QKeySequence other(Qt::CTRL + Qt::Key_Y); !shortcuts.contains(other))
+    if (const QKeySequence other(Qt::CTRL | Qt::Key_Y); !shortcuts.contains(other))
         shortcuts.append(other);
     return shortcuts;
 }
@@ -100,16 +100,16 @@ void EditCommands::addInsertActions()
 {
     add("child", tr("&Child subject"), Qt::Key_Insert,
         [this] { insertAndRename([this] { m_editor->insertChildSubject(); }); });
-    add("before", tr("Subject &before"), QKeySequence(Qt::SHIFT + Qt::Key_Return),
+    add("before", tr("Subject &before"), QKeySequence(Qt::SHIFT | Qt::Key_Return),
         [this] { insertAndRename([this] { m_editor->insertSubject(); }); });
     add("after", tr("Subject &after"), Qt::Key_Return,
         [this] { insertAndRename([this] { m_editor->appendSubject(); }); });
-    add("parent", tr("&Parent subject"), QKeySequence(Qt::CTRL + Qt::Key_Return),
+    add("parent", tr("&Parent subject"), QKeySequence(Qt::CTRL | Qt::Key_Return),
         [this] { insertAndRename([this] { m_editor->insertParentSubject(); }); });
     add("free", tr("&Free subject (a new diagram)"),
-        QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_Return),
+        QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Return),
         [this] { insertAndRename([this] { m_editor->insertFreeSubject(); }); });
-    add("subTask", tr("&Sub-task…"), QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_T),
+    add("subTask", tr("&Sub-task…"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_T),
         [this] { insertSubTask(m_editor->firstSelectedSpearIndex()); });
 }
 
@@ -117,7 +117,7 @@ void EditCommands::addSubjectActions()
 {
     add("rename", tr("&Rename"), Qt::Key_F2,
         [this] { rename(m_editor->firstSelectedSpearIndex()); });
-    add("link", tr("&Link to…"), QKeySequence(Qt::CTRL + Qt::Key_L),
+    add("link", tr("&Link to…"), QKeySequence(Qt::CTRL | Qt::Key_L),
         [this] { m_editor->modifyLink(); });
     add("openLink", tr("&Open link"), {}, [this] { m_editor->modifyOpenLink(); });
     add("unlink", tr("Remove l&ink"), {}, [this] { m_editor->modifyDelLink(); });

@@ -67,20 +67,20 @@ void FileCommands::addActions(ActionSet *actions)
     actions->add(QStringLiteral("newFromTemplate"), tr("New from &template…"), {}, Scope::Window,
                  [this] { newFromTemplate(startFolder()); });
     add("open", tr("&Open…"), QKeySequence::Open, &FileCommands::openFiles);
-    add("url", tr("Open &URL…"), QKeySequence(Qt::CTRL + Qt::Key_U), &FileCommands::openUrl);
+    add("url", tr("Open &URL…"), QKeySequence(Qt::CTRL | Qt::Key_U), &FileCommands::openUrl);
     actions->add(QStringLiteral("recover"), tr("Open an a&utosave…"), {}, Scope::Window,
                  [this] { newFromTemplate(Autosave::folder()); });
     actions->add(QStringLiteral("save"), tr("&Save"), {QKeySequence::Save}, Scope::Window,
                  [this] { save(m_session->document()); });
     actions->add(QStringLiteral("saveAs"), tr("Save &as…"),
-                 {QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_S)}, Scope::Window,
+                 {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S)}, Scope::Window,
                  [this] { saveAs(m_session->document()); });
     add("saveAll", tr("Save a&ll"), {}, &FileCommands::saveAll);
-    add("export", tr("&Export picture…"), QKeySequence(Qt::CTRL + Qt::Key_E),
+    add("export", tr("&Export picture…"), QKeySequence(Qt::CTRL | Qt::Key_E),
         &FileCommands::exportPicture);
     add("print", tr("&Print…"), QKeySequence::Print, &FileCommands::print);
-    add("close", tr("&Close"), QKeySequence(Qt::CTRL + Qt::Key_W), &FileCommands::closeDocument);
-    actions->add(QStringLiteral("quit"), tr("&Quit"), {QKeySequence(Qt::CTRL + Qt::Key_Q)},
+    add("close", tr("&Close"), QKeySequence(Qt::CTRL | Qt::Key_W), &FileCommands::closeDocument);
+    actions->add(QStringLiteral("quit"), tr("&Quit"), {QKeySequence(Qt::CTRL | Qt::Key_Q)},
                  Scope::Window, [this] { m_window->close(); });
 }
 

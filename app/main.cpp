@@ -10,6 +10,8 @@
 #include <app/mainwindow.h>
 #include <app/startup.h>
 
+#include <fishbone/version.h>
+
 #include <QApplication>
 #include <QDir>
 #include <QFileInfo>
@@ -71,7 +73,7 @@ int main(int argc, char **argv)
     StartUp::restoreMessages();
     QApplication::setApplicationName(QStringLiteral("Fishbone"));
     QApplication::setOrganizationName(QStringLiteral("Fishbone"));
-    QApplication::setApplicationVersion(QStringLiteral(FISHBONE_VERSION));
+    QApplication::setApplicationVersion(QStringLiteral(FISHBONE_VERSION_STRING));
     QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false"));
 
     Language::install(CommandLine::parse(QApplication::arguments()).language);

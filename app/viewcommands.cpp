@@ -48,18 +48,18 @@ void ViewCommands::addZoomActions()
         m_actions->add(QLatin1String(name), text, shortcuts, ActionSet::Scope::Window,
                        std::move(run));
     };
-    add("zoomin", tr("Zoom &in"), {QKeySequence::ZoomIn, QKeySequence(Qt::CTRL + Qt::Key_Equal)},
+    add("zoomin", tr("Zoom &in"), {QKeySequence::ZoomIn, QKeySequence(Qt::CTRL | Qt::Key_Equal)},
         [this] { m_editor->zoomIn(zoomStep); });
     add("zoomout", tr("Zoom &out"), {QKeySequence::ZoomOut},
         [this] { m_editor->zoomOut(zoomStep); });
-    add("fullsize", tr("&100 %"), {QKeySequence(Qt::CTRL + Qt::Key_0)},
+    add("fullsize", tr("&100 %"), {QKeySequence(Qt::CTRL | Qt::Key_0)},
         [this] { m_editor->fullSize(); });
-    add("fit", tr("&Fit all"), {QKeySequence(Qt::CTRL + Qt::Key_9)}, [this] { fitAll(); });
-    add("fitselection", tr("Fit &selection"), {QKeySequence(Qt::CTRL + Qt::Key_8)},
+    add("fit", tr("&Fit all"), {QKeySequence(Qt::CTRL | Qt::Key_9)}, [this] { fitAll(); });
+    add("fitselection", tr("Fit &selection"), {QKeySequence(Qt::CTRL | Qt::Key_8)},
         [this] { m_editor->showSelected(); });
-    add("rotateRight", tr("Rotate &right"), {QKeySequence(Qt::CTRL + Qt::Key_BracketRight)},
+    add("rotateRight", tr("Rotate &right"), {QKeySequence(Qt::CTRL | Qt::Key_BracketRight)},
         [this] { m_controls->setRotation(m_editor->rotateValue() + rotateStep); });
-    add("rotateLeft", tr("Rotate &left"), {QKeySequence(Qt::CTRL + Qt::Key_BracketLeft)},
+    add("rotateLeft", tr("Rotate &left"), {QKeySequence(Qt::CTRL | Qt::Key_BracketLeft)},
         [this] { m_controls->setRotation(m_editor->rotateValue() - rotateStep); });
     add("rotateReset", tr("&Upright"), {}, [this] { m_controls->setRotation(0); });
 }
@@ -94,8 +94,8 @@ void ViewCommands::addDiagramActions()
     };
     add("asDiagram", tr("Show as a &diagram of its own"), {},
         [this] { m_session->showAsDiagram(m_editor->firstSelectedSpearIndex()); });
-    add("back", tr("&Back"), QKeySequence(Qt::ALT + Qt::Key_Left), [this] { m_session->goBack(); });
-    add("whole", tr("Show the &whole diagram"), QKeySequence(Qt::ALT + Qt::Key_Home),
+    add("back", tr("&Back"), QKeySequence(Qt::ALT | Qt::Key_Left), [this] { m_session->goBack(); });
+    add("whole", tr("Show the &whole diagram"), QKeySequence(Qt::ALT | Qt::Key_Home),
         [this] { m_session->showWhole(); });
     add("canvasStyle", tr("Style of &all subjects…"), {}, [this] { m_theme->editStyle(m_window); });
 

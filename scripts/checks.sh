@@ -8,7 +8,7 @@
 # The C++ files of the project; with an argument only those with that ending.
 sources() {
     local folder folders=()
-    for folder in app benchmarks cmake examples fishbone tests; do
+    for folder in app benchmarks cmake designer examples fishbone tests; do
         [[ ! -d $folder ]] || folders+=("$folder")
     done
     find "${folders[@]}" -type f \( -name "*.${1:-h}" -o -name "*.${1:-cpp}" \) | sort
@@ -29,8 +29,9 @@ check_format() {
 }
 
 check_scripts() {
-    shellcheck --external-sources scripts/benchmark scripts/bootstrap scripts/run scripts/test scripts/update-translations \
-        scripts/*.sh .ci/run
+    local scripts
+    mapfile -t scripts <<<"$(grep -lE '^#!.*bash' scripts/* .ci/*)"
+    shellcheck --external-sources "${scripts[@]}" scripts/*.sh
 }
 
 # Every file says whose it is and under which terms, a script below its first line.
@@ -101,16 +102,6 @@ check_translations() {
         search -nE 'type="(unfinished|vanished|obsolete)"' "$copies"/*.ts
         diff --recursive --unified=1 --exclude=CMakeLists.txt --exclude='*.qrc' translations "$copies"
     } | none
-}
-
-# A host finds the installed package, compiles each public header alone and shows a diagram.
-check_package() {
-    local prefix=$PWD/build/package
-    rm -rf "$prefix"
-    cmake --install build/release --prefix "$prefix" >/dev/null
-    cmake -S cmake/consumer -B build/consumer -G Ninja -DCMAKE_PREFIX_PATH="$prefix"
-    cmake --build build/consumer
-    QT_QPA_PLATFORM=offscreen build/consumer/consumer
 }
 
 # Where there is no display, scripts/run draws a sample.

@@ -3,10 +3,14 @@
 
 #include <fishbone/editor/fisheditor.h>
 #include <fishbone/model/fishmodel.h>
+#include <fishbone/version.h>
 
 #include <QApplication>
 
-/// Loads the template of the resources into a model, and succeeds when an editor shows it.
+#include <cstring>
+
+/// Loads the template of the resources into a model, and succeeds when an editor shows it and the
+/// library is the one that the headers belong to.
 int main(int argc, char *argv[])
 {
     QApplication application(argc, argv);
@@ -15,5 +19,6 @@ int main(int argc, char *argv[])
     FishEditor editor;
     editor.setModel(&model);
     editor.setRootIndex(model.index(0, 0));
-    return editor.headSpear() != nullptr ? 0 : 1;
+    const bool isSameVersion = std::strcmp(fishboneVersion(), FISHBONE_VERSION_STRING) == 0;
+    return editor.headSpear() && isSameVersion ? 0 : 1;
 }

@@ -68,6 +68,10 @@ FishEditor::FishEditor(QWidget *parent)
 FishEditor::~FishEditor()
 {
     livingEditors().removeOne(this);
+    // A model below the editor dies later than this part of it, and must not call it any more.
+    const QList<QAbstractItemModel *> models = findChildren<QAbstractItemModel *>();
+    for (QAbstractItemModel *model : models)
+        model->disconnect(this);
     // The scene goes first and reports nothing more: neither host nor view shall hear of the
     // selection that dies with it.
     m_scene->disconnect(this);

@@ -55,6 +55,10 @@ Q_DECLARE_METATYPE(CHANGE_PARENT_TYPE)
 class FISHBONE_EXPORT FishEditor : public QFrame
 {
     Q_OBJECT
+    /// The zoom value, for forms: 250 is 1:1, 50 more doubles the scale. Applied when it is set.
+    Q_PROPERTY(int zoom READ zoomValue WRITE zoomFish NOTIFY zoomValueChanged)
+    /// The rotation in degrees, for forms. Applied when it is set.
+    Q_PROPERTY(int rotation READ rotateValue WRITE rotateFish NOTIFY rotateValueChanged)
 
 public:
     /// An editor that shows nothing. The newest editor also serves the expand buttons of scenes
@@ -138,7 +142,9 @@ public:
     /// Every change is a command on the undo stack, which runs it at once, unless said otherwise.
     /// @{
 
+    /// Whether undo() has a command to take back.
     bool canUndo() const;
+    /// Whether redo() has a command to repeat.
     bool canRedo() const;
     /// Deletes the subject \a index with all below it.
     void deleteItem(const QModelIndex &index);

@@ -35,8 +35,8 @@ bool isUsable(const QTransform &matrix)
 
 int saturated(qint64 value)
 {
-    return int(
-        qBound<qint64>(std::numeric_limits<int>::min(), value, std::numeric_limits<int>::max()));
+    using Limits = std::numeric_limits<int>;
+    return int(qBound(qint64(Limits::min()), value, qint64(Limits::max())));
 }
 } // namespace
 

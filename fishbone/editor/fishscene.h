@@ -14,6 +14,7 @@ class FISHBONE_EXPORT FishScene : public QGraphicsScene
     Q_OBJECT
 
 public:
+    /// A scene that shows nothing.
     explicit FishScene(QObject *parent = nullptr);
 
     /// The first view that shows the scene, or null.

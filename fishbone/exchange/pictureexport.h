@@ -47,12 +47,14 @@ class FISHBONE_EXPORT PictureExport
     Q_DECLARE_TR_FUNCTIONS(PictureExport)
 
 public:
+    /** The kinds of pictures. */
     enum class Format {
         Png, ///< pixels
         Svg, ///< scalable vector graphics
         Pdf, ///< a document of one page
     };
 
+    /** Why there is no picture. */
     enum class Error {
         None,          ///< the picture is complete
         UnknownFormat, ///< the file name's suffix names no format
@@ -65,7 +67,7 @@ public:
     /** The outcome of an export. */
     struct Result
     {
-        Error error = Error::None;
+        Error error = Error::None; ///< what went wrong
         QString
             reason; ///< for the user, translated, a clause without a full stop; empty on success
 

@@ -121,13 +121,17 @@ public:
     /// \name Flags
     /// @{
 
+    /// Whether the spear is marked as a link target.
     bool isLinked() const { return m_linked; }
+    /// The child row that the link circle stands before.
     int linkNumber() const { return m_linkNumber; }
     /// Marks the spear as a link target; \a number is the child row that the circle stands before.
     void setLinked(bool linked, int number);
+    /// Whether the bone is being moved.
     bool isMoving() const { return m_moving; }
     /// While set, the bone's line is not drawn.
     void setMoving(bool moving) { m_moving = moving; }
+    /// Whether the child spears are shown.
     bool isExpand() const { return m_expand; }
     /// Stores the flag and shows or hides every child spear.
     void setExpand(bool expand);
@@ -157,9 +161,13 @@ public:
     /// \name Companions
     /// @{
 
+    /// The text box; a child item.
     TextItem *textItem() const { return m_textItem; }
+    /// The status icon; a child item.
     TaskStatusItem *statusItem() const { return m_statusItem; }
+    /// The link icon; a child item, null for none.
     QGraphicsItem *linkItem() const { return m_linkItem; }
+    /// The expand button; a child item, null for none.
     QGraphicsItem *expandBuddy() const { return m_expandBuddy; }
     /// Gives the spear its link icon. The spear becomes its parent and owner; the icon it replaces
     /// is deleted. Null removes the icon.
@@ -177,11 +185,15 @@ public:
 
     /// As the base class does; a line that was set by hand stands until the next layout.
     void setLine(const QLineF &line);
+    /// The same, from the coordinates of the two points.
     void setLine(qreal x1, qreal y1, qreal x2, qreal y2) { setLine(QLineF(x1, y1, x2, y2)); }
+    /// The direction of the bone, as FishEditor::directionFor() gives it.
     int direction() const { return m_direction; }
+    /// Stores the direction; the next layout follows it.
     void setDirection(int direction);
     /// -1: the drawing grows to the left of the head.
     int side() const { return m_side; }
+    /// The length of the bone with its children.
     double spearSize() const { return m_spearSize; }
     /// Distance along the parent's bone.
     double offset() const { return m_offset; }
@@ -197,6 +209,7 @@ public:
     /// As updatePosition(), but companions that stand in their places already are not placed
     /// again. For FishLayout.
     void place(SpearItem *parent);
+    /// The layout is done: the text is measured whenever it is asked for. For FishLayout.
     void endLayout() { m_isInLayout = false; }
     /// Records the size of the next child spear.
     void sumChildSize(const QSizeF &size);
@@ -210,8 +223,11 @@ public:
     void updatePosition(const QPointF &position);
 
     QRectF textRect() const; ///< what the text adds to the bounding rectangle
+    /// The expand button's position.
     QPointF expandBuddyPosition() const;
+    /// The link icon's position.
     QPointF linkBuddyPosition() const;
+    /// The status icon's position.
     QPointF TaskStateItemPosition() const;
     /// The text box's position. Also sets the text box's rotation.
     QPointF textBuddyPosition();

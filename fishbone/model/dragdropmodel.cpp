@@ -6,6 +6,7 @@
 #include <fishbone/model/treeitem.h>
 
 #include <QDataStream>
+#include <QIODevice>
 #include <QMimeData>
 
 namespace {

@@ -19,6 +19,7 @@ class FISHBONE_EXPORT DragDropModel : public QAbstractItemModel
     Q_OBJECT
 
 public:
+    /** A model for subclasses to fill. */
     explicit DragDropModel(QObject *parent = nullptr);
 
     /** "text/plain", "QModelIndexList" and "TreeItems", the last one only announced. */
@@ -50,9 +51,9 @@ protected:
     /** One dragged index as the payload holds it. The pointer is a number until it is verified. */
     struct Record
     {
-        int row;
-        int column;
-        quintptr pointer;
+        int row;          ///< the row in its parent
+        int column;       ///< the column
+        quintptr pointer; ///< the internal pointer
     };
 
     /**

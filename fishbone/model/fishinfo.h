@@ -37,7 +37,9 @@ public:
 
     /** The document's file; a canonical path once setCurrentFile() named it. */
     QString fileName() const { return m_curFile; }
+    /** Stores the file name and nothing else; see setCurrentFile(). */
     void setFileName(const QString &fileName) { m_curFile = fileName; }
+    /** Whether there are unsaved changes. */
     bool modified() const { return m_modified; }
     /** Saving does not clear the flag: the host does, here or with setCurrentFile(). */
     void setModified(bool modified) { m_modified = modified; }
@@ -47,21 +49,26 @@ public:
     TreeItem *treeItem() const { return m_treeItem.get(); }
     /** How many nodes the last load made. */
     int nodeCount() const { return m_nodeCount; }
+    /** Stores the number of nodes. */
     void setNodeCount(int count) { m_nodeCount = count; }
     /** How many nodes have no parent task: as loaded, or as last recounted. */
     int noParentNodeCount() const { return m_noParentNodeCount; }
+    /** Stores the number of nodes without a parent task. */
     void setNoParentNodeCount(int count) { m_noParentNodeCount = count; }
     /** The file that autosave writes; empty until the first autosave picks one. */
     QString autoSaveFile() const { return m_autoSaveFile; }
+    /** Chooses the file that autosave writes. */
     void setAutoSaveFile(const QString &fileName) { m_autoSaveFile = fileName; }
     /** The model that shows the document; not owned, null when there is none. */
     QAbstractItemModel *model() const { return m_model.data(); }
+    /** Stores the model; the document enters no list. */
     void setModel(QAbstractItemModel *model) { m_model = model; }
 
     /** Names the document after the canonical form of @p path; its changes count as saved then. */
     void setCurrentFile(const QString &path);
     /** The file-name part of @p path. */
     QString strippedName(const QString &path) const;
+    /** The file-name part of fileName(). */
     QString userFriendlyCurrentFile() const;
 
     /** Empties the tree and clears the modified flag; counters, names and history stay. */

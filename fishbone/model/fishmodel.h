@@ -52,11 +52,15 @@ class FISHBONE_EXPORT FishModel : public DragDropModel
     Q_OBJECT
 
 public:
+    /** A model without documents. */
     explicit FishModel(QObject *parent = nullptr);
     /** Deletes the documents. */
     ~FishModel() override;
 
-    /** @name Structure and data @{ */
+    /**
+     * @name Structure and data
+     * @{
+     */
     QModelIndex index(int row, int column,
                       const QModelIndex &parent = QModelIndex()) const override;
     using QObject::parent;
@@ -74,7 +78,10 @@ public:
     bool setData(const QModelIndex &index, const QVariant &value, int role = Qt::EditRole) override;
     /** @} */
 
-    /** @name Row operations @{ */
+    /**
+     * @name Row operations
+     * @{
+     */
     /**
      * Inserts new subjects, or new documents at the top level, each with a uuid of its own; or the
      * nodes that insertExistItemRows() left waiting, all at @p row, so that they end up in reverse.
@@ -118,7 +125,11 @@ public:
     void refreshModel();
     /** @} */
 
-    /** @name Documents @{ */
+    /**
+     * @name Documents
+     * @{
+     */
+    /** The documents in the order of their rows; owned by the model. */
     QList<FishInfo *> fishList() const { return m_fishList; }
     /** Makes @p count documents with a head without uuid at @p row; tells no view. */
     bool insertFishToList(int row, int count);
@@ -168,7 +179,10 @@ public:
     QModelIndex findFish(const QString &fileName) const;
     /** @} */
 
-    /** @name Lookup @{ */
+    /**
+     * @name Lookup
+     * @{
+     */
     /** The node of @p index, null for an invalid index and for one of another model. */
     TreeItem *getTreeItem(const QModelIndex &index) const;
     /** The node above @p index, null for a head. */
@@ -186,11 +200,16 @@ public:
     QModelIndex modelIndexByUuid(const QString &uuid) const;
     /** All indexes, in pre-order, whose title contains @p key in any case. Linear. */
     QModelIndexList searchModelIndexes(const QString &key) const;
+    /** What heads show and which context menu the editor offers. */
     FISH_MODEL_TYPE modelType() const { return m_modelType; }
+    /** Chooses that; views are not told. */
     void setModelType(FISH_MODEL_TYPE type) { m_modelType = type; }
     /** @} */
 
-    /** @name Loading: each success appends a document @{ */
+    /**
+     * @name Loading: each success appends a document
+     * @{
+     */
     /**
      * Loads from text; null when it is no JSON document, and when a listener of the insertion has
      * unloaded it again. Emits no fishLoaded().
@@ -216,7 +235,10 @@ public:
     void setReplyLimit(qint64 bytes) { m_replyLimit = bytes; }
     /** @} */
 
-    /** @name Node objects of the diagram format @{ */
+    /**
+     * @name Node objects of the diagram format
+     * @{
+     */
     /**
      * Sets @p out to the object of @p item with its subtree, or, with @p includeItem false, to that
      * of its last child (@p out stays when it has none). Nothing for null. A subtree of more than

@@ -24,6 +24,7 @@ class FISHBONE_EXPORT FishProxyModel : public QSortFilterProxyModel
     Q_OBJECT
 
 public:
+    /** A proxy without a source. */
     explicit FishProxyModel(QObject *parent = nullptr);
     ~FishProxyModel() override;
 

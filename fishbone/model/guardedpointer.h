@@ -11,11 +11,13 @@ template <typename Object>
 class GuardCell
 {
 public:
+    /// A cell that nobody shares yet.
     GuardCell() = default;
     GuardCell(const GuardCell &) = delete;
     GuardCell &operator=(const GuardCell &) = delete;
     ~GuardCell() { clear(); }
 
+    /// The cell for pointers at \a object, whose member this is.
     std::shared_ptr<Object *> shared(Object *object)
     {
         if (!m_cell)
@@ -39,6 +41,7 @@ template <typename Object>
 class GuardedPointer
 {
 public:
+    /// Points at nothing.
     GuardedPointer() = default;
     /// Guards \a object, which may be null.
     GuardedPointer(Object *object)

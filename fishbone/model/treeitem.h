@@ -62,7 +62,11 @@ public:
      */
     ~TreeItem();
 
-    /** @name Model columns: 0 title, 1 uuid, 2 showid, 3 pid, 4 type @{ */
+    /**
+     * @name Model columns: 0 title, 1 uuid, 2 showid, 3 pid, 4 type
+     * @{
+     */
+    /** The number of columns, the same for every node. */
     int columnCount() const;
     /** The value of @p column, or an invalid QVariant for a column that does not exist. */
     QVariant data(int column) const;
@@ -70,7 +74,11 @@ public:
     bool setData(int column, const QVariant &value);
     /** @} */
 
-    /** @name Place in the tree @{ */
+    /**
+     * @name Place in the tree
+     * @{
+     */
+    /** The node above this one, null when there is none. */
     TreeItem *parent() const { return m_parent; }
     /** Names another parent; no list changes. A parent inside the node's own subtree is ignored. */
     void setParent(TreeItem *parent);
@@ -78,6 +86,7 @@ public:
     QList<TreeItem *> children() const { return m_children; }
     /** The children in display order, for loops that do not change the tree. */
     const QList<TreeItem *> &childItems() const { return m_children; }
+    /** The number of children. */
     int childCount() const { return m_children.size(); }
     /** The child at @p i, null when there is none. */
     TreeItem *childAtIndex(int i) const { return m_children.value(i, nullptr); }
@@ -128,60 +137,98 @@ public:
     bool removeChildren(int position, int count);
     /** @} */
 
-    /** @name Attributes @{ */
+    /**
+     * @name Attributes
+     * @{
+     */
+    /** The text that the bone shows. */
     const QString &title() const { return m_title; }
     /** Stores the title; a linked spear shows it at once. */
     void setTitle(const QString &title);
     /** Identity of the subject; empty or "-1" counts as none. */
     const QString &uuid() const { return m_uuid; }
+    /** Stores the identity; the pids of the children stay. */
     void setUuid(const QString &uuid) { m_uuid = uuid; }
     /** Gives a node without identity a random one; true when it did. */
     bool ensureUuid();
+    /** The short identifier that users see. */
     const QString &showid() const { return m_showid; }
+    /** Stores the short identifier. */
     void setShowid(const QString &showid) { m_showid = showid; }
     /** Uuid of the parent task; empty or "-1" means none. */
     const QString &pid() const { return m_pid; }
+    /** Stores the uuid of the parent task; the node stays where it is. */
     void setPid(const QString &pid) { m_pid = pid; }
+    /** The address that the subject is linked to, empty for none. */
     const QString &url() const { return m_url; }
+    /** Stores the link; the spear is brought in line by the next layout. */
     void setUrl(const QString &url);
+    /** The description, plain text. */
     const QString &detail() const { return m_detail; }
+    /** Stores the description. */
     void setDetail(const QString &detail) { m_detail = detail; }
+    /** The kind of task, a number of the host's. */
     int type() const { return m_type; }
+    /** Stores the kind of task. */
     void setType(int type) { m_type = type; }
+    /** The status of the task, a TaskStatus; -1 for none. */
     int status() const { return m_status; }
+    /** Stores the status. */
     void setStatus(int status);
+    /** The progress of the task in per cent. */
     int progress() const { return m_progress; }
+    /** Stores the progress. */
     void setProgress(int progress);
+    /** The priority, a number of the host's; -1 for none. */
     int priority() const { return m_priority; }
+    /** Stores the priority. */
     void setPriority(int priority) { m_priority = priority; }
+    /** The name of who is responsible. */
     const QString &managerName() const { return m_managerName; }
+    /** Stores the name of who is responsible. */
     void setManagerName(const QString &name) { m_managerName = name; }
+    /** The host's identifier of who is responsible. */
     const QString &managerId() const { return m_managerId; }
+    /** Stores the identifier of who is responsible. */
     void setManagerId(const QString &id) { m_managerId = id; }
+    /** The name of who made the task. */
     const QString &creatorName() const { return m_creatorName; }
+    /** Stores the name of who made the task. */
     void setCreatorName(const QString &name) { m_creatorName = name; }
+    /** The host's identifier of who made the task. */
     const QString &creatorId() const { return m_creatorId; }
+    /** Stores the identifier of who made the task. */
     void setCreatorId(const QString &id) { m_creatorId = id; }
+    /** The host's identifiers of who follows the task. */
     const QStringList &followers() const { return m_followers; }
     /** Replaces the followers. */
     void setFollowers(const QStringList &followers) { m_followers = followers; }
     /** Appends the text of each element to the followers there are. */
     void setFollowers(const QJsonArray &followers);
+    /** Appends a follower. */
     void addFollower(const QString &follower) { m_followers.append(follower); }
     /** Milliseconds since the Unix epoch; 0 means unset. */
     qint64 createDate() const { return m_createDate; }
+    /** Stores the creation time. */
     void setCreateDate(qint64 msecs) { m_createDate = msecs; }
     /** Milliseconds since the Unix epoch; 0 means unset. */
     qint64 planEndDate() const { return m_planEndDate; }
+    /** Stores the planned end. */
     void setPlanEndDate(qint64 msecs) { m_planEndDate = msecs; }
+    /** Whether FishModel::updateItem() changed the node. */
     bool isEditModified() const { return m_editModified; }
+    /** Stores that mark. */
     void setEditModified(bool modified) { m_editModified = modified; }
     /** Whether the node's bone may be dragged. */
     bool spearItemIsMovable() const { return m_spearItemIsMovable; }
+    /** Allows or forbids dragging the bone; a linked spear takes it over at the next layout. */
     void setSpearItemIsMovable(bool movable) { m_spearItemIsMovable = movable; }
     /** @} */
 
-    /** @name Spear @{ */
+    /**
+     * @name Spear
+     * @{
+     */
     /**
      * Links @p spear, which may be null, and hands it @p index. The spear that was linked before
      * forgets this node.
@@ -191,7 +238,10 @@ public:
     SpearItem *spear() const { return m_spear; }
     /** @} */
 
-    /** @name Own style @{ */
+    /**
+     * @name Own style
+     * @{
+     */
     /** Replaces the own style by the one that @p object describes; an empty object removes it. */
     void setSpearStyle(const QJsonObject &object);
     /**

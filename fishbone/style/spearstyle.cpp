@@ -15,6 +15,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QPen>
+#include <QStringList>
 
 namespace {
 
@@ -34,10 +35,39 @@ constexpr QLatin1String textColorKey = key("textColor");
 constexpr QLatin1String textBkColorKey = key("textBkColor");
 constexpr QLatin1String broderPenKey = key("broderPen");
 
-/** The description of a font that every version of Qt reads, which is the one that Qt 5 writes. */
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+/** The weight of @p font on the scale from 0 to 99 that Qt 5 has: the step nearest to it. */
+int narrowWeight(const QFont &font)
+{
+    // Thin to Black, the hundreds from 100 to 900.
+    static constexpr std::array<int, 9> steps{0, 12, 25, 50, 57, 63, 75, 81, 87};
+    return steps[size_t(qBound(100, int(font.weight()), 900) + 50) / 100 - 1];
+}
+#endif
+
+/**
+ * The description of a font that every version of Qt reads, which is the one that Qt 5 writes. What
+ * Qt 6 writes has more fields than Qt 5 accepts, and weights up to 1000.
+ */
 QString fontText(const QFont &font)
 {
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+    QStringList fields{font.family(),
+                       QString::number(font.pointSizeF()),
+                       QString::number(font.pixelSize()),
+                       QString::number(font.styleHint()),
+                       QString::number(narrowWeight(font)),
+                       QString::number(font.style()),
+                       QString::number(int(font.underline())),
+                       QString::number(int(font.strikeOut())),
+                       QString::number(int(font.fixedPitch())),
+                       QStringLiteral("0")};
+    if (!font.styleName().isEmpty())
+        fields.append(font.styleName());
+    return fields.join(QLatin1Char(','));
+#else
     return font.toString();
+#endif
 }
 
 QJsonObject colorToJson(const QColor &color)

@@ -33,6 +33,7 @@ public:
     QString uuid() const;
 
 protected:
+    /** Remembers the subject at @p index by its uuid. The model is not owned. */
     AttributeCommand(const QString &text, QAbstractItemModel *model, const QModelIndex &index);
 
     /** The model, null when it is gone. */
@@ -53,11 +54,13 @@ class FISHBONE_EXPORT ModifyName : public AttributeCommand
     Q_OBJECT
 
 public:
+    /** Will give the subject at @p index the title @p name. */
     ModifyName(QAbstractItemModel *model, const QModelIndex &index, const QString &name);
 
     void undo() override;
     void redo() override;
 
+    /** The title that redo() gives. */
     QString newName() const { return m_newName; }
     /** The plain title before the last redo(), without the counts that a head shows. */
     QString oldName() const { return m_oldName; }
@@ -74,11 +77,13 @@ class FISHBONE_EXPORT ModifyLinkTo : public AttributeCommand
     Q_OBJECT
 
 public:
+    /** Will link the subject at @p index to @p url. */
     ModifyLinkTo(QAbstractItemModel *model, const QModelIndex &index, const QString &url);
 
     void undo() override;
     void redo() override;
 
+    /** The link that redo() gives. */
     QString newUrl() const { return m_newUrl; }
     /** The link before the last redo(). */
     QString oldUrl() const { return m_oldUrl; }
@@ -95,6 +100,7 @@ class FISHBONE_EXPORT ModifyDelLink : public AttributeCommand
     Q_OBJECT
 
 public:
+    /** Will remove the link of the subject at @p index. */
     ModifyDelLink(QAbstractItemModel *model, const QModelIndex &index);
 
     void undo() override;
@@ -123,6 +129,7 @@ public:
     /** Applies the values as FishModel::updateItem() does, without a signal. */
     void redo() override;
 
+    /** The record with the new values. */
     TreeItem *item() const { return m_item; }
 
 private:

@@ -53,11 +53,12 @@ protected:
     /** Where a subject goes: a row below a parent, which is invalid for the top level. */
     struct Place
     {
-        QModelIndex parent;
-        int row;
+        QModelIndex parent; ///< the subject above
+        int row;            ///< the row below it
     };
     struct Private;
 
+    /** Remembers the subject at @p reference, which tells the place, by its uuid. */
     InsertCommand(const QString &text, QAbstractItemModel *model, const QModelIndex &reference);
 
     /** Where the subject goes when @p reference, which may be invalid, is the subject named. */
@@ -65,7 +66,7 @@ protected:
     /** Puts the subject there; false when it cannot stand there. */
     virtual bool insertAt(const Place &place);
 
-    const std::unique_ptr<Private> m_d;
+    const std::unique_ptr<Private> m_d; ///< what the commands of this file share
 };
 
 /** Appends a new child; a new diagram when there is no such parent. */
@@ -98,6 +99,7 @@ class FISHBONE_EXPORT InsertBack : public InsertCommand
     Q_OBJECT
 
 public:
+    /** The new subject goes behind @p index. */
     InsertBack(QAbstractItemModel *model, const QModelIndex &index);
 
 protected:
@@ -110,6 +112,7 @@ class FISHBONE_EXPORT InsertFront : public InsertCommand
     Q_OBJECT
 
 public:
+    /** The new subject goes in front of @p index. */
     InsertFront(QAbstractItemModel *model, const QModelIndex &index);
 
 protected:
@@ -127,6 +130,7 @@ class FISHBONE_EXPORT InsertParent : public InsertCommand
     Q_OBJECT
 
 public:
+    /** The new subject goes above @p index. */
     InsertParent(QAbstractItemModel *model, const QModelIndex &index);
 
     void undo() override;
@@ -148,6 +152,7 @@ class FISHBONE_EXPORT InsertFree : public InsertCommand
     Q_OBJECT
 
 public:
+    /** The new diagram goes behind all others. */
     explicit InsertFree(QAbstractItemModel *model);
 
 protected:
@@ -186,6 +191,7 @@ public:
     void redo() override;
 
     /** The snapshot. */
+    /** The snapshot. */
     QJsonObject objects() const;
     /** Where the subjects stood when redo() came to them, in its order; -1 for one not found. */
     QList<int> rows() const;
@@ -207,6 +213,7 @@ class FISHBONE_EXPORT EditPaste : public UndoCommand
     Q_OBJECT
 
 public:
+    /** Will add copies of the subjects of @p objects, a snapshot, below @p target. */
     EditPaste(FishModel *model, const QModelIndex &target, const QJsonObject &objects);
     ~EditPaste() override;
 
@@ -220,6 +227,7 @@ public:
     void undo() override;
     void redo() override;
 
+    /** The snapshot. */
     QJsonObject objects() const;
     /** The uuid of the subject that the copies go below; "-1" when there is none. */
     QString targetUuid() const;
@@ -247,7 +255,7 @@ class FISHBONE_EXPORT EditMove : public UndoCommand
 
 public:
     /**
-     * Moves the subjects that @p objects names. @p subjects are the very ones that the snapshot was
+     * Moves the subjects that @p objects names to @p row below @p target. @p subjects are the very ones that the snapshot was
      * taken of, in its order, where they are known: the ones meant among several of one uuid, and
      * found without a search.
      */
@@ -261,6 +269,7 @@ public:
     void undo() override;
     void redo() override;
 
+    /** The snapshot. */
     QJsonObject objects() const;
     /** The uuid of the new parent; "-1" when there is none. */
     QString targetUuid() const;

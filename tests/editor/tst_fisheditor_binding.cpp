@@ -1,8 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Fishbone authors
 // SPDX-License-Identifier: MIT
 
+#include <QPointer>
 #include <QStandardItemModel>
 #include <QtTest>
+
+#include <memory>
 
 #include <tests/support/drawingtext.h>
 #include <tests/support/editorfixture.h>
@@ -28,6 +31,7 @@ private Q_SLOTS:
     void shouldDrawOnWithoutAModel();
     void shouldIgnoreWhatAnEarlierModelGoesThrough();
     void shouldIgnoreTheDeathOfALaterModel();
+    void shouldDieBeforeAModelBelowIt();
 };
 
 namespace {
@@ -306,6 +310,20 @@ void TestFishEditorBinding::shouldIgnoreTheDeathOfALaterModel()
     fish.model.setData(fish.index(QStringLiteral("Man")), QStringLiteral("Men"));
     fish.editor.updateFish(false);
     QCOMPARE(fish.spear(QStringLiteral("Men"))->text(), QStringLiteral("Men"));
+}
+
+void TestFishEditorBinding::shouldDieBeforeAModelBelowIt()
+{
+    auto editor = std::make_unique<FishEditor>();
+    const QPointer<FishModel> model = new FishModel(editor.get());
+    loadDocument(*model, QStringLiteral("Effect[Man,Machine]"));
+    editor->setModel(model);
+    editor->setRootIndex(model->index(0, 0));
+    QVERIFY(editor->headSpear());
+
+    editor.reset(); // the model calls nothing of the editor that is gone
+
+    QVERIFY(!model);
 }
 
 QTEST_MAIN(TestFishEditorBinding)

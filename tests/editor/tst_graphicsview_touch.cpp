@@ -11,6 +11,10 @@
 #include <tests/support/editorfixture.h>
 #include <tests/support/signalrecorder.h>
 
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+#include <QPointingDevice>
+#endif
+
 using namespace TestSupport;
 
 namespace {
@@ -54,6 +58,18 @@ private:
 
     QPoint m_start;
 };
+
+/// A gesture of two fingers on a touchpad.
+QNativeGestureEvent touchpadGesture(Qt::NativeGestureType type, double value)
+{
+    const QPointF pos(50, 50);
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+    return QNativeGestureEvent(type, QPointingDevice::primaryPointingDevice(), 2, pos, pos, pos,
+                               value, QPointF());
+#else
+    return QNativeGestureEvent(type, nullptr, pos, pos, pos, value, 0, 0);
+#endif
+}
 
 } // namespace
 
@@ -139,8 +155,7 @@ void tst_GraphicsViewTouch::shouldZoomWithAPinchOnATouchpad()
     ZoomedEditor fixture;
     QVERIFY(fixture.prepare());
     SignalRecorder recorder(fixture.editor, {QStringLiteral("zoomValueChanged")});
-    QNativeGestureEvent twice(Qt::ZoomNativeGesture, nullptr, QPointF(50, 50), QPointF(50, 50),
-                              QPointF(50, 50), 1.0, 0, 0);
+    QNativeGestureEvent twice = touchpadGesture(Qt::ZoomNativeGesture, 1.0);
     QCoreApplication::sendEvent(fixture.editor.view()->viewport(), &twice);
     QCOMPARE(recorder.take(), QStringLiteral("zoomValueChanged(450)"));
 }
@@ -163,8 +178,7 @@ void tst_GraphicsViewTouch::shouldIgnoreOtherGestures()
     ZoomedEditor fixture;
     QVERIFY(fixture.prepare());
     SignalRecorder recorder(fixture.editor, {QStringLiteral("zoomValueChanged")});
-    QNativeGestureEvent turn(Qt::RotateNativeGesture, nullptr, QPointF(50, 50), QPointF(50, 50),
-                             QPointF(50, 50), 10, 0, 0);
+    QNativeGestureEvent turn = touchpadGesture(Qt::RotateNativeGesture, 10);
     QCoreApplication::sendEvent(fixture.editor.view()->viewport(), &turn);
     QCOMPARE(recorder.take(), QString());
     QCOMPARE(fixture.editor.zoomValue(), 400);

@@ -7,6 +7,7 @@
 #include <fishbone/model/treeitem.h>
 
 #include <tests/support/documents.h>
+#include <tests/support/metatypes.h>
 
 #include <QAbstractItemModelTester>
 #include <QBrush>
@@ -76,8 +77,8 @@ void TestFishModel::shouldRegisterItsTypes()
 {
     const FishModel model;
 
-    QVERIFY(QMetaType::type("MODEL_ERROR") != QMetaType::UnknownType);
-    QVERIFY(QMetaType::type("TreeItem*") != QMetaType::UnknownType);
+    QVERIFY(isRegisteredType("MODEL_ERROR"));
+    QVERIFY(isRegisteredType("TreeItem*"));
 }
 
 void TestFishModel::shouldStartEmpty()

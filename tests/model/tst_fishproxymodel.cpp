@@ -226,12 +226,14 @@ void TestFishProxyModel::shouldFollowEveryKindOfFilter()
     QCOMPARE(shown(), needle);
     m_proxy->setFilterRegularExpression(QRegularExpression(QStringLiteral("nee")));
     QCOMPARE(shown(), none);
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0) // the other kind of filter that Qt 5 has
     m_proxy->setFilterRegExp(QStringLiteral("^N"));
     QCOMPARE(shown(), needle);
     m_proxy->setFilterRegExp(QStringLiteral("^n"));
     QCOMPARE(shown(), none);
     m_proxy->setFilterRegExp(QRegExp(QStringLiteral("^n"), Qt::CaseInsensitive));
     QCOMPARE(shown(), needle);
+#endif
     m_proxy->setFilterFixedString(QString());
     QCOMPARE(shown(), ModelFollower(*m_model).text());
 }

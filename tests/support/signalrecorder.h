@@ -4,10 +4,12 @@
 #pragma once
 
 #include <QMetaMethod>
+#include <QMetaType>
 #include <QModelIndex>
 #include <QObject>
 #include <QStringList>
-#include <QVariant>
+
+#include <tests/support/metatypes.h>
 
 namespace TestSupport {
 
@@ -68,12 +70,13 @@ private:
         }
         if (type == QMetaType::UnknownType)
             return QStringLiteral("?");
-        if (QByteArray(QMetaType::typeName(type)).endsWith('*'))
+        const QMetaType metaType(type);
+        if (QByteArray(metaType.name()).endsWith('*'))
             return *static_cast<void *const *>(value) ? QStringLiteral("object")
                                                       : QStringLiteral("null");
-        if (QMetaType::typeFlags(type) & QMetaType::IsEnumeration)
+        if (metaType.flags() & QMetaType::IsEnumeration)
             return QString::number(*static_cast<const int *>(value));
-        return QVariant(type, value).toString();
+        return variantOf(type, value).toString();
     }
 
     QList<QMetaMethod> m_signals;
