@@ -255,9 +255,9 @@ class FISHBONE_EXPORT EditMove : public UndoCommand
 
 public:
     /**
-     * Moves the subjects that @p objects names to @p row below @p target. @p subjects are the very ones that the snapshot was
-     * taken of, in its order, where they are known: the ones meant among several of one uuid, and
-     * found without a search.
+     * Moves the subjects that @p objects names to @p row below @p target. @p subjects are the very
+     * ones that the snapshot was taken of, in its order, where they are known: the ones meant among
+     * several of one uuid, and found without a search.
      */
     EditMove(FishModel *model, const QModelIndex &target, int row, const QJsonObject &objects,
              const QList<TreeItem *> &subjects = {});
