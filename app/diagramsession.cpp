@@ -11,7 +11,10 @@
 #include <fishbone/items/spearitem.h>
 #include <fishbone/model/fishinfo.h>
 #include <fishbone/model/fishmodel.h>
+#include <fishbone/model/systemhelper.h>
 #include <fishbone/undo/undostack.h>
+
+#include <QFileInfo>
 
 DiagramSession::DiagramSession(FishModel *model, FishEditor *editor, QObject *parent)
     : QObject(parent)
@@ -50,6 +53,14 @@ DiagramSession::DiagramSession(FishModel *model, FishEditor *editor, QObject *pa
 FishInfo *DiagramSession::document() const
 {
     return m_editor->headSpear() ? m_editor->currentFishInfo() : nullptr;
+}
+
+QString DiagramSession::folder() const
+{
+    const FishInfo *const shown = document();
+    if (shown && !shown->isUntitled())
+        return QFileInfo(shown->fileName()).absolutePath();
+    return SystemHelper::documentsLocation();
 }
 
 QModelIndex DiagramSession::headOf(const FishInfo *document) const

@@ -37,6 +37,8 @@ public:
     FishEditor *editor() const { return m_editor; }
     /** The document that is shown, or null. */
     FishInfo *document() const;
+    /** Where the file of the shown document is, or where documents usually are. */
+    QString folder() const;
     /** The head of @p document. */
     QModelIndex headOf(const FishInfo *document) const;
 

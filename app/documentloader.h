@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <fishbone/exchange/diagramexchange.h>
 #include <fishbone/model/fishmodel.h>
 
 #include <QObject>
@@ -15,7 +16,7 @@ class QNetworkReply;
 /**
  * Loads documents into a model, in the order in which they were asked for, and can say why one
  * failed. Files are named after their path, so that they are saved where they come from; what comes
- * from a URL has to be given a name.
+ * from a URL, or from a file in the format of another program, has to be given a name.
  */
 class DocumentLoader : public QObject
 {
@@ -51,6 +52,8 @@ Q_SIGNALS:
 private:
     void loadNext();
     void loadFile(const QString &path);
+    void importFile(const QString &path, DiagramExchange::Format format);
+    QString freeName(const QString &baseName) const;
     void fetch(const QUrl &url);
     void endFetch(const QModelIndex &index, MODEL_ERROR error);
     void finish(FishInfo *document, const QString &reason);

@@ -8,7 +8,9 @@
 #include <app/detailspanel.h>
 #include <app/diagramsession.h>
 #include <app/editcommands.h>
+#include <app/exportcommands.h>
 #include <app/filecommands.h>
+#include <app/filedrop.h>
 #include <app/historypanel.h>
 #include <app/linkopener.h>
 #include <app/menus.h>
@@ -48,7 +50,8 @@ MainWindow::MainWindow(QWidget *parent)
     setWindowIcon(QIcon(QStringLiteral(":/app/icon.svg")));
     setUpEditor();
     auto *const controls = new ZoomControls(m_editor, this);
-    m_files = new FileCommands(m_session, m_theme, m_actions, this);
+    m_files = new FileCommands(m_session, m_actions, this);
+    m_exports = new ExportCommands(m_session, m_theme, m_actions, this);
     m_edits = new EditCommands(m_session, m_actions, this);
     m_views = new ViewCommands(m_session, m_theme, controls, m_actions, this);
     m_actions->add(QStringLiteral("details"), tr("&Details"), {Qt::Key_F4},
@@ -124,10 +127,17 @@ void MainWindow::connectGestures()
 {
     const auto show = [this](const QString &text) { statusBar()->showMessage(text, 10000); };
     connect(m_files, &FileCommands::message, this, show);
+    connect(m_exports, &ExportCommands::message, this, show);
     connect(m_edits, &EditCommands::message, this, show);
     auto *const links = new LinkOpener(this);
     connect(links, &LinkOpener::failed, this,
             [show](const QUrl &url) { show(tr("Nothing opens %1").arg(url.toDisplayString())); });
+
+    auto *const drops = new FileDrop(this);
+    drops->watch(this);
+    drops->watch(m_editor->view()->viewport());
+    // Queued, since the program from which the file comes waits for the end of the drop.
+    connect(drops, &FileDrop::dropped, this, &MainWindow::open, Qt::QueuedConnection);
 
     connect(m_editor, &FishEditor::editTaskDetail, this, &MainWindow::showDetails);
     connect(m_editor, &FishEditor::oneTaskClicked, this,
@@ -169,6 +179,7 @@ void MainWindow::updateState()
                             : tr("Fishbone"));
     setWindowModified(document && document->modified());
     m_files->updateActions();
+    m_exports->updateActions();
     m_edits->updateActions();
     m_views->updateActions();
     m_details->showSubject(m_editor->firstSelectedSpearIndex());

@@ -11,6 +11,7 @@ class CanvasTheme;
 class DetailsPanel;
 class DiagramSession;
 class EditCommands;
+class ExportCommands;
 class FileCommands;
 class FishEditor;
 class FishModel;
@@ -59,6 +60,7 @@ private:
     CanvasTheme *m_theme;
     ActionSet *m_actions;
     FileCommands *m_files = nullptr;
+    ExportCommands *m_exports = nullptr;
     EditCommands *m_edits = nullptr;
     ViewCommands *m_views = nullptr;
     SubjectTree *m_tree = nullptr;

@@ -23,7 +23,8 @@ struct Bar
 
 constexpr Bar menus[] = {
     {"fileMenu", QT_TRANSLATE_NOOP("Menus", "&File"),
-     "new newExample newFromTemplate | open url recover | save saveAs saveAll | export print | "
+     "new newExample newFromTemplate | open import url recover | save saveAs saveAll | export "
+     "exportAs print | "
      "close quit"},
     {"editMenu", QT_TRANSLATE_NOOP("Menus", "&Edit"),
      "undo redo | cut copy paste delete | selectAll find"},

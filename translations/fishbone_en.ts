@@ -654,6 +654,41 @@ The exit code is 3 when anything is.</translation>
     </message>
 </context>
 <context>
+    <name>ExportCommands</name>
+    <message>
+        <source>&amp;Export picture…</source>
+        <translation>&amp;Export picture…</translation>
+    </message>
+    <message>
+        <source>E&amp;xport as…</source>
+        <translation>E&amp;xport as…</translation>
+    </message>
+    <message>
+        <source>&amp;Print…</source>
+        <translation>&amp;Print…</translation>
+    </message>
+    <message>
+        <source>%1 written</source>
+        <translation>%1 written</translation>
+    </message>
+    <message>
+        <source>Export picture</source>
+        <translation>Export picture</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2.</source>
+        <translation>%1 cannot be written: %2.</translation>
+    </message>
+    <message>
+        <source>Export as</source>
+        <translation>Export as</translation>
+    </message>
+    <message>
+        <source>its ending tells none of the formats</source>
+        <translation>its ending tells none of the formats</translation>
+    </message>
+</context>
+<context>
     <name>ExportDialog</name>
     <message>
         <source>Export picture</source>
@@ -739,14 +774,6 @@ The exit code is 3 when anything is.</translation>
         <translation>Save a&amp;ll</translation>
     </message>
     <message>
-        <source>&amp;Export picture…</source>
-        <translation>&amp;Export picture…</translation>
-    </message>
-    <message>
-        <source>&amp;Print…</source>
-        <translation>&amp;Print…</translation>
-    </message>
-    <message>
         <source>&amp;Close</source>
         <translation>&amp;Close</translation>
     </message>
@@ -799,16 +826,16 @@ The exit code is 3 when anything is.</translation>
         <translation>%1 saved</translation>
     </message>
     <message>
-        <source>%1 written</source>
-        <translation>%1 written</translation>
+        <source>Fishbone diagrams (*.json);;%1;;All files (*)</source>
+        <translation>Fishbone diagrams (*.json);;%1;;All files (*)</translation>
     </message>
     <message>
-        <source>Export picture</source>
-        <translation>Export picture</translation>
+        <source>&amp;Import…</source>
+        <translation>&amp;Import…</translation>
     </message>
     <message>
-        <source>%1 cannot be written: %2.</source>
-        <translation>%1 cannot be written: %2.</translation>
+        <source>Import</source>
+        <translation>Import</translation>
     </message>
 </context>
 <context>

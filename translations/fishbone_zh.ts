@@ -654,6 +654,41 @@ The exit code is 3 when anything is.</source>
     </message>
 </context>
 <context>
+    <name>ExportCommands</name>
+    <message>
+        <source>&amp;Export picture…</source>
+        <translation>导出图片(&amp;E)…</translation>
+    </message>
+    <message>
+        <source>E&amp;xport as…</source>
+        <translation>导出为其他格式(&amp;X)…</translation>
+    </message>
+    <message>
+        <source>&amp;Print…</source>
+        <translation>打印(&amp;P)…</translation>
+    </message>
+    <message>
+        <source>%1 written</source>
+        <translation>已写入 %1</translation>
+    </message>
+    <message>
+        <source>Export picture</source>
+        <translation>导出图片</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2.</source>
+        <translation>无法写入 %1：%2。</translation>
+    </message>
+    <message>
+        <source>Export as</source>
+        <translation>导出为其他格式</translation>
+    </message>
+    <message>
+        <source>its ending tells none of the formats</source>
+        <translation>无法从扩展名判断格式</translation>
+    </message>
+</context>
+<context>
     <name>ExportDialog</name>
     <message>
         <source>Export picture</source>
@@ -739,14 +774,6 @@ The exit code is 3 when anything is.</source>
         <translation>全部保存(&amp;L)</translation>
     </message>
     <message>
-        <source>&amp;Export picture…</source>
-        <translation>导出图片(&amp;E)…</translation>
-    </message>
-    <message>
-        <source>&amp;Print…</source>
-        <translation>打印(&amp;P)…</translation>
-    </message>
-    <message>
         <source>&amp;Close</source>
         <translation>关闭(&amp;C)</translation>
     </message>
@@ -799,16 +826,16 @@ The exit code is 3 when anything is.</source>
         <translation>已保存 %1</translation>
     </message>
     <message>
-        <source>%1 written</source>
-        <translation>已写入 %1</translation>
+        <source>Fishbone diagrams (*.json);;%1;;All files (*)</source>
+        <translation>鱼骨图 (*.json);;%1;;所有文件 (*)</translation>
     </message>
     <message>
-        <source>Export picture</source>
-        <translation>导出图片</translation>
+        <source>&amp;Import…</source>
+        <translation>导入(&amp;I)…</translation>
     </message>
     <message>
-        <source>%1 cannot be written: %2.</source>
-        <translation>无法写入 %1：%2。</translation>
+        <source>Import</source>
+        <translation>导入</translation>
     </message>
 </context>
 <context>
