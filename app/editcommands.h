@@ -26,8 +26,9 @@ public:
     /** Enables the actions as the selection, the clipboard and the undo history allow. */
     void updateActions();
 
-    /** Opens a field for the title of the subject at @p index. */
-    void rename(const QModelIndex &index);
+    /** Opens a field for the title of the subject at @p index, with @p typed in place of the title
+     * unless that is empty. */
+    void rename(const QModelIndex &index, const QString &typed = QString());
     /** Inserts a child under the subject at @p parent and opens a field for its title. */
     void insertChild(const QModelIndex &parent);
     /** Asks for a title and inserts a task of that title under the one at @p parent. */
@@ -42,7 +43,7 @@ private:
     void addClipboardActions();
     void addInsertActions();
     void addSubjectActions();
-    void add(const char *name, const QString &text, const QKeySequence &shortcut,
+    void add(const char *name, const QString &text, const QList<QKeySequence> &shortcuts,
              std::function<void()> run);
     void insertAndRename(const std::function<void()> &edit);
     void changeStyle(const std::function<void()> &edit);

@@ -162,6 +162,7 @@ void FileCommands::newDocument()
     FishInfo *const document = model->fishList().at(row);
     Autosave::redirect(document);
     m_session->showDocument(document);
+    m_session->select(m_session->headOf(document)); // ready to be typed over
 }
 
 void FileCommands::newFromBuiltInTemplate()

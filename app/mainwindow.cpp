@@ -14,9 +14,12 @@
 #include <app/historypanel.h>
 #include <app/linkopener.h>
 #include <app/menus.h>
+#include <app/movecommands.h>
 #include <app/subjecttree.h>
 #include <app/treesync.h>
+#include <app/typedtitle.h>
 #include <app/viewcommands.h>
+#include <app/walkcommands.h>
 #include <app/zoomcontrols.h>
 
 #include <fishbone/editor/fisheditor.h>
@@ -53,6 +56,8 @@ MainWindow::MainWindow(QWidget *parent)
     m_files = new FileCommands(m_session, m_actions, this);
     m_exports = new ExportCommands(m_session, m_theme, m_actions, this);
     m_edits = new EditCommands(m_session, m_actions, this);
+    m_moves = new MoveCommands(m_session, m_actions, this);
+    m_walk = new WalkCommands(m_session, m_actions, this);
     m_views = new ViewCommands(m_session, m_theme, controls, m_actions, this);
     m_actions->add(QStringLiteral("details"), tr("&Details"), {Qt::Key_F4},
                    ActionSet::Scope::Selection,
@@ -108,8 +113,9 @@ void MainWindow::addDocks()
         "historyDock", tr("History"), new HistoryPanel(m_session, this), Qt::RightDockWidgetArea);
     resizeDocks({documents, details}, {240, 280}, Qt::Horizontal);
     resizeDocks({details, history}, {500, 160}, Qt::Vertical);
-    m_actions->addSelectionWidget(m_editor);
-    m_actions->addSelectionWidget(m_tree->view());
+    m_actions->addShortcuts(ActionSet::Scope::Selection, m_editor);
+    m_actions->addShortcuts(ActionSet::Scope::Selection, m_tree->view());
+    m_actions->addShortcuts(ActionSet::Scope::Drawing, m_editor);
 }
 
 void MainWindow::addBars()
@@ -133,6 +139,10 @@ void MainWindow::connectGestures()
     connect(links, &LinkOpener::failed, this,
             [show](const QUrl &url) { show(tr("Nothing opens %1").arg(url.toDisplayString())); });
 
+    auto *const typing = new TypedTitle(m_editor, this);
+    connect(typing, &TypedTitle::typed, this, [this](const QString &text) {
+        m_edits->rename(m_editor->firstSelectedSpearIndex(), text);
+    });
     auto *const drops = new FileDrop(this);
     drops->watch(this);
     drops->watch(m_editor->view()->viewport());
@@ -181,6 +191,8 @@ void MainWindow::updateState()
     m_files->updateActions();
     m_exports->updateActions();
     m_edits->updateActions();
+    m_moves->updateActions();
+    m_walk->updateActions();
     m_views->updateActions();
     m_details->showSubject(m_editor->firstSelectedSpearIndex());
     m_tree->view()->viewport()->update(); // not every change of a title is announced

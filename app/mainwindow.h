@@ -16,9 +16,11 @@ class FileCommands;
 class FishEditor;
 class FishModel;
 class HistoryPanel;
+class MoveCommands;
 class SubjectTree;
 class TreeSync;
 class ViewCommands;
+class WalkCommands;
 
 /** The program's window: the drawing in the middle, documents, details and history around it. */
 class MainWindow : public QMainWindow
@@ -62,6 +64,8 @@ private:
     FileCommands *m_files = nullptr;
     ExportCommands *m_exports = nullptr;
     EditCommands *m_edits = nullptr;
+    MoveCommands *m_moves = nullptr;
+    WalkCommands *m_walk = nullptr;
     ViewCommands *m_views = nullptr;
     SubjectTree *m_tree = nullptr;
     TreeSync *m_sync = nullptr;

@@ -29,8 +29,11 @@ constexpr Bar menus[] = {
     {"editMenu", QT_TRANSLATE_NOOP("Menus", "&Edit"),
      "undo redo | cut copy paste delete | selectAll find"},
     {"subjectMenu", QT_TRANSLATE_NOOP("Menus", "&Subject"),
-     "child before after parent subTask free | rename details | link openLink unlink | style "
+     "child before after parent subTask free | rename details | moveUp moveDown promote demote | "
+     "link openLink unlink | style "
      "removeStyle"},
+    {"goMenu", QT_TRANSLATE_NOOP("Menus", "&Go"),
+     "goLeft goRight goUp goDown | goParent goChild goPrevious goNext"},
     {"viewMenu", QT_TRANSLATE_NOOP("Menus", "&View"),
      "zoomin zoomout fullsize fit fitselection | rotateLeft rotateRight rotateReset | expand "
      "contract expandall contractall | asDiagram back whole visited | diagramMode taskMode | "

@@ -28,7 +28,7 @@ TreeItem *subjectAt(const FishEditor &editor, const QModelIndex &index)
 
 } // namespace
 
-void TitleEditor::open(FishEditor *editor, const QModelIndex &index)
+void TitleEditor::open(FishEditor *editor, const QModelIndex &index, const QString &typed)
 {
     const TreeItem *const subject = subjectAt(*editor, index);
     if (!subject || !subject->spear() || !subject->spear()->isVisible())
@@ -37,7 +37,10 @@ void TitleEditor::open(FishEditor *editor, const QModelIndex &index)
     auto *const field = new TitleEditor(editor, index); // owned by the viewport
     field->show();
     field->setFocus();
-    field->selectAll();
+    if (typed.isEmpty())
+        field->selectAll();
+    else
+        field->setText(typed);
 }
 
 TitleEditor::TitleEditor(FishEditor *editor, const QModelIndex &index)
@@ -91,6 +94,14 @@ void TitleEditor::keyPressEvent(QKeyEvent *event)
         close();
     else
         QLineEdit::keyPressEvent(event);
+}
+
+/** Tab ends the field as Return does, so that the next key is for the drawing again. */
+bool TitleEditor::focusNextPrevChild(bool next)
+{
+    Q_UNUSED(next)
+    finish();
+    return true;
 }
 
 void TitleEditor::finish()

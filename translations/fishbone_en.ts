@@ -1033,6 +1033,10 @@ Do you want to save your changes?</translation>
         <source>View</source>
         <translation>View</translation>
     </message>
+    <message>
+        <source>&amp;Go</source>
+        <translation>&amp;Go</translation>
+    </message>
 </context>
 <context>
     <name>ModifyDelLink</name>
@@ -1053,6 +1057,25 @@ Do you want to save your changes?</translation>
     <message>
         <source>Modify subject name</source>
         <translation>Rename subject</translation>
+    </message>
+</context>
+<context>
+    <name>MoveCommands</name>
+    <message>
+        <source>Move &amp;up</source>
+        <translation>Move &amp;up</translation>
+    </message>
+    <message>
+        <source>Move do&amp;wn</source>
+        <translation>Move do&amp;wn</translation>
+    </message>
+    <message>
+        <source>Pro&amp;mote (beside its parent)</source>
+        <translation>Pro&amp;mote (beside its parent)</translation>
+    </message>
+    <message>
+        <source>D&amp;emote (below the one before)</source>
+        <translation>D&amp;emote (below the one before)</translation>
     </message>
 </context>
 <context>
@@ -1501,6 +1524,41 @@ Do you want to save your changes?</translation>
     <message>
         <source>(nothing yet)</source>
         <translation>(nothing yet)</translation>
+    </message>
+</context>
+<context>
+    <name>WalkCommands</name>
+    <message>
+        <source>To the &amp;left</source>
+        <translation>To the &amp;left</translation>
+    </message>
+    <message>
+        <source>To the &amp;right</source>
+        <translation>To the &amp;right</translation>
+    </message>
+    <message>
+        <source>&amp;Up</source>
+        <translation>&amp;Up</translation>
+    </message>
+    <message>
+        <source>&amp;Down</source>
+        <translation>&amp;Down</translation>
+    </message>
+    <message>
+        <source>To the &amp;parent</source>
+        <translation>To the &amp;parent</translation>
+    </message>
+    <message>
+        <source>To the &amp;first child</source>
+        <translation>To the &amp;first child</translation>
+    </message>
+    <message>
+        <source>To the one &amp;before</source>
+        <translation>To the one &amp;before</translation>
+    </message>
+    <message>
+        <source>To the &amp;next one</source>
+        <translation>To the &amp;next one</translation>
     </message>
 </context>
 <context>

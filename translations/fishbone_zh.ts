@@ -1031,6 +1031,10 @@ Do you want to save your changes?</source>
         <source>View</source>
         <translation>视图</translation>
     </message>
+    <message>
+        <source>&amp;Go</source>
+        <translation>转到(&amp;G)</translation>
+    </message>
 </context>
 <context>
     <name>ModifyDelLink</name>
@@ -1051,6 +1055,25 @@ Do you want to save your changes?</source>
     <message>
         <source>Modify subject name</source>
         <translation>修改主题名称</translation>
+    </message>
+</context>
+<context>
+    <name>MoveCommands</name>
+    <message>
+        <source>Move &amp;up</source>
+        <translation>上移(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Move do&amp;wn</source>
+        <translation>下移(&amp;W)</translation>
+    </message>
+    <message>
+        <source>Pro&amp;mote (beside its parent)</source>
+        <translation>升级（与父主题并列）(&amp;M)</translation>
+    </message>
+    <message>
+        <source>D&amp;emote (below the one before)</source>
+        <translation>降级（移到前一主题之下）(&amp;E)</translation>
     </message>
 </context>
 <context>
@@ -1499,6 +1522,41 @@ Do you want to save your changes?</source>
     <message>
         <source>(nothing yet)</source>
         <translation>（暂无）</translation>
+    </message>
+</context>
+<context>
+    <name>WalkCommands</name>
+    <message>
+        <source>To the &amp;left</source>
+        <translation>向左(&amp;L)</translation>
+    </message>
+    <message>
+        <source>To the &amp;right</source>
+        <translation>向右(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Up</source>
+        <translation>向上(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Down</source>
+        <translation>向下(&amp;D)</translation>
+    </message>
+    <message>
+        <source>To the &amp;parent</source>
+        <translation>到父主题(&amp;P)</translation>
+    </message>
+    <message>
+        <source>To the &amp;first child</source>
+        <translation>到第一个子主题(&amp;F)</translation>
+    </message>
+    <message>
+        <source>To the one &amp;before</source>
+        <translation>到前一主题(&amp;B)</translation>
+    </message>
+    <message>
+        <source>To the &amp;next one</source>
+        <translation>到后一主题(&amp;N)</translation>
     </message>
 </context>
 <context>

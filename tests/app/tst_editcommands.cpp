@@ -74,6 +74,12 @@ void TestEditCommands::shouldInsertByShortcutAndName_data()
     QTest::newRow("child") << int(Qt::Key_Insert) << int(Qt::NoModifier)
                            << QStringLiteral("Late[People[Too few[Illness],Too new],Machines[New],"
                                              "Material[Rust]]");
+    QTest::newRow("child, with Tab")
+        << int(Qt::Key_Tab) << int(Qt::NoModifier)
+        << QStringLiteral("Late[People[Too few[Illness],Too new],Machines[New],Material[Rust]]");
+    QTest::newRow("after, with the number pad")
+        << int(Qt::Key_Enter) << int(Qt::KeypadModifier)
+        << QStringLiteral("Late[People[Too few[Illness],Too new],Machines,New,Material[Rust]]");
     QTest::newRow("before") << int(Qt::Key_Return) << int(Qt::ShiftModifier)
                             << QStringLiteral("Late[People[Too few[Illness],Too new],New,Machines,"
                                               "Material[Rust]]");

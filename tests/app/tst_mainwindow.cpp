@@ -144,7 +144,11 @@ void TestMainWindow::shouldOfferEveryActionInAMenu()
                              "rotateRight", "rotateReset",  "expand",
                              "contract",    "expandall",    "contractall",
                              "asDiagram",   "back",         "whole",
-                             "diagramMode", "taskMode",     "canvasStyle"})
+                             "diagramMode", "taskMode",     "canvasStyle",
+                             "moveUp",      "moveDown",     "promote",
+                             "demote",      "goLeft",       "goRight",
+                             "goUp",        "goDown",       "goParent",
+                             "goChild",     "goPrevious",   "goNext"})
         QVERIFY2(offered.contains(QLatin1String(name)), name);
 }
 
