@@ -12,9 +12,13 @@
 #include <fishbone/model/fishinfo.h>
 #include <fishbone/model/fishmodel.h>
 #include <fishbone/model/systemhelper.h>
+#include <fishbone/undo/structuralcommands.h>
 #include <fishbone/undo/undostack.h>
 
 #include <QFileInfo>
+#include <QJsonObject>
+
+#include <memory>
 
 DiagramSession::DiagramSession(FishModel *model, FishEditor *editor, QObject *parent)
     : QObject(parent)
@@ -279,7 +283,27 @@ void DiagramSession::preserve(const std::function<void()> &change)
 
 void DiagramSession::paste()
 {
-    preserve([this] { m_editor->paste(); });
+    pasteBy([this] { m_editor->paste(); });
+}
+
+void DiagramSession::paste(const QJsonObject &subjects)
+{
+    const QModelIndex target = m_editor->firstSelectedSpearIndex();
+    if (!target.isValid())
+        return;
+    pasteBy([&] {
+        auto command = std::make_unique<EditPaste>(m_model, target, subjects);
+        command->setPasteAsNew(true);
+        m_editor->undoStack()->push(command.release()); // which takes it over
+        m_editor->updateFish(true);
+        m_editor->setModified(true);
+    });
+}
+
+/** Runs @p change, which pastes, and selects what was pasted. */
+void DiagramSession::pasteBy(const std::function<void()> &change)
+{
+    preserve(change);
     if (const QPersistentModelIndex pasted = m_inserted; pasted.isValid())
         select(pasted);
 }

@@ -6,6 +6,7 @@
 #include <app/actionset.h>
 #include <app/diagramsession.h>
 #include <app/finder.h>
+#include <app/subjectclipboard.h>
 #include <app/titleeditor.h>
 
 #include <fishbone/editor/fisheditor.h>
@@ -60,9 +61,9 @@ EditCommands::EditCommands(DiagramSession *session, ActionSet *actions, QWidget 
     , m_actions(actions)
     , m_window(window)
     , m_finder(new Finder(session, window))
+    , m_clipboard(new SubjectClipboard(session, this))
 {
-    connect(m_editor, &FishEditor::clipBoardAvailable, this,
-            [this](bool available) { m_canPaste = available; });
+    connect(m_clipboard, &SubjectClipboard::message, this, &EditCommands::message);
     connect(m_finder, &Finder::message, this, &EditCommands::message);
     addHistoryActions();
     addClipboardActions();
@@ -96,7 +97,7 @@ void EditCommands::addClipboardActions()
 {
     add("cut", tr("Cu&t"), {QKeySequence::Cut}, [this] { m_session->removeSelected(true); });
     add("copy", tr("&Copy"), {QKeySequence::Copy}, [this] { m_editor->copy(); });
-    add("paste", tr("&Paste"), {QKeySequence::Paste}, [this] { m_session->paste(); });
+    add("paste", tr("&Paste"), {QKeySequence::Paste}, [this] { m_clipboard->paste(); });
     add("delete", tr("&Delete"), {QKeySequence::Delete},
         [this] { m_session->removeSelected(false); });
     add("selectAll", tr("Select &all"), {QKeySequence::SelectAll},
@@ -188,7 +189,7 @@ void EditCommands::updateActions()
     for (const char *name : {"cut", "copy", "delete"})
         m_actions->action(QLatin1String(name))
             ->setEnabled(isBone || m_editor->selectedItems().size() > 1);
-    m_actions->action(QStringLiteral("paste"))->setEnabled(subject && m_canPaste);
+    m_actions->action(QStringLiteral("paste"))->setEnabled(subject && m_clipboard->canPaste());
     m_actions->action(QStringLiteral("selectAll"))->setEnabled(m_editor->headSpear());
     m_actions->action(QStringLiteral("openLink"))->setEnabled(subject && !subject->url().isEmpty());
     m_actions->action(QStringLiteral("unlink"))->setEnabled(subject && !subject->url().isEmpty());

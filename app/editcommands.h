@@ -13,6 +13,7 @@ class DiagramSession;
 class FishEditor;
 class Finder;
 class QWidget;
+class SubjectClipboard;
 
 /** The commands on the subjects of a diagram. */
 class EditCommands : public QObject
@@ -53,5 +54,5 @@ private:
     ActionSet *m_actions;
     QWidget *m_window;
     Finder *m_finder;
-    bool m_canPaste = false;
+    SubjectClipboard *m_clipboard;
 };

@@ -1366,6 +1366,13 @@ Do you want to save your changes?</translation>
     </message>
 </context>
 <context>
+    <name>SubjectClipboard</name>
+    <message>
+        <source>cannot paste the text: %1</source>
+        <translation>cannot paste the text: %1</translation>
+    </message>
+</context>
+<context>
     <name>SubjectTree</name>
     <message>
         <source>Filter by title</source>

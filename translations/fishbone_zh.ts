@@ -1364,6 +1364,13 @@ Do you want to save your changes?</source>
     </message>
 </context>
 <context>
+    <name>SubjectClipboard</name>
+    <message>
+        <source>cannot paste the text: %1</source>
+        <translation>无法粘贴文本：%1</translation>
+    </message>
+</context>
+<context>
     <name>SubjectTree</name>
     <message>
         <source>Filter by title</source>

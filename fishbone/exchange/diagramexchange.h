@@ -81,6 +81,12 @@ public:
      */
     static std::unique_ptr<TreeItem> read(QIODevice &device, Format format,
                                           QString *error = nullptr);
+    /**
+     * As read(), for what goes below a subject of another diagram: the children of the node that is
+     * returned are the subjects at the top level, one or several.
+     */
+    static std::unique_ptr<TreeItem> readBranches(QIODevice &device, Format format,
+                                                  QString *error = nullptr);
     /** As read(), from the file @p fileName. */
     static std::unique_ptr<TreeItem> readFile(const QString &fileName, Format format,
                                               QString *error = nullptr);
