@@ -7,6 +7,8 @@
 #include <app/autosave.h>
 #include <app/diagramsession.h>
 #include <app/documentloader.h>
+#include <app/lastdocuments.h>
+#include <app/recentfiles.h>
 
 #include <fishbone/dialogs/urldialog.h>
 #include <fishbone/exchange/diagramexchange.h>
@@ -47,13 +49,20 @@ FileCommands::FileCommands(DiagramSession *session, ActionSet *actions, QWidget 
     , m_actions(actions)
     , m_window(window)
     , m_loader(new DocumentLoader(session->model(), this))
+    , m_recent(new RecentFiles(window))
 {
     connect(m_loader, &DocumentLoader::loaded, this, &FileCommands::showLoaded);
     connect(m_loader, &DocumentLoader::failed, this, &FileCommands::reportFailure);
     // Queued, so that several files that fail at once share a box.
     connect(m_loader, &DocumentLoader::idle, this, &FileCommands::showFailures,
             Qt::QueuedConnection);
+    connect(m_recent, &RecentFiles::chosen, m_loader, &DocumentLoader::load);
     addActions(actions);
+}
+
+QMenu *FileCommands::recentMenu() const
+{
+    return m_recent->menu();
 }
 
 void FileCommands::addActions(ActionSet *actions)
@@ -80,6 +89,13 @@ void FileCommands::addActions(ActionSet *actions)
                  [this] { saveAs(m_session->document()); });
     add("saveAll", tr("Save a&ll"), {}, &FileCommands::saveAll);
     add("close", tr("&Close"), QKeySequence(Qt::CTRL + Qt::Key_W), &FileCommands::closeDocument);
+    QAction *const reopen = actions->add(
+        QStringLiteral("reopen"), tr("Reopen &documents at the start"), {}, Scope::Window,
+        [actions] {
+            LastDocuments::setWanted(actions->action(QStringLiteral("reopen"))->isChecked());
+        });
+    reopen->setCheckable(true);
+    reopen->setChecked(LastDocuments::areWanted());
     actions->add(QStringLiteral("quit"), tr("&Quit"), {QKeySequence(Qt::CTRL + Qt::Key_Q)},
                  Scope::Window, [this] { m_window->close(); });
 }
@@ -93,9 +109,10 @@ void FileCommands::updateActions()
 
 void FileCommands::open(const QStringList &sources)
 {
-    if (sources.isEmpty())
+    const QStringList wanted = sources.isEmpty() ? LastDocuments::files() : sources;
+    if (wanted.isEmpty())
         newFromBuiltInTemplate();
-    for (const QString &source : sources)
+    for (const QString &source : wanted)
         m_loader->load(source);
 }
 
@@ -103,6 +120,8 @@ void FileCommands::showLoaded(const QString &source, FishInfo *document)
 {
     m_session->showDocument(document);
     const QString path = DocumentLoader::localPath(source);
+    if (!path.isEmpty())
+        m_recent->add(path);
     Q_EMIT message(tr("%1 loaded").arg(shownName(document)));
     if (!path.isEmpty() && document->autoSaveFile() == document->fileName())
         offerAutosave(document->fileName(), document);
@@ -134,6 +153,7 @@ void FileCommands::reportFailure(const QString &source, const QString &reason)
     std::fprintf(stderr, "fishbone: %s\n", qPrintable(text));
     Q_EMIT message(text);
     m_failures.append(text);
+    m_recent->remove(DocumentLoader::localPath(source));
     // A window that was to show nothing else shows something to begin with.
     if (m_session->model()->fishList().isEmpty() && m_loader->isLast())
         newFromBuiltInTemplate();
@@ -246,6 +266,7 @@ bool FileCommands::writeTo(FishInfo *document, const QString &path)
     }
     Autosave::discard(document);
     document->setCurrentFile(path);
+    m_recent->add(path);
     Autosave::redirect(document);
     m_session->touch();
     Q_EMIT message(tr("%1 saved").arg(shownName(document)));

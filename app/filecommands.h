@@ -10,7 +10,9 @@ class ActionSet;
 class DiagramSession;
 class DocumentLoader;
 class FishInfo;
+class QMenu;
 class QWidget;
+class RecentFiles;
 
 /** The commands on whole documents: new, open, import, save, close. */
 class FileCommands : public QObject
@@ -21,11 +23,15 @@ public:
     /** Adds the actions to @p actions. Dialogs stand over @p window, which owns this object. */
     FileCommands(DiagramSession *session, ActionSet *actions, QWidget *window);
 
-    /** Opens files, of this or another program, and URLs; the template when there are none. */
+    /** Opens files, of this or another program, and URLs; when there are none, the documents of the
+     * last time or the template. */
     void open(const QStringList &sources);
 
     /** Offers to save each modified document; false when the user wants to go on working. */
     bool closeAll();
+
+    /** The menu of the files that were opened last. */
+    QMenu *recentMenu() const;
 
     /** Enables the actions as the shown document allows. */
     void updateActions();
@@ -58,5 +64,6 @@ private:
     ActionSet *m_actions;
     QWidget *m_window;
     DocumentLoader *m_loader;
+    RecentFiles *m_recent;
     QStringList m_failures; ///< what could not be opened and was not shown in a box yet
 };

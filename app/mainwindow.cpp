@@ -12,6 +12,7 @@
 #include <app/filecommands.h>
 #include <app/filedrop.h>
 #include <app/historypanel.h>
+#include <app/lastdocuments.h>
 #include <app/linkopener.h>
 #include <app/menus.h>
 #include <app/movecommands.h>
@@ -122,7 +123,9 @@ void MainWindow::addBars()
 {
     auto *const visited = new QMenu(tr("Shown be&fore"), this);
     m_views->listVisited(visited);
-    Menus::build(this, *m_actions, visited);
+    Menus::build(
+        this, *m_actions,
+        {{QStringLiteral("recent"), m_files->recentMenu()}, {QStringLiteral("visited"), visited}});
     QMenu *const panels = createPopupMenu();
     panels->setTitle(tr("&Panels"));
     menuBar()->addMenu(panels);
@@ -264,6 +267,7 @@ void MainWindow::closeEvent(QCloseEvent *event)
         event->ignore();
         return;
     }
+    LastDocuments::remember(*m_session);
     QSettings settings;
     settings.setValue(QStringLiteral("geometry"), saveGeometry());
     settings.setValue(QStringLiteral("layout"), saveState());

@@ -36,7 +36,8 @@ public:
     DiagramSession *session() const { return m_session; }
     SubjectTree *tree() const { return m_tree; }
 
-    /** Opens files and URLs; the template diagram when there are none. */
+    /** Opens files and URLs; when there are none, the documents of the last time or the template
+     * diagram. */
     void open(const QStringList &sources);
 
 protected:

@@ -837,6 +837,10 @@ The exit code is 3 when anything is.</translation>
         <source>Import</source>
         <translation>Import</translation>
     </message>
+    <message>
+        <source>Reopen &amp;documents at the start</source>
+        <translation>Reopen &amp;documents at the start</translation>
+    </message>
 </context>
 <context>
     <name>Finder</name>
@@ -1237,6 +1241,21 @@ Do you want to save your changes?</translation>
     <message>
         <source>删除节点</source>
         <translation>Delete subject</translation>
+    </message>
+</context>
+<context>
+    <name>RecentFiles</name>
+    <message>
+        <source>&amp;Recent files</source>
+        <translation>&amp;Recent files</translation>
+    </message>
+    <message>
+        <source>(nothing yet)</source>
+        <translation>(nothing yet)</translation>
+    </message>
+    <message>
+        <source>&amp;Clear the list</source>
+        <translation>&amp;Clear the list</translation>
     </message>
 </context>
 <context>

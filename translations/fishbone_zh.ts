@@ -837,6 +837,10 @@ The exit code is 3 when anything is.</source>
         <source>Import</source>
         <translation>导入</translation>
     </message>
+    <message>
+        <source>Reopen &amp;documents at the start</source>
+        <translation>启动时重新打开上次的文档(&amp;D)</translation>
+    </message>
 </context>
 <context>
     <name>Finder</name>
@@ -1235,6 +1239,21 @@ Do you want to save your changes?</source>
     <message>
         <source>删除节点</source>
         <translation>删除节点</translation>
+    </message>
+</context>
+<context>
+    <name>RecentFiles</name>
+    <message>
+        <source>&amp;Recent files</source>
+        <translation>最近的文件(&amp;R)</translation>
+    </message>
+    <message>
+        <source>(nothing yet)</source>
+        <translation>（暂无）</translation>
+    </message>
+    <message>
+        <source>&amp;Clear the list</source>
+        <translation>清空列表(&amp;C)</translation>
     </message>
 </context>
 <context>

@@ -145,10 +145,11 @@ void TestMainWindow::shouldOfferEveryActionInAMenu()
                              "contract",    "expandall",    "contractall",
                              "asDiagram",   "back",         "whole",
                              "diagramMode", "taskMode",     "canvasStyle",
-                             "moveUp",      "moveDown",     "promote",
-                             "demote",      "goLeft",       "goRight",
-                             "goUp",        "goDown",       "goParent",
-                             "goChild",     "goPrevious",   "goNext"})
+                             "reopen",      "moveUp",       "moveDown",
+                             "promote",     "demote",       "goLeft",
+                             "goRight",     "goUp",         "goDown",
+                             "goParent",    "goChild",      "goPrevious",
+                             "goNext"})
         QVERIFY2(offered.contains(QLatin1String(name)), name);
 }
 
