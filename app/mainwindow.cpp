@@ -14,6 +14,7 @@
 #include <app/historypanel.h>
 #include <app/lastdocuments.h>
 #include <app/linkopener.h>
+#include <app/menukeys.h>
 #include <app/menus.h>
 #include <app/movecommands.h>
 #include <app/subjecttree.h>
@@ -123,6 +124,7 @@ void MainWindow::addBars()
 {
     auto *const visited = new QMenu(tr("Shown be&fore"), this);
     m_views->listVisited(visited);
+    new MenuKeys(this); // which owns it
     Menus::build(
         this, *m_actions,
         {{QStringLiteral("recent"), m_files->recentMenu()}, {QStringLiteral("visited"), visited}});

@@ -65,11 +65,26 @@ std::optional<MoveCommands::Place> MoveCommands::lower(const QModelIndex &bone) 
     return Place{before, m_session->model()->rowCount(before)};
 }
 
+/** The bone that is selected alone and may be moved, or null. */
+SpearItem *MoveCommands::movableBone() const
+{
+    SpearItem *bone = nullptr;
+    const QList<QGraphicsItem *> items = m_editor->selectedItems();
+    for (QGraphicsItem *item : items) {
+        auto *const spear = qgraphicsitem_cast<SpearItem *>(item);
+        if (spear && bone)
+            return nullptr;
+        if (spear)
+            bone = spear;
+    }
+    return bone && !bone->isHeader() && bone->isMovable() ? bone : nullptr;
+}
+
 /** Moves the selected bone to where @p rule sends it, and shows and selects it there. */
 void MoveCommands::move(Rule rule)
 {
-    SpearItem *const spear = m_editor->firstSelectedSpear();
-    if (!spear || spear->isHeader())
+    SpearItem *const spear = movableBone();
+    if (!spear)
         return;
     const QPersistentModelIndex bone = spear->modelIndex();
     if (const std::optional<Place> place = (this->*rule)(bone)) {
@@ -80,8 +95,7 @@ void MoveCommands::move(Rule rule)
 
 void MoveCommands::updateActions()
 {
-    const SpearItem *const spear = m_editor->firstSelectedSpear();
-    const bool canMove = spear && !spear->isHeader() && spear->isMovable();
+    const bool canMove = movableBone() != nullptr;
     for (const char *name : {"moveUp", "moveDown", "promote", "demote"})
         m_actions->action(QLatin1String(name))->setEnabled(canMove);
 }

@@ -11,6 +11,7 @@ class ActionSet;
 class DiagramSession;
 class FishEditor;
 class QModelIndex;
+class SpearItem;
 
 /** The commands that move the selected bone among its siblings and between levels. */
 class MoveCommands : public QObject
@@ -33,6 +34,7 @@ private:
     std::optional<Place> higher(const QModelIndex &bone) const;
     std::optional<Place> lower(const QModelIndex &bone) const;
     void move(Rule rule);
+    SpearItem *movableBone() const;
 
     DiagramSession *m_session;
     FishEditor *m_editor;

@@ -51,6 +51,7 @@ TitleEditor::TitleEditor(FishEditor *editor, const QModelIndex &index)
     setObjectName(QStringLiteral("title"));
     setAccessibleName(tr("Title"));
     place();
+    connect(this, &QLineEdit::textChanged, this, &TitleEditor::place);
     connect(this, &QLineEdit::editingFinished, this, &TitleEditor::finish);
     connect(editor->scene(), &QGraphicsScene::changed, this, &TitleEditor::place);
     for (const QScrollBar *bar :
@@ -58,7 +59,8 @@ TitleEditor::TitleEditor(FishEditor *editor, const QModelIndex &index)
         connect(bar, &QScrollBar::valueChanged, this, &TitleEditor::place);
 }
 
-/** Follows the text, which may move or go away while its title is edited. */
+/** Follows the bone's text, which may move or go away while its title is edited, and makes room for
+ * what is typed. */
 void TitleEditor::place()
 {
     const TreeItem *const subject = subjectAt(*m_editor, m_index);
@@ -66,11 +68,14 @@ void TitleEditor::place()
         close();
         return;
     }
-    const TextItem *const text = subject->spear()->textItem();
+    const TextItem *const title = subject->spear()->textItem();
     const QRect box =
-        m_editor->view()->mapFromScene(text->mapToScene(text->boundingRect())).boundingRect();
+        m_editor->view()->mapFromScene(title->mapToScene(title->boundingRect())).boundingRect();
     const QRect room = parentWidget()->rect();
-    const QSize wanted(std::max(box.width() + 40, minimalWidth), sizeHint().height());
+    constexpr int frame = 40; // beside the text, with a little to type into
+    const int width = std::max(box.width(), fontMetrics().horizontalAdvance(text()));
+    const QSize wanted(qBound(minimalWidth, width + frame, std::max(minimalWidth, room.width())),
+                       sizeHint().height());
     const QPoint free(std::max(0, room.width() - wanted.width()),
                       std::max(0, room.height() - wanted.height()));
     const QPoint topLeft = box.center() - QPoint(wanted.width() / 2, wanted.height() / 2);

@@ -31,6 +31,7 @@ private Q_SLOTS:
     void shouldReplaceTheTitleByWhatIsTyped_data();
     void shouldReplaceTheTitleByWhatIsTyped();
     void shouldKeepTheTitleOnEscape();
+    void shouldMakeRoomForALongTitle();
     void shouldTakeWhatAnInputMethodCommits();
     void shouldOpenNoFieldForOtherKeys_data();
     void shouldOpenNoFieldForOtherKeys();
@@ -85,6 +86,23 @@ void TestTypedTitle::shouldKeepTheTitleOnEscape()
     QVERIFY(app.find("Machines").isValid());
     QVERIFY(!app.window.editor()->undoStack()->canUndo());
     QVERIFY(!app.window.isWindowModified());
+}
+
+void TestTypedTitle::shouldMakeRoomForALongTitle()
+{
+    AppFixture app;
+    app.select("Machines");
+    QTest::keyClick(app.window.editor()->view(), 'x');
+    QLineEdit *const field = titleField(app);
+    QVERIFY(field);
+    const QWidget *const room = field->parentWidget();
+    for (const int length : {40, 400}) {
+        field->setText(QString(length, QLatin1Char('x')));
+        QVERIFY(room->rect().contains(field->geometry()));
+        QVERIFY(field->width() == room->width() ||
+                field->width() > field->fontMetrics().horizontalAdvance(field->text()));
+    }
+    QCOMPARE(field->width(), room->width());
 }
 
 void TestTypedTitle::shouldTakeWhatAnInputMethodCommits()
