@@ -49,6 +49,12 @@ QString DocumentLoader::localPath(const QString &source)
     return url.isLocalFile() ? url.toLocalFile() : source;
 }
 
+std::optional<DiagramExchange::Format> DocumentLoader::foreignFormat(const QString &path)
+{
+    const auto format = DiagramExchange::formatOf(path);
+    return format == DiagramExchange::Format::Json ? std::nullopt : format;
+}
+
 QString DocumentLoader::reasonOf(const QString &path)
 {
     const QFileInfo info(path);
@@ -84,8 +90,7 @@ void DocumentLoader::loadNext()
 
 void DocumentLoader::loadFile(const QString &path)
 {
-    const auto format = DiagramExchange::formatOf(path);
-    if (format && *format != DiagramExchange::Format::Json) {
+    if (const auto format = foreignFormat(path)) {
         importFile(path, *format);
         return;
     }

@@ -10,6 +10,8 @@
 #include <QPointer>
 #include <QStringList>
 
+#include <optional>
+
 class FishInfo;
 class QNetworkReply;
 
@@ -37,6 +39,9 @@ public:
 
     /** Why the file @p path cannot be loaded. */
     static QString reasonOf(const QString &path);
+
+    /** The format of another program that the ending of @p path tells, if it tells one. */
+    static std::optional<DiagramExchange::Format> foreignFormat(const QString &path);
 
     /** The path that @p source stands for, empty when it is fetched from the network. */
     static QString localPath(const QString &source);

@@ -254,7 +254,16 @@ bool FileCommands::saveAs(FishInfo *document)
     const QString proposed = m_session->folder() + QLatin1Char('/') + shownName(document);
     const QString path =
         QFileDialog::getSaveFileName(m_window, tr("Save as"), proposed, documentFilter());
-    return !path.isEmpty() && writeTo(document, path);
+    if (path.isEmpty())
+        return false;
+    if (DocumentLoader::foreignFormat(path)) { // it would be read as something else
+        QMessageBox::warning(m_window, tr("Save"),
+                             tr("%1 would not be recognized as a diagram. Its name should end in "
+                                ".json; \"Export as\" writes other formats.")
+                                 .arg(path.toHtmlEscaped()));
+        return false;
+    }
+    return writeTo(document, path);
 }
 
 bool FileCommands::writeTo(FishInfo *document, const QString &path)

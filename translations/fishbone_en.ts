@@ -841,6 +841,10 @@ The exit code is 3 when anything is.</translation>
         <source>Reopen &amp;documents at the start</source>
         <translation>Reopen &amp;documents at the start</translation>
     </message>
+    <message>
+        <source>%1 would not be recognized as a diagram. Its name should end in .json; &quot;Export as&quot; writes other formats.</source>
+        <translation>%1 would not be recognized as a diagram. Its name should end in .json; &quot;Export as&quot; writes other formats.</translation>
+    </message>
 </context>
 <context>
     <name>Finder</name>

@@ -841,6 +841,10 @@ The exit code is 3 when anything is.</source>
         <source>Reopen &amp;documents at the start</source>
         <translation>启动时重新打开上次的文档(&amp;D)</translation>
     </message>
+    <message>
+        <source>%1 would not be recognized as a diagram. Its name should end in .json; &quot;Export as&quot; writes other formats.</source>
+        <translation>%1 不会被识别为鱼骨图。文件名应以 .json 结尾；其他格式请用“导出为其他格式”。</translation>
+    </message>
 </context>
 <context>
     <name>Finder</name>

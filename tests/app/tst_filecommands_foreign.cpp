@@ -29,6 +29,7 @@ private Q_SLOTS:
     void shouldImportTheChosenFiles();
     void shouldOfferForeignFilesWhenOpening();
     void shouldNeverSaveOverAForeignFile();
+    void shouldNotSaveADiagramUnderAForeignEnding();
     void shouldNameImportsOfOneNameApart();
     void shouldSayInOneBoxWhatCannotBeOpened();
 };
@@ -130,6 +131,28 @@ void TestFileCommandsForeign::shouldNeverSaveOverAForeignFile()
     QCOMPARE(AppFixture::contentOf(path), QByteArray("Late\n\tPeople\n"));
     QVERIFY(AppFixture::contentOf(target).contains("People"));
     QVERIFY(!app.document()->isUntitled());
+}
+
+void TestFileCommandsForeign::shouldNotSaveADiagramUnderAForeignEnding()
+{
+    AppFixture app;
+    const QString path = app.path(QStringLiteral("notes.md"));
+    AppFixture::writeFile(path, "# Notes\n");
+    QString shown;
+    const ModalDriver<QFileDialog> driver([&path](QFileDialog &dialog) {
+        dialog.setOption(QFileDialog::DontConfirmOverwrite);
+        enter(path)(dialog);
+    });
+    const ModalDriver<QMessageBox> warning([&shown](QMessageBox &box) {
+        shown = box.text();
+        box.accept();
+    });
+    app.trigger("saveAs");
+    QVERIFY(driver.isDone());
+    QVERIFY(warning.isDone());
+    QVERIFY2(shown.contains(path), qPrintable(shown));
+    QCOMPARE(AppFixture::contentOf(path), QByteArray("# Notes\n"));
+    QVERIFY(app.window.windowTitle().startsWith(QLatin1String("late.json")));
 }
 
 void TestFileCommandsForeign::shouldNameImportsOfOneNameApart()
