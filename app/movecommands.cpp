@@ -26,7 +26,7 @@ MoveCommands::MoveCommands(DiagramSession *session, ActionSet *actions, QObject 
     , m_actions(actions)
 {
     const auto add = [this](const char *name, const QString &text, Qt::Key key, Rule rule) {
-        m_actions->add(QLatin1String(name), text, {QKeySequence(Qt::ALT + key)},
+        m_actions->add(QLatin1String(name), text, {QKeySequence(int(Qt::ALT) + key)},
                        ActionSet::Scope::Selection, [this, rule] { move(rule); });
     };
     add("moveUp", tr("Move &up"), Qt::Key_Up, &MoveCommands::earlier);
