@@ -22,7 +22,7 @@ QAction *ActionSet::add(const QString &name, const QString &text,
     auto *const action = new QAction(text, this);
     action->setObjectName(name);
     action->setShortcuts(shortcuts);
-    if (scope == Scope::Selection)
+    if (scope != Scope::Window)
         action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
     // In Chinese the mnemonic is a letter of its own, in brackets behind the text.
     static const QRegularExpression mnemonicInBrackets(QStringLiteral("\\(&[A-Z0-9]\\)"));
@@ -35,6 +35,7 @@ QAction *ActionSet::add(const QString &name, const QString &text,
     connect(action, &QAction::triggered, this, [run = std::move(run)] { run(); });
     m_actions.insert(name, action);
     m_order.append(action);
+    m_scopes.insert(action, scope);
     return action;
 }
 
@@ -44,10 +45,10 @@ QAction *ActionSet::action(const QString &name) const
     return m_actions.value(name);
 }
 
-void ActionSet::addSelectionWidget(QWidget *widget) const
+void ActionSet::addShortcuts(Scope scope, QWidget *widget) const
 {
     for (QAction *action : m_order) {
-        if (action->shortcutContext() == Qt::WidgetWithChildrenShortcut)
+        if (m_scopes.value(action) == scope)
             widget->addAction(action);
     }
 }

@@ -17,7 +17,7 @@ class QWidget;
 /**
  * The program's actions by name. The name is also the action's object name and that of its icon.
  *
- * An action that works on what is selected counts its shortcuts only in the widgets that show the
+ * The shortcuts of an action that works on what is selected count only in the widgets that show the
  * selection, so that they stay free for typing elsewhere.
  */
 class ActionSet : public QObject
@@ -28,7 +28,8 @@ public:
     /** Where the shortcuts of an action count. */
     enum class Scope {
         Window,    ///< everywhere in the window
-        Selection, ///< in the widgets of addSelectionWidget()
+        Selection, ///< in the widgets that show the selection
+        Drawing,   ///< in the drawing alone: the keys mean something else in a list
     };
 
     explicit ActionSet(QObject *parent = nullptr);
@@ -40,8 +41,8 @@ public:
     /** The action of that name, which must exist. */
     QAction *action(const QString &name) const;
 
-    /** Makes the shortcuts of the Selection scope count in @p widget and below it. */
-    void addSelectionWidget(QWidget *widget) const;
+    /** Makes the shortcuts of the scope @p scope count in @p widget and below it. */
+    void addShortcuts(Scope scope, QWidget *widget) const;
 
     /** Draws the icons in the colours of @p palette. */
     void updateIcons(const QPalette &palette) const;
@@ -49,4 +50,5 @@ public:
 private:
     QHash<QString, QAction *> m_actions;
     QList<QAction *> m_order;
+    QHash<const QAction *, Scope> m_scopes;
 };

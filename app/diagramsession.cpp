@@ -11,7 +11,14 @@
 #include <fishbone/items/spearitem.h>
 #include <fishbone/model/fishinfo.h>
 #include <fishbone/model/fishmodel.h>
+#include <fishbone/model/systemhelper.h>
+#include <fishbone/undo/structuralcommands.h>
 #include <fishbone/undo/undostack.h>
+
+#include <QFileInfo>
+#include <QJsonObject>
+
+#include <memory>
 
 DiagramSession::DiagramSession(FishModel *model, FishEditor *editor, QObject *parent)
     : QObject(parent)
@@ -50,6 +57,14 @@ DiagramSession::DiagramSession(FishModel *model, FishEditor *editor, QObject *pa
 FishInfo *DiagramSession::document() const
 {
     return m_editor->headSpear() ? m_editor->currentFishInfo() : nullptr;
+}
+
+QString DiagramSession::folder() const
+{
+    const FishInfo *const shown = document();
+    if (shown && !shown->isUntitled())
+        return QFileInfo(shown->fileName()).absolutePath();
+    return SystemHelper::documentsLocation();
 }
 
 QModelIndex DiagramSession::headOf(const FishInfo *document) const
@@ -268,7 +283,27 @@ void DiagramSession::preserve(const std::function<void()> &change)
 
 void DiagramSession::paste()
 {
-    preserve([this] { m_editor->paste(); });
+    pasteBy([this] { m_editor->paste(); });
+}
+
+void DiagramSession::paste(const QJsonObject &subjects)
+{
+    const QModelIndex target = m_editor->firstSelectedSpearIndex();
+    if (!target.isValid())
+        return;
+    pasteBy([&] {
+        auto command = std::make_unique<EditPaste>(m_model, target, subjects);
+        command->setPasteAsNew(true);
+        m_editor->undoStack()->push(command.release()); // which takes it over
+        m_editor->updateFish(true);
+        m_editor->setModified(true);
+    });
+}
+
+/** Runs @p change, which pastes, and selects what was pasted. */
+void DiagramSession::pasteBy(const std::function<void()> &change)
+{
+    preserve(change);
     if (const QPersistentModelIndex pasted = m_inserted; pasted.isValid())
         select(pasted);
 }

@@ -37,6 +37,8 @@ public:
     FishEditor *editor() const { return m_editor; }
     /** The document that is shown, or null. */
     FishInfo *document() const;
+    /** Where the file of the shown document is, or where documents usually are. */
+    QString folder() const;
     /** The head of @p document. */
     QModelIndex headOf(const FishInfo *document) const;
 
@@ -64,7 +66,10 @@ public:
     /** Deletes what is selected, after copying it to the clipboard if @p cut, and selects a
      * neighbour. */
     void removeSelected(bool cut);
+    /** Pastes what was copied below the selected subject. */
     void paste();
+    /** Pastes @p subjects, a snapshot as EditPaste takes it, below the selected subject. */
+    void paste(const QJsonObject &subjects);
     void undo();
     void redo();
     /** Undoes or redoes until the command at @p index of the undo stack is the last one done. */
@@ -85,6 +90,7 @@ private:
     bool reveal(const QModelIndex &index);
     QModelIndex indexInDocument(const FishInfo *document, const QString &uuid) const;
     void preserve(const std::function<void()> &change);
+    void pasteBy(const std::function<void()> &change);
     void forgetDocuments(const QModelIndex &parent, int first, int last);
     void settle();
 

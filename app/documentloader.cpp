@@ -49,6 +49,12 @@ QString DocumentLoader::localPath(const QString &source)
     return url.isLocalFile() ? url.toLocalFile() : source;
 }
 
+std::optional<DiagramExchange::Format> DocumentLoader::foreignFormat(const QString &path)
+{
+    const auto format = DiagramExchange::formatOf(path);
+    return format == DiagramExchange::Format::Json ? std::nullopt : format;
+}
+
 QString DocumentLoader::reasonOf(const QString &path)
 {
     const QFileInfo info(path);
@@ -84,6 +90,10 @@ void DocumentLoader::loadNext()
 
 void DocumentLoader::loadFile(const QString &path)
 {
+    if (const auto format = foreignFormat(path)) {
+        importFile(path, *format);
+        return;
+    }
     const QString canonical = QFileInfo(path).canonicalFilePath();
     if (const QModelIndex open = m_model->findFish(canonical); open.isValid()) {
         finish(m_model->fishList().at(open.row()), QString());
@@ -96,6 +106,35 @@ void DocumentLoader::loadFile(const QString &path)
     FishInfo *const document = m_model->fishList().constLast();
     document->setCurrentFile(path);
     finish(document, QString());
+}
+
+/** Makes a new document of a file of another program, to which it is never saved. */
+void DocumentLoader::importFile(const QString &path, DiagramExchange::Format format)
+{
+    QString reason;
+    auto head = DiagramExchange::readFile(path, format, &reason);
+    if (!head) {
+        finish(nullptr, reason);
+        return;
+    }
+    const QString name = freeName(QFileInfo(path).completeBaseName());
+    m_model->insertExistItemRows(QModelIndex(), {head.release()}); // which takes it over
+    FishInfo *const document = m_model->fishList().constLast();
+    document->setFileName(name);
+    finish(document, QString());
+}
+
+/** A name for a document without a file, which no other one bears. */
+QString DocumentLoader::freeName(const QString &baseName) const
+{
+    QStringList taken;
+    const QList<FishInfo *> documents = m_model->fishList();
+    for (const FishInfo *document : documents)
+        taken.append(document->userFriendlyCurrentFile());
+    QString name = baseName + QStringLiteral(".json");
+    for (int number = 2; taken.contains(name); ++number)
+        name = QStringLiteral("%1 %2.json").arg(baseName).arg(number);
+    return name;
 }
 
 void DocumentLoader::fetch(const QUrl &url)

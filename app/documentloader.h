@@ -3,11 +3,14 @@
 
 #pragma once
 
+#include <fishbone/exchange/diagramexchange.h>
 #include <fishbone/model/fishmodel.h>
 
 #include <QObject>
 #include <QPointer>
 #include <QStringList>
+
+#include <optional>
 
 class FishInfo;
 class QNetworkReply;
@@ -15,7 +18,7 @@ class QNetworkReply;
 /**
  * Loads documents into a model, in the order in which they were asked for, and can say why one
  * failed. Files are named after their path, so that they are saved where they come from; what comes
- * from a URL has to be given a name.
+ * from a URL, or from a file in the format of another program, has to be given a name.
  */
 class DocumentLoader : public QObject
 {
@@ -37,6 +40,9 @@ public:
     /** Why the file @p path cannot be loaded. */
     static QString reasonOf(const QString &path);
 
+    /** The format of another program that the ending of @p path tells, if it tells one. */
+    static std::optional<DiagramExchange::Format> foreignFormat(const QString &path);
+
     /** The path that @p source stands for, empty when it is fetched from the network. */
     static QString localPath(const QString &source);
 
@@ -51,6 +57,8 @@ Q_SIGNALS:
 private:
     void loadNext();
     void loadFile(const QString &path);
+    void importFile(const QString &path, DiagramExchange::Format format);
+    QString freeName(const QString &baseName) const;
     void fetch(const QUrl &url);
     void endFetch(const QModelIndex &index, MODEL_ERROR error);
     void finish(FishInfo *document, const QString &reason);

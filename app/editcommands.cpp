@@ -6,6 +6,7 @@
 #include <app/actionset.h>
 #include <app/diagramsession.h>
 #include <app/finder.h>
+#include <app/subjectclipboard.h>
 #include <app/titleeditor.h>
 
 #include <fishbone/editor/fisheditor.h>
@@ -45,6 +46,13 @@ QList<QKeySequence> redoShortcuts()
     return shortcuts;
 }
 
+/** The large key and the one of the number pad. */
+template <typename Modifiers>
+QList<QKeySequence> returnWith(Modifiers modifiers)
+{
+    return {QKeySequence(modifiers | Qt::Key_Return), QKeySequence(modifiers | Qt::Key_Enter)};
+}
+
 } // namespace
 
 EditCommands::EditCommands(DiagramSession *session, ActionSet *actions, QWidget *window)
@@ -54,9 +62,9 @@ EditCommands::EditCommands(DiagramSession *session, ActionSet *actions, QWidget 
     , m_actions(actions)
     , m_window(window)
     , m_finder(new Finder(session, window))
+    , m_clipboard(new SubjectClipboard(session, this))
 {
-    connect(m_editor, &FishEditor::clipBoardAvailable, this,
-            [this](bool available) { m_canPaste = available; });
+    connect(m_clipboard, &SubjectClipboard::message, this, &EditCommands::message);
     connect(m_finder, &Finder::message, this, &EditCommands::message);
     addHistoryActions();
     addClipboardActions();
@@ -64,10 +72,10 @@ EditCommands::EditCommands(DiagramSession *session, ActionSet *actions, QWidget 
     addSubjectActions();
 }
 
-void EditCommands::add(const char *name, const QString &text, const QKeySequence &shortcut,
+void EditCommands::add(const char *name, const QString &text, const QList<QKeySequence> &shortcuts,
                        std::function<void()> run)
 {
-    m_actions->add(QLatin1String(name), text, {shortcut}, ActionSet::Scope::Selection,
+    m_actions->add(QLatin1String(name), text, shortcuts, ActionSet::Scope::Selection,
                    std::move(run));
 }
 
@@ -88,36 +96,36 @@ void EditCommands::addHistoryActions()
 
 void EditCommands::addClipboardActions()
 {
-    add("cut", tr("Cu&t"), QKeySequence::Cut, [this] { m_session->removeSelected(true); });
-    add("copy", tr("&Copy"), QKeySequence::Copy, [this] { m_editor->copy(); });
-    add("paste", tr("&Paste"), QKeySequence::Paste, [this] { m_session->paste(); });
-    add("delete", tr("&Delete"), QKeySequence::Delete,
+    add("cut", tr("Cu&t"), {QKeySequence::Cut}, [this] { m_session->removeSelected(true); });
+    add("copy", tr("&Copy"), {QKeySequence::Copy}, [this] { m_editor->copy(); });
+    add("paste", tr("&Paste"), {QKeySequence::Paste}, [this] { m_clipboard->paste(); });
+    add("delete", tr("&Delete"), {QKeySequence::Delete},
         [this] { m_session->removeSelected(false); });
-    add("selectAll", tr("Select &all"), QKeySequence::SelectAll, [this] { m_editor->selectAll(); });
+    add("selectAll", tr("Select &all"), {QKeySequence::SelectAll},
+        [this] { m_editor->selectAll(); });
 }
 
 void EditCommands::addInsertActions()
 {
-    add("child", tr("&Child subject"), Qt::Key_Insert,
+    add("child", tr("&Child subject"), {Qt::Key_Tab, Qt::Key_Insert},
         [this] { insertAndRename([this] { m_editor->insertChildSubject(); }); });
-    add("before", tr("Subject &before"), QKeySequence(Qt::SHIFT | Qt::Key_Return),
+    add("before", tr("Subject &before"), returnWith(Qt::SHIFT),
         [this] { insertAndRename([this] { m_editor->insertSubject(); }); });
-    add("after", tr("Subject &after"), Qt::Key_Return,
+    add("after", tr("Subject &after"), returnWith(0),
         [this] { insertAndRename([this] { m_editor->appendSubject(); }); });
-    add("parent", tr("&Parent subject"), QKeySequence(Qt::CTRL | Qt::Key_Return),
+    add("parent", tr("&Parent subject"), returnWith(Qt::CTRL),
         [this] { insertAndRename([this] { m_editor->insertParentSubject(); }); });
-    add("free", tr("&Free subject (a new diagram)"),
-        QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Return),
+    add("free", tr("&Free subject (a new diagram)"), returnWith(Qt::CTRL | Qt::SHIFT),
         [this] { insertAndRename([this] { m_editor->insertFreeSubject(); }); });
-    add("subTask", tr("&Sub-task…"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_T),
+    add("subTask", tr("&Sub-task…"), {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_T)},
         [this] { insertSubTask(m_editor->firstSelectedSpearIndex()); });
 }
 
 void EditCommands::addSubjectActions()
 {
-    add("rename", tr("&Rename"), Qt::Key_F2,
+    add("rename", tr("&Rename"), {Qt::Key_F2},
         [this] { rename(m_editor->firstSelectedSpearIndex()); });
-    add("link", tr("&Link to…"), QKeySequence(Qt::CTRL | Qt::Key_L),
+    add("link", tr("&Link to…"), {QKeySequence(Qt::CTRL | Qt::Key_L)},
         [this] { m_editor->modifyLink(); });
     add("openLink", tr("&Open link"), {}, [this] { m_editor->modifyOpenLink(); });
     add("unlink", tr("Remove l&ink"), {}, [this] { m_editor->modifyDelLink(); });
@@ -142,9 +150,9 @@ void EditCommands::insertAndRename(const std::function<void()> &edit)
     rename(m_session->insert(edit));
 }
 
-void EditCommands::rename(const QModelIndex &index)
+void EditCommands::rename(const QModelIndex &index, const QString &typed)
 {
-    TitleEditor::open(m_editor, index);
+    TitleEditor::open(m_editor, index, typed);
 }
 
 void EditCommands::insertChild(const QModelIndex &parent)
@@ -182,7 +190,7 @@ void EditCommands::updateActions()
     for (const char *name : {"cut", "copy", "delete"})
         m_actions->action(QLatin1String(name))
             ->setEnabled(isBone || m_editor->selectedItems().size() > 1);
-    m_actions->action(QStringLiteral("paste"))->setEnabled(subject && m_canPaste);
+    m_actions->action(QStringLiteral("paste"))->setEnabled(subject && m_clipboard->canPaste());
     m_actions->action(QStringLiteral("selectAll"))->setEnabled(m_editor->headSpear());
     m_actions->action(QStringLiteral("openLink"))->setEnabled(subject && !subject->url().isEmpty());
     m_actions->action(QStringLiteral("unlink"))->setEnabled(subject && !subject->url().isEmpty());

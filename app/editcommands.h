@@ -13,6 +13,7 @@ class DiagramSession;
 class FishEditor;
 class Finder;
 class QWidget;
+class SubjectClipboard;
 
 /** The commands on the subjects of a diagram. */
 class EditCommands : public QObject
@@ -26,8 +27,9 @@ public:
     /** Enables the actions as the selection, the clipboard and the undo history allow. */
     void updateActions();
 
-    /** Opens a field for the title of the subject at @p index. */
-    void rename(const QModelIndex &index);
+    /** Opens a field for the title of the subject at @p index, with @p typed in place of the title
+     * unless that is empty. */
+    void rename(const QModelIndex &index, const QString &typed = QString());
     /** Inserts a child under the subject at @p parent and opens a field for its title. */
     void insertChild(const QModelIndex &parent);
     /** Asks for a title and inserts a task of that title under the one at @p parent. */
@@ -42,7 +44,7 @@ private:
     void addClipboardActions();
     void addInsertActions();
     void addSubjectActions();
-    void add(const char *name, const QString &text, const QKeySequence &shortcut,
+    void add(const char *name, const QString &text, const QList<QKeySequence> &shortcuts,
              std::function<void()> run);
     void insertAndRename(const std::function<void()> &edit);
     void changeStyle(const std::function<void()> &edit);
@@ -52,5 +54,5 @@ private:
     ActionSet *m_actions;
     QWidget *m_window;
     Finder *m_finder;
-    bool m_canPaste = false;
+    SubjectClipboard *m_clipboard;
 };

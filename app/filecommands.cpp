@@ -5,18 +5,15 @@
 
 #include <app/actionset.h>
 #include <app/autosave.h>
-#include <app/canvastheme.h>
 #include <app/diagramsession.h>
 #include <app/documentloader.h>
-#include <app/exportdialog.h>
+#include <app/lastdocuments.h>
+#include <app/recentfiles.h>
 
 #include <fishbone/dialogs/urldialog.h>
-#include <fishbone/editor/fisheditor.h>
-#include <fishbone/editor/fishscene.h>
+#include <fishbone/exchange/diagramexchange.h>
 #include <fishbone/model/fishinfo.h>
 #include <fishbone/model/fishmodel.h>
-#include <fishbone/model/systemhelper.h>
-#include <fishbone/model/treeitem.h>
 
 #include <QAction>
 #include <QFileDialog>
@@ -33,6 +30,12 @@ QString documentFilter()
     return FileCommands::tr("Fishbone diagrams (*.json);;All files (*)");
 }
 
+QString anyFilter()
+{
+    return FileCommands::tr("Fishbone diagrams (*.json);;%1;;All files (*)")
+        .arg(DiagramExchange::importFilter());
+}
+
 QString shownName(const FishInfo *document)
 {
     return document->userFriendlyCurrentFile();
@@ -40,18 +43,26 @@ QString shownName(const FishInfo *document)
 
 } // namespace
 
-FileCommands::FileCommands(DiagramSession *session, CanvasTheme *theme, ActionSet *actions,
-                           QWidget *window)
+FileCommands::FileCommands(DiagramSession *session, ActionSet *actions, QWidget *window)
     : QObject(window)
     , m_session(session)
-    , m_theme(theme)
     , m_actions(actions)
     , m_window(window)
     , m_loader(new DocumentLoader(session->model(), this))
+    , m_recent(new RecentFiles(window))
 {
     connect(m_loader, &DocumentLoader::loaded, this, &FileCommands::showLoaded);
     connect(m_loader, &DocumentLoader::failed, this, &FileCommands::reportFailure);
+    // Queued, so that several files that fail at once share a box.
+    connect(m_loader, &DocumentLoader::idle, this, &FileCommands::showFailures,
+            Qt::QueuedConnection);
+    connect(m_recent, &RecentFiles::chosen, m_loader, &DocumentLoader::load);
     addActions(actions);
+}
+
+QMenu *FileCommands::recentMenu() const
+{
+    return m_recent->menu();
 }
 
 void FileCommands::addActions(ActionSet *actions)
@@ -65,8 +76,9 @@ void FileCommands::addActions(ActionSet *actions)
     add("new", tr("&New"), QKeySequence::New, &FileCommands::newDocument);
     add("newExample", tr("New from the &example"), {}, &FileCommands::newFromBuiltInTemplate);
     actions->add(QStringLiteral("newFromTemplate"), tr("New from &template…"), {}, Scope::Window,
-                 [this] { newFromTemplate(startFolder()); });
+                 [this] { newFromTemplate(m_session->folder()); });
     add("open", tr("&Open…"), QKeySequence::Open, &FileCommands::openFiles);
+    add("import", tr("&Import…"), QKeySequence(Qt::CTRL | Qt::Key_I), &FileCommands::importFiles);
     add("url", tr("Open &URL…"), QKeySequence(Qt::CTRL | Qt::Key_U), &FileCommands::openUrl);
     actions->add(QStringLiteral("recover"), tr("Open an a&utosave…"), {}, Scope::Window,
                  [this] { newFromTemplate(Autosave::folder()); });
@@ -76,10 +88,14 @@ void FileCommands::addActions(ActionSet *actions)
                  {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S)}, Scope::Window,
                  [this] { saveAs(m_session->document()); });
     add("saveAll", tr("Save a&ll"), {}, &FileCommands::saveAll);
-    add("export", tr("&Export picture…"), QKeySequence(Qt::CTRL | Qt::Key_E),
-        &FileCommands::exportPicture);
-    add("print", tr("&Print…"), QKeySequence::Print, &FileCommands::print);
     add("close", tr("&Close"), QKeySequence(Qt::CTRL | Qt::Key_W), &FileCommands::closeDocument);
+    QAction *const reopen = actions->add(
+        QStringLiteral("reopen"), tr("Reopen &documents at the start"), {}, Scope::Window,
+        [actions] {
+            LastDocuments::setWanted(actions->action(QStringLiteral("reopen"))->isChecked());
+        });
+    reopen->setCheckable(true);
+    reopen->setChecked(LastDocuments::areWanted());
     actions->add(QStringLiteral("quit"), tr("&Quit"), {QKeySequence(Qt::CTRL | Qt::Key_Q)},
                  Scope::Window, [this] { m_window->close(); });
 }
@@ -87,23 +103,16 @@ void FileCommands::addActions(ActionSet *actions)
 void FileCommands::updateActions()
 {
     const bool shown = m_session->document() != nullptr;
-    for (const char *name : {"save", "saveAs", "saveAll", "export", "print", "close"})
+    for (const char *name : {"save", "saveAs", "saveAll", "close"})
         m_actions->action(QLatin1String(name))->setEnabled(shown);
-}
-
-QString FileCommands::startFolder() const
-{
-    const FishInfo *const shown = m_session->document();
-    if (shown && !shown->isUntitled())
-        return QFileInfo(shown->fileName()).absolutePath();
-    return SystemHelper::documentsLocation();
 }
 
 void FileCommands::open(const QStringList &sources)
 {
-    if (sources.isEmpty())
+    const QStringList wanted = sources.isEmpty() ? LastDocuments::files() : sources;
+    if (wanted.isEmpty())
         newFromBuiltInTemplate();
-    for (const QString &source : sources)
+    for (const QString &source : wanted)
         m_loader->load(source);
 }
 
@@ -111,6 +120,8 @@ void FileCommands::showLoaded(const QString &source, FishInfo *document)
 {
     m_session->showDocument(document);
     const QString path = DocumentLoader::localPath(source);
+    if (!path.isEmpty())
+        m_recent->add(path);
     Q_EMIT message(tr("%1 loaded").arg(shownName(document)));
     if (!path.isEmpty() && document->autoSaveFile() == document->fileName())
         offerAutosave(document->fileName(), document);
@@ -141,9 +152,25 @@ void FileCommands::reportFailure(const QString &source, const QString &reason)
     const QString text = tr("cannot open %1: %2").arg(source, reason);
     std::fprintf(stderr, "fishbone: %s\n", qPrintable(text));
     Q_EMIT message(text);
+    m_failures.append(text);
+    m_recent->remove(DocumentLoader::localPath(source));
     // A window that was to show nothing else shows something to begin with.
     if (m_session->model()->fishList().isEmpty() && m_loader->isLast())
         newFromBuiltInTemplate();
+}
+
+/** Shows what could not be opened in one box, which waits for nobody. */
+void FileCommands::showFailures()
+{
+    if (m_failures.isEmpty())
+        return;
+    const QString text = m_failures.join(QLatin1Char('\n'));
+    m_failures.clear();
+    auto *const box =
+        new QMessageBox(QMessageBox::Warning, tr("Open"), text, QMessageBox::Ok, m_window);
+    box->setTextFormat(Qt::PlainText);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->open();
 }
 
 void FileCommands::newDocument()
@@ -155,6 +182,7 @@ void FileCommands::newDocument()
     FishInfo *const document = model->fishList().at(row);
     Autosave::redirect(document);
     m_session->showDocument(document);
+    m_session->select(m_session->headOf(document)); // ready to be typed over
 }
 
 void FileCommands::newFromBuiltInTemplate()
@@ -175,6 +203,7 @@ void FileCommands::newFromTemplate(const QString &folder)
     FishModel *const model = m_session->model();
     if (model->loadFishFromTemplate(path) != MODEL_NO_ERROR) {
         reportFailure(path, DocumentLoader::reasonOf(path));
+        showFailures();
         return;
     }
     FishInfo *const document = model->fishList().constLast();
@@ -184,8 +213,19 @@ void FileCommands::newFromTemplate(const QString &folder)
 
 void FileCommands::openFiles()
 {
+    openChosen(tr("Open"), anyFilter());
+}
+
+void FileCommands::importFiles()
+{
+    openChosen(tr("Import"), DiagramExchange::importFilter());
+}
+
+/** Opens what the user chooses among the files that @p filter lets through. */
+void FileCommands::openChosen(const QString &title, const QString &filter)
+{
     const QStringList paths =
-        QFileDialog::getOpenFileNames(m_window, tr("Open"), startFolder(), documentFilter());
+        QFileDialog::getOpenFileNames(m_window, title, m_session->folder(), filter);
     for (const QString &path : paths)
         m_loader->load(path);
 }
@@ -211,10 +251,19 @@ bool FileCommands::saveAs(FishInfo *document)
 {
     if (!document)
         return false;
-    const QString proposed = startFolder() + QLatin1Char('/') + shownName(document);
+    const QString proposed = m_session->folder() + QLatin1Char('/') + shownName(document);
     const QString path =
         QFileDialog::getSaveFileName(m_window, tr("Save as"), proposed, documentFilter());
-    return !path.isEmpty() && writeTo(document, path);
+    if (path.isEmpty())
+        return false;
+    if (DocumentLoader::foreignFormat(path)) { // it would be read as something else
+        QMessageBox::warning(m_window, tr("Save"),
+                             tr("%1 would not be recognized as a diagram. Its name should end in "
+                                ".json; \"Export as\" writes other formats.")
+                                 .arg(path.toHtmlEscaped()));
+        return false;
+    }
+    return writeTo(document, path);
 }
 
 bool FileCommands::writeTo(FishInfo *document, const QString &path)
@@ -226,6 +275,7 @@ bool FileCommands::writeTo(FishInfo *document, const QString &path)
     }
     Autosave::discard(document);
     document->setCurrentFile(path);
+    m_recent->add(path);
     Autosave::redirect(document);
     m_session->touch();
     Q_EMIT message(tr("%1 saved").arg(shownName(document)));
@@ -268,39 +318,4 @@ bool FileCommands::closeAll()
     for (FishInfo *document : documents)
         Autosave::discard(document);
     return true;
-}
-
-void FileCommands::exportPicture()
-{
-    const FishInfo *const document = m_session->document();
-    if (!document)
-        return;
-    const QString name = QFileInfo(shownName(document)).completeBaseName();
-    ExportDialog dialog(QStringLiteral("%1/%2.png").arg(startFolder(), name), m_window);
-    if (dialog.exec() != QDialog::Accepted)
-        return;
-    PictureOptions options = dialog.options();
-    options.title = m_session->model()->getTreeItem(m_session->editor()->rootIndex())->title();
-    FishScene *const scene = m_session->editor()->scene();
-    const QList<QGraphicsItem *> selected = m_session->editor()->selectedItems();
-    scene->clearSelection();
-    PictureExport::Result result;
-    {
-        const CanvasTheme::Paper paper(m_theme);
-        result = PictureExport::write(*scene, dialog.fileName(), options);
-    }
-    for (QGraphicsItem *item : selected)
-        item->setSelected(true);
-    if (result)
-        Q_EMIT message(tr("%1 written").arg(dialog.fileName()));
-    else
-        QMessageBox::warning(
-            m_window, tr("Export picture"),
-            tr("%1 cannot be written: %2.").arg(dialog.fileName().toHtmlEscaped(), result.reason));
-}
-
-void FileCommands::print()
-{
-    const CanvasTheme::Paper paper(m_theme);
-    m_session->editor()->print();
 }

@@ -7,26 +7,31 @@
 #include <QStringList>
 
 class ActionSet;
-class CanvasTheme;
 class DiagramSession;
 class DocumentLoader;
 class FishInfo;
+class QMenu;
 class QWidget;
+class RecentFiles;
 
-/** The commands on whole documents: new, open, save, close, export, print. */
+/** The commands on whole documents: new, open, import, save, close. */
 class FileCommands : public QObject
 {
     Q_OBJECT
 
 public:
     /** Adds the actions to @p actions. Dialogs stand over @p window, which owns this object. */
-    FileCommands(DiagramSession *session, CanvasTheme *theme, ActionSet *actions, QWidget *window);
+    FileCommands(DiagramSession *session, ActionSet *actions, QWidget *window);
 
-    /** Opens files and URLs; the template when there are none. */
+    /** Opens files, of this or another program, and URLs; when there are none, the documents of the
+     * last time or the template. */
     void open(const QStringList &sources);
 
     /** Offers to save each modified document; false when the user wants to go on working. */
     bool closeAll();
+
+    /** The menu of the files that were opened last. */
+    QMenu *recentMenu() const;
 
     /** Enables the actions as the shown document allows. */
     void updateActions();
@@ -42,7 +47,10 @@ private:
     void newDocument();
     void newFromBuiltInTemplate();
     void newFromTemplate(const QString &startFolder);
+    void showFailures();
     void openFiles();
+    void importFiles();
+    void openChosen(const QString &title, const QString &filter);
     void openUrl();
     void offerAutosave(const QString &path, FishInfo *document);
     bool save(FishInfo *document);
@@ -51,13 +59,11 @@ private:
     void saveAll();
     void closeDocument();
     bool mayClose(FishInfo *document);
-    void exportPicture();
-    void print();
-    QString startFolder() const;
 
     DiagramSession *m_session;
-    CanvasTheme *m_theme;
     ActionSet *m_actions;
     QWidget *m_window;
     DocumentLoader *m_loader;
+    RecentFiles *m_recent;
+    QStringList m_failures; ///< what could not be opened and was not shown in a box yet
 };

@@ -8,13 +8,20 @@
 #include <app/detailspanel.h>
 #include <app/diagramsession.h>
 #include <app/editcommands.h>
+#include <app/exportcommands.h>
 #include <app/filecommands.h>
+#include <app/filedrop.h>
 #include <app/historypanel.h>
+#include <app/lastdocuments.h>
 #include <app/linkopener.h>
+#include <app/menukeys.h>
 #include <app/menus.h>
+#include <app/movecommands.h>
 #include <app/subjecttree.h>
 #include <app/treesync.h>
+#include <app/typedtitle.h>
 #include <app/viewcommands.h>
+#include <app/walkcommands.h>
 #include <app/zoomcontrols.h>
 
 #include <fishbone/editor/fisheditor.h>
@@ -48,8 +55,11 @@ MainWindow::MainWindow(QWidget *parent)
     setWindowIcon(QIcon(QStringLiteral(":/app/icon.svg")));
     setUpEditor();
     auto *const controls = new ZoomControls(m_editor, this);
-    m_files = new FileCommands(m_session, m_theme, m_actions, this);
+    m_files = new FileCommands(m_session, m_actions, this);
+    m_exports = new ExportCommands(m_session, m_theme, m_actions, this);
     m_edits = new EditCommands(m_session, m_actions, this);
+    m_moves = new MoveCommands(m_session, m_actions, this);
+    m_walk = new WalkCommands(m_session, m_actions, this);
     m_views = new ViewCommands(m_session, m_theme, controls, m_actions, this);
     m_actions->add(QStringLiteral("details"), tr("&Details"), {Qt::Key_F4},
                    ActionSet::Scope::Selection,
@@ -105,15 +115,19 @@ void MainWindow::addDocks()
         "historyDock", tr("History"), new HistoryPanel(m_session, this), Qt::RightDockWidgetArea);
     resizeDocks({documents, details}, {240, 280}, Qt::Horizontal);
     resizeDocks({details, history}, {500, 160}, Qt::Vertical);
-    m_actions->addSelectionWidget(m_editor);
-    m_actions->addSelectionWidget(m_tree->view());
+    m_actions->addShortcuts(ActionSet::Scope::Selection, m_editor);
+    m_actions->addShortcuts(ActionSet::Scope::Selection, m_tree->view());
+    m_actions->addShortcuts(ActionSet::Scope::Drawing, m_editor);
 }
 
 void MainWindow::addBars()
 {
     auto *const visited = new QMenu(tr("Shown be&fore"), this);
     m_views->listVisited(visited);
-    Menus::build(this, *m_actions, visited);
+    new MenuKeys(this); // which owns it
+    Menus::build(
+        this, *m_actions,
+        {{QStringLiteral("recent"), m_files->recentMenu()}, {QStringLiteral("visited"), visited}});
     QMenu *const panels = createPopupMenu();
     panels->setTitle(tr("&Panels"));
     menuBar()->addMenu(panels);
@@ -124,10 +138,21 @@ void MainWindow::connectGestures()
 {
     const auto show = [this](const QString &text) { statusBar()->showMessage(text, 10000); };
     connect(m_files, &FileCommands::message, this, show);
+    connect(m_exports, &ExportCommands::message, this, show);
     connect(m_edits, &EditCommands::message, this, show);
     auto *const links = new LinkOpener(this);
     connect(links, &LinkOpener::failed, this,
             [show](const QUrl &url) { show(tr("Nothing opens %1").arg(url.toDisplayString())); });
+
+    auto *const typing = new TypedTitle(m_editor, this);
+    connect(typing, &TypedTitle::typed, this, [this](const QString &text) {
+        m_edits->rename(m_editor->firstSelectedSpearIndex(), text);
+    });
+    auto *const drops = new FileDrop(this);
+    drops->watch(this);
+    drops->watch(m_editor->view()->viewport());
+    // Queued, since the program from which the file comes waits for the end of the drop.
+    connect(drops, &FileDrop::dropped, this, &MainWindow::open, Qt::QueuedConnection);
 
     connect(m_editor, &FishEditor::editTaskDetail, this, &MainWindow::showDetails);
     connect(m_editor, &FishEditor::oneTaskClicked, this,
@@ -169,7 +194,10 @@ void MainWindow::updateState()
                             : tr("Fishbone"));
     setWindowModified(document && document->modified());
     m_files->updateActions();
+    m_exports->updateActions();
     m_edits->updateActions();
+    m_moves->updateActions();
+    m_walk->updateActions();
     m_views->updateActions();
     m_details->showSubject(m_editor->firstSelectedSpearIndex());
     m_tree->view()->viewport()->update(); // not every change of a title is announced
@@ -241,6 +269,7 @@ void MainWindow::closeEvent(QCloseEvent *event)
         event->ignore();
         return;
     }
+    LastDocuments::remember(*m_session);
     QSettings settings;
     settings.setValue(QStringLiteral("geometry"), saveGeometry());
     settings.setValue(QStringLiteral("layout"), saveState());

@@ -11,13 +11,16 @@ class CanvasTheme;
 class DetailsPanel;
 class DiagramSession;
 class EditCommands;
+class ExportCommands;
 class FileCommands;
 class FishEditor;
 class FishModel;
 class HistoryPanel;
+class MoveCommands;
 class SubjectTree;
 class TreeSync;
 class ViewCommands;
+class WalkCommands;
 
 /** The program's window: the drawing in the middle, documents, details and history around it. */
 class MainWindow : public QMainWindow
@@ -33,7 +36,8 @@ public:
     DiagramSession *session() const { return m_session; }
     SubjectTree *tree() const { return m_tree; }
 
-    /** Opens files and URLs; the template diagram when there are none. */
+    /** Opens files and URLs; when there are none, the documents of the last time or the template
+     * diagram. */
     void open(const QStringList &sources);
 
 protected:
@@ -59,7 +63,10 @@ private:
     CanvasTheme *m_theme;
     ActionSet *m_actions;
     FileCommands *m_files = nullptr;
+    ExportCommands *m_exports = nullptr;
     EditCommands *m_edits = nullptr;
+    MoveCommands *m_moves = nullptr;
+    WalkCommands *m_walk = nullptr;
     ViewCommands *m_views = nullptr;
     SubjectTree *m_tree = nullptr;
     TreeSync *m_sync = nullptr;

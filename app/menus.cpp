@@ -18,18 +18,23 @@ struct Bar
 {
     const char *name;
     const char *title;
-    const char *actions; ///< names; "|" stands for a separator, "visited" for that menu
+    const char *actions; ///< names; "|" stands for a separator; some are submenus
 };
 
 constexpr Bar menus[] = {
     {"fileMenu", QT_TRANSLATE_NOOP("Menus", "&File"),
-     "new newExample newFromTemplate | open url recover | save saveAs saveAll | export print | "
-     "close quit"},
+     "new newExample newFromTemplate | open recent import url recover | save saveAs saveAll | "
+     "export "
+     "exportAs print | "
+     "close | reopen quit"},
     {"editMenu", QT_TRANSLATE_NOOP("Menus", "&Edit"),
      "undo redo | cut copy paste delete | selectAll find"},
     {"subjectMenu", QT_TRANSLATE_NOOP("Menus", "&Subject"),
-     "child before after parent subTask free | rename details | link openLink unlink | style "
+     "child before after parent subTask free | rename details | moveUp moveDown promote demote | "
+     "link openLink unlink | style "
      "removeStyle"},
+    {"goMenu", QT_TRANSLATE_NOOP("Menus", "&Go"),
+     "goLeft goRight goUp goDown | goParent goChild goPrevious goNext"},
     {"viewMenu", QT_TRANSLATE_NOOP("Menus", "&View"),
      "zoomin zoomout fullsize fit fitselection | rotateLeft rotateRight rotateReset | expand "
      "contract expandall contractall | asDiagram back whole visited | diagramMode taskMode | "
@@ -50,7 +55,8 @@ QString translated(const char *text)
     return QCoreApplication::translate("Menus", text);
 }
 
-void fill(QWidget *bar, const char *names, const ActionSet &actions, QMenu *visited)
+void fill(QWidget *bar, const char *names, const ActionSet &actions,
+          const QHash<QString, QMenu *> &submenus)
 {
     const QStringList list = QString::fromLatin1(names).split(QLatin1Char(' '));
     for (const QString &name : list) {
@@ -58,8 +64,8 @@ void fill(QWidget *bar, const char *names, const ActionSet &actions, QMenu *visi
             auto *const separator = new QAction(bar);
             separator->setSeparator(true);
             bar->addAction(separator);
-        } else if (name == QLatin1String("visited")) {
-            bar->addAction(visited->menuAction());
+        } else if (const QMenu *const submenu = submenus.value(name)) {
+            bar->addAction(submenu->menuAction());
         } else {
             bar->addAction(actions.action(name));
         }
@@ -70,18 +76,18 @@ void fill(QWidget *bar, const char *names, const ActionSet &actions, QMenu *visi
 
 namespace Menus {
 
-void build(QMainWindow *window, const ActionSet &actions, QMenu *visited)
+void build(QMainWindow *window, const ActionSet &actions, const QHash<QString, QMenu *> &submenus)
 {
     for (const Bar &bar : menus) {
         QMenu *const menu = window->menuBar()->addMenu(translated(bar.title));
         menu->setObjectName(QLatin1String(bar.name));
-        fill(menu, bar.actions, actions, visited);
+        fill(menu, bar.actions, actions, submenus);
     }
     for (const Bar &bar : toolBars) {
         QToolBar *const toolBar = window->addToolBar(translated(bar.title));
         toolBar->setObjectName(QLatin1String(bar.name));
         toolBar->setIconSize(QSize(20, 20));
-        fill(toolBar, bar.actions, actions, visited);
+        fill(toolBar, bar.actions, actions, submenus);
     }
 }
 

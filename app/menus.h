@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include <QHash>
+
 class ActionSet;
 class QMainWindow;
 class QMenu;
@@ -11,7 +13,7 @@ class QMenu;
 namespace Menus {
 
 /** Fills the menu bar and the tool bars of @p window. The menu of its docks and bars is left to it.
- */
-void build(QMainWindow *window, const ActionSet &actions, QMenu *visited);
+ * @p submenus are those that somebody else fills: "recent", "visited". */
+void build(QMainWindow *window, const ActionSet &actions, const QHash<QString, QMenu *> &submenus);
 
 } // namespace Menus

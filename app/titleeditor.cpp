@@ -27,7 +27,7 @@ TreeItem *subjectAt(const FishEditor &editor, const QModelIndex &index)
 
 } // namespace
 
-void TitleEditor::open(FishEditor *editor, const QModelIndex &index)
+void TitleEditor::open(FishEditor *editor, const QModelIndex &index, const QString &typed)
 {
     const TreeItem *const subject = subjectAt(*editor, index);
     if (!subject || !subject->spear() || !subject->spear()->isVisible())
@@ -36,7 +36,10 @@ void TitleEditor::open(FishEditor *editor, const QModelIndex &index)
     auto *const field = new TitleEditor(editor, index); // owned by the viewport
     field->show();
     field->setFocus();
-    field->selectAll();
+    if (typed.isEmpty())
+        field->selectAll();
+    else
+        field->setText(typed);
 }
 
 TitleEditor::TitleEditor(FishEditor *editor, const QModelIndex &index)
@@ -47,12 +50,14 @@ TitleEditor::TitleEditor(FishEditor *editor, const QModelIndex &index)
     setObjectName(QStringLiteral("title"));
     setAccessibleName(tr("Title"));
     place();
+    connect(this, &QLineEdit::textChanged, this, &TitleEditor::place);
     connect(this, &QLineEdit::editingFinished, this, &TitleEditor::finish);
     connect(editor->scene(), &QGraphicsScene::changed, this, &TitleEditor::place);
     parentWidget()->installEventFilter(this);
 }
 
-/** Follows the text, which may move or go away while its title is edited. */
+/** Follows the bone's text, which may move or go away while its title is edited, and makes room for
+ * what is typed. */
 void TitleEditor::place()
 {
     const TreeItem *const subject = subjectAt(*m_editor, m_index);
@@ -60,11 +65,14 @@ void TitleEditor::place()
         close();
         return;
     }
-    const TextItem *const text = subject->spear()->textItem();
+    const TextItem *const title = subject->spear()->textItem();
     const QRect box =
-        m_editor->view()->mapFromScene(text->mapToScene(text->boundingRect())).boundingRect();
+        m_editor->view()->mapFromScene(title->mapToScene(title->boundingRect())).boundingRect();
     const QRect room = parentWidget()->rect();
-    const QSize wanted(std::max(box.width() + 40, minimalWidth), sizeHint().height());
+    constexpr int frame = 40; // beside the text, with a little to type into
+    const int width = std::max(box.width(), fontMetrics().horizontalAdvance(text()));
+    const QSize wanted(qBound(minimalWidth, width + frame, std::max(minimalWidth, room.width())),
+                       sizeHint().height());
     const QPoint free(std::max(0, room.width() - wanted.width()),
                       std::max(0, room.height() - wanted.height()));
     const QPoint topLeft = box.center() - QPoint(wanted.width() / 2, wanted.height() / 2);
@@ -96,6 +104,14 @@ void TitleEditor::keyPressEvent(QKeyEvent *event)
         close();
     else
         QLineEdit::keyPressEvent(event);
+}
+
+/** Tab ends the field as Return does, so that the next key is for the drawing again. */
+bool TitleEditor::focusNextPrevChild(bool next)
+{
+    Q_UNUSED(next)
+    finish();
+    return true;
 }
 
 void TitleEditor::finish()

@@ -9,21 +9,24 @@
 class FishEditor;
 
 /**
- * A field over a bone's text in which its title is changed. Return, or leaving the field, takes the
- * new title, Esc keeps the old one; the field then deletes itself.
+ * A field over a bone's text in which its title is changed. Return, Tab, or leaving the field,
+ * takes the new title, Esc keeps the old one; the field then deletes itself and the drawing gets
+ * the focus.
  */
 class TitleEditor : public QLineEdit
 {
     Q_OBJECT
 
 public:
-    /** Opens the field over the bone of the subject at @p index; does nothing when it has none. */
-    static void open(FishEditor *editor, const QModelIndex &index);
+    /** Opens the field over the bone of the subject at @p index; does nothing when it has none. It
+     * begins with the title, all selected, or with @p typed unless that is empty. */
+    static void open(FishEditor *editor, const QModelIndex &index, const QString &typed);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
     bool event(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    bool focusNextPrevChild(bool next) override;
 
 private:
     TitleEditor(FishEditor *editor, const QModelIndex &index);

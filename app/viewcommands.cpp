@@ -54,7 +54,9 @@ void ViewCommands::addZoomActions()
         [this] { m_editor->zoomOut(zoomStep); });
     add("fullsize", tr("&100 %"), {QKeySequence(Qt::CTRL | Qt::Key_0)},
         [this] { m_editor->fullSize(); });
-    add("fit", tr("&Fit all"), {QKeySequence(Qt::CTRL | Qt::Key_9)}, [this] { fitAll(); });
+    m_actions->add(QStringLiteral("fit"), tr("&Fit all"),
+                   {Qt::Key_Home, QKeySequence(Qt::CTRL | Qt::Key_9)}, ActionSet::Scope::Drawing,
+                   [this] { fitAll(); });
     add("fitselection", tr("Fit &selection"), {QKeySequence(Qt::CTRL | Qt::Key_8)},
         [this] { m_editor->showSelected(); });
     add("rotateRight", tr("Rotate &right"), {QKeySequence(Qt::CTRL | Qt::Key_BracketRight)},
@@ -94,7 +96,8 @@ void ViewCommands::addDiagramActions()
     };
     add("asDiagram", tr("Show as a &diagram of its own"), {},
         [this] { m_session->showAsDiagram(m_editor->firstSelectedSpearIndex()); });
-    add("back", tr("&Back"), QKeySequence(Qt::ALT | Qt::Key_Left), [this] { m_session->goBack(); });
+    add("back", tr("&Back"), QKeySequence(Qt::ALT | Qt::Key_Backspace),
+        [this] { m_session->goBack(); });
     add("whole", tr("Show the &whole diagram"), QKeySequence(Qt::ALT | Qt::Key_Home),
         [this] { m_session->showWhole(); });
     add("canvasStyle", tr("Style of &all subjects…"), {}, [this] { m_theme->editStyle(m_window); });

@@ -654,6 +654,41 @@ The exit code is 3 when anything is.</translation>
     </message>
 </context>
 <context>
+    <name>ExportCommands</name>
+    <message>
+        <source>&amp;Export picture…</source>
+        <translation>&amp;Export picture…</translation>
+    </message>
+    <message>
+        <source>E&amp;xport as…</source>
+        <translation>E&amp;xport as…</translation>
+    </message>
+    <message>
+        <source>&amp;Print…</source>
+        <translation>&amp;Print…</translation>
+    </message>
+    <message>
+        <source>%1 written</source>
+        <translation>%1 written</translation>
+    </message>
+    <message>
+        <source>Export picture</source>
+        <translation>Export picture</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2.</source>
+        <translation>%1 cannot be written: %2.</translation>
+    </message>
+    <message>
+        <source>Export as</source>
+        <translation>Export as</translation>
+    </message>
+    <message>
+        <source>its ending tells none of the formats</source>
+        <translation>its ending tells none of the formats</translation>
+    </message>
+</context>
+<context>
     <name>ExportDialog</name>
     <message>
         <source>Export picture</source>
@@ -739,14 +774,6 @@ The exit code is 3 when anything is.</translation>
         <translation>Save a&amp;ll</translation>
     </message>
     <message>
-        <source>&amp;Export picture…</source>
-        <translation>&amp;Export picture…</translation>
-    </message>
-    <message>
-        <source>&amp;Print…</source>
-        <translation>&amp;Print…</translation>
-    </message>
-    <message>
         <source>&amp;Close</source>
         <translation>&amp;Close</translation>
     </message>
@@ -799,16 +826,24 @@ The exit code is 3 when anything is.</translation>
         <translation>%1 saved</translation>
     </message>
     <message>
-        <source>%1 written</source>
-        <translation>%1 written</translation>
+        <source>Fishbone diagrams (*.json);;%1;;All files (*)</source>
+        <translation>Fishbone diagrams (*.json);;%1;;All files (*)</translation>
     </message>
     <message>
-        <source>Export picture</source>
-        <translation>Export picture</translation>
+        <source>&amp;Import…</source>
+        <translation>&amp;Import…</translation>
     </message>
     <message>
-        <source>%1 cannot be written: %2.</source>
-        <translation>%1 cannot be written: %2.</translation>
+        <source>Import</source>
+        <translation>Import</translation>
+    </message>
+    <message>
+        <source>Reopen &amp;documents at the start</source>
+        <translation>Reopen &amp;documents at the start</translation>
+    </message>
+    <message>
+        <source>%1 would not be recognized as a diagram. Its name should end in .json; &quot;Export as&quot; writes other formats.</source>
+        <translation>%1 would not be recognized as a diagram. Its name should end in .json; &quot;Export as&quot; writes other formats.</translation>
     </message>
 </context>
 <context>
@@ -1006,6 +1041,10 @@ Do you want to save your changes?</translation>
         <source>View</source>
         <translation>View</translation>
     </message>
+    <message>
+        <source>&amp;Go</source>
+        <translation>&amp;Go</translation>
+    </message>
 </context>
 <context>
     <name>ModifyDelLink</name>
@@ -1026,6 +1065,25 @@ Do you want to save your changes?</translation>
     <message>
         <source>Modify subject name</source>
         <translation>Rename subject</translation>
+    </message>
+</context>
+<context>
+    <name>MoveCommands</name>
+    <message>
+        <source>Move &amp;up</source>
+        <translation>Move &amp;up</translation>
+    </message>
+    <message>
+        <source>Move do&amp;wn</source>
+        <translation>Move do&amp;wn</translation>
+    </message>
+    <message>
+        <source>Pro&amp;mote (beside its parent)</source>
+        <translation>Pro&amp;mote (beside its parent)</translation>
+    </message>
+    <message>
+        <source>D&amp;emote (below the one before)</source>
+        <translation>D&amp;emote (below the one before)</translation>
     </message>
 </context>
 <context>
@@ -1190,6 +1248,21 @@ Do you want to save your changes?</translation>
     </message>
 </context>
 <context>
+    <name>RecentFiles</name>
+    <message>
+        <source>&amp;Recent files</source>
+        <translation>&amp;Recent files</translation>
+    </message>
+    <message>
+        <source>(nothing yet)</source>
+        <translation>(nothing yet)</translation>
+    </message>
+    <message>
+        <source>&amp;Clear the list</source>
+        <translation>&amp;Clear the list</translation>
+    </message>
+</context>
+<context>
     <name>ReplaceFindDialog</name>
     <message>
         <source>Case sensitive</source>
@@ -1313,6 +1386,13 @@ Do you want to save your changes?</translation>
     <message>
         <source>Set BroderPen</source>
         <translation>Border pen…</translation>
+    </message>
+</context>
+<context>
+    <name>SubjectClipboard</name>
+    <message>
+        <source>cannot paste the text: %1</source>
+        <translation>cannot paste the text: %1</translation>
     </message>
 </context>
 <context>
@@ -1474,6 +1554,41 @@ Do you want to save your changes?</translation>
     <message>
         <source>(nothing yet)</source>
         <translation>(nothing yet)</translation>
+    </message>
+</context>
+<context>
+    <name>WalkCommands</name>
+    <message>
+        <source>To the &amp;left</source>
+        <translation>To the &amp;left</translation>
+    </message>
+    <message>
+        <source>To the &amp;right</source>
+        <translation>To the &amp;right</translation>
+    </message>
+    <message>
+        <source>&amp;Up</source>
+        <translation>&amp;Up</translation>
+    </message>
+    <message>
+        <source>&amp;Down</source>
+        <translation>&amp;Down</translation>
+    </message>
+    <message>
+        <source>To the &amp;parent</source>
+        <translation>To the &amp;parent</translation>
+    </message>
+    <message>
+        <source>To the &amp;first child</source>
+        <translation>To the &amp;first child</translation>
+    </message>
+    <message>
+        <source>To the one &amp;before</source>
+        <translation>To the one &amp;before</translation>
+    </message>
+    <message>
+        <source>To the &amp;next one</source>
+        <translation>To the &amp;next one</translation>
     </message>
 </context>
 <context>

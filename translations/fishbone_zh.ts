@@ -654,6 +654,41 @@ The exit code is 3 when anything is.</source>
     </message>
 </context>
 <context>
+    <name>ExportCommands</name>
+    <message>
+        <source>&amp;Export picture…</source>
+        <translation>导出图片(&amp;E)…</translation>
+    </message>
+    <message>
+        <source>E&amp;xport as…</source>
+        <translation>导出为其他格式(&amp;X)…</translation>
+    </message>
+    <message>
+        <source>&amp;Print…</source>
+        <translation>打印(&amp;P)…</translation>
+    </message>
+    <message>
+        <source>%1 written</source>
+        <translation>已写入 %1</translation>
+    </message>
+    <message>
+        <source>Export picture</source>
+        <translation>导出图片</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2.</source>
+        <translation>无法写入 %1：%2。</translation>
+    </message>
+    <message>
+        <source>Export as</source>
+        <translation>导出为其他格式</translation>
+    </message>
+    <message>
+        <source>its ending tells none of the formats</source>
+        <translation>无法从扩展名判断格式</translation>
+    </message>
+</context>
+<context>
     <name>ExportDialog</name>
     <message>
         <source>Export picture</source>
@@ -739,14 +774,6 @@ The exit code is 3 when anything is.</source>
         <translation>全部保存(&amp;L)</translation>
     </message>
     <message>
-        <source>&amp;Export picture…</source>
-        <translation>导出图片(&amp;E)…</translation>
-    </message>
-    <message>
-        <source>&amp;Print…</source>
-        <translation>打印(&amp;P)…</translation>
-    </message>
-    <message>
         <source>&amp;Close</source>
         <translation>关闭(&amp;C)</translation>
     </message>
@@ -799,16 +826,24 @@ The exit code is 3 when anything is.</source>
         <translation>已保存 %1</translation>
     </message>
     <message>
-        <source>%1 written</source>
-        <translation>已写入 %1</translation>
+        <source>Fishbone diagrams (*.json);;%1;;All files (*)</source>
+        <translation>鱼骨图 (*.json);;%1;;所有文件 (*)</translation>
     </message>
     <message>
-        <source>Export picture</source>
-        <translation>导出图片</translation>
+        <source>&amp;Import…</source>
+        <translation>导入(&amp;I)…</translation>
     </message>
     <message>
-        <source>%1 cannot be written: %2.</source>
-        <translation>无法写入 %1：%2。</translation>
+        <source>Import</source>
+        <translation>导入</translation>
+    </message>
+    <message>
+        <source>Reopen &amp;documents at the start</source>
+        <translation>启动时重新打开上次的文档(&amp;D)</translation>
+    </message>
+    <message>
+        <source>%1 would not be recognized as a diagram. Its name should end in .json; &quot;Export as&quot; writes other formats.</source>
+        <translation>%1 不会被识别为鱼骨图。文件名应以 .json 结尾；其他格式请用“导出为其他格式”。</translation>
     </message>
 </context>
 <context>
@@ -1004,6 +1039,10 @@ Do you want to save your changes?</source>
         <source>View</source>
         <translation>视图</translation>
     </message>
+    <message>
+        <source>&amp;Go</source>
+        <translation>转到(&amp;G)</translation>
+    </message>
 </context>
 <context>
     <name>ModifyDelLink</name>
@@ -1024,6 +1063,25 @@ Do you want to save your changes?</source>
     <message>
         <source>Modify subject name</source>
         <translation>修改主题名称</translation>
+    </message>
+</context>
+<context>
+    <name>MoveCommands</name>
+    <message>
+        <source>Move &amp;up</source>
+        <translation>上移(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Move do&amp;wn</source>
+        <translation>下移(&amp;W)</translation>
+    </message>
+    <message>
+        <source>Pro&amp;mote (beside its parent)</source>
+        <translation>升级（与父主题并列）(&amp;M)</translation>
+    </message>
+    <message>
+        <source>D&amp;emote (below the one before)</source>
+        <translation>降级（移到前一主题之下）(&amp;E)</translation>
     </message>
 </context>
 <context>
@@ -1188,6 +1246,21 @@ Do you want to save your changes?</source>
     </message>
 </context>
 <context>
+    <name>RecentFiles</name>
+    <message>
+        <source>&amp;Recent files</source>
+        <translation>最近的文件(&amp;R)</translation>
+    </message>
+    <message>
+        <source>(nothing yet)</source>
+        <translation>（暂无）</translation>
+    </message>
+    <message>
+        <source>&amp;Clear the list</source>
+        <translation>清空列表(&amp;C)</translation>
+    </message>
+</context>
+<context>
     <name>ReplaceFindDialog</name>
     <message>
         <source>Case sensitive</source>
@@ -1311,6 +1384,13 @@ Do you want to save your changes?</source>
     <message>
         <source>Set BroderPen</source>
         <translation>边框画笔…</translation>
+    </message>
+</context>
+<context>
+    <name>SubjectClipboard</name>
+    <message>
+        <source>cannot paste the text: %1</source>
+        <translation>无法粘贴文本：%1</translation>
     </message>
 </context>
 <context>
@@ -1472,6 +1552,41 @@ Do you want to save your changes?</source>
     <message>
         <source>(nothing yet)</source>
         <translation>（暂无）</translation>
+    </message>
+</context>
+<context>
+    <name>WalkCommands</name>
+    <message>
+        <source>To the &amp;left</source>
+        <translation>向左(&amp;L)</translation>
+    </message>
+    <message>
+        <source>To the &amp;right</source>
+        <translation>向右(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Up</source>
+        <translation>向上(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Down</source>
+        <translation>向下(&amp;D)</translation>
+    </message>
+    <message>
+        <source>To the &amp;parent</source>
+        <translation>到父主题(&amp;P)</translation>
+    </message>
+    <message>
+        <source>To the &amp;first child</source>
+        <translation>到第一个子主题(&amp;F)</translation>
+    </message>
+    <message>
+        <source>To the one &amp;before</source>
+        <translation>到前一主题(&amp;B)</translation>
+    </message>
+    <message>
+        <source>To the &amp;next one</source>
+        <translation>到后一主题(&amp;N)</translation>
     </message>
 </context>
 <context>

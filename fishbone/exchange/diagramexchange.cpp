@@ -93,6 +93,29 @@ QByteArray bytesOf(const TreeItem &head, Format format, QString *error)
     return entryOf(format).write(head);
 }
 
+/** Reads @p device; @p take gets what is wanted out of the tree, or null. */
+std::unique_ptr<TreeItem> readTree(QIODevice &device, Format format, QString *error,
+                                   std::unique_ptr<TreeItem> (ImportedTree::*take)())
+{
+    const QByteArray bytes = device.read(DiagramExchange::maximalBytes + 1);
+    if (bytes.size() > DiagramExchange::maximalBytes) {
+        report(error, DiagramExchange::tr("it is larger than %1 MiB")
+                          .arg(DiagramExchange::maximalBytes >> 20));
+        return nullptr;
+    }
+    if (bytes.isEmpty()) {
+        report(error, DiagramExchange::tr("it is empty"));
+        return nullptr;
+    }
+    ImportedTree tree;
+    std::unique_ptr<TreeItem> taken;
+    if (entryOf(format).read(bytes, tree))
+        taken = (tree.*take)();
+    if (!taken)
+        report(error, tree.error());
+    return taken;
+}
+
 } // namespace
 
 QList<Format> DiagramExchange::formats()
@@ -156,22 +179,15 @@ QString DiagramExchange::exportFilter()
 
 std::unique_ptr<TreeItem> DiagramExchange::read(QIODevice &device, Format format, QString *error)
 {
-    const QByteArray bytes = device.read(maximalBytes + 1);
-    if (bytes.size() > maximalBytes) {
-        report(error, tr("it is larger than %1 MiB").arg(maximalBytes >> 20));
-        return nullptr;
-    }
-    if (bytes.isEmpty()) {
-        report(error, tr("it is empty"));
-        return nullptr;
-    }
-    ImportedTree tree;
-    std::unique_ptr<TreeItem> head;
-    if (entryOf(format).read(bytes, tree))
-        head = format == Format::Json ? tree.takeAsItStands() : tree.takeCompleted();
-    if (!head)
-        report(error, tree.error());
-    return head;
+    return readTree(device, format, error,
+                    format == Format::Json ? &ImportedTree::takeAsItStands
+                                           : &ImportedTree::takeCompleted);
+}
+
+std::unique_ptr<TreeItem> DiagramExchange::readBranches(QIODevice &device, Format format,
+                                                        QString *error)
+{
+    return readTree(device, format, error, &ImportedTree::takeBranches);
 }
 
 std::unique_ptr<TreeItem> DiagramExchange::readFile(const QString &fileName, Format format,

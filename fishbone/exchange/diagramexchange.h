@@ -36,6 +36,7 @@ class FISHBONE_EXPORT DiagramExchange
     Q_DECLARE_TR_FUNCTIONS(DiagramExchange)
 
 public:
+    /** A format that diagrams are kept in. */
     enum class Format {
         Json,     ///< the diagram format itself
         Markdown, ///< a heading and nested lists
@@ -81,6 +82,12 @@ public:
      */
     static std::unique_ptr<TreeItem> read(QIODevice &device, Format format,
                                           QString *error = nullptr);
+    /**
+     * As read(), for what goes below a subject of another diagram: the children of the node that is
+     * returned are the subjects at the top level, one or several.
+     */
+    static std::unique_ptr<TreeItem> readBranches(QIODevice &device, Format format,
+                                                  QString *error = nullptr);
     /** As read(), from the file @p fileName. */
     static std::unique_ptr<TreeItem> readFile(const QString &fileName, Format format,
                                               QString *error = nullptr);

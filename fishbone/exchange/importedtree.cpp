@@ -99,3 +99,14 @@ std::unique_ptr<TreeItem> ImportedTree::takeCompleted()
     complete(*m_container);
     return std::move(m_container);
 }
+
+std::unique_ptr<TreeItem> ImportedTree::takeBranches()
+{
+    if (m_container->childCount() == 0) {
+        fail(DiagramExchange::tr("it holds no diagram"));
+        return nullptr;
+    }
+    m_open.clear();
+    complete(*m_container);
+    return std::move(m_container);
+}

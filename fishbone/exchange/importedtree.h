@@ -49,6 +49,8 @@ public:
      * no subject, or no room for a head.
      */
     std::unique_ptr<TreeItem> takeCompleted();
+    /** As takeCompleted(), but the node whose children are the subjects at the top level. */
+    std::unique_ptr<TreeItem> takeBranches();
 
 private:
     struct Open

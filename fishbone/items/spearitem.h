@@ -5,6 +5,7 @@
 
 #include <memory>
 
+#include <QFont>
 #include <QGraphicsLineItem>
 #include <QPen>
 #include <QPointer>

@@ -15,6 +15,7 @@ private Q_SLOTS:
     void init();
     void shouldExportEveryFormat_data();
     void shouldExportEveryFormat();
+    void shouldExportAFileOfAnotherProgram();
     void shouldExportTheSameWhateverTheEnvironment_data();
     void shouldExportTheSameWhateverTheEnvironment();
     void shouldExpandAsAsked_data();
@@ -78,6 +79,19 @@ void TestCommandLine::shouldExportEveryFormat()
     QCOMPARE(outcome.err, QString());
     QCOMPARE(outcome.code, 0);
     QVERIFY(contentOf(target).startsWith(beginning));
+}
+
+void TestCommandLine::shouldExportAFileOfAnotherProgram()
+{
+    const QString source = path(QStringLiteral("late.txt"));
+    QFile file(source);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("Late\n\tPeople\n");
+    file.close();
+    const Outcome outcome = run({QStringLiteral("--export"), picture(), source}, environment());
+    QCOMPARE(outcome.err, QString());
+    QCOMPARE(outcome.code, 0);
+    QCOMPARE(QImage(picture()).text(QStringLiteral("Title")), QStringLiteral("Late"));
 }
 
 void TestCommandLine::shouldExportTheSameWhateverTheEnvironment_data()

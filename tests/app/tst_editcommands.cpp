@@ -42,6 +42,7 @@ private Q_SLOTS:
     void initTestCase();
     void shouldInsertByShortcutAndName_data();
     void shouldInsertByShortcutAndName();
+    void shouldScrollToWhatIsInserted();
     void shouldInsertByMenu_data();
     void shouldInsertByMenu();
     void shouldKeepTheFieldOverTheTitle_data();
@@ -77,6 +78,12 @@ void TestEditCommands::shouldInsertByShortcutAndName_data()
     QTest::newRow("child") << int(Qt::Key_Insert) << int(Qt::NoModifier)
                            << QStringLiteral("Late[People[Too few[Illness],Too new],Machines[New],"
                                              "Material[Rust]]");
+    QTest::newRow("child, with Tab")
+        << int(Qt::Key_Tab) << int(Qt::NoModifier)
+        << QStringLiteral("Late[People[Too few[Illness],Too new],Machines[New],Material[Rust]]");
+    QTest::newRow("after, with the number pad")
+        << int(Qt::Key_Enter) << int(Qt::KeypadModifier)
+        << QStringLiteral("Late[People[Too few[Illness],Too new],Machines,New,Material[Rust]]");
     QTest::newRow("before") << int(Qt::Key_Return) << int(Qt::ShiftModifier)
                             << QStringLiteral("Late[People[Too few[Illness],Too new],New,Machines,"
                                               "Material[Rust]]");
@@ -114,6 +121,28 @@ void TestEditCommands::shouldInsertByShortcutAndName()
     app.trigger("undo");
     app.trigger("undo");
     QCOMPARE(app.text(), original());
+}
+
+void TestEditCommands::shouldScrollToWhatIsInserted()
+{
+    AppFixture app;
+    app.trigger("expandall");
+    app.window.editor()->zoomFish(400); // eight times as large: most of it is out of sight
+    GraphicsView *const view = app.window.editor()->view();
+    for (const char *title : {"Illness", "Rust", "Machines"}) {
+        app.select(title);
+        for (int i = 0; i < 3; ++i) { // each one outside of what could be scrolled to before
+            QTest::keyClick(view, Qt::Key_Tab);
+            AppFixture::settle();
+            QVERIFY2(titleField(app), title);
+            const SpearItem *const made = app.window.editor()->firstSelectedSpear();
+            const QPoint middle = view->mapFromScene(
+                made->textItem()->mapToScene(made->textItem()->boundingRect().center()));
+            QVERIFY2(view->viewport()->rect().contains(middle), title);
+            QTest::keyClick(titleField(app), Qt::Key_Return);
+            AppFixture::settle();
+        }
+    }
 }
 
 void TestEditCommands::shouldInsertByMenu_data()

@@ -162,7 +162,7 @@ void TestLanguageWindow::shouldGiveEveryEntryOfAMenuAMnemonic()
 {
     useLanguage();
     const MainWindow window;
-    for (const char *name : {"fileMenu", "editMenu", "subjectMenu", "viewMenu"}) {
+    for (const char *name : {"fileMenu", "editMenu", "subjectMenu", "goMenu", "viewMenu"}) {
         const auto *const menu = window.findChild<QMenu *>(QLatin1String(name));
         QVERIFY2(menu, name);
         QVERIFY2(!QKeySequence::mnemonic(menu->title()).isEmpty(), name);
@@ -193,7 +193,7 @@ void TestLanguageWindow::shouldShowToolTipsWithoutMnemonics()
     // "&" or, for Chinese, a letter in brackets that is no part of the shortcut at the end.
     static const QRegularExpression mark(QStringLiteral("&|\\([A-Z0-9]\\)"));
     int count = 0;
-    for (const char *name : {"fileMenu", "editMenu", "subjectMenu", "viewMenu"}) {
+    for (const char *name : {"fileMenu", "editMenu", "subjectMenu", "goMenu", "viewMenu"}) {
         for (const QAction *action : window.findChild<QMenu *>(QLatin1String(name))->actions()) {
             if (action->isSeparator() || action->menu())
                 continue;

@@ -127,24 +127,29 @@ void TestMainWindow::shouldOfferEveryActionInAMenu()
         for (const QAction *action : actions)
             offered.insert(action->objectName());
     }
-    for (const char *name : {"new",         "newExample",  "newFromTemplate",
-                             "open",        "url",         "recover",
-                             "save",        "saveAs",      "saveAll",
-                             "export",      "print",       "close",
-                             "quit",        "undo",        "redo",
-                             "cut",         "copy",        "paste",
-                             "delete",      "selectAll",   "find",
-                             "child",       "before",      "after",
-                             "parent",      "subTask",     "free",
-                             "rename",      "details",     "link",
-                             "openLink",    "unlink",      "style",
-                             "removeStyle", "zoomin",      "zoomout",
-                             "fullsize",    "fit",         "fitselection",
-                             "rotateLeft",  "rotateRight", "rotateReset",
-                             "expand",      "contract",    "expandall",
-                             "contractall", "asDiagram",   "back",
-                             "whole",       "diagramMode", "taskMode",
-                             "canvasStyle"})
+    for (const char *name : {"new",         "newExample",   "newFromTemplate",
+                             "open",        "url",          "recover",
+                             "save",        "saveAs",       "saveAll",
+                             "export",      "exportAs",     "import",
+                             "print",       "close",        "quit",
+                             "undo",        "redo",         "cut",
+                             "copy",        "paste",        "delete",
+                             "selectAll",   "find",         "child",
+                             "before",      "after",        "parent",
+                             "subTask",     "free",         "rename",
+                             "details",     "link",         "openLink",
+                             "unlink",      "style",        "removeStyle",
+                             "zoomin",      "zoomout",      "fullsize",
+                             "fit",         "fitselection", "rotateLeft",
+                             "rotateRight", "rotateReset",  "expand",
+                             "contract",    "expandall",    "contractall",
+                             "asDiagram",   "back",         "whole",
+                             "diagramMode", "taskMode",     "canvasStyle",
+                             "reopen",      "moveUp",       "moveDown",
+                             "promote",     "demote",       "goLeft",
+                             "goRight",     "goUp",         "goDown",
+                             "goParent",    "goChild",      "goPrevious",
+                             "goNext"})
         QVERIFY2(offered.contains(QLatin1String(name)), name);
 }
 

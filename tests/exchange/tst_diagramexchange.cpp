@@ -3,6 +3,7 @@
 
 #include <tests/exchange/exchangefixture.h>
 
+#include <QBuffer>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QJsonDocument>
@@ -29,6 +30,9 @@ private Q_SLOTS:
     void shouldTellUuidsThatStandTwiceApart();
     void shouldPutSeveralTopSubjectsBelowANewHead_data();
     void shouldPutSeveralTopSubjectsBelowANewHead();
+    void shouldReadBranchesWithoutAHead_data();
+    void shouldReadBranchesWithoutAHead();
+    void shouldSayWhyBranchesCannotBeRead();
     void shouldRefuseWhatHoldsNothing_data() { addFormats(); }
     void shouldRefuseWhatHoldsNothing();
     void shouldRefuseWhatIsTooLarge();
@@ -196,6 +200,43 @@ void TestDiagramExchange::shouldPutSeveralTopSubjectsBelowANewHead()
     QVERIFY(!result.head->isHaveParentTask());
     for (const TreeItem *child : result.head->childItems())
         QCOMPARE(child->pid(), result.head->uuid());
+}
+
+void TestDiagramExchange::shouldReadBranchesWithoutAHead_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QStringList>("branches");
+
+    QTest::newRow("several") << QByteArray("a\n\tb\nc\n")
+                             << QStringList({QStringLiteral("a[b]"), QStringLiteral("c")});
+    QTest::newRow("one") << QByteArray("a\n\tb\n") << QStringList(QStringLiteral("a[b]"));
+}
+
+void TestDiagramExchange::shouldReadBranchesWithoutAHead()
+{
+    QFETCH(QByteArray, content);
+    QFETCH(QStringList, branches);
+    QBuffer buffer(&content);
+    QVERIFY(buffer.open(QIODevice::ReadOnly));
+    const auto node = DiagramExchange::readBranches(buffer, Format::Text);
+    QVERIFY(node);
+    QStringList texts;
+    for (const TreeItem *branch : node->childItems()) {
+        texts.append(TestSupport::treeToText(*branch));
+        QVERIFY(!branch->uuid().isEmpty());
+        QCOMPARE(branch->pid(), node->uuid());
+    }
+    QCOMPARE(texts, branches);
+}
+
+void TestDiagramExchange::shouldSayWhyBranchesCannotBeRead()
+{
+    QBuffer buffer;
+    QVERIFY(buffer.open(QIODevice::ReadOnly));
+    buffer.buffer() = "\n \n";
+    QString error;
+    QVERIFY(!DiagramExchange::readBranches(buffer, Format::Text, &error));
+    QCOMPARE(error, QStringLiteral("it holds no diagram"));
 }
 
 void TestDiagramExchange::shouldRefuseWhatHoldsNothing()

@@ -1,0 +1,159 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#include <tests/app/appfixture.h>
+#include <tests/app/dialoganswers.h>
+
+#include <tests/support/modaldriver.h>
+
+#include <app/autosave.h>
+
+#include <fishbone/exchange/diagramexchange.h>
+
+#include <QStatusBar>
+
+using DialogAnswers::enter;
+using TestSupport::ModalDriver;
+
+namespace {
+
+/// The name filter of \a format in the dialog.
+QString filterOf(const QFileDialog &dialog, DiagramExchange::Format format)
+{
+    return dialog.nameFilters().filter(DiagramExchange::name(format)).value(0);
+}
+
+} // namespace
+
+class TestExportCommands : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+    void shouldExportEveryForeignFormat_data();
+    void shouldExportEveryForeignFormat();
+    void shouldExportTheWholeDocument();
+    void shouldLeaveTheDocumentAsItIs();
+    void shouldNotExportUnderAnEndingThatTellsNoFormat();
+    void shouldSayThatAFileCannotBeWritten();
+    void shouldWriteNothingWhenCancelled();
+};
+
+void TestExportCommands::initTestCase()
+{
+    QStandardPaths::setTestModeEnabled(true);
+    QCoreApplication::setApplicationName(QStringLiteral("tst_exportcommands"));
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+}
+
+void TestExportCommands::init()
+{
+    QDir(Autosave::folder()).removeRecursively();
+}
+
+void TestExportCommands::shouldExportEveryForeignFormat_data()
+{
+    QTest::addColumn<int>("format");
+    const QList<DiagramExchange::Format> formats = DiagramExchange::formats();
+    for (const DiagramExchange::Format format : formats) {
+        if (format != DiagramExchange::Format::Json)
+            QTest::newRow(qPrintable(DiagramExchange::id(format))) << int(format);
+    }
+}
+
+void TestExportCommands::shouldExportEveryForeignFormat()
+{
+    QFETCH(int, format);
+    const auto foreign = DiagramExchange::Format(format);
+    AppFixture app;
+    QString proposed;
+    const ModalDriver<QFileDialog> driver([&](QFileDialog &dialog) {
+        const QString filter = filterOf(dialog, foreign);
+        dialog.selectNameFilter(filter);
+        Q_EMIT dialog.filterSelected(filter); // as when the user picks it
+        proposed = dialog.selectedFiles().value(0);
+        enter(app.path(QStringLiteral("out")))(dialog); // the format gives the ending
+    });
+    QTest::keyClick(&app.window, Qt::Key_E, Qt::ControlModifier | Qt::ShiftModifier);
+    QVERIFY(driver.isDone());
+    const QString suffix = DiagramExchange::suffixes(foreign).constFirst();
+    QCOMPARE(proposed, app.path(QStringLiteral("late.%1").arg(suffix)));
+
+    const QString written = app.path(QStringLiteral("out.%1").arg(suffix));
+    const auto head = DiagramExchange::readFile(written, foreign);
+    QVERIFY(head);
+    QCOMPARE(AppFixture::textOf(head.get()), app.text());
+    QCOMPARE(app.window.statusBar()->currentMessage(), QStringLiteral("%1 written").arg(written));
+}
+
+void TestExportCommands::shouldExportTheWholeDocument()
+{
+    AppFixture app;
+    app.select("People");
+    app.trigger("asDiagram");
+    const QString path = app.path(QStringLiteral("a.txt"));
+    const ModalDriver<QFileDialog> driver(enter(path));
+    app.trigger("exportAs");
+    QVERIFY(driver.isDone());
+    QVERIFY(AppFixture::contentOf(path).startsWith("Late\n\tPeople\n"));
+}
+
+void TestExportCommands::shouldLeaveTheDocumentAsItIs()
+{
+    AppFixture app;
+    app.select("Machines");
+    app.trigger("delete");
+    const ModalDriver<QFileDialog> driver(enter(app.path(QStringLiteral("a.md"))));
+    app.trigger("exportAs");
+    QVERIFY(driver.isDone());
+    QVERIFY(app.document()->modified());
+    QVERIFY(app.window.windowTitle().startsWith(QLatin1String("late.json")));
+}
+
+void TestExportCommands::shouldNotExportUnderAnEndingThatTellsNoFormat()
+{
+    AppFixture app;
+    const QString path = app.path(QStringLiteral("a.doc"));
+    QString shown;
+    const ModalDriver<QFileDialog> driver(enter(path));
+    const ModalDriver<QMessageBox> warning([&shown](QMessageBox &box) {
+        shown = box.text();
+        box.accept();
+    });
+    app.trigger("exportAs");
+    QVERIFY(driver.isDone());
+    QVERIFY(warning.isDone());
+    QVERIFY2(shown.contains(path), qPrintable(shown));
+    QVERIFY(!QFile::exists(path));
+}
+
+void TestExportCommands::shouldSayThatAFileCannotBeWritten()
+{
+    AppFixture app;
+    const QString path = app.path(QStringLiteral("missing/a.md"));
+    QString shown;
+    const ModalDriver<QFileDialog> driver([&path](QFileDialog &dialog) { enter(path)(dialog); });
+    const ModalDriver<QMessageBox> warning([&shown](QMessageBox &box) {
+        shown = box.text();
+        box.accept();
+    });
+    app.trigger("exportAs");
+    QVERIFY(driver.isDone());
+    QVERIFY(warning.isDone());
+    QVERIFY2(shown.contains(path), qPrintable(shown));
+}
+
+void TestExportCommands::shouldWriteNothingWhenCancelled()
+{
+    AppFixture app;
+    const ModalDriver<QFileDialog> driver([](QFileDialog &dialog) { dialog.reject(); });
+    app.trigger("exportAs");
+    QVERIFY(driver.isDone());
+    QCOMPARE(QDir(app.folder.path()).entryList(QDir::Files),
+             QStringList(QStringLiteral("late.json")));
+}
+
+QTEST_MAIN(TestExportCommands)
+#include "tst_exportcommands.moc"

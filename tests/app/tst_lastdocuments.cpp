@@ -1,0 +1,140 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#include <tests/app/appfixture.h>
+#include <tests/app/dialoganswers.h>
+
+#include <tests/support/modaldriver.h>
+
+#include <app/lastdocuments.h>
+
+#include <QDockWidget>
+#include <QSettings>
+
+/// What one run of the program leaves for the next one.
+class TestLastDocuments : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+    void shouldReopenWhatWasOpen();
+    void shouldShowTheTemplateWhenNothingIsLeft();
+    void shouldOpenNothingElseWhenAFileIsAskedFor();
+    void shouldReopenNothingUnlessWanted();
+    void shouldRememberNothingWhenTheWindowStaysOpen();
+    void shouldRememberWhereEverythingWas();
+};
+
+void TestLastDocuments::initTestCase()
+{
+    QStandardPaths::setTestModeEnabled(true);
+    QCoreApplication::setOrganizationName(QStringLiteral("Fishbone")); // for files of settings
+    QCoreApplication::setApplicationName(QStringLiteral("tst_lastdocuments"));
+}
+
+void TestLastDocuments::init()
+{
+    QSettings().clear();
+}
+
+void TestLastDocuments::shouldReopenWhatWasOpen()
+{
+    AppFixture app;
+    const QString other = app.path(QStringLiteral("other.json"));
+    AppFixture::writeFile(other, R"({"title": "Other"})");
+    app.window.open({other});
+    AppFixture::settle();
+    app.trigger("newExample"); // which has no file
+    app.window.session()->showDocument(app.window.model()->fishList().constFirst());
+    QVERIFY(app.window.close());
+
+    MainWindow next;
+    next.show();
+    next.open({});
+    QTRY_COMPARE(next.model()->rowCount(), 2);
+    AppFixture::settle();
+    QCOMPARE(next.session()->document()->fileName(), QFileInfo(app.path()).canonicalFilePath());
+    QVERIFY(!next.session()->document()->isUntitled());
+    QCOMPARE(next.model()->fishList().constFirst()->fileName(),
+             QFileInfo(other).canonicalFilePath());
+}
+
+void TestLastDocuments::shouldShowTheTemplateWhenNothingIsLeft()
+{
+    {
+        AppFixture app;
+        QVERIFY(app.window.close());
+        QCOMPARE(LastDocuments::files().size(), 1);
+    }
+    QCOMPARE(LastDocuments::files(), QStringList()); // the file is gone
+    MainWindow next;
+    next.open({});
+    AppFixture::settle();
+    QCOMPARE(next.model()->rowCount(), 1);
+    QVERIFY(next.session()->document()->isUntitled());
+}
+
+void TestLastDocuments::shouldOpenNothingElseWhenAFileIsAskedFor()
+{
+    AppFixture app;
+    const QString other = app.path(QStringLiteral("other.json"));
+    AppFixture::writeFile(other, R"({"title": "Other"})");
+    QVERIFY(app.window.close());
+    MainWindow next;
+    next.open({other});
+    AppFixture::settle();
+    QCOMPARE(next.model()->rowCount(), 1);
+    QCOMPARE(next.session()->document()->fileName(), QFileInfo(other).canonicalFilePath());
+}
+
+void TestLastDocuments::shouldReopenNothingUnlessWanted()
+{
+    AppFixture app;
+    QVERIFY(app.action("reopen")->isChecked());
+    app.trigger("reopen");
+    QVERIFY(!app.action("reopen")->isChecked());
+    QVERIFY(app.window.close());
+
+    MainWindow next;
+    const auto *const reopen = next.findChild<QAction *>(QStringLiteral("reopen"));
+    QVERIFY(!reopen->isChecked());
+    next.open({});
+    AppFixture::settle();
+    QVERIFY(next.session()->document()->isUntitled());
+}
+
+void TestLastDocuments::shouldRememberNothingWhenTheWindowStaysOpen()
+{
+    AppFixture app;
+    app.select("Machines");
+    app.trigger("delete");
+    const TestSupport::ModalDriver<QMessageBox> driver(DialogAnswers::press(QMessageBox::Cancel));
+    QVERIFY(!app.window.close());
+    QVERIFY(driver.isDone());
+    QCOMPARE(LastDocuments::files(), QStringList());
+}
+
+void TestLastDocuments::shouldRememberWhereEverythingWas()
+{
+    const QString dock = QStringLiteral("historyDock");
+    {
+        AppFixture app;
+        app.window.resize(900, 620);
+        app.widget<QDockWidget>("historyDock")->hide();
+        app.window.addDockWidget(Qt::LeftDockWidgetArea, app.widget<QDockWidget>("detailsDock"));
+        AppFixture::settle();
+        QVERIFY(app.window.close());
+    }
+    MainWindow next;
+    next.show();
+    AppFixture::settle();
+    QCOMPARE(next.size(), QSize(900, 620));
+    QVERIFY(next.findChild<QDockWidget *>(dock)->isHidden());
+    auto *const details = next.findChild<QDockWidget *>(QStringLiteral("detailsDock"));
+    QCOMPARE(next.dockWidgetArea(details), Qt::LeftDockWidgetArea);
+}
+
+QTEST_MAIN(TestLastDocuments)
+#include "tst_lastdocuments.moc"

@@ -1,0 +1,197 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#include <tests/app/appfixture.h>
+
+#include <QInputMethodEvent>
+#include <QLineEdit>
+
+namespace {
+
+/// The field over the drawing; null when none is open.
+QLineEdit *titleField(const AppFixture &app)
+{
+    const QList<QLineEdit *> fields =
+        app.window.editor()->view()->viewport()->findChildren<QLineEdit *>();
+    for (QLineEdit *field : fields) {
+        if (field->isVisible())
+            return field;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+class TestTypedTitle : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void shouldReplaceTheTitleByWhatIsTyped_data();
+    void shouldReplaceTheTitleByWhatIsTyped();
+    void shouldKeepTheTitleOnEscape();
+    void shouldMakeRoomForALongTitle();
+    void shouldTakeWhatAnInputMethodCommits();
+    void shouldOpenNoFieldForOtherKeys_data();
+    void shouldOpenNoFieldForOtherKeys();
+    void shouldOpenNoFieldWithoutASelection();
+    void shouldBuildADiagramByKeyboardAlone();
+};
+
+void TestTypedTitle::initTestCase()
+{
+    QStandardPaths::setTestModeEnabled(true);
+    QCoreApplication::setApplicationName(QStringLiteral("tst_typedtitle"));
+}
+
+void TestTypedTitle::shouldReplaceTheTitleByWhatIsTyped_data()
+{
+    QTest::addColumn<int>("end");
+    QTest::newRow("return") << int(Qt::Key_Return);
+    QTest::newRow("tab") << int(Qt::Key_Tab);
+}
+
+void TestTypedTitle::shouldReplaceTheTitleByWhatIsTyped()
+{
+    QFETCH(int, end);
+    AppFixture app;
+    app.select("Machines");
+    QTest::keyClick(app.window.editor()->view(), 'T', Qt::ShiftModifier);
+    QLineEdit *const field = titleField(app);
+    QVERIFY(field);
+    QVERIFY(field->hasFocus());
+    QTest::keyClicks(field, QStringLiteral("ools - +2/3"));
+    QTest::keyClick(field, Qt::Key(end));
+    AppFixture::settle();
+
+    QVERIFY(!titleField(app));
+    QVERIFY(app.window.editor()->view()->hasFocus());
+    QVERIFY2(app.text().contains(QLatin1String(",Tools - +2/3,Material")), qPrintable(app.text()));
+    QCOMPARE(app.window.editor()->undoStack()->commandNames().size(), 1);
+    app.trigger("undo");
+    QVERIFY(app.find("Machines").isValid());
+}
+
+void TestTypedTitle::shouldKeepTheTitleOnEscape()
+{
+    AppFixture app;
+    app.select("Machines");
+    QTest::keyClick(app.window.editor()->view(), 'x');
+    QVERIFY(titleField(app));
+    QCOMPARE(titleField(app)->text(), QStringLiteral("x"));
+    QTest::keyClick(titleField(app), Qt::Key_Escape);
+    AppFixture::settle();
+    QVERIFY(!titleField(app));
+    QVERIFY(app.find("Machines").isValid());
+    QVERIFY(!app.window.editor()->undoStack()->canUndo());
+    QVERIFY(!app.window.isWindowModified());
+}
+
+void TestTypedTitle::shouldMakeRoomForALongTitle()
+{
+    AppFixture app;
+    app.select("Machines");
+    QTest::keyClick(app.window.editor()->view(), 'x');
+    QLineEdit *const field = titleField(app);
+    QVERIFY(field);
+    const QWidget *const room = field->parentWidget();
+    for (const int length : {40, 400}) {
+        field->setText(QString(length, QLatin1Char('x')));
+        QVERIFY(room->rect().contains(field->geometry()));
+        QVERIFY(field->width() == room->width() ||
+                field->width() > field->fontMetrics().horizontalAdvance(field->text()));
+    }
+    QCOMPARE(field->width(), room->width());
+}
+
+void TestTypedTitle::shouldTakeWhatAnInputMethodCommits()
+{
+    AppFixture app;
+    app.select("Machines");
+    GraphicsView *const view = app.window.editor()->view();
+    AppFixture::settle();
+    QVERIFY(view->testAttribute(Qt::WA_InputMethodEnabled));
+    QInputMethodEvent composing(QStringLiteral("ji"), {});
+    QCoreApplication::sendEvent(view, &composing);
+    QVERIFY(!titleField(app)); // nothing is decided yet
+    QInputMethodEvent commit;
+    commit.setCommitString(QStringLiteral("机器"));
+    QCoreApplication::sendEvent(view, &commit);
+    QVERIFY(titleField(app));
+    QCOMPARE(titleField(app)->text(), QStringLiteral("机器"));
+}
+
+void TestTypedTitle::shouldOpenNoFieldForOtherKeys_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::addColumn<int>("modifiers");
+
+    QTest::newRow("space") << int(Qt::Key_Space) << int(Qt::NoModifier);
+    QTest::newRow("escape") << int(Qt::Key_Escape) << int(Qt::NoModifier);
+    QTest::newRow("shift") << int(Qt::Key_Shift) << int(Qt::ShiftModifier);
+    QTest::newRow("control and a letter") << int(Qt::Key_M) << int(Qt::ControlModifier);
+    QTest::newRow("alt and a letter") << int(Qt::Key_M) << int(Qt::AltModifier);
+    QTest::newRow("plus, where nothing can be expanded")
+        << int(Qt::Key_Plus) << int(Qt::NoModifier);
+    QTest::newRow("minus, where nothing can be contracted")
+        << int(Qt::Key_Minus) << int(Qt::NoModifier);
+}
+
+void TestTypedTitle::shouldOpenNoFieldForOtherKeys()
+{
+    QFETCH(int, key);
+    QFETCH(int, modifiers);
+    AppFixture app;
+    app.select("Machines");
+    const QString before = app.text();
+    QTest::keyClick(app.window.editor()->view(), Qt::Key(key), Qt::KeyboardModifiers(modifiers));
+    AppFixture::settle();
+    QVERIFY(!titleField(app));
+    QCOMPARE(app.text(), before);
+}
+
+void TestTypedTitle::shouldOpenNoFieldWithoutASelection()
+{
+    AppFixture app;
+    QTest::keyClick(app.window.editor()->view(), 'x');
+    QVERIFY(!titleField(app));
+}
+
+void TestTypedTitle::shouldBuildADiagramByKeyboardAlone()
+{
+    AppFixture app;
+    QTest::keyClick(&app.window, Qt::Key_N, Qt::ControlModifier);
+    AppFixture::settle();
+    const auto press = [&app](Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+        QTest::keyClick(app.window.editor()->view(), key, modifiers);
+        AppFixture::settle();
+    };
+    const auto type = [&app](const char *text) {
+        QWidget *const target = QApplication::focusWidget();
+        QTest::keyClick(target, text[0]);
+        QTest::keyClicks(QApplication::focusWidget(), QString::fromUtf8(text + 1));
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+        AppFixture::settle();
+    };
+    type("slow"); // the new head is selected
+    press(Qt::Key_Tab);
+    type("staff");
+    press(Qt::Key_Return);
+    type("tools");
+    press(Qt::Key_Return, Qt::ShiftModifier);
+    type("rooms");
+    press(Qt::Key_Tab);
+    type("cold");
+    press(Qt::Key_Return, Qt::ControlModifier);
+    type("winter");
+    QCOMPARE(app.text(), QStringLiteral("slow[staff,rooms[winter[cold]],tools]"));
+    press(Qt::Key_Up, Qt::ControlModifier);
+    press(Qt::Key_Up, Qt::AltModifier);
+    press(Qt::Key_Right, Qt::ControlModifier);
+    press(Qt::Key_Delete);
+    QCOMPARE(app.text(), QStringLiteral("slow[rooms[winter[cold]],tools]"));
+}
+
+QTEST_MAIN(TestTypedTitle)
+#include "tst_typedtitle.moc"
