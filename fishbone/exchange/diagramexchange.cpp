@@ -23,6 +23,21 @@ namespace {
 
 using Format = DiagramExchange::Format;
 
+constexpr qint64 chunkSize = 1 << 20;
+
+/** At most @p limit bytes. In pieces, since a device makes room for all that it is asked for. */
+QByteArray readUpTo(QIODevice &device, qint64 limit)
+{
+    QByteArray bytes;
+    while (bytes.size() < limit) {
+        const QByteArray piece = device.read(qMin<qint64>(chunkSize, limit - bytes.size()));
+        if (piece.isEmpty())
+            break;
+        bytes += piece;
+    }
+    return bytes;
+}
+
 /** All that is known of a format. */
 struct FormatEntry
 {
@@ -97,7 +112,7 @@ QByteArray bytesOf(const TreeItem &head, Format format, QString *error)
 std::unique_ptr<TreeItem> readTree(QIODevice &device, Format format, QString *error,
                                    std::unique_ptr<TreeItem> (ImportedTree::*take)())
 {
-    const QByteArray bytes = device.read(DiagramExchange::maximalBytes + 1);
+    const QByteArray bytes = readUpTo(device, DiagramExchange::maximalBytes + 1);
     if (bytes.size() > DiagramExchange::maximalBytes) {
         report(error, DiagramExchange::tr("it is larger than %1 MiB")
                           .arg(DiagramExchange::maximalBytes >> 20));
