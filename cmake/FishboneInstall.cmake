@@ -28,11 +28,14 @@ install(TARGETS fishbone-resources EXPORT ${FISHBONE_PACKAGE}Targets
 install(FILES ${FISHBONE_COMPILED_TRANSLATIONS}
     DESTINATION "${data_folder}/translations" COMPONENT runtime)
 
-# A header is public when it exports something; the others serve the sources beside them.
+# A header is public when it exports something, or when such a header needs it; the others serve the sources
+# beside them.
+set(headers_without_exports guardedpointer.h spearpointer.h)
 file(GLOB headers CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/fishbone/*/*.h")
 foreach(header IN LISTS headers)
     file(STRINGS "${header}" exports REGEX "FISHBONE_EXPORT")
-    if(exports)
+    cmake_path(GET header FILENAME name)
+    if(exports OR name IN_LIST headers_without_exports)
         cmake_path(GET header PARENT_PATH folder)
         cmake_path(GET folder FILENAME folder)
         install(FILES "${header}"
