@@ -409,11 +409,11 @@ void SpearItem::updateExpandButton()
 {
     if (m_isButtonCurrent)
         return;
-    m_isButtonCurrent = true;
     if (auto *const button = qgraphicsitem_cast<ExpandItem *>(m_expandBuddy))
         button->updateSvgIcon();
     else
         setExpandBuddy(std::make_unique<ExpandItem>(this).release());
+    m_isButtonCurrent = true;
 }
 
 QVariant SpearItem::itemChange(GraphicsItemChange change, const QVariant &value)
@@ -444,6 +444,7 @@ QVariant SpearItem::itemChange(GraphicsItemChange change, const QVariant &value)
         if (removed == m_expandBuddy) {
             m_expandBuddy = nullptr;
             m_isButtonCurrent = false;
+            unplace(); // the link icon stands beside it
         }
     }
     return result;
