@@ -194,7 +194,7 @@ public:
     void setDirection(int direction);
     /// -1: the drawing grows to the left of the head.
     int side() const { return m_side; }
-    /// The length of the bone with its children.
+    /// Extra height of a horizontal bone, as given to the constructor.
     double spearSize() const { return m_spearSize; }
     /// Distance along the parent's bone.
     double offset() const { return m_offset; }
