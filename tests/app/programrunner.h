@@ -115,6 +115,17 @@ inline Outcome runBesideServer(const QStringList &arguments, const QProcessEnvir
     return outcome;
 }
 
+/// Fails the test unless a run was refused for its arguments, in one line that has all \a mentions.
+inline void verifyUsageError(const Outcome &outcome, const QStringList &mentions)
+{
+    QCOMPARE(outcome.code, 2);
+    QCOMPARE(outcome.out, QString());
+    QVERIFY2(outcome.err.startsWith(QLatin1String("fishbone: ")), qPrintable(outcome.err));
+    QCOMPARE(outcome.err.count(QLatin1Char('\n')), 1);
+    for (const QString &mention : mentions)
+        QVERIFY2(outcome.err.contains(mention), qPrintable(outcome.err));
+}
+
 /// A folder with a diagram in it, and room for a picture.
 class Folder
 {

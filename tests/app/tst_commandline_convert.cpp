@@ -171,12 +171,7 @@ void TestCommandLineConvert::shouldRefuseWhatMakesNoSense()
     QFETCH(QStringList, arguments);
     QFETCH(QStringList, mentions);
     const Outcome outcome = run(arguments, m_folder->environment());
-    QCOMPARE(outcome.code, 2);
-    QCOMPARE(outcome.out, QString());
-    QVERIFY2(outcome.err.startsWith(QLatin1String("fishbone: ")), qPrintable(outcome.err));
-    QCOMPARE(outcome.err.count(QLatin1Char('\n')), 1);
-    for (const QString &mention : mentions)
-        QVERIFY2(outcome.err.contains(mention), qPrintable(outcome.err));
+    verifyUsageError(outcome, mentions);
 }
 
 void TestCommandLineConvert::shouldSayWhyAFileCannotBeRead_data()
