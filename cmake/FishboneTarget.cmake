@@ -3,8 +3,8 @@
 
 # fishbone_setup_target(<target>)
 #
-# The language level, the definitions, warnings and sanitizers that every target of this project is built
-# with. They are set on the target alone and reach nobody who links it.
+# The language level, the definitions and warnings that every target of this project is built with. They are
+# set on the target alone and reach nobody who links it.
 function(fishbone_setup_target target)
     set_target_properties(${target} PROPERTIES
         AUTOMOC ON
@@ -23,11 +23,5 @@ function(fishbone_setup_target target)
         target_compile_options(${target} PRIVATE
             -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor
             $<$<BOOL:${FISHBONE_WERROR}>:-Werror>)
-    endif()
-    if(FISHBONE_SANITIZE)
-        # A report ends the program, so that a test cannot pass over it.
-        set(checks -fsanitize=address,undefined -fno-sanitize-recover=all)
-        target_compile_options(${target} PRIVATE ${checks} -fno-omit-frame-pointer -O1 -g1)
-        target_link_options(${target} PRIVATE ${checks})
     endif()
 endfunction()

@@ -1,0 +1,12 @@
+# SPDX-FileCopyrightText: 2026 The Fishbone authors
+# SPDX-License-Identifier: MIT
+#
+# Address, leak and undefined-behaviour checks. They go into the examples too, which are built as a host
+# builds them: a program that links sanitized objects needs the runtime of the sanitizers itself.
+
+if(FISHBONE_SANITIZE)
+    # A report ends the program, so that a test cannot pass over it.
+    set(checks -fsanitize=address,undefined -fno-sanitize-recover=all)
+    add_compile_options(${checks} -fno-omit-frame-pointer -O1 -g1)
+    add_link_options(${checks})
+endif()
