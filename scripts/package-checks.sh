@@ -56,10 +56,24 @@ check_pkg_config() {
 check_installed_program() {
     local prefix=$1 folder=$2 program
     for program in "$prefix"/bin/fishbone*; do
-        [[ -e $program ]] || continue
+        [[ -e $program ]] || return 0
         "$program" --export "$folder/picture.svg" samples/checkout-outage.fishbone.json
         grep -q '<svg' "$folder/picture.svg"
     done
+    check_desktop "$prefix" "$folder"
+}
+
+# The desktop understands the entry in its menu, the description and the type of the files.
+check_desktop() {
+    local prefix=$1 folder=$2 type
+    desktop-file-validate "$prefix"/share/applications/*.desktop
+    appstreamcli validate --no-net --explain "$prefix"/share/metainfo/*.metainfo.xml
+    mkdir -p "$folder/data"
+    cp -r "$prefix/share/mime" "$folder/data"
+    XDG_DATA_HOME=$folder/data update-mime-database "$folder/data/mime"
+    cp samples/checkout-outage.fishbone.json "$folder/a.fishbone.json"
+    type=$(XDG_DATA_HOME=$folder/data gio info -a standard::content-type "$folder/a.fishbone.json")
+    [[ $type == *application/x-fishbone+json* ]]
 }
 
 # What is installed for Qt 5 and for Qt 6 has no file in common, so that one prefix takes both. Looks at what
