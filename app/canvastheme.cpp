@@ -40,9 +40,8 @@ void writeStyle(const QString &path, const QJsonObject &style)
 
 } // namespace
 
-CanvasTheme::CanvasTheme(FishEditor *editor, QObject *parent)
+CanvasTheme::CanvasTheme(QObject *parent)
     : QObject(parent)
-    , m_editor(editor)
 {
     SpearStyle::global()->write(m_light);
     if (!SpearStyle::m_isGlobalInited)
@@ -51,6 +50,13 @@ CanvasTheme::CanvasTheme(FishEditor *editor, QObject *parent)
     if (m_dark.isEmpty())
         m_dark = readStyle(QStringLiteral(":/app/global-dark.spearstyle"));
     show(false);
+}
+
+void CanvasTheme::add(FishEditor *editor)
+{
+    m_editors.append(editor);
+    connect(editor, &QObject::destroyed, this, [this, editor] { m_editors.removeOne(editor); });
+    show(*editor);
 }
 
 void CanvasTheme::follow(const QPalette &palette)
@@ -67,9 +73,15 @@ void CanvasTheme::show(bool dark)
 {
     m_isDark = dark;
     SpearStyle::global()->read(dark ? m_dark : m_light);
-    m_editor->view()->setBackgroundBrush(canvasColor());
-    m_editor->updateFish(false); // fonts may differ
-    m_editor->view()->viewport()->update();
+    for (FishEditor *editor : qAsConst(m_editors))
+        show(*editor);
+}
+
+void CanvasTheme::show(FishEditor &editor) const
+{
+    editor.view()->setBackgroundBrush(canvasColor());
+    editor.updateFish(false); // fonts may differ
+    editor.view()->viewport()->update();
 }
 
 void CanvasTheme::editStyle(QWidget *parent)
@@ -91,13 +103,13 @@ void CanvasTheme::storeStyle()
     }
 }
 
-CanvasTheme::Paper::Paper(CanvasTheme *theme)
+CanvasTheme::Paper::Paper(CanvasTheme *theme, FishEditor *editor)
     : m_theme(theme)
     , m_wasDark(theme->m_isDark)
 {
     if (m_wasDark)
         m_theme->show(false);
-    m_theme->m_editor->view()->setBackgroundBrush(Qt::white);
+    editor->view()->setBackgroundBrush(Qt::white);
 }
 
 CanvasTheme::Paper::~Paper()

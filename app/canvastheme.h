@@ -5,22 +5,26 @@
 
 #include <QColor>
 #include <QJsonObject>
+#include <QList>
 #include <QObject>
 
 class FishEditor;
 class QPalette;
 
 /**
- * Makes canvas and bones suit the palette: paper with the global style in a light one, and a dark
- * canvas with a style of its own in a dark one. Both styles can be edited; they are kept in files
- * beside the program, and in place of a file that is missing stands what is built in.
+ * Makes the canvases and their bones suit the palette: paper with the global style in a light one,
+ * and a dark canvas with a style of its own in a dark one. Both styles can be edited; they are kept
+ * in files beside the program, and in place of a file that is missing stands what is built in.
  */
 class CanvasTheme : public QObject
 {
     Q_OBJECT
 
 public:
-    explicit CanvasTheme(FishEditor *editor, QObject *parent = nullptr);
+    explicit CanvasTheme(QObject *parent = nullptr);
+
+    /** Gives the canvas of @p editor, as long as that lives, the look of the others. */
+    void add(FishEditor *editor);
 
     /** Shows the canvas that suits @p palette. */
     void follow(const QPalette &palette);
@@ -32,14 +36,14 @@ public:
     /** Lets the user edit the style of all bones without a style of their own, and keeps it. */
     void editStyle(QWidget *parent);
 
-    /** Shows the drawing as on paper while it lives, whatever the palette: to print or export it.
-     */
+    /** Shows the drawing of one editor as on paper while it lives, whatever the palette: to print
+     * or export it. */
     class Paper
     {
         Q_DISABLE_COPY(Paper)
 
     public:
-        explicit Paper(CanvasTheme *theme);
+        Paper(CanvasTheme *theme, FishEditor *editor);
         ~Paper();
 
     private:
@@ -49,9 +53,10 @@ public:
 
 private:
     void show(bool dark);
+    void show(FishEditor &editor) const;
     void storeStyle();
 
-    FishEditor *m_editor;
+    QList<FishEditor *> m_editors;
     QJsonObject m_light;
     QJsonObject m_dark;
     bool m_isDark = false;

@@ -3,6 +3,7 @@
 
 #include <app/diagramsession.h>
 
+#include <app/drawingstate.h>
 #include <app/expansion.h>
 #include <app/modifiedtracker.h>
 
@@ -38,7 +39,6 @@ DiagramSession::DiagramSession(FishModel *model, FishEditor *editor, QObject *pa
                 m_inserted = m_model->index(first, 0, parentIndex);
                 touch();
             });
-    connect(model, &FishModel::rowsAboutToBeRemoved, this, &DiagramSession::forgetDocuments);
     connect(model, &FishModel::rowsRemoved, this, [this](const QModelIndex &parentIndex) {
         m_removedFrom = parentIndex;
         touch();
@@ -86,29 +86,9 @@ void DiagramSession::settle()
     Q_EMIT stateChanged();
 }
 
-void DiagramSession::forgetDocuments(const QModelIndex &parent, int first, int last)
-{
-    if (parent.isValid())
-        return;
-    const QList<FishInfo *> documents = m_model->fishList();
-    for (int row = first; row <= last; ++row)
-        m_states.remove(documents.value(row));
-}
-
-/** Remembers what the drawing looks like before another one takes its place. */
-void DiagramSession::leave()
-{
-    if (FishInfo *const shown = document())
-        m_states.insert(shown, DrawingState::capture(*m_editor));
-}
-
 void DiagramSession::showRoot(const QModelIndex &root)
 {
-    leave();
     m_editor->setRootIndex(root);
-    const auto state = m_states.constFind(document());
-    if (state != m_states.cend() && state->root() == m_model->getTreeItem(root))
-        state->restore(*m_editor);
     touch();
     Q_EMIT drawingRebuilt();
 }

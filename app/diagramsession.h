@@ -3,13 +3,10 @@
 
 #pragma once
 
-#include <app/drawingstate.h>
-
 #include <fishbone/editor/fisheditor.h>
 #include <fishbone/model/fishinfo.h>
 #include <fishbone/model/fishmodel.h>
 
-#include <QHash>
 #include <QModelIndexList>
 #include <QObject>
 #include <QPersistentModelIndex>
@@ -21,9 +18,9 @@
 class ModifiedTracker;
 
 /**
- * The documents that are open and the one that is shown. Knows how to get from one drawing to
- * another without losing what the user had expanded, selected and scrolled to, and how to edit
- * without losing it when the editor rebuilds the drawing.
+ * A document and what is shown of it. Knows how to get from one drawing of it to another, and how
+ * to edit without losing what the user had expanded, selected and scrolled to when the editor
+ * rebuilds the drawing.
  */
 class DiagramSession : public QObject
 {
@@ -42,7 +39,7 @@ public:
     /** The head of @p document. */
     QModelIndex headOf(const FishInfo *document) const;
 
-    /** Shows the whole diagram of @p document, or leaves it when it is shown already. */
+    /** Shows the whole diagram of @p document, or leaves what is shown of it already. */
     void showDocument(FishInfo *document);
     /** Shows the subject at @p index as a diagram of its own; its document remembers the visit. */
     void showAsDiagram(const QModelIndex &index);
@@ -85,20 +82,17 @@ Q_SIGNALS:
     void drawingRebuilt();
 
 private:
-    void leave();
     void showRoot(const QModelIndex &root);
     bool reveal(const QModelIndex &index);
     QModelIndex indexInDocument(const FishInfo *document, const QString &uuid) const;
     void preserve(const std::function<void()> &change);
     void pasteBy(const std::function<void()> &change);
-    void forgetDocuments(const QModelIndex &parent, int first, int last);
     void settle();
 
     QPointer<FishModel> m_model;
     QPointer<FishEditor> m_editor;
     QTimer m_settle;
-    QHash<const FishInfo *, DrawingState> m_states; ///< of the documents that are not shown
-    QPersistentModelIndex m_inserted;               ///< the newest row
-    QPersistentModelIndex m_removedFrom;            ///< where a row was removed last
-    QPointer<FishInfo> m_changed;                   ///< the document that changed last
+    QPersistentModelIndex m_inserted;    ///< the newest row
+    QPersistentModelIndex m_removedFrom; ///< where a row was removed last
+    QPointer<FishInfo> m_changed;        ///< the document that changed last
 };

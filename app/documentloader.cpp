@@ -38,7 +38,25 @@ QString reasonOfText(const QByteArray &json)
 DocumentLoader::DocumentLoader(FishModel *model, QObject *parent)
     : QObject(parent)
     , m_model(model)
+    , m_openDocuments([this] { return m_model->fishList(); })
 {
+}
+
+void DocumentLoader::setOpenDocuments(std::function<QList<FishInfo *>()> documents)
+{
+    m_openDocuments = std::move(documents);
+}
+
+/** The open document in the file @p path, or null. */
+FishInfo *DocumentLoader::openDocument(const QString &path) const
+{
+    const QString canonical = QFileInfo(path).canonicalFilePath();
+    const QList<FishInfo *> documents = m_openDocuments();
+    for (FishInfo *document : documents) {
+        if (!canonical.isEmpty() && document->fileName() == canonical)
+            return document;
+    }
+    return nullptr;
 }
 
 QString DocumentLoader::localPath(const QString &source)
@@ -94,9 +112,8 @@ void DocumentLoader::loadFile(const QString &path)
         importFile(path, *format);
         return;
     }
-    const QString canonical = QFileInfo(path).canonicalFilePath();
-    if (const QModelIndex open = m_model->findFish(canonical); open.isValid()) {
-        finish(m_model->fishList().at(open.row()), QString());
+    if (FishInfo *const open = openDocument(path)) {
+        finish(open, QString());
         return;
     }
     if (m_model->loadFishFromFile(path) != MODEL_NO_ERROR) {
@@ -128,7 +145,7 @@ void DocumentLoader::importFile(const QString &path, DiagramExchange::Format for
 QString DocumentLoader::freeName(const QString &baseName) const
 {
     QStringList taken;
-    const QList<FishInfo *> documents = m_model->fishList();
+    const QList<FishInfo *> documents = m_openDocuments();
     for (const FishInfo *document : documents)
         taken.append(document->userFriendlyCurrentFile());
     QString name = baseName + QStringLiteral(".json");

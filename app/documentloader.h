@@ -10,6 +10,7 @@
 #include <QPointer>
 #include <QStringList>
 
+#include <functional>
 #include <optional>
 
 class FishInfo;
@@ -26,6 +27,9 @@ class DocumentLoader : public QObject
 
 public:
     explicit DocumentLoader(FishModel *model, QObject *parent = nullptr);
+
+    /** Asks @p documents, beside the model, for what is open already. */
+    void setOpenDocuments(std::function<QList<FishInfo *>()> documents);
 
     /** Loads @p source, a file's path or an http, https or file URL. Reports with a signal, for a
      * file usually before this returns. */
@@ -62,9 +66,11 @@ private:
     void fetch(const QUrl &url);
     void endFetch(const QModelIndex &index, MODEL_ERROR error);
     void finish(FishInfo *document, const QString &reason);
+    FishInfo *openDocument(const QString &path) const;
     QString reasonOfReply() const;
 
     QPointer<FishModel> m_model;
+    std::function<QList<FishInfo *>()> m_openDocuments;
     QStringList m_waiting; ///< the first one is being loaded
     QPointer<QNetworkReply> m_reply;
     QMetaObject::Connection m_fetched;

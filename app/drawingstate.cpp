@@ -34,7 +34,6 @@ DrawingState DrawingState::capture(const FishEditor &editor)
     SpearItem *const head = editor.headSpear();
     if (!head)
         return state;
-    state.m_root = head->treeItem();
     const QWidget *const viewport = editor.view()->viewport();
     state.m_center = editor.view()->mapToScene(viewport->rect().center());
     QList<SpearItem *> waiting{head};

@@ -28,9 +28,6 @@ public:
     /** Gives the drawing that @p editor shows this state, as far as its subjects are known. */
     void restore(FishEditor &editor) const;
 
-    /** The subject that was shown as the head; only to be compared. Null when there was none. */
-    const TreeItem *root() const { return m_root; }
-
 private:
     struct Subjects
     {
@@ -41,7 +38,6 @@ private:
         bool contain(const SpearItem &spear) const;
     };
 
-    const TreeItem *m_root = nullptr;
     Subjects m_expanded;
     Subjects m_selected;
     QPointF m_center;

@@ -56,10 +56,7 @@ QList<QKeySequence> returnWith(Modifiers modifiers)
 } // namespace
 
 EditCommands::EditCommands(DiagramSession *session, ActionSet *actions, QWidget *window)
-    : QObject(window)
-    , m_session(session)
-    , m_editor(session->editor())
-    , m_actions(actions)
+    : DiagramCommands(session, actions, window)
     , m_window(window)
     , m_finder(new Finder(session, window))
     , m_clipboard(new SubjectClipboard(session, this))
@@ -81,15 +78,10 @@ void EditCommands::add(const char *name, const QString &text, const QList<QKeySe
 
 void EditCommands::addHistoryActions()
 {
-    const UndoStack *const stack = m_editor->undoStack();
-    QAction *const undo = m_actions->add(QStringLiteral("undo"), tr("&Undo"), {QKeySequence::Undo},
-                                         ActionSet::Scope::Window, [this] { m_session->undo(); });
-    QAction *const redo = m_actions->add(QStringLiteral("redo"), tr("&Redo"), redoShortcuts(),
-                                         ActionSet::Scope::Window, [this] { m_session->redo(); });
-    undo->setEnabled(stack->canUndo());
-    redo->setEnabled(stack->canRedo());
-    connect(stack, &UndoStack::undoAvailable, undo, &QAction::setEnabled);
-    connect(stack, &UndoStack::redoAvailable, redo, &QAction::setEnabled);
+    m_actions->add(QStringLiteral("undo"), tr("&Undo"), {QKeySequence::Undo},
+                   ActionSet::Scope::Window, [this] { m_session->undo(); });
+    m_actions->add(QStringLiteral("redo"), tr("&Redo"), redoShortcuts(), ActionSet::Scope::Window,
+                   [this] { m_session->redo(); });
     m_actions->add(QStringLiteral("find"), tr("&Find and replace…"), {QKeySequence::Find},
                    ActionSet::Scope::Window, [this] { m_finder->show(); });
 }
@@ -110,13 +102,13 @@ void EditCommands::addInsertActions()
     add("child", tr("&Child subject"), {Qt::Key_Tab, Qt::Key_Insert},
         [this] { insertAndRename([this] { m_editor->insertChildSubject(); }); });
     add("before", tr("Subject &before"), returnWith(Qt::SHIFT),
-        [this] { insertAndRename([this] { m_editor->insertSubject(); }); });
+        [this] { insertSibling(&FishEditor::insertSubject); });
     add("after", tr("Subject &after"), returnWith(0),
-        [this] { insertAndRename([this] { m_editor->appendSubject(); }); });
+        [this] { insertSibling(&FishEditor::appendSubject); });
     add("parent", tr("&Parent subject"), returnWith(Qt::CTRL),
         [this] { insertAndRename([this] { m_editor->insertParentSubject(); }); });
     add("free", tr("&Free subject (a new diagram)"), returnWith(Qt::CTRL | Qt::SHIFT),
-        [this] { insertAndRename([this] { m_editor->insertFreeSubject(); }); });
+        [this] { Q_EMIT newDiagramWanted(); });
     add("subTask", tr("&Sub-task…"), {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_T)},
         [this] { insertSubTask(m_editor->firstSelectedSpearIndex()); });
 }
@@ -150,6 +142,16 @@ void EditCommands::insertAndRename(const std::function<void()> &edit)
     rename(m_session->insert(edit));
 }
 
+/** Inserts beside the selected subject. Beside the head of a diagram there is another diagram. */
+void EditCommands::insertSibling(void (FishEditor::*insert)())
+{
+    const SpearItem *const spear = m_editor->firstSelectedSpear();
+    if (spear && spear->modelIndex().parent().isValid())
+        insertAndRename([this, insert] { (m_editor->*insert)(); });
+    else if (spear)
+        Q_EMIT newDiagramWanted();
+}
+
 void EditCommands::rename(const QModelIndex &index, const QString &typed)
 {
     TitleEditor::open(m_editor, index, typed);
@@ -179,8 +181,17 @@ void EditCommands::insertSubTask(const QModelIndex &parent)
     });
 }
 
+void EditCommands::setSession(DiagramSession *session)
+{
+    DiagramCommands::setSession(session);
+    m_finder->setSession(session);
+    m_clipboard->setSession(session);
+}
+
 void EditCommands::updateActions()
 {
+    m_actions->action(QStringLiteral("undo"))->setEnabled(m_editor->canUndo());
+    m_actions->action(QStringLiteral("redo"))->setEnabled(m_editor->canRedo());
     const SpearItem *const spear = m_editor->firstSelectedSpear();
     const TreeItem *const subject = spear ? spear->treeItem() : nullptr;
     const bool isBone = subject && !spear->isHeader();

@@ -3,20 +3,18 @@
 
 #pragma once
 
-#include <QObject>
+#include <app/diagramcommands.h>
+
 #include <QPersistentModelIndex>
 
 #include <functional>
 
-class ActionSet;
-class DiagramSession;
-class FishEditor;
 class Finder;
 class QWidget;
 class SubjectClipboard;
 
 /** The commands on the subjects of a diagram. */
-class EditCommands : public QObject
+class EditCommands : public DiagramCommands
 {
     Q_OBJECT
 
@@ -24,8 +22,9 @@ public:
     /** Adds the actions to @p actions. Dialogs stand over @p window, which owns this object. */
     EditCommands(DiagramSession *session, ActionSet *actions, QWidget *window);
 
+    void setSession(DiagramSession *session) override;
     /** Enables the actions as the selection, the clipboard and the undo history allow. */
-    void updateActions();
+    void updateActions() override;
 
     /** Opens a field for the title of the subject at @p index, with @p typed in place of the title
      * unless that is empty. */
@@ -38,6 +37,8 @@ public:
 Q_SIGNALS:
     /** Something for the status bar. */
     void message(const QString &text);
+    /** The user wants another diagram, to begin with its title. */
+    void newDiagramWanted();
 
 private:
     void addHistoryActions();
@@ -47,11 +48,9 @@ private:
     void add(const char *name, const QString &text, const QList<QKeySequence> &shortcuts,
              std::function<void()> run);
     void insertAndRename(const std::function<void()> &edit);
+    void insertSibling(void (FishEditor::*insert)());
     void changeStyle(const std::function<void()> &edit);
 
-    DiagramSession *m_session;
-    FishEditor *m_editor;
-    ActionSet *m_actions;
     QWidget *m_window;
     Finder *m_finder;
     SubjectClipboard *m_clipboard;

@@ -39,10 +39,8 @@ QStringList foreignSuffixes()
 
 ExportCommands::ExportCommands(DiagramSession *session, CanvasTheme *theme, ActionSet *actions,
                                QWidget *window)
-    : QObject(window)
-    , m_session(session)
+    : DiagramCommands(session, actions, window)
     , m_theme(theme)
-    , m_actions(actions)
     , m_window(window)
 {
     using Scope = ActionSet::Scope;
@@ -82,7 +80,7 @@ void ExportCommands::exportPicture()
     scene->clearSelection();
     PictureExport::Result result;
     {
-        const CanvasTheme::Paper paper(m_theme);
+        const CanvasTheme::Paper paper(m_theme, m_editor);
         result = PictureExport::write(*scene, dialog.fileName(), options);
     }
     for (QGraphicsItem *item : selected)
@@ -135,6 +133,6 @@ void ExportCommands::exportAs()
 
 void ExportCommands::print()
 {
-    const CanvasTheme::Paper paper(m_theme);
+    const CanvasTheme::Paper paper(m_theme, m_editor);
     m_session->editor()->print();
 }

@@ -3,16 +3,14 @@
 
 #pragma once
 
-#include <QObject>
+#include <app/diagramcommands.h>
 
-class ActionSet;
 class CanvasTheme;
-class DiagramSession;
 class QWidget;
 
 /** The commands that bring the shown document out of the program: as a picture, in the format of
  * another program, on paper. */
-class ExportCommands : public QObject
+class ExportCommands : public DiagramCommands
 {
     Q_OBJECT
 
@@ -22,7 +20,7 @@ public:
                    QWidget *window);
 
     /** Enables the actions as the shown document allows. */
-    void updateActions();
+    void updateActions() override;
 
 Q_SIGNALS:
     /** Something for the status bar. */
@@ -35,8 +33,6 @@ private:
     QString targetOfExport() const;
     void print();
 
-    DiagramSession *m_session;
     CanvasTheme *m_theme;
-    ActionSet *m_actions;
     QWidget *m_window;
 };

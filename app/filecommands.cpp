@@ -7,6 +7,9 @@
 #include <app/autosave.h>
 #include <app/diagramsession.h>
 #include <app/documentloader.h>
+#include <app/documentsaver.h>
+#include <app/documenttab.h>
+#include <app/documenttabs.h>
 #include <app/lastdocuments.h>
 #include <app/recentfiles.h>
 
@@ -19,16 +22,12 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMessageBox>
+#include <QPointer>
 #include <QUrl>
 
 #include <cstdio>
 
 namespace {
-
-QString documentFilter()
-{
-    return FileCommands::tr("Fishbone diagrams (*.json);;All files (*)");
-}
 
 QString anyFilter()
 {
@@ -36,81 +35,97 @@ QString anyFilter()
         .arg(DiagramExchange::importFilter());
 }
 
-QString shownName(const FishInfo *document)
-{
-    return document->userFriendlyCurrentFile();
-}
-
 } // namespace
 
-FileCommands::FileCommands(DiagramSession *session, ActionSet *actions, QWidget *window)
+FileCommands::FileCommands(DocumentTabs *tabs, RecentFiles *recent, ActionSet *actions,
+                           QWidget *window)
     : QObject(window)
-    , m_session(session)
+    , m_tabs(tabs)
+    , m_recent(recent)
     , m_actions(actions)
     , m_window(window)
-    , m_loader(new DocumentLoader(session->model(), this))
-    , m_recent(new RecentFiles(window))
+    , m_arrivals(new FishModel(this))
+    , m_loader(new DocumentLoader(m_arrivals, this))
+    , m_saver(new DocumentSaver(recent, window))
 {
+    m_loader->setOpenDocuments([tabs] { return tabs->documents(); });
     connect(m_loader, &DocumentLoader::loaded, this, &FileCommands::showLoaded);
     connect(m_loader, &DocumentLoader::failed, this, &FileCommands::reportFailure);
     // Queued, so that several files that fail at once share a box.
-    connect(m_loader, &DocumentLoader::idle, this, &FileCommands::showFailures,
-            Qt::QueuedConnection);
+    connect(m_loader, &DocumentLoader::idle, this, &FileCommands::endLoading, Qt::QueuedConnection);
     connect(m_recent, &RecentFiles::chosen, m_loader, &DocumentLoader::load);
-    addActions(actions);
+    connect(m_saver, &DocumentSaver::message, this, &FileCommands::message);
+    connect(m_tabs, &DocumentTabs::closeRequested, this, &FileCommands::closeTabs);
+    addOpenActions();
+    addSaveActions();
+    addCloseActions();
 }
 
-QMenu *FileCommands::recentMenu() const
+void FileCommands::add(const char *name, const QString &text, const QKeySequence &shortcut,
+                       void (FileCommands::*run)())
 {
-    return m_recent->menu();
+    m_actions->add(QLatin1String(name), text, {shortcut}, ActionSet::Scope::Window,
+                   [this, run] { (this->*run)(); });
 }
 
-void FileCommands::addActions(ActionSet *actions)
+void FileCommands::addOpenActions()
 {
-    using Scope = ActionSet::Scope;
-    const auto add = [&](const char *name, const QString &text, const QKeySequence &shortcut,
-                         void (FileCommands::*run)()) {
-        actions->add(QLatin1String(name), text, {shortcut}, Scope::Window,
-                     [this, run] { (this->*run)(); });
-    };
     add("new", tr("&New"), QKeySequence::New, &FileCommands::newDocument);
     add("newExample", tr("New from the &example"), {}, &FileCommands::newFromBuiltInTemplate);
-    actions->add(QStringLiteral("newFromTemplate"), tr("New from &template…"), {}, Scope::Window,
-                 [this] { newFromTemplate(m_session->folder()); });
+    m_actions->add(QStringLiteral("newFromTemplate"), tr("New from &template…"), {},
+                   ActionSet::Scope::Window,
+                   [this] { newFromTemplate(m_tabs->current()->session()->folder()); });
     add("open", tr("&Open…"), QKeySequence::Open, &FileCommands::openFiles);
     add("import", tr("&Import…"), QKeySequence(Qt::CTRL | Qt::Key_I), &FileCommands::importFiles);
     add("url", tr("Open &URL…"), QKeySequence(Qt::CTRL | Qt::Key_U), &FileCommands::openUrl);
-    actions->add(QStringLiteral("recover"), tr("Open an a&utosave…"), {}, Scope::Window,
-                 [this] { newFromTemplate(Autosave::folder()); });
-    actions->add(QStringLiteral("save"), tr("&Save"), {QKeySequence::Save}, Scope::Window,
-                 [this] { save(m_session->document()); });
-    actions->add(QStringLiteral("saveAs"), tr("Save &as…"),
-                 {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S)}, Scope::Window,
-                 [this] { saveAs(m_session->document()); });
+    m_actions->add(QStringLiteral("recover"), tr("Open an a&utosave…"), {},
+                   ActionSet::Scope::Window, [this] { newFromTemplate(Autosave::folder()); });
+}
+
+void FileCommands::addSaveActions()
+{
+    const auto addForTab = [this](const char *name, const QString &text,
+                                  const QKeySequence &shortcut,
+                                  bool (DocumentSaver::*run)(DocumentTab *)) {
+        m_actions->add(QLatin1String(name), text, {shortcut}, ActionSet::Scope::Window,
+                       [this, run] { (m_saver->*run)(m_tabs->current()); });
+    };
+    addForTab("save", tr("&Save"), QKeySequence::Save, &DocumentSaver::save);
+    addForTab("saveAs", tr("Save &as…"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S),
+              &DocumentSaver::saveAs);
+    addForTab("saveCopy", tr("Save a cop&y…"), {}, &DocumentSaver::saveCopy);
     add("saveAll", tr("Save a&ll"), {}, &FileCommands::saveAll);
-    add("close", tr("&Close"), QKeySequence(Qt::CTRL | Qt::Key_W), &FileCommands::closeDocument);
-    QAction *const reopen = actions->add(
-        QStringLiteral("reopen"), tr("Reopen &documents at the start"), {}, Scope::Window,
-        [actions] {
-            LastDocuments::setWanted(actions->action(QStringLiteral("reopen"))->isChecked());
+    add("revert", tr("Revert to &file"), {}, &FileCommands::revert);
+}
+
+void FileCommands::addCloseActions()
+{
+    add("close", tr("&Close"), QKeySequence(Qt::CTRL | Qt::Key_W), &FileCommands::closeCurrent);
+    QAction *const reopen = m_actions->add(
+        QStringLiteral("reopen"), tr("Reopen &documents at the start"), {},
+        ActionSet::Scope::Window, [this] {
+            LastDocuments::setWanted(m_actions->action(QStringLiteral("reopen"))->isChecked());
         });
     reopen->setCheckable(true);
     reopen->setChecked(LastDocuments::areWanted());
-    actions->add(QStringLiteral("quit"), tr("&Quit"), {QKeySequence(Qt::CTRL | Qt::Key_Q)},
-                 Scope::Window, [this] { m_window->close(); });
+    m_actions->add(QStringLiteral("quit"), tr("&Quit"), {QKeySequence(Qt::CTRL | Qt::Key_Q)},
+                   ActionSet::Scope::Window, [this] { m_window->close(); });
 }
 
 void FileCommands::updateActions()
 {
-    const bool shown = m_session->document() != nullptr;
-    for (const char *name : {"save", "saveAs", "saveAll", "close"})
-        m_actions->action(QLatin1String(name))->setEnabled(shown);
+    const DocumentTab *const tab = m_tabs->current();
+    for (const char *name : {"save", "saveAs", "saveCopy", "saveAll", "close"})
+        m_actions->action(QLatin1String(name))->setEnabled(tab->document());
+    m_actions->action(QStringLiteral("revert"))->setEnabled(!tab->path().isEmpty());
 }
 
 void FileCommands::open(const QStringList &sources)
 {
     const QStringList wanted = sources.isEmpty() ? LastDocuments::files() : sources;
-    if (wanted.isEmpty())
+    if (sources.isEmpty())
+        m_shownAtLast = LastDocuments::shownFile();
+    if (wanted.isEmpty() && m_tabs->tabs().isEmpty())
         newFromBuiltInTemplate();
     for (const QString &source : wanted)
         m_loader->load(source);
@@ -118,32 +133,39 @@ void FileCommands::open(const QStringList &sources)
 
 void FileCommands::showLoaded(const QString &source, FishInfo *document)
 {
-    m_session->showDocument(document);
+    DocumentTab *tab = m_tabs->tabOf(document);
+    const bool isNew = !tab;
+    if (isNew)
+        tab = m_tabs->add(document);
+    else
+        m_tabs->setCurrent(tab);
     const QString path = DocumentLoader::localPath(source);
     if (!path.isEmpty())
         m_recent->add(path);
-    Q_EMIT message(tr("%1 loaded").arg(shownName(document)));
-    if (!path.isEmpty() && document->autoSaveFile() == document->fileName())
-        offerAutosave(document->fileName(), document);
+    Q_EMIT message(tr("%1 loaded").arg(tab->name()));
+    if (!isNew)
+        return;
+    if (!tab->path().isEmpty())
+        offerAutosave(tab->path(), tab);
     Autosave::redirect(document);
 }
 
 /** Takes over what an earlier run has left for the file that was just loaded, if the user likes. */
-void FileCommands::offerAutosave(const QString &path, FishInfo *document)
+void FileCommands::offerAutosave(const QString &path, DocumentTab *tab)
 {
     const QFileInfo left(Autosave::fileFor(path));
-    if (!Autosave::differs(left.filePath(), document))
+    if (!Autosave::differs(left.filePath(), tab->document()))
         return;
     const QString question = tr("There is an autosave of %1 from %2, which an earlier run did not "
                                 "remove. Show that instead?");
-    if (QMessageBox::question(m_window, tr("Autosave"),
-                              question.arg(shownName(document).toHtmlEscaped(),
-                                           QLocale().toString(left.lastModified()))) !=
+    if (QMessageBox::question(
+            m_window, tr("Autosave"),
+            question.arg(tab->name().toHtmlEscaped(), QLocale().toString(left.lastModified()))) !=
         QMessageBox::Yes)
         return;
-    if (m_session->model()->reloadDataFromFile(left.filePath(), document) == MODEL_NO_ERROR) {
-        document->setModified(true);
-        m_session->showDocument(document);
+    if (tab->model()->reloadDataFromFile(left.filePath(), tab->document()) == MODEL_NO_ERROR) {
+        tab->document()->setModified(true);
+        tab->session()->showDocument(tab->document());
     }
 }
 
@@ -155,8 +177,17 @@ void FileCommands::reportFailure(const QString &source, const QString &reason)
     m_failures.append(text);
     m_recent->remove(DocumentLoader::localPath(source));
     // A window that was to show nothing else shows something to begin with.
-    if (m_session->model()->fishList().isEmpty() && m_loader->isLast())
+    if (m_tabs->tabs().isEmpty() && m_loader->isLast())
         newFromBuiltInTemplate();
+}
+
+/** Shows what was shown when the program ended, and what cannot be opened. */
+void FileCommands::endLoading()
+{
+    if (DocumentTab *const tab = m_tabs->tabOfFile(m_shownAtLast))
+        m_tabs->setCurrent(tab);
+    m_shownAtLast.clear();
+    showFailures();
 }
 
 /** Shows what could not be opened in one box, which waits for nobody. */
@@ -173,42 +204,38 @@ void FileCommands::showFailures()
     box->open();
 }
 
+DocumentTab *FileCommands::addTab(FishInfo *document)
+{
+    Autosave::redirect(document);
+    return m_tabs->add(document);
+}
+
 void FileCommands::newDocument()
 {
-    FishModel *const model = m_session->model();
-    const int row = model->rowCount();
-    if (!model->insertRows(row, 1))
+    if (!m_arrivals->insertRows(m_arrivals->rowCount(), 1))
         return;
-    FishInfo *const document = model->fishList().at(row);
-    Autosave::redirect(document);
-    m_session->showDocument(document);
-    m_session->select(m_session->headOf(document)); // ready to be typed over
+    DocumentTab *const tab = addTab(m_arrivals->fishList().constLast());
+    tab->session()->select(tab->session()->headOf(tab->document())); // ready to be typed over
 }
 
 void FileCommands::newFromBuiltInTemplate()
 {
-    if (m_session->model()->loadFishTempl() != MODEL_NO_ERROR)
-        return;
-    FishInfo *const document = m_session->model()->fishList().constLast();
-    Autosave::redirect(document);
-    m_session->showDocument(document);
+    if (m_arrivals->loadFishTempl() == MODEL_NO_ERROR)
+        addTab(m_arrivals->fishList().constLast());
 }
 
 void FileCommands::newFromTemplate(const QString &folder)
 {
-    const QString path =
-        QFileDialog::getOpenFileName(m_window, tr("New from template"), folder, documentFilter());
+    const QString path = QFileDialog::getOpenFileName(m_window, tr("New from template"), folder,
+                                                      DocumentSaver::documentFilter());
     if (path.isEmpty())
         return;
-    FishModel *const model = m_session->model();
-    if (model->loadFishFromTemplate(path) != MODEL_NO_ERROR) {
-        reportFailure(path, DocumentLoader::reasonOf(path));
-        showFailures();
+    if (m_arrivals->loadFishFromTemplate(path) == MODEL_NO_ERROR) {
+        addTab(m_arrivals->fishList().constLast());
         return;
     }
-    FishInfo *const document = model->fishList().constLast();
-    Autosave::redirect(document);
-    m_session->showDocument(document);
+    reportFailure(path, DocumentLoader::reasonOf(path));
+    showFailures();
 }
 
 void FileCommands::openFiles()
@@ -224,8 +251,8 @@ void FileCommands::importFiles()
 /** Opens what the user chooses among the files that @p filter lets through. */
 void FileCommands::openChosen(const QString &title, const QString &filter)
 {
-    const QStringList paths =
-        QFileDialog::getOpenFileNames(m_window, title, m_session->folder(), filter);
+    const QStringList paths = QFileDialog::getOpenFileNames(
+        m_window, title, m_tabs->current()->session()->folder(), filter);
     for (const QString &path : paths)
         m_loader->load(path);
 }
@@ -240,82 +267,84 @@ void FileCommands::openUrl()
         Q_EMIT message(tr("Loading %1…").arg(url.toDisplayString()));
 }
 
-bool FileCommands::save(FishInfo *document)
-{
-    if (!document)
-        return false;
-    return document->isUntitled() ? saveAs(document) : writeTo(document, document->fileName());
-}
-
-bool FileCommands::saveAs(FishInfo *document)
-{
-    if (!document)
-        return false;
-    const QString proposed = m_session->folder() + QLatin1Char('/') + shownName(document);
-    const QString path =
-        QFileDialog::getSaveFileName(m_window, tr("Save as"), proposed, documentFilter());
-    if (path.isEmpty())
-        return false;
-    if (DocumentLoader::foreignFormat(path)) { // it would be read as something else
-        QMessageBox::warning(m_window, tr("Save"),
-                             tr("%1 would not be recognized as a diagram. Its name should end in "
-                                ".json; \"Export as\" writes other formats.")
-                                 .arg(path.toHtmlEscaped()));
-        return false;
-    }
-    return writeTo(document, path);
-}
-
-bool FileCommands::writeTo(FishInfo *document, const QString &path)
-{
-    if (!document->saveFile(path)) {
-        QMessageBox::warning(m_window, tr("Save"),
-                             tr("%1 cannot be written.").arg(path.toHtmlEscaped()));
-        return false;
-    }
-    Autosave::discard(document);
-    document->setCurrentFile(path);
-    m_recent->add(path);
-    Autosave::redirect(document);
-    m_session->touch();
-    Q_EMIT message(tr("%1 saved").arg(shownName(document)));
-    return true;
-}
-
 void FileCommands::saveAll()
 {
-    const QList<FishInfo *> documents = m_session->model()->fishList();
-    for (FishInfo *document : documents) {
-        if (document->modified() && !save(document))
+    const QList<DocumentTab *> tabs = m_tabs->tabs();
+    for (DocumentTab *tab : tabs) {
+        if (tab->document()->modified() && !m_saver->save(tab))
             return;
     }
 }
 
-/** Lets the user save or cancel; the document may go when the result is true. */
-bool FileCommands::mayClose(FishInfo *document)
+/** Shows the document as its file has it. */
+void FileCommands::revert()
 {
-    if (document->modified())
-        m_session->showDocument(document); // so that the user sees what the question is about
-    return document->maybeSave();
-}
-
-void FileCommands::closeDocument()
-{
-    FishInfo *const document = m_session->document();
-    if (!document || !mayClose(document))
+    const QPointer<DocumentTab> tab = m_tabs->current(); // the question runs an event loop
+    const QString path = tab->path();
+    if (tab->document()->modified() &&
+        QMessageBox::question(
+            m_window, tr("Revert"),
+            tr("Give up all changes of %1 since it was saved?").arg(tab->name().toHtmlEscaped())) !=
+            QMessageBox::Yes)
         return;
-    Autosave::discard(document);
-    m_session->model()->unloadFish(document);
+    if (!tab)
+        return;
+    if (m_arrivals->loadFishFromFile(path) != MODEL_NO_ERROR) {
+        reportFailure(path, DocumentLoader::reasonOf(path));
+        showFailures();
+        return;
+    }
+    FishInfo *const document = m_arrivals->fishList().constLast();
+    document->setCurrentFile(path);
+    Autosave::discard(tab->document());
+    Autosave::redirect(document);
+    m_tabs->replace(tab, document);
 }
 
-bool FileCommands::closeAll()
+void FileCommands::closeCurrent()
 {
-    const QList<FishInfo *> documents = m_session->model()->fishList();
-    for (FishInfo *document : documents) {
-        if (!mayClose(document))
+    if (m_tabs->current()->document())
+        closeTabs({m_tabs->current()});
+}
+
+/** Closes @p tabs up to the first one that the user wants to keep. */
+void FileCommands::closeTabs(const QList<DocumentTab *> &tabs)
+{
+    for (DocumentTab *tab : tabs) {
+        if (!m_tabs->tabs().contains(tab))
+            continue; // closed meanwhile
+        if (!mayClose(tab))
+            return;
+        Autosave::discard(tab->document());
+        m_tabs->remove(tab);
+    }
+}
+
+bool FileCommands::mayClose(DocumentTab *tab)
+{
+    if (tab->document()->modified())
+        m_tabs->setCurrent(tab); // so that the user sees what the question is about
+    return m_saver->mayClose(tab);
+}
+
+bool FileCommands::mayCloseAll()
+{
+    const QList<DocumentTab *> tabs = m_tabs->tabs();
+    for (DocumentTab *tab : tabs) {
+        if (!mayClose(tab))
             return false;
     }
-    for (FishInfo *document : documents)
-        Autosave::discard(document);
     return true;
+}
+
+void FileCommands::end()
+{
+    QStringList paths;
+    const QList<DocumentTab *> tabs = m_tabs->tabs();
+    for (const DocumentTab *tab : tabs) {
+        Autosave::discard(tab->document());
+        if (!tab->path().isEmpty())
+            paths.append(tab->path());
+    }
+    LastDocuments::remember(paths, m_tabs->current()->path());
 }

@@ -3,14 +3,18 @@
 
 #pragma once
 
+#include <QKeySequence>
+#include <QList>
 #include <QObject>
 #include <QStringList>
 
 class ActionSet;
-class DiagramSession;
 class DocumentLoader;
+class DocumentSaver;
+class DocumentTab;
+class DocumentTabs;
 class FishInfo;
-class QMenu;
+class FishModel;
 class QWidget;
 class RecentFiles;
 
@@ -21,19 +25,23 @@ class FileCommands : public QObject
 
 public:
     /** Adds the actions to @p actions. Dialogs stand over @p window, which owns this object. */
-    FileCommands(DiagramSession *session, ActionSet *actions, QWidget *window);
+    FileCommands(DocumentTabs *tabs, RecentFiles *recent, ActionSet *actions, QWidget *window);
 
     /** Opens files, of this or another program, and URLs; when there are none, the documents of the
      * last time or the template. */
     void open(const QStringList &sources);
 
+    /** Makes a document with a head alone, and selects that. */
+    void newDocument();
+
     /** Offers to save each modified document; false when the user wants to go on working. */
-    bool closeAll();
+    bool mayCloseAll();
 
-    /** The menu of the files that were opened last. */
-    QMenu *recentMenu() const;
+    /** Leaves nothing behind that only a run that did not end well leaves, and remembers what was
+     * open. */
+    void end();
 
-    /** Enables the actions as the shown document allows. */
+    /** Enables the actions as the open documents allow. */
     void updateActions();
 
 Q_SIGNALS:
@@ -41,29 +49,36 @@ Q_SIGNALS:
     void message(const QString &text);
 
 private:
-    void addActions(ActionSet *actions);
+    void addOpenActions();
+    void addSaveActions();
+    void addCloseActions();
+    void add(const char *name, const QString &text, const QKeySequence &shortcut,
+             void (FileCommands::*run)());
     void showLoaded(const QString &source, FishInfo *document);
     void reportFailure(const QString &source, const QString &reason);
-    void newDocument();
+    void showFailures();
+    DocumentTab *addTab(FishInfo *document);
     void newFromBuiltInTemplate();
     void newFromTemplate(const QString &startFolder);
-    void showFailures();
     void openFiles();
     void importFiles();
     void openChosen(const QString &title, const QString &filter);
     void openUrl();
-    void offerAutosave(const QString &path, FishInfo *document);
-    bool save(FishInfo *document);
-    bool saveAs(FishInfo *document);
-    bool writeTo(FishInfo *document, const QString &path);
+    void offerAutosave(const QString &path, DocumentTab *tab);
     void saveAll();
-    void closeDocument();
-    bool mayClose(FishInfo *document);
+    void revert();
+    void closeCurrent();
+    void closeTabs(const QList<DocumentTab *> &tabs);
+    bool mayClose(DocumentTab *tab);
+    void endLoading();
 
-    DiagramSession *m_session;
+    DocumentTabs *m_tabs;
+    RecentFiles *m_recent;
     ActionSet *m_actions;
     QWidget *m_window;
+    FishModel *m_arrivals; ///< documents are loaded into it, and leave it for a tab
     DocumentLoader *m_loader;
-    RecentFiles *m_recent;
+    DocumentSaver *m_saver;
     QStringList m_failures; ///< what could not be opened and was not shown in a box yet
+    QString m_shownAtLast;  ///< the file to be shown when all that was asked for is loaded
 };

@@ -34,6 +34,14 @@ Finder::Finder(DiagramSession *session, QWidget *window)
             &Finder::replaceAll);
 }
 
+void Finder::setSession(DiagramSession *session)
+{
+    m_session = session;
+    m_dialog->setModel(session->model());
+    m_matches.clear();
+    m_current = -1;
+}
+
 void Finder::show()
 {
     m_dialog->show();

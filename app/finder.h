@@ -22,6 +22,8 @@ class Finder : public QObject
 public:
     Finder(DiagramSession *session, QWidget *window);
 
+    /** From now on searches the diagram of @p session. */
+    void setSession(DiagramSession *session);
     /** Shows the dialog. */
     void show();
 

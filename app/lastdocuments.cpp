@@ -3,11 +3,6 @@
 
 #include <app/lastdocuments.h>
 
-#include <app/diagramsession.h>
-
-#include <fishbone/model/fishinfo.h>
-#include <fishbone/model/fishmodel.h>
-
 #include <QFileInfo>
 #include <QSettings>
 
@@ -21,6 +16,11 @@ QString wantedKey()
 QString filesKey()
 {
     return QStringLiteral("openDocuments");
+}
+
+QString shownKey()
+{
+    return QStringLiteral("shownDocument");
 }
 
 } // namespace
@@ -37,22 +37,11 @@ void setWanted(bool wanted)
     QSettings().setValue(wantedKey(), wanted);
 }
 
-void remember(const DiagramSession &session)
+void remember(const QStringList &paths, const QString &shown)
 {
-    QStringList paths;
-    QString shown;
-    const QList<FishInfo *> documents = session.model()->fishList();
-    for (const FishInfo *document : documents) {
-        if (document->isUntitled())
-            continue;
-        if (document == session.document())
-            shown = document->fileName();
-        else
-            paths.append(document->fileName());
-    }
-    if (!shown.isEmpty())
-        paths.append(shown);
-    QSettings().setValue(filesKey(), paths);
+    QSettings settings;
+    settings.setValue(filesKey(), paths);
+    settings.setValue(shownKey(), shown);
 }
 
 QStringList files()
@@ -66,6 +55,11 @@ QStringList files()
             present.append(path);
     }
     return present;
+}
+
+QString shownFile()
+{
+    return QSettings().value(shownKey()).toString();
 }
 
 } // namespace LastDocuments

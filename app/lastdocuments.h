@@ -5,8 +5,6 @@
 
 #include <QStringList>
 
-class DiagramSession;
-
 /** The documents that were open when the program ended, which it opens again if the user likes. */
 namespace LastDocuments {
 
@@ -14,10 +12,13 @@ namespace LastDocuments {
 bool areWanted();
 void setWanted(bool wanted);
 
-/** Remembers the files of the open documents. */
-void remember(const DiagramSession &session);
+/** Remembers the files of the open documents, and that of the one that is shown. */
+void remember(const QStringList &paths, const QString &shown);
 
-/** The files that are still there, the one that was shown last; none when they are not wanted. */
+/** The files that are still there; none when they are not wanted. */
 QStringList files();
+
+/** The file of the document that was shown, empty when it had none. */
+QString shownFile();
 
 } // namespace LastDocuments

@@ -7,117 +7,132 @@
 #include <app/canvastheme.h>
 #include <app/detailspanel.h>
 #include <app/diagramsession.h>
+#include <app/documenttab.h>
+#include <app/documenttabs.h>
 #include <app/editcommands.h>
+#include <app/emptypage.h>
 #include <app/exportcommands.h>
 #include <app/filecommands.h>
 #include <app/filedrop.h>
 #include <app/historypanel.h>
-#include <app/lastdocuments.h>
 #include <app/linkopener.h>
 #include <app/menukeys.h>
 #include <app/menus.h>
 #include <app/movecommands.h>
+#include <app/recentfiles.h>
 #include <app/subjecttree.h>
-#include <app/treesync.h>
+#include <app/tabcommands.h>
 #include <app/typedtitle.h>
 #include <app/viewcommands.h>
 #include <app/walkcommands.h>
 #include <app/zoomcontrols.h>
 
 #include <fishbone/editor/fisheditor.h>
-#include <fishbone/editor/fishscene.h>
 #include <fishbone/editor/graphicsview.h>
-#include <fishbone/exchange/pictureexport.h>
-#include <fishbone/items/spearitem.h>
 #include <fishbone/model/fishinfo.h>
 #include <fishbone/model/fishmodel.h>
-#include <fishbone/undo/undostack.h>
+#include <fishbone/model/treeitem.h>
 
 #include <QAction>
+#include <QApplication>
 #include <QCloseEvent>
 #include <QDockWidget>
-#include <QLayout>
 #include <QMenu>
 #include <QMenuBar>
-#include <QMouseEvent>
 #include <QSettings>
+#include <QStackedWidget>
 #include <QStatusBar>
 #include <QUrl>
 
 MainWindow::MainWindow(QWidget *parent)
     : QMainWindow(parent)
-    , m_model(new FishModel(this))
-    , m_editor(new FishEditor(this))
-    , m_session(new DiagramSession(m_model, m_editor, this))
-    , m_theme(new CanvasTheme(m_editor, this))
+    , m_theme(new CanvasTheme(this))
     , m_actions(new ActionSet(this))
+    , m_recent(new RecentFiles(this))
+    , m_tabs(new DocumentTabs(m_theme, this))
+    , m_drops(new FileDrop(this))
 {
     setWindowIcon(QIcon(QStringLiteral(":/app/icon.svg")));
-    setUpEditor();
-    auto *const controls = new ZoomControls(m_editor, this);
-    m_files = new FileCommands(m_session, m_actions, this);
-    m_exports = new ExportCommands(m_session, m_theme, m_actions, this);
-    m_edits = new EditCommands(m_session, m_actions, this);
-    m_moves = new MoveCommands(m_session, m_actions, this);
-    m_walk = new WalkCommands(m_session, m_actions, this);
-    m_views = new ViewCommands(m_session, m_theme, controls, m_actions, this);
-    m_actions->add(QStringLiteral("details"), tr("&Details"), {Qt::Key_F4},
-                   ActionSet::Scope::Selection,
-                   [this] { showDetails(m_editor->firstSelectedSpearIndex()); });
+    setCentralWidget(m_tabs);
+    m_theme->follow(palette());
+    addCommands();
     addDocks();
     addBars();
-    statusBar()->addPermanentWidget(controls);
-    connectGestures();
-    connect(m_session, &DiagramSession::stateChanged, this, &MainWindow::updateState);
+    connectCommands();
+    m_tabs->setEmptyPage(new EmptyPage(*m_actions, m_recent, m_tabs));
+    takeIn(m_tabs->current());
+    showTab(m_tabs->current());
+    connect(m_tabs, &DocumentTabs::added, this, &MainWindow::takeIn);
+    connect(m_tabs, &DocumentTabs::currentChanged, this, &MainWindow::showTab);
     restoreLayout();
     updateState();
 }
 
 MainWindow::~MainWindow()
 {
-    // What listens to the drawing goes before it, and what edits the model before that.
-    delete m_sync;
-    delete m_editor;
-    delete m_session;
+    // The tabs' panels stand in the docks, and the commands listen to what is in the tabs.
+    m_tabs->disconnect(this);
+    qDeleteAll(m_commands);
+    delete m_files;
+    delete m_tabs;
 }
 
-void MainWindow::setUpEditor()
+FishModel *MainWindow::model() const
 {
-    m_editor->setModel(m_model);
-    m_editor->setPasteAsNew(true);
-    m_editor->undoStack()->setRolling(true);
-    m_editor->setFrameShape(QFrame::NoFrame);
-    m_editor->layout()->setContentsMargins(0, 0, 0, 0);
-    m_editor->view()->setFrameShape(QFrame::NoFrame);
-    m_editor->view()->viewport()->installEventFilter(this);
-    setCentralWidget(m_editor);
-    m_theme->follow(palette());
+    return m_tabs->current()->model();
+}
+
+FishEditor *MainWindow::editor() const
+{
+    return m_tabs->current()->editor();
+}
+
+DiagramSession *MainWindow::session() const
+{
+    return m_tabs->current()->session();
+}
+
+SubjectTree *MainWindow::tree() const
+{
+    return m_tabs->current()->tree();
+}
+
+void MainWindow::addCommands()
+{
+    m_controls = new ZoomControls(editor(), this);
+    statusBar()->addPermanentWidget(m_controls);
+    m_files = new FileCommands(m_tabs, m_recent, m_actions, this);
+    m_tabCommands = new TabCommands(m_tabs, m_actions, this);
+    m_exports = new ExportCommands(session(), m_theme, m_actions, this);
+    m_edits = new EditCommands(session(), m_actions, this);
+    m_views = new ViewCommands(session(), m_theme, m_controls, m_actions, this);
+    m_commands = {m_exports, m_edits, m_views, new MoveCommands(session(), m_actions, this),
+                  new WalkCommands(session(), m_actions, this)};
+    m_actions->add(QStringLiteral("details"), tr("&Details"), {Qt::Key_F4},
+                   ActionSet::Scope::Selection, [this] { showDetails(); });
+}
+
+/** A dock that shows what belongs to the current tab. */
+QStackedWidget *MainWindow::addDock(const char *name, const QString &title, Qt::DockWidgetArea area)
+{
+    auto *const dock = new QDockWidget(title, this);
+    dock->setObjectName(QLatin1String(name));
+    auto *const contents = new QStackedWidget(dock);
+    dock->setWidget(contents);
+    addDockWidget(area, dock);
+    return contents;
 }
 
 void MainWindow::addDocks()
 {
-    const auto addDock = [this](const char *name, const QString &title, QWidget *content,
-                                Qt::DockWidgetArea area) {
-        auto *const dock = new QDockWidget(title, this);
-        dock->setObjectName(QLatin1String(name));
-        dock->setWidget(content);
-        addDockWidget(area, dock);
-        return dock;
+    m_trees = addDock("documentsDock", tr("Subjects"), Qt::LeftDockWidgetArea);
+    m_details = addDock("detailsDock", tr("Details"), Qt::RightDockWidgetArea);
+    m_histories = addDock("historyDock", tr("History"), Qt::RightDockWidgetArea);
+    const auto dockOf = [](QWidget *contents) {
+        return qobject_cast<QDockWidget *>(contents->parentWidget());
     };
-    m_tree = new SubjectTree(m_model, this);
-    m_sync = new TreeSync(m_session, m_tree, this);
-    m_details = new DetailsPanel(m_session, this);
-    QDockWidget *const documents =
-        addDock("documentsDock", tr("Documents"), m_tree, Qt::LeftDockWidgetArea);
-    QDockWidget *const details =
-        addDock("detailsDock", tr("Details"), m_details, Qt::RightDockWidgetArea);
-    QDockWidget *const history = addDock(
-        "historyDock", tr("History"), new HistoryPanel(m_session, this), Qt::RightDockWidgetArea);
-    resizeDocks({documents, details}, {240, 280}, Qt::Horizontal);
-    resizeDocks({details, history}, {500, 160}, Qt::Vertical);
-    m_actions->addShortcuts(ActionSet::Scope::Selection, m_editor);
-    m_actions->addShortcuts(ActionSet::Scope::Selection, m_tree->view());
-    m_actions->addShortcuts(ActionSet::Scope::Drawing, m_editor);
+    resizeDocks({dockOf(m_trees), dockOf(m_details)}, {240, 280}, Qt::Horizontal);
+    resizeDocks({dockOf(m_details), dockOf(m_histories)}, {500, 160}, Qt::Vertical);
 }
 
 void MainWindow::addBars()
@@ -127,50 +142,89 @@ void MainWindow::addBars()
     new MenuKeys(this); // which owns it
     Menus::build(
         this, *m_actions,
-        {{QStringLiteral("recent"), m_files->recentMenu()}, {QStringLiteral("visited"), visited}});
+        {{QStringLiteral("recent"), m_recent->menu()}, {QStringLiteral("visited"), visited}});
     QMenu *const panels = createPopupMenu();
     panels->setTitle(tr("&Panels"));
     menuBar()->addMenu(panels);
     m_actions->updateIcons(palette());
 }
 
-void MainWindow::connectGestures()
+void MainWindow::connectCommands()
 {
-    const auto show = [this](const QString &text) { statusBar()->showMessage(text, 10000); };
-    connect(m_files, &FileCommands::message, this, show);
-    connect(m_exports, &ExportCommands::message, this, show);
-    connect(m_edits, &EditCommands::message, this, show);
+    connect(m_files, &FileCommands::message, this, &MainWindow::showMessage);
+    connect(m_exports, &ExportCommands::message, this, &MainWindow::showMessage);
+    connect(m_edits, &EditCommands::message, this, &MainWindow::showMessage);
+    connect(m_edits, &EditCommands::newDiagramWanted, this, &MainWindow::startDiagram);
     auto *const links = new LinkOpener(this);
-    connect(links, &LinkOpener::failed, this,
-            [show](const QUrl &url) { show(tr("Nothing opens %1").arg(url.toDisplayString())); });
-
-    auto *const typing = new TypedTitle(m_editor, this);
-    connect(typing, &TypedTitle::typed, this, [this](const QString &text) {
-        m_edits->rename(m_editor->firstSelectedSpearIndex(), text);
+    connect(links, &LinkOpener::failed, this, [this](const QUrl &url) {
+        showMessage(tr("Nothing opens %1").arg(url.toDisplayString()));
     });
-    auto *const drops = new FileDrop(this);
-    drops->watch(this);
-    drops->watch(m_editor->view()->viewport());
+    m_drops->watch(this);
     // Queued, since the program from which the file comes waits for the end of the drop.
-    connect(drops, &FileDrop::dropped, this, &MainWindow::open, Qt::QueuedConnection);
+    connect(m_drops, &FileDrop::dropped, this, &MainWindow::open, Qt::QueuedConnection);
+}
 
-    connect(m_editor, &FishEditor::editTaskDetail, this, &MainWindow::showDetails);
-    connect(m_editor, &FishEditor::oneTaskClicked, this,
-            [this] { showDetails(m_editor->firstSelectedSpearIndex()); });
-    connect(m_editor, &FishEditor::createNewSubTask, this,
-            [this] { m_edits->insertSubTask(m_editor->firstSelectedSpearIndex()); });
-    connect(m_editor, &FishEditor::insertChildTask, m_edits, &EditCommands::insertChild);
-    connect(m_editor, &FishEditor::changeFishWithModelIndex, m_session,
+/** Gives @p tab its place in the window. */
+void MainWindow::takeIn(DocumentTab *tab)
+{
+    m_trees->addWidget(tab->tree());
+    m_details->addWidget(tab->details());
+    m_histories->addWidget(tab->history());
+    m_actions->addShortcuts(ActionSet::Scope::Selection, tab->editor());
+    m_actions->addShortcuts(ActionSet::Scope::Selection, tab->tree()->view());
+    m_actions->addShortcuts(ActionSet::Scope::Drawing, tab->editor());
+    m_drops->watch(tab->editor()->view()->viewport());
+    connect(tab->session(), &DiagramSession::stateChanged, this, [this, tab] {
+        if (tab == m_tabs->current())
+            updateState();
+    });
+    connectGestures(tab);
+}
+
+void MainWindow::connectGestures(DocumentTab *tab)
+{
+    FishEditor *const editor = tab->editor();
+    auto *const typing = new TypedTitle(editor, tab);
+    connect(typing, &TypedTitle::typed, this, [this, editor](const QString &text) {
+        m_edits->rename(editor->firstSelectedSpearIndex(), text);
+    });
+    connect(editor, &FishEditor::editTaskDetail, this, [this, tab](const QModelIndex &index) {
+        tab->details()->showSubject(index);
+        showDetails();
+    });
+    connect(editor, &FishEditor::oneTaskClicked, this, &MainWindow::showDetails);
+    connect(editor, &FishEditor::createNewSubTask, this,
+            [this, editor] { m_edits->insertSubTask(editor->firstSelectedSpearIndex()); });
+    connect(editor, &FishEditor::insertChildTask, m_edits, &EditCommands::insertChild);
+    connect(editor, &FishEditor::changeFishWithModelIndex, tab->session(),
             &DiagramSession::showAsDiagram);
-    connect(m_editor, &FishEditor::changeTaskParent, this,
-            [this, show](const QStringList &children, const QString &parentId) {
-                const QModelIndex index = m_model->modelIndexByUuid(parentId);
-                const TreeItem *const task = m_model->getTreeItem(index);
-                show(tr("%n task(s) moved to %1", nullptr, children.size())
-                         .arg(task ? task->title() : tr("the top")));
+    connect(editor, &FishEditor::changeTaskParent, this,
+            [this, tab](const QStringList &children, const QString &parentId) {
+                const QModelIndex index = tab->model()->modelIndexByUuid(parentId);
+                const TreeItem *const task = tab->model()->getTreeItem(index);
+                showMessage(tr("%n task(s) moved to %1", nullptr, children.size())
+                                .arg(task ? task->title() : tr("the top")));
             });
-    connect(m_tree->view(), &QTreeView::doubleClicked, this,
-            [this] { showDetails(m_editor->firstSelectedSpearIndex()); });
+    connect(tab->tree()->view(), &QTreeView::doubleClicked, this, &MainWindow::showDetails);
+}
+
+void MainWindow::showTab(DocumentTab *tab)
+{
+    const bool wasInTabs = m_tabs->isAncestorOf(QApplication::focusWidget());
+    m_trees->setCurrentWidget(tab->tree());
+    m_details->setCurrentWidget(tab->details());
+    m_histories->setCurrentWidget(tab->history());
+    m_controls->setEditor(tab->editor());
+    for (DiagramCommands *commands : qAsConst(m_commands))
+        commands->setSession(tab->session());
+    if (tab->document() && (wasInTabs || !QApplication::focusWidget()))
+        tab->editor()->view()->setFocus();
+    updateState();
+}
+
+void MainWindow::showMessage(const QString &text)
+{
+    statusBar()->showMessage(text, 10000);
 }
 
 void MainWindow::open(const QStringList &sources)
@@ -178,72 +232,34 @@ void MainWindow::open(const QStringList &sources)
     m_files->open(sources);
 }
 
-void MainWindow::showDetails(const QModelIndex &index)
+/** Begins another diagram with its title. */
+void MainWindow::startDiagram()
 {
-    m_details->showSubject(index);
+    m_files->newDocument();
+    m_edits->rename(editor()->rootIndex());
+}
+
+/** Shows the details of the first selected subject of the current tab. */
+void MainWindow::showDetails()
+{
+    DetailsPanel *const details = m_tabs->current()->details();
+    details->showSubject(editor()->firstSelectedSpearIndex());
     auto *const dock = findChild<QDockWidget *>(QStringLiteral("detailsDock"));
     dock->show();
     dock->raise();
-    m_details->focusTitle();
+    details->focusTitle();
 }
 
 void MainWindow::updateState()
 {
-    const FishInfo *const document = m_session->document();
-    setWindowTitle(document ? tr("%1[*] – Fishbone").arg(document->userFriendlyCurrentFile())
-                            : tr("Fishbone"));
+    const DocumentTab *const tab = m_tabs->current();
+    const FishInfo *const document = tab->document();
+    setWindowTitle(document ? tr("%1[*] – Fishbone").arg(tab->name()) : tr("Fishbone"));
     setWindowModified(document && document->modified());
     m_files->updateActions();
-    m_exports->updateActions();
-    m_edits->updateActions();
-    m_moves->updateActions();
-    m_walk->updateActions();
-    m_views->updateActions();
-    m_details->showSubject(m_editor->firstSelectedSpearIndex());
-    m_tree->view()->viewport()->update(); // not every change of a title is announced
-    updateCanvasRect();
-}
-
-/** Keeps what can be scrolled to as large as the drawing is now, and a little free space. */
-void MainWindow::updateCanvasRect()
-{
-    constexpr double margin = 20;
-    m_editor->view()->setSceneRect(
-        PictureExport::visibleRect(*m_editor->scene()).adjusted(-margin, -margin, margin, margin));
-}
-
-/** The subject whose bone, or what stands at it, is drawn at @p pos of the viewport. */
-QModelIndex MainWindow::subjectAt(const QPoint &pos) const
-{
-    QGraphicsItem *item = m_editor->view()->itemAt(pos);
-    while (item && !qgraphicsitem_cast<SpearItem *>(item))
-        item = item->parentItem();
-    return m_editor->spearIndex(qgraphicsitem_cast<SpearItem *>(item));
-}
-
-bool MainWindow::eventFilter(QObject *watched, QEvent *event)
-{
-    if (event->type() == QEvent::MouseButtonPress) {
-        const auto *const press = static_cast<QMouseEvent *>(event);
-        // Before the view takes the selection for what is to be moved.
-        if (press->button() == Qt::LeftButton && !m_editor->view()->itemAt(press->pos()))
-            m_editor->scene()->clearSelection();
-        m_pressed = subjectAt(press->pos());
-    } else if (event->type() == QEvent::MouseButtonRelease) {
-        // Once the view is through with the click, which may have expanded a bone.
-        QMetaObject::invokeMethod(this, &MainWindow::followClick, Qt::QueuedConnection);
-    }
-    return QMainWindow::eventFilter(watched, event);
-}
-
-void MainWindow::followClick()
-{
-    m_sync->followBone(m_pressed);
-    // A view that is scrolled by hand deselects everything after a click on a button beside its
-    // bone.
-    if (m_pressed.isValid() && !m_editor->hasSelection())
-        m_session->select(m_pressed);
-    m_session->touch();
+    m_tabCommands->updateActions();
+    for (DiagramCommands *commands : qAsConst(m_commands))
+        commands->updateActions();
 }
 
 void MainWindow::changeEvent(QEvent *event)
@@ -265,11 +281,11 @@ void MainWindow::restoreLayout()
 
 void MainWindow::closeEvent(QCloseEvent *event)
 {
-    if (!m_files->closeAll()) {
+    if (!m_files->mayCloseAll()) {
         event->ignore();
         return;
     }
-    LastDocuments::remember(*m_session);
+    m_files->end();
     QSettings settings;
     settings.setValue(QStringLiteral("geometry"), saveGeometry());
     settings.setValue(QStringLiteral("layout"), saveState());

@@ -3,26 +3,30 @@
 
 #pragma once
 
+#include <QList>
 #include <QMainWindow>
-#include <QPersistentModelIndex>
 
 class ActionSet;
 class CanvasTheme;
-class DetailsPanel;
+class DiagramCommands;
 class DiagramSession;
+class DocumentTab;
+class DocumentTabs;
 class EditCommands;
 class ExportCommands;
 class FileCommands;
+class FileDrop;
 class FishEditor;
 class FishModel;
-class HistoryPanel;
-class MoveCommands;
+class QStackedWidget;
+class RecentFiles;
 class SubjectTree;
-class TreeSync;
+class TabCommands;
 class ViewCommands;
-class WalkCommands;
+class ZoomControls;
 
-/** The program's window: the drawing in the middle, documents, details and history around it. */
+/** The program's window: the documents in tabs, and around them the tree, details and history of
+ * the document that is shown. */
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
@@ -31,10 +35,17 @@ public:
     explicit MainWindow(QWidget *parent = nullptr);
     ~MainWindow() override;
 
-    FishModel *model() const { return m_model; }
-    FishEditor *editor() const { return m_editor; }
-    DiagramSession *session() const { return m_session; }
-    SubjectTree *tree() const { return m_tree; }
+    DocumentTabs *tabs() const { return m_tabs; }
+
+    /**
+     * @name Parts of the current tab; those of an empty one while no document is open
+     * @{
+     */
+    FishModel *model() const;
+    FishEditor *editor() const;
+    DiagramSession *session() const;
+    SubjectTree *tree() const;
+    /** @} */
 
     /** Opens files and URLs; when there are none, the documents of the last time or the template
      * diagram. */
@@ -43,33 +54,35 @@ public:
 protected:
     void closeEvent(QCloseEvent *event) override;
     void changeEvent(QEvent *event) override;
-    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    void setUpEditor();
+    void addCommands();
     void addDocks();
+    QStackedWidget *addDock(const char *name, const QString &title, Qt::DockWidgetArea area);
     void addBars();
-    void connectGestures();
-    void followClick();
-    QModelIndex subjectAt(const QPoint &pos) const;
-    void showDetails(const QModelIndex &index);
+    void connectCommands();
+    void takeIn(DocumentTab *tab);
+    void connectGestures(DocumentTab *tab);
+    void showTab(DocumentTab *tab);
+    void showDetails();
+    void showMessage(const QString &text);
+    void startDiagram();
     void updateState();
-    void updateCanvasRect();
     void restoreLayout();
 
-    FishModel *m_model;
-    FishEditor *m_editor;
-    DiagramSession *m_session;
     CanvasTheme *m_theme;
     ActionSet *m_actions;
+    RecentFiles *m_recent;
+    DocumentTabs *m_tabs;
+    ZoomControls *m_controls = nullptr;
+    FileDrop *m_drops;
     FileCommands *m_files = nullptr;
-    ExportCommands *m_exports = nullptr;
+    TabCommands *m_tabCommands = nullptr;
     EditCommands *m_edits = nullptr;
-    MoveCommands *m_moves = nullptr;
-    WalkCommands *m_walk = nullptr;
+    ExportCommands *m_exports = nullptr;
     ViewCommands *m_views = nullptr;
-    SubjectTree *m_tree = nullptr;
-    TreeSync *m_sync = nullptr;
-    DetailsPanel *m_details = nullptr;
-    QPersistentModelIndex m_pressed; ///< the subject under the last press of a button
+    QList<DiagramCommands *> m_commands; ///< all on the diagram of the current tab
+    QStackedWidget *m_trees = nullptr;
+    QStackedWidget *m_details = nullptr;
+    QStackedWidget *m_histories = nullptr;
 };

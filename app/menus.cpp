@@ -23,10 +23,9 @@ struct Bar
 
 constexpr Bar menus[] = {
     {"fileMenu", QT_TRANSLATE_NOOP("Menus", "&File"),
-     "new newExample newFromTemplate | open recent import url recover | save saveAs saveAll | "
-     "export "
-     "exportAs print | "
-     "close | reopen quit"},
+     "new newExample newFromTemplate | open recent import url recover | save saveAs saveCopy "
+     "saveAll "
+     "revert | export exportAs print | close | reopen quit"},
     {"editMenu", QT_TRANSLATE_NOOP("Menus", "&Edit"),
      "undo redo | cut copy paste delete | selectAll find"},
     {"subjectMenu", QT_TRANSLATE_NOOP("Menus", "&Subject"),
@@ -34,7 +33,7 @@ constexpr Bar menus[] = {
      "link openLink unlink | style "
      "removeStyle"},
     {"goMenu", QT_TRANSLATE_NOOP("Menus", "&Go"),
-     "goLeft goRight goUp goDown | goParent goChild goPrevious goNext"},
+     "goLeft goRight goUp goDown | goParent goChild goPrevious goNext | nextTab previousTab"},
     {"viewMenu", QT_TRANSLATE_NOOP("Menus", "&View"),
      "zoomin zoomout fullsize fit fitselection | rotateLeft rotateRight rotateReset | expand "
      "contract expandall contractall | asDiagram back whole visited | diagramMode taskMode | "

@@ -20,10 +20,7 @@ struct MoveCommands::Place
 };
 
 MoveCommands::MoveCommands(DiagramSession *session, ActionSet *actions, QObject *parent)
-    : QObject(parent)
-    , m_session(session)
-    , m_editor(session->editor())
-    , m_actions(actions)
+    : DiagramCommands(session, actions, parent)
 {
     const auto add = [this](const char *name, const QString &text, Qt::Key key, Rule rule) {
         m_actions->add(QLatin1String(name), text, {QKeySequence(int(Qt::ALT) + key)},

@@ -3,18 +3,15 @@
 
 #pragma once
 
-#include <QObject>
+#include <app/diagramcommands.h>
 
 #include <optional>
 
-class ActionSet;
-class DiagramSession;
-class FishEditor;
 class QModelIndex;
 class SpearItem;
 
 /** The commands that move the selected bone among its siblings and between levels. */
-class MoveCommands : public QObject
+class MoveCommands : public DiagramCommands
 {
     Q_OBJECT
 
@@ -23,7 +20,7 @@ public:
     MoveCommands(DiagramSession *session, ActionSet *actions, QObject *parent);
 
     /** Enables the actions as the selection allows. */
-    void updateActions();
+    void updateActions() override;
 
 private:
     struct Place;
@@ -35,8 +32,4 @@ private:
     std::optional<Place> lower(const QModelIndex &bone) const;
     void move(Rule rule);
     SpearItem *movableBone() const;
-
-    DiagramSession *m_session;
-    FishEditor *m_editor;
-    ActionSet *m_actions;
 };

@@ -15,6 +15,7 @@
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QJsonArray>
+#include <QJsonDocument>
 #include <QJsonObject>
 #include <QMimeData>
 #include <QRegularExpression>
@@ -24,7 +25,7 @@
 
 namespace {
 
-/** Marks what this program has copied, and says which copy it is. */
+/** The copied subjects with all attributes, as objects of the diagram format. */
 QString copyFormat()
 {
     return QStringLiteral("application/x-fishbone-copy");
@@ -61,7 +62,7 @@ bool looksLikeMarkdown(const QString &text)
 
 DiagramExchange::Format formatOf(const QMimeData &data)
 {
-    if (data.hasFormat(copyFormat())) // from another window
+    if (data.hasFormat(copyFormat())) // copied as text, whatever it looks like
         return DiagramExchange::Format::Text;
     return data.hasFormat(QStringLiteral("text/markdown")) || looksLikeMarkdown(data.text())
                ? DiagramExchange::Format::Markdown
@@ -86,16 +87,26 @@ QJsonObject snapshotOf(const TreeItem &branches, TreeItem &target)
 
 SubjectClipboard::SubjectClipboard(DiagramSession *session, QObject *parent)
     : QObject(parent)
-    , m_session(session)
 {
-    connect(session->editor(), &FishEditor::clipBoardAvailable, this, &SubjectClipboard::publish);
     connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, this, &SubjectClipboard::look);
+    setSession(session);
+}
+
+void SubjectClipboard::setSession(DiagramSession *session)
+{
+    m_session = session;
+    connect(session->editor(), &FishEditor::clipBoardAvailable, this, &SubjectClipboard::publish,
+            Qt::UniqueConnection);
     look();
 }
 
 void SubjectClipboard::publish()
 {
-    m_copy = QUuid::createUuid().toByteArray();
+    QJsonObject subjects;
+    m_session->editor()->selectedObjects(subjects);
+    subjects.insert(QStringLiteral("copy"), QUuid::createUuid().toString());
+    m_copy = QJsonDocument(subjects).toJson(QJsonDocument::Compact);
+    m_source = m_session->editor();
     auto data = std::make_unique<QMimeData>();
     data->setData(copyFormat(), m_copy);
     data->setText(QString::fromUtf8(selectedText(*m_session->editor())));
@@ -113,7 +124,8 @@ void SubjectClipboard::look()
 
 bool SubjectClipboard::isOwn(const QMimeData &data) const
 {
-    return m_session->editor()->hasClipBoardData() && data.data(copyFormat()) == m_copy;
+    return m_source == m_session->editor() && m_source->hasClipBoardData() &&
+           data.data(copyFormat()) == m_copy;
 }
 
 void SubjectClipboard::paste()
@@ -121,8 +133,35 @@ void SubjectClipboard::paste()
     const QMimeData *const data = QGuiApplication::clipboard()->mimeData();
     if (data && isOwn(*data))
         m_session->paste();
+    else if (data && data->hasFormat(copyFormat()))
+        pasteCopy(*data);
     else if (data)
         pasteText(*data);
+}
+
+/** Pastes what another tab or window has copied. */
+void SubjectClipboard::pasteCopy(const QMimeData &data)
+{
+    const SpearItem *const target = m_session->editor()->firstSelectedSpear();
+    const QJsonObject copied = QJsonDocument::fromJson(data.data(copyFormat())).object();
+    const QString children = QStringLiteral("children");
+    const bool isOne = copied.contains(QStringLiteral("uuid"));
+    const QJsonArray subjects = isOne ? QJsonArray{copied} : copied.value(children).toArray();
+    if (!target)
+        return;
+    if (subjects.isEmpty()) { // nested too deep to be read, or of another version
+        pasteText(data);
+        return;
+    }
+    QJsonArray adopted;
+    target->treeItem()->ensureUuid();
+    for (const QJsonValue &subject : subjects) {
+        QJsonObject object = subject.toObject();
+        object.remove(QStringLiteral("copy"));
+        object.insert(QStringLiteral("pid"), target->treeItem()->uuid());
+        adopted.append(object);
+    }
+    m_session->paste({{children, adopted}});
 }
 
 void SubjectClipboard::pasteText(const QMimeData &data)

@@ -4,14 +4,17 @@
 #pragma once
 
 #include <QObject>
+#include <QPointer>
 
 class DiagramSession;
+class FishEditor;
 class QMimeData;
 
 /**
  * The way between the editor's copy buffer and the clipboard of the system. What is copied goes
- * there as indented text. What comes from there is pasted from the buffer, with all attributes,
- * while it is what was copied here last; any other text is read as an outline.
+ * there as indented text and, for other tabs and windows of this program, with all attributes. What
+ * comes from there is pasted from the buffer while it is what the same editor copied last; any
+ * other text is read as an outline.
  */
 class SubjectClipboard : public QObject
 {
@@ -19,6 +22,9 @@ class SubjectClipboard : public QObject
 
 public:
     explicit SubjectClipboard(DiagramSession *session, QObject *parent = nullptr);
+
+    /** From now on copies from and pastes into the diagram of @p session. */
+    void setSession(DiagramSession *session);
 
     /** Whether there is something to paste. */
     bool canPaste() const { return m_canPaste; }
@@ -34,9 +40,11 @@ private:
     void publish();
     void look();
     bool isOwn(const QMimeData &data) const;
+    void pasteCopy(const QMimeData &data);
     void pasteText(const QMimeData &data);
 
     DiagramSession *m_session;
-    QByteArray m_copy; ///< names what was copied last
+    QPointer<FishEditor> m_source; ///< what was copied from last
+    QByteArray m_copy;             ///< what was copied last
     bool m_canPaste = false;
 };

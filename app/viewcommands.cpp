@@ -28,12 +28,9 @@ constexpr int rotateStep = 15;
 
 ViewCommands::ViewCommands(DiagramSession *session, CanvasTheme *theme, ZoomControls *controls,
                            ActionSet *actions, QWidget *window)
-    : QObject(window)
-    , m_session(session)
-    , m_editor(session->editor())
+    : DiagramCommands(session, actions, window)
     , m_theme(theme)
     , m_controls(controls)
-    , m_actions(actions)
     , m_window(window)
 {
     addZoomActions();
@@ -115,11 +112,24 @@ void ViewCommands::addDiagramActions()
 
 void ViewCommands::setTaskMode(bool taskMode)
 {
+    m_isTaskMode = taskMode;
     m_actions->action(taskMode ? QStringLiteral("taskMode") : QStringLiteral("diagramMode"))
         ->setChecked(true);
-    m_session->model()->setModelType(taskMode ? FISH_MODEL_NORMAL : FISH_MODEL_DIAGRAM);
+    showMode();
+}
+
+void ViewCommands::showMode()
+{
+    m_session->model()->setModelType(m_isTaskMode ? FISH_MODEL_NORMAL : FISH_MODEL_DIAGRAM);
     m_editor->updateFish(false); // the head shows counts or not
     m_session->touch();
+}
+
+/** The mode is the window's, whichever tab it was chosen in. */
+void ViewCommands::setSession(DiagramSession *session)
+{
+    DiagramCommands::setSession(session);
+    showMode();
 }
 
 void ViewCommands::fitAll()

@@ -3,18 +3,15 @@
 
 #pragma once
 
-#include <QObject>
+#include <app/diagramcommands.h>
 
-class ActionSet;
 class CanvasTheme;
-class DiagramSession;
-class FishEditor;
 class QMenu;
 class QWidget;
 class ZoomControls;
 
 /** The commands on how a diagram is shown: zoom, expansion, mode, and which part of it. */
-class ViewCommands : public QObject
+class ViewCommands : public DiagramCommands
 {
     Q_OBJECT
 
@@ -23,8 +20,9 @@ public:
     ViewCommands(DiagramSession *session, CanvasTheme *theme, ZoomControls *controls,
                  ActionSet *actions, QWidget *window);
 
+    void setSession(DiagramSession *session) override;
     /** Enables the actions as the selection and the shown diagram allow. */
-    void updateActions();
+    void updateActions() override;
 
     /** Fills @p menu with the parts of the diagram that were shown before, each time it opens. */
     void listVisited(QMenu *menu);
@@ -37,11 +35,10 @@ private:
     void addExpandActions();
     void addDiagramActions();
     void fitAll();
+    void showMode();
 
-    DiagramSession *m_session;
-    FishEditor *m_editor;
     CanvasTheme *m_theme;
     ZoomControls *m_controls;
-    ActionSet *m_actions;
     QWidget *m_window;
+    bool m_isTaskMode = false;
 };

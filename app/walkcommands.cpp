@@ -19,10 +19,7 @@
 #include <limits>
 
 WalkCommands::WalkCommands(DiagramSession *session, ActionSet *actions, QObject *parent)
-    : QObject(parent)
-    , m_session(session)
-    , m_editor(session->editor())
-    , m_actions(actions)
+    : DiagramCommands(session, actions, parent)
 {
     addDirections();
     addLevels();

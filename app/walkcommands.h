@@ -3,20 +3,18 @@
 
 #pragma once
 
+#include <app/diagramcommands.h>
+
 #include <QModelIndex>
-#include <QObject>
 
 #include <functional>
 
-class ActionSet;
-class DiagramSession;
-class FishEditor;
 class QPointF;
 class SpearItem;
 
 /** The commands that select another bone: what stands in a direction as the drawing is seen, or
  * the next one in the order and the levels of the subjects. */
-class WalkCommands : public QObject
+class WalkCommands : public DiagramCommands
 {
     Q_OBJECT
 
@@ -25,7 +23,7 @@ public:
     WalkCommands(DiagramSession *session, ActionSet *actions, QObject *parent);
 
     /** Enables the actions when a drawing is shown. */
-    void updateActions();
+    void updateActions() override;
 
 private:
     using Step = std::function<QModelIndex(const SpearItem &from)>;
@@ -36,8 +34,4 @@ private:
     void go(const Step &step);
     QPointF seenPosition(const SpearItem &spear) const;
     QModelIndex nearest(const SpearItem &from, const QPointF &direction) const;
-
-    DiagramSession *m_session;
-    FishEditor *m_editor;
-    ActionSet *m_actions;
 };

@@ -16,7 +16,6 @@
 
 ZoomControls::ZoomControls(FishEditor *editor, QWidget *parent)
     : QWidget(parent)
-    , m_editor(editor)
     , m_zoom(new QSlider(Qt::Horizontal, this))
     , m_percentage(new QToolButton(this))
     , m_rotation(new QSpinBox(this))
@@ -50,12 +49,20 @@ ZoomControls::ZoomControls(FishEditor *editor, QWidget *parent)
     layout->addWidget(m_percentage);
 
     connect(m_zoom, &QSlider::valueChanged, this, &ZoomControls::applyZoom);
-    connect(m_percentage, &QToolButton::clicked, editor, &FishEditor::fullSize);
-    connect(m_rotation, QOverload<int>::of(&QSpinBox::valueChanged), editor,
-            &FishEditor::rotateFish);
+    connect(m_percentage, &QToolButton::clicked, this, [this] { m_editor->fullSize(); });
+    connect(m_rotation, QOverload<int>::of(&QSpinBox::valueChanged), this,
+            [this](int degrees) { m_editor->rotateFish(degrees); });
+    setEditor(editor);
+}
+
+void ZoomControls::setEditor(FishEditor *editor)
+{
+    if (m_editor)
+        m_editor->disconnect(this);
+    m_editor = editor;
     connect(editor, &FishEditor::zoomValueChanged, this, &ZoomControls::applyZoom);
     connect(editor, &FishEditor::rotateValueChanged, this, &ZoomControls::showRotation);
-    applyZoom(editor->zoomValue());
+    showZoom(editor->zoomValue());
     showRotation(editor->rotateValue());
 }
 
@@ -70,9 +77,14 @@ void ZoomControls::applyZoom(int value)
 {
     const int reachable = qBound(minimum, value, maximum);
     m_editor->zoomFish(reachable);
+    showZoom(reachable);
+}
+
+void ZoomControls::showZoom(int value)
+{
     const QSignalBlocker blocker(m_zoom);
-    m_zoom->setValue(reachable);
-    m_percentage->setText(percentage(reachable));
+    m_zoom->setValue(value);
+    m_percentage->setText(percentage(value));
 }
 
 void ZoomControls::setRotation(int degrees)

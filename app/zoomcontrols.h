@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <QPointer>
 #include <QWidget>
 
 class FishEditor;
@@ -21,6 +22,9 @@ class ZoomControls : public QWidget
 public:
     explicit ZoomControls(FishEditor *editor, QWidget *parent = nullptr);
 
+    /** From now on shows and changes what @p editor draws, as that stands. */
+    void setEditor(FishEditor *editor);
+
     /** The range of zoom values that the user can reach: 1/32 and 32 times the size. */
     static constexpr int minimum = 0;
     static constexpr int maximum = 500;
@@ -33,9 +37,10 @@ public:
 
 private:
     void applyZoom(int value);
+    void showZoom(int value);
     void showRotation(int degrees);
 
-    FishEditor *m_editor;
+    QPointer<FishEditor> m_editor;
     QSlider *m_zoom;
     QToolButton *m_percentage;
     QSpinBox *m_rotation;

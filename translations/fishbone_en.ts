@@ -531,6 +531,72 @@ The exit code is 3 when anything is.</translation>
     </message>
 </context>
 <context>
+    <name>DocumentSaver</name>
+    <message>
+        <source>Fishbone diagrams (*.json);;All files (*)</source>
+        <translation>Fishbone diagrams (*.json);;All files (*)</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Save</translation>
+    </message>
+    <message>
+        <source>%1 would not be recognized as a diagram. Its name should end in .json; &quot;Export as&quot; writes other formats.</source>
+        <translation>%1 would not be recognized as a diagram. Its name should end in .json; &quot;Export as&quot; writes other formats.</translation>
+    </message>
+    <message>
+        <source>Save as</source>
+        <translation>Save as</translation>
+    </message>
+    <message>
+        <source>Save a copy</source>
+        <translation>Save a copy</translation>
+    </message>
+    <message>
+        <source>Copy written to %1</source>
+        <translation>Copy written to %1</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written.</source>
+        <translation>%1 cannot be written.</translation>
+    </message>
+    <message>
+        <source>%1 saved</source>
+        <translation>%1 saved</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>%1 has changes that are not saved.</source>
+        <translation>%1 has changes that are not saved.</translation>
+    </message>
+</context>
+<context>
+    <name>DocumentTabs</name>
+    <message>
+        <source>Open documents</source>
+        <translation>Open documents</translation>
+    </message>
+    <message>
+        <source>Not saved to a file yet</source>
+        <translation>Not saved to a file yet</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Close</translation>
+    </message>
+    <message>
+        <source>Close &amp;others</source>
+        <translation>Close &amp;others</translation>
+    </message>
+    <message>
+        <source>Copy &amp;path</source>
+        <translation>Copy &amp;path</translation>
+    </message>
+</context>
+<context>
     <name>EditCommands</name>
     <message>
         <source>&amp;Undo</source>
@@ -654,6 +720,21 @@ The exit code is 3 when anything is.</translation>
     </message>
 </context>
 <context>
+    <name>EmptyPage</name>
+    <message>
+        <source>Opened lately:</source>
+        <translation>Opened lately:</translation>
+    </message>
+    <message>
+        <source>No diagram is open</source>
+        <translation>No diagram is open</translation>
+    </message>
+    <message>
+        <source>Files can also be dragged into this window.</source>
+        <translation>Files can also be dragged into this window.</translation>
+    </message>
+</context>
+<context>
     <name>ExportCommands</name>
     <message>
         <source>&amp;Export picture…</source>
@@ -734,10 +815,6 @@ The exit code is 3 when anything is.</translation>
 <context>
     <name>FileCommands</name>
     <message>
-        <source>Fishbone diagrams (*.json);;All files (*)</source>
-        <translation>Fishbone diagrams (*.json);;All files (*)</translation>
-    </message>
-    <message>
         <source>&amp;New</source>
         <translation>&amp;New</translation>
     </message>
@@ -810,22 +887,6 @@ The exit code is 3 when anything is.</translation>
         <translation>Loading %1…</translation>
     </message>
     <message>
-        <source>Save as</source>
-        <translation>Save as</translation>
-    </message>
-    <message>
-        <source>Save</source>
-        <translation>Save</translation>
-    </message>
-    <message>
-        <source>%1 cannot be written.</source>
-        <translation>%1 cannot be written.</translation>
-    </message>
-    <message>
-        <source>%1 saved</source>
-        <translation>%1 saved</translation>
-    </message>
-    <message>
         <source>Fishbone diagrams (*.json);;%1;;All files (*)</source>
         <translation>Fishbone diagrams (*.json);;%1;;All files (*)</translation>
     </message>
@@ -842,8 +903,20 @@ The exit code is 3 when anything is.</translation>
         <translation>Reopen &amp;documents at the start</translation>
     </message>
     <message>
-        <source>%1 would not be recognized as a diagram. Its name should end in .json; &quot;Export as&quot; writes other formats.</source>
-        <translation>%1 would not be recognized as a diagram. Its name should end in .json; &quot;Export as&quot; writes other formats.</translation>
+        <source>Save a cop&amp;y…</source>
+        <translation>Save a cop&amp;y…</translation>
+    </message>
+    <message>
+        <source>Revert to &amp;file</source>
+        <translation>Revert to &amp;file</translation>
+    </message>
+    <message>
+        <source>Revert</source>
+        <translation>Revert</translation>
+    </message>
+    <message>
+        <source>Give up all changes of %1 since it was saved?</source>
+        <translation>Give up all changes of %1 since it was saved?</translation>
     </message>
 </context>
 <context>
@@ -964,10 +1037,6 @@ Do you want to save your changes?</translation>
         <translation>&amp;Details</translation>
     </message>
     <message>
-        <source>Documents</source>
-        <translation>Documents</translation>
-    </message>
-    <message>
         <source>Details</source>
         <translation>Details</translation>
     </message>
@@ -1005,6 +1074,10 @@ Do you want to save your changes?</translation>
     <message>
         <source>Fishbone</source>
         <translation>Fishbone</translation>
+    </message>
+    <message>
+        <source>Subjects</source>
+        <translation>Subjects</translation>
     </message>
 </context>
 <context>
@@ -1404,6 +1477,17 @@ Do you want to save your changes?</translation>
     <message>
         <source>Documents</source>
         <translation>Documents</translation>
+    </message>
+</context>
+<context>
+    <name>TabCommands</name>
+    <message>
+        <source>Next &amp;tab</source>
+        <translation>Next &amp;tab</translation>
+    </message>
+    <message>
+        <source>Previous t&amp;ab</source>
+        <translation>Previous t&amp;ab</translation>
     </message>
 </context>
 <context>

@@ -531,6 +531,72 @@ The exit code is 3 when anything is.</source>
     </message>
 </context>
 <context>
+    <name>DocumentSaver</name>
+    <message>
+        <source>Fishbone diagrams (*.json);;All files (*)</source>
+        <translation>鱼骨图 (*.json);;所有文件 (*)</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>%1 would not be recognized as a diagram. Its name should end in .json; &quot;Export as&quot; writes other formats.</source>
+        <translation>%1 不会被识别为鱼骨图。文件名应以 .json 结尾；其他格式请用“导出为其他格式”。</translation>
+    </message>
+    <message>
+        <source>Save as</source>
+        <translation>另存为</translation>
+    </message>
+    <message>
+        <source>Save a copy</source>
+        <translation>保存副本</translation>
+    </message>
+    <message>
+        <source>Copy written to %1</source>
+        <translation>副本已写入 %1</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written.</source>
+        <translation>无法写入 %1。</translation>
+    </message>
+    <message>
+        <source>%1 saved</source>
+        <translation>已保存 %1</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>%1 has changes that are not saved.</source>
+        <translation>%1 有尚未保存的更改。</translation>
+    </message>
+</context>
+<context>
+    <name>DocumentTabs</name>
+    <message>
+        <source>Open documents</source>
+        <translation>打开的文档</translation>
+    </message>
+    <message>
+        <source>Not saved to a file yet</source>
+        <translation>尚未保存到文件</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>关闭(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Close &amp;others</source>
+        <translation>关闭其他(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Copy &amp;path</source>
+        <translation>复制路径(&amp;P)</translation>
+    </message>
+</context>
+<context>
     <name>EditCommands</name>
     <message>
         <source>&amp;Undo</source>
@@ -654,6 +720,21 @@ The exit code is 3 when anything is.</source>
     </message>
 </context>
 <context>
+    <name>EmptyPage</name>
+    <message>
+        <source>Opened lately:</source>
+        <translation>最近打开：</translation>
+    </message>
+    <message>
+        <source>No diagram is open</source>
+        <translation>没有打开的图</translation>
+    </message>
+    <message>
+        <source>Files can also be dragged into this window.</source>
+        <translation>也可以将文件拖入此窗口。</translation>
+    </message>
+</context>
+<context>
     <name>ExportCommands</name>
     <message>
         <source>&amp;Export picture…</source>
@@ -734,10 +815,6 @@ The exit code is 3 when anything is.</source>
 <context>
     <name>FileCommands</name>
     <message>
-        <source>Fishbone diagrams (*.json);;All files (*)</source>
-        <translation>鱼骨图 (*.json);;所有文件 (*)</translation>
-    </message>
-    <message>
         <source>&amp;New</source>
         <translation>新建(&amp;N)</translation>
     </message>
@@ -810,22 +887,6 @@ The exit code is 3 when anything is.</source>
         <translation>正在加载 %1…</translation>
     </message>
     <message>
-        <source>Save as</source>
-        <translation>另存为</translation>
-    </message>
-    <message>
-        <source>Save</source>
-        <translation>保存</translation>
-    </message>
-    <message>
-        <source>%1 cannot be written.</source>
-        <translation>无法写入 %1。</translation>
-    </message>
-    <message>
-        <source>%1 saved</source>
-        <translation>已保存 %1</translation>
-    </message>
-    <message>
         <source>Fishbone diagrams (*.json);;%1;;All files (*)</source>
         <translation>鱼骨图 (*.json);;%1;;所有文件 (*)</translation>
     </message>
@@ -842,8 +903,20 @@ The exit code is 3 when anything is.</source>
         <translation>启动时重新打开上次的文档(&amp;D)</translation>
     </message>
     <message>
-        <source>%1 would not be recognized as a diagram. Its name should end in .json; &quot;Export as&quot; writes other formats.</source>
-        <translation>%1 不会被识别为鱼骨图。文件名应以 .json 结尾；其他格式请用“导出为其他格式”。</translation>
+        <source>Save a cop&amp;y…</source>
+        <translation>保存副本(&amp;Y)…</translation>
+    </message>
+    <message>
+        <source>Revert to &amp;file</source>
+        <translation>恢复为文件内容(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Revert</source>
+        <translation>恢复</translation>
+    </message>
+    <message>
+        <source>Give up all changes of %1 since it was saved?</source>
+        <translation>放弃 %1 自上次保存以来的所有更改吗？</translation>
     </message>
 </context>
 <context>
@@ -963,10 +1036,6 @@ Do you want to save your changes?</source>
         <translation>详情(&amp;D)</translation>
     </message>
     <message>
-        <source>Documents</source>
-        <translation>文档</translation>
-    </message>
-    <message>
         <source>Details</source>
         <translation>详情</translation>
     </message>
@@ -1003,6 +1072,10 @@ Do you want to save your changes?</source>
     <message>
         <source>Fishbone</source>
         <translation>Fishbone</translation>
+    </message>
+    <message>
+        <source>Subjects</source>
+        <translation>主题</translation>
     </message>
 </context>
 <context>
@@ -1402,6 +1475,17 @@ Do you want to save your changes?</source>
     <message>
         <source>Documents</source>
         <translation>文档</translation>
+    </message>
+</context>
+<context>
+    <name>TabCommands</name>
+    <message>
+        <source>Next &amp;tab</source>
+        <translation>下一个标签页(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Previous t&amp;ab</source>
+        <translation>上一个标签页(&amp;A)</translation>
     </message>
 </context>
 <context>

@@ -3,7 +3,11 @@
 
 #pragma once
 
+#include <app/detailspanel.h>
 #include <app/diagramsession.h>
+#include <app/documenttab.h>
+#include <app/documenttabs.h>
+#include <app/historypanel.h>
 #include <app/mainwindow.h>
 #include <app/subjecttree.h>
 
@@ -99,10 +103,30 @@ public:
         settle();
     }
 
+    /// The widget of that name; of those that every tab has, the one of the current tab.
     template <typename Widget>
     Widget *widget(const char *name) const
     {
-        return window.findChild<Widget *>(QLatin1String(name));
+        const QString wanted = QLatin1String(name);
+        const DocumentTab *const tab = window.tabs()->current();
+        const QList<Widget *> all = window.findChildren<Widget *>(wanted);
+        for (Widget *each : all) {
+            if (tab->isAncestorOf(each) || tab->tree()->isAncestorOf(each) ||
+                tab->details()->isAncestorOf(each) ||
+                static_cast<const QWidget *>(each) == tab->history())
+                return each;
+        }
+        return all.value(0);
+    }
+
+    /// The number of open documents.
+    int tabCount() const { return window.tabs()->tabs().size(); }
+
+    /// Shows the document in the tab at \a position.
+    void showTab(int position)
+    {
+        window.tabs()->setCurrent(window.tabs()->tabs().at(position));
+        settle();
     }
 
     /// The subject of that title; invalid when there is none.

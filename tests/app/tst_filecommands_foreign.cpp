@@ -68,8 +68,8 @@ void TestFileCommandsForeign::shouldOpenEveryForeignFormat()
     app.window.open({path});
     AppFixture::settle();
 
-    QCOMPARE(app.window.model()->rowCount(), 2);
-    QCOMPARE(app.window.model()->fishRow(app.document()), 1); // the new one is shown
+    QCOMPARE(app.tabCount(), 2);
+    QCOMPARE(app.window.tabs()->tabs().indexOf(app.window.tabs()->current()), 1); // the new one
     QCOMPARE(app.text(), before);
     QVERIFY(app.document()->isUntitled());
     QVERIFY(!app.document()->modified());
@@ -161,9 +161,9 @@ void TestFileCommandsForeign::shouldNameImportsOfOneNameApart()
     const QString path = app.path(QStringLiteral("list.txt"));
     AppFixture::writeFile(path, "Late\n");
     app.window.open({path, path});
-    QTRY_COMPARE(app.window.model()->rowCount(), 3);
+    QTRY_COMPARE(app.tabCount(), 3);
     AppFixture::settle();
-    const QList<FishInfo *> documents = app.window.model()->fishList();
+    const QList<FishInfo *> documents = app.window.tabs()->documents();
     QCOMPARE(documents.at(1)->userFriendlyCurrentFile(), QStringLiteral("list.json"));
     QCOMPARE(documents.at(2)->userFriendlyCurrentFile(), QStringLiteral("list 2.json"));
     QVERIFY(documents.at(1)->autoSaveFile() != documents.at(2)->autoSaveFile());
@@ -185,7 +185,7 @@ void TestFileCommandsForeign::shouldSayInOneBoxWhatCannotBeOpened()
     QVERIFY2(shown.contains(broken) && shown.contains(missing), qPrintable(shown));
     QVERIFY2(shown.contains(QLatin1String("line 2")), qPrintable(shown));
     QVERIFY(app.window.statusBar()->currentMessage().contains(missing));
-    QCOMPARE(app.window.model()->rowCount(), 1);
+    QCOMPARE(app.tabCount(), 1);
 }
 
 QTEST_MAIN(TestFileCommandsForeign)

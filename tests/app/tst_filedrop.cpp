@@ -54,10 +54,11 @@ void TestFileDrop::shouldOpenFilesDroppedOnTheDrawing()
     QDropEvent drop(QPoint(5, 5), Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, {});
     QCoreApplication::sendEvent(target, &drop);
     QVERIFY(drop.isAccepted());
-    QCOMPARE(app.window.model()->rowCount(), 1); // the other program is not kept waiting
-    QTRY_COMPARE(app.window.model()->rowCount(), 3);
-    QVERIFY(app.find("Own").isValid());
-    QVERIFY(app.find("Foreign").isValid());
+    QCOMPARE(app.tabCount(), 1); // the other program is not kept waiting
+    QTRY_COMPARE(app.tabCount(), 3);
+    QCOMPARE(app.text(), QStringLiteral("Foreign"));
+    app.showTab(1);
+    QCOMPARE(app.text(), QStringLiteral("Own"));
 }
 
 void TestFileDrop::shouldTakeFilesAndWebAddressesOnly()

@@ -47,18 +47,18 @@ void TestLastDocuments::shouldReopenWhatWasOpen()
     app.window.open({other});
     AppFixture::settle();
     app.trigger("newExample"); // which has no file
-    app.window.session()->showDocument(app.window.model()->fishList().constFirst());
+    app.showTab(0);
     QVERIFY(app.window.close());
 
     MainWindow next;
     next.show();
     next.open({});
-    QTRY_COMPARE(next.model()->rowCount(), 2);
+    QTRY_COMPARE(next.tabs()->tabs().size(), 2);
     AppFixture::settle();
     QCOMPARE(next.session()->document()->fileName(), QFileInfo(app.path()).canonicalFilePath());
     QVERIFY(!next.session()->document()->isUntitled());
-    QCOMPARE(next.model()->fishList().constFirst()->fileName(),
-             QFileInfo(other).canonicalFilePath());
+    QCOMPARE(next.tabs()->tabs().at(0), next.tabs()->current()); // in the order that they had
+    QCOMPARE(next.tabs()->tabs().at(1)->path(), QFileInfo(other).canonicalFilePath());
 }
 
 void TestLastDocuments::shouldShowTheTemplateWhenNothingIsLeft()

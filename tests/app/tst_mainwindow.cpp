@@ -15,7 +15,7 @@ private Q_SLOTS:
     void initTestCase();
     void shouldShowTheTemplateWhenNothingIsAskedFor();
     void shouldShowTheDocumentThatIsAskedFor();
-    void shouldOpenSeveralDocumentsInOneTree();
+    void shouldOpenEachDocumentInATab();
     void shouldOpenAFileOnce();
     void shouldSayWhatCannotBeOpened();
     void shouldMarkChangesInTheTitle();
@@ -60,7 +60,7 @@ void TestMainWindow::shouldShowTheDocumentThatIsAskedFor()
     QVERIFY(!app.document()->isUntitled());
 }
 
-void TestMainWindow::shouldOpenSeveralDocumentsInOneTree()
+void TestMainWindow::shouldOpenEachDocumentInATab()
 {
     AppFixture app;
     const QString other = app.path(QStringLiteral("other.json"));
@@ -68,15 +68,14 @@ void TestMainWindow::shouldOpenSeveralDocumentsInOneTree()
     app.window.open({other});
     AppFixture::settle();
 
+    QCOMPARE(app.tabCount(), 2);
     const QAbstractItemModel *const rows = app.window.tree()->view()->model();
-    QCOMPARE(rows->rowCount(), 2);
-    QCOMPARE(rows->index(0, 0).data().toString(), QStringLiteral("Late"));
-    QCOMPARE(rows->index(1, 0).data().toString(), QStringLiteral("Other"));
+    QCOMPARE(rows->rowCount(), 1);
+    QCOMPARE(rows->index(0, 0).data().toString(), QStringLiteral("Other"));
     QCOMPARE(app.text(), QStringLiteral("Other[Bone]")); // the newest one is shown
     QVERIFY(app.window.windowTitle().startsWith(QLatin1String("other.json")));
 
-    app.window.tree()->view()->setCurrentIndex(rows->index(0, 0));
-    AppFixture::settle();
+    app.showTab(0);
     QCOMPARE(app.document()->userFriendlyCurrentFile(), QStringLiteral("late.json"));
     QVERIFY(app.window.windowTitle().startsWith(QLatin1String("late.json")));
 }
@@ -87,7 +86,7 @@ void TestMainWindow::shouldOpenAFileOnce()
     app.window.open({app.path(), QUrl::fromLocalFile(app.path()).toString()});
     QTRY_COMPARE(app.window.statusBar()->currentMessage(), QStringLiteral("late.json loaded"));
     AppFixture::settle();
-    QCOMPARE(app.window.model()->rowCount(), 1);
+    QCOMPARE(app.tabCount(), 1);
 }
 
 void TestMainWindow::shouldSayWhatCannotBeOpened()
@@ -98,7 +97,7 @@ void TestMainWindow::shouldSayWhatCannotBeOpened()
     AppFixture::settle();
     QVERIFY(app.window.statusBar()->currentMessage().contains(missing));
     QVERIFY(app.window.statusBar()->currentMessage().contains(QLatin1String("no such file")));
-    QCOMPARE(app.window.model()->rowCount(), 1);
+    QCOMPARE(app.tabCount(), 1);
 
     MainWindow alone;
     alone.open({missing});
@@ -149,7 +148,8 @@ void TestMainWindow::shouldOfferEveryActionInAMenu()
                              "promote",     "demote",       "goLeft",
                              "goRight",     "goUp",         "goDown",
                              "goParent",    "goChild",      "goPrevious",
-                             "goNext"})
+                             "goNext",      "nextTab",      "previousTab",
+                             "saveCopy",    "revert"})
         QVERIFY2(offered.contains(QLatin1String(name)), name);
 }
 
@@ -192,8 +192,9 @@ void TestMainWindow::shouldDisableWhatNeedsADocument()
     QVERIFY(app.action("save")->isEnabled());
     app.trigger("close");
     QCOMPARE(app.window.model()->rowCount(), 0);
-    for (const char *name : {"save", "saveAs", "export", "print", "close", "selectAll", "expandall",
-                             "fit", "find", "undo", "redo"})
+    for (const char *name :
+         {"save", "saveAs", "export", "print", "close", "selectAll", "expandall", "fit", "find",
+          "undo", "redo", "saveCopy", "revert", "nextTab", "previousTab"})
         QVERIFY2(!app.action(name)->isEnabled(), name);
     for (const char *name : {"new", "open", "url", "quit"})
         QVERIFY2(app.action(name)->isEnabled(), name);
@@ -250,11 +251,9 @@ void TestMainWindow::shouldKeepTheLookOfADocumentThatIsLeft()
 {
     AppFixture app;
     app.select("Illness"); // which expands what is above it
-    FishInfo *const first = app.document();
     app.trigger("new");
-    QVERIFY(app.document() != first);
-    app.window.session()->showDocument(first);
-    AppFixture::settle();
+    QCOMPARE(app.tabCount(), 2);
+    app.showTab(0);
     QCOMPARE(app.selectedInDrawing(), QStringList(QStringLiteral("Illness")));
     QVERIFY(app.subject("Illness")->spear()->isVisible());
     QVERIFY(!app.subject("Material")->spear()->isExpand());

@@ -20,7 +20,7 @@ private Q_SLOTS:
     void initTestCase();
     void shouldSelectInTheTreeWhatIsSelectedInTheDrawing();
     void shouldSelectInTheDrawingWhatIsSelectedInTheTree();
-    void shouldShowTheDocumentOfTheCurrentRow();
+    void shouldRefuseARowOfAnotherTab();
     void shouldRevealWhatIsSelectedInTheTree();
     void shouldExpandInTheTreeWhatIsExpandedInTheDrawing();
     void shouldFollowAClickOnAnExpandButton();
@@ -109,21 +109,6 @@ void TestTreeSync::shouldSelectInTheDrawingWhatIsSelectedInTheTree()
     app.window.tree()->view()->clearSelection();
     AppFixture::settle();
     QCOMPARE(app.selectedInDrawing(), QStringList());
-}
-
-void TestTreeSync::shouldShowTheDocumentOfTheCurrentRow()
-{
-    AppFixture app;
-    const QString other = app.path(QStringLiteral("other.json"));
-    AppFixture::writeFile(other, R"({"title": "Other", "children": [{"title": "Bone"}]})");
-    app.window.open({other});
-    AppFixture::settle();
-    choose(app, "Too new");
-    QCOMPARE(app.window.editor()->rootIndex(), app.find("Late"));
-    QCOMPARE(app.selectedInDrawing(), QStringList(QStringLiteral("Too new")));
-    choose(app, "Bone");
-    QCOMPARE(app.window.editor()->rootIndex(), app.find("Other"));
-    QCOMPARE(app.selectedInTree(), QStringList(QStringLiteral("Bone")));
 }
 
 void TestTreeSync::shouldRevealWhatIsSelectedInTheTree()
@@ -320,6 +305,33 @@ void TestTreeSync::shouldMoveADraggedRowOntoABone()
     QCOMPARE(app.text(),
              QStringLiteral("Late[People[Too few,Too new],Machines[Illness],Material[Rust]]"));
     QVERIFY(app.window.isWindowModified());
+}
+
+void TestTreeSync::shouldRefuseARowOfAnotherTab()
+{
+    AppFixture app;
+    const QString before = app.text();
+    const QScopedPointer<QMimeData> data(
+        app.window.tree()->proxy()->mimeData({row(app, "Illness")}));
+    app.trigger("newExample");
+    const QString example = app.text();
+    GraphicsView *const view = app.window.editor()->view();
+    const QPoint at = view->mapFromScene(
+        app.window.editor()->headSpear()->childSpears().constFirst()->line().center());
+
+    QDragEnterEvent enter(at, Qt::MoveAction, data.data(), Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(view->viewport(), &enter);
+    QDragMoveEvent move(at, Qt::MoveAction, data.data(), Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(view->viewport(), &move);
+    QVERIFY(!move.isAccepted());
+    QDropEvent drop(at, Qt::MoveAction, data.data(), Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(view->viewport(), &drop);
+    AppFixture::settle();
+    QCOMPARE(app.text(), example);
+    QVERIFY(!app.document()->modified());
+    app.showTab(0);
+    QCOMPARE(app.text(), before);
+    QVERIFY(!app.document()->modified());
 }
 
 void TestTreeSync::shouldFollowAMoveWithTheMouse()

@@ -30,7 +30,7 @@ private Q_SLOTS:
     void initTestCase();
     void shouldEnableUndoAndRedoWithTheStack();
     void shouldKeepTheDrawingsLookOnUndo();
-    void shouldShowTheDocumentThatUndoChanges();
+    void shouldUndoInTheCurrentTabAlone();
     void shouldMarkTheDocumentOnUndo();
     void shouldListTheHistoryAndJump();
     void shouldGoOnUndoingBeyondTheBound();
@@ -79,16 +79,25 @@ void TestUndoHistory::shouldKeepTheDrawingsLookOnUndo()
     QVERIFY(app.subject("Material")->spear()->isExpand());
 }
 
-void TestUndoHistory::shouldShowTheDocumentThatUndoChanges()
+void TestUndoHistory::shouldUndoInTheCurrentTabAlone()
 {
     AppFixture app;
     app.select("Machines");
     app.trigger("delete");
-    FishInfo *const changed = app.document();
+    const QString changed = app.text();
     app.trigger("new");
-    QVERIFY(app.document() != changed);
+    QVERIFY(!app.action("undo")->isEnabled());
+    QCOMPARE(app.widget<QListWidget>("history")->count(), 1);
+    app.trigger("child");
     app.trigger("undo");
-    QCOMPARE(app.document(), changed);
+    QCOMPARE(app.text(), QStringLiteral("自由主题"));
+    QVERIFY(!app.action("undo")->isEnabled());
+
+    app.showTab(0);
+    QCOMPARE(app.text(), changed);
+    QVERIFY(app.action("undo")->isEnabled());
+    QCOMPARE(app.widget<QListWidget>("history")->count(), 2);
+    app.trigger("undo");
     QCOMPARE(app.text(), original());
 }
 

@@ -217,7 +217,7 @@ void TestViewCommands::shouldPrintOnPaper()
     auto *const theme = app.window.findChild<CanvasTheme *>();
     QVERIFY(theme->isDark());
     {
-        const CanvasTheme::Paper paper(theme);
+        const CanvasTheme::Paper paper(theme, app.window.editor());
         QCOMPARE(app.window.editor()->view()->backgroundBrush().color(), QColor(Qt::white));
         QVERIFY(app.subject("People")->spear()->textColor(SpearStyle::ssNormal).lightness() < 128);
     }

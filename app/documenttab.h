@@ -1,0 +1,67 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QPointer>
+#include <QWidget>
+
+class CanvasTheme;
+class DetailsPanel;
+class DiagramSession;
+class FishEditor;
+class FishInfo;
+class FishModel;
+class HistoryPanel;
+class SubjectTree;
+class TreeSync;
+
+/**
+ * One open document with all that shows it: a model of its own, an editor with an undo history of
+ * its own, and the panels that stand beside the drawing while the tab is the current one. Without a
+ * document, a tab shows nothing and allows nothing.
+ */
+class DocumentTab : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit DocumentTab(CanvasTheme *theme, QWidget *parent = nullptr);
+    /** Deletes the panels too, wherever they stand. */
+    ~DocumentTab() override;
+
+    /** Takes over @p document, which no model may list, and shows it. */
+    void setDocument(FishInfo *document);
+    /** The document, null when there is none. */
+    FishInfo *document() const;
+
+    FishModel *model() const { return m_model; }
+    FishEditor *editor() const { return m_editor; }
+    DiagramSession *session() const { return m_session; }
+    SubjectTree *tree() const;
+    DetailsPanel *details() const;
+    HistoryPanel *history() const;
+
+    /** The name of the document's file. */
+    QString name() const;
+    /** The path of the document's file, empty while it has none. */
+    QString path() const;
+
+    /** Makes the drawing look as that in @p other, as far as it has the same subjects. */
+    void takeLook(const DocumentTab &other);
+
+Q_SIGNALS:
+    /** @p document came into the model beside that of this tab, and wants a tab of its own. */
+    void documentCame(FishInfo *document);
+
+private:
+    void followState();
+
+    FishModel *m_model;
+    FishEditor *m_editor;
+    DiagramSession *m_session;
+    QPointer<SubjectTree> m_tree;
+    QPointer<TreeSync> m_sync;
+    QPointer<DetailsPanel> m_details;
+    QPointer<HistoryPanel> m_history;
+};
