@@ -24,10 +24,7 @@ QAction *ActionSet::add(const QString &name, const QString &text,
     action->setShortcuts(shortcuts);
     if (scope != Scope::Window)
         action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
-    // In Chinese the mnemonic is a letter of its own, in brackets behind the text.
-    static const QRegularExpression mnemonicInBrackets(QStringLiteral("\\(&[A-Z0-9]\\)"));
-    QString tip = text;
-    tip.remove(mnemonicInBrackets).remove(QLatin1Char('&')).remove(QStringLiteral("…"));
+    QString tip = plainText(*action);
     if (!shortcuts.isEmpty() && !shortcuts.constFirst().isEmpty())
         tip +=
             QStringLiteral(" (%1)").arg(shortcuts.constFirst().toString(QKeySequence::NativeText));
@@ -37,6 +34,16 @@ QAction *ActionSet::add(const QString &name, const QString &text,
     m_order.append(action);
     m_scopes.insert(action, scope);
     return action;
+}
+
+QString ActionSet::plainText(const QAction &action)
+{
+    // In Chinese the mnemonic is a letter of its own, in brackets behind the text.
+    static const QRegularExpression mnemonicInBrackets(QStringLiteral("\\(&[A-Z0-9]\\)"));
+    return action.text()
+        .remove(mnemonicInBrackets)
+        .remove(QLatin1Char('&'))
+        .remove(QStringLiteral("…"));
 }
 
 QAction *ActionSet::action(const QString &name) const

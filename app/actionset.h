@@ -41,6 +41,12 @@ public:
     /** The action of that name, which must exist. */
     QAction *action(const QString &name) const;
 
+    /** All actions in the order in which they were added. */
+    QList<QAction *> actions() const { return m_order; }
+
+    /** The text of @p action without the mark of the menu key and without dots behind it. */
+    static QString plainText(const QAction &action);
+
     /** Makes the shortcuts of the scope @p scope count in @p widget and below it. */
     void addShortcuts(Scope scope, QWidget *widget) const;
 

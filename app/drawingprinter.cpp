@@ -3,6 +3,8 @@
 
 #include <app/drawingprinter.h>
 
+#include <app/selectionhidden.h>
+
 #include <fishbone/exchange/pictureexport.h>
 
 #include <QCoreApplication>
@@ -82,8 +84,7 @@ QList<QRectF> DrawingPrinter::pages(const QPrinter &printer) const
     QList<QRectF> parts;
     for (int row = 0; row < rows; ++row) {
         for (int column = 0; column < columns; ++column)
-            parts.append(QRectF(
-                begin + QPointF(part.width() * column, part.height() * row), part));
+            parts.append(QRectF(begin + QPointF(part.width() * column, part.height() * row), part));
     }
     return parts;
 }
@@ -99,15 +100,16 @@ bool DrawingPrinter::print(QPrinter *printer) const
     QPainter painter;
     if (!painter.begin(printer))
         return false;
+    const SelectionHidden unmarked(m_scene);
     for (int number = first; number <= last; ++number) {
         if (number > first && !printer->newPage())
             return false;
-        const QString footer = count == 1
-                                   ? QString()
-                                   : QCoreApplication::translate("DrawingPrinter", "%1 – page %2 of %3")
-                                         .arg(m_title)
-                                         .arg(number)
-                                         .arg(count);
+        const QString footer =
+            count == 1 ? QString()
+                       : QCoreApplication::translate("DrawingPrinter", "%1 – page %2 of %3")
+                             .arg(m_title)
+                             .arg(number)
+                             .arg(count);
         paintPage(&painter, parts.at(number - 1), footer);
     }
     return painter.end();
@@ -126,9 +128,9 @@ void DrawingPrinter::paintPage(QPainter *painter, const QRectF &part, const QStr
         font.setPointSizeF(8);
         painter->setFont(font);
         painter->setPen(Qt::darkGray);
-        painter->drawText(line, Qt::AlignRight | Qt::AlignBottom,
-                          painter->fontMetrics().elidedText(footer, Qt::ElideMiddle,
-                                                            int(line.width())));
+        painter->drawText(
+            line, Qt::AlignRight | Qt::AlignBottom,
+            painter->fontMetrics().elidedText(footer, Qt::ElideMiddle, int(line.width())));
     }
     m_scene->render(painter, area, part, Qt::KeepAspectRatio);
 }

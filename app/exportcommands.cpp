@@ -7,6 +7,8 @@
 #include <app/canvastheme.h>
 #include <app/diagramsession.h>
 #include <app/exportdialog.h>
+#include <app/printpreview.h>
+#include <app/selectionhidden.h>
 
 #include <fishbone/editor/fisheditor.h>
 #include <fishbone/editor/fishscene.h>
@@ -51,11 +53,14 @@ ExportCommands::ExportCommands(DiagramSession *session, CanvasTheme *theme, Acti
                  [this] { exportAs(); });
     actions->add(QStringLiteral("print"), tr("&Print…"), {QKeySequence::Print}, Scope::Window,
                  [this] { print(); });
+    actions->add(QStringLiteral("printPreview"), tr("Print pre&view…"),
+                 {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_P)}, Scope::Window,
+                 [this] { previewPrint(); });
 }
 
 void ExportCommands::updateActions()
 {
-    for (const char *name : {"export", "exportAs", "print"})
+    for (const char *name : {"export", "exportAs", "print", "printPreview"})
         m_actions->action(QLatin1String(name))->setEnabled(m_session->document());
 }
 
@@ -74,17 +79,14 @@ void ExportCommands::exportPicture()
     if (dialog.exec() != QDialog::Accepted)
         return;
     PictureOptions options = dialog.options();
-    options.title = m_session->model()->getTreeItem(m_session->editor()->rootIndex())->title();
+    options.title = shownTitle();
     FishScene *const scene = m_session->editor()->scene();
-    const QList<QGraphicsItem *> selected = m_session->editor()->selectedItems();
-    scene->clearSelection();
     PictureExport::Result result;
     {
+        const SelectionHidden unmarked(scene);
         const CanvasTheme::Paper paper(m_theme, m_editor);
         result = PictureExport::write(*scene, dialog.fileName(), options);
     }
-    for (QGraphicsItem *item : selected)
-        item->setSelected(true);
     if (result)
         Q_EMIT message(tr("%1 written").arg(dialog.fileName()));
     else
@@ -129,6 +131,20 @@ void ExportCommands::exportAs()
     QMessageBox::warning(
         m_window, tr("Export as"),
         tr("%1 cannot be written: %2.").arg(path.toHtmlEscaped(), reason.toHtmlEscaped()));
+}
+
+/** The title of what is shown: of the document, or of the subject shown as a diagram of its own. */
+QString ExportCommands::shownTitle() const
+{
+    return m_session->model()->getTreeItem(m_editor->rootIndex())->title();
+}
+
+void ExportCommands::previewPrint()
+{
+    if (!m_session->document())
+        return;
+    const CanvasTheme::Paper paper(m_theme, m_editor);
+    PrintPreview(m_editor->scene(), shownTitle(), m_window).exec();
 }
 
 void ExportCommands::print()

@@ -32,6 +32,8 @@ private:
     void exportAs();
     QString targetOfExport() const;
     void print();
+    void previewPrint();
+    QString shownTitle() const;
 
     CanvasTheme *m_theme;
     QWidget *m_window;

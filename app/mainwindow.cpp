@@ -14,10 +14,12 @@
 #include <app/exportcommands.h>
 #include <app/filecommands.h>
 #include <app/filedrop.h>
+#include <app/helpcommands.h>
 #include <app/historypanel.h>
 #include <app/linkopener.h>
 #include <app/menukeys.h>
 #include <app/menus.h>
+#include <app/minimap.h>
 #include <app/movecommands.h>
 #include <app/recentfiles.h>
 #include <app/subjecttree.h>
@@ -108,6 +110,7 @@ void MainWindow::addCommands()
     m_views = new ViewCommands(session(), m_theme, m_controls, m_actions, this);
     m_commands = {m_exports, m_edits, m_views, new MoveCommands(session(), m_actions, this),
                   new WalkCommands(session(), m_actions, this)};
+    new HelpCommands(m_actions, this); // which owns it
     m_actions->add(QStringLiteral("details"), tr("&Details"), {Qt::Key_F4},
                    ActionSet::Scope::Selection, [this] { showDetails(); });
 }
@@ -128,11 +131,15 @@ void MainWindow::addDocks()
     m_trees = addDock("documentsDock", tr("Subjects"), Qt::LeftDockWidgetArea);
     m_details = addDock("detailsDock", tr("Details"), Qt::RightDockWidgetArea);
     m_histories = addDock("historyDock", tr("History"), Qt::RightDockWidgetArea);
+    m_overviews = addDock("overviewDock", tr("Overview"), Qt::LeftDockWidgetArea);
+    m_overview = new Minimap(m_overviews);
+    m_overviews->addWidget(m_overview);
     const auto dockOf = [](QWidget *contents) {
         return qobject_cast<QDockWidget *>(contents->parentWidget());
     };
     resizeDocks({dockOf(m_trees), dockOf(m_details)}, {240, 280}, Qt::Horizontal);
     resizeDocks({dockOf(m_details), dockOf(m_histories)}, {500, 160}, Qt::Vertical);
+    resizeDocks({dockOf(m_trees), dockOf(m_overviews)}, {500, 160}, Qt::Vertical);
 }
 
 void MainWindow::addBars()
@@ -145,7 +152,7 @@ void MainWindow::addBars()
         {{QStringLiteral("recent"), m_recent->menu()}, {QStringLiteral("visited"), visited}});
     QMenu *const panels = createPopupMenu();
     panels->setTitle(tr("&Panels"));
-    menuBar()->addMenu(panels);
+    menuBar()->insertMenu(findChild<QMenu *>(QStringLiteral("helpMenu"))->menuAction(), panels);
     m_actions->updateIcons(palette());
 }
 
@@ -215,6 +222,7 @@ void MainWindow::showTab(DocumentTab *tab)
     m_details->setCurrentWidget(tab->details());
     m_histories->setCurrentWidget(tab->history());
     m_controls->setEditor(tab->editor());
+    m_overview->setSession(tab->session());
     for (DiagramCommands *commands : qAsConst(m_commands))
         commands->setSession(tab->session());
     if (tab->document() && (wasInTabs || !QApplication::focusWidget()))

@@ -18,6 +18,7 @@ class FileCommands;
 class FileDrop;
 class FishEditor;
 class FishModel;
+class Minimap;
 class QStackedWidget;
 class RecentFiles;
 class SubjectTree;
@@ -85,4 +86,6 @@ private:
     QStackedWidget *m_trees = nullptr;
     QStackedWidget *m_details = nullptr;
     QStackedWidget *m_histories = nullptr;
+    QStackedWidget *m_overviews = nullptr;
+    Minimap *m_overview = nullptr;
 };

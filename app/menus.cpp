@@ -25,7 +25,7 @@ constexpr Bar menus[] = {
     {"fileMenu", QT_TRANSLATE_NOOP("Menus", "&File"),
      "new newExample newFromTemplate | open recent import url recover | save saveAs saveCopy "
      "saveAll "
-     "revert | export exportAs print | close | reopen quit"},
+     "revert | export exportAs print printPreview | close | reopen quit"},
     {"editMenu", QT_TRANSLATE_NOOP("Menus", "&Edit"),
      "undo redo | cut copy paste delete | selectAll find"},
     {"subjectMenu", QT_TRANSLATE_NOOP("Menus", "&Subject"),
@@ -38,6 +38,7 @@ constexpr Bar menus[] = {
      "zoomin zoomout fullsize fit fitselection | rotateLeft rotateRight rotateReset | expand "
      "contract expandall contractall | asDiagram back whole visited | diagramMode taskMode | "
      "canvasStyle"},
+    {"helpMenu", QT_TRANSLATE_NOOP("Menus", "&Help"), "keys | about aboutQt"},
 };
 
 constexpr Bar toolBars[] = {

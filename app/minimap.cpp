@@ -14,6 +14,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QPainterPath>
 #include <QScrollBar>
 
 #include <utility>
@@ -88,8 +89,7 @@ void Minimap::makePicture()
 QTransform Minimap::sceneToWidget() const
 {
     const QRectF area = QRectF(rect()).adjusted(margin, margin, -margin, -margin);
-    const double scale =
-        qMin(area.width() / m_drawing.width(), area.height() / m_drawing.height());
+    const double scale = qMin(area.width() / m_drawing.width(), area.height() / m_drawing.height());
     QTransform transform;
     transform.translate(area.center().x(), area.center().y());
     transform.scale(scale, scale);
@@ -118,12 +118,16 @@ void Minimap::paintEvent(QPaintEvent *event)
     if (m_drawing.isEmpty())
         return;
     painter.setRenderHint(QPainter::Antialiasing);
-    const QColor color = palette().color(QPalette::Highlight);
-    QColor veil = color;
-    veil.setAlpha(40);
-    painter.setPen(QPen(color, hasFocus() ? 2 : 1));
-    painter.setBrush(veil);
-    painter.drawPolygon(shownPart());
+    const QPolygonF shown = shownPart();
+    QPainterPath hidden; // by the edges of the view
+    hidden.addRect(rect());
+    QPainterPath frame;
+    frame.addPolygon(shown);
+    QColor veil = palette().color(QPalette::Text);
+    veil.setAlpha(36);
+    painter.fillPath(hidden.subtracted(frame), veil);
+    painter.setPen(QPen(palette().color(QPalette::Highlight), hasFocus() ? 2 : 1));
+    painter.drawPolygon(shown);
 }
 
 void Minimap::resizeEvent(QResizeEvent *event)

@@ -48,6 +48,6 @@ private:
 
     QPointer<DiagramSession> m_session;
     QList<QMetaObject::Connection> m_connections;
-    QRectF m_drawing; ///< the part of the scene that the picture shows
+    QRectF m_drawing;  ///< the part of the scene that the picture shows
     QPixmap m_picture; ///< null when it has to be made
 };

@@ -53,6 +53,13 @@ PrintPreview::PrintPreview(QGraphicsScene *scene, const QString &title, QWidget 
     resize(1000, 700);
 }
 
+PrintPreview::~PrintPreview()
+{
+    // A field that loses the focus tells its value, when the printer is gone already.
+    m_fit->disconnect(this);
+    m_percent->disconnect(this);
+}
+
 void PrintPreview::addControls()
 {
     m_fit->setObjectName(QStringLiteral("fit"));

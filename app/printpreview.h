@@ -22,6 +22,7 @@ class PrintPreview : public QPrintPreviewDialog
 public:
     /** Shows @p scene, which must outlive the dialog, under @p title. */
     PrintPreview(QGraphicsScene *scene, const QString &title, QWidget *parent = nullptr);
+    ~PrintPreview() override;
 
 private:
     void addControls();

@@ -597,6 +597,13 @@ The exit code is 3 when anything is.</translation>
     </message>
 </context>
 <context>
+    <name>DrawingPrinter</name>
+    <message>
+        <source>%1 – page %2 of %3</source>
+        <translation>%1 – page %2 of %3</translation>
+    </message>
+</context>
+<context>
     <name>EditCommands</name>
     <message>
         <source>&amp;Undo</source>
@@ -767,6 +774,10 @@ The exit code is 3 when anything is.</translation>
     <message>
         <source>its ending tells none of the formats</source>
         <translation>its ending tells none of the formats</translation>
+    </message>
+    <message>
+        <source>Print pre&amp;view…</source>
+        <translation>Print pre&amp;view…</translation>
     </message>
 </context>
 <context>
@@ -974,6 +985,37 @@ Do you want to save your changes?</translation>
     </message>
 </context>
 <context>
+    <name>HelpCommands</name>
+    <message>
+        <source>&amp;Keys…</source>
+        <translation>&amp;Keys…</translation>
+    </message>
+    <message>
+        <source>&amp;About Fishbone</source>
+        <translation>&amp;About Fishbone</translation>
+    </message>
+    <message>
+        <source>About &amp;Qt</source>
+        <translation>About &amp;Qt</translation>
+    </message>
+    <message>
+        <source>Version %1, library %2&lt;br&gt;Qt %3, built with %4&lt;br&gt;%5</source>
+        <translation>Version %1, library %2&lt;br&gt;Qt %3, built with %4&lt;br&gt;%5</translation>
+    </message>
+    <message>
+        <source>About Fishbone</source>
+        <translation>About Fishbone</translation>
+    </message>
+    <message>
+        <source>Draws cause-and-effect diagrams of tasks.</source>
+        <translation>Draws cause-and-effect diagrams of tasks.</translation>
+    </message>
+    <message>
+        <source>Copyright © 2026 The Fishbone authors, under the MIT License</source>
+        <translation>Copyright © 2026 The Fishbone authors, under the MIT License</translation>
+    </message>
+</context>
+<context>
     <name>HistoryPanel</name>
     <message>
         <source>History</source>
@@ -1017,6 +1059,21 @@ Do you want to save your changes?</translation>
     <message>
         <source>Insert subject as parent</source>
         <translation>Insert parent subject</translation>
+    </message>
+</context>
+<context>
+    <name>KeysDialog</name>
+    <message>
+        <source>Keys</source>
+        <translation>Keys</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Search</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Command</translation>
     </message>
 </context>
 <context>
@@ -1079,6 +1136,10 @@ Do you want to save your changes?</translation>
         <source>Subjects</source>
         <translation>Subjects</translation>
     </message>
+    <message>
+        <source>Overview</source>
+        <translation>Overview</translation>
+    </message>
 </context>
 <context>
     <name>Menus</name>
@@ -1117,6 +1178,17 @@ Do you want to save your changes?</translation>
     <message>
         <source>&amp;Go</source>
         <translation>&amp;Go</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Help</translation>
+    </message>
+</context>
+<context>
+    <name>Minimap</name>
+    <message>
+        <source>Overview of the drawing</source>
+        <translation>Overview of the drawing</translation>
     </message>
 </context>
 <context>
@@ -1291,6 +1363,51 @@ Do you want to save your changes?</translation>
     <message>
         <source>the file name must end in .png, .svg or .pdf</source>
         <translation>the file name must end in .png, .svg or .pdf</translation>
+    </message>
+</context>
+<context>
+    <name>PrintPreview</name>
+    <message>
+        <source>Print preview</source>
+        <translation>Print preview</translation>
+    </message>
+    <message>
+        <source>Size on paper</source>
+        <translation>Size on paper</translation>
+    </message>
+    <message>
+        <source>Fit one page</source>
+        <translation>Fit one page</translation>
+    </message>
+    <message>
+        <source>Fit the width of the page</source>
+        <translation>Fit the width of the page</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation>Scale</translation>
+    </message>
+    <message>
+        <source>Scale in percent</source>
+        <translation>Scale in percent</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <translation> %</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n page(s)</source>
+        <translation>
+            <numerusform>%n page</numerusform>
+            <numerusform>%n pages</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Nothing to print, or more than %n page(s)</source>
+        <translation>
+            <numerusform>Nothing to print, or more than %n page</numerusform>
+            <numerusform>Nothing to print, or more than %n pages</numerusform>
+        </translation>
     </message>
 </context>
 <context>

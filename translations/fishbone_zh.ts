@@ -597,6 +597,13 @@ The exit code is 3 when anything is.</source>
     </message>
 </context>
 <context>
+    <name>DrawingPrinter</name>
+    <message>
+        <source>%1 – page %2 of %3</source>
+        <translation>%1 – 第 %2 页，共 %3 页</translation>
+    </message>
+</context>
+<context>
     <name>EditCommands</name>
     <message>
         <source>&amp;Undo</source>
@@ -767,6 +774,10 @@ The exit code is 3 when anything is.</source>
     <message>
         <source>its ending tells none of the formats</source>
         <translation>无法从扩展名判断格式</translation>
+    </message>
+    <message>
+        <source>Print pre&amp;view…</source>
+        <translation>打印预览(&amp;V)…</translation>
     </message>
 </context>
 <context>
@@ -973,6 +984,37 @@ Do you want to save your changes?</source>
     </message>
 </context>
 <context>
+    <name>HelpCommands</name>
+    <message>
+        <source>&amp;Keys…</source>
+        <translation>快捷键(&amp;K)…</translation>
+    </message>
+    <message>
+        <source>&amp;About Fishbone</source>
+        <translation>关于鱼骨图(&amp;A)</translation>
+    </message>
+    <message>
+        <source>About &amp;Qt</source>
+        <translation>关于 Qt(&amp;Q)</translation>
+    </message>
+    <message>
+        <source>Version %1, library %2&lt;br&gt;Qt %3, built with %4&lt;br&gt;%5</source>
+        <translation>版本 %1，库 %2&lt;br&gt;Qt %3，编译时 %4&lt;br&gt;%5</translation>
+    </message>
+    <message>
+        <source>About Fishbone</source>
+        <translation>关于鱼骨图</translation>
+    </message>
+    <message>
+        <source>Draws cause-and-effect diagrams of tasks.</source>
+        <translation>绘制任务的因果图。</translation>
+    </message>
+    <message>
+        <source>Copyright © 2026 The Fishbone authors, under the MIT License</source>
+        <translation>版权所有 © 2026 The Fishbone authors，采用 MIT 许可证</translation>
+    </message>
+</context>
+<context>
     <name>HistoryPanel</name>
     <message>
         <source>History</source>
@@ -1016,6 +1058,21 @@ Do you want to save your changes?</source>
     <message>
         <source>Insert subject as parent</source>
         <translation>插入父主题</translation>
+    </message>
+</context>
+<context>
+    <name>KeysDialog</name>
+    <message>
+        <source>Keys</source>
+        <translation>快捷键</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>搜索</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>命令</translation>
     </message>
 </context>
 <context>
@@ -1077,6 +1134,10 @@ Do you want to save your changes?</source>
         <source>Subjects</source>
         <translation>主题</translation>
     </message>
+    <message>
+        <source>Overview</source>
+        <translation>概览</translation>
+    </message>
 </context>
 <context>
     <name>Menus</name>
@@ -1115,6 +1176,17 @@ Do you want to save your changes?</source>
     <message>
         <source>&amp;Go</source>
         <translation>转到(&amp;G)</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>帮助(&amp;H)</translation>
+    </message>
+</context>
+<context>
+    <name>Minimap</name>
+    <message>
+        <source>Overview of the drawing</source>
+        <translation>图的概览</translation>
     </message>
 </context>
 <context>
@@ -1289,6 +1361,49 @@ Do you want to save your changes?</source>
     <message>
         <source>the file name must end in .png, .svg or .pdf</source>
         <translation>文件名必须以 .png、.svg 或 .pdf 结尾</translation>
+    </message>
+</context>
+<context>
+    <name>PrintPreview</name>
+    <message>
+        <source>Print preview</source>
+        <translation>打印预览</translation>
+    </message>
+    <message>
+        <source>Size on paper</source>
+        <translation>纸上大小</translation>
+    </message>
+    <message>
+        <source>Fit one page</source>
+        <translation>适合一页</translation>
+    </message>
+    <message>
+        <source>Fit the width of the page</source>
+        <translation>适合页宽</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation>缩放</translation>
+    </message>
+    <message>
+        <source>Scale in percent</source>
+        <translation>缩放百分比</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <translation> %</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n page(s)</source>
+        <translation>
+            <numerusform>%n 页</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Nothing to print, or more than %n page(s)</source>
+        <translation>
+            <numerusform>没有可打印的内容，或超过 %n 页</numerusform>
+        </translation>
     </message>
 </context>
 <context>
