@@ -3,11 +3,11 @@
 
 #include <app/documentsaver.h>
 
-#include <app/autosave.h>
 #include <app/diagramsession.h>
 #include <app/documentloader.h>
 #include <app/documenttab.h>
 #include <app/recentfiles.h>
+#include <app/recoverycopy.h>
 
 #include <fishbone/model/fishinfo.h>
 
@@ -81,11 +81,9 @@ bool DocumentSaver::writeTo(DocumentTab *tab, const QString &path)
 {
     if (!write(tab, path))
         return false;
-    FishInfo *const document = tab->document();
-    Autosave::discard(document);
-    document->setCurrentFile(path);
+    tab->document()->setCurrentFile(path);
+    tab->recovery()->discard();
     m_recent->add(path);
-    Autosave::redirect(document);
     tab->session()->touch();
     Q_EMIT message(tr("%1 saved").arg(tab->name()));
     return true;

@@ -9,6 +9,7 @@
 #include <app/diagramsession.h>
 #include <app/drawingstate.h>
 #include <app/historypanel.h>
+#include <app/recoverycopy.h>
 #include <app/subjecttree.h>
 #include <app/treesync.h>
 
@@ -25,6 +26,7 @@ DocumentTab::DocumentTab(CanvasTheme *theme, QWidget *parent)
     , m_model(new FishModel(this))
     , m_editor(new FishEditor(this))
     , m_session(new DiagramSession(m_model, m_editor, this))
+    , m_recovery(new RecoveryCopy(m_session, this))
     , m_tree(new SubjectTree(m_model, this))
     , m_sync(new TreeSync(m_session, m_tree, this))
     , m_details(new DetailsPanel(m_session, this))
@@ -56,14 +58,17 @@ DocumentTab::~DocumentTab()
     delete m_tree;
     delete m_details;
     delete m_history;
+    delete m_recovery;
     delete m_editor;
     delete m_session;
 }
 
 void DocumentTab::setDocument(FishInfo *document)
 {
-    if (m_model->insertFish(0, document))
-        m_session->showDocument(document);
+    if (!m_model->insertFish(0, document))
+        return;
+    m_recovery->setDocument(document);
+    m_session->showDocument(document);
 }
 
 FishInfo *DocumentTab::document() const

@@ -13,6 +13,7 @@ class FishEditor;
 class FishInfo;
 class FishModel;
 class HistoryPanel;
+class RecoveryCopy;
 class SubjectTree;
 class TreeSync;
 
@@ -38,6 +39,7 @@ public:
     FishModel *model() const { return m_model; }
     FishEditor *editor() const { return m_editor; }
     DiagramSession *session() const { return m_session; }
+    RecoveryCopy *recovery() const { return m_recovery; }
     SubjectTree *tree() const;
     DetailsPanel *details() const;
     HistoryPanel *history() const;
@@ -60,6 +62,7 @@ private:
     FishModel *m_model;
     FishEditor *m_editor;
     DiagramSession *m_session;
+    RecoveryCopy *m_recovery;
     QPointer<SubjectTree> m_tree;
     QPointer<TreeSync> m_sync;
     QPointer<DetailsPanel> m_details;

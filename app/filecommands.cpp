@@ -4,7 +4,6 @@
 #include <app/filecommands.h>
 
 #include <app/actionset.h>
-#include <app/autosave.h>
 #include <app/diagramsession.h>
 #include <app/documentloader.h>
 #include <app/documentsaver.h>
@@ -12,6 +11,7 @@
 #include <app/documenttabs.h>
 #include <app/lastdocuments.h>
 #include <app/recentfiles.h>
+#include <app/recoverycopy.h>
 
 #include <fishbone/dialogs/urldialog.h>
 #include <fishbone/exchange/diagramexchange.h>
@@ -78,8 +78,6 @@ void FileCommands::addOpenActions()
     add("open", tr("&Open…"), QKeySequence::Open, &FileCommands::openFiles);
     add("import", tr("&Import…"), QKeySequence(Qt::CTRL | Qt::Key_I), &FileCommands::importFiles);
     add("url", tr("Open &URL…"), QKeySequence(Qt::CTRL | Qt::Key_U), &FileCommands::openUrl);
-    m_actions->add(QStringLiteral("recover"), tr("Open an a&utosave…"), {},
-                   ActionSet::Scope::Window, [this] { newFromTemplate(Autosave::folder()); });
 }
 
 void FileCommands::addSaveActions()
@@ -134,39 +132,14 @@ void FileCommands::open(const QStringList &sources)
 void FileCommands::showLoaded(const QString &source, FishInfo *document)
 {
     DocumentTab *tab = m_tabs->tabOf(document);
-    const bool isNew = !tab;
-    if (isNew)
-        tab = m_tabs->add(document);
-    else
+    if (tab)
         m_tabs->setCurrent(tab);
+    else
+        tab = m_tabs->add(document);
     const QString path = DocumentLoader::localPath(source);
     if (!path.isEmpty())
         m_recent->add(path);
     Q_EMIT message(tr("%1 loaded").arg(tab->name()));
-    if (!isNew)
-        return;
-    if (!tab->path().isEmpty())
-        offerAutosave(tab->path(), tab);
-    Autosave::redirect(document);
-}
-
-/** Takes over what an earlier run has left for the file that was just loaded, if the user likes. */
-void FileCommands::offerAutosave(const QString &path, DocumentTab *tab)
-{
-    const QFileInfo left(Autosave::fileFor(path));
-    if (!Autosave::differs(left.filePath(), tab->document()))
-        return;
-    const QString question = tr("There is an autosave of %1 from %2, which an earlier run did not "
-                                "remove. Show that instead?");
-    if (QMessageBox::question(
-            m_window, tr("Autosave"),
-            question.arg(tab->name().toHtmlEscaped(), QLocale().toString(left.lastModified()))) !=
-        QMessageBox::Yes)
-        return;
-    if (tab->model()->reloadDataFromFile(left.filePath(), tab->document()) == MODEL_NO_ERROR) {
-        tab->document()->setModified(true);
-        tab->session()->showDocument(tab->document());
-    }
 }
 
 void FileCommands::reportFailure(const QString &source, const QString &reason)
@@ -204,24 +177,18 @@ void FileCommands::showFailures()
     box->open();
 }
 
-DocumentTab *FileCommands::addTab(FishInfo *document)
-{
-    Autosave::redirect(document);
-    return m_tabs->add(document);
-}
-
 void FileCommands::newDocument()
 {
     if (!m_arrivals->insertRows(m_arrivals->rowCount(), 1))
         return;
-    DocumentTab *const tab = addTab(m_arrivals->fishList().constLast());
+    DocumentTab *const tab = m_tabs->add(m_arrivals->fishList().constLast());
     tab->session()->select(tab->session()->headOf(tab->document())); // ready to be typed over
 }
 
 void FileCommands::newFromBuiltInTemplate()
 {
     if (m_arrivals->loadFishTempl() == MODEL_NO_ERROR)
-        addTab(m_arrivals->fishList().constLast());
+        m_tabs->add(m_arrivals->fishList().constLast());
 }
 
 void FileCommands::newFromTemplate(const QString &folder)
@@ -231,7 +198,7 @@ void FileCommands::newFromTemplate(const QString &folder)
     if (path.isEmpty())
         return;
     if (m_arrivals->loadFishFromTemplate(path) == MODEL_NO_ERROR) {
-        addTab(m_arrivals->fishList().constLast());
+        m_tabs->add(m_arrivals->fishList().constLast());
         return;
     }
     reportFailure(path, DocumentLoader::reasonOf(path));
@@ -296,8 +263,7 @@ void FileCommands::revert()
     }
     FishInfo *const document = m_arrivals->fishList().constLast();
     document->setCurrentFile(path);
-    Autosave::discard(tab->document());
-    Autosave::redirect(document);
+    tab->recovery()->discard();
     m_tabs->replace(tab, document);
 }
 
@@ -315,7 +281,7 @@ void FileCommands::closeTabs(const QList<DocumentTab *> &tabs)
             continue; // closed meanwhile
         if (!mayClose(tab))
             return;
-        Autosave::discard(tab->document());
+        tab->recovery()->discard();
         m_tabs->remove(tab);
     }
 }
@@ -342,7 +308,7 @@ void FileCommands::end()
     QStringList paths;
     const QList<DocumentTab *> tabs = m_tabs->tabs();
     for (const DocumentTab *tab : tabs) {
-        Autosave::discard(tab->document());
+        tab->recovery()->discard();
         if (!tab->path().isEmpty())
             paths.append(tab->path());
     }

@@ -57,14 +57,12 @@ private:
     void showLoaded(const QString &source, FishInfo *document);
     void reportFailure(const QString &source, const QString &reason);
     void showFailures();
-    DocumentTab *addTab(FishInfo *document);
     void newFromBuiltInTemplate();
     void newFromTemplate(const QString &startFolder);
     void openFiles();
     void importFiles();
     void openChosen(const QString &title, const QString &filter);
     void openUrl();
-    void offerAutosave(const QString &path, DocumentTab *tab);
     void saveAll();
     void revert();
     void closeCurrent();

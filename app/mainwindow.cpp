@@ -4,6 +4,7 @@
 #include <app/mainwindow.h>
 
 #include <app/actionset.h>
+#include <app/autosavestatus.h>
 #include <app/canvastheme.h>
 #include <app/detailspanel.h>
 #include <app/diagramsession.h>
@@ -20,6 +21,7 @@
 #include <app/menus.h>
 #include <app/movecommands.h>
 #include <app/recentfiles.h>
+#include <app/recoverycommands.h>
 #include <app/subjecttree.h>
 #include <app/tabcommands.h>
 #include <app/typedtitle.h>
@@ -74,6 +76,7 @@ MainWindow::~MainWindow()
     m_tabs->disconnect(this);
     qDeleteAll(m_commands);
     delete m_files;
+    delete m_recovery;
     delete m_tabs;
 }
 
@@ -100,8 +103,11 @@ SubjectTree *MainWindow::tree() const
 void MainWindow::addCommands()
 {
     m_controls = new ZoomControls(editor(), this);
+    m_autosave = new AutosaveStatus(this);
+    statusBar()->addPermanentWidget(m_autosave);
     statusBar()->addPermanentWidget(m_controls);
     m_files = new FileCommands(m_tabs, m_recent, m_actions, this);
+    m_recovery = new RecoveryCommands(m_tabs, m_actions, this);
     m_tabCommands = new TabCommands(m_tabs, m_actions, this);
     m_exports = new ExportCommands(session(), m_theme, m_actions, this);
     m_edits = new EditCommands(session(), m_actions, this);
@@ -152,6 +158,7 @@ void MainWindow::addBars()
 void MainWindow::connectCommands()
 {
     connect(m_files, &FileCommands::message, this, &MainWindow::showMessage);
+    connect(m_recovery, &RecoveryCommands::message, this, &MainWindow::showMessage);
     connect(m_exports, &ExportCommands::message, this, &MainWindow::showMessage);
     connect(m_edits, &EditCommands::message, this, &MainWindow::showMessage);
     connect(m_edits, &EditCommands::newDiagramWanted, this, &MainWindow::startDiagram);
@@ -215,6 +222,7 @@ void MainWindow::showTab(DocumentTab *tab)
     m_details->setCurrentWidget(tab->details());
     m_histories->setCurrentWidget(tab->history());
     m_controls->setEditor(tab->editor());
+    m_autosave->setCopy(tab->recovery());
     for (DiagramCommands *commands : qAsConst(m_commands))
         commands->setSession(tab->session());
     if (tab->document() && (wasInTabs || !QApplication::focusWidget()))
@@ -230,6 +238,11 @@ void MainWindow::showMessage(const QString &text)
 void MainWindow::open(const QStringList &sources)
 {
     m_files->open(sources);
+}
+
+void MainWindow::offerRecovery()
+{
+    m_recovery->offer();
 }
 
 /** Begins another diagram with its title. */

@@ -2,6 +2,25 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en">
 <context>
+    <name>AutosaveStatus</name>
+    <message>
+        <source>Autosaved at %1</source>
+        <translation>Autosaved at %1</translation>
+    </message>
+    <message>
+        <source>A copy of the changes that are not saved is kept in %1</source>
+        <translation>A copy of the changes that are not saved is kept in %1</translation>
+    </message>
+    <message>
+        <source>Autosave failed at %1</source>
+        <translation>Autosave failed at %1</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written. Changes that are not saved would be lost if the program did not end well.</source>
+        <translation>%1 cannot be written. Changes that are not saved would be lost if the program did not end well.</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
     <message>
         <source>Show this help and quit.</source>
@@ -835,10 +854,6 @@ The exit code is 3 when anything is.</translation>
         <translation>Open &amp;URL…</translation>
     </message>
     <message>
-        <source>Open an a&amp;utosave…</source>
-        <translation>Open an autosa&amp;ve…</translation>
-    </message>
-    <message>
         <source>&amp;Save</source>
         <translation>&amp;Save</translation>
     </message>
@@ -861,14 +876,6 @@ The exit code is 3 when anything is.</translation>
     <message>
         <source>%1 loaded</source>
         <translation>%1 loaded</translation>
-    </message>
-    <message>
-        <source>There is an autosave of %1 from %2, which an earlier run did not remove. Show that instead?</source>
-        <translation>There is an autosave of %1 from %2, which an earlier run did not remove. Show that instead?</translation>
-    </message>
-    <message>
-        <source>Autosave</source>
-        <translation>Autosave</translation>
     </message>
     <message>
         <source>cannot open %1: %2</source>
@@ -1333,6 +1340,90 @@ Do you want to save your changes?</translation>
     <message>
         <source>&amp;Clear the list</source>
         <translation>&amp;Clear the list</translation>
+    </message>
+</context>
+<context>
+    <name>RecoveryCommands</name>
+    <message>
+        <source>Reco&amp;ver documents…</source>
+        <translation>Reco&amp;ver documents…</translation>
+    </message>
+    <message>
+        <source>There is nothing to recover.</source>
+        <translation>There is nothing to recover.</translation>
+    </message>
+    <message>
+        <source>%1 recovered</source>
+        <translation>%1 recovered</translation>
+    </message>
+    <message>
+        <source>Recover documents</source>
+        <translation>Recover documents</translation>
+    </message>
+    <message>
+        <source>%1 cannot be recovered from %2: %3.</source>
+        <translation>%1 cannot be recovered from %2: %3.</translation>
+    </message>
+</context>
+<context>
+    <name>RecoveryDialog</name>
+    <message>
+        <source>Recover documents</source>
+        <translation>Recover documents</translation>
+    </message>
+    <message>
+        <source>The program did not end well the last time. These documents have changes that were not saved:</source>
+        <translation>The program did not end well the last time. These documents have changes that were not saved:</translation>
+    </message>
+    <message>
+        <source>Documents with changes that were not saved</source>
+        <translation>Documents with changes that were not saved</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>&amp;Open</translation>
+    </message>
+    <message>
+        <source>&amp;Discard</source>
+        <translation>&amp;Discard</translation>
+    </message>
+    <message>
+        <source>&amp;Later</source>
+        <translation>&amp;Later</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Discard</translation>
+    </message>
+    <message numerus="yes">
+        <source>Give up the changes of %n document(s) for good?</source>
+        <translation>
+            <numerusform>Give up the changes of %n document for good?</numerusform>
+            <numerusform>Give up the changes of %n documents for good?</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>RecoveryModel</name>
+    <message>
+        <source>Document</source>
+        <translation>Document</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>File</translation>
+    </message>
+    <message>
+        <source>Autosaved</source>
+        <translation>Autosaved</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Size</translation>
+    </message>
+    <message>
+        <source>(never saved)</source>
+        <translation>(never saved)</translation>
     </message>
 </context>
 <context>
