@@ -8,7 +8,9 @@
 #include <app/detailspanel.h>
 #include <app/diagramsession.h>
 #include <app/drawingstate.h>
+#include <app/fileconflict.h>
 #include <app/historypanel.h>
+#include <app/messagebar.h>
 #include <app/recoverycopy.h>
 #include <app/subjecttree.h>
 #include <app/treesync.h>
@@ -47,7 +49,10 @@ DocumentTab::DocumentTab(CanvasTheme *theme, QWidget *parent)
     auto *const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
-    layout->addWidget(m_editor);
+    auto *const bar = new MessageBar(this);
+    m_conflict = new FileConflict(bar, this);
+    layout->addWidget(bar);
+    layout->addWidget(m_editor, 1);
     connect(m_session, &DiagramSession::stateChanged, this, &DocumentTab::followState);
 }
 
@@ -68,6 +73,7 @@ void DocumentTab::setDocument(FishInfo *document)
     if (!m_model->insertFish(0, document))
         return;
     m_recovery->setDocument(document);
+    m_conflict->settle();
     m_session->showDocument(document);
 }
 

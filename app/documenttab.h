@@ -9,6 +9,7 @@
 class CanvasTheme;
 class DetailsPanel;
 class DiagramSession;
+class FileConflict;
 class FishEditor;
 class FishInfo;
 class FishModel;
@@ -40,6 +41,7 @@ public:
     FishEditor *editor() const { return m_editor; }
     DiagramSession *session() const { return m_session; }
     RecoveryCopy *recovery() const { return m_recovery; }
+    FileConflict *conflict() const { return m_conflict; }
     SubjectTree *tree() const;
     DetailsPanel *details() const;
     HistoryPanel *history() const;
@@ -63,6 +65,7 @@ private:
     FishEditor *m_editor;
     DiagramSession *m_session;
     RecoveryCopy *m_recovery;
+    FileConflict *m_conflict = nullptr;
     QPointer<SubjectTree> m_tree;
     QPointer<TreeSync> m_sync;
     QPointer<DetailsPanel> m_details;

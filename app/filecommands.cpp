@@ -9,6 +9,7 @@
 #include <app/documentsaver.h>
 #include <app/documenttab.h>
 #include <app/documenttabs.h>
+#include <app/fileconflict.h>
 #include <app/lastdocuments.h>
 #include <app/recentfiles.h>
 #include <app/recoverycopy.h>
@@ -55,6 +56,7 @@ FileCommands::FileCommands(DocumentTabs *tabs, RecentFiles *recent, ActionSet *a
     connect(m_loader, &DocumentLoader::idle, this, &FileCommands::endLoading, Qt::QueuedConnection);
     connect(m_recent, &RecentFiles::chosen, m_loader, &DocumentLoader::load);
     connect(m_saver, &DocumentSaver::message, this, &FileCommands::message);
+    connect(m_tabs, &DocumentTabs::added, this, &FileCommands::answerConflicts);
     connect(m_tabs, &DocumentTabs::closeRequested, this, &FileCommands::closeTabs);
     addOpenActions();
     addSaveActions();
@@ -93,7 +95,8 @@ void FileCommands::addSaveActions()
               &DocumentSaver::saveAs);
     addForTab("saveCopy", tr("Save a cop&y…"), {}, &DocumentSaver::saveCopy);
     add("saveAll", tr("Save a&ll"), {}, &FileCommands::saveAll);
-    add("revert", tr("Revert to &file"), {}, &FileCommands::revert);
+    m_actions->add(QStringLiteral("revert"), tr("Revert to &file"), {}, ActionSet::Scope::Window,
+                   [this] { revert(m_tabs->current()); });
 }
 
 void FileCommands::addCloseActions()
@@ -243,10 +246,19 @@ void FileCommands::saveAll()
     }
 }
 
-/** Shows the document as its file has it. */
-void FileCommands::revert()
+/** Does what the user decides when somebody else has changed the file of @p tab. */
+void FileCommands::answerConflicts(DocumentTab *tab)
 {
-    const QPointer<DocumentTab> tab = m_tabs->current(); // the question runs an event loop
+    const FileConflict *const conflict = tab->conflict();
+    connect(conflict, &FileConflict::reloadRequested, this, [this, tab] { revert(tab); });
+    connect(conflict, &FileConflict::saveRequested, this, [this, tab] { m_saver->save(tab); });
+    connect(conflict, &FileConflict::saveAsRequested, this, [this, tab] { m_saver->saveAs(tab); });
+}
+
+/** Shows the document as its file has it. */
+void FileCommands::revert(DocumentTab *tab)
+{
+    const QPointer<DocumentTab> alive(tab); // the question runs an event loop
     const QString path = tab->path();
     if (tab->document()->modified() &&
         QMessageBox::question(
@@ -254,7 +266,7 @@ void FileCommands::revert()
             tr("Give up all changes of %1 since it was saved?").arg(tab->name().toHtmlEscaped())) !=
             QMessageBox::Yes)
         return;
-    if (!tab)
+    if (!alive)
         return;
     if (m_arrivals->loadFishFromFile(path) != MODEL_NO_ERROR) {
         reportFailure(path, DocumentLoader::reasonOf(path));

@@ -64,7 +64,8 @@ private:
     void openChosen(const QString &title, const QString &filter);
     void openUrl();
     void saveAll();
-    void revert();
+    void answerConflicts(DocumentTab *tab);
+    void revert(DocumentTab *tab);
     void closeCurrent();
     void closeTabs(const QList<DocumentTab *> &tabs);
     bool mayClose(DocumentTab *tab);

@@ -591,6 +591,10 @@ The exit code is 3 when anything is.</translation>
         <source>%1 has changes that are not saved.</source>
         <translation>%1 has changes that are not saved.</translation>
     </message>
+    <message>
+        <source>Another program has changed %1 since it was opened or saved here. Replace it, so that those changes are lost?</source>
+        <translation>Another program has changed %1 since it was opened or saved here. Replace it, so that those changes are lost?</translation>
+    </message>
 </context>
 <context>
     <name>DocumentTabs</name>
@@ -924,6 +928,37 @@ The exit code is 3 when anything is.</translation>
     <message>
         <source>Give up all changes of %1 since it was saved?</source>
         <translation>Give up all changes of %1 since it was saved?</translation>
+    </message>
+</context>
+<context>
+    <name>FileConflict</name>
+    <message>
+        <source>Another program has changed %1.</source>
+        <translation>Another program has changed %1.</translation>
+    </message>
+    <message>
+        <source>Re&amp;load</source>
+        <translation>Re&amp;load</translation>
+    </message>
+    <message>
+        <source>&amp;Keep mine</source>
+        <translation>&amp;Keep mine</translation>
+    </message>
+    <message>
+        <source>Save &amp;under another name…</source>
+        <translation>Save &amp;under another name…</translation>
+    </message>
+    <message>
+        <source>%1 was deleted, moved or renamed by another program.</source>
+        <translation>%1 was deleted, moved or renamed by another program.</translation>
+    </message>
+    <message>
+        <source>Save agai&amp;n</source>
+        <translation>Save agai&amp;n</translation>
+    </message>
+    <message>
+        <source>&amp;Hide</source>
+        <translation>&amp;Hide</translation>
     </message>
 </context>
 <context>

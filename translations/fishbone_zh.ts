@@ -591,6 +591,10 @@ The exit code is 3 when anything is.</source>
         <source>%1 has changes that are not saved.</source>
         <translation>%1 有尚未保存的更改。</translation>
     </message>
+    <message>
+        <source>Another program has changed %1 since it was opened or saved here. Replace it, so that those changes are lost?</source>
+        <translation>自从在此处打开或保存以来，另一个程序更改了 %1。要替换它并丢失那些更改吗？</translation>
+    </message>
 </context>
 <context>
     <name>DocumentTabs</name>
@@ -924,6 +928,37 @@ The exit code is 3 when anything is.</source>
     <message>
         <source>Give up all changes of %1 since it was saved?</source>
         <translation>放弃 %1 自上次保存以来的所有更改吗？</translation>
+    </message>
+</context>
+<context>
+    <name>FileConflict</name>
+    <message>
+        <source>Another program has changed %1.</source>
+        <translation>另一个程序更改了 %1。</translation>
+    </message>
+    <message>
+        <source>Re&amp;load</source>
+        <translation>重新加载(&amp;L)</translation>
+    </message>
+    <message>
+        <source>&amp;Keep mine</source>
+        <translation>保留我的版本(&amp;K)</translation>
+    </message>
+    <message>
+        <source>Save &amp;under another name…</source>
+        <translation>另存为其他名称(&amp;U)…</translation>
+    </message>
+    <message>
+        <source>%1 was deleted, moved or renamed by another program.</source>
+        <translation>%1 已被另一个程序删除、移动或重命名。</translation>
+    </message>
+    <message>
+        <source>Save agai&amp;n</source>
+        <translation>再次保存(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Hide</source>
+        <translation>隐藏(&amp;I)</translation>
     </message>
 </context>
 <context>
