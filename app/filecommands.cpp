@@ -52,6 +52,7 @@ FileCommands::FileCommands(DocumentTabs *tabs, RecentFiles *recent, ActionSet *a
     m_loader->setOpenDocuments([tabs] { return tabs->documents(); });
     connect(m_loader, &DocumentLoader::loaded, this, &FileCommands::showLoaded);
     connect(m_loader, &DocumentLoader::failed, this, &FileCommands::reportFailure);
+    connect(m_loader, &DocumentLoader::cancelled, this, &FileCommands::endCancelled);
     // Queued, so that several files that fail at once share a box.
     connect(m_loader, &DocumentLoader::idle, this, &FileCommands::endLoading, Qt::QueuedConnection);
     connect(m_recent, &RecentFiles::chosen, m_loader, &DocumentLoader::load);
@@ -152,7 +153,18 @@ void FileCommands::reportFailure(const QString &source, const QString &reason)
     Q_EMIT message(text);
     m_failures.append(text);
     m_recent->remove(DocumentLoader::localPath(source));
-    // A window that was to show nothing else shows something to begin with.
+    showSomething();
+}
+
+void FileCommands::endCancelled(const QString &source)
+{
+    Q_EMIT message(tr("%1 was not loaded").arg(source));
+    showSomething();
+}
+
+/** A window that was to show nothing else shows something to begin with. */
+void FileCommands::showSomething()
+{
     if (m_tabs->tabs().isEmpty() && m_loader->isLast())
         newFromBuiltInTemplate();
 }

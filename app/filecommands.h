@@ -31,6 +31,9 @@ public:
      * last time or the template. */
     void open(const QStringList &sources);
 
+    /** What loads the documents. */
+    DocumentLoader *loader() const { return m_loader; }
+
     /** Makes a document with a head alone, and selects that. */
     void newDocument();
 
@@ -57,6 +60,8 @@ private:
     void showLoaded(const QString &source, FishInfo *document);
     void reportFailure(const QString &source, const QString &reason);
     void showFailures();
+    void endCancelled(const QString &source);
+    void showSomething();
     void newFromBuiltInTemplate();
     void newFromTemplate(const QString &startFolder);
     void openFiles();

@@ -17,6 +17,7 @@
 #include <app/filedrop.h>
 #include <app/historypanel.h>
 #include <app/linkopener.h>
+#include <app/loadprogress.h>
 #include <app/menukeys.h>
 #include <app/menus.h>
 #include <app/movecommands.h>
@@ -107,6 +108,7 @@ void MainWindow::addCommands()
     statusBar()->addPermanentWidget(m_autosave);
     statusBar()->addPermanentWidget(m_controls);
     m_files = new FileCommands(m_tabs, m_recent, m_actions, this);
+    statusBar()->insertPermanentWidget(0, new LoadProgress(m_files->loader(), this));
     m_recovery = new RecoveryCommands(m_tabs, m_actions, this);
     m_tabCommands = new TabCommands(m_tabs, m_actions, this);
     m_exports = new ExportCommands(session(), m_theme, m_actions, this);

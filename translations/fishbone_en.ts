@@ -929,6 +929,10 @@ The exit code is 3 when anything is.</translation>
         <source>Give up all changes of %1 since it was saved?</source>
         <translation>Give up all changes of %1 since it was saved?</translation>
     </message>
+    <message>
+        <source>%1 was not loaded</source>
+        <translation>%1 was not loaded</translation>
+    </message>
 </context>
 <context>
     <name>FileConflict</name>
@@ -1070,6 +1074,21 @@ Do you want to save your changes?</translation>
     <message>
         <source>This link is neither a web page nor a mail address. Open it?</source>
         <translation>This link is neither a web page nor a mail address. Open it?</translation>
+    </message>
+</context>
+<context>
+    <name>LoadProgress</name>
+    <message>
+        <source>Loading</source>
+        <translation>Loading</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>%1 received</source>
+        <translation>%1 received</translation>
     </message>
 </context>
 <context>

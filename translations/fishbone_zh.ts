@@ -929,6 +929,10 @@ The exit code is 3 when anything is.</source>
         <source>Give up all changes of %1 since it was saved?</source>
         <translation>放弃 %1 自上次保存以来的所有更改吗？</translation>
     </message>
+    <message>
+        <source>%1 was not loaded</source>
+        <translation>未加载 %1</translation>
+    </message>
 </context>
 <context>
     <name>FileConflict</name>
@@ -1069,6 +1073,21 @@ Do you want to save your changes?</source>
     <message>
         <source>This link is neither a web page nor a mail address. Open it?</source>
         <translation>此链接既不是网页，也不是邮件地址。要打开它吗？</translation>
+    </message>
+</context>
+<context>
+    <name>LoadProgress</name>
+    <message>
+        <source>Loading</source>
+        <translation>正在加载</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>%1 received</source>
+        <translation>已接收 %1</translation>
     </message>
 </context>
 <context>
