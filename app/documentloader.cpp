@@ -164,6 +164,26 @@ void DocumentLoader::fetch(const QUrl &url)
         if (!earlier.contains(reply))
             m_reply = reply;
     }
+    m_isCancelled = false;
+    if (m_reply)
+        connect(m_reply, &QNetworkReply::readyRead, this, &DocumentLoader::reportProgress);
+    Q_EMIT fetchStarted(url);
+}
+
+/** Reports what has come, all of which waits in the reply until that is complete. The reply's own
+ * report leaves out what comes shortly after the one before. */
+void DocumentLoader::reportProgress()
+{
+    const QVariant length = m_reply->header(QNetworkRequest::ContentLengthHeader);
+    Q_EMIT fetchProgress(m_reply->bytesAvailable(), length.isValid() ? length.toLongLong() : -1);
+}
+
+void DocumentLoader::cancel()
+{
+    if (!m_reply || m_reply->isFinished())
+        return;
+    m_isCancelled = true;
+    m_reply->abort();
 }
 
 void DocumentLoader::endFetch(const QModelIndex &index, MODEL_ERROR error)
@@ -172,10 +192,15 @@ void DocumentLoader::endFetch(const QModelIndex &index, MODEL_ERROR error)
     if (m_reply && !m_reply->isFinished())
         return; // somebody else loaded a file meanwhile
     disconnect(m_fetched);
-    if (error == MODEL_NO_ERROR)
+    Q_EMIT fetchEnded();
+    if (error == MODEL_NO_ERROR) {
         finish(m_model->fishList().constLast(), QString());
-    else
+    } else if (m_isCancelled) {
+        Q_EMIT cancelled(m_waiting.constFirst());
+        leave();
+    } else {
         finish(nullptr, reasonOfReply());
+    }
 }
 
 /** Why what arrived was not loaded. */
@@ -200,6 +225,12 @@ void DocumentLoader::finish(FishInfo *document, const QString &reason)
     } else {
         Q_EMIT failed(source, reason);
     }
+    leave();
+}
+
+/** Goes on to what waits behind the load that was reported. */
+void DocumentLoader::leave()
+{
     m_waiting.removeFirst();
     if (m_waiting.isEmpty())
         Q_EMIT idle();

@@ -15,6 +15,7 @@
 
 class FishInfo;
 class QNetworkReply;
+class QUrl;
 
 /**
  * Loads documents into a model, in the order in which they were asked for, and can say why one
@@ -34,6 +35,9 @@ public:
     /** Loads @p source, a file's path or an http, https or file URL. Reports with a signal, for a
      * file usually before this returns. */
     void load(const QString &source);
+
+    /** Ends the fetch that is under way, if there is one; what waits behind it is loaded still. */
+    void cancel();
 
     /** Whether there are no loads under way. */
     bool isIdle() const { return m_waiting.isEmpty(); }
@@ -55,6 +59,14 @@ Q_SIGNALS:
     void loaded(const QString &source, FishInfo *document);
     /** @p source cannot be loaded; @p reason is a clause for the user. */
     void failed(const QString &source, const QString &reason);
+    /** The user has cancelled the load of @p source. */
+    void cancelled(const QString &source);
+    /** A document is fetched from the network. */
+    void fetchStarted(const QUrl &url);
+    /** So many bytes of it have come; @p total is -1 while nobody knows how many there are. */
+    void fetchProgress(qint64 received, qint64 total);
+    /** It came, or will not come. Reported before that. */
+    void fetchEnded();
     /** There is nothing more to load. */
     void idle();
 
@@ -64,7 +76,9 @@ private:
     void importFile(const QString &path, DiagramExchange::Format format);
     QString freeName(const QString &baseName) const;
     void fetch(const QUrl &url);
+    void reportProgress();
     void endFetch(const QModelIndex &index, MODEL_ERROR error);
+    void leave();
     void finish(FishInfo *document, const QString &reason);
     FishInfo *openDocument(const QString &path) const;
     QString reasonOfReply() const;
@@ -74,4 +88,5 @@ private:
     QStringList m_waiting; ///< the first one is being loaded
     QPointer<QNetworkReply> m_reply;
     QMetaObject::Connection m_fetched;
+    bool m_isCancelled = false;
 };

@@ -3,11 +3,12 @@
 
 #include <app/documentsaver.h>
 
-#include <app/autosave.h>
 #include <app/diagramsession.h>
 #include <app/documentloader.h>
 #include <app/documenttab.h>
+#include <app/fileconflict.h>
 #include <app/recentfiles.h>
+#include <app/recoverycopy.h>
 
 #include <fishbone/model/fishinfo.h>
 
@@ -31,7 +32,24 @@ bool DocumentSaver::save(DocumentTab *tab)
 {
     if (!tab->document())
         return false;
-    return tab->path().isEmpty() ? saveAs(tab) : writeTo(tab, tab->path());
+    if (tab->path().isEmpty())
+        return saveAs(tab);
+    return mayOverwrite(tab) && writeTo(tab, tab->path());
+}
+
+/** Whether the document's file may be replaced, even if it holds what somebody else has written. */
+bool DocumentSaver::mayOverwrite(DocumentTab *tab)
+{
+    if (!tab->conflict()->isOpen())
+        return true;
+    const QPointer<DocumentTab> alive(tab); // the question runs an event loop
+    const QString question =
+        tr("Another program has changed %1 since it was opened or saved here. Replace it, so that "
+           "those changes are lost?");
+    return QMessageBox::warning(m_window, tr("Save"), question.arg(tab->name().toHtmlEscaped()),
+                                QMessageBox::Save | QMessageBox::Cancel,
+                                QMessageBox::Cancel) == QMessageBox::Save &&
+           alive;
 }
 
 /** A file that the user chooses for the document and that is read as a diagram again; empty when
@@ -81,11 +99,10 @@ bool DocumentSaver::writeTo(DocumentTab *tab, const QString &path)
 {
     if (!write(tab, path))
         return false;
-    FishInfo *const document = tab->document();
-    Autosave::discard(document);
-    document->setCurrentFile(path);
+    tab->document()->setCurrentFile(path);
+    tab->recovery()->discard();
+    tab->conflict()->settle();
     m_recent->add(path);
-    Autosave::redirect(document);
     tab->session()->touch();
     Q_EMIT message(tr("%1 saved").arg(tab->name()));
     return true;

@@ -39,6 +39,7 @@ Q_SIGNALS:
 
 private:
     QString chosenFile(DocumentTab *tab, const QString &title) const;
+    bool mayOverwrite(DocumentTab *tab);
     bool write(DocumentTab *tab, const QString &path);
     bool writeTo(DocumentTab *tab, const QString &path);
 

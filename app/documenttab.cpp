@@ -8,7 +8,10 @@
 #include <app/detailspanel.h>
 #include <app/diagramsession.h>
 #include <app/drawingstate.h>
+#include <app/fileconflict.h>
 #include <app/historypanel.h>
+#include <app/messagebar.h>
+#include <app/recoverycopy.h>
 #include <app/subjecttree.h>
 #include <app/treesync.h>
 
@@ -25,6 +28,7 @@ DocumentTab::DocumentTab(CanvasTheme *theme, QWidget *parent)
     , m_model(new FishModel(this))
     , m_editor(new FishEditor(this))
     , m_session(new DiagramSession(m_model, m_editor, this))
+    , m_recovery(new RecoveryCopy(m_session, this))
     , m_tree(new SubjectTree(m_model, this))
     , m_sync(new TreeSync(m_session, m_tree, this))
     , m_details(new DetailsPanel(m_session, this))
@@ -45,7 +49,10 @@ DocumentTab::DocumentTab(CanvasTheme *theme, QWidget *parent)
     auto *const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
-    layout->addWidget(m_editor);
+    auto *const bar = new MessageBar(this);
+    m_conflict = new FileConflict(bar, this);
+    layout->addWidget(bar);
+    layout->addWidget(m_editor, 1);
     connect(m_session, &DiagramSession::stateChanged, this, &DocumentTab::followState);
 }
 
@@ -56,14 +63,18 @@ DocumentTab::~DocumentTab()
     delete m_tree;
     delete m_details;
     delete m_history;
+    delete m_recovery;
     delete m_editor;
     delete m_session;
 }
 
 void DocumentTab::setDocument(FishInfo *document)
 {
-    if (m_model->insertFish(0, document))
-        m_session->showDocument(document);
+    if (!m_model->insertFish(0, document))
+        return;
+    m_recovery->setDocument(document);
+    m_conflict->settle();
+    m_session->showDocument(document);
 }
 
 FishInfo *DocumentTab::document() const

@@ -9,10 +9,12 @@
 class CanvasTheme;
 class DetailsPanel;
 class DiagramSession;
+class FileConflict;
 class FishEditor;
 class FishInfo;
 class FishModel;
 class HistoryPanel;
+class RecoveryCopy;
 class SubjectTree;
 class TreeSync;
 
@@ -38,6 +40,8 @@ public:
     FishModel *model() const { return m_model; }
     FishEditor *editor() const { return m_editor; }
     DiagramSession *session() const { return m_session; }
+    RecoveryCopy *recovery() const { return m_recovery; }
+    FileConflict *conflict() const { return m_conflict; }
     SubjectTree *tree() const;
     DetailsPanel *details() const;
     HistoryPanel *history() const;
@@ -60,6 +64,8 @@ private:
     FishModel *m_model;
     FishEditor *m_editor;
     DiagramSession *m_session;
+    RecoveryCopy *m_recovery;
+    FileConflict *m_conflict = nullptr;
     QPointer<SubjectTree> m_tree;
     QPointer<TreeSync> m_sync;
     QPointer<DetailsPanel> m_details;

@@ -4,14 +4,15 @@
 #include <app/filecommands.h>
 
 #include <app/actionset.h>
-#include <app/autosave.h>
 #include <app/diagramsession.h>
 #include <app/documentloader.h>
 #include <app/documentsaver.h>
 #include <app/documenttab.h>
 #include <app/documenttabs.h>
+#include <app/fileconflict.h>
 #include <app/lastdocuments.h>
 #include <app/recentfiles.h>
+#include <app/recoverycopy.h>
 
 #include <fishbone/dialogs/urldialog.h>
 #include <fishbone/exchange/diagramexchange.h>
@@ -51,10 +52,12 @@ FileCommands::FileCommands(DocumentTabs *tabs, RecentFiles *recent, ActionSet *a
     m_loader->setOpenDocuments([tabs] { return tabs->documents(); });
     connect(m_loader, &DocumentLoader::loaded, this, &FileCommands::showLoaded);
     connect(m_loader, &DocumentLoader::failed, this, &FileCommands::reportFailure);
+    connect(m_loader, &DocumentLoader::cancelled, this, &FileCommands::endCancelled);
     // Queued, so that several files that fail at once share a box.
     connect(m_loader, &DocumentLoader::idle, this, &FileCommands::endLoading, Qt::QueuedConnection);
     connect(m_recent, &RecentFiles::chosen, m_loader, &DocumentLoader::load);
     connect(m_saver, &DocumentSaver::message, this, &FileCommands::message);
+    connect(m_tabs, &DocumentTabs::added, this, &FileCommands::answerConflicts);
     connect(m_tabs, &DocumentTabs::closeRequested, this, &FileCommands::closeTabs);
     addOpenActions();
     addSaveActions();
@@ -78,8 +81,6 @@ void FileCommands::addOpenActions()
     add("open", tr("&Open…"), QKeySequence::Open, &FileCommands::openFiles);
     add("import", tr("&Import…"), QKeySequence(Qt::CTRL | Qt::Key_I), &FileCommands::importFiles);
     add("url", tr("Open &URL…"), QKeySequence(Qt::CTRL | Qt::Key_U), &FileCommands::openUrl);
-    m_actions->add(QStringLiteral("recover"), tr("Open an a&utosave…"), {},
-                   ActionSet::Scope::Window, [this] { newFromTemplate(Autosave::folder()); });
 }
 
 void FileCommands::addSaveActions()
@@ -95,7 +96,8 @@ void FileCommands::addSaveActions()
               &DocumentSaver::saveAs);
     addForTab("saveCopy", tr("Save a cop&y…"), {}, &DocumentSaver::saveCopy);
     add("saveAll", tr("Save a&ll"), {}, &FileCommands::saveAll);
-    add("revert", tr("Revert to &file"), {}, &FileCommands::revert);
+    m_actions->add(QStringLiteral("revert"), tr("Revert to &file"), {}, ActionSet::Scope::Window,
+                   [this] { revert(m_tabs->current()); });
 }
 
 void FileCommands::addCloseActions()
@@ -134,39 +136,14 @@ void FileCommands::open(const QStringList &sources)
 void FileCommands::showLoaded(const QString &source, FishInfo *document)
 {
     DocumentTab *tab = m_tabs->tabOf(document);
-    const bool isNew = !tab;
-    if (isNew)
-        tab = m_tabs->add(document);
-    else
+    if (tab)
         m_tabs->setCurrent(tab);
+    else
+        tab = m_tabs->add(document);
     const QString path = DocumentLoader::localPath(source);
     if (!path.isEmpty())
         m_recent->add(path);
     Q_EMIT message(tr("%1 loaded").arg(tab->name()));
-    if (!isNew)
-        return;
-    if (!tab->path().isEmpty())
-        offerAutosave(tab->path(), tab);
-    Autosave::redirect(document);
-}
-
-/** Takes over what an earlier run has left for the file that was just loaded, if the user likes. */
-void FileCommands::offerAutosave(const QString &path, DocumentTab *tab)
-{
-    const QFileInfo left(Autosave::fileFor(path));
-    if (!Autosave::differs(left.filePath(), tab->document()))
-        return;
-    const QString question = tr("There is an autosave of %1 from %2, which an earlier run did not "
-                                "remove. Show that instead?");
-    if (QMessageBox::question(
-            m_window, tr("Autosave"),
-            question.arg(tab->name().toHtmlEscaped(), QLocale().toString(left.lastModified()))) !=
-        QMessageBox::Yes)
-        return;
-    if (tab->model()->reloadDataFromFile(left.filePath(), tab->document()) == MODEL_NO_ERROR) {
-        tab->document()->setModified(true);
-        tab->session()->showDocument(tab->document());
-    }
 }
 
 void FileCommands::reportFailure(const QString &source, const QString &reason)
@@ -176,7 +153,18 @@ void FileCommands::reportFailure(const QString &source, const QString &reason)
     Q_EMIT message(text);
     m_failures.append(text);
     m_recent->remove(DocumentLoader::localPath(source));
-    // A window that was to show nothing else shows something to begin with.
+    showSomething();
+}
+
+void FileCommands::endCancelled(const QString &source)
+{
+    Q_EMIT message(tr("%1 was not loaded").arg(source));
+    showSomething();
+}
+
+/** A window that was to show nothing else shows something to begin with. */
+void FileCommands::showSomething()
+{
     if (m_tabs->tabs().isEmpty() && m_loader->isLast())
         newFromBuiltInTemplate();
 }
@@ -204,24 +192,18 @@ void FileCommands::showFailures()
     box->open();
 }
 
-DocumentTab *FileCommands::addTab(FishInfo *document)
-{
-    Autosave::redirect(document);
-    return m_tabs->add(document);
-}
-
 void FileCommands::newDocument()
 {
     if (!m_arrivals->insertRows(m_arrivals->rowCount(), 1))
         return;
-    DocumentTab *const tab = addTab(m_arrivals->fishList().constLast());
+    DocumentTab *const tab = m_tabs->add(m_arrivals->fishList().constLast());
     tab->session()->select(tab->session()->headOf(tab->document())); // ready to be typed over
 }
 
 void FileCommands::newFromBuiltInTemplate()
 {
     if (m_arrivals->loadFishTempl() == MODEL_NO_ERROR)
-        addTab(m_arrivals->fishList().constLast());
+        m_tabs->add(m_arrivals->fishList().constLast());
 }
 
 void FileCommands::newFromTemplate(const QString &folder)
@@ -231,7 +213,7 @@ void FileCommands::newFromTemplate(const QString &folder)
     if (path.isEmpty())
         return;
     if (m_arrivals->loadFishFromTemplate(path) == MODEL_NO_ERROR) {
-        addTab(m_arrivals->fishList().constLast());
+        m_tabs->add(m_arrivals->fishList().constLast());
         return;
     }
     reportFailure(path, DocumentLoader::reasonOf(path));
@@ -276,10 +258,19 @@ void FileCommands::saveAll()
     }
 }
 
-/** Shows the document as its file has it. */
-void FileCommands::revert()
+/** Does what the user decides when somebody else has changed the file of @p tab. */
+void FileCommands::answerConflicts(DocumentTab *tab)
 {
-    const QPointer<DocumentTab> tab = m_tabs->current(); // the question runs an event loop
+    const FileConflict *const conflict = tab->conflict();
+    connect(conflict, &FileConflict::reloadRequested, this, [this, tab] { revert(tab); });
+    connect(conflict, &FileConflict::saveRequested, this, [this, tab] { m_saver->save(tab); });
+    connect(conflict, &FileConflict::saveAsRequested, this, [this, tab] { m_saver->saveAs(tab); });
+}
+
+/** Shows the document as its file has it. */
+void FileCommands::revert(DocumentTab *tab)
+{
+    const QPointer<DocumentTab> alive(tab); // the question runs an event loop
     const QString path = tab->path();
     if (tab->document()->modified() &&
         QMessageBox::question(
@@ -287,7 +278,7 @@ void FileCommands::revert()
             tr("Give up all changes of %1 since it was saved?").arg(tab->name().toHtmlEscaped())) !=
             QMessageBox::Yes)
         return;
-    if (!tab)
+    if (!alive)
         return;
     if (m_arrivals->loadFishFromFile(path) != MODEL_NO_ERROR) {
         reportFailure(path, DocumentLoader::reasonOf(path));
@@ -296,8 +287,7 @@ void FileCommands::revert()
     }
     FishInfo *const document = m_arrivals->fishList().constLast();
     document->setCurrentFile(path);
-    Autosave::discard(tab->document());
-    Autosave::redirect(document);
+    tab->recovery()->discard();
     m_tabs->replace(tab, document);
 }
 
@@ -315,7 +305,7 @@ void FileCommands::closeTabs(const QList<DocumentTab *> &tabs)
             continue; // closed meanwhile
         if (!mayClose(tab))
             return;
-        Autosave::discard(tab->document());
+        tab->recovery()->discard();
         m_tabs->remove(tab);
     }
 }
@@ -342,7 +332,7 @@ void FileCommands::end()
     QStringList paths;
     const QList<DocumentTab *> tabs = m_tabs->tabs();
     for (const DocumentTab *tab : tabs) {
-        Autosave::discard(tab->document());
+        tab->recovery()->discard();
         if (!tab->path().isEmpty())
             paths.append(tab->path());
     }

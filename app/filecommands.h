@@ -31,6 +31,9 @@ public:
      * last time or the template. */
     void open(const QStringList &sources);
 
+    /** What loads the documents. */
+    DocumentLoader *loader() const { return m_loader; }
+
     /** Makes a document with a head alone, and selects that. */
     void newDocument();
 
@@ -57,16 +60,17 @@ private:
     void showLoaded(const QString &source, FishInfo *document);
     void reportFailure(const QString &source, const QString &reason);
     void showFailures();
-    DocumentTab *addTab(FishInfo *document);
+    void endCancelled(const QString &source);
+    void showSomething();
     void newFromBuiltInTemplate();
     void newFromTemplate(const QString &startFolder);
     void openFiles();
     void importFiles();
     void openChosen(const QString &title, const QString &filter);
     void openUrl();
-    void offerAutosave(const QString &path, DocumentTab *tab);
     void saveAll();
-    void revert();
+    void answerConflicts(DocumentTab *tab);
+    void revert(DocumentTab *tab);
     void closeCurrent();
     void closeTabs(const QList<DocumentTab *> &tabs);
     bool mayClose(DocumentTab *tab);

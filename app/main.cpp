@@ -60,6 +60,7 @@ int showWindow(const StartUp &startUp, const CommandLine &line)
     useDataFolder();
     MainWindow window;
     window.show();
+    window.offerRecovery();
     window.open(sources);
     return QApplication::exec();
 }

@@ -4,6 +4,7 @@
 #include <app/mainwindow.h>
 
 #include <app/actionset.h>
+#include <app/autosavestatus.h>
 #include <app/canvastheme.h>
 #include <app/detailspanel.h>
 #include <app/diagramsession.h>
@@ -17,11 +18,13 @@
 #include <app/helpcommands.h>
 #include <app/historypanel.h>
 #include <app/linkopener.h>
+#include <app/loadprogress.h>
 #include <app/menukeys.h>
 #include <app/menus.h>
 #include <app/minimap.h>
 #include <app/movecommands.h>
 #include <app/recentfiles.h>
+#include <app/recoverycommands.h>
 #include <app/subjecttree.h>
 #include <app/tabcommands.h>
 #include <app/typedtitle.h>
@@ -76,6 +79,7 @@ MainWindow::~MainWindow()
     m_tabs->disconnect(this);
     qDeleteAll(m_commands);
     delete m_files;
+    delete m_recovery;
     delete m_tabs;
 }
 
@@ -102,8 +106,12 @@ SubjectTree *MainWindow::tree() const
 void MainWindow::addCommands()
 {
     m_controls = new ZoomControls(editor(), this);
+    m_autosave = new AutosaveStatus(this);
+    statusBar()->addPermanentWidget(m_autosave);
     statusBar()->addPermanentWidget(m_controls);
     m_files = new FileCommands(m_tabs, m_recent, m_actions, this);
+    statusBar()->insertPermanentWidget(0, new LoadProgress(m_files->loader(), this));
+    m_recovery = new RecoveryCommands(m_tabs, m_actions, this);
     m_tabCommands = new TabCommands(m_tabs, m_actions, this);
     m_exports = new ExportCommands(session(), m_theme, m_actions, this);
     m_edits = new EditCommands(session(), m_actions, this);
@@ -159,6 +167,7 @@ void MainWindow::addBars()
 void MainWindow::connectCommands()
 {
     connect(m_files, &FileCommands::message, this, &MainWindow::showMessage);
+    connect(m_recovery, &RecoveryCommands::message, this, &MainWindow::showMessage);
     connect(m_exports, &ExportCommands::message, this, &MainWindow::showMessage);
     connect(m_edits, &EditCommands::message, this, &MainWindow::showMessage);
     connect(m_edits, &EditCommands::newDiagramWanted, this, &MainWindow::startDiagram);
@@ -223,6 +232,7 @@ void MainWindow::showTab(DocumentTab *tab)
     m_histories->setCurrentWidget(tab->history());
     m_controls->setEditor(tab->editor());
     m_overview->setSession(tab->session());
+    m_autosave->setCopy(tab->recovery());
     for (DiagramCommands *commands : qAsConst(m_commands))
         commands->setSession(tab->session());
     if (tab->document() && (wasInTabs || !QApplication::focusWidget()))
@@ -238,6 +248,11 @@ void MainWindow::showMessage(const QString &text)
 void MainWindow::open(const QStringList &sources)
 {
     m_files->open(sources);
+}
+
+void MainWindow::offerRecovery()
+{
+    m_recovery->offer();
 }
 
 /** Begins another diagram with its title. */

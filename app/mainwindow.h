@@ -7,6 +7,7 @@
 #include <QMainWindow>
 
 class ActionSet;
+class AutosaveStatus;
 class CanvasTheme;
 class DiagramCommands;
 class DiagramSession;
@@ -21,6 +22,7 @@ class FishModel;
 class Minimap;
 class QStackedWidget;
 class RecentFiles;
+class RecoveryCommands;
 class SubjectTree;
 class TabCommands;
 class ViewCommands;
@@ -52,6 +54,9 @@ public:
      * diagram. */
     void open(const QStringList &sources);
 
+    /** Lets the user bring back what an earlier run has left that did not end well. */
+    void offerRecovery();
+
 protected:
     void closeEvent(QCloseEvent *event) override;
     void changeEvent(QEvent *event) override;
@@ -77,7 +82,9 @@ private:
     DocumentTabs *m_tabs;
     ZoomControls *m_controls = nullptr;
     FileDrop *m_drops;
+    AutosaveStatus *m_autosave = nullptr;
     FileCommands *m_files = nullptr;
+    RecoveryCommands *m_recovery = nullptr;
     TabCommands *m_tabCommands = nullptr;
     EditCommands *m_edits = nullptr;
     ExportCommands *m_exports = nullptr;

@@ -2,6 +2,25 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en">
 <context>
+    <name>AutosaveStatus</name>
+    <message>
+        <source>Autosaved at %1</source>
+        <translation>Autosaved at %1</translation>
+    </message>
+    <message>
+        <source>A copy of the changes that are not saved is kept in %1</source>
+        <translation>A copy of the changes that are not saved is kept in %1</translation>
+    </message>
+    <message>
+        <source>Autosave failed at %1</source>
+        <translation>Autosave failed at %1</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written. Changes that are not saved would be lost if the program did not end well.</source>
+        <translation>%1 cannot be written. Changes that are not saved would be lost if the program did not end well.</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
     <message>
         <source>Show this help and quit.</source>
@@ -572,6 +591,10 @@ The exit code is 3 when anything is.</translation>
         <source>%1 has changes that are not saved.</source>
         <translation>%1 has changes that are not saved.</translation>
     </message>
+    <message>
+        <source>Another program has changed %1 since it was opened or saved here. Replace it, so that those changes are lost?</source>
+        <translation>Another program has changed %1 since it was opened or saved here. Replace it, so that those changes are lost?</translation>
+    </message>
 </context>
 <context>
     <name>DocumentTabs</name>
@@ -846,10 +869,6 @@ The exit code is 3 when anything is.</translation>
         <translation>Open &amp;URL…</translation>
     </message>
     <message>
-        <source>Open an a&amp;utosave…</source>
-        <translation>Open an autosa&amp;ve…</translation>
-    </message>
-    <message>
         <source>&amp;Save</source>
         <translation>&amp;Save</translation>
     </message>
@@ -872,14 +891,6 @@ The exit code is 3 when anything is.</translation>
     <message>
         <source>%1 loaded</source>
         <translation>%1 loaded</translation>
-    </message>
-    <message>
-        <source>There is an autosave of %1 from %2, which an earlier run did not remove. Show that instead?</source>
-        <translation>There is an autosave of %1 from %2, which an earlier run did not remove. Show that instead?</translation>
-    </message>
-    <message>
-        <source>Autosave</source>
-        <translation>Autosave</translation>
     </message>
     <message>
         <source>cannot open %1: %2</source>
@@ -928,6 +939,41 @@ The exit code is 3 when anything is.</translation>
     <message>
         <source>Give up all changes of %1 since it was saved?</source>
         <translation>Give up all changes of %1 since it was saved?</translation>
+    </message>
+    <message>
+        <source>%1 was not loaded</source>
+        <translation>%1 was not loaded</translation>
+    </message>
+</context>
+<context>
+    <name>FileConflict</name>
+    <message>
+        <source>Another program has changed %1.</source>
+        <translation>Another program has changed %1.</translation>
+    </message>
+    <message>
+        <source>Re&amp;load</source>
+        <translation>Re&amp;load</translation>
+    </message>
+    <message>
+        <source>&amp;Keep mine</source>
+        <translation>&amp;Keep mine</translation>
+    </message>
+    <message>
+        <source>Save &amp;under another name…</source>
+        <translation>Save &amp;under another name…</translation>
+    </message>
+    <message>
+        <source>%1 was deleted, moved or renamed by another program.</source>
+        <translation>%1 was deleted, moved or renamed by another program.</translation>
+    </message>
+    <message>
+        <source>Save agai&amp;n</source>
+        <translation>Save agai&amp;n</translation>
+    </message>
+    <message>
+        <source>&amp;Hide</source>
+        <translation>&amp;Hide</translation>
     </message>
 </context>
 <context>
@@ -1085,6 +1131,21 @@ Do you want to save your changes?</translation>
     <message>
         <source>This link is neither a web page nor a mail address. Open it?</source>
         <translation>This link is neither a web page nor a mail address. Open it?</translation>
+    </message>
+</context>
+<context>
+    <name>LoadProgress</name>
+    <message>
+        <source>Loading</source>
+        <translation>Loading</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>%1 received</source>
+        <translation>%1 received</translation>
     </message>
 </context>
 <context>
@@ -1450,6 +1511,90 @@ Do you want to save your changes?</translation>
     <message>
         <source>&amp;Clear the list</source>
         <translation>&amp;Clear the list</translation>
+    </message>
+</context>
+<context>
+    <name>RecoveryCommands</name>
+    <message>
+        <source>Reco&amp;ver documents…</source>
+        <translation>Reco&amp;ver documents…</translation>
+    </message>
+    <message>
+        <source>There is nothing to recover.</source>
+        <translation>There is nothing to recover.</translation>
+    </message>
+    <message>
+        <source>%1 recovered</source>
+        <translation>%1 recovered</translation>
+    </message>
+    <message>
+        <source>Recover documents</source>
+        <translation>Recover documents</translation>
+    </message>
+    <message>
+        <source>%1 cannot be recovered from %2: %3.</source>
+        <translation>%1 cannot be recovered from %2: %3.</translation>
+    </message>
+</context>
+<context>
+    <name>RecoveryDialog</name>
+    <message>
+        <source>Recover documents</source>
+        <translation>Recover documents</translation>
+    </message>
+    <message>
+        <source>The program did not end well the last time. These documents have changes that were not saved:</source>
+        <translation>The program did not end well the last time. These documents have changes that were not saved:</translation>
+    </message>
+    <message>
+        <source>Documents with changes that were not saved</source>
+        <translation>Documents with changes that were not saved</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>&amp;Open</translation>
+    </message>
+    <message>
+        <source>&amp;Discard</source>
+        <translation>&amp;Discard</translation>
+    </message>
+    <message>
+        <source>&amp;Later</source>
+        <translation>&amp;Later</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Discard</translation>
+    </message>
+    <message numerus="yes">
+        <source>Give up the changes of %n document(s) for good?</source>
+        <translation>
+            <numerusform>Give up the changes of %n document for good?</numerusform>
+            <numerusform>Give up the changes of %n documents for good?</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>RecoveryModel</name>
+    <message>
+        <source>Document</source>
+        <translation>Document</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>File</translation>
+    </message>
+    <message>
+        <source>Autosaved</source>
+        <translation>Autosaved</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Size</translation>
+    </message>
+    <message>
+        <source>(never saved)</source>
+        <translation>(never saved)</translation>
     </message>
 </context>
 <context>

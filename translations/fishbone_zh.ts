@@ -2,6 +2,25 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh">
 <context>
+    <name>AutosaveStatus</name>
+    <message>
+        <source>Autosaved at %1</source>
+        <translation>已于 %1 自动保存</translation>
+    </message>
+    <message>
+        <source>A copy of the changes that are not saved is kept in %1</source>
+        <translation>未保存更改的副本保存在 %1</translation>
+    </message>
+    <message>
+        <source>Autosave failed at %1</source>
+        <translation>%1 自动保存失败</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written. Changes that are not saved would be lost if the program did not end well.</source>
+        <translation>无法写入 %1。如果程序异常结束，未保存的更改将会丢失。</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
     <message>
         <source>Show this help and quit.</source>
@@ -572,6 +591,10 @@ The exit code is 3 when anything is.</source>
         <source>%1 has changes that are not saved.</source>
         <translation>%1 有尚未保存的更改。</translation>
     </message>
+    <message>
+        <source>Another program has changed %1 since it was opened or saved here. Replace it, so that those changes are lost?</source>
+        <translation>自从在此处打开或保存以来，另一个程序更改了 %1。要替换它并丢失那些更改吗？</translation>
+    </message>
 </context>
 <context>
     <name>DocumentTabs</name>
@@ -846,10 +869,6 @@ The exit code is 3 when anything is.</source>
         <translation>打开网址(&amp;U)…</translation>
     </message>
     <message>
-        <source>Open an a&amp;utosave…</source>
-        <translation>打开自动保存的文件(&amp;V)…</translation>
-    </message>
-    <message>
         <source>&amp;Save</source>
         <translation>保存(&amp;S)</translation>
     </message>
@@ -872,14 +891,6 @@ The exit code is 3 when anything is.</source>
     <message>
         <source>%1 loaded</source>
         <translation>已加载 %1</translation>
-    </message>
-    <message>
-        <source>There is an autosave of %1 from %2, which an earlier run did not remove. Show that instead?</source>
-        <translation>%1 有一份 %2 的自动保存文件，是先前运行时留下的。要改为显示它吗？</translation>
-    </message>
-    <message>
-        <source>Autosave</source>
-        <translation>自动保存</translation>
     </message>
     <message>
         <source>cannot open %1: %2</source>
@@ -928,6 +939,41 @@ The exit code is 3 when anything is.</source>
     <message>
         <source>Give up all changes of %1 since it was saved?</source>
         <translation>放弃 %1 自上次保存以来的所有更改吗？</translation>
+    </message>
+    <message>
+        <source>%1 was not loaded</source>
+        <translation>未加载 %1</translation>
+    </message>
+</context>
+<context>
+    <name>FileConflict</name>
+    <message>
+        <source>Another program has changed %1.</source>
+        <translation>另一个程序更改了 %1。</translation>
+    </message>
+    <message>
+        <source>Re&amp;load</source>
+        <translation>重新加载(&amp;L)</translation>
+    </message>
+    <message>
+        <source>&amp;Keep mine</source>
+        <translation>保留我的版本(&amp;K)</translation>
+    </message>
+    <message>
+        <source>Save &amp;under another name…</source>
+        <translation>另存为其他名称(&amp;U)…</translation>
+    </message>
+    <message>
+        <source>%1 was deleted, moved or renamed by another program.</source>
+        <translation>%1 已被另一个程序删除、移动或重命名。</translation>
+    </message>
+    <message>
+        <source>Save agai&amp;n</source>
+        <translation>再次保存(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Hide</source>
+        <translation>隐藏(&amp;I)</translation>
     </message>
 </context>
 <context>
@@ -1084,6 +1130,21 @@ Do you want to save your changes?</source>
     <message>
         <source>This link is neither a web page nor a mail address. Open it?</source>
         <translation>此链接既不是网页，也不是邮件地址。要打开它吗？</translation>
+    </message>
+</context>
+<context>
+    <name>LoadProgress</name>
+    <message>
+        <source>Loading</source>
+        <translation>正在加载</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>%1 received</source>
+        <translation>已接收 %1</translation>
     </message>
 </context>
 <context>
@@ -1446,6 +1507,89 @@ Do you want to save your changes?</source>
     <message>
         <source>&amp;Clear the list</source>
         <translation>清空列表(&amp;C)</translation>
+    </message>
+</context>
+<context>
+    <name>RecoveryCommands</name>
+    <message>
+        <source>Reco&amp;ver documents…</source>
+        <translation>恢复文档(&amp;V)…</translation>
+    </message>
+    <message>
+        <source>There is nothing to recover.</source>
+        <translation>没有可恢复的内容。</translation>
+    </message>
+    <message>
+        <source>%1 recovered</source>
+        <translation>已恢复 %1</translation>
+    </message>
+    <message>
+        <source>Recover documents</source>
+        <translation>恢复文档</translation>
+    </message>
+    <message>
+        <source>%1 cannot be recovered from %2: %3.</source>
+        <translation>无法从 %2 恢复 %1：%3。</translation>
+    </message>
+</context>
+<context>
+    <name>RecoveryDialog</name>
+    <message>
+        <source>Recover documents</source>
+        <translation>恢复文档</translation>
+    </message>
+    <message>
+        <source>The program did not end well the last time. These documents have changes that were not saved:</source>
+        <translation>程序上次未正常结束。以下文档有未保存的更改：</translation>
+    </message>
+    <message>
+        <source>Documents with changes that were not saved</source>
+        <translation>有未保存更改的文档</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>打开(&amp;O)</translation>
+    </message>
+    <message>
+        <source>&amp;Discard</source>
+        <translation>放弃(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Later</source>
+        <translation>以后再说(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>放弃</translation>
+    </message>
+    <message numerus="yes">
+        <source>Give up the changes of %n document(s) for good?</source>
+        <translation>
+            <numerusform>永久放弃 %n 个文档的更改吗？</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>RecoveryModel</name>
+    <message>
+        <source>Document</source>
+        <translation>文档</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>文件</translation>
+    </message>
+    <message>
+        <source>Autosaved</source>
+        <translation>自动保存时间</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>大小</translation>
+    </message>
+    <message>
+        <source>(never saved)</source>
+        <translation>（从未保存）</translation>
     </message>
 </context>
 <context>

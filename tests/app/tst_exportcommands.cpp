@@ -6,7 +6,7 @@
 
 #include <tests/support/modaldriver.h>
 
-#include <app/autosave.h>
+#include <app/recoverystore.h>
 
 #include <fishbone/exchange/diagramexchange.h>
 
@@ -50,7 +50,7 @@ void TestExportCommands::initTestCase()
 
 void TestExportCommands::init()
 {
-    QDir(Autosave::folder()).removeRecursively();
+    QDir(RecoveryStore::folder()).removeRecursively();
 }
 
 void TestExportCommands::shouldExportEveryForeignFormat_data()

@@ -6,7 +6,7 @@
 
 #include <tests/support/modaldriver.h>
 
-#include <app/autosave.h>
+#include <app/recoverystore.h>
 #include <app/exportdialog.h>
 
 #include <QComboBox>
@@ -41,7 +41,7 @@ void TestExportDialog::initTestCase()
 
 void TestExportDialog::init()
 {
-    QDir(Autosave::folder()).removeRecursively();
+    QDir(RecoveryStore::folder()).removeRecursively();
 }
 
 void TestExportDialog::shouldExportAPicture()

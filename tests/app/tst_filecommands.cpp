@@ -6,7 +6,7 @@
 
 #include <tests/support/modaldriver.h>
 
-#include <app/autosave.h>
+#include <app/recoverystore.h>
 
 #include <QFileDialog>
 #include <QMessageBox>
@@ -51,7 +51,7 @@ void TestFileCommands::initTestCase()
 
 void TestFileCommands::init()
 {
-    QDir(Autosave::folder()).removeRecursively();
+    QDir(RecoveryStore::folder()).removeRecursively();
 }
 
 void TestFileCommands::shouldSaveToTheDocumentsFile()

@@ -6,7 +6,7 @@
 
 #include <tests/support/modaldriver.h>
 
-#include <app/autosave.h>
+#include <app/recoverystore.h>
 
 #include <fishbone/exchange/diagramexchange.h>
 
@@ -43,7 +43,7 @@ void TestFileCommandsForeign::initTestCase()
 
 void TestFileCommandsForeign::init()
 {
-    QDir(Autosave::folder()).removeRecursively();
+    QDir(RecoveryStore::folder()).removeRecursively();
 }
 
 void TestFileCommandsForeign::shouldOpenEveryForeignFormat_data()
