@@ -13,8 +13,10 @@
 #include <app/lastdocuments.h>
 #include <app/recentfiles.h>
 #include <app/recoverycopy.h>
+#include <app/welcome.h>
 
 #include <fishbone/dialogs/urldialog.h>
+#include <fishbone/editor/fisheditor.h>
 #include <fishbone/exchange/diagramexchange.h>
 #include <fishbone/model/fishinfo.h>
 #include <fishbone/model/fishmodel.h>
@@ -75,6 +77,7 @@ void FileCommands::addOpenActions()
 {
     add("new", tr("&New"), QKeySequence::New, &FileCommands::newDocument);
     add("newExample", tr("New from the &example"), {}, &FileCommands::newFromBuiltInTemplate);
+    add("welcome", tr("&Welcome diagram"), {}, &FileCommands::newWelcome);
     m_actions->add(QStringLiteral("newFromTemplate"), tr("New from &template…"), {},
                    ActionSet::Scope::Window,
                    [this] { newFromTemplate(m_tabs->current()->session()->folder()); });
@@ -127,8 +130,12 @@ void FileCommands::open(const QStringList &sources)
     const QStringList wanted = sources.isEmpty() ? LastDocuments::files() : sources;
     if (sources.isEmpty())
         m_shownAtLast = LastDocuments::shownFile();
-    if (wanted.isEmpty() && m_tabs->tabs().isEmpty())
-        newFromBuiltInTemplate();
+    if (wanted.isEmpty() && m_tabs->tabs().isEmpty()) {
+        if (Welcome::isFirstStart())
+            newWelcome();
+        else
+            newFromBuiltInTemplate();
+    }
     for (const QString &source : wanted)
         m_loader->load(source);
 }
@@ -204,6 +211,16 @@ void FileCommands::newFromBuiltInTemplate()
 {
     if (m_arrivals->loadFishTempl() == MODEL_NO_ERROR)
         m_tabs->add(m_arrivals->fishList().constLast());
+}
+
+/** Opens the diagram that teaches the keys, with all of it in view. */
+void FileCommands::newWelcome()
+{
+    m_arrivals->insertExistItemRows(QModelIndex(), {Welcome::diagram().release()});
+    FishInfo *const document = m_arrivals->fishList().constLast();
+    document->setFileName(tr("Welcome") + QStringLiteral(".json"));
+    m_tabs->add(document)->editor()->expandAll();
+    m_actions->action(QStringLiteral("fit"))->trigger();
 }
 
 void FileCommands::newFromTemplate(const QString &folder)

@@ -63,6 +63,7 @@ private:
     void endCancelled(const QString &source);
     void showSomething();
     void newFromBuiltInTemplate();
+    void newWelcome();
     void newFromTemplate(const QString &startFolder);
     void openFiles();
     void importFiles();

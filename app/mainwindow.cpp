@@ -7,6 +7,7 @@
 #include <app/autosavestatus.h>
 #include <app/canvastheme.h>
 #include <app/detailspanel.h>
+#include <app/diagramcounts.h>
 #include <app/diagramsession.h>
 #include <app/documenttab.h>
 #include <app/documenttabs.h>
@@ -107,6 +108,8 @@ void MainWindow::addCommands()
 {
     m_controls = new ZoomControls(editor(), this);
     m_autosave = new AutosaveStatus(this);
+    m_counts = new DiagramCounts(this);
+    statusBar()->addPermanentWidget(m_counts);
     statusBar()->addPermanentWidget(m_autosave);
     statusBar()->addPermanentWidget(m_controls);
     m_files = new FileCommands(m_tabs, m_recent, m_actions, this);
@@ -232,6 +235,7 @@ void MainWindow::showTab(DocumentTab *tab)
     m_histories->setCurrentWidget(tab->history());
     m_controls->setEditor(tab->editor());
     m_overview->setSession(tab->session());
+    m_counts->setSession(tab->session());
     m_autosave->setCopy(tab->recovery());
     for (DiagramCommands *commands : qAsConst(m_commands))
         commands->setSession(tab->session());

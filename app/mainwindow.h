@@ -10,6 +10,7 @@ class ActionSet;
 class AutosaveStatus;
 class CanvasTheme;
 class DiagramCommands;
+class DiagramCounts;
 class DiagramSession;
 class DocumentTab;
 class DocumentTabs;
@@ -95,4 +96,5 @@ private:
     QStackedWidget *m_histories = nullptr;
     QStackedWidget *m_overviews = nullptr;
     Minimap *m_overview = nullptr;
+    DiagramCounts *m_counts = nullptr;
 };

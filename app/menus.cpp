@@ -37,8 +37,8 @@ constexpr Bar menus[] = {
     {"viewMenu", QT_TRANSLATE_NOOP("Menus", "&View"),
      "zoomin zoomout fullsize fit fitselection | rotateLeft rotateRight rotateReset | expand "
      "contract expandall contractall | asDiagram back whole visited | diagramMode taskMode | "
-     "canvasStyle"},
-    {"helpMenu", QT_TRANSLATE_NOOP("Menus", "&Help"), "keys | about aboutQt"},
+     "canvasStyle | fullScreen"},
+    {"helpMenu", QT_TRANSLATE_NOOP("Menus", "&Help"), "keys welcome | about aboutQt"},
 };
 
 constexpr Bar toolBars[] = {

@@ -305,6 +305,23 @@ The exit code is 3 when anything is.</translation>
     </message>
 </context>
 <context>
+    <name>DiagramCounts</name>
+    <message numerus="yes">
+        <source>%n subject(s)</source>
+        <translation>
+            <numerusform>%n subject</numerusform>
+            <numerusform>%n subjects</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>, %n selected</source>
+        <translation>
+            <numerusform>, %n selected</numerusform>
+            <numerusform>, %n selected</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>DiagramExchange</name>
     <message>
         <source>it holds no diagram</source>
@@ -943,6 +960,14 @@ The exit code is 3 when anything is.</translation>
     <message>
         <source>%1 was not loaded</source>
         <translation>%1 was not loaded</translation>
+    </message>
+    <message>
+        <source>&amp;Welcome diagram</source>
+        <translation>&amp;Welcome diagram</translation>
+    </message>
+    <message>
+        <source>Welcome</source>
+        <translation>Welcome</translation>
     </message>
 </context>
 <context>
@@ -1901,6 +1926,10 @@ Do you want to save your changes?</translation>
         <source>(nothing yet)</source>
         <translation>(nothing yet)</translation>
     </message>
+    <message>
+        <source>F&amp;ull screen</source>
+        <translation>F&amp;ull screen</translation>
+    </message>
 </context>
 <context>
     <name>WalkCommands</name>
@@ -1935,6 +1964,109 @@ Do you want to save your changes?</translation>
     <message>
         <source>To the &amp;next one</source>
         <translation>To the &amp;next one</translation>
+    </message>
+</context>
+<context>
+    <name>Welcome</name>
+    <message>
+        <source>Your first fishbone</source>
+        <translation>Your first fishbone</translation>
+    </message>
+    <message>
+        <source>Build it</source>
+        <translation>Build it</translation>
+    </message>
+    <message>
+        <source>Tab: a child</source>
+        <translation>Tab: a child</translation>
+    </message>
+    <message>
+        <source>Enter: one after it</source>
+        <translation>Enter: one after it</translation>
+    </message>
+    <message>
+        <source>Shift+Enter: one before it</source>
+        <translation>Shift+Enter: one before it</translation>
+    </message>
+    <message>
+        <source>Ctrl+Enter: a parent</source>
+        <translation>Ctrl+Enter: a parent</translation>
+    </message>
+    <message>
+        <source>Change it</source>
+        <translation>Change it</translation>
+    </message>
+    <message>
+        <source>Just type: a new title</source>
+        <translation>Just type: a new title</translation>
+    </message>
+    <message>
+        <source>F2: edit the title</source>
+        <translation>F2: edit the title</translation>
+    </message>
+    <message>
+        <source>F4: details</source>
+        <translation>F4: details</translation>
+    </message>
+    <message>
+        <source>Ctrl+Z: undo</source>
+        <translation>Ctrl+Z: undo</translation>
+    </message>
+    <message>
+        <source>Walk in it</source>
+        <translation>Walk in it</translation>
+    </message>
+    <message>
+        <source>Arrows: as you see it</source>
+        <translation>Arrows: as you see it</translation>
+    </message>
+    <message>
+        <source>Ctrl+arrows: by level</source>
+        <translation>Ctrl+arrows: by level</translation>
+    </message>
+    <message>
+        <source>+ and −: expand, contract</source>
+        <translation>+ and −: expand, contract</translation>
+    </message>
+    <message>
+        <source>Rearrange it</source>
+        <translation>Rearrange it</translation>
+    </message>
+    <message>
+        <source>Drag a bone onto another</source>
+        <translation>Drag a bone onto another</translation>
+    </message>
+    <message>
+        <source>Alt+arrows: move a bone</source>
+        <translation>Alt+arrows: move a bone</translation>
+    </message>
+    <message>
+        <source>Look at it</source>
+        <translation>Look at it</translation>
+    </message>
+    <message>
+        <source>Home: all of it</source>
+        <translation>Home: all of it</translation>
+    </message>
+    <message>
+        <source>Ctrl+wheel: zoom</source>
+        <translation>Ctrl+wheel: zoom</translation>
+    </message>
+    <message>
+        <source>Take it with you</source>
+        <translation>Take it with you</translation>
+    </message>
+    <message>
+        <source>Ctrl+S: save</source>
+        <translation>Ctrl+S: save</translation>
+    </message>
+    <message>
+        <source>Ctrl+E: a picture</source>
+        <translation>Ctrl+E: a picture</translation>
+    </message>
+    <message>
+        <source>F1: all keys</source>
+        <translation>F1: all keys</translation>
     </message>
 </context>
 <context>

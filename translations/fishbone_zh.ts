@@ -305,6 +305,21 @@ The exit code is 3 when anything is.</source>
     </message>
 </context>
 <context>
+    <name>DiagramCounts</name>
+    <message numerus="yes">
+        <source>%n subject(s)</source>
+        <translation>
+            <numerusform>%n 个主题</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>, %n selected</source>
+        <translation>
+            <numerusform>，选中 %n 个</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>DiagramExchange</name>
     <message>
         <source>it holds no diagram</source>
@@ -943,6 +958,14 @@ The exit code is 3 when anything is.</source>
     <message>
         <source>%1 was not loaded</source>
         <translation>未加载 %1</translation>
+    </message>
+    <message>
+        <source>&amp;Welcome diagram</source>
+        <translation>欢迎图(&amp;W)</translation>
+    </message>
+    <message>
+        <source>Welcome</source>
+        <translation>欢迎</translation>
     </message>
 </context>
 <context>
@@ -1896,6 +1919,10 @@ Do you want to save your changes?</source>
         <source>(nothing yet)</source>
         <translation>（暂无）</translation>
     </message>
+    <message>
+        <source>F&amp;ull screen</source>
+        <translation>全屏(&amp;U)</translation>
+    </message>
 </context>
 <context>
     <name>WalkCommands</name>
@@ -1930,6 +1957,109 @@ Do you want to save your changes?</source>
     <message>
         <source>To the &amp;next one</source>
         <translation>到后一主题(&amp;N)</translation>
+    </message>
+</context>
+<context>
+    <name>Welcome</name>
+    <message>
+        <source>Your first fishbone</source>
+        <translation>您的第一张鱼骨图</translation>
+    </message>
+    <message>
+        <source>Build it</source>
+        <translation>创建</translation>
+    </message>
+    <message>
+        <source>Tab: a child</source>
+        <translation>Tab：子主题</translation>
+    </message>
+    <message>
+        <source>Enter: one after it</source>
+        <translation>Enter：之后插入</translation>
+    </message>
+    <message>
+        <source>Shift+Enter: one before it</source>
+        <translation>Shift+Enter：之前插入</translation>
+    </message>
+    <message>
+        <source>Ctrl+Enter: a parent</source>
+        <translation>Ctrl+Enter：父主题</translation>
+    </message>
+    <message>
+        <source>Change it</source>
+        <translation>修改</translation>
+    </message>
+    <message>
+        <source>Just type: a new title</source>
+        <translation>直接输入：新标题</translation>
+    </message>
+    <message>
+        <source>F2: edit the title</source>
+        <translation>F2：编辑标题</translation>
+    </message>
+    <message>
+        <source>F4: details</source>
+        <translation>F4：详细信息</translation>
+    </message>
+    <message>
+        <source>Ctrl+Z: undo</source>
+        <translation>Ctrl+Z：撤销</translation>
+    </message>
+    <message>
+        <source>Walk in it</source>
+        <translation>移动选择</translation>
+    </message>
+    <message>
+        <source>Arrows: as you see it</source>
+        <translation>方向键：按画面移动</translation>
+    </message>
+    <message>
+        <source>Ctrl+arrows: by level</source>
+        <translation>Ctrl+方向键：按层级移动</translation>
+    </message>
+    <message>
+        <source>+ and −: expand, contract</source>
+        <translation>+ 和 −：展开、收起</translation>
+    </message>
+    <message>
+        <source>Rearrange it</source>
+        <translation>调整</translation>
+    </message>
+    <message>
+        <source>Drag a bone onto another</source>
+        <translation>把骨头拖到另一根上</translation>
+    </message>
+    <message>
+        <source>Alt+arrows: move a bone</source>
+        <translation>Alt+方向键：移动骨头</translation>
+    </message>
+    <message>
+        <source>Look at it</source>
+        <translation>查看</translation>
+    </message>
+    <message>
+        <source>Home: all of it</source>
+        <translation>Home：显示全部</translation>
+    </message>
+    <message>
+        <source>Ctrl+wheel: zoom</source>
+        <translation>Ctrl+滚轮：缩放</translation>
+    </message>
+    <message>
+        <source>Take it with you</source>
+        <translation>带走</translation>
+    </message>
+    <message>
+        <source>Ctrl+S: save</source>
+        <translation>Ctrl+S：保存</translation>
+    </message>
+    <message>
+        <source>Ctrl+E: a picture</source>
+        <translation>Ctrl+E：导出图片</translation>
+    </message>
+    <message>
+        <source>F1: all keys</source>
+        <translation>F1：所有快捷键</translation>
     </message>
 </context>
 <context>

@@ -15,6 +15,7 @@ class TestViewCommands : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void shouldFillTheScreenAndComeBack();
     void initTestCase();
     void shouldZoomWithSliderActionsAndWheel();
     void shouldKeepTheZoomWithinTheSlidersRange();
@@ -223,6 +224,19 @@ void TestViewCommands::shouldPrintOnPaper()
     }
     QVERIFY(theme->isDark());
     QCOMPARE(app.window.editor()->view()->backgroundBrush().color(), theme->canvasColor());
+}
+
+void TestViewCommands::shouldFillTheScreenAndComeBack()
+{
+    AppFixture app;
+    const QSize before = app.window.size();
+    QTest::keyClick(&app.window, Qt::Key_F11);
+    AppFixture::settle();
+    QVERIFY(app.window.isFullScreen());
+    QTest::keyClick(&app.window, Qt::Key_F11);
+    AppFixture::settle();
+    QVERIFY(!app.window.isFullScreen());
+    QCOMPARE(app.window.size(), before);
 }
 
 QTEST_MAIN(TestViewCommands)
