@@ -72,7 +72,7 @@ void PrintPreview::addControls()
     m_percent->setAccessibleName(tr("Scale in percent"));
     m_percent->setToolTip(m_percent->accessibleName());
     m_percent->setRange(5, 400);
-    m_percent->setSuffix(tr(" %"));
+    m_percent->setSuffix(QStringLiteral(" %"));
     m_percent->setKeyboardTracking(false);
     m_pages->setObjectName(QStringLiteral("pages"));
     m_pages->setMargin(4);

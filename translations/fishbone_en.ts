@@ -1477,10 +1477,6 @@ Do you want to save your changes?</translation>
         <source>Scale in percent</source>
         <translation>Scale in percent</translation>
     </message>
-    <message>
-        <source> %</source>
-        <translation> %</translation>
-    </message>
     <message numerus="yes">
         <source>%n page(s)</source>
         <translation>

@@ -1473,10 +1473,6 @@ Do you want to save your changes?</source>
         <source>Scale in percent</source>
         <translation>缩放百分比</translation>
     </message>
-    <message>
-        <source> %</source>
-        <translation> %</translation>
-    </message>
     <message numerus="yes">
         <source>%n page(s)</source>
         <translation>
