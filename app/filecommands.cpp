@@ -251,9 +251,9 @@ void FileCommands::openUrl()
 
 void FileCommands::saveAll()
 {
-    const QList<DocumentTab *> tabs = m_tabs->tabs();
-    for (DocumentTab *tab : tabs) {
-        if (tab->document()->modified() && !m_saver->save(tab))
+    const QList<QPointer<DocumentTab>> tabs = openAmong(m_tabs->tabs());
+    for (const QPointer<DocumentTab> &tab : tabs) {
+        if (tab && tab->document()->modified() && !m_saver->save(tab))
             return;
     }
 }
@@ -300,14 +300,27 @@ void FileCommands::closeCurrent()
 /** Closes @p tabs up to the first one that the user wants to keep. */
 void FileCommands::closeTabs(const QList<DocumentTab *> &tabs)
 {
-    for (DocumentTab *tab : tabs) {
-        if (!m_tabs->tabs().contains(tab))
-            continue; // closed meanwhile
-        if (!mayClose(tab))
+    const QList<QPointer<DocumentTab>> open = openAmong(tabs);
+    for (const QPointer<DocumentTab> &tab : open) {
+        if (tab && !mayClose(tab))
             return;
+        if (!tab)
+            continue;
         tab->recovery()->discard();
         m_tabs->remove(tab);
     }
+}
+
+/** Those of @p tabs that are open, guarded: each question runs an event loop. */
+QList<QPointer<DocumentTab>> FileCommands::openAmong(const QList<DocumentTab *> &tabs) const
+{
+    QList<QPointer<DocumentTab>> found;
+    const QList<DocumentTab *> open = m_tabs->tabs();
+    for (DocumentTab *tab : tabs) {
+        if (open.contains(tab))
+            found.append(tab);
+    }
+    return found;
 }
 
 bool FileCommands::mayClose(DocumentTab *tab)
@@ -319,9 +332,9 @@ bool FileCommands::mayClose(DocumentTab *tab)
 
 bool FileCommands::mayCloseAll()
 {
-    const QList<DocumentTab *> tabs = m_tabs->tabs();
-    for (DocumentTab *tab : tabs) {
-        if (!mayClose(tab))
+    const QList<QPointer<DocumentTab>> tabs = openAmong(m_tabs->tabs());
+    for (const QPointer<DocumentTab> &tab : tabs) {
+        if (tab && !mayClose(tab))
             return false;
     }
     return true;
