@@ -27,6 +27,7 @@
 #include <QUrl>
 
 #include <cstdio>
+#include <functional>
 
 namespace {
 
@@ -87,17 +88,18 @@ void FileCommands::addSaveActions()
 {
     const auto addForTab = [this](const char *name, const QString &text,
                                   const QKeySequence &shortcut,
-                                  bool (DocumentSaver::*run)(DocumentTab *)) {
+                                  std::function<void(DocumentTab *)> run) {
         m_actions->add(QLatin1String(name), text, {shortcut}, ActionSet::Scope::Window,
-                       [this, run] { (m_saver->*run)(m_tabs->current()); });
+                       [this, run = std::move(run)] { run(m_tabs->current()); });
     };
-    addForTab("save", tr("&Save"), QKeySequence::Save, &DocumentSaver::save);
+    addForTab("save", tr("&Save"), QKeySequence::Save,
+              [this](DocumentTab *tab) { m_saver->save(tab); });
     addForTab("saveAs", tr("Save &as…"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S),
-              &DocumentSaver::saveAs);
-    addForTab("saveCopy", tr("Save a cop&y…"), {}, &DocumentSaver::saveCopy);
+              [this](DocumentTab *tab) { m_saver->saveAs(tab); });
+    addForTab("saveCopy", tr("Save a cop&y…"), {},
+              [this](DocumentTab *tab) { m_saver->saveCopy(tab); });
+    addForTab("revert", tr("Revert to &file"), {}, [this](DocumentTab *tab) { revert(tab); });
     add("saveAll", tr("Save a&ll"), {}, &FileCommands::saveAll);
-    m_actions->add(QStringLiteral("revert"), tr("Revert to &file"), {}, ActionSet::Scope::Window,
-                   [this] { revert(m_tabs->current()); });
 }
 
 void FileCommands::addCloseActions()
