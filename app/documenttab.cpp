@@ -122,7 +122,7 @@ void DocumentTab::followState()
 {
     m_details->showSubject(m_editor->firstSelectedSpearIndex());
     m_tree->view()->viewport()->update(); // not every change of a title is announced
-    const QList<FishInfo *> documents = m_model->fishList();
-    for (FishInfo *came : documents.mid(1))
-        Q_EMIT documentCame(came);
+    const QList<FishInfo *> others = m_model->fishList().mid(1);
+    for (FishInfo *other : others)
+        Q_EMIT documentCame(other);
 }

@@ -102,9 +102,9 @@ void EditCommands::addInsertActions()
     add("child", tr("&Child subject"), {Qt::Key_Tab, Qt::Key_Insert},
         [this] { insertAndRename([this] { m_editor->insertChildSubject(); }); });
     add("before", tr("Subject &before"), returnWith(Qt::SHIFT),
-        [this] { insertSibling(&FishEditor::insertSubject); });
+        [this] { insertSibling([this] { m_editor->insertSubject(); }); });
     add("after", tr("Subject &after"), returnWith(0),
-        [this] { insertSibling(&FishEditor::appendSubject); });
+        [this] { insertSibling([this] { m_editor->appendSubject(); }); });
     add("parent", tr("&Parent subject"), returnWith(Qt::CTRL),
         [this] { insertAndRename([this] { m_editor->insertParentSubject(); }); });
     add("free", tr("&Free subject (a new diagram)"), returnWith(Qt::CTRL | Qt::SHIFT),
@@ -143,11 +143,11 @@ void EditCommands::insertAndRename(const std::function<void()> &edit)
 }
 
 /** Inserts beside the selected subject. Beside the head of a diagram there is another diagram. */
-void EditCommands::insertSibling(void (FishEditor::*insert)())
+void EditCommands::insertSibling(const std::function<void()> &edit)
 {
     const SpearItem *const spear = m_editor->firstSelectedSpear();
     if (spear && spear->modelIndex().parent().isValid())
-        insertAndRename([this, insert] { (m_editor->*insert)(); });
+        insertAndRename(edit);
     else if (spear)
         Q_EMIT newDiagramWanted();
 }

@@ -48,7 +48,7 @@ private:
     void add(const char *name, const QString &text, const QList<QKeySequence> &shortcuts,
              std::function<void()> run);
     void insertAndRename(const std::function<void()> &edit);
-    void insertSibling(void (FishEditor::*insert)());
+    void insertSibling(const std::function<void()> &edit);
     void changeStyle(const std::function<void()> &edit);
 
     QWidget *m_window;

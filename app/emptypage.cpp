@@ -34,7 +34,7 @@ EmptyPage::EmptyPage(const ActionSet &actions, RecentFiles *recent, QWidget *par
         buttons->addWidget(button);
     }
     auto *const hint = new QLabel(tr("Files can also be dragged into this window."), this);
-    hint->setForegroundRole(QPalette::PlaceholderText);
+    hint->setEnabled(false); // as what can be left out
     m_list->setObjectName(QStringLiteral("recentList"));
     m_list->setAccessibleName(m_label->text());
     m_label->setBuddy(m_list);

@@ -29,6 +29,7 @@
 #include <QUrl>
 
 #include <cstdio>
+#include <functional>
 
 namespace {
 
@@ -90,17 +91,18 @@ void FileCommands::addSaveActions()
 {
     const auto addForTab = [this](const char *name, const QString &text,
                                   const QKeySequence &shortcut,
-                                  bool (DocumentSaver::*run)(DocumentTab *)) {
+                                  std::function<void(DocumentTab *)> run) {
         m_actions->add(QLatin1String(name), text, {shortcut}, ActionSet::Scope::Window,
-                       [this, run] { (m_saver->*run)(m_tabs->current()); });
+                       [this, run = std::move(run)] { run(m_tabs->current()); });
     };
-    addForTab("save", tr("&Save"), QKeySequence::Save, &DocumentSaver::save);
+    addForTab("save", tr("&Save"), QKeySequence::Save,
+              [this](DocumentTab *tab) { m_saver->save(tab); });
     addForTab("saveAs", tr("Save &as…"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S),
-              &DocumentSaver::saveAs);
-    addForTab("saveCopy", tr("Save a cop&y…"), {}, &DocumentSaver::saveCopy);
+              [this](DocumentTab *tab) { m_saver->saveAs(tab); });
+    addForTab("saveCopy", tr("Save a cop&y…"), {},
+              [this](DocumentTab *tab) { m_saver->saveCopy(tab); });
+    addForTab("revert", tr("Revert to &file"), {}, [this](DocumentTab *tab) { revert(tab); });
     add("saveAll", tr("Save a&ll"), {}, &FileCommands::saveAll);
-    m_actions->add(QStringLiteral("revert"), tr("Revert to &file"), {}, ActionSet::Scope::Window,
-                   [this] { revert(m_tabs->current()); });
 }
 
 void FileCommands::addCloseActions()
@@ -268,9 +270,9 @@ void FileCommands::openUrl()
 
 void FileCommands::saveAll()
 {
-    const QList<DocumentTab *> tabs = m_tabs->tabs();
-    for (DocumentTab *tab : tabs) {
-        if (tab->document()->modified() && !m_saver->save(tab))
+    const QList<QPointer<DocumentTab>> tabs = openAmong(m_tabs->tabs());
+    for (const QPointer<DocumentTab> &tab : tabs) {
+        if (tab && tab->document()->modified() && !m_saver->save(tab))
             return;
     }
 }
@@ -317,14 +319,27 @@ void FileCommands::closeCurrent()
 /** Closes @p tabs up to the first one that the user wants to keep. */
 void FileCommands::closeTabs(const QList<DocumentTab *> &tabs)
 {
-    for (DocumentTab *tab : tabs) {
-        if (!m_tabs->tabs().contains(tab))
-            continue; // closed meanwhile
-        if (!mayClose(tab))
+    const QList<QPointer<DocumentTab>> open = openAmong(tabs);
+    for (const QPointer<DocumentTab> &tab : open) {
+        if (tab && !mayClose(tab))
             return;
+        if (!tab)
+            continue;
         tab->recovery()->discard();
         m_tabs->remove(tab);
     }
+}
+
+/** Those of @p tabs that are open, guarded: each question runs an event loop. */
+QList<QPointer<DocumentTab>> FileCommands::openAmong(const QList<DocumentTab *> &tabs) const
+{
+    QList<QPointer<DocumentTab>> found;
+    const QList<DocumentTab *> open = m_tabs->tabs();
+    for (DocumentTab *tab : tabs) {
+        if (open.contains(tab))
+            found.append(tab);
+    }
+    return found;
 }
 
 bool FileCommands::mayClose(DocumentTab *tab)
@@ -336,9 +351,9 @@ bool FileCommands::mayClose(DocumentTab *tab)
 
 bool FileCommands::mayCloseAll()
 {
-    const QList<DocumentTab *> tabs = m_tabs->tabs();
-    for (DocumentTab *tab : tabs) {
-        if (!mayClose(tab))
+    const QList<QPointer<DocumentTab>> tabs = openAmong(m_tabs->tabs());
+    for (const QPointer<DocumentTab> &tab : tabs) {
+        if (tab && !mayClose(tab))
             return false;
     }
     return true;

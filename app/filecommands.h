@@ -6,6 +6,7 @@
 #include <QKeySequence>
 #include <QList>
 #include <QObject>
+#include <QPointer>
 #include <QStringList>
 
 class ActionSet;
@@ -75,6 +76,7 @@ private:
     void closeCurrent();
     void closeTabs(const QList<DocumentTab *> &tabs);
     bool mayClose(DocumentTab *tab);
+    QList<QPointer<DocumentTab>> openAmong(const QList<DocumentTab *> &tabs) const;
     void endLoading();
 
     DocumentTabs *m_tabs;

@@ -49,7 +49,7 @@ RecoveryDialog::RecoveryDialog(const QList<LeftCopy> &copies, QWidget *parent)
     layout->addWidget(text);
     layout->addWidget(m_view);
     layout->addWidget(buttons);
-    resize(820, 420);
+    resize(940, 420);
 
     auto *const remove = new QAction(this);
     remove->setShortcut(QKeySequence::Delete);

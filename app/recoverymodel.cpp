@@ -75,11 +75,15 @@ QString RecoveryModel::text(const LeftCopy &copy, int column) const
     }
 }
 
-QPixmap RecoveryModel::picture(const LeftCopy &copy) const
+QIcon RecoveryModel::picture(const LeftCopy &copy) const
 {
     auto found = m_pictures.constFind(copy.copy);
-    if (found == m_pictures.constEnd())
-        found = m_pictures.insert(copy.copy, DocumentPicture::render(copy.copy, pictureSize));
+    if (found == m_pictures.constEnd()) {
+        const QPixmap picture = DocumentPicture::render(copy.copy, pictureSize);
+        QIcon icon(picture);
+        icon.addPixmap(picture, QIcon::Selected); // without the colour of the selection
+        found = m_pictures.insert(copy.copy, icon);
+    }
     return *found;
 }
 

@@ -7,7 +7,7 @@
 
 #include <QAbstractTableModel>
 #include <QHash>
-#include <QPixmap>
+#include <QIcon>
 #include <QSize>
 
 /** Copies that can be recovered, one in each row, with a picture. */
@@ -37,8 +37,8 @@ public:
 
 private:
     QString text(const LeftCopy &copy, int column) const;
-    QPixmap picture(const LeftCopy &copy) const;
+    QIcon picture(const LeftCopy &copy) const;
 
     QList<LeftCopy> m_copies;
-    mutable QHash<QString, QPixmap> m_pictures; ///< by path; drawn when they are first shown
+    mutable QHash<QString, QIcon> m_pictures; ///< by path; drawn when they are first shown
 };

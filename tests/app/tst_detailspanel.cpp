@@ -84,10 +84,9 @@ void TestDetailsPanel::shouldApplyWhatIsEntered()
     app.widget<QSpinBox>("detailsPriority")->setValue(3);
     app.widget<QLineEdit>("detailsManager")->setText(QStringLiteral("Ann"));
     app.widget<QLineEdit>("detailsFollowers")->setText(QStringLiteral("x,, y "));
-    app.window.findChild<QWidget *>(QStringLiteral("detailsDock"))
-        ->findChild<QCheckBox *>()
-        ->setChecked(true);
-    app.window.findChild<QDateEdit *>()->setDate(QDate(2026, 3, 4));
+    const DetailsPanel *const panel = app.window.tabs()->current()->details();
+    panel->findChild<QCheckBox *>()->setChecked(true);
+    panel->findChild<QDateEdit *>()->setDate(QDate(2026, 3, 4));
     QVERIFY(app.widget<QPushButton>("detailsApply")->isEnabled());
     QVERIFY(app.find("Machines").isValid()); // not before it is applied
     app.widget<QPushButton>("detailsApply")->click();

@@ -6,8 +6,8 @@
 
 #include <tests/support/modaldriver.h>
 
-#include <app/recoverystore.h>
 #include <app/exportdialog.h>
+#include <app/recoverystore.h>
 
 #include <QComboBox>
 #include <QDoubleSpinBox>

@@ -160,7 +160,8 @@ void TestRecoveryStore::shouldListCopiesWithPictures()
     QVERIFY(!shown(row, RecoveryModel::Size).isEmpty());
     QVERIFY(!shown(row, RecoveryModel::Saved).isEmpty());
     const auto picture = [&model](int r) {
-        return model.index(r, RecoveryModel::Name).data(Qt::DecorationRole).value<QPixmap>();
+        const QVariant icon = model.index(r, RecoveryModel::Name).data(Qt::DecorationRole);
+        return icon.value<QIcon>().pixmap(RecoveryModel::pictureSize);
     };
     QVERIFY(!picture(row).isNull());
     // Something is drawn in it.
