@@ -11,6 +11,7 @@
 #include <QTimer>
 #include <QVector>
 
+#include <fishbone/editor/accessiblediagram.h>
 #include <fishbone/editor/fishlayout.h>
 #include <fishbone/editor/fishscene.h>
 #include <fishbone/editor/graphicsview.h>
@@ -47,6 +48,7 @@ FishEditor::FishEditor(QWidget *parent)
     : QFrame(parent)
 {
     registerMetaTypes();
+    AccessibleDiagram::install();
     m_undoStack = new UndoStack(this);
     setFrameStyle(sunkenPanel);
     m_view = new GraphicsView(this);
