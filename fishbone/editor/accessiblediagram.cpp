@@ -69,15 +69,22 @@ AccessibleDiagram::AccessibleDiagram(GraphicsView *view)
     : QAccessibleWidget(view, QAccessible::Tree)
     , m_drawnChanges(DrawnChanges::count())
 {
-    m_selection.setSingleShot(true);
+    for (QTimer *timer : {&m_selection, &m_drawing})
+        timer->setSingleShot(true);
     QObject::connect(&m_selection, &QTimer::timeout, &m_listener, [this] { reportSelection(); });
+    QObject::connect(&m_drawing, &QTimer::timeout, &m_listener, [this] { followDrawing(); });
     const QGraphicsScene *const scene = view->scene();
     if (!scene)
         return;
-    // Not at once: the selection also changes while bones die.
+    // Neither at once: the selection also changes while bones die, and who is told of a change may
+    // end the scene, which is not through with it.
     QObject::connect(scene, &QGraphicsScene::selectionChanged, &m_listener,
                      [this] { m_selection.start(0); });
-    QObject::connect(scene, &QGraphicsScene::changed, &m_listener, [this] { followDrawing(); });
+    // Comes after every repaint of a part of the drawing, most of which change only colours.
+    QObject::connect(scene, &QGraphicsScene::changed, &m_listener, [this] {
+        if (m_drawnChanges != DrawnChanges::count())
+            m_drawing.start(0);
+    });
 }
 
 AccessibleDiagram::~AccessibleDiagram()
@@ -210,10 +217,9 @@ void AccessibleDiagram::reportSelection()
         report(QAccessibleEvent(chosen, QAccessible::Focus));
 }
 
-/** Comes after every repaint of a part of the drawing, most of which change nothing but colours. */
 void AccessibleDiagram::followDrawing()
 {
-    if (m_drawnChanges == DrawnChanges::count() || !view())
+    if (!view())
         return;
     m_drawnChanges = DrawnChanges::count();
     sweep();

@@ -77,4 +77,5 @@ private:
     quint64 m_drawnChanges;
     QObject m_listener; ///< ends the connections with this object
     QTimer m_selection; ///< runs out when a changed selection has come to rest
+    QTimer m_drawing;   ///< runs out when a changed drawing has come to rest
 };
