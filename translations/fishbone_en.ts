@@ -2,6 +2,84 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en">
 <context>
+    <name>AccessibleBone</name>
+    <message>
+        <source>cancelled</source>
+        <translation>cancelled</translation>
+    </message>
+    <message>
+        <source>finished</source>
+        <translation>finished</translation>
+    </message>
+    <message>
+        <source>finished late</source>
+        <translation>finished late</translation>
+    </message>
+    <message>
+        <source>postponed</source>
+        <translation>postponed</translation>
+    </message>
+    <message>
+        <source>under way</source>
+        <translation>under way</translation>
+    </message>
+    <message>
+        <source>waiting</source>
+        <translation>waiting</translation>
+    </message>
+    <message>
+        <source>waiting for approval</source>
+        <translation>waiting for approval</translation>
+    </message>
+    <message>
+        <source>level %1</source>
+        <translation>level %1</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>linked</source>
+        <translation>linked</translation>
+    </message>
+    <message>
+        <source>Select</source>
+        <translation>Select</translation>
+    </message>
+    <message>
+        <source>Contract</source>
+        <translation>Contract</translation>
+    </message>
+    <message>
+        <source>Expand</source>
+        <translation>Expand</translation>
+    </message>
+    <message>
+        <source>Selects this bone alone</source>
+        <translation>Selects this bone alone</translation>
+    </message>
+    <message>
+        <source>Hides the bones below</source>
+        <translation>Hides the bones below</translation>
+    </message>
+    <message>
+        <source>Shows the bones below</source>
+        <translation>Shows the bones below</translation>
+    </message>
+</context>
+<context>
+    <name>AccessibleDiagram</name>
+    <message>
+        <source>Diagram: %1</source>
+        <translation>Diagram: %1</translation>
+    </message>
+    <message>
+        <source>Diagram</source>
+        <translation>Diagram</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
     <message>
         <source>Show this help and quit.</source>

@@ -2,6 +2,84 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh">
 <context>
+    <name>AccessibleBone</name>
+    <message>
+        <source>cancelled</source>
+        <translation>已取消</translation>
+    </message>
+    <message>
+        <source>finished</source>
+        <translation>已完成</translation>
+    </message>
+    <message>
+        <source>finished late</source>
+        <translation>逾期完成</translation>
+    </message>
+    <message>
+        <source>postponed</source>
+        <translation>已推迟</translation>
+    </message>
+    <message>
+        <source>under way</source>
+        <translation>进行中</translation>
+    </message>
+    <message>
+        <source>waiting</source>
+        <translation>等待中</translation>
+    </message>
+    <message>
+        <source>waiting for approval</source>
+        <translation>等待审批</translation>
+    </message>
+    <message>
+        <source>level %1</source>
+        <translation>第 %1 级</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>linked</source>
+        <translation>有链接</translation>
+    </message>
+    <message>
+        <source>Select</source>
+        <translation>选择</translation>
+    </message>
+    <message>
+        <source>Contract</source>
+        <translation>折叠</translation>
+    </message>
+    <message>
+        <source>Expand</source>
+        <translation>展开</translation>
+    </message>
+    <message>
+        <source>Selects this bone alone</source>
+        <translation>只选择这根鱼骨</translation>
+    </message>
+    <message>
+        <source>Hides the bones below</source>
+        <translation>隐藏下级鱼骨</translation>
+    </message>
+    <message>
+        <source>Shows the bones below</source>
+        <translation>显示下级鱼骨</translation>
+    </message>
+</context>
+<context>
+    <name>AccessibleDiagram</name>
+    <message>
+        <source>Diagram: %1</source>
+        <translation>鱼骨图：%1</translation>
+    </message>
+    <message>
+        <source>Diagram</source>
+        <translation>鱼骨图</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
     <message>
         <source>Show this help and quit.</source>
