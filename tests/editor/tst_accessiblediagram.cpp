@@ -73,6 +73,25 @@ private:
     }
 };
 
+/// Asks for the interface of each view that gets a parent, as assistive technology does.
+class Asker : public QObject
+{
+public:
+    Asker() { qApp->installEventFilter(this); }
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        auto *const view = qobject_cast<GraphicsView *>(watched);
+        if (view && event->type() == QEvent::ParentChange)
+            isAsked = QAccessible::queryAccessibleInterface(view);
+        return false;
+    }
+
+public:
+    bool isAsked = false;
+};
+
 /// The names of an interface and all below it, "Late[People,…]".
 QString tree(const QAccessibleInterface &top)
 {
@@ -142,6 +161,7 @@ private Q_SLOTS:
     void shouldReportFocusInTheFocusedView();
     void shouldReportExpansion();
     void shouldReportAChangedDrawing();
+    void shouldReportForAViewThatWasAskedForEarly();
     void shouldReportNothingWhenNobodyListens();
 
     void shouldMakeEntriesLazily();
@@ -507,6 +527,18 @@ void TestAccessibleDiagram::shouldReportAChangedDrawing()
     QCOMPARE(tree(*f.head()), QStringLiteral("Late[People,Machines,Material]"));
     f.editor.scene()->update(); // the same drawing once more
     QCOMPARE(events.take(), QString());
+}
+
+void TestAccessibleDiagram::shouldReportForAViewThatWasAskedForEarly()
+{
+    const Asker asker;
+    Fixture f;
+    QVERIFY(asker.isAsked);
+    QVERIFY(f.show());
+    Events events;
+    f.select({QStringLiteral("People")});
+    QVERIFY(events.take().contains(QLatin1String("Selection People")));
+    QCOMPARE(tree(*f.head()), QStringLiteral("Late[People,Machines,Material]"));
 }
 
 void TestAccessibleDiagram::shouldReportNothingWhenNobodyListens()
