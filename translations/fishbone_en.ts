@@ -36,10 +36,6 @@
         <translation>level %1</translation>
     </message>
     <message>
-        <source>%1 %</source>
-        <translation>%1 %</translation>
-    </message>
-    <message>
         <source>linked</source>
         <translation>linked</translation>
     </message>

@@ -36,10 +36,6 @@
         <translation>第 %1 级</translation>
     </message>
     <message>
-        <source>%1 %</source>
-        <translation>%1 %</translation>
-    </message>
-    <message>
         <source>linked</source>
         <translation>有链接</translation>
     </message>

@@ -169,7 +169,7 @@ QString AccessibleBone::description() const
     if (!status.isEmpty())
         parts.append(status);
     if (!status.isEmpty() || subject->progress() != 0)
-        parts.append(tr("%1 %").arg(subject->progress()));
+        parts.append(QStringLiteral("%1 %").arg(subject->progress()));
     if (!subject->url().isEmpty())
         parts.append(tr("linked"));
     return parts.join(QStringLiteral(", "));
