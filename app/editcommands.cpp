@@ -4,9 +4,11 @@
 #include <app/editcommands.h>
 
 #include <app/actionset.h>
+#include <app/bonemenu.h>
 #include <app/diagramsession.h>
 #include <app/finder.h>
 #include <app/subjectclipboard.h>
+#include <app/subjectedit.h>
 #include <app/titleeditor.h>
 
 #include <fishbone/editor/fisheditor.h>
@@ -15,27 +17,17 @@
 #include <fishbone/model/fishmodel.h>
 #include <fishbone/model/systemhelper.h>
 #include <fishbone/model/treeitem.h>
-#include <fishbone/style/spearstyle.h>
+#include <fishbone/undo/commandgroup.h>
+#include <fishbone/undo/structuralcommands.h>
 #include <fishbone/undo/undostack.h>
 
 #include <QAction>
 #include <QDateTime>
 #include <QInputDialog>
-#include <QJsonObject>
 
 #include <memory>
 
 namespace {
-
-/** All of a subject's own style, an empty object when it has none. */
-QJsonObject styleOf(const FishEditor &editor)
-{
-    QJsonObject style;
-    const SpearItem *const spear = editor.firstSelectedSpear();
-    if (spear && spear->treeItem() && spear->treeItem()->spearStyle())
-        spear->treeItem()->spearStyle()->write(style);
-    return style;
-}
 
 /** The platform's, and the one that people bring from others. */
 QList<QKeySequence> redoShortcuts()
@@ -67,6 +59,7 @@ EditCommands::EditCommands(DiagramSession *session, ActionSet *actions, QWidget 
     addClipboardActions();
     addInsertActions();
     addSubjectActions();
+    new BoneMenu(m_editor, actions, this); // which owns it
 }
 
 void EditCommands::add(const char *name, const QString &text, const QList<QKeySequence> &shortcuts,
@@ -100,13 +93,12 @@ void EditCommands::addClipboardActions()
 void EditCommands::addInsertActions()
 {
     add("child", tr("&Child subject"), {Qt::Key_Tab, Qt::Key_Insert},
-        [this] { insertAndRename([this] { m_editor->insertChildSubject(); }); });
+        [this] { insertAndRename<InsertChild>(); });
     add("before", tr("Subject &before"), returnWith(Qt::SHIFT),
-        [this] { insertSibling([this] { m_editor->insertSubject(); }); });
-    add("after", tr("Subject &after"), returnWith(0),
-        [this] { insertSibling([this] { m_editor->appendSubject(); }); });
+        [this] { insertSibling<InsertFront>(); });
+    add("after", tr("Subject &after"), returnWith(0), [this] { insertSibling<InsertBack>(); });
     add("parent", tr("&Parent subject"), returnWith(Qt::CTRL),
-        [this] { insertAndRename([this] { m_editor->insertParentSubject(); }); });
+        [this] { insertAndRename<InsertParent>(); });
     add("free", tr("&Free subject (a new diagram)"), returnWith(Qt::CTRL | Qt::SHIFT),
         [this] { Q_EMIT newDiagramWanted(); });
     add("subTask", tr("&Sub-task…"), {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_T)},
@@ -118,36 +110,40 @@ void EditCommands::addSubjectActions()
     add("rename", tr("&Rename"), {Qt::Key_F2},
         [this] { rename(m_editor->firstSelectedSpearIndex()); });
     add("link", tr("&Link to…"), {QKeySequence(Qt::CTRL | Qt::Key_L)},
-        [this] { m_editor->modifyLink(); });
-    add("openLink", tr("&Open link"), {}, [this] { m_editor->modifyOpenLink(); });
+        [this] { SubjectEdit::editLink(*m_session, m_editor->firstSelectedSpearIndex()); });
+    add("openLink", tr("&Open link"), {},
+        [this] { SubjectEdit::openLink(*m_session, m_editor->firstSelectedSpearIndex()); });
     add("unlink", tr("Remove l&ink"), {}, [this] { m_editor->modifyDelLink(); });
-    add("style", tr("&Style…"), {}, [this] { changeStyle([this] { m_editor->setSpearStyle(); }); });
+    add("style", tr("&Style…"), {},
+        [this] { SubjectEdit::editStyle(*m_session, m_editor->firstSelectedSpearIndex()); });
     add("removeStyle", tr("Remove s&tyle"), {},
-        [this] { changeStyle([this] { m_editor->delSpearStyle(); }); });
+        [this] { SubjectEdit::removeStyle(*m_session, m_editor->firstSelectedSpearIndex()); });
 }
 
-/** Runs @p edit on the style of the selected subject. The editor leaves it to the host to count
- * that as a change of the document. */
-void EditCommands::changeStyle(const std::function<void()> &edit)
+template <typename Command>
+void EditCommands::insertAndRename()
 {
-    const QJsonObject before = styleOf(*m_editor);
-    edit();
-    if (styleOf(*m_editor) != before)
+    const QModelIndex selected = m_editor->firstSelectedSpearIndex();
+    if (!selected.isValid())
+        return;
+    auto insertion = std::make_unique<Command>(m_session->model(), selected);
+    auto *const step = new CommandGroup(insertion->text()); // the stack takes it over
+    step->add(std::move(insertion));
+    const QModelIndex inserted = m_session->insert([&] {
+        m_editor->undoStack()->push(step);
+        m_editor->updateFish(false);
         m_editor->setModified(true);
-    m_session->touch();
-}
-
-void EditCommands::insertAndRename(const std::function<void()> &edit)
-{
-    rename(m_session->insert(edit));
+    });
+    TitleEditor::open(m_editor, inserted, QString(), step);
 }
 
 /** Inserts beside the selected subject. Beside the head of a diagram there is another diagram. */
-void EditCommands::insertSibling(const std::function<void()> &edit)
+template <typename Command>
+void EditCommands::insertSibling()
 {
     const SpearItem *const spear = m_editor->firstSelectedSpear();
     if (spear && spear->modelIndex().parent().isValid())
-        insertAndRename(edit);
+        insertAndRename<Command>();
     else if (spear)
         Q_EMIT newDiagramWanted();
 }
@@ -160,7 +156,7 @@ void EditCommands::rename(const QModelIndex &index, const QString &typed)
 void EditCommands::insertChild(const QModelIndex &parent)
 {
     m_session->select(parent);
-    insertAndRename([this] { m_editor->insertChildSubject(); });
+    insertAndRename<InsertChild>();
 }
 
 void EditCommands::insertSubTask(const QModelIndex &parent)

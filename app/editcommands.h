@@ -47,9 +47,12 @@ private:
     void addSubjectActions();
     void add(const char *name, const QString &text, const QList<QKeySequence> &shortcuts,
              std::function<void()> run);
-    void insertAndRename(const std::function<void()> &edit);
-    void insertSibling(const std::function<void()> &edit);
-    void changeStyle(const std::function<void()> &edit);
+    /** Inserts a subject at the selected one by a @p Command and opens a field for its title; both
+     * are one step of the history. */
+    template <typename Command>
+    void insertAndRename();
+    template <typename Command>
+    void insertSibling();
 
     QWidget *m_window;
     Finder *m_finder;

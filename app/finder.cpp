@@ -4,34 +4,74 @@
 #include <app/finder.h>
 
 #include <app/diagramsession.h>
+#include <app/hitlist.h>
 
 #include <fishbone/dialogs/replacefinddialog.h>
-#include <fishbone/editor/fisheditor.h>
-#include <fishbone/model/fishmodel.h>
 #include <fishbone/model/treeitem.h>
+#include <fishbone/undo/editattributes.h>
+#include <fishbone/undo/undostack.h>
 
 #include <QCheckBox>
+#include <QComboBox>
+#include <QGridLayout>
+#include <QJsonObject>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QPushButton>
 
 #include <algorithm>
+#include <memory>
+
+namespace {
+
+constexpr int titleColumn = 0;
+constexpr int showidColumn = 2;
+
+} // namespace
 
 Finder::Finder(DiagramSession *session, QWidget *window)
     : QObject(window)
     , m_session(session)
     , m_dialog(new ReplaceFindDialog(window))
+    , m_hits(new HitList(session->model(), m_dialog))
 {
     m_dialog->setModel(session->model());
-    // These come after the dialog's own connections, so the search is done.
-    connect(field(ReplaceFindDialog::tr("Find what:")), &QLineEdit::returnPressed, this,
-            &Finder::showNext);
+    m_dialog->installEventFilter(this);
+    addHitList();
+    connectControls();
+}
+
+void Finder::addHitList()
+{
+    auto *const layout = qobject_cast<QGridLayout *>(m_dialog->layout());
+    Q_ASSERT(layout);
+    const int row = layout->rowCount();
+    layout->addWidget(m_hits, row, 0, 1, layout->columnCount());
+    constexpr int stretch = 10; // all the room that there is
+    layout->setRowStretch(row, stretch);
+    m_hits->setObjectName(QStringLiteral("hits"));
+    m_dialog->resize(560, 420);
+}
+
+/** These come after the dialog's own connections, so the search is done. */
+void Finder::connectControls()
+{
+    QLineEdit *const search = field(ReplaceFindDialog::tr("Find what:"));
+    QLineEdit *const replacement = field(ReplaceFindDialog::tr("Replace with:"));
+    connect(search, &QLineEdit::returnPressed, this, &Finder::showNext);
+    connect(search, &QLineEdit::textChanged, this, &Finder::forgetHits);
     connect(button(ReplaceFindDialog::tr("Find")), &QPushButton::clicked, this, &Finder::showNext);
-    connect(field(ReplaceFindDialog::tr("Replace with:")), &QLineEdit::returnPressed, this,
-            &Finder::replaceCurrent);
+    connect(replacement, &QLineEdit::returnPressed, this, &Finder::replaceCurrent);
+    connect(replacement, &QLineEdit::textChanged, this, &Finder::preview);
     connect(button(ReplaceFindDialog::tr("Replace")), &QPushButton::clicked, this,
             &Finder::replaceCurrent);
     connect(button(ReplaceFindDialog::tr("Replace All")), &QPushButton::clicked, this,
             &Finder::replaceAll);
+    connect(m_dialog->findChild<QCheckBox *>(), &QCheckBox::toggled, this, &Finder::forgetHits);
+    connect(m_dialog->findChild<QComboBox *>(), QOverload<int>::of(&QComboBox::currentIndexChanged),
+            this, &Finder::forgetHits);
+    connect(m_hits, &HitList::hitChosen, this, &Finder::showHit);
+    connect(m_hits, &HitList::itemActivated, m_dialog, &QDialog::accept);
 }
 
 void Finder::setSession(DiagramSession *session)
@@ -44,6 +84,11 @@ void Finder::setSession(DiagramSession *session)
 
 void Finder::show()
 {
+    if (!m_dialog->isVisible()) {
+        m_look = DrawingState::capture(*m_session->editor());
+        m_searchedFrom = m_session->document();
+        forgetHits();
+    }
     m_dialog->show();
     m_dialog->raise();
     m_dialog->activateWindow();
@@ -77,57 +122,149 @@ Qt::CaseSensitivity Finder::caseSensitivity() const
                                                            : Qt::CaseInsensitive;
 }
 
-void Finder::showNext()
+/** What a replacement makes of @p text. */
+QString Finder::replaced(const QString &text) const
 {
-    const QModelIndexList matches = m_dialog->matches();
-    if (matches != m_matches)
-        m_current = -1;
-    m_matches = matches;
-    if (matches.isEmpty())
-        return; // the dialog has said so
-    m_current = (m_current + 1) % matches.size();
-    m_session->select(matches.at(m_current).siblingAtColumn(0));
-    Q_EMIT message(tr("Match %1 of %2").arg(m_current + 1).arg(matches.size()));
+    const QString search = field(ReplaceFindDialog::tr("Find what:"))->text();
+    if (search.isEmpty())
+        return text;
+    QString result = text;
+    return result.replace(search, field(ReplaceFindDialog::tr("Replace with:"))->text(),
+                          caseSensitivity());
 }
 
-/** Replaces in the title of the subject at @p index; false when there is nothing to replace. */
-bool Finder::rename(const QModelIndex &index)
+bool Finder::isReplaceable(const QModelIndex &hit) const
 {
-    const TreeItem *const subject = m_session->model()->getTreeItem(index);
-    const QString search = field(ReplaceFindDialog::tr("Find what:"))->text();
-    if (!subject || search.isEmpty())
-        return false;
-    QString title = subject->title();
-    title.replace(search, field(ReplaceFindDialog::tr("Replace with:"))->text(), caseSensitivity());
-    if (title == subject->title())
-        return false;
-    m_session->editor()->renameItem(index.siblingAtColumn(0), title);
-    return true;
+    return hit.column() == titleColumn || hit.column() == showidColumn;
+}
+
+/** The list is of another search than the one that is entered. */
+void Finder::forgetHits()
+{
+    m_matches.clear();
+    m_current = -1;
+    m_hits->setHits({}, {});
+}
+
+void Finder::listHits()
+{
+    const QModelIndexList matches = m_dialog->matches();
+    if (matches == m_matches && m_hits->topLevelItemCount() == matches.size())
+        return;
+    m_matches = matches;
+    m_current = -1;
+    m_hits->setHits(matches, [this, &matches](const QString &text) {
+        return !matches.isEmpty() && isReplaceable(matches.constFirst()) ? replaced(text) : text;
+    });
+}
+
+void Finder::preview()
+{
+    m_hits->preview([this](const QString &text) {
+        return !m_matches.isEmpty() && isReplaceable(m_matches.constFirst()) ? replaced(text)
+                                                                             : text;
+    });
+}
+
+void Finder::showNext()
+{
+    listHits();
+    if (!m_matches.isEmpty()) // otherwise the dialog has said so
+        showHit((m_current + 1) % m_matches.size());
+}
+
+void Finder::showHit(int row)
+{
+    const QModelIndexList matches = m_dialog->matches();
+    if (matches != m_matches) { // some are gone
+        listHits();
+        return;
+    }
+    if (row < 0 || row >= matches.size())
+        return;
+    m_current = row;
+    m_hits->setCurrentHit(row);
+    m_session->select(matches.at(row).siblingAtColumn(titleColumn));
+    Q_EMIT message(tr("Match %1 of %2").arg(row + 1).arg(matches.size()));
+}
+
+/** Replaces in the texts that were found at @p hits, in one step; how many have changed. */
+int Finder::replaceIn(const QModelIndexList &hits)
+{
+    auto command = std::make_unique<EditAttributes>(m_session->model());
+    for (const QModelIndex &hit : hits) {
+        const TreeItem *const subject = m_session->model()->getTreeItem(hit);
+        if (!subject || !isReplaceable(hit))
+            continue;
+        const QJsonObject before = EditAttributes::stateOf(*subject);
+        TreeItem draft(before);
+        draft.setData(hit.column(), replaced(subject->data(hit.column()).toString()));
+        command->add(hit.siblingAtColumn(titleColumn), before, EditAttributes::stateOf(draft));
+    }
+    const int count = command->count();
+    if (count == 0)
+        return 0;
+    command->setText(tr("Replace %n text(s)", nullptr, count));
+    m_session->editor()->undoStack()->push(command.release()); // which takes it over
+    m_session->touch();
+    return count;
 }
 
 void Finder::replaceCurrent()
 {
     const QModelIndexList matches = m_dialog->matches();
-    if (m_current < 0 || m_current >= matches.size()) {
+    if (matches != m_matches || m_current < 0 || m_current >= matches.size()) {
         m_dialog->find();
         showNext();
         return;
     }
-    const bool replaced = matches.at(m_current).column() == 0 && rename(matches.at(m_current));
+    const QModelIndex hit = matches.at(m_current);
+    const int current = m_current;
+    const bool isReplaced = replaceIn({hit}) > 0;
+    m_matches.clear(); // so that they are listed with their new texts
+    listHits();
+    m_current = current;
     showNext();
-    if (!replaced)
-        Q_EMIT message(tr("Only titles can be replaced."));
+    if (!isReplaced && !isReplaceable(hit))
+        Q_EMIT message(tr("Only titles and numbers can be replaced."));
 }
 
 void Finder::replaceAll()
 {
-    m_dialog->find();
-    int count = 0;
-    const QModelIndexList matches = m_dialog->matches();
-    for (const QModelIndex &match : matches) {
-        if (match.column() == 0 && rename(match))
-            ++count;
+    const bool isListed = !m_matches.isEmpty() && m_matches == m_dialog->matches();
+    if (!isListed) {
+        m_dialog->find();
+        listHits();
     }
-    m_current = -1;
-    Q_EMIT message(tr("%n title(s) replaced", nullptr, count));
+    QModelIndexList hits;
+    const QList<int> rows = m_hits->checkedRows();
+    for (int row : rows)
+        hits.append(m_matches.value(row));
+    const int count = replaceIn(hits);
+    m_matches.clear();
+    listHits();
+    Q_EMIT message(tr("%n text(s) replaced", nullptr, count));
+}
+
+/** Makes the drawing look as it did before the search, as far as it is still there. */
+void Finder::restoreLook()
+{
+    if (m_searchedFrom && m_searchedFrom != m_session->document())
+        m_session->showDocument(m_searchedFrom);
+    const SpearItem *const head = m_session->editor()->headSpear();
+    if (!head || m_session->model()->getTreeItem(m_session->editor()->rootIndex()) != m_look.root())
+        return;
+    m_session->editor()->expandorContractAll(false);
+    m_look.restore(*m_session->editor());
+    Q_EMIT m_session->drawingRebuilt();
+    m_session->touch();
+}
+
+bool Finder::eventFilter(QObject *watched, QEvent *event)
+{
+    // Esc alone: whoever closes the window stays where the search has led.
+    if (watched == m_dialog && event->type() == QEvent::KeyPress &&
+        static_cast<QKeyEvent *>(event)->key() == Qt::Key_Escape)
+        restoreLook();
+    return QObject::eventFilter(watched, event);
 }

@@ -3,17 +3,25 @@
 
 #pragma once
 
+#include <app/drawingstate.h>
+
+#include <fishbone/model/fishinfo.h>
+
 #include <QModelIndexList>
 #include <QObject>
+#include <QPointer>
 
 class DiagramSession;
+class HitList;
 class QLineEdit;
 class QPushButton;
 class ReplaceFindDialog;
 
 /**
- * Makes the library's find dialog useful: every search goes on to the next subject that was found,
- * and replacing renames subjects, each as a step that can be undone.
+ * Makes the library's find dialog useful. What was found is listed in it, with what a replacement
+ * would make of it; every search goes on to the next hit, and the list leads to any of them.
+ * Replacing is a step of the undo history, one step for all of them. Esc ends the search and gives
+ * the drawing the look that it had before.
  */
 class Finder : public QObject
 {
@@ -31,17 +39,32 @@ Q_SIGNALS:
     /** What was found or replaced, for the user. */
     void message(const QString &text);
 
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
+    void addHitList();
+    void connectControls();
+    void forgetHits();
+    void listHits();
     void showNext();
+    void showHit(int row);
     void replaceCurrent();
     void replaceAll();
-    bool rename(const QModelIndex &index);
+    int replaceIn(const QModelIndexList &hits);
+    void preview();
+    void restoreLook();
+    bool isReplaceable(const QModelIndex &hit) const;
+    QString replaced(const QString &text) const;
     QPushButton *button(const QString &text) const;
     QLineEdit *field(const QString &label) const;
     Qt::CaseSensitivity caseSensitivity() const;
 
     DiagramSession *m_session;
     ReplaceFindDialog *m_dialog;
-    QModelIndexList m_matches; ///< of the latest search, only to be compared
+    HitList *m_hits;
+    QModelIndexList m_matches; ///< that are listed, only to be compared
     int m_current = -1;        ///< the match that is selected
+    DrawingState m_look;       ///< of the drawing before the search
+    QPointer<FishInfo> m_searchedFrom;
 };

@@ -10,10 +10,13 @@
 #include <fishbone/items/textitem.h>
 #include <fishbone/model/fishmodel.h>
 #include <fishbone/model/treeitem.h>
+#include <fishbone/undo/attributecommands.h>
+#include <fishbone/undo/undostack.h>
 
 #include <QKeyEvent>
 
 #include <algorithm>
+#include <memory>
 
 namespace {
 
@@ -27,13 +30,14 @@ TreeItem *subjectAt(const FishEditor &editor, const QModelIndex &index)
 
 } // namespace
 
-void TitleEditor::open(FishEditor *editor, const QModelIndex &index, const QString &typed)
+void TitleEditor::open(FishEditor *editor, const QModelIndex &index, const QString &typed,
+                       CommandGroup *step)
 {
     const TreeItem *const subject = subjectAt(*editor, index);
     if (!subject || !subject->spear() || !subject->spear()->isVisible())
         return;
     editor->ensureVisible(index);
-    auto *const field = new TitleEditor(editor, index); // owned by the viewport
+    auto *const field = new TitleEditor(editor, index, step); // owned by the viewport
     field->show();
     field->setFocus();
     if (typed.isEmpty())
@@ -42,10 +46,11 @@ void TitleEditor::open(FishEditor *editor, const QModelIndex &index, const QStri
         field->setText(typed);
 }
 
-TitleEditor::TitleEditor(FishEditor *editor, const QModelIndex &index)
+TitleEditor::TitleEditor(FishEditor *editor, const QModelIndex &index, CommandGroup *step)
     : QLineEdit(subjectAt(*editor, index)->title(), editor->view()->viewport())
     , m_editor(editor)
     , m_index(index)
+    , m_step(step)
 {
     setObjectName(QStringLiteral("title"));
     setAccessibleName(tr("Title"));
@@ -54,6 +59,9 @@ TitleEditor::TitleEditor(FishEditor *editor, const QModelIndex &index)
     connect(this, &QLineEdit::editingFinished, this, &TitleEditor::finish);
     connect(editor->scene(), &QGraphicsScene::changed, this, &TitleEditor::place);
     parentWidget()->installEventFilter(this);
+    const auto endStep = [this] { m_step.clear(); };
+    connect(editor->undoStack(), &UndoStack::stackChanged, this, endStep);
+    connect(editor->undoStack(), &UndoStack::currentChanged, this, endStep);
 }
 
 /** Follows the bone's text, which may move or go away while its title is edited, and makes room for
@@ -123,7 +131,17 @@ void TitleEditor::finish()
     const bool changed = subject && title != subject->title();
     close();
     if (changed)
+        rename(title);
+}
+
+void TitleEditor::rename(const QString &title)
+{
+    if (!m_step) {
         m_editor->renameItem(m_index, title);
+        return;
+    }
+    m_step->add(std::make_unique<ModifyName>(m_editor->model(), m_index, title));
+    m_editor->setModified(true);
 }
 
 void TitleEditor::close()

@@ -5,6 +5,9 @@
 
 #include <QLineEdit>
 #include <QPersistentModelIndex>
+#include <QPointer>
+
+#include <fishbone/undo/commandgroup.h>
 
 class FishEditor;
 
@@ -19,8 +22,10 @@ class TitleEditor : public QLineEdit
 
 public:
     /** Opens the field over the bone of the subject at @p index; does nothing when it has none. It
-     * begins with the title, all selected, or with @p typed unless that is empty. */
-    static void open(FishEditor *editor, const QModelIndex &index, const QString &typed);
+     * begins with the title, all selected, or with @p typed unless that is empty. The title becomes
+     * a part of @p step, which has inserted the subject, as long as that is the latest one. */
+    static void open(FishEditor *editor, const QModelIndex &index, const QString &typed,
+                     CommandGroup *step = nullptr);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -29,12 +34,14 @@ protected:
     bool focusNextPrevChild(bool next) override;
 
 private:
-    TitleEditor(FishEditor *editor, const QModelIndex &index);
+    TitleEditor(FishEditor *editor, const QModelIndex &index, CommandGroup *step);
     void place();
     void finish();
+    void rename(const QString &title);
     void close();
 
     FishEditor *m_editor;
     QPersistentModelIndex m_index;
+    QPointer<CommandGroup> m_step;
     bool m_isClosed = false;
 };

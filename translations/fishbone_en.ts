@@ -2,6 +2,80 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en">
 <context>
+    <name>AccessibleBone</name>
+    <message>
+        <source>cancelled</source>
+        <translation>cancelled</translation>
+    </message>
+    <message>
+        <source>finished</source>
+        <translation>finished</translation>
+    </message>
+    <message>
+        <source>finished late</source>
+        <translation>finished late</translation>
+    </message>
+    <message>
+        <source>postponed</source>
+        <translation>postponed</translation>
+    </message>
+    <message>
+        <source>under way</source>
+        <translation>under way</translation>
+    </message>
+    <message>
+        <source>waiting</source>
+        <translation>waiting</translation>
+    </message>
+    <message>
+        <source>waiting for approval</source>
+        <translation>waiting for approval</translation>
+    </message>
+    <message>
+        <source>level %1</source>
+        <translation>level %1</translation>
+    </message>
+    <message>
+        <source>linked</source>
+        <translation>linked</translation>
+    </message>
+    <message>
+        <source>Select</source>
+        <translation>Select</translation>
+    </message>
+    <message>
+        <source>Contract</source>
+        <translation>Contract</translation>
+    </message>
+    <message>
+        <source>Expand</source>
+        <translation>Expand</translation>
+    </message>
+    <message>
+        <source>Selects this bone alone</source>
+        <translation>Selects this bone alone</translation>
+    </message>
+    <message>
+        <source>Hides the bones below</source>
+        <translation>Hides the bones below</translation>
+    </message>
+    <message>
+        <source>Shows the bones below</source>
+        <translation>Shows the bones below</translation>
+    </message>
+</context>
+<context>
+    <name>AccessibleDiagram</name>
+    <message>
+        <source>Diagram: %1</source>
+        <translation>Diagram: %1</translation>
+    </message>
+    <message>
+        <source>Diagram</source>
+        <translation>Diagram</translation>
+    </message>
+</context>
+<context>
     <name>AutosaveStatus</name>
     <message>
         <source>Autosaved at %1</source>
@@ -244,10 +318,6 @@ The exit code is 3 when anything is.</translation>
         <translation>none</translation>
     </message>
     <message>
-        <source>separated by commas</source>
-        <translation>name, name</translation>
-    </message>
-    <message>
         <source>Has a planned end</source>
         <translation>Has a planned end</translation>
     </message>
@@ -288,10 +358,6 @@ The exit code is 3 when anything is.</translation>
         <translation>Details:</translation>
     </message>
     <message>
-        <source>Number: %1</source>
-        <translation>Number: %1</translation>
-    </message>
-    <message>
         <source>Created by: %1</source>
         <translation>Created by: %1</translation>
     </message>
@@ -300,8 +366,56 @@ The exit code is 3 when anything is.</translation>
         <translation>Created on: %1</translation>
     </message>
     <message>
-        <source>Link: %1</source>
-        <translation>Link: %1</translation>
+        <source>Edit style…</source>
+        <translation>Edit style…</translation>
+    </message>
+    <message>
+        <source>Planned end</source>
+        <translation>Planned end</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Progress</translation>
+    </message>
+    <message>
+        <source>Link</source>
+        <translation>Link</translation>
+    </message>
+    <message>
+        <source>Open the link</source>
+        <translation>Open the link</translation>
+    </message>
+    <message>
+        <source>Followers</source>
+        <translation>Followers</translation>
+    </message>
+    <message>
+        <source>New follower</source>
+        <translation>New follower</translation>
+    </message>
+    <message>
+        <source>Origin</source>
+        <translation>Origin</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Open</translation>
+    </message>
+    <message>
+        <source>Number:</source>
+        <translation>Number:</translation>
+    </message>
+    <message>
+        <source>Link:</source>
+        <translation>Link:</translation>
+    </message>
+    <message>
+        <source>Style:</source>
+        <translation>Style:</translation>
+    </message>
+    <message>
+        <source>Edit details</source>
+        <translation>Edit details</translation>
     </message>
 </context>
 <context>
@@ -641,6 +755,13 @@ The exit code is 3 when anything is.</translation>
     <message>
         <source>%1 – page %2 of %3</source>
         <translation>%1 – page %2 of %3</translation>
+    </message>
+</context>
+<context>
+    <name>EditAttributes</name>
+    <message>
+        <source>Edit attributes</source>
+        <translation>Edit attributes</translation>
     </message>
 </context>
 <context>
@@ -1007,15 +1128,22 @@ The exit code is 3 when anything is.</translation>
         <source>Match %1 of %2</source>
         <translation>Match %1 of %2</translation>
     </message>
+    <message numerus="yes">
+        <source>Replace %n text(s)</source>
+        <translation>
+            <numerusform>Replace %n text</numerusform>
+            <numerusform>Replace %n texts</numerusform>
+        </translation>
+    </message>
     <message>
-        <source>Only titles can be replaced.</source>
-        <translation>Only titles can be replaced.</translation>
+        <source>Only titles and numbers can be replaced.</source>
+        <translation>Only titles and numbers can be replaced.</translation>
     </message>
     <message numerus="yes">
-        <source>%n title(s) replaced</source>
+        <source>%n text(s) replaced</source>
         <translation>
-            <numerusform>%n title replaced</numerusform>
-            <numerusform>%n titles replaced</numerusform>
+            <numerusform>%n text replaced</numerusform>
+            <numerusform>%n texts replaced</numerusform>
         </translation>
     </message>
 </context>
@@ -1095,6 +1223,21 @@ Do you want to save your changes?</translation>
     <message>
         <source>(beginning)</source>
         <translation>(beginning)</translation>
+    </message>
+</context>
+<context>
+    <name>HitList</name>
+    <message>
+        <source>Found</source>
+        <translation>Found</translation>
+    </message>
+    <message>
+        <source>Will be</source>
+        <translation>Will be</translation>
+    </message>
+    <message>
+        <source>In</source>
+        <translation>In</translation>
     </message>
 </context>
 <context>
@@ -1745,10 +1888,32 @@ Do you want to save your changes?</translation>
     </message>
 </context>
 <context>
+    <name>StringListEditor</name>
+    <message>
+        <source>Add</source>
+        <translation>Add</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Remove</translation>
+    </message>
+</context>
+<context>
     <name>SubjectClipboard</name>
     <message>
         <source>cannot paste the text: %1</source>
         <translation>cannot paste the text: %1</translation>
+    </message>
+</context>
+<context>
+    <name>SubjectEdit</name>
+    <message>
+        <source>Change style</source>
+        <translation>Change style</translation>
+    </message>
+    <message>
+        <source>Remove style</source>
+        <translation>Remove style</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,80 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh">
 <context>
+    <name>AccessibleBone</name>
+    <message>
+        <source>cancelled</source>
+        <translation>已取消</translation>
+    </message>
+    <message>
+        <source>finished</source>
+        <translation>已完成</translation>
+    </message>
+    <message>
+        <source>finished late</source>
+        <translation>逾期完成</translation>
+    </message>
+    <message>
+        <source>postponed</source>
+        <translation>已推迟</translation>
+    </message>
+    <message>
+        <source>under way</source>
+        <translation>进行中</translation>
+    </message>
+    <message>
+        <source>waiting</source>
+        <translation>等待中</translation>
+    </message>
+    <message>
+        <source>waiting for approval</source>
+        <translation>等待审批</translation>
+    </message>
+    <message>
+        <source>level %1</source>
+        <translation>第 %1 级</translation>
+    </message>
+    <message>
+        <source>linked</source>
+        <translation>有链接</translation>
+    </message>
+    <message>
+        <source>Select</source>
+        <translation>选择</translation>
+    </message>
+    <message>
+        <source>Contract</source>
+        <translation>折叠</translation>
+    </message>
+    <message>
+        <source>Expand</source>
+        <translation>展开</translation>
+    </message>
+    <message>
+        <source>Selects this bone alone</source>
+        <translation>只选择这根鱼骨</translation>
+    </message>
+    <message>
+        <source>Hides the bones below</source>
+        <translation>隐藏下级鱼骨</translation>
+    </message>
+    <message>
+        <source>Shows the bones below</source>
+        <translation>显示下级鱼骨</translation>
+    </message>
+</context>
+<context>
+    <name>AccessibleDiagram</name>
+    <message>
+        <source>Diagram: %1</source>
+        <translation>鱼骨图：%1</translation>
+    </message>
+    <message>
+        <source>Diagram</source>
+        <translation>鱼骨图</translation>
+    </message>
+</context>
+<context>
     <name>AutosaveStatus</name>
     <message>
         <source>Autosaved at %1</source>
@@ -244,10 +318,6 @@ The exit code is 3 when anything is.</source>
         <translation>无</translation>
     </message>
     <message>
-        <source>separated by commas</source>
-        <translation>以半角逗号分隔</translation>
-    </message>
-    <message>
         <source>Has a planned end</source>
         <translation>设有截止时间</translation>
     </message>
@@ -288,10 +358,6 @@ The exit code is 3 when anything is.</source>
         <translation>详情：</translation>
     </message>
     <message>
-        <source>Number: %1</source>
-        <translation>编号：%1</translation>
-    </message>
-    <message>
         <source>Created by: %1</source>
         <translation>创建人：%1</translation>
     </message>
@@ -300,8 +366,56 @@ The exit code is 3 when anything is.</source>
         <translation>创建时间：%1</translation>
     </message>
     <message>
-        <source>Link: %1</source>
-        <translation>链接：%1</translation>
+        <source>Edit style…</source>
+        <translation>编辑样式…</translation>
+    </message>
+    <message>
+        <source>Planned end</source>
+        <translation>截止时间</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>进度</translation>
+    </message>
+    <message>
+        <source>Link</source>
+        <translation>链接</translation>
+    </message>
+    <message>
+        <source>Open the link</source>
+        <translation>打开链接</translation>
+    </message>
+    <message>
+        <source>Followers</source>
+        <translation>关注人</translation>
+    </message>
+    <message>
+        <source>New follower</source>
+        <translation>新关注人</translation>
+    </message>
+    <message>
+        <source>Origin</source>
+        <translation>来源</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>打开</translation>
+    </message>
+    <message>
+        <source>Number:</source>
+        <translation>编号：</translation>
+    </message>
+    <message>
+        <source>Link:</source>
+        <translation>链接：</translation>
+    </message>
+    <message>
+        <source>Style:</source>
+        <translation>样式：</translation>
+    </message>
+    <message>
+        <source>Edit details</source>
+        <translation>编辑详情</translation>
     </message>
 </context>
 <context>
@@ -639,6 +753,13 @@ The exit code is 3 when anything is.</source>
     <message>
         <source>%1 – page %2 of %3</source>
         <translation>%1 – 第 %2 页，共 %3 页</translation>
+    </message>
+</context>
+<context>
+    <name>EditAttributes</name>
+    <message>
+        <source>Edit attributes</source>
+        <translation>编辑属性</translation>
     </message>
 </context>
 <context>
@@ -1005,14 +1126,20 @@ The exit code is 3 when anything is.</source>
         <source>Match %1 of %2</source>
         <translation>第 %1 个匹配，共 %2 个</translation>
     </message>
+    <message numerus="yes">
+        <source>Replace %n text(s)</source>
+        <translation>
+            <numerusform>替换 %n 处文本</numerusform>
+        </translation>
+    </message>
     <message>
-        <source>Only titles can be replaced.</source>
-        <translation>只能替换标题。</translation>
+        <source>Only titles and numbers can be replaced.</source>
+        <translation>只能替换标题和编号。</translation>
     </message>
     <message numerus="yes">
-        <source>%n title(s) replaced</source>
+        <source>%n text(s) replaced</source>
         <translation>
-            <numerusform>已替换 %n 个标题</numerusform>
+            <numerusform>已替换 %n 处文本</numerusform>
         </translation>
     </message>
 </context>
@@ -1092,6 +1219,21 @@ Do you want to save your changes?</source>
     <message>
         <source>(beginning)</source>
         <translation>（初始状态）</translation>
+    </message>
+</context>
+<context>
+    <name>HitList</name>
+    <message>
+        <source>Found</source>
+        <translation>找到的文本</translation>
+    </message>
+    <message>
+        <source>Will be</source>
+        <translation>将变为</translation>
+    </message>
+    <message>
+        <source>In</source>
+        <translation>所在位置</translation>
     </message>
 </context>
 <context>
@@ -1738,10 +1880,32 @@ Do you want to save your changes?</source>
     </message>
 </context>
 <context>
+    <name>StringListEditor</name>
+    <message>
+        <source>Add</source>
+        <translation>添加</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>移除</translation>
+    </message>
+</context>
+<context>
     <name>SubjectClipboard</name>
     <message>
         <source>cannot paste the text: %1</source>
         <translation>无法粘贴文本：%1</translation>
+    </message>
+</context>
+<context>
+    <name>SubjectEdit</name>
+    <message>
+        <source>Change style</source>
+        <translation>更改样式</translation>
+    </message>
+    <message>
+        <source>Remove style</source>
+        <translation>移除样式</translation>
     </message>
 </context>
 <context>

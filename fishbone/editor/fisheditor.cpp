@@ -11,6 +11,7 @@
 #include <QTimer>
 #include <QVector>
 
+#include <fishbone/editor/accessiblediagram.h>
 #include <fishbone/editor/fishlayout.h>
 #include <fishbone/editor/fishscene.h>
 #include <fishbone/editor/graphicsview.h>
@@ -47,6 +48,7 @@ FishEditor::FishEditor(QWidget *parent)
     : QFrame(parent)
 {
     registerMetaTypes();
+    AccessibleDiagram::install();
     m_undoStack = new UndoStack(this);
     setFrameStyle(sunkenPanel);
     m_view = new GraphicsView(this);
@@ -54,11 +56,12 @@ FishEditor::FishEditor(QWidget *parent)
     connect(m_view, &GraphicsView::moveSpear, this, &FishEditor::moveItems);
     // Queued, so that a drop is handled when the drag has ended.
     connect(m_view, &GraphicsView::dropTo, this, &FishEditor::onDropTo, Qt::QueuedConnection);
-    auto *const layout = new QHBoxLayout(this);
-    layout->addWidget(m_view);
     m_scene = std::make_unique<FishScene>();
     connect(m_scene.get(), &FishScene::selectionChanged, this, &FishEditor::sceneSelectionChanged);
+    // Before the view gets its parent, of which assistive technology hears: it wants the scene.
     m_view->setScene(m_scene.get());
+    auto *const layout = new QHBoxLayout(this);
+    layout->addWidget(m_view);
     setupMatrix();
     ExpandItem::setFishEditor(this);
     startSaveTmpFileTimer();

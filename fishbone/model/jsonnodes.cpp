@@ -23,11 +23,10 @@ void insertUnlessNull(QJsonObject &object, QLatin1String key, const QString &tex
         object.insert(key, text);
 }
 
-/** The object of one node. Its keys go in in sorted order, since each goes where it stays then. */
-QJsonObject nodeObject(const TreeItem &node, const QJsonArray &children)
+/** Adds the attributes of one node. The keys go in in sorted order, since each goes where it stays
+ * then. */
+void insertAttributes(QJsonObject &object, const TreeItem &node)
 {
-    QJsonObject object;
-    object.insert(childrenKey, children);
     object.insert(createDateKey, double(node.createDate()));
     insertUnlessNull(object, creatorIdKey, node.creatorId());
     insertUnlessNull(object, creatorNameKey, node.creatorName());
@@ -51,6 +50,14 @@ QJsonObject nodeObject(const TreeItem &node, const QJsonArray &children)
     object.insert(typeKey, node.type());
     insertUnlessNull(object, urlKey, node.url());
     object.insert(uuidKey, node.uuid());
+}
+
+/** The object of one node. */
+QJsonObject nodeObject(const TreeItem &node, const QJsonArray &children)
+{
+    QJsonObject object;
+    object.insert(childrenKey, children);
+    insertAttributes(object, node);
     return object;
 }
 
@@ -72,6 +79,13 @@ void queueChildren(QQueue<Pending> &queue, const QJsonObject &object, TreeItem *
 } // namespace
 
 namespace JsonNodes {
+
+QJsonObject attributes(const TreeItem &node)
+{
+    QJsonObject object;
+    insertAttributes(object, node);
+    return object;
+}
 
 int write(QJsonObject &out, const TreeItem &top, int maxLevels)
 {

@@ -44,6 +44,9 @@ constexpr int styleNesting = 4;
 /** The levels that a QJsonObject may have: Qt destroys it with recursion, and stacks are small. */
 constexpr int buildableLevels = 20000;
 
+/** The object of a node without its children. */
+QJsonObject attributes(const TreeItem &node);
+
 /**
  * Sets @p out to the object of @p top with its subtree and returns the number of levels that it
  * has. Returns 0, with @p out untouched, when there are more than @p maxLevels.

@@ -41,6 +41,13 @@ bool isIn(const FishModel &model, const TreeItem *subject)
     return model.indexFromItem(subject).isValid();
 }
 
+/** The node that @p key was made of, when it is still a subject of @p model under its uuid. */
+TreeItem *ownNode(const FishModel &model, const SubjectKey &key)
+{
+    TreeItem *const node = key.node.get();
+    return node && endsWith(node, key.uuid) && isIn(model, node) ? node : nullptr;
+}
+
 /** indexFromUuid() for a model that is known by its column of uuids only. */
 QModelIndex matchUuid(const QAbstractItemModel &model, const QString &uuid, int column)
 {
@@ -100,8 +107,7 @@ TreeItem *findSubject(const FishModel &model, const SubjectKey &key)
 {
     if (!namesSubject(key.uuid))
         return nullptr;
-    TreeItem *const node = key.node.get();
-    if (node && endsWith(node, key.uuid) && isIn(model, node))
+    if (TreeItem *const node = ownNode(model, key))
         return node;
     TreeItem *found = nullptr;
     const auto look = [&](TreeItem *subject) {
@@ -116,6 +122,18 @@ TreeItem *findSubject(const FishModel &model, const SubjectKey &key)
             break;
     }
     return found;
+}
+
+QVector<TreeItem *> findSubjects(const FishModel &model, const QVector<SubjectKey> &keys)
+{
+    SubjectFinder finder(model, keys);
+    QVector<TreeItem *> subjects;
+    subjects.reserve(keys.size());
+    for (const SubjectKey &key : keys) {
+        TreeItem *const node = namesSubject(key.uuid) ? ownNode(model, key) : nullptr;
+        subjects.append(node ? node : finder.find(key));
+    }
+    return subjects;
 }
 
 QModelIndex indexFromKey(const QAbstractItemModel *model, const SubjectKey &key)

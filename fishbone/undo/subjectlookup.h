@@ -51,6 +51,8 @@ SubjectKey keyFromIndex(const QModelIndex &index);
  * of costs the way up to its document, another one a walk over the nodes that ends where it is.
  */
 TreeItem *findSubject(const FishModel &model, const SubjectKey &key);
+/** The subjects that @p keys mean, in their order, as findSubject() finds each; in one walk. */
+QVector<TreeItem *> findSubjects(const FishModel &model, const QVector<SubjectKey> &keys);
 /** The index of the subject that @p key means, in any model whose column 1 shows the uuids. */
 QModelIndex indexFromKey(const QAbstractItemModel *model, const SubjectKey &key);
 /**

@@ -10,10 +10,56 @@
 #include <QComboBox>
 #include <QDateEdit>
 #include <QDockWidget>
+#include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QSpinBox>
+#include <QToolButton>
+
+#include <fishbone/items/linkitem.h>
+#include <fishbone/style/spearstyle.h>
+#include <fishbone/style/spearstyledialog.h>
+
+#include <tests/support/dialogchecks.h>
+#include <tests/support/modaldriver.h>
+
+namespace {
+
+QString original()
+{
+    return QStringLiteral("Late[People[Too few[Illness],Too new],Machines,Material[Rust]]");
+}
+
+/// The followers as they are listed.
+QStringList listed(const AppFixture &app)
+{
+    const auto *const list = app.widget<QWidget>("detailsFollowers")->findChild<QListWidget *>();
+    QStringList texts;
+    for (int row = 0; row < list->count(); ++row)
+        texts.append(list->item(row)->text());
+    return texts;
+}
+
+void addFollower(const AppFixture &app, const QString &name)
+{
+    auto *const field = app.widget<QWidget>("detailsFollowers")->findChild<QLineEdit *>();
+    field->setFocus(); // or the keys were shortcuts of the drawing
+    field->clear();
+    QTest::keyClicks(field, name);
+    QTest::keyClick(field, Qt::Key_Return);
+}
+
+void apply(const AppFixture &app)
+{
+    auto *const button = app.widget<QPushButton>("detailsApply");
+    QVERIFY(button->isEnabled());
+    button->click();
+    AppFixture::settle();
+}
+
+} // namespace
 
 class TestDetailsPanel : public QObject
 {
@@ -27,6 +73,14 @@ private Q_SLOTS:
     void shouldRevertWhatIsEntered();
     void shouldApplyWhenAnotherSubjectIsSelected();
     void shouldKeepWhatIsNotShownFully();
+    void shouldBeOneStepThatCanBeUndone();
+    void shouldApplyOnlyWhatWasChanged();
+    void shouldPushNothingWhenNothingDiffers();
+    void shouldAddAndRemoveFollowers();
+    void shouldShowTheIconOfTheStatusAndProgress();
+    void shouldOpenTheLink();
+    void shouldEditTheStyleInOneStep();
+    void shouldNameEveryControl();
     void shouldForgetASubjectThatIsDeleted();
     void shouldOpenOnTheEditorsGestures_data();
     void shouldOpenOnTheEditorsGestures();
@@ -57,7 +111,7 @@ void TestDetailsPanel::shouldShowTheSelectedSubject()
     QCOMPARE(app.widget<QSpinBox>("detailsProgress")->value(), 40);
     QCOMPARE(app.widget<QSpinBox>("detailsPriority")->value(), 2);
     QCOMPARE(app.widget<QLineEdit>("detailsManager")->text(), QStringLiteral("Li"));
-    QCOMPARE(app.widget<QLineEdit>("detailsFollowers")->text(), QStringLiteral("a, b"));
+    QCOMPARE(listed(app), QStringList({QStringLiteral("a"), QStringLiteral("b")}));
     QVERIFY(!app.widget<QPushButton>("detailsApply")->isEnabled());
     QVERIFY(!app.document()->modified());
 }
@@ -83,10 +137,12 @@ void TestDetailsPanel::shouldApplyWhatIsEntered()
     app.widget<QSpinBox>("detailsProgress")->setValue(70);
     app.widget<QSpinBox>("detailsPriority")->setValue(3);
     app.widget<QLineEdit>("detailsManager")->setText(QStringLiteral("Ann"));
-    app.widget<QLineEdit>("detailsFollowers")->setText(QStringLiteral("x,, y "));
-    const DetailsPanel *const panel = app.window.tabs()->current()->details();
-    panel->findChild<QCheckBox *>()->setChecked(true);
-    panel->findChild<QDateEdit *>()->setDate(QDate(2026, 3, 4));
+    addFollower(app, QStringLiteral("x"));
+    addFollower(app, QStringLiteral(" y "));
+    app.widget<QCheckBox>("detailsHasPlannedEnd")->setChecked(true);
+    app.widget<QDateEdit>("detailsPlannedEnd")->setDate(QDate(2026, 3, 4));
+    app.widget<QLineEdit>("detailsNumber")->setText(QStringLiteral("7"));
+    app.widget<QLineEdit>("detailsLink")->setText(QStringLiteral(" http://localhost/ "));
     QVERIFY(app.widget<QPushButton>("detailsApply")->isEnabled());
     QVERIFY(app.find("Machines").isValid()); // not before it is applied
     app.widget<QPushButton>("detailsApply")->click();
@@ -105,8 +161,144 @@ void TestDetailsPanel::shouldApplyWhatIsEntered()
     QCOMPARE(robots->spear()->text(), QStringLiteral("Robots"));
     QCOMPARE(robots->spear()->statusItem()->progress(), 70);
     QVERIFY(app.window.isWindowModified());
+    QCOMPARE(robots->showid(), QStringLiteral("7"));
+    QCOMPARE(robots->url(), QStringLiteral("http://localhost/"));
+    QVERIFY(robots->spear()->linkItem());
     QVERIFY(!app.widget<QPushButton>("detailsApply")->isEnabled());
+    QCOMPARE(app.window.editor()->undoStack()->commandNames(),
+             QStringList(QStringLiteral("Edit details")));
+}
+
+void TestDetailsPanel::shouldBeOneStepThatCanBeUndone()
+{
+    AppFixture app;
+    app.select("Machines");
+    app.widget<QLineEdit>("detailsTitle")->setText(QStringLiteral("Robots"));
+    auto *const status = app.widget<QComboBox>("detailsStatus");
+    status->setCurrentIndex(status->findData(int(tsRunning)));
+    app.widget<QSpinBox>("detailsProgress")->setValue(70);
+    apply(app);
+    app.document()->setModified(false); // as after saving
+    app.trigger("undo");
+    QCOMPARE(app.text(), original());
+    const TreeItem *const machines = app.subject("Machines");
+    QCOMPARE(machines->status(), -1);
+    QCOMPARE(machines->progress(), 0);
+    QCOMPARE(machines->spear()->text(), QStringLiteral("Machines"));
+    QCOMPARE(int(machines->spear()->statusItem()->status()), -1);
+    QVERIFY(app.document()->modified());
+    QCOMPARE(app.widget<QLineEdit>("detailsTitle")->text(), QStringLiteral("Machines"));
     QVERIFY(!app.window.editor()->undoStack()->canUndo());
+    app.trigger("redo");
+    QCOMPARE(app.subject("Robots")->spear()->statusItem()->progress(), 70);
+    QCOMPARE(app.widget<QLineEdit>("detailsTitle")->text(), QStringLiteral("Robots"));
+}
+
+void TestDetailsPanel::shouldApplyOnlyWhatWasChanged()
+{
+    AppFixture app;
+    app.select("Machines");
+    app.widget<QLineEdit>("detailsManager")->setText(QStringLiteral("Ann"));
+    app.window.editor()->renameItem(app.find("Machines"), QStringLiteral("Robots"));
+    AppFixture::settle();
+    apply(app);
+    QVERIFY(app.subject("Robots"));
+    QCOMPARE(app.subject("Robots")->managerName(), QStringLiteral("Ann"));
+    app.trigger("undo");
+    QVERIFY(app.subject("Robots"));
+    QCOMPARE(app.subject("Robots")->managerName(), QString());
+    app.trigger("undo");
+    QCOMPARE(app.text(), original());
+}
+
+void TestDetailsPanel::shouldPushNothingWhenNothingDiffers()
+{
+    AppFixture app;
+    app.select("Machines");
+    app.widget<QLineEdit>("detailsTitle")->setText(QStringLiteral("Robots"));
+    app.widget<QLineEdit>("detailsTitle")->setText(QStringLiteral("Machines"));
+    apply(app);
+    QVERIFY(!app.window.editor()->undoStack()->canUndo());
+    QVERIFY(!app.document()->modified());
+}
+
+void TestDetailsPanel::shouldAddAndRemoveFollowers()
+{
+    AppFixture app;
+    TreeItem *const machines = app.subject("Machines");
+    machines->setFollowers(QStringList{QStringLiteral("Li, Wei"), QStringLiteral("Bo")});
+    app.select("Machines");
+    auto *const list = app.widget<QWidget>("detailsFollowers")->findChild<QListWidget *>();
+    list->setFocus();
+    list->setCurrentRow(1);
+    QTest::keyClick(list, Qt::Key_Delete);
+    addFollower(app, QStringLiteral("Ann"));
+    auto *const field = app.widget<QWidget>("detailsFollowers")->findChild<QLineEdit *>();
+    QTest::keyClicks(field, QStringLiteral("Cai")); // and not added
+    apply(app);
+    QCOMPARE(machines->followers(), QStringList({QStringLiteral("Li, Wei"), QStringLiteral("Ann"),
+                                                 QStringLiteral("Cai")}));
+    QCOMPARE(listed(app), machines->followers());
+    QVERIFY(field->text().isEmpty());
+    app.trigger("undo");
+    QCOMPARE(machines->followers(), QStringList({QStringLiteral("Li, Wei"), QStringLiteral("Bo")}));
+}
+
+void TestDetailsPanel::shouldShowTheIconOfTheStatusAndProgress()
+{
+    AppFixture app;
+    app.select("Machines");
+    const auto shown = [&app] { return app.widget<QLabel>("detailsStatusIcon")->grab().toImage(); };
+    const QImage none = shown();
+    auto *const status = app.widget<QComboBox>("detailsStatus");
+    status->setCurrentIndex(status->findData(int(tsRunning)));
+    app.widget<QSpinBox>("detailsProgress")->setValue(10);
+    const QImage begun = shown();
+    app.widget<QSpinBox>("detailsProgress")->setValue(80);
+    QVERIFY(begun != none);
+    QVERIFY(shown() != begun);
+    app.widget<QPushButton>("detailsRevert")->click();
+    QCOMPARE(shown(), none);
+}
+
+void TestDetailsPanel::shouldOpenTheLink()
+{
+    AppFixture app;
+    QStringList opened;
+    LinkItem::setOpener([&opened](const QUrl &url) { opened.append(url.toString()); });
+    app.select("Machines");
+    QVERIFY(!app.widget<QToolButton>("detailsOpenLink")->isEnabled());
+    QTest::keyClicks(app.widget<QLineEdit>("detailsLink"), QStringLiteral("http://localhost/a"));
+    QVERIFY(app.widget<QToolButton>("detailsOpenLink")->isEnabled());
+    app.widget<QToolButton>("detailsOpenLink")->click();
+    QCOMPARE(opened, QStringList(QStringLiteral("http://localhost/a")));
+    QVERIFY(app.subject("Machines")->url().isEmpty()); // not applied by that
+    LinkItem::setOpener({});
+}
+
+void TestDetailsPanel::shouldEditTheStyleInOneStep()
+{
+    AppFixture app;
+    app.select("Machines");
+    app.widget<QLineEdit>("detailsManager")->setText(QStringLiteral("Ann"));
+    const TestSupport::ModalDriver<SpearStyleDialog> driver(
+        [](SpearStyleDialog &dialog) { dialog.accept(); });
+    app.widget<QPushButton>("detailsStyle")->click();
+    AppFixture::settle();
+    QVERIFY(driver.isDone());
+    QVERIFY(app.subject("Machines")->spearStyle());
+    QCOMPARE(app.widget<QLineEdit>("detailsManager")->text(), QStringLiteral("Ann"));
+    QVERIFY(app.subject("Machines")->managerName().isEmpty());
+    app.trigger("undo");
+    QVERIFY(!app.subject("Machines")->spearStyle());
+    QVERIFY(!app.window.editor()->undoStack()->canUndo());
+}
+
+void TestDetailsPanel::shouldNameEveryControl()
+{
+    AppFixture app;
+    app.select("Machines");
+    QCOMPARE(TestSupport::namelessControls(*app.widget<QWidget>("detailsDock")), QStringList());
 }
 
 void TestDetailsPanel::shouldRevertWhatIsEntered()

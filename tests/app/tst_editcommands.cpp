@@ -5,11 +5,16 @@
 
 #include <tests/support/modaldriver.h>
 
+#include <fishbone/items/linkitem.h>
 #include <fishbone/items/textitem.h>
+#include <fishbone/style/spearstyle.h>
 #include <fishbone/style/spearstyledialog.h>
 
+#include <QClipboard>
+#include <QContextMenuEvent>
 #include <QInputDialog>
 #include <QLineEdit>
+#include <QMenu>
 
 using TestSupport::ModalDriver;
 
@@ -48,6 +53,8 @@ private Q_SLOTS:
     void shouldKeepTheFieldOverTheTitle_data();
     void shouldKeepTheFieldOverTheTitle();
     void shouldKeepTheDefaultTitleOnEscape();
+    void shouldRenameInAStepOfItsOwnLater();
+    void shouldRenameInAStepOfItsOwnAfterAnotherEdit();
     void shouldLeaveShortcutsToWidgetsThatTakeText();
     void shouldInsertAFreeSubjectAsADocument();
     void shouldRename();
@@ -57,7 +64,14 @@ private Q_SLOTS:
     void shouldGivePastedSubjectsUuidsOfTheirOwn();
     void shouldSelectAll();
     void shouldLinkAndUnlink();
+    void shouldUndoALink();
+    void shouldBeginALinkWithTheOneThereIs();
+    void shouldOpenTheLinkOfTheSubject();
     void shouldMarkAChangedStyle();
+    void shouldUndoAStyle();
+    void shouldSurviveASubjectThatGoesWhileItsStyleIsEdited();
+    void shouldPasteFromTheMenuOfABone_data();
+    void shouldPasteFromTheMenuOfABone();
     void shouldInsertASubTask();
     void shouldInsertNoSubTaskWhenCancelled();
     void shouldAnswerTheEditorsGestures();
@@ -118,9 +132,13 @@ void TestEditCommands::shouldInsertByShortcutAndName()
     QVERIFY(app.subject("New")->spear()->isVisible());
     QVERIFY(app.window.editor()->view()->hasFocus());
 
-    app.trigger("undo");
-    app.trigger("undo");
+    app.trigger("undo"); // the subject and its title
     QCOMPARE(app.text(), original());
+    QVERIFY(!app.window.editor()->undoStack()->canUndo());
+    app.trigger("redo");
+    QCOMPARE(app.text(), result);
+    app.select("New");
+    QCOMPARE(app.subject("New")->spear()->text(), QStringLiteral("New"));
 }
 
 void TestEditCommands::shouldScrollToWhatIsInserted()
@@ -214,6 +232,41 @@ void TestEditCommands::shouldKeepTheDefaultTitleOnEscape()
     QVERIFY(!titleField(app));
     QVERIFY(app.text().contains(QStringLiteral("Machines[子主题]")));
     QCOMPARE(app.window.editor()->undoStack()->commandNames().size(), 1);
+}
+
+void TestEditCommands::shouldRenameInAStepOfItsOwnLater()
+{
+    AppFixture app;
+    app.select("Machines");
+    app.trigger("child");
+    QTest::keyClick(titleField(app), Qt::Key_Escape);
+    app.trigger("rename");
+    QTest::keyClicks(titleField(app), QStringLiteral("New"));
+    QTest::keyClick(titleField(app), Qt::Key_Return);
+    AppFixture::settle();
+    QVERIFY(app.text().contains(QStringLiteral("Machines[New]")));
+    app.trigger("undo");
+    QVERIFY(app.text().contains(QStringLiteral("Machines[子主题]")));
+    app.trigger("undo");
+    QCOMPARE(app.text(), original());
+}
+
+void TestEditCommands::shouldRenameInAStepOfItsOwnAfterAnotherEdit()
+{
+    AppFixture app;
+    app.select("Machines");
+    app.trigger("child");
+    QTest::keyClicks(titleField(app), QStringLiteral("New"));
+    app.window.editor()->renameItem(app.find("Rust"), QStringLiteral("Wear"));
+    QTest::keyClick(titleField(app), Qt::Key_Return);
+    AppFixture::settle();
+    QVERIFY(app.text().contains(QStringLiteral("Machines[New],Material[Wear]")));
+    app.trigger("undo");
+    QVERIFY(app.text().contains(QStringLiteral("Machines[子主题],Material[Wear]")));
+    app.trigger("undo");
+    QVERIFY(app.text().contains(QStringLiteral("Machines[子主题],Material[Rust]")));
+    app.trigger("undo");
+    QCOMPARE(app.text(), original());
 }
 
 void TestEditCommands::shouldLeaveShortcutsToWidgetsThatTakeText()
@@ -385,6 +438,152 @@ void TestEditCommands::shouldMarkAChangedStyle()
     QVERIFY(!app.subject("Machines")->spearStyle());
     QVERIFY(app.document()->modified());
     QVERIFY(app.window.isWindowModified());
+}
+
+void TestEditCommands::shouldUndoALink()
+{
+    AppFixture app;
+    app.select("Machines");
+    const ModalDriver<QDialog> driver([](QDialog &dialog) {
+        dialog.findChild<QLineEdit *>()->setText(QStringLiteral("http://localhost/page"));
+        dialog.accept();
+    });
+    app.trigger("link");
+    QVERIFY(driver.isDone());
+    app.document()->setModified(false);
+    app.trigger("undo");
+    QVERIFY(app.subject("Machines")->url().isEmpty());
+    QVERIFY(!app.subject("Machines")->spear()->linkItem());
+    QVERIFY(app.document()->modified());
+    app.trigger("redo");
+    QCOMPARE(app.subject("Machines")->url(), QStringLiteral("http://localhost/page"));
+    QVERIFY(app.subject("Machines")->spear()->linkItem());
+}
+
+void TestEditCommands::shouldBeginALinkWithTheOneThereIs()
+{
+    AppFixture app;
+    app.subject("Machines")->setUrl(QStringLiteral("http://localhost/old"));
+    app.subject("Machines")->setShowid(QStringLiteral("7"));
+    app.select("Machines");
+    QString shown;
+    const ModalDriver<QDialog> driver([&shown](QDialog &dialog) {
+        shown = dialog.findChild<QLineEdit *>()->text();
+        dialog.reject();
+    });
+    app.trigger("link");
+    QVERIFY(driver.isDone());
+    QCOMPARE(shown, QStringLiteral("http://localhost/old"));
+    QVERIFY(!app.window.editor()->undoStack()->canUndo());
+}
+
+void TestEditCommands::shouldOpenTheLinkOfTheSubject()
+{
+    AppFixture app;
+    QStringList opened;
+    LinkItem::setOpener([&opened](const QUrl &url) { opened.append(url.toString()); });
+    app.subject("Machines")->setUrl(QStringLiteral("http://localhost/a"));
+    app.subject("Machines")->setShowid(QStringLiteral("7"));
+    app.select("Machines");
+    app.trigger("openLink");
+    QCOMPARE(opened, QStringList(QStringLiteral("http://localhost/a")));
+    LinkItem::setOpener({});
+}
+
+void TestEditCommands::shouldUndoAStyle()
+{
+    AppFixture app;
+    app.select("Machines");
+    const auto color = [&app] {
+        const SpearStyle *const style = app.subject("Machines")->spearStyle();
+        return style ? style->textColor(SpearStyle::ssNormal) : QColor();
+    };
+    QJsonObject red;
+    {
+        SpearStyle style;
+        style.setTextColor(SpearStyle::ssNormal, Qt::red);
+        style.write(red);
+    }
+    const ModalDriver<SpearStyleDialog> driver([](SpearStyleDialog &dialog) { dialog.accept(); });
+    app.trigger("style");
+    QVERIFY(driver.isDone());
+    QVERIFY(app.subject("Machines")->spearStyle());
+    app.document()->setModified(false);
+    app.trigger("undo");
+    QVERIFY(!app.subject("Machines")->spearStyle());
+    QVERIFY(app.document()->modified());
+    app.trigger("redo");
+    QVERIFY(app.subject("Machines")->spearStyle());
+
+    app.subject("Machines")->setSpearStyle(red);
+    app.trigger("removeStyle");
+    QVERIFY(!app.subject("Machines")->spearStyle());
+    QVERIFY(app.subject("Machines")->spear()->textColor(SpearStyle::ssNormal) != QColor(Qt::red));
+    app.trigger("undo");
+    QCOMPARE(color(), QColor(Qt::red));
+    QCOMPARE(app.subject("Machines")->spear()->textColor(SpearStyle::ssNormal), QColor(Qt::red));
+}
+
+void TestEditCommands::shouldSurviveASubjectThatGoesWhileItsStyleIsEdited()
+{
+    AppFixture app;
+    app.select("Machines");
+    const ModalDriver<SpearStyleDialog> driver([&app](SpearStyleDialog &dialog) {
+        app.window.model()->removeRows(1, 1, app.find("Late"));
+        dialog.accept();
+    });
+    app.trigger("style");
+    QVERIFY(driver.isDone());
+    QVERIFY(!app.subject("Machines"));
+    QVERIFY(!app.window.editor()->undoStack()->canUndo());
+}
+
+void TestEditCommands::shouldPasteFromTheMenuOfABone_data()
+{
+    QTest::addColumn<bool>("isDiagram");
+
+    QTest::newRow("task mode") << false;
+    QTest::newRow("diagram mode") << true;
+}
+
+void TestEditCommands::shouldPasteFromTheMenuOfABone()
+{
+    QFETCH(bool, isDiagram);
+    AppFixture app;
+    app.trigger(isDiagram ? "diagramMode" : "taskMode");
+    QGuiApplication::clipboard()->setText(QStringLiteral("- One\n  - Two\n"));
+    app.select("People");
+    const GraphicsView *const view = app.window.editor()->view();
+    const QPoint at = view->mapFromScene(app.subject("Machines")->spear()->line().center());
+
+    QStringList entries;
+    bool isPasted = false;
+    QTimer::singleShot(0, &app.window, [&] {
+        auto *const menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+        if (!menu)
+            return;
+        AppFixture::settle(); // the actions follow the selection
+        const QList<QAction *> actions = menu->actions();
+        for (QAction *action : actions) {
+            if (action->isSeparator())
+                continue;
+            entries.append(action->objectName());
+            if (action->objectName() == QLatin1String("paste") && action->isEnabled()) {
+                isPasted = true;
+                action->trigger();
+            }
+        }
+        menu->close();
+    });
+    QContextMenuEvent event(QContextMenuEvent::Mouse, at, view->viewport()->mapToGlobal(at));
+    QApplication::sendEvent(view->viewport(), &event);
+    AppFixture::settle();
+    QVERIFY(isPasted);
+    QCOMPARE(entries.contains(QStringLiteral("child")), isDiagram);
+    QCOMPARE(entries.contains(QStringLiteral("asDiagram")), !isDiagram);
+    QVERIFY(app.text().contains(QLatin1String("Machines[One[Two]]")));
+    app.trigger("undo");
+    QCOMPARE(app.text(), original());
 }
 
 void TestEditCommands::shouldInsertASubTask()

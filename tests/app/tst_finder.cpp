@@ -14,6 +14,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QStatusBar>
+#include <QTreeWidget>
 
 using TestSupport::buttonWithText;
 using TestSupport::ModalDriver;
@@ -30,7 +31,17 @@ private Q_SLOTS:
     void shouldReplaceAsAStepThatCanBeUndone();
     void shouldReplaceInAllTitles();
     void shouldRespectTheCase();
-    void shouldReplaceNothingButTitles();
+    void shouldReplaceNumbersToo();
+    void shouldReplaceNoIdentities();
+    void shouldListWhatWasFound();
+    void shouldGoToAListedHit();
+    void shouldPreviewWhatWillChange();
+    void shouldReplaceOnlyWhatIsChecked();
+    void shouldReplaceThePlainTitleOfAHead();
+    void shouldFollowSubjectsThatGo();
+    void shouldRestoreTheLookOnEscape();
+    void shouldStayWhereAChosenHitIs();
+    void shouldNameEveryControl();
 };
 
 namespace {
@@ -54,6 +65,23 @@ struct FinderFixture : AppFixture
     {
         buttonWithText(*dialog, QLatin1String(button))->click();
         settle();
+    }
+
+    QTreeWidget *hits() const { return dialog->findChild<QTreeWidget *>(); }
+    /// The listed hits: "[x]" for a checked box, then the columns.
+    QStringList rows() const
+    {
+        QStringList texts;
+        for (int row = 0; row < hits()->topLevelItemCount(); ++row) {
+            const QTreeWidgetItem *const item = hits()->topLevelItem(row);
+            const QVariant box = item->data(0, Qt::CheckStateRole);
+            const QString mark = !box.isValid()               ? QString()
+                                 : box.toInt() == Qt::Checked ? QStringLiteral("[x]")
+                                                              : QStringLiteral("[ ]");
+            texts.append(mark + item->text(0) + QLatin1Char('|') + item->text(1) +
+                         QLatin1Char('|') + item->text(2));
+        }
+        return texts;
     }
 
     ReplaceFindDialog *dialog = nullptr;
@@ -132,8 +160,15 @@ void TestFinder::shouldReplaceInAllTitles()
     app.field(1)->setText(QStringLiteral("Very"));
     app.press("Replace All");
     QVERIFY(app.text().contains(QLatin1String("People[Very few[Illness],Very new]")));
-    QCOMPARE(app.window.statusBar()->currentMessage(), QStringLiteral("2 title(s) replaced"));
-    QCOMPARE(app.window.editor()->undoStack()->commandNames().size(), 2);
+    QCOMPARE(app.window.statusBar()->currentMessage(), QStringLiteral("2 text(s) replaced"));
+    QCOMPARE(app.window.editor()->undoStack()->commandNames(),
+             QStringList(QStringLiteral("Replace 2 text(s)")));
+    app.select("Very new");
+    QCOMPARE(app.subject("Very new")->spear()->text(), QStringLiteral("Very new"));
+    app.trigger("undo");
+    QVERIFY(app.text().contains(QLatin1String("People[Too few[Illness],Too new]")));
+    app.trigger("redo");
+    QVERIFY(app.text().contains(QLatin1String("People[Very few[Illness],Very new]")));
 }
 
 void TestFinder::shouldRespectTheCase()
@@ -152,7 +187,7 @@ void TestFinder::shouldRespectTheCase()
     QVERIFY(app.text().contains(QLatin1String("Xachines,Xaterial")));
 }
 
-void TestFinder::shouldReplaceNothingButTitles()
+void TestFinder::shouldReplaceNumbersToo()
 {
     FinderFixture app;
     app.subject("Machines")->setShowid(QStringLiteral("No. 7"));
@@ -161,9 +196,146 @@ void TestFinder::shouldReplaceNothingButTitles()
     QCOMPARE(app.selectedInDrawing(), QStringList(QStringLiteral("Machines")));
     app.field(1)->setText(QStringLiteral("8"));
     app.press("Replace");
-    app.press("Replace All");
+    QCOMPARE(app.subject("Machines")->showid(), QStringLiteral("No. 8"));
+    app.trigger("undo");
     QCOMPARE(app.subject("Machines")->showid(), QStringLiteral("No. 7"));
-    QVERIFY(!app.window.editor()->undoStack()->canUndo());
+    QVERIFY(app.subject("Machines"));
+}
+
+void TestFinder::shouldReplaceNoIdentities()
+{
+    FinderFixture app;
+    app.dialog->findChild<QComboBox *>()->setCurrentIndex(1);
+    app.field(1)->setText(QStringLiteral("x"));
+    app.search(QStringLiteral("e}"));
+    QCOMPARE(app.selectedInDrawing(), QStringList(QStringLiteral("Machines")));
+    QCOMPARE(app.rows(), QStringList(QStringLiteral("{e}||Late")));
+    QVERIFY(!buttonWithText(*app.dialog, QStringLiteral("Replace"))->isEnabled());
+    QVERIFY(!buttonWithText(*app.dialog, QStringLiteral("Replace All"))->isEnabled());
+}
+
+void TestFinder::shouldListWhatWasFound()
+{
+    FinderFixture app;
+    app.search(QStringLiteral("too"));
+    QCOMPARE(app.rows(), QStringList({QStringLiteral("[x]Too few| few|Late › People"),
+                                      QStringLiteral("[x]Too new| new|Late › People")}));
+    app.field(0)->setText(QStringLiteral("to")); // not searched for yet
+    QCOMPARE(app.rows(), QStringList());
+    app.search(QStringLiteral("illness"));
+    QCOMPARE(app.rows(), QStringList(QStringLiteral("[x]Illness||Late › People › Too few")));
+}
+
+void TestFinder::shouldGoToAListedHit()
+{
+    FinderFixture app;
+    app.search(QStringLiteral("too"));
+    QCOMPARE(app.hits()->currentItem(), app.hits()->topLevelItem(0));
+    app.hits()->setFocus();
+    QTest::keyClick(app.hits(), Qt::Key_Down);
+    AppFixture::settle();
+    QCOMPARE(app.selectedInDrawing(), QStringList(QStringLiteral("Too new")));
+    app.press("Find"); // goes on from there
+    QCOMPARE(app.selectedInDrawing(), QStringList(QStringLiteral("Too few")));
+    QCOMPARE(app.hits()->currentItem(), app.hits()->topLevelItem(0));
+}
+
+void TestFinder::shouldPreviewWhatWillChange()
+{
+    FinderFixture app;
+    app.search(QStringLiteral("ma"));
+    app.field(1)->setText(QStringLiteral("X"));
+    QCOMPARE(app.rows(), QStringList({QStringLiteral("[x]Machines|Xchines|Late"),
+                                      QStringLiteral("[x]Material|Xterial|Late")}));
+    app.field(1)->setText(QStringLiteral("ma"));
+    QCOMPARE(app.rows(), QStringList({QStringLiteral("[x]Machines|machines|Late"),
+                                      QStringLiteral("[x]Material|material|Late")}));
+    app.dialog->findChild<QCheckBox *>()->setChecked(true);
+    app.field(1)->setText(QStringLiteral("Ma"));
+    app.search(QStringLiteral("Ma")); // nothing changes
+    QCOMPARE(app.rows(),
+             QStringList({QStringLiteral("Machines||Late"), QStringLiteral("Material||Late")}));
+    QVERIFY(!app.document()->modified());
+}
+
+void TestFinder::shouldReplaceOnlyWhatIsChecked()
+{
+    FinderFixture app;
+    app.search(QStringLiteral("m"));
+    app.field(1)->setText(QStringLiteral("X"));
+    QCOMPARE(app.hits()->topLevelItemCount(), 2);
+    app.hits()->topLevelItem(0)->setCheckState(0, Qt::Unchecked);
+    app.press("Replace All");
+    QVERIFY(app.text().endsWith(QLatin1String("Machines,Xaterial[Rust]]")));
+    QCOMPARE(app.window.statusBar()->currentMessage(), QStringLiteral("1 text(s) replaced"));
+    app.trigger("undo");
+    QVERIFY(app.text().endsWith(QLatin1String("Machines,Material[Rust]]")));
+}
+
+void TestFinder::shouldReplaceThePlainTitleOfAHead()
+{
+    FinderFixture app;
+    app.window.model()->setModelType(FISH_MODEL_NORMAL); // the counts stand behind the title
+    app.search(QStringLiteral("Late"));
+    app.field(1)->setText(QStringLiteral("Early"));
+    QCOMPARE(app.rows(), QStringList(QStringLiteral("[x]Late|Early|")));
+    app.press("Replace All");
+    QVERIFY(app.text().startsWith(QLatin1String("Early[People")));
+    app.trigger("undo");
+    QVERIFY(app.text().startsWith(QLatin1String("Late[People")));
+}
+
+void TestFinder::shouldFollowSubjectsThatGo()
+{
+    FinderFixture app;
+    app.field(1)->setText(QStringLiteral("Very"));
+    app.search(QStringLiteral("too"));
+    app.window.editor()->deleteItem(app.find("Too few"));
+    AppFixture::settle();
+    app.press("Replace All");
+    QVERIFY(app.text().contains(QLatin1String("People[Very new]")));
+}
+
+void TestFinder::shouldRestoreTheLookOnEscape()
+{
+    AppFixture plain;
+    plain.select("Rust");
+    plain.select("Machines");
+    plain.trigger("find");
+    auto *const dialog = plain.window.findChild<ReplaceFindDialog *>();
+    QVERIFY(plain.subject("Material")->spear()->isExpand());
+    QVERIFY(!plain.subject("People")->spear()->isExpand());
+    dialog->findChildren<QLineEdit *>().value(0)->setText(QStringLiteral("Illness"));
+    buttonWithText(*dialog, QStringLiteral("Find"))->click();
+    AppFixture::settle();
+    QVERIFY(plain.subject("Illness")->spear()->isVisible());
+
+    QTest::keyClick(dialog->findChildren<QLineEdit *>().value(0), Qt::Key_Escape);
+    AppFixture::settle();
+    QVERIFY(!dialog->isVisible());
+    QVERIFY(plain.subject("Material")->spear()->isExpand());
+    QVERIFY(!plain.subject("People")->spear()->isExpand());
+    QVERIFY(!plain.subject("Illness")->spear()->isVisible());
+    QCOMPARE(plain.selectedInDrawing(), QStringList(QStringLiteral("Machines")));
+    QVERIFY(!plain.document()->modified());
+}
+
+void TestFinder::shouldStayWhereAChosenHitIs()
+{
+    FinderFixture app;
+    app.search(QStringLiteral("Illness"));
+    app.hits()->setFocus();
+    QTest::keyClick(app.hits(), Qt::Key_Return);
+    AppFixture::settle();
+    QVERIFY(!app.dialog->isVisible());
+    QCOMPARE(app.selectedInDrawing(), QStringList(QStringLiteral("Illness")));
+    QVERIFY(app.subject("Illness")->spear()->isVisible());
+}
+
+void TestFinder::shouldNameEveryControl()
+{
+    FinderFixture app;
+    QCOMPARE(TestSupport::namelessControls(*app.dialog), QStringList());
 }
 
 QTEST_MAIN(TestFinder)

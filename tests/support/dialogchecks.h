@@ -4,11 +4,13 @@
 #pragma once
 
 #include <QAbstractButton>
+#include <QAbstractSpinBox>
 #include <QAccessible>
 #include <QComboBox>
 #include <QCoreApplication>
 #include <QGroupBox>
 #include <QLabel>
+#include <QScrollArea>
 #include <QStringList>
 #include <QTest>
 #include <QTranslator>
@@ -36,6 +38,28 @@ inline QString accessibleName(QWidget *widget)
         return widget->accessibleName();
     const QAccessibleInterface *const interface = QAccessible::queryAccessibleInterface(widget);
     return interface ? interface->text(QAccessible::Name) : QString();
+}
+
+/// The classes of the controls, shown and able to take the focus, that have no name for those who
+/// do not see what stands beside them.
+inline QStringList namelessControls(const QWidget &window)
+{
+    QStringList classes;
+    const QList<QWidget *> widgets = window.findChildren<QWidget *>();
+    for (QWidget *const widget : widgets) {
+        const QWidget *const outer = widget->parentWidget();
+        const bool isPart = qobject_cast<const QAbstractSpinBox *>(outer) ||
+                            qobject_cast<const QComboBox *>(outer) ||
+                            widget->objectName().startsWith(QLatin1String("qt_"));
+        const bool isFrame = widget->metaObject() == &QScrollArea::staticMetaObject;
+        if (widget->focusPolicy() == Qt::NoFocus || widget->focusProxy() || !widget->isVisible() ||
+            isPart || isFrame)
+            continue;
+        if (accessibleName(widget).isEmpty())
+            classes.append(QLatin1String(widget->metaObject()->className()) + QLatin1Char(' ') +
+                           widget->objectName());
+    }
+    return classes;
 }
 
 /// The accessible names of the widgets that Tab visits, from the one that has the focus when the

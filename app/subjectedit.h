@@ -1,0 +1,42 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QModelIndex>
+
+#include <functional>
+
+class DiagramSession;
+class QJsonObject;
+class QString;
+class TreeItem;
+
+/** Edits of a subject's attributes as steps of the undo history. */
+namespace SubjectEdit {
+
+/**
+ * Makes the subject at @p index what @p change makes of a copy of its attributes, in one step named
+ * @p name. False, without a step, when nothing differs.
+ */
+bool apply(DiagramSession &session, const QModelIndex &index, const QString &name,
+           const std::function<void(TreeItem &)> &change);
+
+/**
+ * Gives the subject at @p index the attributes of @p state, as EditAttributes::stateOf() makes one,
+ * in one step named @p name. False, without a step, when it has them already.
+ */
+bool replace(DiagramSession &session, const QModelIndex &index, const QString &name,
+             const QJsonObject &state);
+
+/** Asks for a link for the subject at @p index, beginning with the one it has; one step. */
+void editLink(DiagramSession &session, const QModelIndex &index);
+/** Opens the link of the subject at @p index, if it has one. */
+void openLink(const DiagramSession &session, const QModelIndex &index);
+
+/** Lets the user edit the own style of the subject at @p index, in one step. */
+void editStyle(DiagramSession &session, const QModelIndex &index);
+/** Removes the own style of the subject at @p index, in one step. */
+void removeStyle(DiagramSession &session, const QModelIndex &index);
+
+} // namespace SubjectEdit

@@ -1,0 +1,712 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#include <QAccessible>
+#include <QtTest>
+
+#include <fishbone/editor/accessiblebone.h>
+#include <fishbone/editor/accessiblediagram.h>
+#include <fishbone/items/taskstatusinfo.h>
+#include <fishbone/items/textitem.h>
+#include <fishbone/undo/undostack.h>
+#include <tests/support/dialogchecks.h>
+#include <tests/support/editorfixture.h>
+
+using namespace TestSupport;
+
+namespace {
+
+QString document()
+{
+    return QStringLiteral("Late[People[Few[Ill],New],Machines,Material[Rust]]");
+}
+
+/// What was reported since the last take(): "Selection People".
+class Events
+{
+    Q_DISABLE_COPY(Events)
+
+public:
+    Events()
+    {
+        entries().clear();
+        AccessibleDiagram::setReporter([](QAccessibleEvent &event) {
+            const char *const name = nameOf(event.type());
+            QAccessibleInterface *const about = event.accessibleInterface();
+            if (name && about)
+                entries().append(QStringLiteral("%1 %2").arg(QLatin1String(name),
+                                                             about->text(QAccessible::Name)));
+        });
+    }
+    ~Events() { AccessibleDiagram::setReporter(nullptr); }
+
+    QString take()
+    {
+        QTest::qWait(20);
+        const QString text = entries().join(QLatin1String(", "));
+        entries().clear();
+        return text;
+    }
+
+private:
+    static QStringList &entries()
+    {
+        static QStringList list;
+        return list;
+    }
+    static const char *nameOf(QAccessible::Event type)
+    {
+        switch (int(type)) {
+        case QAccessible::Selection:
+            return "Selection";
+        case QAccessible::SelectionWithin:
+            return "SelectionWithin";
+        case QAccessible::Focus:
+            return "Focus";
+        case QAccessible::StateChanged:
+            return "StateChanged";
+        case QAccessible::ObjectReorder:
+            return "ObjectReorder";
+        default:
+            return nullptr;
+        }
+    }
+};
+
+/// Asks for the interface of each view that gets a parent, as assistive technology does.
+class Asker : public QObject
+{
+public:
+    Asker() { qApp->installEventFilter(this); }
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        auto *const view = qobject_cast<GraphicsView *>(watched);
+        if (view && event->type() == QEvent::ParentChange)
+            isAsked = QAccessible::queryAccessibleInterface(view);
+        return false;
+    }
+
+public:
+    bool isAsked = false;
+};
+
+/// The names of an interface and all below it, "Late[People,…]".
+QString tree(const QAccessibleInterface &top)
+{
+    QStringList children;
+    for (int i = 0; i < top.childCount(); ++i)
+        children.append(tree(*top.child(i)));
+    const QString name = top.text(QAccessible::Name);
+    return children.isEmpty() ? name
+                              : QStringLiteral("%1[%2]").arg(name, children.join(QLatin1Char(',')));
+}
+
+struct Fixture : EditorFixture
+{
+    explicit Fixture(const QString &text = document())
+        : EditorFixture(text)
+    {
+    }
+
+    QAccessibleInterface *view() const
+    {
+        return QAccessible::queryAccessibleInterface(editor.view());
+    }
+    QAccessibleInterface *head() const { return view()->child(0); }
+    /// The entry of the bone of that title, which has to be drawn.
+    QAccessibleInterface *bone(const char *title) const
+    {
+        return AccessibleDiagram::of(editor.view())->bone(spear(QLatin1String(title)));
+    }
+    void act(const char *title, const QString &action) const
+    {
+        bone(title)->actionInterface()->doAction(action);
+    }
+};
+
+QString toggle()
+{
+    return QAccessibleActionInterface::toggleAction();
+}
+
+} // namespace
+
+class TestAccessibleDiagram : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void shouldBeATreeOfTheDrawnBones();
+    void shouldShowNoEntriesInContractedBones();
+    void shouldBeEmptyWithoutADiagram();
+    void shouldLeadUpAndDown();
+    void shouldKeepOneEntryABone();
+    void shouldTellLevelAndDescription_data();
+    void shouldTellLevelAndDescription();
+    void shouldFollowTheTitle();
+    void shouldNameTheDiagram();
+    void shouldTellStates();
+    void shouldStandWhereTheBoneIsDrawn();
+    void shouldFindWhatIsDrawnAtAPoint();
+    void shouldOfferActions();
+    void shouldSelect();
+    void shouldExpandAndContract();
+    void shouldAskForTheMenu();
+    void shouldIgnoreUnknownActions();
+    void shouldTranslateWhatItSays();
+
+    void shouldReportTheSelection();
+    void shouldReportFocusInTheFocusedView();
+    void shouldReportExpansion();
+    void shouldReportAChangedDrawing();
+    void shouldReportForAViewThatWasAskedForEarly();
+    void shouldReportNothingWhenNobodyListens();
+
+    void shouldMakeEntriesLazily();
+    void shouldInvalidateTheEntriesOfDeadBones();
+    void shouldForgetDeadBones();
+    void shouldSurviveARebuild();
+    void shouldSurviveAnotherBoneAtTheSameAddress();
+    void shouldDieWithTheEditor();
+    void shouldSurviveTheModel();
+    void shouldSurviveTheEndOfTheEditorInAHandler();
+    void shouldDealWithAViewOnItsOwn();
+    void shouldListManyBones();
+};
+
+void TestAccessibleDiagram::shouldBeATreeOfTheDrawnBones()
+{
+    Fixture f;
+    QCOMPARE(f.view()->role(), QAccessible::Tree);
+    QCOMPARE(f.view()->childCount(), 1);
+    QCOMPARE(f.head()->role(), QAccessible::TreeItem);
+    f.editor.expandAll();
+    QCOMPARE(tree(*f.head()), document());
+    QVERIFY(f.view()->isValid());
+    QVERIFY(f.head()->isValid());
+}
+
+void TestAccessibleDiagram::shouldShowNoEntriesInContractedBones()
+{
+    Fixture f;
+    QCOMPARE(tree(*f.head()), QStringLiteral("Late[People,Machines,Material]"));
+    f.editor.expandAll();
+    f.spear(QStringLiteral("Few"))->setExpand(false);
+    QCOMPARE(tree(*f.head()), QStringLiteral("Late[People[Few,New],Machines,Material[Rust]]"));
+    f.editor.contractAll();
+    QCOMPARE(tree(*f.head()), QStringLiteral("Late[People,Machines,Material]"));
+}
+
+void TestAccessibleDiagram::shouldBeEmptyWithoutADiagram()
+{
+    Fixture f;
+    f.editor.setRootIndex(QModelIndex());
+    QCOMPARE(f.view()->childCount(), 0);
+    QVERIFY(!f.view()->child(0));
+    QVERIFY(!f.view()->focusChild());
+    QVERIFY(f.view()->isValid());
+}
+
+void TestAccessibleDiagram::shouldLeadUpAndDown()
+{
+    Fixture f;
+    f.editor.expandAll();
+    QCOMPARE(f.head()->parent(), f.view());
+    QCOMPARE(f.view()->indexOfChild(f.head()), 0);
+    QCOMPARE(f.bone("New")->parent(), f.bone("People"));
+    QCOMPARE(f.bone("People")->indexOfChild(f.bone("New")), 1);
+    QCOMPARE(f.bone("People")->indexOfChild(f.bone("Rust")), -1);
+    QCOMPARE(f.bone("Machines")->indexOfChild(f.bone("Rust")), -1);
+    QCOMPARE(f.bone("People")->child(1), f.bone("New"));
+    QVERIFY(!f.bone("People")->child(2));
+    QVERIFY(!f.bone("People")->child(-1));
+    QVERIFY(!f.view()->child(1));
+    QCOMPARE(f.view()->indexOfChild(f.bone("People")), -1);
+}
+
+void TestAccessibleDiagram::shouldKeepOneEntryABone()
+{
+    Fixture f;
+    QAccessibleInterface *const people = f.head()->child(0);
+    QCOMPARE(f.head()->child(0), people);
+    QCOMPARE(f.bone("People"), people);
+    QCOMPARE(QAccessible::uniqueId(f.head()->child(0)), QAccessible::uniqueId(people));
+}
+
+void TestAccessibleDiagram::shouldTellLevelAndDescription_data()
+{
+    QTest::addColumn<int>("status");
+    QTest::addColumn<int>("progress");
+    QTest::addColumn<QString>("url");
+    QTest::addColumn<QString>("description");
+
+    QTest::newRow("none") << -1 << 0 << QString() << QStringLiteral("level 2");
+    QTest::newRow("unknown") << int(tsUnknown) << 0 << QString() << QStringLiteral("level 2");
+    QTest::newRow("under way") << int(tsRunning) << 40 << QString()
+                               << QStringLiteral("level 2, under way, 40 %");
+    QTest::newRow("finished") << int(tsFinish) << 100 << QString()
+                              << QStringLiteral("level 2, finished, 100 %");
+    QTest::newRow("late") << int(tsFinishDelay) << 100 << QString()
+                          << QStringLiteral("level 2, finished late, 100 %");
+    QTest::newRow("cancelled") << int(tsCancel) << 5 << QString()
+                               << QStringLiteral("level 2, cancelled, 5 %");
+    QTest::newRow("postponed") << int(tsPostpone) << 0 << QString()
+                               << QStringLiteral("level 2, postponed, 0 %");
+    QTest::newRow("waiting") << int(tsWaitting) << 0 << QString()
+                             << QStringLiteral("level 2, waiting, 0 %");
+    QTest::newRow("approval") << int(tsWaittingAgree) << 99 << QString()
+                              << QStringLiteral("level 2, waiting for approval, 99 %");
+    QTest::newRow("strange") << 77 << 0 << QString() << QStringLiteral("level 2");
+    QTest::newRow("only progress") << -1 << 30 << QString() << QStringLiteral("level 2, 30 %");
+    QTest::newRow("link") << -1 << 0 << QStringLiteral("http://localhost/")
+                          << QStringLiteral("level 2, linked");
+}
+
+void TestAccessibleDiagram::shouldTellLevelAndDescription()
+{
+    QFETCH(int, status);
+    QFETCH(int, progress);
+    QFETCH(QString, url);
+    QFETCH(QString, description);
+    Fixture f;
+    f.editor.expandAll();
+    TreeItem *const subject = f.subject(QStringLiteral("Rust"));
+    subject->setStatus(status);
+    subject->setProgress(progress);
+    subject->setUrl(url);
+    QCOMPARE(f.bone("Rust")->text(QAccessible::Description), description);
+    QCOMPARE(f.bone("Rust")->text(QAccessible::Value), QStringLiteral("2"));
+    QCOMPARE(f.head()->text(QAccessible::Value), QStringLiteral("0"));
+    QCOMPARE(f.bone("Ill")->text(QAccessible::Value), QStringLiteral("3"));
+}
+
+void TestAccessibleDiagram::shouldFollowTheTitle()
+{
+    Fixture f;
+    QAccessibleInterface *const people = f.bone("People");
+    f.editor.renameItem(f.index(QStringLiteral("People")), QStringLiteral("Staff"));
+    QCOMPARE(people->text(QAccessible::Name), QStringLiteral("Staff"));
+}
+
+void TestAccessibleDiagram::shouldNameTheDiagram()
+{
+    Fixture f;
+    QCOMPARE(f.view()->text(QAccessible::Name), QStringLiteral("Diagram: Late"));
+    f.editor.setRootIndex(QModelIndex());
+    QCOMPARE(f.view()->text(QAccessible::Name), QStringLiteral("Diagram"));
+    f.editor.view()->setAccessibleName(QStringLiteral("Causes"));
+    QCOMPARE(f.view()->text(QAccessible::Name), QStringLiteral("Causes"));
+}
+
+void TestAccessibleDiagram::shouldTellStates()
+{
+    Fixture f;
+    QVERIFY(f.show());
+    QVERIFY(f.view()->state().multiSelectable);
+    f.editor.expandAll();
+    f.spear(QStringLiteral("Few"))->setExpand(false);
+    f.editor.updateFish(false);
+    f.editor.equalRatio(f.editor.scene()->itemsBoundingRect());
+    f.select({QStringLiteral("Machines")});
+    const auto state = [&f](const char *title) { return f.bone(title)->state(); };
+
+    QVERIFY(state("Machines").selected);
+    QVERIFY(!state("People").selected);
+    for (const char *title : {"Late", "People", "Machines"}) {
+        QVERIFY(state(title).selectable);
+        QVERIFY(state(title).focusable);
+        QVERIFY(!state(title).invisible);
+        QVERIFY2(!state(title).offscreen, title);
+    }
+    QVERIFY(state("People").expandable);
+    QVERIFY(state("People").expanded);
+    QVERIFY(!state("People").collapsed);
+    QVERIFY(state("Few").collapsed);
+    QVERIFY(!state("Few").expanded);
+    QVERIFY(!state("Machines").expandable);
+    QVERIFY(!state("Machines").collapsed);
+    QVERIFY(!state("Late").expandable); // which is never contracted
+    QVERIFY(state("Ill").invisible);
+
+    f.editor.zoomFish(500);
+    f.editor.view()->centerOn(f.spear(QStringLiteral("Late"))->textItem());
+    QVERIFY(state("Rust").offscreen);
+}
+
+void TestAccessibleDiagram::shouldStandWhereTheBoneIsDrawn()
+{
+    Fixture f;
+    QVERIFY(f.show());
+    const GraphicsView *const view = f.editor.view();
+    for (int turn = 0; turn < 2; ++turn) {
+        const SpearItem *const spear = f.spear(QStringLiteral("Machines"));
+        const QRect rect = f.bone("Machines")->rect();
+        const auto onScreen = [view](const QPointF &point) {
+            return view->viewport()->mapToGlobal(view->mapFromScene(point));
+        };
+        QVERIFY(rect.contains(onScreen(spear->mapToScene(spear->line().center()))));
+        QVERIFY(rect.contains(
+            onScreen(spear->textItem()->mapToScene(spear->textItem()->boundingRect().center()))));
+        QVERIFY(rect.width() < view->viewport()->width() / 2);
+        f.editor.zoomFish(200); // smaller, and elsewhere
+    }
+}
+
+void TestAccessibleDiagram::shouldFindWhatIsDrawnAtAPoint()
+{
+    Fixture f;
+    QVERIFY(f.show());
+    f.editor.expandAll();
+    f.editor.equalRatio(f.editor.scene()->itemsBoundingRect());
+    const GraphicsView *const view = f.editor.view();
+    for (const char *title : {"Machines", "Rust", "Ill"}) {
+        const SpearItem *const spear = f.spear(QLatin1String(title));
+        const QPoint at = view->viewport()->mapToGlobal(view->mapFromScene(
+            spear->textItem()->mapToScene(spear->textItem()->boundingRect().center())));
+        QCOMPARE(f.view()->childAt(at.x(), at.y()), f.bone(title));
+        QCOMPARE(f.head()->childAt(at.x(), at.y()), f.bone(title));
+        QVERIFY(!f.bone(title)->childAt(at.x(), at.y()));
+    }
+    const QPoint outside = view->viewport()->mapToGlobal(QPoint(-5, -5));
+    QVERIFY(!f.view()->childAt(outside.x(), outside.y()));
+    const QPoint corner = view->viewport()->mapToGlobal(QPoint(1, 1));
+    QVERIFY(!f.view()->childAt(corner.x(), corner.y()));
+}
+
+void TestAccessibleDiagram::shouldOfferActions()
+{
+    Fixture f;
+    QAccessibleActionInterface *const people = f.bone("People")->actionInterface();
+    QVERIFY(people);
+    QVERIFY(people->actionNames().contains(QAccessibleActionInterface::pressAction()));
+    QVERIFY(people->actionNames().contains(toggle()));
+    QVERIFY(!f.bone("Machines")->actionInterface()->actionNames().contains(toggle()));
+    QVERIFY(!f.head()->actionInterface()->actionNames().contains(toggle()));
+    QCOMPARE(people->localizedActionName(toggle()), QStringLiteral("Expand"));
+    f.act("People", toggle());
+    QCOMPARE(people->localizedActionName(toggle()), QStringLiteral("Contract"));
+    const QStringList names = people->actionNames();
+    for (const QString &name : names) {
+        QVERIFY2(!people->localizedActionName(name).isEmpty(), qPrintable(name));
+        QVERIFY2(!people->localizedActionDescription(name).isEmpty(), qPrintable(name));
+    }
+}
+
+void TestAccessibleDiagram::shouldSelect()
+{
+    Fixture f;
+    QVERIFY(f.show());
+    f.select({QStringLiteral("People"), QStringLiteral("Material")});
+    f.act("Machines", QAccessibleActionInterface::pressAction());
+    QCOMPARE(f.editor.selectedItems().size(), 1);
+    QCOMPARE(f.editor.firstSelectedSpear(), f.spear(QStringLiteral("Machines")));
+    f.act("People", QAccessibleActionInterface::setFocusAction());
+    QCOMPARE(f.editor.firstSelectedSpear(), f.spear(QStringLiteral("People")));
+    QCOMPARE(f.editor.focusWidget(), f.editor.view());
+}
+
+void TestAccessibleDiagram::shouldExpandAndContract()
+{
+    Fixture f;
+    QSignalSpy expanded(&f.editor, &FishEditor::onExpand);
+    QSignalSpy contracted(&f.editor, &FishEditor::onCollaps);
+    f.act("People", toggle());
+    QCOMPARE(tree(*f.bone("People")), QStringLiteral("People[Few,New]"));
+    QVERIFY(f.spear(QStringLiteral("New"))->isVisible());
+    QCOMPARE(expanded.count(), 1);
+    QCOMPARE(expanded.first().first().toModelIndex(), f.index(QStringLiteral("People")));
+    f.act("People", toggle());
+    QCOMPARE(tree(*f.bone("People")), QStringLiteral("People"));
+    QVERIFY(!f.spear(QStringLiteral("New"))->isVisible());
+    QCOMPARE(contracted.count(), 1);
+    f.act("People", toggle());
+    QVERIFY(f.spear(QStringLiteral("New"))->isVisible());
+}
+
+void TestAccessibleDiagram::shouldAskForTheMenu()
+{
+    Fixture f;
+    QObject::disconnect(f.editor.view(), &GraphicsView::rightClicked, &f.editor, nullptr);
+    void *asked = nullptr;
+    QObject::connect(f.editor.view(), &GraphicsView::rightClicked, &f.editor,
+                     [&asked](void *item) { asked = item; });
+    f.act("People", QAccessibleActionInterface::showMenuAction());
+    QCOMPARE(asked, static_cast<void *>(f.spear(QStringLiteral("People"))));
+    QVERIFY(f.spear(QStringLiteral("People"))->isSelected());
+}
+
+void TestAccessibleDiagram::shouldIgnoreUnknownActions()
+{
+    Fixture f;
+    f.act("People", QStringLiteral("fly"));
+    f.act("Machines", toggle());
+    QVERIFY(!f.editor.hasSelection());
+    f.bone("People")->setText(QAccessible::Name, QStringLiteral("x"));
+    QCOMPARE(f.bone("People")->text(QAccessible::Name), QStringLiteral("People"));
+}
+
+void TestAccessibleDiagram::shouldTranslateWhatItSays()
+{
+    Fixture f;
+    const BracketTranslator translator("AccessibleBone");
+    QCOMPARE(f.bone("People")->text(QAccessible::Description), QStringLiteral("[level 1]"));
+    QCOMPARE(f.bone("People")->actionInterface()->localizedActionName(toggle()),
+             QStringLiteral("[Expand]"));
+}
+
+void TestAccessibleDiagram::shouldReportTheSelection()
+{
+    Fixture f;
+    QVERIFY(f.show());
+    f.editor.clearFocus();
+    f.editor.view()->clearFocus();
+    Events events;
+    QVERIFY(f.view());
+    f.editor.selectAll(); // what is selected for the first time is measured
+    f.editor.scene()->clearSelection();
+    events.take();
+    f.select({QStringLiteral("People")});
+    QCOMPARE(events.take(), QStringLiteral("Selection People"));
+    f.select({QStringLiteral("Machines")});
+    QCOMPARE(events.take(), QStringLiteral("Selection Machines"));
+    f.select({QStringLiteral("People"), QStringLiteral("Machines")});
+    QCOMPARE(events.take(), QStringLiteral("SelectionWithin Diagram: Late"));
+    f.editor.scene()->clearSelection();
+    QCOMPARE(events.take(), QStringLiteral("SelectionWithin Diagram: Late"));
+}
+
+void TestAccessibleDiagram::shouldReportFocusInTheFocusedView()
+{
+    Fixture f;
+    QVERIFY(f.show());
+    f.editor.activateWindow();
+    f.editor.view()->setFocus();
+    QTRY_VERIFY(f.editor.view()->hasFocus());
+    Events events;
+    QVERIFY(f.view());
+    f.editor.selectAll(); // what is selected for the first time is measured
+    f.editor.scene()->clearSelection();
+    events.take();
+    f.select({QStringLiteral("People")});
+    QCOMPARE(events.take(), QStringLiteral("Selection People, Focus People"));
+    QVERIFY(f.bone("People")->state().focused);
+    QCOMPARE(f.view()->focusChild(), f.bone("People"));
+}
+
+void TestAccessibleDiagram::shouldReportExpansion()
+{
+    Fixture f;
+    QVERIFY(f.show());
+    Events events;
+    QVERIFY(f.bone("People"));
+    QVERIFY(f.bone("Machines"));
+    events.take();
+    f.act("People", toggle());
+    const QString expanded = events.take();
+    QVERIFY2(expanded.contains(QLatin1String("StateChanged People")), qPrintable(expanded));
+    QVERIFY(!expanded.contains(QLatin1String("StateChanged Machines")));
+    QVERIFY(expanded.contains(QLatin1String("ObjectReorder Diagram: Late")));
+    f.act("People", toggle());
+    QVERIFY(events.take().contains(QLatin1String("StateChanged People")));
+}
+
+void TestAccessibleDiagram::shouldReportAChangedDrawing()
+{
+    Fixture f;
+    QVERIFY(f.show());
+    Events events;
+    QVERIFY(f.bone("People"));
+    events.take();
+    f.editor.deleteItem(f.index(QStringLiteral("Machines")));
+    QVERIFY(events.take().contains(QLatin1String("ObjectReorder Diagram: Late")));
+    QCOMPARE(tree(*f.head()), QStringLiteral("Late[People,Material]"));
+    f.editor.undo();
+    QVERIFY(events.take().contains(QLatin1String("ObjectReorder Diagram: Late")));
+    QCOMPARE(tree(*f.head()), QStringLiteral("Late[People,Machines,Material]"));
+    f.editor.scene()->update(); // the same drawing once more
+    QCOMPARE(events.take(), QString());
+}
+
+void TestAccessibleDiagram::shouldReportForAViewThatWasAskedForEarly()
+{
+    const Asker asker;
+    Fixture f;
+    QVERIFY(asker.isAsked);
+    QVERIFY(f.show());
+    Events events;
+    f.select({QStringLiteral("People")});
+    QVERIFY(events.take().contains(QLatin1String("Selection People")));
+    QCOMPARE(tree(*f.head()), QStringLiteral("Late[People,Machines,Material]"));
+}
+
+void TestAccessibleDiagram::shouldReportNothingWhenNobodyListens()
+{
+    Fixture f;
+    QVERIFY(f.show());
+    Events events;
+    QVERIFY(f.bone("People"));
+    events.take();
+    AccessibleDiagram::setReporter(nullptr);
+    f.select({QStringLiteral("People")});
+    f.act("People", toggle());
+    QCOMPARE(events.take(), QString());
+}
+
+void TestAccessibleDiagram::shouldMakeEntriesLazily()
+{
+    Fixture f;
+    QVERIFY(f.show());
+    f.editor.expandAll();
+    const AccessibleDiagram *const diagram = AccessibleDiagram::of(f.editor.view());
+    f.select({QStringLiteral("People")});
+    QTest::qWait(20);
+    QCOMPARE(diagram->boneCount(), 0);
+    QVERIFY(f.head());
+    QCOMPARE(diagram->boneCount(), 1);
+    QVERIFY(f.head()->child(1));
+    QCOMPARE(diagram->boneCount(), 2);
+}
+
+void TestAccessibleDiagram::shouldInvalidateTheEntriesOfDeadBones()
+{
+    Fixture f;
+    QAccessibleInterface *const machines = f.bone("Machines");
+    f.editor.deleteItem(f.index(QStringLiteral("Machines"))); // nothing else has happened yet
+    QVERIFY(!machines->isValid());
+    QVERIFY(machines->state().invalid);
+    QVERIFY(!machines->parent());
+    QCOMPARE(machines->childCount(), 0);
+    QVERIFY(!machines->child(0));
+    QCOMPARE(machines->indexOfChild(f.head()), -1);
+    QVERIFY(!machines->childAt(10, 10));
+    QVERIFY(machines->rect().isNull());
+    QVERIFY(machines->text(QAccessible::Name).isEmpty());
+    QVERIFY(machines->text(QAccessible::Description).isEmpty());
+    QVERIFY(machines->actionInterface()->actionNames().isEmpty());
+    machines->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    QCOMPARE(f.head()->indexOfChild(machines), -1);
+}
+
+void TestAccessibleDiagram::shouldForgetDeadBones()
+{
+    Fixture f;
+    QVERIFY(f.show());
+    QCOMPARE(tree(*f.head()), QStringLiteral("Late[People,Machines,Material]"));
+    const AccessibleDiagram *const diagram = AccessibleDiagram::of(f.editor.view());
+    const QAccessible::Id id = QAccessible::uniqueId(f.bone("Machines"));
+    QCOMPARE(diagram->boneCount(), 4);
+    f.editor.deleteItem(f.index(QStringLiteral("Machines")));
+    QTRY_COMPARE(diagram->boneCount(), 3);
+    QVERIFY(!QAccessible::accessibleInterface(id));
+    for (int i = 0; i < 5; ++i) {
+        f.editor.updateFish(true);
+        QVERIFY(!tree(*f.head()).isEmpty());
+        QTest::qWait(20);
+    }
+    QCOMPARE(diagram->boneCount(), 3);
+}
+
+void TestAccessibleDiagram::shouldSurviveARebuild()
+{
+    Fixture f;
+    f.editor.expandAll();
+    const QString before = tree(*f.head());
+    f.editor.updateFish(true);
+    QCOMPARE(tree(*f.head()), QStringLiteral("Late[People,Machines,Material]"));
+    f.editor.expandAll();
+    QCOMPARE(tree(*f.head()), before);
+    f.editor.setRootIndex(f.index(QStringLiteral("People")));
+    f.editor.expandAll();
+    QCOMPARE(tree(*f.head()), QStringLiteral("People[Few[Ill],New]"));
+}
+
+void TestAccessibleDiagram::shouldSurviveAnotherBoneAtTheSameAddress()
+{
+    // Allocators hand the same memory out again soon: every round meets former addresses.
+    Fixture f;
+    for (int i = 0; i < 200; ++i) {
+        f.editor.updateFish(true);
+        QCOMPARE(tree(*f.head()), QStringLiteral("Late[People,Machines,Material]"));
+        QVERIFY(f.head()->isValid());
+    }
+}
+
+void TestAccessibleDiagram::shouldDieWithTheEditor()
+{
+    auto f = std::make_unique<Fixture>();
+    f->editor.expandAll();
+    QVERIFY(!tree(*f->head()).isEmpty());
+    const QAccessible::Id view = QAccessible::uniqueId(f->view());
+    const QAccessible::Id bone = QAccessible::uniqueId(f->bone("Rust"));
+    QVERIFY(QAccessible::accessibleInterface(bone));
+    f.reset();
+    QVERIFY(!QAccessible::accessibleInterface(view));
+    QVERIFY(!QAccessible::accessibleInterface(bone));
+}
+
+void TestAccessibleDiagram::shouldSurviveTheModel()
+{
+    FishEditor editor;
+    QAccessibleInterface *bone = nullptr;
+    QAccessibleInterface *const view = QAccessible::queryAccessibleInterface(editor.view());
+    {
+        FishModel model;
+        loadDocument(model, document());
+        editor.setModel(&model);
+        editor.setRootIndex(model.index(0, 0));
+        bone = view->child(0)->child(0);
+        QVERIFY(bone->isValid());
+    }
+    QCOMPARE(view->childCount(), 0);
+    QVERIFY(view->isValid());
+    QVERIFY(!bone->isValid());
+}
+
+void TestAccessibleDiagram::shouldSurviveTheEndOfTheEditorInAHandler()
+{
+    static Fixture *fixture = nullptr;
+    const auto end = [] { delete std::exchange(fixture, nullptr); };
+    for (const bool isSelected : {false, true}) {
+        fixture = new Fixture;
+        QVERIFY(fixture->show());
+        QVERIFY(!tree(*fixture->head()).isEmpty());
+        QTest::qWait(20);
+        AccessibleDiagram::setReporter(
+            [](QAccessibleEvent &) { delete std::exchange(fixture, nullptr); });
+        if (isSelected)
+            fixture->select({QStringLiteral("People")});
+        else
+            fixture->editor.expandAll();
+        const bool isEnded = QTest::qWaitFor([] { return !fixture; });
+        AccessibleDiagram::setReporter(nullptr);
+        end();
+        QVERIFY(isEnded);
+    }
+}
+
+void TestAccessibleDiagram::shouldDealWithAViewOnItsOwn()
+{
+    FishEditor editor;
+    GraphicsView view(&editor);
+    QAccessibleInterface *const found = QAccessible::queryAccessibleInterface(&view);
+    QCOMPARE(found->role(), QAccessible::Tree);
+    QCOMPARE(found->childCount(), 0);
+    QVERIFY(!found->childAt(1, 1));
+}
+
+void TestAccessibleDiagram::shouldListManyBones()
+{
+    QStringList titles;
+    for (int i = 0; i < 3000; ++i)
+        titles.append(QStringLiteral("b%1").arg(i));
+    const QString text = QStringLiteral("H[%1]").arg(titles.join(QLatin1Char(',')));
+    const Fixture f(text);
+    QCOMPARE(tree(*f.head()), text);
+    for (int row : {0, 1, 1500, 2999})
+        QCOMPARE(f.head()->indexOfChild(f.head()->child(row)), row);
+}
+
+QTEST_MAIN(TestAccessibleDiagram)
+#include "tst_accessiblediagram.moc"
