@@ -20,6 +20,7 @@
 #include <fishbone/exchange/diagramexchange.h>
 #include <fishbone/model/fishinfo.h>
 #include <fishbone/model/fishmodel.h>
+#include <fishbone/model/treeitem.h>
 
 #include <QAction>
 #include <QFileDialog>
@@ -231,12 +232,23 @@ void FileCommands::newFromTemplate(const QString &folder)
                                                       DocumentSaver::documentFilter());
     if (path.isEmpty())
         return;
-    if (m_arrivals->loadFishFromTemplate(path) == MODEL_NO_ERROR) {
-        m_tabs->add(m_arrivals->fishList().constLast());
-        return;
-    }
-    reportFailure(path, DocumentLoader::reasonOf(path));
+    if (FishInfo *const document = arrival(m_arrivals->loadFishFromTemplate(path), path))
+        m_tabs->add(document);
+}
+
+/** The document of the file @p path, whose load has ended with @p error; null, after a message,
+ * when there is none or nothing in it. */
+FishInfo *FileCommands::arrival(int error, const QString &path)
+{
+    FishInfo *const document =
+        error == MODEL_NO_ERROR ? m_arrivals->fishList().constLast() : nullptr;
+    if (document && document->treeItem()->childCount() > 0)
+        return document;
+    reportFailure(path, document ? DocumentLoader::tr("it holds no diagram")
+                                 : DocumentLoader::reasonOf(path));
+    m_arrivals->unloadFish(document);
     showFailures();
+    return nullptr;
 }
 
 void FileCommands::openFiles()
@@ -299,12 +311,9 @@ void FileCommands::revert(DocumentTab *tab)
         return;
     if (!alive)
         return;
-    if (m_arrivals->loadFishFromFile(path) != MODEL_NO_ERROR) {
-        reportFailure(path, DocumentLoader::reasonOf(path));
-        showFailures();
+    FishInfo *const document = arrival(m_arrivals->loadFishFromFile(path), path);
+    if (!document)
         return;
-    }
-    FishInfo *const document = m_arrivals->fishList().constLast();
     document->setCurrentFile(path);
     tab->recovery()->discard();
     m_tabs->replace(tab, document);

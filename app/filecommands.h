@@ -63,6 +63,7 @@ private:
     void showFailures();
     void endCancelled(const QString &source);
     void showSomething();
+    FishInfo *arrival(int error, const QString &path);
     void newFromBuiltInTemplate();
     void newWelcome();
     void newFromTemplate(const QString &startFolder);

@@ -91,6 +91,7 @@ private Q_SLOTS:
     void shouldSaveACopy();
     void shouldRevert_data();
     void shouldRevert();
+    void shouldLeaveTheDocumentWhenItsFileCannotBeReverted_data();
     void shouldLeaveTheDocumentWhenItsFileCannotBeReverted();
 };
 
@@ -478,10 +479,19 @@ void TestDocumentTabs::shouldRevert()
     QVERIFY(app.window.tree()->isVisible());
 }
 
+void TestDocumentTabs::shouldLeaveTheDocumentWhenItsFileCannotBeReverted_data()
+{
+    QTest::addColumn<QByteArray>("content");
+
+    QTest::newRow("no document") << QByteArray("{");
+    QTest::newRow("no diagram") << QByteArray("{}");
+}
+
 void TestDocumentTabs::shouldLeaveTheDocumentWhenItsFileCannotBeReverted()
 {
+    QFETCH(QByteArray, content);
     TabsFixture app;
-    AppFixture::writeFile(app.otherPath(), "{");
+    AppFixture::writeFile(app.otherPath(), content);
     app.trigger("revert"); // not modified: there is nothing to ask
     QCOMPARE(app.text(), QStringLiteral("Other[Bone[Marrow]]"));
     QVERIFY(app.window.statusBar()->currentMessage().contains(app.otherPath()));
