@@ -4,7 +4,6 @@
 #include <app/editcommands.h>
 
 #include <app/actionset.h>
-#include <app/bonemenu.h>
 #include <app/diagramsession.h>
 #include <app/finder.h>
 #include <app/subjectclipboard.h>
@@ -59,7 +58,6 @@ EditCommands::EditCommands(DiagramSession *session, ActionSet *actions, QWidget 
     addClipboardActions();
     addInsertActions();
     addSubjectActions();
-    new BoneMenu(m_editor, actions, this); // which owns it
 }
 
 void EditCommands::add(const char *name, const QString &text, const QList<QKeySequence> &shortcuts,

@@ -78,15 +78,22 @@ void Finder::setSession(DiagramSession *session)
 {
     m_session = session;
     m_dialog->setModel(session->model());
-    m_matches.clear();
-    m_current = -1;
+    m_hits->setSource(session->model());
+    rememberLook();
+    forgetHits();
+}
+
+/** Keeps what Esc brings back. */
+void Finder::rememberLook()
+{
+    m_look = DrawingState::capture(*m_session->editor());
+    m_searchedFrom = m_session->editor()->rootIndex();
 }
 
 void Finder::show()
 {
     if (!m_dialog->isVisible()) {
-        m_look = DrawingState::capture(*m_session->editor());
-        m_searchedFrom = m_session->document();
+        rememberLook();
         forgetHits();
     }
     m_dialog->show();
@@ -249,10 +256,7 @@ void Finder::replaceAll()
 /** Makes the drawing look as it did before the search, as far as it is still there. */
 void Finder::restoreLook()
 {
-    if (m_searchedFrom && m_searchedFrom != m_session->document())
-        m_session->showDocument(m_searchedFrom);
-    const SpearItem *const head = m_session->editor()->headSpear();
-    if (!head || m_session->model()->getTreeItem(m_session->editor()->rootIndex()) != m_look.root())
+    if (!m_session->editor()->headSpear() || m_session->editor()->rootIndex() != m_searchedFrom)
         return;
     m_session->editor()->expandorContractAll(false);
     m_look.restore(*m_session->editor());

@@ -5,11 +5,9 @@
 
 #include <app/drawingstate.h>
 
-#include <fishbone/model/fishinfo.h>
-
 #include <QModelIndexList>
 #include <QObject>
-#include <QPointer>
+#include <QPersistentModelIndex>
 
 class DiagramSession;
 class HitList;
@@ -53,6 +51,7 @@ private:
     void replaceAll();
     int replaceIn(const QModelIndexList &hits);
     void preview();
+    void rememberLook();
     void restoreLook();
     bool isReplaceable(const QModelIndex &hit) const;
     QString replaced(const QString &text) const;
@@ -66,5 +65,5 @@ private:
     QModelIndexList m_matches; ///< that are listed, only to be compared
     int m_current = -1;        ///< the match that is selected
     DrawingState m_look;       ///< of the drawing before the search
-    QPointer<FishInfo> m_searchedFrom;
+    QPersistentModelIndex m_searchedFrom; ///< the head of the drawing then
 };

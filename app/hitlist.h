@@ -25,6 +25,8 @@ public:
 
     explicit HitList(const FishModel *model, QWidget *parent = nullptr);
 
+    /** From now on lists subjects of @p model. */
+    void setSource(const FishModel *model) { m_model = model; }
     /** Lists @p hits, subjects of the model, of each the text in their column. All that can be are
      * checked. */
     void setHits(const QModelIndexList &hits, const Replacement &replacement);

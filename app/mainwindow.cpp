@@ -5,6 +5,7 @@
 
 #include <app/actionset.h>
 #include <app/autosavestatus.h>
+#include <app/bonemenu.h>
 #include <app/canvastheme.h>
 #include <app/detailspanel.h>
 #include <app/diagramcounts.h>
@@ -203,6 +204,7 @@ void MainWindow::takeIn(DocumentTab *tab)
 void MainWindow::connectGestures(DocumentTab *tab)
 {
     FishEditor *const editor = tab->editor();
+    new BoneMenu(editor, m_actions, tab); // which owns it
     auto *const typing = new TypedTitle(editor, tab);
     connect(typing, &TypedTitle::typed, this, [this, editor](const QString &text) {
         m_edits->rename(editor->firstSelectedSpearIndex(), text);
