@@ -8,7 +8,7 @@
 # The C++ files of the project; with an argument only those with that ending.
 sources() {
     local folder folders=()
-    for folder in app benchmarks cmake designer examples fishbone tests; do
+    for folder in app benchmarks cmake designer examples fishbone fuzz tests; do
         [[ ! -d $folder ]] || folders+=("$folder")
     done
     find "${folders[@]}" -type f \( -name "*.${1:-h}" -o -name "*.${1:-cpp}" \) | sort
