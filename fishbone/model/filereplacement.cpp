@@ -9,6 +9,7 @@
 #include <QTemporaryFile>
 
 #include <algorithm>
+#include <cerrno>
 #include <cstdio>
 
 #ifdef Q_OS_UNIX
@@ -104,6 +105,8 @@ QString replaceExisting(const QString &fileName, const QByteArray &content)
 
 QString replaceFile(const QString &fileName, const QByteArray &content)
 {
+    if (fileName.contains(QChar(0)))
+        return qt_error_string(EINVAL); // the system would read the name up to there
     const QFileInfo target(fileName);
     if (target.exists() && !target.isFile()) {
         QFile device(fileName); // replacing a device or a pipe would remove it

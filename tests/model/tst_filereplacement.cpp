@@ -187,7 +187,9 @@ void tst_FileReplacement::shouldRefuseANameWithANullCharacter()
     QCOMPARE(replaceFile(path("before"), "old"), QString());
     const QString name = path("before") + QChar(0) + QStringLiteral("after");
     QVERIFY(!replaceFile(name, "new").isEmpty());
-    QCOMPARE(contentOf(path("before")), QByteArray("old"));
+    QVERIFY(QFile::remove(path("before")));
+    QVERIFY(!replaceFile(name, "new").isEmpty());
+    QVERIFY(!QFileInfo::exists(path("before")));
 }
 
 void tst_FileReplacement::shouldFollowALink()
