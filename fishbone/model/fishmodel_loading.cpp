@@ -13,7 +13,9 @@
 #include <QNetworkAccessManager>
 #include <QNetworkReply>
 #include <QNetworkRequest>
+#include <QTimer>
 
+#include <chrono>
 #include <memory>
 
 namespace {
@@ -26,6 +28,18 @@ bool readFile(const QString &path, QByteArray *content)
         return false;
     *content = file.readAll();
     return true;
+}
+
+/** A load takes so many times as long as it may go without progress, at most. */
+constexpr int longestLoad = 20;
+
+/** Ends @p reply after so many milliseconds, however it creeps along. */
+void limitTime(QNetworkReply *reply, qint64 ms)
+{
+    QTimer::singleShot(std::chrono::milliseconds(ms), reply, [reply] {
+        if (reply->isRunning())
+            reply->abort();
+    });
 }
 
 /** Ends @p reply as soon as it is known to be larger than @p limit bytes. */
@@ -99,6 +113,8 @@ void FishModel::loadFishFromUrl(const QUrl &url)
     QNetworkReply *const reply = manager->get(request);
     if (m_replyLimit > 0)
         limitReply(reply, m_replyLimit);
+    if (m_transferTimeout > 0)
+        limitTime(reply, qint64(longestLoad) * m_transferTimeout);
 }
 
 void FishModel::replyFinished(QNetworkReply *reply)
