@@ -50,6 +50,8 @@ void limitReply(QNetworkReply *reply, qint64 limit)
         if (reply->isRunning() && (announced > limit || reply->bytesAvailable() > limit))
             reply->abort();
     };
+    // Otherwise Qt unpacks a small reply to a large one before anybody is asked.
+    reply->setReadBufferSize(limit + 1);
     QObject::connect(reply, &QNetworkReply::metaDataChanged, reply, check);
     QObject::connect(reply, &QNetworkReply::readyRead, reply, check);
 }

@@ -25,7 +25,7 @@ using namespace TestSupport;
 namespace {
 
 constexpr int patience = 20000;
-constexpr int transferTimeout = 400;
+constexpr int transferTimeout = 200;
 constexpr qint64 replyLimit = 1 << 20;
 
 const QByteArray document(R"({"title": "Effect", "children": [{"title": "Man"}]})");
@@ -303,6 +303,7 @@ void tst_HostileServer::shouldNotUnpackWithoutALimit()
 
 void tst_HostileServer::shouldUnpackADocument()
 {
+    m_fixture->model->setTransferTimeout(patience);
     m_server->tell(sends(response("Content-Encoding: deflate\r\n", qCompress(document).mid(4))));
     QCOMPARE(load(m_server->url()), QStringLiteral("valid 0"));
     QCOMPARE(m_fixture->model->rowCount(), 2);
@@ -310,6 +311,7 @@ void tst_HostileServer::shouldUnpackADocument()
 
 void tst_HostileServer::shouldTakeNoMoreThanWasAnnounced()
 {
+    m_fixture->model->setTransferTimeout(patience);
     m_server->tell(sends(response("Content-Length: " + QByteArray::number(document.size()) + "\r\n",
                                   document + "and more")));
     QCOMPARE(load(m_server->url()), QStringLiteral("valid 0"));
