@@ -329,8 +329,7 @@ QString RandomUser::changeWorld()
         m_world.removeEditor();
         return QStringLiteral("remove an editor");
     case 4:
-        if (FishEditor *const editor = m_world.anyEditor())
-            editor->setModel(m_world.anyModel());
+        m_world.setModel(m_world.anyEditor());
         return QStringLiteral("set a model");
     case 5:
         if (FishEditor *const editor = m_world.anyEditor())

@@ -80,7 +80,7 @@ void RandomWorld::keepInBounds()
     }
     for (const auto &editor : m_editors) {
         if (!editor->model())
-            editor->setModel(anyModel());
+            setModel(editor.get());
     }
 }
 
@@ -230,6 +230,15 @@ void RandomWorld::showSomething(FishEditor *editor)
     const bool isHead = m_random.bounded(4) != 0 && model->rowCount() > 0;
     editor->setRootIndex(isHead ? model->index(m_random.bounded(model->rowCount()), 0)
                                 : anyIndex(model));
+}
+
+void RandomWorld::setModel(FishEditor *editor)
+{
+    FishModel *const model = anyModel();
+    if (!editor || !model)
+        return;
+    editor->setModel(model);
+    editor->setRootIndex(model->index(0, 0));
 }
 
 void RandomWorld::redraw(FishModel *model)

@@ -45,6 +45,8 @@ public:
     void reloadDocument(FishModel *model);
     void saveDocument(FishModel *model);
     void showSomething(FishEditor *editor);
+    /// Gives an editor any model, and shows the first document, as the drawing stays otherwise.
+    void setModel(FishEditor *editor);
     /// What a host does after it has changed rows by itself.
     void redraw(FishModel *model);
 
