@@ -6,6 +6,7 @@
 
 #include <fishbone/undo/structuralcommands.h>
 #include <fishbone/undo/undostack.h>
+#include <tests/support/commandfixture.h>
 #include <tests/support/drawingtext.h>
 #include <tests/support/editorfixture.h>
 #include <tests/support/signalrecorder.h>
@@ -35,6 +36,8 @@ private Q_SLOTS:
     void shouldGoOnShowingAHeadThatMovedWhereNobodyLooks();
     void shouldMoveASubjectFromOneDrawingToTheOther();
     void shouldForgetEachSubjectOnce();
+    void shouldNotKeepAHeadWhoseSubjectIsDroppedIntoTheOtherDrawing_data();
+    void shouldNotKeepAHeadWhoseSubjectIsDroppedIntoTheOtherDrawing();
 };
 
 namespace {
@@ -366,6 +369,33 @@ void TestSeveralFishEditors::shouldForgetEachSubjectOnce()
     QCOMPARE(SpearItem::m_refCount, 3);
     pair.other.setRootIndex(QModelIndex());
     QCOMPARE(SpearItem::m_refCount, 0);
+}
+
+void TestSeveralFishEditors::shouldNotKeepAHeadWhoseSubjectIsDroppedIntoTheOtherDrawing_data()
+{
+    QTest::addColumn<QString>("target");
+    QTest::newRow("the head") << QStringLiteral("Other");
+    QTest::newRow("a bone that shows its children") << QStringLiteral("Bone");
+    QTest::newRow("a bone that shows none") << QStringLiteral("Rib");
+    QTest::newRow("a bone that is not drawn") << QStringLiteral("Branch");
+}
+
+void TestSeveralFishEditors::shouldNotKeepAHeadWhoseSubjectIsDroppedIntoTheOtherDrawing()
+{
+    QFETCH(QString, target);
+    Pair pair;
+    pair.editor.setRootIndex(pair.index(QStringLiteral("Man")));
+    if (target == QLatin1String("Bone"))
+        pair.other.generateSpear(&pair.model, pair.index(target));
+    const std::unique_ptr<QMimeData> data(
+        pair.model.mimeData({pair.index(QStringLiteral("Man"))}));
+
+    pair.other.onDropTo(data.get(), pair.index(target), 0);
+
+    QCOMPARE(pair.subject(QStringLiteral("Man"))->parent(), pair.subject(target));
+    if (pair.editor.headSpear())
+        QCOMPARE(pair.editor.headSpear()->treeItem(), pair.subject(QStringLiteral("Man")));
+    QCOMPARE(spearFault(pair.model), QString());
 }
 
 QTEST_MAIN(TestSeveralFishEditors)

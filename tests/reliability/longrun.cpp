@@ -14,6 +14,7 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QElapsedTimer>
+#include <QPixmapCache>
 
 #include <cstdio>
 #include <cstdlib>
@@ -24,7 +25,7 @@
 #include <fishbone/items/linkitem.h>
 
 #ifdef __SANITIZE_ADDRESS__
-#include <sanitizer/allocator_interface.h>
+extern "C" std::size_t __sanitizer_get_current_allocated_bytes(); // gcc has no header for it
 #endif
 
 namespace {
@@ -32,7 +33,7 @@ namespace {
 constexpr int checkEvery = 50;
 constexpr int closeEvery = 5000;
 /// What caches of the toolkit may take on top of what they had after the first closing.
-constexpr qint64 cacheGrowth = 8 << 20;
+constexpr qint64 cacheGrowth = 64 << 20;
 
 std::deque<QString> lastOperations;
 
@@ -139,6 +140,7 @@ private:
     void close(int operation)
     {
         m_world.clear();
+        QPixmapCache::clear();
         const qint64 bytes = allocatedBytes();
         m_progress.show(operation, bytes);
         if (m_bytesAtFirst == 0)
