@@ -38,6 +38,7 @@ private Q_SLOTS:
     void shouldForgetEachSubjectOnce();
     void shouldNotKeepAHeadWhoseSubjectIsDroppedIntoTheOtherDrawing_data();
     void shouldNotKeepAHeadWhoseSubjectIsDroppedIntoTheOtherDrawing();
+    void shouldNotKeepAHeadWhoseSubjectComesBackIntoTheOtherDrawing();
 };
 
 namespace {
@@ -387,14 +388,33 @@ void TestSeveralFishEditors::shouldNotKeepAHeadWhoseSubjectIsDroppedIntoTheOther
     pair.editor.setRootIndex(pair.index(QStringLiteral("Man")));
     if (target == QLatin1String("Bone"))
         pair.other.generateSpear(&pair.model, pair.index(target));
-    const std::unique_ptr<QMimeData> data(
-        pair.model.mimeData({pair.index(QStringLiteral("Man"))}));
+    const std::unique_ptr<QMimeData> data(pair.model.mimeData({pair.index(QStringLiteral("Man"))}));
 
     pair.other.onDropTo(data.get(), pair.index(target), 0);
 
     QCOMPARE(pair.subject(QStringLiteral("Man"))->parent(), pair.subject(target));
     if (pair.editor.headSpear())
         QCOMPARE(pair.editor.headSpear()->treeItem(), pair.subject(QStringLiteral("Man")));
+    QCOMPARE(spearFault(pair.model), QString());
+}
+
+void TestSeveralFishEditors::shouldNotKeepAHeadWhoseSubjectComesBackIntoTheOtherDrawing()
+{
+    Pair pair;
+    loadDocument(pair.model, QStringLiteral("Third[Leg]"));
+    pair.other.setRootIndex(pair.model.index(2, 0));
+    pair.editor.setRootIndex(pair.index(QStringLiteral("Bone")));
+    // Away, to a document that nobody shows, and back, when another editor shows where it was.
+    QVERIFY(pair.model.moveRows(pair.index(QStringLiteral("Other")), 0, 1,
+                                pair.index(QStringLiteral("Effect")), 0));
+    QCOMPARE(pair.drawn(), QStringLiteral("Bone[Branch]"));
+    pair.other.setRootIndex(pair.index(QStringLiteral("Other")));
+    const std::unique_ptr<QMimeData> data(
+        pair.model.mimeData({pair.index(QStringLiteral("Bone"))}));
+
+    pair.other.onDropTo(data.get(), pair.index(QStringLiteral("Rib")), 0);
+
+    expectNothing(pair.editor);
     QCOMPARE(spearFault(pair.model), QString());
 }
 
