@@ -4,7 +4,7 @@
 // Saving while things go wrong: what is on the disk is always the old document or the new one,
 // whole.
 //
-// FISHBONE_LONG_TESTS makes 200 kills of each way of saving out of 20.
+// FISHBONE_LONG_TESTS makes 200 kills of each way of saving out of 8.
 
 #include <tests/reliability/savedversions.h>
 
@@ -33,7 +33,7 @@ const QString nobody = QStringLiteral("65534");
 
 int kills()
 {
-    return qEnvironmentVariableIsSet("FISHBONE_LONG_TESTS") ? 200 : 20;
+    return qEnvironmentVariableIsSet("FISHBONE_LONG_TESTS") ? 200 : 8;
 }
 
 QByteArray contentOf(const QString &path)
