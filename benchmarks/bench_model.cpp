@@ -295,5 +295,6 @@ void addRows()
     Paired::addRow<Deleting>("G11b delete command");
     Paired::addRow<Renaming>("G11c retitle command");
     Paired::addRow<Moving>("G11d move command");
-    Paired::addRow<Filtering>("G13 filter change");
+    // Each removed range is compared with every expanded row of the view.
+    Paired::addRow<Filtering>("G13 filter change", Paired::Sizes::GatesOnly);
 }

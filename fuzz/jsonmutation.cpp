@@ -73,16 +73,16 @@ public:
 private:
     QJsonObject changedBelow(QJsonObject object)
     {
-        const QString key = object.keys().at(m_random.bounded(object.size()));
+        const QString key = object.keys().at(m_random.bounded(int(object.size())));
         switch (m_random.bounded(8)) {
         case 0:
             object.remove(key);
             break;
         case 1:
-            object.insert(keys().at(m_random.bounded(keys().size())), fresh());
+            object.insert(keys().at(m_random.bounded(int(keys().size()))), fresh());
             break;
         case 2:
-            object.insert(keys().at(m_random.bounded(keys().size())), object.value(key));
+            object.insert(keys().at(m_random.bounded(int(keys().size()))), object.value(key));
             break;
         default:
             object.insert(key, changed(object.value(key)));
@@ -154,7 +154,7 @@ private:
         case 5:
             return numbers[m_random.bounded(int(std::size(numbers)))];
         default:
-            return texts().at(m_random.bounded(texts().size()));
+            return texts().at(m_random.bounded(int(texts().size())));
         }
     }
 

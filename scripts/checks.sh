@@ -85,7 +85,7 @@ check_tests_exist() {
 # Each test program is one that ctest runs.
 check_tests_registered() {
     local known file
-    known=$(ctest --preset dev --show-only)
+    known=$(ctest --preset "$1" --show-only)
     find tests -name 'tst_*.cpp' | sort | while read -r file; do
         grep -qE ": $(basename "$file" .cpp)\$" <<<"$known" || echo "$file: not registered"
     done | none
