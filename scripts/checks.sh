@@ -8,7 +8,7 @@
 # The C++ files of the project; with an argument only those with that ending.
 sources() {
     local folder folders=()
-    for folder in app benchmarks cmake designer examples fishbone tests; do
+    for folder in app benchmarks cmake designer examples fishbone fuzz tests; do
         [[ ! -d $folder ]] || folders+=("$folder")
     done
     find "${folders[@]}" -type f \( -name "*.${1:-h}" -o -name "*.${1:-cpp}" \) | sort
@@ -34,13 +34,22 @@ check_scripts() {
     shellcheck --external-sources "${scripts[@]}" scripts/*.sh
 }
 
+# What cppcheck remembers of each file makes the next time fast.
+check_cppcheck() {
+    local memory=build/cppcheck
+    mkdir -p "$memory"
+    cppcheck --quiet --cppcheck-build-dir="$memory" --std=c++17 --library=qt -I . -D FISHBONE_EXPORT= -D Q_OS_UNIX \
+        --enable=warning,performance,portability --suppressions-list=scripts/cppcheck.txt \
+        --error-exitcode=1 fishbone app
+}
+
 # Every file says whose it is and under which terms, a script below its first line.
 check_licence_lines() {
     local file
     {
         sources
         find . -path ./build -prune -o \( -name CMakeLists.txt -o -name '*.cmake' \) -print
-        find scripts .ci -type f ! -name packages.txt
+        find scripts .ci -type f ! -name '*.txt'
     } | while read -r file; do
         if [[ $(head -n 3 "$file") != *SPDX-FileCopyrightText:\ *' The Fishbone authors'*SPDX-License-Identifier:\ MIT* ]]; then
             echo "$file: no licence lines on top"

@@ -144,7 +144,9 @@ void URLDialog::loadUrl()
     if (!file.open(QIODevice::ReadOnly))
         return;
     const WaitCursor cursor;
-    m_urls->addItems(urlsFromText(QString::fromUtf8(file.readAll())));
+    const QByteArray content = file.readAll();
+    // Told the size, since it would end the text at a null character otherwise.
+    m_urls->addItems(urlsFromText(QString::fromUtf8(content.constData(), content.size())));
     m_urls->lineEdit()->selectAll();
 }
 

@@ -390,6 +390,7 @@ private:
     void showReturnedRoot(const QModelIndex &parent);
     void followReset();
     void followHead();
+    void followToAnotherDocument();
     void followMove();
     void forgetDestroyedModel();
 

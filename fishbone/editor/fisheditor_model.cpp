@@ -95,6 +95,19 @@ void FishEditor::followHead()
         setRootIndex(head);
 }
 
+/// The shown root has moved into another document.
+void FishEditor::followToAnotherDocument()
+{
+    if (isShownByAnotherEditor(currentFishInfo())) {
+        // What moved into that editor's document is drawn there from now on.
+        showNothing();
+        m_rootIndex = QModelIndex();
+        m_rootRemoved = true;
+    } else if (!m_shown.isHead) { // a head comes back as the head of its old document
+        m_shown.document = currentFishInfo();
+    }
+}
+
 void FishEditor::followMove()
 {
     if (sender() != m_model)
@@ -103,12 +116,8 @@ void FishEditor::followMove()
         const QModelIndex head = rememberedRoot();
         if (head.isValid())
             setRootIndex(head);
-    } else if (headSpear() && currentFishInfo() != m_shown.document &&
-               isShownByAnotherEditor(currentFishInfo())) {
-        // What moved into that editor's document is drawn there from now on.
-        showNothing();
-        m_rootIndex = QModelIndex();
-        m_rootRemoved = true;
+    } else if (headSpear() && currentFishInfo() != m_shown.document) {
+        followToAnotherDocument();
     }
 }
 

@@ -59,7 +59,8 @@ std::optional<QString> decode(const QByteArray &bytes, ImportedTree &tree)
     if (bytes.startsWith("\xfe\xff"))
         return decodeUnits<quint16>(bytes, true);
     const QByteArray utf8 = bytes.startsWith("\xef\xbb\xbf") ? bytes.mid(3) : bytes;
-    const QString text = QString::fromUtf8(utf8);
+    // Told the size, since it would end a text at a null character otherwise.
+    const QString text = QString::fromUtf8(utf8.constData(), utf8.size());
     // What cannot be decoded is replaced by this character.
     if (text.contains(QChar(QChar::ReplacementCharacter)) && text.toUtf8() != utf8) {
         tree.fail(firstDifference(utf8, text.toUtf8()),

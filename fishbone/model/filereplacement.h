@@ -8,7 +8,9 @@ class QString;
 
 /**
  * Writes @p content to @p fileName, whole or not at all, so that a crash or a full disk never costs
- * the previous content. A link is followed, permissions stay. In a folder that is not writable, and
- * on a device, it is written in place. Returns what went wrong; empty when nothing did.
+ * the previous content. A link is followed, permissions stay. Where no second file can be made
+ * beside the first, because the folder is not writable or the name too long, it is written in
+ * place: a full disk leaves the previous content then as well, a crash in the middle does not. A
+ * device is always written in place. Returns what went wrong; empty when nothing did.
  */
 QString replaceFile(const QString &fileName, const QByteArray &content);

@@ -228,7 +228,9 @@ public:
     void loadFishFromUrl(const QUrl &url);
     /** Loads @p path into @p document in place of its tree. Returns a MODEL_ERROR number. */
     int reloadDataFromFile(const QString &path, FishInfo *document);
-    /** A transfer without progress for @p ms milliseconds fails; 0 waits for ever. Default 30000.
+    /**
+     * A transfer without progress for @p ms milliseconds fails, and so does one that takes twenty
+     * times as long altogether; 0 waits for ever. Default 30000.
      */
     void setTransferTimeout(int ms) { m_transferTimeout = ms; }
     /** A reply of more than @p bytes fails; 0 takes any size. Default 256 MiB. */

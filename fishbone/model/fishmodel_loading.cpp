@@ -13,7 +13,9 @@
 #include <QNetworkAccessManager>
 #include <QNetworkReply>
 #include <QNetworkRequest>
+#include <QTimer>
 
+#include <chrono>
 #include <memory>
 
 namespace {
@@ -28,6 +30,18 @@ bool readFile(const QString &path, QByteArray *content)
     return true;
 }
 
+/** A load takes so many times as long as it may go without progress, at most. */
+constexpr int longestLoad = 20;
+
+/** Ends @p reply after so many milliseconds, however it creeps along. */
+void limitTime(QNetworkReply *reply, qint64 ms)
+{
+    QTimer::singleShot(std::chrono::milliseconds(ms), reply, [reply] {
+        if (reply->isRunning())
+            reply->abort();
+    });
+}
+
 /** Ends @p reply as soon as it is known to be larger than @p limit bytes. */
 void limitReply(QNetworkReply *reply, qint64 limit)
 {
@@ -36,6 +50,8 @@ void limitReply(QNetworkReply *reply, qint64 limit)
         if (reply->isRunning() && (announced > limit || reply->bytesAvailable() > limit))
             reply->abort();
     };
+    // Otherwise Qt unpacks a small reply to a large one before anybody is asked.
+    reply->setReadBufferSize(limit + 1);
     QObject::connect(reply, &QNetworkReply::metaDataChanged, reply, check);
     QObject::connect(reply, &QNetworkReply::readyRead, reply, check);
 }
@@ -99,6 +115,8 @@ void FishModel::loadFishFromUrl(const QUrl &url)
     QNetworkReply *const reply = manager->get(request);
     if (m_replyLimit > 0)
         limitReply(reply, m_replyLimit);
+    if (m_transferTimeout > 0)
+        limitTime(reply, qint64(longestLoad) * m_transferTimeout);
 }
 
 void FishModel::replyFinished(QNetworkReply *reply)

@@ -36,6 +36,7 @@ private Q_SLOTS:
     void shouldWaitWhileLoading();
     void shouldWriteTheHistoryAsUtf8Lines();
     void shouldDropEmptyLinesWhenSaving();
+    void shouldKeepWhatFollowsANullCharacter();
     void shouldEmptyListAndFileOnClean();
     void shouldCreateAnEmptyFileOnClean();
     void shouldLeaveTheHistoryAloneWhenCancelled_data();
@@ -139,6 +140,16 @@ void tst_UrlHistory::shouldDropEmptyLinesWhenSaving()
     URLDialog dialog;
     dialog.saveUrl();
     QCOMPARE(contentOf(QStringLiteral("moraine2.urllist")), QByteArray("a\nb\n"));
+}
+
+void tst_UrlHistory::shouldKeepWhatFollowsANullCharacter()
+{
+    const QByteArray content("http://a\0b\nhttp://c\n", 20);
+    QVERIFY(writeContent(QStringLiteral("nul.urllist"), content));
+    URLDialog dialog(QString(), QStringLiteral("nul.urllist"));
+    QCOMPARE(combo(dialog)->count(), 2);
+    dialog.saveUrl();
+    QCOMPARE(contentOf(QStringLiteral("nul.urllist")), content);
 }
 
 void tst_UrlHistory::shouldEmptyListAndFileOnClean()

@@ -6,6 +6,7 @@
 
 #include <fishbone/undo/structuralcommands.h>
 #include <fishbone/undo/undostack.h>
+#include <tests/support/commandfixture.h>
 #include <tests/support/drawingtext.h>
 #include <tests/support/editorfixture.h>
 #include <tests/support/signalrecorder.h>
@@ -35,6 +36,9 @@ private Q_SLOTS:
     void shouldGoOnShowingAHeadThatMovedWhereNobodyLooks();
     void shouldMoveASubjectFromOneDrawingToTheOther();
     void shouldForgetEachSubjectOnce();
+    void shouldNotKeepAHeadWhoseSubjectIsDroppedIntoTheOtherDrawing_data();
+    void shouldNotKeepAHeadWhoseSubjectIsDroppedIntoTheOtherDrawing();
+    void shouldNotKeepAHeadWhoseSubjectComesBackIntoTheOtherDrawing();
 };
 
 namespace {
@@ -366,6 +370,52 @@ void TestSeveralFishEditors::shouldForgetEachSubjectOnce()
     QCOMPARE(SpearItem::m_refCount, 3);
     pair.other.setRootIndex(QModelIndex());
     QCOMPARE(SpearItem::m_refCount, 0);
+}
+
+void TestSeveralFishEditors::shouldNotKeepAHeadWhoseSubjectIsDroppedIntoTheOtherDrawing_data()
+{
+    QTest::addColumn<QString>("target");
+    QTest::newRow("the head") << QStringLiteral("Other");
+    QTest::newRow("a bone that shows its children") << QStringLiteral("Bone");
+    QTest::newRow("a bone that shows none") << QStringLiteral("Rib");
+    QTest::newRow("a bone that is not drawn") << QStringLiteral("Branch");
+}
+
+void TestSeveralFishEditors::shouldNotKeepAHeadWhoseSubjectIsDroppedIntoTheOtherDrawing()
+{
+    QFETCH(QString, target);
+    Pair pair;
+    pair.editor.setRootIndex(pair.index(QStringLiteral("Man")));
+    if (target == QLatin1String("Bone"))
+        pair.other.generateSpear(&pair.model, pair.index(target));
+    const std::unique_ptr<QMimeData> data(pair.model.mimeData({pair.index(QStringLiteral("Man"))}));
+
+    pair.other.onDropTo(data.get(), pair.index(target), 0);
+
+    QCOMPARE(pair.subject(QStringLiteral("Man"))->parent(), pair.subject(target));
+    if (pair.editor.headSpear())
+        QCOMPARE(pair.editor.headSpear()->treeItem(), pair.subject(QStringLiteral("Man")));
+    QCOMPARE(spearFault(pair.model), QString());
+}
+
+void TestSeveralFishEditors::shouldNotKeepAHeadWhoseSubjectComesBackIntoTheOtherDrawing()
+{
+    Pair pair;
+    loadDocument(pair.model, QStringLiteral("Third[Leg]"));
+    pair.other.setRootIndex(pair.model.index(2, 0));
+    pair.editor.setRootIndex(pair.index(QStringLiteral("Bone")));
+    // Away, to a document that nobody shows, and back, when another editor shows where it was.
+    QVERIFY(pair.model.moveRows(pair.index(QStringLiteral("Other")), 0, 1,
+                                pair.index(QStringLiteral("Effect")), 0));
+    QCOMPARE(pair.drawn(), QStringLiteral("Bone[Branch]"));
+    pair.other.setRootIndex(pair.index(QStringLiteral("Other")));
+    const std::unique_ptr<QMimeData> data(
+        pair.model.mimeData({pair.index(QStringLiteral("Bone"))}));
+
+    pair.other.onDropTo(data.get(), pair.index(QStringLiteral("Rib")), 0);
+
+    expectNothing(pair.editor);
+    QCOMPARE(spearFault(pair.model), QString());
 }
 
 QTEST_MAIN(TestSeveralFishEditors)

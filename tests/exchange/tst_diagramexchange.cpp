@@ -52,6 +52,8 @@ private Q_SLOTS:
     void shouldReadEveryEncodingWithAMark_data();
     void shouldReadEveryEncodingWithAMark();
     void shouldRefuseTextThatIsNotUtf8();
+    void shouldReadPastANullCharacter_data();
+    void shouldReadPastANullCharacter();
     void shouldSurviveBrokenInput_data() { addFormats(); }
     void shouldSurviveBrokenInput();
     void shouldTakeTimeInProportionToTheSize_data() { addFormats(); }
@@ -438,6 +440,24 @@ void TestDiagramExchange::shouldRefuseTextThatIsNotUtf8()
                  QStringLiteral("line 3: the text is not encoded as UTF-8"));
     // The character that stands for what cannot be decoded is one like any other.
     QCOMPARE(imported("\xef\xbf\xbd", Format::Text).text(), QString(QChar(0xfffd)));
+}
+
+void TestDiagramExchange::shouldReadPastANullCharacter_data()
+{
+    QTest::addColumn<Format>("format");
+    QTest::addColumn<QByteArray>("content");
+
+    QTest::newRow("text") << Format::Text << QByteArray("a\0b\n\tc\n", 7);
+    QTest::newRow("Markdown") << Format::Markdown << QByteArray("# a\0b\n\n- c\n", 11);
+    QTest::newRow("Mermaid") << Format::Mermaid << QByteArray("ishikawa\n  a\0b\n    c\n", 21);
+    QTest::newRow("table") << Format::Csv << QByteArray("uuid,parent,title\n1,,a\0b\n2,1,c\n", 31);
+}
+
+void TestDiagramExchange::shouldReadPastANullCharacter()
+{
+    QFETCH(Format, format);
+    QFETCH(QByteArray, content);
+    QCOMPARE(imported(content, format).text(), QString::fromLatin1("a\0b[c]", 6));
 }
 
 void TestDiagramExchange::shouldSurviveBrokenInput()

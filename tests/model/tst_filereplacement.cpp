@@ -8,6 +8,7 @@
 #include <csignal>
 
 #include <sys/resource.h>
+#include <unistd.h>
 
 #include <fishbone/model/filereplacement.h>
 
@@ -39,6 +40,35 @@ private:
     rlimit m_before{};
 };
 
+/// Keeps this process from making files in a folder while it lives, but not from writing a file
+/// that is in there. The superuser, whom nothing keeps, becomes nobody meanwhile.
+class LockedFolder
+{
+    Q_DISABLE_COPY(LockedFolder)
+
+public:
+    LockedFolder(const QString &folder, const QString &file)
+        : m_folder(folder)
+    {
+        constexpr uid_t nobody = 65534;
+        QFile::setPermissions(file, QFile::Permissions(0x6666));
+        QFile::setPermissions(m_folder, QFile::Permissions(0x5555));
+        m_isLocked = m_user != 0 || seteuid(nobody) == 0;
+    }
+    ~LockedFolder()
+    {
+        if (seteuid(m_user) == 0)
+            QFile::setPermissions(m_folder, QFile::Permissions(0x7777));
+    }
+
+    bool isLocked() const { return m_isLocked; }
+
+private:
+    QString m_folder;
+    uid_t m_user = geteuid();
+    bool m_isLocked = false;
+};
+
 } // namespace
 
 class tst_FileReplacement : public QObject
@@ -51,7 +81,13 @@ private Q_SLOTS:
     void shouldReplaceTheWholeContent();
     void shouldKeepTheOldContentOnAFullDisk_data();
     void shouldKeepTheOldContentOnAFullDisk();
+    void shouldKeepTheOldContentOnAFullDiskInALockedFolder_data();
+    void shouldKeepTheOldContentOnAFullDiskInALockedFolder();
+    void shouldReplaceTheWholeContentInALockedFolder();
+    void shouldWriteAFileWithTheLongestName();
+    void shouldRefuseANameWithANullCharacter();
     void shouldFollowALink();
+    void shouldFollowALinkToAFileThatIsNotThereYet();
     void shouldSayWhyAFolderCannotBeWritten();
     void shouldWriteADeviceInPlace();
 
@@ -94,6 +130,68 @@ void tst_FileReplacement::shouldKeepTheOldContentOnAFullDisk()
     QCOMPARE(contentOf(path("full")), QByteArray("old"));
 }
 
+void tst_FileReplacement::shouldKeepTheOldContentOnAFullDiskInALockedFolder_data()
+{
+    shouldKeepTheOldContentOnAFullDisk_data();
+}
+
+void tst_FileReplacement::shouldKeepTheOldContentOnAFullDiskInALockedFolder()
+{
+    QFETCH(int, size);
+    QCOMPARE(replaceFile(path("full"), "old"), QString());
+    QString reason;
+    {
+        const LockedFolder locked(m_folder.path(), path("full"));
+        if (!locked.isLocked())
+            QSKIP("Folders cannot be locked here.");
+        const FullDisk disk(1000);
+        reason = replaceFile(path("full"), QByteArray(size, 'x'));
+    }
+    QVERIFY(!reason.isEmpty());
+    QCOMPARE(contentOf(path("full")), QByteArray("old"));
+}
+
+void tst_FileReplacement::shouldReplaceTheWholeContentInALockedFolder()
+{
+    QCOMPARE(replaceFile(path("locked"), "some content"), QString());
+    const LockedFolder locked(m_folder.path(), path("locked"));
+    if (!locked.isLocked())
+        QSKIP("Folders cannot be locked here.");
+    QCOMPARE(replaceFile(path("locked"), "a longer content"), QString());
+    QCOMPARE(contentOf(path("locked")), QByteArray("a longer content"));
+    QCOMPARE(replaceFile(path("locked"), "short"), QString());
+    QCOMPARE(contentOf(path("locked")), QByteArray("short"));
+    QCOMPARE(replaceFile(path("locked"), QByteArray()), QString());
+    QCOMPARE(contentOf(path("locked")), QByteArray());
+    QVERIFY(!replaceFile(path("not there"), "content").isEmpty());
+    QVERIFY(!QFileInfo::exists(path("not there")));
+}
+
+void tst_FileReplacement::shouldWriteAFileWithTheLongestName()
+{
+    const QString longest = m_folder.filePath(QString(255, QLatin1Char('n')));
+    QCOMPARE(replaceFile(longest, "a first content"), QString());
+    QCOMPARE(contentOf(longest), QByteArray("a first content"));
+    QCOMPARE(replaceFile(longest, "a second"), QString());
+    QCOMPARE(contentOf(longest), QByteArray("a second"));
+    {
+        const FullDisk disk(100);
+        QVERIFY(!replaceFile(longest, QByteArray(5000, 'x')).isEmpty());
+    }
+    QCOMPARE(contentOf(longest), QByteArray("a second"));
+    QVERIFY(!replaceFile(m_folder.filePath(QString(256, QLatin1Char('n'))), "content").isEmpty());
+}
+
+void tst_FileReplacement::shouldRefuseANameWithANullCharacter()
+{
+    QCOMPARE(replaceFile(path("before"), "old"), QString());
+    const QString name = path("before") + QChar(0) + QStringLiteral("after");
+    QVERIFY(!replaceFile(name, "new").isEmpty());
+    QVERIFY(QFile::remove(path("before")));
+    QVERIFY(!replaceFile(name, "new").isEmpty());
+    QVERIFY(!QFileInfo::exists(path("before")));
+}
+
 void tst_FileReplacement::shouldFollowALink()
 {
     QCOMPARE(replaceFile(path("target"), "old"), QString());
@@ -101,6 +199,14 @@ void tst_FileReplacement::shouldFollowALink()
     QCOMPARE(replaceFile(path("link"), "new"), QString());
     QCOMPARE(contentOf(path("target")), QByteArray("new"));
     QVERIFY(QFileInfo(path("link")).isSymLink());
+}
+
+void tst_FileReplacement::shouldFollowALinkToAFileThatIsNotThereYet()
+{
+    QVERIFY(QFile::link(path("not yet"), path("early link")));
+    QCOMPARE(replaceFile(path("early link"), "new"), QString());
+    QCOMPARE(contentOf(path("not yet")), QByteArray("new"));
+    QVERIFY(QFileInfo(path("early link")).isSymLink());
 }
 
 void tst_FileReplacement::shouldSayWhyAFolderCannotBeWritten()

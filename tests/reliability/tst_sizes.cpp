@@ -1,0 +1,331 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+// Diagrams of sizes and with titles at the edge: shown, edited, saved and read again.
+//
+// FISHBONE_LONG_TESTS makes the largest ones a million subjects in all and 100,000 under one.
+
+#include <tests/support/commandfixture.h>
+
+#include <QAbstractItemModelTester>
+#include <QBuffer>
+#include <QElapsedTimer>
+#include <QImage>
+#include <QPainter>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <fishbone/editor/fisheditor.h>
+#include <fishbone/editor/fishscene.h>
+#include <fishbone/exchange/diagramexchange.h>
+#include <fishbone/model/jsonnodes.h>
+
+using namespace TestSupport;
+
+namespace {
+
+bool isLong()
+{
+    return qEnvironmentVariableIsSet("FISHBONE_LONG_TESTS");
+}
+
+QByteArray contentOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("unreadable");
+}
+
+/// A tree of \a count subjects in which each has \a width children at most.
+std::unique_ptr<TreeItem> makeBush(int count, int width)
+{
+    auto top = std::make_unique<TreeItem>();
+    std::vector<TreeItem *> nodes{top.get()};
+    top->setTitle(QStringLiteral("bush"));
+    top->setUuid(QStringLiteral("b"));
+    for (int i = 1; i < count; ++i) {
+        TreeItem *const parent = nodes[std::size_t((i - 1) / width)];
+        auto node = std::make_unique<TreeItem>();
+        node->setTitle(QString::number(i));
+        node->setUuid(QStringLiteral("b%1").arg(i));
+        nodes.push_back(node.get());
+        parent->insertChildAtPosition(parent->childCount(), node.release());
+    }
+    return top;
+}
+
+/// Lets events through after each step, as between those of a user, and tells how long it took, when
+/// asked for the long form. Qt keeps a list of the items that had no events yet, and looks through
+/// all of it for each one that goes.
+class Steps
+{
+public:
+    Steps() { m_timer.start(); }
+
+    void done(const char *what)
+    {
+        QCoreApplication::processEvents();
+        if (isLong())
+            qInfo("%s: %lld ms", what, m_timer.restart());
+    }
+
+private:
+    QElapsedTimer m_timer;
+};
+
+} // namespace
+
+class tst_Sizes : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void shouldDoEverythingWithOneSubject();
+    void shouldShowAndSave_data();
+    void shouldShowAndSave();
+    void shouldRefuseToSaveWhatCouldNotBeReadAgain();
+    void shouldKeepAnyTitle_data();
+    void shouldKeepAnyTitle();
+    void shouldDrawAWholeTitle_data();
+    void shouldDrawAWholeTitle();
+
+private:
+    QString path() const { return m_folder.filePath(QStringLiteral("document.json")); }
+    /// Saves the first document, reads it and saves that: what is wrong with it, if anything.
+    QString savingFault(const FishModel &model);
+
+    QTemporaryDir m_folder;
+};
+
+QString tst_Sizes::savingFault(const FishModel &model)
+{
+    if (!model.fishList().first()->saveFile(path()))
+        return QStringLiteral("not saved");
+    const QByteArray first = contentOf(path());
+    FishModel again;
+    if (again.loadFishFromFile(path()) != MODEL_NO_ERROR)
+        return QStringLiteral("not read again");
+    if (treeToText(*again.getFishHeadTreeItem()) != treeToText(*model.getFishHeadTreeItem()))
+        return QStringLiteral("read with other subjects");
+    if (!again.fishList().first()->saveFile(path()))
+        return QStringLiteral("not saved again");
+    return contentOf(path()) == first ? QString() : QStringLiteral("saved differently");
+}
+
+void tst_Sizes::shouldDoEverythingWithOneSubject()
+{
+    FishModel model;
+    model.setModelType(FISH_MODEL_DIAGRAM);
+    loadDocument(model, QStringLiteral("Alone"))->setAutoSaveFile(path());
+    const QAbstractItemModelTester tester(&model);
+    FishEditor editor;
+    editor.setModel(&model);
+    editor.setRootIndex(model.index(0, 0));
+    QVERIFY(editor.headSpear());
+    editor.headSpear()->setSelected(true);
+    const QByteArrayList slots{"insertSubject",
+                               "appendSubject",
+                               "insertParentSubject",
+                               "del",
+                               "cut",
+                               "copy",
+                               "paste",
+                               "undo",
+                               "redo",
+                               "expandAll",
+                               "contractAll",
+                               "showEntire",
+                               "showSelected",
+                               "selectAll",
+                               "modifyDelLink",
+                               "modifyExpand",
+                               "modifyContract",
+                               "insertChildSubject",
+                               "undo",
+                               "redo",
+                               "saveTmpFile"};
+    for (const QByteArray &slot : slots) {
+        QVERIFY2(QMetaObject::invokeMethod(&editor, slot.constData()), slot.constData());
+        QCOMPARE(spearFault(model), QString());
+        QVERIFY(editor.headSpear());
+    }
+    QCOMPARE(savingFault(model), QString());
+}
+
+void tst_Sizes::shouldShowAndSave_data()
+{
+    QTest::addColumn<int>("count");
+    QTest::addColumn<int>("width");
+
+    QTest::newRow("depth of 500") << 500 << 1;
+    QTest::newRow("as deep as can be saved") << JsonNodes::readableLevels << 1;
+    QTest::newRow("all under one") << (isLong() ? 100001 : 5001) << (isLong() ? 100000 : 5000);
+    QTest::newRow("many") << (isLong() ? 1000000 : 10000) << 8;
+}
+
+void tst_Sizes::shouldShowAndSave()
+{
+    QFETCH(int, count);
+    QFETCH(int, width);
+    Steps steps;
+    FishModel model;
+    addDocument(model, makeBush(count, width));
+    model.fishList().first()->setModel(&model);
+    steps.done("made");
+    const QString fault = savingFault(model);
+    QCOMPARE(fault, QString());
+    steps.done("saved, loaded and saved");
+    {
+        FishEditor editor;
+        editor.resize(800, 600);
+        editor.setModel(&model);
+        editor.setRootIndex(model.index(0, 0));
+        steps.done("shown");
+        editor.expandAll();
+        steps.done("expanded");
+        QCOMPARE(spearFault(model), QString());
+        const TreeItem *const last = allNodes(model).back();
+        editor.scene()->clearSelection();
+        last->spear()->setSelected(true);
+        const QString parentUuid = last->parent()->uuid();
+        const int children = last->parent()->childCount();
+        editor.del();
+        QCOMPARE(int(allNodes(model).size()), count - 1);
+        steps.done("deleted one");
+        editor.undo();
+        QCOMPARE(int(allNodes(model).size()), count);
+        QCOMPARE(model.rowCount(model.modelIndexByUuid(parentUuid)), children);
+        steps.done("taken back");
+        editor.contractAll();
+        editor.updateFish(true);
+        QCOMPARE(spearFault(model), QString());
+        steps.done("contracted and drawn anew");
+    }
+    steps.done("closed");
+}
+
+void tst_Sizes::shouldRefuseToSaveWhatCouldNotBeReadAgain()
+{
+    FishModel model;
+    addDocument(model, makeBush(JsonNodes::readableLevels, 1));
+    FishInfo *const document = model.fishList().first();
+    document->setModel(&model);
+    FishEditor editor;
+    editor.setModel(&model);
+    editor.setRootIndex(model.index(0, 0));
+    editor.expandAll();
+    QVERIFY(document->saveFile(path()));
+    document->setAutoSaveFile(path());
+    const QByteArray old = contentOf(path());
+
+    allNodes(model).back()->spear()->setSelected(true);
+    editor.insertChildSubject();
+    QCOMPARE(int(allNodes(model).size()), JsonNodes::readableLevels + 1);
+    QVERIFY(!document->saveFile(path()));
+    QVERIFY(!document->saveTmpFile());
+    QCOMPARE(contentOf(path()), old);
+    const QList<DiagramExchange::Format> formats = DiagramExchange::formats();
+    for (const DiagramExchange::Format format : formats) {
+        QString error;
+        QVERIFY(!DiagramExchange::writeFile(path(), *model.getFishHeadTreeItem(), format, &error));
+        QVERIFY2(error.contains(QStringLiteral("512")), qPrintable(error));
+        QCOMPARE(contentOf(path()), old);
+    }
+
+    editor.undo();
+    QVERIFY(document->saveFile(path()));
+    QCOMPARE(contentOf(path()), old);
+
+    // A style nests deeper than the subject that owns it.
+    QJsonObject style{{QStringLiteral("spearStates"),
+                       QJsonArray{QJsonObject{
+                           {QStringLiteral("textColor"), QJsonObject{{QStringLiteral("r"), 1}}}}}}};
+    allNodes(model).back()->setSpearStyle(style);
+    QVERIFY(!document->saveFile(path()));
+    QCOMPARE(contentOf(path()), old);
+}
+
+void tst_Sizes::shouldKeepAnyTitle_data()
+{
+    QTest::addColumn<QString>("title");
+
+    QString everyUnit;
+    for (int unit = 1; unit <= 0xffff; ++unit) {
+        if (!QChar::isSurrogate(uint(unit)) && unit != QChar::ByteOrderMark)
+            everyUnit.append(QChar(unit));
+    }
+    QTest::newRow("empty") << QString();
+    QTest::newRow("a megabyte") << QString(1 << 20, QLatin1Char('w'));
+    QTest::newRow("a megabyte of lines") << QStringLiteral("a\n").repeated(1 << 19);
+    QTest::newRow("every unit of UTF-16") << everyUnit;
+    QTest::newRow("right to left") << QString::fromUtf8("\u202eגורם\u202c שני \u2067abc\u2069");
+    QTest::newRow("combining") << QStringLiteral("e") + QString(5000, QChar(0x0301));
+    QTest::newRow("emoji")
+        << QString::fromUtf8("👩‍👩‍👧‍👦🏳️‍🌈🇪🇺").repeated(200);
+    QTest::newRow("control characters") << QStringLiteral("\x01\x02\x1b[31m\x7f\x85\t\v\f\r\n");
+    QTest::newRow("null character") << QStringLiteral("a") + QChar(0) + QStringLiteral("b");
+    QTest::newRow("half characters") << QString(QChar(0xd83d)) + QChar(0x41) + QChar(0xdc00);
+    QTest::newRow("markup") << QStringLiteral("<b>&lt;</b><img src='file:///etc/passwd'>%1%2");
+}
+
+void tst_Sizes::shouldKeepAnyTitle()
+{
+    QFETCH(QString, title);
+    FishModel model;
+    model.setModelType(FISH_MODEL_DIAGRAM);
+    loadDocument(model, QStringLiteral("Effect[Man[Rest],Machine]"));
+    const QAbstractItemModelTester tester(&model);
+    FishEditor editor;
+    editor.resize(800, 600);
+    editor.setModel(&model);
+    editor.setRootIndex(model.index(0, 0));
+    editor.expandAll();
+    for (const char *const old : {"Effect", "Man", "Rest"}) {
+        const QModelIndex index = indexTitled(model, QString::fromLatin1(old));
+        editor.renameItem(index, title);
+        QCOMPARE(model.getTreeItem(index)->title(), title);
+        editor.undo();
+        QCOMPARE(model.getTreeItem(index)->title(), QString::fromLatin1(old));
+        editor.redo();
+    }
+    QCOMPARE(model.searchModelIndexes(title).size(), title.isEmpty() ? 4 : 3);
+    QCOMPARE(spearFault(model), QString());
+    editor.grab();
+    QCOMPARE(savingFault(model), QString());
+    FishModel again;
+    QCOMPARE(again.loadFishFromFile(path()), int(MODEL_NO_ERROR));
+    QCOMPARE(allNodes(again)[1]->title(), title);
+}
+
+void tst_Sizes::shouldDrawAWholeTitle_data()
+{
+    shouldKeepAnyTitle_data();
+}
+
+void tst_Sizes::shouldDrawAWholeTitle()
+{
+    QFETCH(QString, title);
+    FishModel model;
+    model.setModelType(FISH_MODEL_DIAGRAM);
+    loadDocument(model, QStringLiteral("Effect[Man]"));
+    // Below 1 a style shows all characters of a title.
+    nodeTitled(model, QStringLiteral("Man"))
+        ->setSpearStyle(QJsonObject{{QStringLiteral("textCount"), 0}});
+    FishEditor editor;
+    editor.resize(400, 300);
+    editor.setModel(&model);
+    editor.setRootIndex(model.index(0, 0));
+    QElapsedTimer elapsed;
+    elapsed.start();
+    editor.renameItem(indexTitled(model, QStringLiteral("Man")), title);
+    editor.showEntire();
+    QImage picture(200, 150, QImage::Format_ARGB32_Premultiplied);
+    picture.fill(Qt::white);
+    QPainter painter(&picture);
+    editor.scene()->render(&painter);
+    painter.end();
+    QVERIFY2(elapsed.elapsed() < 30000, qPrintable(QString::number(elapsed.elapsed())));
+    QCOMPARE(spearFault(model), QString());
+}
+
+QTEST_MAIN(tst_Sizes)
+#include "tst_sizes.moc"
