@@ -53,9 +53,9 @@ std::unique_ptr<TreeItem> makeBush(int count, int width)
     return top;
 }
 
-/// Lets events through after each step, as between those of a user, and tells how long it took, when
-/// asked for the long form. Qt keeps a list of the items that had no events yet, and looks through
-/// all of it for each one that goes.
+/// Lets events through after each step, as between those of a user, and tells how long it took,
+/// when asked for the long form. Qt keeps a list of the items that had no events yet, and looks
+/// through all of it for each one that goes.
 class Steps
 {
 public:
