@@ -53,7 +53,7 @@ ExportCommands::ExportCommands(DiagramSession *session, CanvasTheme *theme, Acti
                  [this] { exportAs(); });
     actions->add(QStringLiteral("print"), tr("&Print…"), {QKeySequence::Print}, Scope::Window,
                  [this] { print(); });
-    actions->add(QStringLiteral("printPreview"), tr("Print pre&view…"),
+    actions->add(QStringLiteral("printPreview"), tr("Print previe&w…"),
                  {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_P)}, Scope::Window,
                  [this] { previewPrint(); });
 }

@@ -62,8 +62,8 @@ private:
     DiagramSession *m_session;
     ReplaceFindDialog *m_dialog;
     HitList *m_hits;
-    QModelIndexList m_matches; ///< that are listed, only to be compared
-    int m_current = -1;        ///< the match that is selected
-    DrawingState m_look;       ///< of the drawing before the search
+    QModelIndexList m_matches;            ///< that are listed, only to be compared
+    int m_current = -1;                   ///< the match that is selected
+    DrawingState m_look;                  ///< of the drawing before the search
     QPersistentModelIndex m_searchedFrom; ///< the head of the drawing then
 };

@@ -61,7 +61,7 @@ void ViewCommands::addZoomActions()
     add("rotateLeft", tr("Rotate &left"), {QKeySequence(Qt::CTRL | Qt::Key_BracketLeft)},
         [this] { m_controls->setRotation(m_editor->rotateValue() - rotateStep); });
     add("rotateReset", tr("&Upright"), {}, [this] { m_controls->setRotation(0); });
-    add("fullScreen", tr("F&ull screen"), {Qt::Key_F11},
+    add("fullScreen", tr("S&how full screen"), {Qt::Key_F11},
         [this] { m_window->setWindowState(m_window->windowState() ^ Qt::WindowFullScreen); });
 }
 

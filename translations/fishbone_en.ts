@@ -937,8 +937,8 @@ The exit code is 3 when anything is.</translation>
         <translation>its ending tells none of the formats</translation>
     </message>
     <message>
-        <source>Print pre&amp;view…</source>
-        <translation>Print pre&amp;view…</translation>
+        <source>Print previe&amp;w…</source>
+        <translation>Print previe&amp;w…</translation>
     </message>
 </context>
 <context>
@@ -2088,8 +2088,8 @@ Do you want to save your changes?</translation>
         <translation>(nothing yet)</translation>
     </message>
     <message>
-        <source>F&amp;ull screen</source>
-        <translation>F&amp;ull screen</translation>
+        <source>S&amp;how full screen</source>
+        <translation>S&amp;how full screen</translation>
     </message>
 </context>
 <context>

@@ -935,8 +935,8 @@ The exit code is 3 when anything is.</source>
         <translation>无法从扩展名判断格式</translation>
     </message>
     <message>
-        <source>Print pre&amp;view…</source>
-        <translation>打印预览(&amp;V)…</translation>
+        <source>Print previe&amp;w…</source>
+        <translation>打印预览(&amp;W)…</translation>
     </message>
 </context>
 <context>
@@ -2080,8 +2080,8 @@ Do you want to save your changes?</source>
         <translation>（暂无）</translation>
     </message>
     <message>
-        <source>F&amp;ull screen</source>
-        <translation>全屏(&amp;U)</translation>
+        <source>S&amp;how full screen</source>
+        <translation>全屏(&amp;H)</translation>
     </message>
 </context>
 <context>

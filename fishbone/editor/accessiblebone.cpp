@@ -282,7 +282,9 @@ void AccessibleBone::select()
 {
     const QPointer<GraphicsView> view = m_view;
     const SpearPointer spear = m_spear;
-    if (!spear.get()->isSelected() || m_view->scene()->selectedItems().size() != 1) {
+    if (!view || !spear.get())
+        return;
+    if (!spear.get()->isSelected() || view->scene()->selectedItems().size() != 1) {
         view->scene()->clearSelection();
         if (view && spear.get())
             spear.get()->setSelected(true);

@@ -39,6 +39,8 @@ void report(QAccessibleEvent &&event)
         QAccessible::updateAccessibility(&event);
 }
 
+bool wasAnybodyAsked = false; ///< for a bone, of any diagram
+
 /** Takes away what the toolkit still has under @p id. */
 void forget(QAccessible::Id id)
 {
@@ -73,18 +75,31 @@ AccessibleDiagram::AccessibleDiagram(GraphicsView *view)
         timer->setSingleShot(true);
     QObject::connect(&m_selection, &QTimer::timeout, &m_listener, [this] { reportSelection(); });
     QObject::connect(&m_drawing, &QTimer::timeout, &m_listener, [this] { followDrawing(); });
-    const QGraphicsScene *const scene = view->scene();
+    if (view->scene())
+        listen();
+    else // asked for while the editor is being made
+        QTimer::singleShot(0, &m_listener, [this] { listen(); });
+}
+
+void AccessibleDiagram::listen()
+{
+    const GraphicsView *const shown = view();
+    const QGraphicsScene *const scene = shown ? shown->scene() : nullptr;
     if (!scene)
         return;
-    // Neither at once: the selection also changes while bones die, and who is told of a change may
-    // end the scene, which is not through with it.
-    QObject::connect(scene, &QGraphicsScene::selectionChanged, &m_listener,
-                     [this] { m_selection.start(0); });
-    // Comes after every repaint of a part of the drawing, most of which change only colours.
-    QObject::connect(scene, &QGraphicsScene::changed, &m_listener, [this] {
-        if (m_drawnChanges != DrawnChanges::count())
-            m_drawing.start(0);
+    // Not at once: the selection also changes while bones die, and who is told of a change may end
+    // the scene, which is not through with it.
+    QObject::connect(scene, &QGraphicsScene::selectionChanged, &m_listener, [this] {
+        if (isAnybodyListening())
+            m_selection.start(0);
     });
+}
+
+void AccessibleDiagram::drawingChanged(GraphicsView *view)
+{
+    AccessibleDiagram *const diagram = wasAnybodyAsked || isAnybodyListening() ? of(view) : nullptr;
+    if (diagram && diagram->m_drawnChanges != DrawnChanges::count())
+        diagram->m_drawing.start(0);
 }
 
 AccessibleDiagram::~AccessibleDiagram()
@@ -124,6 +139,7 @@ AccessibleBone *AccessibleDiagram::bone(SpearItem *spear)
 {
     if (!spear || !view())
         return nullptr;
+    wasAnybodyAsked = true;
     const auto known = m_bones.constFind(spear);
     if (known != m_bones.cend()) {
         auto *const found = static_cast<AccessibleBone *>(QAccessible::accessibleInterface(*known));

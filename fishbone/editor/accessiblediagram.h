@@ -34,6 +34,10 @@ public:
 
     /** Lets the toolkit find this class for every GraphicsView. May be called again. */
     static void install();
+    /** To be called when the drawing in @p view was built, laid out or taken down; takes no time
+     * where nobody listens. The scene's own signal would come after every repaint, and costs the
+     * scene more than the repaint itself. */
+    static void drawingChanged(GraphicsView *view);
     /** The one of @p view. Null once the view is gone. */
     static AccessibleDiagram *of(GraphicsView *view);
 
@@ -69,6 +73,7 @@ protected:
 private:
     GraphicsView *view() const;
     SpearItem *head() const;
+    void listen();
     void reportSelection();
     void followDrawing();
     void sweep();

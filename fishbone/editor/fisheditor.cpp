@@ -56,12 +56,11 @@ FishEditor::FishEditor(QWidget *parent)
     connect(m_view, &GraphicsView::moveSpear, this, &FishEditor::moveItems);
     // Queued, so that a drop is handled when the drag has ended.
     connect(m_view, &GraphicsView::dropTo, this, &FishEditor::onDropTo, Qt::QueuedConnection);
-    m_scene = std::make_unique<FishScene>();
-    connect(m_scene.get(), &FishScene::selectionChanged, this, &FishEditor::sceneSelectionChanged);
-    // Before the view gets its parent, of which assistive technology hears: it wants the scene.
-    m_view->setScene(m_scene.get());
     auto *const layout = new QHBoxLayout(this);
     layout->addWidget(m_view);
+    m_scene = std::make_unique<FishScene>();
+    connect(m_scene.get(), &FishScene::selectionChanged, this, &FishEditor::sceneSelectionChanged);
+    m_view->setScene(m_scene.get());
     setupMatrix();
     ExpandItem::setFishEditor(this);
     startSaveTmpFileTimer();
@@ -163,6 +162,7 @@ void FishEditor::showNothing()
     m_headSpear = SpearPointer();
     const SelectionHold hold(this);
     m_scene->clear();
+    AccessibleDiagram::drawingChanged(m_view);
 }
 
 void FishEditor::unlinkShownSubjects()
@@ -278,6 +278,7 @@ void FishEditor::layOut()
     layout.sizeSpears();
     layout.placeSpears();
     m_laidOut = {DrawnChanges::count(), headSpear(), QApplication::font(), layout.itemCount()};
+    AccessibleDiagram::drawingChanged(m_view);
 }
 
 bool FishEditor::showsOwnItemsOnly() const
