@@ -6,6 +6,8 @@
 #include <app/diagramsession.h>
 #include <app/documenttab.h>
 
+#include <fishbone/editor/fisheditor.h>
+#include <fishbone/editor/graphicsview.h>
 #include <fishbone/model/fishinfo.h>
 #include <fishbone/model/fishmodel.h>
 
@@ -120,6 +122,7 @@ DocumentTab *DocumentTabs::add(FishInfo *document)
 {
     DocumentTab *const tab = insert(m_tabs->count(), document);
     setCurrent(tab);
+    tab->editor()->view()->setFocus(); // ready to be typed into
     return tab;
 }
 

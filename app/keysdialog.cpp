@@ -30,15 +30,13 @@ KeysDialog::KeysDialog(const ActionSet &actions, QWidget *parent)
     m_keys->setAccessibleName(windowTitle());
     m_keys->setHeaderLabels({tr("Command"), tr("Keys")});
     fill(actions);
-    m_keys->header()->setSectionResizeMode(0, QHeaderView::Stretch);
-    m_keys->header()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
-    m_keys->header()->setStretchLastSection(false);
+    m_keys->header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
 
     auto *const layout = new QVBoxLayout(this);
     layout->addWidget(search);
     layout->addWidget(m_keys);
     layout->addWidget(buttons);
-    resize(480, 560);
+    resize(560, 560);
 }
 
 void KeysDialog::fill(const ActionSet &actions)

@@ -1,8 +1,9 @@
 # SPDX-FileCopyrightText: 2026 The Fishbone authors
 # SPDX-License-Identifier: MIT
 #
-# Address, leak and undefined-behaviour checks, and what guides a fuzzer through the code. They go into the examples too, which are built as a host
-# builds them: a program that links sanitized objects needs the runtime of the sanitizers itself.
+# Address, leak and undefined-behaviour checks, and what guides a fuzzer through the code. They go into the
+# examples too, which are built as a host builds them: a program that links sanitized objects needs the
+# runtime of the sanitizers itself.
 
 if(FISHBONE_SANITIZE)
     # A report ends the program, so that a test cannot pass over it.
