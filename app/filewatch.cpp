@@ -58,7 +58,11 @@ QByteArray FileWatch::fingerprint() const
 
 FileWatch::State FileWatch::look() const
 {
-    const QByteArray current = fingerprint();
+    return stateOf(fingerprint());
+}
+
+FileWatch::State FileWatch::stateOf(const QByteArray &current) const
+{
     if (current == m_known)
         return State::Same;
     return current.isEmpty() ? State::Missing : State::Changed;
@@ -76,5 +80,5 @@ void FileWatch::check()
     if (current == m_reported)
         return;
     m_reported = current;
-    Q_EMIT changed(look());
+    Q_EMIT changed(stateOf(current));
 }

@@ -46,6 +46,7 @@ private:
     void check();
     void watchAgain();
     QByteArray fingerprint() const;
+    State stateOf(const QByteArray &current) const;
 
     QString m_path;
     QByteArray m_known;    ///< the fingerprint of the known content
