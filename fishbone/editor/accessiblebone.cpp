@@ -16,13 +16,6 @@
 
 namespace {
 
-bool isBelow(const QGraphicsItem *item, const QGraphicsItem *above)
-{
-    while (item && item != above)
-        item = item->parentItem();
-    return item;
-}
-
 QString statusText(int status)
 {
     switch (status) {
@@ -137,8 +130,7 @@ QAccessibleInterface *AccessibleBone::childAt(int x, int y) const
 {
     AccessibleDiagram *const tree = diagram();
     SpearItem *const found = tree ? tree->spearAt(x, y) : nullptr;
-    return found && found != m_spear.get() && isBelow(found, m_spear.get()) ? tree->bone(found)
-                                                                            : nullptr;
+    return found && m_spear.get()->isAncestorOf(found) ? tree->bone(found) : nullptr;
 }
 
 QString AccessibleBone::text(QAccessible::Text kind) const
