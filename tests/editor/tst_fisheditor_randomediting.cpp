@@ -11,6 +11,7 @@
 #include <fishbone/undo/undostack.h>
 #include <tests/support/commandfixture.h>
 #include <tests/support/editorfixture.h>
+#include <tests/support/orphans.h>
 
 using namespace TestSupport;
 
@@ -200,22 +201,6 @@ private:
     QRandomGenerator m_random;
 };
 
-/// What in the scene belongs to no subject; empty when nothing does.
-QString orphanFault(const FishEditor &editor)
-{
-    const QList<QGraphicsItem *> items = editor.scene()->items();
-    for (QGraphicsItem *item : items) {
-        const auto *const spear = qgraphicsitem_cast<SpearItem *>(item);
-        if (spear && !spear->treeItem())
-            return QStringLiteral("a spear without a subject: ") + spear->text();
-        if (spear && spear->treeItem()->spear() != spear)
-            return QStringLiteral("a spear that its subject does not know: ") + spear->text();
-        if (!item->parentItem() && item != editor.headSpear())
-            return QStringLiteral("an item beside the head");
-    }
-    return {};
-}
-
 QString placeOf(const SpearItem &spear)
 {
     const auto point = [](const QPointF &at) {
@@ -271,7 +256,7 @@ QString fault(const EditorFixture &fixture)
     const QString spears = spearFault(fixture.model);
     if (!spears.isEmpty())
         return spears;
-    const QString orphan = orphanFault(fixture.editor);
+    const QString orphan = TestSupport::orphanFault(fixture.editor);
     return orphan.isEmpty() ? rebuildFault(fixture) : orphan;
 }
 

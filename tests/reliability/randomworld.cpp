@@ -7,6 +7,7 @@
 #include <fishbone/items/spearitem.h>
 #include <fishbone/undo/undostack.h>
 #include <tests/support/commandfixture.h>
+#include <tests/support/orphans.h>
 
 #include <QFile>
 
@@ -19,21 +20,6 @@ constexpr std::size_t mostEditors = 3;
 constexpr int mostDocuments = 4;
 constexpr std::size_t mostNodes = 150;
 constexpr int nodesOfADocument = 30;
-
-QString sceneFault(const FishEditor &editor)
-{
-    const QList<QGraphicsItem *> items = editor.scene()->items();
-    for (QGraphicsItem *item : items) {
-        const auto *const spear = qgraphicsitem_cast<SpearItem *>(item);
-        if (spear && !spear->treeItem())
-            return QStringLiteral("a spear without a subject: ") + spear->text();
-        if (spear && spear->treeItem()->spear() != spear)
-            return QStringLiteral("a spear that its subject does not know: ") + spear->text();
-        if (!item->parentItem() && item != editor.headSpear())
-            return QStringLiteral("an item beside the head");
-    }
-    return {};
-}
 
 } // namespace
 
@@ -278,7 +264,7 @@ QString RandomWorld::fault() const
             return found;
     }
     for (const auto &editor : m_editors) {
-        const QString found = sceneFault(*editor);
+        const QString found = orphanFault(*editor);
         if (!found.isEmpty())
             return found;
     }
