@@ -127,31 +127,33 @@ void MainWindow::addCommands()
                    ActionSet::Scope::Selection, [this] { showDetails(); });
 }
 
-/** A dock that shows what belongs to the current tab. */
-QStackedWidget *MainWindow::addDock(const char *name, const QString &title, Qt::DockWidgetArea area)
+QDockWidget *MainWindow::addDock(const char *name, const QString &title, Qt::DockWidgetArea area,
+                                 QWidget *contents)
 {
     auto *const dock = new QDockWidget(title, this);
     dock->setObjectName(QLatin1String(name));
-    auto *const contents = new QStackedWidget(dock);
     dock->setWidget(contents);
     addDockWidget(area, dock);
-    return contents;
+    return dock;
 }
 
 void MainWindow::addDocks()
 {
-    m_trees = addDock("documentsDock", tr("Subjects"), Qt::LeftDockWidgetArea);
-    m_details = addDock("detailsDock", tr("Details"), Qt::RightDockWidgetArea);
-    m_histories = addDock("historyDock", tr("History"), Qt::RightDockWidgetArea);
-    m_overviews = addDock("overviewDock", tr("Overview"), Qt::LeftDockWidgetArea);
-    m_overview = new Minimap(m_overviews);
-    m_overviews->addWidget(m_overview);
-    const auto dockOf = [](QWidget *contents) {
-        return qobject_cast<QDockWidget *>(contents->parentWidget());
-    };
-    resizeDocks({dockOf(m_trees), dockOf(m_details)}, {240, 280}, Qt::Horizontal);
-    resizeDocks({dockOf(m_details), dockOf(m_histories)}, {500, 160}, Qt::Vertical);
-    resizeDocks({dockOf(m_trees), dockOf(m_overviews)}, {500, 160}, Qt::Vertical);
+    // Three of them show what belongs to the current tab.
+    for (QStackedWidget **contents : {&m_trees, &m_details, &m_histories})
+        *contents = new QStackedWidget(this);
+    m_overview = new Minimap(this);
+    QDockWidget *const trees =
+        addDock("documentsDock", tr("Subjects"), Qt::LeftDockWidgetArea, m_trees);
+    QDockWidget *const details =
+        addDock("detailsDock", tr("Details"), Qt::RightDockWidgetArea, m_details);
+    QDockWidget *const histories =
+        addDock("historyDock", tr("History"), Qt::RightDockWidgetArea, m_histories);
+    QDockWidget *const overview =
+        addDock("overviewDock", tr("Overview"), Qt::LeftDockWidgetArea, m_overview);
+    resizeDocks({trees, details}, {240, 280}, Qt::Horizontal);
+    resizeDocks({details, histories}, {500, 160}, Qt::Vertical);
+    resizeDocks({trees, overview}, {500, 160}, Qt::Vertical);
 }
 
 void MainWindow::addBars()

@@ -21,6 +21,7 @@ class FileDrop;
 class FishEditor;
 class FishModel;
 class Minimap;
+class QDockWidget;
 class QStackedWidget;
 class RecentFiles;
 class RecoveryCommands;
@@ -65,7 +66,8 @@ protected:
 private:
     void addCommands();
     void addDocks();
-    QStackedWidget *addDock(const char *name, const QString &title, Qt::DockWidgetArea area);
+    QDockWidget *addDock(const char *name, const QString &title, Qt::DockWidgetArea area,
+                         QWidget *contents);
     void addBars();
     void connectCommands();
     void takeIn(DocumentTab *tab);
@@ -94,7 +96,6 @@ private:
     QStackedWidget *m_trees = nullptr;
     QStackedWidget *m_details = nullptr;
     QStackedWidget *m_histories = nullptr;
-    QStackedWidget *m_overviews = nullptr;
     Minimap *m_overview = nullptr;
     DiagramCounts *m_counts = nullptr;
 };

@@ -90,14 +90,20 @@ void PrintPreview::restore()
     const int fit = m_fit->findData(settings.value(fitKey()));
     m_fit->setCurrentIndex(qMax(fit, 0));
     m_percent->setValue(settings.value(percentKey(), 100).toInt());
-    m_drawing.setLayout({Fit(m_fit->currentData().toInt()), m_percent->value() / 100.0});
+    takeOver();
     refresh();
+}
+
+/** Lays the pages out as the fields say. */
+void PrintPreview::takeOver()
+{
+    m_drawing.setLayout({Fit(m_fit->currentData().toInt()), m_percent->value() / 100.0});
 }
 
 /** Takes over what was chosen and shows it. */
 void PrintPreview::follow()
 {
-    m_drawing.setLayout({Fit(m_fit->currentData().toInt()), m_percent->value() / 100.0});
+    takeOver();
     QSettings settings;
     settings.setValue(fitKey(), m_fit->currentData());
     settings.setValue(percentKey(), m_percent->value());

@@ -27,6 +27,7 @@ public:
 private:
     void addControls();
     void restore();
+    void takeOver();
     void follow();
     void refresh();
 
