@@ -1,14 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The Fishbone authors
 // SPDX-License-Identifier: MIT
 
-#include <app/commandline.h>
-#include <app/convertrun.h>
-#include <app/documentloader.h>
-#include <app/exportrun.h>
-#include <app/inforun.h>
-#include <app/language.h>
-#include <app/mainwindow.h>
-#include <app/startup.h>
+#include <app/commandline/commandline.h>
+#include <app/commandline/convertrun.h>
+#include <app/commandline/exportrun.h>
+#include <app/commandline/inforun.h>
+#include <app/commandline/startup.h>
+#include <app/common/language.h>
+#include <app/files/documentloader.h>
+#include <app/window/mainwindow.h>
 
 #include <fishbone/version.h>
 

@@ -121,11 +121,13 @@ check_symbols() {
 # The drawing of the folders shows what the sources include of each other. Its picture is compared by what it
 # shows, since another version of the drawing program places things elsewhere.
 check_drawing() {
-    local drawn=$PWD/build/drawing
+    local drawn=$PWD/build/drawing name
     mkdir -p "$drawn"
     scripts/update-drawing "$drawn"
-    diff --unified=0 docs/pictures/folders.dot "$drawn/folders.dot"
-    diff <(grep -o '<title>[^<]*' docs/pictures/folders.svg) <(grep -o '<title>[^<]*' "$drawn/folders.svg")
+    for name in folders program; do
+        diff --unified=0 "docs/pictures/$name.dot" "$drawn/$name.dot"
+        diff <(grep -o '<title>[^<]*' "docs/pictures/$name.svg") <(grep -o '<title>[^<]*' "$drawn/$name.svg")
+    done
 }
 
 # Every public name is documented, or Doxygen fails.

@@ -3,13 +3,13 @@
 
 #pragma once
 
-#include <app/detailspanel.h>
-#include <app/diagramsession.h>
-#include <app/documenttab.h>
-#include <app/documenttabs.h>
-#include <app/historypanel.h>
-#include <app/mainwindow.h>
-#include <app/subjecttree.h>
+#include <app/diagram/diagramsession.h>
+#include <app/documents/documenttab.h>
+#include <app/documents/documenttabs.h>
+#include <app/panels/detailspanel.h>
+#include <app/panels/historypanel.h>
+#include <app/panels/subjecttree.h>
+#include <app/window/mainwindow.h>
 
 #include <fishbone/editor/fisheditor.h>
 #include <fishbone/editor/fishscene.h>

@@ -5,7 +5,7 @@
 
 #include <tests/support/dialogchecks.h>
 
-#include <app/exportdialog.h>
+#include <app/export/exportdialog.h>
 
 #include <fishbone/dialogs/replacefinddialog.h>
 #include <fishbone/dialogs/urldialog.h>

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Fishbone authors
 // SPDX-License-Identifier: MIT
 
-#include <app/diagramcounts.h>
+#include <app/panels/diagramcounts.h>
 
 #include <tests/app/appfixture.h>
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Fishbone authors
 // SPDX-License-Identifier: MIT
 
-#include <app/drawingprinter.h>
+#include <app/export/drawingprinter.h>
 
 #include <QGraphicsRectItem>
 #include <QGraphicsScene>

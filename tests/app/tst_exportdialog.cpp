@@ -6,8 +6,8 @@
 
 #include <tests/support/modaldriver.h>
 
-#include <app/exportdialog.h>
-#include <app/recoverystore.h>
+#include <app/export/exportdialog.h>
+#include <app/recovery/recoverystore.h>
 
 #include <QComboBox>
 #include <QDoubleSpinBox>

@@ -6,7 +6,7 @@
 
 #include <tests/support/modaldriver.h>
 
-#include <app/recoverystore.h>
+#include <app/recovery/recoverystore.h>
 
 #include <fishbone/exchange/diagramexchange.h>
 

@@ -6,8 +6,8 @@
 
 #include <tests/support/modaldriver.h>
 
-#include <app/fileconflict.h>
-#include <app/filewatch.h>
+#include <app/documents/fileconflict.h>
+#include <app/files/filewatch.h>
 
 #include <QLabel>
 #include <QMessageBox>

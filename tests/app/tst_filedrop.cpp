@@ -3,7 +3,7 @@
 
 #include <tests/app/appfixture.h>
 
-#include <app/filedrop.h>
+#include <app/files/filedrop.h>
 
 #include <QDragEnterEvent>
 #include <QMimeData>

@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Fishbone authors
 // SPDX-License-Identifier: MIT
 
-#include <app/canvastheme.h>
-#include <app/exportdialog.h>
-#include <app/keysdialog.h>
-#include <app/printpreview.h>
+#include <app/common/canvastheme.h>
+#include <app/export/exportdialog.h>
+#include <app/export/printpreview.h>
+#include <app/window/keysdialog.h>
 
 #include <fishbone/dialogs/replacefinddialog.h>
 #include <fishbone/style/spearstyledialog.h>

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Fishbone authors
 // SPDX-License-Identifier: MIT
 
-#include <app/helpcommands.h>
-#include <app/keysdialog.h>
+#include <app/window/helpcommands.h>
+#include <app/window/keysdialog.h>
 
 #include <fishbone/version.h>
 

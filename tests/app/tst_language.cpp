@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Fishbone authors
 // SPDX-License-Identifier: MIT
 
-#include <app/language.h>
+#include <app/common/language.h>
 
 #include <fishbone/editor/fisheditor.h>
 #include <fishbone/items/spearitem.h>

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Fishbone authors
 // SPDX-License-Identifier: MIT
 
-#include <app/exportdialog.h>
-#include <app/language.h>
-#include <app/mainwindow.h>
+#include <app/common/language.h>
+#include <app/export/exportdialog.h>
+#include <app/window/mainwindow.h>
 
 #include <fishbone/dialogs/replacefinddialog.h>
 #include <fishbone/dialogs/urldialog.h>

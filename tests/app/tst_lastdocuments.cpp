@@ -6,7 +6,7 @@
 
 #include <tests/support/modaldriver.h>
 
-#include <app/lastdocuments.h>
+#include <app/files/lastdocuments.h>
 
 #include <QDockWidget>
 #include <QSettings>

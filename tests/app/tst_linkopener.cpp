@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Fishbone authors
 // SPDX-License-Identifier: MIT
 
-#include <app/linkopener.h>
+#include <app/common/linkopener.h>
 
 #include <fishbone/items/linkitem.h>
 

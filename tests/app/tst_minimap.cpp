@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Fishbone authors
 // SPDX-License-Identifier: MIT
 
-#include <app/minimap.h>
+#include <app/panels/minimap.h>
 
 #include <tests/app/appfixture.h>
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Fishbone authors
 // SPDX-License-Identifier: MIT
 
-#include <app/printpreview.h>
+#include <app/export/printpreview.h>
 
 #include <tests/app/appfixture.h>
 #include <tests/support/modaldriver.h>

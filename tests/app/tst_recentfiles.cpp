@@ -6,7 +6,7 @@
 
 #include <tests/support/modaldriver.h>
 
-#include <app/recentfiles.h>
+#include <app/files/recentfiles.h>
 
 #include <QMenu>
 #include <QSettings>

@@ -6,9 +6,9 @@
 
 #include <tests/support/modaldriver.h>
 
-#include <app/recoverycopy.h>
-#include <app/recoverydialog.h>
-#include <app/recoverystore.h>
+#include <app/recovery/recoverycopy.h>
+#include <app/recovery/recoverydialog.h>
+#include <app/recovery/recoverystore.h>
 
 #include <QProcess>
 #include <QPushButton>

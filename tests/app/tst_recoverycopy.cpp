@@ -3,8 +3,8 @@
 
 #include <tests/app/appfixture.h>
 
-#include <app/recoverycopy.h>
-#include <app/recoverystore.h>
+#include <app/recovery/recoverycopy.h>
+#include <app/recovery/recoverystore.h>
 
 #include <QJsonDocument>
 #include <QJsonObject>

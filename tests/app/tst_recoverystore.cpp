@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Fishbone authors
 // SPDX-License-Identifier: MIT
 
-#include <app/recoverymodel.h>
-#include <app/recoverystore.h>
+#include <app/recovery/recoverymodel.h>
+#include <app/recovery/recoverystore.h>
 
 #include <QAbstractItemModelTester>
 #include <QDir>

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Fishbone authors
 // SPDX-License-Identifier: MIT
 
-#include <app/stringlisteditor.h>
+#include <app/panels/stringlisteditor.h>
 
 #include <tests/support/dialogchecks.h>
 

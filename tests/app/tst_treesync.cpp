@@ -3,7 +3,7 @@
 
 #include <tests/app/appfixture.h>
 
-#include <app/subjectproxymodel.h>
+#include <app/panels/subjectproxymodel.h>
 
 #include <fishbone/items/expanditem.h>
 

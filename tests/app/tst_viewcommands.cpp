@@ -3,7 +3,7 @@
 
 #include <tests/app/appfixture.h>
 
-#include <app/canvastheme.h>
+#include <app/common/canvastheme.h>
 
 #include <QMenu>
 #include <QSlider>

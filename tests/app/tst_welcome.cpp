@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Fishbone authors
 // SPDX-License-Identifier: MIT
 
-#include <app/welcome.h>
+#include <app/files/welcome.h>
 
 #include <tests/app/appfixture.h>
 

@@ -1,0 +1,73 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#include <app/commandline/exportrun.h>
+
+#include <app/commandline/commandline.h>
+#include <app/diagram/expansion.h>
+#include <app/files/documentloader.h>
+
+#include <fishbone/editor/fisheditor.h>
+#include <fishbone/editor/fishscene.h>
+#include <fishbone/model/fishinfo.h>
+#include <fishbone/model/fishmodel.h>
+#include <fishbone/model/treeitem.h>
+
+#include <QEventLoop>
+
+namespace {
+
+/** Loads @p source into @p loader's model; null and a message when that fails. */
+FishInfo *loadNow(DocumentLoader &loader, const QString &source, QString &message)
+{
+    FishInfo *loadedDocument = nullptr;
+    QEventLoop loop;
+    QObject::connect(&loader, &DocumentLoader::loaded, &loop,
+                     [&](const QString &, FishInfo *document) { loadedDocument = document; });
+    QObject::connect(&loader, &DocumentLoader::failed, &loop,
+                     [&](const QString &, const QString &reason) {
+                         message = CommandLine::tr("cannot read %1: %2").arg(source, reason);
+                     });
+    QObject::connect(&loader, &DocumentLoader::idle, &loop, &QEventLoop::quit);
+    loader.load(source);
+    if (!loader.isIdle())
+        loop.exec();
+    return loadedDocument;
+}
+
+/** Draws @p document of @p model into the target of @p line; returns an exit code. */
+int drawPicture(FishModel &model, FishInfo *document, const CommandLine &line, QString &message)
+{
+    FishEditor editor;
+    editor.setModel(&model);
+    editor.setRootIndex(model.index(model.fishRow(document), 0));
+    Expansion::expandLevels(editor, line.levels);
+
+    PictureOptions options = line.options;
+    options.title = document->treeItem()->childAtIndex(0)->title();
+    const PictureExport::Result result =
+        PictureExport::write(*editor.scene(), line.target, options);
+    if (result)
+        return CommandLine::success;
+    message = CommandLine::tr("cannot write %1: %2").arg(line.target, result.reason);
+    return CommandLine::failure;
+}
+
+} // namespace
+
+int runExport(const CommandLine &line, QString &message)
+{
+    FishModel model;
+    model.setModelType(FISH_MODEL_DIAGRAM); // a picture shows the diagram's title without counts
+    DocumentLoader loader(&model);
+    FishInfo *const document = loadNow(loader, line.documents.constFirst(), message);
+    return document ? drawPicture(model, document, line, message) : CommandLine::failure;
+}
+
+int drawPicture(std::unique_ptr<TreeItem> head, const CommandLine &line, QString &message)
+{
+    FishModel model;
+    model.setModelType(FISH_MODEL_DIAGRAM);
+    model.insertExistItemRows(QModelIndex(), {head.release()});
+    return drawPicture(model, model.fishList().constFirst(), line, message);
+}

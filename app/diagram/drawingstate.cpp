@@ -1,0 +1,75 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#include <app/diagram/drawingstate.h>
+
+#include <app/diagram/expansion.h>
+
+#include <fishbone/editor/fisheditor.h>
+#include <fishbone/editor/fishscene.h>
+#include <fishbone/editor/graphicsview.h>
+#include <fishbone/items/spearitem.h>
+#include <fishbone/items/textitem.h>
+#include <fishbone/model/treeitem.h>
+
+void DrawingState::Subjects::add(const SpearItem &spear)
+{
+    const TreeItem *const item = spear.treeItem();
+    if (!item)
+        return;
+    items.insert(item);
+    if (!item->uuid().isEmpty() && item->uuid() != QLatin1String("-1"))
+        uuids.insert(item->uuid());
+}
+
+bool DrawingState::Subjects::contain(const SpearItem &spear) const
+{
+    const TreeItem *const item = spear.treeItem();
+    return item && (items.contains(item) || uuids.contains(item->uuid()));
+}
+
+DrawingState DrawingState::capture(const FishEditor &editor)
+{
+    DrawingState state;
+    SpearItem *const head = editor.headSpear();
+    if (!head)
+        return state;
+    const QWidget *const viewport = editor.view()->viewport();
+    state.m_center = editor.view()->mapToScene(viewport->rect().center());
+    QList<SpearItem *> waiting{head};
+    while (!waiting.isEmpty()) {
+        const SpearItem *const spear = waiting.takeLast();
+        if (spear->isSelected() || spear->textItem()->isSelected())
+            state.m_selected.add(*spear);
+        const QList<SpearItem *> children = spear->childSpears();
+        if (spear != head && spear->isExpand() && !children.isEmpty())
+            state.m_expanded.add(*spear);
+        waiting += children;
+    }
+    return state;
+}
+
+void DrawingState::restore(FishEditor &editor) const
+{
+    if (!editor.headSpear())
+        return;
+    QList<SpearItem *> selected;
+    QList<SpearItem *> waiting{editor.headSpear()};
+    while (!waiting.isEmpty()) {
+        SpearItem *const spear = waiting.takeLast();
+        if (m_selected.contain(*spear))
+            selected.append(spear);
+        if (spear != editor.headSpear() && m_expanded.contain(*spear))
+            Expansion::setExpanded(editor, *spear, true);
+        waiting += spear->childSpears();
+    }
+    editor.updateFish(false);
+    {
+        const QSignalBlocker blocker(editor.scene()); // one report for all, below
+        editor.scene()->clearSelection();
+        for (SpearItem *spear : qAsConst(selected))
+            spear->setSelected(true);
+    }
+    Q_EMIT editor.scene()->selectionChanged();
+    editor.view()->centerOn(m_center);
+}

@@ -1,0 +1,37 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#include <app/diagram/expansion.h>
+
+#include <fishbone/editor/fisheditor.h>
+#include <fishbone/items/spearitem.h>
+
+namespace Expansion {
+
+void setExpanded(FishEditor &editor, SpearItem &spear, bool expanded)
+{
+    if (expanded)
+        editor.generateSpear(editor.model(), spear.modelIndex());
+    spear.setExpand(expanded);
+}
+
+void expandLevels(FishEditor &editor, int levels)
+{
+    if (levels < 0 || !editor.headSpear()) {
+        editor.expandAll();
+        return;
+    }
+    editor.expandorContractAll(false);
+    QList<SpearItem *> level = editor.headSpear()->childSpears();
+    for (int depth = 0; depth < levels && !level.isEmpty(); ++depth) {
+        QList<SpearItem *> next;
+        for (SpearItem *spear : qAsConst(level)) {
+            setExpanded(editor, *spear, true);
+            next += spear->childSpears();
+        }
+        level = next;
+    }
+    editor.updateFish(false);
+}
+
+} // namespace Expansion

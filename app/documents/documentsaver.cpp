@@ -1,0 +1,123 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#include <app/documents/documentsaver.h>
+
+#include <app/diagram/diagramsession.h>
+#include <app/documents/documenttab.h>
+#include <app/documents/fileconflict.h>
+#include <app/files/documentloader.h>
+#include <app/files/recentfiles.h>
+#include <app/recovery/recoverycopy.h>
+
+#include <fishbone/model/fishinfo.h>
+
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QPointer>
+
+DocumentSaver::DocumentSaver(RecentFiles *recent, QWidget *window)
+    : QObject(window)
+    , m_recent(recent)
+    , m_window(window)
+{
+}
+
+QString DocumentSaver::documentFilter()
+{
+    return tr("Fishbone diagrams (*.json);;All files (*)");
+}
+
+bool DocumentSaver::save(DocumentTab *tab)
+{
+    if (!tab->document())
+        return false;
+    if (tab->path().isEmpty())
+        return saveAs(tab);
+    return mayOverwrite(tab) && writeTo(tab, tab->path());
+}
+
+/** Whether the document's file may be replaced, even if it holds what somebody else has written. */
+bool DocumentSaver::mayOverwrite(DocumentTab *tab)
+{
+    if (!tab->conflict()->isOpen())
+        return true;
+    const QPointer<DocumentTab> alive(tab); // the question runs an event loop
+    const QString question =
+        tr("Another program has changed %1 since it was opened or saved here. Replace it, so that "
+           "those changes are lost?");
+    return QMessageBox::warning(m_window, tr("Save"), question.arg(tab->name().toHtmlEscaped()),
+                                QMessageBox::Save | QMessageBox::Cancel,
+                                QMessageBox::Cancel) == QMessageBox::Save &&
+           alive;
+}
+
+/** A file that the user chooses for the document and that is read as a diagram again; empty when
+ * there is none. */
+QString DocumentSaver::chosenFile(DocumentTab *tab, const QString &title) const
+{
+    const QString proposed = tab->session()->folder() + QLatin1Char('/') + tab->name();
+    const QString path = QFileDialog::getSaveFileName(m_window, title, proposed, documentFilter());
+    if (path.isEmpty() || !DocumentLoader::foreignFormat(path))
+        return path;
+    QMessageBox::warning(m_window, tr("Save"),
+                         tr("%1 would not be recognized as a diagram. Its name should end in "
+                            ".json; \"Export as\" writes other formats.")
+                             .arg(path.toHtmlEscaped()));
+    return QString();
+}
+
+bool DocumentSaver::saveAs(DocumentTab *tab)
+{
+    const QPointer<DocumentTab> alive(tab); // the dialog runs an event loop
+    const QString path = tab->document() ? chosenFile(tab, tr("Save as")) : QString();
+    return alive && !path.isEmpty() && writeTo(tab, path);
+}
+
+bool DocumentSaver::saveCopy(DocumentTab *tab)
+{
+    const QPointer<DocumentTab> alive(tab); // the dialog runs an event loop
+    const QString path = tab->document() ? chosenFile(tab, tr("Save a copy")) : QString();
+    if (!alive || path.isEmpty() || !write(tab, path))
+        return false;
+    m_recent->add(path);
+    Q_EMIT message(tr("Copy written to %1").arg(path));
+    return true;
+}
+
+/** Writes the file and nothing else. */
+bool DocumentSaver::write(DocumentTab *tab, const QString &path)
+{
+    if (tab->document()->saveFile(path))
+        return true;
+    QMessageBox::warning(m_window, tr("Save"),
+                         tr("%1 cannot be written.").arg(path.toHtmlEscaped()));
+    return false;
+}
+
+bool DocumentSaver::writeTo(DocumentTab *tab, const QString &path)
+{
+    if (!write(tab, path))
+        return false;
+    tab->document()->setCurrentFile(path);
+    tab->recovery()->discard();
+    tab->conflict()->settle();
+    m_recent->add(path);
+    tab->session()->touch();
+    Q_EMIT message(tr("%1 saved").arg(tab->name()));
+    return true;
+}
+
+bool DocumentSaver::mayClose(DocumentTab *tab)
+{
+    if (!tab->document() || !tab->document()->modified())
+        return true;
+    const QPointer<DocumentTab> alive(tab); // the question runs an event loop
+    const auto answer = QMessageBox::warning(
+        m_window, tr("Close"),
+        tr("%1 has changes that are not saved.").arg(tab->name().toHtmlEscaped()),
+        QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, QMessageBox::Save);
+    if (!alive || answer == QMessageBox::Discard)
+        return true;
+    return answer == QMessageBox::Save && save(tab);
+}

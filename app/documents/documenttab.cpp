@@ -1,0 +1,128 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#include <app/documents/documenttab.h>
+
+#include <app/common/canvastheme.h>
+#include <app/common/messagebar.h>
+#include <app/diagram/diagramsession.h>
+#include <app/diagram/drawingstate.h>
+#include <app/documents/fileconflict.h>
+#include <app/editing/canvasgestures.h>
+#include <app/panels/detailspanel.h>
+#include <app/panels/historypanel.h>
+#include <app/panels/subjecttree.h>
+#include <app/panels/treesync.h>
+#include <app/recovery/recoverycopy.h>
+
+#include <fishbone/editor/fisheditor.h>
+#include <fishbone/editor/graphicsview.h>
+#include <fishbone/model/fishinfo.h>
+#include <fishbone/model/fishmodel.h>
+#include <fishbone/undo/undostack.h>
+
+#include <QVBoxLayout>
+
+DocumentTab::DocumentTab(CanvasTheme *theme, QWidget *parent)
+    : QWidget(parent)
+    , m_model(new FishModel(this))
+    , m_editor(new FishEditor(this))
+    , m_session(new DiagramSession(m_model, m_editor, this))
+    , m_recovery(new RecoveryCopy(m_session, this))
+    , m_tree(new SubjectTree(m_model, this))
+    , m_sync(new TreeSync(m_session, m_tree, this))
+    , m_details(new DetailsPanel(m_session, this))
+    , m_history(new HistoryPanel(m_session, this))
+{
+    m_editor->setModel(m_model);
+    m_editor->setPasteAsNew(true);
+    m_editor->undoStack()->setRolling(true);
+    m_editor->setFrameShape(QFrame::NoFrame);
+    m_editor->layout()->setContentsMargins(0, 0, 0, 0);
+    m_editor->view()->setFrameShape(QFrame::NoFrame);
+    theme->add(m_editor);
+    new CanvasGestures(m_session, m_sync, this); // which owns it
+    for (QWidget *panel : QList<QWidget *>{m_tree, m_details, m_history})
+        panel->hide(); // until a dock shows it
+    setFocusProxy(m_editor->view());
+
+    auto *const layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    auto *const bar = new MessageBar(this);
+    m_conflict = new FileConflict(bar, this);
+    layout->addWidget(bar);
+    layout->addWidget(m_editor, 1);
+    connect(m_session, &DiagramSession::stateChanged, this, &DocumentTab::followState);
+}
+
+DocumentTab::~DocumentTab()
+{
+    // What listens to the drawing goes before it, and what edits the model before that.
+    delete m_sync;
+    delete m_tree;
+    delete m_details;
+    delete m_history;
+    delete m_recovery;
+    delete m_editor;
+    delete m_session;
+}
+
+void DocumentTab::setDocument(FishInfo *document)
+{
+    if (!m_model->insertFish(0, document))
+        return;
+    m_recovery->setDocument(document);
+    m_conflict->settle();
+    m_session->showDocument(document);
+}
+
+FishInfo *DocumentTab::document() const
+{
+    return m_model->fishList().value(0);
+}
+
+SubjectTree *DocumentTab::tree() const
+{
+    return m_tree;
+}
+
+DetailsPanel *DocumentTab::details() const
+{
+    return m_details;
+}
+
+HistoryPanel *DocumentTab::history() const
+{
+    return m_history;
+}
+
+QString DocumentTab::name() const
+{
+    const FishInfo *const shown = document();
+    return shown ? shown->userFriendlyCurrentFile() : QString();
+}
+
+QString DocumentTab::path() const
+{
+    const FishInfo *const shown = document();
+    return shown && !shown->isUntitled() ? shown->fileName() : QString();
+}
+
+void DocumentTab::takeLook(const DocumentTab &other)
+{
+    m_editor->zoomFish(other.m_editor->zoomValue());
+    m_editor->rotateFish(other.m_editor->rotateValue());
+    DrawingState::capture(*other.m_editor).restore(*m_editor);
+    m_sync->followExpansion();
+    m_session->touch();
+}
+
+void DocumentTab::followState()
+{
+    m_details->showSubject(m_editor->firstSelectedSpearIndex());
+    m_tree->view()->viewport()->update(); // not every change of a title is announced
+    const QList<FishInfo *> others = m_model->fishList().mid(1);
+    for (FishInfo *other : others)
+        Q_EMIT documentCame(other);
+}

@@ -1,0 +1,75 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#include <app/documents/fileconflict.h>
+
+#include <app/common/messagebar.h>
+#include <app/diagram/diagramsession.h>
+#include <app/documents/documenttab.h>
+
+#include <fishbone/model/fishinfo.h>
+
+FileConflict::FileConflict(MessageBar *bar, DocumentTab *tab)
+    : QObject(tab)
+    , m_bar(bar)
+    , m_tab(tab)
+{
+    connect(&m_watch, &FileWatch::changed, this, &FileConflict::follow);
+}
+
+void FileConflict::settle()
+{
+    m_watch.setFile(m_tab->path());
+    m_bar->dismiss();
+}
+
+bool FileConflict::isOpen() const
+{
+    return m_watch.look() == FileWatch::State::Changed;
+}
+
+void FileConflict::follow(FileWatch::State state)
+{
+    switch (state) {
+    case FileWatch::State::Same:
+        m_bar->dismiss();
+        break;
+    case FileWatch::State::Changed:
+        tellOfChange();
+        break;
+    case FileWatch::State::Missing:
+        tellOfLoss();
+        break;
+    }
+}
+
+void FileConflict::tellOfChange()
+{
+    m_bar->ask(
+        tr("Another program has changed %1.").arg(m_tab->name()),
+        {{tr("Re&load"), QStringLiteral("conflictReload"), [this] { Q_EMIT reloadRequested(); }},
+         {tr("&Keep mine"), QStringLiteral("conflictKeep"), [this] { keep(); }},
+         {tr("Save &under another name…"), QStringLiteral("conflictSaveAs"),
+          [this] { Q_EMIT saveAsRequested(); }}});
+}
+
+void FileConflict::tellOfLoss()
+{
+    m_tab->document()->setModified(true); // it is nowhere else now
+    m_tab->session()->touch();
+    m_bar->ask(
+        tr("%1 was deleted, moved or renamed by another program.").arg(m_tab->name()),
+        {{tr("Save agai&n"), QStringLiteral("conflictSave"), [this] { Q_EMIT saveRequested(); }},
+         {tr("Save &under another name…"), QStringLiteral("conflictSaveAs"),
+          [this] { Q_EMIT saveAsRequested(); }},
+         {tr("&Hide"), QStringLiteral("conflictHide"), [this] { m_bar->dismiss(); }}});
+}
+
+/** The document counts, and differs from its file. */
+void FileConflict::keep()
+{
+    m_watch.accept();
+    m_bar->dismiss();
+    m_tab->document()->setModified(true);
+    m_tab->session()->touch();
+}

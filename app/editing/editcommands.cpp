@@ -1,0 +1,204 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#include <app/editing/editcommands.h>
+
+#include <app/common/actionset.h>
+#include <app/diagram/diagramsession.h>
+#include <app/diagram/subjectedit.h>
+#include <app/editing/subjectclipboard.h>
+#include <app/editing/titleeditor.h>
+#include <app/panels/finder.h>
+
+#include <fishbone/editor/fisheditor.h>
+#include <fishbone/items/spearitem.h>
+#include <fishbone/items/taskstatusinfo.h>
+#include <fishbone/model/fishmodel.h>
+#include <fishbone/model/systemhelper.h>
+#include <fishbone/model/treeitem.h>
+#include <fishbone/undo/commandgroup.h>
+#include <fishbone/undo/structuralcommands.h>
+#include <fishbone/undo/undostack.h>
+
+#include <QAction>
+#include <QDateTime>
+#include <QInputDialog>
+
+#include <memory>
+
+namespace {
+
+/** The platform's, and the one that people bring from others. */
+QList<QKeySequence> redoShortcuts()
+{
+    QList<QKeySequence> shortcuts = QKeySequence::keyBindings(QKeySequence::Redo);
+    if (const QKeySequence other(Qt::CTRL | Qt::Key_Y); !shortcuts.contains(other))
+        shortcuts.append(other);
+    return shortcuts;
+}
+
+/** The large key and the one of the number pad. */
+template <typename Modifiers>
+QList<QKeySequence> returnWith(Modifiers modifiers)
+{
+    return {QKeySequence(modifiers | Qt::Key_Return), QKeySequence(modifiers | Qt::Key_Enter)};
+}
+
+} // namespace
+
+EditCommands::EditCommands(DiagramSession *session, ActionSet *actions, QWidget *window)
+    : DiagramCommands(session, actions, window)
+    , m_window(window)
+    , m_finder(new Finder(session, window))
+    , m_clipboard(new SubjectClipboard(session, this))
+{
+    connect(m_clipboard, &SubjectClipboard::message, this, &EditCommands::message);
+    connect(m_finder, &Finder::message, this, &EditCommands::message);
+    addHistoryActions();
+    addClipboardActions();
+    addInsertActions();
+    addSubjectActions();
+}
+
+void EditCommands::add(const char *name, const QString &text, const QList<QKeySequence> &shortcuts,
+                       std::function<void()> run)
+{
+    m_actions->add(QLatin1String(name), text, shortcuts, ActionSet::Scope::Selection,
+                   std::move(run));
+}
+
+void EditCommands::addHistoryActions()
+{
+    m_actions->add(QStringLiteral("undo"), tr("&Undo"), {QKeySequence::Undo},
+                   ActionSet::Scope::Window, [this] { m_session->undo(); });
+    m_actions->add(QStringLiteral("redo"), tr("&Redo"), redoShortcuts(), ActionSet::Scope::Window,
+                   [this] { m_session->redo(); });
+    m_actions->add(QStringLiteral("find"), tr("&Find and replace…"), {QKeySequence::Find},
+                   ActionSet::Scope::Window, [this] { m_finder->show(); });
+}
+
+void EditCommands::addClipboardActions()
+{
+    add("cut", tr("Cu&t"), {QKeySequence::Cut}, [this] { m_session->removeSelected(true); });
+    add("copy", tr("&Copy"), {QKeySequence::Copy}, [this] { m_editor->copy(); });
+    add("paste", tr("&Paste"), {QKeySequence::Paste}, [this] { m_clipboard->paste(); });
+    add("delete", tr("&Delete"), {QKeySequence::Delete},
+        [this] { m_session->removeSelected(false); });
+    add("selectAll", tr("Select &all"), {QKeySequence::SelectAll},
+        [this] { m_editor->selectAll(); });
+}
+
+void EditCommands::addInsertActions()
+{
+    add("child", tr("&Child subject"), {Qt::Key_Tab, Qt::Key_Insert},
+        [this] { insertAndRename<InsertChild>(); });
+    add("before", tr("Subject &before"), returnWith(Qt::SHIFT),
+        [this] { insertSibling<InsertFront>(); });
+    add("after", tr("Subject &after"), returnWith(0), [this] { insertSibling<InsertBack>(); });
+    add("parent", tr("&Parent subject"), returnWith(Qt::CTRL),
+        [this] { insertAndRename<InsertParent>(); });
+    add("free", tr("&Free subject (a new diagram)"), returnWith(Qt::CTRL | Qt::SHIFT),
+        [this] { Q_EMIT newDiagramWanted(); });
+    add("subTask", tr("&Sub-task…"), {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_T)},
+        [this] { insertSubTask(m_editor->firstSelectedSpearIndex()); });
+}
+
+void EditCommands::addSubjectActions()
+{
+    add("rename", tr("&Rename"), {Qt::Key_F2},
+        [this] { rename(m_editor->firstSelectedSpearIndex()); });
+    add("link", tr("&Link to…"), {QKeySequence(Qt::CTRL | Qt::Key_L)},
+        [this] { SubjectEdit::editLink(*m_session, m_editor->firstSelectedSpearIndex()); });
+    add("openLink", tr("&Open link"), {},
+        [this] { SubjectEdit::openLink(*m_session, m_editor->firstSelectedSpearIndex()); });
+    add("unlink", tr("Remove l&ink"), {}, [this] { m_editor->modifyDelLink(); });
+    add("style", tr("&Style…"), {},
+        [this] { SubjectEdit::editStyle(*m_session, m_editor->firstSelectedSpearIndex()); });
+    add("removeStyle", tr("Remove s&tyle"), {},
+        [this] { SubjectEdit::removeStyle(*m_session, m_editor->firstSelectedSpearIndex()); });
+}
+
+template <typename Command>
+void EditCommands::insertAndRename()
+{
+    const QModelIndex selected = m_editor->firstSelectedSpearIndex();
+    if (!selected.isValid())
+        return;
+    auto insertion = std::make_unique<Command>(m_session->model(), selected);
+    auto *const step = new CommandGroup(insertion->text()); // the stack takes it over
+    step->add(std::move(insertion));
+    const QModelIndex inserted = m_session->insert([&] {
+        m_editor->undoStack()->push(step);
+        m_editor->updateFish(false);
+        m_editor->setModified(true);
+    });
+    TitleEditor::open(m_editor, inserted, QString(), step);
+}
+
+/** Inserts beside the selected subject. Beside the head of a diagram there is another diagram. */
+template <typename Command>
+void EditCommands::insertSibling()
+{
+    const SpearItem *const spear = m_editor->firstSelectedSpear();
+    if (spear && spear->modelIndex().parent().isValid())
+        insertAndRename<Command>();
+    else if (spear)
+        Q_EMIT newDiagramWanted();
+}
+
+void EditCommands::rename(const QModelIndex &index, const QString &typed)
+{
+    TitleEditor::open(m_editor, index, typed);
+}
+
+void EditCommands::insertChild(const QModelIndex &parent)
+{
+    m_session->select(parent);
+    insertAndRename<InsertChild>();
+}
+
+void EditCommands::insertSubTask(const QModelIndex &parent)
+{
+    const QPersistentModelIndex above = parent; // the dialog runs an event loop
+    if (!above.isValid())
+        return;
+    const QString title = QInputDialog::getText(m_window, tr("New sub-task"), tr("Title:"));
+    const TreeItem *const task = m_session->model()->getTreeItem(above);
+    if (title.isEmpty() || !task)
+        return;
+    auto made = std::make_unique<TreeItem>(title, SystemHelper::randomUuid(), QString(),
+                                           task->uuid(), task->type());
+    made->setStatus(tsWaitting);
+    made->setCreateDate(QDateTime::currentMSecsSinceEpoch());
+    m_session->insert([&] {
+        m_editor->insertChildSubject(above, made.release()); // which takes it over
+    });
+}
+
+void EditCommands::setSession(DiagramSession *session)
+{
+    DiagramCommands::setSession(session);
+    m_finder->setSession(session);
+    m_clipboard->setSession(session);
+}
+
+void EditCommands::updateActions()
+{
+    m_actions->action(QStringLiteral("undo"))->setEnabled(m_editor->canUndo());
+    m_actions->action(QStringLiteral("redo"))->setEnabled(m_editor->canRedo());
+    const SpearItem *const spear = m_editor->firstSelectedSpear();
+    const TreeItem *const subject = spear ? spear->treeItem() : nullptr;
+    const bool isBone = subject && !spear->isHeader();
+    for (const char *name :
+         {"child", "before", "after", "parent", "subTask", "rename", "link", "style"})
+        m_actions->action(QLatin1String(name))->setEnabled(subject);
+    for (const char *name : {"cut", "copy", "delete"})
+        m_actions->action(QLatin1String(name))
+            ->setEnabled(isBone || m_editor->selectedItems().size() > 1);
+    m_actions->action(QStringLiteral("paste"))->setEnabled(subject && m_clipboard->canPaste());
+    m_actions->action(QStringLiteral("selectAll"))->setEnabled(m_editor->headSpear());
+    m_actions->action(QStringLiteral("openLink"))->setEnabled(subject && !subject->url().isEmpty());
+    m_actions->action(QStringLiteral("unlink"))->setEnabled(subject && !subject->url().isEmpty());
+    m_actions->action(QStringLiteral("removeStyle"))->setEnabled(subject && subject->spearStyle());
+    m_actions->action(QStringLiteral("find"))->setEnabled(m_session->model()->rowCount() > 0);
+}

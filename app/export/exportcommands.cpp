@@ -1,0 +1,154 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#include <app/export/exportcommands.h>
+
+#include <app/common/actionset.h>
+#include <app/common/canvastheme.h>
+#include <app/common/selectionhidden.h>
+#include <app/diagram/diagramsession.h>
+#include <app/export/exportdialog.h>
+#include <app/export/printpreview.h>
+
+#include <fishbone/editor/fisheditor.h>
+#include <fishbone/editor/fishscene.h>
+#include <fishbone/exchange/diagramexchange.h>
+#include <fishbone/exchange/pictureexport.h>
+#include <fishbone/model/fishinfo.h>
+#include <fishbone/model/fishmodel.h>
+#include <fishbone/model/treeitem.h>
+
+#include <QAction>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMessageBox>
+
+namespace {
+
+/** The usual ending of each foreign format, in the order of the name filters. */
+QStringList foreignSuffixes()
+{
+    QStringList suffixes;
+    const QList<DiagramExchange::Format> formats = DiagramExchange::formats();
+    for (const DiagramExchange::Format format : formats) {
+        if (format != DiagramExchange::Format::Json)
+            suffixes.append(DiagramExchange::suffixes(format).constFirst());
+    }
+    return suffixes;
+}
+
+} // namespace
+
+ExportCommands::ExportCommands(DiagramSession *session, CanvasTheme *theme, ActionSet *actions,
+                               QWidget *window)
+    : DiagramCommands(session, actions, window)
+    , m_theme(theme)
+    , m_window(window)
+{
+    using Scope = ActionSet::Scope;
+    actions->add(QStringLiteral("export"), tr("&Export picture…"),
+                 {QKeySequence(Qt::CTRL | Qt::Key_E)}, Scope::Window, [this] { exportPicture(); });
+    actions->add(QStringLiteral("exportAs"), tr("E&xport as…"),
+                 {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_E)}, Scope::Window,
+                 [this] { exportAs(); });
+    actions->add(QStringLiteral("print"), tr("&Print…"), {QKeySequence::Print}, Scope::Window,
+                 [this] { print(); });
+    actions->add(QStringLiteral("printPreview"), tr("Print previe&w…"),
+                 {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_P)}, Scope::Window,
+                 [this] { previewPrint(); });
+}
+
+void ExportCommands::updateActions()
+{
+    for (const char *name : {"export", "exportAs", "print", "printPreview"})
+        m_actions->action(QLatin1String(name))->setEnabled(m_session->document());
+}
+
+/** The name of the shown document with another ending, beside its file. */
+QString ExportCommands::proposedName(const QString &suffix) const
+{
+    const QFileInfo shown(m_session->document()->userFriendlyCurrentFile());
+    return QStringLiteral("%1/%2.%3").arg(m_session->folder(), shown.completeBaseName(), suffix);
+}
+
+void ExportCommands::exportPicture()
+{
+    if (!m_session->document())
+        return;
+    ExportDialog dialog(proposedName(QStringLiteral("png")), m_window);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    PictureOptions options = dialog.options();
+    options.title = shownTitle();
+    FishScene *const scene = m_session->editor()->scene();
+    PictureExport::Result result;
+    {
+        const SelectionHidden unmarked(scene);
+        const CanvasTheme::Paper paper(m_theme, m_editor);
+        result = PictureExport::write(*scene, dialog.fileName(), options);
+    }
+    if (result)
+        Q_EMIT message(tr("%1 written").arg(dialog.fileName()));
+    else
+        QMessageBox::warning(
+            m_window, tr("Export picture"),
+            tr("%1 cannot be written: %2.").arg(dialog.fileName().toHtmlEscaped(), result.reason));
+}
+
+/** Asks for the file of exportAs(); its ending tells the format. Empty when the user cancels. */
+QString ExportCommands::targetOfExport() const
+{
+    const QStringList filters = DiagramExchange::exportFilter().split(QStringLiteral(";;"));
+    const QStringList suffixes = foreignSuffixes();
+    QFileDialog dialog(m_window, tr("Export as"), proposedName(suffixes.constFirst()));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setNameFilters(filters);
+    dialog.setDefaultSuffix(suffixes.constFirst());
+    connect(&dialog, &QFileDialog::filterSelected, &dialog, [&](const QString &filter) {
+        const QString suffix = suffixes.value(filters.indexOf(filter));
+        dialog.setDefaultSuffix(suffix);
+        const QFileInfo entered(dialog.selectedFiles().value(0));
+        dialog.selectFile(entered.completeBaseName() + QLatin1Char('.') + suffix);
+    });
+    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+}
+
+void ExportCommands::exportAs()
+{
+    const QPointer<FishInfo> document = m_session->document(); // the dialog runs an event loop
+    const QString path = document ? targetOfExport() : QString();
+    if (path.isEmpty() || !document)
+        return;
+    QString reason;
+    const auto format = DiagramExchange::formatOf(path);
+    if (!format)
+        reason = tr("its ending tells none of the formats");
+    else if (DiagramExchange::writeFile(path, *document->treeItem()->childAtIndex(0), *format,
+                                        &reason)) {
+        Q_EMIT message(tr("%1 written").arg(path));
+        return;
+    }
+    QMessageBox::warning(
+        m_window, tr("Export as"),
+        tr("%1 cannot be written: %2.").arg(path.toHtmlEscaped(), reason.toHtmlEscaped()));
+}
+
+/** The title of what is shown: of the document, or of the subject shown as a diagram of its own. */
+QString ExportCommands::shownTitle() const
+{
+    return m_session->model()->getTreeItem(m_editor->rootIndex())->title();
+}
+
+void ExportCommands::previewPrint()
+{
+    if (!m_session->document())
+        return;
+    const CanvasTheme::Paper paper(m_theme, m_editor);
+    PrintPreview(m_editor->scene(), shownTitle(), m_window).exec();
+}
+
+void ExportCommands::print()
+{
+    const CanvasTheme::Paper paper(m_theme, m_editor);
+    m_session->editor()->print();
+}

@@ -1,0 +1,40 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <app/editing/diagramcommands.h>
+
+class CanvasTheme;
+class QWidget;
+
+/** The commands that bring the shown document out of the program: as a picture, in the format of
+ * another program, on paper. */
+class ExportCommands : public DiagramCommands
+{
+    Q_OBJECT
+
+public:
+    /** Adds the actions to @p actions. Dialogs stand over @p window, which owns this object. */
+    ExportCommands(DiagramSession *session, CanvasTheme *theme, ActionSet *actions,
+                   QWidget *window);
+
+    /** Enables the actions as the shown document allows. */
+    void updateActions() override;
+
+Q_SIGNALS:
+    /** Something for the status bar. */
+    void message(const QString &text);
+
+private:
+    QString proposedName(const QString &suffix) const;
+    void exportPicture();
+    void exportAs();
+    QString targetOfExport() const;
+    void print();
+    void previewPrint();
+    QString shownTitle() const;
+
+    CanvasTheme *m_theme;
+    QWidget *m_window;
+};

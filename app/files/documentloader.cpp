@@ -1,0 +1,239 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#include <app/files/documentloader.h>
+
+#include <fishbone/model/fishinfo.h>
+#include <fishbone/model/treeitem.h>
+
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonDocument>
+#include <QNetworkReply>
+#include <QUrl>
+
+namespace {
+
+bool isNetworkUrl(const QUrl &url)
+{
+    return url.scheme() == QLatin1String("http") || url.scheme() == QLatin1String("https");
+}
+
+/** What keeps @p json from being read as a document. */
+QString reasonOfText(const QByteArray &json)
+{
+    QJsonParseError error;
+    QJsonDocument::fromJson(json, &error);
+    if (json.isEmpty())
+        return DocumentLoader::tr("it is empty");
+    if (error.error == QJsonParseError::NoError)
+        return DocumentLoader::tr("it is not a JSON document");
+    return DocumentLoader::tr("it is not a JSON document (line %1: %2)")
+        .arg(json.left(error.offset).count('\n') + 1)
+        .arg(error.errorString());
+}
+
+} // namespace
+
+DocumentLoader::DocumentLoader(FishModel *model, QObject *parent)
+    : QObject(parent)
+    , m_model(model)
+    , m_openDocuments([this] { return m_model->fishList(); })
+{
+}
+
+void DocumentLoader::setOpenDocuments(std::function<QList<FishInfo *>()> documents)
+{
+    m_openDocuments = std::move(documents);
+}
+
+/** The open document in the file @p path, or null. */
+FishInfo *DocumentLoader::openDocument(const QString &path) const
+{
+    const QString canonical = QFileInfo(path).canonicalFilePath();
+    const QList<FishInfo *> documents = m_openDocuments();
+    for (FishInfo *document : documents) {
+        if (!canonical.isEmpty() && document->fileName() == canonical)
+            return document;
+    }
+    return nullptr;
+}
+
+QString DocumentLoader::localPath(const QString &source)
+{
+    const QUrl url(source);
+    if (isNetworkUrl(url))
+        return QString();
+    return url.isLocalFile() ? url.toLocalFile() : source;
+}
+
+std::optional<DiagramExchange::Format> DocumentLoader::foreignFormat(const QString &path)
+{
+    const auto format = DiagramExchange::formatOf(path);
+    return format == DiagramExchange::Format::Json ? std::nullopt : format;
+}
+
+QString DocumentLoader::reasonOf(const QString &path)
+{
+    const QFileInfo info(path);
+    if (info.isDir())
+        return tr("it is a folder");
+    if (!info.exists())
+        return tr("there is no such file");
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return file.errorString();
+    return reasonOfText(file.readAll());
+}
+
+void DocumentLoader::load(const QString &source)
+{
+    m_waiting.append(source);
+    if (m_waiting.size() == 1)
+        loadNext();
+}
+
+void DocumentLoader::loadNext()
+{
+    const QString source = m_waiting.constFirst();
+    if (!m_model)
+        finish(nullptr, tr("the program is closing"));
+    else if (const QString path = localPath(source); !path.isEmpty())
+        loadFile(path);
+    else if (!source.isEmpty())
+        fetch(QUrl(source));
+    else
+        finish(nullptr, tr("there is no such file"));
+}
+
+void DocumentLoader::loadFile(const QString &path)
+{
+    if (const auto format = foreignFormat(path)) {
+        importFile(path, *format);
+        return;
+    }
+    if (FishInfo *const open = openDocument(path)) {
+        finish(open, QString());
+        return;
+    }
+    if (m_model->loadFishFromFile(path) != MODEL_NO_ERROR) {
+        finish(nullptr, reasonOf(path));
+        return;
+    }
+    FishInfo *const document = m_model->fishList().constLast();
+    document->setCurrentFile(path);
+    finish(document, QString());
+}
+
+/** Makes a new document of a file of another program, to which it is never saved. */
+void DocumentLoader::importFile(const QString &path, DiagramExchange::Format format)
+{
+    QString reason;
+    auto head = DiagramExchange::readFile(path, format, &reason);
+    if (!head) {
+        finish(nullptr, reason);
+        return;
+    }
+    const QString name = freeName(QFileInfo(path).completeBaseName());
+    m_model->insertExistItemRows(QModelIndex(), {head.release()}); // which takes it over
+    FishInfo *const document = m_model->fishList().constLast();
+    document->setFileName(name);
+    finish(document, QString());
+}
+
+/** A name for a document without a file, which no other one bears. */
+QString DocumentLoader::freeName(const QString &baseName) const
+{
+    QStringList taken;
+    const QList<FishInfo *> documents = m_openDocuments();
+    for (const FishInfo *document : documents)
+        taken.append(document->userFriendlyCurrentFile());
+    QString name = baseName + QStringLiteral(".json");
+    for (int number = 2; taken.contains(name); ++number)
+        name = QStringLiteral("%1 %2.json").arg(baseName).arg(number);
+    return name;
+}
+
+void DocumentLoader::fetch(const QUrl &url)
+{
+    m_fetched = connect(m_model, &FishModel::fishLoaded, this, &DocumentLoader::endFetch);
+    const QList<QNetworkReply *> earlier = m_model->findChildren<QNetworkReply *>();
+    m_model->loadFishFromUrl(url);
+    const QList<QNetworkReply *> replies = m_model->findChildren<QNetworkReply *>();
+    for (QNetworkReply *reply : replies) {
+        if (!earlier.contains(reply))
+            m_reply = reply;
+    }
+    m_isCancelled = false;
+    if (m_reply)
+        connect(m_reply, &QNetworkReply::readyRead, this, &DocumentLoader::reportProgress);
+    Q_EMIT fetchStarted(url);
+}
+
+/** Reports what has come, all of which waits in the reply until that is complete. The reply's own
+ * report leaves out what comes shortly after the one before. */
+void DocumentLoader::reportProgress()
+{
+    const QVariant length = m_reply->header(QNetworkRequest::ContentLengthHeader);
+    Q_EMIT fetchProgress(m_reply->bytesAvailable(), length.isValid() ? length.toLongLong() : -1);
+}
+
+void DocumentLoader::cancel()
+{
+    if (!m_reply || m_reply->isFinished())
+        return;
+    m_isCancelled = true;
+    m_reply->abort();
+}
+
+void DocumentLoader::endFetch(const QModelIndex &index, MODEL_ERROR error)
+{
+    Q_UNUSED(index) // invalid for a document without a head
+    if (m_reply && !m_reply->isFinished())
+        return; // somebody else loaded a file meanwhile
+    disconnect(m_fetched);
+    Q_EMIT fetchEnded();
+    if (error == MODEL_NO_ERROR) {
+        finish(m_model->fishList().constLast(), QString());
+    } else if (m_isCancelled) {
+        Q_EMIT cancelled(m_waiting.constFirst());
+        leave();
+    } else {
+        finish(nullptr, reasonOfReply());
+    }
+}
+
+/** Why what arrived was not loaded. */
+QString DocumentLoader::reasonOfReply() const
+{
+    if (!m_reply || m_reply->error() == QNetworkReply::NoError)
+        return tr("the reply is not a JSON document");
+    if (m_reply->error() == QNetworkReply::OperationCanceledError)
+        return tr("the reply took too long or was too large");
+    return m_reply->errorString();
+}
+
+/** Reports the end of the load under way: @p document, or null and the reason. */
+void DocumentLoader::finish(FishInfo *document, const QString &reason)
+{
+    const QString source = m_waiting.constFirst();
+    if (document && document->treeItem()->childCount() == 0) {
+        m_model->unloadFish(document);
+        Q_EMIT failed(source, tr("it holds no diagram"));
+    } else if (document) {
+        Q_EMIT loaded(source, document);
+    } else {
+        Q_EMIT failed(source, reason);
+    }
+    leave();
+}
+
+/** Goes on to what waits behind the load that was reported. */
+void DocumentLoader::leave()
+{
+    m_waiting.removeFirst();
+    if (m_waiting.isEmpty())
+        Q_EMIT idle();
+    else
+        QMetaObject::invokeMethod(this, &DocumentLoader::loadNext, Qt::QueuedConnection);
+}

@@ -1,0 +1,84 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#include <app/files/recentfiles.h>
+
+#include <QDir>
+#include <QFileInfo>
+#include <QMenu>
+#include <QSettings>
+
+namespace {
+
+constexpr int widestEntry = 420; ///< pixels; longer paths are shortened in the middle
+
+QString settingsKey()
+{
+    return QStringLiteral("recentFiles");
+}
+
+/** One spelling for each file, also for one that is gone. */
+QString normalized(const QString &path)
+{
+    return QDir::cleanPath(QFileInfo(path).absoluteFilePath());
+}
+
+/** @p path as the user reads it, with a "~" for the home folder. */
+QString shownPath(const QString &path)
+{
+    const QString home = QDir::homePath() + QLatin1Char('/');
+    return QDir::toNativeSeparators(
+        path.startsWith(home) ? QLatin1String("~/") + path.mid(home.size()) : path);
+}
+
+} // namespace
+
+RecentFiles::RecentFiles(QWidget *window)
+    : QObject(window)
+    , m_menu(new QMenu(tr("&Recent files"), window))
+{
+    m_menu->setObjectName(QStringLiteral("recentMenu"));
+    connect(m_menu, &QMenu::aboutToShow, this, &RecentFiles::fillMenu);
+}
+
+QStringList RecentFiles::files() const
+{
+    return QSettings().value(settingsKey()).toStringList();
+}
+
+void RecentFiles::add(const QString &path)
+{
+    QStringList paths = files();
+    paths.removeAll(normalized(path));
+    paths.prepend(normalized(path));
+    while (paths.size() > limit)
+        paths.removeLast();
+    QSettings().setValue(settingsKey(), paths);
+}
+
+void RecentFiles::remove(const QString &path)
+{
+    QStringList paths = files();
+    if (paths.removeAll(normalized(path)) > 0)
+        QSettings().setValue(settingsKey(), paths);
+}
+
+void RecentFiles::fillMenu()
+{
+    m_menu->clear();
+    const QStringList paths = files();
+    int number = 0;
+    for (const QString &path : paths) {
+        QString text =
+            m_menu->fontMetrics().elidedText(shownPath(path), Qt::ElideMiddle, widestEntry);
+        text.replace(QLatin1Char('&'), QLatin1String("&&"));
+        m_menu->addAction(QStringLiteral("&%1  %2").arg(++number).arg(text), this,
+                          [this, path] { Q_EMIT chosen(path); });
+    }
+    if (paths.isEmpty()) {
+        m_menu->addAction(tr("(nothing yet)"))->setEnabled(false);
+        return;
+    }
+    m_menu->addSeparator();
+    m_menu->addAction(tr("&Clear the list"), this, [] { QSettings().remove(settingsKey()); });
+}

@@ -1,0 +1,59 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#include <app/panels/diagramcounts.h>
+
+#include <app/diagram/diagramsession.h>
+
+#include <fishbone/editor/fisheditor.h>
+#include <fishbone/model/fishinfo.h>
+#include <fishbone/model/treeitem.h>
+
+#include <vector>
+
+namespace {
+
+/** The number of subjects below @p root. */
+int subjectsBelow(const TreeItem &root)
+{
+    int count = 0;
+    std::vector<const TreeItem *> waiting{&root};
+    while (!waiting.empty()) {
+        const QList<TreeItem *> &children = waiting.back()->childItems();
+        waiting.pop_back();
+        count += int(children.size());
+        waiting.insert(waiting.end(), children.cbegin(), children.cend());
+    }
+    return count;
+}
+
+} // namespace
+
+DiagramCounts::DiagramCounts(QWidget *parent)
+    : QLabel(parent)
+{
+    setObjectName(QStringLiteral("counts"));
+    setMargin(4);
+}
+
+void DiagramCounts::setSession(DiagramSession *session)
+{
+    if (m_session)
+        m_session->disconnect(this);
+    m_session = session;
+    if (session)
+        connect(session, &DiagramSession::stateChanged, this, &DiagramCounts::count);
+    count();
+}
+
+void DiagramCounts::count()
+{
+    const FishInfo *const document = m_session ? m_session->document() : nullptr;
+    setVisible(document);
+    if (!document)
+        return;
+    QString text = tr("%n subject(s)", nullptr, subjectsBelow(*document->treeItem()));
+    if (const int selected = int(m_session->editor()->selectedItems().size()))
+        text += tr(", %n selected", nullptr, selected);
+    setText(text);
+}

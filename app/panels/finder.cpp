@@ -1,0 +1,274 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#include <app/panels/finder.h>
+
+#include <app/diagram/diagramsession.h>
+#include <app/panels/hitlist.h>
+
+#include <fishbone/dialogs/replacefinddialog.h>
+#include <fishbone/model/treeitem.h>
+#include <fishbone/undo/editattributes.h>
+#include <fishbone/undo/undostack.h>
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGridLayout>
+#include <QJsonObject>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QPushButton>
+
+#include <algorithm>
+#include <memory>
+
+namespace {
+
+constexpr int titleColumn = 0;
+constexpr int showidColumn = 2;
+
+} // namespace
+
+Finder::Finder(DiagramSession *session, QWidget *window)
+    : QObject(window)
+    , m_session(session)
+    , m_dialog(new ReplaceFindDialog(window))
+    , m_hits(new HitList(session->model(), m_dialog))
+{
+    m_dialog->setModel(session->model());
+    m_dialog->installEventFilter(this);
+    addHitList();
+    connectControls();
+}
+
+void Finder::addHitList()
+{
+    auto *const layout = qobject_cast<QGridLayout *>(m_dialog->layout());
+    Q_ASSERT(layout);
+    const int row = layout->rowCount();
+    layout->addWidget(m_hits, row, 0, 1, layout->columnCount());
+    constexpr int stretch = 10; // all the room that there is
+    layout->setRowStretch(row, stretch);
+    m_hits->setObjectName(QStringLiteral("hits"));
+    m_dialog->resize(560, 420);
+}
+
+/** These come after the dialog's own connections, so the search is done. */
+void Finder::connectControls()
+{
+    QLineEdit *const search = field(ReplaceFindDialog::tr("Find what:"));
+    QLineEdit *const replacement = field(ReplaceFindDialog::tr("Replace with:"));
+    connect(search, &QLineEdit::returnPressed, this, &Finder::showNext);
+    connect(search, &QLineEdit::textChanged, this, &Finder::forgetHits);
+    connect(button(ReplaceFindDialog::tr("Find")), &QPushButton::clicked, this, &Finder::showNext);
+    connect(replacement, &QLineEdit::returnPressed, this, &Finder::replaceCurrent);
+    connect(replacement, &QLineEdit::textChanged, this, &Finder::preview);
+    connect(button(ReplaceFindDialog::tr("Replace")), &QPushButton::clicked, this,
+            &Finder::replaceCurrent);
+    connect(button(ReplaceFindDialog::tr("Replace All")), &QPushButton::clicked, this,
+            &Finder::replaceAll);
+    connect(m_dialog->findChild<QCheckBox *>(), &QCheckBox::toggled, this, &Finder::forgetHits);
+    connect(m_dialog->findChild<QComboBox *>(), QOverload<int>::of(&QComboBox::currentIndexChanged),
+            this, &Finder::forgetHits);
+    connect(m_hits, &HitList::hitChosen, this, &Finder::showHit);
+    connect(m_hits, &HitList::itemActivated, m_dialog, &QDialog::accept);
+}
+
+void Finder::setSession(DiagramSession *session)
+{
+    m_session = session;
+    m_dialog->setModel(session->model());
+    m_hits->setSource(session->model());
+    rememberLook();
+    forgetHits();
+}
+
+/** Keeps what Esc brings back. */
+void Finder::rememberLook()
+{
+    m_look = DrawingState::capture(*m_session->editor());
+    m_searchedFrom = m_session->editor()->rootIndex();
+}
+
+void Finder::show()
+{
+    if (!m_dialog->isVisible()) {
+        rememberLook();
+        forgetHits();
+    }
+    m_dialog->show();
+    m_dialog->raise();
+    m_dialog->activateWindow();
+    QLineEdit *const text = field(ReplaceFindDialog::tr("Find what:"));
+    text->setFocus();
+    text->selectAll();
+}
+
+QPushButton *Finder::button(const QString &text) const
+{
+    const QList<QPushButton *> buttons = m_dialog->findChildren<QPushButton *>();
+    const auto found = std::find_if(buttons.cbegin(), buttons.cend(),
+                                    [&](const QPushButton *each) { return each->text() == text; });
+    Q_ASSERT(found != buttons.cend());
+    return *found;
+}
+
+QLineEdit *Finder::field(const QString &label) const
+{
+    const QList<QLineEdit *> fields = m_dialog->findChildren<QLineEdit *>();
+    const auto found = std::find_if(fields.cbegin(), fields.cend(), [&](const QLineEdit *each) {
+        return each->accessibleName() == label;
+    });
+    Q_ASSERT(found != fields.cend());
+    return *found;
+}
+
+Qt::CaseSensitivity Finder::caseSensitivity() const
+{
+    return m_dialog->findChild<QCheckBox *>()->isChecked() ? Qt::CaseSensitive
+                                                           : Qt::CaseInsensitive;
+}
+
+/** What a replacement makes of @p text. */
+QString Finder::replaced(const QString &text) const
+{
+    const QString search = field(ReplaceFindDialog::tr("Find what:"))->text();
+    if (search.isEmpty())
+        return text;
+    QString result = text;
+    return result.replace(search, field(ReplaceFindDialog::tr("Replace with:"))->text(),
+                          caseSensitivity());
+}
+
+bool Finder::isReplaceable(const QModelIndex &hit) const
+{
+    return hit.column() == titleColumn || hit.column() == showidColumn;
+}
+
+/** The list is of another search than the one that is entered. */
+void Finder::forgetHits()
+{
+    m_matches.clear();
+    m_current = -1;
+    m_hits->setHits({}, {});
+}
+
+void Finder::listHits()
+{
+    const QModelIndexList matches = m_dialog->matches();
+    if (matches == m_matches && m_hits->topLevelItemCount() == matches.size())
+        return;
+    m_matches = matches;
+    m_current = -1;
+    m_hits->setHits(matches, [this, &matches](const QString &text) {
+        return !matches.isEmpty() && isReplaceable(matches.constFirst()) ? replaced(text) : text;
+    });
+}
+
+void Finder::preview()
+{
+    m_hits->preview([this](const QString &text) {
+        return !m_matches.isEmpty() && isReplaceable(m_matches.constFirst()) ? replaced(text)
+                                                                             : text;
+    });
+}
+
+void Finder::showNext()
+{
+    listHits();
+    if (!m_matches.isEmpty()) // otherwise the dialog has said so
+        showHit((m_current + 1) % m_matches.size());
+}
+
+void Finder::showHit(int row)
+{
+    const QModelIndexList matches = m_dialog->matches();
+    if (matches != m_matches) { // some are gone
+        listHits();
+        return;
+    }
+    if (row < 0 || row >= matches.size())
+        return;
+    m_current = row;
+    m_hits->setCurrentHit(row);
+    m_session->select(matches.at(row).siblingAtColumn(titleColumn));
+    Q_EMIT message(tr("Match %1 of %2").arg(row + 1).arg(matches.size()));
+}
+
+/** Replaces in the texts that were found at @p hits, in one step; how many have changed. */
+int Finder::replaceIn(const QModelIndexList &hits)
+{
+    auto command = std::make_unique<EditAttributes>(m_session->model());
+    for (const QModelIndex &hit : hits) {
+        const TreeItem *const subject = m_session->model()->getTreeItem(hit);
+        if (!subject || !isReplaceable(hit))
+            continue;
+        const QJsonObject before = EditAttributes::stateOf(*subject);
+        TreeItem draft(before);
+        draft.setData(hit.column(), replaced(subject->data(hit.column()).toString()));
+        command->add(hit.siblingAtColumn(titleColumn), before, EditAttributes::stateOf(draft));
+    }
+    const int count = command->count();
+    if (count == 0)
+        return 0;
+    command->setText(tr("Replace %n text(s)", nullptr, count));
+    m_session->editor()->undoStack()->push(command.release()); // which takes it over
+    m_session->touch();
+    return count;
+}
+
+void Finder::replaceCurrent()
+{
+    const QModelIndexList matches = m_dialog->matches();
+    if (matches != m_matches || m_current < 0 || m_current >= matches.size()) {
+        m_dialog->find();
+        showNext();
+        return;
+    }
+    const QModelIndex hit = matches.at(m_current);
+    const int current = m_current;
+    const bool isReplaced = replaceIn({hit}) > 0;
+    m_matches.clear(); // so that they are listed with their new texts
+    listHits();
+    m_current = current;
+    showNext();
+    if (!isReplaced && !isReplaceable(hit))
+        Q_EMIT message(tr("Only titles and numbers can be replaced."));
+}
+
+void Finder::replaceAll()
+{
+    const bool isListed = !m_matches.isEmpty() && m_matches == m_dialog->matches();
+    if (!isListed) {
+        m_dialog->find();
+        listHits();
+    }
+    QModelIndexList hits;
+    const QList<int> rows = m_hits->checkedRows();
+    for (int row : rows)
+        hits.append(m_matches.value(row));
+    const int count = replaceIn(hits);
+    m_matches.clear();
+    listHits();
+    Q_EMIT message(tr("%n text(s) replaced", nullptr, count));
+}
+
+/** Makes the drawing look as it did before the search, as far as it is still there. */
+void Finder::restoreLook()
+{
+    if (!m_session->editor()->headSpear() || m_session->editor()->rootIndex() != m_searchedFrom)
+        return;
+    m_session->editor()->expandorContractAll(false);
+    m_look.restore(*m_session->editor());
+    Q_EMIT m_session->drawingRebuilt();
+    m_session->touch();
+}
+
+bool Finder::eventFilter(QObject *watched, QEvent *event)
+{
+    // Esc alone: whoever closes the window stays where the search has led.
+    if (watched == m_dialog && event->type() == QEvent::KeyPress &&
+        static_cast<QKeyEvent *>(event)->key() == Qt::Key_Escape)
+        restoreLook();
+    return QObject::eventFilter(watched, event);
+}

@@ -1,0 +1,69 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <app/diagram/drawingstate.h>
+
+#include <QModelIndexList>
+#include <QObject>
+#include <QPersistentModelIndex>
+
+class DiagramSession;
+class HitList;
+class QLineEdit;
+class QPushButton;
+class ReplaceFindDialog;
+
+/**
+ * Makes the library's find dialog useful. What was found is listed in it, with what a replacement
+ * would make of it; every search goes on to the next hit, and the list leads to any of them.
+ * Replacing is a step of the undo history, one step for all of them. Esc ends the search and gives
+ * the drawing the look that it had before.
+ */
+class Finder : public QObject
+{
+    Q_OBJECT
+
+public:
+    Finder(DiagramSession *session, QWidget *window);
+
+    /** From now on searches the diagram of @p session. */
+    void setSession(DiagramSession *session);
+    /** Shows the dialog. */
+    void show();
+
+Q_SIGNALS:
+    /** What was found or replaced, for the user. */
+    void message(const QString &text);
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    void addHitList();
+    void connectControls();
+    void forgetHits();
+    void listHits();
+    void showNext();
+    void showHit(int row);
+    void replaceCurrent();
+    void replaceAll();
+    int replaceIn(const QModelIndexList &hits);
+    void preview();
+    void rememberLook();
+    void restoreLook();
+    bool isReplaceable(const QModelIndex &hit) const;
+    QString replaced(const QString &text) const;
+    QPushButton *button(const QString &text) const;
+    QLineEdit *field(const QString &label) const;
+    Qt::CaseSensitivity caseSensitivity() const;
+
+    DiagramSession *m_session;
+    ReplaceFindDialog *m_dialog;
+    HitList *m_hits;
+    QModelIndexList m_matches;            ///< that are listed, only to be compared
+    int m_current = -1;                   ///< the match that is selected
+    DrawingState m_look;                  ///< of the drawing before the search
+    QPersistentModelIndex m_searchedFrom; ///< the head of the drawing then
+};

@@ -1,0 +1,22 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#include <app/panels/subjectproxymodel.h>
+
+#include <fishbone/model/fishmodel.h>
+#include <fishbone/model/treeitem.h>
+
+SubjectProxyModel::SubjectProxyModel(QObject *parent)
+    : FishProxyModel(parent)
+{
+    setFilterCaseSensitivity(Qt::CaseInsensitive);
+}
+
+Qt::ItemFlags SubjectProxyModel::flags(const QModelIndex &index) const
+{
+    const Qt::ItemFlags base = FishProxyModel::flags(index);
+    const auto *const model = qobject_cast<const FishModel *>(sourceModel());
+    const TreeItem *const subject = model ? model->getTreeItem(mapToSource(index)) : nullptr;
+    const bool draggable = subject && !subject->isTopVaildItem() && subject->spearItemIsMovable();
+    return draggable ? base | Qt::ItemIsDragEnabled : base;
+}

@@ -1,0 +1,112 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#include <app/panels/subjecttree.h>
+
+#include <app/panels/subjectproxymodel.h>
+
+#include <fishbone/model/fishmodel.h>
+
+#include <QDrag>
+#include <QItemSelectionModel>
+#include <QLineEdit>
+#include <QMimeData>
+#include <QVBoxLayout>
+
+SubjectTreeView::SubjectTreeView(QWidget *parent)
+    : QTreeView(parent)
+{
+    setHeaderHidden(true);
+    setUniformRowHeights(true);
+    setSelectionMode(ExtendedSelection);
+    setEditTriggers(NoEditTriggers);
+    setDragEnabled(true);
+    setDragDropMode(DragOnly);
+    setExpandsOnDoubleClick(false);
+}
+
+void SubjectTreeView::startDrag(Qt::DropActions supportedActions)
+{
+    Q_UNUSED(supportedActions)
+    QModelIndexList dragged;
+    const QModelIndexList selected = selectedIndexes();
+    for (const QModelIndex &index : selected) {
+        if (index.flags() & Qt::ItemIsDragEnabled)
+            dragged.append(index);
+    }
+    if (dragged.isEmpty())
+        return;
+    auto *const drag = new QDrag(this); // deletes itself
+    drag->setMimeData(model()->mimeData(dragged));
+    // The base class would delete the rows of a move that was accepted.
+    drag->exec(Qt::MoveAction);
+}
+
+SubjectTree::SubjectTree(FishModel *model, QWidget *parent)
+    : QWidget(parent)
+    , m_proxy(new SubjectProxyModel(this))
+    , m_filter(new QLineEdit(this))
+    , m_view(new SubjectTreeView(this))
+{
+    m_filter->setObjectName(QStringLiteral("filter"));
+    m_filter->setPlaceholderText(tr("Filter by title"));
+    m_filter->setAccessibleName(tr("Filter by title"));
+    m_filter->setClearButtonEnabled(true);
+    m_view->setObjectName(QStringLiteral("documents"));
+    m_view->setAccessibleName(tr("Documents"));
+    m_proxy->setSourceModel(model);
+    m_view->setModel(m_proxy);
+    for (int column = 1; column < m_proxy->columnCount(); ++column)
+        m_view->hideColumn(column);
+
+    auto *const layout = new QVBoxLayout(this);
+    layout->setContentsMargins(4, 4, 4, 4);
+    layout->addWidget(m_filter);
+    layout->addWidget(m_view);
+    connect(m_filter, &QLineEdit::textChanged, this, &SubjectTree::setFilter);
+}
+
+bool SubjectTree::isFiltered() const
+{
+    return !m_filter->text().isEmpty();
+}
+
+void SubjectTree::setFilter(const QString &text)
+{
+    Q_EMIT filterAboutToChange();
+    m_proxy->setFilterFixedString(text);
+    if (isFiltered())
+        m_view->expandAll();
+    Q_EMIT filterChanged();
+}
+
+QModelIndexList SubjectTree::selectedSubjects() const
+{
+    QModelIndexList indexes;
+    const QItemSelection selection = m_view->selectionModel()->selection();
+    for (const QItemSelectionRange &range : selection) {
+        for (int row = range.top(); row <= range.bottom(); ++row)
+            indexes.append(m_proxy->mapToSource(m_proxy->index(row, 0, range.parent())));
+    }
+    return indexes;
+}
+
+void SubjectTree::selectSubjects(const QModelIndexList &indexes)
+{
+    QItemSelection selection;
+    QModelIndex first;
+    for (const QModelIndex &index : indexes) {
+        const QModelIndex row = m_proxy->mapFromSource(index);
+        if (!row.isValid())
+            continue; // filtered out
+        if (!first.isValid())
+            first = row;
+        selection.select(row, row.siblingAtColumn(m_proxy->columnCount() - 1));
+    }
+    QItemSelectionModel *const model = m_view->selectionModel();
+    if (first.isValid() && !indexes.contains(m_proxy->mapToSource(model->currentIndex())))
+        model->setCurrentIndex(first, QItemSelectionModel::NoUpdate);
+    model->select(selection, QItemSelectionModel::ClearAndSelect);
+    if (first.isValid())
+        m_view->scrollTo(first);
+}

@@ -1,0 +1,324 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#include <app/window/mainwindow.h>
+
+#include <app/common/actionset.h>
+#include <app/common/canvastheme.h>
+#include <app/common/linkopener.h>
+#include <app/diagram/diagramsession.h>
+#include <app/documents/documenttab.h>
+#include <app/documents/documenttabs.h>
+#include <app/documents/filecommands.h>
+#include <app/documents/recoverycommands.h>
+#include <app/documents/tabcommands.h>
+#include <app/editing/bonemenu.h>
+#include <app/editing/editcommands.h>
+#include <app/editing/movecommands.h>
+#include <app/editing/typedtitle.h>
+#include <app/editing/walkcommands.h>
+#include <app/export/exportcommands.h>
+#include <app/files/filedrop.h>
+#include <app/files/loadprogress.h>
+#include <app/files/recentfiles.h>
+#include <app/panels/detailspanel.h>
+#include <app/panels/diagramcounts.h>
+#include <app/panels/historypanel.h>
+#include <app/panels/minimap.h>
+#include <app/panels/subjecttree.h>
+#include <app/recovery/autosavestatus.h>
+#include <app/window/emptypage.h>
+#include <app/window/helpcommands.h>
+#include <app/window/menukeys.h>
+#include <app/window/menus.h>
+#include <app/window/viewcommands.h>
+#include <app/window/zoomcontrols.h>
+
+#include <fishbone/editor/fisheditor.h>
+#include <fishbone/editor/graphicsview.h>
+#include <fishbone/model/fishinfo.h>
+#include <fishbone/model/fishmodel.h>
+#include <fishbone/model/treeitem.h>
+
+#include <QAction>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDockWidget>
+#include <QMenu>
+#include <QMenuBar>
+#include <QSettings>
+#include <QStackedWidget>
+#include <QStatusBar>
+#include <QUrl>
+
+MainWindow::MainWindow(QWidget *parent)
+    : QMainWindow(parent)
+    , m_theme(new CanvasTheme(this))
+    , m_actions(new ActionSet(this))
+    , m_recent(new RecentFiles(this))
+    , m_tabs(new DocumentTabs(m_theme, this))
+    , m_drops(new FileDrop(this))
+{
+    setWindowIcon(QIcon(QStringLiteral(":/app/icon.svg")));
+    setCentralWidget(m_tabs);
+    m_theme->follow(palette());
+    addCommands();
+    addDocks();
+    addBars();
+    connectCommands();
+    m_tabs->setEmptyPage(new EmptyPage(*m_actions, m_recent, m_tabs));
+    takeIn(m_tabs->current());
+    showTab(m_tabs->current());
+    connect(m_tabs, &DocumentTabs::added, this, &MainWindow::takeIn);
+    connect(m_tabs, &DocumentTabs::currentChanged, this, &MainWindow::showTab);
+    restoreLayout();
+    updateState();
+}
+
+MainWindow::~MainWindow()
+{
+    // The tabs' panels stand in the docks, and the commands listen to what is in the tabs.
+    m_tabs->disconnect(this);
+    qDeleteAll(m_commands);
+    delete m_files;
+    delete m_recovery;
+    delete m_tabs;
+}
+
+FishModel *MainWindow::model() const
+{
+    return m_tabs->current()->model();
+}
+
+FishEditor *MainWindow::editor() const
+{
+    return m_tabs->current()->editor();
+}
+
+DiagramSession *MainWindow::session() const
+{
+    return m_tabs->current()->session();
+}
+
+SubjectTree *MainWindow::tree() const
+{
+    return m_tabs->current()->tree();
+}
+
+void MainWindow::addCommands()
+{
+    m_controls = new ZoomControls(editor(), this);
+    m_autosave = new AutosaveStatus(this);
+    m_counts = new DiagramCounts(this);
+    statusBar()->addPermanentWidget(m_counts);
+    statusBar()->addPermanentWidget(m_autosave);
+    statusBar()->addPermanentWidget(m_controls);
+    m_files = new FileCommands(m_tabs, m_recent, m_actions, this);
+    statusBar()->insertPermanentWidget(0, new LoadProgress(m_files->loader(), this));
+    m_recovery = new RecoveryCommands(m_tabs, m_actions, this);
+    m_tabCommands = new TabCommands(m_tabs, m_actions, this);
+    m_exports = new ExportCommands(session(), m_theme, m_actions, this);
+    m_edits = new EditCommands(session(), m_actions, this);
+    m_views = new ViewCommands(session(), m_theme, m_controls, m_actions, this);
+    m_commands = {m_exports, m_edits, m_views, new MoveCommands(session(), m_actions, this),
+                  new WalkCommands(session(), m_actions, this)};
+    new HelpCommands(m_actions, this); // which owns it
+    m_actions->add(QStringLiteral("details"), tr("&Details"), {Qt::Key_F4},
+                   ActionSet::Scope::Selection, [this] { showDetails(); });
+}
+
+QDockWidget *MainWindow::addDock(const char *name, const QString &title, Qt::DockWidgetArea area,
+                                 QWidget *contents)
+{
+    auto *const dock = new QDockWidget(title, this);
+    dock->setObjectName(QLatin1String(name));
+    dock->setWidget(contents);
+    addDockWidget(area, dock);
+    return dock;
+}
+
+void MainWindow::addDocks()
+{
+    // Three of them show what belongs to the current tab.
+    for (QStackedWidget **contents : {&m_trees, &m_details, &m_histories})
+        *contents = new QStackedWidget(this);
+    m_overview = new Minimap(this);
+    QDockWidget *const trees =
+        addDock("documentsDock", tr("Subjects"), Qt::LeftDockWidgetArea, m_trees);
+    QDockWidget *const details =
+        addDock("detailsDock", tr("Details"), Qt::RightDockWidgetArea, m_details);
+    QDockWidget *const histories =
+        addDock("historyDock", tr("History"), Qt::RightDockWidgetArea, m_histories);
+    QDockWidget *const overview =
+        addDock("overviewDock", tr("Overview"), Qt::LeftDockWidgetArea, m_overview);
+    resizeDocks({trees, details}, {240, 280}, Qt::Horizontal);
+    resizeDocks({details, histories}, {500, 160}, Qt::Vertical);
+    resizeDocks({trees, overview}, {500, 160}, Qt::Vertical);
+}
+
+void MainWindow::addBars()
+{
+    auto *const visited = new QMenu(tr("Shown be&fore"), this);
+    m_views->listVisited(visited);
+    new MenuKeys(this); // which owns it
+    Menus::build(
+        this, *m_actions,
+        {{QStringLiteral("recent"), m_recent->menu()}, {QStringLiteral("visited"), visited}});
+    QMenu *const panels = createPopupMenu();
+    panels->setTitle(tr("&Panels"));
+    menuBar()->insertMenu(findChild<QMenu *>(QStringLiteral("helpMenu"))->menuAction(), panels);
+    m_actions->updateIcons(palette());
+}
+
+void MainWindow::connectCommands()
+{
+    connect(m_files, &FileCommands::message, this, &MainWindow::showMessage);
+    connect(m_recovery, &RecoveryCommands::message, this, &MainWindow::showMessage);
+    connect(m_exports, &ExportCommands::message, this, &MainWindow::showMessage);
+    connect(m_edits, &EditCommands::message, this, &MainWindow::showMessage);
+    connect(m_edits, &EditCommands::newDiagramWanted, this, &MainWindow::startDiagram);
+    auto *const links = new LinkOpener(this);
+    connect(links, &LinkOpener::failed, this, [this](const QUrl &url) {
+        showMessage(tr("Nothing opens %1").arg(url.toDisplayString()));
+    });
+    m_drops->watch(this);
+    // Queued, since the program from which the file comes waits for the end of the drop.
+    connect(m_drops, &FileDrop::dropped, this, &MainWindow::open, Qt::QueuedConnection);
+}
+
+/** Gives @p tab its place in the window. */
+void MainWindow::takeIn(DocumentTab *tab)
+{
+    m_trees->addWidget(tab->tree());
+    m_details->addWidget(tab->details());
+    m_histories->addWidget(tab->history());
+    m_actions->addShortcuts(ActionSet::Scope::Selection, tab->editor());
+    m_actions->addShortcuts(ActionSet::Scope::Selection, tab->tree()->view());
+    m_actions->addShortcuts(ActionSet::Scope::Drawing, tab->editor());
+    m_drops->watch(tab->editor()->view()->viewport());
+    connect(tab->session(), &DiagramSession::stateChanged, this, [this, tab] {
+        if (tab == m_tabs->current())
+            updateState();
+    });
+    connectGestures(tab);
+}
+
+void MainWindow::connectGestures(DocumentTab *tab)
+{
+    FishEditor *const editor = tab->editor();
+    new BoneMenu(editor, m_actions, tab); // which owns it
+    auto *const typing = new TypedTitle(editor, tab);
+    connect(typing, &TypedTitle::typed, this, [this, editor](const QString &text) {
+        m_edits->rename(editor->firstSelectedSpearIndex(), text);
+    });
+    connect(editor, &FishEditor::editTaskDetail, this, [this, tab](const QModelIndex &index) {
+        tab->details()->showSubject(index);
+        showDetails();
+    });
+    connect(editor, &FishEditor::oneTaskClicked, this, &MainWindow::showDetails);
+    connect(editor, &FishEditor::createNewSubTask, this,
+            [this, editor] { m_edits->insertSubTask(editor->firstSelectedSpearIndex()); });
+    connect(editor, &FishEditor::insertChildTask, m_edits, &EditCommands::insertChild);
+    connect(editor, &FishEditor::changeFishWithModelIndex, tab->session(),
+            &DiagramSession::showAsDiagram);
+    connect(editor, &FishEditor::changeTaskParent, this,
+            [this, tab](const QStringList &children, const QString &parentId) {
+                const QModelIndex index = tab->model()->modelIndexByUuid(parentId);
+                const TreeItem *const task = tab->model()->getTreeItem(index);
+                showMessage(tr("%n task(s) moved to %1", nullptr, children.size())
+                                .arg(task ? task->title() : tr("the top")));
+            });
+    connect(tab->tree()->view(), &QTreeView::doubleClicked, this, &MainWindow::showDetails);
+}
+
+void MainWindow::showTab(DocumentTab *tab)
+{
+    const bool wasInTabs = m_tabs->isAncestorOf(QApplication::focusWidget());
+    m_trees->setCurrentWidget(tab->tree());
+    m_details->setCurrentWidget(tab->details());
+    m_histories->setCurrentWidget(tab->history());
+    m_controls->setEditor(tab->editor());
+    m_overview->setSession(tab->session());
+    m_counts->setSession(tab->session());
+    m_autosave->setCopy(tab->recovery());
+    for (DiagramCommands *commands : qAsConst(m_commands))
+        commands->setSession(tab->session());
+    if (tab->document() && (wasInTabs || !QApplication::focusWidget()))
+        tab->editor()->view()->setFocus();
+    updateState();
+}
+
+void MainWindow::showMessage(const QString &text)
+{
+    statusBar()->showMessage(text, 10000);
+}
+
+void MainWindow::open(const QStringList &sources)
+{
+    m_files->open(sources);
+}
+
+void MainWindow::offerRecovery()
+{
+    m_recovery->offer();
+}
+
+/** Begins another diagram with its title. */
+void MainWindow::startDiagram()
+{
+    m_files->newDocument();
+    m_edits->rename(editor()->rootIndex());
+}
+
+/** Shows the details of the first selected subject of the current tab. */
+void MainWindow::showDetails()
+{
+    DetailsPanel *const details = m_tabs->current()->details();
+    details->showSubject(editor()->firstSelectedSpearIndex());
+    auto *const dock = findChild<QDockWidget *>(QStringLiteral("detailsDock"));
+    dock->show();
+    dock->raise();
+    details->focusTitle();
+}
+
+void MainWindow::updateState()
+{
+    const DocumentTab *const tab = m_tabs->current();
+    const FishInfo *const document = tab->document();
+    setWindowTitle(document ? tr("%1[*] – Fishbone").arg(tab->name()) : tr("Fishbone"));
+    setWindowModified(document && document->modified());
+    m_files->updateActions();
+    m_tabCommands->updateActions();
+    for (DiagramCommands *commands : qAsConst(m_commands))
+        commands->updateActions();
+}
+
+void MainWindow::changeEvent(QEvent *event)
+{
+    QMainWindow::changeEvent(event);
+    if (event->type() != QEvent::PaletteChange)
+        return;
+    m_theme->follow(palette());
+    m_actions->updateIcons(palette());
+}
+
+void MainWindow::restoreLayout()
+{
+    resize(1280, 800);
+    const QSettings settings;
+    restoreGeometry(settings.value(QStringLiteral("geometry")).toByteArray());
+    restoreState(settings.value(QStringLiteral("layout")).toByteArray());
+}
+
+void MainWindow::closeEvent(QCloseEvent *event)
+{
+    if (!m_files->mayCloseAll()) {
+        event->ignore();
+        return;
+    }
+    m_files->end();
+    QSettings settings;
+    settings.setValue(QStringLiteral("geometry"), saveGeometry());
+    settings.setValue(QStringLiteral("layout"), saveState());
+    event->accept();
+}
