@@ -22,15 +22,24 @@ def stretches(segments):
         running = runs
 
 
+# How often each condition, told by where it begins and ends, was true and false; a template counts as one.
+def conditions(branches):
+    counts = {}
+    for *place, true, false, _file, _expanded, _kind in branches:
+        before = counts.get(tuple(place), (0, 0))
+        counts[tuple(place)] = (before[0] + true, before[1] + false)
+    return counts
+
+
 # What is left out of one file: line, column, what is said of it, and the text of the source.
 def gaps(path, entry):
     with open(path, encoding="utf-8") as source:
         lines = source.read().splitlines()
     for line, column in stretches(entry["segments"]):
         yield line, column, "does not run", lines[line - 1][column - 1:].strip()
-    for line, column, end, end_column, true, false, *_ in entry["branches"]:
+    for (line, column, end, end_column), counts in conditions(entry["branches"]).items():
         condition = lines[line - 1][column - 1:end_column - 1 if end == line else None]
-        for count, value in ((true, "true"), (false, "false")):
+        for count, value in zip(counts, ("true", "false")):
             if count == 0:
                 yield line, column, f"is never {value}", condition
 
