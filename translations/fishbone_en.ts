@@ -95,6 +95,13 @@
     </message>
 </context>
 <context>
+    <name>CanvasTheme</name>
+    <message>
+        <source>The style is not kept: %1 cannot be written</source>
+        <translation>The style is not kept: %1 cannot be written</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
     <message>
         <source>Show this help and quit.</source>

@@ -95,6 +95,13 @@
     </message>
 </context>
 <context>
+    <name>CanvasTheme</name>
+    <message>
+        <source>The style is not kept: %1 cannot be written</source>
+        <translation>样式未保存：无法写入 %1</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
     <message>
         <source>Show this help and quit.</source>
