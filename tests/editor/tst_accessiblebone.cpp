@@ -67,6 +67,7 @@ private Q_SLOTS:
     void shouldBeInvisibleWhileTheEditorIsHidden();
     void shouldNameWhatTogglingDoes();
     void shouldSelectItAloneAmongSeveral();
+    void shouldHaveNoEntryForNothing();
     void shouldSurviveTheEndOfTheEditorByItsSelection_data();
     void shouldSurviveTheEndOfTheEditorByItsSelection();
 };
@@ -206,6 +207,18 @@ void TestAccessibleBone::shouldSelectItAloneAmongSeveral()
     QCOMPARE(fish.editor.selectedItems(), QList<QGraphicsItem *>{fish.spear(people)});
     bone.doAction(QStringLiteral("no such action"));
     QCOMPARE(fish.editor.selectedItems(), QList<QGraphicsItem *>{fish.spear(people)});
+}
+
+void TestAccessibleBone::shouldHaveNoEntryForNothing()
+{
+    const EditorFixture fish(document);
+    AccessibleDiagram *const diagram = AccessibleDiagram::of(fish.editor.view());
+    QCOMPARE(diagram->bone(nullptr), nullptr);
+    QCOMPARE(diagram->indexOfChild(nullptr), -1);
+    QCOMPARE(diagram->indexOfChild(diagram->bone(fish.spear(people))), -1);
+    QCOMPARE(diagram->child(1), nullptr);
+    QCOMPARE(diagram->text(QAccessible::Help), QString());
+    QCOMPARE(AccessibleDiagram::of(nullptr), nullptr);
 }
 
 void TestAccessibleBone::shouldSurviveTheEndOfTheEditorByItsSelection_data()

@@ -353,6 +353,12 @@ void TestSpearItemLinks::shouldLeaveTheLinksOfOthersAlone()
     other.reset();
     QCOMPARE(spear->treeItem(), node);
 
+    other = std::make_unique<TreeItem>();
+    other->setSpear(spear.get(), QModelIndex());
+    spear->forgetTreeItem();
+    other.reset();
+    QCOMPARE(spear->treeItem(), nullptr);
+
     spear->setModelIndex(drawing.index(machine));
     spear->attachTreeItem(nullptr);
     QVERIFY(!spear->modelIndex().isValid());

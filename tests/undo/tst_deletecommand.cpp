@@ -36,6 +36,7 @@ private Q_SLOTS:
     void shouldAnnounceOneRowEachWay();
     void shouldPutBackAtTheEndOfAListThatOthersShortened();
     void shouldKeepWhatCannotGoBackYet();
+    void shouldKeepAllThatCannotGoBackYet();
     void shouldPutBackAChildThatWentBeforeItsParent();
 
     void shouldTakeAHeadWithItsDocument();
@@ -336,6 +337,22 @@ void TestDeleteCommand::shouldKeepWhatCannotGoBackYet()
     again->setUuid(QStringLiteral("u-A"));
     f.stack->undo();
     QCOMPARE(f.text(), QStringLiteral("H[B,A[a]]"));
+}
+
+void TestDeleteCommand::shouldKeepAllThatCannotGoBackYet()
+{
+    CommandFixture f(QStringLiteral("H[A[a,b,c]]"));
+    f.stack->push(new EditDelete(
+        f.model.get(),
+        f.snapshot({QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")})));
+    TreeItem *const parent = f.model->takeRow(0, f.index("H"));
+    f.stack->undo();
+    QCOMPARE(f.text(), QStringLiteral("H"));
+
+    QVERIFY(f.model->putRow(0, parent, f.index("H")));
+    f.stack->redo(); // finds none of them, and keeps what waits
+    f.stack->undo();
+    QCOMPARE(f.text(), QStringLiteral("H[A[a,b,c]]"));
 }
 
 void TestDeleteCommand::shouldPutBackAChildThatWentBeforeItsParent()

@@ -77,6 +77,8 @@ class TestStructuralCommandsEnding : public QObject
 private Q_SLOTS:
     void shouldSurviveTheEndOfTheModelInEachStep_data();
     void shouldSurviveTheEndOfTheModelInEachStep();
+    void shouldSurviveTheRemovalOfWhatHasMoved();
+    void shouldLeaveWhatItsOldParentCameBelow();
 };
 
 void TestStructuralCommandsEnding::shouldSurviveTheEndOfTheModelInEachStep_data()
@@ -128,6 +130,43 @@ void TestStructuralCommandsEnding::shouldSurviveTheEndOfTheModelInEachStep()
     QVERIFY(endings(make, nothing, redo) > 0);
     QVERIFY(endings(make, redo, undo) > 0);
     QVERIFY(endings(make, redoAndUndo, redo) > 0);
+}
+
+void TestStructuralCommandsEnding::shouldSurviveTheRemovalOfWhatHasMoved()
+{
+    CommandFixture f(QStringLiteral("H[A[x,y],B]"));
+    f.draw();
+    EditMove command(f.model.get(), f.index("B"), 0,
+                     f.snapshot({QStringLiteral("x"), QStringLiteral("y")}));
+    const auto remove = [&f](const char *title) {
+        const QModelIndex index = f.index(title);
+        f.model->removeRows(index.row(), 1, index.parent());
+    };
+    const QMetaObject::Connection first =
+        connect(f.model.get(), &FishModel::rowsMoved, this, [&f, remove] {
+            if (f.node("y")->parent() == f.node("B") && f.node("x"))
+                remove("x");
+        });
+    command.redo();
+    disconnect(first);
+    QCOMPARE(f.text(), QStringLiteral("H[A,B[y]]"));
+
+    connect(f.model.get(), &FishModel::rowsMoved, this, [remove] { remove("y"); });
+    command.undo();
+    QCOMPARE(f.text(), QStringLiteral("H[A,B]"));
+    command.redo();
+    QCOMPARE(f.text(), QStringLiteral("H[A,B]"));
+}
+
+void TestStructuralCommandsEnding::shouldLeaveWhatItsOldParentCameBelow()
+{
+    CommandFixture f(QStringLiteral("H[A[a],B]"));
+    EditMove command(f.model.get(), f.index("B"), 0, f.snapshot({QStringLiteral("a")}));
+    command.redo();
+    QVERIFY(f.model->moveRows(f.index("H"), 0, 1, f.index("a"), 0));
+    QCOMPARE(f.text(), QStringLiteral("H[B[a[A]]]"));
+    command.undo();
+    QCOMPARE(f.text(), QStringLiteral("H[B[a[A]]]"));
 }
 
 QTEST_MAIN(TestStructuralCommandsEnding)
