@@ -68,6 +68,9 @@ private Q_SLOTS:
     void shouldNameWhatTogglingDoes();
     void shouldSelectItAloneAmongSeveral();
     void shouldHaveNoEntryForNothing();
+    void shouldHaveNoEntriesWithoutAScene();
+    void shouldMakeAnEntryAnewThatTheToolkitDeleted();
+    void shouldFocusTheFirstOfSeveral();
     void shouldSurviveTheEndOfTheEditorByItsSelection_data();
     void shouldSurviveTheEndOfTheEditorByItsSelection();
 };
@@ -216,9 +219,59 @@ void TestAccessibleBone::shouldHaveNoEntryForNothing()
     QCOMPARE(diagram->bone(nullptr), nullptr);
     QCOMPARE(diagram->indexOfChild(nullptr), -1);
     QCOMPARE(diagram->indexOfChild(diagram->bone(fish.spear(people))), -1);
+    auto dying = std::make_unique<SpearItem>(QStringLiteral("Dying"), 0, 20.0);
+    const Bone gone(fish.editor.view(), dying.get());
+    dying.reset();
+    QCOMPARE(diagram->indexOfChild(&gone), -1);
     QCOMPARE(diagram->child(1), nullptr);
     QCOMPARE(diagram->text(QAccessible::Help), QString());
     QCOMPARE(AccessibleDiagram::of(nullptr), nullptr);
+}
+
+void TestAccessibleBone::shouldHaveNoEntriesWithoutAScene()
+{
+    EditorFixture fish(document);
+    QVERIFY(fish.show());
+    AccessibleDiagram *const diagram = AccessibleDiagram::of(fish.editor.view());
+    QCOMPARE(diagram->childCount(), 1);
+    fish.editor.view()->setScene(nullptr);
+    QCOMPARE(diagram->childCount(), 0);
+    QCOMPARE(diagram->focusChild(), nullptr);
+    const QPoint middle = fish.editor.mapToGlobal(fish.editor.rect().center());
+    QCOMPARE(diagram->childAt(middle.x(), middle.y()), nullptr);
+    fish.editor.view()->setScene(fish.editor.scene());
+    QCOMPARE(diagram->childCount(), 1);
+}
+
+void TestAccessibleBone::shouldMakeAnEntryAnewThatTheToolkitDeleted()
+{
+    EditorFixture fish(document);
+    AccessibleDiagram *const diagram = AccessibleDiagram::of(fish.editor.view());
+    const auto deleteEntry = [&fish, diagram] {
+        QAccessible::deleteAccessibleInterface(
+            QAccessible::uniqueId(diagram->bone(fish.spear(people))));
+    };
+    deleteEntry();
+    QCOMPARE(diagram->bone(fish.spear(people))->spear(), fish.spear(people));
+
+    deleteEntry();
+    fish.editor.expandAll(); // the drawing is followed once it has come to rest
+    settle();
+    QCOMPARE(diagram->bone(fish.spear(people))->spear(), fish.spear(people));
+}
+
+void TestAccessibleBone::shouldFocusTheFirstOfSeveral()
+{
+    EditorFixture fish(document);
+    QVERIFY(fish.show());
+    fish.editor.activateWindow();
+    fish.editor.view()->setFocus();
+    QVERIFY(QTest::qWaitForWindowActive(&fish.editor));
+    fish.select({people, machines});
+    QVERIFY(Bone(fish.editor.view(), fish.spear(people)).state().focused);
+    const QAccessible::State second = Bone(fish.editor.view(), fish.spear(machines)).state();
+    QVERIFY(second.selected);
+    QVERIFY(!second.focused);
 }
 
 void TestAccessibleBone::shouldSurviveTheEndOfTheEditorByItsSelection_data()
