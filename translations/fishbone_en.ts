@@ -549,10 +549,6 @@ The exit code is 3 when anything is.</translation>
         <translation>Imported diagram</translation>
     </message>
     <message>
-        <source>it is not a JSON document</source>
-        <translation>it is not a JSON document</translation>
-    </message>
-    <message>
         <source>it is not a JSON document (line %1: %2)</source>
         <translation>it is not a JSON document (line %1: %2)</translation>
     </message>
@@ -1599,6 +1595,10 @@ Do you want to save your changes?</translation>
     <message>
         <source>the file name must end in .png, .svg or .pdf</source>
         <translation>the file name must end in .png, .svg or .pdf</translation>
+    </message>
+    <message>
+        <source>there is no such format</source>
+        <translation>there is no such format</translation>
     </message>
 </context>
 <context>

@@ -547,10 +547,6 @@ The exit code is 3 when anything is.</source>
         <translation>导入的鱼骨图</translation>
     </message>
     <message>
-        <source>it is not a JSON document</source>
-        <translation>不是 JSON 文档</translation>
-    </message>
-    <message>
         <source>it is not a JSON document (line %1: %2)</source>
         <translation>不是 JSON 文档（第 %1 行：%2）</translation>
     </message>
@@ -1594,6 +1590,10 @@ Do you want to save your changes?</source>
     <message>
         <source>the file name must end in .png, .svg or .pdf</source>
         <translation>文件名必须以 .png、.svg 或 .pdf 结尾</translation>
+    </message>
+    <message>
+        <source>there is no such format</source>
+        <translation>没有这种格式</translation>
     </message>
 </context>
 <context>

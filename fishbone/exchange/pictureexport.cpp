@@ -118,9 +118,11 @@ Result tooLarge(const QSizeF &size, const QString &limit)
                                  .arg(limit)};
 }
 
-Result cannotEncode()
+Result encoded(bool isEncoded)
 {
-    return {Error::CannotWrite, PictureExport::tr("the drawing cannot be encoded")};
+    return isEncoded
+               ? Result()
+               : Result{Error::CannotWrite, PictureExport::tr("the drawing cannot be encoded")};
 }
 
 Result drawPng(QGraphicsScene &scene, const Frame &frame, const PictureOptions &options,
@@ -152,9 +154,7 @@ Result drawPng(QGraphicsScene &scene, const Frame &frame, const PictureOptions &
     if (!options.title.isEmpty())
         image.setText(QStringLiteral("Title"), options.title);
     QBuffer buffer(&picture);
-    if (!buffer.open(QIODevice::WriteOnly) || !image.save(&buffer, "PNG", pngQuality))
-        return cannotEncode();
-    return {};
+    return encoded(image.save(&buffer, "PNG", pngQuality));
 }
 
 Result drawSvg(QGraphicsScene &scene, const Frame &frame, const PictureOptions &options,
@@ -167,11 +167,9 @@ Result drawSvg(QGraphicsScene &scene, const Frame &frame, const PictureOptions &
     generator.setSize(frame.size.toSize());
     generator.setViewBox(QRectF(QPointF(), frame.size));
     generator.setTitle(options.title.toHtmlEscaped()); // the generator writes it as it is
-    QPainter painter;
-    if (!painter.begin(&generator))
-        return cannotEncode();
+    QPainter painter(&generator);
     draw(painter, scene, frame, options.background);
-    return painter.end() ? Result() : cannotEncode();
+    return encoded(painter.end());
 }
 
 Result drawPdf(QGraphicsScene &scene, const Frame &frame, const PictureOptions &options,
@@ -191,13 +189,11 @@ Result drawPdf(QGraphicsScene &scene, const Frame &frame, const PictureOptions &
     writer.setPageMargins(QMarginsF());
     writer.setTitle(options.title);
     writer.setCreator(QStringLiteral("Fishbone"));
-    QPainter painter;
-    if (!painter.begin(&writer))
-        return cannotEncode();
+    QPainter painter(&writer);
     const double dots = writer.resolution() / pointsPerInch * points;
     painter.scale(dots, dots);
     draw(painter, scene, frame, options.background);
-    return painter.end() ? Result() : cannotEncode();
+    return encoded(painter.end());
 }
 
 Result drawAs(PictureExport::Format format, QGraphicsScene &scene, const Frame &frame,
@@ -211,7 +207,7 @@ Result drawAs(PictureExport::Format format, QGraphicsScene &scene, const Frame &
     case PictureExport::Format::Pdf:
         return drawPdf(scene, frame, options, picture);
     }
-    return {Error::UnknownFormat, QString()};
+    return {Error::UnknownFormat, PictureExport::tr("there is no such format")};
 }
 
 } // namespace
