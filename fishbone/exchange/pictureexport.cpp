@@ -183,7 +183,22 @@ private:
     Drawing &m_drawing;
 };
 
-/** The size of a PNG in pixels; refused before anybody makes room for it. */
+/** The size of a PDF's page in points. */
+QSize pageOf(const QSizeF &size)
+{
+    const double points = pointsPerInch / screenResolution();
+    return {int(std::ceil(size.width() * points)), int(std::ceil(size.height() * points))};
+}
+
+Result checkPdf(const QSizeF &size)
+{
+    const QSize page = pageOf(size);
+    if (std::max(page.width(), page.height()) > PictureExport::maximalPoints)
+        return tooLarge(size, PictureExport::tr("a PDF has at most %1 points (1/72 inch) on a side")
+                                  .arg(PictureExport::maximalPoints));
+    return {};
+}
+
 Result checkPng(const QSizeF &size)
 {
     if (std::max(size.width(), size.height()) > PictureExport::maximalPixels)
@@ -199,9 +214,6 @@ Result drawPng(Drawing &drawing, QByteArray &picture)
 {
     const Frame &frame = drawing.frame();
     const PictureOptions &options = drawing.options();
-    const Result check = checkPng(frame.size);
-    if (!check)
-        return check;
     // Without an alpha channel there is a quarter less to compress.
     const bool isOpaque = options.background.isValid() && options.background.alpha() == 255;
     QImage image(frame.size.toSize(),
@@ -270,24 +282,12 @@ Result drawSvg(Drawing &drawing, QByteArray &picture)
     return drawing.outcome(painter.end() && isPainted);
 }
 
-/** The size of a PDF's page in points. */
-QSize pageOf(const QSizeF &size)
-{
-    const double points = pointsPerInch / screenResolution();
-    return {int(std::ceil(size.width() * points)), int(std::ceil(size.height() * points))};
-}
-
 Result drawPdf(Drawing &drawing, QByteArray &picture)
 {
     const Frame &frame = drawing.frame();
-    const QSize page = pageOf(frame.size);
-    if (std::max(page.width(), page.height()) > PictureExport::maximalPoints)
-        return tooLarge(frame.size,
-                        PictureExport::tr("a PDF has at most %1 points (1/72 inch) on a side")
-                            .arg(PictureExport::maximalPoints));
     Bytes bytes(&picture, drawing);
     QPdfWriter writer(&bytes);
-    writer.setPageSize(QPageSize(page, QString(), QPageSize::ExactMatch));
+    writer.setPageSize(QPageSize(pageOf(frame.size), QString(), QPageSize::ExactMatch));
     writer.setPageMargins(QMarginsF());
     writer.setTitle(drawing.options().title);
     writer.setCreator(QStringLiteral("Fishbone"));
@@ -337,6 +337,21 @@ QSizeF PictureExport::sizeOf(const QRectF &drawing, const PictureOptions &option
     return isUsable(options) && !drawing.isNull() ? frameFor(drawing, options).size : QSizeF();
 }
 
+PictureExport::Result PictureExport::check(Format format, const QSizeF &size)
+{
+    if (std::max(size.width(), size.height()) > maximalUnits)
+        return tooLarge(size, tr("a side has at most %1 units").arg(int(maximalUnits)));
+    switch (format) {
+    case Format::Png:
+        return checkPng(size);
+    case Format::Pdf:
+        return checkPdf(size);
+    case Format::Svg:
+        break;
+    }
+    return {};
+}
+
 double PictureExport::millimetresPerUnit()
 {
     constexpr double millimetresPerInch = 25.4;
@@ -355,8 +370,8 @@ PictureExport::Result PictureExport::render(QGraphicsScene &scene, Format format
     const Frame frame = frameFor(extent.rect, options);
     if (frame.size.isEmpty())
         return {Error::BadOptions, tr("a drawing without height or width needs a margin")};
-    if (std::max(frame.size.width(), frame.size.height()) > maximalUnits)
-        return tooLarge(frame.size, tr("a side has at most %1 units").arg(int(maximalUnits)));
+    if (Result check = PictureExport::check(format, frame.size); !check)
+        return check;
     Drawing drawing(scene, extent, frame, options);
     Result result = drawAs(format, drawing, picture);
     if (result)

@@ -107,6 +107,9 @@ public:
      * included; empty when they make no picture.
      */
     static QSizeF sizeOf(const QRectF &drawing, const PictureOptions &options);
+    /** Whether a picture of @p size picture units can be made: what is too large is refused here,
+     * before anybody makes room for it. */
+    static Result check(Format format, const QSizeF &size);
     /** The millimetres of a PDF's page for each picture unit. */
     static double millimetresPerUnit();
 
