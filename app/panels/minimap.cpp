@@ -22,6 +22,9 @@
 namespace {
 
 constexpr int margin = 4;
+/** Milliseconds from a change of the diagram to a new picture of all of it, which a large one
+ * should not wait for after each key. */
+constexpr int patience = 150;
 
 /** Scrolls @p bar by half of what it shows. */
 void scrollByHalf(QScrollBar *bar, int direction)
@@ -38,6 +41,9 @@ Minimap::Minimap(QWidget *parent)
     setFocusPolicy(Qt::StrongFocus);
     setCursor(Qt::PointingHandCursor);
     setAccessibleName(tr("Overview of the drawing"));
+    m_later.setSingleShot(true);
+    m_later.setInterval(patience);
+    connect(&m_later, &QTimer::timeout, this, &Minimap::forgetPicture);
 }
 
 void Minimap::setSession(DiagramSession *session)
@@ -52,7 +58,8 @@ void Minimap::setSession(DiagramSession *session)
         const auto moved = [this] { update(); };
         GraphicsView *const view = session->editor()->view();
         m_connections = {
-            connect(session, &DiagramSession::stateChanged, this, &Minimap::forgetPicture),
+            connect(session, &DiagramSession::stateChanged, &m_later,
+                    QOverload<>::of(&QTimer::start)),
             connect(session, &DiagramSession::drawingRebuilt, this, &Minimap::forgetPicture),
             connect(session, &QObject::destroyed, this, &Minimap::forgetPicture),
         };
@@ -66,6 +73,7 @@ void Minimap::setSession(DiagramSession *session)
 
 void Minimap::forgetPicture()
 {
+    m_later.stop();
     m_picture = QPixmap();
     update();
 }
