@@ -19,6 +19,8 @@ WorkProgress::WorkProgress(const QString &text, QWidget *window)
     m_dialog.setAutoReset(false); // the last step may take its time, too
     m_dialog.setMaximum(1);
     m_dialog.setValue(0);
+    // However it is closed, it is not to go on unseen.
+    QObject::connect(&m_dialog, &QDialog::rejected, &m_dialog, &QProgressDialog::cancel);
 }
 
 bool WorkProgress::report(int done, int total)

@@ -27,9 +27,9 @@ namespace {
 QByteArray largeDiagram()
 {
     QByteArray bones;
-    for (int i = 0; i < 40; ++i) {
+    for (int i = 0; i < 30; ++i) {
         QByteArray causes;
-        for (int j = 0; j < 60; ++j)
+        for (int j = 0; j < 40; ++j)
             causes += (j > 0 ? "," : "") + QByteArray(R"({"title": "Cause", "status": 5})");
         bones +=
             (i > 0 ? "," : "") + QByteArray(R"({"title": "Bone", "children": [)") + causes + "]}";
