@@ -1291,6 +1291,17 @@ Do you want to save your changes?</translation>
     </message>
 </context>
 <context>
+    <name>LanguageMenu</name>
+    <message>
+        <source>Lang&amp;uage</source>
+        <translation>Lang&amp;uage</translation>
+    </message>
+    <message>
+        <source>Of the &amp;system</source>
+        <translation>Of the &amp;system</translation>
+    </message>
+</context>
+<context>
     <name>LinkOpener</name>
     <message>
         <source>Open link</source>
@@ -2040,10 +2051,6 @@ Do you want to save your changes?</translation>
         <translation>Rotate &amp;left</translation>
     </message>
     <message>
-        <source>&amp;Upright</source>
-        <translation>&amp;Upright</translation>
-    </message>
-    <message>
         <source>&amp;Expand</source>
         <translation>&amp;Expand</translation>
     </message>
@@ -2090,6 +2097,10 @@ Do you want to save your changes?</translation>
     <message>
         <source>S&amp;how full screen</source>
         <translation>S&amp;how full screen</translation>
+    </message>
+    <message>
+        <source>U&amp;pright</source>
+        <translation>U&amp;pright</translation>
     </message>
 </context>
 <context>

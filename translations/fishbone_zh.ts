@@ -1287,6 +1287,17 @@ Do you want to save your changes?</source>
     </message>
 </context>
 <context>
+    <name>LanguageMenu</name>
+    <message>
+        <source>Lang&amp;uage</source>
+        <translation>语言 Language(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Of the &amp;system</source>
+        <translation>系统语言(&amp;S)</translation>
+    </message>
+</context>
+<context>
     <name>LinkOpener</name>
     <message>
         <source>Open link</source>
@@ -2032,10 +2043,6 @@ Do you want to save your changes?</source>
         <translation>向左旋转(&amp;L)</translation>
     </message>
     <message>
-        <source>&amp;Upright</source>
-        <translation>取消旋转(&amp;U)</translation>
-    </message>
-    <message>
         <source>&amp;Expand</source>
         <translation>展开(&amp;E)</translation>
     </message>
@@ -2082,6 +2089,10 @@ Do you want to save your changes?</source>
     <message>
         <source>S&amp;how full screen</source>
         <translation>全屏(&amp;H)</translation>
+    </message>
+    <message>
+        <source>U&amp;pright</source>
+        <translation>取消旋转(&amp;P)</translation>
     </message>
 </context>
 <context>

@@ -3,6 +3,7 @@
 
 #include <app/documents/documenttabs.h>
 
+#include <app/common/language.h>
 #include <app/diagram/diagramsession.h>
 #include <app/documents/documenttab.h>
 
@@ -33,7 +34,7 @@ DocumentTabs::DocumentTabs(CanvasTheme *theme, QWidget *parent)
     m_tabs->setElideMode(Qt::ElideMiddle);
     m_tabs->setUsesScrollButtons(true);
     QTabBar *const bar = m_tabs->tabBar();
-    bar->setAccessibleName(tr("Open documents"));
+    Language::bind(bar, &QWidget::setAccessibleName, [] { return tr("Open documents"); });
     bar->setChangeCurrentOnDrag(true);
     bar->setContextMenuPolicy(Qt::CustomContextMenu);
     bar->installEventFilter(this);
@@ -42,6 +43,7 @@ DocumentTabs::DocumentTabs(CanvasTheme *theme, QWidget *parent)
     connect(m_tabs, &QTabWidget::tabCloseRequested, this,
             [this](int position) { Q_EMIT closeRequested({tabAt(position)}); });
     connect(m_tabs, &QTabWidget::currentChanged, this, &DocumentTabs::follow);
+    Language::bind(this, [this] { refresh(); });
 }
 
 DocumentTabs::~DocumentTabs()
