@@ -749,6 +749,18 @@ The exit code is 3 when anything is.</translation>
         <source>Copy &amp;path</source>
         <translation>Copy &amp;path</translation>
     </message>
+    <message>
+        <source>Scroll left</source>
+        <translation>Scroll left</translation>
+    </message>
+    <message>
+        <source>Scroll right</source>
+        <translation>Scroll right</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Close</translation>
+    </message>
 </context>
 <context>
     <name>DrawingPrinter</name>
@@ -1379,6 +1391,22 @@ Do you want to save your changes?</translation>
     <message>
         <source>Overview</source>
         <translation>Overview</translation>
+    </message>
+    <message>
+        <source>Float</source>
+        <translation>Float</translation>
+    </message>
+    <message>
+        <source>Takes the panel out of the window, or back into it</source>
+        <translation>Takes the panel out of the window, or back into it</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>Closes the panel</source>
+        <translation>Closes the panel</translation>
     </message>
 </context>
 <context>

@@ -747,6 +747,18 @@ The exit code is 3 when anything is.</source>
         <source>Copy &amp;path</source>
         <translation>复制路径(&amp;P)</translation>
     </message>
+    <message>
+        <source>Scroll left</source>
+        <translation>向左滚动</translation>
+    </message>
+    <message>
+        <source>Scroll right</source>
+        <translation>向右滚动</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
 </context>
 <context>
     <name>DrawingPrinter</name>
@@ -1374,6 +1386,22 @@ Do you want to save your changes?</source>
     <message>
         <source>Overview</source>
         <translation>概览</translation>
+    </message>
+    <message>
+        <source>Float</source>
+        <translation>浮动</translation>
+    </message>
+    <message>
+        <source>Takes the panel out of the window, or back into it</source>
+        <translation>把面板移出窗口，或放回窗口</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>Closes the panel</source>
+        <translation>关闭面板</translation>
     </message>
 </context>
 <context>

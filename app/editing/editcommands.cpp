@@ -4,6 +4,7 @@
 #include <app/editing/editcommands.h>
 
 #include <app/common/actionset.h>
+#include <app/common/language.h>
 #include <app/diagram/diagramsession.h>
 #include <app/diagram/subjectedit.h>
 #include <app/editing/subjectclipboard.h>
@@ -149,7 +150,7 @@ void EditCommands::insertAndRename()
     if (!selected.isValid())
         return;
     auto insertion = std::make_unique<Command>(m_session->model(), selected);
-    auto *const step = new CommandGroup(insertion->text()); // the stack takes it over
+    auto *const step = new CommandGroup(insertion->name()); // the stack takes it over
     step->add(std::move(insertion));
     const QModelIndex inserted = m_session->insert([&] {
         m_editor->undoStack()->push(step);

@@ -345,7 +345,8 @@ void DetailsPanel::apply()
     const QJsonObject state =
         changedAs(EditAttributes::stateOf(*subject), m_shown, EditAttributes::stateOf(entered));
     setChanged(false); // before anybody hears of the change and shows it here
-    SubjectEdit::replace(*m_session, m_index, tr("Edit details"), state);
+    SubjectEdit::replace(
+        *m_session, m_index, [] { return tr("Edit details"); }, state);
     revert();
 }
 

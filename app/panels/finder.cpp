@@ -206,7 +206,7 @@ int Finder::replaceIn(const QModelIndexList &hits)
     const int count = command->count();
     if (count == 0)
         return 0;
-    command->setText(tr("Replace %n text(s)", nullptr, count));
+    command->setText([count] { return tr("Replace %n text(s)", nullptr, count); });
     m_session->editor()->undoStack()->push(command.release()); // which takes it over
     m_session->touch();
     return count;

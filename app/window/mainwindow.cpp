@@ -42,6 +42,7 @@
 #include <fishbone/model/fishmodel.h>
 #include <fishbone/model/treeitem.h>
 
+#include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
@@ -52,6 +53,26 @@
 #include <QStackedWidget>
 #include <QStatusBar>
 #include <QUrl>
+
+namespace {
+
+/** The toolkit names the buttons in the title of a dock once and for all. */
+void nameTitleButtons(const QDockWidget &dock)
+{
+    const auto name = [&dock](const char *button, const QString &text, const QString &description) {
+        auto *const found = dock.findChild<QAbstractButton *>(QLatin1String(button));
+        if (!found)
+            return;
+        found->setToolTip(text);
+        found->setAccessibleName(text);
+        found->setAccessibleDescription(description);
+    };
+    name("qt_dockwidget_floatbutton", MainWindow::tr("Float"),
+         MainWindow::tr("Takes the panel out of the window, or back into it"));
+    name("qt_dockwidget_closebutton", MainWindow::tr("Close"), MainWindow::tr("Closes the panel"));
+}
+
+} // namespace
 
 MainWindow::MainWindow(QWidget *parent)
     : QMainWindow(parent)
@@ -135,6 +156,7 @@ QDockWidget *MainWindow::addDock(const char *name, const Language::Text &title,
 {
     auto *const dock = new QDockWidget(this);
     Language::bind(dock, &QWidget::setWindowTitle, title);
+    Language::bind(dock, [dock] { nameTitleButtons(*dock); });
     dock->setObjectName(QLatin1String(name));
     dock->setWidget(contents);
     addDockWidget(area, dock);
