@@ -36,10 +36,12 @@ namespace {
 constexpr int noStatus = -1;
 constexpr int iconSize = 20;
 
-/** Any number that a document may hold. */
+/** Any number that a document may hold, with room for those that are usual. */
 void allowAnyNumber(QSpinBox &box)
 {
+    constexpr int usual = 80;
     box.setRange(std::numeric_limits<int>::min(), std::numeric_limits<int>::max());
+    box.setMinimumWidth(usual);
 }
 
 /** @p state with what differs between @p from and @p to as it is in the latter. */
@@ -123,6 +125,7 @@ void DetailsPanel::showTexts()
                                tr("under way"), tr("waiting"),       tr("waiting for approval")};
     for (int row = 0; row < statuses.size(); ++row)
         m_status->setItemText(row, statuses.at(row));
+    m_status->setMinimumWidth(m_status->sizeHint().width()); // of its own it keeps the first one
     m_openLink->setText(tr("Open"));
     m_style->setText(tr("Edit style…"));
     m_apply->setText(tr("&Apply"));
@@ -144,8 +147,7 @@ void DetailsPanel::setUpFields()
         const TaskStatusInfo info{TaskStatus(status), 0};
         m_status->addItem(QIcon(info.iconPath()), QString(), status);
     }
-    m_status->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    m_status->setMinimumContentsLength(8);
+    m_status->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     allowAnyNumber(*m_progress);
     allowAnyNumber(*m_priority);
     m_progress->setSuffix(QStringLiteral(" %"));
@@ -153,6 +155,7 @@ void DetailsPanel::setUpFields()
     m_statusIcon->setFixedSize(iconSize, iconSize);
     m_plannedEnd->setCalendarPopup(true);
     m_plannedEnd->setDisplayFormat(QStringLiteral("yyyy-MM-dd"));
+    m_plannedEnd->setMinimumWidth(m_plannedEnd->sizeHint().width());
     m_plannedEnd->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     m_detail->setTabChangesFocus(true);
     // Too wide to stand beside their labels: these get the whole width of the panel.

@@ -177,7 +177,7 @@ void MainWindow::addDocks()
         "historyDock", [] { return tr("History"); }, Qt::RightDockWidgetArea, m_histories);
     QDockWidget *const overview = addDock(
         "overviewDock", [] { return tr("Overview"); }, Qt::LeftDockWidgetArea, m_overview);
-    resizeDocks({trees, details}, {240, 280}, Qt::Horizontal);
+    resizeDocks({trees, details}, {240, 300}, Qt::Horizontal);
     resizeDocks({details, histories}, {500, 160}, Qt::Vertical);
     resizeDocks({trees, overview}, {500, 160}, Qt::Vertical);
 }
