@@ -76,10 +76,12 @@ void Language::install(const QString &language)
 
 QLocale Language::locale() const
 {
-    if (m_installed.isEmpty())
-        return m_system;
-    return m_installed == QLatin1String("zh") ? QLocale(QLocale::Chinese, QLocale::China)
-                                              : QLocale(m_installed);
+    const QLocale wanted = m_installed == QLatin1String("zh")
+                               ? QLocale(QLocale::Chinese, QLocale::China)
+                               : QLocale(m_installed);
+    // Whoever speaks the language anyway writes numbers and dates as at home.
+    const bool isSystems = m_installed.isEmpty() || wanted.language() == m_system.language();
+    return isSystems ? m_system : wanted;
 }
 
 QString Language::installed()
