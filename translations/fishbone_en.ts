@@ -1309,8 +1309,8 @@ Do you want to save your changes?</translation>
         <translation>Lang&amp;uage</translation>
     </message>
     <message>
-        <source>Of the &amp;system</source>
-        <translation>Of the &amp;system</translation>
+        <source>&amp;System language</source>
+        <translation>&amp;System language</translation>
     </message>
 </context>
 <context>

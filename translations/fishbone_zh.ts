@@ -1305,7 +1305,7 @@ Do you want to save your changes?</source>
         <translation>语言 Language(&amp;U)</translation>
     </message>
     <message>
-        <source>Of the &amp;system</source>
+        <source>&amp;System language</source>
         <translation>系统语言(&amp;S)</translation>
     </message>
 </context>

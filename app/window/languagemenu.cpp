@@ -3,6 +3,8 @@
 
 #include <app/window/languagemenu.h>
 
+#include <app/common/language.h>
+
 #include <QActionGroup>
 
 LanguageMenu::LanguageMenu(QWidget *parent)
@@ -11,7 +13,7 @@ LanguageMenu::LanguageMenu(QWidget *parent)
 {
     setObjectName(QStringLiteral("languageMenu"));
     Language::bind(this, &QMenu::setTitle, [] { return tr("Lang&uage"); });
-    add(QString(), "languageSystem", [] { return tr("Of the &system"); });
+    add(QString(), "languageSystem", [] { return tr("&System language"); });
     addSeparator();
     // Each in itself, for those who do not read the one that is shown.
     add(QStringLiteral("en"), "languageEnglish", [] { return QStringLiteral("&English"); });

@@ -54,7 +54,7 @@ SpearStyleDialog::SpearStyleDialog(SpearStyle &style, bool modal, QWidget *paren
     , m_textCount(new QLineEdit(this))
     , m_inheritanceParent(new QCheckBox(this))
     , m_state(new QComboBox(this))
-    , m_previewText(new QLineEdit(tr("Preview 预览测试 ABC xyz"), this))
+    , m_previewText(new QLineEdit(this))
     , m_preview(new QLabel(this))
 {
     setModal(modal);
@@ -90,6 +90,8 @@ void SpearStyleDialog::showTexts()
     m_inheritanceParent->setText(tr("InheritanceParent"));
     m_previewText->setAccessibleName(tr("Preview"));
     setItemTexts(m_state, {tr("ssNormal"), tr("ssSelected"), tr("ssHovered"), tr("ssLinked")});
+    if (!m_previewText->isModified())
+        m_previewText->setText(tr("Preview 预览测试 ABC xyz"));
 }
 
 void SpearStyleDialog::buildLayout()

@@ -9,18 +9,29 @@
 #include <tests/support/shownvalues.h>
 
 #include <fishbone/dialogs/replacefinddialog.h>
+#include <fishbone/dialogs/urldialog.h>
+#include <fishbone/style/penselect.h>
+#include <fishbone/style/spearstyle.h>
+#include <fishbone/style/spearstyledialog.h>
 
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDateEdit>
 #include <QLineEdit>
 #include <QMenu>
+#include <QPen>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QSettings>
 #include <QSpinBox>
 #include <QStatusBar>
+
+#include <functional>
+#include <memory>
+
+using MakeDialog = std::function<std::unique_ptr<QDialog>()>;
+Q_DECLARE_METATYPE(MakeDialog)
 
 namespace {
 
@@ -87,6 +98,8 @@ private Q_SLOTS:
     void shouldShowWhatAWindowShowsThatWasMadeInTheLanguage_data();
     void shouldShowWhatAWindowShowsThatWasMadeInTheLanguage();
     void shouldGoBackToTheLanguageOfTheSystem();
+    void shouldTranslateADialogThatIsOpen_data();
+    void shouldTranslateADialogThatIsOpen();
 
     void shouldKeepWhatIsTyped();
     void shouldKeepATitleThatIsEditedInThePlace();
@@ -152,6 +165,35 @@ void TestLanguageSwitch::shouldGoBackToTheLanguageOfTheSystem()
     Language::install(QString());
     FullWindow::settle();
     verifySame(full.values(), before);
+}
+
+void TestLanguageSwitch::shouldTranslateADialogThatIsOpen_data()
+{
+    QTest::addColumn<MakeDialog>("make");
+
+    QTest::newRow("URL") << MakeDialog([] { return std::make_unique<URLDialog>(); });
+    QTest::newRow("find") << MakeDialog([] { return std::make_unique<ReplaceFindDialog>(); });
+    QTest::newRow("style") << MakeDialog(
+        [] { return std::make_unique<SpearStyleDialog>(*SpearStyle::global()); });
+    QTest::newRow("pen") << MakeDialog([] { return std::make_unique<PenSelect>(QPen()); });
+}
+
+void TestLanguageSwitch::shouldTranslateADialogThatIsOpen()
+{
+    QFETCH(MakeDialog, make);
+
+    Language::install(QStringLiteral("zh"));
+    const std::unique_ptr<QDialog> switched = make();
+    switched->show();
+    AppFixture::settle();
+    const QStringList before = TestSupport::shownValues(*switched);
+    Language::install(QStringLiteral("en"));
+    AppFixture::settle();
+    const std::unique_ptr<QDialog> made = make();
+    made->show();
+    AppFixture::settle();
+    QVERIFY(TestSupport::shownValues(*switched) != before);
+    verifySame(TestSupport::shownValues(*switched), TestSupport::shownValues(*made));
 }
 
 void TestLanguageSwitch::shouldKeepWhatIsTyped()
@@ -289,7 +331,7 @@ void TestLanguageSwitch::shouldNameTheHistory()
                           QStringLiteral("Delete subjects")}));
     Language::choose(QStringLiteral("zh"));
     AppFixture::settle();
-    QCOMPARE(rows(), QStringList({QStringLiteral("（开始）"), QStringLiteral("插入子主题"),
+    QCOMPARE(rows(), QStringList({QStringLiteral("（初始状态）"), QStringLiteral("插入子主题"),
                                   QStringLiteral("删除所选主题")}));
 }
 
