@@ -707,24 +707,16 @@ The exit code is 3 when anything is.</translation>
         <translation>Copy written to %1</translation>
     </message>
     <message>
-        <source>%1 cannot be written.</source>
-        <translation>%1 cannot be written.</translation>
-    </message>
-    <message>
         <source>%1 saved</source>
         <translation>%1 saved</translation>
     </message>
     <message>
-        <source>Close</source>
-        <translation>Close</translation>
-    </message>
-    <message>
-        <source>%1 has changes that are not saved.</source>
-        <translation>%1 has changes that are not saved.</translation>
-    </message>
-    <message>
         <source>Another program has changed %1 since it was opened or saved here. Replace it, so that those changes are lost?</source>
         <translation>Another program has changed %1 since it was opened or saved here. Replace it, so that those changes are lost?</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2.</source>
+        <translation>%1 cannot be written: %2.</translation>
     </message>
 </context>
 <context>
@@ -1178,6 +1170,14 @@ Do you want to save your changes?</translation>
     <message>
         <source>FishInfo</source>
         <translation>Unsaved changes</translation>
+    </message>
+    <message>
+        <source>no model shows the document</source>
+        <translation>no model shows the document</translation>
+    </message>
+    <message>
+        <source>the diagram nests too deep to be read again</source>
+        <translation>the diagram nests too deep to be read again</translation>
     </message>
 </context>
 <context>

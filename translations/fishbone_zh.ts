@@ -705,24 +705,16 @@ The exit code is 3 when anything is.</source>
         <translation>副本已写入 %1</translation>
     </message>
     <message>
-        <source>%1 cannot be written.</source>
-        <translation>无法写入 %1。</translation>
-    </message>
-    <message>
         <source>%1 saved</source>
         <translation>已保存 %1</translation>
     </message>
     <message>
-        <source>Close</source>
-        <translation>关闭</translation>
-    </message>
-    <message>
-        <source>%1 has changes that are not saved.</source>
-        <translation>%1 有尚未保存的更改。</translation>
-    </message>
-    <message>
         <source>Another program has changed %1 since it was opened or saved here. Replace it, so that those changes are lost?</source>
         <translation>自从在此处打开或保存以来，另一个程序更改了 %1。要替换它并丢失那些更改吗？</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2.</source>
+        <translation>无法写入 %1：%2。</translation>
     </message>
 </context>
 <context>
@@ -1174,6 +1166,14 @@ Do you want to save your changes?</source>
     <message>
         <source>FishInfo</source>
         <translation>未保存的更改</translation>
+    </message>
+    <message>
+        <source>no model shows the document</source>
+        <translation>没有模型显示该文档</translation>
+    </message>
+    <message>
+        <source>the diagram nests too deep to be read again</source>
+        <translation>图的嵌套层次太深，无法再次读取</translation>
     </message>
 </context>
 <context>

@@ -85,13 +85,16 @@ bool DocumentSaver::saveCopy(DocumentTab *tab)
     return true;
 }
 
-/** Writes the file and nothing else. */
+/** Writes the document, with what is typed into its fields, and nothing else. */
 bool DocumentSaver::write(DocumentTab *tab, const QString &path)
 {
+    tab->takeTyped();
     if (tab->document()->saveFile(path))
         return true;
-    QMessageBox::warning(m_window, tr("Save"),
-                         tr("%1 cannot be written.").arg(path.toHtmlEscaped()));
+    QMessageBox::warning(
+        m_window, tr("Save"),
+        tr("%1 cannot be written: %2.")
+            .arg(path.toHtmlEscaped(), tab->document()->saveError().toHtmlEscaped()));
     return false;
 }
 
@@ -110,14 +113,7 @@ bool DocumentSaver::writeTo(DocumentTab *tab, const QString &path)
 
 bool DocumentSaver::mayClose(DocumentTab *tab)
 {
-    if (!tab->document() || !tab->document()->modified())
-        return true;
     const QPointer<DocumentTab> alive(tab); // the question runs an event loop
-    const auto answer = QMessageBox::warning(
-        m_window, tr("Close"),
-        tr("%1 has changes that are not saved.").arg(tab->name().toHtmlEscaped()),
-        QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, QMessageBox::Save);
-    if (!alive || answer == QMessageBox::Discard)
-        return true;
-    return answer == QMessageBox::Save && save(tab);
+    const auto save = [this, alive] { return alive && this->save(alive); };
+    return !tab->document() || tab->document()->maybeSave(save);
 }

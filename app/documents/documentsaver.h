@@ -27,7 +27,7 @@ public:
      * and as modified as it is. */
     bool saveCopy(DocumentTab *tab);
 
-    /** Whether the document may go: unmodified, saved, or given up by the user. */
+    /** Asks the document whether it may go: unmodified, saved, or given up by the user. */
     bool mayClose(DocumentTab *tab);
 
     /** The file dialogs' filter for diagrams. */

@@ -10,6 +10,7 @@
 #include <app/diagram/drawingstate.h>
 #include <app/documents/fileconflict.h>
 #include <app/editing/canvasgestures.h>
+#include <app/editing/titleeditor.h>
 #include <app/panels/detailspanel.h>
 #include <app/panels/historypanel.h>
 #include <app/panels/subjecttree.h>
@@ -110,6 +111,12 @@ QString DocumentTab::path() const
 {
     const FishInfo *const shown = document();
     return shown && !shown->isUntitled() ? shown->fileName() : QString();
+}
+
+void DocumentTab::takeTyped()
+{
+    TitleEditor::finishIn(*m_editor);
+    m_details->apply();
 }
 
 void DocumentTab::takeLook(const DocumentTab &other)

@@ -51,6 +51,8 @@ public:
     /** The path of the document's file, empty while it has none. */
     QString path() const;
 
+    /** Takes what was typed into fields and not taken yet: a title on the drawing, the details. */
+    void takeTyped();
     /** Makes the drawing look as that in @p other, as far as it has the same subjects. */
     void takeLook(const DocumentTab &other);
 

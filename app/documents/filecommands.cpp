@@ -304,7 +304,10 @@ void FileCommands::saveAll()
 {
     const QList<QPointer<DocumentTab>> tabs = openAmong(m_tabs->tabs());
     for (const QPointer<DocumentTab> &tab : tabs) {
-        if (tab && tab->document()->modified() && !m_saver->save(tab))
+        if (!tab)
+            continue;
+        tab->takeTyped();
+        if (tab->document()->modified() && !m_saver->save(tab))
             return;
     }
 }
@@ -373,7 +376,8 @@ QList<QPointer<DocumentTab>> FileCommands::openAmong(const QList<DocumentTab *> 
 
 bool FileCommands::mayClose(DocumentTab *tab)
 {
-    if (tab->document()->modified())
+    tab->takeTyped();
+    if (tab->document() && tab->document()->modified())
         m_tabs->setCurrent(tab); // so that the user sees what the question is about
     return m_saver->mayClose(tab);
 }

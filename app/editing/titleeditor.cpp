@@ -48,6 +48,14 @@ void TitleEditor::open(FishEditor *editor, const QModelIndex &index, const QStri
         field->setText(typed);
 }
 
+void TitleEditor::finishIn(const FishEditor &editor)
+{
+    const QList<TitleEditor *> fields = editor.view()->viewport()->findChildren<TitleEditor *>(
+        QString(), Qt::FindDirectChildrenOnly);
+    for (TitleEditor *field : fields)
+        field->finish();
+}
+
 TitleEditor::TitleEditor(FishEditor *editor, const QModelIndex &index, CommandGroup *step)
     : QLineEdit(subjectAt(*editor, index)->title(), editor->view()->viewport())
     , m_editor(editor)
@@ -59,7 +67,6 @@ TitleEditor::TitleEditor(FishEditor *editor, const QModelIndex &index, CommandGr
     place();
     connect(this, &QLineEdit::textChanged, this, &TitleEditor::place);
     connect(this, &QLineEdit::editingFinished, this, &TitleEditor::finish);
-    connect(editor->scene(), &QGraphicsScene::changed, this, &TitleEditor::place);
     parentWidget()->installEventFilter(this);
     const auto endStep = [this] { m_step.clear(); };
     connect(editor->undoStack(), &UndoStack::stackChanged, this, endStep);

@@ -26,6 +26,8 @@ public:
      * a part of @p step, which has inserted the subject, as long as that is the latest one. */
     static void open(FishEditor *editor, const QModelIndex &index, const QString &typed,
                      CommandGroup *step = nullptr);
+    /** Takes the new title of the field that is open in @p editor, if there is one. */
+    static void finishIn(const FishEditor &editor);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;

@@ -23,6 +23,9 @@
 namespace {
 
 constexpr int margin = 4;
+/** Milliseconds from a change of the diagram to a new picture of all of it, which a large one
+ * should not wait for after each key. */
+constexpr int patience = 150;
 
 /** Scrolls @p bar by half of what it shows. */
 void scrollByHalf(QScrollBar *bar, int direction)
@@ -39,6 +42,9 @@ Minimap::Minimap(QWidget *parent)
     setFocusPolicy(Qt::StrongFocus);
     setCursor(Qt::PointingHandCursor);
     Language::bind(this, &QWidget::setAccessibleName, [] { return tr("Overview of the drawing"); });
+    m_later.setSingleShot(true);
+    m_later.setInterval(patience);
+    connect(&m_later, &QTimer::timeout, this, &Minimap::forgetPicture);
 }
 
 void Minimap::setSession(DiagramSession *session)
@@ -53,7 +59,8 @@ void Minimap::setSession(DiagramSession *session)
         const auto moved = [this] { update(); };
         GraphicsView *const view = session->editor()->view();
         m_connections = {
-            connect(session, &DiagramSession::stateChanged, this, &Minimap::forgetPicture),
+            connect(session, &DiagramSession::stateChanged, &m_later,
+                    QOverload<>::of(&QTimer::start)),
             connect(session, &DiagramSession::drawingRebuilt, this, &Minimap::forgetPicture),
             connect(session, &QObject::destroyed, this, &Minimap::forgetPicture),
         };
@@ -67,6 +74,7 @@ void Minimap::setSession(DiagramSession *session)
 
 void Minimap::forgetPicture()
 {
+    m_later.stop();
     m_picture = QPixmap();
     update();
 }

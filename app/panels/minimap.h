@@ -8,6 +8,7 @@
 #include <QPixmap>
 #include <QPointer>
 #include <QRectF>
+#include <QTimer>
 #include <QWidget>
 
 class DiagramSession;
@@ -50,4 +51,5 @@ private:
     QList<QMetaObject::Connection> m_connections;
     QRectF m_drawing;  ///< the part of the scene that the picture shows
     QPixmap m_picture; ///< null when it has to be made
+    QTimer m_later;    ///< runs while the picture is that of a drawing before its latest change
 };

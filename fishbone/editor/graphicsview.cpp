@@ -74,7 +74,10 @@ GraphicsView::GraphicsView(FishEditor *editor)
 
 QList<QGraphicsItem *> GraphicsView::itemsAround(const QPoint &pos) const
 {
-    return items(QRect(pos - QPoint(5, 5), pos + QPoint(4, 4)), Qt::IntersectsItemShape);
+    // Whoever makes events may put the mouse where a rectangle around it would overflow.
+    const QPoint at(qBound(-QWIDGETSIZE_MAX, pos.x(), QWIDGETSIZE_MAX),
+                    qBound(-QWIDGETSIZE_MAX, pos.y(), QWIDGETSIZE_MAX));
+    return items(QRect(at - QPoint(5, 5), at + QPoint(4, 4)), Qt::IntersectsItemShape);
 }
 
 SpearItem *GraphicsView::topmostSpearAround(const QPoint &pos) const

@@ -118,15 +118,17 @@ bool FishInfo::saveFile(const QString &fileName)
 {
     if (!m_model) {
         DocumentFile::makeEmpty(fileName);
+        m_saveError = tr("no model shows the document");
         return false;
     }
-    QJsonObject root;
     const QByteArray text = documentText(*m_treeItem);
     if (text.isEmpty()) {
-        qDebug() << "FishInfo::saveFile: the diagram nests too deep to be read again";
-        return false;
+        m_saveError = tr("the diagram nests too deep to be read again");
+        qDebug() << "FishInfo::saveFile:" << m_saveError;
+    } else {
+        m_saveError = replaceFile(fileName, text);
     }
-    return replaceFile(fileName, text).isEmpty();
+    return m_saveError.isEmpty();
 }
 
 bool FishInfo::save()
@@ -145,6 +147,11 @@ bool FishInfo::saveAs()
 }
 
 bool FishInfo::maybeSave()
+{
+    return maybeSave([this] { return save(); });
+}
+
+bool FishInfo::maybeSave(const std::function<bool()> &save)
 {
     if (!m_modified)
         return true;

@@ -10,6 +10,7 @@
 #include <QPointer>
 #include <QStringList>
 
+#include <functional>
 #include <memory>
 
 class FishModel;
@@ -83,14 +84,22 @@ public:
      * Writes the diagram to @p fileName, whole or not at all; the old content stays when it fails.
      * A file in a folder that is not writable is written in place. False also for a tree that nests
      * too deep to be read again, and, leaving an empty file, for a document without a model.
+     * saveError() tells which.
      */
     bool saveFile(const QString &fileName);
+    /** Why the last saveFile() failed, in the user's language; empty when it did not. */
+    QString saveError() const { return m_saveError; }
     /** saveFile() under the document's name, or saveAs() while it has none. */
     bool save();
     /** Asks for a file and writes it. The document keeps its name and its flags. */
     bool saveAs();
     /** Offers to save unsaved changes; false when the user cancels or saving fails. */
     bool maybeSave();
+    /**
+     * maybeSave() for a host that saves in its own way: the answer to save is that of @p save,
+     * which is called instead of save() and may delete the document.
+     */
+    bool maybeSave(const std::function<bool()> &save);
     /**
      * Autosave: writes autoSaveFile(), or a new file named after the model's first head in the
      * application's autosave folder. False, with nothing touched, without a model or a head.
@@ -119,6 +128,7 @@ private:
 
     QString m_curFile;
     QString m_autoSaveFile;
+    QString m_saveError;
     std::unique_ptr<TreeItem> m_treeItem;
     bool m_modified = false;
     bool m_isUntitled = true;

@@ -9,6 +9,7 @@
 #include <app/recovery/recoverystore.h>
 
 #include <QFileDialog>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QStatusBar>
 #include <QTcpServer>
@@ -30,6 +31,10 @@ private Q_SLOTS:
     void shouldSaveUnderAnotherName();
     void shouldLeaveTheDocumentWhenSavingIsCancelled();
     void shouldSayThatAFileCannotBeWritten();
+    void shouldSaveWhatIsTypedIntoTheDetails();
+    void shouldSaveWhatIsTypedIntoATitle();
+    void shouldAskBeforeWhatIsTypedGoes_data();
+    void shouldAskBeforeWhatIsTypedGoes();
     void shouldSaveAll();
     void shouldOpenTheChosenFile();
     void shouldMakeANewDocumentOfATemplate();
@@ -118,10 +123,64 @@ void TestFileCommands::shouldSayThatAFileCannotBeWritten()
     app.trigger("delete");
     QVERIFY(QFile::remove(app.path()));
     QVERIFY(QDir().mkdir(app.path())); // a folder stands in the way
-    const ModalDriver<QMessageBox> driver(press(QMessageBox::Ok));
+    QString shown;
+    const ModalDriver<QMessageBox> driver([&shown](QMessageBox &box) {
+        shown = box.text();
+        press(QMessageBox::Ok)(box);
+    });
     app.trigger("save");
     QVERIFY(driver.isDone());
     QVERIFY(app.window.isWindowModified());
+    const QString reason = app.document()->saveError();
+    QVERIFY(!reason.isEmpty());
+    QCOMPARE(shown, QStringLiteral("%1 cannot be written: %2.").arg(app.path(), reason));
+}
+
+void TestFileCommands::shouldSaveWhatIsTypedIntoTheDetails()
+{
+    AppFixture app;
+    app.select("Machines");
+    app.trigger("details");
+    QTest::keyClicks(app.widget<QLineEdit>("detailsTitle"), QStringLiteral("Tools"));
+    app.trigger("save");
+    QVERIFY(AppFixture::contentOf(app.path()).contains("Tools"));
+    QVERIFY(!app.window.isWindowModified());
+}
+
+void TestFileCommands::shouldSaveWhatIsTypedIntoATitle()
+{
+    AppFixture app;
+    app.select("Machines");
+    QTest::keyClick(app.window.editor()->view(), Qt::Key_F2);
+    QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("Tools"));
+    app.trigger("save"); // from the menu or the tool bar, which takes no focus
+    QVERIFY(AppFixture::contentOf(app.path()).contains("Tools"));
+    QVERIFY(!app.window.isWindowModified());
+}
+
+void TestFileCommands::shouldAskBeforeWhatIsTypedGoes_data()
+{
+    QTest::addColumn<bool>("isInDetails");
+    QTest::newRow("details") << true;
+    QTest::newRow("title") << false;
+}
+
+void TestFileCommands::shouldAskBeforeWhatIsTypedGoes()
+{
+    QFETCH(bool, isInDetails);
+    AppFixture app;
+    app.select("Machines");
+    if (isInDetails)
+        app.trigger("details");
+    else
+        QTest::keyClick(app.window.editor()->view(), Qt::Key_F2);
+    QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("Tools"));
+    QVERIFY(!app.window.isWindowModified());
+    const ModalDriver<QMessageBox> driver(press(QMessageBox::Save));
+    app.trigger("close");
+    QVERIFY(driver.isDone());
+    QCOMPARE(app.tabCount(), 0);
+    QVERIFY(AppFixture::contentOf(app.path()).contains("Tools"));
 }
 
 void TestFileCommands::shouldSaveAll()

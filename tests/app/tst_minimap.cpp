@@ -122,7 +122,7 @@ void TestMinimap::followsTheDiagram()
     app.select("Machines");
     app.trigger("after");
     app.settle();
-    QVERIFY(map->grab().toImage() != before);
+    QTRY_VERIFY(map->grab().toImage() != before);
 }
 
 void TestMinimap::showsTheCurrentTab()

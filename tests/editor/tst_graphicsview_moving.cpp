@@ -6,6 +6,8 @@
 #include <fishbone/items/textitem.h>
 #include <tests/editor/movingstage.h>
 
+#include <limits>
+
 using namespace TestSupport;
 
 /// Spears that are moved with the left button held.
@@ -17,6 +19,8 @@ private Q_SLOTS:
     void shouldMarkTheSpearUnderTheMouse();
     void shouldMarkWithinTenPixels_data();
     void shouldMarkWithinTenPixels();
+    void shouldMarkNothingBeyondAllNumbers_data();
+    void shouldMarkNothingBeyondAllNumbers();
     void shouldMarkTheBottomMostSpear();
     void shouldMarkNoSelectedSpear();
     void shouldMarkNothingUnlessPressed();
@@ -80,6 +84,29 @@ void TestGraphicsViewMoving::shouldMarkWithinTenPixels()
 
     QCOMPARE(target->isLinked(), isMarked);
     QCOMPARE(stage.view.linkedSpear() == target, isMarked);
+}
+
+void TestGraphicsViewMoving::shouldMarkNothingBeyondAllNumbers_data()
+{
+    QTest::addColumn<QPoint>("pos");
+
+    constexpr int least = std::numeric_limits<int>::min();
+    constexpr int most = std::numeric_limits<int>::max();
+    QTest::newRow("upper left") << QPoint(least, least);
+    QTest::newRow("lower right") << QPoint(most, most);
+}
+
+void TestGraphicsViewMoving::shouldMarkNothingBeyondAllNumbers()
+{
+    QFETCH(QPoint, pos);
+    MovingStage stage;
+    stage.mouse.press(stage.tip("Method"));
+    stage.mouse.move(stage.tip("Matter"));
+
+    stage.mouse.move(pos);
+
+    QCOMPARE(stage.linked(), QString());
+    QVERIFY(!stage.view.linkedSpear());
 }
 
 void TestGraphicsViewMoving::shouldMarkTheBottomMostSpear()

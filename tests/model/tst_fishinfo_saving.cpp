@@ -101,6 +101,7 @@ private Q_SLOTS:
     void shouldWriteInPlaceWhereTheFolderIsReadOnly();
     void shouldRefuseWhatCouldNotBeReadAgain_data();
     void shouldRefuseWhatCouldNotBeReadAgain();
+    void shouldForgetWhyItFailedOnceItIsSaved();
     void shouldSaveUnderItsName();
     void shouldAskForANameWhileItHasNone();
     void shouldProposeItsStrippedName();
@@ -109,6 +110,8 @@ private Q_SLOTS:
     void shouldAskWhetherToSave();
     void shouldDoAsTheUserAnswers_data();
     void shouldDoAsTheUserAnswers();
+    void shouldSaveAsTheHostDoes_data();
+    void shouldSaveAsTheHostDoes();
     void shouldReportASaveThatFailsAfterTheQuestion();
     void shouldSurviveItsOwnEndWhileItAsks();
     void shouldSurviveItsOwnEndWhileANameIsChosen();
@@ -227,6 +230,7 @@ void TestFishInfoSaving::shouldReportFilesThatCannotBeWritten()
 
     QVERIFY(!m_info->saveFile(path));
 
+    QVERIFY(!m_info->saveError().isEmpty());
     QCOMPARE(
         QDir(m_folder->path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden),
         QStringList({QStringLiteral("file"), QStringLiteral("folder")}));
@@ -301,7 +305,21 @@ void TestFishInfoSaving::shouldRefuseWhatCouldNotBeReadAgain()
     } else {
         QCOMPARE(contentOf(path("effect.json")), QByteArray("old"));
         QCOMPARE(debug.lines().size(), 1);
+        QCOMPARE(m_model->fishList().last()->saveError(),
+                 QStringLiteral("the diagram nests too deep to be read again"));
     }
+}
+
+void TestFishInfoSaving::shouldForgetWhyItFailedOnceItIsSaved()
+{
+    QCOMPARE(m_info->saveError(), QString());
+    QVERIFY(!m_info->saveFile(m_folder->path()));
+    QVERIFY(!m_info->saveError().isEmpty());
+    QVERIFY(m_info->saveFile(path("effect.json")));
+    QCOMPARE(m_info->saveError(), QString());
+    FishInfo unseen;
+    QVERIFY(!unseen.saveFile(path("effect.json")));
+    QCOMPARE(unseen.saveError(), QStringLiteral("no model shows the document"));
 }
 
 void TestFishInfoSaving::shouldSaveUnderItsName()
@@ -430,6 +448,43 @@ void TestFishInfoSaving::shouldDoAsTheUserAnswers()
     QVERIFY(user.isDone());
     QCOMPARE(contentOf(path("effect.json")) != QByteArray("old"), saves);
     QVERIFY(m_info->modified());
+}
+
+void TestFishInfoSaving::shouldSaveAsTheHostDoes_data()
+{
+    QTest::addColumn<int>("button");
+    QTest::addColumn<bool>("canSave");
+    QTest::addColumn<int>("calls");
+    QTest::addColumn<bool>("result");
+
+    QTest::newRow("saved") << int(QMessageBox::Save) << true << 1 << true;
+    QTest::newRow("not saved") << int(QMessageBox::Save) << false << 1 << false;
+    QTest::newRow("discard") << int(QMessageBox::Discard) << true << 0 << true;
+    QTest::newRow("cancel") << int(QMessageBox::Cancel) << true << 0 << false;
+}
+
+void TestFishInfoSaving::shouldSaveAsTheHostDoes()
+{
+    QFETCH(int, button);
+    QFETCH(bool, canSave);
+    QFETCH(int, calls);
+    QFETCH(bool, result);
+    QVERIFY(makeFile(path("effect.json"), "old"));
+    m_info->setCurrentFile(path("effect.json"));
+    m_info->setModified(true);
+    const ModalDriver<QMessageBox> user(
+        [button](QMessageBox &box) { box.button(QMessageBox::StandardButton(button))->click(); });
+    int called = 0;
+
+    QCOMPARE(m_info->maybeSave([&] {
+        ++called;
+        return canSave;
+    }),
+             result);
+
+    QVERIFY(user.isDone());
+    QCOMPARE(called, calls);
+    QCOMPARE(contentOf(path("effect.json")), QByteArray("old"));
 }
 
 void TestFishInfoSaving::shouldReportASaveThatFailsAfterTheQuestion()

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Fishbone authors
 // SPDX-License-Identifier: MIT
 
-// longrun [--seed N] [--operations N] [--verbose]
+// longrun [--seed N] [--operations N] [--subjects N] [--verbose]
 //
 // Uses editors and models at random, the same for the same seed, and checks all along that they fit
 // together: what is cheap after every operation, everything after each fifty. Now and then all is
@@ -99,8 +99,9 @@ private:
 class LongRun
 {
 public:
-    LongRun(int seed, bool isVerbose)
+    LongRun(int seed, int subjects, bool isVerbose)
         : m_random(quint32(seed))
+        , m_world(m_random, subjects)
         , m_isVerbose(isVerbose)
     {
     }
@@ -151,7 +152,7 @@ private:
     }
 
     QRandomGenerator m_random;
-    RandomWorld m_world{m_random};
+    RandomWorld m_world;
     RandomUser m_user{m_world, m_random};
     DialogCloser m_closer{m_random};
     Progress m_progress;
@@ -169,12 +170,16 @@ int main(int argc, char **argv)
                       QStringLiteral("number"), QStringLiteral("1")});
     parser.addOption({QStringLiteral("operations"), QStringLiteral("How many"),
                       QStringLiteral("number"), QStringLiteral("4000")});
+    parser.addOption({QStringLiteral("subjects"),
+                      QStringLiteral("How many the first document of a model has; 0 for a few"),
+                      QStringLiteral("number"), QStringLiteral("0")});
     parser.addOption({QStringLiteral("verbose"), QStringLiteral("Name each operation")});
     parser.process(application);
     LinkItem::setOpener([](const QUrl &) {});
     qInstallMessageHandler(keepQuiet);
 
-    LongRun run(numberOf(parser, "seed"), parser.isSet(QStringLiteral("verbose")));
+    LongRun run(numberOf(parser, "seed"), numberOf(parser, "subjects"),
+                parser.isSet(QStringLiteral("verbose")));
     run.run(numberOf(parser, "operations"));
     const auto &calls = run.user().calledSlots();
     std::printf("%d slots of the editor were called, %d dialogs and menus answered\n",

@@ -18,13 +18,14 @@ namespace {
 constexpr std::size_t mostModels = 3;
 constexpr std::size_t mostEditors = 3;
 constexpr int mostDocuments = 4;
-constexpr std::size_t mostNodes = 150;
-constexpr int nodesOfADocument = 30;
+constexpr int mostNodes = 250;
+constexpr int nodesOfADocument = 60;
 
 } // namespace
 
-RandomWorld::RandomWorld(QRandomGenerator &random)
+RandomWorld::RandomWorld(QRandomGenerator &random, int subjects)
     : m_random(random)
+    , m_subjects(subjects)
 {
     keepInBounds();
 }
@@ -54,7 +55,8 @@ void RandomWorld::keepInBounds()
         addEditor();
     for (const Model &entry : m_models) {
         FishModel &model = *entry.model;
-        while (model.rowCount() > mostDocuments || allNodes(model).size() > mostNodes)
+        while (model.rowCount() > mostDocuments ||
+               int(allNodes(model).size()) > m_subjects + mostNodes)
             model.unloadFish(model.fishList().at(m_random.bounded(model.rowCount())));
         if (model.rowCount() == 0)
             loadDocument(&model);
@@ -166,7 +168,8 @@ void RandomWorld::loadDocument(FishModel *model)
     if (!model)
         return;
     RandomShape shape;
-    shape.nodes = m_random.bounded(1, nodesOfADocument);
+    const bool isLarge = m_subjects > 0 && model->rowCount() == 0;
+    shape.nodes = isLarge ? m_subjects : m_random.bounded(1, nodesOfADocument + 1);
     // No two documents share a uuid, by which the history finds its subjects.
     TestSupport::loadDocument(*model, randomDocument(++m_documents, shape));
 }

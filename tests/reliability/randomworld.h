@@ -22,7 +22,9 @@ class RandomWorld
     Q_DISABLE_COPY(RandomWorld)
 
 public:
-    explicit RandomWorld(QRandomGenerator &random);
+    /// The first document of each model has \a subjects subjects, when that is not 0; all others
+    /// have a few.
+    explicit RandomWorld(QRandomGenerator &random, int subjects = 0);
     ~RandomWorld();
 
     /// Lets go of everything, in random order.
@@ -66,6 +68,7 @@ private:
 
     QRandomGenerator &m_random;
     QTemporaryDir m_folder;
+    int m_subjects;
     std::vector<Model> m_models;
     std::vector<std::unique_ptr<FishEditor>> m_editors;
     quint32 m_documents = 0;
