@@ -744,6 +744,18 @@ The exit code is 3 when anything is.</translation>
         <source>Copy &amp;path</source>
         <translation>Copy &amp;path</translation>
     </message>
+    <message>
+        <source>Scroll left</source>
+        <translation>Scroll left</translation>
+    </message>
+    <message>
+        <source>Scroll right</source>
+        <translation>Scroll right</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Close</translation>
+    </message>
 </context>
 <context>
     <name>DrawingPrinter</name>
@@ -935,6 +947,14 @@ The exit code is 3 when anything is.</translation>
         <source>Print previe&amp;w…</source>
         <translation>Print previe&amp;w…</translation>
     </message>
+    <message>
+        <source>%1 was not written</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Writing %1…</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>ExportDialog</name>
@@ -951,16 +971,8 @@ The exit code is 3 when anything is.</translation>
         <translation>Transparent</translation>
     </message>
     <message>
-        <source>&amp;Browse…</source>
-        <translation>B&amp;rowse…</translation>
-    </message>
-    <message>
         <source>&amp;File:</source>
         <translation>&amp;File:</translation>
-    </message>
-    <message>
-        <source>&amp;Scale:</source>
-        <translation>&amp;Scale:</translation>
     </message>
     <message>
         <source>&amp;Background:</source>
@@ -977,6 +989,42 @@ The exit code is 3 when anything is.</translation>
     <message>
         <source>%1 exists already. Replace it?</source>
         <translation>%1 exists already. Replace it?</translation>
+    </message>
+    <message>
+        <source>&amp;Light, as on paper</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>B&amp;rowse…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>As shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All levels</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Levels below the main bones:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Levels below the main bones</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Expanded:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>As on the screen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This cannot be exported: %1.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1294,6 +1342,17 @@ Do you want to save your changes?</translation>
     </message>
 </context>
 <context>
+    <name>LanguageMenu</name>
+    <message>
+        <source>Lang&amp;uage</source>
+        <translation>Lang&amp;uage</translation>
+    </message>
+    <message>
+        <source>&amp;System language</source>
+        <translation>&amp;System language</translation>
+    </message>
+</context>
+<context>
     <name>LinkOpener</name>
     <message>
         <source>Open link</source>
@@ -1371,6 +1430,22 @@ Do you want to save your changes?</translation>
     <message>
         <source>Overview</source>
         <translation>Overview</translation>
+    </message>
+    <message>
+        <source>Float</source>
+        <translation>Float</translation>
+    </message>
+    <message>
+        <source>Takes the panel out of the window, or back into it</source>
+        <translation>Takes the panel out of the window, or back into it</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>Closes the panel</source>
+        <translation>Closes the panel</translation>
     </message>
 </context>
 <context>
@@ -1600,6 +1675,41 @@ Do you want to save your changes?</translation>
         <source>there is no such format</source>
         <translation>there is no such format</translation>
     </message>
+    <message>
+        <source>it was cancelled</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>an SVG of it would have more than %1 MiB; a PDF is smaller</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>PictureSizeFields</name>
+    <message>
+        <source> px</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sc&amp;ale:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Width:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Height:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A page of %1 × %2 mm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 × %2 pixels</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>PrintPreview</name>
@@ -1667,6 +1777,13 @@ Do you want to save your changes?</translation>
     <message>
         <source>删除节点</source>
         <translation>Delete subject</translation>
+    </message>
+</context>
+<context>
+    <name>QProgressDialog</name>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished">Cancel</translation>
     </message>
 </context>
 <context>
@@ -2047,10 +2164,6 @@ Do you want to save your changes?</translation>
         <translation>Rotate &amp;left</translation>
     </message>
     <message>
-        <source>&amp;Upright</source>
-        <translation>&amp;Upright</translation>
-    </message>
-    <message>
         <source>&amp;Expand</source>
         <translation>&amp;Expand</translation>
     </message>
@@ -2097,6 +2210,10 @@ Do you want to save your changes?</translation>
     <message>
         <source>S&amp;how full screen</source>
         <translation>S&amp;how full screen</translation>
+    </message>
+    <message>
+        <source>U&amp;pright</source>
+        <translation>U&amp;pright</translation>
     </message>
 </context>
 <context>

@@ -742,6 +742,18 @@ The exit code is 3 when anything is.</source>
         <source>Copy &amp;path</source>
         <translation>复制路径(&amp;P)</translation>
     </message>
+    <message>
+        <source>Scroll left</source>
+        <translation>向左滚动</translation>
+    </message>
+    <message>
+        <source>Scroll right</source>
+        <translation>向右滚动</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
 </context>
 <context>
     <name>DrawingPrinter</name>
@@ -933,6 +945,14 @@ The exit code is 3 when anything is.</source>
         <source>Print previe&amp;w…</source>
         <translation>打印预览(&amp;W)…</translation>
     </message>
+    <message>
+        <source>%1 was not written</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Writing %1…</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>ExportDialog</name>
@@ -949,16 +969,8 @@ The exit code is 3 when anything is.</source>
         <translation>透明</translation>
     </message>
     <message>
-        <source>&amp;Browse…</source>
-        <translation>浏览(&amp;R)…</translation>
-    </message>
-    <message>
         <source>&amp;File:</source>
         <translation>文件(&amp;F)：</translation>
-    </message>
-    <message>
-        <source>&amp;Scale:</source>
-        <translation>比例(&amp;S)：</translation>
     </message>
     <message>
         <source>&amp;Background:</source>
@@ -975,6 +987,42 @@ The exit code is 3 when anything is.</source>
     <message>
         <source>%1 exists already. Replace it?</source>
         <translation>%1 已存在。要替换它吗？</translation>
+    </message>
+    <message>
+        <source>&amp;Light, as on paper</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>B&amp;rowse…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>As shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All levels</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Levels below the main bones:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Levels below the main bones</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Expanded:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>As on the screen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This cannot be exported: %1.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1290,6 +1338,17 @@ Do you want to save your changes?</source>
     </message>
 </context>
 <context>
+    <name>LanguageMenu</name>
+    <message>
+        <source>Lang&amp;uage</source>
+        <translation>语言 Language(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;System language</source>
+        <translation>系统语言(&amp;S)</translation>
+    </message>
+</context>
+<context>
     <name>LinkOpener</name>
     <message>
         <source>Open link</source>
@@ -1366,6 +1425,22 @@ Do you want to save your changes?</source>
     <message>
         <source>Overview</source>
         <translation>概览</translation>
+    </message>
+    <message>
+        <source>Float</source>
+        <translation>浮动</translation>
+    </message>
+    <message>
+        <source>Takes the panel out of the window, or back into it</source>
+        <translation>把面板移出窗口，或放回窗口</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>Closes the panel</source>
+        <translation>关闭面板</translation>
     </message>
 </context>
 <context>
@@ -1595,6 +1670,41 @@ Do you want to save your changes?</source>
         <source>there is no such format</source>
         <translation>没有这种格式</translation>
     </message>
+    <message>
+        <source>it was cancelled</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>an SVG of it would have more than %1 MiB; a PDF is smaller</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>PictureSizeFields</name>
+    <message>
+        <source> px</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sc&amp;ale:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Width:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Height:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A page of %1 × %2 mm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 × %2 pixels</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>PrintPreview</name>
@@ -1660,6 +1770,13 @@ Do you want to save your changes?</source>
     <message>
         <source>删除节点</source>
         <translation>删除节点</translation>
+    </message>
+</context>
+<context>
+    <name>QProgressDialog</name>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished">取消</translation>
     </message>
 </context>
 <context>
@@ -2039,10 +2156,6 @@ Do you want to save your changes?</source>
         <translation>向左旋转(&amp;L)</translation>
     </message>
     <message>
-        <source>&amp;Upright</source>
-        <translation>取消旋转(&amp;U)</translation>
-    </message>
-    <message>
         <source>&amp;Expand</source>
         <translation>展开(&amp;E)</translation>
     </message>
@@ -2089,6 +2202,10 @@ Do you want to save your changes?</source>
     <message>
         <source>S&amp;how full screen</source>
         <translation>全屏(&amp;H)</translation>
+    </message>
+    <message>
+        <source>U&amp;pright</source>
+        <translation>取消旋转(&amp;P)</translation>
     </message>
 </context>
 <context>

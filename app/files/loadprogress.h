@@ -21,6 +21,8 @@ public:
 private:
     void begin(const QUrl &url);
     void follow(qint64 received, qint64 total);
+    void showReceived();
 
     QProgressBar *m_bar;
+    qint64 m_received = 0;
 };

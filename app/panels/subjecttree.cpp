@@ -3,6 +3,7 @@
 
 #include <app/panels/subjecttree.h>
 
+#include <app/common/language.h>
 #include <app/panels/subjectproxymodel.h>
 
 #include <fishbone/model/fishmodel.h>
@@ -11,7 +12,34 @@
 #include <QItemSelectionModel>
 #include <QLineEdit>
 #include <QMimeData>
+#include <QPainter>
+#include <QStyledItemDelegate>
 #include <QVBoxLayout>
+
+namespace {
+
+/** Shows the icon of a selected row in the colour of its text; it is as blue as the selection. */
+class SubjectDelegate : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override
+    {
+        QStyledItemDelegate::initStyleOption(option, index);
+        if (!option->state.testFlag(QStyle::State_Selected) || option->icon.isNull())
+            return;
+        QPixmap picture = option->icon.pixmap(option->decorationSize);
+        QPainter painter(&picture);
+        painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+        painter.fillRect(picture.rect(), option->palette.color(QPalette::HighlightedText));
+        painter.end();
+        option->icon.addPixmap(picture, QIcon::Selected);
+    }
+};
+
+} // namespace
 
 SubjectTreeView::SubjectTreeView(QWidget *parent)
     : QTreeView(parent)
@@ -23,6 +51,25 @@ SubjectTreeView::SubjectTreeView(QWidget *parent)
     setDragEnabled(true);
     setDragDropMode(DragOnly);
     setExpandsOnDoubleClick(false);
+    setItemDelegate(new SubjectDelegate(this));
+}
+
+void SubjectTreeView::setModel(QAbstractItemModel *model)
+{
+    // Connected before the selection model is, so that it is known when that passes the current row
+    // on.
+    connect(model, &QAbstractItemModel::rowsAboutToBeRemoved, this,
+            [this] { m_areRowsGoing = true; });
+    QTreeView::setModel(model);
+    connect(model, &QAbstractItemModel::rowsRemoved, this, [this] { m_areRowsGoing = false; });
+}
+
+void SubjectTreeView::currentChanged(const QModelIndex &current, const QModelIndex &previous)
+{
+    // The base class looks for the current row, for which it lays out. When many rows go one after
+    // the other, that would be done for each of them.
+    if (!m_areRowsGoing)
+        QTreeView::currentChanged(current, previous);
 }
 
 void SubjectTreeView::startDrag(Qt::DropActions supportedActions)
@@ -49,11 +96,12 @@ SubjectTree::SubjectTree(FishModel *model, QWidget *parent)
     , m_view(new SubjectTreeView(this))
 {
     m_filter->setObjectName(QStringLiteral("filter"));
-    m_filter->setPlaceholderText(tr("Filter by title"));
-    m_filter->setAccessibleName(tr("Filter by title"));
+    const auto filterName = [] { return tr("Filter by title"); };
+    Language::bind(m_filter, &QLineEdit::setPlaceholderText, filterName);
+    Language::bind(m_filter, &QWidget::setAccessibleName, filterName);
     m_filter->setClearButtonEnabled(true);
     m_view->setObjectName(QStringLiteral("documents"));
-    m_view->setAccessibleName(tr("Documents"));
+    Language::bind(m_view, &QWidget::setAccessibleName, [] { return tr("Documents"); });
     m_proxy->setSourceModel(model);
     m_view->setModel(m_proxy);
     for (int column = 1; column < m_proxy->columnCount(); ++column)

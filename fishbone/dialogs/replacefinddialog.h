@@ -70,6 +70,7 @@ public Q_SLOTS:
     void enableCtrl(int index);
 
 private:
+    void showTexts();
     void buildLayout();
     void connectControls(QPushButton *find);
     bool eventFilter(QObject *watched, QEvent *event) override;

@@ -11,6 +11,7 @@
 #include <QTimer>
 #include <QVector>
 
+#include <fishbone/dialogs/followlanguage.h>
 #include <fishbone/editor/accessiblediagram.h>
 #include <fishbone/editor/fishlayout.h>
 #include <fishbone/editor/fishscene.h>
@@ -65,6 +66,7 @@ FishEditor::FishEditor(QWidget *parent)
     ExpandItem::setFishEditor(this);
     startSaveTmpFileTimer();
     livingEditors().append(this);
+    followLanguage(this, [this] { updateFish(false); }); // the head may show counts
 }
 
 FishEditor::~FishEditor()

@@ -70,9 +70,9 @@ void InsertCommand::Private::take()
         model->removeRows(index.row(), 1, index.parent());
 }
 
-InsertCommand::InsertCommand(const QString &text, QAbstractItemModel *model,
+InsertCommand::InsertCommand(const Name &name, QAbstractItemModel *model,
                              const QModelIndex &reference)
-    : UndoCommand(text)
+    : UndoCommand(name)
     , m_d(std::make_unique<Private>())
 {
     m_d->model = model;
@@ -123,7 +123,7 @@ void InsertCommand::undo()
 }
 
 InsertChild::InsertChild(QAbstractItemModel *model, const QModelIndex &index)
-    : InsertCommand(tr("Insert child subject"), model, index)
+    : InsertCommand([] { return tr("Insert child subject"); }, model, index)
 {
 }
 
@@ -159,7 +159,7 @@ bool InsertChild::insertAt(const Place &place)
 }
 
 InsertBack::InsertBack(QAbstractItemModel *model, const QModelIndex &index)
-    : InsertCommand(tr("Insert subject back"), model, index)
+    : InsertCommand([] { return tr("Insert subject back"); }, model, index)
 {
 }
 
@@ -169,7 +169,7 @@ InsertCommand::Place InsertBack::place(const QModelIndex &reference) const
 }
 
 InsertFront::InsertFront(QAbstractItemModel *model, const QModelIndex &index)
-    : InsertCommand(tr("Insert subject front"), model, index)
+    : InsertCommand([] { return tr("Insert subject front"); }, model, index)
 {
 }
 
@@ -179,7 +179,7 @@ InsertCommand::Place InsertFront::place(const QModelIndex &reference) const
 }
 
 InsertParent::InsertParent(QAbstractItemModel *model, const QModelIndex &index)
-    : InsertCommand(tr("Insert subject as parent"), model, index)
+    : InsertCommand([] { return tr("Insert subject as parent"); }, model, index)
 {
 }
 
@@ -278,7 +278,7 @@ void InsertParent::removeAboveHead(FishModel &model, TreeItem *subject, TreeItem
 }
 
 InsertFree::InsertFree(QAbstractItemModel *model)
-    : InsertCommand(tr("Insert free subject"), model, QModelIndex())
+    : InsertCommand([] { return tr("Insert free subject"); }, model, QModelIndex())
 {
     m_d->reference.uuid.clear(); // there is nothing that the place would be told by
 }

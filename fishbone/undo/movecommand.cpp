@@ -138,7 +138,7 @@ void EditMove::Private::completeSpears()
 
 EditMove::EditMove(FishModel *model, const QModelIndex &target, int row, const QJsonObject &objects,
                    const QList<TreeItem *> &subjects)
-    : UndoCommand(tr("Move subjects"))
+    : UndoCommand([] { return tr("Move subjects"); })
     , m_d(std::make_unique<Private>())
 {
     m_d->model = model;
