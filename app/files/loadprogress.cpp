@@ -34,17 +34,29 @@ LoadProgress::LoadProgress(DocumentLoader *loader, QWidget *parent)
     layout->addWidget(m_bar);
     layout->addWidget(cancel);
     hide();
+    m_patience.setSingleShot(true);
+    m_patience.setInterval(500);
+    connect(&m_patience, &QTimer::timeout, this, &QWidget::show);
     connect(cancel, &QToolButton::clicked, loader, &DocumentLoader::cancel);
     connect(loader, &DocumentLoader::fetchStarted, this, &LoadProgress::begin);
     connect(loader, &DocumentLoader::fetchProgress, this, &LoadProgress::follow);
-    connect(loader, &DocumentLoader::fetchEnded, this, &QWidget::hide);
+    connect(loader, &DocumentLoader::fetchEnded, this, &LoadProgress::end);
 }
 
 void LoadProgress::begin(const QUrl &url)
 {
     setToolTip(url.toDisplayString());
     follow(0, -1);
-    show();
+    if (url.isLocalFile())
+        m_patience.start(); // it may be there at once
+    else
+        show();
+}
+
+void LoadProgress::end()
+{
+    m_patience.stop();
+    hide();
 }
 
 void LoadProgress::follow(qint64 received, qint64 total)
@@ -53,5 +65,7 @@ void LoadProgress::follow(qint64 received, qint64 total)
     m_bar->setRange(0, isKnown ? wholeBar : 0);          // or a bar that only shows that it goes on
     m_bar->setValue(isKnown ? int(double(received) / double(total) * wholeBar) : 0);
     m_bar->setFormat(isKnown ? QStringLiteral("%p %") : QString());
-    m_bar->setToolTip(tr("%1 received").arg(QLocale().formattedDataSize(received)));
+    m_bar->setToolTip(total < 0 && received == 0
+                          ? QString()
+                          : tr("%1 received").arg(QLocale().formattedDataSize(received)));
 }
