@@ -19,6 +19,8 @@
 
 namespace {
 
+constexpr qint64 largeOutline = 1 << 20; ///< in bytes; makes some ten thousand subjects
+
 bool isNetworkUrl(const QUrl &url)
 {
     return url.scheme() == QLatin1String("http") || url.scheme() == QLatin1String("https");
@@ -179,8 +181,10 @@ void DocumentLoader::endReading(const QString &path, const Parsed &parsed)
 /** Makes a new document of a file of another program, to which it is never saved. */
 void DocumentLoader::importFile(const QString &path, DiagramExchange::Format format)
 {
+    std::optional<BusyCursor> busy;
+    if (QFileInfo(path).size() > largeOutline)
+        busy.emplace();
     QString reason;
-    const BusyCursor busy;
     auto head = DiagramExchange::readFile(path, format, &reason);
     if (!head) {
         finish(nullptr, reason);

@@ -4,6 +4,7 @@
 #include <app/window/viewcommands.h>
 
 #include <app/common/actionset.h>
+#include <app/common/busycursor.h>
 #include <app/common/canvastheme.h>
 #include <app/diagram/diagramsession.h>
 #include <app/window/zoomcontrols.h>
@@ -79,11 +80,14 @@ void ViewCommands::addExpandActions()
     });
     add("contract", tr("&Contract"), Qt::Key_Minus, [this] { m_editor->modifyContract(); });
     add("expandall", tr("Expand &all"), Qt::Key_Asterisk, [this] {
+        const BusyCursor busy(m_session->container());
         m_editor->generateAllSubSpear(m_session->model(), m_editor->rootIndex());
         m_editor->modifyExpandAll();
     });
-    add("contractall", tr("Con&tract all"), Qt::Key_Slash,
-        [this] { m_editor->modifyContractAll(); });
+    add("contractall", tr("Con&tract all"), Qt::Key_Slash, [this] {
+        const BusyCursor busy(m_session->container());
+        m_editor->modifyContractAll();
+    });
 }
 
 void ViewCommands::addDiagramActions()
@@ -122,6 +126,7 @@ void ViewCommands::setTaskMode(bool taskMode)
 
 void ViewCommands::showMode()
 {
+    const BusyCursor busy(m_session->container());
     m_session->model()->setModelType(m_isTaskMode ? FISH_MODEL_NORMAL : FISH_MODEL_DIAGRAM);
     m_editor->updateFish(false); // the head shows counts or not
     m_session->touch();
