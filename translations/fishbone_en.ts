@@ -95,6 +95,13 @@
     </message>
 </context>
 <context>
+    <name>BusyCursor</name>
+    <message>
+        <source>Working…</source>
+        <translation>Working…</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
     <message>
         <source>Show this help and quit.</source>
@@ -932,6 +939,14 @@ The exit code is 3 when anything is.</translation>
         <source>Print previe&amp;w…</source>
         <translation>Print previe&amp;w…</translation>
     </message>
+    <message>
+        <source>%1 was not written</source>
+        <translation>%1 was not written</translation>
+    </message>
+    <message>
+        <source>Writing %1…</source>
+        <translation>Writing %1…</translation>
+    </message>
 </context>
 <context>
     <name>ExportDialog</name>
@@ -948,16 +963,8 @@ The exit code is 3 when anything is.</translation>
         <translation>Transparent</translation>
     </message>
     <message>
-        <source>&amp;Browse…</source>
-        <translation>B&amp;rowse…</translation>
-    </message>
-    <message>
         <source>&amp;File:</source>
         <translation>&amp;File:</translation>
-    </message>
-    <message>
-        <source>&amp;Scale:</source>
-        <translation>&amp;Scale:</translation>
     </message>
     <message>
         <source>&amp;Background:</source>
@@ -974,6 +981,42 @@ The exit code is 3 when anything is.</translation>
     <message>
         <source>%1 exists already. Replace it?</source>
         <translation>%1 exists already. Replace it?</translation>
+    </message>
+    <message>
+        <source>&amp;Light, as on paper</source>
+        <translation>&amp;Light, as on paper</translation>
+    </message>
+    <message>
+        <source>B&amp;rowse…</source>
+        <translation>B&amp;rowse…</translation>
+    </message>
+    <message>
+        <source>As shown</source>
+        <translation>As shown</translation>
+    </message>
+    <message>
+        <source>All levels</source>
+        <translation>All levels</translation>
+    </message>
+    <message>
+        <source>Levels below the main bones:</source>
+        <translation>Levels below the main bones:</translation>
+    </message>
+    <message>
+        <source>Levels below the main bones</source>
+        <translation>Levels below the main bones</translation>
+    </message>
+    <message>
+        <source>&amp;Expanded:</source>
+        <translation>&amp;Expanded:</translation>
+    </message>
+    <message>
+        <source>As on the screen</source>
+        <translation>As on the screen</translation>
+    </message>
+    <message>
+        <source>This cannot be exported: %1.</source>
+        <translation>This cannot be exported: %1.</translation>
     </message>
 </context>
 <context>
@@ -1592,6 +1635,41 @@ Do you want to save your changes?</translation>
     <message>
         <source>the file name must end in .png, .svg or .pdf</source>
         <translation>the file name must end in .png, .svg or .pdf</translation>
+    </message>
+    <message>
+        <source>it was cancelled</source>
+        <translation>it was cancelled</translation>
+    </message>
+    <message>
+        <source>an SVG of it would have more than %1 MiB; a PDF is smaller</source>
+        <translation>an SVG of it would have more than %1 MiB; a PDF is smaller</translation>
+    </message>
+</context>
+<context>
+    <name>PictureSizeFields</name>
+    <message>
+        <source> px</source>
+        <translation> px</translation>
+    </message>
+    <message>
+        <source>Sc&amp;ale:</source>
+        <translation>Sc&amp;ale:</translation>
+    </message>
+    <message>
+        <source>&amp;Width:</source>
+        <translation>&amp;Width:</translation>
+    </message>
+    <message>
+        <source>&amp;Height:</source>
+        <translation>&amp;Height:</translation>
+    </message>
+    <message>
+        <source>A page of %1 × %2 mm</source>
+        <translation>A page of %1 × %2 mm</translation>
+    </message>
+    <message>
+        <source>%1 × %2 pixels</source>
+        <translation>%1 × %2 pixels</translation>
     </message>
 </context>
 <context>
@@ -2228,6 +2306,13 @@ Do you want to save your changes?</translation>
     <message>
         <source>F1: all keys</source>
         <translation>F1: all keys</translation>
+    </message>
+</context>
+<context>
+    <name>WorkProgress</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
     </message>
 </context>
 <context>

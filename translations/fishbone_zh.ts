@@ -95,6 +95,13 @@
     </message>
 </context>
 <context>
+    <name>BusyCursor</name>
+    <message>
+        <source>Working…</source>
+        <translation>正在处理…</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
     <message>
         <source>Show this help and quit.</source>
@@ -930,6 +937,14 @@ The exit code is 3 when anything is.</source>
         <source>Print previe&amp;w…</source>
         <translation>打印预览(&amp;W)…</translation>
     </message>
+    <message>
+        <source>%1 was not written</source>
+        <translation>%1 未写入</translation>
+    </message>
+    <message>
+        <source>Writing %1…</source>
+        <translation>正在写入 %1…</translation>
+    </message>
 </context>
 <context>
     <name>ExportDialog</name>
@@ -946,16 +961,8 @@ The exit code is 3 when anything is.</source>
         <translation>透明</translation>
     </message>
     <message>
-        <source>&amp;Browse…</source>
-        <translation>浏览(&amp;R)…</translation>
-    </message>
-    <message>
         <source>&amp;File:</source>
         <translation>文件(&amp;F)：</translation>
-    </message>
-    <message>
-        <source>&amp;Scale:</source>
-        <translation>比例(&amp;S)：</translation>
     </message>
     <message>
         <source>&amp;Background:</source>
@@ -972,6 +979,42 @@ The exit code is 3 when anything is.</source>
     <message>
         <source>%1 exists already. Replace it?</source>
         <translation>%1 已存在。要替换它吗？</translation>
+    </message>
+    <message>
+        <source>&amp;Light, as on paper</source>
+        <translation>浅色，与纸上相同(&amp;L)</translation>
+    </message>
+    <message>
+        <source>B&amp;rowse…</source>
+        <translation>浏览(&amp;R)…</translation>
+    </message>
+    <message>
+        <source>As shown</source>
+        <translation>与显示相同</translation>
+    </message>
+    <message>
+        <source>All levels</source>
+        <translation>所有层级</translation>
+    </message>
+    <message>
+        <source>Levels below the main bones:</source>
+        <translation>主骨以下的层级数：</translation>
+    </message>
+    <message>
+        <source>Levels below the main bones</source>
+        <translation>主骨以下的层级数</translation>
+    </message>
+    <message>
+        <source>&amp;Expanded:</source>
+        <translation>展开(&amp;E)：</translation>
+    </message>
+    <message>
+        <source>As on the screen</source>
+        <translation>与屏幕相同</translation>
+    </message>
+    <message>
+        <source>This cannot be exported: %1.</source>
+        <translation>无法导出：%1。</translation>
     </message>
 </context>
 <context>
@@ -1587,6 +1630,41 @@ Do you want to save your changes?</source>
     <message>
         <source>the file name must end in .png, .svg or .pdf</source>
         <translation>文件名必须以 .png、.svg 或 .pdf 结尾</translation>
+    </message>
+    <message>
+        <source>it was cancelled</source>
+        <translation>已取消</translation>
+    </message>
+    <message>
+        <source>an SVG of it would have more than %1 MiB; a PDF is smaller</source>
+        <translation>其 SVG 将超过 %1 MiB；PDF 更小</translation>
+    </message>
+</context>
+<context>
+    <name>PictureSizeFields</name>
+    <message>
+        <source> px</source>
+        <translation> 像素</translation>
+    </message>
+    <message>
+        <source>Sc&amp;ale:</source>
+        <translation>比例(&amp;A)：</translation>
+    </message>
+    <message>
+        <source>&amp;Width:</source>
+        <translation>宽度(&amp;W)：</translation>
+    </message>
+    <message>
+        <source>&amp;Height:</source>
+        <translation>高度(&amp;H)：</translation>
+    </message>
+    <message>
+        <source>A page of %1 × %2 mm</source>
+        <translation>页面 %1 × %2 毫米</translation>
+    </message>
+    <message>
+        <source>%1 × %2 pixels</source>
+        <translation>%1 × %2 像素</translation>
     </message>
 </context>
 <context>
@@ -2220,6 +2298,13 @@ Do you want to save your changes?</source>
     <message>
         <source>F1: all keys</source>
         <translation>F1：所有快捷键</translation>
+    </message>
+</context>
+<context>
+    <name>WorkProgress</name>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
     </message>
 </context>
 <context>
