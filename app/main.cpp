@@ -49,6 +49,14 @@ void useDataFolder()
         QDir::setCurrent(folder);
 }
 
+/** What is asked for counts most. What was chosen in the window is for windows: a script gets the
+ * same output from everybody. */
+QString languageFor(const CommandLine &line)
+{
+    const bool isForWindow = line.action == CommandLine::Action::ShowWindow;
+    return line.language.isEmpty() && isForWindow ? Language::chosen() : line.language;
+}
+
 int showWindow(const StartUp &startUp, const CommandLine &line)
 {
     if (startUp.lacksDisplay())
@@ -77,7 +85,7 @@ int main(int argc, char **argv)
     QApplication::setApplicationVersion(QStringLiteral(FISHBONE_VERSION_STRING));
     QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false"));
 
-    Language::install(CommandLine::parse(QApplication::arguments()).language);
+    Language::install(languageFor(CommandLine::parse(QApplication::arguments())));
     const CommandLine line = CommandLine::parse(QApplication::arguments()); // in that language now
     QString message;
     switch (line.action) {

@@ -102,6 +102,13 @@
     </message>
 </context>
 <context>
+    <name>CanvasTheme</name>
+    <message>
+        <source>The style is not kept: %1 cannot be written</source>
+        <translation>The style is not kept: %1 cannot be written</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
     <message>
         <source>Show this help and quit.</source>
@@ -549,10 +556,6 @@ The exit code is 3 when anything is.</translation>
         <translation>Imported diagram</translation>
     </message>
     <message>
-        <source>it is not a JSON document</source>
-        <translation>it is not a JSON document</translation>
-    </message>
-    <message>
         <source>it is not a JSON document (line %1: %2)</source>
         <translation>it is not a JSON document (line %1: %2)</translation>
     </message>
@@ -747,6 +750,18 @@ The exit code is 3 when anything is.</translation>
     <message>
         <source>Copy &amp;path</source>
         <translation>Copy &amp;path</translation>
+    </message>
+    <message>
+        <source>Scroll left</source>
+        <translation>Scroll left</translation>
+    </message>
+    <message>
+        <source>Scroll right</source>
+        <translation>Scroll right</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Close</translation>
     </message>
 </context>
 <context>
@@ -1334,6 +1349,17 @@ Do you want to save your changes?</translation>
     </message>
 </context>
 <context>
+    <name>LanguageMenu</name>
+    <message>
+        <source>Lang&amp;uage</source>
+        <translation>Lang&amp;uage</translation>
+    </message>
+    <message>
+        <source>&amp;System language</source>
+        <translation>&amp;System language</translation>
+    </message>
+</context>
+<context>
     <name>LinkOpener</name>
     <message>
         <source>Open link</source>
@@ -1411,6 +1437,22 @@ Do you want to save your changes?</translation>
     <message>
         <source>Overview</source>
         <translation>Overview</translation>
+    </message>
+    <message>
+        <source>Float</source>
+        <translation>Float</translation>
+    </message>
+    <message>
+        <source>Takes the panel out of the window, or back into it</source>
+        <translation>Takes the panel out of the window, or back into it</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>Closes the panel</source>
+        <translation>Closes the panel</translation>
     </message>
 </context>
 <context>
@@ -1635,6 +1677,10 @@ Do you want to save your changes?</translation>
     <message>
         <source>the file name must end in .png, .svg or .pdf</source>
         <translation>the file name must end in .png, .svg or .pdf</translation>
+    </message>
+    <message>
+        <source>there is no such format</source>
+        <translation>there is no such format</translation>
     </message>
     <message>
         <source>it was cancelled</source>
@@ -2118,10 +2164,6 @@ Do you want to save your changes?</translation>
         <translation>Rotate &amp;left</translation>
     </message>
     <message>
-        <source>&amp;Upright</source>
-        <translation>&amp;Upright</translation>
-    </message>
-    <message>
         <source>&amp;Expand</source>
         <translation>&amp;Expand</translation>
     </message>
@@ -2168,6 +2210,10 @@ Do you want to save your changes?</translation>
     <message>
         <source>S&amp;how full screen</source>
         <translation>S&amp;how full screen</translation>
+    </message>
+    <message>
+        <source>U&amp;pright</source>
+        <translation>U&amp;pright</translation>
     </message>
 </context>
 <context>

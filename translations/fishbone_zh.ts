@@ -102,6 +102,13 @@
     </message>
 </context>
 <context>
+    <name>CanvasTheme</name>
+    <message>
+        <source>The style is not kept: %1 cannot be written</source>
+        <translation>样式未保存：无法写入 %1</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
     <message>
         <source>Show this help and quit.</source>
@@ -547,10 +554,6 @@ The exit code is 3 when anything is.</source>
         <translation>导入的鱼骨图</translation>
     </message>
     <message>
-        <source>it is not a JSON document</source>
-        <translation>不是 JSON 文档</translation>
-    </message>
-    <message>
         <source>it is not a JSON document (line %1: %2)</source>
         <translation>不是 JSON 文档（第 %1 行：%2）</translation>
     </message>
@@ -745,6 +748,18 @@ The exit code is 3 when anything is.</source>
     <message>
         <source>Copy &amp;path</source>
         <translation>复制路径(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Scroll left</source>
+        <translation>向左滚动</translation>
+    </message>
+    <message>
+        <source>Scroll right</source>
+        <translation>向右滚动</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
     </message>
 </context>
 <context>
@@ -998,11 +1013,11 @@ The exit code is 3 when anything is.</source>
     </message>
     <message>
         <source>Levels below the main bones:</source>
-        <translation>主骨以下的层级数：</translation>
+        <translation>大骨以下的层数：</translation>
     </message>
     <message>
         <source>Levels below the main bones</source>
-        <translation>主骨以下的层级数</translation>
+        <translation>大骨以下的层数</translation>
     </message>
     <message>
         <source>&amp;Expanded:</source>
@@ -1330,6 +1345,17 @@ Do you want to save your changes?</source>
     </message>
 </context>
 <context>
+    <name>LanguageMenu</name>
+    <message>
+        <source>Lang&amp;uage</source>
+        <translation>语言 Language(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;System language</source>
+        <translation>系统语言(&amp;S)</translation>
+    </message>
+</context>
+<context>
     <name>LinkOpener</name>
     <message>
         <source>Open link</source>
@@ -1406,6 +1432,22 @@ Do you want to save your changes?</source>
     <message>
         <source>Overview</source>
         <translation>概览</translation>
+    </message>
+    <message>
+        <source>Float</source>
+        <translation>浮动</translation>
+    </message>
+    <message>
+        <source>Takes the panel out of the window, or back into it</source>
+        <translation>把面板移出窗口，或放回窗口</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>Closes the panel</source>
+        <translation>关闭面板</translation>
     </message>
 </context>
 <context>
@@ -1630,6 +1672,10 @@ Do you want to save your changes?</source>
     <message>
         <source>the file name must end in .png, .svg or .pdf</source>
         <translation>文件名必须以 .png、.svg 或 .pdf 结尾</translation>
+    </message>
+    <message>
+        <source>there is no such format</source>
+        <translation>没有这种格式</translation>
     </message>
     <message>
         <source>it was cancelled</source>
@@ -2110,10 +2156,6 @@ Do you want to save your changes?</source>
         <translation>向左旋转(&amp;L)</translation>
     </message>
     <message>
-        <source>&amp;Upright</source>
-        <translation>取消旋转(&amp;U)</translation>
-    </message>
-    <message>
         <source>&amp;Expand</source>
         <translation>展开(&amp;E)</translation>
     </message>
@@ -2160,6 +2202,10 @@ Do you want to save your changes?</source>
     <message>
         <source>S&amp;how full screen</source>
         <translation>全屏(&amp;H)</translation>
+    </message>
+    <message>
+        <source>U&amp;pright</source>
+        <translation>取消旋转(&amp;P)</translation>
     </message>
 </context>
 <context>

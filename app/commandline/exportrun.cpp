@@ -4,6 +4,7 @@
 #include <app/commandline/exportrun.h>
 
 #include <app/commandline/commandline.h>
+#include <app/common/canvastheme.h>
 #include <app/export/leveldrawing.h>
 #include <app/files/documentloader.h>
 
@@ -37,6 +38,7 @@ FishInfo *loadNow(DocumentLoader &loader, const QString &source, QString &messag
 /** Draws @p document of @p model into the target of @p line; returns an exit code. */
 int drawPicture(FishModel &model, FishInfo *document, const CommandLine &line, QString &message)
 {
+    const CanvasTheme theme; // gives the bones the user's style
     LevelDrawing drawing(model, model.index(model.fishRow(document), 0));
     drawing.expand(line.levels);
 

@@ -14,26 +14,33 @@ ActionSet::ActionSet(QObject *parent)
 {
 }
 
-QAction *ActionSet::add(const QString &name, const QString &text,
+QAction *ActionSet::add(const QString &name, const Language::Text &text,
                         const QList<QKeySequence> &shortcuts, Scope scope,
                         std::function<void()> run)
 {
     Q_ASSERT(!m_actions.contains(name));
-    auto *const action = new QAction(text, this);
+    auto *const action = new QAction(this);
     action->setObjectName(name);
     action->setShortcuts(shortcuts);
     if (scope != Scope::Window)
         action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
-    QString tip = plainText(*action);
-    if (!shortcuts.isEmpty() && !shortcuts.constFirst().isEmpty())
-        tip +=
-            QStringLiteral(" (%1)").arg(shortcuts.constFirst().toString(QKeySequence::NativeText));
-    action->setToolTip(tip);
+    Language::bind(action, [action, text] {
+        action->setText(text());
+        action->setToolTip(toolTip(*action));
+    });
     connect(action, &QAction::triggered, this, [run = std::move(run)] { run(); });
     m_actions.insert(name, action);
     m_order.append(action);
     m_scopes.insert(action, scope);
     return action;
+}
+
+/** The plain text and the first key. */
+QString ActionSet::toolTip(const QAction &action)
+{
+    const QString key = action.shortcut().toString(QKeySequence::NativeText);
+    return key.isEmpty() ? plainText(action)
+                         : QStringLiteral("%1 (%2)").arg(plainText(action), key);
 }
 
 QString ActionSet::plainText(const QAction &action)

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include <app/common/language.h>
+
 #include <QHash>
 #include <QKeySequence>
 #include <QList>
@@ -35,8 +37,8 @@ public:
     explicit ActionSet(QObject *parent = nullptr);
 
     /** Makes an action, owned by the set. The menu key stands in @p text behind an "&". */
-    QAction *add(const QString &name, const QString &text, const QList<QKeySequence> &shortcuts,
-                 Scope scope, std::function<void()> run);
+    QAction *add(const QString &name, const Language::Text &text,
+                 const QList<QKeySequence> &shortcuts, Scope scope, std::function<void()> run);
 
     /** The action of that name, which must exist. */
     QAction *action(const QString &name) const;
@@ -54,6 +56,8 @@ public:
     void updateIcons(const QPalette &palette) const;
 
 private:
+    static QString toolTip(const QAction &action);
+
     QHash<QString, QAction *> m_actions;
     QList<QAction *> m_order;
     QHash<const QAction *, Scope> m_scopes;

@@ -3,16 +3,62 @@
 
 #pragma once
 
+#include <QLocale>
+#include <QObject>
 #include <QString>
+#include <QStringList>
 
-/** The language of what the program shows. */
-namespace Language {
+#include <functional>
 
 /**
- * Installs the translations for @p language ("zh" or "en"), for the system's language when it is
- * empty: the program's and the library's, as far as they are built in, and the toolkit's. The
- * translators live as long as the application object, which must exist.
+ * The language of what the program shows. It can change while the program runs, so a text that is
+ * kept, by a widget or an action, is not set but bound: bind() sets it and sets it again in each
+ * new language. A text that is made when it is needed, for a message say, takes tr() alone.
  */
-void install(const QString &language);
+class Language : public QObject
+{
+    Q_OBJECT
 
-} // namespace Language
+public:
+    /** A text in the language of the moment. */
+    using Text = std::function<QString()>;
+
+    /** The languages that there are: "zh" and "en". */
+    static QStringList all();
+
+    /**
+     * Shows everything in @p language, one of all(), or in that of the system when it is empty: the
+     * texts of the program, the library and, as far as they are installed, the toolkit, and numbers
+     * and dates. The application object must exist.
+     */
+    static void install(const QString &language);
+    /** What was installed last; empty for that of the system. */
+    static QString installed();
+
+    /** Installs @p language, and keeps it for the next runs. */
+    static void choose(const QString &language);
+    /** The language that was chosen, perhaps in an earlier run; empty for that of the system. */
+    static QString chosen();
+
+    /** Calls @p show now, and again in each new language while @p keeper lives, after what was
+     * bound before. */
+    static void bind(const QObject *keeper, const std::function<void()> &show);
+
+    /** Gives @p text to @p keeper by its @p setter, now and in each new language. */
+    template <typename Keeper, typename Class>
+    static void bind(Keeper *keeper, void (Class::*setter)(const QString &), const Text &text)
+    {
+        bind(keeper, [keeper, setter, text] { (keeper->*setter)(text()); });
+    }
+
+Q_SIGNALS:
+    /** The language is another one now. */
+    void changed();
+
+private:
+    static Language &instance();
+    QLocale locale() const;
+
+    QString m_installed;
+    QLocale m_system; ///< the default while no other language is installed
+};

@@ -3,6 +3,8 @@
 
 #include <app/common/messagebar.h>
 
+#include <app/common/language.h>
+
 #include <QAccessible>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -29,29 +31,42 @@ MessageBar::MessageBar(QWidget *parent)
     m_layout->addWidget(icon);
     m_layout->addWidget(m_text, 1);
     hide();
+    Language::bind(this, [this] { showTexts(); });
 }
 
-void MessageBar::ask(const QString &question, const QList<Answer> &answers)
+void MessageBar::ask(const Language::Text &question, const QList<Answer> &answers)
 {
     dismiss();
-    m_text->setText(question);
-    setAccessibleName(question);
+    m_question = question;
+    m_answers = answers;
     for (const Answer &answer : answers) {
-        auto *const button = new QPushButton(answer.text, this);
+        auto *const button = new QPushButton(this);
         button->setObjectName(answer.name);
         button->setAutoDefault(false);
         connect(button, &QPushButton::clicked, this, answer.run);
         m_layout->addWidget(button);
         m_buttons.append(button);
     }
+    showTexts();
     show();
     QAccessibleEvent alert(this, QAccessible::Alert);
     QAccessible::updateAccessibility(&alert);
 }
 
+void MessageBar::showTexts()
+{
+    if (!m_question)
+        return;
+    m_text->setText(m_question());
+    setAccessibleName(m_text->text());
+    for (int i = 0; i < m_buttons.size(); ++i)
+        m_buttons.at(i)->setText(m_answers.at(i).text());
+}
+
 void MessageBar::dismiss()
 {
     hide();
+    m_question = nullptr;
     for (QPushButton *button : qAsConst(m_buttons))
         button->deleteLater(); // it may be the one that was clicked
     m_buttons.clear();

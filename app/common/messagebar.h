@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include <app/common/language.h>
+
 #include <QFrame>
 #include <QList>
 #include <QString>
@@ -23,7 +25,7 @@ public:
     /** A button of the bar. */
     struct Answer
     {
-        QString text;              ///< with a menu key
+        Language::Text text;       ///< with a menu key
         QString name;              ///< the object name of the button
         std::function<void()> run; ///< what it does
     };
@@ -31,12 +33,16 @@ public:
     explicit MessageBar(QWidget *parent = nullptr);
 
     /** Asks @p question in place of any other one. */
-    void ask(const QString &question, const QList<Answer> &answers);
+    void ask(const Language::Text &question, const QList<Answer> &answers);
     /** Takes the question back. */
     void dismiss();
 
 private:
+    void showTexts();
+
     QLabel *m_text;
     QHBoxLayout *m_layout;
     QList<QPushButton *> m_buttons;
+    Language::Text m_question; ///< nothing while there is none
+    QList<Answer> m_answers;   ///< of the buttons
 };

@@ -21,7 +21,7 @@
 namespace {
 
 /** Pushes the step from @p before to @p after, unless they are the same. */
-bool push(DiagramSession &session, const QModelIndex &index, const QString &name,
+bool push(DiagramSession &session, const QModelIndex &index, const UndoCommand::Name &name,
           const QJsonObject &before, const QJsonObject &after)
 {
     auto command = std::make_unique<EditAttributes>(session.model(), index, before, after);
@@ -37,7 +37,7 @@ bool push(DiagramSession &session, const QModelIndex &index, const QString &name
 
 namespace SubjectEdit {
 
-bool apply(DiagramSession &session, const QModelIndex &index, const QString &name,
+bool apply(DiagramSession &session, const QModelIndex &index, const UndoCommand::Name &name,
            const std::function<void(TreeItem &)> &change)
 {
     const TreeItem *const subject = session.model()->getTreeItem(index);
@@ -49,7 +49,7 @@ bool apply(DiagramSession &session, const QModelIndex &index, const QString &nam
     return push(session, index, name, before, EditAttributes::stateOf(draft));
 }
 
-bool replace(DiagramSession &session, const QModelIndex &index, const QString &name,
+bool replace(DiagramSession &session, const QModelIndex &index, const UndoCommand::Name &name,
              const QJsonObject &state)
 {
     const TreeItem *const subject = session.model()->getTreeItem(index);
@@ -64,8 +64,9 @@ void editLink(DiagramSession &session, const QModelIndex &index)
     const QPersistentModelIndex edited = index; // the dialog runs an event loop
     const QUrl url = URLDialog::linkToUrlDialog(subject->url(), session.editor());
     if (url.isValid())
-        apply(session, edited, ModifyLinkTo::tr("Modify link to"),
-              [&url](TreeItem &draft) { draft.setUrl(url.toString()); });
+        apply(
+            session, edited, [] { return ModifyLinkTo::tr("Modify link to"); },
+            [&url](TreeItem &draft) { draft.setUrl(url.toString()); });
 }
 
 void openLink(const DiagramSession &session, const QModelIndex &index)
@@ -93,14 +94,16 @@ void editStyle(DiagramSession &session, const QModelIndex &index)
     styled.insert(key, EditAttributes::stateOf(*after).value(key).toObject());
     QJsonObject plain = before;
     plain.insert(key, before.value(key).toObject());
-    push(session, edited, QCoreApplication::translate("SubjectEdit", "Change style"), plain,
-         styled);
+    push(
+        session, edited, [] { return QCoreApplication::translate("SubjectEdit", "Change style"); },
+        plain, styled);
 }
 
 void removeStyle(DiagramSession &session, const QModelIndex &index)
 {
-    apply(session, index, QCoreApplication::translate("SubjectEdit", "Remove style"),
-          [](TreeItem &subject) { subject.delSpearStyle(); });
+    apply(
+        session, index, [] { return QCoreApplication::translate("SubjectEdit", "Remove style"); },
+        [](TreeItem &subject) { subject.delSpearStyle(); });
 }
 
 } // namespace SubjectEdit

@@ -3,30 +3,31 @@
 
 #pragma once
 
+#include <fishbone/undo/undocommand.h>
+
 #include <QModelIndex>
 
 #include <functional>
 
 class DiagramSession;
 class QJsonObject;
-class QString;
 class TreeItem;
 
 /** Edits of a subject's attributes as steps of the undo history. */
 namespace SubjectEdit {
 
 /**
- * Makes the subject at @p index what @p change makes of a copy of its attributes, in one step named
- * @p name. False, without a step, when nothing differs.
+ * Makes the subject at @p index what @p change makes of a copy of its attributes, in one step with
+ * the name @p name. False, without a step, when nothing differs.
  */
-bool apply(DiagramSession &session, const QModelIndex &index, const QString &name,
+bool apply(DiagramSession &session, const QModelIndex &index, const UndoCommand::Name &name,
            const std::function<void(TreeItem &)> &change);
 
 /**
  * Gives the subject at @p index the attributes of @p state, as EditAttributes::stateOf() makes one,
  * in one step named @p name. False, without a step, when it has them already.
  */
-bool replace(DiagramSession &session, const QModelIndex &index, const QString &name,
+bool replace(DiagramSession &session, const QModelIndex &index, const UndoCommand::Name &name,
              const QJsonObject &state);
 
 /** Asks for a link for the subject at @p index, beginning with the one it has; one step. */

@@ -4,6 +4,7 @@
 #include <app/documents/documenttab.h>
 
 #include <app/common/canvastheme.h>
+#include <app/common/language.h>
 #include <app/common/messagebar.h>
 #include <app/diagram/diagramsession.h>
 #include <app/diagram/drawingstate.h>
@@ -55,6 +56,8 @@ DocumentTab::DocumentTab(CanvasTheme *theme, QWidget *parent)
     layout->addWidget(bar);
     layout->addWidget(m_editor, 1);
     connect(m_session, &DiagramSession::stateChanged, this, &DocumentTab::followState);
+    // The counts of a head are in the language of the moment.
+    Language::bind(this, [this] { m_tree->view()->viewport()->update(); });
 }
 
 DocumentTab::~DocumentTab()

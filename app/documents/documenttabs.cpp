@@ -3,6 +3,7 @@
 
 #include <app/documents/documenttabs.h>
 
+#include <app/common/language.h>
 #include <app/diagram/diagramsession.h>
 #include <app/documents/documenttab.h>
 
@@ -16,8 +17,10 @@
 #include <QGuiApplication>
 #include <QMenu>
 #include <QMouseEvent>
+#include <QStyle>
 #include <QTabBar>
 #include <QTabWidget>
+#include <QToolButton>
 
 DocumentTabs::DocumentTabs(CanvasTheme *theme, QWidget *parent)
     : QStackedWidget(parent)
@@ -33,7 +36,7 @@ DocumentTabs::DocumentTabs(CanvasTheme *theme, QWidget *parent)
     m_tabs->setElideMode(Qt::ElideMiddle);
     m_tabs->setUsesScrollButtons(true);
     QTabBar *const bar = m_tabs->tabBar();
-    bar->setAccessibleName(tr("Open documents"));
+    Language::bind(bar, &QWidget::setAccessibleName, [] { return tr("Open documents"); });
     bar->setChangeCurrentOnDrag(true);
     bar->setContextMenuPolicy(Qt::CustomContextMenu);
     bar->installEventFilter(this);
@@ -42,6 +45,10 @@ DocumentTabs::DocumentTabs(CanvasTheme *theme, QWidget *parent)
     connect(m_tabs, &QTabWidget::tabCloseRequested, this,
             [this](int position) { Q_EMIT closeRequested({tabAt(position)}); });
     connect(m_tabs, &QTabWidget::currentChanged, this, &DocumentTabs::follow);
+    Language::bind(this, [this] {
+        nameScrollButtons();
+        refresh();
+    });
 }
 
 DocumentTabs::~DocumentTabs()
@@ -167,8 +174,22 @@ void DocumentTabs::follow()
     Q_EMIT currentChanged(tab);
 }
 
+/** The toolkit names these once and for all, as it does the buttons that close tabs. */
+void DocumentTabs::nameScrollButtons()
+{
+    const auto name = [this](const char *button, const QString &text) {
+        if (auto *const found = m_tabs->findChild<QToolButton *>(QLatin1String(button)))
+            found->setAccessibleName(text);
+    };
+    name("ScrollLeftButton", tr("Scroll left"));
+    name("ScrollRightButton", tr("Scroll right"));
+}
+
 void DocumentTabs::refresh()
 {
+    QTabBar *const bar = m_tabs->tabBar();
+    const auto closeSide = QTabBar::ButtonPosition(
+        bar->style()->styleHint(QStyle::SH_TabBar_CloseButtonPosition, nullptr, bar));
     for (int position = 0; position < m_tabs->count(); ++position) {
         const DocumentTab *const tab = tabAt(position);
         const FishInfo *const document = tab->document();
@@ -177,6 +198,7 @@ void DocumentTabs::refresh()
         if (document && document->modified())
             text += QLatin1Char('*');
         m_tabs->setTabText(position, text);
+        bar->tabButton(position, closeSide)->setToolTip(tr("Close"));
         m_tabs->setTabToolTip(position, tab->path().isEmpty()
                                             ? tr("Not saved to a file yet")
                                             : QDir::toNativeSeparators(tab->path()));

@@ -49,6 +49,7 @@ public:
     void go(int step);
 
     /** Brings what the tabs say of their documents up to date. */
+    void nameScrollButtons();
     void refresh();
 
 Q_SIGNALS:

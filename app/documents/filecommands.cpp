@@ -69,7 +69,7 @@ FileCommands::FileCommands(DocumentTabs *tabs, RecentFiles *recent, ActionSet *a
     addCloseActions();
 }
 
-void FileCommands::add(const char *name, const QString &text, const QKeySequence &shortcut,
+void FileCommands::add(const char *name, const Language::Text &text, const QKeySequence &shortcut,
                        void (FileCommands::*run)())
 {
     m_actions->add(QLatin1String(name), text, {shortcut}, ActionSet::Scope::Window,
@@ -78,47 +78,67 @@ void FileCommands::add(const char *name, const QString &text, const QKeySequence
 
 void FileCommands::addOpenActions()
 {
-    add("new", tr("&New"), QKeySequence::New, &FileCommands::newDocument);
-    add("newExample", tr("New from the &example"), {}, &FileCommands::newFromBuiltInTemplate);
-    add("welcome", tr("&Welcome diagram"), {}, &FileCommands::newWelcome);
-    m_actions->add(QStringLiteral("newFromTemplate"), tr("New from &template…"), {},
-                   ActionSet::Scope::Window,
-                   [this] { newFromTemplate(m_tabs->current()->session()->folder()); });
-    add("open", tr("&Open…"), QKeySequence::Open, &FileCommands::openFiles);
-    add("import", tr("&Import…"), QKeySequence(Qt::CTRL | Qt::Key_I), &FileCommands::importFiles);
-    add("url", tr("Open &URL…"), QKeySequence(Qt::CTRL | Qt::Key_U), &FileCommands::openUrl);
+    add(
+        "new", [] { return tr("&New"); }, QKeySequence::New, &FileCommands::newDocument);
+    add(
+        "newExample", [] { return tr("New from the &example"); }, {},
+        &FileCommands::newFromBuiltInTemplate);
+    add(
+        "welcome", [] { return tr("&Welcome diagram"); }, {}, &FileCommands::newWelcome);
+    m_actions->add(
+        QStringLiteral("newFromTemplate"), [] { return tr("New from &template…"); }, {},
+        ActionSet::Scope::Window,
+        [this] { newFromTemplate(m_tabs->current()->session()->folder()); });
+    add(
+        "open", [] { return tr("&Open…"); }, QKeySequence::Open, &FileCommands::openFiles);
+    add(
+        "import", [] { return tr("&Import…"); }, QKeySequence(Qt::CTRL | Qt::Key_I),
+        &FileCommands::importFiles);
+    add(
+        "url", [] { return tr("Open &URL…"); }, QKeySequence(Qt::CTRL | Qt::Key_U),
+        &FileCommands::openUrl);
 }
 
 void FileCommands::addSaveActions()
 {
-    const auto addForTab = [this](const char *name, const QString &text,
+    const auto addForTab = [this](const char *name, const Language::Text &text,
                                   const QKeySequence &shortcut,
                                   std::function<void(DocumentTab *)> run) {
         m_actions->add(QLatin1String(name), text, {shortcut}, ActionSet::Scope::Window,
                        [this, run = std::move(run)] { run(m_tabs->current()); });
     };
-    addForTab("save", tr("&Save"), QKeySequence::Save,
-              [this](DocumentTab *tab) { m_saver->save(tab); });
-    addForTab("saveAs", tr("Save &as…"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S),
-              [this](DocumentTab *tab) { m_saver->saveAs(tab); });
-    addForTab("saveCopy", tr("Save a cop&y…"), {},
-              [this](DocumentTab *tab) { m_saver->saveCopy(tab); });
-    addForTab("revert", tr("Revert to &file"), {}, [this](DocumentTab *tab) { revert(tab); });
-    add("saveAll", tr("Save a&ll"), {}, &FileCommands::saveAll);
+    addForTab(
+        "save", [] { return tr("&Save"); }, QKeySequence::Save,
+        [this](DocumentTab *tab) { m_saver->save(tab); });
+    addForTab(
+        "saveAs", [] { return tr("Save &as…"); }, QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S),
+        [this](DocumentTab *tab) { m_saver->saveAs(tab); });
+    addForTab(
+        "saveCopy", [] { return tr("Save a cop&y…"); }, {},
+        [this](DocumentTab *tab) { m_saver->saveCopy(tab); });
+    addForTab(
+        "revert", [] { return tr("Revert to &file"); }, {},
+        [this](DocumentTab *tab) { revert(tab); });
+    add(
+        "saveAll", [] { return tr("Save a&ll"); }, {}, &FileCommands::saveAll);
 }
 
 void FileCommands::addCloseActions()
 {
-    add("close", tr("&Close"), QKeySequence(Qt::CTRL | Qt::Key_W), &FileCommands::closeCurrent);
+    add(
+        "close", [] { return tr("&Close"); }, QKeySequence(Qt::CTRL | Qt::Key_W),
+        &FileCommands::closeCurrent);
     QAction *const reopen = m_actions->add(
-        QStringLiteral("reopen"), tr("Reopen &documents at the start"), {},
-        ActionSet::Scope::Window, [this] {
+        QStringLiteral("reopen"), [] { return tr("Reopen &documents at the start"); }, {},
+        ActionSet::Scope::Window,
+        [this] {
             LastDocuments::setWanted(m_actions->action(QStringLiteral("reopen"))->isChecked());
         });
     reopen->setCheckable(true);
     reopen->setChecked(LastDocuments::areWanted());
-    m_actions->add(QStringLiteral("quit"), tr("&Quit"), {QKeySequence(Qt::CTRL | Qt::Key_Q)},
-                   ActionSet::Scope::Window, [this] { m_window->close(); });
+    m_actions->add(
+        QStringLiteral("quit"), [] { return tr("&Quit"); }, {QKeySequence(Qt::CTRL | Qt::Key_Q)},
+        ActionSet::Scope::Window, [this] { m_window->close(); });
 }
 
 void FileCommands::updateActions()

@@ -46,10 +46,11 @@ void FileConflict::follow(FileWatch::State state)
 void FileConflict::tellOfChange()
 {
     m_bar->ask(
-        tr("Another program has changed %1.").arg(m_tab->name()),
-        {{tr("Re&load"), QStringLiteral("conflictReload"), [this] { Q_EMIT reloadRequested(); }},
-         {tr("&Keep mine"), QStringLiteral("conflictKeep"), [this] { keep(); }},
-         {tr("Save &under another name…"), QStringLiteral("conflictSaveAs"),
+        [this] { return tr("Another program has changed %1.").arg(m_tab->name()); },
+        {{[] { return tr("Re&load"); }, QStringLiteral("conflictReload"),
+          [this] { Q_EMIT reloadRequested(); }},
+         {[] { return tr("&Keep mine"); }, QStringLiteral("conflictKeep"), [this] { keep(); }},
+         {[] { return tr("Save &under another name…"); }, QStringLiteral("conflictSaveAs"),
           [this] { Q_EMIT saveAsRequested(); }}});
 }
 
@@ -58,11 +59,15 @@ void FileConflict::tellOfLoss()
     m_tab->document()->setModified(true); // it is nowhere else now
     m_tab->session()->touch();
     m_bar->ask(
-        tr("%1 was deleted, moved or renamed by another program.").arg(m_tab->name()),
-        {{tr("Save agai&n"), QStringLiteral("conflictSave"), [this] { Q_EMIT saveRequested(); }},
-         {tr("Save &under another name…"), QStringLiteral("conflictSaveAs"),
+        [this] {
+            return tr("%1 was deleted, moved or renamed by another program.").arg(m_tab->name());
+        },
+        {{[] { return tr("Save agai&n"); }, QStringLiteral("conflictSave"),
+          [this] { Q_EMIT saveRequested(); }},
+         {[] { return tr("Save &under another name…"); }, QStringLiteral("conflictSaveAs"),
           [this] { Q_EMIT saveAsRequested(); }},
-         {tr("&Hide"), QStringLiteral("conflictHide"), [this] { m_bar->dismiss(); }}});
+         {[] { return tr("&Hide"); }, QStringLiteral("conflictHide"),
+          [this] { m_bar->dismiss(); }}});
 }
 
 /** The document counts, and differs from its file. */

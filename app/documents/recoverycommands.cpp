@@ -24,8 +24,9 @@ RecoveryCommands::RecoveryCommands(DocumentTabs *tabs, ActionSet *actions, QWidg
     , m_window(window)
     , m_arrivals(new FishModel(this))
 {
-    actions->add(QStringLiteral("recover"), tr("Reco&ver documents…"), {}, ActionSet::Scope::Window,
-                 [this] { offerOnDemand(); });
+    actions->add(
+        QStringLiteral("recover"), [] { return tr("Reco&ver documents…"); }, {},
+        ActionSet::Scope::Window, [this] { offerOnDemand(); });
 }
 
 void RecoveryCommands::offerOnDemand()

@@ -13,11 +13,12 @@ TabCommands::TabCommands(DocumentTabs *tabs, ActionSet *actions, QObject *parent
     , m_tabs(tabs)
     , m_actions(actions)
 {
-    actions->add(QStringLiteral("nextTab"), tr("Next &tab"),
-                 {QKeySequence(Qt::CTRL | Qt::Key_Tab), QKeySequence(Qt::CTRL | Qt::Key_PageDown)},
-                 ActionSet::Scope::Window, [this] { m_tabs->go(1); });
     actions->add(
-        QStringLiteral("previousTab"), tr("Previous t&ab"),
+        QStringLiteral("nextTab"), [] { return tr("Next &tab"); },
+        {QKeySequence(Qt::CTRL | Qt::Key_Tab), QKeySequence(Qt::CTRL | Qt::Key_PageDown)},
+        ActionSet::Scope::Window, [this] { m_tabs->go(1); });
+    actions->add(
+        QStringLiteral("previousTab"), [] { return tr("Previous t&ab"); },
         {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Tab), QKeySequence(Qt::CTRL | Qt::Key_PageUp)},
         ActionSet::Scope::Window, [this] { m_tabs->go(-1); });
 }

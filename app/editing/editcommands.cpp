@@ -4,6 +4,7 @@
 #include <app/editing/editcommands.h>
 
 #include <app/common/actionset.h>
+#include <app/common/language.h>
 #include <app/diagram/diagramsession.h>
 #include <app/diagram/subjectedit.h>
 #include <app/editing/subjectclipboard.h>
@@ -60,8 +61,8 @@ EditCommands::EditCommands(DiagramSession *session, ActionSet *actions, QWidget 
     addSubjectActions();
 }
 
-void EditCommands::add(const char *name, const QString &text, const QList<QKeySequence> &shortcuts,
-                       std::function<void()> run)
+void EditCommands::add(const char *name, const Language::Text &text,
+                       const QList<QKeySequence> &shortcuts, std::function<void()> run)
 {
     m_actions->add(QLatin1String(name), text, shortcuts, ActionSet::Scope::Selection,
                    std::move(run));
@@ -69,52 +70,76 @@ void EditCommands::add(const char *name, const QString &text, const QList<QKeySe
 
 void EditCommands::addHistoryActions()
 {
-    m_actions->add(QStringLiteral("undo"), tr("&Undo"), {QKeySequence::Undo},
-                   ActionSet::Scope::Window, [this] { m_session->undo(); });
-    m_actions->add(QStringLiteral("redo"), tr("&Redo"), redoShortcuts(), ActionSet::Scope::Window,
-                   [this] { m_session->redo(); });
-    m_actions->add(QStringLiteral("find"), tr("&Find and replace…"), {QKeySequence::Find},
-                   ActionSet::Scope::Window, [this] { m_finder->show(); });
+    m_actions->add(
+        QStringLiteral("undo"), [] { return tr("&Undo"); }, {QKeySequence::Undo},
+        ActionSet::Scope::Window, [this] { m_session->undo(); });
+    m_actions->add(
+        QStringLiteral("redo"), [] { return tr("&Redo"); }, redoShortcuts(),
+        ActionSet::Scope::Window, [this] { m_session->redo(); });
+    m_actions->add(
+        QStringLiteral("find"), [] { return tr("&Find and replace…"); }, {QKeySequence::Find},
+        ActionSet::Scope::Window, [this] { m_finder->show(); });
 }
 
 void EditCommands::addClipboardActions()
 {
-    add("cut", tr("Cu&t"), {QKeySequence::Cut}, [this] { m_session->removeSelected(true); });
-    add("copy", tr("&Copy"), {QKeySequence::Copy}, [this] { m_editor->copy(); });
-    add("paste", tr("&Paste"), {QKeySequence::Paste}, [this] { m_clipboard->paste(); });
-    add("delete", tr("&Delete"), {QKeySequence::Delete},
+    add(
+        "cut", [] { return tr("Cu&t"); }, {QKeySequence::Cut},
+        [this] { m_session->removeSelected(true); });
+    add(
+        "copy", [] { return tr("&Copy"); }, {QKeySequence::Copy}, [this] { m_editor->copy(); });
+    add(
+        "paste", [] { return tr("&Paste"); }, {QKeySequence::Paste},
+        [this] { m_clipboard->paste(); });
+    add(
+        "delete", [] { return tr("&Delete"); }, {QKeySequence::Delete},
         [this] { m_session->removeSelected(false); });
-    add("selectAll", tr("Select &all"), {QKeySequence::SelectAll},
+    add(
+        "selectAll", [] { return tr("Select &all"); }, {QKeySequence::SelectAll},
         [this] { m_editor->selectAll(); });
 }
 
 void EditCommands::addInsertActions()
 {
-    add("child", tr("&Child subject"), {Qt::Key_Tab, Qt::Key_Insert},
+    add(
+        "child", [] { return tr("&Child subject"); }, {Qt::Key_Tab, Qt::Key_Insert},
         [this] { insertAndRename<InsertChild>(); });
-    add("before", tr("Subject &before"), returnWith(Qt::SHIFT),
+    add(
+        "before", [] { return tr("Subject &before"); }, returnWith(Qt::SHIFT),
         [this] { insertSibling<InsertFront>(); });
-    add("after", tr("Subject &after"), returnWith(0), [this] { insertSibling<InsertBack>(); });
-    add("parent", tr("&Parent subject"), returnWith(Qt::CTRL),
+    add(
+        "after", [] { return tr("Subject &after"); }, returnWith(0),
+        [this] { insertSibling<InsertBack>(); });
+    add(
+        "parent", [] { return tr("&Parent subject"); }, returnWith(Qt::CTRL),
         [this] { insertAndRename<InsertParent>(); });
-    add("free", tr("&Free subject (a new diagram)"), returnWith(Qt::CTRL | Qt::SHIFT),
-        [this] { Q_EMIT newDiagramWanted(); });
-    add("subTask", tr("&Sub-task…"), {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_T)},
+    add(
+        "free", [] { return tr("&Free subject (a new diagram)"); },
+        returnWith(Qt::CTRL | Qt::SHIFT), [this] { Q_EMIT newDiagramWanted(); });
+    add(
+        "subTask", [] { return tr("&Sub-task…"); },
+        {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_T)},
         [this] { insertSubTask(m_editor->firstSelectedSpearIndex()); });
 }
 
 void EditCommands::addSubjectActions()
 {
-    add("rename", tr("&Rename"), {Qt::Key_F2},
+    add(
+        "rename", [] { return tr("&Rename"); }, {Qt::Key_F2},
         [this] { rename(m_editor->firstSelectedSpearIndex()); });
-    add("link", tr("&Link to…"), {QKeySequence(Qt::CTRL | Qt::Key_L)},
+    add(
+        "link", [] { return tr("&Link to…"); }, {QKeySequence(Qt::CTRL | Qt::Key_L)},
         [this] { SubjectEdit::editLink(*m_session, m_editor->firstSelectedSpearIndex()); });
-    add("openLink", tr("&Open link"), {},
+    add(
+        "openLink", [] { return tr("&Open link"); }, {},
         [this] { SubjectEdit::openLink(*m_session, m_editor->firstSelectedSpearIndex()); });
-    add("unlink", tr("Remove l&ink"), {}, [this] { m_editor->modifyDelLink(); });
-    add("style", tr("&Style…"), {},
+    add(
+        "unlink", [] { return tr("Remove l&ink"); }, {}, [this] { m_editor->modifyDelLink(); });
+    add(
+        "style", [] { return tr("&Style…"); }, {},
         [this] { SubjectEdit::editStyle(*m_session, m_editor->firstSelectedSpearIndex()); });
-    add("removeStyle", tr("Remove s&tyle"), {},
+    add(
+        "removeStyle", [] { return tr("Remove s&tyle"); }, {},
         [this] { SubjectEdit::removeStyle(*m_session, m_editor->firstSelectedSpearIndex()); });
 }
 
@@ -125,7 +150,7 @@ void EditCommands::insertAndRename()
     if (!selected.isValid())
         return;
     auto insertion = std::make_unique<Command>(m_session->model(), selected);
-    auto *const step = new CommandGroup(insertion->text()); // the stack takes it over
+    auto *const step = new CommandGroup(insertion->name()); // the stack takes it over
     step->add(std::move(insertion));
     const QModelIndex inserted = m_session->insert([&] {
         m_editor->undoStack()->push(step);

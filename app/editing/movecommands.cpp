@@ -4,6 +4,7 @@
 #include <app/editing/movecommands.h>
 
 #include <app/common/actionset.h>
+#include <app/common/language.h>
 #include <app/diagram/diagramsession.h>
 
 #include <fishbone/editor/fisheditor.h>
@@ -22,14 +23,20 @@ struct MoveCommands::Place
 MoveCommands::MoveCommands(DiagramSession *session, ActionSet *actions, QObject *parent)
     : DiagramCommands(session, actions, parent)
 {
-    const auto add = [this](const char *name, const QString &text, Qt::Key key, Rule rule) {
+    const auto add = [this](const char *name, const Language::Text &text, Qt::Key key, Rule rule) {
         m_actions->add(QLatin1String(name), text, {QKeySequence(int(Qt::ALT) + key)},
                        ActionSet::Scope::Selection, [this, rule] { move(rule); });
     };
-    add("moveUp", tr("Move &up"), Qt::Key_Up, &MoveCommands::earlier);
-    add("moveDown", tr("Move do&wn"), Qt::Key_Down, &MoveCommands::later);
-    add("promote", tr("Pro&mote (beside its parent)"), Qt::Key_Left, &MoveCommands::higher);
-    add("demote", tr("D&emote (below the one before)"), Qt::Key_Right, &MoveCommands::lower);
+    add(
+        "moveUp", [] { return tr("Move &up"); }, Qt::Key_Up, &MoveCommands::earlier);
+    add(
+        "moveDown", [] { return tr("Move do&wn"); }, Qt::Key_Down, &MoveCommands::later);
+    add(
+        "promote", [] { return tr("Pro&mote (beside its parent)"); }, Qt::Key_Left,
+        &MoveCommands::higher);
+    add(
+        "demote", [] { return tr("D&emote (below the one before)"); }, Qt::Key_Right,
+        &MoveCommands::lower);
 }
 
 std::optional<MoveCommands::Place> MoveCommands::earlier(const QModelIndex &bone) const

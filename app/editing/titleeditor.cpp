@@ -3,6 +3,8 @@
 
 #include <app/editing/titleeditor.h>
 
+#include <app/common/language.h>
+
 #include <fishbone/editor/fisheditor.h>
 #include <fishbone/editor/fishscene.h>
 #include <fishbone/editor/graphicsview.h>
@@ -61,7 +63,7 @@ TitleEditor::TitleEditor(FishEditor *editor, const QModelIndex &index, CommandGr
     , m_step(step)
 {
     setObjectName(QStringLiteral("title"));
-    setAccessibleName(tr("Title"));
+    Language::bind(this, &QWidget::setAccessibleName, [] { return tr("Title"); });
     place();
     connect(this, &QLineEdit::textChanged, this, &TitleEditor::place);
     connect(this, &QLineEdit::editingFinished, this, &TitleEditor::finish);

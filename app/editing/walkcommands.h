@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <app/common/language.h>
 #include <app/editing/diagramcommands.h>
 
 #include <QModelIndex>
@@ -30,7 +31,7 @@ private:
 
     void addDirections();
     void addLevels();
-    void add(const char *name, const QString &text, int key, const Step &step);
+    void add(const char *name, const Language::Text &text, int key, const Step &step);
     void go(const Step &step);
     QPointF seenPosition(const SpearItem &spear) const;
     QModelIndex nearest(const SpearItem &from, const QPointF &direction) const;

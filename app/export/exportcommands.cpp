@@ -68,16 +68,19 @@ ExportCommands::ExportCommands(DiagramSession *session, CanvasTheme *theme, Acti
     , m_window(window)
 {
     using Scope = ActionSet::Scope;
-    actions->add(QStringLiteral("export"), tr("&Export picture…"),
-                 {QKeySequence(Qt::CTRL | Qt::Key_E)}, Scope::Window, [this] { exportPicture(); });
-    actions->add(QStringLiteral("exportAs"), tr("E&xport as…"),
-                 {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_E)}, Scope::Window,
-                 [this] { exportAs(); });
-    actions->add(QStringLiteral("print"), tr("&Print…"), {QKeySequence::Print}, Scope::Window,
-                 [this] { print(); });
-    actions->add(QStringLiteral("printPreview"), tr("Print previe&w…"),
-                 {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_P)}, Scope::Window,
-                 [this] { previewPrint(); });
+    actions->add(
+        QStringLiteral("export"), [] { return tr("&Export picture…"); },
+        {QKeySequence(Qt::CTRL | Qt::Key_E)}, Scope::Window, [this] { exportPicture(); });
+    actions->add(
+        QStringLiteral("exportAs"), [] { return tr("E&xport as…"); },
+        {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_E)}, Scope::Window, [this] { exportAs(); });
+    actions->add(
+        QStringLiteral("print"), [] { return tr("&Print…"); }, {QKeySequence::Print}, Scope::Window,
+        [this] { print(); });
+    actions->add(
+        QStringLiteral("printPreview"), [] { return tr("Print previe&w…"); },
+        {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_P)}, Scope::Window,
+        [this] { previewPrint(); });
 }
 
 void ExportCommands::updateActions()

@@ -3,6 +3,7 @@
 
 #include <app/files/loadprogress.h>
 
+#include <app/common/language.h>
 #include <app/files/documentloader.h>
 
 #include <QHBoxLayout>
@@ -23,11 +24,12 @@ LoadProgress::LoadProgress(DocumentLoader *loader, QWidget *parent)
 {
     setObjectName(QStringLiteral("loadProgress"));
     m_bar->setObjectName(QStringLiteral("loadBar"));
-    m_bar->setAccessibleName(tr("Loading"));
+    Language::bind(m_bar, &QWidget::setAccessibleName, [] { return tr("Loading"); });
+    Language::bind(m_bar, [this] { showReceived(); });
     m_bar->setFixedWidth(160);
     auto *const cancel = new QToolButton(this);
     cancel->setObjectName(QStringLiteral("loadCancel"));
-    cancel->setText(tr("Cancel"));
+    Language::bind(cancel, &QToolButton::setText, [] { return tr("Cancel"); });
     cancel->setFocusPolicy(Qt::StrongFocus);
     auto *const layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -65,7 +67,14 @@ void LoadProgress::follow(qint64 received, qint64 total)
     m_bar->setRange(0, isKnown ? wholeBar : 0);          // or a bar that only shows that it goes on
     m_bar->setValue(isKnown ? int(double(received) / double(total) * wholeBar) : 0);
     m_bar->setFormat(isKnown ? QStringLiteral("%p %") : QString());
-    m_bar->setToolTip(total < 0 && received == 0
-                          ? QString()
-                          : tr("%1 received").arg(QLocale().formattedDataSize(received)));
+    m_received = received;
+    showReceived();
+}
+
+void LoadProgress::showReceived()
+{
+    // Of a file nobody knows how much has been read.
+    m_bar->setToolTip(m_received > 0
+                          ? tr("%1 received").arg(QLocale().formattedDataSize(m_received))
+                          : QString());
 }

@@ -22,9 +22,11 @@ public:
 private:
     void begin(const QUrl &url);
     void follow(qint64 received, qint64 total);
+    void showReceived();
 
     void end();
 
     QProgressBar *m_bar;
     QTimer m_patience; ///< before a file is said to be read
+    qint64 m_received = 0;
 };

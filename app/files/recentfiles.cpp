@@ -3,6 +3,8 @@
 
 #include <app/files/recentfiles.h>
 
+#include <app/common/language.h>
+
 #include <QDir>
 #include <QFileInfo>
 #include <QMenu>
@@ -35,8 +37,9 @@ QString shownPath(const QString &path)
 
 RecentFiles::RecentFiles(QWidget *window)
     : QObject(window)
-    , m_menu(new QMenu(tr("&Recent files"), window))
+    , m_menu(new QMenu(window))
 {
+    Language::bind(m_menu, &QMenu::setTitle, [] { return tr("&Recent files"); });
     m_menu->setObjectName(QStringLiteral("recentMenu"));
     connect(m_menu, &QMenu::aboutToShow, this, &RecentFiles::fillMenu);
 }

@@ -3,6 +3,7 @@
 
 #include <app/panels/detailspanel.h>
 
+#include <app/common/language.h>
 #include <app/diagram/diagramsession.h>
 #include <app/diagram/subjectedit.h>
 #include <app/panels/stringlisteditor.h>
@@ -35,10 +36,12 @@ namespace {
 constexpr int noStatus = -1;
 constexpr int iconSize = 20;
 
-/** Any number that a document may hold. */
+/** Any number that a document may hold, with room for those that are usual. */
 void allowAnyNumber(QSpinBox &box)
 {
+    constexpr int usual = 80;
     box.setRange(std::numeric_limits<int>::min(), std::numeric_limits<int>::max());
+    box.setMinimumWidth(usual);
 }
 
 /** @p state with what differs between @p from and @p to as it is in the latter. */
@@ -80,19 +83,20 @@ DetailsPanel::DetailsPanel(DiagramSession *session, QWidget *parent)
     , m_plannedEnd(new QDateEdit(m_form))
     , m_link(new QLineEdit(m_form))
     , m_openLink(new QToolButton(m_form))
-    , m_style(new QPushButton(tr("Edit style…"), m_form))
+    , m_style(new QPushButton(m_form))
     , m_facts(new QLabel(m_form))
-    , m_apply(new QPushButton(tr("&Apply"), this))
-    , m_revert(new QPushButton(tr("Re&vert"), this))
+    , m_apply(new QPushButton(this))
+    , m_revert(new QPushButton(this))
 {
     nameFields();
     setUpFields();
     buildLayout();
     watchFields();
     showSubject({});
+    Language::bind(this, [this] { showTexts(); });
 }
 
-/** Names for the style sheets and tests, and for those who do not see the labels. */
+/** Names for the style sheets and tests. */
 void DetailsPanel::nameFields()
 {
     m_title->setObjectName(QStringLiteral("detailsTitle"));
@@ -111,7 +115,21 @@ void DetailsPanel::nameFields()
     m_style->setObjectName(QStringLiteral("detailsStyle"));
     m_apply->setObjectName(QStringLiteral("detailsApply"));
     m_revert->setObjectName(QStringLiteral("detailsRevert"));
+}
 
+/** The texts but for those of the labels. */
+void DetailsPanel::showTexts()
+{
+    const QStringList statuses{tr("none"),      tr("unknown"),       tr("cancelled"),
+                               tr("finished"),  tr("finished late"), tr("postponed"),
+                               tr("under way"), tr("waiting"),       tr("waiting for approval")};
+    for (int row = 0; row < statuses.size(); ++row)
+        m_status->setItemText(row, statuses.at(row));
+    m_status->setMinimumWidth(m_status->sizeHint().width()); // of its own it keeps the first one
+    m_openLink->setText(tr("Open"));
+    m_style->setText(tr("Edit style…"));
+    m_apply->setText(tr("&Apply"));
+    m_revert->setText(tr("Re&vert"));
     m_hasPlannedEnd->setAccessibleName(tr("Has a planned end"));
     m_plannedEnd->setAccessibleName(tr("Planned end"));
     m_progress->setAccessibleName(tr("Progress"));
@@ -119,20 +137,17 @@ void DetailsPanel::nameFields()
     m_openLink->setAccessibleName(tr("Open the link"));
     m_followers->setNames(tr("Followers"), tr("New follower"));
     m_facts->setAccessibleName(tr("Origin"));
+    showFacts();
 }
 
 void DetailsPanel::setUpFields()
 {
-    const QString names[] = {tr("unknown"),       tr("cancelled"),           tr("finished"),
-                             tr("finished late"), tr("postponed"),           tr("under way"),
-                             tr("waiting"),       tr("waiting for approval")};
-    m_status->addItem(tr("none"), noStatus);
+    m_status->addItem(QString(), noStatus);
     for (int status = tsUnknown; status <= tsWaittingAgree; ++status) {
         const TaskStatusInfo info{TaskStatus(status), 0};
-        m_status->addItem(QIcon(info.iconPath()), names[status], status);
+        m_status->addItem(QIcon(info.iconPath()), QString(), status);
     }
-    m_status->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    m_status->setMinimumContentsLength(8);
+    m_status->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     allowAnyNumber(*m_progress);
     allowAnyNumber(*m_priority);
     m_progress->setSuffix(QStringLiteral(" %"));
@@ -140,9 +155,9 @@ void DetailsPanel::setUpFields()
     m_statusIcon->setFixedSize(iconSize, iconSize);
     m_plannedEnd->setCalendarPopup(true);
     m_plannedEnd->setDisplayFormat(QStringLiteral("yyyy-MM-dd"));
+    m_plannedEnd->setMinimumWidth(m_plannedEnd->sizeHint().width());
     m_plannedEnd->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     m_detail->setTabChangesFocus(true);
-    m_openLink->setText(tr("Open"));
     // Too wide to stand beside their labels: these get the whole width of the panel.
     constexpr int wide = 150;
     m_link->setMinimumWidth(wide);
@@ -155,19 +170,24 @@ void DetailsPanel::setUpFields()
 
 void DetailsPanel::addRows(QFormLayout &rows)
 {
+    const auto add = [&rows](const Language::Text &name, auto *field) {
+        rows.addRow(name(), field); // which makes the label
+        auto *const label = qobject_cast<QLabel *>(rows.labelForField(field));
+        Language::bind(label, &QLabel::setText, name);
+    };
     rows.setRowWrapPolicy(QFormLayout::WrapLongRows);
-    rows.addRow(tr("Title:"), m_title);
-    rows.addRow(tr("Number:"), m_number);
-    rows.addRow(tr("Status:"), m_status);
-    rows.addRow(tr("Progress:"), beside(m_progress, m_statusIcon));
-    rows.addRow(tr("Priority:"), m_priority);
-    rows.addRow(tr("Responsible:"), m_managerName);
-    rows.addRow(tr("Their id:"), m_managerId);
-    rows.addRow(tr("Planned end:"), beside(m_hasPlannedEnd, m_plannedEnd));
-    rows.addRow(tr("Link:"), beside(m_link, m_openLink));
-    rows.addRow(tr("Followers:"), m_followers);
-    rows.addRow(tr("Details:"), m_detail);
-    rows.addRow(tr("Style:"), m_style);
+    add([] { return tr("Title:"); }, m_title);
+    add([] { return tr("Number:"); }, m_number);
+    add([] { return tr("Status:"); }, m_status);
+    add([] { return tr("Progress:"); }, beside(m_progress, m_statusIcon));
+    add([] { return tr("Priority:"); }, m_priority);
+    add([] { return tr("Responsible:"); }, m_managerName);
+    add([] { return tr("Their id:"); }, m_managerId);
+    add([] { return tr("Planned end:"); }, beside(m_hasPlannedEnd, m_plannedEnd));
+    add([] { return tr("Link:"); }, beside(m_link, m_openLink));
+    add([] { return tr("Followers:"); }, m_followers);
+    add([] { return tr("Details:"); }, m_detail);
+    add([] { return tr("Style:"); }, m_style);
     rows.addRow(m_facts);
 }
 
@@ -276,12 +296,19 @@ void DetailsPanel::fill(const TreeItem &subject)
     m_link->setText(subject.url());
     for (QLineEdit *field : {m_title, m_number, m_managerName, m_managerId, m_link})
         field->setCursorPosition(0); // a long text shows its beginning
+    showFacts();
+}
+
+/** What of the subject cannot be changed. */
+void DetailsPanel::showFacts()
+{
+    const TreeItem *const subject = m_session->model()->getTreeItem(m_index);
     QStringList facts;
-    if (!subject.creatorName().isEmpty())
-        facts.append(tr("Created by: %1").arg(subject.creatorName()));
-    if (subject.createDate() != 0)
+    if (subject && !subject->creatorName().isEmpty())
+        facts.append(tr("Created by: %1").arg(subject->creatorName()));
+    if (subject && subject->createDate() != 0)
         facts.append(
-            tr("Created on: %1").arg(SystemHelper::stringFromDateTimeMsecs(subject.createDate())));
+            tr("Created on: %1").arg(SystemHelper::stringFromDateTimeMsecs(subject->createDate())));
     m_facts->setText(facts.join(QLatin1Char('\n')));
 }
 
@@ -321,7 +348,8 @@ void DetailsPanel::apply()
     const QJsonObject state =
         changedAs(EditAttributes::stateOf(*subject), m_shown, EditAttributes::stateOf(entered));
     setChanged(false); // before anybody hears of the change and shows it here
-    SubjectEdit::replace(*m_session, m_index, tr("Edit details"), state);
+    SubjectEdit::replace(
+        *m_session, m_index, [] { return tr("Edit details"); }, state);
     revert();
 }
 

@@ -47,6 +47,8 @@ public Q_SLOTS:
 private:
     void nameFields();
     void setUpFields();
+    void showTexts();
+    void showFacts();
     void addRows(QFormLayout &rows);
     void buildLayout();
     void watchFields();

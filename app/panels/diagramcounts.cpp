@@ -3,6 +3,7 @@
 
 #include <app/panels/diagramcounts.h>
 
+#include <app/common/language.h>
 #include <app/diagram/diagramsession.h>
 
 #include <fishbone/editor/fisheditor.h>
@@ -34,6 +35,7 @@ DiagramCounts::DiagramCounts(QWidget *parent)
 {
     setObjectName(QStringLiteral("counts"));
     setMargin(4);
+    Language::bind(this, [this] { count(); });
 }
 
 void DiagramCounts::setSession(DiagramSession *session)

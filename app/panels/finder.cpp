@@ -28,6 +28,17 @@ namespace {
 constexpr int titleColumn = 0;
 constexpr int showidColumn = 2;
 
+/** The control in @p dialog whose @p text is @p wanted, of which there has to be one. */
+template <typename Control, typename Text>
+Control *controlOf(const QDialog &dialog, Text text, const QString &wanted)
+{
+    const QList<Control *> all = dialog.findChildren<Control *>();
+    const auto found = std::find_if(all.cbegin(), all.cend(),
+                                    [&](const Control *each) { return (each->*text)() == wanted; });
+    Q_ASSERT(found != all.cend());
+    return *found;
+}
+
 } // namespace
 
 Finder::Finder(DiagramSession *session, QWidget *window)
@@ -35,6 +46,10 @@ Finder::Finder(DiagramSession *session, QWidget *window)
     , m_session(session)
     , m_dialog(new ReplaceFindDialog(window))
     , m_hits(new HitList(session->model(), m_dialog))
+    , m_search(controlOf<QLineEdit>(*m_dialog, &QWidget::accessibleName,
+                                    ReplaceFindDialog::tr("Find what:")))
+    , m_replacement(controlOf<QLineEdit>(*m_dialog, &QWidget::accessibleName,
+                                         ReplaceFindDialog::tr("Replace with:")))
 {
     m_dialog->setModel(session->model());
     m_dialog->installEventFilter(this);
@@ -57,13 +72,14 @@ void Finder::addHitList()
 /** These come after the dialog's own connections, so the search is done. */
 void Finder::connectControls()
 {
-    QLineEdit *const search = field(ReplaceFindDialog::tr("Find what:"));
-    QLineEdit *const replacement = field(ReplaceFindDialog::tr("Replace with:"));
-    connect(search, &QLineEdit::returnPressed, this, &Finder::showNext);
-    connect(search, &QLineEdit::textChanged, this, &Finder::forgetHits);
+    const auto button = [this](const QString &text) {
+        return controlOf<QPushButton>(*m_dialog, &QPushButton::text, text);
+    };
+    connect(m_search, &QLineEdit::returnPressed, this, &Finder::showNext);
+    connect(m_search, &QLineEdit::textChanged, this, &Finder::forgetHits);
     connect(button(ReplaceFindDialog::tr("Find")), &QPushButton::clicked, this, &Finder::showNext);
-    connect(replacement, &QLineEdit::returnPressed, this, &Finder::replaceCurrent);
-    connect(replacement, &QLineEdit::textChanged, this, &Finder::preview);
+    connect(m_replacement, &QLineEdit::returnPressed, this, &Finder::replaceCurrent);
+    connect(m_replacement, &QLineEdit::textChanged, this, &Finder::preview);
     connect(button(ReplaceFindDialog::tr("Replace")), &QPushButton::clicked, this,
             &Finder::replaceCurrent);
     connect(button(ReplaceFindDialog::tr("Replace All")), &QPushButton::clicked, this,
@@ -100,28 +116,8 @@ void Finder::show()
     m_dialog->show();
     m_dialog->raise();
     m_dialog->activateWindow();
-    QLineEdit *const text = field(ReplaceFindDialog::tr("Find what:"));
-    text->setFocus();
-    text->selectAll();
-}
-
-QPushButton *Finder::button(const QString &text) const
-{
-    const QList<QPushButton *> buttons = m_dialog->findChildren<QPushButton *>();
-    const auto found = std::find_if(buttons.cbegin(), buttons.cend(),
-                                    [&](const QPushButton *each) { return each->text() == text; });
-    Q_ASSERT(found != buttons.cend());
-    return *found;
-}
-
-QLineEdit *Finder::field(const QString &label) const
-{
-    const QList<QLineEdit *> fields = m_dialog->findChildren<QLineEdit *>();
-    const auto found = std::find_if(fields.cbegin(), fields.cend(), [&](const QLineEdit *each) {
-        return each->accessibleName() == label;
-    });
-    Q_ASSERT(found != fields.cend());
-    return *found;
+    m_search->setFocus();
+    m_search->selectAll();
 }
 
 Qt::CaseSensitivity Finder::caseSensitivity() const
@@ -133,12 +129,11 @@ Qt::CaseSensitivity Finder::caseSensitivity() const
 /** What a replacement makes of @p text. */
 QString Finder::replaced(const QString &text) const
 {
-    const QString search = field(ReplaceFindDialog::tr("Find what:"))->text();
+    const QString search = m_search->text();
     if (search.isEmpty())
         return text;
     QString result = text;
-    return result.replace(search, field(ReplaceFindDialog::tr("Replace with:"))->text(),
-                          caseSensitivity());
+    return result.replace(search, m_replacement->text(), caseSensitivity());
 }
 
 bool Finder::isReplaceable(const QModelIndex &hit) const
@@ -213,7 +208,7 @@ int Finder::replaceIn(const QModelIndexList &hits)
     const int count = command->count();
     if (count == 0)
         return 0;
-    command->setText(tr("Replace %n text(s)", nullptr, count));
+    command->setText([count] { return tr("Replace %n text(s)", nullptr, count); });
     m_session->editor()->undoStack()->push(command.release()); // which takes it over
     m_session->touch();
     return count;

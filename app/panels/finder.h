@@ -12,7 +12,6 @@
 class DiagramSession;
 class HitList;
 class QLineEdit;
-class QPushButton;
 class ReplaceFindDialog;
 
 /**
@@ -55,13 +54,13 @@ private:
     void restoreLook();
     bool isReplaceable(const QModelIndex &hit) const;
     QString replaced(const QString &text) const;
-    QPushButton *button(const QString &text) const;
-    QLineEdit *field(const QString &label) const;
     Qt::CaseSensitivity caseSensitivity() const;
 
     DiagramSession *m_session;
     ReplaceFindDialog *m_dialog;
     HitList *m_hits;
+    QLineEdit *m_search;
+    QLineEdit *m_replacement;
     QModelIndexList m_matches;            ///< that are listed, only to be compared
     int m_current = -1;                   ///< the match that is selected
     DrawingState m_look;                  ///< of the drawing before the search

@@ -3,6 +3,7 @@
 
 #include <app/panels/historypanel.h>
 
+#include <app/common/language.h>
 #include <app/diagram/diagramsession.h>
 
 #include <fishbone/editor/fisheditor.h>
@@ -15,14 +16,14 @@ HistoryPanel::HistoryPanel(DiagramSession *session, QWidget *parent)
     , m_session(session)
 {
     setObjectName(QStringLiteral("history"));
-    setAccessibleName(tr("History"));
+    Language::bind(this, &QWidget::setAccessibleName, [] { return tr("History"); });
     setUniformItemSizes(true);
     const UndoStack *const stack = session->editor()->undoStack();
     connect(stack, &UndoStack::stackChanged, this, &HistoryPanel::refresh);
     connect(stack, &UndoStack::currentChanged, this, &HistoryPanel::refresh);
     connect(this, &QListWidget::currentRowChanged, m_session,
             [this](int row) { m_session->jumpTo(row - 1); });
-    refresh();
+    Language::bind(this, [this] { refresh(); });
 }
 
 void HistoryPanel::refresh()

@@ -3,6 +3,8 @@
 
 #include <app/panels/hitlist.h>
 
+#include <app/common/language.h>
+
 #include <fishbone/model/fishmodel.h>
 #include <fishbone/model/treeitem.h>
 
@@ -36,8 +38,10 @@ HitList::HitList(const FishModel *model, QWidget *parent)
     : QTreeWidget(parent)
     , m_model(model)
 {
-    setAccessibleName(tr("Found"));
-    setHeaderLabels({tr("Found"), tr("Will be"), tr("In")});
+    Language::bind(this, [this] {
+        setAccessibleName(tr("Found"));
+        setHeaderLabels({tr("Found"), tr("Will be"), tr("In")});
+    });
     setRootIsDecorated(false);
     setUniformRowHeights(true);
     setAlternatingRowColors(true);

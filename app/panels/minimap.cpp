@@ -3,6 +3,7 @@
 
 #include <app/panels/minimap.h>
 
+#include <app/common/language.h>
 #include <app/diagram/diagramsession.h>
 
 #include <fishbone/editor/fisheditor.h>
@@ -40,7 +41,7 @@ Minimap::Minimap(QWidget *parent)
     setMinimumSize(80, 60);
     setFocusPolicy(Qt::StrongFocus);
     setCursor(Qt::PointingHandCursor);
-    setAccessibleName(tr("Overview of the drawing"));
+    Language::bind(this, &QWidget::setAccessibleName, [] { return tr("Overview of the drawing"); });
     m_later.setSingleShot(true);
     m_later.setInterval(patience);
     connect(&m_later, &QTimer::timeout, this, &Minimap::forgetPicture);

@@ -3,6 +3,8 @@
 
 #include <app/panels/stringlisteditor.h>
 
+#include <app/common/language.h>
+
 #include <QGridLayout>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -22,9 +24,9 @@ StringListEditor::StringListEditor(QWidget *parent)
     m_list->setSelectionMode(QAbstractItemView::ExtendedSelection);
     m_list->setTabKeyNavigation(false);
     m_add->setText(QStringLiteral("+"));
-    m_add->setToolTip(tr("Add"));
+    Language::bind(m_add, &QWidget::setToolTip, [] { return tr("Add"); });
     m_remove->setText(QStringLiteral("−"));
-    m_remove->setToolTip(tr("Remove"));
+    Language::bind(m_remove, &QWidget::setToolTip, [] { return tr("Remove"); });
     m_list->installEventFilter(this);
     m_text->installEventFilter(this);
 

@@ -3,6 +3,7 @@
 
 #include <app/panels/subjecttree.h>
 
+#include <app/common/language.h>
 #include <app/panels/subjectproxymodel.h>
 
 #include <fishbone/model/fishmodel.h>
@@ -67,11 +68,12 @@ SubjectTree::SubjectTree(FishModel *model, QWidget *parent)
     , m_view(new SubjectTreeView(this))
 {
     m_filter->setObjectName(QStringLiteral("filter"));
-    m_filter->setPlaceholderText(tr("Filter by title"));
-    m_filter->setAccessibleName(tr("Filter by title"));
+    const auto filterName = [] { return tr("Filter by title"); };
+    Language::bind(m_filter, &QLineEdit::setPlaceholderText, filterName);
+    Language::bind(m_filter, &QWidget::setAccessibleName, filterName);
     m_filter->setClearButtonEnabled(true);
     m_view->setObjectName(QStringLiteral("documents"));
-    m_view->setAccessibleName(tr("Documents"));
+    Language::bind(m_view, &QWidget::setAccessibleName, [] { return tr("Documents"); });
     m_proxy->setSourceModel(model);
     m_view->setModel(m_proxy);
     for (int column = 1; column < m_proxy->columnCount(); ++column)

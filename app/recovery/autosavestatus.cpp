@@ -3,6 +3,7 @@
 
 #include <app/recovery/autosavestatus.h>
 
+#include <app/common/language.h>
 #include <app/recovery/recoverycopy.h>
 
 #include <QDir>
@@ -13,6 +14,7 @@ AutosaveStatus::AutosaveStatus(QWidget *parent)
 {
     setObjectName(QStringLiteral("autosaveStatus"));
     setTextFormat(Qt::PlainText);
+    Language::bind(this, [this] { refresh(); });
 }
 
 void AutosaveStatus::setCopy(RecoveryCopy *copy)
@@ -26,6 +28,8 @@ void AutosaveStatus::setCopy(RecoveryCopy *copy)
 
 void AutosaveStatus::refresh()
 {
+    if (!m_copy)
+        return;
     const QString path = QDir::toNativeSeparators(m_copy->path());
     const QString time = QLocale().toString(m_copy->time().time(), QLocale::ShortFormat);
     switch (m_copy->state()) {

@@ -4,6 +4,7 @@
 #include <app/window/emptypage.h>
 
 #include <app/common/actionset.h>
+#include <app/common/language.h>
 #include <app/files/recentfiles.h>
 
 #include <QAction>
@@ -17,27 +18,33 @@
 EmptyPage::EmptyPage(const ActionSet &actions, RecentFiles *recent, QWidget *parent)
     : QWidget(parent)
     , m_recent(recent)
-    , m_label(new QLabel(tr("Opened lately:"), this))
+    , m_label(new QLabel(this))
     , m_list(new QListWidget(this))
 {
     setObjectName(QStringLiteral("emptyPage"));
-    auto *const title = new QLabel(tr("No diagram is open"), this);
+    auto *const title = new QLabel(this);
+    Language::bind(title, &QLabel::setText, [] { return tr("No diagram is open"); });
     QFont font = title->font();
     font.setPointSizeF(font.pointSizeF() * 1.6);
     title->setFont(font);
     auto *const buttons = new QVBoxLayout;
     for (const char *name : {"new", "newExample", "open", "url"}) {
         QAction *const action = actions.action(QLatin1String(name));
-        auto *const button = new QPushButton(action->text(), this);
+        auto *const button = new QPushButton(this);
+        Language::bind(button, &QPushButton::setText, [action] { return action->text(); });
         button->setObjectName(QLatin1String(name) + QLatin1String("Button"));
         connect(button, &QPushButton::clicked, action, &QAction::trigger);
         buttons->addWidget(button);
     }
-    auto *const hint = new QLabel(tr("Files can also be dragged into this window."), this);
+    auto *const hint = new QLabel(this);
+    Language::bind(hint, &QLabel::setText,
+                   [] { return tr("Files can also be dragged into this window."); });
     hint->setEnabled(false); // as what can be left out
     m_list->setObjectName(QStringLiteral("recentList"));
-    m_list->setAccessibleName(m_label->text());
     m_label->setBuddy(m_list);
+    const auto listTitle = [] { return tr("Opened lately:"); };
+    Language::bind(m_label, &QLabel::setText, listTitle);
+    Language::bind(m_list, &QWidget::setAccessibleName, listTitle);
     connect(m_list, &QListWidget::itemActivated, this, [this](const QListWidgetItem *item) {
         Q_EMIT m_recent->chosen(item->data(Qt::UserRole).toString());
     });

@@ -19,12 +19,15 @@ HelpCommands::HelpCommands(ActionSet *actions, QWidget *window)
     , m_window(window)
 {
     using Scope = ActionSet::Scope;
-    actions->add(QStringLiteral("keys"), tr("&Keys…"), {QKeySequence::HelpContents}, Scope::Window,
-                 [this] { showKeys(); });
-    actions->add(QStringLiteral("about"), tr("&About Fishbone"), {}, Scope::Window,
-                 [this] { showAbout(); });
-    QAction *const aboutQt = actions->add(QStringLiteral("aboutQt"), tr("About &Qt"), {},
-                                          Scope::Window, [] { QApplication::aboutQt(); });
+    actions->add(
+        QStringLiteral("keys"), [] { return tr("&Keys…"); }, {QKeySequence::HelpContents},
+        Scope::Window, [this] { showKeys(); });
+    actions->add(
+        QStringLiteral("about"), [] { return tr("&About Fishbone"); }, {}, Scope::Window,
+        [this] { showAbout(); });
+    QAction *const aboutQt = actions->add(
+        QStringLiteral("aboutQt"), [] { return tr("About &Qt"); }, {}, Scope::Window,
+        [] { QApplication::aboutQt(); });
     aboutQt->setMenuRole(QAction::AboutQtRole);
     actions->action(QStringLiteral("about"))->setMenuRole(QAction::AboutRole);
 }

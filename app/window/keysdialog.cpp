@@ -30,13 +30,17 @@ KeysDialog::KeysDialog(const ActionSet &actions, QWidget *parent)
     m_keys->setAccessibleName(windowTitle());
     m_keys->setHeaderLabels({tr("Command"), tr("Keys")});
     fill(actions);
-    m_keys->header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
 
     auto *const layout = new QVBoxLayout(this);
     layout->addWidget(search);
     layout->addWidget(m_keys);
     layout->addWidget(buttons);
-    resize(560, 560);
+    constexpr int border = 60;                      // and the scroll bar
+    m_keys->header()->setStretchLastSection(false); // or it would not tell what it needs
+    for (const int column : {0, 1})
+        m_keys->resizeColumnToContents(column);
+    resize(m_keys->header()->length() + border, 560);
+    m_keys->header()->setStretchLastSection(true);
 }
 
 void KeysDialog::fill(const ActionSet &actions)

@@ -5,6 +5,7 @@
 
 #include <app/common/actionset.h>
 #include <app/common/canvastheme.h>
+#include <app/common/language.h>
 #include <app/common/linkopener.h>
 #include <app/diagram/diagramsession.h>
 #include <app/documents/documenttab.h>
@@ -29,6 +30,7 @@
 #include <app/recovery/autosavestatus.h>
 #include <app/window/emptypage.h>
 #include <app/window/helpcommands.h>
+#include <app/window/languagemenu.h>
 #include <app/window/menukeys.h>
 #include <app/window/menus.h>
 #include <app/window/viewcommands.h>
@@ -40,6 +42,7 @@
 #include <fishbone/model/fishmodel.h>
 #include <fishbone/model/treeitem.h>
 
+#include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
@@ -50,6 +53,26 @@
 #include <QStackedWidget>
 #include <QStatusBar>
 #include <QUrl>
+
+namespace {
+
+/** The toolkit names the buttons in the title of a dock once and for all. */
+void nameTitleButtons(const QDockWidget &dock)
+{
+    const auto name = [&dock](const char *button, const QString &text, const QString &description) {
+        auto *const found = dock.findChild<QAbstractButton *>(QLatin1String(button));
+        if (!found)
+            return;
+        found->setToolTip(text);
+        found->setAccessibleName(text);
+        found->setAccessibleDescription(description);
+    };
+    name("qt_dockwidget_floatbutton", MainWindow::tr("Float"),
+         MainWindow::tr("Takes the panel out of the window, or back into it"));
+    name("qt_dockwidget_closebutton", MainWindow::tr("Close"), MainWindow::tr("Closes the panel"));
+}
+
+} // namespace
 
 MainWindow::MainWindow(QWidget *parent)
     : QMainWindow(parent)
@@ -72,7 +95,7 @@ MainWindow::MainWindow(QWidget *parent)
     connect(m_tabs, &DocumentTabs::added, this, &MainWindow::takeIn);
     connect(m_tabs, &DocumentTabs::currentChanged, this, &MainWindow::showTab);
     restoreLayout();
-    updateState();
+    Language::bind(this, [this] { showTexts(); });
 }
 
 MainWindow::~MainWindow()
@@ -123,14 +146,17 @@ void MainWindow::addCommands()
     m_commands = {m_exports, m_edits, m_views, new MoveCommands(session(), m_actions, this),
                   new WalkCommands(session(), m_actions, this)};
     new HelpCommands(m_actions, this); // which owns it
-    m_actions->add(QStringLiteral("details"), tr("&Details"), {Qt::Key_F4},
-                   ActionSet::Scope::Selection, [this] { showDetails(); });
+    m_actions->add(
+        QStringLiteral("details"), [] { return tr("&Details"); }, {Qt::Key_F4},
+        ActionSet::Scope::Selection, [this] { showDetails(); });
 }
 
-QDockWidget *MainWindow::addDock(const char *name, const QString &title, Qt::DockWidgetArea area,
-                                 QWidget *contents)
+QDockWidget *MainWindow::addDock(const char *name, const Language::Text &title,
+                                 Qt::DockWidgetArea area, QWidget *contents)
 {
-    auto *const dock = new QDockWidget(title, this);
+    auto *const dock = new QDockWidget(this);
+    Language::bind(dock, &QWidget::setWindowTitle, title);
+    Language::bind(dock, [dock] { nameTitleButtons(*dock); });
     dock->setObjectName(QLatin1String(name));
     dock->setWidget(contents);
     addDockWidget(area, dock);
@@ -143,35 +169,38 @@ void MainWindow::addDocks()
     for (QStackedWidget **contents : {&m_trees, &m_details, &m_histories})
         *contents = new QStackedWidget(this);
     m_overview = new Minimap(this);
-    QDockWidget *const trees =
-        addDock("documentsDock", tr("Subjects"), Qt::LeftDockWidgetArea, m_trees);
-    QDockWidget *const details =
-        addDock("detailsDock", tr("Details"), Qt::RightDockWidgetArea, m_details);
-    QDockWidget *const histories =
-        addDock("historyDock", tr("History"), Qt::RightDockWidgetArea, m_histories);
-    QDockWidget *const overview =
-        addDock("overviewDock", tr("Overview"), Qt::LeftDockWidgetArea, m_overview);
-    resizeDocks({trees, details}, {240, 280}, Qt::Horizontal);
+    QDockWidget *const trees = addDock(
+        "documentsDock", [] { return tr("Subjects"); }, Qt::LeftDockWidgetArea, m_trees);
+    QDockWidget *const details = addDock(
+        "detailsDock", [] { return tr("Details"); }, Qt::RightDockWidgetArea, m_details);
+    QDockWidget *const histories = addDock(
+        "historyDock", [] { return tr("History"); }, Qt::RightDockWidgetArea, m_histories);
+    QDockWidget *const overview = addDock(
+        "overviewDock", [] { return tr("Overview"); }, Qt::LeftDockWidgetArea, m_overview);
+    resizeDocks({trees, details}, {240, 300}, Qt::Horizontal);
     resizeDocks({details, histories}, {500, 160}, Qt::Vertical);
     resizeDocks({trees, overview}, {500, 160}, Qt::Vertical);
 }
 
 void MainWindow::addBars()
 {
-    auto *const visited = new QMenu(tr("Shown be&fore"), this);
+    auto *const visited = new QMenu(this);
+    Language::bind(visited, &QMenu::setTitle, [] { return tr("Shown be&fore"); });
     m_views->listVisited(visited);
     new MenuKeys(this); // which owns it
-    Menus::build(
-        this, *m_actions,
-        {{QStringLiteral("recent"), m_recent->menu()}, {QStringLiteral("visited"), visited}});
+    Menus::build(this, *m_actions,
+                 {{QStringLiteral("recent"), m_recent->menu()},
+                  {QStringLiteral("visited"), visited},
+                  {QStringLiteral("language"), new LanguageMenu(this)}});
     QMenu *const panels = createPopupMenu();
-    panels->setTitle(tr("&Panels"));
+    Language::bind(panels, &QMenu::setTitle, [] { return tr("&Panels"); });
     menuBar()->insertMenu(findChild<QMenu *>(QStringLiteral("helpMenu"))->menuAction(), panels);
     m_actions->updateIcons(palette());
 }
 
 void MainWindow::connectCommands()
 {
+    connect(m_theme, &CanvasTheme::message, this, &MainWindow::showMessage);
     connect(m_files, &FileCommands::message, this, &MainWindow::showMessage);
     connect(m_recovery, &RecoveryCommands::message, this, &MainWindow::showMessage);
     connect(m_exports, &ExportCommands::message, this, &MainWindow::showMessage);
@@ -279,6 +308,13 @@ void MainWindow::showDetails()
     dock->show();
     dock->raise();
     details->focusTitle();
+}
+
+/** The texts that tell of the state. A message tells of what was, in the language of then. */
+void MainWindow::showTexts()
+{
+    statusBar()->clearMessage();
+    updateState();
 }
 
 void MainWindow::updateState()

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include <app/common/language.h>
+
 #include <QList>
 #include <QMainWindow>
 
@@ -66,7 +68,7 @@ protected:
 private:
     void addCommands();
     void addDocks();
-    QDockWidget *addDock(const char *name, const QString &title, Qt::DockWidgetArea area,
+    QDockWidget *addDock(const char *name, const Language::Text &title, Qt::DockWidgetArea area,
                          QWidget *contents);
     void addBars();
     void connectCommands();
@@ -76,6 +78,7 @@ private:
     void showDetails();
     void showMessage(const QString &text);
     void startDiagram();
+    void showTexts();
     void updateState();
     void restoreLayout();
 

@@ -4,6 +4,7 @@
 #include <app/window/menus.h>
 
 #include <app/common/actionset.h>
+#include <app/common/language.h>
 
 #include <QAction>
 #include <QCoreApplication>
@@ -37,7 +38,7 @@ constexpr Bar menus[] = {
     {"viewMenu", QT_TRANSLATE_NOOP("Menus", "&View"),
      "zoomin zoomout fullsize fit fitselection | rotateLeft rotateRight rotateReset | expand "
      "contract expandall contractall | asDiagram back whole visited | diagramMode taskMode | "
-     "canvasStyle | fullScreen"},
+     "canvasStyle language | fullScreen"},
     {"helpMenu", QT_TRANSLATE_NOOP("Menus", "&Help"), "keys welcome | about aboutQt"},
 };
 
@@ -50,9 +51,9 @@ constexpr Bar toolBars[] = {
      "expandall contractall | zoomin zoomout fullsize fit | back find"},
 };
 
-QString translated(const char *text)
+Language::Text titleOf(const Bar &bar)
 {
-    return QCoreApplication::translate("Menus", text);
+    return [&bar] { return QCoreApplication::translate("Menus", bar.title); };
 }
 
 void fill(QWidget *bar, const char *names, const ActionSet &actions,
@@ -79,12 +80,14 @@ namespace Menus {
 void build(QMainWindow *window, const ActionSet &actions, const QHash<QString, QMenu *> &submenus)
 {
     for (const Bar &bar : menus) {
-        QMenu *const menu = window->menuBar()->addMenu(translated(bar.title));
+        QMenu *const menu = window->menuBar()->addMenu(QString());
+        Language::bind(menu, &QMenu::setTitle, titleOf(bar));
         menu->setObjectName(QLatin1String(bar.name));
         fill(menu, bar.actions, actions, submenus);
     }
     for (const Bar &bar : toolBars) {
-        QToolBar *const toolBar = window->addToolBar(translated(bar.title));
+        QToolBar *const toolBar = window->addToolBar(QString());
+        Language::bind(toolBar, &QWidget::setWindowTitle, titleOf(bar));
         toolBar->setObjectName(QLatin1String(bar.name));
         toolBar->setIconSize(QSize(20, 20));
         fill(toolBar, bar.actions, actions, submenus);

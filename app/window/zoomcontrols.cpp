@@ -3,6 +3,8 @@
 
 #include <app/window/zoomcontrols.h>
 
+#include <app/common/language.h>
+
 #include <fishbone/editor/fisheditor.h>
 
 #include <QHBoxLayout>
@@ -25,11 +27,8 @@ ZoomControls::ZoomControls(FishEditor *editor, QWidget *parent)
     m_zoom->setPageStep(50);
     m_zoom->setSingleStep(5);
     m_zoom->setFixedWidth(160);
-    m_zoom->setToolTip(tr("Zoom"));
-    m_zoom->setAccessibleName(tr("Zoom"));
     m_percentage->setObjectName(QStringLiteral("percentage"));
     m_percentage->setAutoRaise(true);
-    m_percentage->setToolTip(tr("Show at 100 %"));
     m_percentage->setMinimumWidth(
         m_percentage->fontMetrics().horizontalAdvance(percentage(maximum)) + 16);
     m_rotation->setObjectName(QStringLiteral("rotation"));
@@ -38,8 +37,6 @@ ZoomControls::ZoomControls(FishEditor *editor, QWidget *parent)
     m_rotation->setWrapping(true);
     m_rotation->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     m_rotation->setSuffix(QStringLiteral("°"));
-    m_rotation->setToolTip(tr("Rotation"));
-    m_rotation->setAccessibleName(tr("Rotation"));
 
     auto *const layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -53,6 +50,17 @@ ZoomControls::ZoomControls(FishEditor *editor, QWidget *parent)
     connect(m_rotation, QOverload<int>::of(&QSpinBox::valueChanged), this,
             [this](int degrees) { m_editor->rotateFish(degrees); });
     setEditor(editor);
+    Language::bind(this, [this] { showTexts(); });
+}
+
+void ZoomControls::showTexts()
+{
+    m_zoom->setToolTip(tr("Zoom"));
+    m_zoom->setAccessibleName(m_zoom->toolTip());
+    m_percentage->setToolTip(tr("Show at 100 %"));
+    showZoom(m_editor->zoomValue());
+    m_rotation->setToolTip(tr("Rotation"));
+    m_rotation->setAccessibleName(m_rotation->toolTip());
 }
 
 void ZoomControls::setEditor(FishEditor *editor)

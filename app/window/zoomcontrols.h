@@ -39,6 +39,7 @@ private:
     void applyZoom(int value);
     void showZoom(int value);
     void showRotation(int degrees);
+    void showTexts();
 
     QPointer<FishEditor> m_editor;
     QSlider *m_zoom;

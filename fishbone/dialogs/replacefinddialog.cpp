@@ -3,6 +3,7 @@
 
 #include <fishbone/dialogs/replacefinddialog.h>
 
+#include <fishbone/dialogs/dialogtexts.h>
 #include <fishbone/dialogs/warningbox.h>
 
 #include <QAbstractItemModel>
@@ -29,27 +30,41 @@ ReplaceFindDialog::ReplaceFindDialog(QWidget *parent)
     : QDialog(parent)
     , m_find(new QLineEdit(this))
     , m_replace(new QLineEdit(this))
-    , m_caseSensitive(new QCheckBox(tr("Case sensitive"), this))
+    , m_caseSensitive(new QCheckBox(this))
     , m_columns(new QComboBox(this))
-    , m_replaceButton(new QPushButton(tr("Replace"), this))
-    , m_replaceAllButton(new QPushButton(tr("Replace All"), this))
+    , m_replaceButton(new QPushButton(this))
+    , m_replaceAllButton(new QPushButton(this))
 {
-    setWindowTitle(tr("Finder"));
-    m_columns->addItems({tr("title"), tr("uuid"), tr("showid"), tr("pid")});
+    m_columns->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    followLanguage(this, [this] { showTexts(); });
     m_columns->setCurrentIndex(0);
     buildLayout();
 }
 
+void ReplaceFindDialog::showTexts()
+{
+    setWindowTitle(tr("Finder"));
+    m_caseSensitive->setText(tr("Case sensitive"));
+    m_replaceButton->setText(tr("Replace"));
+    m_replaceAllButton->setText(tr("Replace All"));
+    m_columns->setAccessibleName(tr("Column"));
+    setItemTexts(m_columns, {tr("title"), tr("uuid"), tr("showid"), tr("pid")});
+}
+
 void ReplaceFindDialog::buildLayout()
 {
-    auto *const findLabel = new QLabel(tr("Find what:"), this);
-    auto *const replaceLabel = new QLabel(tr("Replace with:"), this);
-    auto *const find = new QPushButton(tr("Find"), this);
+    auto *const findLabel = new QLabel(this);
+    auto *const replaceLabel = new QLabel(this);
+    auto *const find = new QPushButton(this);
     findLabel->setBuddy(m_find);
     replaceLabel->setBuddy(m_replace);
-    m_find->setAccessibleName(findLabel->text());
-    m_replace->setAccessibleName(replaceLabel->text());
-    m_columns->setAccessibleName(tr("Column"));
+    followLanguage(this, [this, findLabel, replaceLabel, find] {
+        find->setText(tr("Find"));
+        findLabel->setText(tr("Find what:"));
+        replaceLabel->setText(tr("Replace with:"));
+        m_find->setAccessibleName(findLabel->text());
+        m_replace->setAccessibleName(replaceLabel->text());
+    });
 
     auto *const layout = new QGridLayout(this);
     layout->addWidget(findLabel, 0, 0);
@@ -145,7 +160,6 @@ void ReplaceFindDialog::find()
     if (!known) {
         m_lastCaseSensitive = caseSensitive;
         m_lastText = text;
-        m_position = 0;
         m_column = m_columns->currentIndex();
         Qt::MatchFlags flags = m_matchFlags;
         flags.setFlag(Qt::MatchCaseSensitive, caseSensitive);
@@ -161,10 +175,9 @@ void ReplaceFindDialog::replace()
 {
     const QString replacement = m_replace->text();
     const QModelIndexList found = matches();
-    if (!m_model || replacement.isEmpty() || m_position < 0 || m_position >= found.size())
+    if (!m_model || replacement.isEmpty() || found.isEmpty())
         return;
-    const QModelIndex match = m_position > 0 ? found.at(m_position - 1) : found.last();
-    QString text = match.data(Qt::DisplayRole).toString();
+    QString text = found.last().data(Qt::DisplayRole).toString();
     text.replace(m_find->text(), replacement,
                  m_caseSensitive->isChecked() ? Qt::CaseSensitive : Qt::CaseInsensitive);
     // The text goes no further: only undoable commands change titles, and this dialog knows none.

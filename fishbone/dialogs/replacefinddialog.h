@@ -70,6 +70,7 @@ public Q_SLOTS:
     void enableCtrl(int index);
 
 private:
+    void showTexts();
     void buildLayout();
     void connectControls(QPushButton *find);
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -77,7 +78,6 @@ private:
     QPointer<QAbstractItemModel> m_model;
     QList<QPersistentModelIndex> m_matches;
     QString m_lastText;
-    int m_position = 0;
     int m_column = 0;
     bool m_lastCaseSensitive = false;
     Qt::MatchFlags m_matchFlags = Qt::MatchContains | Qt::MatchRecursive;

@@ -3,6 +3,7 @@
 
 #include <fishbone/dialogs/urldialog.h>
 
+#include <fishbone/dialogs/followlanguage.h>
 #include <fishbone/dialogs/modalanswer.h>
 #include <fishbone/dialogs/warningbox.h>
 #include <fishbone/model/filereplacement.h>
@@ -65,7 +66,8 @@ URLDialog::URLDialog(const QString &title, const QString &fileName, QWidget *par
     , m_fileName(fileName.isEmpty() ? QStringLiteral("moraine2.urllist") : fileName)
     , m_urls(new QComboBox(this))
 {
-    setWindowTitle(title.isEmpty() ? tr("Input Url") : title);
+    followLanguage(this,
+                   [this, title] { setWindowTitle(title.isEmpty() ? tr("Input Url") : title); });
 
     m_urls->setEditable(true);
     m_urls->setInsertPolicy(QComboBox::NoInsert);
@@ -73,7 +75,6 @@ URLDialog::URLDialog(const QString &title, const QString &fileName, QWidget *par
     m_urls->completer()->setCaseSensitivity(Qt::CaseSensitive);
     m_urls->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_urls->setMinimumContentsLength(40);
-    m_urls->setAccessibleName(tr("Url:"));
 
     buildLayout();
     loadUrl();
@@ -81,12 +82,19 @@ URLDialog::URLDialog(const QString &title, const QString &fileName, QWidget *par
 
 void URLDialog::buildLayout()
 {
-    auto *const label = new QLabel(tr("Url:"), this);
+    auto *const label = new QLabel(this);
     label->setBuddy(m_urls);
 
-    auto *const clean = new QPushButton(tr("Clean"), this);
-    auto *const open = new QPushButton(tr("Open"), this);
-    auto *const cancel = new QPushButton(tr("Cancel"), this);
+    auto *const clean = new QPushButton(this);
+    auto *const open = new QPushButton(this);
+    auto *const cancel = new QPushButton(this);
+    followLanguage(this, [this, label, clean, open, cancel] {
+        label->setText(tr("Url:"));
+        m_urls->setAccessibleName(label->text());
+        clean->setText(tr("Clean"));
+        open->setText(tr("Open"));
+        cancel->setText(tr("Cancel"));
+    });
     connect(clean, &QPushButton::clicked, this, &URLDialog::clean);
     connect(open, &QPushButton::clicked, this, &URLDialog::accept);
     connect(cancel, &QPushButton::clicked, this, &URLDialog::reject);

@@ -310,7 +310,7 @@ Result drawAs(PictureExport::Format format, Drawing &drawing, QByteArray &pictur
     case PictureExport::Format::Pdf:
         return drawPdf(drawing, picture);
     }
-    return {Error::UnknownFormat, QString()};
+    return {Error::UnknownFormat, PictureExport::tr("there is no such format")};
 }
 
 } // namespace

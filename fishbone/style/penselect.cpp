@@ -3,6 +3,7 @@
 
 #include <fishbone/style/penselect.h>
 
+#include <fishbone/dialogs/dialogtexts.h>
 #include <fishbone/style/colorchoice.h>
 #include <fishbone/style/previewpixmap.h>
 
@@ -50,8 +51,14 @@ template <std::size_t size>
 void fill(QComboBox *combo, const Choice (&choices)[size], int current)
 {
     for (const Choice &choice : choices)
-        combo->addItem(PenSelect::tr(choice.name), choice.value);
+        combo->addItem(QString(), choice.value);
     combo->setCurrentIndex(combo->findData(current));
+    combo->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    followLanguage(combo, [combo, &choices] {
+        int row = 0;
+        for (const Choice &choice : choices)
+            combo->setItemText(row++, PenSelect::tr(choice.name));
+    });
 }
 
 /// Hands the value of the chosen item to a slot of the dialog; its index would mean nothing there.
@@ -83,8 +90,6 @@ PenSelect::PenSelect(const QPen &pen, QWidget *parent)
     , m_joinStyle(new QComboBox(this))
     , m_preview(new QLabel(this))
 {
-    setWindowTitle(tr("Pen"));
-
     m_width->setText(QStringLiteral("%1").arg(m_pen.widthF()));
     m_width->setValidator(
         new QRegularExpressionValidator(QRegularExpression(QStringLiteral("^[1-5]{1}$")), m_width));
@@ -104,7 +109,7 @@ PenSelect::PenSelect(const QPen &pen, QWidget *parent)
 
 void PenSelect::buildLayout()
 {
-    auto *const color = new QPushButton(tr("Color"), this);
+    auto *const color = new QPushButton(this);
     connect(color, &QPushButton::clicked, this, &PenSelect::openColor);
 
     auto *const layout = new QVBoxLayout(this);
@@ -112,23 +117,26 @@ void PenSelect::buildLayout()
 
     auto *const form = new QFormLayout;
     layout->addLayout(form);
-    const auto addRow = [&](const QString &name, QWidget *field) {
-        form->addRow(name, field);
-        field->setAccessibleName(name);
-    };
-    addRow(tr("PenWidth"), m_width);
-    addRow(tr("PenStyle"), m_style);
-    addRow(tr("PenCapStyle"), m_capStyle);
-    addRow(tr("PenJoinStyle"), m_joinStyle);
-    addRow(tr("PenColor"), color);
+    addNamedRow<PenSelect>(form, QT_TR_NOOP("PenWidth"), m_width);
+    addNamedRow<PenSelect>(form, QT_TR_NOOP("PenStyle"), m_style);
+    addNamedRow<PenSelect>(form, QT_TR_NOOP("PenCapStyle"), m_capStyle);
+    addNamedRow<PenSelect>(form, QT_TR_NOOP("PenJoinStyle"), m_joinStyle);
+    addNamedRow<PenSelect>(form, QT_TR_NOOP("PenColor"), color);
 
     m_preview->setAlignment(Qt::AlignCenter);
     m_preview->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
     layout->addWidget(m_preview);
 
     auto *const buttons = new QDialogButtonBox(this);
-    buttons->addButton(tr("Accept"), QDialogButtonBox::AcceptRole)->setDefault(true);
-    buttons->addButton(tr("Cancel"), QDialogButtonBox::RejectRole);
+    QPushButton *const accept = buttons->addButton(QString(), QDialogButtonBox::AcceptRole);
+    QPushButton *const cancel = buttons->addButton(QString(), QDialogButtonBox::RejectRole);
+    accept->setDefault(true);
+    followLanguage(this, [this, color, accept, cancel] {
+        setWindowTitle(tr("Pen"));
+        color->setText(tr("Color"));
+        accept->setText(tr("Accept"));
+        cancel->setText(tr("Cancel"));
+    });
     connect(buttons, &QDialogButtonBox::accepted, this, &PenSelect::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &PenSelect::reject);
     layout->addWidget(buttons);

@@ -3,6 +3,7 @@
 
 #include <fishbone/style/spearstyledialog.h>
 
+#include <fishbone/dialogs/dialogtexts.h>
 #include <fishbone/style/colorchoice.h>
 #include <fishbone/style/penselect.h>
 #include <fishbone/style/previewpixmap.h>
@@ -51,13 +52,12 @@ SpearStyleDialog::SpearStyleDialog(SpearStyle &style, bool modal, QWidget *paren
     : QDialog(parent)
     , m_style(style)
     , m_textCount(new QLineEdit(this))
-    , m_inheritanceParent(new QCheckBox(tr("InheritanceParent"), this))
+    , m_inheritanceParent(new QCheckBox(this))
     , m_state(new QComboBox(this))
-    , m_previewText(new QLineEdit(tr("Preview 预览测试 ABC xyz"), this))
+    , m_previewText(new QLineEdit(this))
     , m_preview(new QLabel(this))
 {
     setModal(modal);
-    setWindowTitle(tr("Spear style"));
     m_style.write(m_snapshot);
     buildFields();
     buildLayout();
@@ -70,29 +70,36 @@ void SpearStyleDialog::buildFields()
         QRegularExpression(QStringLiteral("^[0-9]{1,2}$")), m_textCount));
     m_textCount->setText(QStringLiteral("%1").arg(m_style.textCount()));
     m_textCount->selectAll();
-    m_textCount->setAccessibleName(tr("textCount"));
     connect(m_textCount, &QLineEdit::textChanged, this, &SpearStyleDialog::textCountChanged);
 
     m_inheritanceParent->setChecked(m_style.inheritanceParent());
     connect(m_inheritanceParent, &QCheckBox::toggled, this,
             &SpearStyleDialog::inheritanceParentChanged);
 
-    m_state->addItems({tr("ssNormal"), tr("ssSelected"), tr("ssHovered"), tr("ssLinked")});
-    m_state->setAccessibleName(tr("SpearState"));
+    m_state->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    m_previewText->setObjectName(QStringLiteral("PreviewText"));
+    connect(m_previewText, &QLineEdit::textChanged, this, &SpearStyleDialog::updatePreview);
+    followLanguage(this, [this] { showTexts(); });
     connect(m_state, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
             &SpearStyleDialog::updatePreview);
+}
 
-    m_previewText->setObjectName(QStringLiteral("PreviewText"));
+void SpearStyleDialog::showTexts()
+{
+    setWindowTitle(tr("Spear style"));
+    m_inheritanceParent->setText(tr("InheritanceParent"));
     m_previewText->setAccessibleName(tr("Preview"));
-    connect(m_previewText, &QLineEdit::textChanged, this, &SpearStyleDialog::updatePreview);
+    setItemTexts(m_state, {tr("ssNormal"), tr("ssSelected"), tr("ssHovered"), tr("ssLinked")});
+    if (!m_previewText->isModified())
+        m_previewText->setText(tr("Preview 预览测试 ABC xyz"));
 }
 
 void SpearStyleDialog::buildLayout()
 {
     auto *const form = new QFormLayout;
-    form->addRow(tr("textCount"), m_textCount);
+    addNamedRow<SpearStyleDialog>(form, QT_TR_NOOP("textCount"), m_textCount);
     form->addRow(makeParentGroup());
-    form->addRow(tr("SpearState"), m_state);
+    addNamedRow<SpearStyleDialog>(form, QT_TR_NOOP("SpearState"), m_state);
 
     // The focusable widgets are made in this order as well, which makes it the tab order.
     auto *const layout = new QVBoxLayout(this);
@@ -101,8 +108,13 @@ void SpearStyleDialog::buildLayout()
     layout->addLayout(makeSetters());
 
     auto *const buttons = new QDialogButtonBox(this);
-    buttons->addButton(tr("Accept"), QDialogButtonBox::AcceptRole)->setDefault(true);
-    buttons->addButton(tr("Cancel"), QDialogButtonBox::RejectRole);
+    QPushButton *const accept = buttons->addButton(QString(), QDialogButtonBox::AcceptRole);
+    QPushButton *const cancel = buttons->addButton(QString(), QDialogButtonBox::RejectRole);
+    accept->setDefault(true);
+    followLanguage(this, [accept, cancel] {
+        accept->setText(tr("Accept"));
+        cancel->setText(tr("Cancel"));
+    });
     connect(buttons, &QDialogButtonBox::accepted, this, &SpearStyleDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &SpearStyleDialog::reject);
     layout->addWidget(buttons);
@@ -110,7 +122,8 @@ void SpearStyleDialog::buildLayout()
 
 QGroupBox *SpearStyleDialog::makeParentGroup()
 {
-    auto *const group = new QGroupBox(tr("Parent"), this);
+    auto *const group = new QGroupBox(this);
+    followLanguage(group, [group] { group->setTitle(tr("Parent")); });
     auto *const layout = new QVBoxLayout(group);
     layout->addWidget(m_inheritanceParent);
     return group;
@@ -119,21 +132,22 @@ QGroupBox *SpearStyleDialog::makeParentGroup()
 QLayout *SpearStyleDialog::makeSetters()
 {
     auto *const grid = new QGridLayout;
-    const auto add = [&](const QString &text, int row, int column, auto slot) {
-        auto *const button = new QPushButton(text, this);
+    const auto add = [&](const char *text, int row, int column, auto slot) {
+        auto *const button = new QPushButton(this);
+        followLanguage(button, [button, text] { button->setText(tr(text)); });
         connect(button, &QPushButton::clicked, this, slot);
         grid->addWidget(button, row, column);
     };
-    add(tr("Set TextFont"), 0, 0, &SpearStyleDialog::openTextFont);
-    add(tr("Set TextColor"), 0, 1, &SpearStyleDialog::openTextColor);
-    add(tr("Set TextBkColor"), 1, 0, &SpearStyleDialog::openTextBkColor);
-    add(tr("Set BroderPen"), 1, 1, &SpearStyleDialog::openBroderPen);
+    add(QT_TR_NOOP("Set TextFont"), 0, 0, &SpearStyleDialog::openTextFont);
+    add(QT_TR_NOOP("Set TextColor"), 0, 1, &SpearStyleDialog::openTextColor);
+    add(QT_TR_NOOP("Set TextBkColor"), 1, 0, &SpearStyleDialog::openTextBkColor);
+    add(QT_TR_NOOP("Set BroderPen"), 1, 1, &SpearStyleDialog::openBroderPen);
     return grid;
 }
 
 QGroupBox *SpearStyleDialog::makePreviewGroup()
 {
-    auto *const group = new QGroupBox(tr("Preview"), this);
+    auto *const group = new QGroupBox(this);
 
     // Large fonts are scrolled to, so that the dialog keeps its size while one tries them.
     auto *const area = new QScrollArea(group);
@@ -141,7 +155,10 @@ QGroupBox *SpearStyleDialog::makePreviewGroup()
     area->setWidgetResizable(true);
     area->setBackgroundRole(QPalette::Base);
     area->setMinimumSize(360, 120);
-    area->setAccessibleName(tr("Preview"));
+    followLanguage(group, [group, area] {
+        group->setTitle(tr("Preview"));
+        area->setAccessibleName(group->title());
+    });
     m_preview->setAlignment(Qt::AlignCenter);
 
     auto *const layout = new QVBoxLayout(group);

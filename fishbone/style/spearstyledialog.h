@@ -66,6 +66,7 @@ private:
     QPen currentPen() const;
     QFont currentFont() const;
     void buildFields();
+    void showTexts();
     void buildLayout();
     QGroupBox *makeParentGroup();
     QGroupBox *makePreviewGroup();

@@ -13,9 +13,9 @@ struct AttributeCommand::Private
     SubjectKey subject;
 };
 
-AttributeCommand::AttributeCommand(const QString &text, QAbstractItemModel *model,
+AttributeCommand::AttributeCommand(const Name &name, QAbstractItemModel *model,
                                    const QModelIndex &index)
-    : UndoCommand(text)
+    : UndoCommand(name)
     , m_d(std::make_unique<Private>())
 {
     m_d->model = model;
@@ -45,7 +45,7 @@ TreeItem *AttributeCommand::subject() const
 }
 
 ModifyName::ModifyName(QAbstractItemModel *model, const QModelIndex &index, const QString &name)
-    : AttributeCommand(tr("Modify subject name"), model, index)
+    : AttributeCommand([] { return tr("Modify subject name"); }, model, index)
     , m_newName(name)
 {
 }
@@ -70,7 +70,7 @@ void ModifyName::undo()
 }
 
 ModifyLinkTo::ModifyLinkTo(QAbstractItemModel *model, const QModelIndex &index, const QString &url)
-    : AttributeCommand(tr("Modify link to"), model, index)
+    : AttributeCommand([] { return tr("Modify link to"); }, model, index)
     , m_newUrl(url)
 {
 }
@@ -93,7 +93,7 @@ void ModifyLinkTo::undo()
 }
 
 ModifyDelLink::ModifyDelLink(QAbstractItemModel *model, const QModelIndex &index)
-    : AttributeCommand(tr("Delete link"), model, index)
+    : AttributeCommand([] { return tr("Delete link"); }, model, index)
 {
 }
 
@@ -115,7 +115,7 @@ void ModifyDelLink::undo()
 }
 
 EditModify::EditModify(FishModel *model, const QModelIndex &index, TreeItem *item)
-    : AttributeCommand(tr("Modify Item"), model, index)
+    : AttributeCommand([] { return tr("Modify Item"); }, model, index)
     , m_item(item)
 {
 }

@@ -34,7 +34,7 @@ public:
 
 protected:
     /** Remembers the subject at @p index by its uuid. The model is not owned. */
-    AttributeCommand(const QString &text, QAbstractItemModel *model, const QModelIndex &index);
+    AttributeCommand(const Name &name, QAbstractItemModel *model, const QModelIndex &index);
 
     /** The model, null when it is gone. */
     QAbstractItemModel *model() const;

@@ -20,7 +20,12 @@ struct CommandGroup::Private
 };
 
 CommandGroup::CommandGroup(const QString &text, QObject *parent)
-    : UndoCommand(text, parent)
+    : CommandGroup([text] { return text; }, parent)
+{
+}
+
+CommandGroup::CommandGroup(const Name &name, QObject *parent)
+    : UndoCommand(name, parent)
     , m_d(std::make_unique<Private>())
 {
 }

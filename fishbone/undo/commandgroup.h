@@ -24,6 +24,8 @@ class FISHBONE_EXPORT CommandGroup : public UndoCommand
 public:
     /** Makes a group without members, named @p text. */
     explicit CommandGroup(const QString &text, QObject *parent = nullptr);
+    /** Makes a group without members, whose name follows the language. */
+    explicit CommandGroup(const Name &name, QObject *parent = nullptr);
     /** Deletes the members. */
     ~CommandGroup() override;
 

@@ -57,8 +57,8 @@ void EditDelete::Private::deleteSubject(TreeItem *subject)
     Deletion deletion{{}, {}, isHead, rows.last()};
     if (!isHead)
         deletion.parent = keyFromItem(*model, subject->parent());
-    if (deletion.held.take(*model, subject))
-        deletions.push_back(std::move(deletion));
+    deletion.held.take(*model, subject);
+    deletions.push_back(std::move(deletion));
 }
 
 /** Puts a subject back; null when it cannot go back. */
@@ -75,14 +75,14 @@ TreeItem *EditDelete::Private::restore(Deletion &deletion, SubjectFinder &finder
 
 EditDelete::EditDelete(FishModel *model, const QJsonObject &objects,
                        const QList<TreeItem *> &subjects)
-    : UndoCommand(tr("Delete selecteds"))
+    : UndoCommand([] { return tr("Delete selecteds"); })
     , m_d(std::make_unique<Private>())
 {
     m_d->set(model, objects, subjects);
 }
 
 EditDelete::EditDelete(FishModel *model, const QModelIndex &index)
-    : UndoCommand(tr("Delete current selected"))
+    : UndoCommand([] { return tr("Delete current selected"); })
     , m_d(std::make_unique<Private>())
 {
     m_d->model = model;

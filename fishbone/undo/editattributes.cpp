@@ -141,7 +141,7 @@ struct EditAttributes::Private
 };
 
 EditAttributes::EditAttributes(FishModel *model)
-    : UndoCommand(tr("Edit attributes"))
+    : UndoCommand([] { return tr("Edit attributes"); })
     , m_d(std::make_unique<Private>())
 {
     m_d->model = model;

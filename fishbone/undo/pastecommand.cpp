@@ -125,7 +125,7 @@ TreeItem *EditPaste::Private::pastedSubject(const Copy &copy, SubjectFinder &fin
 }
 
 EditPaste::EditPaste(FishModel *model, const QModelIndex &target, const QJsonObject &objects)
-    : UndoCommand(tr("Paste from clipborad"))
+    : UndoCommand([] { return tr("Paste from clipborad"); })
     , m_d(std::make_unique<Private>())
 {
     m_d->model = model;

@@ -59,7 +59,7 @@ protected:
     struct Private;
 
     /** Remembers the subject at @p reference, which tells the place, by its uuid. */
-    InsertCommand(const QString &text, QAbstractItemModel *model, const QModelIndex &reference);
+    InsertCommand(const Name &name, QAbstractItemModel *model, const QModelIndex &reference);
 
     /** Where the subject goes when @p reference, which may be invalid, is the subject named. */
     virtual Place place(const QModelIndex &reference) const = 0;

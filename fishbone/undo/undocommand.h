@@ -8,6 +8,8 @@
 #include <QObject>
 #include <QString>
 
+#include <functional>
+
 /**
  * A change that can be taken back.
  *
@@ -20,8 +22,13 @@ class FISHBONE_EXPORT UndoCommand : public QObject
     Q_OBJECT
 
 public:
+    /** A name in the language of the moment. */
+    using Name = std::function<QString()>;
+
     /** Makes a command named @p text. A command for a stack has no parent. */
     explicit UndoCommand(const QString &text, QObject *parent = nullptr);
+    /** Makes a command whose name follows the language: @p name is asked for it each time. */
+    explicit UndoCommand(const Name &name, QObject *parent = nullptr);
     ~UndoCommand() override;
 
     /** Reverts the effect of redo(). */
@@ -31,11 +38,15 @@ public:
     virtual void redo() = 0;
 
     /** Returns the name that a user reads. */
-    QString text() const { return m_text; }
+    QString text() const { return m_name ? m_name() : QString(); }
+    /** Returns what makes the name, for a command that takes it over. */
+    Name name() const { return m_name; }
 
     /** Replaces the name that a user reads. */
-    void setText(const QString &text) { m_text = text; }
+    void setText(const QString &text);
+    /** Replaces the name that a user reads by one that follows the language. */
+    void setText(const Name &name) { m_name = name; }
 
 private:
-    QString m_text;
+    Name m_name;
 };

@@ -18,6 +18,7 @@ private Q_SLOTS:
     void shouldExportAFileOfAnotherProgram();
     void shouldExportTheSameWhateverTheEnvironment_data();
     void shouldExportTheSameWhateverTheEnvironment();
+    void shouldDrawInTheStyleOfTheUser();
     void shouldExpandAsAsked_data();
     void shouldExpandAsAsked();
     void shouldMakeThePictureAsLargeAsAsked();
@@ -142,6 +143,27 @@ void TestCommandLine::shouldExportTheSameWhateverTheEnvironment()
         run(arguments + QStringList{QStringLiteral("--export"), picture(), document()}, changed);
     QVERIFY2(outcome.code == 0, qPrintable(outcome.err));
     QCOMPARE(QImage(picture()), expected);
+}
+
+void TestCommandLine::shouldDrawInTheStyleOfTheUser()
+{
+    const QTemporaryDir home;
+    const QProcessEnvironment environment = ProgramRunner::bareEnvironment(home.path());
+    const QString source = home.filePath(QStringLiteral("a.json"));
+    ProgramRunner::writeFile(source, ProgramRunner::diagram());
+    const auto exported = [&] {
+        const QString target = home.filePath(QStringLiteral("a.png"));
+        ProgramRunner::run({source, QStringLiteral("--export"), target}, environment);
+        return ProgramRunner::contentOf(target);
+    };
+    const QByteArray usual = exported();
+    QVERIFY(!usual.isEmpty());
+    const QString folder = home.filePath(QStringLiteral(".local/share/Fishbone/Fishbone"));
+    QVERIFY(QDir().mkpath(folder));
+    ProgramRunner::writeFile(folder + QStringLiteral("/global.spearstyle"), R"({"textCount": 1})");
+    const QByteArray own = exported();
+    QVERIFY(!own.isEmpty());
+    QVERIFY(own != usual);
 }
 
 void TestCommandLine::shouldExpandAsAsked_data()

@@ -89,6 +89,8 @@ private Q_SLOTS:
     void shouldPreferTheLanguageThatIsAskedFor_data();
     void shouldPreferTheLanguageThatIsAskedFor();
     void shouldFormatAsTheLanguageThatIsAskedFor();
+    void shouldFormatAsAtHomeInTheOwnLanguage();
+    void shouldTakeBackWhatItInstalled();
 
     void shouldShowTheCountsOfAHead_data();
     void shouldShowTheCountsOfAHead();
@@ -124,6 +126,7 @@ private:
 /// Takes out what a test has installed.
 void TestLanguage::cleanup()
 {
+    Language::install(QString());
     qDeleteAll(QCoreApplication::instance()->findChildren<QTranslator *>());
     QLocale::setDefault(m_locale);
 }
@@ -185,6 +188,31 @@ void TestLanguage::shouldFormatAsTheLanguageThatIsAskedFor()
     QCOMPARE(QLocale().language(), QLocale::Chinese);
     Language::install(QStringLiteral("en"));
     QCOMPARE(QLocale().language(), QLocale::English);
+}
+
+void TestLanguage::shouldFormatAsAtHomeInTheOwnLanguage()
+{
+    Language::install(QString());
+    const QLocale home(QLocale::English, QLocale::UnitedKingdom);
+    QLocale::setDefault(home);
+    Language::install(QStringLiteral("en"));
+    QCOMPARE(QLocale(), home);
+    QCOMPARE(FishModel::tr("自由主题"), QStringLiteral("Free topic"));
+    Language::install(QStringLiteral("zh"));
+    QCOMPARE(QLocale(), QLocale(QLocale::Chinese, QLocale::China));
+    Language::install(QString());
+    QCOMPARE(QLocale(), home);
+}
+
+void TestLanguage::shouldTakeBackWhatItInstalled()
+{
+    Language::install(QStringLiteral("zh"));
+    const int count = qApp->findChildren<QTranslator *>().size();
+    QVERIFY(count > 0);
+    Language::install(QStringLiteral("zh"));
+    QCOMPARE(qApp->findChildren<QTranslator *>().size(), count);
+    Language::install(QStringLiteral("en"));
+    QCOMPARE(FishModel::tr("自由主题"), QStringLiteral("Free topic"));
 }
 
 void TestLanguage::shouldShowTheCountsOfAHead_data()

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Fishbone authors
 // SPDX-License-Identifier: MIT
 
+#include <tests/app/appfixture.h>
 #include <tests/app/picturesubject.h>
 
 #include <app/common/language.h>
@@ -13,12 +14,16 @@
 #include <fishbone/style/spearstyledialog.h>
 
 #include <QAction>
+#include <QComboBox>
+#include <QDateEdit>
+#include <QDockWidget>
 #include <QLabel>
 #include <QLineEdit>
 #include <QLocale>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QStyleOptionComboBox>
 #include <QTranslator>
 #include <QtTest>
 
@@ -56,24 +61,69 @@ QStringList shownTexts(const QWidget &widget)
     return texts;
 }
 
+/// A text that is shown, the width that it has and the width that it needs.
+struct Fit
+{
+    QString text;
+    int width;
+    int needed;
+};
+
+/// Of the item of \a combo that needs most.
+Fit fitOf(const QComboBox &combo)
+{
+    QStyleOptionComboBox option;
+    option.initFrom(&combo);
+    const int width =
+        combo.style()
+            ->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, &combo)
+            .width();
+    Fit widest{QString(), width, 0};
+    for (int row = 0; row < combo.count(); ++row) {
+        const int icon = combo.itemIcon(row).isNull() ? 0 : combo.iconSize().width() + 4;
+        const int needed = icon + combo.fontMetrics().horizontalAdvance(combo.itemText(row));
+        if (needed > widest.needed)
+            widest = {combo.itemText(row), width, needed};
+    }
+    return widest;
+}
+
+Fit fitOf(const QWidget &widget)
+{
+    const QFontMetrics metrics = widget.fontMetrics();
+    const int width = widget.contentsRect().width();
+    if (const auto *const label = qobject_cast<const QLabel *>(&widget))
+        return {label->text(), width, label->minimumSizeHint().width()};
+    if (const auto *const button = qobject_cast<const QAbstractButton *>(&widget))
+        return {button->text(), width, button->minimumSizeHint().width()};
+    if (const auto *const field = qobject_cast<const QLineEdit *>(&widget)) {
+        const QString text = field->placeholderText();
+        return {text, width, metrics.horizontalAdvance(text)};
+    }
+    if (const auto *const combo = qobject_cast<const QComboBox *>(&widget))
+        return fitOf(*combo);
+    if (const auto *const date = qobject_cast<const QDateEdit *>(&widget)) {
+        const auto *const inner = date->findChild<const QLineEdit *>();
+        constexpr int margins = 4;
+        return {date->text(), inner->width(), metrics.horizontalAdvance(date->text()) + margins};
+    }
+    if (const auto *const dock = qobject_cast<const QDockWidget *>(&widget)) {
+        const QString text = dock->windowTitle();
+        constexpr int buttons = 40;
+        return {text, width, metrics.horizontalAdvance(text) + buttons};
+    }
+    return {QString(), 0, 0};
+}
+
 /// The texts in \a widget that are shown and find no room.
 QStringList cutTexts(const QWidget &widget)
 {
     QStringList cut;
     for (const QWidget *each : widget.findChildren<QWidget *>()) {
-        if (!each->isVisible())
-            continue;
-        const auto *const label = qobject_cast<const QLabel *>(each);
-        const auto *const button = qobject_cast<const QAbstractButton *>(each);
-        const auto *const field = qobject_cast<const QLineEdit *>(each);
-        const QString text = label    ? label->text()
-                             : button ? button->text()
-                             : field  ? field->placeholderText()
-                                      : QString();
-        const int needed =
-            field ? field->fontMetrics().horizontalAdvance(text) : each->minimumSizeHint().width();
-        if (!text.isEmpty() && each->contentsRect().width() < needed)
-            cut.append(text);
+        const Fit fit = each->isVisible() ? fitOf(*each) : Fit{QString(), 0, 0};
+        if (!fit.text.isEmpty() && fit.width < fit.needed)
+            cut.append(
+                QStringLiteral("%1 (%2 of %3)").arg(fit.text).arg(fit.width).arg(fit.needed));
     }
     return cut;
 }
@@ -100,6 +150,8 @@ private Q_SLOTS:
     void shouldShowToolTipsWithoutMnemonics();
     void shouldHaveRoomForTheTextsOfTheWindow_data() { addLanguages(); }
     void shouldHaveRoomForTheTextsOfTheWindow();
+    void shouldHaveRoomForTheTextsAfterASwitch_data() { addLanguages(); }
+    void shouldHaveRoomForTheTextsAfterASwitch();
     void shouldHaveRoomForTheTextsOfADialog_data();
     void shouldHaveRoomForTheTextsOfADialog();
     void shouldGiveNoMnemonicTwiceInADialog_data() { shouldHaveRoomForTheTextsOfADialog_data(); }
@@ -142,6 +194,7 @@ private:
 /// Takes out what a test has installed.
 void TestLanguageWindow::cleanup()
 {
+    Language::install(QString());
     qDeleteAll(QCoreApplication::instance()->findChildren<QTranslator *>());
     QLocale::setDefault(m_locale);
 }
@@ -213,6 +266,23 @@ void TestLanguageWindow::shouldHaveRoomForTheTextsOfTheWindow()
     window.show();
     QVERIFY(QTest::qWaitForWindowExposed(&window));
     QCOMPARE(cutTexts(window).join(QLatin1String(" | ")), QString());
+}
+
+void TestLanguageWindow::shouldHaveRoomForTheTextsAfterASwitch()
+{
+    QFETCH(QString, language);
+    Language::install(language == QLatin1String("zh") ? QStringLiteral("en")
+                                                      : QStringLiteral("zh"));
+    AppFixture app;
+    app.window.resize(1280, 800);
+    app.select("Machines");
+    app.trigger("details");
+    app.trigger("find");
+    useLanguage();
+    AppFixture::settle();
+    const QStringList shown = shownTexts(app.window);
+    QVERIFY2(shown.size() > 20, qPrintable(shown.join(QLatin1Char('|'))));
+    QCOMPARE(cutTexts(app.window).join(QLatin1String(" | ")), QString());
 }
 
 void TestLanguageWindow::shouldHaveRoomForTheTextsOfADialog_data()

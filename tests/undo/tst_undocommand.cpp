@@ -25,6 +25,7 @@ class TestUndoCommand : public QObject
 private Q_SLOTS:
     void shouldKeepItsText();
     void shouldReplaceItsText();
+    void shouldAskForANameThatFollowsTheLanguage();
     void shouldHaveNoParentUnlessGivenOne();
     void shouldDoNothingByItself();
     void shouldReachTheSubclassThroughTheBase();
@@ -48,6 +49,22 @@ void TestUndoCommand::shouldReplaceItsText()
     command.setText(QStringLiteral("移动"));
 
     QCOMPARE(command.text(), QStringLiteral("移动"));
+}
+
+void TestUndoCommand::shouldAskForANameThatFollowsTheLanguage()
+{
+    UndoLog log;
+    QString text = QStringLiteral("Move");
+    RecordingCommand command(QStringLiteral("X"), &log);
+    command.setText([&text] { return text; });
+    QCOMPARE(command.text(), QStringLiteral("Move"));
+
+    text = QStringLiteral("移动");
+    QCOMPARE(command.text(), text);
+    QCOMPARE(command.name()(), text);
+
+    command.setText(UndoCommand::Name());
+    QCOMPARE(command.text(), QString());
 }
 
 void TestUndoCommand::shouldHaveNoParentUnlessGivenOne()

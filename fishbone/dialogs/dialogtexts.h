@@ -1,0 +1,36 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <fishbone/dialogs/followlanguage.h>
+
+#include <QComboBox>
+#include <QFormLayout>
+#include <QLabel>
+#include <QStringList>
+
+/// Gives the items of \a combo other texts, and makes those that are missing.
+inline void setItemTexts(QComboBox *combo, const QStringList &texts)
+{
+    for (int row = 0; row < texts.size(); ++row) {
+        if (row < combo->count())
+            combo->setItemText(row, texts.at(row));
+        else
+            combo->addItem(texts.at(row));
+    }
+}
+
+/// Adds \a field to \a form with \a name, a text of \a Dialog, on its label and for those who do
+/// not see the label.
+template <typename Dialog>
+void addNamedRow(QFormLayout *form, const char *name, QWidget *field)
+{
+    auto *const label = new QLabel(field->parentWidget());
+    label->setBuddy(field);
+    form->addRow(label, field);
+    followLanguage(field, [name, label, field] {
+        label->setText(Dialog::tr(name));
+        field->setAccessibleName(label->text());
+    });
+}
