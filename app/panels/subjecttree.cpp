@@ -12,7 +12,34 @@
 #include <QItemSelectionModel>
 #include <QLineEdit>
 #include <QMimeData>
+#include <QPainter>
+#include <QStyledItemDelegate>
 #include <QVBoxLayout>
+
+namespace {
+
+/** Shows the icon of a selected row in the colour of its text; it is as blue as the selection. */
+class SubjectDelegate : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override
+    {
+        QStyledItemDelegate::initStyleOption(option, index);
+        if (!option->state.testFlag(QStyle::State_Selected) || option->icon.isNull())
+            return;
+        QPixmap picture = option->icon.pixmap(option->decorationSize);
+        QPainter painter(&picture);
+        painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+        painter.fillRect(picture.rect(), option->palette.color(QPalette::HighlightedText));
+        painter.end();
+        option->icon.addPixmap(picture, QIcon::Selected);
+    }
+};
+
+} // namespace
 
 SubjectTreeView::SubjectTreeView(QWidget *parent)
     : QTreeView(parent)
@@ -24,6 +51,7 @@ SubjectTreeView::SubjectTreeView(QWidget *parent)
     setDragEnabled(true);
     setDragDropMode(DragOnly);
     setExpandsOnDoubleClick(false);
+    setItemDelegate(new SubjectDelegate(this));
 }
 
 void SubjectTreeView::setModel(QAbstractItemModel *model)
