@@ -3,15 +3,73 @@
 
 #include <app/common/busycursor.h>
 
+#include <fishbone/model/treeitem.h>
+
+#include <QApplication>
 #include <QCursor>
-#include <QGuiApplication>
+#include <QMainWindow>
+#include <QStatusBar>
+
+#include <vector>
+
+namespace {
+
+constexpr int manySubjects = 5000; ///< below that a layout takes some tenths of a second
+
+/** Whether there is much below @p root; looks at no more than it takes to know. */
+bool isLarge(const TreeItem *root)
+{
+    std::vector<const TreeItem *> waiting;
+    if (root)
+        waiting.push_back(root);
+    for (int count = 0; !waiting.empty(); ++count) {
+        const QList<TreeItem *> &children = waiting.back()->childItems();
+        waiting.pop_back();
+        if (count + int(waiting.size()) + int(children.size()) > manySubjects)
+            return true;
+        waiting.insert(waiting.end(), children.cbegin(), children.cend());
+    }
+    return false;
+}
+
+/** That of the window that the user works in, or null. */
+QStatusBar *activeStatusBar()
+{
+    QWidget *widget = QApplication::activeWindow();
+    while (widget && !qobject_cast<QMainWindow *>(widget))
+        widget = widget->parentWidget();
+    return widget ? static_cast<QMainWindow *>(widget)->statusBar() : nullptr;
+}
+
+} // namespace
 
 BusyCursor::BusyCursor()
 {
-    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    show();
+}
+
+BusyCursor::BusyCursor(const TreeItem *root)
+{
+    if (isLarge(root))
+        show();
+}
+
+void BusyCursor::show()
+{
+    m_isShown = true;
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+    m_statusBar = activeStatusBar();
+    if (!m_statusBar)
+        return;
+    m_statusBar->showMessage(tr("Working…"));
+    m_statusBar->repaint(); // there will be no event until the work is done
 }
 
 BusyCursor::~BusyCursor()
 {
-    QGuiApplication::restoreOverrideCursor();
+    if (!m_isShown)
+        return;
+    QApplication::restoreOverrideCursor();
+    if (m_statusBar && m_statusBar->currentMessage() == tr("Working…"))
+        m_statusBar->clearMessage();
 }

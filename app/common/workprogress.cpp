@@ -11,7 +11,7 @@ constexpr int betweenReports = 40; ///< milliseconds; more often nobody sees it
 } // namespace
 
 WorkProgress::WorkProgress(const QString &text, QWidget *window)
-    : m_dialog(text, QProgressDialog::tr("Cancel"), 0, 0, window)
+    : m_dialog(text, tr("Cancel"), 0, 0, window)
 {
     m_dialog.setObjectName(QStringLiteral("workProgress"));
     m_dialog.setWindowModality(Qt::WindowModal);

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QProgressDialog>
 
@@ -12,6 +13,7 @@
  */
 class WorkProgress
 {
+    Q_DECLARE_TR_FUNCTIONS(WorkProgress)
     Q_DISABLE_COPY(WorkProgress)
 
 public:

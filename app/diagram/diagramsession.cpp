@@ -3,6 +3,7 @@
 
 #include <app/diagram/diagramsession.h>
 
+#include <app/common/busycursor.h>
 #include <app/diagram/drawingstate.h>
 #include <app/diagram/expansion.h>
 #include <app/diagram/modifiedtracker.h>
@@ -57,6 +58,12 @@ DiagramSession::DiagramSession(FishModel *model, FishEditor *editor, QObject *pa
 FishInfo *DiagramSession::document() const
 {
     return m_editor->headSpear() ? m_editor->currentFishInfo() : nullptr;
+}
+
+const TreeItem *DiagramSession::container() const
+{
+    const FishInfo *const shown = document();
+    return shown ? shown->treeItem() : nullptr;
 }
 
 QString DiagramSession::folder() const
@@ -230,6 +237,7 @@ void DiagramSession::removeSelected(bool cut)
     const QModelIndex first = m_editor->firstSelectedSpearIndex();
     const QPersistentModelIndex parent = first.parent();
     const int row = first.row();
+    const BusyCursor busy(container());
     if (cut)
         m_editor->cut();
     else
@@ -245,6 +253,7 @@ void DiagramSession::removeSelected(bool cut)
  * selection to what came or to what is left. */
 void DiagramSession::preserve(const std::function<void()> &change)
 {
+    const BusyCursor busy(container());
     const DrawingState state = DrawingState::capture(*m_editor);
     const bool hadSelection = m_editor->hasSelection();
     m_changed.clear();

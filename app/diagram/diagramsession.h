@@ -34,6 +34,8 @@ public:
     FishEditor *editor() const { return m_editor; }
     /** The document that is shown, or null. */
     FishInfo *document() const;
+    /** What all subjects of the shown document are below, or null. */
+    const TreeItem *container() const;
     /** Where the file of the shown document is, or where documents usually are. */
     QString folder() const;
     /** The head of @p document. */

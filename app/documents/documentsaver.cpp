@@ -3,6 +3,7 @@
 
 #include <app/documents/documentsaver.h>
 
+#include <app/common/busycursor.h>
 #include <app/diagram/diagramsession.h>
 #include <app/documents/documenttab.h>
 #include <app/documents/fileconflict.h>
@@ -85,11 +86,18 @@ bool DocumentSaver::saveCopy(DocumentTab *tab)
     return true;
 }
 
+/** Writes @p document to the file @p path; true when it did. */
+bool DocumentSaver::saved(FishInfo &document, const QString &path)
+{
+    const BusyCursor busy(document.treeItem());
+    return document.saveFile(path);
+}
+
 /** Writes the document, with what is typed into its fields, and nothing else. */
 bool DocumentSaver::write(DocumentTab *tab, const QString &path)
 {
     tab->takeTyped();
-    if (tab->document()->saveFile(path))
+    if (saved(*tab->document(), path))
         return true;
     QMessageBox::warning(
         m_window, tr("Save"),

@@ -6,6 +6,7 @@
 #include <QObject>
 
 class DocumentTab;
+class FishInfo;
 class RecentFiles;
 class QWidget;
 
@@ -40,6 +41,7 @@ Q_SIGNALS:
 private:
     QString chosenFile(DocumentTab *tab, const QString &title) const;
     bool mayOverwrite(DocumentTab *tab);
+    static bool saved(FishInfo &document, const QString &path);
     bool write(DocumentTab *tab, const QString &path);
     bool writeTo(DocumentTab *tab, const QString &path);
 

@@ -4,6 +4,7 @@
 #include <app/documents/filecommands.h>
 
 #include <app/common/actionset.h>
+#include <app/common/busycursor.h>
 #include <app/diagram/diagramsession.h>
 #include <app/documents/documentsaver.h>
 #include <app/documents/documenttab.h>
@@ -321,6 +322,13 @@ void FileCommands::answerConflicts(DocumentTab *tab)
     connect(conflict, &FileConflict::saveAsRequested, this, [this, tab] { m_saver->saveAs(tab); });
 }
 
+/** Loads the file @p path of @p document another time; returns as FishModel does. */
+int FileCommands::loadAgain(const FishInfo *document, const QString &path)
+{
+    const BusyCursor busy(document->treeItem());
+    return m_arrivals->loadFishFromFile(path);
+}
+
 /** Shows the document as its file has it. */
 void FileCommands::revert(DocumentTab *tab)
 {
@@ -334,7 +342,7 @@ void FileCommands::revert(DocumentTab *tab)
         return;
     if (!alive)
         return;
-    FishInfo *const document = arrival(m_arrivals->loadFishFromFile(path), path);
+    FishInfo *const document = arrival(loadAgain(tab->document(), path), path);
     if (!document)
         return;
     document->setCurrentFile(path);

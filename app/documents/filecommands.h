@@ -75,6 +75,7 @@ private:
     void openUrl();
     void saveAll();
     void answerConflicts(DocumentTab *tab);
+    int loadAgain(const FishInfo *document, const QString &path);
     void revert(DocumentTab *tab);
     void closeCurrent();
     void closeTabs(const QList<DocumentTab *> &tabs);

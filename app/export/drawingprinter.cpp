@@ -3,6 +3,7 @@
 
 #include <app/export/drawingprinter.h>
 
+#include <app/common/busycursor.h>
 #include <app/common/selectionhidden.h>
 
 #include <fishbone/exchange/pictureexport.h>
@@ -13,10 +14,12 @@
 #include <QPrinter>
 
 #include <cmath>
+#include <optional>
 #include <utility>
 
 namespace {
 
+constexpr int manyItems = 20000; ///< take a second or so
 constexpr double screenDotsPerInch = 96;
 constexpr double footerInches = 0.25;
 constexpr double edge = 4; ///< around the drawing, in scene units, for the width of its lines
@@ -101,6 +104,9 @@ bool DrawingPrinter::print(QPrinter *printer) const
     if (!painter.begin(printer))
         return false;
     const SelectionHidden unmarked(m_scene);
+    std::optional<BusyCursor> busy;
+    if (m_scene->items().size() > manyItems)
+        busy.emplace();
     for (int number = first; number <= last; ++number) {
         if (number > first && !printer->newPage())
             return false;

@@ -101,8 +101,8 @@ void ExportCommands::exportPicture()
     if (!m_session->document())
         return;
     PictureSource source(m_editor);
-    const auto extent = [&source](std::optional<int> levels) {
-        const BusyCursor busy;
+    const auto extent = [this, &source](std::optional<int> levels) {
+        const BusyCursor busy(m_session->container());
         source.setLevels(levels);
         return PictureExport::visibleRect(*source.scene());
     };
@@ -163,18 +163,27 @@ QString ExportCommands::targetOfExport() const
     return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
 }
 
+/** Writes @p document in the format that the ending of @p path tells. Returns what went wrong,
+ * empty when nothing did. */
+QString ExportCommands::writeAs(const FishInfo &document, const QString &path) const
+{
+    const auto format = DiagramExchange::formatOf(path);
+    if (!format)
+        return tr("its ending tells none of the formats");
+    const BusyCursor busy(document.treeItem());
+    QString reason;
+    const TreeItem &head = *document.treeItem()->childAtIndex(0);
+    return DiagramExchange::writeFile(path, head, *format, &reason) ? QString() : reason;
+}
+
 void ExportCommands::exportAs()
 {
     const QPointer<FishInfo> document = m_session->document(); // the dialog runs an event loop
     const QString path = document ? targetOfExport() : QString();
     if (path.isEmpty() || !document)
         return;
-    QString reason;
-    const auto format = DiagramExchange::formatOf(path);
-    if (!format)
-        reason = tr("its ending tells none of the formats");
-    else if (DiagramExchange::writeFile(path, *document->treeItem()->childAtIndex(0), *format,
-                                        &reason)) {
+    const QString reason = writeAs(*document, path);
+    if (reason.isEmpty()) {
         Q_EMIT message(tr("%1 written").arg(path));
         return;
     }

@@ -9,6 +9,7 @@
 
 class CanvasTheme;
 class ExportDialog;
+class FishInfo;
 class PictureSource;
 class QWidget;
 
@@ -34,6 +35,7 @@ private:
     QString proposedName(const QString &suffix) const;
     void exportPicture();
     PictureExport::Result writePicture(PictureSource &source, const ExportDialog &dialog);
+    QString writeAs(const FishInfo &document, const QString &path) const;
     void exportAs();
     QString targetOfExport() const;
     void print();

@@ -3,16 +3,23 @@
 
 #include <app/files/documentloader.h>
 
+#include <app/common/busycursor.h>
+
 #include <fishbone/model/fishinfo.h>
 #include <fishbone/model/treeitem.h>
 
 #include <QFile>
 #include <QFileInfo>
 #include <QJsonDocument>
+#include <QJsonObject>
 #include <QNetworkReply>
 #include <QUrl>
 
+#include <memory>
+
 namespace {
+
+constexpr qint64 largeOutline = 1 << 20; ///< in bytes; makes some ten thousand subjects
 
 bool isNetworkUrl(const QUrl &url)
 {
@@ -116,6 +123,10 @@ void DocumentLoader::loadFile(const QString &path)
         finish(open, QString());
         return;
     }
+    if (QFileInfo(path).size() > largeFile) {
+        readLarge(path);
+        return;
+    }
     if (m_model->loadFishFromFile(path) != MODEL_NO_ERROR) {
         finish(nullptr, reasonOf(path));
         return;
@@ -125,9 +136,54 @@ void DocumentLoader::loadFile(const QString &path)
     finish(document, QString());
 }
 
+/** Reads and parses a file beside this thread. */
+void DocumentLoader::readLarge(const QString &path)
+{
+    m_isReading = true;
+    const int reading = ++m_reading;
+    Q_EMIT fetchStarted(QUrl::fromLocalFile(path));
+    m_readers.start([this, path, reading] {
+        Parsed parsed;
+        QFile file(path);
+        if (file.open(QIODevice::ReadOnly)) {
+            const QByteArray content = file.readAll();
+            parsed.json = QJsonDocument::fromJson(content);
+            if (parsed.json.isNull())
+                parsed.reason = reasonOfText(content);
+        } else {
+            parsed.reason = file.errorString();
+        }
+        QMetaObject::invokeMethod(this, [this, path, reading, parsed] {
+            if (m_isReading && reading == m_reading) // otherwise nobody wants it any more
+                endReading(path, parsed);
+        });
+    });
+}
+
+/** Makes a document of what was read from @p path. */
+void DocumentLoader::endReading(const QString &path, const Parsed &parsed)
+{
+    m_isReading = false;
+    Q_EMIT fetchEnded();
+    if (!m_model || parsed.json.isNull()) {
+        finish(nullptr, m_model ? parsed.reason : tr("the program is closing"));
+        return;
+    }
+    const BusyCursor busy; // the tree can only be made here
+    auto document = std::make_unique<FishInfo>();
+    document->loadFish(parsed.json.object(), m_model);
+    FishInfo *const loadedDocument = document.release();
+    m_model->insertFish(m_model->fishList().size(), loadedDocument); // which takes it over
+    loadedDocument->setCurrentFile(path);
+    finish(loadedDocument, QString());
+}
+
 /** Makes a new document of a file of another program, to which it is never saved. */
 void DocumentLoader::importFile(const QString &path, DiagramExchange::Format format)
 {
+    std::optional<BusyCursor> busy;
+    if (QFileInfo(path).size() > largeOutline)
+        busy.emplace();
     QString reason;
     auto head = DiagramExchange::readFile(path, format, &reason);
     if (!head) {
@@ -180,6 +236,13 @@ void DocumentLoader::reportProgress()
 
 void DocumentLoader::cancel()
 {
+    if (m_isReading) {
+        m_isReading = false; // what is being read is dropped when it comes
+        Q_EMIT fetchEnded();
+        Q_EMIT cancelled(m_waiting.constFirst());
+        leave();
+        return;
+    }
     if (!m_reply || m_reply->isFinished())
         return;
     m_isCancelled = true;

@@ -6,9 +6,11 @@
 #include <fishbone/exchange/diagramexchange.h>
 #include <fishbone/model/fishmodel.h>
 
+#include <QJsonDocument>
 #include <QObject>
 #include <QPointer>
 #include <QStringList>
+#include <QThreadPool>
 
 #include <functional>
 #include <optional>
@@ -32,11 +34,15 @@ public:
     /** Asks @p documents, beside the model, for what is open already. */
     void setOpenDocuments(std::function<QList<FishInfo *>()> documents);
 
+    /** A file of more bytes than that is read while the program goes on. */
+    static constexpr qint64 largeFile = Q_INT64_C(8) << 20;
+
     /** Loads @p source, a file's path or an http, https or file URL. Reports with a signal, for a
-     * file usually before this returns. */
+     * file that is not large usually before this returns. */
     void load(const QString &source);
 
-    /** Ends the fetch that is under way, if there is one; what waits behind it is loaded still. */
+    /** Ends the fetch or the reading that is under way, if there is one; what waits behind it is
+     * loaded still. */
     void cancel();
 
     /** Whether there are no loads under way. */
@@ -61,9 +67,10 @@ Q_SIGNALS:
     void failed(const QString &source, const QString &reason);
     /** The user has cancelled the load of @p source. */
     void cancelled(const QString &source);
-    /** A document is fetched from the network. */
+    /** A document is fetched from the network, or read from a large file. */
     void fetchStarted(const QUrl &url);
-    /** So many bytes of it have come; @p total is -1 while nobody knows how many there are. */
+    /** So many bytes of it have come; @p total is -1 while nobody knows how many there are. Not
+     * reported of a file. */
     void fetchProgress(qint64 received, qint64 total);
     /** It came, or will not come. Reported before that. */
     void fetchEnded();
@@ -71,8 +78,17 @@ Q_SIGNALS:
     void idle();
 
 private:
+    /** What was read from a large file. */
+    struct Parsed
+    {
+        QJsonDocument json; ///< null when it is none
+        QString reason;     ///< why it is none
+    };
+
     void loadNext();
     void loadFile(const QString &path);
+    void readLarge(const QString &path);
+    void endReading(const QString &path, const Parsed &parsed);
     void importFile(const QString &path, DiagramExchange::Format format);
     QString freeName(const QString &baseName) const;
     void fetch(const QUrl &url);
@@ -89,4 +105,7 @@ private:
     QPointer<QNetworkReply> m_reply;
     QMetaObject::Connection m_fetched;
     bool m_isCancelled = false;
+    int m_reading = 0; ///< the number of the last reading
+    bool m_isReading = false;
+    QThreadPool m_readers; ///< waits for its work before anything of this goes
 };

@@ -36,17 +36,29 @@ LoadProgress::LoadProgress(DocumentLoader *loader, QWidget *parent)
     layout->addWidget(m_bar);
     layout->addWidget(cancel);
     hide();
+    m_patience.setSingleShot(true);
+    m_patience.setInterval(500);
+    connect(&m_patience, &QTimer::timeout, this, &QWidget::show);
     connect(cancel, &QToolButton::clicked, loader, &DocumentLoader::cancel);
     connect(loader, &DocumentLoader::fetchStarted, this, &LoadProgress::begin);
     connect(loader, &DocumentLoader::fetchProgress, this, &LoadProgress::follow);
-    connect(loader, &DocumentLoader::fetchEnded, this, &QWidget::hide);
+    connect(loader, &DocumentLoader::fetchEnded, this, &LoadProgress::end);
 }
 
 void LoadProgress::begin(const QUrl &url)
 {
     setToolTip(url.toDisplayString());
     follow(0, -1);
-    show();
+    if (url.isLocalFile())
+        m_patience.start(); // it may be there at once
+    else
+        show();
+}
+
+void LoadProgress::end()
+{
+    m_patience.stop();
+    hide();
 }
 
 void LoadProgress::follow(qint64 received, qint64 total)
@@ -61,5 +73,8 @@ void LoadProgress::follow(qint64 received, qint64 total)
 
 void LoadProgress::showReceived()
 {
-    m_bar->setToolTip(tr("%1 received").arg(QLocale().formattedDataSize(m_received)));
+    // Of a file nobody knows how much has been read.
+    m_bar->setToolTip(m_received > 0
+                          ? tr("%1 received").arg(QLocale().formattedDataSize(m_received))
+                          : QString());
 }

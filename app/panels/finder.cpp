@@ -3,6 +3,7 @@
 
 #include <app/panels/finder.h>
 
+#include <app/common/busycursor.h>
 #include <app/diagram/diagramsession.h>
 #include <app/panels/hitlist.h>
 
@@ -193,6 +194,7 @@ void Finder::showHit(int row)
 /** Replaces in the texts that were found at @p hits, in one step; how many have changed. */
 int Finder::replaceIn(const QModelIndexList &hits)
 {
+    const BusyCursor busy(m_session->container());
     auto command = std::make_unique<EditAttributes>(m_session->model());
     for (const QModelIndex &hit : hits) {
         const TreeItem *const subject = m_session->model()->getTreeItem(hit);

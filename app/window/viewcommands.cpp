@@ -4,6 +4,7 @@
 #include <app/window/viewcommands.h>
 
 #include <app/common/actionset.h>
+#include <app/common/busycursor.h>
 #include <app/common/canvastheme.h>
 #include <app/common/language.h>
 #include <app/diagram/diagramsession.h>
@@ -99,12 +100,16 @@ void ViewCommands::addExpandActions()
     add(
         "expandall", [] { return tr("Expand &all"); }, Qt::Key_Asterisk,
         [this] {
+            const BusyCursor busy(m_session->container());
             m_editor->generateAllSubSpear(m_session->model(), m_editor->rootIndex());
             m_editor->modifyExpandAll();
         });
     add(
         "contractall", [] { return tr("Con&tract all"); }, Qt::Key_Slash,
-        [this] { m_editor->modifyContractAll(); });
+        [this] {
+            const BusyCursor busy(m_session->container());
+            m_editor->modifyContractAll();
+        });
 }
 
 void ViewCommands::addDiagramActions()
@@ -149,6 +154,7 @@ void ViewCommands::setTaskMode(bool taskMode)
 
 void ViewCommands::showMode()
 {
+    const BusyCursor busy(m_session->container());
     m_session->model()->setModelType(m_isTaskMode ? FISH_MODEL_NORMAL : FISH_MODEL_DIAGRAM);
     m_editor->updateFish(false); // the head shows counts or not
     m_session->touch();

@@ -3,6 +3,8 @@
 
 #include <tests/app/appfixture.h>
 
+#include <app/files/documentloader.h>
+
 #include <QMessageBox>
 #include <QProgressBar>
 #include <QStatusBar>
@@ -55,6 +57,13 @@ QByteArray body()
     return text + QByteArray(1000 - text.size(), ' ');
 }
 
+/// A document of more bytes than are read at once.
+QByteArray largeDocument()
+{
+    return R"({"title": "Large", "children": [{"title": "Bone"}], "detail": ")" +
+           QByteArray(DocumentLoader::largeFile, 'x') + "\"}";
+}
+
 } // namespace
 
 class TestLoadProgress : public QObject
@@ -67,6 +76,10 @@ private Q_SLOTS:
     void shouldGoOnWithoutAKnownLength();
     void shouldEndALoadThatIsCancelled();
     void shouldLoadWhatWaitsBehindTheCancelledOne();
+    void shouldReadALargeFileWhileTheWindowGoesOn();
+    void shouldDropALargeFileThatIsCancelled();
+    void shouldSayWhatIsWrongWithALargeFile();
+    void shouldEndWhileALargeFileIsRead();
 };
 
 void TestLoadProgress::initTestCase()
@@ -140,6 +153,73 @@ void TestLoadProgress::shouldLoadWhatWaitsBehindTheCancelledOne()
     QTest::mouseClick(app.widget<QToolButton>("loadCancel"), Qt::LeftButton);
     QTRY_COMPARE_WITH_TIMEOUT(app.tabCount(), 2, 20000);
     QCOMPARE(app.text(), QStringLiteral("Other"));
+}
+
+void TestLoadProgress::shouldReadALargeFileWhileTheWindowGoesOn()
+{
+    AppFixture app;
+    const QString path = app.path(QStringLiteral("large.json"));
+    AppFixture::writeFile(path, largeDocument());
+    app.window.open({path});
+    QCOMPARE(app.tabCount(), 1); // it goes on in the background
+    app.select("Machines");
+    app.trigger("delete");
+    QTRY_COMPARE_WITH_TIMEOUT(app.tabCount(), 2, 20000);
+    AppFixture::settle();
+    QVERIFY(!app.widget<QWidget>("loadProgress")->isVisible());
+    QCOMPARE(app.text(), QStringLiteral("Large[Bone]"));
+    QCOMPARE(app.document()->fileName(), QFileInfo(path).canonicalFilePath());
+    QVERIFY(!app.document()->modified());
+    app.window.open({path}); // which is open by now
+    QCOMPARE(app.tabCount(), 2);
+    app.showTab(0);
+    QVERIFY(app.document()->modified());
+}
+
+void TestLoadProgress::shouldDropALargeFileThatIsCancelled()
+{
+    AppFixture app;
+    const QString path = app.path(QStringLiteral("large.json"));
+    const QString other = app.path(QStringLiteral("other.json"));
+    AppFixture::writeFile(path, largeDocument());
+    AppFixture::writeFile(other, R"({"title": "Other"})");
+    app.window.open({path, other});
+    app.widget<QToolButton>("loadCancel")->click(); // it may not be shown yet
+    QVERIFY2(app.window.statusBar()->currentMessage().contains(path),
+             qPrintable(app.window.statusBar()->currentMessage()));
+    QTRY_COMPARE_WITH_TIMEOUT(app.tabCount(), 2, 20000);
+    QCOMPARE(app.text(), QStringLiteral("Other"));
+    app.window.open({path}); // a second time, of which only the second counts
+    QTRY_COMPARE_WITH_TIMEOUT(app.tabCount(), 3, 20000);
+    AppFixture::settle();
+    QCOMPARE(app.tabCount(), 3);
+    QCOMPARE(app.text(), QStringLiteral("Large[Bone]"));
+    QVERIFY(!app.window.findChild<QMessageBox *>());
+}
+
+void TestLoadProgress::shouldSayWhatIsWrongWithALargeFile()
+{
+    AppFixture app;
+    const QString path = app.path(QStringLiteral("large.json"));
+    AppFixture::writeFile(path, largeDocument().replace('}', ' '));
+    app.window.open({path});
+    QTRY_VERIFY_WITH_TIMEOUT(app.window.findChild<QMessageBox *>(), 20000);
+    const auto *const box = app.window.findChild<QMessageBox *>();
+    QVERIFY2(box->text().contains(path), qPrintable(box->text()));
+    QVERIFY2(box->text().contains(QLatin1String("JSON")), qPrintable(box->text()));
+    QCOMPARE(app.tabCount(), 1);
+}
+
+void TestLoadProgress::shouldEndWhileALargeFileIsRead()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("large.json"));
+    AppFixture::writeFile(path, largeDocument());
+    {
+        AppFixture app;
+        app.window.open({path});
+    }
+    AppFixture::settle(); // nothing comes for a window that is gone
 }
 
 QTEST_MAIN(TestLoadProgress)
