@@ -95,6 +95,13 @@
     </message>
 </context>
 <context>
+    <name>CanvasTheme</name>
+    <message>
+        <source>The style is not kept: %1 cannot be written</source>
+        <translation>The style is not kept: %1 cannot be written</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
     <message>
         <source>Show this help and quit.</source>
@@ -542,10 +549,6 @@ The exit code is 3 when anything is.</translation>
         <translation>Imported diagram</translation>
     </message>
     <message>
-        <source>it is not a JSON document</source>
-        <translation>it is not a JSON document</translation>
-    </message>
-    <message>
         <source>it is not a JSON document (line %1: %2)</source>
         <translation>it is not a JSON document (line %1: %2)</translation>
     </message>
@@ -944,6 +947,14 @@ The exit code is 3 when anything is.</translation>
         <source>Print previe&amp;w…</source>
         <translation>Print previe&amp;w…</translation>
     </message>
+    <message>
+        <source>%1 was not written</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Writing %1…</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>ExportDialog</name>
@@ -960,16 +971,8 @@ The exit code is 3 when anything is.</translation>
         <translation>Transparent</translation>
     </message>
     <message>
-        <source>&amp;Browse…</source>
-        <translation>B&amp;rowse…</translation>
-    </message>
-    <message>
         <source>&amp;File:</source>
         <translation>&amp;File:</translation>
-    </message>
-    <message>
-        <source>&amp;Scale:</source>
-        <translation>&amp;Scale:</translation>
     </message>
     <message>
         <source>&amp;Background:</source>
@@ -986,6 +989,42 @@ The exit code is 3 when anything is.</translation>
     <message>
         <source>%1 exists already. Replace it?</source>
         <translation>%1 exists already. Replace it?</translation>
+    </message>
+    <message>
+        <source>&amp;Light, as on paper</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>B&amp;rowse…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>As shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All levels</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Levels below the main bones:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Levels below the main bones</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Expanded:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>As on the screen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This cannot be exported: %1.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1632,6 +1671,45 @@ Do you want to save your changes?</translation>
         <source>the file name must end in .png, .svg or .pdf</source>
         <translation>the file name must end in .png, .svg or .pdf</translation>
     </message>
+    <message>
+        <source>there is no such format</source>
+        <translation>there is no such format</translation>
+    </message>
+    <message>
+        <source>it was cancelled</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>an SVG of it would have more than %1 MiB; a PDF is smaller</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>PictureSizeFields</name>
+    <message>
+        <source> px</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sc&amp;ale:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Width:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Height:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A page of %1 × %2 mm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 × %2 pixels</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>PrintPreview</name>
@@ -1699,6 +1777,13 @@ Do you want to save your changes?</translation>
     <message>
         <source>删除节点</source>
         <translation>Delete subject</translation>
+    </message>
+</context>
+<context>
+    <name>QProgressDialog</name>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished">Cancel</translation>
     </message>
 </context>
 <context>

@@ -95,6 +95,13 @@
     </message>
 </context>
 <context>
+    <name>CanvasTheme</name>
+    <message>
+        <source>The style is not kept: %1 cannot be written</source>
+        <translation>样式未保存：无法写入 %1</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
     <message>
         <source>Show this help and quit.</source>
@@ -540,10 +547,6 @@ The exit code is 3 when anything is.</source>
         <translation>导入的鱼骨图</translation>
     </message>
     <message>
-        <source>it is not a JSON document</source>
-        <translation>不是 JSON 文档</translation>
-    </message>
-    <message>
         <source>it is not a JSON document (line %1: %2)</source>
         <translation>不是 JSON 文档（第 %1 行：%2）</translation>
     </message>
@@ -942,6 +945,14 @@ The exit code is 3 when anything is.</source>
         <source>Print previe&amp;w…</source>
         <translation>打印预览(&amp;W)…</translation>
     </message>
+    <message>
+        <source>%1 was not written</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Writing %1…</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>ExportDialog</name>
@@ -958,16 +969,8 @@ The exit code is 3 when anything is.</source>
         <translation>透明</translation>
     </message>
     <message>
-        <source>&amp;Browse…</source>
-        <translation>浏览(&amp;R)…</translation>
-    </message>
-    <message>
         <source>&amp;File:</source>
         <translation>文件(&amp;F)：</translation>
-    </message>
-    <message>
-        <source>&amp;Scale:</source>
-        <translation>比例(&amp;S)：</translation>
     </message>
     <message>
         <source>&amp;Background:</source>
@@ -984,6 +987,42 @@ The exit code is 3 when anything is.</source>
     <message>
         <source>%1 exists already. Replace it?</source>
         <translation>%1 已存在。要替换它吗？</translation>
+    </message>
+    <message>
+        <source>&amp;Light, as on paper</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>B&amp;rowse…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>As shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All levels</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Levels below the main bones:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Levels below the main bones</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Expanded:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>As on the screen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This cannot be exported: %1.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1627,6 +1666,45 @@ Do you want to save your changes?</source>
         <source>the file name must end in .png, .svg or .pdf</source>
         <translation>文件名必须以 .png、.svg 或 .pdf 结尾</translation>
     </message>
+    <message>
+        <source>there is no such format</source>
+        <translation>没有这种格式</translation>
+    </message>
+    <message>
+        <source>it was cancelled</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>an SVG of it would have more than %1 MiB; a PDF is smaller</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>PictureSizeFields</name>
+    <message>
+        <source> px</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sc&amp;ale:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Width:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Height:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A page of %1 × %2 mm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 × %2 pixels</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>PrintPreview</name>
@@ -1692,6 +1770,13 @@ Do you want to save your changes?</source>
     <message>
         <source>删除节点</source>
         <translation>删除节点</translation>
+    </message>
+</context>
+<context>
+    <name>QProgressDialog</name>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished">取消</translation>
     </message>
 </context>
 <context>

@@ -153,7 +153,7 @@ CommandLine::Command commandFrom(const QString &text)
 std::optional<int> levelsFrom(const QString &text)
 {
     if (text == QLatin1String("all"))
-        return CommandLine::allLevels;
+        return Expansion::allLevels;
     if (text == QLatin1String("none"))
         return 0;
     bool isNumber = false;

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include <app/diagram/expansion.h>
+
 #include <fishbone/exchange/diagramexchange.h>
 #include <fishbone/exchange/pictureexport.h>
 
@@ -45,9 +47,6 @@ public:
         Refuse,     ///< print the text to the error output: the arguments make no sense
     };
 
-    /** Every level of bones; the alternative to a number of levels. */
-    static constexpr int allLevels = -1;
-
     /** Reads the arguments, the program's name in front. Works without an application object. */
     static CommandLine parse(const QStringList &arguments);
 
@@ -64,7 +63,7 @@ public:
     QString target;        ///< the file to write
     std::optional<DiagramExchange::Format> from; ///< of the document
     std::optional<DiagramExchange::Format> to;   ///< of the target; nothing for a picture
-    int levels = allLevels; ///< how many levels of bones below the main bones to expand
+    int levels = Expansion::allLevels; ///< how many levels of bones below the main bones to expand
     PictureOptions options;
 
 private:

@@ -4,10 +4,9 @@
 #include <app/commandline/exportrun.h>
 
 #include <app/commandline/commandline.h>
-#include <app/diagram/expansion.h>
+#include <app/export/leveldrawing.h>
 #include <app/files/documentloader.h>
 
-#include <fishbone/editor/fisheditor.h>
 #include <fishbone/editor/fishscene.h>
 #include <fishbone/model/fishinfo.h>
 #include <fishbone/model/fishmodel.h>
@@ -38,15 +37,13 @@ FishInfo *loadNow(DocumentLoader &loader, const QString &source, QString &messag
 /** Draws @p document of @p model into the target of @p line; returns an exit code. */
 int drawPicture(FishModel &model, FishInfo *document, const CommandLine &line, QString &message)
 {
-    FishEditor editor;
-    editor.setModel(&model);
-    editor.setRootIndex(model.index(model.fishRow(document), 0));
-    Expansion::expandLevels(editor, line.levels);
+    LevelDrawing drawing(model, model.index(model.fishRow(document), 0));
+    drawing.expand(line.levels);
 
     PictureOptions options = line.options;
     options.title = document->treeItem()->childAtIndex(0)->title();
     const PictureExport::Result result =
-        PictureExport::write(*editor.scene(), line.target, options);
+        PictureExport::write(*drawing.scene(), line.target, options);
     if (result)
         return CommandLine::success;
     message = CommandLine::tr("cannot write %1: %2").arg(line.target, result.reason);

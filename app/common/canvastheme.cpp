@@ -3,52 +3,51 @@
 
 #include <app/common/canvastheme.h>
 
+#include <app/common/jsonfile.h>
+
 #include <fishbone/editor/fisheditor.h>
 #include <fishbone/editor/graphicsview.h>
 #include <fishbone/model/systemhelper.h>
 #include <fishbone/style/spearstyle.h>
 #include <fishbone/style/spearstyledialog.h>
 
-#include <QFile>
-#include <QJsonDocument>
+#include <QDir>
 #include <QPalette>
-#include <QSaveFile>
+#include <QStandardPaths>
 
 namespace {
 
-QString darkStyleFile()
+QString fileName(bool dark)
 {
-    return SystemHelper::appliactionDirPath() + QStringLiteral("global-dark.spearstyle");
+    return dark ? QStringLiteral("global-dark.spearstyle") : QStringLiteral("global.spearstyle");
 }
 
-QJsonObject readStyle(const QString &path)
+/** Where the user keeps a style: the folder of the program is often not writable. */
+QString folder()
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return {};
-    return QJsonDocument::fromJson(file.readAll()).object();
+    return QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation);
 }
 
-void writeStyle(const QString &path, const QJsonObject &style)
+/** The style of the user, or else that beside the program, or else the one that is built in. */
+QJsonObject readStyle(bool dark)
 {
-    QSaveFile file(path);
-    const QByteArray text = QJsonDocument(style).toJson();
-    // What stays in the buffer until the commit could fail without a report.
-    if (file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.flush())
-        file.commit();
+    const QStringList places{folder() + QLatin1Char('/'), SystemHelper::appliactionDirPath(),
+                             QStringLiteral(":/app/")};
+    for (const QString &place : places) {
+        const QJsonObject style = JsonFile::read(place + fileName(dark));
+        if (!style.isEmpty())
+            return style;
+    }
+    return {};
 }
 
 } // namespace
 
 CanvasTheme::CanvasTheme(QObject *parent)
     : QObject(parent)
+    , m_light(readStyle(false))
+    , m_dark(readStyle(true))
 {
-    SpearStyle::global()->write(m_light);
-    if (!SpearStyle::m_isGlobalInited)
-        m_light = readStyle(QStringLiteral(":/app/global.spearstyle"));
-    m_dark = readStyle(darkStyleFile());
-    if (m_dark.isEmpty())
-        m_dark = readStyle(QStringLiteral(":/app/global-dark.spearstyle"));
     show(false);
 }
 
@@ -94,13 +93,11 @@ void CanvasTheme::editStyle(QWidget *parent)
 
 void CanvasTheme::storeStyle()
 {
-    if (m_isDark) {
-        SpearStyle::global()->write(m_dark);
-        writeStyle(darkStyleFile(), m_dark);
-    } else {
-        SpearStyle::global()->write(m_light);
-        SpearStyle::saveGlobal();
-    }
+    SpearStyle::global()->write(m_isDark ? m_dark : m_light);
+    const QString path = folder() + QLatin1Char('/') + fileName(m_isDark);
+    QDir().mkpath(folder());
+    if (!JsonFile::write(path, m_isDark ? m_dark : m_light))
+        Q_EMIT message(tr("The style is not kept: %1 cannot be written").arg(path));
 }
 
 CanvasTheme::Paper::Paper(CanvasTheme *theme, FishEditor *editor)

@@ -13,8 +13,8 @@ class QPalette;
 
 /**
  * Makes the canvases and their bones suit the palette: paper with the global style in a light one,
- * and a dark canvas with a style of its own in a dark one. Both styles can be edited; they are kept
- * in files beside the program, and in place of a file that is missing stands what is built in.
+ * and a dark canvas with a style of its own in a dark one. Both styles can be edited; the user's
+ * are kept in the user's data folder, and stand in place of those beside the program.
  */
 class CanvasTheme : public QObject
 {
@@ -50,6 +50,10 @@ public:
         CanvasTheme *m_theme;
         bool m_wasDark;
     };
+
+Q_SIGNALS:
+    /** Something for the status bar. */
+    void message(const QString &text);
 
 private:
     void show(bool dark);

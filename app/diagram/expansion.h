@@ -9,9 +9,13 @@ class SpearItem;
 /** How far the bones of a drawing are expanded. */
 namespace Expansion {
 
+/** Every level of bones; the alternative to a number of levels. */
+constexpr int allLevels = -1;
+
 /**
  * Expands @p levels levels of bones below the main bones, whose spears are made where they are
- * missing, and contracts what lies deeper; a negative number expands all. Lays out anew.
+ * missing, and contracts what lies deeper; allLevels, or any negative number, expands all. Lays out
+ * anew.
  */
 void expandLevels(FishEditor &editor, int levels);
 

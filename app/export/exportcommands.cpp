@@ -4,16 +4,18 @@
 #include <app/export/exportcommands.h>
 
 #include <app/common/actionset.h>
+#include <app/common/busycursor.h>
 #include <app/common/canvastheme.h>
 #include <app/common/selectionhidden.h>
+#include <app/common/workprogress.h>
 #include <app/diagram/diagramsession.h>
 #include <app/export/exportdialog.h>
+#include <app/export/picturesource.h>
 #include <app/export/printpreview.h>
 
 #include <fishbone/editor/fisheditor.h>
 #include <fishbone/editor/fishscene.h>
 #include <fishbone/exchange/diagramexchange.h>
-#include <fishbone/exchange/pictureexport.h>
 #include <fishbone/model/fishinfo.h>
 #include <fishbone/model/fishmodel.h>
 #include <fishbone/model/treeitem.h>
@@ -22,6 +24,9 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMessageBox>
+#include <QWidget>
+
+#include <optional>
 
 namespace {
 
@@ -36,6 +41,23 @@ QStringList foreignSuffixes()
     }
     return suffixes;
 }
+
+/** Keeps a window from being painted as long as it lives. */
+class UpdatesHeld
+{
+    Q_DISABLE_COPY(UpdatesHeld)
+
+public:
+    explicit UpdatesHeld(QWidget *window)
+        : m_window(window)
+    {
+        m_window->setUpdatesEnabled(false);
+    }
+    ~UpdatesHeld() { m_window->setUpdatesEnabled(true); }
+
+private:
+    QWidget *m_window;
+};
 
 } // namespace
 
@@ -78,24 +100,49 @@ void ExportCommands::exportPicture()
 {
     if (!m_session->document())
         return;
-    ExportDialog dialog(proposedName(QStringLiteral("png")), m_window);
-    if (dialog.exec() != QDialog::Accepted)
-        return;
-    PictureOptions options = dialog.options();
-    options.title = shownTitle();
-    FishScene *const scene = m_session->editor()->scene();
-    PictureExport::Result result;
-    {
-        const SelectionHidden unmarked(scene);
-        const CanvasTheme::Paper paper(m_theme, m_editor);
-        result = PictureExport::write(*scene, dialog.fileName(), options);
-    }
-    if (result)
-        Q_EMIT message(tr("%1 written").arg(dialog.fileName()));
-    else
+    PictureSource source(m_editor);
+    const auto extent = [&source](std::optional<int> levels) {
+        const BusyCursor busy;
+        source.setLevels(levels);
+        return PictureExport::visibleRect(*source.scene());
+    };
+    ExportDialog dialog(proposedName(QStringLiteral("png")),
+                        {source.depth(), m_theme->canvasColor(), extent}, m_window);
+    // What cannot be written can be chosen otherwise.
+    while (dialog.exec() == QDialog::Accepted) {
+        const PictureExport::Result result = writePicture(source, dialog);
+        if (result || result.error == PictureExport::Error::Cancelled) {
+            Q_EMIT message(result ? tr("%1 written").arg(dialog.fileName())
+                                  : tr("%1 was not written").arg(dialog.fileName()));
+            return;
+        }
         QMessageBox::warning(
             m_window, tr("Export picture"),
             tr("%1 cannot be written: %2.").arg(dialog.fileName().toHtmlEscaped(), result.reason));
+    }
+}
+
+/** Draws @p source as the user of @p dialog wants it. */
+PictureExport::Result ExportCommands::writePicture(PictureSource &source,
+                                                   const ExportDialog &dialog)
+{
+    PictureOptions options = dialog.options();
+    options.title = shownTitle();
+    WorkProgress progress(tr("Writing %1…").arg(QFileInfo(dialog.fileName()).fileName()), m_window);
+    options.progress = [&progress](int done, int total) { return progress.report(done, total); };
+    PictureExport::Result result;
+    {
+        std::optional<CanvasTheme::Paper> paper;
+        if (dialog.isLight() && m_theme->isDark())
+            paper.emplace(m_theme, m_editor);
+        const UpdatesHeld still(m_window); // the window does not show what is meant for the picture
+        source.setLevels(dialog.levels());
+        source.update();
+        const SelectionHidden unmarked(source.scene());
+        result = PictureExport::write(*source.scene(), dialog.fileName(), options);
+    }
+    m_session->touch(); // who looked while nothing was selected looks again
+    return result;
 }
 
 /** Asks for the file of exportAs(); its ending tells the format. Empty when the user cancels. */

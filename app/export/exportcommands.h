@@ -5,7 +5,11 @@
 
 #include <app/editing/diagramcommands.h>
 
+#include <fishbone/exchange/pictureexport.h>
+
 class CanvasTheme;
+class ExportDialog;
+class PictureSource;
 class QWidget;
 
 /** The commands that bring the shown document out of the program: as a picture, in the format of
@@ -29,6 +33,7 @@ Q_SIGNALS:
 private:
     QString proposedName(const QString &suffix) const;
     void exportPicture();
+    PictureExport::Result writePicture(PictureSource &source, const ExportDialog &dialog);
     void exportAs();
     QString targetOfExport() const;
     void print();

@@ -3,9 +3,12 @@
 
 #include <app/export/exportdialog.h>
 
+#include <app/diagram/expansion.h>
+#include <app/export/picturesizefields.h>
+
+#include <QCheckBox>
 #include <QComboBox>
 #include <QDialogButtonBox>
-#include <QDoubleSpinBox>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QFormLayout>
@@ -14,40 +17,150 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QSettings>
+#include <QSpinBox>
 
-ExportDialog::ExportDialog(const QString &path, QWidget *parent)
+#include <utility>
+
+namespace {
+
+/** What the bones are expanded to. */
+enum class Expanded {
+    AsShown,
+    All,
+    Levels,
+};
+
+enum class Background {
+    White,
+    Transparent,
+    Canvas,
+};
+
+QString expandedKey()
+{
+    return QStringLiteral("export/expanded");
+}
+
+QString levelsKey()
+{
+    return QStringLiteral("export/levels");
+}
+
+QString lightKey()
+{
+    return QStringLiteral("export/light");
+}
+
+QString backgroundKey()
+{
+    return QStringLiteral("export/background");
+}
+
+/** Chooses the entry of @p box that stands for @p value, if there is one. */
+void choose(QComboBox *box, const QVariant &value)
+{
+    box->setCurrentIndex(qMax(box->findData(value), 0));
+}
+
+} // namespace
+
+ExportDialog::ExportDialog(const QString &path, Subject subject, QWidget *parent)
     : QDialog(parent)
+    , m_subject(std::move(subject))
     , m_file(new QLineEdit(path, this))
-    , m_scale(new QDoubleSpinBox(this))
+    , m_expansion(new QComboBox(this))
+    , m_levels(new QSpinBox(this))
+    , m_light(new QCheckBox(tr("&Light, as on paper"), this))
     , m_background(new QComboBox(this))
 {
     setWindowTitle(tr("Export picture"));
-    m_file->setObjectName(QStringLiteral("file"));
-    m_file->setMinimumWidth(320);
-    m_scale->setRange(0.1, 20);
-    m_scale->setSingleStep(0.5);
-    m_scale->setValue(1);
-    m_scale->setPrefix(QStringLiteral("× "));
-    m_background->addItem(tr("White"), QColor(Qt::white));
-    m_background->addItem(tr("Transparent"), QColor(Qt::transparent));
-
-    auto *const browseButton = new QPushButton(tr("&Browse…"), this);
-    connect(browseButton, &QPushButton::clicked, this, &ExportDialog::browse);
-    auto *const file = new QHBoxLayout;
-    file->addWidget(m_file);
-    file->addWidget(browseButton);
+    auto *const layout = new QFormLayout(this);
+    addFile(layout);
+    m_size = new PictureSizeFields(layout, this);
+    addLevels(layout);
+    addColours(layout);
     auto *const buttons =
         new QDialogButtonBox(QDialogButtonBox::Save | QDialogButtonBox::Cancel, this);
     connect(buttons, &QDialogButtonBox::accepted, this, &ExportDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &ExportDialog::reject);
-
-    auto *const layout = new QFormLayout(this);
-    auto *const fileLabel = new QLabel(tr("&File:"), this);
-    fileLabel->setBuddy(m_file); // a row finds one by itself only for a widget
-    layout->addRow(fileLabel, file);
-    layout->addRow(tr("&Scale:"), m_scale);
-    layout->addRow(tr("&Background:"), m_background);
     layout->addRow(buttons);
+
+    m_measuring.setSingleShot(true);
+    m_measuring.setInterval(300);
+    connect(&m_measuring, &QTimer::timeout, this, &ExportDialog::measure);
+    restore();
+    followFile();
+    followLevels();
+    followLight();
+    measure();
+}
+
+void ExportDialog::addFile(QFormLayout *layout)
+{
+    m_file->setObjectName(QStringLiteral("file"));
+    m_file->setMinimumWidth(320);
+    auto *const browseButton = new QPushButton(tr("B&rowse…"), this);
+    connect(browseButton, &QPushButton::clicked, this, &ExportDialog::browse);
+    connect(m_file, &QLineEdit::textChanged, this, &ExportDialog::followFile);
+    auto *const file = new QHBoxLayout;
+    file->addWidget(m_file);
+    file->addWidget(browseButton);
+    auto *const label = new QLabel(tr("&File:"), this);
+    label->setBuddy(m_file); // a row finds one by itself only for a widget
+    layout->addRow(label, file);
+}
+
+void ExportDialog::addLevels(QFormLayout *layout)
+{
+    m_expansion->setObjectName(QStringLiteral("expansion"));
+    m_expansion->addItem(tr("As shown"), int(Expanded::AsShown));
+    m_expansion->addItem(tr("All levels"), int(Expanded::All));
+    m_expansion->addItem(tr("Levels below the main bones:"), int(Expanded::Levels));
+    m_levels->setObjectName(QStringLiteral("levels"));
+    m_levels->setAccessibleName(tr("Levels below the main bones"));
+    m_levels->setRange(0, m_subject.depth);
+    connect(m_expansion, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
+            &ExportDialog::followLevels);
+    connect(m_levels, QOverload<int>::of(&QSpinBox::valueChanged), this,
+            &ExportDialog::followLevels);
+    auto *const row = new QHBoxLayout;
+    row->addWidget(m_expansion, 1);
+    row->addWidget(m_levels);
+    auto *const label = new QLabel(tr("&Expanded:"), this);
+    label->setBuddy(m_expansion);
+    layout->addRow(label, row);
+}
+
+void ExportDialog::addColours(QFormLayout *layout)
+{
+    m_light->setObjectName(QStringLiteral("light"));
+    connect(m_light, &QCheckBox::toggled, this, &ExportDialog::followLight);
+    m_background->setObjectName(QStringLiteral("background"));
+    layout->addRow(QString(), m_light);
+    layout->addRow(tr("&Background:"), m_background);
+}
+
+/** Chooses what was chosen the last time. */
+void ExportDialog::restore()
+{
+    const QSettings settings;
+    choose(m_expansion, settings.value(expandedKey(), int(Expanded::AsShown)));
+    m_levels->setValue(settings.value(levelsKey(), 1).toInt());
+    m_light->setChecked(settings.value(lightKey(), true).toBool());
+    followLight();
+    choose(m_background, settings.value(backgroundKey(), int(Background::White)));
+}
+
+void ExportDialog::remember() const
+{
+    QSettings settings;
+    settings.setValue(expandedKey(), m_expansion->currentData());
+    if (m_levels->isEnabled())
+        settings.setValue(levelsKey(), m_levels->value());
+    settings.setValue(lightKey(), m_light->isChecked());
+    settings.setValue(backgroundKey(), m_background->currentData());
+    m_size->remember();
 }
 
 QString ExportDialog::fileName() const
@@ -55,12 +168,71 @@ QString ExportDialog::fileName() const
     return m_file->text();
 }
 
+std::optional<int> ExportDialog::levels() const
+{
+    switch (Expanded(m_expansion->currentData().toInt())) {
+    case Expanded::AsShown:
+        break;
+    case Expanded::All:
+        return Expansion::allLevels;
+    case Expanded::Levels:
+        return m_levels->value();
+    }
+    return std::nullopt;
+}
+
+bool ExportDialog::isLight() const
+{
+    return m_light->isChecked();
+}
+
 PictureOptions ExportDialog::options() const
 {
     PictureOptions options;
-    options.scale = m_scale->value();
-    options.background = m_background->currentData().value<QColor>();
+    m_size->apply(options);
+    switch (Background(m_background->currentData().toInt())) {
+    case Background::White:
+        options.background = Qt::white;
+        break;
+    case Background::Transparent:
+        options.background = Qt::transparent;
+        break;
+    case Background::Canvas:
+        options.background = m_subject.canvas;
+        break;
+    }
     return options;
+}
+
+void ExportDialog::followFile()
+{
+    m_size->setFormat(PictureExport::formatOf(fileName()));
+}
+
+void ExportDialog::followLevels()
+{
+    m_levels->setEnabled(m_expansion->currentData() == int(Expanded::Levels));
+    m_measuring.start();
+}
+
+/** Offers the backgrounds that go with the look of the bones. */
+void ExportDialog::followLight()
+{
+    const QVariant chosen = m_background->currentData();
+    const bool wasLight = m_background->findData(int(Background::Canvas)) < 0;
+    m_background->clear();
+    if (!isLight()) // on white what is drawn for a dark screen can hardly be seen
+        m_background->addItem(tr("As on the screen"), int(Background::Canvas));
+    m_background->addItem(tr("White"), int(Background::White));
+    m_background->addItem(tr("Transparent"), int(Background::Transparent));
+    if (wasLight == isLight() || chosen == int(Background::Transparent))
+        choose(m_background, chosen);
+}
+
+void ExportDialog::measure()
+{
+    m_measuring.stop();
+    m_size->setDrawing(m_subject.extent(levels()));
 }
 
 void ExportDialog::browse()
@@ -72,11 +244,22 @@ void ExportDialog::browse()
         m_file->setText(chosen);
 }
 
+/** What is wrong with what was chosen; empty when nothing is. */
+QString ExportDialog::objection() const
+{
+    const auto format = PictureExport::formatOf(fileName());
+    if (!format)
+        return tr("The file name must end in .png, .svg or .pdf.");
+    const auto check = PictureExport::check(*format, m_size->size());
+    return check ? QString() : tr("This cannot be exported: %1.").arg(check.reason);
+}
+
 void ExportDialog::accept()
 {
-    if (!PictureExport::formatOf(fileName())) {
-        QMessageBox::warning(this, windowTitle(),
-                             tr("The file name must end in .png, .svg or .pdf."));
+    if (m_measuring.isActive())
+        measure();
+    if (const QString text = objection(); !text.isEmpty()) {
+        QMessageBox::warning(this, windowTitle(), text);
         return;
     }
     if (QFileInfo::exists(fileName()) &&
@@ -85,5 +268,6 @@ void ExportDialog::accept()
                                   .arg(QFileInfo(fileName()).fileName().toHtmlEscaped())) !=
             QMessageBox::Yes)
         return;
+    remember();
     QDialog::accept();
 }

@@ -6,32 +6,70 @@
 #include <fishbone/exchange/pictureexport.h>
 
 #include <QDialog>
+#include <QTimer>
 
+#include <functional>
+#include <optional>
+
+class PictureSizeFields;
+class QCheckBox;
 class QComboBox;
-class QDoubleSpinBox;
+class QFormLayout;
 class QLineEdit;
+class QSpinBox;
 
-/** Asks for the file and the looks of a picture. */
+/** Asks for the file and the looks of a picture. What was chosen last is chosen the next time. */
 class ExportDialog : public QDialog
 {
     Q_OBJECT
 
 public:
-    /** Proposes the file @p path. */
-    explicit ExportDialog(const QString &path, QWidget *parent = nullptr);
+    /** What there is to make a picture of. */
+    struct Subject
+    {
+        int depth = 0;             ///< the levels of bones below the main bones
+        QColor canvas = Qt::white; ///< what it is drawn on, on the screen
+        /** What the drawing covers when it is expanded so far, in scene units; as setLevels() of
+         * PictureSource takes it. May take its time. */
+        std::function<QRectF(std::optional<int> levels)> extent;
+    };
+
+    /** Proposes the file @p path for a picture of @p subject. */
+    ExportDialog(const QString &path, Subject subject, QWidget *parent = nullptr);
 
     QString fileName() const;
     /** The chosen options; the title is left to the caller. */
     PictureOptions options() const;
+    /** How many levels below the main bones are to be expanded, Expansion::allLevels for all;
+     * nothing for those that are expanded on the screen. */
+    std::optional<int> levels() const;
+    /** Whether it shall look as on paper, whatever the screen looks like. */
+    bool isLight() const;
 
 public Q_SLOTS:
-    /** Takes the answer when the file's name tells a format and an existing file may go. */
+    /** Takes the answer when the file's name tells a format that can hold the picture and an
+     * existing file may go. */
     void accept() override;
 
 private:
+    void addFile(QFormLayout *layout);
+    void addLevels(QFormLayout *layout);
+    void addColours(QFormLayout *layout);
+    void restore();
+    void remember() const;
     void browse();
+    void followFile();
+    void followLevels();
+    void followLight();
+    void measure();
+    QString objection() const;
 
+    Subject m_subject;
     QLineEdit *m_file;
-    QDoubleSpinBox *m_scale;
+    PictureSizeFields *m_size;
+    QComboBox *m_expansion;
+    QSpinBox *m_levels;
+    QCheckBox *m_light;
     QComboBox *m_background;
+    QTimer m_measuring; ///< so that it is measured once for several steps of a field
 };

@@ -26,6 +26,24 @@ SubjectTreeView::SubjectTreeView(QWidget *parent)
     setExpandsOnDoubleClick(false);
 }
 
+void SubjectTreeView::setModel(QAbstractItemModel *model)
+{
+    // Connected before the selection model is, so that it is known when that passes the current row
+    // on.
+    connect(model, &QAbstractItemModel::rowsAboutToBeRemoved, this,
+            [this] { m_areRowsGoing = true; });
+    QTreeView::setModel(model);
+    connect(model, &QAbstractItemModel::rowsRemoved, this, [this] { m_areRowsGoing = false; });
+}
+
+void SubjectTreeView::currentChanged(const QModelIndex &current, const QModelIndex &previous)
+{
+    // The base class looks for the current row, for which it lays out. When many rows go one after
+    // the other, that would be done for each of them.
+    if (!m_areRowsGoing)
+        QTreeView::currentChanged(current, previous);
+}
+
 void SubjectTreeView::startDrag(Qt::DropActions supportedActions)
 {
     Q_UNUSED(supportedActions)

@@ -22,8 +22,14 @@ public:
     /** Until the next event, expanding and collapsing rows costs no layout. */
     void delayLayout() { scheduleDelayedItemsLayout(); }
 
+    void setModel(QAbstractItemModel *model) override;
+
 protected:
     void startDrag(Qt::DropActions supportedActions) override;
+    void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
+
+private:
+    bool m_areRowsGoing = false;
 };
 
 /** The open documents as a tree of subjects, with a field that filters them by title. */

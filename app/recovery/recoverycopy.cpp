@@ -4,9 +4,9 @@
 #include <app/recovery/recoverycopy.h>
 
 #include <app/diagram/diagramsession.h>
+#include <app/diagram/editorautosave.h>
 #include <app/recovery/recoverystore.h>
 
-#include <fishbone/editor/fisheditor.h>
 #include <fishbone/model/fishinfo.h>
 
 #include <QFile>
@@ -29,24 +29,13 @@ RecoveryCopy::RecoveryCopy(DiagramSession *session, QObject *parent)
     : QObject(parent)
     , m_session(session)
 {
-    takeOverTimer();
+    endAutosave(*session->editor());
     connect(session, &DiagramSession::stateChanged, this, [this] { m_mayHaveChanged = true; });
     connect(&m_timer, &QTimer::timeout, this, &RecoveryCopy::saveChanges);
     m_timer.start(interval());
 }
 
 RecoveryCopy::~RecoveryCopy() = default;
-
-/** Ends the autosave of the editor, which writes also what is not modified and tells nobody whether
- * it could. */
-void RecoveryCopy::takeOverTimer()
-{
-    FishEditor *const editor = m_session->editor();
-    const QList<QTimer *> timers =
-        editor->findChildren<QTimer *>(QString(), Qt::FindDirectChildrenOnly);
-    for (QTimer *timer : timers)
-        timer->disconnect(SIGNAL(timeout()), editor);
-}
 
 void RecoveryCopy::setDocument(FishInfo *document)
 {

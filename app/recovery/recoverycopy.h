@@ -55,7 +55,6 @@ Q_SIGNALS:
     void changed();
 
 private:
-    void takeOverTimer();
     void saveChanges();
     bool write();
     void redirect();

@@ -3,14 +3,14 @@
 
 #include <app/recovery/recoverystore.h>
 
+#include <app/common/jsonfile.h>
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QJsonDocument>
 #include <QJsonObject>
 #include <QLockFile>
 #include <QRegularExpression>
-#include <QSaveFile>
 #include <QStandardPaths>
 #include <QUuid>
 
@@ -48,8 +48,7 @@ bool isOwned(const QString &copy)
 
 LeftCopy readNote(const QFileInfo &copy)
 {
-    const QJsonObject note =
-        QJsonDocument::fromJson(contentOf(RecoveryStore::noteOf(copy.filePath()))).object();
+    const QJsonObject note = JsonFile::read(RecoveryStore::noteOf(copy.filePath()));
     LeftCopy left;
     left.copy = copy.filePath();
     left.original = note.value(fileKey()).toString();
@@ -99,12 +98,7 @@ QString lockOf(const QString &copy)
 
 bool writeNote(const QString &copy, const QString &original, const QString &name)
 {
-    const QJsonObject note{{fileKey(), original}, {nameKey(), name}};
-    const QByteArray text = QJsonDocument(note).toJson();
-    QSaveFile file(noteOf(copy));
-    // What stays in the buffer until the commit could fail without a report.
-    return file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.flush() &&
-           file.commit();
+    return JsonFile::write(noteOf(copy), {{fileKey(), original}, {nameKey(), name}});
 }
 
 void remove(const QString &copy)

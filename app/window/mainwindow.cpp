@@ -200,6 +200,7 @@ void MainWindow::addBars()
 
 void MainWindow::connectCommands()
 {
+    connect(m_theme, &CanvasTheme::message, this, &MainWindow::showMessage);
     connect(m_files, &FileCommands::message, this, &MainWindow::showMessage);
     connect(m_recovery, &RecoveryCommands::message, this, &MainWindow::showMessage);
     connect(m_exports, &ExportCommands::message, this, &MainWindow::showMessage);

@@ -160,7 +160,6 @@ void ReplaceFindDialog::find()
     if (!known) {
         m_lastCaseSensitive = caseSensitive;
         m_lastText = text;
-        m_position = 0;
         m_column = m_columns->currentIndex();
         Qt::MatchFlags flags = m_matchFlags;
         flags.setFlag(Qt::MatchCaseSensitive, caseSensitive);
@@ -176,10 +175,9 @@ void ReplaceFindDialog::replace()
 {
     const QString replacement = m_replace->text();
     const QModelIndexList found = matches();
-    if (!m_model || replacement.isEmpty() || m_position < 0 || m_position >= found.size())
+    if (!m_model || replacement.isEmpty() || found.isEmpty())
         return;
-    const QModelIndex match = m_position > 0 ? found.at(m_position - 1) : found.last();
-    QString text = match.data(Qt::DisplayRole).toString();
+    QString text = found.last().data(Qt::DisplayRole).toString();
     text.replace(m_find->text(), replacement,
                  m_caseSensitive->isChecked() ? Qt::CaseSensitive : Qt::CaseInsensitive);
     // The text goes no further: only undoable commands change titles, and this dialog knows none.

@@ -78,7 +78,6 @@ private:
     QPointer<QAbstractItemModel> m_model;
     QList<QPersistentModelIndex> m_matches;
     QString m_lastText;
-    int m_position = 0;
     int m_column = 0;
     bool m_lastCaseSensitive = false;
     Qt::MatchFlags m_matchFlags = Qt::MatchContains | Qt::MatchRecursive;

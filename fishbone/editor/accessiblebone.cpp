@@ -11,6 +11,7 @@
 #include <fishbone/items/textitem.h>
 #include <fishbone/model/treeitem.h>
 
+#include <QSignalBlocker>
 #include <QStringList>
 #include <QWindow>
 
@@ -197,8 +198,7 @@ QAccessible::State AccessibleBone::state() const
     state.focusable = true;
     state.extSelectable = true;
     state.selected = spear->isSelected() || spear->textItem()->isSelected();
-    const AccessibleDiagram *const tree = diagram();
-    const FishEditor *const editor = tree ? tree->editor() : nullptr;
+    const FishEditor *const editor = diagram()->editor();
     state.focused =
         state.selected && m_view->hasFocus() && editor && editor->firstSelectedSpear() == spear;
     state.expandable = isExpandable();
@@ -274,12 +274,15 @@ void AccessibleBone::select()
 {
     const QPointer<GraphicsView> view = m_view;
     const SpearPointer spear = m_spear;
-    if (!view || !spear.get())
-        return;
-    if (!spear.get()->isSelected() || view->scene()->selectedItems().size() != 1) {
-        view->scene()->clearSelection();
-        if (view && spear.get())
+    QGraphicsScene *const scene = view->scene();
+    if (!spear.get()->isSelected() || scene->selectedItems().size() != 1) {
+        {
+            // Reported when the scene is through with it, since who hears of it may end the editor.
+            const QSignalBlocker blocker(scene);
+            scene->clearSelection();
             spear.get()->setSelected(true);
+        }
+        Q_EMIT scene->selectionChanged();
     }
     if (view && spear.get())
         view->ensureVisible(spear.get());
@@ -288,8 +291,7 @@ void AccessibleBone::select()
 /** Expands or contracts the bone, which is selected, as the button beside it does. */
 void AccessibleBone::toggle()
 {
-    const AccessibleDiagram *const tree = diagram();
-    FishEditor *const editor = tree ? tree->editor() : nullptr;
+    FishEditor *const editor = diagram()->editor();
     if (!editor)
         return;
     if (isExpanded()) {

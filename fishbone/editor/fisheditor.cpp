@@ -126,8 +126,7 @@ SpearItem *FishEditor::spearOf(const QModelIndex &index) const
     const FishModel *const model = fishModel();
     if (!model || index.model() != model)
         return nullptr;
-    const TreeItem *const subject = model->getTreeItem(index);
-    return subject ? subject->spear() : nullptr;
+    return model->getTreeItem(index)->spear();
 }
 
 FishInfo *FishEditor::currentFishInfo() const
@@ -187,8 +186,7 @@ void FishEditor::takeOverFromOtherEditors()
     const FishInfo *const document = currentFishInfo();
     const QVector<FishEditor *> editors = livingEditors();
     for (FishEditor *other : editors) {
-        if (other == this || other->m_model != m_model || !document ||
-            other->currentFishInfo() != document)
+        if (other == this || other->m_model != m_model || other->currentFishInfo() != document)
             continue;
         other->showNothing();
         other->m_rootIndex = QModelIndex();
@@ -228,11 +226,8 @@ void FishEditor::loadFish(const QModelIndex &index)
     const FishModel *const model = fishModel();
     if (!model || index.model() != model)
         return;
-    SpearItem *const head = SpearBuilder(*model).buildHead(index);
-    if (!head)
-        return;
-    m_headSpear = head;
-    m_scene->addItem(head);
+    m_headSpear = SpearBuilder(*model).buildHead(index);
+    m_scene->addItem(headSpear());
 }
 
 void FishEditor::generateSpear(QAbstractItemModel *model, const QModelIndex &index)
@@ -262,7 +257,10 @@ void FishEditor::updateFish(bool rebuild)
     if (rebuild) {
         setRootIndex(rootIndex());
     } else if (headSpear() && !headSpear()->treeItem()) {
-        showNothing(); // the subject left in a way that nobody announced
+        // The subject left in a way that nobody announced. If it died, so did what the index has.
+        if (const FishModel *const model = fishModel(); model && !model->contains(m_shown.subject))
+            m_rootIndex = QModelIndex();
+        showNothing();
     } else if (headSpear()) {
         updateHeadText();
         if (!isLaidOut())

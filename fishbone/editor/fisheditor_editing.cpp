@@ -130,8 +130,8 @@ void FishEditor::editSubject(const QModelIndex &index, TreeItem *item)
     FishModel *const model = fishModel();
     if (!index.isValid() || !item || !model)
         return;
-    if (executeOnce(EditModify(model, index, item)))
-        afterEdit();
+    executeOnce(EditModify(model, index, item)); // which nobody hears of
+    afterEdit();
 }
 
 void FishEditor::deleteItem(const QModelIndex &index)

@@ -39,7 +39,7 @@ QStringList uuidsOf(const QJsonObject &snapshot)
 bool FishEditor::isWithin(const QModelIndex &target, const TreeItem *subject) const
 {
     const TreeItem *const node = fishModel()->getTreeItem(target);
-    return node && subject && (node == subject || subject->isAncestorOf(node));
+    return subject && (node == subject || subject->isAncestorOf(node));
 }
 
 void FishEditor::moveItems(const QPoint &pos, const QList<QGraphicsItem *> &srcs,

@@ -24,13 +24,9 @@ bool isUsable(const QTransform &matrix)
 {
     // Inverted rather than asked: isInvertible() gives up on scales that a view still copes with.
     bool isInvertible = false;
-    const QTransform inverse = matrix.inverted(&isInvertible);
-    const auto isFinite = [](const QTransform &candidate) {
-        return std::isfinite(candidate.m11()) && std::isfinite(candidate.m12()) &&
-               std::isfinite(candidate.m21()) && std::isfinite(candidate.m22());
-    };
-    return isInvertible && std::isnormal(matrix.determinant()) && isFinite(matrix) &&
-           isFinite(inverse);
+    static_cast<void>(matrix.inverted(&isInvertible));
+    // The square of the scale, so that neither the matrix nor its inverse is beyond all numbers.
+    return isInvertible && std::isnormal(matrix.determinant());
 }
 
 int saturated(qint64 value)

@@ -113,11 +113,7 @@ void GraphicsView::mousePressEvent(QMouseEvent *event)
         m_selected.clear();
         m_pressed = true;
     }
-    // What a press opens (a link, say) may end with the host destroying the editor.
-    const QPointer<GraphicsView> alive(this);
     QGraphicsView::mousePressEvent(event);
-    if (!alive)
-        return;
     viewport()->setCursor(Qt::ArrowCursor);
     if (!beginsMove || !m_pressed)
         return; // also when a dialog that the press has opened took the release
@@ -259,8 +255,7 @@ void GraphicsView::mouseReleaseEvent(QMouseEvent *event)
     m_pressed = false;
     m_pressedSpear = SpearPointer();
     QGraphicsView::mouseReleaseEvent(event);
-    if (alive)
-        viewport()->setCursor(Qt::ArrowCursor);
+    viewport()->setCursor(Qt::ArrowCursor);
 }
 
 void GraphicsView::reportMove(const QPoint &pos, SpearItem *target)
@@ -315,10 +310,8 @@ void GraphicsView::contextMenuEvent(QContextMenuEvent *event)
         Q_EMIT rightClicked(spear);
         return;
     }
-    const QPointer<GraphicsView> alive(this);
     QGraphicsView::contextMenuEvent(event);
-    if (alive)
-        Q_EMIT rightClicked(nullptr);
+    Q_EMIT rightClicked(nullptr);
 }
 
 #if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)

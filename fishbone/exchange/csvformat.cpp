@@ -64,14 +64,13 @@ bool hasAttribute(const Column &column)
     return column.key != JsonNodes::pidKey && column.key != JsonNodes::titleKey;
 }
 
-/** A number of milliseconds as a date, or as it is when no date can say the same. */
+/** A number of milliseconds as a date, or as it is when no date can tell it. */
 QString dateFrom(const QString &milliseconds)
 {
     const qint64 number = milliseconds.toLongLong();
     const QString text =
         QDateTime::fromMSecsSinceEpoch(number, Qt::UTC).toString(Qt::ISODateWithMs);
-    const QDateTime same = QDateTime::fromString(text, Qt::ISODateWithMs);
-    return same.isValid() && same.toMSecsSinceEpoch() == number ? text : milliseconds;
+    return QDateTime::fromString(text, Qt::ISODateWithMs).isValid() ? text : milliseconds;
 }
 
 /** The milliseconds of a date; what is no date comes back as it is. */
@@ -83,28 +82,16 @@ QString millisecondsFrom(const QString &date)
 
 QString cellFrom(const Column &column, const QString &value)
 {
-    switch (column.kind) {
-    case Kind::Text:
+    if (column.kind == Kind::Text)
         return CsvTable::guarded(value);
-    case Kind::Number:
-        return value;
-    case Kind::Date:
-        return value.isEmpty() ? value : dateFrom(value);
-    }
-    return value;
+    return column.kind == Kind::Date && !value.isEmpty() ? dateFrom(value) : value;
 }
 
 QString valueFrom(const Column &column, const QString &cell)
 {
-    switch (column.kind) {
-    case Kind::Text:
+    if (column.kind == Kind::Text)
         return CsvTable::unguarded(cell);
-    case Kind::Number:
-        return cell.trimmed();
-    case Kind::Date:
-        return millisecondsFrom(cell.trimmed());
-    }
-    return cell;
+    return column.kind == Kind::Date ? millisecondsFrom(cell.trimmed()) : cell.trimmed();
 }
 
 /** Makes subjects of the rows of a table. */
@@ -133,8 +120,9 @@ private:
                     m_places.insert(column.key, i);
             }
         }
-        return m_places.contains(JsonNodes::titleKey) ||
-               m_tree.fail(header.line, DiagramExchange::tr("there is no column \"title\""));
+        if (m_places.contains(JsonNodes::titleKey))
+            return true;
+        return m_tree.fail(header.line, DiagramExchange::tr("there is no column \"title\""));
     }
 
     QString cell(const CsvTable::Row &row, QLatin1String key) const
@@ -202,8 +190,9 @@ private:
             wait(m_children[next.row], next.level + 1);
         }
         const auto left = std::find(isAdded.cbegin(), isAdded.cend(), false);
-        return left == isAdded.cend() ||
-               m_tree.fail(m_rows[std::size_t(left - isAdded.cbegin())].line,
+        if (left == isAdded.cend())
+            return true;
+        return m_tree.fail(m_rows[std::size_t(left - isAdded.cbegin())].line,
                            DiagramExchange::tr("the subject lies below itself"));
     }
 

@@ -55,7 +55,7 @@ public:
             if (!readCell(cell))
                 return false;
             row.cells.append(cell);
-            if (current() != m_separator || atEnd())
+            if (current() != m_separator)
                 break;
             ++m_position;
         }

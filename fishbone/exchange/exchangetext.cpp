@@ -10,30 +10,34 @@
 #include <QtEndian>
 
 #include <algorithm>
-#include <vector>
+#include <string>
 
 namespace {
 
 constexpr int tabWidth = 4;
 
-/** Decodes the units of two or four bytes behind a byte order mark. */
-template <typename Unit>
-QString decodeUnits(const QByteArray &bytes, bool bigEndian)
+/** The units of two or four bytes behind a byte order mark. */
+template <typename Unit, typename Text>
+Text unitsOf(const QByteArray &bytes, bool bigEndian)
 {
-    std::vector<Unit> units;
+    Text units;
     units.reserve(std::size_t(bytes.size()) / sizeof(Unit));
     for (std::size_t i = sizeof(Unit); i + sizeof(Unit) <= std::size_t(bytes.size());
          i += sizeof(Unit)) {
         const char *const unit = bytes.constData() + i;
         units.push_back(bigEndian ? qFromBigEndian<Unit>(unit) : qFromLittleEndian<Unit>(unit));
     }
-    if constexpr (sizeof(Unit) == sizeof(char16_t)) {
-        const std::u16string text(units.cbegin(), units.cend());
-        return QString::fromStdU16String(text);
-    } else {
-        const std::u32string text(units.cbegin(), units.cend());
-        return QString::fromStdU32String(text);
-    }
+    return units;
+}
+
+QString fromUtf16(const QByteArray &bytes, bool bigEndian)
+{
+    return QString::fromStdU16String(unitsOf<quint16, std::u16string>(bytes, bigEndian));
+}
+
+QString fromUtf32(const QByteArray &bytes, bool bigEndian)
+{
+    return QString::fromStdU32String(unitsOf<quint32, std::u32string>(bytes, bigEndian));
 }
 
 /** The line in which @p bytes and @p expected differ first. */
@@ -51,13 +55,13 @@ namespace ExchangeText {
 std::optional<QString> decode(const QByteArray &bytes, ImportedTree &tree)
 {
     if (bytes.startsWith(QByteArray("\xff\xfe\0\0", 4)))
-        return decodeUnits<quint32>(bytes, false);
+        return fromUtf32(bytes, false);
     if (bytes.startsWith(QByteArray("\0\0\xfe\xff", 4)))
-        return decodeUnits<quint32>(bytes, true);
+        return fromUtf32(bytes, true);
     if (bytes.startsWith("\xff\xfe"))
-        return decodeUnits<quint16>(bytes, false);
+        return fromUtf16(bytes, false);
     if (bytes.startsWith("\xfe\xff"))
-        return decodeUnits<quint16>(bytes, true);
+        return fromUtf16(bytes, true);
     const QByteArray utf8 = bytes.startsWith("\xef\xbb\xbf") ? bytes.mid(3) : bytes;
     // Told the size, since it would end a text at a null character otherwise.
     const QString text = QString::fromUtf8(utf8.constData(), utf8.size());

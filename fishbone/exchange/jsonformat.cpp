@@ -12,8 +12,6 @@ namespace {
 
 QString reasonOf(const QByteArray &json, const QJsonParseError &error)
 {
-    if (error.error == QJsonParseError::NoError)
-        return DiagramExchange::tr("it is not a JSON document");
     return DiagramExchange::tr("it is not a JSON document (line %1: %2)")
         .arg(json.left(error.offset).count('\n') + 1)
         .arg(error.errorString());

@@ -3,11 +3,11 @@
 
 #include <fishbone/exchange/pictureexport.h>
 
+#include <fishbone/exchange/scenepainter.h>
 #include <fishbone/model/filereplacement.h>
 
 #include <QBuffer>
 #include <QFileInfo>
-#include <QGraphicsItem>
 #include <QGraphicsScene>
 #include <QGuiApplication>
 #include <QImage>
@@ -15,10 +15,9 @@
 #include <QPdfWriter>
 #include <QScreen>
 #include <QSvgGenerator>
-#include <QTransform>
 
+#include <algorithm>
 #include <cmath>
-#include <vector>
 
 namespace {
 
@@ -45,30 +44,6 @@ double screenResolution()
     const QScreen *const screen = QGuiApplication::primaryScreen();
     return screen ? screen->logicalDotsPerInchY() : 96;
 }
-
-/** Takes a scene's own background away as long as it lives. */
-class BackgroundRemover
-{
-    Q_DISABLE_COPY(BackgroundRemover)
-
-public:
-    explicit BackgroundRemover(QGraphicsScene &scene)
-        : m_scene(scene)
-        , m_brush(scene.backgroundBrush())
-    {
-        if (m_brush.style() != Qt::NoBrush)
-            m_scene.setBackgroundBrush(Qt::NoBrush);
-    }
-    ~BackgroundRemover()
-    {
-        if (m_brush.style() != Qt::NoBrush)
-            m_scene.setBackgroundBrush(m_brush);
-    }
-
-private:
-    QGraphicsScene &m_scene;
-    QBrush m_brush;
-};
 
 bool isUsable(const PictureOptions &options)
 {
@@ -100,16 +75,6 @@ bool fills(const QColor &background)
     return background.isValid() && background.alpha() > 0;
 }
 
-void draw(QPainter &painter, QGraphicsScene &scene, const Frame &frame, const QColor &background)
-{
-    const BackgroundRemover remover(scene);
-    painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing |
-                           QPainter::SmoothPixmapTransform);
-    if (fills(background))
-        painter.fillRect(QRectF(QPointF(), frame.size), background);
-    scene.render(&painter, frame.target, frame.source, Qt::IgnoreAspectRatio);
-}
-
 Result tooLarge(const QSizeF &size, const QString &limit)
 {
     return {Error::TooLarge, PictureExport::tr("a picture of %1 × %2 is too large: %3")
@@ -123,26 +88,143 @@ Result cannotEncode()
     return {Error::CannotWrite, PictureExport::tr("the drawing cannot be encoded")};
 }
 
-Result drawPng(QGraphicsScene &scene, const Frame &frame, const PictureOptions &options,
-               QByteArray &picture)
+/** A picture under way. */
+class Drawing
 {
-    const double longest = std::max(frame.size.width(), frame.size.height());
-    if (longest > PictureExport::maximalPixels)
-        return tooLarge(frame.size, PictureExport::tr("a PNG has at most %1 pixels on a side")
-                                        .arg(PictureExport::maximalPixels));
-    const QSize size = frame.size.toSize();
-    if (qint64(size.width()) * size.height() * 4 > PictureExport::maximalBytes)
-        return tooLarge(frame.size, PictureExport::tr("its pixels would take more than %1 MiB")
-                                        .arg(PictureExport::maximalBytes >> 20));
+    Q_DISABLE_COPY(Drawing)
+
+public:
+    Drawing(QGraphicsScene &scene, const SceneExtent &extent, const Frame &frame,
+            const PictureOptions &options)
+        : m_scene(scene)
+        , m_extent(extent)
+        , m_frame(frame)
+        , m_options(options)
+    {
+    }
+
+    const Frame &frame() const { return m_frame; }
+    const PictureOptions &options() const { return m_options; }
+    const SceneExtent &extent() const { return m_extent; }
+
+    /** Reports @p done items; false once the picture is not wanted any more. */
+    bool goesOn(int done)
+    {
+        m_done = std::max(m_done, done);
+        if (m_options.progress && !m_isCancelled)
+            m_isCancelled = !m_options.progress(m_done, steps());
+        return !m_isCancelled;
+    }
+    bool goesOn() { return goesOn(m_done); }
+    /** One for each item, and one for what is done with them in the end. */
+    int steps() const { return m_extent.items + 1; }
+
+    bool paint(QPainter &painter);
+    void paintSample(QPainter &painter, int step) const;
+
+    /** What has become of the picture when its last step did so or not. */
+    Result outcome(bool isComplete) const
+    {
+        if (m_isCancelled)
+            return {Error::Cancelled, PictureExport::tr("it was cancelled")};
+        return isComplete ? Result() : cannotEncode();
+    }
+
+private:
+    ScenePainter painterOfItems() const
+    {
+        return {m_scene, m_extent, m_frame.source, m_frame.target};
+    }
+
+    QGraphicsScene &m_scene;
+    const SceneExtent &m_extent;
+    const Frame &m_frame;
+    const PictureOptions &m_options;
+    int m_done = 0;
+    bool m_isCancelled = false;
+};
+
+/** Draws all; false when it was cancelled. */
+bool Drawing::paint(QPainter &painter)
+{
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing |
+                           QPainter::SmoothPixmapTransform);
+    if (fills(m_options.background))
+        painter.fillRect(QRectF(QPointF(), m_frame.size), m_options.background);
+    return painterOfItems().paint(painter, [this](int done) { return goesOn(done); });
+}
+
+/** Draws every so many items. */
+void Drawing::paintSample(QPainter &painter, int step) const
+{
+    ScenePainter items = painterOfItems();
+    items.setStep(step);
+    items.paint(painter, [](int) { return true; });
+}
+
+/** Takes the bytes of a picture as long as it is wanted. */
+class Bytes : public QBuffer
+{
+public:
+    Bytes(QByteArray *bytes, Drawing &drawing)
+        : QBuffer(bytes)
+        , m_drawing(drawing)
+    {
+        open(QIODevice::WriteOnly);
+    }
+
+protected:
+    qint64 writeData(const char *data, qint64 size) override
+    {
+        return m_drawing.goesOn() ? QBuffer::writeData(data, size) : -1;
+    }
+
+private:
+    Drawing &m_drawing;
+};
+
+/** The size of a PDF's page in points. */
+QSize pageOf(const QSizeF &size)
+{
+    const double points = pointsPerInch / screenResolution();
+    return {int(std::ceil(size.width() * points)), int(std::ceil(size.height() * points))};
+}
+
+Result checkPdf(const QSizeF &size)
+{
+    const QSize page = pageOf(size);
+    if (std::max(page.width(), page.height()) > PictureExport::maximalPoints)
+        return tooLarge(size, PictureExport::tr("a PDF has at most %1 points (1/72 inch) on a side")
+                                  .arg(PictureExport::maximalPoints));
+    return {};
+}
+
+Result checkPng(const QSizeF &size)
+{
+    if (std::max(size.width(), size.height()) > PictureExport::maximalPixels)
+        return tooLarge(size, PictureExport::tr("a PNG has at most %1 pixels on a side")
+                                  .arg(PictureExport::maximalPixels));
+    if (size.width() * size.height() * 4 > double(PictureExport::maximalBytes))
+        return tooLarge(size, PictureExport::tr("its pixels would take more than %1 MiB")
+                                  .arg(PictureExport::maximalBytes >> 20));
+    return {};
+}
+
+Result drawPng(Drawing &drawing, QByteArray &picture)
+{
+    const Frame &frame = drawing.frame();
+    const PictureOptions &options = drawing.options();
     // Without an alpha channel there is a quarter less to compress.
     const bool isOpaque = options.background.isValid() && options.background.alpha() == 255;
-    QImage image(size, isOpaque ? QImage::Format_RGB32 : QImage::Format_ARGB32_Premultiplied);
+    QImage image(frame.size.toSize(),
+                 isOpaque ? QImage::Format_RGB32 : QImage::Format_ARGB32_Premultiplied);
     if (image.isNull())
         return tooLarge(frame.size, PictureExport::tr("there is not enough memory"));
     image.fill(Qt::transparent);
     {
         QPainter painter(&image);
-        draw(painter, scene, frame, options.background);
+        if (!drawing.paint(painter))
+            return drawing.outcome(false);
     }
     // Only afterwards, since a painter would size some texts by it.
     const double scale = frame.target.width() / frame.source.width();
@@ -151,67 +233,84 @@ Result drawPng(QGraphicsScene &scene, const Frame &frame, const PictureOptions &
     image.setDotsPerMeterY(dotsPerMetre);
     if (!options.title.isEmpty())
         image.setText(QStringLiteral("Title"), options.title);
-    QBuffer buffer(&picture);
-    if (!buffer.open(QIODevice::WriteOnly) || !image.save(&buffer, "PNG", pngQuality))
-        return cannotEncode();
-    return {};
+    Bytes bytes(&picture, drawing);
+    return drawing.outcome(image.save(&bytes, "PNG", pngQuality));
 }
 
-Result drawSvg(QGraphicsScene &scene, const Frame &frame, const PictureOptions &options,
-               QByteArray &picture)
+/** Makes @p generator write what @p drawing shows to @p device. */
+void setUp(QSvgGenerator &generator, const Drawing &drawing, QIODevice *device)
 {
-    QBuffer buffer(&picture);
-    QSvgGenerator generator;
-    generator.setOutputDevice(&buffer);
+    generator.setOutputDevice(device);
     generator.setResolution(qRound(screenResolution()));
-    generator.setSize(frame.size.toSize());
-    generator.setViewBox(QRectF(QPointF(), frame.size));
-    generator.setTitle(options.title.toHtmlEscaped()); // the generator writes it as it is
+    generator.setSize(drawing.frame().size.toSize());
+    generator.setViewBox(QRectF(QPointF(), drawing.frame().size));
+    // The generator writes the title as it is.
+    generator.setTitle(drawing.options().title.toHtmlEscaped());
+}
+
+/** How many bytes an SVG of all items will have, going by a sample of them. */
+double svgBytes(const Drawing &drawing)
+{
+    constexpr int sampleSize = 500;
+    const int step = std::max(1, drawing.extent().items / sampleSize);
+    QByteArray sample;
+    QBuffer buffer(&sample);
+    QSvgGenerator generator;
+    setUp(generator, drawing, &buffer);
+    QPainter painter(&generator);
+    drawing.paintSample(painter, step);
+    painter.end();
+    return double(sample.size()) * step;
+}
+
+Result drawSvg(Drawing &drawing, QByteArray &picture)
+{
+    // The generator keeps all in one string, and ends the program when that has no room.
+    constexpr int itemsOfSomeSize = 20000;
+    if (drawing.extent().isPlain && drawing.extent().items > itemsOfSomeSize &&
+        svgBytes(drawing) > double(PictureExport::maximalSvgBytes))
+        return {Error::TooLarge,
+                PictureExport::tr("an SVG of it would have more than %1 MiB; a PDF is smaller")
+                    .arg(PictureExport::maximalSvgBytes >> 20)};
+    Bytes bytes(&picture, drawing);
+    QSvgGenerator generator;
+    setUp(generator, drawing, &bytes);
     QPainter painter;
     if (!painter.begin(&generator))
         return cannotEncode();
-    draw(painter, scene, frame, options.background);
-    return painter.end() ? Result() : cannotEncode();
+    const bool isPainted = drawing.paint(painter);
+    return drawing.outcome(painter.end() && isPainted);
 }
 
-Result drawPdf(QGraphicsScene &scene, const Frame &frame, const PictureOptions &options,
-               QByteArray &picture)
+Result drawPdf(Drawing &drawing, QByteArray &picture)
 {
-    const double points = pointsPerInch / screenResolution();
-    const QSize page(int(std::ceil(frame.size.width() * points)),
-                     int(std::ceil(frame.size.height() * points)));
-    if (std::max(page.width(), page.height()) > PictureExport::maximalPoints)
-        return tooLarge(frame.size,
-                        PictureExport::tr("a PDF has at most %1 points (1/72 inch) on a side")
-                            .arg(PictureExport::maximalPoints));
-    QBuffer buffer(&picture);
-    buffer.open(QIODevice::WriteOnly);
-    QPdfWriter writer(&buffer);
-    writer.setPageSize(QPageSize(page, QString(), QPageSize::ExactMatch));
+    const Frame &frame = drawing.frame();
+    Bytes bytes(&picture, drawing);
+    QPdfWriter writer(&bytes);
+    writer.setPageSize(QPageSize(pageOf(frame.size), QString(), QPageSize::ExactMatch));
     writer.setPageMargins(QMarginsF());
-    writer.setTitle(options.title);
+    writer.setTitle(drawing.options().title);
     writer.setCreator(QStringLiteral("Fishbone"));
     QPainter painter;
     if (!painter.begin(&writer))
         return cannotEncode();
-    const double dots = writer.resolution() / pointsPerInch * points;
+    const double dots = writer.resolution() / screenResolution();
     painter.scale(dots, dots);
-    draw(painter, scene, frame, options.background);
-    return painter.end() ? Result() : cannotEncode();
+    const bool isPainted = drawing.paint(painter);
+    return drawing.outcome(painter.end() && isPainted);
 }
 
-Result drawAs(PictureExport::Format format, QGraphicsScene &scene, const Frame &frame,
-              const PictureOptions &options, QByteArray &picture)
+Result drawAs(PictureExport::Format format, Drawing &drawing, QByteArray &picture)
 {
     switch (format) {
     case PictureExport::Format::Png:
-        return drawPng(scene, frame, options, picture);
+        return drawPng(drawing, picture);
     case PictureExport::Format::Svg:
-        return drawSvg(scene, frame, options, picture);
+        return drawSvg(drawing, picture);
     case PictureExport::Format::Pdf:
-        return drawPdf(scene, frame, options, picture);
+        return drawPdf(drawing, picture);
     }
-    return {Error::UnknownFormat, QString()};
+    return {Error::UnknownFormat, PictureExport::tr("there is no such format")};
 }
 
 } // namespace
@@ -230,30 +329,33 @@ std::optional<PictureExport::Format> PictureExport::formatOf(const QString &file
 
 QRectF PictureExport::visibleRect(const QGraphicsScene &scene)
 {
-    struct Placed
-    {
-        const QGraphicsItem *item;
-        QTransform toScene;
-    };
-    std::vector<Placed> waiting;
-    const QList<QGraphicsItem *> items = scene.items();
-    for (const QGraphicsItem *item : items) {
-        if (!item->parentItem())
-            waiting.push_back({item, item->sceneTransform()});
+    return extentOf(scene).rect;
+}
+
+QSizeF PictureExport::sizeOf(const QRectF &drawing, const PictureOptions &options)
+{
+    return isUsable(options) && !drawing.isNull() ? frameFor(drawing, options).size : QSizeF();
+}
+
+PictureExport::Result PictureExport::check(Format format, const QSizeF &size)
+{
+    if (std::max(size.width(), size.height()) > maximalUnits)
+        return tooLarge(size, tr("a side has at most %1 units").arg(int(maximalUnits)));
+    switch (format) {
+    case Format::Png:
+        return checkPng(size);
+    case Format::Pdf:
+        return checkPdf(size);
+    case Format::Svg:
+        break;
     }
-    QRectF united;
-    while (!waiting.empty()) {
-        const Placed placed = waiting.back();
-        waiting.pop_back();
-        if (!placed.item->isVisible())
-            continue;
-        if (!(placed.item->flags() & QGraphicsItem::ItemHasNoContents))
-            united |= placed.toScene.mapRect(placed.item->boundingRect());
-        const QList<QGraphicsItem *> children = placed.item->childItems();
-        for (const QGraphicsItem *child : children)
-            waiting.push_back({child, child->itemTransform(placed.item) * placed.toScene});
-    }
-    return united;
+    return {};
+}
+
+double PictureExport::millimetresPerUnit()
+{
+    constexpr double millimetresPerInch = 25.4;
+    return millimetresPerInch / screenResolution();
 }
 
 PictureExport::Result PictureExport::render(QGraphicsScene &scene, Format format,
@@ -262,15 +364,18 @@ PictureExport::Result PictureExport::render(QGraphicsScene &scene, Format format
     picture.clear();
     if (!isUsable(options))
         return {Error::BadOptions, tr("the scale, the size or the margin makes no picture")};
-    const QRectF drawing = visibleRect(scene);
-    if (drawing.isNull())
+    const SceneExtent extent = extentOf(scene);
+    if (extent.rect.isNull())
         return {Error::NothingToDraw, tr("there is nothing to draw")};
-    const Frame frame = frameFor(drawing, options);
+    const Frame frame = frameFor(extent.rect, options);
     if (frame.size.isEmpty())
         return {Error::BadOptions, tr("a drawing without height or width needs a margin")};
-    if (std::max(frame.size.width(), frame.size.height()) > maximalUnits)
-        return tooLarge(frame.size, tr("a side has at most %1 units").arg(int(maximalUnits)));
-    const Result result = drawAs(format, scene, frame, options, picture);
+    if (Result check = PictureExport::check(format, frame.size); !check)
+        return check;
+    Drawing drawing(scene, extent, frame, options);
+    Result result = drawAs(format, drawing, picture);
+    if (result)
+        result = drawing.outcome(drawing.goesOn(drawing.steps()));
     if (!result)
         picture.clear();
     return result;

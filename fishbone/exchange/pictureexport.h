@@ -11,6 +11,7 @@
 #include <QSize>
 #include <QString>
 
+#include <functional>
 #include <optional>
 
 class QByteArray;
@@ -29,6 +30,12 @@ struct PictureOptions
     QColor background = Qt::white;
     /** The title that the file carries; empty for none. */
     QString title;
+    /**
+     * Is told from time to time how much is done: @c done of @c total steps. It may keep a user
+     * interface alive, but the scene must stay as it is and live on. Once it returns false the
+     * export ends with PictureExport::Error::Cancelled. Empty for whoever just waits.
+     */
+    std::function<bool(int done, int total)> progress;
 };
 
 /**
@@ -39,8 +46,9 @@ struct PictureOptions
  * and PDF hold lines and real text, and the page of a PDF is as large as the drawing.
  *
  * The scene is drawn as it stands: who does not want the selection in the picture clears it before.
- * Its background brush is left out in favour of PictureOptions::background. Needs a
- * QGuiApplication.
+ * A picture holds its items. The scene's background is left out in favour of
+ * PictureOptions::background, and what a subclass of it paints in front of the items as well. Needs
+ * a QGuiApplication.
  */
 class FISHBONE_EXPORT PictureExport
 {
@@ -62,6 +70,7 @@ public:
         NothingToDraw, ///< the scene shows nothing
         TooLarge,      ///< more than the format or the memory holds
         CannotWrite,   ///< the file cannot be written; what it held before is still there
+        Cancelled,     ///< PictureOptions::progress ended it; the file is as it was before
     };
 
     /** The outcome of an export. */
@@ -81,6 +90,8 @@ public:
     static constexpr qint64 maximalBytes = Q_INT64_C(1) << 30;
     /** The longest side of the page of a PDF, in points of 1/72 inch. */
     static constexpr int maximalPoints = 14400;
+    /** The most bytes that an SVG may have, as far as a sample of its items tells. */
+    static constexpr qint64 maximalSvgBytes = Q_INT64_C(1) << 29;
 
     /** The format that the suffix of @p fileName names, in any case; nothing for an unknown one. */
     static std::optional<Format> formatOf(const QString &fileName);
@@ -90,6 +101,17 @@ public:
      * number of items, without recursion.
      */
     static QRectF visibleRect(const QGraphicsScene &scene);
+
+    /**
+     * The size, in picture units, that a picture of @p drawing has with @p options, margin
+     * included; empty when they make no picture.
+     */
+    static QSizeF sizeOf(const QRectF &drawing, const PictureOptions &options);
+    /** Whether a picture of @p size picture units can be made: what is too large is refused here,
+     * before anybody makes room for it. */
+    static Result check(Format format, const QSizeF &size);
+    /** The millimetres of a PDF's page for each picture unit. */
+    static double millimetresPerUnit();
 
     /** Draws @p scene and stores the bytes of the picture in @p picture, empty on failure. */
     static Result render(QGraphicsScene &scene, Format format, const PictureOptions &options,

@@ -41,10 +41,8 @@ QString titleOf(const QString &line)
     if (!looksQuoted(line))
         return line;
     const QJsonArray values = QJsonDocument::fromJson('[' + line.toUtf8() + ']').array();
-    const QJsonValue value = values.at(0);
-    return values.size() == 1 && value.isString() && needsQuotes(value.toString())
-               ? value.toString()
-               : line;
+    const QString title = values.at(0).toString();
+    return values.size() == 1 && needsQuotes(title) ? title : line;
 }
 
 } // namespace

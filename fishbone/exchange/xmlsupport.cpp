@@ -46,8 +46,9 @@ bool enterRoot(QXmlStreamReader &xml, const QString &root, ImportedTree &tree)
                              DiagramExchange::tr("declarations of entities are not accepted"));
         if (token != QXmlStreamReader::StartElement)
             continue;
-        return xml.name() == root ||
-               tree.fail(xml.lineNumber(),
+        if (xml.name() == root)
+            return true;
+        return tree.fail(xml.lineNumber(),
                          DiagramExchange::tr("the document begins with <%1>, not with <%2>")
                              .arg(xml.name().toString(), root));
     }
@@ -58,7 +59,9 @@ bool finish(QXmlStreamReader &xml, ImportedTree &tree)
 {
     while (!xml.atEnd())
         xml.readNext();
-    return !xml.hasError() || tree.fail(xml.lineNumber(), xml.errorString());
+    if (!xml.hasError())
+        return true;
+    return tree.fail(xml.lineNumber(), xml.errorString());
 }
 
 } // namespace XmlSupport

@@ -5,7 +5,6 @@
 
 #include <fishbone/items/spearitem.h>
 
-#include <algorithm>
 #include <cmath>
 
 #include <QPixmap>
@@ -33,18 +32,10 @@ QRectF spanned(const QLineF &line)
     return QRectF(line.p1(), line.p2()).normalized();
 }
 
-/// Adds \a polygon to \a path counter-clockwise, so that with winding fill parts that overlap never
-/// cancel each other out.
-void addOriented(QPainterPath &path, QPolygonF polygon)
+/// Adds \a polygon to \a path. All of them turn the same way, so that with winding fill parts that
+/// overlap do not cancel each other out.
+void addPart(QPainterPath &path, const QPolygonF &polygon)
 {
-    double doubledArea = 0;
-    for (int i = 0; i < polygon.size(); ++i) {
-        const QPointF &from = polygon.at(i);
-        const QPointF &to = polygon.at((i + 1) % polygon.size());
-        doubledArea += from.x() * to.y() - to.x() * from.y();
-    }
-    if (doubledArea < 0)
-        std::reverse(polygon.begin(), polygon.end());
     path.addPolygon(polygon);
     path.closeSubpath();
 }
@@ -299,13 +290,13 @@ QRectF SpearItem::textRect() const
 
 QRectF SpearItem::headRect() const
 {
-    const QSizeF size = m_pixHeader ? QSizeF(m_pixHeader->size()) : QSizeF();
+    const QSizeF size = m_pixHeader->size();
     return {line().p1() - QPointF(0, size.height() / 2), size};
 }
 
 QRectF SpearItem::tailRect() const
 {
-    const QSizeF size = m_pixTail ? QSizeF(m_pixTail->size()) : QSizeF();
+    const QSizeF size = m_pixTail->size();
     return {line().p2() - QPointF(size.width(), size.height() / 2), size};
 }
 
@@ -343,14 +334,14 @@ QPainterPath SpearItem::shape() const
     path.setFillRule(Qt::WindingFill);
     const QList<QPolygonF> stroke = QGraphicsLineItem::shape().toSubpathPolygons();
     for (const QPolygonF &part : stroke)
-        addOriented(path, part);
+        addPart(path, part);
     if (isHeader()) {
-        addOriented(path, corners(headRect()));
-        addOriented(path, corners(tailRect()));
+        addPart(path, corners(headRect()));
+        addPart(path, corners(tailRect()));
     } else if (m_direction == 0) {
-        addOriented(path, corners(QRectF(m_textItem->pos(), m_textItem->textSize())));
+        addPart(path, corners(QRectF(m_textItem->pos(), m_textItem->textSize())));
     } else {
-        addOriented(path, slantedTextOutline());
+        addPart(path, slantedTextOutline());
     }
     return path;
 }

@@ -143,9 +143,6 @@ QPointF SpearItem::linkCircleCenter() const
     const SpearItem *const numbered = children.value(m_linkNumber);
     const QPointF start = first.p1();
     const QPointF end = numbered ? numbered->line().p1() : line().p1();
-    const auto alike = [](double a, double b) { return qFuzzyCompare(a + 1, b + 1); };
-    if (alike(start.x(), end.x()) && alike(start.y(), end.y()))
-        return end;
     return (start + end) / 2;
 }
 

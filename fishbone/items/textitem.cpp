@@ -89,8 +89,7 @@ void TextItem::paint(QPainter *painter, const QStyleOptionGraphicsItem *option, 
 /** Whether the text is high enough to be told from a line where \a painter draws it. */
 bool TextItem::isReadable(const QPainter &painter) const
 {
-    const QPaintEngine *const engine = painter.paintEngine();
-    if (!engine || engine->type() != QPaintEngine::Raster)
+    if (painter.paintEngine()->type() != QPaintEngine::Raster)
         return true; // drawings can be enlarged
     const QTransform &onDevice = painter.deviceTransform();
     return textHeight() * std::hypot(onDevice.m21(), onDevice.m22()) >= lowestReadable;

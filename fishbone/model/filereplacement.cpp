@@ -27,12 +27,6 @@ bool write(QFileDevice &file, const QByteArray &content)
     return file.write(content) == content.size() && file.flush();
 }
 
-QString reason(const QFileDevice &file)
-{
-    const QString text = file.errorString();
-    return text.isEmpty() ? QStringLiteral("?") : text;
-}
-
 /**
  * Writes @p content into a file that may be there already. What makes the file longer goes in
  * first, so that a full disk is noticed while the old content is whole; after that no more room is
@@ -60,7 +54,7 @@ QString replaceInPlace(const QString &fileName, const QByteArray &content)
     const bool isNew = !file.exists();
     if (overwrite(file, content))
         return QString();
-    const QString failure = reason(file);
+    const QString failure = file.errorString();
     if (isNew)
         file.remove();
     return failure;
@@ -91,10 +85,12 @@ QString replaceExisting(const QString &fileName, const QByteArray &content)
     const QByteArray from = QFile::encodeName(file.fileName());
     const QByteArray to = QFile::encodeName(fileName);
     if (!write(file, content) || !file.setPermissions(QFile::permissions(fileName)))
-        return reason(file);
+        return file.errorString();
     fsync(file.handle()); // some file systems cannot, and are written nevertheless
+    // In a folder where everybody keeps what is his, as that for temporary files, a file that
+    // others may write cannot be replaced.
     if (std::rename(from.constData(), to.constData()) != 0)
-        return qt_error_string();
+        return replaceInPlace(fileName, content);
     file.setAutoRemove(false);
     return QString();
 }
@@ -111,7 +107,7 @@ QString replaceFile(const QString &fileName, const QByteArray &content)
     if (target.exists() && !target.isFile()) {
         QFile device(fileName); // replacing a device or a pipe would remove it
         const bool isWritten = device.open(QIODevice::WriteOnly) && write(device, content);
-        return isWritten ? QString() : reason(device);
+        return isWritten ? QString() : device.errorString();
     }
     if (target.exists() && !target.isWritable())
         return replaceInPlace(fileName, content); // which says why that cannot be
@@ -126,5 +122,5 @@ QString replaceFile(const QString &fileName, const QByteArray &content)
     // The folder may not be writable, or the name too long to be lengthened.
     if (!file.open(QIODevice::WriteOnly))
         return replaceInPlace(finalName, content);
-    return write(file, content) && file.commit() ? QString() : reason(file);
+    return write(file, content) && file.commit() ? QString() : file.errorString();
 }

@@ -66,8 +66,7 @@ QModelIndex FishModel::index(int row, int column, const QModelIndex &parent) con
     }
     if (!hasIndex(row, column, parent))
         return QModelIndex();
-    TreeItem *const child = getTreeItem(parent)->childAtIndex(row);
-    return child ? createIndex(row, column, child) : QModelIndex();
+    return createIndex(row, column, getTreeItem(parent)->childAtIndex(row));
 }
 
 QModelIndex FishModel::parent(const QModelIndex &index) const

@@ -36,10 +36,7 @@ constexpr int longestLoad = 20;
 /** Ends @p reply after so many milliseconds, however it creeps along. */
 void limitTime(QNetworkReply *reply, qint64 ms)
 {
-    QTimer::singleShot(std::chrono::milliseconds(ms), reply, [reply] {
-        if (reply->isRunning())
-            reply->abort();
-    });
+    QTimer::singleShot(std::chrono::milliseconds(ms), reply, &QNetworkReply::abort);
 }
 
 /** Ends @p reply as soon as it is known to be larger than @p limit bytes. */
@@ -47,7 +44,7 @@ void limitReply(QNetworkReply *reply, qint64 limit)
 {
     const auto check = [reply, limit] {
         const qint64 announced = reply->header(QNetworkRequest::ContentLengthHeader).toLongLong();
-        if (reply->isRunning() && (announced > limit || reply->bytesAvailable() > limit))
+        if (announced > limit || reply->bytesAvailable() > limit)
             reply->abort();
     };
     // Otherwise Qt unpacks a small reply to a large one before anybody is asked.

@@ -112,13 +112,9 @@ void FishProxyModel::listenBefore(const QAbstractItemModel &source)
     });
     listen(&Model::rowsRemoved,
            [&matches, &changed](const Index &parent) { changed |= matches.rowsGone(parent); });
-    listen(&Model::rowsAboutToBeMoved, [this](const Index &parent, int first, int last) {
-        m_memo->mappingCleared = false;
-        m_memo->matches.rowsAboutToMove(parent, first, last);
-    });
-    listen(&Model::rowsMoved, [&matches, &changed](const Index &from, int, int, const Index &to) {
-        changed |= matches.rowsMoved(from, to);
-    });
+    listen(&Model::rowsAboutToBeMoved, [this] { m_memo->mappingCleared = false; });
+    // The base class, or else listenAfter(), drops the rows with it.
+    listen(&Model::rowsMoved, [&matches] { matches.clear(); });
     listen(&Model::columnsInserted, forget);
     listen(&Model::columnsRemoved, forget);
     listen(&Model::columnsMoved, forget);
@@ -146,7 +142,6 @@ void FishProxyModel::listenAfter(const QAbstractItemModel &source)
     listen(&Model::dataChanged);
     listen(&Model::rowsInserted);
     listen(&Model::rowsRemoved);
-    listen(&Model::rowsMoved);
     listen(&Model::columnsInserted);
     listen(&Model::columnsRemoved);
     listen(&Model::columnsMoved);

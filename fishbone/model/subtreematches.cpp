@@ -149,7 +149,9 @@ void SubtreeMatches::rowsGoing(const QModelIndex &parent, int first, int last)
 {
     if (!m_nodesHaveKeys)
         return;
-    rowsAboutToMove(parent, first, last);
+    m_matchGoes = false;
+    for (int row = first; row <= last && !m_matchGoes; ++row)
+        m_matchGoes = contains(m_source->index(row, 0, parent));
     forget(parent, first, last);
 }
 
@@ -157,23 +159,6 @@ bool SubtreeMatches::rowsGone(const QModelIndex &parent)
 {
     if (m_nodesHaveKeys)
         return m_matchGoes && recheckAbove(parent);
-    clear();
-    return true;
-}
-
-void SubtreeMatches::rowsAboutToMove(const QModelIndex &parent, int first, int last)
-{
-    m_matchGoes = false;
-    for (int row = first; row <= last && m_nodesHaveKeys && !m_matchGoes; ++row)
-        m_matchGoes = contains(m_source->index(row, 0, parent));
-}
-
-bool SubtreeMatches::rowsMoved(const QModelIndex &from, const QModelIndex &to)
-{
-    if (m_nodesHaveKeys) {
-        const bool appeared = m_matchGoes && setAbove(to);
-        return (m_matchGoes && recheckAbove(from)) || appeared;
-    }
     clear();
     return true;
 }

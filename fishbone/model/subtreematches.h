@@ -13,8 +13,9 @@
  * Remembers for the rows of a tree whether they or anything below them match a test, so that each
  * row is tested once however often its ancestors are asked about.
  *
- * The functions named after changes keep the answers right and must be called for every change of
- * the source. They say whether the answer for a row above the change became another one.
+ * The functions named after changes keep the answers right; for a change of the source that none is
+ * named after, clear() must be called. They say whether the answer for a row above the change
+ * became another one.
  *
  * In a FishModel the answers belong to the nodes and survive changes of rows. Of other models
  * nothing is known that would identify a row, so a change of rows forgets everything there.
@@ -43,10 +44,6 @@ public:
     void rowsGoing(const QModelIndex &parent, int first, int last);
     /** The rows of the last rowsGoing() are gone. */
     bool rowsGone(const QModelIndex &parent);
-    /** Rows are about to move elsewhere. */
-    void rowsAboutToMove(const QModelIndex &parent, int first, int last);
-    /** The rows of the last rowsAboutToMove() moved from one parent to another. */
-    bool rowsMoved(const QModelIndex &from, const QModelIndex &to);
 
 private:
     using Key = QPair<quintptr, int>;

@@ -57,8 +57,8 @@ void EditDelete::Private::deleteSubject(TreeItem *subject)
     Deletion deletion{{}, {}, isHead, rows.last()};
     if (!isHead)
         deletion.parent = keyFromItem(*model, subject->parent());
-    if (deletion.held.take(*model, subject))
-        deletions.push_back(std::move(deletion));
+    deletion.held.take(*model, subject);
+    deletions.push_back(std::move(deletion));
 }
 
 /** Puts a subject back; null when it cannot go back. */

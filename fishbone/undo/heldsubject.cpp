@@ -28,27 +28,24 @@ void HeldSubject::release()
     static_cast<void>(m_item.release());
 }
 
-bool HeldSubject::take(FishModel &model, TreeItem *subject)
+void HeldSubject::take(FishModel &model, TreeItem *subject)
 {
     const QModelIndex index = model.indexFromItem(subject);
-    if (!index.isValid())
-        return false;
     if (index.parent().isValid())
         m_item.reset(model.takeRow(index.row(), index.parent()));
     else
         m_document.reset(model.takeFish(index.row()));
     // Only now: an editor that showed the subject has forgotten its spear by itself.
     deleteSpears(subject);
-    return true;
 }
 
 bool HeldSubject::putBack(FishModel &model, TreeItem *parent, int row)
 {
     const QModelIndex index = model.indexFromItem(parent);
     const int place = qMin(row, model.rowCount(index));
-    if (m_document && !parent && model.insertFish(place, m_document.get()))
-        static_cast<void>(m_document.release());
-    else if (m_item && parent && model.putRow(place, m_item.get(), index))
-        release();
+    if (m_document && !parent)
+        model.insertFish(place, m_document.release());
+    else if (m_item && parent)
+        model.putRow(place, m_item.release(), index);
     return isEmpty();
 }

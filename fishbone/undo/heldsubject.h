@@ -31,8 +31,8 @@ public:
     /** Gives the node up without deleting it. */
     void release();
 
-    /** Takes @p subject out of @p model, its spears deleted. False when it is not in there. */
-    bool take(FishModel &model, TreeItem *subject);
+    /** Takes @p subject out of @p model, in which it has an index; its spears are deleted. */
+    void take(FishModel &model, TreeItem *subject);
     /**
      * Puts what is held into @p row below @p parent, or, for a document and without a parent, of
      * the top level; a row past the end is the end. False, still holding it, when it cannot go

@@ -154,8 +154,7 @@ bool InsertChild::insertAt(const Place &place)
     if (!subjects || !m_d->item)
         return false;
     const bool isInserted = subjects->insertExistItemRows(place.parent, {m_d->item});
-    if (m_d->item->root() != m_d->item)
-        m_d->held.release(); // it belongs to the tree, by whomever it came there
+    m_d->held.release(); // it belongs to the tree, by whomever it came there
     return isInserted;
 }
 
@@ -205,8 +204,12 @@ void InsertParent::redo()
         m_pid = subject->pid();
     const SpearPointer former = subject ? subject->spear() : nullptr;
     const QModelIndex below = m_d->referenceIndex();
-    m_d->model->moveRows(below.parent(), below.row(), 1, m_d->insertedIndex(), 0);
-    if (subject && m_d->model) {
+    const bool isMoved =
+        m_d->model->moveRows(below.parent(), below.row(), 1, m_d->insertedIndex(), 0);
+    if (!isMoved && m_d->model) {
+        m_d->isInserted = false; // a model that cannot move rows keeps them as they were
+        m_d->take();
+    } else if (subject && m_d->model) {
         moveSpear(subject, former);
         generateMissingSpears(*subjects, subject->parent(), {subject});
     }
@@ -223,9 +226,10 @@ void InsertParent::insertAboveHead(FishModel &model, TreeItem *head)
     }
     TreeItem *const newHead = m_d->held.item();
     m_pid = head->pid();
-    if (!model.wrapHead(model.fishOf(head), newHead))
-        return;
     m_d->held.release();
+    model.wrapHead(model.fishOf(head), newHead);
+    if (!m_d->model)
+        return;
     inserted = keyFromItem(model, newHead);
     m_d->isInserted = true;
 }
@@ -264,15 +268,13 @@ void InsertParent::removeAboveHead(FishModel &model, TreeItem *subject, TreeItem
         return; // the document would be left without a head
     if (subject->parent() != inserted) {
         std::unique_ptr<FishInfo> document;
-        if (!moveSubject(model, subject, inserted, 0, document))
+        moveSubject(model, subject, inserted, 0, document);
+        if (!m_d->model)
             return;
     }
     subject->setPid(m_pid);
-    TreeItem *const oldHead = model.unwrapHead(model.fishOf(inserted), subject);
-    if (!oldHead)
-        return;
-    m_d->held.adopt(oldHead);
-    deleteSpears(oldHead);
+    m_d->held.adopt(model.unwrapHead(model.fishOf(inserted), subject));
+    deleteSpears(m_d->held.item());
 }
 
 InsertFree::InsertFree(QAbstractItemModel *model)

@@ -33,6 +33,13 @@ struct Move
     QString pid = {};
 };
 
+/** Where subjects have come to. Who hears of the next move may end any of them. */
+struct Arrivals
+{
+    GuardedPointer<TreeItem> parent;
+    std::vector<GuardedPointer<TreeItem>> subjects;
+};
+
 /** What a subject was part of before a move. */
 struct Before
 {
@@ -58,7 +65,7 @@ struct EditMove::Private
     QList<int> sourceRows;
     // Within one redo() or undo():
     QSet<const TreeItem *> moved;
-    QHash<TreeItem *, QList<TreeItem *>> arrivals; // by their new parent
+    QHash<TreeItem *, Arrivals> arrivals; // by the new parent
 };
 
 /** Moves the subject that @p move names; false when it is not there or stays where it is. */
@@ -78,7 +85,8 @@ bool EditMove::Private::carryOut(Move &move, TreeItem *to, SubjectFinder &finder
     const TreeItem *const parent = subject->parent();
     const int rows = model->rowCount(model->indexFromItem(to));
     const int position = wasMoved ? qMin(row, rows) : row;
-    if (!moveSubject(*model, subject, to, position, move.document) || !model)
+    const bool isMoved = moveSubject(*model, subject, to, position, move.document);
+    if (!isMoved || !model || !move.name.node.get())
         return false;
     move.subject = keyFromItem(*model, subject);
     follow(subject, before, finder);
@@ -93,10 +101,11 @@ void EditMove::Private::takeBack(Move &move, SubjectFinder &finder)
     if (!subject || (!parent && !move.wasHead))
         return;
     const Before before{model->fishOf(subject), subject->spear()};
-    if (!moveSubjectToRow(*model, subject, parent, move.row, move.document) || !model)
-        return;
-    restorePid(*model, subject, move.pid);
-    if (model)
+    const GuardedPointer<TreeItem> guard(subject);
+    const bool isMoved = moveSubjectToRow(*model, subject, parent, move.row, move.document);
+    if (isMoved && model && guard.get())
+        restorePid(*model, subject, move.pid);
+    if (isMoved && model && guard.get())
         follow(subject, before, finder);
 }
 
@@ -107,15 +116,23 @@ void EditMove::Private::follow(TreeItem *subject, const Before &before, SubjectF
     if (model->fishOf(subject) != before.document)
         finder.add(subject);
     moveSpear(subject, before.spear);
-    arrivals[subject->parent()].append(subject);
+    Arrivals &there = arrivals[subject->parent()];
+    there.parent = subject->parent();
+    there.subjects.emplace_back(subject);
 }
 
 /** Makes and orders the spears where subjects have come to, after the last move. */
 void EditMove::Private::completeSpears()
 {
     moved.clear();
-    for (auto parent = arrivals.cbegin(); parent != arrivals.cend() && model; ++parent)
-        generateMissingSpears(*model, parent.key(), parent.value());
+    for (auto there = arrivals.cbegin(); there != arrivals.cend() && model; ++there) {
+        QList<TreeItem *> living;
+        for (const GuardedPointer<TreeItem> &subject : there->subjects) {
+            if (subject.get())
+                living.append(subject.get());
+        }
+        generateMissingSpears(*model, there->parent.get(), living);
+    }
     arrivals.clear();
 }
 
@@ -156,8 +173,9 @@ void EditMove::redo()
         keys.append(move.name);
     SubjectFinder finder(*model, keys);
     TreeItem *const to = findSubject(*model, m_d->target);
+    const GuardedPointer<TreeItem> guard(to);
     for (Move &move : m_d->moves)
-        move.isMoved = m_d->carryOut(move, to, finder);
+        move.isMoved = guard.get() == to && m_d->carryOut(move, to, finder);
     m_d->wasMoved = m_d->wasMoved || !m_d->moved.isEmpty();
     m_d->completeSpears();
 }

@@ -2,10 +2,9 @@
 // SPDX-License-Identifier: MIT
 
 #include <tests/app/appfixture.h>
+#include <tests/app/picturesubject.h>
 
 #include <tests/support/dialogchecks.h>
-
-#include <app/export/exportdialog.h>
 
 #include <fishbone/dialogs/replacefinddialog.h>
 #include <fishbone/dialogs/urldialog.h>
@@ -67,7 +66,7 @@ void TestAccessibleNames::shouldNameTheControlsOfDialogs_data()
         [] { return std::make_unique<SpearStyleDialog>(*SpearStyle::global()); });
     QTest::newRow("pen") << MakeDialog([] { return std::make_unique<PenSelect>(QPen()); });
     QTest::newRow("export") << MakeDialog(
-        [] { return std::make_unique<ExportDialog>(QStringLiteral("a.png")); });
+        [] { return std::make_unique<ExportDialog>(QStringLiteral("a.png"), pictureSubject()); });
 }
 
 void TestAccessibleNames::shouldNameTheControlsOfDialogs()

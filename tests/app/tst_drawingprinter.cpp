@@ -11,6 +11,8 @@
 
 using Fit = DrawingPrinter::Fit;
 
+Q_DECLARE_METATYPE(DrawingPrinter::Fit)
+
 /// Pages of 10 x 5 inches without margins, which are 960 x 480 scene units at their size on the
 /// screen.
 class TestDrawingPrinter : public QObject
@@ -161,8 +163,6 @@ void TestDrawingPrinter::printsWhatIsSelectedLikeTheRest()
     QVERIFY(item->isSelected());
     QCOMPARE(changes.count(), 0);
 }
-
-Q_DECLARE_METATYPE(DrawingPrinter::Fit)
 
 QTEST_MAIN(TestDrawingPrinter)
 #include "tst_drawingprinter.moc"

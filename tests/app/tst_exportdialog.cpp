@@ -3,20 +3,84 @@
 
 #include <tests/app/appfixture.h>
 #include <tests/app/dialoganswers.h>
+#include <tests/app/picturesubject.h>
 
 #include <tests/support/modaldriver.h>
 
 #include <app/export/exportdialog.h>
 #include <app/recovery/recoverystore.h>
 
+#include <QCheckBox>
 #include <QComboBox>
 #include <QDoubleSpinBox>
+#include <QFormLayout>
 #include <QImage>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPushButton>
+#include <QScreen>
+#include <QSettings>
+#include <QSpinBox>
+
+#include <memory>
 
 using DialogAnswers::press;
 using TestSupport::ModalDriver;
+
+namespace {
+
+template <typename Field>
+Field *field(const QDialog &dialog, const char *name)
+{
+    return dialog.findChild<Field *>(QLatin1String(name));
+}
+
+/// Makes the next keys go to \a field.
+void focus(QWidget *field)
+{
+    field->window()->activateWindow();
+    AppFixture::settle();
+    field->setFocus();
+}
+
+/// Enters \a text as a user does, and leaves the field.
+void type(QAbstractSpinBox *box, const char *text)
+{
+    focus(box);
+    box->selectAll();
+    QTest::keyClicks(box, QLatin1String(text));
+    QTest::keyClick(box, Qt::Key_Tab);
+}
+
+void chooseEntry(QComboBox *box, int row)
+{
+    focus(box);
+    QTest::keyClick(box, Qt::Key_Home);
+    for (int i = 0; i < row; ++i)
+        QTest::keyClick(box, Qt::Key_Down);
+}
+
+/// The titles of the bones that the window shows.
+QStringList visibleTitles(const AppFixture &app)
+{
+    QStringList titles;
+    const QList<QGraphicsItem *> items = app.window.editor()->scene()->items();
+    for (const QGraphicsItem *item : items) {
+        const auto *const spear = qgraphicsitem_cast<const SpearItem *>(item);
+        if (spear && spear->isVisible())
+            titles.append(spear->treeItem()->title());
+    }
+    titles.sort();
+    return titles;
+}
+
+QString resultOf(const QDialog &dialog)
+{
+    return field<QLabel>(dialog, "result")->text();
+}
+
+} // namespace
 
 class TestExportDialog : public QObject
 {
@@ -30,6 +94,20 @@ private Q_SLOTS:
     void shouldRefuseAPictureOfUnknownFormat();
     void shouldAskBeforeAPictureIsReplaced();
     void shouldSayThatAPictureCannotBeWritten();
+    void shouldLetTheSizesFollowEachOther();
+    void shouldMakeAPictureOfTheSizeThatWasEntered();
+    void shouldShowTheSizeOnPaper();
+    void shouldRefuseWhatIsTooLarge();
+    void shouldOfferTheLevels();
+    void shouldMeasureTheChosenLevels();
+    void shouldOfferTheCanvasWhereItSuits();
+    void shouldRememberWhatWasChosen();
+    void shouldForgetWhatWasCancelled();
+    void shouldBeUsedByKeyboard();
+    void shouldExportOtherLevelsThanAreShown_data();
+    void shouldExportOtherLevelsThanAreShown();
+    void shouldExportASubjectShownAsDiagram();
+    void shouldExportADarkDrawing();
 };
 
 void TestExportDialog::initTestCase()
@@ -42,6 +120,7 @@ void TestExportDialog::initTestCase()
 void TestExportDialog::init()
 {
     QDir(RecoveryStore::folder()).removeRecursively();
+    QSettings().remove(QStringLiteral("export"));
 }
 
 void TestExportDialog::shouldExportAPicture()
@@ -51,7 +130,7 @@ void TestExportDialog::shouldExportAPicture()
     const ModalDriver<ExportDialog> driver([path](ExportDialog &dialog) {
         dialog.findChild<QLineEdit *>(QStringLiteral("file"))->setText(path);
         dialog.findChild<QDoubleSpinBox *>()->setValue(2);
-        dialog.findChild<QComboBox *>()->setCurrentIndex(1);
+        field<QComboBox>(dialog, "background")->setCurrentIndex(1);
         dialog.accept();
     });
     app.trigger("export");
@@ -85,7 +164,7 @@ void TestExportDialog::shouldLeaveTheSelectionOutOfAPicture()
 
 void TestExportDialog::shouldRefuseAPictureOfUnknownFormat()
 {
-    ExportDialog dialog(QStringLiteral("a.bmp"));
+    ExportDialog dialog(QStringLiteral("a.bmp"), pictureSubject());
     dialog.show();
     const ModalDriver<QMessageBox> driver(press(QMessageBox::Ok));
     dialog.accept();
@@ -98,7 +177,7 @@ void TestExportDialog::shouldAskBeforeAPictureIsReplaced()
     const QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("a.png"));
     AppFixture::writeFile(path, "old");
-    ExportDialog dialog(path);
+    ExportDialog dialog(path, pictureSubject());
     dialog.show();
     {
         const ModalDriver<QMessageBox> driver(press(QMessageBox::No));
@@ -116,20 +195,318 @@ void TestExportDialog::shouldAskBeforeAPictureIsReplaced()
 void TestExportDialog::shouldSayThatAPictureCannotBeWritten()
 {
     AppFixture app;
-    bool warned = false;
+    const QString path = app.path(QStringLiteral("a.png"));
+    QString warned;
+    std::unique_ptr<ModalDriver<ExportDialog>> again;
+    std::unique_ptr<ModalDriver<QMessageBox>> warning;
     const ModalDriver<ExportDialog> driver([&](ExportDialog &dialog) {
-        dialog.findChild<QLineEdit *>(QStringLiteral("file"))
-            ->setText(app.path(QStringLiteral("missing/a.png")));
+        field<QLineEdit>(dialog, "file")->setText(app.path(QStringLiteral("missing/a.png")));
         dialog.accept();
-    });
-    const ModalDriver<QMessageBox> warning([&warned](QMessageBox &box) {
-        warned = box.text().contains(QLatin1String("missing/a.png"));
-        box.accept();
+        warning = std::make_unique<ModalDriver<QMessageBox>>([&](QMessageBox &box) {
+            warned = box.text();
+            box.accept();
+            // The dialog comes back, so that another file can be chosen.
+            again = std::make_unique<ModalDriver<ExportDialog>>([&path](ExportDialog &second) {
+                field<QLineEdit>(second, "file")->setText(path);
+                second.accept();
+            });
+        });
     });
     app.trigger("export");
     QVERIFY(driver.isDone());
-    QVERIFY(warning.isDone());
-    QVERIFY(warned);
+    QVERIFY(warning && warning->isDone());
+    QVERIFY2(warned.contains(QLatin1String("missing/a.png")), qPrintable(warned));
+    QVERIFY(again && again->isDone());
+    QVERIFY(!QImage(path).isNull());
+}
+
+void TestExportDialog::shouldLetTheSizesFollowEachOther()
+{
+    ExportDialog dialog(QStringLiteral("a.png"), pictureSubject());
+    dialog.show();
+    auto *const scale = field<QDoubleSpinBox>(dialog, "scale");
+    auto *const width = field<QSpinBox>(dialog, "width");
+    auto *const height = field<QSpinBox>(dialog, "height");
+    QCOMPARE(scale->value(), 1.0);
+    QCOMPARE(QSize(width->value(), height->value()), QSize(500, 200));
+
+    type(scale, "2.5");
+    QCOMPARE(QSize(width->value(), height->value()), QSize(1250, 500));
+    QCOMPARE(dialog.options().scale, 2.5);
+    QVERIFY(!dialog.options().size.isValid());
+
+    type(width, "750");
+    QCOMPARE(scale->value(), 1.5);
+    QCOMPARE(height->value(), 300);
+    QCOMPARE(dialog.options().size, QSize(750, 300));
+
+    type(height, "1000");
+    QCOMPARE(scale->value(), 5.0);
+    QCOMPARE(width->value(), 2500);
+    QCOMPARE(dialog.options().size, QSize(2500, 1000));
+    QVERIFY2(resultOf(dialog).contains(QLatin1String("500")), qPrintable(resultOf(dialog)));
+}
+
+void TestExportDialog::shouldMakeAPictureOfTheSizeThatWasEntered()
+{
+    AppFixture app;
+    const QString path = app.path(QStringLiteral("a.png"));
+    QSize shown;
+    const ModalDriver<ExportDialog> driver([&](ExportDialog &dialog) {
+        field<QLineEdit>(dialog, "file")->setText(path);
+        type(field<QSpinBox>(dialog, "width"), "1234");
+        shown = QSize(1234, field<QSpinBox>(dialog, "height")->value());
+        dialog.accept();
+    });
+    app.trigger("export");
+    QVERIFY(driver.isDone());
+    const QRectF drawing = PictureExport::visibleRect(*app.window.editor()->scene());
+    QCOMPARE(shown.height(),
+             int(std::ceil((drawing.height() + 40) * 1234 / (drawing.width() + 40))));
+    QCOMPARE(QImage(path).size(), shown);
+}
+
+void TestExportDialog::shouldShowTheSizeOnPaper()
+{
+    ExportDialog dialog(QStringLiteral("a.pdf"), pictureSubject());
+    dialog.show();
+    type(field<QDoubleSpinBox>(dialog, "scale"), "2");
+    const double millimetres = 25.4 / QGuiApplication::primaryScreen()->logicalDotsPerInchY();
+    const QString size = QStringLiteral("%1 × %2 mm")
+                             .arg(1000 * millimetres, 0, 'f', 0)
+                             .arg(400 * millimetres, 0, 'f', 0);
+    QVERIFY2(resultOf(dialog).contains(size), qPrintable(resultOf(dialog)));
+    field<QLineEdit>(dialog, "file")->setText(QStringLiteral("a.svg"));
+    QVERIFY2(!resultOf(dialog).contains(QLatin1String("mm")), qPrintable(resultOf(dialog)));
+    field<QLineEdit>(dialog, "file")->setText(QStringLiteral("a"));
+    QCOMPARE(resultOf(dialog), QString());
+}
+
+void TestExportDialog::shouldRefuseWhatIsTooLarge()
+{
+    const QTemporaryDir folder;
+    ExportDialog dialog(folder.filePath(QStringLiteral("a.png")), pictureSubject());
+    dialog.show();
+    type(field<QSpinBox>(dialog, "width"), "100000");
+    QVERIFY2(resultOf(dialog).contains(QLatin1String("32767")), qPrintable(resultOf(dialog)));
+    QString shown;
+    const ModalDriver<QMessageBox> driver([&shown](QMessageBox &box) {
+        shown = box.text();
+        box.accept();
+    });
+    dialog.accept();
+    QVERIFY(driver.isDone());
+    QVERIFY2(shown.contains(QLatin1String("32767")), qPrintable(shown));
+    QVERIFY(dialog.isVisible());
+}
+
+void TestExportDialog::shouldOfferTheLevels()
+{
+    ExportDialog dialog(QStringLiteral("a.png"), pictureSubject());
+    dialog.show();
+    auto *const expansion = field<QComboBox>(dialog, "expansion");
+    auto *const levels = field<QSpinBox>(dialog, "levels");
+    QVERIFY(!dialog.levels());
+    QVERIFY(!levels->isEnabled());
+    chooseEntry(expansion, 1);
+    QCOMPARE(dialog.levels().value_or(99), Expansion::allLevels);
+    QVERIFY(!levels->isEnabled());
+    chooseEntry(expansion, 2);
+    QVERIFY(levels->isEnabled());
+    QCOMPARE(dialog.levels().value_or(99), 1);
+    QCOMPARE(levels->minimum(), 0);
+    QCOMPARE(levels->maximum(), 3);
+}
+
+void TestExportDialog::shouldMeasureTheChosenLevels()
+{
+    int measured = 0;
+    ExportDialog::Subject counted = pictureSubject();
+    counted.extent = [&measured](std::optional<int> levels) {
+        ++measured;
+        return pictureSubject().extent(levels);
+    };
+    ExportDialog dialog(QStringLiteral("a.png"), counted);
+    dialog.show();
+    QCOMPARE(measured, 1);
+    type(field<QSpinBox>(dialog, "height"), "400");
+    auto *const width = field<QSpinBox>(dialog, "width");
+    QCOMPARE(width->value(), 1000);
+    chooseEntry(field<QComboBox>(dialog, "expansion"), 1); // passes the levels below
+    QTRY_COMPARE(width->value(), 2000);
+    QCOMPARE(field<QSpinBox>(dialog, "height")->value(), 400);
+    QCOMPARE(measured, 2);
+}
+
+void TestExportDialog::shouldOfferTheCanvasWhereItSuits()
+{
+    ExportDialog dialog(QStringLiteral("a.png"), pictureSubject());
+    dialog.show();
+    auto *const light = field<QCheckBox>(dialog, "light");
+    auto *const background = field<QComboBox>(dialog, "background");
+    QVERIFY(light->isChecked());
+    QVERIFY(dialog.isLight());
+    QCOMPARE(background->count(), 2);
+    QCOMPARE(dialog.options().background, QColor(Qt::white));
+    QTest::keyClick(light, Qt::Key_Space);
+    QVERIFY(!dialog.isLight());
+    QCOMPARE(background->count(), 3);
+    QCOMPARE(dialog.options().background, QColor(1, 2, 3));
+    chooseEntry(background, 2);
+    QCOMPARE(dialog.options().background, QColor(Qt::transparent));
+    QTest::keyClick(light, Qt::Key_Space);
+    QCOMPARE(dialog.options().background, QColor(Qt::transparent));
+}
+
+void TestExportDialog::shouldRememberWhatWasChosen()
+{
+    const QTemporaryDir folder;
+    {
+        ExportDialog dialog(folder.filePath(QStringLiteral("a.png")), pictureSubject());
+        dialog.show();
+        type(field<QSpinBox>(dialog, "width"), "640");
+        chooseEntry(field<QComboBox>(dialog, "expansion"), 2);
+        type(field<QSpinBox>(dialog, "levels"), "2");
+        QTest::keyClick(field<QCheckBox>(dialog, "light"), Qt::Key_Space);
+        chooseEntry(field<QComboBox>(dialog, "background"), 2);
+        dialog.accept();
+        QCOMPARE(dialog.result(), int(QDialog::Accepted));
+    }
+    const ExportDialog dialog(folder.filePath(QStringLiteral("b.png")), pictureSubject());
+    QCOMPARE(dialog.options().size, QSize(640, 256));
+    QCOMPARE(dialog.levels().value_or(99), 2);
+    QVERIFY(!dialog.isLight());
+    QCOMPARE(dialog.options().background, QColor(Qt::transparent));
+}
+
+void TestExportDialog::shouldForgetWhatWasCancelled()
+{
+    {
+        ExportDialog dialog(QStringLiteral("a.png"), pictureSubject());
+        dialog.show();
+        type(field<QDoubleSpinBox>(dialog, "scale"), "3");
+        dialog.reject();
+    }
+    QCOMPARE(ExportDialog(QStringLiteral("a.png"), pictureSubject()).options().scale, 1.0);
+}
+
+void TestExportDialog::shouldBeUsedByKeyboard()
+{
+    ExportDialog dialog(QStringLiteral("a.png"), pictureSubject());
+    dialog.show();
+    const QList<QLabel *> labels = dialog.findChildren<QLabel *>();
+    QStringList keys;
+    for (const char *name : {"file", "scale", "width", "height", "expansion", "background"}) {
+        auto *const widget = field<QWidget>(dialog, name);
+        const auto label = std::find_if(labels.cbegin(), labels.cend(),
+                                        [widget](QLabel *each) { return each->buddy() == widget; });
+        QVERIFY2(label != labels.cend(), name);
+        keys.append(QKeySequence::mnemonic((*label)->text()).toString());
+        QVERIFY2(widget->focusPolicy() & Qt::TabFocus, name);
+    }
+    keys.append(QKeySequence::mnemonic(field<QCheckBox>(dialog, "light")->text()).toString());
+    for (const QPushButton *button : dialog.findChildren<QPushButton *>())
+        keys.append(QKeySequence::mnemonic(button->text()).toString());
+    keys.removeAll(QString());
+    QVERIFY(keys.size() >= 8);
+    QCOMPARE(keys.removeDuplicates(), 0);
+    QVERIFY(!field<QSpinBox>(dialog, "levels")->accessibleName().isEmpty());
+}
+
+void TestExportDialog::shouldExportOtherLevelsThanAreShown_data()
+{
+    QTest::addColumn<int>("entry");
+    QTest::addColumn<QByteArray>("levels");
+    QTest::addColumn<QString>("titles");
+    QTest::newRow("as shown") << 0 << QByteArray() << "Late,Machines,Material,People,Rust";
+    QTest::newRow("all") << 1 << QByteArray()
+                         << "Illness,Late,Machines,Material,People,Rust,Too few,Too new";
+    QTest::newRow("main bones") << 2 << QByteArray("0") << "Late,Machines,Material,People";
+    QTest::newRow("one more") << 2 << QByteArray("1")
+                              << "Late,Machines,Material,People,Rust,Too few,Too new";
+}
+
+void TestExportDialog::shouldExportOtherLevelsThanAreShown()
+{
+    QFETCH(int, entry);
+    QFETCH(QByteArray, levels);
+    QFETCH(QString, titles);
+    AppFixture app;
+    app.select("Material");
+    app.trigger("expand");
+    const QStringList before = visibleTitles(app);
+    const QRectF drawing = PictureExport::visibleRect(*app.window.editor()->scene());
+    const QByteArray file = AppFixture::contentOf(app.path());
+    const QString path = app.path(QStringLiteral("a.svg"));
+    const ModalDriver<ExportDialog> driver([&](ExportDialog &dialog) {
+        field<QLineEdit>(dialog, "file")->setText(path);
+        chooseEntry(field<QComboBox>(dialog, "expansion"), entry);
+        if (!levels.isEmpty())
+            type(field<QSpinBox>(dialog, "levels"), levels.constData());
+        dialog.accept();
+    });
+    app.trigger("export");
+    QVERIFY(driver.isDone());
+
+    const QString svg = QString::fromUtf8(AppFixture::contentOf(path));
+    QStringList drawn;
+    for (const char *title :
+         {"Illness", "Late", "Machines", "Material", "People", "Rust", "Too few", "Too new"}) {
+        if (svg.contains(QStringLiteral(">%1<").arg(QLatin1String(title))))
+            drawn.append(QLatin1String(title));
+    }
+    QCOMPARE(drawn.join(QLatin1Char(',')), titles);
+
+    QCOMPARE(visibleTitles(app), before);
+    QCOMPARE(PictureExport::visibleRect(*app.window.editor()->scene()), drawing);
+    QCOMPARE(app.selectedInDrawing(), QStringList(QStringLiteral("Material")));
+    QVERIFY(!app.document()->modified());
+    QCOMPARE(app.window.editor()->undoStack()->currentIndex(), -1);
+    QCOMPARE(AppFixture::contentOf(app.path()), file);
+}
+
+void TestExportDialog::shouldExportASubjectShownAsDiagram()
+{
+    AppFixture app;
+    app.select("People");
+    app.trigger("asDiagram");
+    const QString path = app.path(QStringLiteral("a.svg"));
+    const ModalDriver<ExportDialog> driver([&](ExportDialog &dialog) {
+        field<QLineEdit>(dialog, "file")->setText(path);
+        chooseEntry(field<QComboBox>(dialog, "expansion"), 1);
+        dialog.accept();
+    });
+    app.trigger("export");
+    QVERIFY(driver.isDone());
+    const QByteArray svg = AppFixture::contentOf(path);
+    QVERIFY(svg.contains(">Illness<"));
+    QVERIFY(!svg.contains(">Rust<"));
+    QVERIFY(svg.contains("<title>People</title>"));
+}
+
+void TestExportDialog::shouldExportADarkDrawing()
+{
+    AppFixture app;
+    QPalette dark = app.window.palette();
+    dark.setColor(QPalette::Base, QColor(20, 20, 20));
+    app.window.setPalette(dark);
+    AppFixture::settle();
+    const auto exported = [&app](const QString &name, bool light) {
+        const QString path = app.path(name);
+        const ModalDriver<ExportDialog> driver([&](ExportDialog &dialog) {
+            field<QLineEdit>(dialog, "file")->setText(path);
+            field<QCheckBox>(dialog, "light")->setChecked(light);
+            dialog.accept();
+        });
+        app.trigger("export");
+        return driver.isDone() ? QImage(path) : QImage();
+    };
+    const QImage onPaper = exported(QStringLiteral("a.png"), true);
+    QCOMPARE(onPaper.pixelColor(0, 0), QColor(Qt::white));
+    const QImage asShown = exported(QStringLiteral("b.png"), false);
+    QVERIFY(asShown.pixelColor(0, 0).lightness() < 128);
+    QVERIFY(asShown != onPaper);
+    QVERIFY(app.window.updatesEnabled());
 }
 
 QTEST_MAIN(TestExportDialog)

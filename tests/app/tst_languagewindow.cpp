@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 
 #include <tests/app/appfixture.h>
+#include <tests/app/picturesubject.h>
 
 #include <app/common/language.h>
-#include <app/export/exportdialog.h>
 #include <app/window/mainwindow.h>
 
 #include <fishbone/dialogs/replacefinddialog.h>
@@ -291,7 +291,8 @@ void TestLanguageWindow::shouldHaveRoomForTheTextsOfADialog_data()
     QTest::addColumn<DialogMaker>("make");
 
     const QHash<QByteArray, DialogMaker> dialogs{
-        {"export", [] { return std::make_unique<ExportDialog>(QStringLiteral("a.png")); }},
+        {"export",
+         [] { return std::make_unique<ExportDialog>(QStringLiteral("a.png"), pictureSubject()); }},
         {"find", [] { return std::make_unique<ReplaceFindDialog>(); }},
         {"url", [] { return std::make_unique<URLDialog>(); }},
         {"style", [this] { return std::make_unique<SpearStyleDialog>(m_style); }},

@@ -7,10 +7,13 @@
 
 #include <fishbone/items/expanditem.h>
 
+#include <QClipboard>
 #include <QDropEvent>
 #include <QLineEdit>
 #include <QMimeData>
 #include <QMouseEvent>
+#include <QScrollBar>
+#include <QSignalSpy>
 
 class TestTreeSync : public QObject
 {
@@ -34,6 +37,7 @@ private Q_SLOTS:
     void shouldLetSubjectsBeDraggedButHeads();
     void shouldMoveADraggedRowOntoABone();
     void shouldFollowAMoveWithTheMouse();
+    void shouldLayOutOnceForManyRemovedRows();
 };
 
 void TestTreeSync::initTestCase()
@@ -356,6 +360,25 @@ void TestTreeSync::shouldFollowAMoveWithTheMouse()
     app.trigger("undo");
     QCOMPARE(app.text(),
              QStringLiteral("Late[People[Too few[Illness],Too new],Machines,Material[Rust]]"));
+}
+
+void TestTreeSync::shouldLayOutOnceForManyRemovedRows()
+{
+    AppFixture app;
+    QStringList lines;
+    for (int i = 0; i < 300; ++i)
+        lines.append(QString::number(i));
+    app.select("Machines");
+    QGuiApplication::clipboard()->setText(lines.join(QLatin1Char('\n')));
+    app.trigger("paste");
+    QCOMPARE(app.subject("Machines")->childCount(), 300);
+    // Each layout tells the scroll bar how many rows there are.
+    const QSignalSpy layouts(app.window.tree()->view()->verticalScrollBar(),
+                             &QScrollBar::rangeChanged);
+    app.trigger("undo");
+    QCOMPARE(app.subject("Machines")->childCount(), 0);
+    QVERIFY2(layouts.size() < 10, qPrintable(QString::number(layouts.size())));
+    QCOMPARE(app.window.tree()->selectedSubjects(), QModelIndexList{app.find("Machines")});
 }
 
 QTEST_MAIN(TestTreeSync)

@@ -167,7 +167,7 @@ void TestTypedTitle::shouldBuildADiagramByKeyboardAlone()
         QTest::keyClick(app.window.editor()->view(), key, modifiers);
         AppFixture::settle();
     };
-    const auto type = [&app](const char *text) {
+    const auto type = [](const char *text) {
         QWidget *const target = QApplication::focusWidget();
         QTest::keyClick(target, text[0]);
         QTest::keyClicks(QApplication::focusWidget(), QString::fromUtf8(text + 1));

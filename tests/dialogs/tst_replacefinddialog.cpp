@@ -35,6 +35,7 @@ private Q_SLOTS:
     void shouldReadTheLastMatchOnReplace();
     void shouldReadNothingWhenThereIsNothingToReplace();
     void shouldNotChangeTheModelOnReplaceAll();
+    void shouldFilterTheEventsOfItsButtonsOnly();
     void shouldNotShowTheSearchThatSucceeds();
     void shouldCloseOnEscape();
     void shouldNameEveryControlInTabOrder();
@@ -274,6 +275,8 @@ void tst_ReplaceFindDialog::shouldNotChangeTheModelOnReplace()
     replaceEdit(dialog)->setText(QStringLiteral("woman"));
     click(dialog, "Replace");
     QTest::keyClick(replaceEdit(dialog), Qt::Key_Return);
+    dialog.findChild<QCheckBox *>()->setChecked(true);
+    click(dialog, "Replace");
     QCOMPARE(content(model), before);
     QCOMPARE(changed.size(), 0);
     QCOMPARE(titles(dialog.matches()), QStringLiteral("Man|man power|Manual"));
@@ -325,6 +328,18 @@ void tst_ReplaceFindDialog::shouldNotChangeTheModelOnReplaceAll()
     QCOMPARE(content(model), before);
     QCOMPARE(changed.size(), 0);
     QCOMPARE(dialog.matches().size(), 3);
+}
+
+void tst_ReplaceFindDialog::shouldFilterTheEventsOfItsButtonsOnly()
+{
+    ReplaceFindDialog dialog;
+    QLineEdit edit;
+    edit.installEventFilter(&dialog);
+    QSignalSpy pressed(&edit, &QLineEdit::returnPressed);
+    QTest::keyClicks(&edit, QStringLiteral("a"));
+    QTest::keyClick(&edit, Qt::Key_Return);
+    QCOMPARE(edit.text(), QStringLiteral("a"));
+    QCOMPARE(pressed.size(), 1);
 }
 
 void tst_ReplaceFindDialog::shouldNotShowTheSearchThatSucceeds()

@@ -93,6 +93,10 @@ void TestFishEditorRefreshing::shouldFollowTheStatusOfItsSubjects()
     QCOMPARE(icon(QStringLiteral("Man")), QStringLiteral(":/fishboneDiagram/status/finish.svg"));
     QCOMPARE(icon(QStringLiteral("a")),
              QStringLiteral(":/fishboneDiagram/status/running_progress_50.svg"));
+    fish.subject(QStringLiteral("a"))->setProgress(75);
+    fish.editor.updateFish(false);
+    QCOMPARE(icon(QStringLiteral("a")),
+             QStringLiteral(":/fishboneDiagram/status/running_progress_80.svg"));
 
     fish.subject(QStringLiteral("Man"))->setStatus(-1);
     fish.editor.refreshFish();

@@ -3,6 +3,7 @@
 
 #include <QGestureEvent>
 #include <QNativeGestureEvent>
+#include <QPanGesture>
 #include <QPinchGesture>
 #include <QScrollBar>
 #include <QWheelEvent>
@@ -98,6 +99,8 @@ void tst_GraphicsViewTouch::shouldScrollBothWaysWithTwoFingers_data()
                                 << QPoint(-7, 11);
     QTest::newRow("without phases")
         << QPoint(7, -11) << QPoint(14, -22) << int(Qt::NoScrollPhase) << QPoint(-7, 11);
+    QTest::newRow("without phases, down alone")
+        << QPoint(0, -11) << QPoint(0, -22) << int(Qt::NoScrollPhase) << QPoint(0, 11);
     QTest::newRow("momentum") << QPoint(0, 20) << QPoint(0, 40) << int(Qt::ScrollMomentum)
                               << QPoint(0, -20);
     QTest::newRow("angles only") << QPoint() << QPoint(10, 30) << int(Qt::ScrollUpdate)
@@ -158,6 +161,10 @@ void tst_GraphicsViewTouch::shouldZoomWithAPinchOnATouchpad()
     QNativeGestureEvent twice = touchpadGesture(Qt::ZoomNativeGesture, 1.0);
     QCoreApplication::sendEvent(fixture.editor.view()->viewport(), &twice);
     QCOMPARE(recorder.take(), QStringLiteral("zoomValueChanged(450)"));
+
+    QNativeGestureEvent toNothing = touchpadGesture(Qt::ZoomNativeGesture, -1.0);
+    QCoreApplication::sendEvent(fixture.editor.view()->viewport(), &toNothing);
+    QCOMPARE(recorder.take(), QString());
 }
 
 void tst_GraphicsViewTouch::shouldZoomWithAPinchOnAScreen()
@@ -180,6 +187,9 @@ void tst_GraphicsViewTouch::shouldIgnoreOtherGestures()
     SignalRecorder recorder(fixture.editor, {QStringLiteral("zoomValueChanged")});
     QNativeGestureEvent turn = touchpadGesture(Qt::RotateNativeGesture, 10);
     QCoreApplication::sendEvent(fixture.editor.view()->viewport(), &turn);
+    QPanGesture pan;
+    QGestureEvent event({&pan});
+    QCoreApplication::sendEvent(fixture.editor.view()->viewport(), &event);
     QCOMPARE(recorder.take(), QString());
     QCOMPARE(fixture.editor.zoomValue(), 400);
 }

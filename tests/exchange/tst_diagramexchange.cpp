@@ -7,6 +7,7 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QJsonDocument>
+#include <QLocalServer>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -372,6 +373,13 @@ void TestDiagramExchange::shouldSayWhyAFileCannotBeRead()
     QVERIFY(!DiagramExchange::readFile(folder.filePath(QStringLiteral("a")), Format::Text, &error));
     QCOMPARE(error, QStringLiteral("there is no such file"));
     QVERIFY(!DiagramExchange::readFile(QString(), Format::Text));
+
+    // Nobody can open the end of a connection as a file, not even the superuser.
+    const QString name = folder.filePath(QStringLiteral("b"));
+    QLocalServer server;
+    QVERIFY(server.listen(name));
+    QVERIFY(!DiagramExchange::readFile(name, Format::Text, &error));
+    QVERIFY(!error.isEmpty() && error != QLatin1String("there is no such file"));
 }
 
 void TestDiagramExchange::shouldKeepTheFileThatCannotBeReplaced()

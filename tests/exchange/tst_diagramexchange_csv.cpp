@@ -20,6 +20,10 @@ private Q_SLOTS:
     void shouldReadTheColumnsInAnyOrder();
     void shouldReadDates_data();
     void shouldReadDates();
+    void shouldReadFollowers_data();
+    void shouldReadFollowers();
+    void shouldKeepFollowers_data();
+    void shouldKeepFollowers();
     void shouldWriteATable();
     void shouldWriteNothingThatASpreadsheetRuns();
     void shouldKeepApostrophes_data();
@@ -138,6 +142,49 @@ void TestDiagramExchangeCsv::shouldReadDates()
     const Imported result = imported("title,created\na," + cell + '\n', Format::Csv);
     QVERIFY2(result.head, qPrintable(result.error));
     QCOMPARE(result.head->createDate(), date);
+}
+
+void TestDiagramExchangeCsv::shouldReadFollowers_data()
+{
+    QTest::addColumn<QByteArray>("cell");
+    QTest::addColumn<QStringList>("followers");
+
+    const QString x = QStringLiteral("x");
+    QTest::newRow("one") << QByteArray("x") << QStringList{x};
+    QTest::newRow("two") << QByteArray("x;y") << QStringList{x, QStringLiteral("y")};
+    QTest::newRow("separator at the end") << QByteArray("x;") << QStringList{x};
+    QTest::newRow("an empty one") << QByteArray("x;;") << QStringList{x, QString()};
+    QTest::newRow("escaped separator") << QByteArray("x\\;y") << QStringList{QStringLiteral("x;y")};
+    QTest::newRow("nothing escaped") << QByteArray("x\\") << QStringList{QStringLiteral("x\\")};
+}
+
+void TestDiagramExchangeCsv::shouldReadFollowers()
+{
+    QFETCH(QByteArray, cell);
+    QFETCH(QStringList, followers);
+    const Imported result = imported("title,followers\na," + cell + '\n', Format::Csv);
+    QVERIFY2(result.head, qPrintable(result.error));
+    QCOMPARE(result.head->followers(), followers);
+}
+
+void TestDiagramExchangeCsv::shouldKeepFollowers_data()
+{
+    QTest::addColumn<QStringList>("followers");
+
+    const QString empty = QStringLiteral("");
+    QTest::newRow("an empty one at the end") << QStringList{QStringLiteral("x"), empty};
+    QTest::newRow("an empty one at the beginning") << QStringList{empty, QStringLiteral("x")};
+    QTest::newRow("an empty one alone") << QStringList{empty};
+    QTest::newRow("two empty ones") << QStringList{empty, empty};
+    QTest::newRow("marks") << QStringList{QStringLiteral(";"), QStringLiteral("\\")};
+}
+
+void TestDiagramExchangeCsv::shouldKeepFollowers()
+{
+    QFETCH(QStringList, followers);
+    TreeItem head;
+    head.setFollowers(followers);
+    QCOMPARE(carriedThrough(head, Format::Csv).head->followers(), followers);
 }
 
 void TestDiagramExchangeCsv::shouldWriteATable()

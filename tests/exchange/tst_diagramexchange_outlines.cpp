@@ -104,6 +104,7 @@ void TestDiagramExchangeOutlines::shouldReadDetailsOfMarkdown_data()
     row("quotation", "# a\n> x\n> y\n- b\n  > z", "x\ny", "z");
     row("quotation without blanks", "# a\n>x\n- b\n  >", "x", "");
     row("paragraph", "# a\nx *y*\nz\n\n- b\n\n  v\n", "x y\nz", "v");
+    row("seven marks", "# a\n####### x\n- b", "####### x", "");
     row("two paragraphs", "# a\n\nx\n\n\ny\n\n- b", "x\n\ny", "");
     row("code", "# a\n- b\n```\n# *x*\n```\n", "", "# *x*");
     row("links stay", "# a\nsee [x](http://y) &amp; z\n- b", "see [x](http://y) & z", "");
@@ -156,6 +157,17 @@ void TestDiagramExchangeOutlines::shouldReadTitlesOfMarkdown_data()
     row("[a](b", "[a](b", "");
     row("[a", "[a", "");
     row("[x] done", "[x] done", "");
+    row("a*b*c", "abc", "");
+    row("*a b_", "*a b_", "");
+    row("*foo**bar", "*foo**bar", "");
+    row("`x \\``", "`x ``", "");
+    row("\\ä \\中", "\\ä \\中", "");
+    row("&#x1F600;", "\xf0\x9f\x98\x80", "");
+    row("&#x10FFFF;", "\xf4\x8f\xbf\xbf", "");
+    row("&#x110000;", "&#x110000;", "");
+    row("&#xD800;", "&#xD800;", "");
+    const QByteArray marks(40, '`');
+    row(marks + 'x' + marks, marks + 'x' + marks, ""); // code that long is nobody's
 }
 
 void TestDiagramExchangeOutlines::shouldReadTitlesOfMarkdown()

@@ -21,6 +21,7 @@ private Q_SLOTS:
     void shouldReadNotesAsPlainText();
     void shouldReadTheValuesOfNodes();
     void shouldLeaveOutValuesOfAnotherMeaning();
+    void shouldTakeAnEmptyValueForNone();
     void shouldReadOtherEncodings();
     void shouldRefuseOtherDocuments_data();
     void shouldRefuseOtherDocuments();
@@ -30,6 +31,8 @@ private Q_SLOTS:
     void shouldPassOverDeepForeignElements();
     void shouldWriteWellFormedXml_data();
     void shouldWriteWellFormedXml();
+    void shouldReplaceHalvesOfCharacters_data();
+    void shouldReplaceHalvesOfCharacters();
     void shouldWriteWhatOutlinersKnow();
     void shouldWriteWhatMindMapsKnow();
 };
@@ -66,6 +69,10 @@ void TestDiagramExchangeXml::shouldReadTrees_data()
         "<map><node TEXT='a'><node><richcontent TYPE='NODE'><html><head><style>p{}</style></head>"
         "<body><p>\n b\n   c </p>\n<p>d</p></body></html></richcontent></node></node></map>",
         "a[b c\nd]");
+    row("mm with two titles", Format::FreeMind,
+        "<map><node TEXT='a'><richcontent TYPE='NODE'><html>b</html></richcontent>"
+        "<richcontent TYPE='DETAILS'><html>c</html></richcontent></node></map>",
+        "a");
     row("mm with notes behind the nodes", Format::FreeMind,
         "<map><node TEXT='a'><node TEXT='b'/><richcontent TYPE='NOTE'><html>n</html></richcontent>"
         "</node></map>",
@@ -140,6 +147,21 @@ void TestDiagramExchangeXml::shouldLeaveOutValuesOfAnotherMeaning()
     QCOMPARE(map.head->status(), -1);
     QCOMPARE(map.head->createDate(), Q_INT64_C(0));
     QCOMPARE(map.head->url(), QString());
+}
+
+void TestDiagramExchangeXml::shouldTakeAnEmptyValueForNone()
+{
+    const Imported result =
+        imported("<map><node TEXT='a'>"
+                 "<attribute NAME='status' VALUE='2'/><attribute NAME='status' VALUE=''/>"
+                 "<attribute NAME='progress' VALUE='40'/><attribute NAME='progress' VALUE=''/>"
+                 "<attribute NAME='planenddate' VALUE='5'/><attribute NAME='planenddate' VALUE=''/>"
+                 "</node></map>",
+                 Format::FreeMind);
+    QCOMPARE(result.text(), QStringLiteral("a"));
+    QCOMPARE(result.head->status(), -1);
+    QCOMPARE(result.head->progress(), 0);
+    QCOMPARE(result.head->planEndDate(), Q_INT64_C(0));
 }
 
 void TestDiagramExchangeXml::shouldReadOtherEncodings()
@@ -278,6 +300,36 @@ void TestDiagramExchangeXml::shouldWriteWellFormedXml()
         elements += xml.readNext() == QXmlStreamReader::StartElement ? 1 : 0;
     QVERIFY2(!xml.hasError(), qPrintable(xml.errorString()));
     QVERIFY(elements >= 5);
+}
+
+void TestDiagramExchangeXml::shouldReplaceHalvesOfCharacters_data()
+{
+    QTest::addColumn<QString>("title");
+    QTest::addColumn<QString>("expected");
+
+    using Units = std::initializer_list<char16_t>;
+    const auto row = [](const char *name, Units title, Units expected) {
+        const auto text = [](Units units) {
+            return QString::fromUtf16(units.begin(), int(units.size()));
+        };
+        QTest::newRow(name) << text(title) << text(expected);
+    };
+    row("whole", {'a', 0xd83d, 0xde00}, {'a', 0xd83d, 0xde00});
+    row("first half at the end", {'a', 0xd83d}, {'a', 0xfffd});
+    row("first half before a letter", {0xd83d, 'a'}, {0xfffd, 'a'});
+    row("second half at the beginning", {0xde00, 'a'}, {0xfffd, 'a'});
+    row("second half behind a letter", {'a', 0xde00}, {'a', 0xfffd});
+}
+
+void TestDiagramExchangeXml::shouldReplaceHalvesOfCharacters()
+{
+    QFETCH(QString, title);
+    QFETCH(QString, expected);
+    TreeItem head;
+    head.setTitle(title);
+
+    for (const Format format : {Format::Opml, Format::FreeMind})
+        QCOMPARE(carriedThrough(head, format).text(), expected);
 }
 
 void TestDiagramExchangeXml::shouldWriteWhatOutlinersKnow()

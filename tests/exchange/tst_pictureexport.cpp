@@ -8,7 +8,8 @@
 #include <fishbone/model/fishmodel.h>
 #include <fishbone/model/treeitem.h>
 
-#include <QGraphicsRectItem>
+#include <tests/exchange/picturefixture.h>
+
 #include <QGraphicsTextItem>
 #include <QImage>
 #include <QRegularExpression>
@@ -19,54 +20,10 @@
 #include <QtTest>
 
 #include <cmath>
-#include <limits>
 
-using Format = PictureExport::Format;
-using Error = PictureExport::Error;
-
-Q_DECLARE_METATYPE(PictureExport::Format)
-Q_DECLARE_METATYPE(PictureExport::Error)
-Q_DECLARE_METATYPE(PictureOptions)
+using namespace PictureFixture;
 
 namespace {
-
-/** A red rectangle of 40 x 20 at (100, 50), without an outline. */
-QGraphicsRectItem *addRedRectangle(QGraphicsScene &scene)
-{
-    return scene.addRect(QRectF(100, 50, 40, 20), QPen(Qt::NoPen), QBrush(Qt::red));
-}
-
-PictureOptions withMargin(double margin)
-{
-    PictureOptions options;
-    options.margin = margin;
-    return options;
-}
-
-PictureOptions scaledBy(double scale)
-{
-    PictureOptions options;
-    options.scale = scale;
-    return options;
-}
-
-PictureOptions ofSize(const QSize &size)
-{
-    PictureOptions options;
-    options.size = size;
-    return options;
-}
-
-QByteArray rendered(QGraphicsScene &scene, Format format, const PictureOptions &options = {})
-{
-    QByteArray picture;
-    return PictureExport::render(scene, format, options, picture) ? picture : QByteArray();
-}
-
-QImage renderedPng(QGraphicsScene &scene, const PictureOptions &options = {})
-{
-    return QImage::fromData(rendered(scene, Format::Png, options), "PNG");
-}
 
 /** The smallest rectangle that holds all red pixels. */
 QRect redPixels(const QImage &image)
@@ -111,19 +68,6 @@ QByteArray pdfStreams(const QByteArray &pdf)
     return content;
 }
 
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-void writeFile(const QString &path, const QByteArray &content)
-{
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(content), qint64(content.size()));
-}
-
 int pointsOf(double units)
 {
     return int(std::ceil(units * 72 / QGuiApplication::primaryScreen()->logicalDotsPerInchY()));
@@ -139,6 +83,7 @@ private Q_SLOTS:
     void shouldTellTheFormatFromTheSuffix_data();
     void shouldTellTheFormatFromTheSuffix();
     void shouldCountWhatIsVisible();
+    void shouldCountOnlyTheChildrenOfAnItemThatDrawsNothing();
     void shouldMapTransformedItems();
     void shouldFindNothingInAnEmptyScene();
     void shouldCropToTheDrawingAndItsMargin();
@@ -157,16 +102,8 @@ private Q_SLOTS:
     void shouldWriteTextIntoThePdf();
     void shouldDrawADiagramWithoutBitmaps();
     void shouldCropToTheBonesThatAreExpanded();
-    void shouldRefuseBadOptions_data();
-    void shouldRefuseBadOptions();
-    void shouldRefuseWhatIsTooLarge_data();
-    void shouldRefuseWhatIsTooLarge();
     void shouldTakeTheLongestPng();
-    void shouldRefuseAnEmptyScene();
-    void shouldRefuseAnUnknownSuffix();
     void shouldReplaceAFileWhole();
-    void shouldKeepTheOldFileOnFailure();
-    void shouldReportATargetThatCannotBeWritten();
 };
 
 void TestPictureExport::shouldTellTheFormatFromTheSuffix_data()
@@ -212,6 +149,16 @@ void TestPictureExport::shouldCountWhatIsVisible()
     child->setPen(QPen(Qt::NoPen));
     child->setPos(200, 60);
     QCOMPARE(PictureExport::visibleRect(scene), QRectF(100, 50, 110, 20));
+}
+
+void TestPictureExport::shouldCountOnlyTheChildrenOfAnItemThatDrawsNothing()
+{
+    QGraphicsScene scene;
+    QGraphicsRectItem *const holder = scene.addRect(QRectF(0, 0, 1000, 1000));
+    holder->setFlag(QGraphicsItem::ItemHasNoContents);
+    addRedRectangle(scene)->setParentItem(holder);
+
+    QCOMPARE(PictureExport::visibleRect(scene), QRectF(100, 50, 40, 20));
 }
 
 void TestPictureExport::shouldMapTransformedItems()
@@ -465,96 +412,11 @@ void TestPictureExport::shouldCropToTheBonesThatAreExpanded()
     QCOMPARE(PictureExport::visibleRect(*editor.scene()), before);
 }
 
-void TestPictureExport::shouldRefuseBadOptions_data()
-{
-    QTest::addColumn<PictureOptions>("options");
-
-    const double nan = std::numeric_limits<double>::quiet_NaN();
-    const double infinity = std::numeric_limits<double>::infinity();
-    QTest::newRow("no scale") << scaledBy(0);
-    QTest::newRow("negative scale") << scaledBy(-1);
-    QTest::newRow("infinite scale") << scaledBy(infinity);
-    QTest::newRow("undefined scale") << scaledBy(nan);
-    QTest::newRow("no width") << ofSize(QSize(0, 10));
-    QTest::newRow("no height") << ofSize(QSize(10, 0));
-    QTest::newRow("negative margin") << withMargin(-1);
-    QTest::newRow("infinite margin") << withMargin(infinity);
-    QTest::newRow("undefined margin") << withMargin(nan);
-}
-
-void TestPictureExport::shouldRefuseBadOptions()
-{
-    QFETCH(PictureOptions, options);
-    QGraphicsScene scene;
-    addRedRectangle(scene);
-
-    for (const Format format : {Format::Png, Format::Svg, Format::Pdf}) {
-        QByteArray picture("old");
-        const auto result = PictureExport::render(scene, format, options, picture);
-        QCOMPARE(result.error, Error::BadOptions);
-        QVERIFY(!result.reason.isEmpty());
-        QVERIFY(picture.isEmpty());
-    }
-}
-
-void TestPictureExport::shouldRefuseWhatIsTooLarge_data()
-{
-    QTest::addColumn<Format>("format");
-    QTest::addColumn<PictureOptions>("options");
-
-    QTest::newRow("wide png") << Format::Png << ofSize(QSize(32768, 10));
-    QTest::newRow("high png") << Format::Png << ofSize(QSize(10, 32768));
-    QTest::newRow("large png") << Format::Png << ofSize(QSize(20000, 20000)); // 1.5 GiB
-    QTest::newRow("scaled png") << Format::Png << scaledBy(1e4);
-    QTest::newRow("pdf") << Format::Pdf << ofSize(QSize(30000, 10));
-    QTest::newRow("svg") << Format::Svg << scaledBy(1e6);
-    QTest::newRow("beyond all numbers") << Format::Svg << scaledBy(1e300);
-}
-
-void TestPictureExport::shouldRefuseWhatIsTooLarge()
-{
-    QFETCH(Format, format);
-    QFETCH(PictureOptions, options);
-    QGraphicsScene scene;
-    addRedRectangle(scene);
-
-    QByteArray picture;
-    const auto result = PictureExport::render(scene, format, options, picture);
-    QCOMPARE(result.error, Error::TooLarge);
-    QVERIFY(!result.reason.isEmpty());
-    QVERIFY(picture.isEmpty());
-}
-
 void TestPictureExport::shouldTakeTheLongestPng()
 {
     QGraphicsScene scene;
     addRedRectangle(scene);
     QCOMPARE(renderedPng(scene, ofSize(QSize(32767, 4))).size(), QSize(32767, 4));
-}
-
-void TestPictureExport::shouldRefuseAnEmptyScene()
-{
-    QGraphicsScene scene;
-    addRedRectangle(scene)->setVisible(false);
-
-    QByteArray picture;
-    const auto result = PictureExport::render(scene, Format::Png, {}, picture);
-    QCOMPARE(result.error, Error::NothingToDraw);
-    QVERIFY(!result);
-    QVERIFY(!result.reason.isEmpty());
-}
-
-void TestPictureExport::shouldRefuseAnUnknownSuffix()
-{
-    const QTemporaryDir folder;
-    QGraphicsScene scene;
-    addRedRectangle(scene);
-
-    const QString path = folder.filePath(QStringLiteral("a.bmp"));
-    const auto result = PictureExport::write(scene, path);
-    QCOMPARE(result.error, Error::UnknownFormat);
-    QVERIFY(!result.reason.isEmpty());
-    QVERIFY(!QFile::exists(path));
 }
 
 void TestPictureExport::shouldReplaceAFileWhole()
@@ -572,36 +434,6 @@ void TestPictureExport::shouldReplaceAFileWhole()
     QVERIFY(content.startsWith("<?xml"));
     QVERIFY(!content.contains('x' + QByteArray(10, 'x')));
     QCOMPARE(QDir(folder.path()).entryList(QDir::Files), QStringList(QStringLiteral("a.svg")));
-}
-
-void TestPictureExport::shouldKeepTheOldFileOnFailure()
-{
-    const QTemporaryDir folder;
-    QGraphicsScene scene;
-    addRedRectangle(scene);
-    const QString path = folder.filePath(QStringLiteral("a.png"));
-    writeFile(path, "old");
-
-    QCOMPARE(PictureExport::write(scene, path, ofSize(QSize(40000, 10))).error, Error::TooLarge);
-    QCOMPARE(contentOf(path), QByteArray("old"));
-    scene.clear();
-    QCOMPARE(PictureExport::write(scene, path).error, Error::NothingToDraw);
-    QCOMPARE(contentOf(path), QByteArray("old"));
-}
-
-void TestPictureExport::shouldReportATargetThatCannotBeWritten()
-{
-    const QTemporaryDir folder;
-    QGraphicsScene scene;
-    addRedRectangle(scene);
-    QVERIFY(QDir(folder.path()).mkdir(QStringLiteral("folder.png")));
-
-    for (const char *name : {"missing/a.png", "folder.png"}) {
-        const auto result = PictureExport::write(scene, folder.filePath(QString::fromLatin1(name)));
-        QCOMPARE(result.error, Error::CannotWrite);
-        QVERIFY(!result.reason.isEmpty());
-    }
-    QVERIFY(!QFile::exists(folder.filePath(QStringLiteral("missing"))));
 }
 
 QTEST_MAIN(TestPictureExport)

@@ -37,6 +37,9 @@ private Q_SLOTS:
     void shouldLetTheNextLayoutPlaceTheChildren();
     void shouldFindItsOwnEditorAmongSeveral();
     void shouldFallBackOnTheNewestEditor();
+    void shouldFallBackWhenItsViewStandsInNoEditor();
+    void shouldToggleOutsideAnyScene();
+    void shouldToggleASpearWithoutASubject();
     void shouldKeepTheEditorWhenGivenNone();
     void shouldOnlyToggleWhenTheFallbackIsGone();
     void shouldOnlyToggleWhenTheFallbackShowsAnotherModel_data();
@@ -330,6 +333,58 @@ void TestExpandItem::shouldFallBackOnTheNewestEditor()
 
     QCOMPARE(lonely.spear->childCount(), 2);
     QVERIFY(lonely.spear->isExpand());
+}
+
+void TestExpandItem::shouldFallBackWhenItsViewStandsInNoEditor()
+{
+    LonelySpear lonely;
+    QFrame frame;
+    const QGraphicsView view(&lonely.scene, &frame);
+    FishEditor editor;
+    editor.setModel(&lonely.model);
+
+    sendPress(*lonely.button, Qt::LeftButton);
+
+    QCOMPARE(lonely.spear->childCount(), 2);
+}
+
+void TestExpandItem::shouldToggleOutsideAnyScene()
+{
+    class Button : public ExpandItem
+    {
+    public:
+        using ExpandItem::ExpandItem;
+        using ExpandItem::mousePressEvent;
+    };
+    LonelySpear lonely;
+    lonely.scene.removeItem(lonely.spear);
+    const std::unique_ptr<SpearItem> spear(lonely.spear);
+    Button button(spear.get());
+    FishEditor editor;
+    editor.setModel(&lonely.model);
+
+    QGraphicsSceneMouseEvent event(QEvent::GraphicsSceneMousePress);
+    event.setButton(Qt::LeftButton);
+    button.mousePressEvent(&event);
+
+    QVERIFY(spear->isExpand());
+    QCOMPARE(spear->childCount(), 2);
+    QCOMPARE(button.svgFile(), contractFile());
+}
+
+void TestExpandItem::shouldToggleASpearWithoutASubject()
+{
+    QGraphicsScene scene;
+    auto *const spear = std::make_unique<SpearItem>(QStringLiteral("Cause"), 0, 20.0).release();
+    scene.addItem(spear);
+    auto *const button = std::make_unique<ExpandItem>(spear).release();
+    spear->setExpandBuddy(button);
+
+    sendPress(*button, Qt::LeftButton);
+    QVERIFY(spear->isExpand());
+    QCOMPARE(button->svgFile(), contractFile());
+    sendPress(*button, Qt::LeftButton);
+    QVERIFY(!spear->isExpand());
 }
 
 void TestExpandItem::shouldKeepTheEditorWhenGivenNone()

@@ -35,6 +35,7 @@ private Q_SLOTS:
     void shouldOpenWithTheDesktopUnlessAnOpenerIsSet();
     void shouldOpenWithTheDesktopAgainWhenTheOpenerIsTakenAway();
     void shouldOpenALinkThatNoItemShows();
+    void shouldOpenOutsideAnyScene();
     void shouldSurviveAnOpenerThatDeletesTheItem();
     void shouldSurviveAnOpenerThatSetsAnother();
     void shouldOpenWhenTheIconIsClickedInAView();
@@ -177,6 +178,23 @@ void TestLinkItem::shouldOpenALinkThatNoItemShows()
     LinkItem::open(QStringLiteral("https://example.org/b"));
 
     QCOMPARE(m_opened, QList<QUrl>{QUrl(QStringLiteral("https://example.org/b"))});
+}
+
+void TestLinkItem::shouldOpenOutsideAnyScene()
+{
+    class Link : public LinkItem
+    {
+    public:
+        using LinkItem::LinkItem;
+        using LinkItem::mousePressEvent;
+    };
+    Link link(QStringLiteral("https://example.org"));
+    QGraphicsSceneMouseEvent event(QEvent::GraphicsSceneMousePress);
+    event.setButton(Qt::LeftButton);
+
+    link.mousePressEvent(&event);
+
+    QCOMPARE(m_opened, QList<QUrl>{QUrl(QStringLiteral("https://example.org"))});
 }
 
 void TestLinkItem::shouldSurviveAnOpenerThatDeletesTheItem()

@@ -34,6 +34,7 @@ private Q_SLOTS:
     void shouldListChildSpearsOnly();
     void shouldStackChildrenInRowOrder_data();
     void shouldStackChildrenInRowOrder();
+    void shouldStackOnlyWhatItCarries();
     void shouldBeMovableAsItsSubjectIs();
     void shouldShowTheStatusOfItsSubject();
     void shouldSetTheStatusOfItsSubject();
@@ -265,6 +266,29 @@ void TestSpearItem::shouldStackChildrenInRowOrder()
     spear->stackChildrenInRowOrder();
 
     QCOMPARE(spear->childSpears(), expected);
+}
+
+void TestSpearItem::shouldStackOnlyWhatItCarries()
+{
+    const Drawing drawing(QStringLiteral("Effect[Man[A,B,C,D]]"));
+    SpearItem *const spear = drawing.spear(man);
+    SpearItem *const moved = drawing.spear(QStringLiteral("A"));
+    moved->setParentItem(nullptr);
+    moved->setParentItem(spear);
+    SpearItem *const elsewhere = drawing.spear(QStringLiteral("B"));
+    elsewhere->setParentItem(drawing.head);
+    delete drawing.spear(QStringLiteral("C"));
+
+    spear->stackChildrenInRowOrder();
+
+    QCOMPARE(spear->childSpears(), QList<SpearItem *>({moved, drawing.spear(QStringLiteral("D"))}));
+    QCOMPARE(elsewhere->parentItem(), drawing.head);
+
+    SpearItem stranger(QStringLiteral("Stranger"), 0, 20.0);
+    moved->setParentItem(&stranger);
+    stranger.stackChildrenInRowOrder();
+    QCOMPARE(stranger.childSpears(), QList<SpearItem *>{moved});
+    moved->setParentItem(spear);
 }
 
 void TestSpearItem::shouldBeMovableAsItsSubjectIs()

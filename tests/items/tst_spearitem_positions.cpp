@@ -47,6 +47,7 @@ private Q_SLOTS:
     void shouldNotUseThePositionThatItIsGiven();
     void shouldChangeNothingWhenNothingMoves();
     void shouldHoldTheFormulasThroughoutADrawing();
+    void shouldStayBelowALinkedParentWhenPlacedAgain();
 };
 
 void TestSpearItemPositions::shouldPlaceTheExpandButton_data()
@@ -405,6 +406,18 @@ void TestSpearItemPositions::shouldHoldTheFormulasThroughoutADrawing()
         const double length = spear->direction() == 0 ? spear->spearWidth() : spear->spearHeight();
         QVERIFY(alike(spear->line().length(), length));
     }
+}
+
+void TestSpearItemPositions::shouldStayBelowALinkedParentWhenPlacedAgain()
+{
+    const Drawing drawing(QStringLiteral("Effect[Man[Training]]"));
+    drawing.spear(QStringLiteral("Man"))->setLinked(true, 0);
+    SpearItem *const spear = drawing.spear(QStringLiteral("Training"));
+    const QLineF line = spear->line();
+    QVERIFY(line.length() > 0);
+
+    spear->updatePosition({});
+    QCOMPARE(spear->line(), line);
 }
 
 QTEST_MAIN(TestSpearItemPositions)

@@ -32,6 +32,8 @@ private Q_SLOTS:
     void shouldStoreTheStateOfAPaint();
     void shouldUseTheStyleOfItsSubjectAlone();
     void shouldUseTheGlobalStyleOtherwise();
+    void shouldCutBetweenCharacters_data();
+    void shouldCutBetweenCharacters();
     void shouldHaveDefaultsForWhatAStyleLeavesOut();
     void shouldMeasureInTheFontOfItsState();
     void shouldFollowTheStateBeforeItIsPainted();
@@ -263,6 +265,29 @@ void TestSpearItemStyle::shouldUseTheGlobalStyleOtherwise()
     QCOMPARE(spear->style(), SpearStyle::global());
     QCOMPARE(spear->textDisplayCount(), SpearStyle::global()->textCount());
     QCOMPARE(spear->textDisplay(), QStringLiteral("Fishbo"));
+}
+
+void TestSpearItemStyle::shouldCutBetweenCharacters_data()
+{
+    QTest::addColumn<QString>("title");
+    QTest::addColumn<int>("shown"); // UTF-16 units
+
+    const QString five = QStringLiteral("abcde");
+    const QChar first(0xd83d);
+    const QChar second(0xde00);
+    QTest::newRow("letters") << five + QStringLiteral("fgh") << 6;
+    QTest::newRow("a character at the end") << QStringLiteral("abcd") + first + second + five << 6;
+    QTest::newRow("a character across the end") << five + first + second << 5;
+    QTest::newRow("half a character at the end") << five + first + QLatin1Char('x') << 6;
+}
+
+void TestSpearItemStyle::shouldCutBetweenCharacters()
+{
+    QFETCH(QString, title);
+    QFETCH(int, shown);
+    SpearStyle::global()->setTextCount(6);
+
+    QCOMPARE(newSpear(title)->textDisplay(), title.left(shown));
 }
 
 void TestSpearItemStyle::shouldHaveDefaultsForWhatAStyleLeavesOut()

@@ -48,6 +48,8 @@ private Q_SLOTS:
     void shouldHaveNothingForAFileThatIsNoPicture();
     void shouldKeepThatAFileWasMissing();
     void shouldReadFilesOutsideTheResources();
+    void shouldHaveNoPixelsOfAFileThatIsNoPicture();
+    void shouldMakePixelsOfAnyNumberOfSizes();
 
 private:
     QString written(const QString &name, const QByteArray &content) const
@@ -159,6 +161,22 @@ void TestSvgCache::shouldReadFilesOutsideTheResources()
 
     QVERIFY(renderer);
     QVERIFY(renderer != sharedSvgRenderer(expandFile()));
+}
+
+void TestSvgCache::shouldHaveNoPixelsOfAFileThatIsNoPicture()
+{
+    QVERIFY(screenPicture(QString(), {10, 10}).isNull());
+    QVERIFY(screenPicture(m_folder.filePath(QStringLiteral("no.svg")), {10, 10}).isNull());
+}
+
+void TestSvgCache::shouldMakePixelsOfAnyNumberOfSizes()
+{
+    const QImage first = screenPicture(expandFile(), {20, 20}).toImage();
+    for (int width = 1; width <= 50; ++width) {
+        for (int height = 1; height <= 50; ++height)
+            QCOMPARE(screenPicture(expandFile(), {width, height}).size(), QSize(width, height));
+    }
+    QCOMPARE(screenPicture(expandFile(), {20, 20}).toImage(), first);
 }
 
 int main(int argc, char *argv[])

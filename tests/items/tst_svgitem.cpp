@@ -39,6 +39,7 @@ private Q_SLOTS:
     void shouldStayVectorsInAnExport();
     void shouldLookOnScreenAsItIsDrawn_data();
     void shouldLookOnScreenAsItIsDrawn();
+    void shouldShowOnScreenThatItIsSelected();
     void shouldStandOnWholePixelsOfTheScreen();
     void shouldShowTheArrowWhileHovered();
     void shouldAcceptHoverWhenMadeWithAFile();
@@ -266,6 +267,8 @@ void TestSvgItem::shouldLookOnScreenAsItIsDrawn_data()
     QTest::newRow("so large that nothing is kept") << QTransform(50, 0, 0, 50, -400, -400);
     QTest::newRow("turned") << QTransform().rotate(30);
     QTest::newRow("mirrored") << QTransform::fromScale(-2, 2);
+    QTest::newRow("upside down") << QTransform::fromScale(2, -2);
+    QTest::newRow("too high to be kept") << QTransform(1, 0, 0, 50, 0, -400);
 }
 
 /** Painted for a widget, the picture may come from pixels that were kept. */
@@ -289,6 +292,26 @@ void TestSvgItem::shouldLookOnScreenAsItIsDrawn()
     QVERIFY(inkedPixels(drawn) > 50);
     QCOMPARE(difference(painted(&screen), drawn, 8), QString());
     QCOMPARE(difference(painted(&screen), drawn, 8), QString()); // now from what was kept
+}
+
+void TestSvgItem::shouldShowOnScreenThatItIsSelected()
+{
+    SvgItem item(expandFile());
+    item.setFlag(QGraphicsItem::ItemIsSelectable);
+    QWidget screen;
+    const auto painted = [&](QStyle::State state) {
+        QStyleOptionGraphicsItem option;
+        option.state = state;
+        option.palette = QPalette(Qt::black, Qt::white);
+        QImage image = whitePicture({60, 60});
+        QPainter painter(&image);
+        painter.translate(20, 20);
+        item.paint(&painter, &option, &screen);
+        return image;
+    };
+
+    const int without = inkedPixels(painted(QStyle::State_None));
+    QVERIFY(inkedPixels(painted(QStyle::State_Selected)) > without); // a frame around it
 }
 
 void TestSvgItem::shouldStandOnWholePixelsOfTheScreen()

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Fishbone authors
 // SPDX-License-Identifier: MIT
 
+#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -8,6 +9,7 @@
 #include <csignal>
 
 #include <sys/resource.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <fishbone/model/filereplacement.h>
@@ -78,12 +80,14 @@ class tst_FileReplacement : public QObject
 private Q_SLOTS:
     void init() { QVERIFY(m_folder.isValid()); }
     void shouldMakeANewFile();
+    void shouldMakeNoFileOnAFullDisk();
     void shouldReplaceTheWholeContent();
     void shouldKeepTheOldContentOnAFullDisk_data();
     void shouldKeepTheOldContentOnAFullDisk();
     void shouldKeepTheOldContentOnAFullDiskInALockedFolder_data();
     void shouldKeepTheOldContentOnAFullDiskInALockedFolder();
     void shouldReplaceTheWholeContentInALockedFolder();
+    void shouldReplaceTheContentWhereEverybodyKeepsWhatIsHis();
     void shouldWriteAFileWithTheLongestName();
     void shouldRefuseANameWithANullCharacter();
     void shouldFollowALink();
@@ -101,6 +105,17 @@ void tst_FileReplacement::shouldMakeANewFile()
 {
     QCOMPARE(replaceFile(path("new"), "content"), QString());
     QCOMPARE(contentOf(path("new")), QByteArray("content"));
+}
+
+void tst_FileReplacement::shouldMakeNoFileOnAFullDisk()
+{
+    QString reason;
+    {
+        const FullDisk disk(1000);
+        reason = replaceFile(path("not made"), QByteArray(500000, 'x'));
+    }
+    QVERIFY(!reason.isEmpty());
+    QVERIFY(QDir(m_folder.path()).entryList({QStringLiteral("not made*")}).isEmpty());
 }
 
 void tst_FileReplacement::shouldReplaceTheWholeContent()
@@ -165,6 +180,26 @@ void tst_FileReplacement::shouldReplaceTheWholeContentInALockedFolder()
     QCOMPARE(contentOf(path("locked")), QByteArray());
     QVERIFY(!replaceFile(path("not there"), "content").isEmpty());
     QVERIFY(!QFileInfo::exists(path("not there")));
+}
+
+void tst_FileReplacement::shouldReplaceTheContentWhereEverybodyKeepsWhatIsHis()
+{
+    if (geteuid() != 0)
+        QSKIP("Only the superuser can have a file that belongs to another one.");
+    const QTemporaryDir folder;
+    const QString file = folder.filePath(QStringLiteral("shared"));
+    QCOMPARE(replaceFile(file, "a longer content"), QString());
+    QVERIFY(QFile::setPermissions(file, QFile::Permissions(0x6666)));
+    QCOMPARE(chmod(QFile::encodeName(folder.path()).constData(), 01777), 0); // as /tmp is
+
+    constexpr uid_t nobody = 65534;
+    QCOMPARE(seteuid(nobody), 0);
+    const QString failure = replaceFile(file, "short");
+    QCOMPARE(seteuid(0), 0);
+
+    QCOMPARE(failure, QString());
+    QCOMPARE(contentOf(file), QByteArray("short"));
+    QCOMPARE(QDir(folder.path()).entryList(QDir::Files), QStringList(QStringLiteral("shared")));
 }
 
 void tst_FileReplacement::shouldWriteAFileWithTheLongestName()

@@ -30,6 +30,7 @@ private Q_SLOTS:
     void shouldStripNames();
     void shouldForgetAModelThatDies();
     void shouldEmptyItsTreeAndNothingElse();
+    void shouldEmptyItsTreeInNoModel();
     void shouldRememberTheLastFourSubjects();
     void shouldRememberASubjectOnce();
     void shouldNotRememberWhatIsNoSubject();
@@ -174,6 +175,18 @@ void TestFishInfo::shouldEmptyItsTreeAndNothingElse()
     QCOMPARE(info->autoSaveFile(), QStringLiteral("/x/auto"));
     QCOMPARE(info->fishHistorys(), QStringList(QStringLiteral("u-A")));
     QCOMPARE(info->model(), &model);
+}
+
+void TestFishInfo::shouldEmptyItsTreeInNoModel()
+{
+    FishInfo info;
+    info.loadFish(documentFromText(QStringLiteral("A[a]")), nullptr);
+    info.setModified(true);
+
+    info.reset();
+
+    QCOMPARE(info.treeItem()->childCount(), 0);
+    QVERIFY(!info.modified());
 }
 
 void TestFishInfo::shouldRememberTheLastFourSubjects()

@@ -20,6 +20,7 @@
 #include <QPushButton>
 #include <QStandardItemModel>
 #include <QStandardPaths>
+#include <QStringListModel>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -105,6 +106,7 @@ private Q_SLOTS:
     void shouldSaveUnderItsName();
     void shouldAskForANameWhileItHasNone();
     void shouldProposeItsStrippedName();
+    void shouldReportWhenTheChosenFileCannotBeWritten();
     void shouldSaveNothingWhenNoNameIsChosen();
     void shouldAskNothingWhenNothingChanged();
     void shouldAskWhetherToSave();
@@ -379,6 +381,21 @@ void TestFishInfoSaving::shouldProposeItsStrippedName()
     QCOMPARE(folder, QDir(SystemHelper::documentsLocation()).absolutePath());
     QCOMPARE(files,
              QStringList(SystemHelper::documentsLocation() + QStringLiteral("/effect.json")));
+}
+
+void TestFishInfoSaving::shouldReportWhenTheChosenFileCannotBeWritten()
+{
+    addDocument(*m_model, makeChain(600)); // too deep to be read again
+    const QString chosen = path("deep.json");
+    const ModalDriver<QFileDialog> user([&chosen](QFileDialog &dialog) {
+        dialog.selectFile(chosen);
+        dialog.findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Save)->click();
+    });
+
+    QVERIFY(!m_model->fishList().last()->saveAs());
+
+    QVERIFY(user.isDone());
+    QVERIFY(!QFileInfo::exists(chosen));
 }
 
 void TestFishInfoSaving::shouldSaveNothingWhenNoNameIsChosen()
@@ -702,6 +719,12 @@ void TestFishInfoSaving::shouldTouchNothingWithoutModelOrHead()
     QCOMPARE(contentOf(path("auto")), QByteArray("old"));
     QVERIFY(!QFileInfo::exists(autoSaveFolder()));
     QCOMPARE(info->autoSaveFile(), hasFile ? path("auto") : QString());
+
+    QStringListModel other; // in which nothing has a head
+    info->setModel(&other);
+    info->setAutoSaveFile(QString());
+    QVERIFY(!info->saveTmpFile());
+    QVERIFY(!QFileInfo::exists(autoSaveFolder()));
 }
 
 void TestFishInfoSaving::shouldRememberTheNameOfAFailedAutoSave()

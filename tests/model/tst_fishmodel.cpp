@@ -12,8 +12,11 @@
 #include <QAbstractItemModelTester>
 #include <QBrush>
 #include <QIcon>
+#include <QMimeData>
 #include <QStandardItemModel>
 #include <QtTest>
+
+#include <memory>
 
 #include <type_traits>
 
@@ -45,6 +48,7 @@ private Q_SLOTS:
     void shouldBeSelectableAndEnabledOnly();
     void shouldShowColumns();
     void shouldShowTheCountsOfTheFirstDocumentOnEveryHead();
+    void shouldShowAPlainHeadThatHasLeft();
     void shouldShowAPlainHeadInOtherTypes_data();
     void shouldShowAPlainHeadInOtherTypes();
     void shouldDecorateNodesThatHaveAParentTask();
@@ -279,6 +283,17 @@ void TestFishModel::shouldShowTheCountsOfTheFirstDocumentOnEveryHead()
     QCOMPARE(model.index(1, 0).data().toString(),
              QStringLiteral("Other(12个无父任务/共345个任务)"));
     QCOMPARE(model.index(0, 0, model.index(0, 0)).data().toString(), QStringLiteral("a"));
+}
+
+void TestFishModel::shouldShowAPlainHeadThatHasLeft()
+{
+    FishModel model;
+    loadDocument(model, QStringLiteral("T[a]"));
+    const QModelIndex head = model.index(0, 0);
+
+    const std::unique_ptr<FishInfo> taken(model.takeFish(0));
+
+    QCOMPARE(model.data(head, Qt::DisplayRole).toString(), QStringLiteral("T"));
 }
 
 void TestFishModel::shouldShowAPlainHeadInOtherTypes_data()
@@ -532,6 +547,8 @@ void TestFishModel::shouldSkipDocumentsWithoutAHead()
     QCOMPARE(model.searchModelIndexes(QStringLiteral("a")).size(), 1);
     QVERIFY(!model.findFish(headless->fileName()).isValid());
     QVERIFY(model.contains(nodeTitled(model, QStringLiteral("a"))));
+    const std::unique_ptr<QMimeData> dragged(model.mimeData({model.index(1, 0)}));
+    QCOMPARE(model.indexList(dragged.get()), QModelIndexList{model.index(1, 0)});
     QCOMPARE(model.takeRow(0, QModelIndex()), nullptr);
     QVERIFY(!model.moveRows(QModelIndex(), 0, 1, model.index(1, 0), 0));
     QVERIFY(model.moveRows(QModelIndex(), 0, 1, QModelIndex(), 2));

@@ -181,6 +181,12 @@ void TestFishModelHeads::shouldRefuseToPutATreeIntoItself()
     const QString before = text();
     QVERIFY(!m_model->putRow(0, m_model->fishList().at(1)->treeItem(), index("A")));
     QCOMPARE(text(), before);
+
+    // Below an index that was good as long as the tree was in the model.
+    const QModelIndex below = index("a");
+    const std::unique_ptr<TreeItem> taken(m_model->takeRow(0, index("H")));
+    QVERIFY(!m_model->putRow(0, taken.get(), below));
+    QCOMPARE(treeToText(*taken), QStringLiteral("A[a,b]"));
 }
 
 void TestFishModelHeads::shouldPutANewHeadAboveTheOldOne()
@@ -292,6 +298,9 @@ void TestFishModelHeads::shouldRefuseToTakeTheHeadOff()
     QVERIFY(!m_model->unwrapHead(document, node("H")));
     QVERIFY(!m_model->unwrapHead(document, node("G")));
     QVERIFY(!m_model->unwrapHead(m_model->fishList().at(0), node("A")));
+    TreeItem pretender;
+    pretender.setParent(node("H")); // which does not list it
+    QVERIFY(!m_model->unwrapHead(document, &pretender));
     QCOMPARE(text(), before);
     QCOMPARE(m_follower->announcements(), announcements);
 }

@@ -44,6 +44,7 @@ private Q_SLOTS:
     void shouldReloadADocument();
     void shouldReportReloadsThatFail();
     void shouldReloadADocumentOfAnotherModelThere();
+    void shouldReloadADocumentOfNoModel();
     void shouldLoadWhatItSaved();
 
 private:
@@ -297,6 +298,21 @@ void TestFishModelLoading::shouldReloadADocumentOfAnotherModelThere()
     QCOMPARE(follower.text(), QStringLiteral("Effect[Man]"));
     QCOMPARE(info->model(), &owner);
     QCOMPARE(model.rowCount(), 0);
+}
+
+void TestFishModelLoading::shouldReloadADocumentOfNoModel()
+{
+    FishModel model;
+    FishInfo loose;
+    QSignalSpy loaded(&model, &FishModel::fishLoaded);
+
+    QCOMPARE(model.reloadDataFromFile(makeFile("loose.json", document), &loose), 0);
+
+    QCOMPARE(treeToText(*loose.treeItem()->childAtIndex(0)), QStringLiteral("Effect[Man]"));
+    QCOMPARE(loose.model(), &model);
+    QCOMPARE(model.rowCount(), 0);
+    QCOMPARE(loaded.count(), 1);
+    QVERIFY(!loaded.first().first().toModelIndex().isValid()); // it is in no row
 }
 
 void TestFishModelLoading::shouldLoadWhatItSaved()

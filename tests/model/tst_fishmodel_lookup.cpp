@@ -186,6 +186,11 @@ void TestFishModelLookup::shouldAnswerNoIndexForOtherNodes()
     QVERIFY(!model.indexFromItem(nodeTitled(other, QStringLiteral("x"))).isValid());
     QVERIFY(!model.indexFromItem(free.treeItem()->childAtIndex(0)->childAtIndex(0)).isValid());
 
+    // Only the first child of a container is a head.
+    auto *const second = new TreeItem;
+    info->treeItem()->appendChild(second);
+    QVERIFY(!model.indexFromItem(second).isValid());
+
     TreeItem *const y = nodeTitled(model, QStringLiteral("y"));
     const std::unique_ptr<TreeItem> taken(model.takeRow(0, model.index(0, 0)));
     QVERIFY(!model.indexFromItem(y).isValid());

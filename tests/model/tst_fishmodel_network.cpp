@@ -17,6 +17,7 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include <algorithm>
 #include <memory>
 
 using namespace TestSupport;
@@ -33,6 +34,36 @@ QByteArray response(const QByteArray &status, const QByteArray &body,
     return "HTTP/1.1 " + status + "\r\nContent-Length: " + QByteArray::number(body.size()) +
            "\r\n" + headers + "Connection: close\r\n\r\n" + body;
 }
+
+/** A reply that is complete, and that no manager made. */
+class LooseReply : public QNetworkReply
+{
+public:
+    explicit LooseReply(const QByteArray &content)
+        : m_content(content)
+    {
+        setUrl(QUrl(QStringLiteral("x://loose")));
+        open(QIODevice::ReadOnly);
+        setFinished(true);
+    }
+    void abort() override {}
+    qint64 bytesAvailable() const override
+    {
+        return m_content.size() + QNetworkReply::bytesAvailable();
+    }
+
+protected:
+    qint64 readData(char *data, qint64 size) override
+    {
+        const QByteArray part = m_content.left(int(size));
+        m_content.remove(0, part.size());
+        std::copy(part.cbegin(), part.cend(), data);
+        return part.isEmpty() ? -1 : part.size();
+    }
+
+private:
+    QByteArray m_content;
+};
 
 /** A web server on this machine that answers each path as it was told, and says nothing else. */
 class WebServer : public QTcpServer
@@ -113,6 +144,7 @@ private Q_SLOTS:
     void shouldFreeEverythingAfterALoad();
     void shouldBeDestroyedWhileLoading();
     void shouldTakeTheReplyOfTheHostsOwnRequest();
+    void shouldTakeAReplyWithoutAManager();
     void shouldIgnoreNoReply();
 
 private:
@@ -341,6 +373,22 @@ void TestFishModelNetwork::shouldTakeTheReplyOfTheHostsOwnRequest()
 
     QCOMPARE(m_model->fishList().first()->fileName(), m_server->url("/").toString());
     QTRY_VERIFY(!reply);
+}
+
+void TestFishModelNetwork::shouldTakeAReplyWithoutAManager()
+{
+    QPointer<QNetworkReply> reply = new LooseReply(document);
+    m_model->replyFinished(reply);
+    QCOMPARE(m_model->fishList().size(), 1);
+    QCOMPARE(m_model->fishList().first()->fileName(), QStringLiteral("x://loose"));
+    QTRY_VERIFY(!reply);
+
+    m_model->setReplyLimit(10);
+    QSignalSpy loaded(m_model.get(), &FishModel::fishLoaded);
+    m_model->replyFinished(new LooseReply(document)); // complete before anybody could end it
+    QCOMPARE(m_model->fishList().size(), 1);
+    QCOMPARE(loaded.count(), 1);
+    QCOMPARE(loaded.first().at(1).value<MODEL_ERROR>(), MODEL_DATA_ERROR);
 }
 
 void TestFishModelNetwork::shouldIgnoreNoReply()

@@ -388,6 +388,10 @@ void TestFishProxyModel::shouldCopeWithHeadlessDocuments()
     view.setModel(m_proxy.get());
     view.expandAll();
     QVERIFY(!view.grab().isNull());
+
+    m_model->removeRows(1, 2); // with it
+    QCOMPARE(m_proxy->rowCount(), 2);
+    QCOMPARE(m_proxy->rowCount(m_proxy->index(1, 0)), 1);
 }
 
 void TestFishProxyModel::shouldChangeItsSource()

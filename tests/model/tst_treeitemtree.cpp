@@ -468,6 +468,8 @@ void TestTreeItemTree::shouldNotNameAParentBelowItself()
     QCOMPARE(child->parent(), top.get());
 
     TreeItem other;
+    top->setParent(&other);
+    QCOMPARE(top->parent(), &other);
     child->setParent(&other);
     QCOMPARE(child->parent(), &other);
     QCOMPARE(child->index(), -1); // the other one does not list it

@@ -3,6 +3,8 @@
 
 #include <fishbone/style/spearstyle.h>
 
+#include <fishbone/style/globalstylelookup.h>
+
 #include <tests/support/messagecounter.h>
 #include <tests/support/spearstyletext.h>
 
@@ -106,6 +108,7 @@ private Q_SLOTS:
     void shouldHaveDefaultsWithoutAFile();
     void shouldRetryUntilTheFileIsRead_data();
     void shouldRetryUntilTheFileIsRead();
+    void shouldLookForTheFileOnceInAPass();
     void shouldReadTheFileOnlyOnce();
     void shouldCountADocumentWithoutAnObjectAsRead_data();
     void shouldCountADocumentWithoutAnObjectAsRead();
@@ -183,6 +186,23 @@ void TestSpearStyleGlobal::shouldRetryUntilTheFileIsRead()
     QCOMPARE(SpearStyle::global()->textCount(), 9);
     QVERIFY(SpearStyle::global()->inheritanceParent());
     QVERIFY(SpearStyle::m_isGlobalInited);
+}
+
+void TestSpearStyleGlobal::shouldLookForTheFileOnceInAPass()
+{
+    QVERIFY(GlobalStyleLookup::isDue());
+    {
+        const GlobalStyleLookup pass;
+        QVERIFY(GlobalStyleLookup::isDue());
+        {
+            const GlobalStyleLookup within; // a listener lays another drawing out
+            QVERIFY(!GlobalStyleLookup::isDue());
+        }
+        QVERIFY(!GlobalStyleLookup::isDue());
+    }
+    QVERIFY(GlobalStyleLookup::isDue());
+    const GlobalStyleLookup next;
+    QVERIFY(GlobalStyleLookup::isDue());
 }
 
 void TestSpearStyleGlobal::shouldReadTheFileOnlyOnce()

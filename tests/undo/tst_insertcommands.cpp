@@ -509,6 +509,9 @@ void TestInsertCommands::shouldWorkOnAnyModelThatShowsUuids()
         stack.redo();
         QCOMPARE(treeToText(model, QModelIndex(), 1), uuids);
     }
+    model.removeRows(0, model.rowCount());
+    stack.undo(); // what was inserted is gone
+    QCOMPARE(model.rowCount(), 0);
 }
 
 QTEST_MAIN(TestInsertCommands)

@@ -1,7 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Fishbone authors
 // SPDX-License-Identifier: MIT
 
+#include <QIdentityProxyModel>
 #include <QRegularExpression>
+#include <QStandardItemModel>
 #include <QtTest>
 
 #include <fishbone/undo/structuralcommands.h>
@@ -25,6 +27,12 @@ private Q_SLOTS:
     void shouldBringTheOldHeadBackFromDeeperDown();
     void shouldLeaveANewHeadWhoseOldOneIsGone();
     void shouldTakeANewParentOutWhoseChildIsGone();
+    void shouldDoNothingWhenTheNewParentIsGone();
+    void shouldLeaveANewParentThatCameBelowItsChild();
+    void shouldDrawTheSameUuidForANewHeadAgain();
+    void shouldSurviveTheEndOfTheModelWhileTheOldHeadMoves();
+    void shouldWorkThroughAModelOfAnotherKind();
+    void shouldLeaveAModelThatMovesNoRowsAsItWas();
 };
 
 void TestInsertParent::shouldPutTheSpearOfTheReferenceBelowTheNewParents()
@@ -161,6 +169,88 @@ void TestInsertParent::shouldTakeANewParentOutWhoseChildIsGone()
     f.stack->undo();
     QCOMPARE(f.text(), QStringLiteral("H[A,C]"));
     QCOMPARE(spearFault(*f.model), QString());
+}
+
+void TestInsertParent::shouldDoNothingWhenTheNewParentIsGone()
+{
+    CommandFixture f(QStringLiteral("H[A[a],B]"));
+    f.stack->push(new InsertParent(f.model.get(), f.index("A")));
+    f.model->removeRows(0, 1, f.index("H"));
+    f.stack->undo();
+    QCOMPARE(f.text(), QStringLiteral("H[B]"));
+    f.stack->redo();
+    QCOMPARE(f.text(), QStringLiteral("H[B]"));
+}
+
+void TestInsertParent::shouldLeaveANewParentThatCameBelowItsChild()
+{
+    CommandFixture f(QStringLiteral("H[A,B]"));
+    f.stack->push(new InsertParent(f.model.get(), f.index("A")));
+    f.model->moveRows(f.model->index(0, 0, f.index("H")), 0, 1, f.index("H"), 0);
+    f.model->moveRows(f.index("H"), 1, 1, f.index("A"), 0);
+    QCOMPARE(f.text(), QStringLiteral("H[A[+],B]"));
+    f.stack->undo();
+    QCOMPARE(f.text(), QStringLiteral("H[A[+],B]"));
+}
+
+void TestInsertParent::shouldDrawTheSameUuidForANewHeadAgain()
+{
+    CommandFixture f(QStringLiteral("H[A]"));
+    auto *const command = new InsertParent(f.model.get(), f.index("H"));
+    f.stack->push(command);
+    const QString uuid = command->newUuid();
+    QVERIFY(!uuid.isEmpty());
+    TreeItem *const head = f.model->takeRow(0, f.model->index(0, 0));
+    f.stack->undo(); // without the old head the document keeps the new one
+    QVERIFY(f.model->insertFishToList(1, head));
+
+    f.stack->redo();
+    QCOMPARE(f.text(), QStringLiteral("*;*[H[A]]"));
+    QCOMPARE(f.node("H")->parent()->uuid(), uuid);
+}
+
+void TestInsertParent::shouldSurviveTheEndOfTheModelWhileTheOldHeadMoves()
+{
+    CommandFixture f(QStringLiteral("H[A];G[B]"));
+    f.stack->push(new InsertParent(f.model.get(), f.index("H")));
+    f.model->moveRows(f.model->index(0, 0), 0, 1, f.index("B"), 0);
+    QCOMPARE(f.text(), QStringLiteral("*;G[B[H[A]]]"));
+    QObject::connect(f.model.get(), &FishModel::rowsMoved, this, [&f] { f.model.reset(); });
+
+    f.stack->undo();
+    QVERIFY(!f.model);
+    f.stack->redo();
+}
+
+void TestInsertParent::shouldWorkThroughAModelOfAnotherKind()
+{
+    CommandFixture f(QStringLiteral("H[A[a],B]"));
+    QIdentityProxyModel proxy;
+    proxy.setSourceModel(f.model.get());
+
+    f.stack->push(new InsertParent(&proxy, proxy.mapFromSource(f.index("A"))));
+    for (int pass = 0; pass < 2; ++pass) {
+        QCOMPARE(f.text(), QStringLiteral("H[+[A[a]],B]"));
+        f.stack->undo();
+        QCOMPARE(f.text(), QStringLiteral("H[A[a],B]"));
+        f.stack->redo();
+    }
+}
+
+void TestInsertParent::shouldLeaveAModelThatMovesNoRowsAsItWas()
+{
+    QStandardItemModel model(2, 2);
+    model.setItem(0, 0, new QStandardItem(QStringLiteral("one")));
+    model.setItem(0, 1, new QStandardItem(QStringLiteral("1")));
+    model.setItem(1, 0, new QStandardItem(QStringLiteral("two")));
+    model.setItem(1, 1, new QStandardItem(QStringLiteral("2")));
+    const QString before = treeToText(model, QModelIndex());
+
+    UndoStack stack;
+    stack.push(new InsertParent(&model, model.index(1, 0)));
+    QCOMPARE(treeToText(model, QModelIndex()), before);
+    stack.undo();
+    QCOMPARE(treeToText(model, QModelIndex()), before);
 }
 
 QTEST_MAIN(TestInsertParent)

@@ -58,6 +58,8 @@ private Q_SLOTS:
     void shouldDeleteTheItemOnlyWhileItIsOut_data();
     void shouldDeleteTheItemOnlyWhileItIsOut();
     void shouldDeleteAnItemThatAnotherOneReplaces();
+    void shouldInsertANewSubjectWhenTheItemIsTakenBack();
+    void shouldPutNothingBackBelowAParentThatIsGone();
     void shouldLeaveAnItemOfTheModelWhereItIs();
     void shouldRefuseAnItemAboveTheParent();
     void shouldForgetAnItemThatOthersDeleted();
@@ -224,6 +226,41 @@ void TestInsertTreeItem::shouldDeleteAnItemThatAnotherOneReplaces()
     QVERIFY(!life.isAlive());
     command.redo();
     QCOMPARE(f.text(), QStringLiteral("H[other]"));
+}
+
+void TestInsertTreeItem::shouldInsertANewSubjectWhenTheItemIsTakenBack()
+{
+    CommandFixture f(QStringLiteral("H"));
+    InsertChild command(f.model.get(), f.index("H"));
+    command.setTreeItem(makeItem().release());
+    command.setTreeItem(nullptr);
+    QVERIFY(!command.treeItem());
+    command.redo();
+    QCOMPARE(f.text(), QStringLiteral("H[+]"));
+}
+
+void TestInsertTreeItem::shouldPutNothingBackBelowAParentThatIsGone()
+{
+    CommandFixture f(QStringLiteral("H[A,B]"));
+    InsertChild child(f.model.get(), f.index("A"));
+    child.redo();
+    child.undo();
+    f.model->removeRows(0, 1, f.index("H"));
+    child.redo();
+    QCOMPARE(f.text(), QStringLiteral("H[B]"));
+
+    // A document that was taken out goes back to the top level only.
+    f.model->loadJsonFish(R"({"title": "G", "uuid": "u-G"})");
+    InsertBack back(f.model.get(), f.index("G"));
+    back.redo();
+    QCOMPARE(f.text(), QStringLiteral("H[B];G;*"));
+    back.undo();
+    f.model->moveRows(QModelIndex(), 1, 1, f.index("H"), 0);
+    back.redo();
+    QCOMPARE(f.text(), QStringLiteral("H[G,B]"));
+    f.model->moveRows(f.index("H"), 0, 1, QModelIndex(), 1);
+    back.redo();
+    QCOMPARE(f.text(), QStringLiteral("H[B];G;*"));
 }
 
 void TestInsertTreeItem::shouldLeaveAnItemOfTheModelWhereItIs()

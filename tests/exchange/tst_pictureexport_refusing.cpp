@@ -1,0 +1,176 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#include <fishbone/exchange/pictureexport.h>
+
+#include <tests/exchange/picturefixture.h>
+
+#include <QDir>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <limits>
+
+using namespace PictureFixture;
+
+/** What the export makes no picture of. */
+class TestPictureExportRefusing : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void shouldRefuseBadOptions_data();
+    void shouldRefuseBadOptions();
+    void shouldRefuseADrawingWithoutHeightThatHasNoMargin();
+    void shouldRefuseWhatIsTooLarge_data();
+    void shouldRefuseWhatIsTooLarge();
+    void shouldRefuseAnEmptyScene();
+    void shouldRefuseAnUnknownSuffix();
+    void shouldRefuseANumberThatIsNoFormat();
+    void shouldKeepTheOldFileOnFailure();
+    void shouldReportATargetThatCannotBeWritten();
+};
+
+void TestPictureExportRefusing::shouldRefuseBadOptions_data()
+{
+    QTest::addColumn<PictureOptions>("options");
+
+    const double nan = std::numeric_limits<double>::quiet_NaN();
+    const double infinity = std::numeric_limits<double>::infinity();
+    QTest::newRow("no scale") << scaledBy(0);
+    QTest::newRow("negative scale") << scaledBy(-1);
+    QTest::newRow("infinite scale") << scaledBy(infinity);
+    QTest::newRow("undefined scale") << scaledBy(nan);
+    QTest::newRow("no width") << ofSize(QSize(0, 10));
+    QTest::newRow("no height") << ofSize(QSize(10, 0));
+    QTest::newRow("negative margin") << withMargin(-1);
+    QTest::newRow("infinite margin") << withMargin(infinity);
+    QTest::newRow("undefined margin") << withMargin(nan);
+}
+
+void TestPictureExportRefusing::shouldRefuseBadOptions()
+{
+    QFETCH(PictureOptions, options);
+    QGraphicsScene scene;
+    addRedRectangle(scene);
+
+    for (const Format format : {Format::Png, Format::Svg, Format::Pdf}) {
+        QByteArray picture("old");
+        const auto result = PictureExport::render(scene, format, options, picture);
+        QCOMPARE(result.error, Error::BadOptions);
+        QVERIFY(!result.reason.isEmpty());
+        QVERIFY(picture.isEmpty());
+    }
+}
+
+void TestPictureExportRefusing::shouldRefuseADrawingWithoutHeightThatHasNoMargin()
+{
+    QGraphicsScene scene;
+    scene.addLine(0, 0, 40, 0, QPen(Qt::red, 0));
+
+    QByteArray picture("old");
+    const auto result = PictureExport::render(scene, Format::Png, withMargin(0), picture);
+    QCOMPARE(result.error, Error::BadOptions);
+    QVERIFY(!result.reason.isEmpty());
+    QVERIFY(picture.isEmpty());
+
+    QVERIFY(PictureExport::render(scene, Format::Png, withMargin(1), picture));
+}
+
+void TestPictureExportRefusing::shouldRefuseWhatIsTooLarge_data()
+{
+    QTest::addColumn<Format>("format");
+    QTest::addColumn<PictureOptions>("options");
+
+    QTest::newRow("wide png") << Format::Png << ofSize(QSize(32768, 10));
+    QTest::newRow("high png") << Format::Png << ofSize(QSize(10, 32768));
+    QTest::newRow("large png") << Format::Png << ofSize(QSize(20000, 20000)); // 1.5 GiB
+    QTest::newRow("scaled png") << Format::Png << scaledBy(1e4);
+    QTest::newRow("pdf") << Format::Pdf << ofSize(QSize(30000, 10));
+    QTest::newRow("svg") << Format::Svg << scaledBy(1e6);
+    QTest::newRow("beyond all numbers") << Format::Svg << scaledBy(1e300);
+}
+
+void TestPictureExportRefusing::shouldRefuseWhatIsTooLarge()
+{
+    QFETCH(Format, format);
+    QFETCH(PictureOptions, options);
+    QGraphicsScene scene;
+    addRedRectangle(scene);
+
+    QByteArray picture;
+    const auto result = PictureExport::render(scene, format, options, picture);
+    QCOMPARE(result.error, Error::TooLarge);
+    QVERIFY(!result.reason.isEmpty());
+    QVERIFY(picture.isEmpty());
+}
+
+void TestPictureExportRefusing::shouldRefuseAnEmptyScene()
+{
+    QGraphicsScene scene;
+    addRedRectangle(scene)->setVisible(false);
+
+    QByteArray picture;
+    const auto result = PictureExport::render(scene, Format::Png, {}, picture);
+    QCOMPARE(result.error, Error::NothingToDraw);
+    QVERIFY(!result);
+    QVERIFY(!result.reason.isEmpty());
+}
+
+void TestPictureExportRefusing::shouldRefuseAnUnknownSuffix()
+{
+    const QTemporaryDir folder;
+    QGraphicsScene scene;
+    addRedRectangle(scene);
+
+    const QString path = folder.filePath(QStringLiteral("a.bmp"));
+    const auto result = PictureExport::write(scene, path);
+    QCOMPARE(result.error, Error::UnknownFormat);
+    QVERIFY(!result.reason.isEmpty());
+    QVERIFY(!QFile::exists(path));
+}
+
+void TestPictureExportRefusing::shouldRefuseANumberThatIsNoFormat()
+{
+    QGraphicsScene scene;
+    addRedRectangle(scene);
+
+    QByteArray picture("old");
+    const auto result = PictureExport::render(scene, static_cast<Format>(3), {}, picture);
+    QCOMPARE(result.error, Error::UnknownFormat);
+    QVERIFY(!result.reason.isEmpty());
+    QVERIFY(picture.isEmpty());
+}
+
+void TestPictureExportRefusing::shouldKeepTheOldFileOnFailure()
+{
+    const QTemporaryDir folder;
+    QGraphicsScene scene;
+    addRedRectangle(scene);
+    const QString path = folder.filePath(QStringLiteral("a.png"));
+    writeFile(path, "old");
+
+    QCOMPARE(PictureExport::write(scene, path, ofSize(QSize(40000, 10))).error, Error::TooLarge);
+    QCOMPARE(contentOf(path), QByteArray("old"));
+    scene.clear();
+    QCOMPARE(PictureExport::write(scene, path).error, Error::NothingToDraw);
+    QCOMPARE(contentOf(path), QByteArray("old"));
+}
+
+void TestPictureExportRefusing::shouldReportATargetThatCannotBeWritten()
+{
+    const QTemporaryDir folder;
+    QGraphicsScene scene;
+    addRedRectangle(scene);
+    QVERIFY(QDir(folder.path()).mkdir(QStringLiteral("folder.png")));
+
+    for (const char *name : {"missing/a.png", "folder.png"}) {
+        const auto result = PictureExport::write(scene, folder.filePath(QString::fromLatin1(name)));
+        QCOMPARE(result.error, Error::CannotWrite);
+        QVERIFY(!result.reason.isEmpty());
+    }
+    QVERIFY(!QFile::exists(folder.filePath(QStringLiteral("missing"))));
+}
+
+QTEST_MAIN(TestPictureExportRefusing)
+#include "tst_pictureexport_refusing.moc"
