@@ -949,11 +949,11 @@ The exit code is 3 when anything is.</translation>
     </message>
     <message>
         <source>%1 was not written</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 was not written</translation>
     </message>
     <message>
         <source>Writing %1…</source>
-        <translation type="unfinished"></translation>
+        <translation>Writing %1…</translation>
     </message>
 </context>
 <context>
@@ -992,39 +992,39 @@ The exit code is 3 when anything is.</translation>
     </message>
     <message>
         <source>&amp;Light, as on paper</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Light, as on paper</translation>
     </message>
     <message>
         <source>B&amp;rowse…</source>
-        <translation type="unfinished"></translation>
+        <translation>B&amp;rowse…</translation>
     </message>
     <message>
         <source>As shown</source>
-        <translation type="unfinished"></translation>
+        <translation>As shown</translation>
     </message>
     <message>
         <source>All levels</source>
-        <translation type="unfinished"></translation>
+        <translation>All levels</translation>
     </message>
     <message>
         <source>Levels below the main bones:</source>
-        <translation type="unfinished"></translation>
+        <translation>Levels below the main bones:</translation>
     </message>
     <message>
         <source>Levels below the main bones</source>
-        <translation type="unfinished"></translation>
+        <translation>Levels below the main bones</translation>
     </message>
     <message>
         <source>&amp;Expanded:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Expanded:</translation>
     </message>
     <message>
         <source>As on the screen</source>
-        <translation type="unfinished"></translation>
+        <translation>As on the screen</translation>
     </message>
     <message>
         <source>This cannot be exported: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>This cannot be exported: %1.</translation>
     </message>
 </context>
 <context>
@@ -1677,38 +1677,38 @@ Do you want to save your changes?</translation>
     </message>
     <message>
         <source>it was cancelled</source>
-        <translation type="unfinished"></translation>
+        <translation>it was cancelled</translation>
     </message>
     <message>
         <source>an SVG of it would have more than %1 MiB; a PDF is smaller</source>
-        <translation type="unfinished"></translation>
+        <translation>an SVG of it would have more than %1 MiB; a PDF is smaller</translation>
     </message>
 </context>
 <context>
     <name>PictureSizeFields</name>
     <message>
         <source> px</source>
-        <translation type="unfinished"></translation>
+        <translation> px</translation>
     </message>
     <message>
         <source>Sc&amp;ale:</source>
-        <translation type="unfinished"></translation>
+        <translation>Sc&amp;ale:</translation>
     </message>
     <message>
         <source>&amp;Width:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Width:</translation>
     </message>
     <message>
         <source>&amp;Height:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Height:</translation>
     </message>
     <message>
         <source>A page of %1 × %2 mm</source>
-        <translation type="unfinished"></translation>
+        <translation>A page of %1 × %2 mm</translation>
     </message>
     <message>
         <source>%1 × %2 pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 × %2 pixels</translation>
     </message>
 </context>
 <context>
@@ -1783,7 +1783,7 @@ Do you want to save your changes?</translation>
     <name>QProgressDialog</name>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished">Cancel</translation>
+        <translation>Cancel</translation>
     </message>
 </context>
 <context>

@@ -947,11 +947,11 @@ The exit code is 3 when anything is.</source>
     </message>
     <message>
         <source>%1 was not written</source>
-        <translation type="unfinished"></translation>
+        <translation>未写入 %1</translation>
     </message>
     <message>
         <source>Writing %1…</source>
-        <translation type="unfinished"></translation>
+        <translation>正在写入 %1…</translation>
     </message>
 </context>
 <context>
@@ -990,39 +990,39 @@ The exit code is 3 when anything is.</source>
     </message>
     <message>
         <source>&amp;Light, as on paper</source>
-        <translation type="unfinished"></translation>
+        <translation>浅色，如在纸上(&amp;L)</translation>
     </message>
     <message>
         <source>B&amp;rowse…</source>
-        <translation type="unfinished"></translation>
+        <translation>浏览(&amp;R)…</translation>
     </message>
     <message>
         <source>As shown</source>
-        <translation type="unfinished"></translation>
+        <translation>与显示相同</translation>
     </message>
     <message>
         <source>All levels</source>
-        <translation type="unfinished"></translation>
+        <translation>所有层级</translation>
     </message>
     <message>
         <source>Levels below the main bones:</source>
-        <translation type="unfinished"></translation>
+        <translation>大骨以下的层数：</translation>
     </message>
     <message>
         <source>Levels below the main bones</source>
-        <translation type="unfinished"></translation>
+        <translation>大骨以下的层数</translation>
     </message>
     <message>
         <source>&amp;Expanded:</source>
-        <translation type="unfinished"></translation>
+        <translation>展开(&amp;E)：</translation>
     </message>
     <message>
         <source>As on the screen</source>
-        <translation type="unfinished"></translation>
+        <translation>与屏幕相同</translation>
     </message>
     <message>
         <source>This cannot be exported: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法导出：%1。</translation>
     </message>
 </context>
 <context>
@@ -1672,38 +1672,38 @@ Do you want to save your changes?</source>
     </message>
     <message>
         <source>it was cancelled</source>
-        <translation type="unfinished"></translation>
+        <translation>已取消</translation>
     </message>
     <message>
         <source>an SVG of it would have more than %1 MiB; a PDF is smaller</source>
-        <translation type="unfinished"></translation>
+        <translation>其 SVG 会超过 %1 MiB；PDF 更小</translation>
     </message>
 </context>
 <context>
     <name>PictureSizeFields</name>
     <message>
         <source> px</source>
-        <translation type="unfinished"></translation>
+        <translation> 像素</translation>
     </message>
     <message>
         <source>Sc&amp;ale:</source>
-        <translation type="unfinished"></translation>
+        <translation>比例(&amp;A)：</translation>
     </message>
     <message>
         <source>&amp;Width:</source>
-        <translation type="unfinished"></translation>
+        <translation>宽度(&amp;W)：</translation>
     </message>
     <message>
         <source>&amp;Height:</source>
-        <translation type="unfinished"></translation>
+        <translation>高度(&amp;H)：</translation>
     </message>
     <message>
         <source>A page of %1 × %2 mm</source>
-        <translation type="unfinished"></translation>
+        <translation>页面 %1 × %2 毫米</translation>
     </message>
     <message>
         <source>%1 × %2 pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 × %2 像素</translation>
     </message>
 </context>
 <context>
@@ -1776,7 +1776,7 @@ Do you want to save your changes?</source>
     <name>QProgressDialog</name>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished">取消</translation>
+        <translation>取消</translation>
     </message>
 </context>
 <context>
