@@ -69,64 +69,53 @@ FileCommands::FileCommands(DocumentTabs *tabs, RecentFiles *recent, ActionSet *a
     addCloseActions();
 }
 
-void FileCommands::add(const char *name, const Language::Text &text, const QKeySequence &shortcut,
+void FileCommands::add(const char *name, const char *text, const QKeySequence &shortcut,
                        void (FileCommands::*run)())
 {
-    m_actions->add(QLatin1String(name), text, {shortcut}, ActionSet::Scope::Window,
-                   [this, run] { (this->*run)(); });
+    m_actions->add(
+        QLatin1String(name), [text] { return tr(text); }, {shortcut}, ActionSet::Scope::Window,
+        [this, run] { (this->*run)(); });
 }
 
 void FileCommands::addOpenActions()
 {
-    add(
-        "new", [] { return tr("&New"); }, QKeySequence::New, &FileCommands::newDocument);
-    add(
-        "newExample", [] { return tr("New from the &example"); }, {},
+    add("new", QT_TR_NOOP("&New"), QKeySequence::New, &FileCommands::newDocument);
+    add("newExample", QT_TR_NOOP("New from the &example"), {},
         &FileCommands::newFromBuiltInTemplate);
-    add(
-        "welcome", [] { return tr("&Welcome diagram"); }, {}, &FileCommands::newWelcome);
+    add("welcome", QT_TR_NOOP("&Welcome diagram"), {}, &FileCommands::newWelcome);
     m_actions->add(
         QStringLiteral("newFromTemplate"), [] { return tr("New from &template…"); }, {},
         ActionSet::Scope::Window,
         [this] { newFromTemplate(m_tabs->current()->session()->folder()); });
-    add(
-        "open", [] { return tr("&Open…"); }, QKeySequence::Open, &FileCommands::openFiles);
-    add(
-        "import", [] { return tr("&Import…"); }, QKeySequence(Qt::CTRL | Qt::Key_I),
+    add("open", QT_TR_NOOP("&Open…"), QKeySequence::Open, &FileCommands::openFiles);
+    add("import", QT_TR_NOOP("&Import…"), QKeySequence(Qt::CTRL | Qt::Key_I),
         &FileCommands::importFiles);
-    add(
-        "url", [] { return tr("Open &URL…"); }, QKeySequence(Qt::CTRL | Qt::Key_U),
+    add("url", QT_TR_NOOP("Open &URL…"), QKeySequence(Qt::CTRL | Qt::Key_U),
         &FileCommands::openUrl);
 }
 
 void FileCommands::addSaveActions()
 {
-    const auto addForTab = [this](const char *name, const Language::Text &text,
-                                  const QKeySequence &shortcut,
+    const auto addForTab = [this](const char *name, const char *text, const QKeySequence &shortcut,
                                   std::function<void(DocumentTab *)> run) {
-        m_actions->add(QLatin1String(name), text, {shortcut}, ActionSet::Scope::Window,
-                       [this, run = std::move(run)] { run(m_tabs->current()); });
+        m_actions->add(
+            QLatin1String(name), [text] { return tr(text); }, {shortcut}, ActionSet::Scope::Window,
+            [this, run = std::move(run)] { run(m_tabs->current()); });
     };
-    addForTab(
-        "save", [] { return tr("&Save"); }, QKeySequence::Save,
-        [this](DocumentTab *tab) { m_saver->save(tab); });
-    addForTab(
-        "saveAs", [] { return tr("Save &as…"); }, QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S),
-        [this](DocumentTab *tab) { m_saver->saveAs(tab); });
-    addForTab(
-        "saveCopy", [] { return tr("Save a cop&y…"); }, {},
-        [this](DocumentTab *tab) { m_saver->saveCopy(tab); });
-    addForTab(
-        "revert", [] { return tr("Revert to &file"); }, {},
-        [this](DocumentTab *tab) { revert(tab); });
-    add(
-        "saveAll", [] { return tr("Save a&ll"); }, {}, &FileCommands::saveAll);
+    addForTab("save", QT_TR_NOOP("&Save"), QKeySequence::Save,
+              [this](DocumentTab *tab) { m_saver->save(tab); });
+    addForTab("saveAs", QT_TR_NOOP("Save &as…"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S),
+              [this](DocumentTab *tab) { m_saver->saveAs(tab); });
+    addForTab("saveCopy", QT_TR_NOOP("Save a cop&y…"), {},
+              [this](DocumentTab *tab) { m_saver->saveCopy(tab); });
+    addForTab("revert", QT_TR_NOOP("Revert to &file"), {},
+              [this](DocumentTab *tab) { revert(tab); });
+    add("saveAll", QT_TR_NOOP("Save a&ll"), {}, &FileCommands::saveAll);
 }
 
 void FileCommands::addCloseActions()
 {
-    add(
-        "close", [] { return tr("&Close"); }, QKeySequence(Qt::CTRL | Qt::Key_W),
+    add("close", QT_TR_NOOP("&Close"), QKeySequence(Qt::CTRL | Qt::Key_W),
         &FileCommands::closeCurrent);
     QAction *const reopen = m_actions->add(
         QStringLiteral("reopen"), [] { return tr("Reopen &documents at the start"); }, {},

@@ -3,8 +3,6 @@
 
 #pragma once
 
-#include <app/common/language.h>
-
 #include <QKeySequence>
 #include <QList>
 #include <QObject>
@@ -58,7 +56,7 @@ private:
     void addOpenActions();
     void addSaveActions();
     void addCloseActions();
-    void add(const char *name, const Language::Text &text, const QKeySequence &shortcut,
+    void add(const char *name, const char *text, const QKeySequence &shortcut,
              void (FileCommands::*run)());
     void showLoaded(const QString &source, FishInfo *document);
     void reportFailure(const QString &source, const QString &reason);

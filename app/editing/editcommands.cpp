@@ -4,7 +4,6 @@
 #include <app/editing/editcommands.h>
 
 #include <app/common/actionset.h>
-#include <app/common/language.h>
 #include <app/diagram/diagramsession.h>
 #include <app/diagram/subjectedit.h>
 #include <app/editing/subjectclipboard.h>
@@ -61,11 +60,12 @@ EditCommands::EditCommands(DiagramSession *session, ActionSet *actions, QWidget 
     addSubjectActions();
 }
 
-void EditCommands::add(const char *name, const Language::Text &text,
-                       const QList<QKeySequence> &shortcuts, std::function<void()> run)
+void EditCommands::add(const char *name, const char *text, const QList<QKeySequence> &shortcuts,
+                       std::function<void()> run)
 {
-    m_actions->add(QLatin1String(name), text, shortcuts, ActionSet::Scope::Selection,
-                   std::move(run));
+    m_actions->add(
+        QLatin1String(name), [text] { return tr(text); }, shortcuts, ActionSet::Scope::Selection,
+        std::move(run));
 }
 
 void EditCommands::addHistoryActions()
@@ -83,63 +83,44 @@ void EditCommands::addHistoryActions()
 
 void EditCommands::addClipboardActions()
 {
-    add(
-        "cut", [] { return tr("Cu&t"); }, {QKeySequence::Cut},
+    add("cut", QT_TR_NOOP("Cu&t"), {QKeySequence::Cut},
         [this] { m_session->removeSelected(true); });
-    add(
-        "copy", [] { return tr("&Copy"); }, {QKeySequence::Copy}, [this] { m_editor->copy(); });
-    add(
-        "paste", [] { return tr("&Paste"); }, {QKeySequence::Paste},
-        [this] { m_clipboard->paste(); });
-    add(
-        "delete", [] { return tr("&Delete"); }, {QKeySequence::Delete},
+    add("copy", QT_TR_NOOP("&Copy"), {QKeySequence::Copy}, [this] { m_editor->copy(); });
+    add("paste", QT_TR_NOOP("&Paste"), {QKeySequence::Paste}, [this] { m_clipboard->paste(); });
+    add("delete", QT_TR_NOOP("&Delete"), {QKeySequence::Delete},
         [this] { m_session->removeSelected(false); });
-    add(
-        "selectAll", [] { return tr("Select &all"); }, {QKeySequence::SelectAll},
+    add("selectAll", QT_TR_NOOP("Select &all"), {QKeySequence::SelectAll},
         [this] { m_editor->selectAll(); });
 }
 
 void EditCommands::addInsertActions()
 {
-    add(
-        "child", [] { return tr("&Child subject"); }, {Qt::Key_Tab, Qt::Key_Insert},
+    add("child", QT_TR_NOOP("&Child subject"), {Qt::Key_Tab, Qt::Key_Insert},
         [this] { insertAndRename<InsertChild>(); });
-    add(
-        "before", [] { return tr("Subject &before"); }, returnWith(Qt::SHIFT),
+    add("before", QT_TR_NOOP("Subject &before"), returnWith(Qt::SHIFT),
         [this] { insertSibling<InsertFront>(); });
-    add(
-        "after", [] { return tr("Subject &after"); }, returnWith(0),
+    add("after", QT_TR_NOOP("Subject &after"), returnWith(0),
         [this] { insertSibling<InsertBack>(); });
-    add(
-        "parent", [] { return tr("&Parent subject"); }, returnWith(Qt::CTRL),
+    add("parent", QT_TR_NOOP("&Parent subject"), returnWith(Qt::CTRL),
         [this] { insertAndRename<InsertParent>(); });
-    add(
-        "free", [] { return tr("&Free subject (a new diagram)"); },
-        returnWith(Qt::CTRL | Qt::SHIFT), [this] { Q_EMIT newDiagramWanted(); });
-    add(
-        "subTask", [] { return tr("&Sub-task…"); },
-        {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_T)},
+    add("free", QT_TR_NOOP("&Free subject (a new diagram)"), returnWith(Qt::CTRL | Qt::SHIFT),
+        [this] { Q_EMIT newDiagramWanted(); });
+    add("subTask", QT_TR_NOOP("&Sub-task…"), {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_T)},
         [this] { insertSubTask(m_editor->firstSelectedSpearIndex()); });
 }
 
 void EditCommands::addSubjectActions()
 {
-    add(
-        "rename", [] { return tr("&Rename"); }, {Qt::Key_F2},
+    add("rename", QT_TR_NOOP("&Rename"), {Qt::Key_F2},
         [this] { rename(m_editor->firstSelectedSpearIndex()); });
-    add(
-        "link", [] { return tr("&Link to…"); }, {QKeySequence(Qt::CTRL | Qt::Key_L)},
+    add("link", QT_TR_NOOP("&Link to…"), {QKeySequence(Qt::CTRL | Qt::Key_L)},
         [this] { SubjectEdit::editLink(*m_session, m_editor->firstSelectedSpearIndex()); });
-    add(
-        "openLink", [] { return tr("&Open link"); }, {},
+    add("openLink", QT_TR_NOOP("&Open link"), {},
         [this] { SubjectEdit::openLink(*m_session, m_editor->firstSelectedSpearIndex()); });
-    add(
-        "unlink", [] { return tr("Remove l&ink"); }, {}, [this] { m_editor->modifyDelLink(); });
-    add(
-        "style", [] { return tr("&Style…"); }, {},
+    add("unlink", QT_TR_NOOP("Remove l&ink"), {}, [this] { m_editor->modifyDelLink(); });
+    add("style", QT_TR_NOOP("&Style…"), {},
         [this] { SubjectEdit::editStyle(*m_session, m_editor->firstSelectedSpearIndex()); });
-    add(
-        "removeStyle", [] { return tr("Remove s&tyle"); }, {},
+    add("removeStyle", QT_TR_NOOP("Remove s&tyle"), {},
         [this] { SubjectEdit::removeStyle(*m_session, m_editor->firstSelectedSpearIndex()); });
 }
 

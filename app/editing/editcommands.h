@@ -3,7 +3,6 @@
 
 #pragma once
 
-#include <app/common/language.h>
 #include <app/editing/diagramcommands.h>
 
 #include <QPersistentModelIndex>
@@ -46,7 +45,7 @@ private:
     void addClipboardActions();
     void addInsertActions();
     void addSubjectActions();
-    void add(const char *name, const Language::Text &text, const QList<QKeySequence> &shortcuts,
+    void add(const char *name, const char *text, const QList<QKeySequence> &shortcuts,
              std::function<void()> run);
     /** Inserts a subject at the selected one by a @p Command and opens a field for its title; both
      * are one step of the history. */

@@ -4,7 +4,6 @@
 #include <app/editing/movecommands.h>
 
 #include <app/common/actionset.h>
-#include <app/common/language.h>
 #include <app/diagram/diagramsession.h>
 
 #include <fishbone/editor/fisheditor.h>
@@ -23,19 +22,15 @@ struct MoveCommands::Place
 MoveCommands::MoveCommands(DiagramSession *session, ActionSet *actions, QObject *parent)
     : DiagramCommands(session, actions, parent)
 {
-    const auto add = [this](const char *name, const Language::Text &text, Qt::Key key, Rule rule) {
-        m_actions->add(QLatin1String(name), text, {QKeySequence(int(Qt::ALT) + key)},
-                       ActionSet::Scope::Selection, [this, rule] { move(rule); });
+    const auto add = [this](const char *name, const char *text, Qt::Key key, Rule rule) {
+        m_actions->add(
+            QLatin1String(name), [text] { return tr(text); }, {QKeySequence(int(Qt::ALT) + key)},
+            ActionSet::Scope::Selection, [this, rule] { move(rule); });
     };
-    add(
-        "moveUp", [] { return tr("Move &up"); }, Qt::Key_Up, &MoveCommands::earlier);
-    add(
-        "moveDown", [] { return tr("Move do&wn"); }, Qt::Key_Down, &MoveCommands::later);
-    add(
-        "promote", [] { return tr("Pro&mote (beside its parent)"); }, Qt::Key_Left,
-        &MoveCommands::higher);
-    add(
-        "demote", [] { return tr("D&emote (below the one before)"); }, Qt::Key_Right,
+    add("moveUp", QT_TR_NOOP("Move &up"), Qt::Key_Up, &MoveCommands::earlier);
+    add("moveDown", QT_TR_NOOP("Move do&wn"), Qt::Key_Down, &MoveCommands::later);
+    add("promote", QT_TR_NOOP("Pro&mote (beside its parent)"), Qt::Key_Left, &MoveCommands::higher);
+    add("demote", QT_TR_NOOP("D&emote (below the one before)"), Qt::Key_Right,
         &MoveCommands::lower);
 }
 

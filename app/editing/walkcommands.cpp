@@ -25,38 +25,32 @@ WalkCommands::WalkCommands(DiagramSession *session, ActionSet *actions, QObject 
     addLevels();
 }
 
-void WalkCommands::add(const char *name, const Language::Text &text, int key, const Step &step)
+void WalkCommands::add(const char *name, const char *text, int key, const Step &step)
 {
-    m_actions->add(QLatin1String(name), text, {QKeySequence(key)}, ActionSet::Scope::Drawing,
-                   [this, step] { go(step); });
+    m_actions->add(
+        QLatin1String(name), [text] { return tr(text); }, {QKeySequence(key)},
+        ActionSet::Scope::Drawing, [this, step] { go(step); });
 }
 
 void WalkCommands::addDirections()
 {
-    const auto addDirection = [this](const char *name, const Language::Text &text, int key,
+    const auto addDirection = [this](const char *name, const char *text, int key,
                                      const QPointF &direction) {
         add(name, text, key,
             [this, direction](const SpearItem &from) { return nearest(from, direction); });
     };
-    addDirection(
-        "goLeft", [] { return tr("To the &left"); }, Qt::Key_Left, QPointF(-1, 0));
-    addDirection(
-        "goRight", [] { return tr("To the &right"); }, Qt::Key_Right, QPointF(1, 0));
-    addDirection(
-        "goUp", [] { return tr("&Up"); }, Qt::Key_Up, QPointF(0, -1));
-    addDirection(
-        "goDown", [] { return tr("&Down"); }, Qt::Key_Down, QPointF(0, 1));
+    addDirection("goLeft", QT_TR_NOOP("To the &left"), Qt::Key_Left, QPointF(-1, 0));
+    addDirection("goRight", QT_TR_NOOP("To the &right"), Qt::Key_Right, QPointF(1, 0));
+    addDirection("goUp", QT_TR_NOOP("&Up"), Qt::Key_Up, QPointF(0, -1));
+    addDirection("goDown", QT_TR_NOOP("&Down"), Qt::Key_Down, QPointF(0, 1));
 }
 
 void WalkCommands::addLevels()
 {
-    add(
-        "goParent", [] { return tr("To the &parent"); }, Qt::CTRL | Qt::Key_Up,
-        [](const SpearItem &from) {
-            return from.isHeader() ? QModelIndex() : from.modelIndex().parent();
-        });
-    add(
-        "goChild", [] { return tr("To the &first child"); }, Qt::CTRL | Qt::Key_Down,
+    add("goParent", QT_TR_NOOP("To the &parent"), Qt::CTRL | Qt::Key_Up, [](const SpearItem &from) {
+        return from.isHeader() ? QModelIndex() : from.modelIndex().parent();
+    });
+    add("goChild", QT_TR_NOOP("To the &first child"), Qt::CTRL | Qt::Key_Down,
         [this](const SpearItem &from) {
             return m_session->model()->index(0, 0, from.modelIndex());
         });
@@ -64,11 +58,9 @@ void WalkCommands::addLevels()
         const QModelIndex index = from.modelIndex();
         return from.isHeader() ? QModelIndex() : index.siblingAtRow(index.row() + distance);
     };
-    add(
-        "goPrevious", [] { return tr("To the one &before"); }, Qt::CTRL | Qt::Key_Left,
+    add("goPrevious", QT_TR_NOOP("To the one &before"), Qt::CTRL | Qt::Key_Left,
         [sibling](const SpearItem &from) { return sibling(from, -1); });
-    add(
-        "goNext", [] { return tr("To the &next one"); }, Qt::CTRL | Qt::Key_Right,
+    add("goNext", QT_TR_NOOP("To the &next one"), Qt::CTRL | Qt::Key_Right,
         [sibling](const SpearItem &from) { return sibling(from, 1); });
 }
 

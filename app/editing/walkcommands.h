@@ -3,7 +3,6 @@
 
 #pragma once
 
-#include <app/common/language.h>
 #include <app/editing/diagramcommands.h>
 
 #include <QModelIndex>
@@ -31,7 +30,7 @@ private:
 
     void addDirections();
     void addLevels();
-    void add(const char *name, const Language::Text &text, int key, const Step &step);
+    void add(const char *name, const char *text, int key, const Step &step);
     void go(const Step &step);
     QPointF seenPosition(const SpearItem &spear) const;
     QModelIndex nearest(const SpearItem &from, const QPointF &direction) const;

@@ -151,11 +151,11 @@ void MainWindow::addCommands()
         ActionSet::Scope::Selection, [this] { showDetails(); });
 }
 
-QDockWidget *MainWindow::addDock(const char *name, const Language::Text &title,
-                                 Qt::DockWidgetArea area, QWidget *contents)
+QDockWidget *MainWindow::addDock(const char *name, const char *title, Qt::DockWidgetArea area,
+                                 QWidget *contents)
 {
     auto *const dock = new QDockWidget(this);
-    Language::bind(dock, &QWidget::setWindowTitle, title);
+    Language::bind(dock, &QWidget::setWindowTitle, [title] { return tr(title); });
     Language::bind(dock, [dock] { nameTitleButtons(*dock); });
     dock->setObjectName(QLatin1String(name));
     dock->setWidget(contents);
@@ -169,14 +169,14 @@ void MainWindow::addDocks()
     for (QStackedWidget **contents : {&m_trees, &m_details, &m_histories})
         *contents = new QStackedWidget(this);
     m_overview = new Minimap(this);
-    QDockWidget *const trees = addDock(
-        "documentsDock", [] { return tr("Subjects"); }, Qt::LeftDockWidgetArea, m_trees);
-    QDockWidget *const details = addDock(
-        "detailsDock", [] { return tr("Details"); }, Qt::RightDockWidgetArea, m_details);
-    QDockWidget *const histories = addDock(
-        "historyDock", [] { return tr("History"); }, Qt::RightDockWidgetArea, m_histories);
-    QDockWidget *const overview = addDock(
-        "overviewDock", [] { return tr("Overview"); }, Qt::LeftDockWidgetArea, m_overview);
+    QDockWidget *const trees =
+        addDock("documentsDock", QT_TR_NOOP("Subjects"), Qt::LeftDockWidgetArea, m_trees);
+    QDockWidget *const details =
+        addDock("detailsDock", QT_TR_NOOP("Details"), Qt::RightDockWidgetArea, m_details);
+    QDockWidget *const histories =
+        addDock("historyDock", QT_TR_NOOP("History"), Qt::RightDockWidgetArea, m_histories);
+    QDockWidget *const overview =
+        addDock("overviewDock", QT_TR_NOOP("Overview"), Qt::LeftDockWidgetArea, m_overview);
     resizeDocks({trees, details}, {240, 300}, Qt::Horizontal);
     resizeDocks({details, histories}, {500, 160}, Qt::Vertical);
     resizeDocks({trees, overview}, {500, 160}, Qt::Vertical);

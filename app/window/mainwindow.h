@@ -3,8 +3,6 @@
 
 #pragma once
 
-#include <app/common/language.h>
-
 #include <QList>
 #include <QMainWindow>
 
@@ -68,7 +66,7 @@ protected:
 private:
     void addCommands();
     void addDocks();
-    QDockWidget *addDock(const char *name, const Language::Text &title, Qt::DockWidgetArea area,
+    QDockWidget *addDock(const char *name, const char *title, Qt::DockWidgetArea area,
                          QWidget *contents);
     void addBars();
     void connectCommands();

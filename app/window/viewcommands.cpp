@@ -6,7 +6,6 @@
 #include <app/common/actionset.h>
 #include <app/common/busycursor.h>
 #include <app/common/canvastheme.h>
-#include <app/common/language.h>
 #include <app/diagram/diagramsession.h>
 #include <app/window/zoomcontrols.h>
 
@@ -42,101 +41,82 @@ ViewCommands::ViewCommands(DiagramSession *session, CanvasTheme *theme, ZoomCont
 
 void ViewCommands::addZoomActions()
 {
-    const auto add = [this](const char *name, const Language::Text &text,
+    const auto add = [this](const char *name, const char *text,
                             const QList<QKeySequence> &shortcuts, std::function<void()> run) {
-        m_actions->add(QLatin1String(name), text, shortcuts, ActionSet::Scope::Window,
-                       std::move(run));
+        m_actions->add(
+            QLatin1String(name), [text] { return tr(text); }, shortcuts, ActionSet::Scope::Window,
+            std::move(run));
     };
-    add(
-        "zoomin", [] { return tr("Zoom &in"); },
+    add("zoomin", QT_TR_NOOP("Zoom &in"),
         {QKeySequence::ZoomIn, QKeySequence(Qt::CTRL | Qt::Key_Equal)},
         [this] { m_editor->zoomIn(zoomStep); });
-    add(
-        "zoomout", [] { return tr("Zoom &out"); }, {QKeySequence::ZoomOut},
+    add("zoomout", QT_TR_NOOP("Zoom &out"), {QKeySequence::ZoomOut},
         [this] { m_editor->zoomOut(zoomStep); });
-    add(
-        "fullsize", [] { return tr("&100 %"); }, {QKeySequence(Qt::CTRL | Qt::Key_0)},
+    add("fullsize", QT_TR_NOOP("&100 %"), {QKeySequence(Qt::CTRL | Qt::Key_0)},
         [this] { m_editor->fullSize(); });
     m_actions->add(
         QStringLiteral("fit"), [] { return tr("&Fit all"); },
         {Qt::Key_Home, QKeySequence(Qt::CTRL | Qt::Key_9)}, ActionSet::Scope::Drawing,
         [this] { fitAll(); });
-    add(
-        "fitselection", [] { return tr("Fit &selection"); }, {QKeySequence(Qt::CTRL | Qt::Key_8)},
+    add("fitselection", QT_TR_NOOP("Fit &selection"), {QKeySequence(Qt::CTRL | Qt::Key_8)},
         [this] { m_editor->showSelected(); });
-    add(
-        "rotateRight", [] { return tr("Rotate &right"); },
-        {QKeySequence(Qt::CTRL | Qt::Key_BracketRight)},
+    add("rotateRight", QT_TR_NOOP("Rotate &right"), {QKeySequence(Qt::CTRL | Qt::Key_BracketRight)},
         [this] { m_controls->setRotation(m_editor->rotateValue() + rotateStep); });
-    add(
-        "rotateLeft", [] { return tr("Rotate &left"); },
-        {QKeySequence(Qt::CTRL | Qt::Key_BracketLeft)},
+    add("rotateLeft", QT_TR_NOOP("Rotate &left"), {QKeySequence(Qt::CTRL | Qt::Key_BracketLeft)},
         [this] { m_controls->setRotation(m_editor->rotateValue() - rotateStep); });
-    add(
-        "rotateReset", [] { return tr("U&pright"); }, {}, [this] { m_controls->setRotation(0); });
-    add(
-        "fullScreen", [] { return tr("S&how full screen"); }, {Qt::Key_F11},
+    add("rotateReset", QT_TR_NOOP("U&pright"), {}, [this] { m_controls->setRotation(0); });
+    add("fullScreen", QT_TR_NOOP("S&how full screen"), {Qt::Key_F11},
         [this] { m_window->setWindowState(m_window->windowState() ^ Qt::WindowFullScreen); });
 }
 
 void ViewCommands::addExpandActions()
 {
-    const auto add = [this](const char *name, const Language::Text &text,
-                            const QKeySequence &shortcut, std::function<void()> run) {
-        m_actions->add(QLatin1String(name), text, {shortcut}, ActionSet::Scope::Selection,
-                       std::move(run));
+    const auto add = [this](const char *name, const char *text, const QKeySequence &shortcut,
+                            std::function<void()> run) {
+        m_actions->add(
+            QLatin1String(name), [text] { return tr(text); }, {shortcut},
+            ActionSet::Scope::Selection, std::move(run));
     };
-    add(
-        "expand", [] { return tr("&Expand"); }, Qt::Key_Plus,
-        [this] {
-            // The editor shows the children that there are; those that were never shown are made
-            // first.
-            m_editor->generateSpear(m_session->model(), m_editor->firstSelectedSpearIndex());
-            m_editor->modifyExpand();
-        });
-    add(
-        "contract", [] { return tr("&Contract"); }, Qt::Key_Minus,
-        [this] { m_editor->modifyContract(); });
-    add(
-        "expandall", [] { return tr("Expand &all"); }, Qt::Key_Asterisk,
-        [this] {
-            const BusyCursor busy(m_session->container());
-            m_editor->generateAllSubSpear(m_session->model(), m_editor->rootIndex());
-            m_editor->modifyExpandAll();
-        });
-    add(
-        "contractall", [] { return tr("Con&tract all"); }, Qt::Key_Slash,
-        [this] {
-            const BusyCursor busy(m_session->container());
-            m_editor->modifyContractAll();
-        });
+    add("expand", QT_TR_NOOP("&Expand"), Qt::Key_Plus, [this] {
+        // The editor shows the children that there are; those that were never shown are made
+        // first.
+        m_editor->generateSpear(m_session->model(), m_editor->firstSelectedSpearIndex());
+        m_editor->modifyExpand();
+    });
+    add("contract", QT_TR_NOOP("&Contract"), Qt::Key_Minus, [this] { m_editor->modifyContract(); });
+    add("expandall", QT_TR_NOOP("Expand &all"), Qt::Key_Asterisk, [this] {
+        const BusyCursor busy(m_session->container());
+        m_editor->generateAllSubSpear(m_session->model(), m_editor->rootIndex());
+        m_editor->modifyExpandAll();
+    });
+    add("contractall", QT_TR_NOOP("Con&tract all"), Qt::Key_Slash, [this] {
+        const BusyCursor busy(m_session->container());
+        m_editor->modifyContractAll();
+    });
 }
 
 void ViewCommands::addDiagramActions()
 {
-    const auto add = [this](const char *name, const Language::Text &text,
-                            const QKeySequence &shortcut, std::function<void()> run) {
-        return m_actions->add(QLatin1String(name), text, {shortcut}, ActionSet::Scope::Window,
-                              std::move(run));
+    const auto add = [this](const char *name, const char *text, const QKeySequence &shortcut,
+                            std::function<void()> run) {
+        return m_actions->add(
+            QLatin1String(name), [text] { return tr(text); }, {shortcut}, ActionSet::Scope::Window,
+            std::move(run));
     };
-    add(
-        "asDiagram", [] { return tr("Show as a &diagram of its own"); }, {},
+    add("asDiagram", QT_TR_NOOP("Show as a &diagram of its own"), {},
         [this] { m_session->showAsDiagram(m_editor->firstSelectedSpearIndex()); });
-    add(
-        "back", [] { return tr("&Back"); }, QKeySequence(Qt::ALT | Qt::Key_Backspace),
+    add("back", QT_TR_NOOP("&Back"), QKeySequence(Qt::ALT | Qt::Key_Backspace),
         [this] { m_session->goBack(); });
-    add(
-        "whole", [] { return tr("Show the &whole diagram"); }, QKeySequence(Qt::ALT | Qt::Key_Home),
+    add("whole", QT_TR_NOOP("Show the &whole diagram"), QKeySequence(Qt::ALT | Qt::Key_Home),
         [this] { m_session->showWhole(); });
-    add(
-        "canvasStyle", [] { return tr("Style of &all subjects…"); }, {},
+    add("canvasStyle", QT_TR_NOOP("Style of &all subjects…"), {},
         [this] { m_theme->editStyle(m_window); });
 
     auto *const modes = new QActionGroup(this);
-    QAction *const diagramMode = add(
-        "diagramMode", [] { return tr("&Diagram mode"); }, {}, [this] { setTaskMode(false); });
-    QAction *const taskMode = add(
-        "taskMode", [] { return tr("&Task mode"); }, {}, [this] { setTaskMode(true); });
+    QAction *const diagramMode =
+        add("diagramMode", QT_TR_NOOP("&Diagram mode"), {}, [this] { setTaskMode(false); });
+    QAction *const taskMode =
+        add("taskMode", QT_TR_NOOP("&Task mode"), {}, [this] { setTaskMode(true); });
     for (QAction *mode : {diagramMode, taskMode}) {
         mode->setCheckable(true);
         modes->addAction(mode);

@@ -1,0 +1,213 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#include <app/common/canvastheme.h>
+#include <app/common/themedicon.h>
+
+#include <fishbone/style/spearstyle.h>
+
+#include <QDirIterator>
+#include <QImage>
+#include <QPainter>
+#include <QPalette>
+#include <QSvgRenderer>
+#include <QtTest>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+constexpr double forText = 4.5;    ///< WCAG 2.1, 1.4.3
+constexpr double forShapes = 3.0;  ///< WCAG 2.1, 1.4.11
+constexpr int hardlyAnything = 20; ///< pixels of a picture
+
+/// The relative luminance of WCAG 2.1.
+double luminanceOf(const QColor &color)
+{
+    const auto linear = [](double value) {
+        return value <= 0.03928 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +
+           0.0722 * linear(color.blueF());
+}
+
+double contrastOf(const QColor &one, const QColor &other)
+{
+    const double first = luminanceOf(one) + 0.05;
+    const double second = luminanceOf(other) + 0.05;
+    return std::max(first, second) / std::min(first, second);
+}
+
+/// How many pixels of \a picture are drawn through and through, and how many of them stand out from
+/// \a background.
+struct Pixels
+{
+    Pixels(const QImage &picture, const QColor &background)
+    {
+        constexpr int opaque = 250; // edges are smoothed
+        for (int y = 0; y < picture.height(); ++y) {
+            for (int x = 0; x < picture.width(); ++x) {
+                const QColor color = picture.pixelColor(x, y);
+                drawn += color.alpha() >= opaque;
+                standingOut +=
+                    color.alpha() >= opaque && contrastOf(color, background) >= forShapes;
+            }
+        }
+    }
+
+    int drawn = 0;
+    int standingOut = 0;
+};
+
+QImage rendered(const QString &file, const QColor &background)
+{
+    QImage picture(96, 96, QImage::Format_ARGB32);
+    picture.fill(background);
+    QPainter painter(&picture);
+    QSvgRenderer(file).render(&painter);
+    return picture;
+}
+
+QStringList picturesIn(const QString &folder)
+{
+    QStringList files;
+    for (QDirIterator each(folder, QDir::Files, QDirIterator::Subdirectories); each.hasNext();) {
+        const QString file = each.next();
+        if (file.endsWith(QLatin1String(".svg")) || file.endsWith(QLatin1String("link.png")))
+            files.append(file);
+    }
+    return files;
+}
+
+QPalette lightPalette()
+{
+    return QPalette(QColor(0xef, 0xef, 0xef));
+}
+
+QPalette darkPalette()
+{
+    QPalette palette(QColor(0x31, 0x36, 0x3b));
+    palette.setColor(QPalette::Base, QColor(0x23, 0x26, 0x29));
+    return palette;
+}
+
+} // namespace
+
+/// What is drawn can be told from what it is drawn on, on a light desktop and on a dark one.
+class TestContrast : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void shouldCompareColours();
+    void shouldShowTheTextsOfBones_data();
+    void shouldShowTheTextsOfBones();
+    void shouldShowTheLinesOfBones_data() { shouldShowTheTextsOfBones_data(); }
+    void shouldShowTheLinesOfBones();
+    void shouldShowTheTitleOnTheHead_data() { addPalettes(); }
+    void shouldShowTheTitleOnTheHead();
+    void shouldShowThePicturesOfTheDrawing_data() { addPalettes(); }
+    void shouldShowThePicturesOfTheDrawing();
+    void shouldShowTheIconsOfTheActions_data() { addPalettes(); }
+    void shouldShowTheIconsOfTheActions();
+
+private:
+    static void addPalettes()
+    {
+        QTest::addColumn<QPalette>("palette");
+        QTest::newRow("light") << lightPalette();
+        QTest::newRow("dark") << darkPalette();
+    }
+
+    /// Shows the canvas of the current row's palette.
+    void follow()
+    {
+        QFETCH(QPalette, palette);
+        m_theme.follow(palette);
+    }
+
+    CanvasTheme m_theme;
+};
+
+void TestContrast::shouldCompareColours()
+{
+    QCOMPARE(contrastOf(Qt::black, Qt::white), 21.0);
+    QCOMPARE(contrastOf(Qt::red, Qt::red), 1.0);
+    // The known limit: the lightest gray on white that is dark enough for text.
+    QVERIFY(contrastOf(QColor(0x76, 0x76, 0x76), Qt::white) >= forText);
+    QVERIFY(contrastOf(QColor(0x77, 0x77, 0x77), Qt::white) < forText);
+}
+
+void TestContrast::shouldShowTheTextsOfBones_data()
+{
+    QTest::addColumn<QPalette>("palette");
+    QTest::addColumn<int>("state");
+
+    for (int state = SpearStyle::ssNormal; state <= SpearStyle::ssLinked; ++state) {
+        QTest::addRow("light, state %d", state) << lightPalette() << state;
+        QTest::addRow("dark, state %d", state) << darkPalette() << state;
+    }
+}
+
+void TestContrast::shouldShowTheTextsOfBones()
+{
+    follow();
+    QFETCH(int, state);
+    const auto spearState = SpearStyle::SpearState(state);
+    const QColor text = SpearStyle::global()->textColor(spearState);
+    const QColor behind = SpearStyle::global()->textBkColor(spearState);
+    const double contrast = contrastOf(text, behind.isValid() ? behind : m_theme.canvasColor());
+    QVERIFY2(contrast >= forText, qPrintable(QString::number(contrast)));
+}
+
+void TestContrast::shouldShowTheLinesOfBones()
+{
+    follow();
+    QFETCH(int, state);
+    const QPen *const pen = SpearStyle::global()->broderPen(SpearStyle::SpearState(state));
+    QVERIFY(pen);
+    const double contrast = contrastOf(pen->color(), m_theme.canvasColor());
+    QVERIFY2(contrast >= forShapes, qPrintable(QString::number(contrast)));
+}
+
+void TestContrast::shouldShowTheTitleOnTheHead()
+{
+    follow();
+    const QImage head =
+        rendered(QStringLiteral(":/fishboneDiagram/head.svg"), m_theme.canvasColor());
+    const QColor behind = head.pixelColor(head.width() / 3, head.height() * 3 / 4);
+    QVERIFY(behind != m_theme.canvasColor());
+    const double contrast =
+        contrastOf(SpearStyle::global()->textColor(SpearStyle::ssNormal), behind);
+    QVERIFY2(contrast >= forText, qPrintable(QString::number(contrast)));
+}
+
+void TestContrast::shouldShowThePicturesOfTheDrawing()
+{
+    follow();
+    const QStringList files = picturesIn(QStringLiteral(":/fishboneDiagram"));
+    QVERIFY(files.size() > 15);
+    for (const QString &file : files) {
+        const Pixels pixels(rendered(file, Qt::transparent), m_theme.canvasColor());
+        QVERIFY2(pixels.drawn > hardlyAnything, qPrintable(file));
+        // Some have a white sign on a coloured ground, which counts as well.
+        QVERIFY2(pixels.standingOut * 2 > pixels.drawn, qPrintable(file));
+    }
+}
+
+void TestContrast::shouldShowTheIconsOfTheActions()
+{
+    QFETCH(QPalette, palette);
+    const QStringList files = picturesIn(QStringLiteral(":/app/icons"));
+    QVERIFY(files.size() > 25);
+    for (const QString &file : files) {
+        const QIcon icon = ThemedIcon::icon(QFileInfo(file).completeBaseName(), palette);
+        const Pixels pixels(icon.pixmap(48, 48).toImage(), palette.color(QPalette::Window));
+        QVERIFY2(pixels.drawn > hardlyAnything, qPrintable(file));
+        QCOMPARE(pixels.standingOut, pixels.drawn);
+    }
+}
+
+QTEST_MAIN(TestContrast)
+#include "tst_contrast.moc"
