@@ -127,7 +127,7 @@ PictureExport::Result ExportCommands::writePicture(PictureSource &source,
                                                    const ExportDialog &dialog)
 {
     PictureOptions options = dialog.options();
-    options.title = shownTitle();
+    options.title = source.title();
     WorkProgress progress(tr("Writing %1…").arg(QFileInfo(dialog.fileName()).fileName()), m_window);
     options.progress = [&progress](int done, int total) { return progress.report(done, total); };
     PictureExport::Result result;

@@ -52,6 +52,11 @@ const TreeItem &PictureSource::root() const
     return *model->getTreeItem(m_editor->rootIndex());
 }
 
+QString PictureSource::title() const
+{
+    return root().title();
+}
+
 int PictureSource::depth() const
 {
     int levels = -1; // the head and the main bones count for none

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <QRectF>
+#include <QString>
 
 #include <memory>
 #include <optional>
@@ -28,6 +28,8 @@ public:
     explicit PictureSource(FishEditor *editor);
     ~PictureSource();
 
+    /** The title of the diagram. */
+    QString title() const;
     /** How many levels there are below the main bones. */
     int depth() const;
 

@@ -108,6 +108,7 @@ private Q_SLOTS:
     void shouldExportOtherLevelsThanAreShown();
     void shouldExportASubjectShownAsDiagram();
     void shouldExportADarkDrawing();
+    void shouldExportWhatWasShownWhenItBegan();
 };
 
 void TestExportDialog::initTestCase()
@@ -507,6 +508,26 @@ void TestExportDialog::shouldExportADarkDrawing()
     QVERIFY(asShown.pixelColor(0, 0).lightness() < 128);
     QVERIFY(asShown != onPaper);
     QVERIFY(app.window.updatesEnabled());
+}
+
+void TestExportDialog::shouldExportWhatWasShownWhenItBegan()
+{
+    AppFixture app;
+    const QString other = app.path(QStringLiteral("other.json"));
+    AppFixture::writeFile(other, R"({"title": "Other"})");
+    const QString path = app.path(QStringLiteral("a.svg"));
+    const ModalDriver<ExportDialog> driver([&](ExportDialog &dialog) {
+        app.window.open({other}); // as a load does that ends now
+        AppFixture::settle();
+        field<QLineEdit>(dialog, "file")->setText(path);
+        dialog.accept();
+    });
+    app.trigger("export");
+    QVERIFY(driver.isDone());
+    QCOMPARE(app.text(), QStringLiteral("Other"));
+    const QByteArray svg = AppFixture::contentOf(path);
+    QVERIFY(svg.contains("<title>Late</title>"));
+    QVERIFY(svg.contains(">People<"));
 }
 
 QTEST_MAIN(TestExportDialog)
