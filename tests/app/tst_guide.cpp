@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include <app/common/canvastheme.h>
+#include <app/common/language.h>
 #include <app/export/exportdialog.h>
 #include <app/export/printpreview.h>
 #include <app/window/keysdialog.h>
@@ -103,12 +104,15 @@ void TestGuide::initTestCase()
     QStandardPaths::setTestModeEnabled(true);
     QCoreApplication::setApplicationName(QStringLiteral("tst_guide"));
     QSettings().clear();
+    Language::install(QStringLiteral("en"));
     m_pictures = qEnvironmentVariable("FISHBONE_GUIDE_PICTURES", m_folder.path());
 }
 
 void TestGuide::take(QWidget &window, const char *name)
 {
     AppFixture::settle();
+    if (qEnvironmentVariableIsSet("FISHBONE_GUIDE_PICTURES"))
+        QTest::qWait(500); // for what follows a moment later, as the overview does
     const QString file = QLatin1String(name) + QStringLiteral(".png");
     const QImage picture = window.grab().toImage();
     QVERIFY(picture.width() > 200);
