@@ -272,9 +272,10 @@ void AccessibleBone::doAction(const QString &name)
 /** Selects the bone alone and scrolls to it. */
 void AccessibleBone::select()
 {
-    const QPointer<GraphicsView> view = m_view;
+    GraphicsView &shown = *m_view; // there is one as long as there is a bone
+    const QPointer<GraphicsView> view = &shown;
     const SpearPointer spear = m_spear;
-    QGraphicsScene *const scene = view->scene();
+    QGraphicsScene *const scene = shown.scene();
     if (!spear.get()->isSelected() || scene->selectedItems().size() != 1) {
         {
             // Reported when the scene is through with it, since who hears of it may end the editor.
