@@ -3,6 +3,9 @@
 
 #include <fishbone/items/svgitem.h>
 
+#include <algorithm>
+#include <cmath>
+
 #include <QCursor>
 #include <QGraphicsSceneHoverEvent>
 #include <QPainter>
@@ -12,8 +15,16 @@
 #include <fishbone/items/svgcache.h>
 
 namespace {
+
 constexpr int largestPixels = 256; ///< a side; what is larger is not worth keeping
+
+/** Whether @p pos is farther away than any screen, and perhaps than an integer can say. */
+bool isBeyondScreens(const QPointF &pos)
+{
+    return std::max(std::abs(pos.x()), std::abs(pos.y())) > QWIDGETSIZE_MAX;
 }
+
+} // namespace
 
 SvgItem::SvgItem(QGraphicsItem *parent)
     : QGraphicsSvgItem(parent)
@@ -66,9 +77,11 @@ bool SvgItem::paintPixels(QPainter &painter) const
     if (onDevice.type() > QTransform::TxScale || onDevice.m11() <= 0 || onDevice.m22() <= 0)
         return false;
     const QRectF area = onDevice.mapRect(boundingRect());
-    const QSize size = area.size().toSize().expandedTo(QSize(1, 1));
-    if (size.width() > largestPixels || size.height() > largestPixels)
+    if (std::round(std::max(area.width(), area.height())) > largestPixels)
         return false;
+    if (isBeyondScreens(area.topLeft()))
+        return true;
+    const QSize size = area.size().toSize().expandedTo(QSize(1, 1));
     QPixmap picture = screenPicture(m_file, size);
     painter.save();
     painter.resetTransform();

@@ -41,6 +41,8 @@ private Q_SLOTS:
     void shouldLookOnScreenAsItIsDrawn();
     void shouldShowOnScreenThatItIsSelected();
     void shouldStandOnWholePixelsOfTheScreen();
+    void shouldPaintNothingBeyondAllNumbers_data();
+    void shouldPaintNothingBeyondAllNumbers();
     void shouldShowTheArrowWhileHovered();
     void shouldAcceptHoverWhenMadeWithAFile();
 };
@@ -330,6 +332,33 @@ void TestSvgItem::shouldStandOnWholePixelsOfTheScreen()
     QCOMPARE(painted(20.3), painted(20));
     QCOMPARE(painted(20.7), painted(21));
     QVERIFY(painted(20) != painted(21));
+}
+
+void TestSvgItem::shouldPaintNothingBeyondAllNumbers_data()
+{
+    QTest::addColumn<QTransform>("transform");
+
+    constexpr double far = 1e10; // more than an int holds
+    QTest::newRow("left") << QTransform::fromTranslate(-far, 0);
+    QTest::newRow("right") << QTransform::fromTranslate(far, 0);
+    QTest::newRow("above") << QTransform::fromTranslate(0, -far);
+    QTest::newRow("below") << QTransform::fromTranslate(0, far);
+    QTest::newRow("enlarged")
+        << QTransform::fromTranslate(-10 * far, 0).scale(far / 100, far / 100);
+}
+
+void TestSvgItem::shouldPaintNothingBeyondAllNumbers()
+{
+    QFETCH(QTransform, transform);
+    SvgItem item(expandFile());
+    QWidget screen;
+    const QStyleOptionGraphicsItem option;
+    QImage image = whitePicture({60, 60});
+    QPainter painter(&image);
+    painter.setTransform(transform);
+    item.paint(&painter, &option, &screen);
+    painter.end();
+    QCOMPARE(image, whitePicture({60, 60}));
 }
 
 void TestSvgItem::shouldShowTheArrowWhileHovered()
