@@ -233,7 +233,7 @@ void SpearStyle::read(const QJsonObject &object)
     m_textCount = object[textCountKey].toInt();
     DrawnChanges::note();
     const QJsonArray states = object[spearStatesKey].toArray();
-    for (const QJsonValue element : states) {
+    for (const QJsonValue &element : states) {
         const QJsonObject stateObject = element.toObject();
         const int state = stateObject[stateKey].toInt();
         if (state >= 0 && state < stateCount)
