@@ -93,10 +93,11 @@ void CanvasTheme::editStyle(QWidget *parent)
 
 void CanvasTheme::storeStyle()
 {
-    SpearStyle::global()->write(m_isDark ? m_dark : m_light);
+    QJsonObject &style = m_isDark ? m_dark : m_light;
+    SpearStyle::global()->write(style);
     const QString path = folder() + QLatin1Char('/') + fileName(m_isDark);
     QDir().mkpath(folder());
-    if (!JsonFile::write(path, m_isDark ? m_dark : m_light))
+    if (!JsonFile::write(path, style))
         Q_EMIT message(tr("The style is not kept: %1 cannot be written").arg(path));
 }
 

@@ -11,13 +11,12 @@ constexpr int betweenReports = 40; ///< milliseconds; more often nobody sees it
 } // namespace
 
 WorkProgress::WorkProgress(const QString &text, QWidget *window)
-    : m_dialog(text, tr("Cancel"), 0, 0, window)
+    : m_dialog(text, tr("Cancel"), 0, 1, window)
 {
     m_dialog.setObjectName(QStringLiteral("workProgress"));
     m_dialog.setWindowModality(Qt::WindowModal);
     m_dialog.setMinimumDuration(patience);
     m_dialog.setAutoReset(false); // the last step may take its time, too
-    m_dialog.setMaximum(1);
     m_dialog.setValue(0);
     // However it is closed, it is not to go on unseen.
     QObject::connect(&m_dialog, &QDialog::rejected, &m_dialog, &QProgressDialog::cancel);

@@ -49,7 +49,6 @@ public:
     void go(int step);
 
     /** Brings what the tabs say of their documents up to date. */
-    void nameScrollButtons();
     void refresh();
 
 Q_SIGNALS:
@@ -64,6 +63,7 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    void nameScrollButtons();
     DocumentTab *insert(int position, FishInfo *document);
     DocumentTab *tabAt(int position) const;
     void showContextMenu(const QPoint &pos);

@@ -41,6 +41,13 @@ QString anyFilter()
         .arg(DiagramExchange::importFilter());
 }
 
+/** Whether there is anything to save in @p tab, with what is typed into its fields. */
+bool hasChanges(DocumentTab &tab)
+{
+    tab.takeTyped();
+    return tab.document() && tab.document()->modified();
+}
+
 } // namespace
 
 FileCommands::FileCommands(DocumentTabs *tabs, RecentFiles *recent, ActionSet *actions,
@@ -294,10 +301,7 @@ void FileCommands::saveAll()
 {
     const QList<QPointer<DocumentTab>> tabs = openAmong(m_tabs->tabs());
     for (const QPointer<DocumentTab> &tab : tabs) {
-        if (!tab)
-            continue;
-        tab->takeTyped();
-        if (tab->document()->modified() && !m_saver->save(tab))
+        if (tab && hasChanges(*tab) && !m_saver->save(tab))
             return;
     }
 }
@@ -373,8 +377,7 @@ QList<QPointer<DocumentTab>> FileCommands::openAmong(const QList<DocumentTab *> 
 
 bool FileCommands::mayClose(DocumentTab *tab)
 {
-    tab->takeTyped();
-    if (tab->document() && tab->document()->modified())
+    if (hasChanges(*tab))
         m_tabs->setCurrent(tab); // so that the user sees what the question is about
     return m_saver->mayClose(tab);
 }

@@ -92,7 +92,6 @@ ExportDialog::ExportDialog(const QString &path, Subject subject, QWidget *parent
     restore();
     followFile();
     followLevels();
-    followLight();
     measure();
 }
 

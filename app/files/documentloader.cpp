@@ -26,11 +26,9 @@ bool isNetworkUrl(const QUrl &url)
     return url.scheme() == QLatin1String("http") || url.scheme() == QLatin1String("https");
 }
 
-/** What keeps @p json from being read as a document. */
-QString reasonOfText(const QByteArray &json)
+/** What keeps @p json, which was parsed with @p error, from being read as a document. */
+QString reasonOfText(const QByteArray &json, const QJsonParseError &error)
 {
-    QJsonParseError error;
-    QJsonDocument::fromJson(json, &error);
     if (json.isEmpty())
         return DocumentLoader::tr("it is empty");
     if (error.error == QJsonParseError::NoError)
@@ -90,7 +88,10 @@ QString DocumentLoader::reasonOf(const QString &path)
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return file.errorString();
-    return reasonOfText(file.readAll());
+    const QByteArray content = file.readAll();
+    QJsonParseError error;
+    QJsonDocument::fromJson(content, &error);
+    return reasonOfText(content, error);
 }
 
 void DocumentLoader::load(const QString &source)
@@ -147,9 +148,10 @@ void DocumentLoader::readLarge(const QString &path)
         QFile file(path);
         if (file.open(QIODevice::ReadOnly)) {
             const QByteArray content = file.readAll();
-            parsed.json = QJsonDocument::fromJson(content);
+            QJsonParseError error;
+            parsed.json = QJsonDocument::fromJson(content, &error);
             if (parsed.json.isNull())
-                parsed.reason = reasonOfText(content);
+                parsed.reason = reasonOfText(content, error);
         } else {
             parsed.reason = file.errorString();
         }

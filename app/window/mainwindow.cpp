@@ -155,8 +155,10 @@ QDockWidget *MainWindow::addDock(const char *name, const char *title, Qt::DockWi
                                  QWidget *contents)
 {
     auto *const dock = new QDockWidget(this);
-    Language::bind(dock, &QWidget::setWindowTitle, [title] { return tr(title); });
-    Language::bind(dock, [dock] { nameTitleButtons(*dock); });
+    Language::bind(dock, [dock, title] {
+        dock->setWindowTitle(tr(title));
+        nameTitleButtons(*dock);
+    });
     dock->setObjectName(QLatin1String(name));
     dock->setWidget(contents);
     addDockWidget(area, dock);
