@@ -1,0 +1,116 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#include <fishbone/drawing/clearlabel.h>
+
+#include <fishbone/drawing/clearoptions.h>
+
+#include <algorithm>
+#include <utility>
+
+namespace {
+constexpr qreal iconSpace = ClearMeasure::icon + ClearMeasure::iconGap;
+constexpr qreal badgeSpace = 4; ///< between the badge and the text
+} // namespace
+
+ClearLabel::ClearLabel(std::shared_ptr<const ClearText> text, bool hasStatus, bool hasLink,
+                       qreal badgeWidth)
+    : m_text(std::move(text))
+    , m_hasStatus(hasStatus)
+    , m_hasLink(hasLink)
+    , m_badgeWidth(badgeWidth)
+{
+}
+
+/** Whether an icon stands left or right of the text: reading starts where the status is. */
+bool ClearLabel::hasIcon(bool onLeft) const
+{
+    return onLeft != m_text->isRightToLeft() ? m_hasStatus : m_hasLink;
+}
+
+/** The line that has the icon on that side. */
+qreal ClearLabel::iconLineWidth(bool onLeft) const
+{
+    const bool isStatus = onLeft != m_text->isRightToLeft();
+    return isStatus ? m_text->lines().front().width : m_text->lines().back().width;
+}
+
+qreal ClearLabel::width(Side side) const
+{
+    qreal width = m_text->width();
+    if (side == Side::Center) {
+        // The lines are centred on each other, the icons stand beside them.
+        const qreal left = hasIcon(true) ? iconLineWidth(true) / 2 + iconSpace : 0;
+        const qreal right = hasIcon(false) ? iconLineWidth(false) / 2 + iconSpace : 0;
+        return std::max(width / 2, left) + std::max(width / 2, right);
+    }
+    const bool isBoneLeft = side == Side::Left;
+    if (hasIcon(!isBoneLeft)) // beside its own line, at the ragged end
+        width = std::max(width, iconLineWidth(!isBoneLeft) + iconSpace);
+    if (hasIcon(isBoneLeft)) // beside all lines, at the straight end
+        width += iconSpace;
+    return width + (m_badgeWidth > 0 ? m_badgeWidth + badgeSpace : 0);
+}
+
+qreal ClearLabel::anyWidth() const
+{
+    return std::max(width(Side::Left), width(Side::Right));
+}
+
+ClearLabelPlaces ClearLabel::placesAt(const QPointF &anchor, Side side) const
+{
+    ClearLabelPlaces places;
+    const qreal width = m_text->width();
+    const qreal badge = m_badgeWidth > 0 ? m_badgeWidth + badgeSpace : 0;
+    const qreal top = anchor.y() - height() / 2;
+    qreal left = anchor.x();
+    if (side == Side::Center)
+        left += leftShift(side) - this->width(side) / 2;
+    else if (side == Side::Left)
+        left += badge + (hasIcon(true) ? iconSpace : 0);
+    else
+        left -= badge + (hasIcon(false) ? iconSpace : 0) + width;
+    places.text = QRectF(left, top, width, height());
+    const bool isReversed = m_text->isRightToLeft();
+    if (m_hasStatus)
+        places.status = iconRect(places.text, side, !isReversed);
+    if (m_hasLink)
+        places.link = iconRect(places.text, side, isReversed);
+    if (m_badgeWidth > 0 && side != Side::Center) {
+        const qreal x = side == Side::Right ? anchor.x() - m_badgeWidth : anchor.x();
+        places.badge = QRectF(x, anchor.y() - badgeHeight / 2, m_badgeWidth, badgeHeight);
+    }
+    return places;
+}
+
+/** How far the lines of a centred label begin from its left end. */
+qreal ClearLabel::leftShift(Side side) const
+{
+    const qreal half = m_text->width() / 2;
+    if (!hasIcon(true) || side != Side::Center)
+        return 0;
+    return std::max(half, iconLineWidth(true) / 2 + iconSpace) - half;
+}
+
+QRectF ClearLabel::iconRect(const QRectF &text, Side side, bool onLeft) const
+{
+    const bool isStatus = onLeft != m_text->isRightToLeft();
+    const int line = isStatus ? 0 : m_text->lineCount() - 1;
+    const QPointF start = base(*m_text, text, side, line);
+    const qreal lineHeight = m_text->font().lineHeight();
+    const qreal x =
+        onLeft ? start.x() - iconSpace : start.x() + iconLineWidth(false) + ClearMeasure::iconGap;
+    const qreal y = text.top() + (line + 0.5) * lineHeight - ClearMeasure::icon / 2;
+    return QRectF(x, y, ClearMeasure::icon, ClearMeasure::icon);
+}
+
+QPointF ClearLabel::base(const ClearText &text, const QRectF &rect, Side side, int line)
+{
+    const qreal spare = rect.width() - text.lines()[std::size_t(line)].width;
+    qreal x = rect.left();
+    if (side == Side::Right)
+        x += spare;
+    else if (side == Side::Center)
+        x += spare / 2;
+    return {x, rect.top() + line * text.font().lineHeight() + text.font().ascent()};
+}

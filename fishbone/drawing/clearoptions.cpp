@@ -1,0 +1,33 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#include <fishbone/drawing/clearoptions.h>
+
+namespace {
+constexpr qreal smallSize = 11;
+
+ClearFont weighted(QFont like, QFont::Weight weight, qreal pixels)
+{
+    like.setWeight(weight);
+    return ClearFont(like, pixels);
+}
+} // namespace
+
+ClearFonts::ClearFonts(const QFont &like)
+    : m_head(weighted(like, QFont::Bold, ClearMeasure::headSize))
+    , m_category(weighted(like, QFont::Bold, ClearMeasure::categorySize))
+    , m_cause(weighted(like, QFont::Normal, ClearMeasure::causeSize))
+    , m_deep(weighted(like, QFont::Normal, ClearMeasure::deepSize))
+    , m_badge(weighted(like, QFont::Bold, smallSize))
+    , m_legend(weighted(like, QFont::Normal, smallSize))
+{
+}
+
+const ClearFont &ClearFonts::ofLevel(int level) const
+{
+    if (level == 0)
+        return m_head;
+    if (level == 1)
+        return m_category;
+    return level < ClearMeasure::deepLevel ? m_cause : m_deep;
+}

@@ -1,0 +1,259 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#include <fishbone/drawing/clearshapes.h>
+
+#include <algorithm>
+#include <utility>
+
+namespace {
+using ClearMeasure::gap;
+using ClearMeasure::slope;
+
+constexpr qreal margin = 2;       ///< boxes keep twice this apart along the bones
+constexpr qreal stub = 10;        ///< a bone without further ones
+constexpr qreal leafText = 13;    ///< where its text begins
+constexpr qreal textGap = 3;      ///< from the end of a bone to its text
+constexpr qreal pitch = 14;       ///< between two twigs
+constexpr qreal firstReach = 8;   ///< from a bone to what hangs over from its first twig
+constexpr qreal nextReach = 6;    ///< and from one twig to the next
+constexpr qreal beyond = 9;       ///< a level bone goes on behind its last twig
+constexpr qreal slantedPitch = 6; ///< between two joints on a slanted bone
+constexpr qreal backboneHalf = 2; ///< what the backbone takes
+constexpr qreal boxGap = 8;       ///< from the last joint of a category to its box
+constexpr qreal shortestCategory = 40;
+constexpr qreal boxPadding = 7; ///< of a category's box, left and right
+constexpr qreal boxPaddingHigh = 3;
+constexpr qreal otherSideGain = 1; ///< a bone changes sides for more than this
+constexpr qreal unevenFactor = 1.5;
+constexpr qreal half = 0.5;
+} // namespace
+
+ClearShapes::ClearShapes(const ClearTree &tree, const std::vector<ClearLabel> &labels,
+                         const ClearOptions &options)
+    : m_tree(tree)
+    , m_labels(labels)
+    , m_options(options)
+    , m_bones(std::size_t(tree.size()))
+    , m_outlines(std::size_t(tree.size()))
+{
+    decideSides();
+    for (int index = tree.size() - 1; index > 0; --index) {
+        const int level = tree.level(index);
+        if (level == 1)
+            packCategory(index);
+        else if (isSlanted(level))
+            packSlanted(index);
+        else
+            packLevel(index);
+    }
+    settle();
+}
+
+void ClearShapes::decideSides()
+{
+    const ClearTree::Children categories = m_tree.children(0);
+    m_maySwap.resize(std::size_t(m_tree.size()));
+    qreal mean = m_tree.size() - 1 - categories.size();
+    mean /= std::max(categories.size(), 1);
+    for (const int category : categories) {
+        const bool isUneven = m_tree.descendants(category) > unevenFactor * mean;
+        const bool both = m_options.sides == ClearSides::Both ||
+                          (m_options.sides == ClearSides::Uneven && isUneven);
+        std::fill(m_maySwap.begin() + category, m_maySwap.begin() + m_tree.end(category), both);
+    }
+}
+
+bool ClearShapes::usesBothSides(int category) const
+{
+    return m_maySwap[std::size_t(category)];
+}
+
+qreal ClearShapes::labelWidth(int index) const
+{
+    const ClearLabel &label = m_labels[std::size_t(index)];
+    if (m_maySwap[std::size_t(index)])
+        return label.anyWidth();
+    return label.width(m_options.isHeadLeft ? ClearLabel::Side::Left : ClearLabel::Side::Right);
+}
+
+/** The box of a text whose near middle is at that place. */
+ClearBox ClearShapes::textBox(int index, qreal along, qreal across) const
+{
+    const qreal high = m_labels[std::size_t(index)].height() / 2;
+    return {along - high * slope, along + labelWidth(index) + high * slope, across - high,
+            across + high};
+}
+
+ClearOutline ClearShapes::takeOutline(int index)
+{
+    return std::move(m_outlines[std::size_t(index)]);
+}
+
+/** Notes where @p child branches off, seen from its parent. */
+void ClearShapes::place(int child, qreal along, qreal across, bool isMirrored)
+{
+    Bone &bone = m_bones[std::size_t(child)];
+    bone.along = along;
+    bone.across = across;
+    bone.isMirrored = isMirrored;
+}
+
+/** A level bone: its twigs stand so far apart that each passes the text of the one before, and drop
+ * until what is on them is clear of what is further out. That gives a staircase. */
+void ClearShapes::packLevel(int index)
+{
+    const ClearTree::Children children = m_tree.children(index);
+    Bone &bone = m_bones[std::size_t(index)];
+    ClearOutline outline;
+    const qreal lean = m_labels[std::size_t(index)].height() / 2 * slope;
+    std::vector<qreal> places;
+    places.reserve(std::size_t(children.size()));
+    qreal place = 0;
+    for (const int child : children) {
+        const qreal reach = -std::min<qreal>(m_outlines[std::size_t(child)].start(), 0);
+        place += std::max(pitch, reach + (places.empty() ? firstReach : nextReach));
+        places.push_back(place);
+    }
+    bone.length = places.empty() ? stub : place + std::max(beyond, lean);
+    bone.textAlong = places.empty() ? std::max(leafText, lean + textGap) - stub : textGap;
+    outline.add(textBox(index, bone.length + bone.textAlong, 0), margin);
+    outline.add({0, bone.length, -1, 1}, margin);
+    for (int row = children.size() - 1; row >= 0; --row) {
+        const int child = children[row];
+        const qreal along = places[std::size_t(row)];
+        ClearOutline shape = takeOutline(child);
+        const qreal across = std::max<qreal>(0, outline.drop(shape, along, -gap) + gap);
+        outline.stack(std::move(shape), along, across);
+        this->place(child, along, 0);
+        m_bones[std::size_t(child)].lead = across;
+    }
+    m_outlines[std::size_t(index)] = std::move(outline);
+}
+
+/** A slanted bone on a level one: its bones are stacked along it, its own text stands at its end.
+ */
+void ClearShapes::packSlanted(int index)
+{
+    ClearOutline outline;
+    qreal last = 0;
+    const ClearTree::Children children = m_tree.children(index);
+    for (const int child : children) {
+        ClearOutline shape = takeOutline(child);
+        const qreal least = std::max(slantedPitch, last + slantedPitch);
+        last = std::max(least, outline.drop(shape, 0, -1e9) + gap);
+        outline.stack(std::move(shape), 0, last);
+        place(child, 0, last);
+    }
+    Bone &bone = m_bones[std::size_t(index)];
+    const ClearLabel &label = m_labels[std::size_t(index)];
+    const qreal high = label.height() / 2;
+    bone.textAlong =
+        textGap + std::max<qreal>(0, high - label.text()->font().lineHeight() / 2) * slope;
+    ClearOutline text;
+    text.add(textBox(index, bone.textAlong, 0), margin);
+    qreal least = high + textGap;
+    if (children.size())
+        least = std::max(least, last + slantedPitch);
+    bone.length = std::max(least, outline.drop(text, 0, -1e9) + gap);
+    outline.stack(std::move(text), 0, bone.length);
+    outline.add({-half, half, 0, bone.length}, margin);
+    m_outlines[std::size_t(index)] = std::move(outline);
+}
+
+/** The bone of a category: as a slanted one, but on both sides where that is wanted, and with the
+ * title in a box at its far end. */
+void ClearShapes::packCategory(int index)
+{
+    ClearOutline sides[2]; // along the other one grows towards the head
+    const ClearTree::Children children = m_tree.children(index);
+    const bool both = usesBothSides(index);
+    const qreal first = ClearMeasure::causeSize * 1.22 / 2 + gap;
+    qreal last = 0;
+    for (const int child : children) {
+        ClearOutline shape = takeOutline(child);
+        const qreal least = std::max(both ? first : std::max(first, last + slantedPitch),
+                                     backboneHalf - shape.bottom() + gap);
+        const qreal here = std::max(least, sides[0].drop(shape, 0, -1e9) + gap);
+        const qreal there = both ? std::max(least, sides[1].drop(shape, 0, -1e9) + gap) : here;
+        const bool isMirrored = there < here - otherSideGain;
+        const qreal across = isMirrored ? there : here;
+        sides[isMirrored ? 1 : 0].stack(std::move(shape), 0, across);
+        place(child, 0, across, isMirrored);
+        last = std::max(last, across);
+    }
+    Bone &bone = m_bones[std::size_t(index)];
+    const QSizeF size = boxOf(index);
+    const qreal wide = size.width();
+    const qreal lean = size.height() * slope;
+    bone.length = children.size() ? last + boxGap : shortestCategory;
+    for (const bool isMirrored : {false, true}) {
+        ClearOutline box;
+        box.add(isMirrored ? ClearBox{-wide - lean, wide, 0, 1}
+                           : ClearBox{-wide, wide + lean, 0, 1},
+                margin);
+        bone.length = std::max(bone.length, sides[isMirrored].drop(box, 0, -1e9) + gap);
+        m_work += sides[isMirrored].work();
+    }
+}
+
+/** Turns places seen from the parent into places seen from the category. */
+void ClearShapes::settle()
+{
+    for (int index = 1; index < m_tree.size(); ++index) {
+        if (m_tree.level(index) < 2)
+            continue;
+        Bone &bone = m_bones[std::size_t(index)];
+        const Bone &parent = m_bones[std::size_t(m_tree.at(index).parent)];
+        bone.isMirrored = bone.isMirrored || parent.isMirrored;
+        bone.along = parent.along + (bone.isMirrored ? -bone.along : bone.along);
+        // Seen from a slanted bone below a level one, its twig comes first.
+        bone.across += parent.across + parent.lead;
+    }
+}
+
+void ClearShapes::addBoxes(int index, std::vector<ClearBox> &out) const
+{
+    const Bone &bone = m_bones[std::size_t(index)];
+    const auto put = [&](const ClearBox &box) {
+        if (bone.isMirrored)
+            out.push_back({-box.to, -box.from, box.low, box.high});
+        else
+            out.push_back(box);
+    };
+    const qreal along = bone.isMirrored ? -bone.along : bone.along;
+    if (isSlanted(m_tree.level(index))) {
+        const qreal end = bone.across + bone.lead + bone.length;
+        put({along - half, along + half, bone.across, end});
+        put(textBox(index, along + bone.textAlong, end));
+    } else {
+        put({along, along + bone.length, bone.across - 1, bone.across + 1});
+        put(textBox(index, along + bone.length + bone.textAlong, bone.across));
+    }
+}
+
+QSizeF ClearShapes::boxOf(int category) const
+{
+    const ClearLabel &label = m_labels[std::size_t(category)];
+    return {label.width(ClearLabel::Side::Center) / 2 + boxPadding,
+            label.height() + 2 * boxPaddingHigh};
+}
+
+std::vector<ClearBox> ClearShapes::boxes(int category) const
+{
+    std::vector<ClearBox> out;
+    out.reserve(std::size_t(2 * (m_tree.end(category) - category)));
+    const Bone &bone = m_bones[std::size_t(category)];
+    const QSizeF size = boxOf(category);
+    out.push_back({-1, 1, 0, bone.length});
+    out.push_back({-size.width(), size.width() + size.height() * slope, bone.length,
+                   bone.length + size.height()});
+    if (const qreal badge = m_labels[std::size_t(category)].badgeWidth(); badge > 0) {
+        const qreal high = ClearLabel::badgeHeight / 2;
+        const qreal wide = badge / 2 + high * slope;
+        out.push_back({-wide, wide, categoryBadge - high, categoryBadge + high});
+    }
+    for (int index = category + 1; index < m_tree.end(category); ++index)
+        addBoxes(index, out);
+    return out;
+}

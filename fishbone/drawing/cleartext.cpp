@@ -1,0 +1,122 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#include <fishbone/drawing/cleartext.h>
+
+#include <fishbone/drawing/cleartextbreaker.h>
+
+#include <QImage>
+#include <QPainter>
+#include <QTextLayout>
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace {
+constexpr std::size_t textsKept = 4096; ///< below that nothing is forgotten
+constexpr int widthsKept = 50000;
+constexpr qreal veryWide = 1e6;
+constexpr qreal metre = 39.37; ///< inches
+
+QList<QGlyphRun> glyphsOf(const QString &text, const ClearFont &font, bool isRightToLeft)
+{
+    QTextLayout layout(text, font.font(), ClearFont::device());
+    QTextOption option;
+    option.setTextDirection(isRightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
+    option.setAlignment(Qt::AlignLeft | Qt::AlignAbsolute);
+    option.setWrapMode(QTextOption::NoWrap);
+    layout.setTextOption(option);
+    layout.beginLayout();
+    QTextLine line = layout.createLine();
+    line.setLineWidth(veryWide);                  // only then it has an ascent
+    line.setPosition(QPointF(0, -line.ascent())); // the base line at 0
+    layout.endLayout();
+    return line.glyphRuns();
+}
+} // namespace
+
+ClearFont::ClearFont(const QFont &like, qreal pixels)
+    : m_font(like)
+    , m_pixels(pixels)
+{
+    m_font.setPointSizeF(pixels);
+    m_font.setHintingPreference(QFont::PreferNoHinting);
+}
+
+ClearFont ClearFont::onScreen(const QFont &font, qreal dotsPerInch)
+{
+    const qreal pixels =
+        font.pixelSize() > 0 ? font.pixelSize() : font.pointSizeF() * dotsPerInch / 72;
+    return ClearFont(font, pixels);
+}
+
+QPaintDevice *ClearFont::device()
+{
+    static QImage device = [] {
+        QImage image(1, 1, QImage::Format_ARGB32_Premultiplied);
+        const int dots = int(std::lround(72 * metre));
+        image.setDotsPerMeterX(dots);
+        image.setDotsPerMeterY(dots);
+        return image;
+    }();
+    return &device;
+}
+
+ClearText::ClearText(const ClearFont &font, std::vector<Line> lines, bool isRightToLeft, bool isCut)
+    : m_font(font)
+    , m_lines(std::move(lines))
+    , m_isRightToLeft(isRightToLeft)
+    , m_isCut(isCut)
+{
+    for (const Line &line : m_lines)
+        m_width = std::max(m_width, line.width);
+}
+
+void ClearText::paintLine(QPainter &painter, int line, const QPointF &base,
+                          const QColor &color) const
+{
+    if (m_glyphs.empty()) {
+        m_glyphs.reserve(m_lines.size());
+        for (const Line &each : m_lines)
+            m_glyphs.push_back(glyphsOf(each.text, m_font, m_isRightToLeft));
+    }
+    painter.setPen(color);
+    for (const QGlyphRun &run : std::as_const(m_glyphs[std::size_t(line)]))
+        painter.drawGlyphRun(base, run);
+}
+
+int ClearTextCache::indexOf(const ClearFont &font)
+{
+    const auto found = std::find_if(m_fonts.cbegin(), m_fonts.cend(),
+                                    [&](const FontWidths &each) { return each.font == font; });
+    if (found != m_fonts.cend())
+        return int(found - m_fonts.cbegin());
+    m_fonts.push_back({font, {}});
+    return int(m_fonts.size()) - 1;
+}
+
+std::shared_ptr<const ClearText> ClearTextCache::text(const QString &title, const ClearFont &font,
+                                                      const ClearWrap &wrap)
+{
+    const int index = indexOf(font);
+    Entry &entry = m_texts[Key{title, index, wrap}];
+    entry.lastUse = m_use;
+    if (!entry.text) {
+        QHash<QString, qreal> &widths = m_fonts[std::size_t(index)].widths;
+        if (widths.size() > widthsKept)
+            widths.clear();
+        entry.text = ClearTextBreaker(title, font, widths).broken(wrap);
+        ++m_layouts;
+    }
+    return entry.text;
+}
+
+void ClearTextCache::forgetUnused()
+{
+    ++m_use;
+    if (m_texts.size() < textsKept)
+        return;
+    for (auto each = m_texts.begin(); each != m_texts.end();)
+        each = each->second.lastUse < m_use - 1 ? m_texts.erase(each) : std::next(each);
+}
