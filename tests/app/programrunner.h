@@ -15,6 +15,9 @@ namespace ProgramRunner {
 
 constexpr int timeLimit = 30000; ///< milliseconds that the program may take for anything
 
+/** The path of the program. */
+QString program();
+
 struct Outcome
 {
     int code = -1; ///< -1 when the program crashed or took too long
@@ -41,7 +44,7 @@ inline Outcome run(const QStringList &arguments, const QProcessEnvironment &envi
 {
     QProcess process;
     process.setProcessEnvironment(environment);
-    process.start(QStringLiteral(FISHBONE_PROGRAM), arguments);
+    process.start(program(), arguments);
     Outcome outcome;
     if (process.waitForFinished(timeLimit) && process.exitStatus() == QProcess::NormalExit)
         outcome.code = process.exitCode();
@@ -105,7 +108,7 @@ inline Outcome runBesideServer(const QStringList &arguments, const QProcessEnvir
 {
     QProcess process;
     process.setProcessEnvironment(environment);
-    process.start(QStringLiteral(FISHBONE_PROGRAM), arguments);
+    process.start(program(), arguments);
     Outcome outcome;
     if (QTest::qWaitFor([&] { return process.state() == QProcess::NotRunning; }, timeLimit) &&
         process.exitStatus() == QProcess::NormalExit)

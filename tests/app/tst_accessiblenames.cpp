@@ -4,6 +4,7 @@
 #include <tests/app/appfixture.h>
 #include <tests/app/picturesubject.h>
 
+#include <tests/program/testprogram.h>
 #include <tests/support/dialogchecks.h>
 
 #include <fishbone/dialogs/replacefinddialog.h>
@@ -77,5 +78,5 @@ void TestAccessibleNames::shouldNameTheControlsOfDialogs()
     QCOMPARE(TestSupport::namelessControls(*dialog).join(QLatin1String(", ")), QString());
 }
 
-QTEST_MAIN(TestAccessibleNames)
+FISHBONE_TEST(TestAccessibleNames)
 #include "tst_accessiblenames.moc"

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include <tests/app/appfixture.h>
+#include <tests/program/testprogram.h>
 
 #include <app/common/busycursor.h>
 
@@ -135,5 +136,5 @@ void TestBusyCursor::shouldShowThatALargeDiagramIsWorkedOn()
     }
 }
 
-QTEST_MAIN(TestBusyCursor)
+FISHBONE_TEST(TestBusyCursor)
 #include "tst_busycursor.moc"

@@ -6,6 +6,7 @@
 #include <fishbone/model/systemhelper.h>
 #include <fishbone/style/spearstyle.h>
 #include <fishbone/style/spearstyledialog.h>
+#include <tests/program/testprogram.h>
 #include <tests/support/modaldriver.h>
 
 #include <QDir>
@@ -134,5 +135,5 @@ void TestCanvasTheme::shouldShowWhatIsBuiltInWhenAFileIsBroken()
     QCOMPARE(SpearStyle::global()->textCount(), before);
 }
 
-QTEST_MAIN(TestCanvasTheme)
+FISHBONE_TEST(TestCanvasTheme)
 #include "tst_canvastheme.moc"

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include <tests/app/programrunner.h>
+#include <tests/program/testprogram.h>
 
 #include <QImage>
 
@@ -298,5 +299,5 @@ void TestCommandLine::shouldNameAllOptionsInTheHelp()
     QVERIFY(version.match(run({QStringLiteral("--version")}, environment()).out).hasMatch());
 }
 
-QTEST_GUILESS_MAIN(TestCommandLine)
+FISHBONE_GUILESS_TEST(TestCommandLine)
 #include "tst_commandline.moc"

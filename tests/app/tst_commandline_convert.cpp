@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 
 #include <tests/app/programrunner.h>
+#include <tests/program/testprogram.h>
+#include <tests/support/sourcefolder.h>
 
 #include <QImage>
 
@@ -255,7 +257,7 @@ void TestCommandLineConvert::shouldSayAllThatInChinese()
 void TestCommandLineConvert::shouldDescribeEveryOptionInTheManPage()
 {
     QString page =
-        QString::fromUtf8(contentOf(QStringLiteral(FISHBONE_SOURCE_DIR "/docs/fishbone.1")));
+        QString::fromUtf8(contentOf(TestSupport::sourceFile(QStringLiteral("docs/fishbone.1"))));
     page.remove(QLatin1Char('\\'));
     QSet<QString> options;
     for (const QStringList &command : {QStringList(), QStringList{QStringLiteral("convert")},
@@ -271,5 +273,5 @@ void TestCommandLineConvert::shouldDescribeEveryOptionInTheManPage()
         QVERIFY2(page.contains(option), qPrintable(option));
 }
 
-QTEST_GUILESS_MAIN(TestCommandLineConvert)
+FISHBONE_GUILESS_TEST(TestCommandLineConvert)
 #include "tst_commandline_convert.moc"

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include <tests/app/programrunner.h>
+#include <tests/program/testprogram.h>
 
 using namespace ProgramRunner;
 
@@ -221,7 +222,7 @@ void TestCommandLineFailures::shouldGoOnInTheWindowWithoutADocumentThatFails()
     QProcess process;
     process.setProcessEnvironment(offscreen);
     const QString missing = path(QStringLiteral("missing.json"));
-    process.start(QStringLiteral(FISHBONE_PROGRAM), {document(), missing});
+    process.start(ProgramRunner::program(), {document(), missing});
     QString err;
     QVERIFY(QTest::qWaitFor(
         [&] {
@@ -236,5 +237,5 @@ void TestCommandLineFailures::shouldGoOnInTheWindowWithoutADocumentThatFails()
     QVERIFY(process.waitForFinished(timeLimit));
 }
 
-QTEST_GUILESS_MAIN(TestCommandLineFailures)
+FISHBONE_GUILESS_TEST(TestCommandLineFailures)
 #include "tst_commandline_failures.moc"

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 
 #include <tests/app/programrunner.h>
+#include <tests/program/testprogram.h>
+#include <tests/support/sourcefolder.h>
 
 using namespace ProgramRunner;
 
@@ -112,7 +114,7 @@ void TestCommandLineInfo::shouldFindWhatIsOff()
 void TestCommandLineInfo::shouldFindNothingInSoundDiagrams_data()
 {
     QTest::addColumn<QString>("file");
-    const QDir samples(QStringLiteral(FISHBONE_SOURCE_DIR "/samples"));
+    const QDir samples(TestSupport::sourceFile(QStringLiteral("samples")));
     const QStringList names = samples.entryList({QStringLiteral("*.json")});
     QVERIFY(!names.isEmpty());
     for (const QString &name : names)
@@ -192,5 +194,5 @@ void TestCommandLineInfo::shouldShowHelpForTheCommand()
     QVERIFY(!outcome.out.contains(QLatin1String("--to")));
 }
 
-QTEST_GUILESS_MAIN(TestCommandLineInfo)
+FISHBONE_GUILESS_TEST(TestCommandLineInfo)
 #include "tst_commandline_info.moc"

@@ -5,6 +5,7 @@
 #include <app/common/themedicon.h>
 
 #include <fishbone/style/spearstyle.h>
+#include <tests/program/testprogram.h>
 
 #include <QDirIterator>
 #include <QImage>
@@ -209,5 +210,5 @@ void TestContrast::shouldShowTheIconsOfTheActions()
     }
 }
 
-QTEST_MAIN(TestContrast)
+FISHBONE_TEST(TestContrast)
 #include "tst_contrast.moc"

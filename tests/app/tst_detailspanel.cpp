@@ -22,6 +22,7 @@
 #include <fishbone/style/spearstyle.h>
 #include <fishbone/style/spearstyledialog.h>
 
+#include <tests/program/testprogram.h>
 #include <tests/support/dialogchecks.h>
 #include <tests/support/modaldriver.h>
 
@@ -388,5 +389,5 @@ void TestDetailsPanel::shouldOpenOnTheEditorsGestures()
     QCOMPARE(app.widget<QLineEdit>("detailsTitle")->text(), QStringLiteral("Machines"));
 }
 
-QTEST_MAIN(TestDetailsPanel)
+FISHBONE_TEST(TestDetailsPanel)
 #include "tst_detailspanel.moc"

@@ -4,6 +4,7 @@
 #include <app/panels/diagramcounts.h>
 
 #include <tests/app/appfixture.h>
+#include <tests/program/testprogram.h>
 
 /// The label in the status bar, in a window with the diagram of eight subjects.
 class TestDiagramCounts : public QObject
@@ -43,5 +44,5 @@ void TestDiagramCounts::isEmptyWithoutADocument()
     QVERIFY(!app.window.findChild<DiagramCounts *>()->isVisible());
 }
 
-QTEST_MAIN(TestDiagramCounts)
+FISHBONE_TEST(TestDiagramCounts)
 #include "tst_diagramcounts.moc"

@@ -4,6 +4,7 @@
 #include <tests/app/appfixture.h>
 #include <tests/app/dialoganswers.h>
 
+#include <tests/program/testprogram.h>
 #include <tests/support/modaldriver.h>
 
 #include <QClipboard>
@@ -498,5 +499,5 @@ void TestDocumentTabs::shouldLeaveTheDocumentWhenItsFileCannotBeReverted()
     app.window.findChild<QMessageBox *>()->close();
 }
 
-QTEST_MAIN(TestDocumentTabs)
+FISHBONE_TEST(TestDocumentTabs)
 #include "tst_documenttabs.moc"

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include <app/export/drawingprinter.h>
+#include <tests/program/testprogram.h>
 
 #include <QGraphicsRectItem>
 #include <QGraphicsScene>
@@ -164,5 +165,5 @@ void TestDrawingPrinter::printsWhatIsSelectedLikeTheRest()
     QCOMPARE(changes.count(), 0);
 }
 
-QTEST_MAIN(TestDrawingPrinter)
+FISHBONE_TEST(TestDrawingPrinter)
 #include "tst_drawingprinter.moc"

@@ -3,6 +3,7 @@
 
 #include <tests/app/appfixture.h>
 
+#include <tests/program/testprogram.h>
 #include <tests/support/modaldriver.h>
 
 #include <fishbone/items/linkitem.h>
@@ -632,5 +633,5 @@ void TestEditCommands::shouldAnswerTheEditorsGestures()
     QVERIFY(app.text().contains(QLatin1String("Machines[Wear]")));
 }
 
-QTEST_MAIN(TestEditCommands)
+FISHBONE_TEST(TestEditCommands)
 #include "tst_editcommands.moc"

@@ -4,6 +4,7 @@
 #include <tests/app/appfixture.h>
 #include <tests/app/dialoganswers.h>
 
+#include <tests/program/testprogram.h>
 #include <tests/support/modaldriver.h>
 
 #include <app/recovery/recoverystore.h>
@@ -155,5 +156,5 @@ void TestExportCommands::shouldWriteNothingWhenCancelled()
              QStringList(QStringLiteral("late.json")));
 }
 
-QTEST_MAIN(TestExportCommands)
+FISHBONE_TEST(TestExportCommands)
 #include "tst_exportcommands.moc"

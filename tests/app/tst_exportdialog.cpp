@@ -5,6 +5,7 @@
 #include <tests/app/dialoganswers.h>
 #include <tests/app/picturesubject.h>
 
+#include <tests/program/testprogram.h>
 #include <tests/support/modaldriver.h>
 
 #include <app/export/exportdialog.h>
@@ -530,5 +531,5 @@ void TestExportDialog::shouldExportWhatWasShownWhenItBegan()
     QVERIFY(svg.contains(">People<"));
 }
 
-QTEST_MAIN(TestExportDialog)
+FISHBONE_TEST(TestExportDialog)
 #include "tst_exportdialog.moc"

@@ -3,6 +3,7 @@
 
 #include <tests/app/appfixture.h>
 
+#include <tests/program/testprogram.h>
 #include <tests/support/modaldriver.h>
 
 #include <app/common/workprogress.h>
@@ -207,5 +208,5 @@ void TestExportProgress::shouldEndOnEscape()
     QVERIFY(!QApplication::activeModalWidget());
 }
 
-QTEST_MAIN(TestExportProgress)
+FISHBONE_TEST(TestExportProgress)
 #include "tst_exportprogress.moc"

@@ -4,6 +4,7 @@
 #include <tests/app/appfixture.h>
 #include <tests/app/dialoganswers.h>
 
+#include <tests/program/testprogram.h>
 #include <tests/support/modaldriver.h>
 
 #include <app/recovery/recoverystore.h>
@@ -320,5 +321,5 @@ void TestFileCommands::shouldFetchADocument()
     QVERIFY(app.document()->isUntitled()); // there is nowhere to save it to
 }
 
-QTEST_MAIN(TestFileCommands)
+FISHBONE_TEST(TestFileCommands)
 #include "tst_filecommands.moc"

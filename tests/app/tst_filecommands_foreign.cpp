@@ -4,6 +4,7 @@
 #include <tests/app/appfixture.h>
 #include <tests/app/dialoganswers.h>
 
+#include <tests/program/testprogram.h>
 #include <tests/support/modaldriver.h>
 
 #include <app/recovery/recoverystore.h>
@@ -188,5 +189,5 @@ void TestFileCommandsForeign::shouldSayInOneBoxWhatCannotBeOpened()
     QCOMPARE(app.tabCount(), 1);
 }
 
-QTEST_MAIN(TestFileCommandsForeign)
+FISHBONE_TEST(TestFileCommandsForeign)
 #include "tst_filecommands_foreign.moc"

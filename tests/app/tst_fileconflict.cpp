@@ -4,6 +4,7 @@
 #include <tests/app/appfixture.h>
 #include <tests/app/dialoganswers.h>
 
+#include <tests/program/testprogram.h>
 #include <tests/support/modaldriver.h>
 
 #include <app/documents/fileconflict.h>
@@ -335,5 +336,5 @@ void TestFileConflict::shouldNoticeASecondWindow()
     QCOMPARE(app.text().left(8), QStringLiteral("Too late"));
 }
 
-QTEST_MAIN(TestFileConflict)
+FISHBONE_TEST(TestFileConflict)
 #include "tst_fileconflict.moc"

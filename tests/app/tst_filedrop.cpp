@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include <tests/app/appfixture.h>
+#include <tests/program/testprogram.h>
 
 #include <app/files/filedrop.h>
 
@@ -95,5 +96,5 @@ void TestFileDrop::shouldLeaveOtherDragsToTheWidget()
     QVERIFY(!enter.isAccepted());
 }
 
-QTEST_MAIN(TestFileDrop)
+FISHBONE_TEST(TestFileDrop)
 #include "tst_filedrop.moc"

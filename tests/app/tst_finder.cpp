@@ -3,6 +3,7 @@
 
 #include <tests/app/appfixture.h>
 
+#include <tests/program/testprogram.h>
 #include <tests/support/dialogchecks.h>
 #include <tests/support/modaldriver.h>
 
@@ -338,5 +339,5 @@ void TestFinder::shouldNameEveryControl()
     QCOMPARE(TestSupport::namelessControls(*app.dialog), QStringList());
 }
 
-QTEST_MAIN(TestFinder)
+FISHBONE_TEST(TestFinder)
 #include "tst_finder.moc"

@@ -12,7 +12,9 @@
 
 #include <tests/app/appfixture.h>
 #include <tests/app/dialoganswers.h>
+#include <tests/program/testprogram.h>
 #include <tests/support/modaldriver.h>
+#include <tests/support/sourcefolder.h>
 
 #include <QMenu>
 #include <QMenuBar>
@@ -304,7 +306,7 @@ void TestGuide::lightensAndDarkens()
 
 void TestGuide::everyPictureOfTheGuideIsTaken()
 {
-    QFile guide(QStringLiteral(FISHBONE_SOURCE_DIR "/docs/guide/README.md"));
+    QFile guide(TestSupport::sourceFile(QStringLiteral("docs/guide/README.md")));
     QVERIFY(guide.open(QIODevice::ReadOnly));
     const QString text = QString::fromUtf8(guide.readAll());
     static const QRegularExpression reference(QStringLiteral("\\(pictures/([^)]+)\\)"));
@@ -315,10 +317,10 @@ void TestGuide::everyPictureOfTheGuideIsTaken()
     m_taken.sort();
     QCOMPARE(shown, m_taken);
     for (const QString &picture : qAsConst(shown))
-        QVERIFY2(
-            QFile::exists(QStringLiteral(FISHBONE_SOURCE_DIR "/docs/guide/pictures/") + picture),
-            qPrintable(picture));
+        QVERIFY2(QFile::exists(TestSupport::sourceFile(QStringLiteral("docs/guide/pictures/")) +
+                               picture),
+                 qPrintable(picture));
 }
 
-QTEST_MAIN(TestGuide)
+FISHBONE_TEST(TestGuide)
 #include "tst_guide.moc"

@@ -7,6 +7,7 @@
 #include <fishbone/version.h>
 
 #include <tests/app/appfixture.h>
+#include <tests/program/testprogram.h>
 #include <tests/support/modaldriver.h>
 
 #include <QLineEdit>
@@ -103,5 +104,5 @@ void TestHelpCommands::helpIsTheLastMenu()
              QStringLiteral("helpMenu"));
 }
 
-QTEST_MAIN(TestHelpCommands)
+FISHBONE_TEST(TestHelpCommands)
 #include "tst_helpcommands.moc"

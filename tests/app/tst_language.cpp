@@ -11,7 +11,9 @@
 #include <fishbone/undo/attributecommands.h>
 #include <fishbone/undo/structuralcommands.h>
 #include <tests/app/programrunner.h>
+#include <tests/program/testprogram.h>
 #include <tests/support/documents.h>
+#include <tests/support/sourcefolder.h>
 
 #include <QAbstractItemModelTester>
 #include <QJsonArray>
@@ -383,7 +385,7 @@ void TestLanguage::shouldSaveTheSameFileInEveryLanguage_data()
 void TestLanguage::shouldSaveTheSameFileInEveryLanguage()
 {
     const QString sample =
-        QStringLiteral(FISHBONE_SOURCE_DIR "/samples/delivery-delay-zh.fishbone.json");
+        TestSupport::sourceFile(QStringLiteral("samples/delivery-delay-zh.fishbone.json"));
     const QTemporaryDir folder;
     const auto save = [&](const QString &name) {
         FishModel model;
@@ -446,5 +448,5 @@ void TestLanguage::shouldBeTheLanguageOfTheProgram()
     QVERIFY2(output.contains(text), qPrintable(output));
 }
 
-QTEST_MAIN(TestLanguage)
+FISHBONE_TEST(TestLanguage)
 #include "tst_language.moc"

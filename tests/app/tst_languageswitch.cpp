@@ -6,6 +6,7 @@
 #include <app/common/language.h>
 
 #include <tests/app/programrunner.h>
+#include <tests/program/testprogram.h>
 #include <tests/support/shownvalues.h>
 
 #include <fishbone/dialogs/replacefinddialog.h>
@@ -457,7 +458,7 @@ void TestLanguageSwitch::shouldShowTheWindowInTheLanguage()
     environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
     environment.remove(QStringLiteral("LANGUAGE"));
     program.setProcessEnvironment(environment);
-    program.start(QStringLiteral(FISHBONE_PROGRAM),
+    program.start(ProgramRunner::program(),
                   arguments + QStringList{QStringLiteral("/missing.json")});
     QString output;
     const bool hasComplained = QTest::qWaitFor(
@@ -472,5 +473,5 @@ void TestLanguageSwitch::shouldShowTheWindowInTheLanguage()
     QVERIFY(ProgramRunner::contentOf(settings).contains("language=" + chosen.toUtf8() + '\n'));
 }
 
-QTEST_MAIN(TestLanguageSwitch)
+FISHBONE_TEST(TestLanguageSwitch)
 #include "tst_languageswitch.moc"

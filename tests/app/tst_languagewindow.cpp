@@ -3,6 +3,7 @@
 
 #include <tests/app/appfixture.h>
 #include <tests/app/picturesubject.h>
+#include <tests/program/testprogram.h>
 
 #include <app/common/language.h>
 #include <app/window/mainwindow.h>
@@ -333,5 +334,5 @@ void TestLanguageWindow::shouldLeadEachMnemonicOfADialogSomewhere()
     }
 }
 
-QTEST_MAIN(TestLanguageWindow)
+FISHBONE_TEST(TestLanguageWindow)
 #include "tst_languagewindow.moc"

@@ -4,6 +4,7 @@
 #include <tests/app/appfixture.h>
 #include <tests/app/dialoganswers.h>
 
+#include <tests/program/testprogram.h>
 #include <tests/support/modaldriver.h>
 
 #include <app/files/lastdocuments.h>
@@ -136,5 +137,5 @@ void TestLastDocuments::shouldRememberWhereEverythingWas()
     QCOMPARE(next.dockWidgetArea(details), Qt::LeftDockWidgetArea);
 }
 
-QTEST_MAIN(TestLastDocuments)
+FISHBONE_TEST(TestLastDocuments)
 #include "tst_lastdocuments.moc"

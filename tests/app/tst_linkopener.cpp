@@ -5,6 +5,7 @@
 
 #include <fishbone/items/linkitem.h>
 
+#include <tests/program/testprogram.h>
 #include <tests/support/modaldriver.h>
 
 #include <QDesktopServices>
@@ -143,5 +144,5 @@ void TestLinkOpener::shouldAskBeforeOtherLinks()
     QCOMPARE(desktop.opened, answer == QMessageBox::Open ? QStringList(link) : QStringList());
 }
 
-QTEST_MAIN(TestLinkOpener)
+FISHBONE_TEST(TestLinkOpener)
 #include "tst_linkopener.moc"

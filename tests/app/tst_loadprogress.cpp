@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include <tests/app/appfixture.h>
+#include <tests/program/testprogram.h>
 
 #include <app/files/documentloader.h>
 
@@ -222,5 +223,5 @@ void TestLoadProgress::shouldEndWhileALargeFileIsRead()
     AppFixture::settle(); // nothing comes for a window that is gone
 }
 
-QTEST_MAIN(TestLoadProgress)
+FISHBONE_TEST(TestLoadProgress)
 #include "tst_loadprogress.moc"

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include <tests/app/appfixture.h>
+#include <tests/program/testprogram.h>
 
 #include <QMenuBar>
 #include <QStatusBar>
@@ -259,5 +260,5 @@ void TestMainWindow::shouldKeepTheLookOfADocumentThatIsLeft()
     QVERIFY(!app.subject("Material")->spear()->isExpand());
 }
 
-QTEST_MAIN(TestMainWindow)
+FISHBONE_TEST(TestMainWindow)
 #include "tst_mainwindow.moc"

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include <tests/app/appfixture.h>
+#include <tests/program/testprogram.h>
 
 #include <QMenu>
 #include <QMenuBar>
@@ -68,5 +69,5 @@ void TestMenuKeys::shouldWalkFromMenuToMenu()
     QTest::keyClick(second, Qt::Key_Escape);
 }
 
-QTEST_MAIN(TestMenuKeys)
+FISHBONE_TEST(TestMenuKeys)
 #include "tst_menukeys.moc"

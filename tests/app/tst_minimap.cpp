@@ -4,6 +4,7 @@
 #include <app/panels/minimap.h>
 
 #include <tests/app/appfixture.h>
+#include <tests/program/testprogram.h>
 
 #include <QScrollBar>
 
@@ -157,5 +158,5 @@ void TestMinimap::staysWhenItsSessionGoes()
     QTest::mouseClick(&map, Qt::LeftButton);
 }
 
-QTEST_MAIN(TestMinimap)
+FISHBONE_TEST(TestMinimap)
 #include "tst_minimap.moc"

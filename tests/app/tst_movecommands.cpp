@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include <tests/app/appfixture.h>
+#include <tests/program/testprogram.h>
 
 class TestMoveCommands : public QObject
 {
@@ -149,5 +150,5 @@ void TestMoveCommands::shouldNeedABone()
         QVERIFY2(!app.action(name)->isEnabled(), name); // it is not clear which one
 }
 
-QTEST_MAIN(TestMoveCommands)
+FISHBONE_TEST(TestMoveCommands)
 #include "tst_movecommands.moc"

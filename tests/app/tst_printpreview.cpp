@@ -4,6 +4,7 @@
 #include <app/export/printpreview.h>
 
 #include <tests/app/appfixture.h>
+#include <tests/program/testprogram.h>
 #include <tests/support/modaldriver.h>
 
 #include <QComboBox>
@@ -142,5 +143,5 @@ void TestPrintPreview::isOffWithoutADocument()
     QVERIFY(!app.window.findChild<QAction *>(QStringLiteral("printPreview"))->isEnabled());
 }
 
-QTEST_MAIN(TestPrintPreview)
+FISHBONE_TEST(TestPrintPreview)
 #include "tst_printpreview.moc"

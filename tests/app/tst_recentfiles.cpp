@@ -4,6 +4,7 @@
 #include <tests/app/appfixture.h>
 #include <tests/app/dialoganswers.h>
 
+#include <tests/program/testprogram.h>
 #include <tests/support/modaldriver.h>
 
 #include <app/files/recentfiles.h>
@@ -170,5 +171,5 @@ void TestRecentFiles::shouldShowLongPathsShortened()
     QVERIFY2(text.endsWith(QLatin1String("/a.json")), qPrintable(text));
 }
 
-QTEST_MAIN(TestRecentFiles)
+FISHBONE_TEST(TestRecentFiles)
 #include "tst_recentfiles.moc"

@@ -4,6 +4,7 @@
 #include <tests/app/appfixture.h>
 #include <tests/app/dialoganswers.h>
 
+#include <tests/program/testprogram.h>
 #include <tests/support/modaldriver.h>
 
 #include <app/recovery/recoverycopy.h>
@@ -313,7 +314,7 @@ void TestRecoveryCommands::shouldOfferItFromTheMenu()
     QVERIFY(driver.isDone());
 }
 
-int main(int argc, char **argv)
+static int run(int argc, char *argv[])
 {
     const QApplication application(argc, argv);
     const QStringList arguments = QApplication::arguments();
@@ -325,4 +326,5 @@ int main(int argc, char **argv)
     return QTest::qExec(&test, arguments);
 }
 
+FISHBONE_TEST_MAIN(run)
 #include "tst_recoverycommands.moc"

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include <tests/app/appfixture.h>
+#include <tests/program/testprogram.h>
 
 #include <app/recovery/recoverycopy.h>
 #include <app/recovery/recoverystore.h>
@@ -230,5 +231,5 @@ void TestRecoveryCopy::shouldSayThatTheCopyCannotBeWritten()
     QVERIFY(!status->text().contains(QLatin1String("failed")));
 }
 
-QTEST_MAIN(TestRecoveryCopy)
+FISHBONE_TEST(TestRecoveryCopy)
 #include "tst_recoverycopy.moc"

@@ -3,6 +3,7 @@
 
 #include <app/recovery/recoverymodel.h>
 #include <app/recovery/recoverystore.h>
+#include <tests/program/testprogram.h>
 
 #include <QAbstractItemModelTester>
 #include <QDir>
@@ -176,5 +177,5 @@ void TestRecoveryStore::shouldListCopiesWithPictures()
     QCOMPARE(shown(0, RecoveryModel::Name), QStringLiteral("broken.json"));
 }
 
-QTEST_MAIN(TestRecoveryStore)
+FISHBONE_TEST(TestRecoveryStore)
 #include "tst_recoverystore.moc"

@@ -3,6 +3,7 @@
 
 #include <app/panels/stringlisteditor.h>
 
+#include <tests/program/testprogram.h>
 #include <tests/support/dialogchecks.h>
 
 #include <QLineEdit>
@@ -159,5 +160,5 @@ void TestStringListEditor::shouldNameItsControls()
     QCOMPARE(TestSupport::accessibleName(f.button("+")), QStringLiteral("Add: New name"));
 }
 
-QTEST_MAIN(TestStringListEditor)
+FISHBONE_TEST(TestStringListEditor)
 #include "tst_stringlisteditor.moc"

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include <tests/app/appfixture.h>
+#include <tests/program/testprogram.h>
 
 #include <QClipboard>
 #include <QLineEdit>
@@ -226,5 +227,5 @@ void TestSubjectClipboard::shouldLeaveTextFieldsTheirClipboard()
     QTest::qWait(300);
 }
 
-QTEST_MAIN(TestSubjectClipboard)
+FISHBONE_TEST(TestSubjectClipboard)
 #include "tst_subjectclipboard.moc"

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include <tests/app/appfixture.h>
+#include <tests/program/testprogram.h>
 
 #include <QTreeView>
 
@@ -50,5 +51,5 @@ void TestSubjectTree::shouldShowTheIconOfASelectedRow()
     QVERIFY(pixelsOfIcon(*view, row, color) > dozens);
 }
 
-QTEST_MAIN(TestSubjectTree)
+FISHBONE_TEST(TestSubjectTree)
 #include "tst_subjecttree.moc"

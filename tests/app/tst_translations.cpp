@@ -9,6 +9,9 @@
 
 #include <algorithm>
 
+#include <tests/program/testprogram.h>
+#include <tests/support/sourcefolder.h>
+
 namespace {
 
 /// One text of a translation file.
@@ -48,7 +51,8 @@ Text readMessage(QXmlStreamReader &xml, const QString &context)
 /// The texts of translations/fishbone_<language>.ts.
 QVector<Text> readTexts(const QString &language)
 {
-    QFile file(QStringLiteral(FISHBONE_SOURCE_DIR "/translations/fishbone_%1.ts").arg(language));
+    QFile file(
+        TestSupport::sourceFile(QStringLiteral("translations/fishbone_%1.ts")).arg(language));
     if (!file.open(QIODevice::ReadOnly))
         return {};
     QXmlStreamReader xml(&file);
@@ -208,5 +212,5 @@ void TestTranslations::shouldTranslateTheLibraryAndTheProgram()
         QVERIFY2(contexts.contains(QLatin1String(name)), name);
 }
 
-QTEST_GUILESS_MAIN(TestTranslations)
+FISHBONE_GUILESS_TEST(TestTranslations)
 #include "tst_translations.moc"

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include <tests/app/appfixture.h>
+#include <tests/program/testprogram.h>
 
 #include <app/panels/subjectproxymodel.h>
 
@@ -381,5 +382,5 @@ void TestTreeSync::shouldLayOutOnceForManyRemovedRows()
     QCOMPARE(app.window.tree()->selectedSubjects(), QModelIndexList{app.find("Machines")});
 }
 
-QTEST_MAIN(TestTreeSync)
+FISHBONE_TEST(TestTreeSync)
 #include "tst_treesync.moc"

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include <tests/app/appfixture.h>
+#include <tests/program/testprogram.h>
 
 #include <QInputMethodEvent>
 #include <QLineEdit>
@@ -193,5 +194,5 @@ void TestTypedTitle::shouldBuildADiagramByKeyboardAlone()
     QCOMPARE(app.text(), QStringLiteral("slow[rooms[winter[cold]],tools]"));
 }
 
-QTEST_MAIN(TestTypedTitle)
+FISHBONE_TEST(TestTypedTitle)
 #include "tst_typedtitle.moc"

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include <tests/app/appfixture.h>
+#include <tests/program/testprogram.h>
 
 #include <QListWidget>
 
@@ -176,5 +177,5 @@ void TestUndoHistory::shouldGoOnUndoingBeyondTheBound()
     QCOMPARE(list->currentRow(), list->count() - 2);
 }
 
-QTEST_MAIN(TestUndoHistory)
+FISHBONE_TEST(TestUndoHistory)
 #include "tst_undohistory.moc"

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include <tests/app/appfixture.h>
+#include <tests/program/testprogram.h>
 
 #include <app/common/canvastheme.h>
 
@@ -239,5 +240,5 @@ void TestViewCommands::shouldFillTheScreenAndComeBack()
     QCOMPARE(app.window.size(), before);
 }
 
-QTEST_MAIN(TestViewCommands)
+FISHBONE_TEST(TestViewCommands)
 #include "tst_viewcommands.moc"

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 
 #include <tests/app/appfixture.h>
+#include <tests/program/testprogram.h>
+#include <tests/support/sourcefolder.h>
 
 #include <fishbone/exchange/pictureexport.h>
 #include <fishbone/items/textitem.h>
@@ -101,7 +103,7 @@ void TestWalkCommands::shouldReachEveryVisibleBone_data()
 
     QTest::newRow("small") << QString() << 0;
     QTest::newRow("small, rotated") << QString() << 90;
-    const QDir samples(QStringLiteral(FISHBONE_SOURCE_DIR "/samples"));
+    const QDir samples(TestSupport::sourceFile(QStringLiteral("samples")));
     const QStringList names = samples.entryList({QStringLiteral("*.json")});
     QVERIFY(!names.isEmpty());
     for (const QString &name : names)
@@ -214,5 +216,5 @@ void TestWalkCommands::shouldFitTheDrawingWithHome()
     QVERIFY(view->viewport()->rect().contains(view->mapFromScene(drawing).boundingRect()));
 }
 
-QTEST_MAIN(TestWalkCommands)
+FISHBONE_TEST(TestWalkCommands)
 #include "tst_walkcommands.moc"

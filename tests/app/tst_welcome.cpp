@@ -4,6 +4,7 @@
 #include <app/files/welcome.h>
 
 #include <tests/app/appfixture.h>
+#include <tests/program/testprogram.h>
 
 #include <QSettings>
 
@@ -114,5 +115,5 @@ void TestWelcome::namesKeysThatWork()
     QVERIFY(app.window.findChild<QAction *>(action)->shortcuts().contains(key));
 }
 
-QTEST_MAIN(TestWelcome)
+FISHBONE_TEST(TestWelcome)
 #include "tst_welcome.moc"

@@ -3,6 +3,7 @@
 
 #include <fishbone/dialogs/replacefinddialog.h>
 #include <tests/dialogs/replacefindparts.h>
+#include <tests/program/testprogram.h>
 #include <tests/support/messagebox.h>
 
 #include <QCheckBox>
@@ -398,5 +399,5 @@ void tst_ReplaceFindDialog::shouldTranslateEveryText()
     QCOMPARE(message.text, QStringLiteral("[Not found key word x.]"));
 }
 
-QTEST_MAIN(tst_ReplaceFindDialog)
+FISHBONE_TEST(tst_ReplaceFindDialog)
 #include "tst_replacefinddialog.moc"

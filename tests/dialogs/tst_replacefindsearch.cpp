@@ -3,6 +3,7 @@
 
 #include <fishbone/dialogs/replacefinddialog.h>
 #include <tests/dialogs/replacefindparts.h>
+#include <tests/program/testprogram.h>
 #include <tests/support/messagebox.h>
 
 #include <QCheckBox>
@@ -320,5 +321,5 @@ void tst_ReplaceFindSearch::shouldForgetAModelThatDies()
     QVERIFY(!warned);
 }
 
-QTEST_MAIN(tst_ReplaceFindSearch)
+FISHBONE_TEST(tst_ReplaceFindSearch)
 #include "tst_replacefindsearch.moc"

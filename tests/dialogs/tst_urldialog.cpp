@@ -3,6 +3,7 @@
 
 #include <fishbone/dialogs/urldialog.h>
 #include <tests/dialogs/urldialogparts.h>
+#include <tests/program/testprogram.h>
 #include <tests/support/messagebox.h>
 
 #include <QLineEdit>
@@ -297,5 +298,5 @@ void tst_URLDialog::shouldTranslateEveryText()
     QVERIFY(message.text.startsWith(QStringLiteral("[Failed to open missing/a\n")));
 }
 
-QTEST_MAIN(tst_URLDialog)
+FISHBONE_TEST(tst_URLDialog)
 #include "tst_urldialog.moc"

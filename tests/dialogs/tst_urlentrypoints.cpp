@@ -3,6 +3,7 @@
 
 #include <fishbone/dialogs/urldialog.h>
 #include <tests/dialogs/urldialogparts.h>
+#include <tests/program/testprogram.h>
 #include <tests/support/modaldriver.h>
 
 #include <QLineEdit>
@@ -155,5 +156,5 @@ void tst_UrlEntryPoints::shouldStartLinkingOnTheGivenUrl()
     QCOMPARE(selected, url);
 }
 
-QTEST_MAIN(tst_UrlEntryPoints)
+FISHBONE_TEST(tst_UrlEntryPoints)
 #include "tst_urlentrypoints.moc"

@@ -3,6 +3,7 @@
 
 #include <fishbone/dialogs/urldialog.h>
 #include <tests/dialogs/urldialogparts.h>
+#include <tests/program/testprogram.h>
 #include <tests/support/messagebox.h>
 
 #include <QtTest>
@@ -333,5 +334,5 @@ void tst_UrlHistory::shouldLeaveNothingElseInTheFolder()
     QCOMPARE(m_folder->entries(), QStringList{QStringLiteral("moraine2.urllist")});
 }
 
-QTEST_MAIN(tst_UrlHistory)
+FISHBONE_TEST(tst_UrlHistory)
 #include "tst_urlhistory.moc"

@@ -8,6 +8,7 @@
 #include <fishbone/editor/accessiblebone.h>
 #include <fishbone/editor/accessiblediagram.h>
 #include <fishbone/items/textitem.h>
+#include <tests/program/testprogram.h>
 #include <tests/support/editorfixture.h>
 
 using namespace TestSupport;
@@ -302,5 +303,5 @@ void TestAccessibleBone::shouldSurviveTheEndOfTheEditorByItsSelection()
     QVERIFY(!ending.editor);
 }
 
-QTEST_MAIN(TestAccessibleBone)
+FISHBONE_TEST(TestAccessibleBone)
 #include "tst_accessiblebone.moc"

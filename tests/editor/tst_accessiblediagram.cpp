@@ -9,6 +9,7 @@
 #include <fishbone/items/taskstatusinfo.h>
 #include <fishbone/items/textitem.h>
 #include <fishbone/undo/undostack.h>
+#include <tests/program/testprogram.h>
 #include <tests/support/dialogchecks.h>
 #include <tests/support/editorfixture.h>
 
@@ -708,5 +709,5 @@ void TestAccessibleDiagram::shouldListManyBones()
         QCOMPARE(f.head()->indexOfChild(f.head()->child(row)), row);
 }
 
-QTEST_MAIN(TestAccessibleDiagram)
+FISHBONE_TEST(TestAccessibleDiagram)
 #include "tst_accessiblediagram.moc"

@@ -7,6 +7,7 @@
 
 #include <memory>
 
+#include <tests/program/testprogram.h>
 #include <tests/support/drawingtext.h>
 #include <tests/support/editorfixture.h>
 
@@ -326,5 +327,5 @@ void TestFishEditorBinding::shouldDieBeforeAModelBelowIt()
     QVERIFY(!model);
 }
 
-QTEST_MAIN(TestFishEditorBinding)
+FISHBONE_TEST(TestFishEditorBinding)
 #include "tst_fisheditor_binding.moc"

@@ -4,6 +4,7 @@
 #include <QtTest>
 
 #include <fishbone/items/linkitem.h>
+#include <tests/program/testprogram.h>
 #include <tests/support/drawingtext.h>
 #include <tests/support/editorfixture.h>
 #include <tests/support/signalrecorder.h>
@@ -378,5 +379,5 @@ void TestFishEditorBuilding::shouldGiveTheLinkOfANewSubtreeToTheHead()
     QVERIFY(fish.spear(QStringLiteral("Other"))->linkItem());
 }
 
-QTEST_MAIN(TestFishEditorBuilding)
+FISHBONE_TEST(TestFishEditorBuilding)
 #include "tst_fisheditor_building.moc"

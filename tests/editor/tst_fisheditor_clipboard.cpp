@@ -5,6 +5,7 @@
 #include <QtTest>
 
 #include <fishbone/undo/undostack.h>
+#include <tests/program/testprogram.h>
 #include <tests/support/editorfixture.h>
 #include <tests/support/signalrecorder.h>
 
@@ -242,5 +243,5 @@ void tst_FishEditorClipboard::shouldLeaveThePlaceholdersWithoutEffect()
     QCOMPARE(treeOf(fixture), document);
 }
 
-QTEST_MAIN(tst_FishEditorClipboard)
+FISHBONE_TEST(tst_FishEditorClipboard)
 #include "tst_fisheditor_clipboard.moc"

@@ -13,6 +13,7 @@
 
 #include <fishbone/items/expanditem.h>
 #include <fishbone/undo/undostack.h>
+#include <tests/program/testprogram.h>
 #include <tests/support/drawingtext.h>
 #include <tests/support/editorfixture.h>
 #include <tests/support/signalrecorder.h>
@@ -352,5 +353,5 @@ void TestFishEditorConstruction::shouldAutosaveNothingWithoutADocument()
     QVERIFY(!QFile::exists(folder));
 }
 
-QTEST_MAIN(TestFishEditorConstruction)
+FISHBONE_TEST(TestFishEditorConstruction)
 #include "tst_fisheditor_construction.moc"

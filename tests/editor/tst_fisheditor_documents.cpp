@@ -6,6 +6,7 @@
 #include <QtTest>
 
 #include <fishbone/undo/undostack.h>
+#include <tests/program/testprogram.h>
 #include <tests/support/drawingtext.h>
 #include <tests/support/editorfixture.h>
 #include <tests/support/signalrecorder.h>
@@ -431,5 +432,5 @@ void TestFishEditorDocuments::shouldSurviveTheDeathOfItsSpears()
     useEverything(fish.editor);
 }
 
-QTEST_MAIN(TestFishEditorDocuments)
+FISHBONE_TEST(TestFishEditorDocuments)
 #include "tst_fisheditor_documents.moc"

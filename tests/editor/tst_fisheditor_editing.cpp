@@ -9,6 +9,7 @@
 #include <fishbone/style/spearstyle.h>
 #include <fishbone/style/spearstyledialog.h>
 #include <fishbone/undo/undostack.h>
+#include <tests/program/testprogram.h>
 #include <tests/support/editorfixture.h>
 #include <tests/support/modaldriver.h>
 #include <tests/support/signalrecorder.h>
@@ -437,5 +438,5 @@ void tst_FishEditorEditing::shouldKeepUndoingBeyondTheBoundWhenRolling()
     QCOMPARE(fixture.model.rowCount(head), 24);
 }
 
-QTEST_MAIN(tst_FishEditorEditing)
+FISHBONE_TEST(tst_FishEditorEditing)
 #include "tst_fisheditor_editing.moc"

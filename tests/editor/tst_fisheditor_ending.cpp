@@ -6,6 +6,7 @@
 
 #include <functional>
 
+#include <tests/program/testprogram.h>
 #include <tests/support/editorfixture.h>
 
 using namespace TestSupport;
@@ -173,5 +174,5 @@ void TestFishEditorEnding::shouldSurviveAListenerThatEndsIt()
     QCOMPARE(SpearItem::m_refCount, 0);
 }
 
-QTEST_MAIN(TestFishEditorEnding)
+FISHBONE_TEST(TestFishEditorEnding)
 #include "tst_fisheditor_ending.moc"

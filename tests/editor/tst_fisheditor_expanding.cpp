@@ -3,6 +3,7 @@
 
 #include <QtTest>
 
+#include <tests/program/testprogram.h>
 #include <tests/support/drawingtext.h>
 #include <tests/support/editorfixture.h>
 #include <tests/support/signalrecorder.h>
@@ -168,5 +169,5 @@ void TestFishEditorExpanding::shouldExcludeItemsBelowOthers()
     QCOMPARE(items, QList<QGraphicsItem *>({spear("Effect")}));
 }
 
-QTEST_MAIN(TestFishEditorExpanding)
+FISHBONE_TEST(TestFishEditorExpanding)
 #include "tst_fisheditor_expanding.moc"

@@ -6,6 +6,7 @@
 #include <cmath>
 #include <limits>
 
+#include <tests/program/testprogram.h>
 #include <tests/support/editorfixture.h>
 #include <tests/support/signalrecorder.h>
 
@@ -350,5 +351,5 @@ void TestFishEditorFitting::shouldStayForASubjectThatHasNoSpear()
     QCOMPARE(look(fish.editor), before);
 }
 
-QTEST_MAIN(TestFishEditorFitting)
+FISHBONE_TEST(TestFishEditorFitting)
 #include "tst_fisheditor_fitting.moc"

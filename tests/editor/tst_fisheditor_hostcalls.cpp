@@ -9,6 +9,7 @@
 #include <fishbone/items/spearfactory.h>
 #include <fishbone/items/textitem.h>
 #include <fishbone/undo/undostack.h>
+#include <tests/program/testprogram.h>
 #include <tests/support/editorfixture.h>
 
 using namespace TestSupport;
@@ -277,5 +278,5 @@ void TestFishEditorHostCalls::shouldKeepTheScaleForARectangleBeyondNumbers()
     QCOMPARE(fish.editor.view()->transform(), before);
 }
 
-QTEST_MAIN(TestFishEditorHostCalls)
+FISHBONE_TEST(TestFishEditorHostCalls)
 #include "tst_fisheditor_hostcalls.moc"

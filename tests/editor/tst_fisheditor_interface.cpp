@@ -7,6 +7,7 @@
 #include <fishbone/editor/fisheditor.h>
 #include <fishbone/editor/fishscene.h>
 #include <fishbone/editor/graphicsview.h>
+#include <tests/program/testprogram.h>
 #include <tests/support/editorfixture.h>
 #include <tests/support/metatypes.h>
 #include <tests/support/signalrecorder.h>
@@ -229,5 +230,5 @@ void TestFishEditorInterface::shouldNeverSayThatContentsChanged()
     QCOMPARE(recorder.take(), QString());
 }
 
-QTEST_MAIN(TestFishEditorInterface)
+FISHBONE_TEST(TestFishEditorInterface)
 #include "tst_fisheditor_interface.moc"

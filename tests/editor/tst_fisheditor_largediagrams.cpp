@@ -6,6 +6,7 @@
 #include <ctime>
 #include <functional>
 
+#include <tests/program/testprogram.h>
 #include <tests/support/largefish.h>
 
 using namespace TestSupport;
@@ -181,5 +182,5 @@ void TestFishEditorLargeDiagrams::shouldTakeLinearTime()
              qPrintable(QStringLiteral("%1 s, then %2 s").arg(small).arg(large)));
 }
 
-QTEST_MAIN(TestFishEditorLargeDiagrams)
+FISHBONE_TEST(TestFishEditorLargeDiagrams)
 #include "tst_fisheditor_largediagrams.moc"

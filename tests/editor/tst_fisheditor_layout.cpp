@@ -3,6 +3,7 @@
 
 #include <QtTest>
 
+#include <tests/program/testprogram.h>
 #include <tests/support/drawingtext.h>
 #include <tests/support/editorfixture.h>
 
@@ -299,5 +300,5 @@ void TestFishEditorLayout::shouldRebuildWhenAsked()
     QVERIFY(!fish.spear(QStringLiteral("Man"))->isExpand());
 }
 
-QTEST_MAIN(TestFishEditorLayout)
+FISHBONE_TEST(TestFishEditorLayout)
 #include "tst_fisheditor_layout.moc"

@@ -6,6 +6,7 @@
 #include <fishbone/style/spearstyledialog.h>
 #include <fishbone/undo/undostack.h>
 #include <tests/dialogs/urldialogparts.h>
+#include <tests/program/testprogram.h>
 #include <tests/support/editorfixture.h>
 #include <tests/support/modaldriver.h>
 
@@ -220,5 +221,5 @@ void TestFishEditorLinking::shouldSurviveItsOwnEndWhileAStyleIsEdited()
     QVERIFY(nodeTitled(model, QStringLiteral("Man"))->spearStyle());
 }
 
-QTEST_MAIN(TestFishEditorLinking)
+FISHBONE_TEST(TestFishEditorLinking)
 #include "tst_fisheditor_linking.moc"

@@ -5,6 +5,7 @@
 #include <QtTest>
 
 #include <fishbone/undo/undostack.h>
+#include <tests/program/testprogram.h>
 #include <tests/support/editorfixture.h>
 #include <tests/support/signalrecorder.h>
 
@@ -301,5 +302,5 @@ void tst_FishEditorMoving::shouldFollowTheTargetOfADropToItsPlace()
     QCOMPARE(recorder.take(), QStringLiteral("changeTaskParent([u-C], u-B, 0)"));
 }
 
-QTEST_MAIN(tst_FishEditorMoving)
+FISHBONE_TEST(tst_FishEditorMoving)
 #include "tst_fisheditor_moving.moc"

@@ -9,6 +9,7 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include <tests/program/testprogram.h>
 #include <tests/support/editorfixture.h>
 #include <tests/support/modaldriver.h>
 
@@ -183,5 +184,5 @@ void TestFishEditorPrinting::shouldSurviveItsOwnEndWhileTheDialogIsOpen()
     QVERIFY(!editor);
 }
 
-QTEST_MAIN(TestFishEditorPrinting)
+FISHBONE_TEST(TestFishEditorPrinting)
 #include "tst_fisheditor_printing.moc"

@@ -9,6 +9,7 @@
 
 #include <fishbone/items/textitem.h>
 #include <fishbone/undo/undostack.h>
+#include <tests/program/testprogram.h>
 #include <tests/support/commandfixture.h>
 #include <tests/support/editorfixture.h>
 #include <tests/support/orphans.h>
@@ -335,5 +336,5 @@ void tst_FishEditorRandomEditing::shouldStayInStepThroughAnyEdit()
     }
 }
 
-QTEST_MAIN(tst_FishEditorRandomEditing)
+FISHBONE_TEST(tst_FishEditorRandomEditing)
 #include "tst_fisheditor_randomediting.moc"

@@ -5,6 +5,7 @@
 #include <QtTest>
 
 #include <tests/editor/referencelayout.h>
+#include <tests/program/testprogram.h>
 #include <tests/support/drawingtext.h>
 #include <tests/support/editorfixture.h>
 
@@ -339,5 +340,5 @@ void TestFishEditorRandomLayout::shouldDrawEditedDiagramsByTheFormulas()
     QCOMPARE(drawingText(fish.editor.headSpear()), drawn);
 }
 
-QTEST_MAIN(TestFishEditorRandomLayout)
+FISHBONE_TEST(TestFishEditorRandomLayout)
 #include "tst_fisheditor_randomlayout.moc"

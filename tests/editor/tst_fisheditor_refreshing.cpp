@@ -7,6 +7,7 @@
 
 #include <fishbone/items/linkitem.h>
 #include <fishbone/items/taskstatusitem.h>
+#include <tests/program/testprogram.h>
 #include <tests/support/drawingtext.h>
 #include <tests/support/editorfixture.h>
 
@@ -304,5 +305,5 @@ void TestFishEditorRefreshing::shouldPutRightWhatWasChangedByHand()
     QApplication::setFont(font);
 }
 
-QTEST_MAIN(TestFishEditorRefreshing)
+FISHBONE_TEST(TestFishEditorRefreshing)
 #include "tst_fisheditor_refreshing.moc"

@@ -6,6 +6,7 @@
 
 #include <fishbone/undo/structuralcommands.h>
 #include <fishbone/undo/undostack.h>
+#include <tests/program/testprogram.h>
 #include <tests/support/commandfixture.h>
 #include <tests/support/drawingtext.h>
 #include <tests/support/editorfixture.h>
@@ -418,5 +419,5 @@ void TestSeveralFishEditors::shouldNotKeepAHeadWhoseSubjectComesBackIntoTheOther
     QCOMPARE(spearFault(pair.model), QString());
 }
 
-QTEST_MAIN(TestSeveralFishEditors)
+FISHBONE_TEST(TestSeveralFishEditors)
 #include "tst_fisheditor_several.moc"

@@ -6,6 +6,7 @@
 #include <QtTest>
 
 #include <fishbone/undo/undostack.h>
+#include <tests/program/testprogram.h>
 #include <tests/support/editorfixture.h>
 #include <tests/support/signalrecorder.h>
 
@@ -249,5 +250,5 @@ void tst_FishEditorTasks::shouldReportADoubleClickOnTheSelectedSpear()
     QCOMPARE(recorder.take(), QString());
 }
 
-QTEST_MAIN(tst_FishEditorTasks)
+FISHBONE_TEST(tst_FishEditorTasks)
 #include "tst_fisheditor_tasks.moc"

@@ -7,6 +7,7 @@
 #include <cmath>
 #include <limits>
 
+#include <tests/program/testprogram.h>
 #include <tests/support/editorfixture.h>
 #include <tests/support/signalrecorder.h>
 
@@ -248,5 +249,5 @@ void TestFishEditorViewport::shouldAskToEditADoubleClickedSubject()
     QCOMPARE(recorder.take(), expected);
 }
 
-QTEST_MAIN(TestFishEditorViewport)
+FISHBONE_TEST(TestFishEditorViewport)
 #include "tst_fisheditor_viewport.moc"

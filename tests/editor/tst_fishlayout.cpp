@@ -8,6 +8,7 @@
 #include <fishbone/items/linkitem.h>
 #include <fishbone/items/spearitem.h>
 #include <fishbone/items/textitem.h>
+#include <tests/program/testprogram.h>
 #include <tests/support/drawingtext.h>
 
 using namespace TestSupport;
@@ -326,5 +327,5 @@ void TestFishLayout::shouldNoticeNoSpearsThatComeLater()
     QCOMPARE(late->offset(), 60.0);
 }
 
-QTEST_MAIN(TestFishLayout)
+FISHBONE_TEST(TestFishLayout)
 #include "tst_fishlayout.moc"

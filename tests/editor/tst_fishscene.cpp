@@ -8,6 +8,7 @@
 #include <QtTest>
 
 #include <fishbone/editor/fishscene.h>
+#include <tests/program/testprogram.h>
 
 class TestFishScene : public QObject
 {
@@ -205,5 +206,5 @@ void TestFishScene::shouldNotHandleItsSelectionByItself()
     QCOMPARE(fixture.selection().size(), 3);
 }
 
-QTEST_MAIN(TestFishScene)
+FISHBONE_TEST(TestFishScene)
 #include "tst_fishscene.moc"

@@ -6,6 +6,7 @@
 
 #include <fishbone/items/linkitem.h>
 #include <tests/editor/movingstage.h>
+#include <tests/program/testprogram.h>
 #include <tests/support/modaldriver.h>
 
 using namespace TestSupport;
@@ -285,5 +286,5 @@ void TestGraphicsView::shouldBeginNoMoveWhenThePressOpensADialog()
     QCOMPARE(stage.takeMoves(), QString());
 }
 
-QTEST_MAIN(TestGraphicsView)
+FISHBONE_TEST(TestGraphicsView)
 #include "tst_graphicsview.moc"

@@ -8,6 +8,7 @@
 #include <QTreeView>
 #include <QtTest>
 
+#include <tests/program/testprogram.h>
 #include <tests/support/editorfixture.h>
 #include <tests/support/pictures.h>
 #include <tests/support/signalrecorder.h>
@@ -383,5 +384,5 @@ void tst_GraphicsViewDrag::shouldPaintTheSameInPiecesAsInFullDuringADrag()
     QCOMPARE(difference(inPieces, shownPicture(view), clipRounding), QString());
 }
 
-QTEST_MAIN(tst_GraphicsViewDrag)
+FISHBONE_TEST(tst_GraphicsViewDrag)
 #include "tst_graphicsview_drag.moc"

@@ -7,6 +7,7 @@
 #include <fishbone/items/linkitem.h>
 #include <fishbone/items/textitem.h>
 #include <tests/editor/referencelayout.h>
+#include <tests/program/testprogram.h>
 #include <tests/support/drawingtext.h>
 #include <tests/support/editorfixture.h>
 #include <tests/support/signalrecorder.h>
@@ -427,5 +428,5 @@ void TestGraphicsViewEvents::shouldShowChildrenThatWereMadeJustNow()
     QVERIFY(stage.spear(QStringLiteral("Train"))->isVisible());
 }
 
-QTEST_MAIN(TestGraphicsViewEvents)
+FISHBONE_TEST(TestGraphicsViewEvents)
 #include "tst_graphicsview_events.moc"

@@ -6,6 +6,7 @@
 #include <QTimer>
 #include <QtTest>
 
+#include <tests/program/testprogram.h>
 #include <tests/support/editorfixture.h>
 #include <tests/support/viewmouse.h>
 
@@ -145,5 +146,5 @@ void TestGraphicsViewHost::shouldRunNoEntryThatTheHostAdds()
     QCOMPARE(treeToText(*fish.info->treeItem()->childAtIndex(0)), document);
 }
 
-QTEST_MAIN(TestGraphicsViewHost)
+FISHBONE_TEST(TestGraphicsViewHost)
 #include "tst_graphicsview_host.moc"

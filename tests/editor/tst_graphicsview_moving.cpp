@@ -5,6 +5,7 @@
 
 #include <fishbone/items/textitem.h>
 #include <tests/editor/movingstage.h>
+#include <tests/program/testprogram.h>
 
 #include <limits>
 
@@ -316,5 +317,5 @@ void TestGraphicsViewMoving::shouldPutEverythingBackWithoutATarget()
     QVERIFY(!stage.info->modified());
 }
 
-QTEST_MAIN(TestGraphicsViewMoving)
+FISHBONE_TEST(TestGraphicsViewMoving)
 #include "tst_graphicsview_moving.moc"

@@ -9,6 +9,7 @@
 #include <QWheelEvent>
 #include <QtTest>
 
+#include <tests/program/testprogram.h>
 #include <tests/support/editorfixture.h>
 #include <tests/support/signalrecorder.h>
 
@@ -194,5 +195,5 @@ void tst_GraphicsViewTouch::shouldIgnoreOtherGestures()
     QCOMPARE(fixture.editor.zoomValue(), 400);
 }
 
-QTEST_MAIN(tst_GraphicsViewTouch)
+FISHBONE_TEST(tst_GraphicsViewTouch)
 #include "tst_graphicsview_touch.moc"

@@ -10,6 +10,7 @@
 #include <fishbone/dialogs/replacefinddialog.h>
 #include <fishbone/items/svgcache.h>
 #include <fishbone/model/fishproxymodel.h>
+#include <tests/program/testprogram.h>
 #include <tests/support/largefish.h>
 
 using namespace TestSupport;
@@ -249,5 +250,5 @@ void TestOperationCounts::shouldParseNoPictureForMoreSubjects()
     QCOMPARE(parsedSvgFileCount(), parsed);
 }
 
-QTEST_MAIN(TestOperationCounts)
+FISHBONE_TEST(TestOperationCounts)
 #include "tst_operationcounts.moc"

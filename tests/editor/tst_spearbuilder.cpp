@@ -8,6 +8,7 @@
 #include <fishbone/items/expanditem.h>
 #include <fishbone/items/linkitem.h>
 #include <fishbone/items/spearitem.h>
+#include <tests/program/testprogram.h>
 #include <tests/support/documents.h>
 #include <tests/support/drawingtext.h>
 
@@ -272,5 +273,5 @@ void TestSpearBuilder::shouldReplaceTheIconOfAnotherLink()
     QCOMPARE(linkOf(man), QStringLiteral("none"));
 }
 
-QTEST_MAIN(TestSpearBuilder)
+FISHBONE_TEST(TestSpearBuilder)
 #include "tst_spearbuilder.moc"

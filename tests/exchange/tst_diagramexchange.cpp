@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include <tests/exchange/exchangefixture.h>
+#include <tests/program/testprogram.h>
 
 #include <QBuffer>
 #include <QElapsedTimer>
@@ -516,5 +517,5 @@ void TestDiagramExchange::shouldTakeTimeInProportionToTheSize()
     QVERIFY2(many < 35 * some, qPrintable(QStringLiteral("%1 s, %2 s").arg(some).arg(many)));
 }
 
-QTEST_GUILESS_MAIN(TestDiagramExchange)
+FISHBONE_GUILESS_TEST(TestDiagramExchange)
 #include "tst_diagramexchange.moc"

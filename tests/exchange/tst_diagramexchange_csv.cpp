@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include <tests/exchange/exchangefixture.h>
+#include <tests/program/testprogram.h>
 
 #include <QtTest>
 
@@ -265,5 +266,5 @@ void TestDiagramExchangeCsv::shouldGiveRowsAUuidToBeFoundBy()
     QCOMPARE(head->uuid(), QString()); // writing changes nothing
 }
 
-QTEST_GUILESS_MAIN(TestDiagramExchangeCsv)
+FISHBONE_GUILESS_TEST(TestDiagramExchangeCsv)
 #include "tst_diagramexchange_csv.moc"

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 
 #include <tests/exchange/exchangefixture.h>
+#include <tests/program/testprogram.h>
+#include <tests/support/sourcefolder.h>
 
 #include <fishbone/style/spearstyle.h>
 
@@ -18,7 +20,7 @@ namespace {
 /// What docs/formats.md says: for each attribute, the ids of the formats that keep it.
 QMap<QString, QStringList> documentedTable()
 {
-    QFile file(QStringLiteral(FISHBONE_SOURCE_DIR "/docs/formats.md"));
+    QFile file(TestSupport::sourceFile(QStringLiteral("docs/formats.md")));
     if (!file.open(QIODevice::ReadOnly))
         return {};
     QMap<QString, QStringList> table;
@@ -156,7 +158,7 @@ void TestDiagramExchangeKeeping::shouldKeepEverythingTwice()
 {
     QFETCH(Format, format);
     FishModel model;
-    QFile sample(QStringLiteral(FISHBONE_SOURCE_DIR "/samples/checkout-outage.fishbone.json"));
+    QFile sample(TestSupport::sourceFile(QStringLiteral("samples/checkout-outage.fishbone.json")));
     QVERIFY(sample.open(QIODevice::ReadOnly));
     const Imported original = imported(sample.readAll(), Format::Json);
     QVERIFY2(original.head, qPrintable(original.error));
@@ -168,5 +170,5 @@ void TestDiagramExchangeKeeping::shouldKeepEverythingTwice()
     QCOMPARE(exported(*once.head, format), exported(*original.head, format));
 }
 
-QTEST_MAIN(TestDiagramExchangeKeeping)
+FISHBONE_TEST(TestDiagramExchangeKeeping)
 #include "tst_diagramexchange_keeping.moc"

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include <tests/exchange/exchangefixture.h>
+#include <tests/program/testprogram.h>
 
 #include <QtTest>
 
@@ -237,5 +238,5 @@ void TestDiagramExchangeOutlines::shouldRefuseMermaidWithoutItsHeader()
              QStringLiteral("line %1: the diagram does not begin with \"ishikawa\"").arg(line));
 }
 
-QTEST_GUILESS_MAIN(TestDiagramExchangeOutlines)
+FISHBONE_GUILESS_TEST(TestDiagramExchangeOutlines)
 #include "tst_diagramexchange_outlines.moc"

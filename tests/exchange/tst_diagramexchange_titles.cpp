@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include <tests/exchange/exchangefixture.h>
+#include <tests/program/testprogram.h>
 
 #include <QElapsedTimer>
 #include <QRandomGenerator>
@@ -326,5 +327,5 @@ void TestDiagramExchangeTitles::shouldTakeTitlesOfAnyLengthInProportion()
     QVERIFY2(timer.elapsed() < 20000, qPrintable(QString::number(timer.elapsed())));
 }
 
-QTEST_GUILESS_MAIN(TestDiagramExchangeTitles)
+FISHBONE_GUILESS_TEST(TestDiagramExchangeTitles)
 #include "tst_diagramexchange_titles.moc"

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include <tests/exchange/exchangefixture.h>
+#include <tests/program/testprogram.h>
 
 #include <QElapsedTimer>
 #include <QXmlStreamReader>
@@ -381,5 +382,5 @@ void TestDiagramExchangeXml::shouldWriteWhatMindMapsKnow()
                         "</map>\n"));
 }
 
-QTEST_GUILESS_MAIN(TestDiagramExchangeXml)
+FISHBONE_GUILESS_TEST(TestDiagramExchangeXml)
 #include "tst_diagramexchange_xml.moc"

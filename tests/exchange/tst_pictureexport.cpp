@@ -9,6 +9,7 @@
 #include <fishbone/model/treeitem.h>
 
 #include <tests/exchange/picturefixture.h>
+#include <tests/program/testprogram.h>
 
 #include <QGraphicsTextItem>
 #include <QImage>
@@ -436,5 +437,5 @@ void TestPictureExport::shouldReplaceAFileWhole()
     QCOMPARE(QDir(folder.path()).entryList(QDir::Files), QStringList(QStringLiteral("a.svg")));
 }
 
-QTEST_MAIN(TestPictureExport)
+FISHBONE_TEST(TestPictureExport)
 #include "tst_pictureexport.moc"

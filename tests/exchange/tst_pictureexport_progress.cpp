@@ -5,6 +5,7 @@
 #include <fishbone/editor/fishscene.h>
 #include <fishbone/exchange/pictureexport.h>
 #include <fishbone/model/fishmodel.h>
+#include <tests/program/testprogram.h>
 
 #include <QFile>
 #include <QGraphicsBlurEffect>
@@ -312,5 +313,5 @@ void TestPictureExportProgress::shouldRefuseAnSvgThatIsTooLarge()
     QCOMPARE(questions, 0);
 }
 
-QTEST_MAIN(TestPictureExportProgress)
+FISHBONE_TEST(TestPictureExportProgress)
 #include "tst_pictureexport_progress.moc"

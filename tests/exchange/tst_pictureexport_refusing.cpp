@@ -4,6 +4,7 @@
 #include <fishbone/exchange/pictureexport.h>
 
 #include <tests/exchange/picturefixture.h>
+#include <tests/program/testprogram.h>
 
 #include <QDir>
 #include <QTemporaryDir>
@@ -172,5 +173,5 @@ void TestPictureExportRefusing::shouldReportATargetThatCannotBeWritten()
     QVERIFY(!QFile::exists(folder.filePath(QStringLiteral("missing"))));
 }
 
-QTEST_MAIN(TestPictureExportRefusing)
+FISHBONE_TEST(TestPictureExportRefusing)
 #include "tst_pictureexport_refusing.moc"

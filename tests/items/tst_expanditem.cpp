@@ -9,6 +9,7 @@
 #include <fishbone/items/spearfactory.h>
 #include <fishbone/items/textitem.h>
 #include <tests/items/boneparts.h>
+#include <tests/program/testprogram.h>
 #include <tests/support/drawing.h>
 #include <tests/support/editorfixture.h>
 
@@ -494,5 +495,5 @@ void TestExpandItem::shouldShowTheHandWhileHovered()
     QVERIFY(!button->hasCursor());
 }
 
-QTEST_MAIN(TestExpandItem)
+FISHBONE_TEST(TestExpandItem)
 #include "tst_expanditem.moc"

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include <fishbone/items/hovercursor.h>
+#include <tests/program/testprogram.h>
 
 #include <QGraphicsRectItem>
 #include <QGraphicsScene>
@@ -125,5 +126,5 @@ void TestHoverCursor::shouldLeaveTheItemsOwnCursorAlone()
     QVERIFY(!scenery.item.hasCursor());
 }
 
-QTEST_MAIN(TestHoverCursor)
+FISHBONE_TEST(TestHoverCursor)
 #include "tst_hovercursor.moc"

@@ -8,6 +8,7 @@
 #include <QtTest>
 
 #include <fishbone/items/spearitem.h>
+#include <tests/program/testprogram.h>
 #include <tests/support/drawing.h>
 
 using namespace TestSupport;
@@ -262,5 +263,5 @@ void TestLinkItem::shouldOpenOnceWhenTheReleaseGetsLost()
     QCOMPARE(m_opened.count(), 1);
 }
 
-QTEST_MAIN(TestLinkItem)
+FISHBONE_TEST(TestLinkItem)
 #include "tst_linkitem.moc"

@@ -9,6 +9,7 @@
 
 #include <fishbone/items/spearitem.h>
 #include <fishbone/items/taskstatusitem.h>
+#include <tests/program/testprogram.h>
 #include <tests/support/documents.h>
 
 using namespace TestSupport;
@@ -153,5 +154,5 @@ void TestSpearFactory::shouldUnlinkTheSpearThatTheSubjectHad()
     QCOMPARE(nodeTitled(*m_model, QStringLiteral("Man"))->spear(), spear.get());
 }
 
-QTEST_MAIN(TestSpearFactory)
+FISHBONE_TEST(TestSpearFactory)
 #include "tst_spearfactory.moc"

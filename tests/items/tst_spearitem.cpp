@@ -11,6 +11,7 @@
 #include <fishbone/items/svgcache.h>
 #include <fishbone/items/taskstatusitem.h>
 #include <fishbone/items/textitem.h>
+#include <tests/program/testprogram.h>
 #include <tests/support/drawing.h>
 #include <tests/support/pictures.h>
 #include <tests/support/statelooks.h>
@@ -391,5 +392,5 @@ void TestSpearItem::shouldUpdateTheToolTipWhenTheMouseEnters()
     QCOMPARE(spear->toolTip(), QStringLiteral("Man\n 负责人:Li"));
 }
 
-QTEST_MAIN(TestSpearItem)
+FISHBONE_TEST(TestSpearItem)
 #include "tst_spearitem.moc"

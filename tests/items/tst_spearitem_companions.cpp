@@ -4,6 +4,7 @@
 // The part of SpearItem that concerns the link icon and the expand button that it is given.
 
 #include <fishbone/items/spearitem.h>
+#include <tests/program/testprogram.h>
 
 #include <QGraphicsRectItem>
 #include <QGraphicsScene>
@@ -249,5 +250,5 @@ void TestSpearItemCompanions::shouldPlaceACompanionAtOnce()
     QCOMPARE(link->pos(), QPointF(-100 - halves, 0));
 }
 
-QTEST_MAIN(TestSpearItemCompanions)
+FISHBONE_TEST(TestSpearItemCompanions)
 #include "tst_spearitem_companions.moc"

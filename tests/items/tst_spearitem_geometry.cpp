@@ -10,6 +10,7 @@
 #include <QtTest>
 
 #include <tests/items/boneparts.h>
+#include <tests/program/testprogram.h>
 #include <tests/support/drawing.h>
 #include <tests/support/statelooks.h>
 
@@ -215,5 +216,5 @@ void TestSpearItemGeometry::shouldBeAsHighAsItsText()
     }
 }
 
-QTEST_MAIN(TestSpearItemGeometry)
+FISHBONE_TEST(TestSpearItemGeometry)
 #include "tst_spearitem_geometry.moc"

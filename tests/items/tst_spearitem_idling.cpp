@@ -10,6 +10,7 @@
 #include <QtTest>
 
 #include <tests/items/shownbones.h>
+#include <tests/program/testprogram.h>
 #include <tests/support/drawing.h>
 #include <tests/support/editorfixture.h>
 #include <tests/support/pictures.h>
@@ -114,5 +115,5 @@ void TestSpearItemIdling::shouldPaintATextWithoutASpearOnce()
     QCOMPARE(paints.count, 1);
 }
 
-QTEST_MAIN(TestSpearItemIdling)
+FISHBONE_TEST(TestSpearItemIdling)
 #include "tst_spearitem_idling.moc"

@@ -9,6 +9,7 @@
 #include <QtTest>
 
 #include <fishbone/items/taskstatusitem.h>
+#include <tests/program/testprogram.h>
 #include <tests/support/drawing.h>
 #include <tests/support/pictures.h>
 
@@ -365,5 +366,5 @@ void TestSpearItemLinks::shouldLeaveTheLinksOfOthersAlone()
     drawing.node(machine)->setSpear(nullptr, QModelIndex());
 }
 
-QTEST_MAIN(TestSpearItemLinks)
+FISHBONE_TEST(TestSpearItemLinks)
 #include "tst_spearitem_links.moc"

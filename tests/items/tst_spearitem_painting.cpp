@@ -10,6 +10,7 @@
 #include <QtTest>
 
 #include <fishbone/items/textitem.h>
+#include <tests/program/testprogram.h>
 #include <tests/support/drawing.h>
 #include <tests/support/pictures.h>
 #include <tests/support/statelooks.h>
@@ -446,5 +447,5 @@ void TestSpearItemPainting::shouldNotDrawItsText()
     QCOMPARE(pixelsOf(picture, lookOf(SpearStyle::ssSelected).background), 0);
 }
 
-QTEST_MAIN(TestSpearItemPainting)
+FISHBONE_TEST(TestSpearItemPainting)
 #include "tst_spearitem_painting.moc"

@@ -13,6 +13,7 @@
 #include <fishbone/items/taskstatusitem.h>
 #include <fishbone/items/textitem.h>
 #include <tests/items/boneparts.h>
+#include <tests/program/testprogram.h>
 #include <tests/support/drawing.h>
 #include <tests/support/statelooks.h>
 
@@ -420,5 +421,5 @@ void TestSpearItemPositions::shouldStayBelowALinkedParentWhenPlacedAgain()
     QCOMPARE(spear->line(), line);
 }
 
-QTEST_MAIN(TestSpearItemPositions)
+FISHBONE_TEST(TestSpearItemPositions)
 #include "tst_spearitem_positions.moc"

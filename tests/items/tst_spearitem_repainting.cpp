@@ -12,6 +12,7 @@
 #include <QtTest>
 
 #include <tests/items/shownbones.h>
+#include <tests/program/testprogram.h>
 #include <tests/support/drawing.h>
 #include <tests/support/editorfixture.h>
 #include <tests/support/pictures.h>
@@ -299,5 +300,5 @@ void TestSpearItemRepainting::shouldForgetTheMouseWhenItLeavesItsScene()
     QCOMPARE(spear->currentState(), SpearStyle::ssNormal);
 }
 
-QTEST_MAIN(TestSpearItemRepainting)
+FISHBONE_TEST(TestSpearItemRepainting)
 #include "tst_spearitem_repainting.moc"

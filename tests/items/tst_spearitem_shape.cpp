@@ -11,6 +11,7 @@
 
 #include <fishbone/items/textitem.h>
 #include <tests/items/boneparts.h>
+#include <tests/program/testprogram.h>
 
 using namespace BoneParts;
 
@@ -304,5 +305,5 @@ void TestSpearItemShape::shouldBeHitAsHeaderOnLineAndPictures()
     QVERIFY(!shape.contains(QPointF(-200, -3)));
 }
 
-QTEST_MAIN(TestSpearItemShape)
+FISHBONE_TEST(TestSpearItemShape)
 #include "tst_spearitem_shape.moc"

@@ -8,6 +8,7 @@
 #include <QTextDocument>
 #include <QtTest>
 
+#include <tests/program/testprogram.h>
 #include <tests/support/drawing.h>
 #include <tests/support/pictures.h>
 #include <tests/support/statelooks.h>
@@ -349,5 +350,5 @@ void TestSpearItemStyle::shouldFollowTheStateBeforeItIsPainted()
     QCOMPARE(spear->currentState(), SpearStyle::ssNormal);
 }
 
-QTEST_MAIN(TestSpearItemStyle)
+FISHBONE_TEST(TestSpearItemStyle)
 #include "tst_spearitem_style.moc"

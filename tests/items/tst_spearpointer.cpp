@@ -7,6 +7,7 @@
 #include <QtTest>
 
 #include <fishbone/items/spearitem.h>
+#include <tests/program/testprogram.h>
 
 class TestSpearPointer : public QObject
 {
@@ -131,5 +132,5 @@ void TestSpearPointer::shouldBeMadeOfASpearThatHadPointersBefore()
     QCOMPARE(pointer.get(), nullptr);
 }
 
-QTEST_MAIN(TestSpearPointer)
+FISHBONE_TEST(TestSpearPointer)
 #include "tst_spearpointer.moc"

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include <fishbone/items/svgcache.h>
+#include <tests/program/testprogram.h>
 
 #include <QApplication>
 #include <QSvgRenderer>
@@ -179,7 +180,7 @@ void TestSvgCache::shouldMakePixelsOfAnyNumberOfSizes()
     QCOMPARE(screenPicture(expandFile(), {20, 20}).toImage(), first);
 }
 
-int main(int argc, char *argv[])
+static int run(int argc, char *argv[])
 {
     {
         const QApplication application(argc, argv);
@@ -192,4 +193,5 @@ int main(int argc, char *argv[])
     TestSvgCache test;
     return QTest::qExec(&test, argc, argv);
 }
+FISHBONE_TEST_MAIN(run)
 #include "tst_svgcache.moc"

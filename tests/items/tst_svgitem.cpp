@@ -11,6 +11,7 @@
 #include <QtTest>
 
 #include <fishbone/items/svgcache.h>
+#include <tests/program/testprogram.h>
 #include <tests/support/drawing.h>
 #include <tests/support/pictures.h>
 
@@ -385,5 +386,5 @@ void TestSvgItem::shouldAcceptHoverWhenMadeWithAFile()
     QVERIFY(SvgItem(QString()).acceptHoverEvents());
 }
 
-QTEST_MAIN(TestSvgItem)
+FISHBONE_TEST(TestSvgItem)
 #include "tst_svgitem.moc"

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include <fishbone/items/taskstatusinfo.h>
+#include <tests/program/testprogram.h>
 
 #include <QFile>
 #include <QtTest>
@@ -360,6 +361,6 @@ void TestTaskStatusInfo::shouldHaveAnIconForEveryIdentifierButUnknown()
     }
 }
 
-QTEST_GUILESS_MAIN(TestTaskStatusInfo)
+FISHBONE_GUILESS_TEST(TestTaskStatusInfo)
 
 #include "tst_taskstatusinfo.moc"

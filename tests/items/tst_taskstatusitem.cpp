@@ -8,6 +8,7 @@
 #include <QtTest>
 
 #include <fishbone/items/spearitem.h>
+#include <tests/program/testprogram.h>
 #include <tests/support/drawing.h>
 #include <tests/support/pictures.h>
 
@@ -238,5 +239,5 @@ void TestTaskStatusItem::shouldPaintDifferentPicturesForDifferentProgress()
     QVERIFY(!difference(fifth, tenth).isEmpty());
 }
 
-QTEST_MAIN(TestTaskStatusItem)
+FISHBONE_TEST(TestTaskStatusItem)
 #include "tst_taskstatusitem.moc"

@@ -9,6 +9,7 @@
 #include <QtTest>
 
 #include <fishbone/items/spearitem.h>
+#include <tests/program/testprogram.h>
 #include <tests/support/drawing.h>
 #include <tests/support/pictures.h>
 #include <tests/support/statelooks.h>
@@ -276,5 +277,5 @@ void TestTextItem::shouldKeepTheSmallestTextInADrawing()
     QVERIFY(buffer.data().contains("Cause"));
 }
 
-QTEST_MAIN(TestTextItem)
+FISHBONE_TEST(TestTextItem)
 #include "tst_textitem.moc"

@@ -8,6 +8,7 @@
 #include <QtTest>
 
 #include <fishbone/items/spearitem.h>
+#include <tests/program/testprogram.h>
 #include <tests/support/drawing.h>
 #include <tests/support/pictures.h>
 #include <tests/support/statelooks.h>
@@ -268,5 +269,5 @@ void TestTextItemPainting::shouldUseDefaultsWithoutASpear()
     QCOMPARE(canvas.colorAt(picture, left + QPointF(1.5, 0)), nothing());
 }
 
-QTEST_MAIN(TestTextItemPainting)
+FISHBONE_TEST(TestTextItemPainting)
 #include "tst_textitem_painting.moc"

@@ -4,8 +4,10 @@
 #include <fishbone/style/spearstyle.h>
 #include <fishbone/undo/undostack.h>
 
+#include <tests/program/testprogram.h>
 #include <tests/support/documents.h>
 #include <tests/support/editorfixture.h>
+#include <tests/support/sourcefolder.h>
 
 #include <QDir>
 #include <QFile>
@@ -50,7 +52,7 @@ QString mistakes(const QStringList &files)
 {
     QProcess validator;
     validator.setProcessChannelMode(QProcess::MergedChannels);
-    validator.start(QStringLiteral(FISHBONE_SOURCE_DIR "/scripts/validate-documents"), files);
+    validator.start(TestSupport::sourceFile(QStringLiteral("scripts/validate-documents")), files);
     if (!validator.waitForFinished() || validator.exitStatus() != QProcess::NormalExit)
         return QStringLiteral("The validator did not run: ") + validator.errorString();
     const QString output = QString::fromUtf8(validator.readAll());
@@ -113,7 +115,7 @@ void tst_DocumentSchema::initTestCase()
 void tst_DocumentSchema::shouldFitWhatIsLoadedAndSaved()
 {
     FishModel model;
-    const QStringList samples = filesIn(QStringLiteral(FISHBONE_SOURCE_DIR "/samples"));
+    const QStringList samples = filesIn(TestSupport::sourceFile(QStringLiteral("samples")));
     QVERIFY(samples.size() >= 5);
     for (const QString &sample : samples)
         QCOMPARE(model.loadFishFromFile(sample), int(MODEL_NO_ERROR));
@@ -255,5 +257,5 @@ void tst_DocumentSchema::shouldFindAMistake()
         mistakes({file(QStringLiteral("broken.json"))}).contains(QLatin1String("broken.json: /")));
 }
 
-QTEST_MAIN(tst_DocumentSchema)
+FISHBONE_TEST(tst_DocumentSchema)
 #include "tst_documentschema.moc"

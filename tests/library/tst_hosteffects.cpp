@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Fishbone authors
 // SPDX-License-Identifier: MIT
 
+#include <tests/program/testprogram.h>
 #include <tests/support/editorfixture.h>
 
 #include <fishbone/dialogs/replacefinddialog.h>
@@ -154,5 +155,5 @@ void tst_HostEffects::shouldStayHiddenUntilTheHostShowsIt()
         QVERIFY2(!window->isVisible(), window->metaObject()->className());
 }
 
-QTEST_MAIN(tst_HostEffects)
+FISHBONE_TEST(tst_HostEffects)
 #include "tst_hosteffects.moc"

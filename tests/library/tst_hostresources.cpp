@@ -7,6 +7,7 @@
 
 #include <fishbone/items/spearitem.h>
 #include <fishbone/model/fishmodel.h>
+#include <tests/program/testprogram.h>
 #include <tests/support/pictures.h>
 
 using namespace TestSupport;
@@ -79,5 +80,5 @@ void TestHostResources::shouldDoWithoutPicturesAndTemplate()
     QVERIFY(image.pixelColor(QPoint(150, 40)) != QColor(Qt::white)); // the backbone
 }
 
-QTEST_MAIN(TestHostResources)
+FISHBONE_TEST(TestHostResources)
 #include "tst_hostresources.moc"

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 
 #include <fishbone/version.h>
+#include <tests/program/testprogram.h>
+#include <tests/support/sourcefolder.h>
 
 #include <QFile>
 #include <QRegularExpression>
@@ -21,7 +23,7 @@ private Q_SLOTS:
 
 void tst_Version::shouldBeTheVersionOfTheProject()
 {
-    QFile file(QStringLiteral(FISHBONE_SOURCE_DIR "/CMakeLists.txt"));
+    QFile file(TestSupport::sourceFile(QStringLiteral("CMakeLists.txt")));
     QVERIFY(file.open(QIODevice::ReadOnly));
     const QRegularExpression declaration(QStringLiteral("^project\\(Fishbone VERSION ([0-9.]+) "),
                                          QRegularExpression::MultilineOption);
@@ -48,5 +50,5 @@ void tst_Version::shouldCompareAsANumber()
                                     FISHBONE_VERSION_PATCH));
 }
 
-QTEST_APPLESS_MAIN(tst_Version)
+FISHBONE_APPLESS_TEST(tst_Version)
 #include "tst_version.moc"

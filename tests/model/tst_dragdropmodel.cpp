@@ -6,6 +6,7 @@
 #include <fishbone/model/fishmodel.h>
 #include <fishbone/model/treeitem.h>
 
+#include <tests/program/testprogram.h>
 #include <tests/support/documents.h>
 
 #include <QDataStream>
@@ -298,6 +299,6 @@ void TestDragDropModel::shouldReadManyRecordsInTime()
     QCOMPARE(model.indexList(mime.get()), indexes);
 }
 
-QTEST_MAIN(TestDragDropModel)
+FISHBONE_TEST(TestDragDropModel)
 
 #include "tst_dragdropmodel.moc"

@@ -13,6 +13,7 @@
 #include <unistd.h>
 
 #include <fishbone/model/filereplacement.h>
+#include <tests/program/testprogram.h>
 
 namespace {
 
@@ -257,5 +258,5 @@ void tst_FileReplacement::shouldWriteADeviceInPlace()
     QVERIFY(!replaceFile(QStringLiteral("/dev/full"), "content").isEmpty());
 }
 
-QTEST_GUILESS_MAIN(tst_FileReplacement)
+FISHBONE_GUILESS_TEST(tst_FileReplacement)
 #include "tst_filereplacement.moc"

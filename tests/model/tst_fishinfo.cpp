@@ -6,6 +6,7 @@
 #include <fishbone/model/fishmodel.h>
 #include <fishbone/model/treeitem.h>
 
+#include <tests/program/testprogram.h>
 #include <tests/support/documents.h>
 
 #include <QDir>
@@ -261,6 +262,6 @@ void TestFishInfo::shouldCountNoneWithoutHead()
     QCOMPARE(info.noParentNodeCount(), 0);
 }
 
-QTEST_MAIN(TestFishInfo)
+FISHBONE_TEST(TestFishInfo)
 
 #include "tst_fishinfo.moc"

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include <tests/model/savingfixture.h>
+#include <tests/program/testprogram.h>
 #include <tests/support/debuglines.h>
 
 using namespace TestSupport;
@@ -240,6 +241,6 @@ void TestFishInfoAutosave::shouldDeleteOldAutoSaves()
     QVERIFY(!m_info->deleteOldTmpFile(m_info->autoSaveFile()));
 }
 
-QTEST_MAIN(TestFishInfoAutosave)
+FISHBONE_TEST(TestFishInfoAutosave)
 
 #include "tst_fishinfo_autosave.moc"

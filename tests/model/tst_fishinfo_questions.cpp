@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include <tests/model/savingfixture.h>
+#include <tests/program/testprogram.h>
 #include <tests/support/messagebox.h>
 #include <tests/support/modaldriver.h>
 
@@ -247,6 +248,6 @@ void TestFishInfoQuestions::shouldSurviveItsOwnEndWhileANameIsChosen()
     QVERIFY(!QFile::exists(chosen));
 }
 
-QTEST_MAIN(TestFishInfoQuestions)
+FISHBONE_TEST(TestFishInfoQuestions)
 
 #include "tst_fishinfo_questions.moc"

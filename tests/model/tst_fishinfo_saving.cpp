@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include <tests/model/savingfixture.h>
+#include <tests/program/testprogram.h>
 #include <tests/support/debuglines.h>
 
 #include <fishbone/model/treeitem.h>
@@ -225,6 +226,6 @@ void TestFishInfoSaving::shouldSaveUnderItsName()
     QVERIFY(m_info->modified()); // the host's to clear
 }
 
-QTEST_MAIN(TestFishInfoSaving)
+FISHBONE_TEST(TestFishInfoSaving)
 
 #include "tst_fishinfo_saving.moc"

@@ -6,6 +6,7 @@
 #include <fishbone/model/fishinfo.h>
 #include <fishbone/model/treeitem.h>
 
+#include <tests/program/testprogram.h>
 #include <tests/support/documents.h>
 #include <tests/support/metatypes.h>
 
@@ -560,6 +561,6 @@ void TestFishModel::shouldSkipDocumentsWithoutAHead()
     QCOMPARE(model.rowCount(), 0);
 }
 
-QTEST_MAIN(TestFishModel)
+FISHBONE_TEST(TestFishModel)
 
 #include "tst_fishmodel.moc"

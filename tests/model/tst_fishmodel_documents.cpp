@@ -6,6 +6,7 @@
 #include <fishbone/model/fishinfo.h>
 #include <fishbone/model/treeitem.h>
 
+#include <tests/program/testprogram.h>
 #include <tests/support/documents.h>
 #include <tests/support/modelfollower.h>
 
@@ -339,6 +340,6 @@ void TestFishModelDocuments::shouldBeUsableByAViewThroughout()
     QVERIFY(draw());
 }
 
-QTEST_MAIN(TestFishModelDocuments)
+FISHBONE_TEST(TestFishModelDocuments)
 
 #include "tst_fishmodel_documents.moc"

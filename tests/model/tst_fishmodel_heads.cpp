@@ -5,6 +5,7 @@
 #include <QTreeView>
 #include <QtTest>
 
+#include <tests/program/testprogram.h>
 #include <tests/support/documents.h>
 #include <tests/support/modelfollower.h>
 
@@ -322,5 +323,5 @@ void TestFishModelHeads::shouldShowANewHeadInATreeView()
     QCOMPARE(view.indexBelow(index("G")), index("H"));
 }
 
-QTEST_MAIN(TestFishModelHeads)
+FISHBONE_TEST(TestFishModelHeads)
 #include "tst_fishmodel_heads.moc"

@@ -6,9 +6,11 @@
 #include <fishbone/model/fishinfo.h>
 #include <fishbone/model/treeitem.h>
 
+#include <tests/program/testprogram.h>
 #include <tests/support/documents.h>
 #include <tests/support/modelfollower.h>
 #include <tests/support/signalrecorder.h>
+#include <tests/support/sourcefolder.h>
 
 #include <QAbstractItemModelTester>
 #include <QDir>
@@ -86,7 +88,7 @@ void TestFishModelLoading::shouldLoadNothingFromBrokenDocuments_data()
 {
     QTest::addColumn<QString>("path");
 
-    const QDir folder(QStringLiteral(FISHBONE_SOURCE_DIR "/tests/model/broken"));
+    const QDir folder(TestSupport::sourceFile(QStringLiteral("tests/model/broken")));
     const QStringList names = folder.entryList(QDir::Files);
     QVERIFY(names.size() > 10);
     for (const QString &name : names)
@@ -338,6 +340,6 @@ void TestFishModelLoading::shouldLoadWhatItSaved()
     }
 }
 
-QTEST_MAIN(TestFishModelLoading)
+FISHBONE_TEST(TestFishModelLoading)
 
 #include "tst_fishmodel_loading.moc"

@@ -6,6 +6,7 @@
 #include <fishbone/model/fishinfo.h>
 #include <fishbone/model/treeitem.h>
 
+#include <tests/program/testprogram.h>
 #include <tests/support/documents.h>
 
 #include <QtTest>
@@ -260,6 +261,6 @@ void TestFishModelLookup::shouldIndexAllNodesOfDeepAndWideTrees()
     QCOMPARE(levels, size);
 }
 
-QTEST_MAIN(TestFishModelLookup)
+FISHBONE_TEST(TestFishModelLookup)
 
 #include "tst_fishmodel_lookup.moc"

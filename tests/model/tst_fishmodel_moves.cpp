@@ -6,6 +6,7 @@
 #include <fishbone/model/fishinfo.h>
 #include <fishbone/model/treeitem.h>
 
+#include <tests/program/testprogram.h>
 #include <tests/support/documents.h>
 #include <tests/support/modelfollower.h>
 
@@ -432,6 +433,6 @@ void TestFishModelMoves::shouldKeepPersistentIndexesOnTheirNodes()
     }
 }
 
-QTEST_MAIN(TestFishModelMoves)
+FISHBONE_TEST(TestFishModelMoves)
 
 #include "tst_fishmodel_moves.moc"

@@ -6,6 +6,7 @@
 #include <fishbone/model/fishinfo.h>
 #include <fishbone/model/treeitem.h>
 
+#include <tests/program/testprogram.h>
 #include <tests/support/signalrecorder.h>
 
 #include <QFile>
@@ -400,6 +401,6 @@ void TestFishModelNetwork::shouldIgnoreNoReply()
     QCOMPARE(loaded.count(), 0);
 }
 
-QTEST_MAIN(TestFishModelNetwork)
+FISHBONE_TEST(TestFishModelNetwork)
 
 #include "tst_fishmodel_network.moc"

@@ -6,6 +6,7 @@
 #include <fishbone/model/fishinfo.h>
 #include <fishbone/model/treeitem.h>
 
+#include <tests/program/testprogram.h>
 #include <tests/support/documents.h>
 #include <tests/support/modelfollower.h>
 
@@ -369,6 +370,6 @@ void TestFishModelRandom::shouldDoWhatItAnnouncesAndNothingElse()
         QCOMPARE(playground.step(), QString());
 }
 
-QTEST_MAIN(TestFishModelRandom)
+FISHBONE_TEST(TestFishModelRandom)
 
 #include "tst_fishmodel_random.moc"

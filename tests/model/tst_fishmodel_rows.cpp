@@ -6,6 +6,7 @@
 #include <fishbone/model/fishinfo.h>
 #include <fishbone/model/treeitem.h>
 
+#include <tests/program/testprogram.h>
 #include <tests/support/documents.h>
 #include <tests/support/modelfollower.h>
 
@@ -414,6 +415,6 @@ void TestFishModelRows::shouldInsertManyRowsInTime()
     QCOMPARE(m_model->rowCount(head()), 3);
 }
 
-QTEST_MAIN(TestFishModelRows)
+FISHBONE_TEST(TestFishModelRows)
 
 #include "tst_fishmodel_rows.moc"

@@ -7,6 +7,7 @@
 #include <fishbone/model/fishmodel.h>
 #include <fishbone/model/treeitem.h>
 
+#include <tests/program/testprogram.h>
 #include <tests/support/documents.h>
 #include <tests/support/modelfollower.h>
 
@@ -633,6 +634,6 @@ void TestFishProxyModel::shouldFilterDeepTreesWithoutRecursion()
     QVERIFY(!proxy.filterAcceptsRow(0, source.index(0, 0)));
 }
 
-QTEST_MAIN(TestFishProxyModel)
+FISHBONE_TEST(TestFishProxyModel)
 
 #include "tst_fishproxymodel.moc"

@@ -6,6 +6,7 @@
 #include <fishbone/model/fishmodel.h>
 #include <fishbone/model/treeitem.h>
 
+#include <tests/program/testprogram.h>
 #include <tests/support/documents.h>
 #include <tests/support/modelfollower.h>
 
@@ -156,5 +157,5 @@ void TestFishProxyModelRows::shouldKeepWhatLiesBelowRowsWithoutANode()
     m_proxy->setSourceModel(m_model.get());
 }
 
-QTEST_MAIN(TestFishProxyModelRows)
+FISHBONE_TEST(TestFishProxyModelRows)
 #include "tst_fishproxymodel_rows.moc"

@@ -8,6 +8,7 @@
 #include <fishbone/model/treeitem.h>
 #include <fishbone/style/spearstyle.h>
 
+#include <tests/program/testprogram.h>
 #include <tests/support/documents.h>
 
 #include <QJsonArray>
@@ -666,6 +667,6 @@ void TestNodeObjects::shouldInsertWideSubtreesInTime()
     QCOMPARE(top->childAtIndex(width - 1)->title(), QString::number(width / 2));
 }
 
-QTEST_MAIN(TestNodeObjects)
+FISHBONE_TEST(TestNodeObjects)
 
 #include "tst_nodeobjects.moc"

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include <fishbone/model/systemhelper.h>
+#include <tests/program/testprogram.h>
 
 #include <QDateTime>
 #include <QFile>
@@ -225,6 +226,6 @@ void TestSystemHelper::shouldFindTheFolderOfTheDocuments()
     QCOMPARE(SystemHelper::documentsLocation(), home.filePath(QStringLiteral("Papers")));
 }
 
-QTEST_GUILESS_MAIN(TestSystemHelper)
+FISHBONE_GUILESS_TEST(TestSystemHelper)
 
 #include "tst_systemhelper.moc"

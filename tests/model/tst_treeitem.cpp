@@ -9,6 +9,7 @@
 #include <fishbone/style/spearstyle.h>
 #include <fishbone/style/spearstyledialog.h>
 
+#include <tests/program/testprogram.h>
 #include <tests/support/documents.h>
 #include <tests/support/modaldriver.h>
 
@@ -587,6 +588,6 @@ void TestTreeItem::shouldSurviveWhenItsNodeDiesUnderTheDialog()
     QVERIFY(!node);
 }
 
-QTEST_MAIN(TestTreeItem)
+FISHBONE_TEST(TestTreeItem)
 
 #include "tst_treeitem.moc"

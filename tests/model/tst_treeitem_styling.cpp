@@ -6,6 +6,7 @@
 #include <fishbone/style/spearstyle.h>
 #include <fishbone/style/spearstyledialog.h>
 
+#include <tests/program/testprogram.h>
 #include <tests/support/modaldriver.h>
 
 #include <QJsonObject>
@@ -78,5 +79,5 @@ void TestTreeItemStyling::shouldLeaveEachOfTwoDialogsItsStyle()
     QCOMPARE(node.spearStyle(), nullptr);
 }
 
-QTEST_MAIN(TestTreeItemStyling)
+FISHBONE_TEST(TestTreeItemStyling)
 #include "tst_treeitem_styling.moc"

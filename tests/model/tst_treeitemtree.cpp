@@ -3,6 +3,7 @@
 
 #include <fishbone/model/treeitem.h>
 
+#include <tests/program/testprogram.h>
 #include <tests/support/documents.h>
 
 #include <QtTest>
@@ -531,6 +532,6 @@ void TestTreeItemTree::shouldDeleteOnlyWhatIsListed()
     QCOMPARE(named.title(), QString());
 }
 
-QTEST_GUILESS_MAIN(TestTreeItemTree)
+FISHBONE_GUILESS_TEST(TestTreeItemTree)
 
 #include "tst_treeitemtree.moc"

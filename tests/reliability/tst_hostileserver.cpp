@@ -4,6 +4,7 @@
 // Loading from a web server that means harm or is broken: one error, in bounded time and memory,
 // and what is loaded already stays as it is.
 
+#include <tests/program/testprogram.h>
 #include <tests/support/commandfixture.h>
 
 #include <QElapsedTimer>
@@ -346,5 +347,5 @@ void tst_HostileServer::shouldFreeLoadsThatFailTogether()
     QCOMPARE(model.rowCount(), 1);
 }
 
-QTEST_MAIN(tst_HostileServer)
+FISHBONE_TEST(tst_HostileServer)
 #include "tst_hostileserver.moc"

@@ -6,6 +6,7 @@
 //
 // FISHBONE_LONG_TESTS makes 200 kills of each way of saving out of 8.
 
+#include <tests/program/testprogram.h>
 #include <tests/reliability/savedversions.h>
 
 #include <QDir>
@@ -415,5 +416,5 @@ void tst_SavingFaults::shouldAutoSaveUnderAnyTitle()
     QVERIFY(QFile::remove(file));
 }
 
-QTEST_GUILESS_MAIN(tst_SavingFaults)
+FISHBONE_GUILESS_TEST(tst_SavingFaults)
 #include "tst_savingfaults.moc"

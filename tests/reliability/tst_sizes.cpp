@@ -5,6 +5,7 @@
 //
 // FISHBONE_LONG_TESTS makes the largest ones a million subjects in all and 100,000 under one.
 
+#include <tests/program/testprogram.h>
 #include <tests/support/commandfixture.h>
 
 #include <QAbstractItemModelTester>
@@ -352,5 +353,5 @@ void tst_Sizes::shouldDrawAWholeTitle()
     QCOMPARE(spearFault(model), QString());
 }
 
-QTEST_MAIN(tst_Sizes)
+FISHBONE_TEST(tst_Sizes)
 #include "tst_sizes.moc"

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include <fishbone/style/penselect.h>
+#include <tests/program/testprogram.h>
 #include <tests/style/styledialogparts.h>
 
 #include <QPushButton>
@@ -344,5 +345,5 @@ void tst_PenSelect::shouldTranslateEveryText()
         QVERIFY2(text.startsWith(QLatin1Char('[')), qPrintable(text));
 }
 
-QTEST_MAIN(tst_PenSelect)
+FISHBONE_TEST(tst_PenSelect)
 #include "tst_penselect.moc"

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include <fishbone/style/penselect.h>
+#include <tests/program/testprogram.h>
 #include <tests/style/styledialogparts.h>
 #include <tests/support/modaldriver.h>
 #include <tests/support/previewchecks.h>
@@ -127,5 +128,5 @@ void tst_PenSelectPreview::shouldDrawASharpSampleOnADenseScreen()
     QVERIFY(inkedPixels(shownPixmap(dense)) > 3 * inkedPixels(shownPixmap(plain)));
 }
 
-QTEST_MAIN(tst_PenSelectPreview)
+FISHBONE_TEST(tst_PenSelectPreview)
 #include "tst_penselectpreview.moc"

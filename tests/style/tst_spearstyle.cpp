@@ -3,6 +3,7 @@
 
 #include <fishbone/style/spearstyle.h>
 
+#include <tests/program/testprogram.h>
 #include <tests/support/spearstyletext.h>
 
 #include <QFont>
@@ -283,6 +284,6 @@ void TestSpearStyle::shouldComeBackFromItsJson()
     }
 }
 
-QTEST_MAIN(TestSpearStyle)
+FISHBONE_TEST(TestSpearStyle)
 
 #include "tst_spearstyle.moc"

@@ -6,6 +6,8 @@
 #include <fishbone/model/fishinfo.h>
 #include <fishbone/model/fishmodel.h>
 #include <fishbone/model/treeitem.h>
+#include <tests/program/testprogram.h>
+#include <tests/support/sourcefolder.h>
 
 #include <QFile>
 #include <QFont>
@@ -39,7 +41,7 @@ const SpearStyle::SpearState states[] = {SpearStyle::ssNormal, SpearStyle::ssSel
 
 QByteArray fixture(const QString &name)
 {
-    QFile file(QStringLiteral(FISHBONE_SOURCE_DIR "/tests/style/toolkits/") + name);
+    QFile file(TestSupport::sourceFile(QStringLiteral("tests/style/toolkits/")) + name);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
@@ -160,9 +162,9 @@ void tst_SpearStyleToolkits::shouldReadADocumentWhole()
     QVERIFY(!fixture(name).isEmpty());
     const QTemporaryDir folder;
     FishModel model;
-    QCOMPARE(
-        model.loadFishFromFile(QStringLiteral(FISHBONE_SOURCE_DIR "/tests/style/toolkits/") + name),
-        int(MODEL_NO_ERROR));
+    QCOMPARE(model.loadFishFromFile(
+                 TestSupport::sourceFile(QStringLiteral("tests/style/toolkits/")) + name),
+             int(MODEL_NO_ERROR));
 
     const TreeItem *const bone = model.getFishHeadTreeItem()->childAtIndex(0);
     QCOMPARE(bone->title(), QStringLiteral("人员 \"and\" tools"));
@@ -212,5 +214,5 @@ void tst_SpearStyleToolkits::shouldKeepEveryFontWeight()
     QCOMPARE(int(read.textFont(SpearStyle::ssNormal)->weight()), weight);
 }
 
-QTEST_MAIN(tst_SpearStyleToolkits)
+FISHBONE_TEST(tst_SpearStyleToolkits)
 #include "tst_spearstyle_toolkits.moc"

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include <fishbone/style/spearstyledialog.h>
+#include <tests/program/testprogram.h>
 #include <tests/style/styledialogparts.h>
 #include <tests/support/modaldriver.h>
 #include <tests/support/previewchecks.h>
@@ -300,5 +301,5 @@ void tst_SpearStyleDialog::shouldTranslateEveryText()
         QVERIFY2(text.startsWith(QLatin1Char('[')), qPrintable(text));
 }
 
-QTEST_MAIN(tst_SpearStyleDialog)
+FISHBONE_TEST(tst_SpearStyleDialog)
 #include "tst_spearstyledialog.moc"

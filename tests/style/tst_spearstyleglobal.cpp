@@ -5,6 +5,7 @@
 
 #include <fishbone/style/globalstylelookup.h>
 
+#include <tests/program/testprogram.h>
 #include <tests/support/messagecounter.h>
 #include <tests/support/spearstyletext.h>
 
@@ -373,7 +374,7 @@ static bool globalOutlivesTheApplication(const QString &before)
            global->textFont(SpearStyle::ssNormal)->pointSize() == 21;
 }
 
-int main(int argc, char **argv)
+static int run(int argc, char *argv[])
 {
     int failures = 0;
     QString before;
@@ -395,4 +396,5 @@ int main(int argc, char **argv)
     return failures;
 }
 
+FISHBONE_TEST_MAIN(run)
 #include "tst_spearstyleglobal.moc"

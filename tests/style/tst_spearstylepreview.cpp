@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include <fishbone/style/spearstyledialog.h>
+#include <tests/program/testprogram.h>
 #include <tests/style/styledialogparts.h>
 #include <tests/support/previewchecks.h>
 
@@ -194,5 +195,5 @@ void tst_SpearStylePreview::shouldDrawASharpPreviewOnADenseScreen()
     QCOMPARE(shownPixmap(dense).size(), 2 * shownPixmap(plain).size());
 }
 
-QTEST_MAIN(tst_SpearStylePreview)
+FISHBONE_TEST(tst_SpearStylePreview)
 #include "tst_spearstylepreview.moc"

@@ -3,6 +3,7 @@
 
 #include <fishbone/style/spearstyle.h>
 
+#include <tests/program/testprogram.h>
 #include <tests/support/messagecounter.h>
 #include <tests/support/spearstyletext.h>
 
@@ -368,6 +369,6 @@ void TestSpearStyleReading::shouldLetLaterElementsOverrideFieldByField()
     QCOMPARE(style.textBkColor(SpearStyle::ssSelected), QColor(2, 0, 0));
 }
 
-QTEST_MAIN(TestSpearStyleReading)
+FISHBONE_TEST(TestSpearStyleReading)
 
 #include "tst_spearstylereading.moc"

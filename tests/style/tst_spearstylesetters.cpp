@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include <fishbone/style/spearstyledialog.h>
+#include <tests/program/testprogram.h>
 #include <tests/style/styledialogparts.h>
 #include <tests/support/modaldriver.h>
 #include <tests/support/previewchecks.h>
@@ -223,5 +224,5 @@ void tst_SpearStyleSetters::shouldSurviveItsEndWhileASubDialogIsOpen()
     QCOMPARE(written(style), before);
 }
 
-QTEST_MAIN(tst_SpearStyleSetters)
+FISHBONE_TEST(tst_SpearStyleSetters)
 #include "tst_spearstylesetters.moc"

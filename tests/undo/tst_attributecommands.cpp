@@ -9,6 +9,7 @@
 
 #include <fishbone/undo/attributecommands.h>
 #include <fishbone/undo/structuralcommands.h>
+#include <tests/program/testprogram.h>
 #include <tests/support/commandfixture.h>
 #include <tests/support/dialogchecks.h>
 
@@ -568,5 +569,5 @@ void TestAttributeCommands::shouldNotOwnTheRecord()
     QCOMPARE(g.text(), QStringLiteral("H[A]"));
 }
 
-QTEST_MAIN(TestAttributeCommands)
+FISHBONE_TEST(TestAttributeCommands)
 #include "tst_attributecommands.moc"

@@ -6,6 +6,7 @@
 #include <fishbone/undo/attributecommands.h>
 #include <fishbone/undo/commandgroup.h>
 #include <fishbone/undo/structuralcommands.h>
+#include <tests/program/testprogram.h>
 #include <tests/support/commandfixture.h>
 #include <tests/support/undorecorder.h>
 
@@ -273,5 +274,5 @@ void TestCommandGroup::shouldDieInAnyState()
     QVERIFY(!watched);
 }
 
-QTEST_MAIN(TestCommandGroup)
+FISHBONE_TEST(TestCommandGroup)
 #include "tst_commandgroup.moc"

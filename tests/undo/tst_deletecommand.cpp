@@ -5,6 +5,7 @@
 #include <QtTest>
 
 #include <fishbone/undo/structuralcommands.h>
+#include <tests/program/testprogram.h>
 #include <tests/support/commandfixture.h>
 #include <tests/support/dialogchecks.h>
 
@@ -462,5 +463,5 @@ void TestDeleteCommand::shouldDeleteManySiblingsInReasonableTime()
     QVERIFY2(undone < 5000, qPrintable(QString::number(undone)));
 }
 
-QTEST_MAIN(TestDeleteCommand)
+FISHBONE_TEST(TestDeleteCommand)
 #include "tst_deletecommand.moc"

@@ -5,6 +5,7 @@
 
 #include <fishbone/items/spearfactory.h>
 #include <fishbone/undo/structuralcommands.h>
+#include <tests/program/testprogram.h>
 #include <tests/support/commandfixture.h>
 
 using namespace TestSupport;
@@ -149,5 +150,5 @@ void TestDeleteCommandLookup::shouldDeleteSpearsBelowASubjectWithout()
     QVERIFY(scene.items().isEmpty());
 }
 
-QTEST_MAIN(TestDeleteCommandLookup)
+FISHBONE_TEST(TestDeleteCommandLookup)
 #include "tst_deletecommand_lookup.moc"

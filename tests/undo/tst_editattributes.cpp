@@ -12,6 +12,7 @@
 #include <fishbone/style/spearstyle.h>
 #include <fishbone/undo/editattributes.h>
 #include <fishbone/undo/structuralcommands.h>
+#include <tests/program/testprogram.h>
 #include <tests/support/commandfixture.h>
 #include <tests/support/dialogchecks.h>
 #include <tests/support/editorfixture.h>
@@ -662,5 +663,5 @@ void TestEditAttributes::shouldLayOutOnceForMany()
              qPrintable(QStringLiteral("%1 ms, %2 ms for one").arg(forAll).arg(forOne)));
 }
 
-QTEST_MAIN(TestEditAttributes)
+FISHBONE_TEST(TestEditAttributes)
 #include "tst_editattributes.moc"

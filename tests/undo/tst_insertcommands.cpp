@@ -8,6 +8,7 @@
 #include <functional>
 
 #include <fishbone/undo/structuralcommands.h>
+#include <tests/program/testprogram.h>
 #include <tests/support/commandfixture.h>
 #include <tests/support/dialogchecks.h>
 
@@ -514,5 +515,5 @@ void TestInsertCommands::shouldWorkOnAnyModelThatShowsUuids()
     QCOMPARE(model.rowCount(), 0);
 }
 
-QTEST_MAIN(TestInsertCommands)
+FISHBONE_TEST(TestInsertCommands)
 #include "tst_insertcommands.moc"

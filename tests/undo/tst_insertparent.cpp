@@ -7,6 +7,7 @@
 #include <QtTest>
 
 #include <fishbone/undo/structuralcommands.h>
+#include <tests/program/testprogram.h>
 #include <tests/support/commandfixture.h>
 #include <tests/support/signalrecorder.h>
 
@@ -253,5 +254,5 @@ void TestInsertParent::shouldLeaveAModelThatMovesNoRowsAsItWas()
     QCOMPARE(treeToText(model, QModelIndex()), before);
 }
 
-QTEST_MAIN(TestInsertParent)
+FISHBONE_TEST(TestInsertParent)
 #include "tst_insertparent.moc"

@@ -6,6 +6,7 @@
 
 #include <fishbone/items/spearpointer.h>
 #include <fishbone/undo/structuralcommands.h>
+#include <tests/program/testprogram.h>
 #include <tests/support/commandfixture.h>
 
 using namespace TestSupport;
@@ -350,5 +351,5 @@ void TestInsertTreeItem::shouldNotInsertIntoAModelWithoutNodes()
     QVERIFY(!life.isAlive());
 }
 
-QTEST_MAIN(TestInsertTreeItem)
+FISHBONE_TEST(TestInsertTreeItem)
 #include "tst_inserttreeitem.moc"

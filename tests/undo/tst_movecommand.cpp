@@ -5,6 +5,7 @@
 #include <QtTest>
 
 #include <fishbone/undo/structuralcommands.h>
+#include <tests/program/testprogram.h>
 #include <tests/support/commandfixture.h>
 #include <tests/support/dialogchecks.h>
 
@@ -482,5 +483,5 @@ void TestMoveCommand::shouldMoveManySubjectsInReasonableTime()
     QVERIFY2(undone < 5000, qPrintable(QString::number(undone)));
 }
 
-QTEST_MAIN(TestMoveCommand)
+FISHBONE_TEST(TestMoveCommand)
 #include "tst_movecommand.moc"

@@ -5,6 +5,7 @@
 
 #include <fishbone/items/spearfactory.h>
 #include <fishbone/undo/structuralcommands.h>
+#include <tests/program/testprogram.h>
 #include <tests/support/commandfixture.h>
 #include <tests/support/drawingtext.h>
 
@@ -255,5 +256,5 @@ void TestMoveCommandSpears::shouldMoveNoSpearWhenTheModelRefuses()
     QCOMPARE(spearFault(*f.model), QString());
 }
 
-QTEST_MAIN(TestMoveCommandSpears)
+FISHBONE_TEST(TestMoveCommandSpears)
 #include "tst_movecommand_spears.moc"

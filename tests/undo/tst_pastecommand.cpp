@@ -5,6 +5,7 @@
 #include <QtTest>
 
 #include <fishbone/undo/structuralcommands.h>
+#include <tests/program/testprogram.h>
 #include <tests/support/commandfixture.h>
 #include <tests/support/dialogchecks.h>
 
@@ -466,5 +467,5 @@ void TestPasteCommand::shouldPasteManySubjectsInReasonableTime()
     }
 }
 
-QTEST_MAIN(TestPasteCommand)
+FISHBONE_TEST(TestPasteCommand)
 #include "tst_pastecommand.moc"

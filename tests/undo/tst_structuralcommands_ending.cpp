@@ -7,6 +7,7 @@
 #include <functional>
 
 #include <fishbone/undo/structuralcommands.h>
+#include <tests/program/testprogram.h>
 #include <tests/support/commandfixture.h>
 
 using namespace TestSupport;
@@ -169,5 +170,5 @@ void TestStructuralCommandsEnding::shouldLeaveWhatItsOldParentCameBelow()
     QCOMPARE(f.text(), QStringLiteral("H[B[a[A]]]"));
 }
 
-QTEST_MAIN(TestStructuralCommandsEnding)
+FISHBONE_TEST(TestStructuralCommandsEnding)
 #include "tst_structuralcommands_ending.moc"

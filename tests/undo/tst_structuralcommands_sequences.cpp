@@ -6,6 +6,7 @@
 
 #include <fishbone/undo/attributecommands.h>
 #include <fishbone/undo/structuralcommands.h>
+#include <tests/program/testprogram.h>
 #include <tests/support/commandfixture.h>
 
 using namespace TestSupport;
@@ -236,5 +237,5 @@ void TestCommandSequences::shouldSurviveEditsOutsideTheHistory()
     }
 }
 
-QTEST_MAIN(TestCommandSequences)
+FISHBONE_TEST(TestCommandSequences)
 #include "tst_structuralcommands_sequences.moc"

@@ -7,6 +7,7 @@
 
 #include <fishbone/undo/subjectlookup.h>
 #include <fishbone/undo/subjectspears.h>
+#include <tests/program/testprogram.h>
 #include <tests/support/commandfixture.h>
 #include <tests/support/drawingtext.h>
 
@@ -427,5 +428,5 @@ void TestSubjectLookup::shouldNotLookBelowSpearsThatThereAre()
     QCOMPARE(spearTreeText(f.spear("H")), QStringLiteral("H[A,B[b]]"));
 }
 
-QTEST_MAIN(TestSubjectLookup)
+FISHBONE_TEST(TestSubjectLookup)
 #include "tst_subjectlookup.moc"

@@ -3,6 +3,7 @@
 
 #include <fishbone/undo/undocommand.h>
 
+#include <tests/program/testprogram.h>
 #include <tests/support/undorecorder.h>
 
 #include <QMetaMethod>
@@ -108,6 +109,6 @@ void TestUndoCommand::shouldDeclareNothingToTheMetaObject()
     QCOMPARE(type.propertyCount(), type.propertyOffset());
 }
 
-QTEST_GUILESS_MAIN(TestUndoCommand)
+FISHBONE_GUILESS_TEST(TestUndoCommand)
 
 #include "tst_undocommand.moc"

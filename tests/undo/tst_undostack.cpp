@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Fishbone authors
 // SPDX-License-Identifier: MIT
 
+#include <tests/program/testprogram.h>
 #include <tests/support/undorecorder.h>
 
 #include <QMetaMethod>
@@ -335,6 +336,6 @@ void TestUndoStack::shouldDeleteTheOldestFirstAtItsEnd()
     QCOMPARE(history->log.take(), QStringLiteral("delete X, delete Y, delete Z"));
 }
 
-QTEST_GUILESS_MAIN(TestUndoStack)
+FISHBONE_GUILESS_TEST(TestUndoStack)
 
 #include "tst_undostack.moc"

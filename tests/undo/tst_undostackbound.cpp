@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Fishbone authors
 // SPDX-License-Identifier: MIT
 
+#include <tests/program/testprogram.h>
 #include <tests/support/undorecorder.h>
 
 #include <QtTest>
@@ -174,6 +175,6 @@ void TestUndoStackBound::shouldStopRollingWhenAsked()
     QCOMPARE(history.state(), QStringLiteral("99"));
 }
 
-QTEST_GUILESS_MAIN(TestUndoStackBound)
+FISHBONE_GUILESS_TEST(TestUndoStackBound)
 
 #include "tst_undostackbound.moc"

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Fishbone authors
 // SPDX-License-Identifier: MIT
 
+#include <tests/program/testprogram.h>
 #include <tests/support/undorecorder.h>
 
 #include <QtTest>
@@ -362,6 +363,6 @@ void TestUndoStackReentrancy::shouldNotStepWhileACommandRuns()
     QCOMPARE(history.state(), QStringLiteral("1 undo"));
 }
 
-QTEST_GUILESS_MAIN(TestUndoStackReentrancy)
+FISHBONE_GUILESS_TEST(TestUndoStackReentrancy)
 
 #include "tst_undostackreentrancy.moc"
