@@ -4,6 +4,7 @@
 #pragma once
 
 #include <fishbone/drawing/cleartree.h>
+#include <tests/support/sourcefolder.h>
 
 #include <QFile>
 #include <QJsonArray>
@@ -52,7 +53,7 @@ inline Loaded load(const QString &path)
 
 inline QString fixture(const char *name)
 {
-    return QStringLiteral(FISHBONE_SOURCE_DIR "/tests/drawing/fixtures/tree_%1.json")
+    return TestSupport::sourceFile(QStringLiteral("tests/drawing/fixtures/tree_%1.json"))
         .arg(QLatin1String(name));
 }
 

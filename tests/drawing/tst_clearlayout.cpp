@@ -6,6 +6,7 @@
 
 #include <tests/drawing/clearpainter.h>
 #include <tests/drawing/cleartrees.h>
+#include <tests/program/testprogram.h>
 
 #include <QtTest>
 
@@ -54,5 +55,5 @@ void TestClearLayout::shouldBeAsLargeAsPromisedOnASlide()
     QVERIFY(scale * ClearMeasure::causeSize >= pixels);
 }
 
-QTEST_MAIN(TestClearLayout)
+FISHBONE_TEST(TestClearLayout)
 #include "tst_clearlayout.moc"
