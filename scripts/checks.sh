@@ -72,6 +72,11 @@ check_includes() {
         search -vE '"[a-z0-9_]+\.moc"$' | none
 }
 
+# The folders of the library use each other in one direction.
+check_layers() {
+    scripts/check-layers
+}
+
 # Each public header, which is one that exports something, has test programs of its name.
 check_tests_exist() {
     local header name
