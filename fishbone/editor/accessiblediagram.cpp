@@ -8,7 +8,9 @@
 #include <fishbone/editor/fishscene.h>
 #include <fishbone/editor/graphicsview.h>
 #include <fishbone/items/spearitem.h>
-#include <fishbone/style/drawnchanges.h>
+
+#include <utility>
+#include <vector>
 
 namespace {
 
@@ -69,7 +71,6 @@ AccessibleDiagram *AccessibleDiagram::of(GraphicsView *view)
 
 AccessibleDiagram::AccessibleDiagram(GraphicsView *view)
     : QAccessibleWidget(view, QAccessible::Tree)
-    , m_drawnChanges(DrawnChanges::count())
 {
     for (QTimer *timer : {&m_selection, &m_drawing})
         timer->setSingleShot(true);
@@ -87,6 +88,7 @@ void AccessibleDiagram::listen()
     const QGraphicsScene *const scene = shown ? shown->scene() : nullptr;
     if (!scene)
         return;
+    m_drawn = drawnState();
     // Not at once: the selection also changes while bones die, and who is told of a change may end
     // the scene, which is not through with it.
     QObject::connect(scene, &QGraphicsScene::selectionChanged, &m_listener, [this] {
@@ -98,7 +100,7 @@ void AccessibleDiagram::listen()
 void AccessibleDiagram::drawingChanged(GraphicsView *view)
 {
     AccessibleDiagram *const diagram = wasAnybodyAsked || isAnybodyListening() ? of(view) : nullptr;
-    if (diagram && diagram->m_drawnChanges != DrawnChanges::count())
+    if (diagram)
         diagram->m_drawing.start(0);
 }
 
@@ -233,13 +235,39 @@ void AccessibleDiagram::reportSelection()
         report(QAccessibleEvent(chosen, QAccessible::Focus));
 }
 
+/** A number for what of the drawing can be asked for; another one when any of it has changed. */
+quint64 AccessibleDiagram::drawnState() const
+{
+    quint64 state = 1;
+    const auto add = [&state](auto value) { state = state * 1099511628211U ^ quint64(value); };
+    std::vector<const SpearItem *> pending;
+    if (const SpearItem *const shown = head())
+        pending.push_back(shown);
+    while (!pending.empty()) {
+        const SpearItem *const spear = pending.back();
+        pending.pop_back();
+        const QLineF line = spear->line();
+        add(quintptr(spear));
+        add(spear->isExpand());
+        add(qHash(spear->text()));
+        for (const double number : {line.x1(), line.y1(), line.x2(), line.y2()})
+            add(qHash(number));
+        const QList<SpearItem *> &children = spear->knownChildSpears();
+        if (spear->isExpand())
+            pending.insert(pending.end(), children.cbegin(), children.cend());
+    }
+    return state;
+}
+
 void AccessibleDiagram::followDrawing()
 {
     if (!view())
         return;
-    m_drawnChanges = DrawnChanges::count();
     sweep();
     if (!isAnybodyListening())
+        return;
+    const quint64 drawn = drawnState();
+    if (std::exchange(m_drawn, drawn) == drawn)
         return;
     const QList<QAccessible::Id> ids = m_bones.values();
     const QPointer<GraphicsView> alive(view());

@@ -76,11 +76,12 @@ private:
     void listen();
     void reportSelection();
     void followDrawing();
+    quint64 drawnState() const;
     void sweep();
 
     QHash<const SpearItem *, QAccessible::Id> m_bones; ///< the keys are only compared
-    quint64 m_drawnChanges;
-    QObject m_listener; ///< ends the connections with this object
+    quint64 m_drawn = 0;                               ///< drawnState() when it was told last
+    QObject m_listener;                                ///< ends the connections with this object
     QTimer m_selection; ///< runs out when a changed selection has come to rest
     QTimer m_drawing;   ///< runs out when a changed drawing has come to rest
 };

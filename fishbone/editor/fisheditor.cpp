@@ -5,7 +5,6 @@
 
 #include <algorithm>
 
-#include <QApplication>
 #include <QHBoxLayout>
 #include <QMimeData>
 #include <QTimer>
@@ -22,8 +21,6 @@
 #include <fishbone/items/spearitem.h>
 #include <fishbone/model/fishinfo.h>
 #include <fishbone/model/fishmodel.h>
-#include <fishbone/style/drawnchanges.h>
-#include <fishbone/style/spearstyle.h>
 #include <fishbone/undo/undostack.h>
 
 namespace {
@@ -263,8 +260,7 @@ void FishEditor::updateFish(bool rebuild)
         showNothing();
     } else if (headSpear()) {
         updateHeadText();
-        if (!isLaidOut())
-            layOut();
+        layOut();
         return;
     }
     if (FishInfo *const document = currentFishInfo())
@@ -277,22 +273,15 @@ void FishEditor::layOut()
     layout.refreshSpears(FishLayout::Lines::Keep);
     layout.sizeSpears();
     layout.placeSpears();
-    m_laidOut = {DrawnChanges::count(), headSpear(), QApplication::font(), layout.itemCount()};
+    m_laidOut = {headSpear(), SpearItem::treeChanges(), layout.itemCount()};
     AccessibleDiagram::drawingChanged(m_view);
 }
 
 bool FishEditor::showsOwnItemsOnly() const
 {
     // Counting the items of a scene without an index takes constant time.
-    return m_laidOut.changes == DrawnChanges::count() && m_laidOut.head == headSpear() &&
+    return m_laidOut.head == headSpear() && m_laidOut.treeChanges == SpearItem::treeChanges() &&
            m_scene->items().size() == m_laidOut.items;
-}
-
-bool FishEditor::isLaidOut() const
-{
-    SpearStyle::global(); // its file may have come
-    return m_laidOut.changes == DrawnChanges::count() && m_laidOut.head == headSpear() &&
-           m_laidOut.font == QApplication::font();
 }
 
 void FishEditor::updateHeadText()

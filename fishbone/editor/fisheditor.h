@@ -5,7 +5,6 @@
 
 #include <memory>
 
-#include <QFont>
 #include <QFrame>
 #include <QGraphicsItem>
 #include <QJsonObject>
@@ -350,18 +349,16 @@ private:
         bool isHead = false;               ///< the document's head, whichever that is
     };
 
-    /// What a layout was made from.
-    struct LayoutState
+    /// The items that were laid out last.
+    struct LaidOut
     {
-        quint64 changes = 0;
         const SpearItem *head = nullptr; ///< only compared
-        QFont font;                      ///< of the program, shown where a style sets none
+        quint64 treeChanges = 0;         ///< as SpearItem counts them
         int items = 0;                   ///< spears and companions
     };
 
     class SelectionHold;
 
-    bool isLaidOut() const;
     void layOut();
     /// Whether the scene holds what was laid out last and nothing else, as far as that is known.
     bool showsOwnItemsOnly() const;
@@ -400,7 +397,7 @@ private:
     QPointer<QAbstractItemModel> m_model;
     std::unique_ptr<FishScene> m_scene;
     SpearPointer m_headSpear;
-    LayoutState m_laidOut;
+    LaidOut m_laidOut;
     UndoStack *m_undoStack = nullptr;
     int m_zoomValue = 250;
     int m_rotateValue = 0;

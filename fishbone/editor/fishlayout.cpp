@@ -5,10 +5,10 @@
 
 #include <numeric>
 
+#include <fishbone/base/onepass.h>
 #include <fishbone/editor/spearbuilder.h>
 #include <fishbone/items/spearitem.h>
 #include <fishbone/model/treeitem.h>
-#include <fishbone/style/globalstylelookup.h>
 
 namespace {
 constexpr double firstOffset = 30.0;      ///< of the first child along its parent
@@ -33,14 +33,13 @@ FishLayout::FishLayout(SpearItem *head)
 void FishLayout::refreshSpears(Lines lines)
 {
     const auto reset = [lines](SpearItem *spear, int direction) {
-        if (lines == Lines::Keep) {
+        if (lines == Lines::Keep)
             spear->beginLayout(direction);
-            return;
-        }
-        spear->initData(direction);
+        else
+            spear->initData(direction);
         spear->updateTaskStatus();
     };
-    const GlobalStyleLookup lookup;
+    const OnePass pass;
     reset(m_entries.front().spear, 0);
     updateLinkItem(m_entries.front().spear);
     for (const Entry &parent : m_entries) {
@@ -84,7 +83,6 @@ void FishLayout::placeSpears()
             placeAlongSlantedBone(parent);
         else
             placeAlongHorizontalBone(parent);
-        parent.spear->endLayout();
     }
 }
 

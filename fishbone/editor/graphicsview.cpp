@@ -13,6 +13,7 @@
 #include <QScrollBar>
 #include <QWheelEvent>
 
+#include <fishbone/base/onepass.h>
 #include <fishbone/editor/fisheditor.h>
 #include <fishbone/editor/itemancestry.h>
 #include <fishbone/items/hovercursor.h>
@@ -95,6 +96,12 @@ QList<SpearItem *> GraphicsView::livingSelection() const
             living.append(spear.get());
     }
     return living;
+}
+
+void GraphicsView::paintEvent(QPaintEvent *event)
+{
+    const OnePass pass;
+    QGraphicsView::paintEvent(event);
 }
 
 bool GraphicsView::event(QEvent *event)

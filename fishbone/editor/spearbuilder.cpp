@@ -37,7 +37,10 @@ void updateLinkItem(SpearItem *spear)
             spear->setLinkItem(nullptr);
         return;
     }
-    if (!spear->showsLink(subject->url()))
+    auto *const link = qgraphicsitem_cast<LinkItem *>(spear->linkItem());
+    if (link && link->url() == subject->url())
+        link->updateSvgIcon();
+    else
         spear->setLinkItem(std::make_unique<LinkItem>(subject->url()).release());
 }
 

@@ -9,6 +9,11 @@
 #include <QUrl>
 
 namespace {
+QString iconFile()
+{
+    return QStringLiteral(":/fishboneDiagram/link.png");
+}
+
 std::function<void(const QUrl &)> &linkOpener()
 {
     static std::function<void(const QUrl &)> opener;
@@ -17,10 +22,15 @@ std::function<void(const QUrl &)> &linkOpener()
 } // namespace
 
 LinkItem::LinkItem(const QString &url)
-    : SvgItem(QStringLiteral(":/fishboneDiagram/link.png"), nullptr)
+    : SvgItem(iconFile(), nullptr)
     , m_url(url)
 {
     setAcceptedMouseButtons(Qt::LeftButton);
+}
+
+void LinkItem::updateSvgIcon()
+{
+    setSvgFile(iconFile());
 }
 
 void LinkItem::setOpener(std::function<void(const QUrl &)> opener)

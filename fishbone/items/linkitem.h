@@ -23,7 +23,9 @@ public:
     int type() const override { return Type; }
 
     /// The link target as it was given.
-    QString url() const { return m_url; }
+    const QString &url() const { return m_url; }
+    /// Shows the picture of a link, whatever was set meanwhile.
+    void updateSvgIcon();
 
     /// Sets what opens links in this process, here and wherever else the library follows a link.
     /// An empty function restores the desktop's own way.

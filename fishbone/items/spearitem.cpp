@@ -14,7 +14,6 @@
 #include <fishbone/items/textitem.h>
 #include <fishbone/model/fishmodel.h>
 #include <fishbone/model/treeitem.h>
-#include <fishbone/style/drawnchanges.h>
 
 SpearItem::SpearItem(const QString &text, int direction, double spearSize)
     : m_text(text)
@@ -97,9 +96,7 @@ void SpearItem::updateTaskStatus()
 {
     if (!m_treeItem)
         return;
-    m_shownStatus = m_treeItem->status();
-    m_shownProgress = m_treeItem->progress();
-    m_statusItem->setTask(m_shownStatus, m_shownProgress);
+    m_statusItem->setTask(m_treeItem->status(), m_treeItem->progress());
 }
 
 void SpearItem::updateToolTip()
@@ -116,19 +113,14 @@ void SpearItem::setText(const QString &text)
     update();
 }
 
-QSizeF SpearItem::textSize() const
-{
-    return m_isInLayout ? m_shown.size : m_textItem->textSize();
-}
-
 double SpearItem::textWidth() const
 {
-    return textSize().width();
+    return m_textItem->textWidth();
 }
 
 double SpearItem::textHeight() const
 {
-    return textSize().height();
+    return m_textItem->textHeight();
 }
 
 /** How many characters of the title are shown. */
@@ -170,11 +162,7 @@ void SpearItem::showText(const SpearStyle &style)
         if (m_textItem->shows(font, shown))
             return;
         prepareGeometryChange();
-        m_shown.text = m_text.left(length);
-        m_shown.font = font;
-        m_shown.size = QSizeF();
-        unplace();
-        m_textItem->showText(font, m_shown.text);
+        m_textItem->showText(font, m_text.left(length));
     };
     // No copy of the font: this is asked for every bone of every layout.
     if (const QFont *const set = style.textFont(textState()))
@@ -233,18 +221,33 @@ void SpearItem::updateTextLooks()
 void SpearItem::showLooks(const SpearStyle &style)
 {
     showText(style);
-    m_shown.color = style.textColor(textState());
-    m_textItem->showColor(m_shown.color);
+    m_textItem->showColor(style.textColor(textState()));
+    showBox(style);
 }
 
-/** Whether showLooks() would change nothing, given that nobody else changed the text box. */
-bool SpearItem::showsLooks(const SpearStyle &style) const
+/** Has the text box painted anew when what it paints behind and around its text is another. */
+void SpearItem::showBox(const SpearStyle &style)
 {
-    const SpearStyle::SpearState state = textState();
-    const QFont *const font = style.textFont(state);
-    return m_shown.text == QStringView(m_text).left(shownLength(style)) &&
-           m_shown.color == style.textColor(state) &&
-           (font ? m_shown.font == *font : m_shown.font == QFont());
+    const SpearStyle::SpearState state = boxState();
+    if (state == SpearStyle::ssNormal)
+        return; // nothing but the text
+    const QColor background = style.textBkColor(state);
+    const QPen *const set = style.broderPen(state);
+    const QPen frame = set ? *set : QPen();
+    if (m_painted.background == background && m_painted.frame == frame)
+        return;
+    m_painted.background = background;
+    m_painted.frame = frame;
+    m_textItem->update();
+}
+
+/** Has the bone painted anew when the subject may be moved now, or no longer. */
+void SpearItem::showMovability()
+{
+    if (m_painted.isMovable == isMovable())
+        return;
+    m_painted.isMovable = isMovable();
+    update();
 }
 
 void SpearItem::applyState(SpearStyle::SpearState state)
@@ -253,6 +256,7 @@ void SpearItem::applyState(SpearStyle::SpearState state)
     m_currentState = state;
     showLooks(applied);
     showPen(applied);
+    showMovability();
 }
 
 void SpearItem::showPen(const SpearStyle &style)
@@ -301,13 +305,21 @@ void SpearItem::setLinked(bool linked, int number)
     m_linked = linked;
     m_linkNumber = number;
     applyState(interactionState());
+    update();
+    m_textItem->update();
+}
+
+void SpearItem::setMoving(bool moving)
+{
+    if (m_moving == moving)
+        return;
+    m_moving = moving;
+    update();
 }
 
 void SpearItem::setExpand(bool expand)
 {
     m_expand = expand;
-    unplace(); // the pictures of the button need not be of one size
-    m_isButtonCurrent = false;
     showChildren();
     update();
 }
@@ -342,7 +354,7 @@ void SpearItem::forgetChildSpears()
 {
     m_childSpears.clear(); // one of them may be dying
     m_knowsChildSpears = false;
-    DrawnChanges::note();
+    ++m_treeChanges;
 }
 
 const QList<SpearItem *> &SpearItem::knownChildSpears() const
@@ -383,15 +395,12 @@ void SpearItem::setCompanion(QGraphicsItem *&companion, QGraphicsItem *item)
         return;
     const std::unique_ptr<QGraphicsItem> replaced(companion);
     companion = item;
-    unplace();
     if (item)
         item->setParentItem(this);
 }
 
 void SpearItem::setLinkItem(QGraphicsItem *item)
 {
-    const auto *const link = qgraphicsitem_cast<LinkItem *>(item);
-    m_linkUrl = link ? link->url() : QString();
     setCompanion(m_linkItem, item);
     if (m_linkItem)
         m_linkItem->setPos(linkBuddyPosition());
@@ -400,20 +409,16 @@ void SpearItem::setLinkItem(QGraphicsItem *item)
 void SpearItem::setExpandBuddy(QGraphicsItem *item)
 {
     setCompanion(m_expandBuddy, item);
-    m_isButtonCurrent = false;
     if (m_expandBuddy)
         m_expandBuddy->setPos(expandBuddyPosition());
 }
 
 void SpearItem::updateExpandButton()
 {
-    if (m_isButtonCurrent)
-        return;
     if (auto *const button = qgraphicsitem_cast<ExpandItem *>(m_expandBuddy))
         button->updateSvgIcon();
     else
         setExpandBuddy(std::make_unique<ExpandItem>(this).release());
-    m_isButtonCurrent = true;
 }
 
 QVariant SpearItem::itemChange(GraphicsItemChange change, const QVariant &value)
@@ -426,13 +431,6 @@ QVariant SpearItem::itemChange(GraphicsItemChange change, const QVariant &value)
     } else if (change == ItemSceneHasChanged && m_hovered) {
         m_hovered = false; // the scene that it left sends no further event
         applyState(interactionState());
-    } else if (change == ItemPositionHasChanged) {
-        m_isDisplaced = value.toPointF() != QPointF();
-        DrawnChanges::note();
-    } else if (change == ItemVisibleHasChanged) {
-        DrawnChanges::note();
-    } else if (change == ItemParentHasChanged) {
-        unplace();
     } else if (change == ItemChildAddedChange) {
         forgetChildSpears();
     } else if (change == ItemChildRemovedChange) {
@@ -441,11 +439,8 @@ QVariant SpearItem::itemChange(GraphicsItemChange change, const QVariant &value)
         const auto *const removed = value.value<QGraphicsItem *>();
         if (removed == m_linkItem)
             m_linkItem = nullptr;
-        if (removed == m_expandBuddy) {
+        if (removed == m_expandBuddy)
             m_expandBuddy = nullptr;
-            m_isButtonCurrent = false;
-            unplace(); // the link icon stands beside it
-        }
     }
     return result;
 }

@@ -131,7 +131,7 @@ public:
     /// Whether the bone is being moved.
     bool isMoving() const { return m_moving; }
     /// While set, the bone's line is not drawn.
-    void setMoving(bool moving) { m_moving = moving; }
+    void setMoving(bool moving);
     /// Whether the child spears are shown.
     bool isExpand() const { return m_expand; }
     /// Stores the flag and shows or hides every child spear.
@@ -175,8 +175,6 @@ public:
     void setLinkItem(QGraphicsItem *item);
     /// Gives the spear its expand button, as setLinkItem() does.
     void setExpandBuddy(QGraphicsItem *item);
-    /// Whether the link icon was made for \a url and the spear still has it.
-    bool showsLink(const QString &url) const { return m_linkItem && m_linkUrl == url; }
     /// Brings the picture of the expand button in line with isExpand().
     void updateExpandButton();
     /// @}
@@ -203,15 +201,10 @@ public:
 
     /// Resets the item for a new layout: position, offset, line, recorded child sizes.
     void initData(int direction);
-    /// As initData(), but the line and whatever looks as it should stay, so that a layout that
-    /// changes nothing repaints nothing. The caller shows the children. Until endLayout() the text
-    /// is not measured again. For FishLayout.
+    /// As initData(), but the line stands, and the caller shows the children. For FishLayout.
     void beginLayout(int direction);
-    /// As updatePosition(), but companions that stand in their places already are not placed
-    /// again. For FishLayout.
+    /// As updatePosition(). \a parent is the parent spear, null for the header. For FishLayout.
     void place(SpearItem *parent);
-    /// The layout is done: the text is measured whenever it is asked for. For FishLayout.
-    void endLayout() { m_isInLayout = false; }
     /// Records the size of the next child spear.
     void sumChildSize(const QSizeF &size);
     /// Extent along the horizontal, children included.
@@ -246,12 +239,17 @@ public:
     void paint(QPainter *painter, const QStyleOptionGraphicsItem *option,
                QWidget *widget = nullptr) override;
 
+    /// How often a spear of this process has got or lost a child item. For the editor.
+    static quint64 treeChanges() { return m_treeChanges; }
     /// What SpearPointer shares with the spear. For SpearPointer.
     std::shared_ptr<SpearItem *> guardCell() { return m_guard.shared(this); }
 
-    static QPixmap *m_pixHeader; ///< head picture, shared; null while there is no spear
-    static QPixmap *m_pixTail;   ///< tail picture, shared; null while there is no spear
-    static int m_refCount;       ///< number of living spears
+    /// Head and tail picture, shared by all spears and deleted with the last one. A host may assign
+    /// others to them or to what they point at, as long as there is a spear: the next layout draws
+    /// them. A null pointer or pixmap draws nothing.
+    static QPixmap *m_pixHeader;
+    static QPixmap *m_pixTail; ///< see m_pixHeader
+    static int m_refCount;     ///< number of living spears
 
 protected:
     QVariant itemChange(GraphicsItemChange change, const QVariant &value) override;
@@ -260,13 +258,12 @@ protected:
     void hoverLeaveEvent(QGraphicsSceneHoverEvent *event) override;
 
 private:
-    /// What the text box was given last.
-    struct ShownText
+    /// What was painted, or is about to be, of what no item keeps.
+    struct Painted
     {
-        QString text;
-        QFont font;
-        QColor color;
-        QSizeF size; ///< invalid until measured
+        QColor background; ///< of the text box; invalid for none
+        QPen frame;        ///< of the text box
+        bool isMovable = true;
     };
 
     /// What the layout needs to know of the recorded child sizes.
@@ -283,16 +280,14 @@ private:
     SpearItem *parentSpear() const;
     SpearStyle::SpearState interactionState() const;
     SpearStyle::SpearState textState() const;
-    void resetLayout(int direction);
     void showChildren();
     int shownLength(const SpearStyle &style) const;
     void showText(const SpearStyle &style);
     void showLooks(const SpearStyle &style);
-    bool showsLooks(const SpearStyle &style) const;
-    QSizeF textSize() const;
+    void showBox(const SpearStyle &style);
+    void showMovability();
     void setCompanion(QGraphicsItem *&companion, QGraphicsItem *item);
     void placeCompanions();
-    void unplace();
     void forgetChildSpears();
     QLineF placedLine(const SpearItem *parent) const;
     void moveLine(SpearItem *parent, const QLineF &placed);
@@ -312,21 +307,18 @@ private:
     QPointF linkCircleCenter() const;
     QRectF linkCircleRect() const;
 
+    static inline quint64 m_treeChanges = 0;
+
     static void loadPictures();
     static void releasePictures();
+    void showPictures();
 
     SpearStyle::SpearState m_currentState = SpearStyle::ssNormal;
     QString m_text;
     QString m_textDisplay;
     ChildExtents m_children;
-    ShownText m_shown;
-    bool m_isInLayout = false;      ///< m_shown.size is what the text box measures
-    bool m_isPlaced = false;        ///< the companions stand where the line wants them
-    bool m_isDisplaced = false;     ///< the spear itself was dragged off (0, 0)
-    bool m_isButtonCurrent = false; ///< the picture of the expand button tells m_expand
-    int m_shownStatus = 0;
-    int m_shownProgress = 0;
-    QString m_linkUrl;
+    Painted m_painted;
+    qint64 m_paintedPictures = 0; ///< the header's
     mutable QList<SpearItem *> m_childSpears;
     mutable bool m_knowsChildSpears = true; ///< whether m_childSpears is up to date
     double m_offset = 0;
@@ -338,6 +330,7 @@ private:
     bool m_moving = false;
     bool m_expand = false;
     bool m_hovered = false;
+    bool m_hasHiddenStatus = false; ///< as every header does
     TextItem *m_textItem = nullptr;
     QGraphicsItem *m_linkItem = nullptr;
     QGraphicsItem *m_expandBuddy = nullptr;

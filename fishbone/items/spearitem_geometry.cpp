@@ -6,6 +6,7 @@
 #include <fishbone/items/spearitem.h>
 
 #include <cmath>
+#include <utility>
 
 #include <QPixmap>
 #include <QtMath>
@@ -14,7 +15,6 @@
 #include <fishbone/items/textitem.h>
 #include <fishbone/model/systemhelper.h>
 #include <fishbone/model/treeitem.h>
-#include <fishbone/style/drawnchanges.h>
 
 namespace {
 constexpr double boneAngle = 70;            ///< slant of a slanted bone, degrees
@@ -30,6 +30,11 @@ const double widestWedgeSlope = std::tan(widestWedgeAngle);
 QRectF spanned(const QLineF &line)
 {
     return QRectF(line.p1(), line.p2()).normalized();
+}
+
+QSizeF sizeOf(const QPixmap *picture)
+{
+    return picture ? QSizeF(picture->size()) : QSizeF(0, 0);
 }
 
 /// Adds \a polygon to \a path. All of them turn the same way, so that with winding fill parts that
@@ -49,13 +54,6 @@ QPolygonF corners(const QRectF &rect)
 void SpearItem::setLine(const QLineF &line)
 {
     QGraphicsLineItem::setLine(line);
-    DrawnChanges::note();
-}
-
-void SpearItem::unplace()
-{
-    m_isPlaced = false;
-    DrawnChanges::note();
 }
 
 void SpearItem::setDirection(int direction)
@@ -64,39 +62,24 @@ void SpearItem::setDirection(int direction)
         return;
     prepareGeometryChange();
     m_direction = direction;
-    unplace();
-}
-
-void SpearItem::resetLayout(int direction)
-{
-    if (m_isDisplaced)
-        setPos(0, 0);
-    m_offset = 0;
-    setDirection(direction);
-    m_children = ChildExtents();
 }
 
 void SpearItem::initData(int direction)
 {
-    resetLayout(direction);
-    applyState(m_currentState);
+    beginLayout(direction);
     setLine(QLineF(0, 0, 0, 0));
     showChildren();
 }
 
 void SpearItem::beginLayout(int direction)
 {
-    resetLayout(direction);
-    if (const SpearStyle &applied = *style(); showsLooks(applied))
-        showPen(applied);
-    else
-        applyState(m_currentState);
-    if (m_treeItem &&
-        (m_treeItem->status() != m_shownStatus || m_treeItem->progress() != m_shownProgress))
-        updateTaskStatus();
-    if (!m_shown.size.isValid())
-        m_shown.size = m_textItem->textSize();
-    m_isInLayout = true;
+    setPos(0, 0);
+    m_offset = 0;
+    setDirection(direction);
+    m_children = ChildExtents();
+    applyState(m_currentState);
+    if (isHeader())
+        showPictures();
 }
 
 void SpearItem::sumChildSize(const QSizeF &size)
@@ -180,7 +163,7 @@ QPointF SpearItem::textBuddyPosition()
     const QPointF start = line().p1();
     if (isHeader())
         return start;
-    const QSizeF text = textSize();
+    const QSizeF text = m_textItem->textSize();
     // Compared first: setting the rotation that is there already would schedule a repaint.
     const double rotation = -boneAngle * m_direction;
     if (!qFuzzyCompare(m_textItem->rotation() + 1, rotation + 1))
@@ -237,16 +220,12 @@ QLineF SpearItem::placedLine(const SpearItem *parent) const
 void SpearItem::updatePosition(const QPointF &position)
 {
     Q_UNUSED(position)
-    moveLine(parentSpear(), placedLine(parentSpear()));
-    placeCompanions();
+    place(parentSpear());
 }
 
 void SpearItem::place(SpearItem *parent)
 {
-    const QLineF placed = placedLine(parent);
-    if (m_isPlaced && placed == line())
-        return;
-    moveLine(parent, placed);
+    moveLine(parent, placedLine(parent));
     placeCompanions();
 }
 
@@ -270,10 +249,15 @@ void SpearItem::placeCompanions()
         m_linkItem->setPos(linkBuddyPosition());
     if (m_expandBuddy)
         m_expandBuddy->setPos(expandBuddyPosition());
-    m_statusItem->setVisible(!isHeader());
-    if (!isHeader())
-        m_statusItem->setPos(TaskStateItemPosition());
-    m_isPlaced = true;
+    if (isHeader()) {
+        m_hasHiddenStatus = m_hasHiddenStatus || m_statusItem->isVisible();
+        m_statusItem->setVisible(false);
+        return;
+    }
+    // Otherwise left as it is: a host may have hidden it.
+    if (std::exchange(m_hasHiddenStatus, false))
+        m_statusItem->setVisible(true);
+    m_statusItem->setPos(TaskStateItemPosition());
 }
 
 QRectF SpearItem::textRect() const
@@ -290,13 +274,13 @@ QRectF SpearItem::textRect() const
 
 QRectF SpearItem::headRect() const
 {
-    const QSizeF size = m_pixHeader->size();
+    const QSizeF size = sizeOf(m_pixHeader);
     return {line().p1() - QPointF(0, size.height() / 2), size};
 }
 
 QRectF SpearItem::tailRect() const
 {
-    const QSizeF size = m_pixTail->size();
+    const QSizeF size = sizeOf(m_pixTail);
     return {line().p2() - QPointF(size.width(), size.height() / 2), size};
 }
 

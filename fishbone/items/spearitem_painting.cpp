@@ -47,14 +47,44 @@ std::unique_ptr<QPixmap> loadedPicture(const QString &file)
     return picture;
 }
 
-/// Draws \a picture at \a topLeft, from the vectors where there are any, so that it stays sharp at
-/// every zoom and in every export.
-void drawPicture(QPainter *painter, const QPointF &topLeft, const QPixmap &picture,
-                 const QString &file)
+/// A picture as it was loaded from its file, to be told from one that a host has assigned.
+struct Loaded
 {
-    if (picture.isNull())
+    QString (*file)();
+    qint64 key = 0; ///< of the pixmap; 0 when the file was missing
+};
+
+Loaded loadedHead{headFile};
+Loaded loadedTail{tailFile};
+
+void load(QPixmap *&picture, Loaded &loaded)
+{
+    picture = loadedPicture(loaded.file()).release();
+    loaded.key = picture->cacheKey();
+}
+
+/// Looks again for a picture whose file was missing.
+void loadMissing(QPixmap *picture, Loaded &loaded)
+{
+    if (!picture || loaded.key != 0 || !picture->isNull())
         return;
-    if (QSvgRenderer *const renderer = sharedSvgRenderer(file))
+    *picture = *loadedPicture(loaded.file());
+    loaded.key = picture->cacheKey();
+}
+
+qint64 keyOf(const QPixmap *picture)
+{
+    return picture ? picture->cacheKey() : 0;
+}
+
+/// Draws \a picture at \a topLeft, from the vectors where it was loaded from any, so that it stays
+/// sharp at every zoom and in every export.
+void drawPicture(QPainter *painter, const QPointF &topLeft, const QPixmap &picture,
+                 const Loaded &loaded)
+{
+    QSvgRenderer *const renderer =
+        picture.cacheKey() == loaded.key ? sharedSvgRenderer(loaded.file()) : nullptr;
+    if (renderer)
         renderer->render(painter, QRectF(topLeft, QSizeF(picture.size())));
     else
         painter->drawPixmap(topLeft, picture);
@@ -69,9 +99,9 @@ void SpearItem::loadPictures()
 {
     ++m_refCount;
     if (!m_pixHeader)
-        m_pixHeader = loadedPicture(headFile()).release();
+        load(m_pixHeader, loadedHead);
     if (!m_pixTail)
-        m_pixTail = loadedPicture(tailFile()).release();
+        load(m_pixTail, loadedTail);
 }
 
 void SpearItem::releasePictures()
@@ -80,6 +110,19 @@ void SpearItem::releasePictures()
         return;
     delete std::exchange(m_pixHeader, nullptr);
     delete std::exchange(m_pixTail, nullptr);
+}
+
+/** Brings the header in line with the pictures that there are now. */
+void SpearItem::showPictures()
+{
+    loadMissing(m_pixHeader, loadedHead);
+    loadMissing(m_pixTail, loadedTail);
+    const qint64 keys = keyOf(m_pixHeader) * 31 + keyOf(m_pixTail);
+    if (m_paintedPictures == keys)
+        return;
+    m_paintedPictures = keys;
+    prepareGeometryChange();
+    update();
 }
 
 void SpearItem::paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget)
@@ -111,11 +154,13 @@ void SpearItem::drawHeader(QPainter *painter, const QStyleOptionGraphicsItem *op
     drawBackbone(painter);
     const QPointF head = line().p1();
     const QPointF tail = line().p2();
-    // Whole pixels, so that a picture of odd height is not blurred.
-    const int aboveHead = m_pixHeader->height() / 2;
-    const int aboveTail = m_pixTail->height() / 2;
-    drawPicture(painter, head - QPointF(0, aboveHead), *m_pixHeader, headFile());
-    drawPicture(painter, tail - QPointF(m_pixTail->width(), aboveTail), *m_pixTail, tailFile());
+    // Whole pixels above the line, so that a picture of odd height is not blurred.
+    if (m_pixHeader && !m_pixHeader->isNull())
+        drawPicture(painter, head - QPointF(0, m_pixHeader->height() / 2), *m_pixHeader,
+                    loadedHead);
+    if (m_pixTail && !m_pixTail->isNull())
+        drawPicture(painter, tail - QPointF(m_pixTail->width(), m_pixTail->height() / 2),
+                    *m_pixTail, loadedTail);
     painter->setFont(textFont(textState()));
     painter->setPen(textColor(textState()));
     drawLinkCircle(painter);

@@ -12,6 +12,8 @@
 
 #include <memory>
 
+#include <fishbone/base/onepass.h>
+
 namespace {
 int parsedFiles = 0;
 
@@ -19,10 +21,18 @@ using PictureKey = QPair<const QSvgRenderer *, QPair<int, int>>;
 
 constexpr int mostPictures = 1000; ///< a size a zoom step and file; small ones
 
+/** What is known of a file. */
+struct Known
+{
+    QSvgRenderer *renderer = nullptr;
+    bool isMissing = true; ///< the file was not there when it was looked for
+    OncePerPass lookup;
+};
+
 struct SvgCache
 {
     QPointer<QCoreApplication> application;
-    QHash<QString, QSvgRenderer *> renderers;
+    QHash<QString, Known> files;
     QHash<PictureKey, QPixmap> pictures;
 };
 
@@ -32,7 +42,7 @@ SvgCache &currentCache()
 {
     static SvgCache cache;
     if (cache.application != QCoreApplication::instance()) {
-        cache.renderers.clear();
+        cache.files.clear();
         cache.pictures.clear();
         cache.application = QCoreApplication::instance();
     }
@@ -41,10 +51,6 @@ SvgCache &currentCache()
 
 QSvgRenderer *parsedRenderer(const QString &file, QObject *owner)
 {
-    // Asked first because the renderer complains about a file that is not there, and a host may
-    // leave out pictures that it does not want.
-    if (!QFile::exists(file))
-        return nullptr;
     ++parsedFiles;
     auto renderer = std::make_unique<QSvgRenderer>(file);
     if (!renderer->isValid())
@@ -59,12 +65,15 @@ QSvgRenderer *sharedSvgRenderer(const QString &file)
     if (file.isEmpty())
         return nullptr;
     SvgCache &cache = currentCache();
-    const auto known = cache.renderers.constFind(file);
-    if (known != cache.renderers.constEnd())
-        return known.value();
-    QSvgRenderer *const renderer = parsedRenderer(file, cache.application);
-    cache.renderers.insert(file, renderer);
-    return renderer;
+    Known &known = cache.files[file];
+    if (!known.isMissing || !known.lookup.isDue())
+        return known.renderer;
+    // Asked first because the renderer complains about a file that is not there, and a host may
+    // leave out pictures that it does not want.
+    known.isMissing = !QFile::exists(file);
+    if (!known.isMissing)
+        known.renderer = parsedRenderer(file, cache.application);
+    return known.renderer;
 }
 
 QPixmap screenPicture(const QString &file, const QSize &devicePixels)

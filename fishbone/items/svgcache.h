@@ -10,7 +10,8 @@ class QSvgRenderer;
 
 /// The renderer that draws the picture \a file, shared by everything that shows the same file.
 /// A file is read and parsed once per application object, which owns the renderer. Null for an
-/// empty name and for a file that does not exist or is no SVG picture; that result is kept too.
+/// empty name and for a file that is no SVG picture, which is kept too, and for one that does not
+/// exist, which is looked for again by every call, but once within a OnePass.
 QSvgRenderer *sharedSvgRenderer(const QString &file);
 
 /// The picture \a file as so many device pixels, for painting on a screen; kept for the next item

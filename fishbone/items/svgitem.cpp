@@ -43,11 +43,14 @@ SvgItem::SvgItem(const QString &file, QGraphicsItem *parent)
 
 void SvgItem::setSvgFile(const QString &file)
 {
-    if (file == m_file)
+    const bool isSetAgain = file == m_file;
+    if (isSetAgain && (m_shown || file.isEmpty()))
         return;
+    QSvgRenderer *const renderer = sharedSvgRenderer(file);
+    if (isSetAgain && !renderer)
+        return; // still missing
     m_file = file;
     prepareGeometryChange();
-    QSvgRenderer *const renderer = sharedSvgRenderer(file);
     m_shown = renderer != nullptr;
     if (m_shown)
         setSharedRenderer(renderer);

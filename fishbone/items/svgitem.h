@@ -14,16 +14,23 @@ class FISHBONE_EXPORT SvgItem : public QGraphicsSvgItem
     Q_OBJECT
 
 public:
+    enum { Type = UserType + 5 };
+
+    int type() const override { return Type; }
+
     /// An item without a picture; it has an empty bounding rectangle and paints nothing.
     explicit SvgItem(QGraphicsItem *parent = nullptr);
     /// An item that shows \a file and accepts hover events.
     explicit SvgItem(const QString &file, QGraphicsItem *parent = nullptr);
 
     /// Shows \a file from now on. An empty name, a missing file and one that is no SVG picture show
-    /// nothing; setting the file that is shown already changes nothing.
+    /// nothing; setting the file that is shown already changes nothing. One that was missing is
+    /// looked for again when it is set again.
     void setSvgFile(const QString &file);
     /// The file given last, whether or not it could be shown.
     QString svgFile() const { return m_file; }
+    /// Whether there is a picture behind svgFile().
+    bool showsPicture() const { return m_shown; }
 
     QRectF boundingRect() const override;
     void paint(QPainter *painter, const QStyleOptionGraphicsItem *option,

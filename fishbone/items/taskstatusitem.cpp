@@ -29,15 +29,17 @@ void TaskStatusItem::setProgress(int progress)
 
 void TaskStatusItem::setTask(int status, int progress)
 {
-    if (status == m_info.status() && progress == m_info.progress())
-        return;
-    m_info = TaskStatusInfo(static_cast<TaskStatus>(status), progress);
+    if (status != m_info.status() || progress != m_info.progress())
+        m_info = TaskStatusInfo(static_cast<TaskStatus>(status), progress);
+    else if (svgFile() == m_icon && !m_icon.isEmpty() == showsPicture())
+        return; // the layout comes here for every bone
     updateStatusIcon();
 }
 
 void TaskStatusItem::updateStatusIcon()
 {
-    setSvgFile(m_info.iconPath());
+    m_icon = m_info.iconPath();
+    setSvgFile(m_icon);
 }
 
 void TaskStatusItem::createPopMenu(QMenu *menu, QSignalMapper *mapper)

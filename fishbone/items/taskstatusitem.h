@@ -16,6 +16,10 @@ class FISHBONE_EXPORT TaskStatusItem : public SvgItem
     Q_OBJECT
 
 public:
+    enum { Type = UserType + 6 };
+
+    int type() const override { return Type; }
+
     /// An icon for \a status and \a progress (percent), a child of \a spear.
     TaskStatusItem(SpearItem *spear, TaskStatus status, int progress);
 
@@ -42,4 +46,5 @@ protected:
 
 private:
     TaskStatusInfo m_info;
+    QString m_icon; ///< the picture of m_info
 };

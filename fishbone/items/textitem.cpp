@@ -9,15 +9,16 @@
 #include <QPaintEngine>
 #include <QPainter>
 #include <QStyleOptionGraphicsItem>
+#include <QTextCursor>
 #include <QTextDocument>
 
 #include <fishbone/items/hovercursor.h>
 #include <fishbone/items/spearitem.h>
+#include <fishbone/style/textbox.h>
 
 namespace {
 constexpr qreal lowestReadable = 2; ///< device pixels a text is high
 constexpr qreal strokeOpacity = 0.4;
-constexpr qreal cornerRoundness = 5; ///< per cent of half the box's width and height
 
 SpearStyle::SpearState stateOf(bool hovered, bool selected)
 {
@@ -37,7 +38,9 @@ TextItem::TextItem(const QString &text, QGraphicsItem *parent)
 
 bool TextItem::shows(const QFont &font, QStringView text) const
 {
-    return m_text == text && this->font() == font;
+    const QTextDocument *const shown = document();
+    return m_text == text && shown == m_document && shown->revision() == m_revision &&
+           shown->defaultFont() == font;
 }
 
 void TextItem::showText(const QFont &font, const QString &text)
@@ -45,10 +48,15 @@ void TextItem::showText(const QFont &font, const QString &text)
     // The font first: the other way round the text would be laid out twice.
     if (this->font() != font)
         setFont(font);
-    if (m_text != text) {
+    const bool isEdited = document() != m_document || document()->revision() != m_revision;
+    if (isEdited)
+        setTextCursor(QTextCursor()); // which would hand its format on to the new text
+    if (m_text != text || isEdited) {
         m_text = text;
         setPlainText(text);
     }
+    m_document = document();
+    m_revision = m_document->revision();
 }
 
 void TextItem::showColor(const QColor &color)
@@ -79,7 +87,7 @@ void TextItem::paint(QPainter *painter, const QStyleOptionGraphicsItem *option, 
         showColor(QColor());
     }
     if (state != SpearStyle::ssNormal)
-        paintBox(painter, QRectF(option->rect), fill, frame);
+        paintTextBox(*painter, boundingRect(), QRectF(option->rect), fill, frame);
     if (isReadable(*painter))
         QGraphicsTextItem::paint(painter, option, widget);
     else
@@ -103,25 +111,6 @@ void TextItem::paintStroke(QPainter *painter) const
     color.setAlphaF(color.alphaF() * strokeOpacity);
     painter->fillRect(
         QRectF(box.left(), box.top() + box.height() / 3, box.width(), box.height() / 3), color);
-}
-
-void TextItem::paintBox(QPainter *painter, const QRectF &exposed, const QColor &fill,
-                        const QPen &frame)
-{
-    painter->save();
-    if (fill.isValid())
-        painter->fillRect(exposed & boundingRect(), fill);
-    // The frame stays inside the item's rectangle, half its pen on either side of the outline, so
-    // that no partial repaint can leave a piece of it behind. A wider pen than this fills the box.
-    const QRectF box = QRectF(boundingRect().toRect()) & boundingRect();
-    QPen pen(frame);
-    pen.setWidthF(qMin(pen.widthF(), qMin(box.width(), box.height()) / 2));
-    const qreal inset = qMax<qreal>(pen.widthF(), 1) / 2;
-    painter->setPen(pen);
-    painter->setBrush(Qt::NoBrush);
-    painter->drawRoundedRect(box.adjusted(inset, inset, -inset, -inset), cornerRoundness,
-                             cornerRoundness, Qt::RelativeSize);
-    painter->restore();
 }
 
 /// Applied before the next paint, which must find nothing to change.

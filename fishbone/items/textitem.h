@@ -59,9 +59,10 @@ private:
     void followInteraction();
     bool isReadable(const QPainter &painter) const;
     void paintStroke(QPainter *painter) const;
-    void paintBox(QPainter *painter, const QRectF &exposed, const QColor &fill, const QPen &frame);
 
     SpearStyle::SpearState m_ownState = SpearStyle::ssNormal;
     bool m_hovered = false;
     QString m_text; ///< what the document was given last; cheaper to compare than the document
+    const QTextDocument *m_document = nullptr; ///< that was given it; only compared
+    int m_revision = -1;                       ///< of the document since then
 };

@@ -6,7 +6,6 @@
 #include <fishbone/items/spearitem.h>
 #include <fishbone/model/jsonnodes.h>
 #include <fishbone/model/systemhelper.h>
-#include <fishbone/style/drawnchanges.h>
 #include <fishbone/style/spearstyle.h>
 #include <fishbone/style/spearstyledialog.h>
 
@@ -257,19 +256,16 @@ void TreeItem::setFollowers(const QJsonArray &followers)
 void TreeItem::setUrl(const QString &url)
 {
     m_url = url;
-    DrawnChanges::note();
 }
 
 void TreeItem::setStatus(int status)
 {
     m_status = status;
-    DrawnChanges::note();
 }
 
 void TreeItem::setProgress(int progress)
 {
     m_progress = progress;
-    DrawnChanges::note();
 }
 
 void TreeItem::setSpear(SpearItem *spear, const QModelIndex &index)
@@ -280,7 +276,6 @@ void TreeItem::setSpear(SpearItem *spear, const QModelIndex &index)
             former->forgetTreeItem();
     }
     m_spear = spear;
-    DrawnChanges::note();
     if (!spear)
         return;
     spear->setModelIndex(index);
@@ -322,7 +317,6 @@ void TreeItem::delSpearStyle()
     if (!m_spearStyle)
         return;
     StyleSession::discard(this, std::move(m_spearStyle));
-    DrawnChanges::note();
 }
 
 bool TreeItem::isHaveParentTask() const

@@ -4,7 +4,6 @@
 // The place of a TreeItem in its tree.
 
 #include <fishbone/model/treeitem.h>
-#include <fishbone/style/drawnchanges.h>
 
 namespace {
 
@@ -80,7 +79,6 @@ void TreeItem::leaveList()
         return;
     m_lister->m_children.removeAt(rowInList());
     m_lister = nullptr;
-    DrawnChanges::note();
 }
 
 /** Lists an accepted child that no list holds. */
@@ -90,7 +88,6 @@ void TreeItem::place(TreeItem *child, int position)
     child->m_parent = this;
     child->m_lister = this;
     child->m_rowHint = position;
-    DrawnChanges::note();
 }
 
 void TreeItem::appendChild(TreeItem *child, int position)
@@ -137,7 +134,6 @@ bool TreeItem::moveChildren(int source, int count, TreeItem *destination, int de
     if (count < 1)
         return true;
 
-    DrawnChanges::note();
     if (destination == this) {
         const bool forward = destinationChild > source;
         for (int k = 0; k < count; ++k) {
@@ -168,7 +164,6 @@ TreeItem *TreeItem::takeAt(int i)
         return nullptr;
     TreeItem *const child = m_children.takeAt(i);
     child->m_lister = nullptr;
-    DrawnChanges::note();
     return child;
 }
 
@@ -181,6 +176,5 @@ bool TreeItem::removeChildren(int position, int count)
     const QList<TreeItem *> removed = m_children.mid(position, count);
     m_children.erase(m_children.begin() + position, m_children.begin() + position + count);
     qDeleteAll(removed);
-    DrawnChanges::note();
     return true;
 }

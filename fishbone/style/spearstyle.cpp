@@ -3,10 +3,10 @@
 
 #include <fishbone/style/spearstyle.h>
 
+#include <fishbone/base/onepass.h>
 #include <fishbone/model/filereplacement.h>
 #include <fishbone/model/systemhelper.h>
-#include <fishbone/style/drawnchanges.h>
-#include <fishbone/style/globalstylelookup.h>
+#include <fishbone/style/globalstylelookups.h>
 
 #include <QCoreApplication>
 #include <QFile>
@@ -162,6 +162,15 @@ void readState(SpearStyle &style, SpearStyle::SpearState state, const QJsonObjec
 
 } // namespace
 
+namespace {
+int lookups = 0;
+}
+
+int globalStyleLookupCount()
+{
+    return lookups;
+}
+
 bool SpearStyle::m_isGlobalInited = false;
 
 SpearStyle::SpearStyle() = default;
@@ -178,7 +187,6 @@ void SpearStyle::setTextFont(SpearState state, const QFont &font)
 {
     Q_ASSERT(state >= 0 && state < stateCount);
     m_textFonts[state] = std::make_unique<QFont>(font);
-    DrawnChanges::note();
 }
 
 QColor SpearStyle::textColor(SpearState state) const
@@ -191,7 +199,6 @@ void SpearStyle::setTextColor(SpearState state, const QColor &color)
 {
     Q_ASSERT(state >= 0 && state < stateCount);
     m_textColors[state] = color;
-    DrawnChanges::note();
 }
 
 QColor SpearStyle::textBkColor(SpearState state) const
@@ -216,13 +223,11 @@ void SpearStyle::setBroderPen(SpearState state, const QPen &pen)
 {
     Q_ASSERT(state >= 0 && state < stateCount);
     m_broderPens[state] = std::make_unique<QPen>(pen);
-    DrawnChanges::note();
 }
 
 void SpearStyle::setTextCount(int count)
 {
     m_textCount = count;
-    DrawnChanges::note();
 }
 
 void SpearStyle::read(const QJsonObject &object)
@@ -231,7 +236,6 @@ void SpearStyle::read(const QJsonObject &object)
         return;
     m_inheritanceParent = object[inheritanceParentKey].toBool();
     m_textCount = object[textCountKey].toInt();
-    DrawnChanges::note();
     const QJsonArray states = object[spearStatesKey].toArray();
     for (const QJsonValue &element : states) {
         const QJsonObject stateObject = element.toObject();
@@ -265,9 +269,11 @@ QString SpearStyle::spearStyleFilePath()
 SpearStyle *SpearStyle::global()
 {
     static SpearStyle style;
+    static OncePerPass lookup;
     // Without an application object the folder of the program is not known.
-    if (m_isGlobalInited || !QCoreApplication::instance() || !GlobalStyleLookup::isDue())
+    if (m_isGlobalInited || !QCoreApplication::instance() || !lookup.isDue())
         return &style;
+    ++lookups;
     QFile file(spearStyleFilePath());
     if (!file.open(QIODevice::ReadOnly))
         return &style;

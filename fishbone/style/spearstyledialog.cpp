@@ -7,6 +7,7 @@
 #include <fishbone/style/colorchoice.h>
 #include <fishbone/style/penselect.h>
 #include <fishbone/style/previewpixmap.h>
+#include <fishbone/style/textbox.h>
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -24,7 +25,6 @@
 #include <QRegularExpressionValidator>
 #include <QScrollArea>
 #include <QVBoxLayout>
-#include <QtMath>
 
 namespace {
 
@@ -248,7 +248,7 @@ QPixmap SpearStyleDialog::drawPreview(const QString &text) const
     const QColor background = m_style.textBkColor(currentState());
 
     const int padding = 4;
-    const int margin = padding + qCeil(qBound(0.0, pen.widthF() / 2, 200.0));
+    const int margin = padding;
     const QFontMetrics metrics(font);
     const QRect box(margin, margin, metrics.horizontalAdvance(text) + 2 * padding,
                     metrics.height() + 2 * padding);
@@ -257,13 +257,10 @@ QPixmap SpearStyleDialog::drawPreview(const QString &text) const
 
     QPixmap pixmap = previewPixmap(size, devicePixelRatioF());
     QPainter painter(&pixmap);
-    if (background.isValid())
-        painter.fillRect(box, background);
+    paintTextBox(painter, box, box, background, pen);
     painter.setFont(font);
     painter.setPen(textColor); // black when invalid
     painter.drawText(box, Qt::AlignCenter | Qt::TextSingleLine, text);
-    painter.setPen(pen);
-    painter.drawRect(box);
     painter.end();
     return pixmap;
 }

@@ -10,8 +10,10 @@
 #include <fishbone/dialogs/replacefinddialog.h>
 #include <fishbone/items/svgcache.h>
 #include <fishbone/model/fishproxymodel.h>
+#include <fishbone/style/globalstylelookups.h>
 #include <tests/program/testprogram.h>
 #include <tests/support/largefish.h>
+#include <tests/support/pictures.h>
 
 using namespace TestSupport;
 
@@ -35,6 +37,7 @@ private Q_SLOTS:
     void shouldNotRepaintWhatStaysTheSame();
     void shouldPaintOnceForOneUpdate();
     void shouldParseNoPictureForMoreSubjects();
+    void shouldLookForTheGlobalStyleOnceAPass();
 };
 
 namespace {
@@ -248,6 +251,28 @@ void TestOperationCounts::shouldParseNoPictureForMoreSubjects()
 
     const ShownFish second(large);
     QCOMPARE(parsedSvgFileCount(), parsed);
+}
+
+void TestOperationCounts::shouldLookForTheGlobalStyleOnceAPass()
+{
+    QVERIFY(!QFile::exists(SpearStyle::spearStyleFilePath()));
+    LargeFish fish(makeFan(small));
+    fish.editor.expandAll();
+    fish.editor.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&fish.editor));
+    fish.editor.equalRatio(fish.editor.scene()->itemsBoundingRect());
+    QVERIFY(paintEverything(*fish.editor.view()));
+
+    int before = globalStyleLookupCount();
+    fish.editor.updateFish(false);
+    QCOMPARE(globalStyleLookupCount(), before + 1);
+
+    before = globalStyleLookupCount();
+    const PaintCounter paints(fish.editor.view()->viewport());
+    QVERIFY(paintEverything(*fish.editor.view()));
+    QVERIFY(paints.count > 0);
+    QVERIFY2(globalStyleLookupCount() - before <= paints.count,
+             qPrintable(QString::number(globalStyleLookupCount() - before)));
 }
 
 FISHBONE_TEST(TestOperationCounts)

@@ -332,7 +332,6 @@ void TestSpearItem::shouldSetTheStatusOfItsSubject()
     const Drawing drawing(QStringLiteral("Effect[Man]"));
     SpearItem *const spear = drawing.spear(man);
     spear->textItem()->setPos(1000, 1000); // so that placing the companions shows
-    spear->statusItem()->hide();
 
     spear->setTaskStatus(tsFinish);
 

@@ -37,6 +37,7 @@ private Q_SLOTS:
     void shouldDrawTheHeader_data();
     void shouldDrawTheHeader();
     void shouldDrawNoPictureThatIsMissing();
+    void shouldDrawPicturesThatAHostAssigns();
     void shouldMakeTheWedgeThinnerTowardsTheTail();
     void shouldLimitTheWedge_data();
     void shouldLimitTheWedge();
@@ -356,6 +357,26 @@ void TestSpearItemPainting::shouldDrawNoPictureThatIsMissing()
 
     QVERIFY(pixelsOf(picture, backbone) > 500);
     QCOMPARE(inkedPixels(picture), pixelsOf(picture, backbone)); // the wedge alone
+}
+
+void TestSpearItemPainting::shouldDrawPicturesThatAHostAssigns()
+{
+    SpearItem header(QString(), 0, 20);
+    header.setLine(0, 0, -300, 0);
+    const Canvas canvas{QRect(-340, -60, 420, 120), 1};
+    SpearItem::m_pixHeader->fill(Qt::red);
+    delete SpearItem::m_pixTail;
+    SpearItem::m_pixTail = new QPixmap(30, 40);
+    SpearItem::m_pixTail->fill(Qt::blue);
+
+    const QImage picture = paintedItem(header, canvas);
+
+    const QSize head = SpearItem::m_pixHeader->size();
+    QCOMPARE(areaOf(picture, Qt::red).size(), head);
+    QCOMPARE(areaOf(picture, Qt::blue), QRect(10, 40, 30, 40));
+    delete std::exchange(SpearItem::m_pixHeader, nullptr); // none at all
+    QCOMPARE(pixelsOf(paintedItem(header, canvas), Qt::red), 0);
+    QVERIFY(header.boundingRect().isValid());
 }
 
 void TestSpearItemPainting::shouldMakeTheWedgeThinnerTowardsTheTail()

@@ -45,6 +45,8 @@ private Q_SLOTS:
     void shouldStartAtAParentWithoutLength();
     void shouldPlaceAllCompanions_data();
     void shouldPlaceAllCompanions();
+    void shouldLeaveAStatusIconHiddenThatAHostHides();
+    void shouldShowTheStatusIconOfAHeaderThatBecomesABone();
     void shouldNotUseThePositionThatItIsGiven();
     void shouldChangeNothingWhenNothingMoves();
     void shouldHoldTheFormulasThroughoutADrawing();
@@ -340,7 +342,6 @@ void TestSpearItemPositions::shouldPlaceAllCompanions()
           static_cast<QGraphicsItem *>(spear.statusItem()), static_cast<QGraphicsItem *>(expand),
           static_cast<QGraphicsItem *>(link)})
         item->setPos(-5000, 5000);
-    spear.statusItem()->setVisible(false);
     spear.setOffset(60);
 
     spear.updatePosition(QPointF(0, 0));
@@ -352,6 +353,31 @@ void TestSpearItemPositions::shouldPlaceAllCompanions()
     QCOMPARE(spear.statusItem()->pos(), spear.TaskStateItemPosition());
     QVERIFY(spear.statusItem()->isVisible());
     QVERIFY((spear.textItem()->pos() - spear.line().p1()).manhattanLength() < 500);
+}
+
+void TestSpearItemPositions::shouldLeaveAStatusIconHiddenThatAHostHides()
+{
+    MainBone bones(1);
+    SpearItem &spear = *bones.spear;
+    spear.updatePosition(QPointF(0, 0));
+    spear.statusItem()->setVisible(false);
+
+    spear.updatePosition(QPointF(0, 0));
+
+    QVERIFY(!spear.statusItem()->isVisible());
+}
+
+void TestSpearItemPositions::shouldShowTheStatusIconOfAHeaderThatBecomesABone()
+{
+    SpearItem head(QStringLiteral("Head"), 0, 20);
+    SpearItem spear(QStringLiteral("Spear"), 0, 20);
+    spear.updatePosition(QPointF(0, 0));
+    QVERIFY(!spear.statusItem()->isVisible());
+
+    spear.setParentItem(&head);
+    spear.updatePosition(QPointF(0, 0));
+    QVERIFY(spear.statusItem()->isVisible());
+    spear.setParentItem(nullptr);
 }
 
 void TestSpearItemPositions::shouldNotUseThePositionThatItIsGiven()

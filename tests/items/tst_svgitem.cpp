@@ -6,11 +6,16 @@
 #include <QBuffer>
 #include <QFile>
 #include <QGraphicsScene>
+#include <QSet>
 #include <QSvgGenerator>
 #include <QSvgRenderer>
+#include <QTemporaryDir>
 #include <QtTest>
 
+#include <fishbone/items/expanditem.h>
+#include <fishbone/items/linkitem.h>
 #include <fishbone/items/svgcache.h>
+#include <fishbone/items/taskstatusitem.h>
 #include <tests/program/testprogram.h>
 #include <tests/support/drawing.h>
 #include <tests/support/pictures.h>
@@ -46,6 +51,8 @@ private Q_SLOTS:
     void shouldPaintNothingBeyondAllNumbers();
     void shouldShowTheArrowWhileHovered();
     void shouldAcceptHoverWhenMadeWithAFile();
+    void shouldFindAMissingPictureWhenItIsSetAgain();
+    void shouldBeToldFromOtherItems();
 };
 
 namespace {
@@ -378,6 +385,41 @@ void TestSvgItem::shouldShowTheArrowWhileHovered()
 
     sendHover(*item, QEvent::GraphicsSceneHoverLeave);
     QVERIFY(!item->hasCursor());
+}
+
+void TestSvgItem::shouldFindAMissingPictureWhenItIsSetAgain()
+{
+    QTemporaryDir folder;
+    const QString file = folder.filePath(QStringLiteral("late.svg"));
+    SvgItem item(file);
+    QVERIFY(!item.showsPicture());
+    QVERIFY(QFile::copy(expandFile(), file));
+    QVERIFY(!item.showsPicture());
+
+    item.setSvgFile(file);
+
+    QVERIFY(item.showsPicture());
+    QCOMPARE(item.boundingRect(), SvgItem(expandFile()).boundingRect());
+}
+
+void TestSvgItem::shouldBeToldFromOtherItems()
+{
+    SpearItem spear(QStringLiteral("Spear"), 0, 20);
+    SvgItem plain(expandFile());
+    ExpandItem button(&spear);
+    LinkItem link(QStringLiteral("https://example.org"));
+    QGraphicsSvgItem foreign;
+    QSet<int> types{foreign.type(), spear.type(), spear.textItem()->type()};
+
+    for (QGraphicsItem *const item :
+         std::initializer_list<QGraphicsItem *>{&plain, &button, &link, spear.statusItem()})
+        types.insert(item->type());
+
+    QCOMPARE(types.size(), 7);
+    QVERIFY(qgraphicsitem_cast<SvgItem *>(static_cast<QGraphicsItem *>(&plain)));
+    QVERIFY(!qgraphicsitem_cast<TaskStatusItem *>(static_cast<QGraphicsItem *>(&plain)));
+    QVERIFY(!qgraphicsitem_cast<TaskStatusItem *>(static_cast<QGraphicsItem *>(&link)));
+    QVERIFY(qgraphicsitem_cast<TaskStatusItem *>(static_cast<QGraphicsItem *>(spear.statusItem())));
 }
 
 void TestSvgItem::shouldAcceptHoverWhenMadeWithAFile()

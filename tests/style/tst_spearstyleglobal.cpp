@@ -3,8 +3,7 @@
 
 #include <fishbone/style/spearstyle.h>
 
-#include <fishbone/style/globalstylelookup.h>
-
+#include <fishbone/base/onepass.h>
 #include <tests/program/testprogram.h>
 #include <tests/support/messagecounter.h>
 #include <tests/support/spearstyletext.h>
@@ -191,19 +190,13 @@ void TestSpearStyleGlobal::shouldRetryUntilTheFileIsRead()
 
 void TestSpearStyleGlobal::shouldLookForTheFileOnceInAPass()
 {
-    QVERIFY(GlobalStyleLookup::isDue());
     {
-        const GlobalStyleLookup pass;
-        QVERIFY(GlobalStyleLookup::isDue());
-        {
-            const GlobalStyleLookup within; // a listener lays another drawing out
-            QVERIFY(!GlobalStyleLookup::isDue());
-        }
-        QVERIFY(!GlobalStyleLookup::isDue());
+        const OnePass pass;
+        QCOMPARE(SpearStyle::global()->textCount(), 6);
+        writeFile(SpearStyle::spearStyleFilePath(), R"({"textCount":9})");
+        QCOMPARE(SpearStyle::global()->textCount(), 6);
     }
-    QVERIFY(GlobalStyleLookup::isDue());
-    const GlobalStyleLookup next;
-    QVERIFY(GlobalStyleLookup::isDue());
+    QCOMPARE(SpearStyle::global()->textCount(), 9);
 }
 
 void TestSpearStyleGlobal::shouldReadTheFileOnlyOnce()

@@ -1,0 +1,199 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+// Whatever was changed by whatever function, updateFish(false) shows it.
+
+#include <fishbone/editor/fisheditor.h>
+
+#include <QRandomGenerator>
+#include <QtTest>
+
+#include <tests/program/testprogram.h>
+#include <tests/support/anysetter.h>
+#include <tests/support/drawingtext.h>
+#include <tests/support/editorfixture.h>
+#include <tests/support/pictures.h>
+#include <tests/support/statelooks.h>
+
+using namespace TestSupport;
+
+class TestFishEditorAnySetter : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { AnySetter::restoreShared(); }
+
+    void shouldShowWhatOneSetterChanged_data();
+    void shouldShowWhatOneSetterChanged();
+    void shouldShowWhatRandomSettersChanged_data();
+    void shouldShowWhatRandomSettersChanged();
+};
+
+namespace {
+
+/// How many pixels at the end of a line may be another when it was painted in pieces: Qt computes
+/// smoothed edges anew from where the clip begins.
+constexpr int clippedEdges = 3;
+
+int differingPixels(const QImage &picture, const QImage &expected)
+{
+    int count = 0;
+    for (int y = 0; y < expected.height(); ++y) {
+        for (int x = 0; x < expected.width(); ++x) {
+            const QRgb a = picture.pixel(x, y);
+            const QRgb b = expected.pixel(x, y);
+            const int levels =
+                std::max({std::abs(qRed(a) - qRed(b)), std::abs(qGreen(a) - qGreen(b)),
+                          std::abs(qBlue(a) - qBlue(b))});
+            count += levels > clipRounding ? 1 : 0;
+        }
+    }
+    return count;
+}
+
+/// Two editors on documents that are alike. One brings its drawing up to date, in the other the
+/// three passes run and everything is painted.
+class Twins
+{
+public:
+    explicit Twins(const QJsonObject &document)
+        : m_updated(document)
+        , m_passed(document)
+    {
+        for (EditorFixture *fish : {&m_updated, &m_passed}) {
+            fish->editor.resize(420, 360);
+            fish->editor.expandAll();
+        }
+    }
+
+    bool show() { return m_updated.show() && m_passed.show() && paintBoth(); }
+
+    /// Brings the whole drawing into view.
+    bool fit()
+    {
+        m_updated.editor.equalRatio(m_updated.editor.scene()->itemsBoundingRect());
+        m_passed.editor.equalRatio(m_updated.editor.scene()->itemsBoundingRect());
+        return paintBoth();
+    }
+
+    void selectEverySecondBone()
+    {
+        for (EditorFixture *fish : {&m_updated, &m_passed}) {
+            const std::vector<SpearItem *> spears = spearsInOrder(fish->editor.headSpear());
+            for (std::size_t i = 0; i < spears.size(); i += 2)
+                spears[i]->setSelected(true);
+        }
+    }
+
+    void change(const AnySetter::Setter &setter, quint32 spear, const AnySetter::Choice &choice)
+    {
+        for (EditorFixture *fish : {&m_updated, &m_passed}) {
+            const std::vector<SpearItem *> spears = spearsInOrder(fish->editor.headSpear());
+            if (!spears.empty())
+                setter.change(*spears[spear % spears.size()], choice);
+        }
+    }
+
+    /// What the two show differently after a layout; empty when nothing does.
+    QString difference()
+    {
+        m_updated.editor.updateFish(false);
+        if (m_passed.editor.headSpear()) {
+            m_passed.editor.refreshFish();
+            m_passed.editor.updateSpearSize();
+            m_passed.editor.updateSpearPostion();
+        }
+        const QStringList updated = drawingText(m_updated.editor.headSpear());
+        const QStringList passed = drawingText(m_passed.editor.headSpear());
+        for (int i = 0; i < qMax(updated.size(), passed.size()); ++i) {
+            if (updated.value(i) != passed.value(i))
+                return QStringLiteral("is       %1\nnot      %2")
+                    .arg(updated.value(i), passed.value(i));
+        }
+        m_passed.editor.view()->viewport()->update();
+        if (!paintBoth())
+            return QStringLiteral("nothing was painted");
+        const QImage picture = shownPicture(*m_updated.editor.view());
+        const QImage expected = shownPicture(*m_passed.editor.view());
+        return differingPixels(picture, expected) <= clippedEdges
+                   ? QString()
+                   : TestSupport::difference(picture, expected, clipRounding);
+    }
+
+private:
+    bool paintBoth()
+    {
+        return paintScheduled(*m_updated.editor.view()) && paintScheduled(*m_passed.editor.view());
+    }
+
+    EditorFixture m_updated;
+    EditorFixture m_passed;
+};
+
+QJsonObject document(quint32 seed)
+{
+    return randomDocument(seed, {10, 3, 9, 40});
+}
+
+} // namespace
+
+void TestFishEditorAnySetter::shouldShowWhatOneSetterChanged_data()
+{
+    QTest::addColumn<int>("number");
+
+    int number = 0;
+    for (const AnySetter::Setter &setter : AnySetter::all())
+        QTest::newRow(setter.name) << number++;
+}
+
+void TestFishEditorAnySetter::shouldShowWhatOneSetterChanged()
+{
+    QFETCH(int, number);
+    const AnySetter::Setter &setter = AnySetter::all()[std::size_t(number)];
+    Twins twins(document(3));
+    twins.selectEverySecondBone(); // which shows its box
+    QVERIFY(twins.show());
+    QCOMPARE(twins.difference(), QString());
+
+    for (quint32 spear = 0; spear < 6; ++spear) {
+        twins.change(setter, spear, {spear, spear + 1});
+        QCOMPARE(twins.difference(), QString());
+    }
+}
+
+void TestFishEditorAnySetter::shouldShowWhatRandomSettersChanged_data()
+{
+    QTest::addColumn<quint32>("seed");
+
+    for (quint32 seed = 1; seed <= 20; ++seed)
+        QTest::addRow("seed %u", seed) << seed;
+}
+
+void TestFishEditorAnySetter::shouldShowWhatRandomSettersChanged()
+{
+    QFETCH(quint32, seed);
+    QRandomGenerator random(seed);
+    Twins twins(document(seed));
+    QVERIFY(twins.show());
+    QStringList done;
+
+    for (int round = 0; round < 8; ++round) {
+        for (int i = random.bounded(1, 5); i > 0; --i) {
+            const auto &setters = AnySetter::all();
+            const auto &setter = setters[std::size_t(random.bounded(int(setters.size())))];
+            const quint32 spear = random.generate() >> 8;
+            const AnySetter::Choice choice{random.generate() >> 8, random.generate() >> 8};
+            twins.change(setter, spear, choice);
+            done.append(QLatin1String(setter.name));
+        }
+        const QString difference = twins.difference();
+        QVERIFY2(difference.isEmpty(),
+                 qPrintable(done.join(QLatin1String(", ")) + QLatin1Char('\n') + difference));
+        if (round % 4 == 3)
+            QVERIFY(twins.fit());
+    }
+}
+
+FISHBONE_TEST(TestFishEditorAnySetter)
+#include "tst_fisheditor_anysetter.moc"
