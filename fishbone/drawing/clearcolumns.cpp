@@ -13,11 +13,11 @@ using ClearMeasure::slope;
 
 constexpr qreal firstBelow = 14; ///< from the head to the first joint of each side
 constexpr qreal firstAbove = 26;
-constexpr qreal overHead = 10;   ///< what may hang over towards the head before that grows
-constexpr qreal headClear = 4;   ///< between the head and what hangs over above it
-constexpr qreal jointPitch = 12; ///< between two joints of a side
-constexpr qreal columnGap = 16;  ///< between two categories
-constexpr qreal columnMargin = 3;
+constexpr qreal overHead = 10;      ///< what may hang over towards the head before that grows
+constexpr qreal headClear = 4;      ///< between the head and what hangs over above it
+constexpr qreal jointPitch = 12;    ///< between two joints of a side
+constexpr qreal columnGap = 16;     ///< between two categories
+constexpr qreal columnMargin = 1.5; ///< of each of two neighbours
 constexpr qreal shortest = 52;
 constexpr qreal behindLast = 12;
 constexpr qreal nearBackbone = 20; ///< what is nearer than that to it keeps off the tail

@@ -21,7 +21,8 @@ constexpr int headLines = 5;
 constexpr qreal headWidest = 360;
 constexpr qreal penHalf = 1.1;
 constexpr qreal lineHalf = 1;
-constexpr int boxSlices = 2;
+constexpr qreal boxSlice = 4;
+constexpr qreal lineSlice = 6;
 constexpr qreal buttonInset = 5;
 
 QRectF around(const QLineF &line)
@@ -120,7 +121,7 @@ void ClearLayout::placeCategory(const ClearTree &tree, const ClearShapes &shapes
     const int category = tree.children(0)[row];
     const int side = row % 2 == 0 ? 1 : -1; // below the backbone first
     std::vector<ClearBox> boxes;
-    boxes.reserve(std::size_t(4 * (tree.end(category) - category)));
+    boxes.reserve(std::size_t(5 * (tree.end(category) - category)));
     for (int index = category; index < tree.end(category); ++index) {
         Bone &bone = m_bones[std::size_t(index)];
         bone.level = tree.level(index);
@@ -136,6 +137,16 @@ void ClearLayout::placeCategory(const ClearTree &tree, const ClearShapes &shapes
         m_bones[std::size_t(index)].move(-direction() * joint);
 }
 
+/** What covers @p rect, in slices of @p high at most, since what is skewed is wider the higher it
+ * is. */
+void ClearLayout::addSlices(const QRectF &rect, qreal high, std::vector<ClearBox> &out) const
+{
+    const int slices = int(std::ceil(rect.height() / high));
+    const qreal each = rect.height() / slices;
+    for (int slice = 0; slice < slices; ++slice)
+        out.push_back(skewed(QRectF(rect.left(), rect.top() + slice * each, rect.width(), each)));
+}
+
 /** What @p index covers, line by line, so that short lines make room. */
 void ClearLayout::addBoxes(const ClearShapes &shapes, int index, std::vector<ClearBox> &out) const
 {
@@ -143,11 +154,7 @@ void ClearLayout::addBoxes(const ClearShapes &shapes, int index, std::vector<Cle
     const Bone &bone = m_bones[std::size_t(index)];
     if (bone.level == 1) {
         out.push_back({-lineHalf, lineHalf, 0, shape.length});
-        for (int slice = 0; slice < boxSlices; ++slice) {
-            const qreal high = bone.box.height() / boxSlices;
-            out.push_back(skewed(
-                QRectF(bone.box.left(), bone.box.top() + slice * high, bone.box.width(), high)));
-        }
+        addSlices(bone.box, boxSlice, out);
     } else {
         const qreal sign = shape.isMirrored ? -1 : 1;
         const qreal end =
@@ -160,8 +167,9 @@ void ClearLayout::addBoxes(const ClearShapes &shapes, int index, std::vector<Cle
         const qreal lineHeight = bone.text->font().lineHeight();
         for (int line = 0; line < bone.text->lineCount(); ++line) {
             const QPointF base = bone.base(line);
-            out.push_back(skewed(QRectF(base.x(), base.y() - bone.text->font().ascent(),
-                                        bone.text->lines()[std::size_t(line)].width, lineHeight)));
+            addSlices(QRectF(base.x(), base.y() - bone.text->font().ascent(),
+                             bone.text->lines()[std::size_t(line)].width, lineHeight),
+                      lineSlice, out);
         }
     }
     for (const QRectF &part : {bone.status, bone.link, bone.badge}) {

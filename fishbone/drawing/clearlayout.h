@@ -88,6 +88,7 @@ private:
     void placeHead(const ClearHead &head);
     void placeLegend();
     void measure(const ClearTree &tree);
+    void addSlices(const QRectF &rect, qreal high, std::vector<ClearBox> &out) const;
     QPointF inPicture(int side, qreal along, qreal across) const;
     ClearBox skewed(const QRectF &rect) const;
     qreal direction() const { return m_options.isHeadLeft ? -1 : 1; }
