@@ -49,8 +49,11 @@ int narrowWeight(const QFont &font)
  * The description of a font that every version of Qt reads, which is the one that Qt 5 writes. What
  * Qt 6 writes has more fields than Qt 5 accepts, and weights up to 1000.
  */
-QString fontText(const QFont &font)
+QString fontText(QFont font)
 {
+    // The fields have no way to hold a comma, and the style says nothing that the others do not.
+    if (font.styleName().contains(QLatin1Char(',')))
+        font.setStyleName({});
 #if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
     QStringList fields{font.family(),
                        QString::number(font.pointSizeF()),
@@ -68,6 +71,20 @@ QString fontText(const QFont &font)
 #else
     return font.toString();
 #endif
+}
+
+/**
+ * The fields before the name of the style, where that holds a comma ("Book, Condensed"), which no
+ * version of Qt reads; otherwise all of @p description.
+ */
+QString readableFontText(const QString &description)
+{
+    constexpr int plainFields = 10; // and one more with the name of the style
+    constexpr int longForm = 16;    // the shortest description that has other fields after those
+    const int fields = description.count(QLatin1Char(',')) + 1;
+    if (fields <= plainFields + 1 || fields >= longForm)
+        return description;
+    return description.section(QLatin1Char(','), 0, plainFields - 1);
 }
 
 QJsonObject colorToJson(const QColor &color)
@@ -149,7 +166,7 @@ QJsonObject stateToJson(const SpearStyle &style, SpearStyle::SpearState state)
 void readState(SpearStyle &style, SpearStyle::SpearState state, const QJsonObject &object)
 {
     // Qt warns about an empty description, and a font that is not there is nothing to warn about.
-    const QString description = object[fontKey].toString();
+    const QString description = readableFontText(object[fontKey].toString());
     if (QFont font; !description.isEmpty() && font.fromString(description))
         style.setTextFont(state, font);
     if (const QJsonObject color = object[textColorKey].toObject(); !color.isEmpty())

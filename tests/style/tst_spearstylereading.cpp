@@ -37,6 +37,8 @@ private Q_SLOTS:
     void shouldPickTheState();
     void shouldReadFonts_data();
     void shouldReadFonts();
+    void shouldReadAStyleNameWithAComma();
+    void shouldWriteAStyleNameWithACommaReadably();
     void shouldKeepTheFontWhenItsDescriptionIsBroken();
     void shouldReadColors_data();
     void shouldReadColors();
@@ -174,6 +176,40 @@ void TestSpearStyleReading::shouldReadFonts()
     const QJsonValue state = written[QLatin1String("spearStates")].toArray().at(0);
     QCOMPARE(state[QLatin1String("font")].toString(), description);
     QCOMPARE(style.textFont(SpearStyle::ssNormal), nullptr);
+}
+
+void TestSpearStyleReading::shouldReadAStyleNameWithAComma()
+{
+    const MessageCounter messages;
+    SpearStyle style;
+
+    style.read(withState(QStringLiteral(R"("font":"Sans,8,-1,5,75,1,0,0,0,0,Bold, Condensed")")));
+
+    const QFont *font = style.textFont(SpearStyle::ssNormal);
+    QVERIFY(font);
+    QCOMPARE(font->family(), QStringLiteral("Sans"));
+    QCOMPARE(font->pointSize(), 8);
+    QVERIFY(font->bold());
+    QVERIFY(font->italic());
+    QCOMPARE(messages.count(), 0);
+}
+
+void TestSpearStyleReading::shouldWriteAStyleNameWithACommaReadably()
+{
+    const MessageCounter messages;
+    QFont font(QStringLiteral("Sans"), 21);
+    font.setStyleName(QStringLiteral("Book, Condensed"));
+    SpearStyle style;
+    style.setTextFont(SpearStyle::ssNormal, font);
+
+    QJsonObject written;
+    style.write(written);
+    SpearStyle copy;
+    copy.read(written);
+
+    QVERIFY(copy.textFont(SpearStyle::ssNormal));
+    QCOMPARE(copy.textFont(SpearStyle::ssNormal)->pointSize(), 21);
+    QCOMPARE(messages.count(), 0);
 }
 
 void TestSpearStyleReading::shouldKeepTheFontWhenItsDescriptionIsBroken()
