@@ -24,6 +24,7 @@ public:
         Changed, ///< it has another content
         Missing, ///< it is not there any more
     };
+    Q_ENUM(State)
 
     explicit FileWatch(QObject *parent = nullptr);
 

@@ -135,6 +135,7 @@ void TestSvgCache::shouldHaveNothingForAFileThatIsNoPicture()
     QVERIFY(!file.isEmpty());
     const int before = parsedSvgFileCount();
 
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("Cannot read file")));
     QCOMPARE(sharedSvgRenderer(file), nullptr);
     QCOMPARE(sharedSvgRenderer(file), nullptr);
 

@@ -165,6 +165,8 @@ void TestSvgItem::shouldShowNothingWithoutAPicture()
     QFETCH(QString, file);
     SvgItem item(expandFile());
 
+    if (QFile::exists(file))
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("Cannot read file")));
     item.setSvgFile(file);
 
     QCOMPARE(item.svgFile(), file);

@@ -118,7 +118,7 @@ void TestFishInfoSaving::shouldReportFilesThatCannotBeWritten()
     QVERIFY(QDir(m_folder->path()).mkdir(QStringLiteral("folder")));
     QVERIFY(makeFile(m_folder->filePath(QStringLiteral("file")), "old"));
     if (!path.isEmpty())
-        path = m_folder->filePath(path);
+        path = QDir(m_folder->path()).filePath(path);
 
     QVERIFY(!m_info->saveFile(path));
 

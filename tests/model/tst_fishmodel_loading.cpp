@@ -194,6 +194,7 @@ void TestFishModelLoading::shouldReportFilesThatCannotBeOpened()
 
     QCOMPARE(model.loadFishFromFile(path("missing.json")), -10001);
     QCOMPARE(model.loadFishFromFile(m_folder.path()), -10001);
+    QTest::ignoreMessage(QtWarningMsg, "QFSFileEngine::open: No file name specified");
     QCOMPARE(model.loadFishFromFile(QString()), -10001);
     QCOMPARE(model.loadFishFromTemplate(path("missing.json")), -10001);
     QCOMPARE(model.reloadDataFromFile(path("missing.json"), nullptr), -10001);

@@ -242,6 +242,10 @@ void tst_HostileServer::shouldFailOnceOn_data()
 void tst_HostileServer::shouldFailOnceOn()
 {
     QFETCH(QByteArray, answer);
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    if (answer.contains("9223372036854775807")) // which the toolkit takes for a mistake of its own
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("Internal problem")));
+#endif
     m_server->tell(sends(answer));
     QCOMPARE(load(m_server->url()), QStringLiteral("invalid -10002"));
     QCOMPARE(m_fixture->model->rowCount(), 1);

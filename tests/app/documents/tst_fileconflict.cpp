@@ -154,6 +154,7 @@ void TestFileConflict::shouldCompareByContent()
     const QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("a.json"));
     AppFixture::writeFile(path, "same");
+    qRegisterMetaType<FileWatch::State>();
     FileWatch watch;
     watch.setFile(path);
     const QSignalSpy spy(&watch, &FileWatch::changed);
