@@ -11,12 +11,12 @@
 #include <QVector>
 
 #include <fishbone/dialogs/followlanguage.h>
+#include <fishbone/drawing/fishdrawing.h>
+#include <fishbone/drawing/spearbuilder.h>
 #include <fishbone/editor/accessiblediagram.h>
-#include <fishbone/editor/fishlayout.h>
 #include <fishbone/editor/fishscene.h>
 #include <fishbone/editor/graphicsview.h>
 #include <fishbone/editor/selectionhold.h>
-#include <fishbone/editor/spearbuilder.h>
 #include <fishbone/items/expanditem.h>
 #include <fishbone/items/spearitem.h>
 #include <fishbone/model/fishinfo.h>
@@ -44,6 +44,7 @@ void registerMetaTypes()
 
 FishEditor::FishEditor(QWidget *parent)
     : QFrame(parent)
+    , m_drawing(std::make_unique<FishDrawing>())
 {
     registerMetaTypes();
     AccessibleDiagram::install();
@@ -260,28 +261,41 @@ void FishEditor::updateFish(bool rebuild)
         showNothing();
     } else if (headSpear()) {
         updateHeadText();
-        layOut();
+        m_drawing->update(headSpear());
+        AccessibleDiagram::drawingChanged(m_view);
         return;
     }
     if (FishInfo *const document = currentFishInfo())
         document->updateNoParentNodeCount();
 }
 
-void FishEditor::layOut()
-{
-    FishLayout layout(headSpear());
-    layout.refreshSpears(FishLayout::Lines::Keep);
-    layout.sizeSpears();
-    layout.placeSpears();
-    m_laidOut = {headSpear(), SpearItem::treeChanges(), layout.itemCount()};
-    AccessibleDiagram::drawingChanged(m_view);
-}
-
 bool FishEditor::showsOwnItemsOnly() const
 {
-    // Counting the items of a scene without an index takes constant time.
-    return m_laidOut.head == headSpear() && m_laidOut.treeChanges == SpearItem::treeChanges() &&
-           m_scene->items().size() == m_laidOut.items;
+    return m_drawing->isAlone(*m_scene, headSpear());
+}
+
+void FishEditor::setLook(DiagramLook::Kind look)
+{
+    m_drawing->choose(look, lookOptions());
+    updateFish(false);
+}
+
+DiagramLook::Kind FishEditor::look() const
+{
+    return m_drawing->kind();
+}
+
+void FishEditor::setLookOptions(const DiagramLook::Options &options)
+{
+    if (options == lookOptions())
+        return;
+    m_drawing->choose(look(), options);
+    updateFish(false);
+}
+
+const DiagramLook::Options &FishEditor::lookOptions() const
+{
+    return m_drawing->options();
 }
 
 void FishEditor::updateHeadText()
@@ -300,26 +314,26 @@ void FishEditor::refreshFish()
     if (!headSpear() || !headSpear()->treeItem())
         return;
     updateHeadText();
-    FishLayout(headSpear()).refreshSpears(FishLayout::Lines::Reset);
+    m_drawing->layout(headSpear()).refreshSpears();
 }
 
 void FishEditor::updateSpearSize()
 {
     if (headSpear())
-        FishLayout(headSpear()).sizeSpears();
+        m_drawing->layout(headSpear()).sizeSpears();
 }
 
 void FishEditor::updateSpearPostion()
 {
     if (headSpear())
-        FishLayout(headSpear()).placeSpears();
+        m_drawing->layout(headSpear()).placeSpears();
 }
 
 void FishEditor::expandorContractAll(bool expand)
 {
     const SelectionHold hold(this);
     if (headSpear())
-        FishLayout(headSpear()).expandBones(expand);
+        m_drawing->layout(headSpear()).expandBones(expand);
     updateFish(false);
 }
 

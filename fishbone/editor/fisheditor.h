@@ -11,10 +11,12 @@
 #include <QPersistentModelIndex>
 #include <QPointer>
 
+#include <fishbone/drawing/diagramlook.h>
 #include <fishbone/fishbone_export.h>
 #include <fishbone/items/spearpointer.h>
 #include <fishbone/model/treeitem.h>
 
+class FishDrawing;
 class FishInfo;
 class FishModel;
 class FishScene;
@@ -117,6 +119,20 @@ public:
     void updateSpearPostion();
     /// Expands or contracts every spear but the head, then lays out. Makes no spears.
     void expandorContractAll(bool expand);
+    /// @}
+
+    /// \name Look
+    /// @{
+
+    /// Draws in another look from now on; the classic one until this is called. What is selected,
+    /// expanded and in view stays so.
+    void setLook(DiagramLook::Kind look);
+    /// The look that is shown.
+    DiagramLook::Kind look() const;
+    /// Chooses what can be chosen of the looks.
+    void setLookOptions(const DiagramLook::Options &options);
+    /// What was chosen.
+    const DiagramLook::Options &lookOptions() const;
     /// @}
 
     /// \name Selection
@@ -349,17 +365,8 @@ private:
         bool isHead = false;               ///< the document's head, whichever that is
     };
 
-    /// The items that were laid out last.
-    struct LaidOut
-    {
-        const SpearItem *head = nullptr; ///< only compared
-        quint64 treeChanges = 0;         ///< as SpearItem counts them
-        int items = 0;                   ///< spears and companions
-    };
-
     class SelectionHold;
 
-    void layOut();
     /// Whether the scene holds what was laid out last and nothing else, as far as that is known.
     bool showsOwnItemsOnly() const;
     FishModel *fishModel() const;
@@ -397,7 +404,7 @@ private:
     QPointer<QAbstractItemModel> m_model;
     std::unique_ptr<FishScene> m_scene;
     SpearPointer m_headSpear;
-    LaidOut m_laidOut;
+    std::unique_ptr<FishDrawing> m_drawing;
     UndoStack *m_undoStack = nullptr;
     int m_zoomValue = 250;
     int m_rotateValue = 0;

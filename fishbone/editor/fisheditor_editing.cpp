@@ -6,9 +6,9 @@
 #include <fishbone/editor/fisheditor.h>
 
 #include <fishbone/dialogs/urldialog.h>
+#include <fishbone/drawing/spearbuilder.h>
 #include <fishbone/editor/fishscene.h>
 #include <fishbone/editor/selectionhold.h>
-#include <fishbone/editor/spearbuilder.h>
 #include <fishbone/items/linkitem.h>
 #include <fishbone/items/spearitem.h>
 #include <fishbone/model/fishmodel.h>

@@ -227,22 +227,7 @@ int GraphicsView::insertRow(const QPoint &pos, SpearItem *moving) const
     const SpearItem *const target = m_linkedSpear.get();
     if (!target)
         return 0;
-    const QList<SpearItem *> children = target->childSpears();
-    const int movingRow = moving ? children.indexOf(moving) : -1;
-    const int direction = target->direction();
-    const QPointF at = mapToScene(pos);
-    for (int row = 0; row < children.count(); ++row) {
-        // Before the spear behind the moving one is where the moving one stands already.
-        if (movingRow >= 0 && row == movingRow + 1)
-            continue;
-        const SpearItem *const child = children.at(row);
-        const QPointF start = child->mapToScene(child->line().p1());
-        const bool reached =
-            direction == 0 ? start.x() <= at.x() : direction * at.y() <= direction * start.y();
-        if (reached)
-            return row;
-    }
-    return children.count();
+    return target->dropRow(mapToScene(pos), moving);
 }
 
 void GraphicsView::mouseReleaseEvent(QMouseEvent *event)

@@ -8,8 +8,10 @@
 #include <QStyleOptionGraphicsItem>
 
 #include <fishbone/items/expanditem.h>
+#include <fishbone/items/headpictures.h>
 #include <fishbone/items/hovercursor.h>
 #include <fishbone/items/linkitem.h>
+#include <fishbone/items/spearlook.h>
 #include <fishbone/items/taskstatusitem.h>
 #include <fishbone/items/textitem.h>
 #include <fishbone/model/fishmodel.h>
@@ -17,10 +19,12 @@
 
 SpearItem::SpearItem(const QString &text, int direction, double spearSize)
     : m_text(text)
+    , m_look(SpearLook::standard())
     , m_direction(direction)
     , m_spearSize(spearSize)
 {
-    loadPictures();
+    ++m_refCount;
+    HeadPictures::load();
     setToolTip(text);
     setFlags(ItemIsMovable | ItemIsSelectable | ItemSendsGeometryChanges | ItemIsPanel);
     m_textItem = new TextItem(QString(), this);
@@ -36,7 +40,8 @@ SpearItem::~SpearItem()
     m_treeItem = nullptr;
     if (subject && subject->spear() == this)
         subject->setSpear(nullptr, QModelIndex());
-    releasePictures();
+    if (--m_refCount == 0)
+        HeadPictures::release();
 }
 
 void SpearItem::setModelIndex(const QModelIndex &index)
@@ -206,7 +211,6 @@ SpearStyle::SpearState SpearItem::boxState() const
     return qMax(m_currentState, m_textItem->ownState()); // they are numbered by their strength
 }
 
-/// The state that the text is drawn in: a linked header keeps its normal text.
 SpearStyle::SpearState SpearItem::textState() const
 {
     const SpearStyle::SpearState state = boxState();

@@ -15,6 +15,7 @@
 #include <fishbone/style/spearstyle.h>
 
 class FishModel;
+class SpearLook;
 class TaskStatusItem;
 class TextItem;
 class TreeItem;
@@ -38,6 +39,24 @@ class FISHBONE_EXPORT SpearItem : public QGraphicsLineItem
 {
 public:
     enum { Type = UserType + 1 };
+
+    /// What the layout needs to know of the recorded child sizes.
+    struct ChildExtents
+    {
+        int count = 0;
+        double widest = 0;
+        double tallest = 0;
+        double heightSum = 0;
+        double widthSum = 0;          ///< over all children
+        double sideWidth[2] = {0, 0}; ///< over the children of even and of odd number
+
+        bool operator==(const ChildExtents &other) const
+        {
+            return count == other.count && widest == other.widest && tallest == other.tallest &&
+                   heightSum == other.heightSum && widthSum == other.widthSum &&
+                   sideWidth[0] == other.sideWidth[0] && sideWidth[1] == other.sideWidth[1];
+        }
+    };
 
     /// A spear titled \a text. \a direction is 0 for a horizontal bone, 1 or -1 for a slanted one
     /// on either side of its parent; \a spearSize is the extra height of a horizontal bone.
@@ -107,6 +126,8 @@ public:
     void applyState(SpearStyle::SpearState state);
     /// The state that the text box shows: currentState() or the box's own, whichever is stronger.
     SpearStyle::SpearState boxState() const;
+    /// The state that the text is drawn in: boxState(), but a linked header keeps its normal text.
+    SpearStyle::SpearState textState() const;
     /// Brings font, colour and text of the text box in line with boxState(), where they differ. The
     /// text of a header stays normal while it is linked.
     void updateTextLooks();
@@ -143,6 +164,8 @@ public:
 
     /// True when there is no parent item: the spear is the head with the backbone.
     bool isHeader() const { return !parentItem(); }
+    /// The parent item when it is a spear; else null.
+    SpearItem *parentSpear() const;
     /// Number of item ancestors; 0 for the header.
     int depth() const;
     /// The child items that are spears, in stacking order. Linear in the number of child items.
@@ -179,8 +202,16 @@ public:
     void updateExpandButton();
     /// @}
 
-    /// \name Geometry
+    /// \name Geometry, as the look has it
     /// @{
+
+    /// What draws the spear; the classic look until another one is set. For the layout.
+    const SpearLook &look() const { return *m_look; }
+    /// Draws the spear in another look, which the next layout follows. For the layout.
+    void setLook(const std::shared_ptr<const SpearLook> &look);
+    /// The row that something dropped at \a scenePos gets below this spear; \a moving is what is
+    /// dropped, null for something else.
+    int dropRow(const QPointF &scenePos, const SpearItem *moving) const;
 
     /// As the base class does; a line that was set by hand stands until the next layout.
     void setLine(const QLineF &line);
@@ -201,12 +232,17 @@ public:
 
     /// Resets the item for a new layout: position, offset, line, recorded child sizes.
     void initData(int direction);
-    /// As initData(), but the line stands, and the caller shows the children. For FishLayout.
-    void beginLayout(int direction);
+    /// Brings everything that no layout computes in line with subject, style and state. For
+    /// FishLayout.
+    void refresh(int direction);
+    /// Forgets offset and child sizes. For FishLayout.
+    void beginLayout();
     /// As updatePosition(). \a parent is the parent spear, null for the header. For FishLayout.
     void place(SpearItem *parent);
     /// Records the size of the next child spear.
     void sumChildSize(const QSizeF &size);
+    /// What was recorded.
+    const ChildExtents &childExtents() const { return m_children; }
     /// Extent along the horizontal, children included.
     double spearWidth() const;
     /// Extent along the vertical of a horizontal bone, length of a slanted one; children included.
@@ -266,20 +302,7 @@ private:
         bool isMovable = true;
     };
 
-    /// What the layout needs to know of the recorded child sizes.
-    struct ChildExtents
-    {
-        int count = 0;
-        double widest = 0;
-        double tallest = 0;
-        double heightSum = 0;
-        double widthSum = 0;          ///< over all children
-        double sideWidth[2] = {0, 0}; ///< over the children of even and of odd number
-    };
-
-    SpearItem *parentSpear() const;
     SpearStyle::SpearState interactionState() const;
-    SpearStyle::SpearState textState() const;
     void showChildren();
     int shownLength(const SpearStyle &style) const;
     void showText(const SpearStyle &style);
@@ -289,33 +312,20 @@ private:
     void setCompanion(QGraphicsItem *&companion, QGraphicsItem *item);
     void placeCompanions();
     void forgetChildSpears();
-    QLineF placedLine(const SpearItem *parent) const;
     void moveLine(SpearItem *parent, const QLineF &placed);
     void showPen(const SpearStyle &style);
 
-    QLineF headerLine() const;
-    QLineF horizontalLine(const SpearItem &parent) const;
-    QLineF slantedLine(const SpearItem &parent) const;
-    QRectF headRect() const;
-    QRectF tailRect() const;
-    QPolygonF slantedTextOutline() const;
-
-    void drawSpearItem(QPainter *painter, const QStyleOptionGraphicsItem *option);
-    void drawHeader(QPainter *painter, const QStyleOptionGraphicsItem *option);
-    void drawBackbone(QPainter *painter) const;
     void drawLinkCircle(QPainter *painter) const;
-    QPointF linkCircleCenter() const;
     QRectF linkCircleRect() const;
 
     static inline quint64 m_treeChanges = 0;
 
-    static void loadPictures();
-    static void releasePictures();
     void showPictures();
 
     SpearStyle::SpearState m_currentState = SpearStyle::ssNormal;
     QString m_text;
     QString m_textDisplay;
+    std::shared_ptr<const SpearLook> m_look;
     ChildExtents m_children;
     Painted m_painted;
     qint64 m_paintedPictures = 0; ///< the header's

@@ -37,6 +37,7 @@ public:
                QWidget *widget = nullptr) override;
 
 protected:
+    const QString &shownFile() const { return m_file; }
     void hoverEnterEvent(QGraphicsSceneHoverEvent *event) override;
     void hoverMoveEvent(QGraphicsSceneHoverEvent *event) override;
     void hoverLeaveEvent(QGraphicsSceneHoverEvent *event) override;

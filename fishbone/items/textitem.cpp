@@ -4,7 +4,9 @@
 #include <fishbone/items/textitem.h>
 
 #include <cmath>
+#include <memory>
 
+#include <QAbstractTextDocumentLayout>
 #include <QGraphicsSceneHoverEvent>
 #include <QPaintEngine>
 #include <QPainter>
@@ -31,32 +33,60 @@ SpearStyle::SpearState stateOf(bool hovered, bool selected)
 TextItem::TextItem(const QString &text, QGraphicsItem *parent)
     : QGraphicsTextItem(parent)
 {
-    showText(QFont(), text);
+    m_text = text;
+    fillDocument(true);
     if (!parentSpear()) // a spear gives its own
         showColor(QColor());
 }
 
 bool TextItem::shows(const QFont &font, QStringView text) const
 {
-    const QTextDocument *const shown = document();
-    return m_text == text && shown == m_document && shown->revision() == m_revision &&
-           shown->defaultFont() == font;
+    return m_text == text && m_font == font;
 }
 
 void TextItem::showText(const QFont &font, const QString &text)
 {
-    // The font first: the other way round the text would be laid out twice.
-    if (this->font() != font)
-        setFont(font);
-    const bool isEdited = document() != m_document || document()->revision() != m_revision;
-    if (isEdited)
+    if (shows(font, text))
+        return;
+    const bool isAnotherText = m_text != text;
+    m_text = text;
+    m_font = font;
+    fillDocument(isAnotherText);
+}
+
+void TextItem::restoreText()
+{
+    if (m_isTouched)
+        fillDocument(true);
+}
+
+void TextItem::fillDocument(bool isAnotherText)
+{
+    if (m_isTouched) {
+        if (document() != m_document)
+            setDocument(std::make_unique<QTextDocument>(m_documentOwner).release());
+        setTextWidth(-1);
         setTextCursor(QTextCursor()); // which would hand its format on to the new text
-    if (m_text != text || isEdited) {
-        m_text = text;
-        setPlainText(text);
     }
+    // The font first: the other way round the text would be laid out twice.
+    if (font() != m_font)
+        setFont(m_font);
+    if (isAnotherText)
+        setPlainText(m_text);
+    if (m_document != document())
+        watchDocument();
+    m_size = document()->size();
+    m_isTouched = false;
+}
+
+/** Hears of whatever anybody else does to the document, its end included. */
+void TextItem::watchDocument()
+{
     m_document = document();
-    m_revision = m_document->revision();
+    m_documentOwner = m_document->parent(); // with which another document takes its place
+    connect(m_document, &QObject::destroyed, this, &TextItem::noteTouch);
+    connect(m_document->documentLayout(), &QAbstractTextDocumentLayout::update, this,
+            &TextItem::noteTouch);
 }
 
 void TextItem::showColor(const QColor &color)

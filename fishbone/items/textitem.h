@@ -30,12 +30,14 @@ public:
     /// Height of the laid-out text, margins included.
     qreal textHeight() const { return textSize().height(); }
     /// Size of the laid-out text, margins included.
-    QSizeF textSize() const { return document()->size(); }
+    QSizeF textSize() const { return m_isTouched ? document()->size() : m_size; }
 
     /// Whether showText() with the same arguments would change anything.
     bool shows(const QFont &font, QStringView text) const;
     /// Shows \a text in \a font; what is shown already is not laid out again.
     void showText(const QFont &font, const QString &text);
+    /// Shows what showText() was given last, when anybody has changed the document since.
+    void restoreText();
     /// Shows the text in \a color; the colour already shown schedules no repaint.
     void showColor(const QColor &color);
 
@@ -56,13 +58,19 @@ protected:
 
 private:
     SpearItem *parentSpear() const;
+    void fillDocument(bool isAnotherText);
+    void watchDocument();
+    void noteTouch() { m_isTouched = true; }
     void followInteraction();
     bool isReadable(const QPainter &painter) const;
     void paintStroke(QPainter *painter) const;
 
     SpearStyle::SpearState m_ownState = SpearStyle::ssNormal;
     bool m_hovered = false;
-    QString m_text; ///< what the document was given last; cheaper to compare than the document
-    const QTextDocument *m_document = nullptr; ///< that was given it; only compared
-    int m_revision = -1;                       ///< of the document since then
+    bool m_isTouched = false; ///< the document is no longer as it was filled
+    QString m_text;           ///< what the document was filled with
+    QFont m_font;
+    QSizeF m_size;                             ///< of that
+    const QTextDocument *m_document = nullptr; ///< that was filled; may be gone when touched
+    QObject *m_documentOwner = nullptr;
 };

@@ -3,7 +3,7 @@
 
 #include <fishbone/undo/subjectspears.h>
 
-#include <fishbone/items/spearfactory.h>
+#include <fishbone/drawing/spearbuilder.h>
 #include <fishbone/items/spearitem.h>
 #include <fishbone/model/fishmodel.h>
 #include <fishbone/model/treeitem.h>

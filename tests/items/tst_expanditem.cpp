@@ -6,7 +6,7 @@
 #include <QStandardItemModel>
 #include <QtTest>
 
-#include <fishbone/items/spearfactory.h>
+#include <fishbone/drawing/spearbuilder.h>
 #include <fishbone/items/textitem.h>
 #include <tests/items/boneparts.h>
 #include <tests/program/testprogram.h>

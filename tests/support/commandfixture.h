@@ -13,7 +13,7 @@
 #include <memory>
 #include <vector>
 
-#include <fishbone/editor/spearbuilder.h>
+#include <fishbone/drawing/spearbuilder.h>
 #include <fishbone/items/spearitem.h>
 #include <fishbone/undo/undocommand.h>
 #include <fishbone/undo/undostack.h>

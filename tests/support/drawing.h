@@ -9,9 +9,9 @@
 #include <QGraphicsView>
 #include <QMouseEvent>
 
-#include <fishbone/editor/fishlayout.h>
+#include <fishbone/drawing/fishlayout.h>
+#include <fishbone/drawing/spearbuilder.h>
 #include <fishbone/editor/fishscene.h>
-#include <fishbone/editor/spearbuilder.h>
 #include <fishbone/items/spearitem.h>
 #include <fishbone/items/textitem.h>
 #include <tests/support/documents.h>
@@ -47,10 +47,8 @@ public:
 
     void layOut() const
     {
-        FishLayout layout(head);
-        layout.refreshSpears(FishLayout::Lines::Keep);
-        layout.sizeSpears();
-        layout.placeSpears();
+        SettledDrawing unknown;
+        FishLayout(head).update(unknown);
     }
 
     QModelIndex index(const QString &title) const { return indexTitled(model, title); }

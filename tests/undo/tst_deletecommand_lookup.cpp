@@ -3,7 +3,7 @@
 
 #include <QtTest>
 
-#include <fishbone/items/spearfactory.h>
+#include <fishbone/drawing/spearbuilder.h>
 #include <fishbone/undo/structuralcommands.h>
 #include <tests/program/testprogram.h>
 #include <tests/support/commandfixture.h>

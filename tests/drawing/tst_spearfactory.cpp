@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Fishbone authors
 // SPDX-License-Identifier: MIT
 
-#include <fishbone/items/spearfactory.h>
+#include <fishbone/drawing/spearbuilder.h>
 
 #include <QAbstractItemModelTester>
 #include <QStandardItemModel>

@@ -3,7 +3,7 @@
 
 #include <QtTest>
 
-#include <fishbone/editor/fishlayout.h>
+#include <fishbone/drawing/fishlayout.h>
 #include <fishbone/items/expanditem.h>
 #include <fishbone/items/linkitem.h>
 #include <fishbone/items/spearitem.h>
@@ -37,10 +37,10 @@ private Q_SLOTS:
 
 namespace {
 /// A tree of spears in a scene, by name. Expanded unless said otherwise.
-class SpearTree
+class PlainSpears
 {
 public:
-    SpearTree() { scene.addItem(head); }
+    PlainSpears() { scene.addItem(head); }
 
     SpearItem *add(SpearItem *parent, const QString &text, int direction)
     {
@@ -65,7 +65,7 @@ private:
 void layOut(SpearItem *head)
 {
     FishLayout layout(head);
-    layout.refreshSpears(FishLayout::Lines::Reset);
+    layout.refreshSpears();
     layout.sizeSpears();
     layout.placeSpears();
 }
@@ -75,7 +75,7 @@ const double cos70 = std::cos(qDegreesToRadians(70.0));
 
 void TestFishLayout::shouldPlaceAHeadAlone()
 {
-    const SpearTree tree;
+    const PlainSpears tree;
 
     layOut(tree.head);
 
@@ -85,7 +85,7 @@ void TestFishLayout::shouldPlaceAHeadAlone()
 
 void TestFishLayout::shouldGiveDirectionsByLevelAndRow()
 {
-    SpearTree tree;
+    PlainSpears tree;
     SpearItem *const first = tree.add(tree.head, QStringLiteral("a"), 0);
     SpearItem *const second = tree.add(tree.head, QStringLiteral("b"), 0);
     SpearItem *const third = tree.add(tree.head, QStringLiteral("c"), 0);
@@ -94,7 +94,7 @@ void TestFishLayout::shouldGiveDirectionsByLevelAndRow()
     SpearItem *const deepest = tree.add(deeper, QStringLiteral("f"), 1);
     tree.head->setDirection(1);
 
-    FishLayout(tree.head).refreshSpears(FishLayout::Lines::Reset);
+    FishLayout(tree.head).refreshSpears();
 
     QCOMPARE(tree.head->direction(), 0);
     QCOMPARE(first->direction(), 1);
@@ -107,22 +107,26 @@ void TestFishLayout::shouldGiveDirectionsByLevelAndRow()
 
 void TestFishLayout::shouldKeepOrResetLines()
 {
-    SpearTree tree;
+    PlainSpears tree;
     SpearItem *const bone = tree.add(tree.head, QStringLiteral("a"), 1);
     layOut(tree.head);
     const QLineF line = bone->line();
 
-    FishLayout(tree.head).refreshSpears(FishLayout::Lines::Keep);
+    SettledDrawing settled;
+    QVERIFY(FishLayout(tree.head).update(settled));
     QCOMPARE(bone->line(), line);
-    QCOMPARE(bone->offset(), 0.0);
-    FishLayout(tree.head).refreshSpears(FishLayout::Lines::Reset);
+    QVERIFY(!FishLayout(tree.head).update(settled));
+    bone->setLine(0, 0, 5, 5);
+    QVERIFY(FishLayout(tree.head).update(settled));
+    QCOMPARE(bone->line(), line);
+    FishLayout(tree.head).refreshSpears();
     QCOMPARE(bone->line(), QLineF(0, 0, 0, 0));
     QCOMPARE(tree.head->line(), QLineF(0, 0, 0, 0));
 }
 
 void TestFishLayout::shouldSizeFromTheLeavesUp()
 {
-    SpearTree tree;
+    PlainSpears tree;
     SpearItem *const bone = tree.add(tree.head, QStringLiteral("a"), 1);
     SpearItem *const below = tree.add(bone, QStringLiteral("bb"), 0);
     SpearItem *const deep = tree.add(below, QStringLiteral("cccc"), 1);
@@ -143,7 +147,7 @@ void TestFishLayout::shouldSizeFromTheLeavesUp()
 
 void TestFishLayout::shouldSizeWhatIsExpandedOnly()
 {
-    SpearTree tree;
+    PlainSpears tree;
     SpearItem *const bone = tree.add(tree.head, QStringLiteral("a"), 1);
     SpearItem *const below = tree.add(bone, QStringLiteral("bb"), 0);
     tree.add(below, QStringLiteral("cccc"), 1);
@@ -162,7 +166,7 @@ void TestFishLayout::shouldSizeWhatIsExpandedOnly()
 
 void TestFishLayout::shouldSizeHorizontalBonesByTheirSide()
 {
-    SpearTree tree;
+    PlainSpears tree;
     SpearItem *const first = tree.add(tree.head, QStringLiteral("a"), 1);
     SpearItem *const second = tree.add(tree.head, QStringLiteral("b"), -1);
     SpearItem *const belowFirst = tree.add(first, QStringLiteral("c"), 0);
@@ -180,7 +184,7 @@ void TestFishLayout::shouldSizeHorizontalBonesByTheirSide()
 
 void TestFishLayout::shouldPlaceTheBonesOfAHeadOnTwoSides()
 {
-    SpearTree tree;
+    PlainSpears tree;
     QList<SpearItem *> bones;
     for (const QString &text : {QStringLiteral("aaaaaa"), QStringLiteral("b"),
                                 QStringLiteral("cccc"), QStringLiteral("dd"), QStringLiteral("e")})
@@ -198,7 +202,7 @@ void TestFishLayout::shouldPlaceTheBonesOfAHeadOnTwoSides()
 
 void TestFishLayout::shouldStackBonesAlongASlantedOne()
 {
-    SpearTree tree;
+    PlainSpears tree;
     SpearItem *const bone = tree.add(tree.head, QStringLiteral("a"), 1);
     const SpearItem *const first = tree.add(bone, QStringLiteral("b"), 0);
     SpearItem *const second = tree.add(bone, QStringLiteral("c"), 0);
@@ -215,7 +219,7 @@ void TestFishLayout::shouldStackBonesAlongASlantedOne()
 
 void TestFishLayout::shouldPassTheTextOnTheSecondSideOnly()
 {
-    SpearTree tree;
+    PlainSpears tree;
     SpearItem *const first = tree.add(tree.head, QStringLiteral("a"), 1);
     SpearItem *const second = tree.add(tree.head, QStringLiteral("b"), -1);
     SpearItem *const belowFirst = tree.add(first, QStringLiteral("c"), 0);
@@ -236,7 +240,7 @@ void TestFishLayout::shouldPassTheTextOnTheSecondSideOnly()
 
 void TestFishLayout::shouldLeaveHorizontalBonesOfAHorizontalOneWhereTheyAre()
 {
-    SpearTree tree;
+    PlainSpears tree;
     SpearItem *const bone = tree.add(tree.head, QStringLiteral("a"), 0);
     const SpearItem *const x = tree.add(bone, QStringLiteral("x"), 1);
     SpearItem *const flat = tree.add(bone, QStringLiteral("flat"), 0);
@@ -255,7 +259,7 @@ void TestFishLayout::shouldLeaveHorizontalBonesOfAHorizontalOneWhereTheyAre()
 
 void TestFishLayout::shouldSetTheExpandFlagOfAllButTheHead()
 {
-    SpearTree tree;
+    PlainSpears tree;
     SpearItem *const bone = tree.add(tree.head, QStringLiteral("a"), 1);
     SpearItem *const below = tree.add(bone, QStringLiteral("b"), 0);
     FishLayout layout(tree.head);
@@ -276,7 +280,7 @@ void TestFishLayout::shouldSetTheExpandFlagOfAllButTheHead()
 
 void TestFishLayout::shouldGiveButtonsToBonesWithChildren()
 {
-    SpearTree tree;
+    PlainSpears tree;
     SpearItem *const bone = tree.add(tree.head, QStringLiteral("a"), 1);
     SpearItem *const below = tree.add(bone, QStringLiteral("b"), 0);
 
@@ -300,7 +304,7 @@ void TestFishLayout::shouldGiveButtonsToBonesWithChildren()
 
 void TestFishLayout::shouldTakeTheLinkFromSpearsWithoutSubject()
 {
-    SpearTree tree;
+    PlainSpears tree;
     SpearItem *const bone = tree.add(tree.head, QStringLiteral("a"), 1);
     bone->setLinkItem(new LinkItem(QStringLiteral("https://example.org")));
     tree.head->setLinkItem(new LinkItem(QStringLiteral("https://example.org")));
@@ -313,12 +317,12 @@ void TestFishLayout::shouldTakeTheLinkFromSpearsWithoutSubject()
 
 void TestFishLayout::shouldNoticeNoSpearsThatComeLater()
 {
-    SpearTree tree;
+    PlainSpears tree;
     tree.add(tree.head, QStringLiteral("a"), 1);
     FishLayout layout(tree.head);
     const SpearItem *const late = tree.add(tree.head, QStringLiteral("b"), 0);
 
-    layout.refreshSpears(FishLayout::Lines::Reset);
+    layout.refreshSpears();
     layout.sizeSpears();
     layout.placeSpears();
 

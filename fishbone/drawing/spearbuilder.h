@@ -4,8 +4,18 @@
 #pragma once
 
 class FishModel;
+class QAbstractItemModel;
 class QModelIndex;
 class SpearItem;
+
+/**
+ * A new spear for the subject behind @p index of @p model, titled with the index's display text and
+ * linked with the subject; null for an index without a subject. It has no parent item yet: the
+ * caller gives it one, or adds it to a scene, which then owns it. Every spear of a subject is made
+ * here.
+ */
+SpearItem *makeSpear(const QAbstractItemModel &model, const QModelIndex &index, int direction,
+                     double spearSize);
 
 /// Makes the spears that show the subjects of a model. Every function leaves alone what has a spear
 /// already, needs no recursion and touches each subject once.

@@ -4,7 +4,7 @@
 #include <QAbstractItemModelTester>
 #include <QtTest>
 
-#include <fishbone/editor/spearbuilder.h>
+#include <fishbone/drawing/spearbuilder.h>
 #include <fishbone/items/expanditem.h>
 #include <fishbone/items/linkitem.h>
 #include <fishbone/items/spearitem.h>

@@ -1,0 +1,54 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+/**
+ * How an editor draws: where bones and texts go and what is painted. What a user does is the same
+ * in all looks. FishEditor::setLook() and setLookOptions() choose one.
+ */
+class DiagramLook
+{
+public:
+    /** The looks. */
+    enum Kind : int {
+        Classic = 0, ///< slanted texts along the bones, pictures for head and tail; the default
+        Clear = 1,   ///< all texts level, categories in coloured boxes, the title in the head
+    };
+
+    /** On which sides of a category its bones grow. */
+    enum Sides : int {
+        OneSide = 0,     ///< away from the head
+        UnevenSides = 1, ///< on both sides of those with far more subjects than the others
+        BothSides = 2,   ///< on both sides of all
+    };
+
+    /** The colours of categories. */
+    enum Palette : int {
+        DistinctColors = 0, ///< told apart by people who see colours differently, too
+        GrayColors = 1,     ///< for printers without colours
+        DarkColors = 2,     ///< for dark canvases
+    };
+
+    /** What can be chosen of the clear look; the classic one has no options. */
+    struct Options
+    {
+        double wrapLimit = 0;   ///< the width of a line of a title in units; 0 for no limit
+        double headWidth = 120; ///< the same for the title in the head
+        Sides sides = OneSide;
+        bool isHeadLeft = false; ///< the head stands on the left instead of the right
+        Palette palette = DistinctColors;
+        bool hasButtons =
+            true; ///< whether expanded bones show their button when they are pointed at
+        bool hasLegend = false; ///< whether the meanings of icons and colours stand below the tail
+
+        bool operator==(const Options &other) const
+        {
+            return wrapLimit == other.wrapLimit && headWidth == other.headWidth &&
+                   sides == other.sides && isHeadLeft == other.isHeadLeft &&
+                   palette == other.palette && hasButtons == other.hasButtons &&
+                   hasLegend == other.hasLegend;
+        }
+        bool operator!=(const Options &other) const { return !(*this == other); }
+    };
+};

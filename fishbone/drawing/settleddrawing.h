@@ -1,0 +1,76 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <vector>
+
+#include <QLineF>
+#include <QPointF>
+#include <QSizeF>
+
+#include <fishbone/items/spearitem.h>
+
+class SpearLook;
+
+/** What one spear was laid out from and where it came to stand, as it says itself. */
+class SettledSpear
+{
+public:
+    explicit SettledSpear(const SpearItem &spear);
+
+    bool operator==(const SettledSpear &other) const;
+    bool operator!=(const SettledSpear &other) const { return !(*this == other); }
+
+private:
+    struct Part
+    {
+        QPointF position;
+        double width = -1; ///< none where there is no such part
+
+        bool operator==(const Part &other) const
+        {
+            return position == other.position && width == other.width;
+        }
+    };
+
+    static Part partOf(const QGraphicsItem *item);
+
+    const SpearItem *m_spear; ///< only compared
+    QSizeF m_text;
+    int m_direction;
+    bool m_isExpanded;
+    double m_offset;
+    SpearItem::ChildExtents m_children;
+    QLineF m_line;
+    QPointF m_textPosition;
+    double m_textRotation;
+    QPointF m_statusPosition;
+    Part m_link;
+    Part m_button;
+};
+
+/** A drawing as it stood after its last layout, to see whether it needs another one. */
+class SettledDrawing
+{
+public:
+    /** Nothing is known of the drawing from now on. */
+    void forget() { m_spears.clear(); }
+    /** Notes how all @p spears stand, which were laid out in @p look. */
+    void note(std::vector<SettledSpear> spears, const SpearLook *look);
+
+    /** Whether @p spear stands in that place of the breadth-first order as noted. */
+    bool matches(std::size_t place, const SpearItem &spear) const
+    {
+        return place < m_spears.size() && m_spears[place] == SettledSpear(spear);
+    }
+    /** Whether so many spears were noted, in that look. */
+    bool matches(std::size_t count, const SpearLook *look) const
+    {
+        return m_spears.size() == count && m_look == look;
+    }
+
+private:
+    std::vector<SettledSpear> m_spears;
+    const SpearLook *m_look = nullptr; ///< only compared
+};
