@@ -12,8 +12,8 @@ constexpr qreal leastAround = 46;
 constexpr qreal leastAbove = 26;
 constexpr qreal leastHeight = 56;
 constexpr qreal heightStep = 8;
-constexpr int heights = 7;          ///< so many are tried
-constexpr qreal heightWeight = 0.4; ///< what a height costs beside a width
+constexpr int heights = 7;           ///< so many are tried
+constexpr qreal heightWeight = 0.15; ///< what a height costs beside a width
 constexpr qreal backBulge = 8;
 
 // One half of the outline, from the upper end of the back to the tip: a cubic curve in units of the

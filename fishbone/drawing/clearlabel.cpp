@@ -9,7 +9,6 @@
 #include <utility>
 
 namespace {
-constexpr qreal iconSpace = ClearMeasure::icon + ClearMeasure::iconGap;
 constexpr qreal badgeSpace = 4; ///< between the badge and the text
 } // namespace
 
@@ -20,6 +19,22 @@ ClearLabel::ClearLabel(std::shared_ptr<const ClearText> text, bool hasStatus, bo
     , m_hasLink(hasLink)
     , m_badgeWidth(badgeWidth)
 {
+}
+
+qreal ClearLabel::height() const
+{
+    return std::max(m_text->height(), m_badgeWidth > 0 ? badgeHeight : 0);
+}
+
+/** An icon stays within its line, however small the subject's own font is. */
+qreal ClearLabel::iconSize() const
+{
+    return std::min(ClearMeasure::icon, m_text->font().lineHeight());
+}
+
+qreal ClearLabel::iconSpace() const
+{
+    return iconSize() + ClearMeasure::iconGap;
 }
 
 /** Whether an icon stands left or right of the text: reading starts where the status is. */
@@ -40,15 +55,15 @@ qreal ClearLabel::width(Side side) const
     qreal width = m_text->width();
     if (side == Side::Center) {
         // The lines are centred on each other, the icons stand beside them.
-        const qreal left = hasIcon(true) ? iconLineWidth(true) / 2 + iconSpace : 0;
-        const qreal right = hasIcon(false) ? iconLineWidth(false) / 2 + iconSpace : 0;
+        const qreal left = hasIcon(true) ? iconLineWidth(true) / 2 + iconSpace() : 0;
+        const qreal right = hasIcon(false) ? iconLineWidth(false) / 2 + iconSpace() : 0;
         return std::max(width / 2, left) + std::max(width / 2, right);
     }
     const bool isBoneLeft = side == Side::Left;
     if (hasIcon(!isBoneLeft)) // beside its own line, at the ragged end
-        width = std::max(width, iconLineWidth(!isBoneLeft) + iconSpace);
+        width = std::max(width, iconLineWidth(!isBoneLeft) + iconSpace());
     if (hasIcon(isBoneLeft)) // beside all lines, at the straight end
-        width += iconSpace;
+        width += iconSpace();
     return width + (m_badgeWidth > 0 ? m_badgeWidth + badgeSpace : 0);
 }
 
@@ -62,15 +77,15 @@ ClearLabelPlaces ClearLabel::placesAt(const QPointF &anchor, Side side) const
     ClearLabelPlaces places;
     const qreal width = m_text->width();
     const qreal badge = m_badgeWidth > 0 ? m_badgeWidth + badgeSpace : 0;
-    const qreal top = anchor.y() - height() / 2;
+    const qreal top = anchor.y() - m_text->height() / 2;
     qreal left = anchor.x();
     if (side == Side::Center)
         left += leftShift(side) - this->width(side) / 2;
     else if (side == Side::Left)
-        left += badge + (hasIcon(true) ? iconSpace : 0);
+        left += badge + (hasIcon(true) ? iconSpace() : 0);
     else
-        left -= badge + (hasIcon(false) ? iconSpace : 0) + width;
-    places.text = QRectF(left, top, width, height());
+        left -= badge + (hasIcon(false) ? iconSpace() : 0) + width;
+    places.text = QRectF(left, top, width, m_text->height());
     const bool isReversed = m_text->isRightToLeft();
     if (m_hasStatus)
         places.status = iconRect(places.text, side, !isReversed);
@@ -89,7 +104,7 @@ qreal ClearLabel::leftShift(Side side) const
     const qreal half = m_text->width() / 2;
     if (!hasIcon(true) || side != Side::Center)
         return 0;
-    return std::max(half, iconLineWidth(true) / 2 + iconSpace) - half;
+    return std::max(half, iconLineWidth(true) / 2 + iconSpace()) - half;
 }
 
 QRectF ClearLabel::iconRect(const QRectF &text, Side side, bool onLeft) const
@@ -98,10 +113,11 @@ QRectF ClearLabel::iconRect(const QRectF &text, Side side, bool onLeft) const
     const int line = isStatus ? 0 : m_text->lineCount() - 1;
     const QPointF start = base(*m_text, text, side, line);
     const qreal lineHeight = m_text->font().lineHeight();
+    const qreal size = iconSize();
     const qreal x =
-        onLeft ? start.x() - iconSpace : start.x() + iconLineWidth(false) + ClearMeasure::iconGap;
-    const qreal y = text.top() + (line + 0.5) * lineHeight - ClearMeasure::icon / 2;
-    return QRectF(x, y, ClearMeasure::icon, ClearMeasure::icon);
+        onLeft ? start.x() - iconSpace() : start.x() + iconLineWidth(false) + ClearMeasure::iconGap;
+    const qreal y = text.top() + (line + 0.5) * lineHeight - size / 2;
+    return QRectF(x, y, size, size);
 }
 
 QPointF ClearLabel::base(const ClearText &text, const QRectF &rect, Side side, int line)

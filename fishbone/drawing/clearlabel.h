@@ -44,7 +44,7 @@ public:
     qreal width(Side side) const;
     /** How wide it is at most, whichever of its sides the bone is on. */
     qreal anyWidth() const;
-    qreal height() const { return m_text->height(); }
+    qreal height() const;
     /** How wide its badge is, 0 without one. A centred label leaves it to others to place it. */
     qreal badgeWidth() const { return m_badgeWidth; }
 
@@ -60,6 +60,8 @@ public:
 private:
     bool hasIcon(bool onLeft) const;
     qreal iconLineWidth(bool onLeft) const;
+    qreal iconSize() const;
+    qreal iconSpace() const;
     QRectF iconRect(const QRectF &text, Side side, bool onLeft) const;
     qreal leftShift(Side side) const;
 

@@ -15,21 +15,14 @@ using ClearMeasure::slope;
 
 constexpr qreal narrowestCategory = 90; ///< a limit for categories is no less
 constexpr qreal badgePadding = 4;
-constexpr qreal firstBelow = 14; ///< from the head to the first joint of each side
-constexpr qreal firstAbove = 26;
-constexpr qreal overHead = 10;   ///< what may hang over towards the head before that grows
-constexpr qreal headClear = 4;   ///< between the head and what hangs over above it
-constexpr qreal jointPitch = 12; ///< between two joints of a side
-constexpr qreal columnGap = 16;  ///< between two categories
-constexpr qreal columnMargin = 3;
 constexpr qreal shortestBackbone = 40;
-constexpr qreal nearBackbone = 20; ///< what is nearer than that to it keeps off the tail
-constexpr qreal tailGap = 4;
-constexpr qreal behindLast = 12;
 constexpr qreal backboneHalf = 3; ///< at the head
 constexpr int headLines = 5;
 constexpr qreal headWidest = 360;
 constexpr qreal penHalf = 1.1;
+constexpr qreal lineHalf = 1;
+constexpr qreal boxSlice = 4;
+constexpr qreal lineSlice = 6;
 constexpr qreal buttonInset = 5;
 
 QRectF around(const QLineF &line)
@@ -56,12 +49,14 @@ ClearLayout::ClearLayout(const ClearTree &tree, const ClearFonts &fonts,
         m_legend = ClearLegend(legend, fonts.legend(), cache);
     const ClearShapes shapes(tree, m_labels, m_options);
     const ClearHead head(m_labels.front());
-    placeCategories(tree, shapes, head);
-    placeBones(tree, shapes);
+    ClearColumns columns(head.size().height());
+    for (int row = 0; row < tree.children(0).size(); ++row)
+        placeCategory(tree, shapes, row, columns);
+    m_tailPlace = -columns.end();
     placeHead(head);
     measure(tree);
     placeLegend();
-    m_work += shapes.work();
+    m_work = shapes.work() + columns.work();
     m_labels.clear();
     m_labels.shrink_to_fit();
 }
@@ -95,85 +90,110 @@ void ClearLayout::makeLabels(const ClearTree &tree, const ClearFonts &fonts, Cle
     }
 }
 
-/** Places the categories of each side beside each other, as near to the head as they go. */
-void ClearLayout::placeCategories(const ClearTree &tree, const ClearShapes &shapes,
-                                  const ClearHead &head)
+void ClearLayout::Bone::move(qreal dx)
 {
-    ClearOutline sides[2];
-    qreal previous[2] = {-jointPitch, -jointPitch};
-    const qreal headHalf = head.size().height() / 2 + headClear;
-    qreal last = shortestBackbone + behindLast;
-    const ClearTree::Children categories = tree.children(0);
-    m_categories.resize(std::size_t(categories.size()));
-    for (int row = 0; row < categories.size(); ++row) {
-        const bool isBelow = row % 2 == 0;
-        std::vector<ClearBox> boxes = shapes.boxes(categories[row]);
-        qreal hangsOver = 0;
-        qreal nearest = 0; // what keeps off the tail
-        for (ClearBox &box : boxes) {
-            if (box.low < headHalf)
-                hangsOver = std::max(hangsOver, -box.from - box.low * slope);
-            if (box.low < nearBackbone)
-                nearest = std::max(nearest, box.to + box.high * slope);
-            // Here the backbone is the line that things are packed along.
-            box = ClearBox{box.low, box.high, box.from, box.to};
-        }
-        ClearOutline outline = ClearOutline::ofBoxes(boxes, columnMargin);
-        ClearOutline &side = sides[isBelow];
-        qreal joint =
-            (isBelow ? firstBelow : firstAbove) + std::max<qreal>(0, hangsOver - overHead);
-        joint = std::max(joint, previous[isBelow] + jointPitch);
-        joint = std::max(joint, side.drop(outline, 0, -1e9) + columnGap);
-        side.stack(std::move(outline), 0, joint);
-        previous[isBelow] = joint;
-        m_categories[std::size_t(row)] = {joint, isBelow ? 1 : -1};
-        last = std::max({last, joint + behindLast, joint + nearest});
+    line.translate(dx, 0);
+    button.rx() += dx;
+    for (QRectF *const rect : {&textRect, &box, &status, &link, &badge}) {
+        if (!rect->isNull())
+            rect->translate(dx, 0);
     }
-    m_tailPlace = -last - tailGap;
-    m_work += sides[0].work() + sides[1].work();
 }
 
-QPointF ClearLayout::inPicture(const Category &category, qreal along, qreal across) const
+QPointF ClearLayout::inPicture(int side, qreal along, qreal across) const
 {
-    return {direction() * (-category.joint - along - across * slope), category.side * across};
+    return {direction() * (-along - across * slope), side * across};
 }
 
-void ClearLayout::placeBones(const ClearTree &tree, const ClearShapes &shapes)
+/** What covers @p rect in the skewed coordinates of a category whose joint is at the origin. */
+ClearBox ClearLayout::skewed(const QRectF &rect) const
 {
-    for (int index = 1; index < tree.size(); ++index) {
+    const qreal low = rect.top() < 0 ? -rect.bottom() : rect.top();
+    const qreal high = low + rect.height();
+    const qreal near = m_options.isHeadLeft ? rect.left() : -rect.right();
+    return {near - high * slope, near + rect.width() - low * slope, low, high};
+}
+
+/** Places the bones of a category around its joint, and then all of it on the backbone. */
+void ClearLayout::placeCategory(const ClearTree &tree, const ClearShapes &shapes, int row,
+                                ClearColumns &columns)
+{
+    const int category = tree.children(0)[row];
+    const int side = row % 2 == 0 ? 1 : -1; // below the backbone first
+    std::vector<ClearBox> boxes;
+    boxes.reserve(std::size_t(5 * (tree.end(category) - category)));
+    for (int index = category; index < tree.end(category); ++index) {
         Bone &bone = m_bones[std::size_t(index)];
         bone.level = tree.level(index);
-        const int parent = tree.at(index).parent;
-        bone.category = bone.level > 1 ? m_bones[std::size_t(parent)].category : -1;
+        bone.category = row;
+        if (index == category)
+            placeBox(shapes, index, side);
+        else
+            placeBone(shapes, index, side);
+        addBoxes(shapes, index, boxes);
     }
-    const ClearTree::Children categories = tree.children(0);
-    for (int row = 0; row < categories.size(); ++row) {
-        const int category = categories[row];
-        placeBox(shapes, category, m_categories[std::size_t(row)]);
-        for (int index = category; index < tree.end(category); ++index) {
-            m_bones[std::size_t(index)].category = row;
-            if (index > category)
-                placeBone(shapes, index, m_categories[std::size_t(row)]);
+    const qreal joint = columns.place(boxes, side > 0);
+    for (int index = category; index < tree.end(category); ++index)
+        m_bones[std::size_t(index)].move(-direction() * joint);
+}
+
+/** What covers @p rect, in slices of @p high at most, since what is skewed is wider the higher it
+ * is. */
+void ClearLayout::addSlices(const QRectF &rect, qreal high, std::vector<ClearBox> &out) const
+{
+    const int slices = int(std::ceil(rect.height() / high));
+    const qreal each = rect.height() / slices;
+    for (int slice = 0; slice < slices; ++slice)
+        out.push_back(skewed(QRectF(rect.left(), rect.top() + slice * each, rect.width(), each)));
+}
+
+/** What @p index covers, line by line, so that short lines make room. */
+void ClearLayout::addBoxes(const ClearShapes &shapes, int index, std::vector<ClearBox> &out) const
+{
+    const ClearShapes::Bone &shape = shapes.bone(index);
+    const Bone &bone = m_bones[std::size_t(index)];
+    if (bone.level == 1) {
+        out.push_back({-lineHalf, lineHalf, 0, shape.length});
+        addSlices(bone.box, boxSlice, out);
+    } else {
+        const qreal sign = shape.isMirrored ? -1 : 1;
+        const qreal end =
+            ClearShapes::isSlanted(bone.level) ? shape.along : shape.along + sign * shape.length;
+        const qreal high = ClearShapes::isSlanted(bone.level)
+                               ? shape.across + shape.lead + shape.length
+                               : shape.across;
+        out.push_back({std::min(shape.along, end) - lineHalf, std::max(shape.along, end) + lineHalf,
+                       shape.across - lineHalf, high + lineHalf});
+        const qreal lineHeight = bone.text->font().lineHeight();
+        for (int line = 0; line < bone.text->lineCount(); ++line) {
+            const QPointF base = bone.base(line);
+            addSlices(QRectF(base.x(), base.y() - bone.text->font().ascent(),
+                             bone.text->lines()[std::size_t(line)].width, lineHeight),
+                      lineSlice, out);
         }
+    }
+    for (const QRectF &part : {bone.status, bone.link, bone.badge}) {
+        if (!part.isNull())
+            out.push_back(skewed(part));
     }
 }
 
-void ClearLayout::placeBone(const ClearShapes &shapes, int index, const Category &category)
+void ClearLayout::placeBone(const ClearShapes &shapes, int index, int side)
 {
     const ClearShapes::Bone &shape = shapes.bone(index);
     const qreal sign = shape.isMirrored ? -1 : 1;
     Bone &bone = m_bones[std::size_t(index)];
     const bool isRight = shape.isMirrored == m_options.isHeadLeft; // the bone, of its text
     bone.side = isRight ? ClearLabel::Side::Right : ClearLabel::Side::Left;
-    const QPointF joint = inPicture(category, shape.along, shape.across);
+    const QPointF joint = inPicture(side, shape.along, shape.across);
     qreal along = shape.along;
     qreal across = shape.across;
     if (ClearShapes::isSlanted(bone.level))
         across += shape.lead + shape.length;
     else
         along += sign * shape.length;
-    bone.line = QLineF(joint, inPicture(category, along, across));
-    const QPointF anchor = inPicture(category, along + sign * shape.textAlong, across);
+    bone.line = QLineF(joint, inPicture(side, along, across));
+    const QPointF anchor = inPicture(side, along + sign * shape.textAlong, across);
     const ClearLabelPlaces places = m_labels[std::size_t(index)].placesAt(anchor, bone.side);
     bone.textRect = places.text;
     bone.status = places.status;
@@ -183,16 +203,16 @@ void ClearLayout::placeBone(const ClearShapes &shapes, int index, const Category
     bone.button = bone.line.pointAt(1 - inset);
 }
 
-void ClearLayout::placeBox(const ClearShapes &shapes, int index, const Category &category)
+void ClearLayout::placeBox(const ClearShapes &shapes, int index, int side)
 {
     const qreal length = shapes.bone(index).length;
     const QSizeF half = shapes.boxOf(index);
     const ClearLabel &label = m_labels[std::size_t(index)];
     Bone &bone = m_bones[std::size_t(index)];
     bone.side = ClearLabel::Side::Center;
-    const QPointF end = inPicture(category, 0, length);
-    bone.line = QLineF(inPicture(category, 0, 0), end);
-    const QPointF middle(end.x(), end.y() + category.side * half.height() / 2);
+    const QPointF end = inPicture(side, 0, length);
+    bone.line = QLineF(inPicture(side, 0, 0), end);
+    const QPointF middle(end.x(), end.y() + side * half.height() / 2);
     bone.box = QRectF(middle.x() - half.width(), middle.y() - half.height() / 2, 2 * half.width(),
                       half.height());
     const ClearLabelPlaces places = label.placesAt(middle, bone.side);
@@ -201,9 +221,9 @@ void ClearLayout::placeBox(const ClearShapes &shapes, int index, const Category 
     bone.link = places.link;
     if (label.badgeWidth() > 0) {
         bone.badge = QRectF(0, 0, label.badgeWidth(), ClearLabel::badgeHeight);
-        bone.badge.moveCenter(inPicture(category, 0, ClearShapes::categoryBadge));
+        bone.badge.moveCenter(inPicture(side, 0, ClearShapes::categoryBadge));
     }
-    bone.button = inPicture(category, 0, std::max<qreal>(length - buttonInset, 0));
+    bone.button = inPicture(side, 0, std::max<qreal>(length - buttonInset, 0));
 }
 
 void ClearLayout::placeHead(const ClearHead &head)

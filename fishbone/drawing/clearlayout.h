@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <fishbone/drawing/clearcolumns.h>
 #include <fishbone/drawing/clearhead.h>
 #include <fishbone/drawing/clearlabel.h>
 #include <fishbone/drawing/clearlegend.h>
@@ -49,6 +50,8 @@ public:
         QRectF labelRect() const { return textRect | status | link | badge | box; }
         /** All of it. */
         QRectF rect() const;
+        /** Moves it along the backbone. */
+        void move(qreal dx);
     };
 
     /** Lays out @p tree. @p legend has the meanings of the symbols in use, in order. */
@@ -76,27 +79,22 @@ public:
     quint64 work() const { return m_work; }
 
 private:
-    /** Where a category stands on the backbone. */
-    struct Category
-    {
-        qreal joint = 0; ///< its distance from the head
-        int side = 1;    ///< 1 below the backbone, -1 above it
-    };
-
     void makeLabels(const ClearTree &tree, const ClearFonts &fonts, ClearTextCache &cache);
-    void placeCategories(const ClearTree &tree, const ClearShapes &shapes, const ClearHead &head);
-    void placeBones(const ClearTree &tree, const ClearShapes &shapes);
-    void placeBone(const ClearShapes &shapes, int index, const Category &category);
-    void placeBox(const ClearShapes &shapes, int index, const Category &category);
+    void placeCategory(const ClearTree &tree, const ClearShapes &shapes, int row,
+                       ClearColumns &columns);
+    void placeBone(const ClearShapes &shapes, int index, int side);
+    void placeBox(const ClearShapes &shapes, int index, int side);
+    void addBoxes(const ClearShapes &shapes, int index, std::vector<ClearBox> &out) const;
     void placeHead(const ClearHead &head);
     void placeLegend();
     void measure(const ClearTree &tree);
-    QPointF inPicture(const Category &category, qreal along, qreal across) const;
+    void addSlices(const QRectF &rect, qreal high, std::vector<ClearBox> &out) const;
+    QPointF inPicture(int side, qreal along, qreal across) const;
+    ClearBox skewed(const QRectF &rect) const;
     qreal direction() const { return m_options.isHeadLeft ? -1 : 1; }
 
     ClearOptions m_options;
     std::vector<ClearLabel> m_labels;
-    std::vector<Category> m_categories;
     std::vector<Bone> m_bones;
     std::vector<QRectF> m_extents;
     QPainterPath m_head;

@@ -26,6 +26,7 @@ constexpr qreal boxPadding = 7; ///< of a category's box, left and right
 constexpr qreal boxPaddingHigh = 3;
 constexpr qreal otherSideGain = 1; ///< a bone changes sides for more than this
 constexpr qreal unevenFactor = 1.5;
+constexpr int boxSlices = 4;
 constexpr qreal half = 0.5;
 } // namespace
 
@@ -150,6 +151,8 @@ void ClearShapes::packSlanted(int index)
     const qreal high = label.height() / 2;
     bone.textAlong =
         textGap + std::max<qreal>(0, high - label.text()->font().lineHeight() / 2) * slope;
+    if (m_maySwap[std::size_t(index)]) // on the other side the bone leans towards the text
+        bone.textAlong = std::max(bone.textAlong, high * slope + 1);
     ClearOutline text;
     text.add(textBox(index, bone.textAlong, 0), margin);
     qreal least = high + textGap;
@@ -188,7 +191,14 @@ void ClearShapes::packCategory(int index)
     const qreal lean = size.height() * slope;
     bone.length = children.size() ? last + boxGap : shortestCategory;
     for (const bool isMirrored : {false, true}) {
-        ClearOutline box;
+        ClearOutline box; // its upper part leans towards the head
+        for (int slice = 0; slice < boxSlices; ++slice) {
+            const qreal from = -wide - lean * (slice + 1) / boxSlices;
+            const qreal low = size.height() * slice / boxSlices;
+            const ClearBox leaning{from, from + lean / boxSlices, low, low + 1};
+            box.add(isMirrored ? ClearBox{-leaning.to, -leaning.from, low, low + 1} : leaning,
+                    margin);
+        }
         box.add(isMirrored ? ClearBox{-wide - lean, wide, 0, 1}
                            : ClearBox{-wide, wide + lean, 0, 1},
                 margin);
@@ -212,48 +222,9 @@ void ClearShapes::settle()
     }
 }
 
-void ClearShapes::addBoxes(int index, std::vector<ClearBox> &out) const
-{
-    const Bone &bone = m_bones[std::size_t(index)];
-    const auto put = [&](const ClearBox &box) {
-        if (bone.isMirrored)
-            out.push_back({-box.to, -box.from, box.low, box.high});
-        else
-            out.push_back(box);
-    };
-    const qreal along = bone.isMirrored ? -bone.along : bone.along;
-    if (isSlanted(m_tree.level(index))) {
-        const qreal end = bone.across + bone.lead + bone.length;
-        put({along - half, along + half, bone.across, end});
-        put(textBox(index, along + bone.textAlong, end));
-    } else {
-        put({along, along + bone.length, bone.across - 1, bone.across + 1});
-        put(textBox(index, along + bone.length + bone.textAlong, bone.across));
-    }
-}
-
 QSizeF ClearShapes::boxOf(int category) const
 {
     const ClearLabel &label = m_labels[std::size_t(category)];
     return {label.width(ClearLabel::Side::Center) / 2 + boxPadding,
             label.height() + 2 * boxPaddingHigh};
-}
-
-std::vector<ClearBox> ClearShapes::boxes(int category) const
-{
-    std::vector<ClearBox> out;
-    out.reserve(std::size_t(2 * (m_tree.end(category) - category)));
-    const Bone &bone = m_bones[std::size_t(category)];
-    const QSizeF size = boxOf(category);
-    out.push_back({-1, 1, 0, bone.length});
-    out.push_back({-size.width(), size.width() + size.height() * slope, bone.length,
-                   bone.length + size.height()});
-    if (const qreal badge = m_labels[std::size_t(category)].badgeWidth(); badge > 0) {
-        const qreal high = ClearLabel::badgeHeight / 2;
-        const qreal wide = badge / 2 + high * slope;
-        out.push_back({-wide, wide, categoryBadge - high, categoryBadge + high});
-    }
-    for (int index = category + 1; index < m_tree.end(category); ++index)
-        addBoxes(index, out);
-    return out;
 }

@@ -50,9 +50,6 @@ public:
     /** Where the middle of the badge of a contracted category stands on its bone. */
     static constexpr qreal categoryBadge = 22;
 
-    /** What @p category covers with all below it. */
-    std::vector<ClearBox> boxes(int category) const;
-
     /** Whether bones of @p level are slanted. */
     static bool isSlanted(int level) { return level % 2 == 1; }
 
@@ -69,7 +66,6 @@ private:
     ClearBox textBox(int index, qreal along, qreal across) const;
     qreal labelWidth(int index) const;
     ClearOutline takeOutline(int index);
-    void addBoxes(int index, std::vector<ClearBox> &out) const;
 
     const ClearTree &m_tree;
     const std::vector<ClearLabel> &m_labels;
