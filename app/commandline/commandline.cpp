@@ -74,14 +74,36 @@ QCommandLineOption toOption()
             QStringLiteral("format")};
 }
 
-/** The names of all formats, "json, md, …". */
-QString formatIds()
+QCommandLineOption strictOption()
+{
+    return {QStringLiteral("strict"),
+            CommandLine::tr("Write nothing when that would leave content out.")};
+}
+
+/** The names of the formats that @p can says yes to, "json, md, …". */
+QString formatIds(bool (*can)(DiagramExchange::Format))
 {
     QStringList ids;
     const QList<DiagramExchange::Format> formats = DiagramExchange::formats();
-    for (const DiagramExchange::Format format : formats)
-        ids.append(DiagramExchange::id(format));
+    for (const DiagramExchange::Format format : formats) {
+        if (can(format))
+            ids.append(DiagramExchange::id(format));
+    }
     return ids.join(QLatin1String(", "));
+}
+
+/** The endings that tell the formats that @p can says yes to, ".json, .md, …". */
+QString endings(bool (*can)(DiagramExchange::Format))
+{
+    QStringList endings;
+    const QList<DiagramExchange::Format> formats = DiagramExchange::formats();
+    for (const DiagramExchange::Format format : formats) {
+        const QStringList suffixes =
+            can(format) ? DiagramExchange::suffixes(format) : QStringList();
+        for (const QString &suffix : suffixes)
+            endings.append(QLatin1Char('.') + suffix);
+    }
+    return endings.join(QLatin1String(", "));
 }
 
 void describeWindow(QCommandLineParser &parser)
@@ -104,10 +126,12 @@ void describeConvert(QCommandLineParser &parser)
 {
     parser.setApplicationDescription(
         CommandLine::tr("Writes a diagram in another format, or as a picture.\n"
-                        "The endings tell the formats: %1;\n"
-                        "and png, svg and pdf for pictures.")
-            .arg(formatIds()));
-    parser.addOptions({helpOption(), languageOption(), fromOption(), toOption()});
+                        "The endings tell the formats. Read: %1.\n"
+                        "Written: %2, and png, svg and pdf for pictures.\n"
+                        "What is left out, or put where it can be kept, is listed on the error "
+                        "output.")
+            .arg(formatIds(DiagramExchange::canRead), formatIds(DiagramExchange::canWrite)));
+    parser.addOptions({helpOption(), languageOption(), fromOption(), toOption(), strictOption()});
     parser.addOptions(pictureOptions());
     parser.addPositionalArgument(QStringLiteral("convert"), CommandLine::tr("The command."),
                                  QStringLiteral("convert"));
@@ -203,7 +227,7 @@ CommandLine CommandLine::parse(const QStringList &arguments)
     QCommandLineParser parser;
     // All options of all commands: only behind them it shows which command there is.
     describeWindow(parser);
-    parser.addOptions({fromOption(), toOption()});
+    parser.addOptions({fromOption(), toOption(), strictOption()});
     const bool wellFormed = parser.parse(arguments);
     line.language = parser.value(QStringLiteral("language"));
     line.documents = parser.positionalArguments();
@@ -232,6 +256,7 @@ bool CommandLine::readCommand(const QCommandLineParser &parser)
     case Command::None:
         return refuseOptions(parser, {fromOption(), toOption()},
                              tr("--%1 needs convert or info")) &&
+               refuseOptions(parser, {strictOption()}, tr("--%1 needs convert")) &&
                readExport(parser);
     case Command::Convert:
         return readConvert(parser);
@@ -265,6 +290,7 @@ bool CommandLine::readConvert(const QCommandLineParser &parser)
     if (documents.size() != 2)
         return refuse(tr("convert takes a file to read and a file to write"));
     target = documents.takeLast();
+    isStrict = parser.isSet(strictOption());
     if (!readFormat(parser, QStringLiteral("from"), documents.constFirst(), from))
         return false;
     if (!parser.isSet(QStringLiteral("to")) && PictureExport::formatOf(target))
@@ -278,7 +304,7 @@ bool CommandLine::readInfo(const QCommandLineParser &parser)
 {
     action = Action::Info;
     QList<QCommandLineOption> others = pictureOptions();
-    others += {exportOption(), toOption()};
+    others += {exportOption(), toOption(), strictOption()};
     if (!refuseOptions(parser, others, tr("--%1 does not go with info")))
         return false;
     if (documents.size() != 1)
@@ -291,15 +317,26 @@ bool CommandLine::readFormat(const QCommandLineParser &parser, const QString &na
                              const QString &fileName,
                              std::optional<DiagramExchange::Format> &format)
 {
+    const bool reads = name == QLatin1String("from");
+    const auto can = reads ? DiagramExchange::canRead : DiagramExchange::canWrite;
     const bool isSet = parser.isSet(name);
     const QString value = parser.value(name);
     format = isSet ? DiagramExchange::formatById(value) : DiagramExchange::formatOf(fileName);
-    if (format)
+    if (format && can(*format))
         return true;
+    if (format && reads)
+        return refuse(tr("%1 can only be written").arg(DiagramExchange::name(*format)));
+    if (format)
+        return refuse(tr("%1 can only be read").arg(DiagramExchange::name(*format)));
     if (isSet)
-        return refuse(expected(name, value, tr("one of %1").arg(formatIds())));
-    return refuse(tr("the format of \"%1\" is unknown: --%2 takes one of %3")
-                      .arg(fileName, name, formatIds()));
+        return refuse(expected(name, value, tr("one of %1").arg(formatIds(can))));
+    if (reads)
+        return refuse(tr("the format of \"%1\" is unknown: the name must end in one of %2, or "
+                         "--from tell one of %3")
+                          .arg(fileName, endings(can), formatIds(can)));
+    return refuse(tr("the format of \"%1\" is unknown: the name must end in one of %2, or in "
+                     ".png, .svg or .pdf for a picture, or --to tell one of %3")
+                      .arg(fileName, endings(can), formatIds(can)));
 }
 
 /** Reads how a picture shall look. */

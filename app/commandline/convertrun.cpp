@@ -6,24 +6,16 @@
 #include <app/commandline/commandline.h>
 #include <app/commandline/exportrun.h>
 #include <app/files/documentloader.h>
+#include <app/files/importsummary.h>
 
+#include <fishbone/exchange/exchangereport.h>
 #include <fishbone/model/treeitem.h>
 
-std::unique_ptr<TreeItem> readDocument(const CommandLine &line, QString &message)
-{
-    const QString source = line.documents.constFirst();
-    QString reason;
-    auto head = DiagramExchange::readFile(DocumentLoader::localPath(source), *line.from, &reason);
-    if (!head)
-        message = CommandLine::tr("cannot read %1: %2").arg(source, reason);
-    return head;
-}
+namespace {
 
-int runConvert(const CommandLine &line, QString &message)
+/** Writes @p head as @p line says; returns an exit code. */
+int write(std::unique_ptr<TreeItem> head, const CommandLine &line, QString &message)
 {
-    auto head = readDocument(line, message);
-    if (!head)
-        return CommandLine::failure;
     if (!line.to)
         return drawPicture(std::move(head), line, message);
     QString reason;
@@ -31,4 +23,37 @@ int runConvert(const CommandLine &line, QString &message)
         return CommandLine::success;
     message = CommandLine::tr("cannot write %1: %2").arg(line.target, reason);
     return CommandLine::failure;
+}
+
+} // namespace
+
+std::unique_ptr<TreeItem> readDocument(const CommandLine &line, QString &message,
+                                       ExchangeReport &report)
+{
+    const QString source = line.documents.constFirst();
+    QString reason;
+    auto head =
+        DiagramExchange::readFile(DocumentLoader::localPath(source), *line.from, &reason, &report);
+    if (!head)
+        message = CommandLine::tr("cannot read %1: %2").arg(source, reason);
+    return head;
+}
+
+int runConvert(const CommandLine &line, QString &message)
+{
+    ExchangeReport read;
+    auto head = readDocument(line, message, read);
+    if (!head)
+        return CommandLine::failure;
+    ImportSummary::print(line.documents.constFirst(), read);
+    ExchangeReport written;
+    if (line.to)
+        written = DiagramExchange::lossesOf(*head, *line.to);
+    ImportSummary::print(line.target, written);
+    if (line.isStrict && (read.losesContent() || written.losesContent())) {
+        message =
+            CommandLine::tr("%1 was not written: something would be left out").arg(line.target);
+        return CommandLine::failure;
+    }
+    return write(std::move(head), line, message);
 }

@@ -7,6 +7,7 @@
 #include <app/common/canvastheme.h>
 #include <app/export/leveldrawing.h>
 #include <app/files/documentloader.h>
+#include <app/files/importsummary.h>
 
 #include <fishbone/editor/fishscene.h>
 #include <fishbone/model/fishinfo.h>
@@ -28,6 +29,7 @@ FishInfo *loadNow(DocumentLoader &loader, const QString &source, QString &messag
                      [&](const QString &, const QString &reason) {
                          message = CommandLine::tr("cannot read %1: %2").arg(source, reason);
                      });
+    QObject::connect(&loader, &DocumentLoader::reported, &loop, &ImportSummary::print);
     QObject::connect(&loader, &DocumentLoader::idle, &loop, &QEventLoop::quit);
     loader.load(source);
     if (!loader.isIdle())

@@ -6,14 +6,18 @@
 #include <app/commandline/commandline.h>
 #include <app/commandline/convertrun.h>
 #include <app/files/documentreport.h>
+#include <app/files/importsummary.h>
 
+#include <fishbone/exchange/exchangereport.h>
 #include <fishbone/model/treeitem.h>
 
 int runInfo(const CommandLine &line, QString &message)
 {
-    const auto head = readDocument(line, message);
+    ExchangeReport read;
+    const auto head = readDocument(line, message, read);
     if (!head)
         return CommandLine::failure;
+    ImportSummary::print(line.documents.constFirst(), read);
     const DocumentReport report(*head);
     message =
         CommandLine::tr("Format: %1\n").arg(DiagramExchange::name(*line.from)) + report.text();

@@ -11,6 +11,7 @@
 #include <app/documents/documenttabs.h>
 #include <app/documents/fileconflict.h>
 #include <app/files/documentloader.h>
+#include <app/files/importsummary.h>
 #include <app/files/lastdocuments.h>
 #include <app/files/recentfiles.h>
 #include <app/files/welcome.h>
@@ -64,6 +65,7 @@ FileCommands::FileCommands(DocumentTabs *tabs, RecentFiles *recent, ActionSet *a
     m_loader->setOpenDocuments([tabs] { return tabs->documents(); });
     connect(m_loader, &DocumentLoader::loaded, this, &FileCommands::showLoaded);
     connect(m_loader, &DocumentLoader::failed, this, &FileCommands::reportFailure);
+    new ImportSummary(m_loader, window); // which owns it
     connect(m_loader, &DocumentLoader::cancelled, this, &FileCommands::endCancelled);
     // Queued, so that several files that fail at once share a box.
     connect(m_loader, &DocumentLoader::idle, this, &FileCommands::endLoading, Qt::QueuedConnection);

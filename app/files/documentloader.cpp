@@ -5,6 +5,7 @@
 
 #include <app/common/busycursor.h>
 
+#include <fishbone/exchange/jsondiagram.h>
 #include <fishbone/model/fishinfo.h>
 #include <fishbone/model/treeitem.h>
 
@@ -31,6 +32,9 @@ QString reasonOfText(const QByteArray &json, const QJsonParseError &error)
 {
     if (json.isEmpty())
         return DocumentLoader::tr("it is empty");
+    const QString foreign = JsonDiagram::reasonAgainst(QJsonDocument::fromJson(json));
+    if (error.error == QJsonParseError::NoError && !foreign.isEmpty())
+        return foreign;
     if (error.error == QJsonParseError::NoError)
         return DocumentLoader::tr("it is not a JSON document");
     return DocumentLoader::tr("it is not a JSON document (line %1: %2)")
@@ -132,9 +136,28 @@ void DocumentLoader::loadFile(const QString &path)
         finish(nullptr, reasonOf(path));
         return;
     }
+    if (const QString foreign = reasonAgainstLoaded(path); !foreign.isEmpty()) {
+        m_model->unloadFish(m_model->fishList().constLast());
+        finish(nullptr, foreign);
+        return;
+    }
     FishInfo *const document = m_model->fishList().constLast();
     document->setCurrentFile(path);
     finish(document, QString());
+}
+
+/** Why what was loaded last, from the file @p path, is no diagram; empty when it is one. Only a
+ * head that says nothing makes it worth reading the file again. */
+QString DocumentLoader::reasonAgainstLoaded(const QString &path) const
+{
+    const TreeItem *const container = m_model->fishList().constLast()->treeItem();
+    const TreeItem *const head = container->childAtIndex(0);
+    if (head && (!head->title().isEmpty() || head->childCount() > 0))
+        return QString();
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly)
+               ? JsonDiagram::reasonAgainst(QJsonDocument::fromJson(file.readAll()))
+               : QString();
 }
 
 /** Reads and parses a file beside this thread. */
@@ -150,6 +173,7 @@ void DocumentLoader::readLarge(const QString &path)
             const QByteArray content = file.readAll();
             QJsonParseError error;
             parsed.json = QJsonDocument::fromJson(content, &error);
+            parsed.reason = JsonDiagram::reasonAgainst(parsed.json);
             if (parsed.json.isNull())
                 parsed.reason = reasonOfText(content, error);
         } else {
@@ -167,7 +191,7 @@ void DocumentLoader::endReading(const QString &path, const Parsed &parsed)
 {
     m_isReading = false;
     Q_EMIT fetchEnded();
-    if (!m_model || parsed.json.isNull()) {
+    if (!m_model || !parsed.reason.isEmpty()) {
         finish(nullptr, m_model ? parsed.reason : tr("the program is closing"));
         return;
     }
@@ -187,7 +211,8 @@ void DocumentLoader::importFile(const QString &path, DiagramExchange::Format for
     if (QFileInfo(path).size() > largeOutline)
         busy.emplace();
     QString reason;
-    auto head = DiagramExchange::readFile(path, format, &reason);
+    ExchangeReport report;
+    auto head = DiagramExchange::readFile(path, format, &reason, &report);
     if (!head) {
         finish(nullptr, reason);
         return;
@@ -196,6 +221,8 @@ void DocumentLoader::importFile(const QString &path, DiagramExchange::Format for
     m_model->insertExistItemRows(QModelIndex(), {head.release()}); // which takes it over
     FishInfo *const document = m_model->fishList().constLast();
     document->setFileName(name);
+    if (!report.isEmpty())
+        Q_EMIT reported(m_waiting.constFirst(), report);
     finish(document, QString());
 }
 

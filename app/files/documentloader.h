@@ -4,6 +4,7 @@
 #pragma once
 
 #include <fishbone/exchange/diagramexchange.h>
+#include <fishbone/exchange/exchangereport.h>
 #include <fishbone/model/fishmodel.h>
 
 #include <QJsonDocument>
@@ -63,6 +64,9 @@ public:
 Q_SIGNALS:
     /** @p source was loaded, or had been loaded before, as @p document, which has a head. */
     void loaded(const QString &source, FishInfo *document);
+    /** What became of the things in @p source, a file of another program, that no field holds; only
+     * when there are any. Reported before loaded(). */
+    void reported(const QString &source, const ExchangeReport &report);
     /** @p source cannot be loaded; @p reason is a clause for the user. */
     void failed(const QString &source, const QString &reason);
     /** The user has cancelled the load of @p source. */
@@ -87,6 +91,7 @@ private:
 
     void loadNext();
     void loadFile(const QString &path);
+    QString reasonAgainstLoaded(const QString &path) const;
     void readLarge(const QString &path);
     void endReading(const QString &path, const Parsed &parsed);
     void importFile(const QString &path, DiagramExchange::Format format);

@@ -13,7 +13,7 @@
 
 namespace {
 
-using CsvTable::Row;
+using TaskTable::Row;
 
 constexpr QLatin1Char quote('"');
 constexpr QLatin1Char apostrophe('\'');
@@ -23,13 +23,32 @@ bool isLineEnd(QChar c)
     return c == QLatin1Char('\n') || c == QLatin1Char('\r');
 }
 
+/** The separator that a line in front of the table names, as spreadsheets have it; null when there
+ * is no such line. */
+QChar namedSeparator(const QString &text)
+{
+    constexpr int length = 5; // "sep=" and the separator itself
+    const bool isNamed = text.startsWith(QLatin1String("sep="), Qt::CaseInsensitive) &&
+                         text.size() > length && isLineEnd(text.at(length));
+    return isNamed ? text.at(length - 1) : QChar();
+}
+
+/** The separator that the first line has most of outside of quotes. */
 QChar separatorOf(const QString &text)
 {
-    const auto end = std::find_if(text.cbegin(), text.cend(), isLineEnd);
-    const auto countOf = [&](QChar c) { return std::count(text.cbegin(), end, c); };
     const std::array<QChar, 3> separators{QLatin1Char(','), QLatin1Char(';'), QLatin1Char('\t')};
-    return *std::max_element(separators.cbegin(), separators.cend(),
-                             [&](QChar a, QChar b) { return countOf(a) < countOf(b); });
+    std::array<int, 3> counts{};
+    bool isQuoted = false;
+    for (const QChar c : text) {
+        if (isLineEnd(c) && !isQuoted)
+            break;
+        isQuoted = isQuoted != (c == quote);
+        const auto found = std::find(separators.cbegin(), separators.cend(), c);
+        if (found != separators.cend() && !isQuoted)
+            ++counts[std::size_t(found - separators.cbegin())];
+    }
+    return separators[std::size_t(std::max_element(counts.cbegin(), counts.cend()) -
+                                  counts.cbegin())];
 }
 
 /** Reads a text row by row. */
@@ -39,8 +58,12 @@ public:
     Parser(const QString &text, ImportedTree &tree)
         : m_text(text)
         , m_tree(tree)
-        , m_separator(separatorOf(text))
+        , m_separator(namedSeparator(text))
     {
+        if (m_separator.isNull())
+            m_separator = separatorOf(text);
+        else
+            passNamedSeparator();
     }
 
     bool atEnd() const { return m_position >= m_text.size(); }
@@ -66,6 +89,13 @@ public:
 
 private:
     QChar current() const { return atEnd() ? QChar() : m_text.at(m_position); }
+
+    void passNamedSeparator()
+    {
+        while (!isLineEnd(current()))
+            ++m_position;
+        passLineEnd();
+    }
 
     bool readCell(QString &cell)
     {
@@ -112,7 +142,7 @@ private:
 
     const QString m_text;
     ImportedTree &m_tree;
-    const QChar m_separator;
+    QChar m_separator;
     int m_position = 0;
     qint64 m_line = 1;
 };

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include <fishbone/exchange/tasktable.h>
+
 #include <QByteArray>
 #include <QString>
 #include <QStringList>
@@ -14,17 +16,12 @@ class ImportedTree;
 /** Tables as text, after RFC 4180. */
 namespace CsvTable {
 
-struct Row
-{
-    QStringList cells;
-    qint64 line = 0; ///< where it begins
-};
-
 /**
  * The rows of @p text; empty ones are left out. Cells are separated by commas, semicolons or tabs,
- * whichever the first line has most of. Without any, and with an error, when a quote is wrong.
+ * whichever the first line has most of outside of quotes, or by what a line such as "sep=;" in
+ * front of all names. Without any, and with an error, when a quote is wrong.
  */
-std::vector<Row> parse(const QString &text, ImportedTree &tree);
+std::vector<TaskTable::Row> parse(const QString &text, ImportedTree &tree);
 
 /** A line of a table, with its end. */
 QByteArray line(const QStringList &cells);

@@ -3,9 +3,11 @@
 
 #include <fishbone/exchange/diagramexchange.h>
 
-#include <fishbone/exchange/foreignformats.h>
+#include <fishbone/exchange/exchangeformat.h>
+#include <fishbone/exchange/exchangereport.h>
 #include <fishbone/exchange/importedtree.h>
 #include <fishbone/exchange/outlinewalk.h>
+#include <fishbone/exchange/subjectattributes.h>
 #include <fishbone/model/filereplacement.h>
 #include <fishbone/model/jsonnodes.h>
 #include <fishbone/model/treeitem.h>
@@ -15,7 +17,7 @@
 #include <QIODevice>
 
 #include <algorithm>
-#include <array>
+#include <vector>
 
 static_assert(DiagramExchange::maximalLevels == JsonNodes::readableLevels);
 
@@ -38,61 +40,43 @@ QByteArray readUpTo(QIODevice &device, qint64 limit)
     return bytes;
 }
 
-/** All that is known of a format. */
-struct FormatEntry
-{
-    Format format;
-    const char *id;
-    const char *name;     ///< for DiagramExchange::tr()
-    const char *suffixes; ///< separated by blanks, the usual one first
-    bool (*read)(const QByteArray &bytes, ImportedTree &tree);
-    QByteArray (*write)(const TreeItem &head);
-};
-
-const std::array<FormatEntry, 7> entries{{
-    {Format::Json, "json", QT_TRANSLATE_NOOP("DiagramExchange", "Fishbone diagram"), "json",
-     JsonFormat::read, JsonFormat::write},
-    {Format::Markdown, "md", QT_TRANSLATE_NOOP("DiagramExchange", "Markdown outline"),
-     "md markdown", MarkdownFormat::read, MarkdownFormat::write},
-    {Format::Text, "txt", QT_TRANSLATE_NOOP("DiagramExchange", "Indented text"), "txt text",
-     TextFormat::read, TextFormat::write},
-    {Format::Opml, "opml", QT_TRANSLATE_NOOP("DiagramExchange", "OPML outline"), "opml",
-     OpmlFormat::read, OpmlFormat::write},
-    {Format::FreeMind, "mm", QT_TRANSLATE_NOOP("DiagramExchange", "FreeMind mind map"), "mm",
-     FreeMindFormat::read, FreeMindFormat::write},
-    {Format::Mermaid, "mmd", QT_TRANSLATE_NOOP("DiagramExchange", "Mermaid ishikawa diagram"),
-     "mmd mermaid", MermaidFormat::read, MermaidFormat::write},
-    {Format::Csv, "csv", QT_TRANSLATE_NOOP("DiagramExchange", "Table of tasks"), "csv",
-     CsvFormat::read, CsvFormat::write},
-}};
-
-const FormatEntry &entryOf(Format format)
-{
-    return entries[std::size_t(format)];
-}
-
-void report(QString *error, const QString &reason)
+void fail(QString *error, const QString &reason)
 {
     if (error)
         *error = reason;
 }
 
-/** The file patterns of a format, "*.md *.markdown". */
-QString patterns(const FormatEntry &entry)
+QStringList wordsOf(const char *text)
 {
-    const QStringList suffixes = DiagramExchange::suffixes(entry.format);
+    return QString::fromLatin1(text).split(QLatin1Char(' '), Qt::SkipEmptyParts);
+}
+
+/** The file patterns of a format, "*.md *.markdown". */
+QString patterns(Format format)
+{
+    const QStringList suffixes = DiagramExchange::suffixes(format);
     return QLatin1String("*.") + suffixes.join(QLatin1String(" *."));
 }
 
-/** The name filters of all foreign formats. */
-QStringList nameFilters()
+/** The foreign formats that @p can says yes to. */
+QList<Format> foreignFormats(bool (*can)(Format))
+{
+    QList<Format> foreign;
+    const QList<Format> all = DiagramExchange::formats();
+    for (const Format format : all) {
+        if (format != Format::Json && can(format))
+            foreign.append(format);
+    }
+    return foreign;
+}
+
+/** A name filter for each of @p formats. */
+QStringList nameFilters(const QList<Format> &formats)
 {
     QStringList filters;
-    for (const FormatEntry &entry : entries) {
-        if (entry.format != Format::Json)
-            filters.append(QStringLiteral("%1 (%2)").arg(DiagramExchange::name(entry.format),
-                                                         patterns(entry)));
-    }
+    for (const Format format : formats)
+        filters.append(
+            QStringLiteral("%1 (%2)").arg(DiagramExchange::name(format), patterns(format)));
     return filters;
 }
 
@@ -100,34 +84,44 @@ QStringList nameFilters()
 QByteArray bytesOf(const TreeItem &head, Format format, QString *error)
 {
     if (OutlineWalk::levelsOf(head) > DiagramExchange::maximalLevels) {
-        report(
-            error,
-            DiagramExchange::tr("it has more than %1 levels").arg(DiagramExchange::maximalLevels));
+        fail(error,
+             DiagramExchange::tr("it has more than %1 levels").arg(DiagramExchange::maximalLevels));
         return QByteArray();
     }
-    return entryOf(format).write(head);
+    if (!DiagramExchange::canWrite(format)) {
+        fail(error, DiagramExchange::tr("that format can only be read"));
+        return QByteArray();
+    }
+    return ExchangeFormats::of(format).write(head);
 }
 
 /** Reads @p device; @p take gets what is wanted out of the tree, or null. */
 std::unique_ptr<TreeItem> readTree(QIODevice &device, Format format, QString *error,
+                                   ExchangeReport *report,
                                    std::unique_ptr<TreeItem> (ImportedTree::*take)())
 {
+    if (!DiagramExchange::canRead(format)) {
+        fail(error, DiagramExchange::tr("that format can only be written"));
+        return nullptr;
+    }
     const QByteArray bytes = readUpTo(device, DiagramExchange::maximalBytes + 1);
     if (bytes.size() > DiagramExchange::maximalBytes) {
-        report(error, DiagramExchange::tr("it is larger than %1 MiB")
-                          .arg(DiagramExchange::maximalBytes >> 20));
+        fail(error, DiagramExchange::tr("it is larger than %1 MiB")
+                        .arg(DiagramExchange::maximalBytes >> 20));
         return nullptr;
     }
     if (bytes.isEmpty()) {
-        report(error, DiagramExchange::tr("it is empty"));
+        fail(error, DiagramExchange::tr("it is empty"));
         return nullptr;
     }
     ImportedTree tree;
     std::unique_ptr<TreeItem> taken;
-    if (entryOf(format).read(bytes, tree))
+    if (ExchangeFormats::of(format).read(bytes, tree))
         taken = (tree.*take)();
     if (!taken)
-        report(error, tree.error());
+        fail(error, tree.error());
+    if (report)
+        *report = tree.report();
     return taken;
 }
 
@@ -136,89 +130,138 @@ std::unique_ptr<TreeItem> readTree(QIODevice &device, Format format, QString *er
 QList<Format> DiagramExchange::formats()
 {
     QList<Format> all;
-    for (const FormatEntry &entry : entries)
-        all.append(entry.format);
+    for (const ExchangeFormat *entry : ExchangeFormats::all())
+        all.append(entry->format);
     return all;
 }
 
 QString DiagramExchange::id(Format format)
 {
-    return QString::fromLatin1(entryOf(format).id);
+    return QString::fromLatin1(ExchangeFormats::of(format).id);
+}
+
+bool DiagramExchange::canRead(Format format)
+{
+    return ExchangeFormats::of(format).read;
+}
+
+bool DiagramExchange::canWrite(Format format)
+{
+    return ExchangeFormats::of(format).write;
+}
+
+QStringList DiagramExchange::keptKeys(Format format)
+{
+    return wordsOf(ExchangeFormats::of(format).kept);
 }
 
 QString DiagramExchange::name(Format format)
 {
-    return tr(entryOf(format).name);
+    return tr(ExchangeFormats::of(format).name);
 }
 
 QStringList DiagramExchange::suffixes(Format format)
 {
-    return QString::fromLatin1(entryOf(format).suffixes).split(QLatin1Char(' '));
+    return wordsOf(ExchangeFormats::of(format).endings);
 }
 
 std::optional<Format> DiagramExchange::formatById(const QString &id)
 {
-    for (const FormatEntry &entry : entries) {
-        if (id.compare(QLatin1String(entry.id), Qt::CaseInsensitive) == 0)
-            return entry.format;
+    for (const ExchangeFormat *entry : ExchangeFormats::all()) {
+        if (id.compare(QLatin1String(entry->id), Qt::CaseInsensitive) == 0)
+            return entry->format;
     }
     return std::nullopt;
 }
 
 std::optional<Format> DiagramExchange::formatOf(const QString &fileName)
 {
-    const QString suffix = QFileInfo(fileName).suffix();
-    for (const FormatEntry &entry : entries) {
-        if (suffixes(entry.format).contains(suffix, Qt::CaseInsensitive))
-            return entry.format;
+    const QString name = QFileInfo(fileName).fileName();
+    std::optional<Format> found;
+    int longest = 0;
+    for (const ExchangeFormat *entry : ExchangeFormats::all()) {
+        const QStringList endings = suffixes(entry->format);
+        for (const QString &ending : endings) {
+            if (ending.size() > longest &&
+                name.endsWith(QLatin1Char('.') + ending, Qt::CaseInsensitive)) {
+                longest = int(ending.size());
+                found = entry->format;
+            }
+        }
     }
-    return std::nullopt;
+    return found;
 }
 
 QString DiagramExchange::importFilter()
 {
+    const QList<Format> formats = foreignFormats(canRead);
     QStringList all;
-    for (const FormatEntry &entry : entries) {
-        if (entry.format != Format::Json)
-            all.append(patterns(entry));
-    }
+    for (const Format format : formats)
+        all.append(patterns(format));
     const QString any =
         QStringLiteral("%1 (%2)").arg(tr("All formats"), all.join(QLatin1Char(' ')));
-    return (QStringList(any) + nameFilters()).join(QLatin1String(";;"));
+    return (QStringList(any) + nameFilters(formats)).join(QLatin1String(";;"));
 }
 
 QString DiagramExchange::exportFilter()
 {
-    return nameFilters().join(QLatin1String(";;"));
+    return nameFilters(foreignFormats(canWrite)).join(QLatin1String(";;"));
 }
 
-std::unique_ptr<TreeItem> DiagramExchange::read(QIODevice &device, Format format, QString *error)
+std::unique_ptr<TreeItem> DiagramExchange::read(QIODevice &device, Format format, QString *error,
+                                                ExchangeReport *report)
 {
-    return readTree(device, format, error,
+    return readTree(device, format, error, report,
                     format == Format::Json ? &ImportedTree::takeAsItStands
                                            : &ImportedTree::takeCompleted);
 }
 
 std::unique_ptr<TreeItem> DiagramExchange::readBranches(QIODevice &device, Format format,
-                                                        QString *error)
+                                                        QString *error, ExchangeReport *report)
 {
-    return readTree(device, format, error, &ImportedTree::takeBranches);
+    return readTree(device, format, error, report, &ImportedTree::takeBranches);
 }
 
 std::unique_ptr<TreeItem> DiagramExchange::readFile(const QString &fileName, Format format,
-                                                    QString *error)
+                                                    QString *error, ExchangeReport *report)
 {
     const QFileInfo info(fileName);
     QFile file(fileName);
     if (info.isDir())
-        report(error, tr("it is a folder"));
+        fail(error, tr("it is a folder"));
     else if (!info.exists())
-        report(error, tr("there is no such file"));
+        fail(error, tr("there is no such file"));
     else if (!file.open(QIODevice::ReadOnly))
-        report(error, file.errorString());
+        fail(error, file.errorString());
     else
-        return read(file, format, error);
+        return read(file, format, error, report);
     return nullptr;
+}
+
+ExchangeReport DiagramExchange::lossesOf(const TreeItem &head, Format format)
+{
+    ExchangeReport report;
+    const QStringList kept = keptKeys(format);
+    std::vector<const SubjectAttributes::Attribute *> lost;
+    for (const SubjectAttributes::Attribute &attribute : SubjectAttributes::all()) {
+        // The identity is no content, and made anew.
+        if (attribute.key != JsonNodes::uuidKey && !kept.contains(attribute.key))
+            lost.push_back(&attribute);
+    }
+    const auto keepsStatus = ExchangeFormats::of(format).keepsStatus;
+    const bool losesStyle = !kept.contains(JsonNodes::spearStyleKey);
+    OutlineWalk::walk(head, [&](const TreeItem &subject, int) {
+        for (const SubjectAttributes::Attribute *attribute : lost) {
+            if (!attribute->text(subject).isEmpty())
+                report.add(ExchangeReport::Kind::LeftOut,
+                           QLatin1Char('"') + attribute->key + QLatin1Char('"'));
+        }
+        if (keepsStatus && subject.status() != -1 && !keepsStatus(subject.status()))
+            report.add(ExchangeReport::Kind::LeftOut, QStringLiteral("\"status\""));
+        if (losesStyle && subject.spearStyle())
+            report.add(ExchangeReport::Kind::Appearance, tr("a style"));
+    });
+    return report;
 }
 
 bool DiagramExchange::write(QIODevice &device, const TreeItem &head, Format format, QString *error)
@@ -228,7 +271,7 @@ bool DiagramExchange::write(QIODevice &device, const TreeItem &head, Format form
         return false;
     if (device.write(bytes) == bytes.size())
         return true;
-    report(error, device.errorString());
+    fail(error, device.errorString());
     return false;
 }
 
@@ -241,6 +284,6 @@ bool DiagramExchange::writeFile(const QString &fileName, const TreeItem &head, F
     const QString failure = replaceFile(fileName, bytes);
     if (failure.isEmpty())
         return true;
-    report(error, failure);
+    fail(error, failure);
     return false;
 }

@@ -13,15 +13,18 @@
 #include <memory>
 #include <optional>
 
+class ExchangeReport;
 class QIODevice;
 class TreeItem;
 
 /**
  * Reads and writes diagrams in the formats of other programs, and in the diagram format itself.
  *
- * What a format cannot carry is left out when writing; docs/formats.md of the sources says what
- * each of them keeps. Text is written as UTF-8 and read as UTF-8, or as what its byte order mark
- * says; a line may end in any of the usual ways.
+ * What a format cannot carry is left out when writing, and lossesOf() names it; docs/formats.md of
+ * the sources says what each of them keeps. What a file brings and a subject has no field for goes
+ * into its details, or is left out; an ExchangeReport says which. Text is written as UTF-8 and read
+ * as UTF-8 or as what its byte order mark says; a text in another code page is told from its bytes,
+ * which the report says too. A line may end in any of the usual ways.
  *
  * A tree that was read from a foreign format is ready to be edited: every subject has a uuid of its
  * own, and its pid names its parent. Several subjects at the top level become the main bones of a
@@ -45,6 +48,11 @@ public:
         FreeMind, ///< the mind maps of FreeMind and Freeplane
         Mermaid,  ///< the text of Mermaid's ishikawa diagram
         Csv,      ///< a table of tasks (RFC 4180)
+        Xmind,    ///< the maps of XMind, of both generations
+        Xlsx,     ///< a workbook of Excel: a table of tasks
+        Org,      ///< the outlines of Emacs's org-mode
+        DrawIo,   ///< the drawings of draw.io; only written
+        PlantUml, ///< the mind maps of PlantUML; only read
     };
 
     /** The levels that a diagram may have, which is what fits into the diagram format. */
@@ -58,6 +66,12 @@ public:
     static QList<Format> formats();
     /** The short name of a format that a command line takes, "md" for instance. */
     static QString id(Format format);
+    /** Whether diagrams of that format can be read; some are only written. */
+    static bool canRead(Format format);
+    /** Whether diagrams can be written in that format; some are only read. */
+    static bool canWrite(Format format);
+    /** The keys of the diagram format whose values come back after writing and reading. */
+    static QStringList keptKeys(Format format);
     /** The name of a format for the user, translated. */
     static QString name(Format format);
     /** The endings of file names that tell the format, without a dot; the usual one first. */
@@ -69,28 +83,36 @@ public:
 
     /**
      * The name filters of a file dialog that picks a foreign file to read: one that fits all
-     * formats, then one for each of them.
+     * formats, then one for each of them that can be read.
      */
     static QString importFilter();
-    /** The name filters of a file dialog that picks a foreign file to write, one a format. */
+    /** The name filters of a file dialog that picks a foreign file to write, one for each format
+     * that can be written. */
     static QString exportFilter();
 
     /**
      * Reads a whole diagram from @p device, which is open for reading. Returns its head, which has
      * no parent; null on failure, and @p error says why: for the user, translated, a clause without
-     * a full stop.
+     * a full stop. @p report says what became of the things that no field holds.
      */
     static std::unique_ptr<TreeItem> read(QIODevice &device, Format format,
-                                          QString *error = nullptr);
+                                          QString *error = nullptr,
+                                          ExchangeReport *report = nullptr);
     /**
      * As read(), for what goes below a subject of another diagram: the children of the node that is
      * returned are the subjects at the top level, one or several.
      */
     static std::unique_ptr<TreeItem> readBranches(QIODevice &device, Format format,
-                                                  QString *error = nullptr);
+                                                  QString *error = nullptr,
+                                                  ExchangeReport *report = nullptr);
     /** As read(), from the file @p fileName. */
     static std::unique_ptr<TreeItem> readFile(const QString &fileName, Format format,
-                                              QString *error = nullptr);
+                                              QString *error = nullptr,
+                                              ExchangeReport *report = nullptr);
+
+    /** What of @p head and everything below it is left out when it is written in @p format. Linear
+     * in the number of subjects. */
+    static ExchangeReport lossesOf(const TreeItem &head, Format format);
 
     /**
      * Writes @p head with everything below it to @p device, which is open for writing. False on

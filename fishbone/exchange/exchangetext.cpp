@@ -3,6 +3,7 @@
 
 #include <fishbone/exchange/exchangetext.h>
 
+#include <fishbone/exchange/codepages.h>
 #include <fishbone/exchange/diagramexchange.h>
 #include <fishbone/exchange/importedtree.h>
 
@@ -40,12 +41,20 @@ QString fromUtf32(const QByteArray &bytes, bool bigEndian)
     return QString::fromStdU32String(unitsOf<quint32, std::u32string>(bytes, bigEndian));
 }
 
-/** The line in which @p bytes and @p expected differ first. */
-qint64 firstDifference(const QByteArray &bytes, const QByteArray &expected)
+/** Whether @p bytes are mostly Latin text in UTF-16 without a mark: every other byte is zero. */
+bool isUnmarkedUtf16(const QByteArray &bytes, bool bigEndian)
 {
-    const auto end = bytes.cbegin() + std::min(bytes.size(), expected.size());
-    const auto [differs, ignored] = std::mismatch(bytes.cbegin(), end, expected.cbegin());
-    return std::count(bytes.cbegin(), differs, '\n') + 1;
+    constexpr int looked = 400;
+    const int end = int(std::min<qint64>(bytes.size(), looked)) & ~1;
+    int zeros = 0;
+    for (int i = 0; i < end; i += 2) {
+        const char high = bytes.at(bigEndian ? i : i + 1);
+        const char low = bytes.at(bigEndian ? i + 1 : i);
+        if (low == '\0')
+            return false;
+        zeros += high == '\0' ? 1 : 0;
+    }
+    return bytes.size() % 2 == 0 && end >= 4 && zeros * 2 > end / 2;
 }
 
 } // namespace
@@ -62,15 +71,20 @@ std::optional<QString> decode(const QByteArray &bytes, ImportedTree &tree)
         return fromUtf16(bytes, false);
     if (bytes.startsWith("\xfe\xff"))
         return fromUtf16(bytes, true);
+    for (const bool bigEndian : {false, true}) {
+        if (!isUnmarkedUtf16(bytes, bigEndian))
+            continue;
+        tree.note(ExchangeReport::Kind::ReadAs,
+                  DiagramExchange::tr("the text as %1, since it is not encoded as UTF-8")
+                      .arg(QLatin1String("UTF-16")));
+        return fromUtf16("  " + bytes, bigEndian);
+    }
     const QByteArray utf8 = bytes.startsWith("\xef\xbb\xbf") ? bytes.mid(3) : bytes;
     // Told the size, since it would end a text at a null character otherwise.
     const QString text = QString::fromUtf8(utf8.constData(), utf8.size());
     // What cannot be decoded is replaced by this character.
-    if (text.contains(QChar(QChar::ReplacementCharacter)) && text.toUtf8() != utf8) {
-        tree.fail(firstDifference(utf8, text.toUtf8()),
-                  DiagramExchange::tr("the text is not encoded as UTF-8"));
-        return std::nullopt;
-    }
+    if (text.contains(QChar(QChar::ReplacementCharacter)) && text.toUtf8() != utf8)
+        return CodePages::decode(utf8, tree);
     return text;
 }
 
@@ -81,9 +95,29 @@ QString referenced(const QString &name)
         QLatin1String name;
         char16_t character;
     } named[] = {
-        {QLatin1String("amp"), u'&'},   {QLatin1String("lt"), u'<'},
-        {QLatin1String("gt"), u'>'},    {QLatin1String("quot"), u'"'},
-        {QLatin1String("apos"), u'\''}, {QLatin1String("nbsp"), u'\u00a0'},
+        {QLatin1String("amp"), u'&'},         {QLatin1String("lt"), u'<'},
+        {QLatin1String("gt"), u'>'},          {QLatin1String("quot"), u'"'},
+        {QLatin1String("apos"), u'\''},       {QLatin1String("nbsp"), u'\u00a0'},
+        {QLatin1String("copy"), u'\u00a9'},   {QLatin1String("reg"), u'\u00ae'},
+        {QLatin1String("trade"), u'\u2122'},  {QLatin1String("hellip"), u'\u2026'},
+        {QLatin1String("mdash"), u'\u2014'},  {QLatin1String("ndash"), u'\u2013'},
+        {QLatin1String("lsquo"), u'\u2018'},  {QLatin1String("rsquo"), u'\u2019'},
+        {QLatin1String("ldquo"), u'\u201c'},  {QLatin1String("rdquo"), u'\u201d'},
+        {QLatin1String("laquo"), u'\u00ab'},  {QLatin1String("raquo"), u'\u00bb'},
+        {QLatin1String("bull"), u'\u2022'},   {QLatin1String("middot"), u'\u00b7'},
+        {QLatin1String("times"), u'\u00d7'},  {QLatin1String("deg"), u'\u00b0'},
+        {QLatin1String("euro"), u'\u20ac'},   {QLatin1String("pound"), u'\u00a3'},
+        {QLatin1String("rarr"), u'\u2192'},   {QLatin1String("larr"), u'\u2190'},
+        {QLatin1String("auml"), u'\u00e4'},   {QLatin1String("ouml"), u'\u00f6'},
+        {QLatin1String("uuml"), u'\u00fc'},   {QLatin1String("Auml"), u'\u00c4'},
+        {QLatin1String("Ouml"), u'\u00d6'},   {QLatin1String("Uuml"), u'\u00dc'},
+        {QLatin1String("szlig"), u'\u00df'},  {QLatin1String("agrave"), u'\u00e0'},
+        {QLatin1String("aacute"), u'\u00e1'}, {QLatin1String("acirc"), u'\u00e2'},
+        {QLatin1String("ccedil"), u'\u00e7'}, {QLatin1String("egrave"), u'\u00e8'},
+        {QLatin1String("eacute"), u'\u00e9'}, {QLatin1String("ecirc"), u'\u00ea'},
+        {QLatin1String("iacute"), u'\u00ed'}, {QLatin1String("ntilde"), u'\u00f1'},
+        {QLatin1String("oacute"), u'\u00f3'}, {QLatin1String("ocirc"), u'\u00f4'},
+        {QLatin1String("uacute"), u'\u00fa'},
     };
     for (const auto &entry : named) {
         if (name == entry.name)
@@ -111,6 +145,7 @@ bool Lines::next()
 {
     if (m_position >= m_text.size())
         return false;
+    m_begin = m_position;
     const auto begin = m_text.cbegin() + m_position;
     const auto end = std::find_if(begin, m_text.cend(), [](QChar c) {
         return c == QLatin1Char('\n') || c == QLatin1Char('\r');
@@ -125,6 +160,29 @@ bool Lines::next()
     m_position += isPair ? 2 : 1;
     ++m_number;
     return true;
+}
+
+QString Lines::raw() const
+{
+    return rawFrom(0);
+}
+
+QString Lines::rawFrom(int column) const
+{
+    int position = m_begin;
+    for (int at = 0; at < column && position < m_position; ++position) {
+        const QChar c = m_text.at(position);
+        if (c == QLatin1Char('\t'))
+            at += tabWidth - at % tabWidth;
+        else if (c == QLatin1Char(' '))
+            ++at;
+        else
+            break;
+    }
+    QString line = m_text.mid(position, m_position - position);
+    while (!line.isEmpty() && line.back().isSpace())
+        line.chop(1);
+    return line;
 }
 
 } // namespace ExchangeText

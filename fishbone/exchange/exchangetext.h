@@ -14,8 +14,8 @@ class ImportedTree;
 namespace ExchangeText {
 
 /**
- * The text of @p bytes, in the encoding that its byte order mark tells or in UTF-8. Nothing when it
- * is not such a text, and @p tree fails.
+ * The text of @p bytes, in the encoding that its byte order mark tells, in UTF-8, or in the code
+ * page that the bytes tell, which @p tree notes. Nothing when it is no text, and @p tree fails.
  */
 std::optional<QString> decode(const QByteArray &bytes, ImportedTree &tree);
 
@@ -39,14 +39,19 @@ public:
     bool next();
     /** The line, without what surrounds it. */
     const QString &text() const { return m_line; }
+    /** The line as it is, but for blanks at its end. */
+    QString raw() const;
+    /** The line from that column on, or from its text on when that begins before. */
+    QString rawFrom(int column) const;
     /** The column in which the text begins; a tab goes on to the next multiple of four. */
     int indentation() const { return m_indentation; }
     /** The number of the line, from 1 on. */
     qint64 number() const { return m_number; }
 
 private:
-    const QString m_text;
+    QString m_text;
     QString m_line;
+    int m_begin = 0; ///< of the line
     int m_position = 0;
     int m_indentation = 0;
     qint64 m_number = 0;

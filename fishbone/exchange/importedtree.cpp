@@ -16,8 +16,11 @@ QString tooDeep()
     return DiagramExchange::tr("there are more than %1 levels").arg(DiagramExchange::maximalLevels);
 }
 
-/** Gives each subject a uuid of its own, and the pid that follows from its place. */
-void complete(TreeItem &head)
+} // namespace
+
+/** Gives each subject a uuid of its own, the pid that follows from its place, and the details that
+ * were added. */
+void ImportedTree::complete(TreeItem &head)
 {
     QSet<QString> taken;
     std::vector<TreeItem *> waiting{&head};
@@ -29,12 +32,15 @@ void complete(TreeItem &head)
             subject->setUuid(SystemHelper::randomUuid());
         taken.insert(subject->uuid());
         subject->setPid(subject->parent() ? subject->parent()->uuid() : QStringLiteral("-1"));
+        QStringList details = m_details.take(subject);
+        if (!details.isEmpty() && !subject->detail().isEmpty())
+            details.prepend(subject->detail());
+        if (!details.isEmpty())
+            subject->setDetail(details.join(QLatin1Char('\n')));
         const QList<TreeItem *> &children = subject->childItems();
         waiting.insert(waiting.end(), children.crbegin(), children.crend());
     }
 }
-
-} // namespace
 
 TreeItem *ImportedTree::add(int rank, const QString &title, qint64 line)
 {
@@ -57,6 +63,41 @@ TreeItem *ImportedTree::add(int rank, const QString &title, qint64 line)
     m_levels = std::max(m_levels, int(m_open.size()));
     ++m_count;
     return subject;
+}
+
+void ImportedTree::addDetail(const TreeItem &subject, const QString &text, const QString &what,
+                             qint64 line)
+{
+    if (text.isEmpty())
+        return;
+    m_details[&subject].append(text);
+    note(ExchangeReport::Kind::InDetails, what, line);
+}
+
+void ImportedTree::addNamedDetail(const TreeItem &subject, const QString &name,
+                                  const QString &value, qint64 line)
+{
+    if (!value.isEmpty())
+        addDetail(subject, QStringLiteral("%1: %2").arg(name, value),
+                  QLatin1Char('"') + name + QLatin1Char('"'), line);
+}
+
+void ImportedTree::addContent(TreeItem &subject, const QStringList &links,
+                              const QStringList &images, qint64 line)
+{
+    for (const QString &link : links) {
+        if (subject.url().isEmpty())
+            subject.setUrl(link);
+        else if (subject.url() != link)
+            addNamedDetail(subject, DiagramExchange::tr("Link"), link, line);
+    }
+    for (const QString &image : images)
+        addNamedDetail(subject, DiagramExchange::tr("Image"), image, line);
+}
+
+void ImportedTree::note(ExchangeReport::Kind kind, const QString &what, qint64 line)
+{
+    m_report.add(kind, what, line);
 }
 
 bool ImportedTree::fail(qint64 line, const QString &reason)

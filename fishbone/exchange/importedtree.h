@@ -3,14 +3,22 @@
 
 #pragma once
 
+#include <fishbone/exchange/exchangereport.h>
 #include <fishbone/model/treeitem.h>
 
+#include <QHash>
 #include <QString>
+#include <QStringList>
 
 #include <memory>
 #include <vector>
 
-/** The tree that a reader builds, within the limits of DiagramExchange, and what went wrong. */
+struct TableMapping;
+
+/**
+ * The tree that a reader builds, within the limits of DiagramExchange, what went wrong, and what
+ * became of the things that no field holds.
+ */
 class ImportedTree
 {
     Q_DISABLE_COPY(ImportedTree)
@@ -29,10 +37,33 @@ public:
     /** How many subjects there are. */
     int count() const { return m_count; }
 
+    /** What the columns of a table shall stand for, which the user knows; null when nobody does. */
+    const TableMapping *mapping() const { return m_mapping; }
+    void setMapping(const TableMapping *mapping) { m_mapping = mapping; }
+
     /** The node whose children are the subjects of the top level. */
     TreeItem &container() { return *m_container; }
     /** The title of the head that is made when there are several subjects at the top level. */
     void setCommonTitle(const QString &title) { m_commonTitle = title; }
+
+    /**
+     * Puts @p text, which no field of @p subject holds, into its details, below what else is there
+     * in the end. @p what names it in the report. An empty text is left alone.
+     */
+    void addDetail(const TreeItem &subject, const QString &text, const QString &what,
+                   qint64 line = 0);
+    /** Puts "@p name: @p value" into the details of @p subject. */
+    void addNamedDetail(const TreeItem &subject, const QString &name, const QString &value,
+                        qint64 line = 0);
+    /** Puts what a formatted text has beside its words into the details of @p subject: its links,
+     * the first of which becomes the subject's own when it has none, and the names of its pictures.
+     */
+    void addContent(TreeItem &subject, const QStringList &links, const QStringList &images,
+                    qint64 line = 0);
+    /** Notes what is not in the details either. */
+    void note(ExchangeReport::Kind kind, const QString &what, qint64 line = 0);
+    /** Everything that was noted. */
+    const ExchangeReport &report() const { return m_report; }
 
     /** Fails the reading, for a reason that has to do with @p line; always false. */
     bool fail(qint64 line, const QString &reason);
@@ -53,6 +84,8 @@ public:
     std::unique_ptr<TreeItem> takeBranches();
 
 private:
+    void complete(TreeItem &head);
+
     struct Open
     {
         int rank;
@@ -65,4 +98,7 @@ private:
     int m_count = 0;
     QString m_commonTitle;
     QString m_error;
+    QHash<const TreeItem *, QStringList> m_details; ///< to be added to what the subjects have
+    ExchangeReport m_report;
+    const TableMapping *m_mapping = nullptr;
 };

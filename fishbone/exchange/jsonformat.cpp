@@ -2,8 +2,9 @@
 // SPDX-License-Identifier: MIT
 
 #include <fishbone/exchange/diagramexchange.h>
-#include <fishbone/exchange/foreignformats.h>
+#include <fishbone/exchange/exchangeformat.h>
 #include <fishbone/exchange/importedtree.h>
+#include <fishbone/exchange/jsondiagram.h>
 #include <fishbone/model/jsonnodes.h>
 
 #include <QJsonDocument>
@@ -17,21 +18,34 @@ QString reasonOf(const QByteArray &json, const QJsonParseError &error)
         .arg(error.errorString());
 }
 
-} // namespace
-
-bool JsonFormat::read(const QByteArray &bytes, ImportedTree &tree)
+bool read(const QByteArray &bytes, ImportedTree &tree)
 {
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson(bytes, &error);
     if (document.isNull())
         return tree.fail(reasonOf(bytes, error));
+    const QString reason = JsonDiagram::reasonAgainst(document);
+    if (!reason.isEmpty())
+        return tree.fail(reason);
     JsonNodes::load(document.object(), tree.container());
     return true;
 }
 
-QByteArray JsonFormat::write(const TreeItem &head)
+QByteArray write(const TreeItem &head)
 {
     QJsonObject object;
     JsonNodes::write(object, head, DiagramExchange::maximalLevels);
     return QJsonDocument(object).toJson();
 }
+
+} // namespace
+
+const ExchangeFormat ExchangeFormats::json{
+    DiagramExchange::Format::Json,
+    "json",
+    QT_TRANSLATE_NOOP("DiagramExchange", "Fishbone diagram"),
+    "json",
+    "title children uuid showid detail type status progress priority url mgrname mgrid "
+    "creatorname creatorid followers createdate planenddate spearstyle",
+    read,
+    write};

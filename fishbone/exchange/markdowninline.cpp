@@ -69,9 +69,10 @@ QString reference(QChar c)
 class Reader
 {
 public:
-    Reader(const QString &markdown, Kind kind)
+    Reader(const QString &markdown, Kind kind, const QHash<QString, QString> &definitions)
         : m_markdown(markdown)
         , m_kind(kind)
+        , m_definitions(definitions)
     {
     }
 
@@ -83,7 +84,7 @@ public:
             else if (!readSpecial())
                 append(m_markdown.at(m_position++));
         }
-        return {withoutMarks(), m_url};
+        return {withoutMarks(), m_links, m_images};
     }
 
 private:
@@ -114,6 +115,7 @@ private:
         case u'`':
             return readCode();
         case u'[':
+        case u'!':
             return readLink();
         case u'*':
         case u'_':
@@ -188,32 +190,67 @@ private:
         return true;
     }
 
-    /** Enters the text of a link; false when none begins here. */
+    /** Enters the text of a link or picture; false when none begins here. */
     bool readLink()
     {
-        const int textEnd = m_kind == Kind::Title ? linkTextEnd() : -1;
-        if (textEnd < 0 || at(textEnd + 1) != QLatin1Char('('))
+        const bool isImage = at(m_position) == QLatin1Char('!');
+        const int begin = m_position + (isImage ? 1 : 0);
+        const int textEnd =
+            m_kind == Kind::Title && at(begin) == QLatin1Char('[') ? linkTextEnd(begin) : -1;
+        if (textEnd < 0)
             return false;
+        const int end = at(textEnd + 1) == QLatin1Char('(') ? readTarget(textEnd, isImage)
+                                                            : readName(begin, textEnd, isImage);
+        if (end < 0)
+            return false;
+        m_linkTextEnd = textEnd;
+        m_linkEnd = end;
+        m_position = begin + 1;
+        return true;
+    }
+
+    /** Reads where the link leads whose text ends at @p textEnd; where that ends, -1 for no link.
+     */
+    int readTarget(int textEnd, bool isImage)
+    {
         const bool isAngled = at(textEnd + 2) == QLatin1Char('<');
         const int begin = textEnd + (isAngled ? 3 : 2);
         const int end = find(QLatin1Char(isAngled ? '>' : ')'), begin);
         const int close = isAngled && end >= 0 ? find(QLatin1Char(')'), end) : end;
         if (close < 0)
-            return false;
+            return -1;
         QString url = m_markdown.mid(begin, end - begin);
         if (!isAngled)
             url = url.section(QLatin1Char(' '), 0, 0); // a title of the link may follow
-        noteUrl(MarkdownInline::read(url, Kind::Target).text);
-        m_linkTextEnd = textEnd;
-        m_linkEnd = close + 1;
-        ++m_position;
-        return true;
+        noteUrl(MarkdownInline::read(url, Kind::Target).text, isImage);
+        return close + 1;
     }
 
-    /** Where the text of the link that begins here ends; -1 when it does not. */
-    int linkTextEnd() const
+    /** Looks up where the link leads whose text goes from @p begin to @p textEnd: by the name
+     * behind it, or else by the text. Where it ends, -1 for no link. */
+    int readName(int begin, int textEnd, bool isImage)
     {
-        for (int i = m_position + 1; i < m_markdown.size(); ++i) {
+        if (m_definitions.isEmpty())
+            return -1;
+        int end = textEnd + 1;
+        QString name = m_markdown.mid(begin + 1, textEnd - begin - 1);
+        if (at(end) == QLatin1Char('[')) {
+            const int close = linkTextEnd(end);
+            if (close > end + 1)
+                name = m_markdown.mid(end + 1, close - end - 1);
+            end = close < 0 ? end : close + 1;
+        }
+        const auto found = m_definitions.constFind(name.toLower());
+        if (found == m_definitions.constEnd())
+            return -1;
+        noteUrl(*found, isImage);
+        return end;
+    }
+
+    /** Where the text of the link that begins at @p begin ends; -1 when it does not. */
+    int linkTextEnd(int begin) const
+    {
+        for (int i = begin + 1; i < m_markdown.size(); ++i) {
             const QChar c = m_markdown.at(i);
             if (c == QLatin1Char(']'))
                 return i;
@@ -279,10 +316,10 @@ private:
         return -1;
     }
 
-    void noteUrl(const QString &url)
+    void noteUrl(const QString &url, bool isImage = false)
     {
-        if (m_url.isEmpty())
-            m_url = url;
+        if (!url.isEmpty())
+            (isImage ? m_images : m_links).append(url);
     }
 
     /** The text without the marks that began emphasis. */
@@ -309,11 +346,13 @@ private:
 
     const QString m_markdown;
     const Kind m_kind;
+    const QHash<QString, QString> &m_definitions;
     int m_position = 0;
     int m_linkTextEnd = -1; ///< of the link that was entered last
     int m_linkEnd = -1;
     QString m_text;
-    QString m_url;
+    QStringList m_links;
+    QStringList m_images;
     QString m_missing; ///< the characters that do not come any more
     bool m_missingCodeMarks[longestCodeMark + 1] = {};
     std::vector<Opening> m_openings;
@@ -362,9 +401,9 @@ QString link(const QString &text, const QString &url)
     return QStringLiteral("[%1](%2)").arg(escaped(text), target);
 }
 
-Content read(const QString &markdown, Kind kind)
+Content read(const QString &markdown, Kind kind, const QHash<QString, QString> &definitions)
 {
-    return Reader(markdown, kind).read();
+    return Reader(markdown, kind, definitions).read();
 }
 
 } // namespace MarkdownInline

@@ -3,16 +3,19 @@
 
 #pragma once
 
+#include <QHash>
 #include <QString>
+#include <QStringList>
 
 /** Texts within a line of Markdown. */
 namespace MarkdownInline {
 
-/** What a text says and where its first link leads. */
+/** What a text says, where its links lead and what its pictures are. */
 struct Content
 {
     QString text;
-    QString url; ///< empty when there is no link
+    QStringList links;  ///< the first one first
+    QStringList images; ///< their files
 };
 
 /** What a piece of Markdown is. */
@@ -27,7 +30,8 @@ QString escaped(const QString &text);
 /** A link to @p url that shows @p text. */
 QString link(const QString &text, const QString &url);
 
-/** What @p markdown shows: without escapes, emphasis and links. Linear in its length. */
-Content read(const QString &markdown, Kind kind);
+/** What @p markdown shows: without escapes, emphasis and links. @p definitions has where links lead
+ * that are called by a name, in lower case. Linear in its length. */
+Content read(const QString &markdown, Kind kind, const QHash<QString, QString> &definitions = {});
 
 } // namespace MarkdownInline

@@ -2,15 +2,20 @@
 // SPDX-License-Identifier: MIT
 
 #include <fishbone/exchange/diagramexchange.h>
-#include <fishbone/exchange/foreignformats.h>
+#include <fishbone/exchange/exchangeformat.h>
 #include <fishbone/exchange/importedtree.h>
 #include <fishbone/exchange/outlinewalk.h>
+#include <fishbone/exchange/richtext.h>
 #include <fishbone/exchange/subjectattributes.h>
+#include <fishbone/exchange/taskvalues.h>
 #include <fishbone/exchange/xmlsupport.h>
 #include <fishbone/model/jsonnodes.h>
 
 #include <QXmlStreamReader>
 #include <QXmlStreamWriter>
+
+#include <optional>
+#include <vector>
 
 namespace {
 
@@ -30,30 +35,155 @@ QString nameOf(const SubjectAttributes::Attribute &attribute)
     return QLatin1Char('_') + attribute.key;
 }
 
+/** The title of an outline without its tags, if it has any; other programs have HTML there. */
+QString titleFrom(const QString &text, ImportedTree &tree, TreeItem &subject, qint64 line)
+{
+    if (!RichText::hasTags(text))
+        return RichText::dereferenced(text);
+    const RichText::Content content = RichText::fromHtml(text);
+    tree.addContent(subject, content.links, content.images, line);
+    return content.text;
+}
+
+/** @p title so that titleFrom() gives it back. */
+QString titleTo(const QString &title)
+{
+    if (!RichText::hasTags(title) && !RichText::hasReferences(title))
+        return title;
+    QString text = title;
+    return text.replace(QLatin1Char('&'), QLatin1String("&amp;"))
+        .replace(QLatin1Char('<'), QLatin1String("&lt;"));
+}
+
+/** The field that an attribute of an outline stands for; null when none does. */
+const SubjectAttributes::Attribute *attributeNamed(const QString &name)
+{
+    for (const SubjectAttributes::Attribute &attribute : SubjectAttributes::all()) {
+        if (nameOf(attribute) == name)
+            return &attribute;
+    }
+    return nullptr;
+}
+
+/** Takes what other outliners say of a task or a feed; false when @p name is something else. */
+bool takeForeign(const QString &name, const QString &value, TreeItem &subject)
+{
+    constexpr int finished = 2;
+    constexpr int waiting = 6;
+    const bool isTrue = value == QLatin1String("true") || value == QLatin1String("1");
+    if (name == QLatin1String("created")) {
+        const std::optional<qint64> date = TaskValues::date(value);
+        if (date)
+            subject.setCreateDate(*date);
+        return date.has_value();
+    }
+    if (name == QLatin1String("_complete") || name == QLatin1String("complete") ||
+        name == QLatin1String("completed")) {
+        const std::optional<int> progress = TaskValues::progress(value);
+        if (isTrue || value == QLatin1String("false"))
+            subject.setStatus(isTrue ? finished : waiting);
+        else if (progress)
+            subject.setProgress(*progress);
+        return isTrue || value == QLatin1String("false") || progress;
+    }
+    if (name == QLatin1String("_status") && value.endsWith(QLatin1String("checked"))) {
+        subject.setStatus(value == QLatin1String("checked") ? finished : waiting);
+        return true;
+    }
+    const bool isAddress = name == QLatin1String("xmlUrl") || name == QLatin1String("htmlUrl");
+    if (!isAddress || !subject.url().isEmpty())
+        return false;
+    subject.setUrl(value);
+    return true;
+}
+
+/** Takes the attributes of an outline but its text. */
+void takeAttributes(const QXmlStreamAttributes &values, qint64 line, TreeItem &subject,
+                    ImportedTree &tree)
+{
+    // The link itself comes before the addresses of a feed, wherever it stands.
+    subject.setUrl(values.value(nameOf(SubjectAttributes::named(JsonNodes::urlKey))).toString());
+    for (const QXmlStreamAttribute &entry : values) {
+        const QString name = entry.qualifiedName().toString();
+        const QString value = entry.value().toString();
+        const bool isText =
+            name == textName || (name == QLatin1String("title") && value == subject.title());
+        if (value.isEmpty() || isText || name == QLatin1String("url"))
+            continue;
+        const SubjectAttributes::Attribute *const attribute = attributeNamed(name);
+        if (attribute && attribute->setText(subject, value))
+            continue;
+        if (!takeForeign(name, value, subject))
+            tree.addNamedDetail(subject, name, value, line);
+    }
+}
+
 /** Adds the outline that @p xml has just entered. */
 bool addOutline(const QXmlStreamReader &xml, int depth, ImportedTree &tree)
 {
     const QXmlStreamAttributes values = xml.attributes();
-    TreeItem *const subject = tree.add(depth, values.value(textName).toString(), xml.lineNumber());
+    const qint64 line = xml.lineNumber();
+    TreeItem *const subject = tree.add(depth, QString(), line);
     if (!subject)
         return false;
-    for (const SubjectAttributes::Attribute &attribute : SubjectAttributes::all()) {
-        const QString value = values.value(nameOf(attribute)).toString();
-        // Other programs may mean something else by the same name: what is no value is left out.
-        if (!value.isEmpty())
-            attribute.setText(*subject, value);
-    }
+    const QString name =
+        values.hasAttribute(textName) ? QString(textName) : QStringLiteral("title");
+    subject->setTitle(titleFrom(values.value(name).toString(), tree, *subject, line));
+    const QString url = subject->url(); // of a link in the title
+    takeAttributes(values, line, *subject, tree);
+    if (!url.isEmpty() && subject->url().isEmpty())
+        subject->setUrl(url);
+    else if (url != subject->url())
+        tree.addNamedDetail(*subject, DiagramExchange::tr("Link"), url, line);
     return true;
 }
 
-void readHead(QXmlStreamReader &xml, ImportedTree &tree)
+/** What the head of a document says beside how it is shown. */
+struct HeadValue
 {
+    QString name;
+    QString value;
+    qint64 line;
+};
+
+std::vector<HeadValue> readHead(QXmlStreamReader &xml, ImportedTree &tree)
+{
+    static const QStringList looks{
+        QStringLiteral("expansionState"), QStringLiteral("vertScrollState"),
+        QStringLiteral("windowTop"),      QStringLiteral("windowLeft"),
+        QStringLiteral("windowBottom"),   QStringLiteral("windowRight")};
+    std::vector<HeadValue> values;
     while (xml.readNextStartElement()) {
-        if (xml.name() == QLatin1String("title"))
-            tree.setCommonTitle(xml.readElementText(QXmlStreamReader::SkipChildElements));
-        else
-            xml.skipCurrentElement();
+        const QString name = xml.name().toString();
+        const qint64 line = xml.lineNumber();
+        const QString value = xml.readElementText(QXmlStreamReader::SkipChildElements).trimmed();
+        if (name == QLatin1String("title"))
+            tree.setCommonTitle(value);
+        if (looks.contains(name))
+            tree.note(ExchangeReport::Kind::Appearance, name, line);
+        else if (!value.isEmpty())
+            values.push_back({name, value, line});
     }
+    return values;
+}
+
+/** Puts what the head says into the details of the diagram's head. */
+void keepHead(const std::vector<HeadValue> &values, ImportedTree &tree)
+{
+    const bool isSingle = tree.container().childCount() == 1;
+    const TreeItem &head = isSingle ? *tree.container().childAtIndex(0) : tree.container();
+    for (const HeadValue &entry : values) {
+        const bool isTitle = entry.name == QLatin1String("title");
+        if (!isTitle || (isSingle && entry.value != head.title().trimmed()))
+            tree.addNamedDetail(head, entry.name, entry.value, entry.line);
+    }
+}
+
+void leaveOut(QXmlStreamReader &xml, ImportedTree &tree)
+{
+    tree.note(ExchangeReport::Kind::LeftOut, QStringLiteral("<%1>").arg(xml.name().toString()),
+              xml.lineNumber());
+    xml.skipCurrentElement();
 }
 
 bool readBody(QXmlStreamReader &xml, ImportedTree &tree)
@@ -66,32 +196,32 @@ bool readBody(QXmlStreamReader &xml, ImportedTree &tree)
         if (token != QXmlStreamReader::StartElement)
             continue;
         if (xml.name() != outlineName)
-            xml.skipCurrentElement();
+            leaveOut(xml, tree);
         else if (!addOutline(xml, depth++, tree))
             return false;
     }
     return true;
 }
 
-} // namespace
-
-bool OpmlFormat::read(const QByteArray &bytes, ImportedTree &tree)
+bool read(const QByteArray &bytes, ImportedTree &tree)
 {
     QXmlStreamReader xml(bytes);
     if (!XmlSupport::enterRoot(xml, QStringLiteral("opml"), tree))
         return false;
+    std::vector<HeadValue> head;
     while (xml.readNextStartElement()) {
         if (xml.name() == QLatin1String("head"))
-            readHead(xml, tree);
+            head = readHead(xml, tree);
         else if (xml.name() != QLatin1String("body"))
-            xml.skipCurrentElement();
+            leaveOut(xml, tree);
         else if (!readBody(xml, tree))
             return false;
     }
+    keepHead(head, tree);
     return XmlSupport::finish(xml, tree);
 }
 
-QByteArray OpmlFormat::write(const TreeItem &head)
+QByteArray write(const TreeItem &head)
 {
     QByteArray bytes;
     QXmlStreamWriter xml(&bytes);
@@ -108,7 +238,7 @@ QByteArray OpmlFormat::write(const TreeItem &head)
         head,
         [&xml](const TreeItem &subject, int) {
             xml.writeStartElement(outlineName);
-            xml.writeAttribute(textName, XmlSupport::storable(subject.title()));
+            xml.writeAttribute(textName, XmlSupport::storable(titleTo(subject.title())));
             for (const SubjectAttributes::Attribute &attribute : SubjectAttributes::all()) {
                 const QString value = attribute.text(subject);
                 if (!value.isEmpty())
@@ -119,3 +249,15 @@ QByteArray OpmlFormat::write(const TreeItem &head)
     xml.writeEndDocument();
     return bytes;
 }
+
+} // namespace
+
+const ExchangeFormat ExchangeFormats::opml{
+    DiagramExchange::Format::Opml,
+    "opml",
+    QT_TRANSLATE_NOOP("DiagramExchange", "OPML outline"),
+    "opml",
+    "title children uuid showid detail type status progress priority url mgrname mgrid "
+    "creatorname creatorid followers createdate planenddate",
+    read,
+    write};

@@ -1,13 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The Fishbone authors
 // SPDX-License-Identifier: MIT
 
+#include <fishbone/exchange/exchangeformat.h>
 #include <fishbone/exchange/exchangetext.h>
-#include <fishbone/exchange/foreignformats.h>
 #include <fishbone/exchange/importedtree.h>
 #include <fishbone/exchange/outlinewalk.h>
 
 #include <QJsonArray>
 #include <QJsonDocument>
+#include <QRegularExpression>
 
 #include <algorithm>
 
@@ -18,11 +19,20 @@ bool looksQuoted(const QString &text)
     return text.size() >= 2 && text.startsWith(QLatin1Char('"')) && text.endsWith(QLatin1Char('"'));
 }
 
+/** The length of the bullet that a line begins with, blanks behind it included; 0 for none. */
+int bulletLength(const QString &line)
+{
+    static const QRegularExpression bullet(QString::fromUtf8(
+        "^[-*+\u2022\u2023\u25e6\u2043\u25aa\u25cf\u25cb\u00b7\u2013\u2014]\\s+"));
+    constexpr int longest = 200; // blanks that fill a line are none between a bullet and its text
+    return int(bullet.match(line.left(longest)).capturedLength());
+}
+
 /** Whether @p title cannot stand in a line as it is. */
 bool needsQuotes(const QString &title)
 {
     return title.isEmpty() || title != title.trimmed() || looksQuoted(title) ||
-           title.startsWith(QChar(QChar::ByteOrderMark)) ||
+           title.startsWith(QChar(QChar::ByteOrderMark)) || bulletLength(title) > 0 ||
            std::any_of(title.cbegin(), title.cend(), ExchangeText::isControl);
 }
 
@@ -35,9 +45,10 @@ QString quoted(const QString &title)
     return text.replace(QChar(QChar::ByteOrderMark), QLatin1String("\\ufeff"));
 }
 
-/** The title of a line. Quotes that no title needs belong to it. */
-QString titleOf(const QString &line)
+/** The title of a line. Bullets do not belong to it; quotes that no title needs do. */
+QString titleOf(const QString &text)
 {
+    const QString line = text.mid(bulletLength(text));
     if (!looksQuoted(line))
         return line;
     const QJsonArray values = QJsonDocument::fromJson('[' + line.toUtf8() + ']').array();
@@ -45,9 +56,7 @@ QString titleOf(const QString &line)
     return values.size() == 1 && needsQuotes(title) ? title : line;
 }
 
-} // namespace
-
-bool TextFormat::read(const QByteArray &bytes, ImportedTree &tree)
+bool read(const QByteArray &bytes, ImportedTree &tree)
 {
     const std::optional<QString> text = ExchangeText::decode(bytes, tree);
     if (!text)
@@ -61,7 +70,7 @@ bool TextFormat::read(const QByteArray &bytes, ImportedTree &tree)
     return true;
 }
 
-QByteArray TextFormat::write(const TreeItem &head)
+QByteArray write(const TreeItem &head)
 {
     QByteArray bytes;
     OutlineWalk::walk(head, [&bytes](const TreeItem &subject, int level) {
@@ -71,3 +80,13 @@ QByteArray TextFormat::write(const TreeItem &head)
     });
     return bytes;
 }
+
+} // namespace
+
+const ExchangeFormat ExchangeFormats::text{DiagramExchange::Format::Text,
+                                           "txt",
+                                           QT_TRANSLATE_NOOP("DiagramExchange", "Indented text"),
+                                           "txt text",
+                                           "title children",
+                                           read,
+                                           write};

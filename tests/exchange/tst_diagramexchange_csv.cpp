@@ -4,6 +4,8 @@
 #include <tests/exchange/exchangefixture.h>
 #include <tests/program/testprogram.h>
 
+#include <fishbone/exchange/exchangereport.h>
+
 #include <QtTest>
 
 using namespace ExchangeFixture;
@@ -18,6 +20,8 @@ private Q_SLOTS:
     void shouldReadTrees();
     void shouldRefuseTablesThatMakeNoTree_data();
     void shouldRefuseTablesThatMakeNoTree();
+    void shouldKeepWhatFitsNothing_data();
+    void shouldKeepWhatFitsNothing();
     void shouldReadTheColumnsInAnyOrder();
     void shouldReadDates_data();
     void shouldReadDates();
@@ -73,22 +77,13 @@ void TestDiagramExchangeCsv::shouldRefuseTablesThatMakeNoTree_data()
     const auto row = [](const char *name, const char *content, const char *error) {
         QTest::newRow(name) << QByteArray(content) << QString::fromUtf8(error);
     };
-    row("no title", "uuid,parent\n1,\n", "line 1: there is no column \"title\"");
+    row("no title", "uuid,parent\n1,\n",
+        "line 1: there is no column of titles, such as \"title\", \"summary\" or \"name\"; the "
+        "columns are \"uuid\", \"parent\"");
     row("only a header", "uuid,parent,title\n", "it holds no diagram");
-    row("unknown parent", "uuid,parent,title\n1,,a\n2,9,b\n",
-        "line 3: there is no subject with the uuid \"9\"");
-    row("twice", "uuid,parent,title\n1,,\"a\n\"\n1,,b\n", "line 4: the uuid \"1\" stands twice");
     row("a circle", "uuid,parent,title\n1,,a\n2,3,b\n3,2,c\n",
         "line 3: the subject lies below itself");
     row("only a circle", "uuid,parent,title\n1,1,a\n", "line 2: the subject lies below itself");
-    row("no number", "title,status\na,done\n",
-        "line 2: \"done\" is no value for the column \"status\"");
-    row("no whole number", "title,progress\na,1.5\n",
-        "line 2: \"1.5\" is no value for the column \"progress\"");
-    row("too large a number", "title,type\na,2147483648\n",
-        "line 2: \"2147483648\" is no value for the column \"type\"");
-    row("no date", "title,created\na,tomorrow\n",
-        "line 2: \"tomorrow\" is no value for the column \"created\"");
     row("open quote", "title\na\n\"b\nc\n", "line 3: a quote is not closed");
     row("text behind a quote", "title\n\"a\nb\" c\n",
         "line 3: there is text behind a closing quote");
@@ -101,6 +96,52 @@ void TestDiagramExchangeCsv::shouldRefuseTablesThatMakeNoTree()
     const Imported result = imported(content, Format::Csv);
     QVERIFY(!result.head);
     QCOMPARE(result.error, error);
+}
+
+void TestDiagramExchangeCsv::shouldKeepWhatFitsNothing_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QString>("detail"); ///< of the last subject
+    QTest::addColumn<QString>("report");
+
+    const auto row = [](const char *name, const char *content, const char *detail,
+                        const char *report) {
+        QTest::newRow(name) << QByteArray(content) << QString::fromUtf8(detail)
+                            << QString::fromUtf8(report);
+    };
+    row("no status", "title,status\na,maybe\n", "status: maybe",
+        "put into the details: \"status\" (line 2)");
+    row("no whole number", "title,progress\na,1.5\n", "progress: 1.5",
+        "put into the details: \"progress\" (line 2)");
+    row("too large a number", "title,type\na,2147483648\n", "type: 2147483648",
+        "put into the details: \"type\" (line 2)");
+    row("no date", "title,created\na,tomorrow\n", "created: tomorrow",
+        "put into the details: \"created\" (line 2)");
+    row("unknown parent", "uuid,parent,title\n1,,a\n2,9,b\n", "parent: 9",
+        "put into the details: \"parent\" (line 3)");
+    row("a uuid twice", "uuid,parent,title\n1,,\"a\n\"\n1,,b\n", "",
+        "left out: the uuid \"1\" a second time (line 4)");
+    row("unknown column", "title,colour\na,red\n", "colour: red",
+        "put into the details: \"colour\" (line 2)");
+    row("more cells than headings", "title\na,b\n", "b",
+        "put into the details: cells without a heading (line 2)");
+}
+
+void TestDiagramExchangeCsv::shouldKeepWhatFitsNothing()
+{
+    QFETCH(QByteArray, content);
+    QFETCH(QString, detail);
+    QFETCH(QString, report);
+    QBuffer buffer(&content);
+    QVERIFY(buffer.open(QIODevice::ReadOnly));
+    QString error;
+    ExchangeReport found;
+    const auto head = DiagramExchange::read(buffer, Format::Csv, &error, &found);
+    QVERIFY2(head, qPrintable(error));
+    const TreeItem *const last =
+        head->childCount() > 0 ? head->childItems().constLast() : head.get();
+    QCOMPARE(last->detail(), detail);
+    QCOMPARE(found.lines(), QStringList(report));
 }
 
 void TestDiagramExchangeCsv::shouldReadTheColumnsInAnyOrder()

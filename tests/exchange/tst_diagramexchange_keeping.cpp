@@ -5,6 +5,7 @@
 #include <tests/program/testprogram.h>
 #include <tests/support/sourcefolder.h>
 
+#include <fishbone/exchange/exchangereport.h>
 #include <fishbone/style/spearstyle.h>
 
 #include <QFile>
@@ -92,6 +93,10 @@ class TestDiagramExchangeKeeping : public QObject
 private Q_SLOTS:
     void shouldKeepWhatTheTableSaysAndNoMore_data();
     void shouldKeepWhatTheTableSaysAndNoMore();
+    void shouldTellProgramsWhatTheTableTellsPeople();
+    void shouldNameWhatIsLeftOutInWriting_data() { addFormats(); }
+    void shouldNameWhatIsLeftOutInWriting();
+    void shouldNameStatusesThatHaveNoBox();
     void shouldNameEveryAttributeInTheTable();
     void shouldKeepEverythingTwice_data() { addFormats(); }
     void shouldKeepEverythingTwice();
@@ -105,7 +110,7 @@ void TestDiagramExchangeKeeping::shouldKeepWhatTheTableSaysAndNoMore_data()
 
     const QMap<QString, QStringList> table = documentedTable();
     const QStringList keys = unusualValues().keys();
-    const QList<Format> formats = DiagramExchange::formats();
+    const QList<Format> formats = wholeFormats();
     for (const Format format : formats) {
         const QString id = DiagramExchange::id(format);
         for (const QString &key : keys)
@@ -141,6 +146,56 @@ void TestDiagramExchangeKeeping::shouldKeepWhatTheTableSaysAndNoMore()
         QVERIFY(!kept.toString().isEmpty());
     } else {
         QCOMPARE(kept, unset);
+    }
+}
+
+void TestDiagramExchangeKeeping::shouldTellProgramsWhatTheTableTellsPeople()
+{
+    const QMap<QString, QStringList> table = documentedTable();
+    for (const Format format : DiagramExchange::formats()) {
+        QStringList keys;
+        for (auto row = table.cbegin(); row != table.cend(); ++row) {
+            if (row.value().contains(DiagramExchange::id(format)))
+                keys.append(row.key());
+        }
+        QStringList kept = DiagramExchange::keptKeys(format);
+        kept.sort();
+        QCOMPARE(kept, keys);
+    }
+}
+
+/// What is named is what has another value after writing and reading, and nothing else.
+void TestDiagramExchangeKeeping::shouldNameWhatIsLeftOutInWriting()
+{
+    QFETCH(Format, format);
+    const TreeItem head(unusualValues());
+    const Imported result = carriedThrough(head, format);
+    QVERIFY2(result.head, qPrintable(result.error));
+    const QJsonObject before = objectOf(head);
+    const QJsonObject after = objectOf(*result.head);
+    QStringList expected;
+    for (const QString &key : before.keys()) {
+        const bool isMadeAnew = key == QLatin1String("uuid") || key == QLatin1String("pid") ||
+                                key == QLatin1String("children");
+        if (!isMadeAnew && key != QLatin1String("spearstyle") &&
+            before.value(key) != after.value(key))
+            expected.append(QStringLiteral("left out: \"%1\"").arg(key));
+    }
+    if (before.value(QStringLiteral("spearstyle")) != after.value(QStringLiteral("spearstyle")))
+        expected.append(QStringLiteral("appearance left out: a style"));
+    QStringList named = DiagramExchange::lossesOf(head, format).lines();
+    named.sort();
+    expected.sort();
+    QCOMPARE(named, expected);
+}
+
+void TestDiagramExchangeKeeping::shouldNameStatusesThatHaveNoBox()
+{
+    for (int status = -1; status <= 7; ++status) {
+        TreeItem head;
+        head.setStatus(status);
+        const bool isKept = carriedThrough(head, Format::Markdown).head->status() == status;
+        QCOMPARE(DiagramExchange::lossesOf(head, Format::Markdown).losesContent(), !isKept);
     }
 }
 

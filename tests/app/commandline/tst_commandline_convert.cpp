@@ -22,6 +22,8 @@ private Q_SLOTS:
     void shouldDrawPicturesOfEveryFormat();
     void shouldGoByTheOptionsMoreThanByTheEndings();
     void shouldTakeTheOptionsOfPictures();
+    void shouldSayWhatIsLeftOut();
+    void shouldWriteNothingThatLosesContentWhenStrict();
     void shouldReadFileUrls();
     void shouldRefuseWhatMakesNoSense_data();
     void shouldRefuseWhatMakesNoSense();
@@ -61,7 +63,8 @@ QString TestCommandLineConvert::titlesIn(const QString &file) const
 void TestCommandLineConvert::shouldConvertToEveryFormatAndBack_data()
 {
     QTest::addColumn<QString>("suffix");
-    for (const char *suffix : {"json", "md", "markdown", "txt", "opml", "mm", "mmd", "csv", "MD"})
+    for (const char *suffix : {"json", "md", "markdown", "txt", "opml", "mm", "mmd", "csv", "xmind",
+                               "xlsx", "org", "MD"})
         QTest::newRow(suffix) << QString::fromLatin1(suffix);
 }
 
@@ -135,6 +138,47 @@ void TestCommandLineConvert::shouldTakeTheOptionsOfPictures()
     QCOMPARE(picture.pixelColor(0, 0), QColor(0x10, 0x20, 0x30));
 }
 
+void TestCommandLineConvert::shouldSayWhatIsLeftOut()
+{
+    const QString source = path(QStringLiteral("a.csv"));
+    writeFile(source, "title,status,colour\na,done,red\n");
+    const QString target = path(QStringLiteral("b.txt"));
+    const Outcome outcome = convert({source, target});
+    QCOMPARE(outcome.code, 0);
+    QCOMPARE(outcome.out, QString());
+    QCOMPARE(outcome.err,
+             QStringLiteral("fishbone: %1: put into the details: \"colour\" (line 2)\n"
+                            "fishbone: %1: taken: \"done\" of \"status\" as 2 (line 2)\n"
+                            "fishbone: %2: left out: \"status\"\n"
+                            "fishbone: %2: left out: \"detail\"\n")
+                 .arg(source, target));
+    QCOMPARE(contentOf(target), QByteArray("a\n"));
+}
+
+void TestCommandLineConvert::shouldWriteNothingThatLosesContentWhenStrict()
+{
+    const QString source = path(QStringLiteral("a.md"));
+    const QString target = path(QStringLiteral("b.json"));
+    const QString strict = QStringLiteral("--strict");
+    writeFile(source, "# a\n<!-- hidden -->\n");
+    Outcome outcome = convert({strict, source, target});
+    QCOMPARE(outcome.code, 1);
+    QVERIFY2(outcome.err.contains(QLatin1String("left out: the comment \"hidden\" (line 2)")),
+             qPrintable(outcome.err));
+    QVERIFY(!QFile::exists(target));
+
+    // What is only put elsewhere is no loss.
+    writeFile(source, "# a [x](http://x) [y](http://y)\n");
+    outcome = convert({strict, source, target});
+    QCOMPARE(outcome.code, 0);
+    QVERIFY(outcome.err.contains(QLatin1String("put into the details")));
+    QVERIFY(QFile::exists(target));
+    // What the target has no room for is one.
+    const QString text = path(QStringLiteral("c.txt"));
+    QCOMPARE(convert({strict, target, text}).code, 1);
+    QVERIFY(!QFile::exists(text));
+}
+
 void TestCommandLineConvert::shouldReadFileUrls()
 {
     const QString url = QUrl::fromLocalFile(m_folder->document()).toString();
@@ -153,8 +197,12 @@ void TestCommandLineConvert::shouldRefuseWhatMakesNoSense_data()
     row("no file", "convert", "convert|file to write");
     row("one file", "convert a.md", "convert|file to write");
     row("three files", "convert a.md b.md c.md", "convert|file to write");
-    row("unknown ending", "convert a.doc b.md", "a.doc|--from|md|opml");
-    row("unknown target", "convert a.md b.jpg", "b.jpg|--to|md|opml");
+    row("unknown ending", "convert a.doc b.md", "a.doc|--from|.md|.opml|.plantuml");
+    row("unknown target", "convert a.md b.jpg", "b.jpg|--to|.md|.opml|.drawio|.png|.svg|.pdf");
+    row("only written", "convert a.drawio b.md", "draw.io|written");
+    row("only read", "convert a.md b.puml", "PlantUML|read");
+    row("strict without a command", "--strict a.md", "--strict|convert");
+    row("strict info", "info --strict a.md", "--strict|info");
     row("picture to read", "convert a.png b.md", "a.png|--from");
     row("unknown format", "convert --from doc a.md b.md", "--from|doc|md");
     row("unknown target format", "convert --to png a.md b.md", "--to|png|md");
@@ -188,13 +236,17 @@ void TestCommandLineConvert::shouldSayWhyAFileCannotBeRead_data()
     };
     row("a.md", QByteArray(), "there is no such file");
     row("a.md", "", "it is empty");
-    row("a.md", "a\nM\xfcller\n", "line 2: the text is not encoded as UTF-8");
+    row("a.md", "a\nM\x81ller\n", "line 2: the text is not encoded as UTF-8");
+    row("a.json", "{\"name\": \"x\", \"version\": 1}", "this has \"name\", \"version\"");
+    row("a.csv", "Amount,Colour\n1,red\n", "the columns are \"Amount\", \"Colour\"");
+    row("a.xmind", "no archive", "zip");
+    row("a.xlsx", "no archive", "zip");
     row("a.json", "{\n\"title\": }", "line 2");
     row("a.json", "[]", "it holds no diagram");
     row("a.opml", "<opml>\n<body>", "line 2: ");
     row("a.mm", "<opml/>", "line 1: the document begins with <opml>");
     row("a.mmd", "graph TD", "line 1: ");
-    row("a.csv", "title,status\na,x", "line 2: ");
+    row("a.csv", "title\n\"a", "line 2: ");
 }
 
 void TestCommandLineConvert::shouldSayWhyAFileCannotBeRead()

@@ -1,0 +1,59 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <fishbone/exchange/diagramexchange.h>
+
+#include <QByteArray>
+
+#include <vector>
+
+class ImportedTree;
+class TreeItem;
+
+/**
+ * A format of DiagramExchange: all that the rest of the program knows of it.
+ *
+ * Each has a source of its own that defines one of these; to add a format, write that source and
+ * add it to ExchangeFormats::all().
+ */
+struct ExchangeFormat
+{
+    DiagramExchange::Format format;
+    const char *id;
+    const char *name;    ///< for DiagramExchange::tr()
+    const char *endings; ///< separated by blanks, the usual one first
+    /** The keys of the diagram format whose values come back after writing and reading. */
+    const char *kept;
+    /** Adds what the bytes hold to a tree, which knows the reason when it did not work. Null for a
+     * format that is only written. */
+    bool (*read)(const QByteArray &bytes, ImportedTree &tree);
+    /** The bytes of a tree of a bounded depth. Null for a format that is only read. */
+    QByteArray (*write)(const TreeItem &head);
+    /** Which statuses come back, where only some do; null where all or none do, as kept says. */
+    bool (*keepsStatus)(int status) = nullptr;
+};
+
+namespace ExchangeFormats {
+
+extern const ExchangeFormat json;
+extern const ExchangeFormat markdown;
+extern const ExchangeFormat text;
+extern const ExchangeFormat opml;
+extern const ExchangeFormat freeMind;
+extern const ExchangeFormat mermaid;
+extern const ExchangeFormat csv;
+extern const ExchangeFormat xmind;
+extern const ExchangeFormat xlsx;
+extern const ExchangeFormat org;
+extern const ExchangeFormat drawIo;
+extern const ExchangeFormat plantUml;
+
+/** All formats, in the order of DiagramExchange::Format. */
+const std::vector<const ExchangeFormat *> &all();
+
+/** What is known of @p format. */
+const ExchangeFormat &of(DiagramExchange::Format format);
+
+} // namespace ExchangeFormats

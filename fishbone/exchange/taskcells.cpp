@@ -1,0 +1,250 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#include <fishbone/exchange/taskcells.h>
+
+#include <fishbone/exchange/csvtable.h>
+#include <fishbone/exchange/diagramexchange.h>
+#include <fishbone/exchange/importedtree.h>
+#include <fishbone/exchange/subjectattributes.h>
+#include <fishbone/exchange/taskvalues.h>
+#include <fishbone/model/jsonnodes.h>
+
+#include <QRegularExpression>
+
+#include <algorithm>
+#include <optional>
+
+namespace {
+
+using Role = TableMapping::Role;
+using Kind = ExchangeReport::Kind;
+
+constexpr int finished = 2; ///< the status of a task that has a date of completion
+
+bool isDate(Role role)
+{
+    return role == Role::Created || role == Role::PlannedEnd || role == Role::CompletedAt;
+}
+
+/** Whether the columns of that role are used up by making the tree. */
+bool makesTree(Role role)
+{
+    return role == Role::Title || role == Role::Path || role == Role::Parent ||
+           role == Role::Level || role == Role::Outline;
+}
+
+/** The key of the field that takes the texts of a column; empty when none does. */
+QLatin1String textKey(Role role)
+{
+    switch (role) {
+    case Role::Uuid:
+        return JsonNodes::uuidKey;
+    case Role::Id:
+    case Role::ShortId:
+        return JsonNodes::showidKey;
+    case Role::Manager:
+        return JsonNodes::managerNameKey;
+    case Role::ManagerId:
+        return JsonNodes::managerIdKey;
+    case Role::Creator:
+        return JsonNodes::creatorNameKey;
+    case Role::CreatorId:
+        return JsonNodes::creatorIdKey;
+    case Role::Detail:
+        return JsonNodes::detailKey;
+    default:
+        return QLatin1String();
+    }
+}
+
+} // namespace
+
+TaskCells::TaskCells(const std::vector<TaskTable::Row> &rows, std::size_t firstRow,
+                     const TableMapping &mapping, TaskTable::Texts texts, ImportedTree &tree)
+    : m_mapping(mapping)
+    , m_tree(tree)
+    , m_texts(texts)
+    , m_isOwn(mapping.headings.contains(QLatin1String("uuid")) &&
+              mapping.headings.contains(QLatin1String("parent")) &&
+              mapping.headings.contains(QLatin1String("title")))
+{
+    findOrder(rows, firstRow);
+}
+
+QList<int> TaskCells::columnsOf(Role role) const
+{
+    QList<int> columns;
+    for (int i = 0; i < m_mapping.roles.size(); ++i) {
+        if (m_mapping.roles.at(i) == role)
+            columns.append(i);
+    }
+    return columns;
+}
+
+QString TaskCells::text(const TaskTable::Row &row, int column) const
+{
+    const QString cell = row.cells.value(column);
+    return m_texts == TaskTable::Texts::Guarded ? CsvTable::unguarded(cell) : cell;
+}
+
+/** Finds out whether dates such as 3/4/2024 begin with the day or with the month: all dates of a
+ * column do the same, and only the day can be above twelve. */
+void TaskCells::findOrder(const std::vector<TaskTable::Row> &rows, std::size_t firstRow)
+{
+    constexpr int months = 12;
+    for (int column = 0; column < m_mapping.roles.size(); ++column) {
+        if (!isDate(m_mapping.roles.at(column)))
+            continue;
+        bool isSlashed = false;
+        bool isKnown = false;
+        bool dayFirst = false;
+        for (std::size_t i = firstRow; i < rows.size() && !isKnown; ++i) {
+            const auto numbers = TaskValues::slashedNumbers(rows[i].cells.value(column));
+            isSlashed = isSlashed || numbers;
+            isKnown = numbers && (numbers->first > months || numbers->second > months);
+            dayFirst = numbers && numbers->first > months;
+        }
+        m_dayFirst.insert(column, dayFirst);
+        if (isSlashed)
+            m_tree.note(Kind::ReadAs, dayFirst
+                                          ? DiagramExchange::tr("dates of \"%1\" as day/month/year")
+                                                .arg(m_mapping.headings.value(column))
+                                          : DiagramExchange::tr("dates of \"%1\" as month/day/year")
+                                                .arg(m_mapping.headings.value(column)));
+    }
+}
+
+void TaskCells::apply(const TaskTable::Row &row, TreeItem &subject)
+{
+    m_kept.clear();
+    for (m_column = 0; m_column < row.cells.size(); ++m_column) {
+        const Role role = m_mapping.roles.value(m_column, Role::Other);
+        const QString value = text(row, m_column);
+        if (value.isEmpty() || makesTree(role))
+            continue;
+        const QString heading = m_mapping.headings.value(m_column).trimmed();
+        if (!applyCell(role, value, subject, heading, row.line))
+            keep(heading, value.trimmed());
+    }
+    for (const auto &[heading, values] : m_kept) {
+        const QString text = values.join(QLatin1String(", "));
+        if (heading.isEmpty())
+            m_tree.addDetail(subject, text, DiagramExchange::tr("cells without a heading"),
+                             row.line);
+        else
+            m_tree.addNamedDetail(subject, heading, text, row.line);
+    }
+}
+
+/** Keeps what no field takes; columns of one name share a line. */
+void TaskCells::keep(const QString &heading, const QString &value)
+{
+    if (value.isEmpty())
+        return;
+    const auto found = std::find_if(m_kept.begin(), m_kept.end(),
+                                    [&](const auto &kept) { return kept.first == heading; });
+    if (found == m_kept.end())
+        m_kept.emplace_back(heading, QStringList(value));
+    else
+        found->second.append(value);
+}
+
+bool TaskCells::applyCell(Role role, const QString &value, TreeItem &subject,
+                          const QString &heading, qint64 line)
+{
+    if (role == Role::Url)
+        return applyUrl(value, subject, heading, line);
+    if (isDate(role))
+        return applyDate(role, value, subject);
+    if (role == Role::Followers) {
+        const bool isForeign =
+            heading != QLatin1String("followers") && !value.contains(QLatin1Char(';'));
+        static const QRegularExpression commas(QStringLiteral("\\s*,\\s*"));
+        subject.setFollowers(isForeign ? value.split(commas, Qt::SkipEmptyParts)
+                                       : SubjectAttributes::separated(value));
+        return true;
+    }
+    const QLatin1String key = textKey(role);
+    if (key.size() == 0)
+        return applyNumber(role, value, subject, heading, line);
+    const SubjectAttributes::Attribute &attribute = SubjectAttributes::named(key);
+    const bool isTaken = role != Role::Uuid && !attribute.text(subject).isEmpty();
+    return !isTaken && attribute.setText(subject, value);
+}
+
+bool TaskCells::applyNumber(Role role, const QString &value, TreeItem &subject,
+                            const QString &heading, qint64 line)
+{
+    std::optional<int> number;
+    bool isNumber = false;
+    const int type = value.trimmed().toInt(&isNumber);
+    switch (role) {
+    case Role::Status:
+        number = TaskValues::status(value);
+        break;
+    case Role::Priority:
+        number = TaskValues::priority(value);
+        break;
+    case Role::Progress:
+        number = TaskValues::progress(value);
+        break;
+    case Role::Type:
+        number = isNumber ? std::make_optional(type) : std::nullopt;
+        break;
+    default:
+        break;
+    }
+    if (!number)
+        return false;
+    if (role == Role::Status)
+        subject.setStatus(*number);
+    else if (role == Role::Priority)
+        subject.setPriority(*number);
+    else if (role == Role::Progress)
+        subject.setProgress(*number);
+    else
+        subject.setType(*number);
+    if (!isNumber)
+        m_tree.note(Kind::ReadAs,
+                    DiagramExchange::tr("\"%1\" of \"%2\" as %3").arg(value, heading).arg(*number),
+                    line);
+    return true;
+}
+
+bool TaskCells::applyDate(Role role, const QString &value, TreeItem &subject)
+{
+    const auto order = m_dayFirst.value(m_column) ? TaskValues::NumberOrder::DayFirst
+                                                  : TaskValues::NumberOrder::MonthFirst;
+    const std::optional<qint64> date = TaskValues::date(value, order);
+    if (!date)
+        return false;
+    if (role == Role::Created)
+        subject.setCreateDate(*date);
+    else if (role == Role::PlannedEnd)
+        subject.setPlanEndDate(*date);
+    else if (subject.status() == -1)
+        subject.setStatus(finished);
+    return role != Role::CompletedAt; // no field takes that date
+}
+
+/** Takes the first of several links, and keeps the others. */
+bool TaskCells::applyUrl(const QString &value, TreeItem &subject, const QString &heading,
+                         qint64 line)
+{
+    static const QRegularExpression separators(QStringLiteral("[\\s,;]+"));
+    const QStringList links =
+        m_isOwn ? QStringList(value) : value.split(separators, Qt::SkipEmptyParts);
+    const bool areLinks = std::all_of(links.cbegin(), links.cend(), [](const QString &link) {
+        return link.contains(QLatin1String("://"));
+    });
+    if (links.size() > 1 && areLinks) {
+        subject.setUrl(links.constFirst());
+        m_tree.addNamedDetail(subject, heading, links.mid(1).join(QLatin1Char(' ')), line);
+        return true;
+    }
+    if (!m_isOwn && links.size() > 1)
+        return false;
+    subject.setUrl(value);
+    return true;
+}

@@ -1,0 +1,55 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#include <fishbone/exchange/exchangeformat.h>
+#include <fishbone/exchange/importedtree.h>
+#include <fishbone/exchange/tasktable.h>
+#include <fishbone/exchange/xlsxreader.h>
+#include <fishbone/exchange/xlsxwriter.h>
+#include <fishbone/exchange/ziparchive.h>
+
+namespace {
+
+/** The rows of the first sheet with a column of titles, or of the first one when there is none. */
+bool readRows(XlsxReader &workbook, ImportedTree &tree, std::vector<TaskTable::Row> &rows)
+{
+    const QStringList sheets = workbook.sheets();
+    int chosen = -1;
+    for (int sheet = 0; sheet < sheets.size(); ++sheet) {
+        std::vector<TaskTable::Row> found;
+        if (!workbook.read(sheet, found))
+            return false;
+        const bool isTable = TaskTable::headerOf(found) >= 0;
+        if (chosen < 0 && (isTable || sheet == 0)) {
+            rows = found;
+            chosen = isTable ? sheet : -1;
+        } else if (!found.empty() && !XlsxWriter::isOverview(found)) {
+            tree.note(ExchangeReport::Kind::LeftOut,
+                      DiagramExchange::tr("the sheet \"%1\"").arg(sheets.at(sheet)));
+        }
+    }
+    return true;
+}
+
+bool read(const QByteArray &bytes, ImportedTree &tree)
+{
+    ZipReader archive(bytes, tree);
+    if (!archive.isOpen())
+        return false;
+    XlsxReader workbook(archive, tree);
+    std::vector<TaskTable::Row> rows;
+    return workbook.open() && readRows(workbook, tree, rows) &&
+           TaskTable::read(rows, tree, TaskTable::Texts::AsTheyAre);
+}
+
+} // namespace
+
+const ExchangeFormat ExchangeFormats::xlsx{
+    DiagramExchange::Format::Xlsx,
+    "xlsx",
+    QT_TRANSLATE_NOOP("DiagramExchange", "Excel workbook"),
+    "xlsx",
+    "title children uuid showid detail type status progress priority url mgrname mgrid "
+    "creatorname creatorid followers createdate planenddate",
+    read,
+    XlsxWriter::write};
