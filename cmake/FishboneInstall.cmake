@@ -69,6 +69,7 @@ list(JOIN pkgconfig_modules ", " pkgconfig_modules)
 get_target_property(type fishbone TYPE)
 if(type STREQUAL "STATIC_LIBRARY")
     set(pkgconfig_flags " -DFISHBONE_STATIC_DEFINE")
+    set(pkgconfig_static_modules ", libzip")
 endif()
 configure_file("${CMAKE_CURRENT_LIST_DIR}/fishbone.pc.in"
     "${PROJECT_BINARY_DIR}/fishbone${FISHBONE_SUFFIX}.pc" @ONLY)

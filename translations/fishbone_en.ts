@@ -221,14 +221,6 @@ Two commands need no display:
 &quot;fishbone convert --help&quot; tells more. A file of such a name is ./convert.</translation>
     </message>
     <message>
-        <source>Writes a diagram in another format, or as a picture.
-The endings tell the formats: %1;
-and png, svg and pdf for pictures.</source>
-        <translation>Writes a diagram in another format, or as a picture.
-The endings tell the formats: %1;
-and png, svg and pdf for pictures.</translation>
-    </message>
-    <message>
         <source>The file to read.</source>
         <translation>The file to read.</translation>
     </message>
@@ -271,10 +263,6 @@ The exit code is 3 when anything is.</translation>
         <translation>one of %1</translation>
     </message>
     <message>
-        <source>the format of &quot;%1&quot; is unknown: --%2 takes one of %3</source>
-        <translation>the format of &quot;%1&quot; is unknown: --%2 takes one of %3</translation>
-    </message>
-    <message>
         <source>Format: %1
 </source>
         <translation>Format: %1
@@ -283,6 +271,44 @@ The exit code is 3 when anything is.</translation>
     <message>
         <source>The command.</source>
         <translation>The command.</translation>
+    </message>
+    <message>
+        <source>Write nothing when that would leave content out.</source>
+        <translation>Write nothing when that would leave content out.</translation>
+    </message>
+    <message>
+        <source>Writes a diagram in another format, or as a picture.
+The endings tell the formats. Read: %1.
+Written: %2, and png, svg and pdf for pictures.
+What is left out, or put where it can be kept, is listed on the error output.</source>
+        <translation>Writes a diagram in another format, or as a picture.
+The endings tell the formats. Read: %1.
+Written: %2, and png, svg and pdf for pictures.
+What is left out, or put where it can be kept, is listed on the error output.</translation>
+    </message>
+    <message>
+        <source>--%1 needs convert</source>
+        <translation>--%1 needs convert</translation>
+    </message>
+    <message>
+        <source>%1 can only be written</source>
+        <translation>%1 can only be written</translation>
+    </message>
+    <message>
+        <source>%1 can only be read</source>
+        <translation>%1 can only be read</translation>
+    </message>
+    <message>
+        <source>the format of &quot;%1&quot; is unknown: the name must end in one of %2, or --from tell one of %3</source>
+        <translation>the format of &quot;%1&quot; is unknown: the name must end in one of %2, or --from tell one of %3</translation>
+    </message>
+    <message>
+        <source>the format of &quot;%1&quot; is unknown: the name must end in one of %2, or in .png, .svg or .pdf for a picture, or --to tell one of %3</source>
+        <translation>the format of &quot;%1&quot; is unknown: the name must end in one of %2, or in .png, .svg or .pdf for a picture, or --to tell one of %3</translation>
+    </message>
+    <message>
+        <source>%1 was not written: something would be left out</source>
+        <translation>%1 was not written: something would be left out</translation>
     </message>
 </context>
 <context>
@@ -456,24 +482,8 @@ The exit code is 3 when anything is.</translation>
         <translation>it holds no diagram</translation>
     </message>
     <message>
-        <source>there is no column &quot;title&quot;</source>
-        <translation>there is no column &quot;title&quot;</translation>
-    </message>
-    <message>
-        <source>the uuid &quot;%1&quot; stands twice</source>
-        <translation>the uuid &quot;%1&quot; stands twice</translation>
-    </message>
-    <message>
-        <source>there is no subject with the uuid &quot;%1&quot;</source>
-        <translation>there is no subject with the uuid &quot;%1&quot;</translation>
-    </message>
-    <message>
         <source>the subject lies below itself</source>
         <translation>the subject lies below itself</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is no value for the column &quot;%2&quot;</source>
-        <translation>&quot;%1&quot; is no value for the column &quot;%2&quot;</translation>
     </message>
     <message>
         <source>a quote is not closed</source>
@@ -536,10 +546,6 @@ The exit code is 3 when anything is.</translation>
         <translation>there is no such file</translation>
     </message>
     <message>
-        <source>the text is not encoded as UTF-8</source>
-        <translation>the text is not encoded as UTF-8</translation>
-    </message>
-    <message>
         <source>there are more than %1 levels</source>
         <translation>there are more than %1 levels</translation>
     </message>
@@ -560,16 +566,236 @@ The exit code is 3 when anything is.</translation>
         <translation>it is not a JSON document (line %1: %2)</translation>
     </message>
     <message>
-        <source>the diagram does not begin with &quot;ishikawa&quot;</source>
-        <translation>the diagram does not begin with &quot;ishikawa&quot;</translation>
-    </message>
-    <message>
         <source>declarations of entities are not accepted</source>
         <translation>declarations of entities are not accepted</translation>
     </message>
     <message>
         <source>the document begins with &lt;%1&gt;, not with &lt;%2&gt;</source>
         <translation>the document begins with &lt;%1&gt;, not with &lt;%2&gt;</translation>
+    </message>
+    <message>
+        <source>the text is not encoded as UTF-8, nor in a code page that is known (Windows-1252, GB 18030)</source>
+        <translation>the text is not encoded as UTF-8, nor in a code page that is known (Windows-1252, GB 18030)</translation>
+    </message>
+    <message>
+        <source>the text as %1, since it is not encoded as UTF-8</source>
+        <translation>the text as %1, since it is not encoded as UTF-8</translation>
+    </message>
+    <message>
+        <source>that format can only be read</source>
+        <translation>that format can only be read</translation>
+    </message>
+    <message>
+        <source>that format can only be written</source>
+        <translation>that format can only be written</translation>
+    </message>
+    <message>
+        <source>a style</source>
+        <translation>a style</translation>
+    </message>
+    <message>
+        <source>draw.io diagram</source>
+        <translation>draw.io diagram</translation>
+    </message>
+    <message>
+        <source>what is encrypted</source>
+        <translation>what is encrypted</translation>
+    </message>
+    <message>
+        <source>Icons</source>
+        <translation>Icons</translation>
+    </message>
+    <message>
+        <source>the icon &quot;%1&quot; as %2</source>
+        <translation>the icon &quot;%1&quot; as %2</translation>
+    </message>
+    <message>
+        <source>an arrow</source>
+        <translation>an arrow</translation>
+    </message>
+    <message>
+        <source>Link</source>
+        <translation>Link</translation>
+    </message>
+    <message>
+        <source>Image</source>
+        <translation>Image</translation>
+    </message>
+    <message>
+        <source>the front matter</source>
+        <translation>the front matter</translation>
+    </message>
+    <message>
+        <source>the comment &quot;%1&quot;</source>
+        <translation>the comment &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>the language &quot;%1&quot; of a block of code</source>
+        <translation>the language &quot;%1&quot; of a block of code</translation>
+    </message>
+    <message>
+        <source>the diagram does not begin with &quot;ishikawa&quot; or &quot;mindmap&quot;</source>
+        <translation>the diagram does not begin with &quot;ishikawa&quot; or &quot;mindmap&quot;</translation>
+    </message>
+    <message>
+        <source>settings</source>
+        <translation>settings</translation>
+    </message>
+    <message>
+        <source>Org outline</source>
+        <translation>Org outline</translation>
+    </message>
+    <message>
+        <source>text above the outline</source>
+        <translation>text above the outline</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; as %2</source>
+        <translation>&quot;%1&quot; as %2</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>Labels</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; as a progress</source>
+        <translation>&quot;%1&quot; as a progress</translation>
+    </message>
+    <message>
+        <source>a quotation</source>
+        <translation>a quotation</translation>
+    </message>
+    <message>
+        <source>further cells</source>
+        <translation>further cells</translation>
+    </message>
+    <message>
+        <source>the diagram does not begin with &quot;@startmindmap&quot;</source>
+        <translation>the diagram does not begin with &quot;@startmindmap&quot;</translation>
+    </message>
+    <message>
+        <source>text beside the drawing</source>
+        <translation>text beside the drawing</translation>
+    </message>
+    <message>
+        <source>PlantUML mind map</source>
+        <translation>PlantUML mind map</translation>
+    </message>
+    <message>
+        <source>dates of &quot;%1&quot; as day/month/year</source>
+        <translation>dates of &quot;%1&quot; as day/month/year</translation>
+    </message>
+    <message>
+        <source>dates of &quot;%1&quot; as month/day/year</source>
+        <translation>dates of &quot;%1&quot; as month/day/year</translation>
+    </message>
+    <message>
+        <source>cells without a heading</source>
+        <translation>cells without a heading</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; of &quot;%2&quot; as %3</source>
+        <translation>&quot;%1&quot; of &quot;%2&quot; as %3</translation>
+    </message>
+    <message>
+        <source>the uuid &quot;%1&quot; a second time</source>
+        <translation>the uuid &quot;%1&quot; a second time</translation>
+    </message>
+    <message>
+        <source>there is no column of titles, such as &quot;title&quot;, &quot;summary&quot; or &quot;name&quot;; the columns are %1</source>
+        <translation>there is no column of titles, such as &quot;title&quot;, &quot;summary&quot; or &quot;name&quot;; the columns are %1</translation>
+    </message>
+    <message>
+        <source>the sheet &quot;%1&quot;</source>
+        <translation>the sheet &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Excel workbook</source>
+        <translation>Excel workbook</translation>
+    </message>
+    <message>
+        <source>the archive has no file &quot;%1&quot;, as workbooks do</source>
+        <translation>the archive has no file &quot;%1&quot;, as workbooks do</translation>
+    </message>
+    <message>
+        <source>remarks at cells</source>
+        <translation>remarks at cells</translation>
+    </message>
+    <message>
+        <source>drawings</source>
+        <translation>drawings</translation>
+    </message>
+    <message>
+        <source>cells behind column %1</source>
+        <translation>cells behind column %1</translation>
+    </message>
+    <message>
+        <source>there are too many cells</source>
+        <translation>there are too many cells</translation>
+    </message>
+    <message>
+        <source>a link within the workbook</source>
+        <translation>a link within the workbook</translation>
+    </message>
+    <message>
+        <source>the file &quot;%1&quot;</source>
+        <translation>the file &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>the archive has neither content.json nor content.xml, one of which holds the map</source>
+        <translation>the archive has neither content.json nor content.xml, one of which holds the map</translation>
+    </message>
+    <message>
+        <source>XMind map</source>
+        <translation>XMind map</translation>
+    </message>
+    <message>
+        <source>Sheet</source>
+        <translation>Sheet</translation>
+    </message>
+    <message>
+        <source>Boundary</source>
+        <translation>Boundary</translation>
+    </message>
+    <message>
+        <source>a topic of the kind &quot;%1&quot; as a cause</source>
+        <translation>a topic of the kind &quot;%1&quot; as a cause</translation>
+    </message>
+    <message>
+        <source>content.json: it is no list of sheets (%1)</source>
+        <translation>content.json: it is no list of sheets (%1)</translation>
+    </message>
+    <message>
+        <source>the icon &quot;%1&quot;</source>
+        <translation>the icon &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>an arrow &quot;%1&quot; that joins no two topics</source>
+        <translation>an arrow &quot;%1&quot; that joins no two topics</translation>
+    </message>
+    <message>
+        <source>it is not a zip archive, as files of this format are (%1)</source>
+        <translation>it is not a zip archive, as files of this format are (%1)</translation>
+    </message>
+    <message>
+        <source>the archive has more than %1 files</source>
+        <translation>the archive has more than %1 files</translation>
+    </message>
+    <message>
+        <source>the archive has &quot;%1&quot; twice</source>
+        <translation>the archive has &quot;%1&quot; twice</translation>
+    </message>
+    <message>
+        <source>it is damaged</source>
+        <translation>it is damaged</translation>
+    </message>
+    <message>
+        <source>it is too large</source>
+        <translation>it is too large</translation>
+    </message>
+    <message>
+        <source>it expands to more than %1 times its size</source>
+        <translation>it expands to more than %1 times its size</translation>
     </message>
 </context>
 <context>
@@ -914,6 +1140,41 @@ The exit code is 3 when anything is.</translation>
     <message>
         <source>Files can also be dragged into this window.</source>
         <translation>Files can also be dragged into this window.</translation>
+    </message>
+</context>
+<context>
+    <name>ExchangeReport</name>
+    <message>
+        <source>left out: %1</source>
+        <translation>left out: %1</translation>
+    </message>
+    <message>
+        <source>put into the details: %1</source>
+        <translation>put into the details: %1</translation>
+    </message>
+    <message>
+        <source>taken: %1</source>
+        <translation>taken: %1</translation>
+    </message>
+    <message>
+        <source>appearance left out: %1</source>
+        <translation>appearance left out: %1</translation>
+    </message>
+    <message>
+        <source>%1 (%2 times, first in line %3)</source>
+        <translation>%1 (%2 times, first in line %3)</translation>
+    </message>
+    <message>
+        <source>%1 (%2 times)</source>
+        <translation>%1 (%2 times)</translation>
+    </message>
+    <message>
+        <source>%1 (line %2)</source>
+        <translation>%1 (line %2)</translation>
+    </message>
+    <message>
+        <source>other things</source>
+        <translation>other things</translation>
     </message>
 </context>
 <context>
@@ -1299,6 +1560,17 @@ Do you want to save your changes?</translation>
     </message>
 </context>
 <context>
+    <name>ImportSummary</name>
+    <message>
+        <source>%1: %2 left out, %3 put into details.</source>
+        <translation>%1: %2 left out, %3 put into details.</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Import</translation>
+    </message>
+</context>
+<context>
     <name>InsertBack</name>
     <message>
         <source>Insert subject back</source>
@@ -1331,6 +1603,25 @@ Do you want to save your changes?</translation>
     <message>
         <source>Insert subject as parent</source>
         <translation>Insert parent subject</translation>
+    </message>
+</context>
+<context>
+    <name>JsonDiagram</name>
+    <message>
+        <source>it is a JSON list, not a diagram, which is an object with a &quot;title&quot; and &quot;children&quot;</source>
+        <translation>it is a JSON list, not a diagram, which is an object with a &quot;title&quot; and &quot;children&quot;</translation>
+    </message>
+    <message>
+        <source>it is JSON of another kind: a diagram has a &quot;title&quot; and &quot;children&quot;, this has %1</source>
+        <translation>it is JSON of another kind: a diagram has a &quot;title&quot; and &quot;children&quot;, this has %1</translation>
+    </message>
+    <message>
+        <source>it is JSON of another kind: its &quot;title&quot; is no text</source>
+        <translation>it is JSON of another kind: its &quot;title&quot; is no text</translation>
+    </message>
+    <message>
+        <source>it is JSON of another kind: its &quot;children&quot; are no list</source>
+        <translation>it is JSON of another kind: its &quot;children&quot; are no list</translation>
     </message>
 </context>
 <context>
@@ -1456,6 +1747,25 @@ Do you want to save your changes?</translation>
     </message>
 </context>
 <context>
+    <name>MappingDialog</name>
+    <message>
+        <source>Import %1</source>
+        <translation>Import %1</translation>
+    </message>
+    <message>
+        <source>Read as</source>
+        <translation>Read as</translation>
+    </message>
+    <message>
+        <source>What the columns stand for, with the first rows of the table:</source>
+        <translation>What the columns stand for, with the first rows of the table:</translation>
+    </message>
+    <message>
+        <source>Read &quot;%1&quot; as</source>
+        <translation>Read &quot;%1&quot; as</translation>
+    </message>
+</context>
+<context>
     <name>Menus</name>
     <message>
         <source>&amp;File</source>
@@ -1543,6 +1853,41 @@ Do you want to save your changes?</translation>
     <message>
         <source>D&amp;emote (below the one before)</source>
         <translation>D&amp;emote (below the one before)</translation>
+    </message>
+</context>
+<context>
+    <name>PasteDialog</name>
+    <message>
+        <source>Paste</source>
+        <translation>Paste</translation>
+    </message>
+    <message>
+        <source>Lines</source>
+        <translation>Lines</translation>
+    </message>
+    <message>
+        <source>Lines with links and emphasis</source>
+        <translation>Lines with links and emphasis</translation>
+    </message>
+    <message>
+        <source>Rows of a table</source>
+        <translation>Rows of a table</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Title</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Details</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>&amp;Paste</translation>
+    </message>
+    <message>
+        <source>&amp;Read as:</source>
+        <translation>&amp;Read as:</translation>
     </message>
 </context>
 <context>
@@ -2060,6 +2405,101 @@ Do you want to save your changes?</translation>
     <message>
         <source>Previous t&amp;ab</source>
         <translation>Previous t&amp;ab</translation>
+    </message>
+</context>
+<context>
+    <name>TableMapping</name>
+    <message>
+        <source>Details</source>
+        <translation>Details</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Title</translation>
+    </message>
+    <message>
+        <source>Title of one level</source>
+        <translation>Title of one level</translation>
+    </message>
+    <message>
+        <source>Id</source>
+        <translation>Id</translation>
+    </message>
+    <message>
+        <source>Uuid</source>
+        <translation>Uuid</translation>
+    </message>
+    <message>
+        <source>Short id</source>
+        <translation>Short id</translation>
+    </message>
+    <message>
+        <source>Parent</source>
+        <translation>Parent</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>Level</translation>
+    </message>
+    <message>
+        <source>Outline number</source>
+        <translation>Outline number</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Status</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Progress</translation>
+    </message>
+    <message>
+        <source>Priority</source>
+        <translation>Priority</translation>
+    </message>
+    <message>
+        <source>Manager</source>
+        <translation>Manager</translation>
+    </message>
+    <message>
+        <source>Manager&apos;s id</source>
+        <translation>Manager&apos;s id</translation>
+    </message>
+    <message>
+        <source>Creator</source>
+        <translation>Creator</translation>
+    </message>
+    <message>
+        <source>Creator&apos;s id</source>
+        <translation>Creator&apos;s id</translation>
+    </message>
+    <message>
+        <source>Followers</source>
+        <translation>Followers</translation>
+    </message>
+    <message>
+        <source>Created</source>
+        <translation>Created</translation>
+    </message>
+    <message>
+        <source>Planned end</source>
+        <translation>Planned end</translation>
+    </message>
+    <message>
+        <source>Link</source>
+        <translation>Link</translation>
+    </message>
+    <message>
+        <source>Details text</source>
+        <translation>Details text</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <source>Completed on</source>
+        <translation>Completed on</translation>
     </message>
 </context>
 <context>

@@ -221,14 +221,6 @@ Two commands need no display:
 “fishbone convert --help”有更多说明。同名的文件请写作 ./convert。</translation>
     </message>
     <message>
-        <source>Writes a diagram in another format, or as a picture.
-The endings tell the formats: %1;
-and png, svg and pdf for pictures.</source>
-        <translation>将鱼骨图写成另一种格式或图片。
-格式由扩展名决定：%1；
-图片为 png、svg 和 pdf。</translation>
-    </message>
-    <message>
         <source>The file to read.</source>
         <translation>要读取的文件。</translation>
     </message>
@@ -271,10 +263,6 @@ The exit code is 3 when anything is.</source>
         <translation>%1 之一</translation>
     </message>
     <message>
-        <source>the format of &quot;%1&quot; is unknown: --%2 takes one of %3</source>
-        <translation>无法识别“%1”的格式：--%2 可取 %3 之一</translation>
-    </message>
-    <message>
         <source>Format: %1
 </source>
         <translation>格式：%1
@@ -283,6 +271,44 @@ The exit code is 3 when anything is.</source>
     <message>
         <source>The command.</source>
         <translation>命令。</translation>
+    </message>
+    <message>
+        <source>Write nothing when that would leave content out.</source>
+        <translation>若会丢失内容，则不写入任何文件。</translation>
+    </message>
+    <message>
+        <source>Writes a diagram in another format, or as a picture.
+The endings tell the formats. Read: %1.
+Written: %2, and png, svg and pdf for pictures.
+What is left out, or put where it can be kept, is listed on the error output.</source>
+        <translation>将图表写成另一种格式或图片。
+扩展名决定格式。可读取：%1。
+可写入：%2，图片为 png、svg 和 pdf。
+被省略或另存别处的内容会列在错误输出中。</translation>
+    </message>
+    <message>
+        <source>--%1 needs convert</source>
+        <translation>--%1 需要 convert</translation>
+    </message>
+    <message>
+        <source>%1 can only be written</source>
+        <translation>%1 只能写入</translation>
+    </message>
+    <message>
+        <source>%1 can only be read</source>
+        <translation>%1 只能读取</translation>
+    </message>
+    <message>
+        <source>the format of &quot;%1&quot; is unknown: the name must end in one of %2, or --from tell one of %3</source>
+        <translation>“%1”的格式未知：名称须以 %2 之一结尾，或用 --from 指定 %3 之一</translation>
+    </message>
+    <message>
+        <source>the format of &quot;%1&quot; is unknown: the name must end in one of %2, or in .png, .svg or .pdf for a picture, or --to tell one of %3</source>
+        <translation>“%1”的格式未知：名称须以 %2 之一结尾，图片以 .png、.svg 或 .pdf 结尾，或用 --to 指定 %3 之一</translation>
+    </message>
+    <message>
+        <source>%1 was not written: something would be left out</source>
+        <translation>未写入 %1：有内容会被省略</translation>
     </message>
 </context>
 <context>
@@ -454,24 +480,8 @@ The exit code is 3 when anything is.</source>
         <translation>其中没有鱼骨图</translation>
     </message>
     <message>
-        <source>there is no column &quot;title&quot;</source>
-        <translation>没有名为“title”的列</translation>
-    </message>
-    <message>
-        <source>the uuid &quot;%1&quot; stands twice</source>
-        <translation>uuid“%1”出现了两次</translation>
-    </message>
-    <message>
-        <source>there is no subject with the uuid &quot;%1&quot;</source>
-        <translation>没有 uuid 为“%1”的主题</translation>
-    </message>
-    <message>
         <source>the subject lies below itself</source>
         <translation>该主题位于其自身之下</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is no value for the column &quot;%2&quot;</source>
-        <translation>“%1”不是“%2”列的有效值</translation>
     </message>
     <message>
         <source>a quote is not closed</source>
@@ -534,10 +544,6 @@ The exit code is 3 when anything is.</source>
         <translation>文件不存在</translation>
     </message>
     <message>
-        <source>the text is not encoded as UTF-8</source>
-        <translation>文本不是 UTF-8 编码</translation>
-    </message>
-    <message>
         <source>there are more than %1 levels</source>
         <translation>层数超过 %1</translation>
     </message>
@@ -558,16 +564,236 @@ The exit code is 3 when anything is.</source>
         <translation>不是 JSON 文档（第 %1 行：%2）</translation>
     </message>
     <message>
-        <source>the diagram does not begin with &quot;ishikawa&quot;</source>
-        <translation>鱼骨图没有以“ishikawa”开头</translation>
-    </message>
-    <message>
         <source>declarations of entities are not accepted</source>
         <translation>不接受实体声明</translation>
     </message>
     <message>
         <source>the document begins with &lt;%1&gt;, not with &lt;%2&gt;</source>
         <translation>文档以 &lt;%1&gt; 而不是 &lt;%2&gt; 开头</translation>
+    </message>
+    <message>
+        <source>the text is not encoded as UTF-8, nor in a code page that is known (Windows-1252, GB 18030)</source>
+        <translation>文本不是 UTF-8 编码，也不是已知的代码页（Windows-1252、GB 18030）</translation>
+    </message>
+    <message>
+        <source>the text as %1, since it is not encoded as UTF-8</source>
+        <translation>文本按 %1 读取，因为它不是 UTF-8 编码</translation>
+    </message>
+    <message>
+        <source>that format can only be read</source>
+        <translation>该格式只能读取</translation>
+    </message>
+    <message>
+        <source>that format can only be written</source>
+        <translation>该格式只能写入</translation>
+    </message>
+    <message>
+        <source>a style</source>
+        <translation>样式</translation>
+    </message>
+    <message>
+        <source>draw.io diagram</source>
+        <translation>draw.io 图表</translation>
+    </message>
+    <message>
+        <source>what is encrypted</source>
+        <translation>加密的内容</translation>
+    </message>
+    <message>
+        <source>Icons</source>
+        <translation>图标</translation>
+    </message>
+    <message>
+        <source>the icon &quot;%1&quot; as %2</source>
+        <translation>图标“%1”读作 %2</translation>
+    </message>
+    <message>
+        <source>an arrow</source>
+        <translation>箭头</translation>
+    </message>
+    <message>
+        <source>Link</source>
+        <translation>链接</translation>
+    </message>
+    <message>
+        <source>Image</source>
+        <translation>图片</translation>
+    </message>
+    <message>
+        <source>the front matter</source>
+        <translation>文档开头的元数据</translation>
+    </message>
+    <message>
+        <source>the comment &quot;%1&quot;</source>
+        <translation>注释“%1”</translation>
+    </message>
+    <message>
+        <source>the language &quot;%1&quot; of a block of code</source>
+        <translation>代码块的语言“%1”</translation>
+    </message>
+    <message>
+        <source>the diagram does not begin with &quot;ishikawa&quot; or &quot;mindmap&quot;</source>
+        <translation>图表不以“ishikawa”或“mindmap”开头</translation>
+    </message>
+    <message>
+        <source>settings</source>
+        <translation>设置</translation>
+    </message>
+    <message>
+        <source>Org outline</source>
+        <translation>Org 大纲</translation>
+    </message>
+    <message>
+        <source>text above the outline</source>
+        <translation>大纲之前的文本</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; as %2</source>
+        <translation>“%1”读作 %2</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>标签</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; as a progress</source>
+        <translation>“%1”读作进度</translation>
+    </message>
+    <message>
+        <source>a quotation</source>
+        <translation>引文</translation>
+    </message>
+    <message>
+        <source>further cells</source>
+        <translation>其余单元格</translation>
+    </message>
+    <message>
+        <source>the diagram does not begin with &quot;@startmindmap&quot;</source>
+        <translation>图表不以“@startmindmap”开头</translation>
+    </message>
+    <message>
+        <source>text beside the drawing</source>
+        <translation>图旁的文本</translation>
+    </message>
+    <message>
+        <source>PlantUML mind map</source>
+        <translation>PlantUML 思维导图</translation>
+    </message>
+    <message>
+        <source>dates of &quot;%1&quot; as day/month/year</source>
+        <translation>“%1”的日期按 日/月/年 读取</translation>
+    </message>
+    <message>
+        <source>dates of &quot;%1&quot; as month/day/year</source>
+        <translation>“%1”的日期按 月/日/年 读取</translation>
+    </message>
+    <message>
+        <source>cells without a heading</source>
+        <translation>没有列标题的单元格</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; of &quot;%2&quot; as %3</source>
+        <translation>“%2”的“%1”读作 %3</translation>
+    </message>
+    <message>
+        <source>the uuid &quot;%1&quot; a second time</source>
+        <translation>重复的 uuid“%1”</translation>
+    </message>
+    <message>
+        <source>there is no column of titles, such as &quot;title&quot;, &quot;summary&quot; or &quot;name&quot;; the columns are %1</source>
+        <translation>没有标题列（例如“title”、“summary”或“name”）；现有的列为 %1</translation>
+    </message>
+    <message>
+        <source>the sheet &quot;%1&quot;</source>
+        <translation>工作表“%1”</translation>
+    </message>
+    <message>
+        <source>Excel workbook</source>
+        <translation>Excel 工作簿</translation>
+    </message>
+    <message>
+        <source>the archive has no file &quot;%1&quot;, as workbooks do</source>
+        <translation>压缩包中没有工作簿应有的文件“%1”</translation>
+    </message>
+    <message>
+        <source>remarks at cells</source>
+        <translation>单元格批注</translation>
+    </message>
+    <message>
+        <source>drawings</source>
+        <translation>绘图</translation>
+    </message>
+    <message>
+        <source>cells behind column %1</source>
+        <translation>第 %1 列之后的单元格</translation>
+    </message>
+    <message>
+        <source>there are too many cells</source>
+        <translation>单元格过多</translation>
+    </message>
+    <message>
+        <source>a link within the workbook</source>
+        <translation>工作簿内部的链接</translation>
+    </message>
+    <message>
+        <source>the file &quot;%1&quot;</source>
+        <translation>文件“%1”</translation>
+    </message>
+    <message>
+        <source>the archive has neither content.json nor content.xml, one of which holds the map</source>
+        <translation>压缩包中既没有 content.json 也没有 content.xml，导图应在其一之中</translation>
+    </message>
+    <message>
+        <source>XMind map</source>
+        <translation>XMind 导图</translation>
+    </message>
+    <message>
+        <source>Sheet</source>
+        <translation>画布</translation>
+    </message>
+    <message>
+        <source>Boundary</source>
+        <translation>外框</translation>
+    </message>
+    <message>
+        <source>a topic of the kind &quot;%1&quot; as a cause</source>
+        <translation>“%1”类主题作为原因</translation>
+    </message>
+    <message>
+        <source>content.json: it is no list of sheets (%1)</source>
+        <translation>content.json：不是画布列表（%1）</translation>
+    </message>
+    <message>
+        <source>the icon &quot;%1&quot;</source>
+        <translation>图标“%1”</translation>
+    </message>
+    <message>
+        <source>an arrow &quot;%1&quot; that joins no two topics</source>
+        <translation>没有连接两个主题的箭头“%1”</translation>
+    </message>
+    <message>
+        <source>it is not a zip archive, as files of this format are (%1)</source>
+        <translation>不是 zip 压缩包，而此格式的文件应当是（%1）</translation>
+    </message>
+    <message>
+        <source>the archive has more than %1 files</source>
+        <translation>压缩包中的文件超过 %1 个</translation>
+    </message>
+    <message>
+        <source>the archive has &quot;%1&quot; twice</source>
+        <translation>压缩包中有两个“%1”</translation>
+    </message>
+    <message>
+        <source>it is damaged</source>
+        <translation>已损坏</translation>
+    </message>
+    <message>
+        <source>it is too large</source>
+        <translation>过大</translation>
+    </message>
+    <message>
+        <source>it expands to more than %1 times its size</source>
+        <translation>解压后超过原大小的 %1 倍</translation>
     </message>
 </context>
 <context>
@@ -912,6 +1138,41 @@ The exit code is 3 when anything is.</source>
     <message>
         <source>Files can also be dragged into this window.</source>
         <translation>也可以将文件拖入此窗口。</translation>
+    </message>
+</context>
+<context>
+    <name>ExchangeReport</name>
+    <message>
+        <source>left out: %1</source>
+        <translation>已省略：%1</translation>
+    </message>
+    <message>
+        <source>put into the details: %1</source>
+        <translation>放入详情：%1</translation>
+    </message>
+    <message>
+        <source>taken: %1</source>
+        <translation>已转换：%1</translation>
+    </message>
+    <message>
+        <source>appearance left out: %1</source>
+        <translation>已省略外观：%1</translation>
+    </message>
+    <message>
+        <source>%1 (%2 times, first in line %3)</source>
+        <translation>%1（%2 次，首次在第 %3 行）</translation>
+    </message>
+    <message>
+        <source>%1 (%2 times)</source>
+        <translation>%1（%2 次）</translation>
+    </message>
+    <message>
+        <source>%1 (line %2)</source>
+        <translation>%1（第 %2 行）</translation>
+    </message>
+    <message>
+        <source>other things</source>
+        <translation>其他内容</translation>
     </message>
 </context>
 <context>
@@ -1295,6 +1556,17 @@ Do you want to save your changes?</source>
     </message>
 </context>
 <context>
+    <name>ImportSummary</name>
+    <message>
+        <source>%1: %2 left out, %3 put into details.</source>
+        <translation>%1：省略 %2 项，放入详情 %3 项。</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>导入</translation>
+    </message>
+</context>
+<context>
     <name>InsertBack</name>
     <message>
         <source>Insert subject back</source>
@@ -1327,6 +1599,25 @@ Do you want to save your changes?</source>
     <message>
         <source>Insert subject as parent</source>
         <translation>插入父主题</translation>
+    </message>
+</context>
+<context>
+    <name>JsonDiagram</name>
+    <message>
+        <source>it is a JSON list, not a diagram, which is an object with a &quot;title&quot; and &quot;children&quot;</source>
+        <translation>这是 JSON 列表，而不是图表；图表是带有“title”和“children”的对象</translation>
+    </message>
+    <message>
+        <source>it is JSON of another kind: a diagram has a &quot;title&quot; and &quot;children&quot;, this has %1</source>
+        <translation>这是另一种 JSON：图表有“title”和“children”，而这里有 %1</translation>
+    </message>
+    <message>
+        <source>it is JSON of another kind: its &quot;title&quot; is no text</source>
+        <translation>这是另一种 JSON：其“title”不是文本</translation>
+    </message>
+    <message>
+        <source>it is JSON of another kind: its &quot;children&quot; are no list</source>
+        <translation>这是另一种 JSON：其“children”不是列表</translation>
     </message>
 </context>
 <context>
@@ -1451,6 +1742,25 @@ Do you want to save your changes?</source>
     </message>
 </context>
 <context>
+    <name>MappingDialog</name>
+    <message>
+        <source>Import %1</source>
+        <translation>导入 %1</translation>
+    </message>
+    <message>
+        <source>Read as</source>
+        <translation>读作</translation>
+    </message>
+    <message>
+        <source>What the columns stand for, with the first rows of the table:</source>
+        <translation>各列的含义，以及表格的前几行：</translation>
+    </message>
+    <message>
+        <source>Read &quot;%1&quot; as</source>
+        <translation>“%1”读作</translation>
+    </message>
+</context>
+<context>
     <name>Menus</name>
     <message>
         <source>&amp;File</source>
@@ -1538,6 +1848,41 @@ Do you want to save your changes?</source>
     <message>
         <source>D&amp;emote (below the one before)</source>
         <translation>降级（移到前一主题之下）(&amp;E)</translation>
+    </message>
+</context>
+<context>
+    <name>PasteDialog</name>
+    <message>
+        <source>Paste</source>
+        <translation>粘贴</translation>
+    </message>
+    <message>
+        <source>Lines</source>
+        <translation>文本行</translation>
+    </message>
+    <message>
+        <source>Lines with links and emphasis</source>
+        <translation>带链接和强调的文本行</translation>
+    </message>
+    <message>
+        <source>Rows of a table</source>
+        <translation>表格的行</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>标题</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>详情</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>粘贴(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Read as:</source>
+        <translation>读作(&amp;R)：</translation>
     </message>
 </context>
 <context>
@@ -2052,6 +2397,101 @@ Do you want to save your changes?</source>
     <message>
         <source>Previous t&amp;ab</source>
         <translation>上一个标签页(&amp;A)</translation>
+    </message>
+</context>
+<context>
+    <name>TableMapping</name>
+    <message>
+        <source>Details</source>
+        <translation>详情</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>标题</translation>
+    </message>
+    <message>
+        <source>Title of one level</source>
+        <translation>某一级的标题</translation>
+    </message>
+    <message>
+        <source>Id</source>
+        <translation>编号</translation>
+    </message>
+    <message>
+        <source>Uuid</source>
+        <translation>唯一编号 (uuid)</translation>
+    </message>
+    <message>
+        <source>Short id</source>
+        <translation>短编号</translation>
+    </message>
+    <message>
+        <source>Parent</source>
+        <translation>上级</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>层级</translation>
+    </message>
+    <message>
+        <source>Outline number</source>
+        <translation>大纲编号</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>状态</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>进度</translation>
+    </message>
+    <message>
+        <source>Priority</source>
+        <translation>优先级</translation>
+    </message>
+    <message>
+        <source>Manager</source>
+        <translation>负责人</translation>
+    </message>
+    <message>
+        <source>Manager&apos;s id</source>
+        <translation>负责人编号</translation>
+    </message>
+    <message>
+        <source>Creator</source>
+        <translation>创建人</translation>
+    </message>
+    <message>
+        <source>Creator&apos;s id</source>
+        <translation>创建人编号</translation>
+    </message>
+    <message>
+        <source>Followers</source>
+        <translation>关注者</translation>
+    </message>
+    <message>
+        <source>Created</source>
+        <translation>创建时间</translation>
+    </message>
+    <message>
+        <source>Planned end</source>
+        <translation>计划结束</translation>
+    </message>
+    <message>
+        <source>Link</source>
+        <translation>链接</translation>
+    </message>
+    <message>
+        <source>Details text</source>
+        <translation>详情文本</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>类型</translation>
+    </message>
+    <message>
+        <source>Completed on</source>
+        <translation>完成日期</translation>
     </message>
 </context>
 <context>

@@ -63,7 +63,7 @@ public:
     QString target;        ///< the file to write
     std::optional<DiagramExchange::Format> from; ///< of the document
     std::optional<DiagramExchange::Format> to;   ///< of the target; nothing for a picture
-    bool isStrict = false; ///< a conversion that would leave something out is refused
+    bool isStrict = false;             ///< a conversion that would leave something out is refused
     int levels = Expansion::allLevels; ///< how many levels of bones below the main bones to expand
     PictureOptions options;
 

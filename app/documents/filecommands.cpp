@@ -13,6 +13,7 @@
 #include <app/files/documentloader.h>
 #include <app/files/importsummary.h>
 #include <app/files/lastdocuments.h>
+#include <app/files/mappingdialog.h>
 #include <app/files/recentfiles.h>
 #include <app/files/welcome.h>
 #include <app/recovery/recoverycopy.h>
@@ -33,6 +34,7 @@
 
 #include <cstdio>
 #include <functional>
+#include <optional>
 
 namespace {
 
@@ -272,21 +274,38 @@ FishInfo *FileCommands::arrival(int error, const QString &path)
 
 void FileCommands::openFiles()
 {
-    openChosen(tr("Open"), anyFilter());
+    const QStringList paths = chosenFiles(tr("Open"), anyFilter());
+    for (const QString &path : paths)
+        m_loader->load(path);
 }
 
 void FileCommands::importFiles()
 {
-    openChosen(tr("Import"), DiagramExchange::importFilter());
+    const QStringList paths = chosenFiles(tr("Import"), DiagramExchange::importFilter());
+    for (const QString &path : paths)
+        importFile(path);
 }
 
-/** Opens what the user chooses among the files that @p filter lets through. */
-void FileCommands::openChosen(const QString &title, const QString &filter)
+/** Imports the file @p path; the user looks first at what the columns of a table stand for. */
+void FileCommands::importFile(const QString &path)
 {
-    const QStringList paths = QFileDialog::getOpenFileNames(
-        m_window, title, m_tabs->current()->session()->folder(), filter);
-    for (const QString &path : paths)
+    const auto format = DocumentLoader::foreignFormat(path);
+    const auto mapping =
+        format ? DiagramExchange::tableMapping(path, *format) : std::optional<TableMapping>();
+    if (!mapping) { // what is wrong is told when it is loaded
         m_loader->load(path);
+        return;
+    }
+    MappingDialog dialog(QFileInfo(path).fileName(), *mapping, m_window);
+    if (dialog.exec() == QDialog::Accepted)
+        m_loader->loadTable(path, dialog.mapping());
+}
+
+/** What the user chooses among the files that @p filter lets through. */
+QStringList FileCommands::chosenFiles(const QString &title, const QString &filter) const
+{
+    return QFileDialog::getOpenFileNames(m_window, title, m_tabs->current()->session()->folder(),
+                                         filter);
 }
 
 void FileCommands::openUrl()

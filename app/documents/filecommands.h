@@ -69,7 +69,8 @@ private:
     void newFromTemplate(const QString &startFolder);
     void openFiles();
     void importFiles();
-    void openChosen(const QString &title, const QString &filter);
+    void importFile(const QString &path);
+    QStringList chosenFiles(const QString &title, const QString &filter) const;
     void openUrl();
     void saveAll();
     void answerConflicts(DocumentTab *tab);

@@ -4,21 +4,24 @@
 #include <app/editing/subjectclipboard.h>
 
 #include <app/diagram/diagramsession.h>
+#include <app/editing/pastedialog.h>
 
 #include <fishbone/editor/fisheditor.h>
 #include <fishbone/exchange/diagramexchange.h>
+#include <fishbone/exchange/pastednotes.h>
 #include <fishbone/items/spearitem.h>
 #include <fishbone/model/fishmodel.h>
 #include <fishbone/model/treeitem.h>
 
 #include <QBuffer>
 #include <QClipboard>
+#include <QFile>
 #include <QGuiApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QMimeData>
-#include <QRegularExpression>
+#include <QUrl>
 #include <QUuid>
 
 #include <memory>
@@ -48,25 +51,16 @@ QByteArray selectedText(const FishEditor &editor)
     return text.data();
 }
 
-/** Whether at least half of the lines of @p text begin as list items or headings do. */
-bool looksLikeMarkdown(const QString &text)
+/** The first file of a known format among what was copied in a file manager; empty for none. */
+QString copiedFile(const QMimeData &data)
 {
-    static const QRegularExpression line(QStringLiteral("^.*\\S"),
-                                         QRegularExpression::MultilineOption);
-    static const QRegularExpression marked(
-        QStringLiteral("^[ \\t]*([-*+]|[0-9]{1,9}[.)]|#{1,6})[ \\t]"),
-        QRegularExpression::MultilineOption);
-    const int marks = text.count(marked);
-    return marks > 0 && 2 * marks >= text.count(line);
-}
-
-DiagramExchange::Format formatOf(const QMimeData &data)
-{
-    if (data.hasFormat(copyFormat())) // copied as text, whatever it looks like
-        return DiagramExchange::Format::Text;
-    return data.hasFormat(QStringLiteral("text/markdown")) || looksLikeMarkdown(data.text())
-               ? DiagramExchange::Format::Markdown
-               : DiagramExchange::Format::Text;
+    const QList<QUrl> urls = data.hasUrls() ? data.urls() : QList<QUrl>();
+    for (const QUrl &url : urls) {
+        const auto format = DiagramExchange::formatOf(url.fileName());
+        if (url.isLocalFile() && format && DiagramExchange::canRead(*format))
+            return url.toLocalFile();
+    }
+    return QString();
 }
 
 /** The children of @p branches as EditPaste takes them, to become children of @p target. */
@@ -169,13 +163,44 @@ void SubjectClipboard::pasteText(const QMimeData &data)
     const SpearItem *const target = m_session->editor()->firstSelectedSpear();
     if (!target)
         return;
-    QByteArray text = data.text().toUtf8();
-    QBuffer buffer(&text);
-    buffer.open(QIODevice::ReadOnly);
     QString reason;
-    const auto branches = DiagramExchange::readBranches(buffer, formatOf(data), &reason);
+    ExchangeReport report;
+    const auto branches = branchesOf(data, reason, report);
     if (branches)
         m_session->paste(snapshotOf(*branches, *target->treeItem()));
-    else
+    else if (!reason.isEmpty())
         Q_EMIT message(tr("cannot paste the text: %1").arg(reason));
+    if (branches && report.losesContent())
+        Q_EMIT message(report.lines().constFirst());
+}
+
+/** What the clipboard holds as subjects; null when it holds none, or, without a reason, when the
+ * user does not want them. */
+std::unique_ptr<TreeItem> SubjectClipboard::branchesOf(const QMimeData &data, QString &reason,
+                                                       ExchangeReport &report) const
+{
+    using Format = DiagramExchange::Format;
+    const QString path = copiedFile(data);
+    QFile file(path);
+    if (!path.isEmpty() && file.open(QIODevice::ReadOnly))
+        return DiagramExchange::readBranches(file, *DiagramExchange::formatOf(path), &reason,
+                                             &report);
+    const bool isOwn = data.hasFormat(copyFormat()); // copied as text, whatever it looks like
+    if (isOwn || data.hasFormat(QStringLiteral("text/markdown"))) {
+        QByteArray text = data.text().toUtf8();
+        QBuffer buffer(&text);
+        buffer.open(QIODevice::ReadOnly);
+        return DiagramExchange::readBranches(buffer, isOwn ? Format::Text : Format::Markdown,
+                                             &reason, &report);
+    }
+    PastedNotes::Kind kind = PastedNotes::kindOf(data.text());
+    if (PastedNotes::isDoubtful(data.text())) {
+        const QString text = data.text(); // the clipboard may change while the dialog is open
+        PasteDialog dialog(text, m_session->editor());
+        if (dialog.exec() != QDialog::Accepted)
+            return nullptr;
+        kind = dialog.kind();
+        return PastedNotes::read(text, kind, &reason, &report);
+    }
+    return PastedNotes::read(data.text(), kind, &reason, &report);
 }

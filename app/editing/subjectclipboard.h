@@ -6,15 +6,20 @@
 #include <QObject>
 #include <QPointer>
 
+#include <memory>
+
 class DiagramSession;
+class ExchangeReport;
 class FishEditor;
 class QMimeData;
+class TreeItem;
 
 /**
  * The way between the editor's copy buffer and the clipboard of the system. What is copied goes
  * there as indented text and, for other tabs and windows of this program, with all attributes. What
  * comes from there is pasted from the buffer while it is what the same editor copied last; any
- * other text is read as an outline.
+ * other text, or a copied file, is read as an outline. Where a text may be several things the user
+ * is asked.
  */
 class SubjectClipboard : public QObject
 {
@@ -42,6 +47,8 @@ private:
     bool isOwn(const QMimeData &data) const;
     void pasteCopy(const QMimeData &data);
     void pasteText(const QMimeData &data);
+    std::unique_ptr<TreeItem> branchesOf(const QMimeData &data, QString &reason,
+                                         ExchangeReport &report) const;
 
     DiagramSession *m_session;
     QPointer<FishEditor> m_source; ///< what was copied from last

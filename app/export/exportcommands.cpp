@@ -16,6 +16,7 @@
 #include <fishbone/editor/fisheditor.h>
 #include <fishbone/editor/fishscene.h>
 #include <fishbone/exchange/diagramexchange.h>
+#include <fishbone/exchange/exchangereport.h>
 #include <fishbone/model/fishinfo.h>
 #include <fishbone/model/fishmodel.h>
 #include <fishbone/model/treeitem.h>
@@ -30,13 +31,14 @@
 
 namespace {
 
-/** The usual ending of each foreign format, in the order of the name filters. */
+/** The usual ending of each foreign format that can be written, in the order of the name filters.
+ */
 QStringList foreignSuffixes()
 {
     QStringList suffixes;
     const QList<DiagramExchange::Format> formats = DiagramExchange::formats();
     for (const DiagramExchange::Format format : formats) {
-        if (format != DiagramExchange::Format::Json)
+        if (format != DiagramExchange::Format::Json && DiagramExchange::canWrite(format))
             suffixes.append(DiagramExchange::suffixes(format).constFirst());
     }
     return suffixes;
@@ -176,6 +178,15 @@ QString ExportCommands::writeAs(const FishInfo &document, const QString &path) c
     return DiagramExchange::writeFile(path, head, *format, &reason) ? QString() : reason;
 }
 
+/** What of @p document is not in the file @p path, for the status bar; empty when all is. */
+QString ExportCommands::lossesOf(const FishInfo &document, const QString &path)
+{
+    const ExchangeReport report = DiagramExchange::lossesOf(*document.treeItem()->childAtIndex(0),
+                                                            *DiagramExchange::formatOf(path));
+    const QStringList lines = report.losesContent() ? report.lines() : QStringList();
+    return lines.isEmpty() ? QString() : QLatin1String("; ") + lines.join(QLatin1String("; "));
+}
+
 void ExportCommands::exportAs()
 {
     const QPointer<FishInfo> document = m_session->document(); // the dialog runs an event loop
@@ -184,7 +195,7 @@ void ExportCommands::exportAs()
         return;
     const QString reason = writeAs(*document, path);
     if (reason.isEmpty()) {
-        Q_EMIT message(tr("%1 written").arg(path));
+        Q_EMIT message(tr("%1 written").arg(path) + lossesOf(*document, path));
         return;
     }
     QMessageBox::warning(

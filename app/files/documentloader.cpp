@@ -105,6 +105,12 @@ void DocumentLoader::load(const QString &source)
         loadNext();
 }
 
+void DocumentLoader::loadTable(const QString &path, const TableMapping &mapping)
+{
+    m_mappings.insert(path, mapping);
+    load(path);
+}
+
 void DocumentLoader::loadNext()
 {
     const QString source = m_waiting.constFirst();
@@ -212,7 +218,10 @@ void DocumentLoader::importFile(const QString &path, DiagramExchange::Format for
         busy.emplace();
     QString reason;
     ExchangeReport report;
-    auto head = DiagramExchange::readFile(path, format, &reason, &report);
+    const bool isMapped = m_mappings.contains(path);
+    const TableMapping mapping = m_mappings.take(path);
+    auto head =
+        DiagramExchange::readFile(path, format, &reason, &report, isMapped ? &mapping : nullptr);
     if (!head) {
         finish(nullptr, reason);
         return;

@@ -5,8 +5,10 @@
 
 #include <fishbone/exchange/diagramexchange.h>
 #include <fishbone/exchange/exchangereport.h>
+#include <fishbone/exchange/tablemapping.h>
 #include <fishbone/model/fishmodel.h>
 
+#include <QHash>
 #include <QJsonDocument>
 #include <QObject>
 #include <QPointer>
@@ -41,6 +43,9 @@ public:
     /** Loads @p source, a file's path or an http, https or file URL. Reports with a signal, for a
      * file that is not large usually before this returns. */
     void load(const QString &source);
+
+    /** As load(), of a table whose columns stand for what @p mapping says. */
+    void loadTable(const QString &path, const TableMapping &mapping);
 
     /** Ends the fetch or the reading that is under way, if there is one; what waits behind it is
      * loaded still. */
@@ -106,7 +111,8 @@ private:
 
     QPointer<FishModel> m_model;
     std::function<QList<FishInfo *>()> m_openDocuments;
-    QStringList m_waiting; ///< the first one is being loaded
+    QHash<QString, TableMapping> m_mappings; ///< of the tables that wait
+    QStringList m_waiting;                   ///< the first one is being loaded
     QPointer<QNetworkReply> m_reply;
     QMetaObject::Connection m_fetched;
     bool m_isCancelled = false;

@@ -10,13 +10,19 @@
 
 namespace {
 
-bool read(const QByteArray &bytes, ImportedTree &tree)
+bool readRows(const QByteArray &bytes, ImportedTree &tree, std::vector<TaskTable::Row> &rows)
 {
     const std::optional<QString> text = ExchangeText::decode(bytes, tree);
     if (!text)
         return false;
-    const std::vector<TaskTable::Row> rows = CsvTable::parse(*text, tree);
-    return tree.error().isEmpty() && TaskTable::read(rows, tree, TaskTable::Texts::Guarded);
+    rows = CsvTable::parse(*text, tree);
+    return tree.error().isEmpty();
+}
+
+bool read(const QByteArray &bytes, ImportedTree &tree)
+{
+    std::vector<TaskTable::Row> rows;
+    return readRows(bytes, tree, rows) && TaskTable::read(rows, tree, TaskTable::Texts::Guarded);
 }
 
 QByteArray write(const TreeItem &head)
@@ -43,4 +49,5 @@ const ExchangeFormat ExchangeFormats::csv{
     "title children uuid showid detail type status progress priority url mgrname mgrid "
     "creatorname creatorid followers createdate planenddate",
     read,
-    write};
+    write,
+    readRows};

@@ -95,26 +95,57 @@ QByteArray bytesOf(const TreeItem &head, Format format, QString *error)
     return ExchangeFormats::of(format).write(head);
 }
 
-/** Reads @p device; @p take gets what is wanted out of the tree, or null. */
+/** All bytes of @p device; null when there are too many, or none at all. */
+QByteArray bytesIn(QIODevice &device, QString *error)
+{
+    const QByteArray bytes = readUpTo(device, DiagramExchange::maximalBytes + 1);
+    if (bytes.size() > DiagramExchange::maximalBytes) {
+        fail(error, DiagramExchange::tr("it is larger than %1 MiB")
+                        .arg(DiagramExchange::maximalBytes >> 20));
+        return QByteArray();
+    }
+    if (bytes.isEmpty()) {
+        fail(error, DiagramExchange::tr("it is empty"));
+        return QByteArray();
+    }
+    return bytes;
+}
+
+/** Opens the file @p fileName for reading; false, with an error, when that fails. */
+bool openFile(QFile &file, const QString &fileName, QString *error)
+{
+    const QFileInfo info(fileName);
+    file.setFileName(fileName);
+    if (info.isDir())
+        fail(error, DiagramExchange::tr("it is a folder"));
+    else if (!info.exists())
+        fail(error, DiagramExchange::tr("there is no such file"));
+    else if (!file.open(QIODevice::ReadOnly))
+        fail(error, file.errorString());
+    else
+        return true;
+    return false;
+}
+
+using Take = std::unique_ptr<TreeItem> (ImportedTree::*)();
+
+/** What takes a whole diagram out of a tree. */
+Take takeOf(Format format)
+{
+    return format == Format::Json ? &ImportedTree::takeAsItStands : &ImportedTree::takeCompleted;
+}
+
+/** Reads @p device into @p tree; @p take gets what is wanted out of it, or null. */
 std::unique_ptr<TreeItem> readTree(QIODevice &device, Format format, QString *error,
-                                   ExchangeReport *report,
-                                   std::unique_ptr<TreeItem> (ImportedTree::*take)())
+                                   ExchangeReport *report, Take take, ImportedTree &tree)
 {
     if (!DiagramExchange::canRead(format)) {
         fail(error, DiagramExchange::tr("that format can only be written"));
         return nullptr;
     }
-    const QByteArray bytes = readUpTo(device, DiagramExchange::maximalBytes + 1);
-    if (bytes.size() > DiagramExchange::maximalBytes) {
-        fail(error, DiagramExchange::tr("it is larger than %1 MiB")
-                        .arg(DiagramExchange::maximalBytes >> 20));
+    const QByteArray bytes = bytesIn(device, error);
+    if (bytes.isEmpty())
         return nullptr;
-    }
-    if (bytes.isEmpty()) {
-        fail(error, DiagramExchange::tr("it is empty"));
-        return nullptr;
-    }
-    ImportedTree tree;
     std::unique_ptr<TreeItem> taken;
     if (ExchangeFormats::of(format).read(bytes, tree))
         taken = (tree.*take)();
@@ -211,53 +242,64 @@ QString DiagramExchange::exportFilter()
 std::unique_ptr<TreeItem> DiagramExchange::read(QIODevice &device, Format format, QString *error,
                                                 ExchangeReport *report)
 {
-    return readTree(device, format, error, report,
-                    format == Format::Json ? &ImportedTree::takeAsItStands
-                                           : &ImportedTree::takeCompleted);
+    ImportedTree tree;
+    return readTree(device, format, error, report, takeOf(format), tree);
 }
 
 std::unique_ptr<TreeItem> DiagramExchange::readBranches(QIODevice &device, Format format,
                                                         QString *error, ExchangeReport *report)
 {
-    return readTree(device, format, error, report, &ImportedTree::takeBranches);
+    ImportedTree tree;
+    return readTree(device, format, error, report, &ImportedTree::takeBranches, tree);
 }
 
 std::unique_ptr<TreeItem> DiagramExchange::readFile(const QString &fileName, Format format,
-                                                    QString *error, ExchangeReport *report)
+                                                    QString *error, ExchangeReport *report,
+                                                    const TableMapping *mapping)
 {
-    const QFileInfo info(fileName);
-    QFile file(fileName);
-    if (info.isDir())
-        fail(error, tr("it is a folder"));
-    else if (!info.exists())
-        fail(error, tr("there is no such file"));
-    else if (!file.open(QIODevice::ReadOnly))
-        fail(error, file.errorString());
-    else
-        return read(file, format, error, report);
-    return nullptr;
+    QFile file;
+    ImportedTree tree;
+    tree.setMapping(mapping);
+    return openFile(file, fileName, error)
+               ? readTree(file, format, error, report, takeOf(format), tree)
+               : nullptr;
+}
+
+std::optional<TableMapping> DiagramExchange::tableMapping(const QString &fileName, Format format,
+                                                          QString *error)
+{
+    QFile file;
+    const auto readRows = ExchangeFormats::of(format).readRows;
+    if (!readRows || !openFile(file, fileName, error))
+        return std::nullopt;
+    const QByteArray bytes = bytesIn(file, error);
+    std::vector<TaskTable::Row> rows;
+    ImportedTree tree;
+    if (bytes.isEmpty())
+        return std::nullopt;
+    if (!readRows(bytes, tree, rows)) {
+        fail(error, tree.error());
+        return std::nullopt;
+    }
+    return TaskTable::mappingOf(rows);
 }
 
 ExchangeReport DiagramExchange::lossesOf(const TreeItem &head, Format format)
 {
     ExchangeReport report;
     const QStringList kept = keptKeys(format);
-    std::vector<const SubjectAttributes::Attribute *> lost;
-    for (const SubjectAttributes::Attribute &attribute : SubjectAttributes::all()) {
-        // The identity is no content, and made anew.
-        if (attribute.key != JsonNodes::uuidKey && !kept.contains(attribute.key))
-            lost.push_back(&attribute);
-    }
-    const auto keepsStatus = ExchangeFormats::of(format).keepsStatus;
+    const auto keeps = ExchangeFormats::of(format).keeps;
     const bool losesStyle = !kept.contains(JsonNodes::spearStyleKey);
     OutlineWalk::walk(head, [&](const TreeItem &subject, int) {
-        for (const SubjectAttributes::Attribute *attribute : lost) {
-            if (!attribute->text(subject).isEmpty())
+        for (const SubjectAttributes::Attribute &attribute : SubjectAttributes::all()) {
+            const QLatin1String key = attribute.key;
+            // The identity is no content, and made anew.
+            const bool isKept =
+                key == JsonNodes::uuidKey || (keeps ? keeps(subject, key) : kept.contains(key));
+            if (!isKept && !attribute.text(subject).isEmpty())
                 report.add(ExchangeReport::Kind::LeftOut,
-                           QLatin1Char('"') + attribute->key + QLatin1Char('"'));
+                           QLatin1Char('"') + key + QLatin1Char('"'));
         }
-        if (keepsStatus && subject.status() != -1 && !keepsStatus(subject.status()))
-            report.add(ExchangeReport::Kind::LeftOut, QStringLiteral("\"status\""));
         if (losesStyle && subject.spearStyle())
             report.add(ExchangeReport::Kind::Appearance, tr("a style"));
     });

@@ -16,6 +16,7 @@
 class ExchangeReport;
 class QIODevice;
 class TreeItem;
+struct TableMapping;
 
 /**
  * Reads and writes diagrams in the formats of other programs, and in the diagram format itself.
@@ -105,10 +106,17 @@ public:
     static std::unique_ptr<TreeItem> readBranches(QIODevice &device, Format format,
                                                   QString *error = nullptr,
                                                   ExchangeReport *report = nullptr);
-    /** As read(), from the file @p fileName. */
+    /** As read(), from the file @p fileName. The columns of a table stand for what @p mapping says,
+     * where there is one. */
     static std::unique_ptr<TreeItem> readFile(const QString &fileName, Format format,
                                               QString *error = nullptr,
-                                              ExchangeReport *report = nullptr);
+                                              ExchangeReport *report = nullptr,
+                                              const TableMapping *mapping = nullptr);
+
+    /** What the columns of the table in the file @p fileName stand for; nothing, with an error,
+     * when it cannot be read, and nothing without one when @p format has no columns. */
+    static std::optional<TableMapping> tableMapping(const QString &fileName, Format format,
+                                                    QString *error = nullptr);
 
     /** What of @p head and everything below it is left out when it is written in @p format. Linear
      * in the number of subjects. */

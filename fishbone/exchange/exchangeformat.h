@@ -4,6 +4,7 @@
 #pragma once
 
 #include <fishbone/exchange/diagramexchange.h>
+#include <fishbone/exchange/tasktable.h>
 
 #include <QByteArray>
 
@@ -31,8 +32,12 @@ struct ExchangeFormat
     bool (*read)(const QByteArray &bytes, ImportedTree &tree);
     /** The bytes of a tree of a bounded depth. Null for a format that is only read. */
     QByteArray (*write)(const TreeItem &head);
-    /** Which statuses come back, where only some do; null where all or none do, as kept says. */
-    bool (*keepsStatus)(int status) = nullptr;
+    /** Reads the rows of a table; null for a format that is none. */
+    bool (*readRows)(const QByteArray &bytes, ImportedTree &tree,
+                     std::vector<TaskTable::Row> &rows) = nullptr;
+    /** Whether the value of the field @p key comes back; null where kept says that for all values.
+     */
+    bool (*keeps)(const TreeItem &subject, QLatin1String key) = nullptr;
 };
 
 namespace ExchangeFormats {

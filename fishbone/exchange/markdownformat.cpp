@@ -7,20 +7,43 @@
 #include <fishbone/exchange/markdownmarks.h>
 #include <fishbone/exchange/markdownreader.h>
 #include <fishbone/exchange/outlinewalk.h>
+#include <fishbone/model/jsonnodes.h>
 
 namespace {
 
 /** Stands for an empty title: a mark alone could be taken for the underline of a heading. */
 const QLatin1String emptyTitle("<!-- -->");
 
+/** Whether the short id of a subject is the number of an issue, which stands in front of the title
+ * of a task. */
+bool hasIssue(const TreeItem &subject)
+{
+    return !MarkdownMarks::boxOfStatus(subject.status()).isNull() && !subject.showid().isEmpty() &&
+           !subject.title().isEmpty() &&
+           MarkdownMarks::issueLength(subject.showid()) == subject.showid().size();
+}
+
+/** The title or link behind the box of a task. */
+QString contentOf(const TreeItem &subject)
+{
+    if (!subject.url().isEmpty())
+        return MarkdownInline::link(subject.title(), subject.url());
+    if (subject.title().isEmpty())
+        return emptyTitle;
+    const QString text = MarkdownInline::escaped(subject.title());
+    if (MarkdownMarks::issueLength(text) == 0)
+        return text;
+    // The beginning of the title would be taken for the number of an issue.
+    return QStringLiteral("&#%1;").arg(text.at(0).unicode()) + text.mid(1);
+}
+
 QString titleOf(const TreeItem &subject)
 {
     const QChar box = MarkdownMarks::boxOfStatus(subject.status());
-    const QString before = box.isNull() ? QString() : QStringLiteral("[%1] ").arg(box);
-    if (!subject.url().isEmpty())
-        return before + MarkdownInline::link(subject.title(), subject.url());
-    return before +
-           (subject.title().isEmpty() ? emptyTitle : MarkdownInline::escaped(subject.title()));
+    if (box.isNull())
+        return contentOf(subject);
+    const QString issue = hasIssue(subject) ? subject.showid() + QLatin1Char(' ') : QString();
+    return QStringLiteral("[%1] ").arg(box) + issue + contentOf(subject);
 }
 
 /** A line that begins with @p mark, which stands alone before an empty text. */
@@ -66,9 +89,13 @@ QByteArray write(const TreeItem &head)
     return text.toUtf8();
 }
 
-bool keepsStatus(int status)
+bool keeps(const TreeItem &subject, QLatin1String key)
 {
-    return !MarkdownMarks::boxOfStatus(status).isNull();
+    if (key == JsonNodes::statusKey)
+        return !MarkdownMarks::boxOfStatus(subject.status()).isNull();
+    if (key == JsonNodes::showidKey)
+        return hasIssue(subject);
+    return key == JsonNodes::detailKey || key == JsonNodes::urlKey;
 }
 
 } // namespace
@@ -81,4 +108,5 @@ const ExchangeFormat ExchangeFormats::markdown{
     "title children detail url status",
     read,
     write,
-    keepsStatus};
+    nullptr,
+    keeps};

@@ -101,6 +101,13 @@ int statusOfBox(QChar mark)
     return -1;
 }
 
+int issueLength(const QString &title)
+{
+    static const QRegularExpression issue(
+        QStringLiteral("^(?:[\\w.-]{1,100}(?:/[\\w.-]{1,100}){1,5})?[#!]\\d{1,9}(?=\\s|$)"));
+    return int(issue.match(title).capturedLength());
+}
+
 QChar boxOfStatus(int status)
 {
     for (const Box &box : boxes) {

@@ -26,6 +26,12 @@ int fenceLength(const QString &text);
 int boxLength(const QString &title);
 /** The status that the mark in a box stands for. */
 int statusOfBox(QChar mark);
+/**
+ * The length of the number of an issue that the title of a task begins with, "#12" or
+ * "group/project!12", blanks behind it left out; 0 when there is none.
+ */
+int issueLength(const QString &title);
+
 /** The mark in the box of a task with that status; null when none says it. */
 QChar boxOfStatus(int status);
 

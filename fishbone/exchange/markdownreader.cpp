@@ -129,7 +129,7 @@ bool MarkdownReader::take()
         return true;
     if (beginsCode())
         return flush();
-    if (text.isEmpty()) {
+    if (text.isEmpty() || MarkdownMarks::fenceLength(text) > 0) {
         m_followsBlank = true;
         m_titleMayGoOn = false;
         return flush();
@@ -170,12 +170,22 @@ QString MarkdownReader::withoutComments(const QString &text, qint64 line)
     }
 }
 
+/** Whether the line begins or ends a list of tasks, which is in a fence but no code. */
+bool MarkdownReader::isTaskListFence(const QString &text, int length)
+{
+    const QString name = text.mid(length).trimmed();
+    const bool isFence = name == QLatin1String("[tasklist]") || (m_isInTaskList && name.isEmpty());
+    if (isFence)
+        m_isInTaskList = !name.isEmpty();
+    return isFence;
+}
+
 /** Whether the line begins a block of code. */
 bool MarkdownReader::beginsCode()
 {
     const QString &text = m_lines.text();
     const int length = MarkdownMarks::fenceLength(text);
-    if (length == 0)
+    if (length == 0 || isTaskListFence(text, length))
         return false;
     m_fence = text.left(length);
     m_language = text.mid(length).trimmed();
@@ -309,6 +319,8 @@ bool MarkdownReader::addSubject(int rank, const QString &markdown, qint64 line)
 void MarkdownReader::finishSubject()
 {
     TreeItem *const subject = m_tree.last();
+    if (subject && m_status >= 0)
+        takeIssue(*subject);
     if (subject && !m_title.isEmpty()) {
         const MarkdownInline::Content title =
             MarkdownInline::read(m_title.join(QLatin1Char(' ')), Kind::Title, m_definitions);
@@ -326,6 +338,18 @@ void MarkdownReader::finishSubject()
     m_detail.clear();
     m_status = -1;
     m_followsBlank = false;
+}
+
+/** Takes the number of an issue in front of the title of a task. */
+void MarkdownReader::takeIssue(TreeItem &subject)
+{
+    QString &title = m_title.first();
+    const int length = MarkdownMarks::issueLength(title);
+    if (length == 0)
+        return;
+    subject.setShowid(title.left(length));
+    if (length < title.size()) // else it is all the title there is
+        title = title.mid(length).trimmed();
 }
 
 void MarkdownReader::addDetail(const QString &text)

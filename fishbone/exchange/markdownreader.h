@@ -10,6 +10,7 @@
 #include <QStringList>
 
 class ImportedTree;
+class TreeItem;
 
 /** Builds a tree of the lines of a Markdown document: headings, lists, and what stands between. */
 class MarkdownReader
@@ -33,6 +34,7 @@ private:
     void findDefinitions(const QString &text);
     bool take();
     bool takeCode();
+    bool isTaskListFence(const QString &text, int length);
     bool beginsCode();
     bool endCode();
     bool takeUnderline();
@@ -42,6 +44,7 @@ private:
     bool flush();
     bool addSubject(int rank, const QString &markdown, qint64 line);
     void finishSubject();
+    void takeIssue(TreeItem &subject);
     void addDetail(const QString &text);
     QString withoutComments(const QString &text, qint64 line);
     QString readDetail(const QString &markdown) const;
@@ -65,4 +68,5 @@ private:
     bool m_titleMayGoOn = false; ///< in the next line
     bool m_followsBlank = false;
     bool m_isInComment = false;
+    bool m_isInTaskList = false;
 };

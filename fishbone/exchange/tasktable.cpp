@@ -91,7 +91,7 @@ private:
         if (hasParents())
             linkByParents();
         else if (level >= 0)
-            linkByRanks([&](const Node &node) { return cell(node.row, level).trimmed().toInt(); });
+            linkByRanks([&](const Node &node) { return levelFrom(cell(node.row, level)); });
         else if (outline >= 0)
             linkByRanks([&](const Node &node) {
                 return int(cell(node.row, outline).trimmed().count(QLatin1Char('.')));
@@ -124,6 +124,13 @@ private:
                 return column;
         }
         return -1;
+    }
+
+    /** A level, which some spreadsheets write as 2.0. */
+    static int levelFrom(const QString &text)
+    {
+        constexpr double deepest = 1e6;
+        return int(qBound(-deepest, text.trimmed().toDouble(), deepest));
     }
 
     static int blanksBefore(const QString &text)

@@ -10,8 +10,13 @@
 
 namespace {
 
+void noteSheet(const QString &name, ImportedTree &tree)
+{
+    tree.note(ExchangeReport::Kind::LeftOut, DiagramExchange::tr("the sheet \"%1\"").arg(name));
+}
+
 /** The rows of the first sheet with a column of titles, or of the first one when there is none. */
-bool readRows(XlsxReader &workbook, ImportedTree &tree, std::vector<TaskTable::Row> &rows)
+bool readSheet(XlsxReader &workbook, ImportedTree &tree, std::vector<TaskTable::Row> &rows)
 {
     const QStringList sheets = workbook.sheets();
     int chosen = -1;
@@ -21,25 +26,30 @@ bool readRows(XlsxReader &workbook, ImportedTree &tree, std::vector<TaskTable::R
             return false;
         const bool isTable = TaskTable::headerOf(found) >= 0;
         if (chosen < 0 && (isTable || sheet == 0)) {
+            if (!rows.empty())
+                noteSheet(sheets.constFirst(), tree);
             rows = found;
             chosen = isTable ? sheet : -1;
         } else if (!found.empty() && !XlsxWriter::isOverview(found)) {
-            tree.note(ExchangeReport::Kind::LeftOut,
-                      DiagramExchange::tr("the sheet \"%1\"").arg(sheets.at(sheet)));
+            noteSheet(sheets.at(sheet), tree);
         }
     }
     return true;
 }
 
-bool read(const QByteArray &bytes, ImportedTree &tree)
+bool readRows(const QByteArray &bytes, ImportedTree &tree, std::vector<TaskTable::Row> &rows)
 {
     ZipReader archive(bytes, tree);
     if (!archive.isOpen())
         return false;
     XlsxReader workbook(archive, tree);
+    return workbook.open() && readSheet(workbook, tree, rows);
+}
+
+bool read(const QByteArray &bytes, ImportedTree &tree)
+{
     std::vector<TaskTable::Row> rows;
-    return workbook.open() && readRows(workbook, tree, rows) &&
-           TaskTable::read(rows, tree, TaskTable::Texts::AsTheyAre);
+    return readRows(bytes, tree, rows) && TaskTable::read(rows, tree, TaskTable::Texts::AsTheyAre);
 }
 
 } // namespace
@@ -52,4 +62,5 @@ const ExchangeFormat ExchangeFormats::xlsx{
     "title children uuid showid detail type status progress priority url mgrname mgrid "
     "creatorname creatorid followers createdate planenddate",
     read,
-    XlsxWriter::write};
+    XlsxWriter::write,
+    readRows};

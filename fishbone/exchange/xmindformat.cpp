@@ -41,7 +41,8 @@ bool read(const QByteArray &bytes, ImportedTree &tree)
     ZipReader archive(bytes, tree);
     if (!archive.isOpen())
         return false;
-    noteOtherFiles(archive.names(), tree);
+    if (archive.contains(jsonName) || archive.contains(xmlName))
+        noteOtherFiles(archive.names(), tree);
     // Newer programs add a page in the older format that only says to get a newer program.
     if (archive.contains(jsonName)) {
         const std::optional<QByteArray> json = archive.file(jsonName);

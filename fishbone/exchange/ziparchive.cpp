@@ -77,13 +77,16 @@ bool addFile(zip_t *archive, const ZipWriter::File &file)
 } // namespace
 
 ZipReader::ZipReader(const QByteArray &bytes, ImportedTree &tree)
-    : m_tree(tree)
+    : m_bytes(bytes)
+    , m_tree(tree)
 {
     zip_error_t error;
     zip_error_init(&error);
     zip_source_t *const source =
-        zip_source_buffer_create(bytes.constData(), zip_uint64_t(bytes.size()), 0, &error);
-    m_zip = source ? zip_open_from_source(source, ZIP_RDONLY, &error) : nullptr;
+        zip_source_buffer_create(m_bytes.constData(), zip_uint64_t(m_bytes.size()), 0, &error);
+    // Nothing at all would be an archive without files.
+    m_zip =
+        source && !m_bytes.isEmpty() ? zip_open_from_source(source, ZIP_RDONLY, &error) : nullptr;
     if (!m_zip) {
         m_tree.fail(DiagramExchange::tr("it is not a zip archive, as files of this format are (%1)")
                         .arg(QString::fromUtf8(zip_error_strerror(&error))));

@@ -32,7 +32,7 @@ public:
     /** How many times as large as in the archive a file may be, when it is larger than a MiB. */
     static constexpr qint64 maximalRatio = 500;
 
-    /** Opens the archive in @p bytes, which stay; what is wrong fails @p tree. */
+    /** Opens the archive in @p bytes; what is wrong fails @p tree. */
     ZipReader(const QByteArray &bytes, ImportedTree &tree);
     ~ZipReader();
 
@@ -50,6 +50,7 @@ private:
     std::optional<QByteArray> readEntry(const QString &name, int index);
     std::optional<QByteArray> fail(const QString &name, const QString &reason);
 
+    const QByteArray m_bytes; ///< which the archive reads from
     ImportedTree &m_tree;
     zip *m_zip = nullptr;
     QStringList m_names;

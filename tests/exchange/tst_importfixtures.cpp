@@ -7,10 +7,12 @@
 
 #include <fishbone/exchange/exchangereport.h>
 #include <fishbone/exchange/subjectattributes.h>
+#include <fishbone/exchange/ziparchive.h>
 #include <fishbone/model/jsonnodes.h>
 
 #include <QDateTime>
 #include <QDir>
+#include <QDirIterator>
 #include <QFile>
 #include <QtTest>
 
@@ -123,6 +125,7 @@ private Q_SLOTS:
 private:
     static QStringList fixturesOf(Format format);
     static QByteArray bytesOf(const QString &path);
+    static QByteArray archiveOf(const QString &path);
 };
 
 /// The names of the files, and of the folders that hold the parts of one, without expectations.
@@ -137,8 +140,24 @@ QStringList TestImportFixtures::fixturesOf(Format format)
 
 QByteArray TestImportFixtures::bytesOf(const QString &path)
 {
+    if (QFileInfo(path).isDir())
+        return archiveOf(path);
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+/// The files of a folder as the archive that they stand for.
+QByteArray TestImportFixtures::archiveOf(const QString &path)
+{
+    std::vector<ZipWriter::File> files;
+    QStringList names;
+    QDirIterator found(path, QDir::Files, QDirIterator::Subdirectories);
+    while (found.hasNext())
+        names.append(found.next());
+    names.sort();
+    for (const QString &name : qAsConst(names))
+        files.emplace_back(QDir(path).relativeFilePath(name), bytesOf(name));
+    return ZipWriter::archive(files);
 }
 
 void TestImportFixtures::initTestCase()

@@ -102,7 +102,7 @@ void TestCommandLineFailures::shouldSayWhyADocumentCannotBeRead_data()
     row("broken", "{\"title\": \"a\",\n\n \"uuid\": }", "line 3");
     row("cut off", "{\"title\": \"a\"", "not a JSON document");
     row("no JSON", "<html></html>", "not a JSON document");
-    row("an array", "[{\"title\": \"a\"}]", "no diagram");
+    row("an array", "[{\"title\": \"a\"}]", "a JSON list");
     row("an empty object", "{}", "no diagram");
     QTest::newRow("folder") << QStringLiteral(".") << QByteArray() << QStringLiteral("folder");
 }
