@@ -5,9 +5,9 @@
 #include <fishbone/drawing/clearlayout.h>
 
 #include <tests/drawing/cleargeometry.h>
-#include <tests/drawing/clearpainter.h>
 #include <tests/drawing/cleartrees.h>
 #include <tests/program/testprogram.h>
+#include <tests/support/clearpictures.h>
 
 #include <QtTest>
 
@@ -23,12 +23,16 @@ ClearFonts fonts()
 }
 
 /// Pictures of what was laid out, for whoever wants to look at them.
-void show(const ClearLayout &layout, const QString &name, const std::vector<int> &statuses = {})
+void show(const ClearLayout &layout, const QString &name, const std::vector<ClearSubject> &subjects,
+          const std::vector<int> &statuses = {})
 {
     const QByteArray folder = qgetenv("FISHBONE_PICTURES");
-    if (!folder.isEmpty() && layout.bounds().width() < 5000)
-        QVERIFY(ClearPainter::paint(layout, statuses, 1.5)
-                    .save(QString::fromLocal8Bit(folder) + u'/' + name + QStringLiteral(".png")));
+    if (folder.isEmpty() || layout.bounds().width() > 5000)
+        return;
+    const ClearPictureContent content = ClearPictures::contentOf(subjects, statuses);
+    const ClearPicture picture(content, layout, fonts(), ClearTheme());
+    QVERIFY(ClearPictures::paint(picture, 1.5)
+                .save(QString::fromLocal8Bit(folder) + u'/' + name + QStringLiteral(".png")));
 }
 
 /// A chain of @p count subjects.
@@ -122,11 +126,11 @@ void TestClearLayout::shouldBeAsLargeAsPromisedOnASlide()
     const ClearOptions best = ClearArrangement::bestFor(tree, fonts(), base, slide, cache, legend);
     const ClearLayout layout(tree, fonts(), best, cache, legend);
 
-    show(layout, name, loaded.statuses);
+    show(layout, name, loaded.subjects, loaded.statuses);
     const qreal scale = ClearArrangement::scaleOn(slide, layout.bounds());
     qInfo("%.1f px, %.0f x %.0f, wrap %g, %d lines, sides %d", scale * ClearMeasure::causeSize,
-          layout.bounds().width(), layout.bounds().height(), best.wrap.limit,
-          best.wrap.lines, int(best.sides));
+          layout.bounds().width(), layout.bounds().height(), best.wrap.limit, best.wrap.lines,
+          int(best.sides));
     QVERIFY2(scale * ClearMeasure::causeSize >= pixels,
              qPrintable(QString::number(scale * ClearMeasure::causeSize)));
     QCOMPARE(layout.cutTitles(), 0);
@@ -168,7 +172,8 @@ void TestClearLayout::shouldKeepPartsApart()
     kind.subjects = subjects;
     kind.categories = categories;
     kind.depth = depth;
-    const ClearTree tree(ClearTrees::random(quint32(seed), kind));
+    const std::vector<ClearSubject> given = ClearTrees::random(quint32(seed), kind);
+    const ClearTree tree(given);
     ClearOptions options;
     options.wrap.limit = wrap;
     options.sides = ClearSides(sides);
@@ -177,7 +182,7 @@ void TestClearLayout::shouldKeepPartsApart()
 
     const ClearLayout layout(tree, fonts(), options, cache);
 
-    show(layout, QStringLiteral("random-%1").arg(seed));
+    show(layout, QStringLiteral("random-%1").arg(seed), given);
     QCOMPARE(ClearGeometry(tree, layout).faults().join(u'\n'), QString());
 }
 
@@ -196,7 +201,8 @@ void TestClearLayout::shouldKeepPartsOfPagesApart()
     ClearTrees::Kind kind;
     kind.subjects = subjects;
     kind.categories = qMin(subjects - 1, 7);
-    const ClearTree tree(ClearTrees::random(quint32(seed), kind));
+    const std::vector<ClearSubject> given = ClearTrees::random(quint32(seed), kind);
+    const ClearTree tree(given);
     ClearOptions base;
     base.isHeadLeft = subjects % 3 == 0;
     ClearTextCache cache;
@@ -204,7 +210,7 @@ void TestClearLayout::shouldKeepPartsOfPagesApart()
     const ClearOptions best = ClearArrangement::bestFor(tree, fonts(), base, slide, cache);
     const ClearLayout layout(tree, fonts(), best, cache);
 
-    show(layout, QStringLiteral("page-%1").arg(subjects));
+    show(layout, QStringLiteral("page-%1").arg(subjects), given);
     QCOMPARE(best.isHeadLeft, base.isHeadLeft);
     QCOMPARE(ClearGeometry(tree, layout).faults().join(u'\n'), QString());
 }

@@ -1,0 +1,279 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#include <fishbone/exchange/svgpicture.h>
+
+#include <fishbone/drawing/clearpicture.h>
+#include <fishbone/exchange/svgsymbol.h>
+
+#include <QIODevice>
+#include <QUrl>
+
+#include <algorithm>
+
+namespace {
+constexpr int bufferSize = 1 << 16;
+
+QByteArray number(qreal value)
+{
+    QByteArray out = QByteArray::number(value, 'f', 1);
+    if (out.endsWith(".0"))
+        out.chop(2);
+    return out == "-0" ? QByteArray("0") : out;
+}
+
+QByteArray point(const QPointF &at)
+{
+    return number(at.x()) + ' ' + number(at.y());
+}
+
+/** ` name="#rrggbb"`, with the opacity when there is one. */
+QByteArray paint(const char *name, const QColor &color)
+{
+    if (!color.isValid() || color.alpha() == 0)
+        return QByteArray(" ") + name + "=\"none\"";
+    QByteArray out = QByteArray(" ") + name + "=\"" + color.name().toLatin1() + '"';
+    if (color.alpha() < 255)
+        out += QByteArray(" ") + name + "-opacity=\"" + number(color.alphaF()) + '"';
+    return out;
+}
+
+QByteArray pathData(const QPainterPath &path)
+{
+    QByteArray out;
+    for (int i = 0; i < path.elementCount(); ++i) {
+        const QPainterPath::Element element = path.elementAt(i);
+        if (element.isMoveTo())
+            out += 'M';
+        else if (element.isLineTo())
+            out += 'L';
+        else if (element.type == QPainterPath::CurveToElement)
+            out += 'C';
+        else
+            out += ' ';
+        out += point(element);
+    }
+    return out + 'Z';
+}
+
+/** The font of a text, as far as it is not that of the file. */
+QByteArray fontOf(const ClearFont &font)
+{
+    QByteArray out = " font-size=\"" + number(font.pixels()) + '"';
+    if (font.font().weight() >= QFont::DemiBold)
+        out += " font-weight=\"bold\"";
+    if (font.font().italic())
+        out += " font-style=\"italic\"";
+    return out;
+}
+} // namespace
+
+QByteArray SvgPicture::escaped(const QString &text)
+{
+    QString out;
+    out.reserve(text.size());
+    for (int i = 0; i < int(text.size()); ++i) {
+        const QChar c = text.at(i);
+        const ushort code = c.unicode();
+        if (c.isHighSurrogate() && i + 1 < int(text.size()) && text.at(i + 1).isLowSurrogate()) {
+            out += c;
+            out += text.at(++i);
+        } else if (c.isSurrogate() || code == 0xfffe || code == 0xffff) {
+            continue;
+        } else if (code < 0x20 || code == 0x7f) {
+            out += u' ';
+        } else if (c == u'&') {
+            out += QLatin1String("&amp;");
+        } else if (c == u'<') {
+            out += QLatin1String("&lt;");
+        } else if (c == u'>') {
+            out += QLatin1String("&gt;");
+        } else if (c == u'"') {
+            out += QLatin1String("&quot;");
+        } else if (c == u'\'') {
+            out += QLatin1String("&#39;");
+        } else {
+            out += c;
+        }
+    }
+    return out.toUtf8();
+}
+
+QString SvgPicture::safeLink(const QString &link)
+{
+    const QUrl url(link.trimmed());
+    const QString scheme = url.scheme(); // in lower case
+    const bool isWeb = scheme == QLatin1String("http") || scheme == QLatin1String("https");
+    if (!url.isValid() || (isWeb && url.host().isEmpty()))
+        return QString();
+    if (!isWeb && scheme != QLatin1String("mailto"))
+        return QString();
+    return QString::fromLatin1(url.toEncoded());
+}
+
+bool SvgPicture::write(const ClearPicture &picture, const SvgPictureOptions &options,
+                       QIODevice &device)
+{
+    SvgPicture writer(device);
+    writer.begin(picture, options);
+    picture.describe(writer);
+    writer.put("</svg>\n");
+    writer.flush();
+    return writer.m_isGood;
+}
+
+void SvgPicture::begin(const ClearPicture &picture, const SvgPictureOptions &options)
+{
+    const qreal m = options.margin;
+    const QRectF rect = picture.bounds().adjusted(-m, -m, m, m);
+    if (!options.isPart)
+        put("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n");
+    put("<svg xmlns=\"http://www.w3.org/2000/svg\" xmlns:xlink=\"http://www.w3.org/1999/xlink\""
+        " version=\"1.1\" viewBox=\"" +
+        point(rect.topLeft()) + ' ' + number(rect.width()) + ' ' + number(rect.height()) +
+        "\" width=\"" + number(rect.width()) + "\" height=\"" + number(rect.height()) +
+        "\" role=\"img\" stroke-linecap=\"round\" font-family=\"&#39;" +
+        escaped(picture.fonts().ofLevel(2).font().family()) +
+        "&#39;, &#39;Noto Sans&#39;, &#39;Noto Sans CJK SC&#39;, &#39;DejaVu Sans&#39;,"
+        " sans-serif\">\n");
+    if (!options.title.isEmpty())
+        put("<title>" + escaped(options.title) + "</title>\n");
+    if (!options.description.isEmpty())
+        put("<desc>" + escaped(options.description) + "</desc>\n");
+    put("<defs>\n");
+    for (const ClearSubjectLook &look : picture.content().looks)
+        defineIcon(look.icon);
+    for (const QString &icon : picture.content().legendIcons)
+        defineIcon(icon);
+    defineIcon(picture.content().linkIcon);
+    put("</defs>\n");
+    if (options.background.isValid() && options.background.alpha() > 0)
+        put("<rect x=\"" + number(rect.x()) + "\" y=\"" + number(rect.y()) + "\" width=\"" +
+            number(rect.width()) + "\" height=\"" + number(rect.height()) + '"' +
+            paint("fill", options.background) + "/>\n");
+}
+
+/** Writes the symbol of an icon, once; what is no drawing that is understood becomes a dot. */
+void SvgPicture::defineIcon(const QString &file)
+{
+    if (file.isEmpty() || m_icons.contains(file))
+        return;
+    const QByteArray id = "icon" + QByteArray::number(m_icons.size());
+    m_icons.insert(file, id);
+    m_ids.insert(id);
+    put("<symbol id=\"" + id + '"' + SvgSymbol(file).markup() + "</symbol>\n");
+}
+
+void SvgPicture::put(const QByteArray &bytes)
+{
+    m_buffer += bytes;
+    if (m_buffer.size() > bufferSize)
+        flush();
+}
+
+void SvgPicture::flush()
+{
+    m_isGood = m_isGood && m_device.write(m_buffer) == m_buffer.size();
+    m_buffer.clear();
+}
+
+/** An id that no other part of the file has: what is wanted, if it will do. */
+QByteArray SvgPicture::idOf(int index, const QString &wanted)
+{
+    QByteArray id = "s";
+    for (const QChar c : wanted.left(64)) {
+        const bool isPlain = (c >= u'a' && c <= u'z') || (c >= u'A' && c <= u'Z') ||
+                             (c >= u'0' && c <= u'9') || c == u'-';
+        if (isPlain)
+            id += char(c.unicode());
+    }
+    if (id.size() == 1 || m_ids.contains(id))
+        id = "n" + QByteArray::number(index);
+    m_ids.insert(id);
+    return id;
+}
+
+void SvgPicture::beginSubject(int index, const PictureSubject &subject)
+{
+    m_link = safeLink(subject.link);
+    put("<g id=\"" + idOf(index, subject.id) + "\">");
+}
+
+void SvgPicture::endSubject()
+{
+    if (m_hasOpenLink)
+        put("</a>");
+    m_hasOpenLink = false;
+    m_link.clear();
+    put("</g>\n");
+}
+
+/** What follows of the subject leads to its link. */
+void SvgPicture::openLink()
+{
+    if (m_link.isEmpty())
+        return;
+    put("<a xlink:href=\"" + escaped(m_link) + "\" target=\"_blank\">");
+    m_link.clear();
+    m_hasOpenLink = true;
+}
+
+void SvgPicture::line(const QLineF &line, const QColor &color, qreal width)
+{
+    put("<path d=\"M" + point(line.p1()) + 'L' + point(line.p2()) + '"' + paint("stroke", color) +
+        " stroke-width=\"" + number(width) + "\"/>");
+}
+
+void SvgPicture::shape(const QPainterPath &path, const QColor &fill, const QColor &outline,
+                       qreal width)
+{
+    QByteArray out = "<path d=\"" + pathData(path) + '"' + paint("fill", fill);
+    if (width > 0)
+        out += paint("stroke", outline) + " stroke-width=\"" + number(width) + '"';
+    put(out + "/>\n");
+}
+
+void SvgPicture::box(const QRectF &rect, qreal radius, const QColor &fill)
+{
+    put("<rect x=\"" + number(rect.x()) + "\" y=\"" + number(rect.y()) + "\" width=\"" +
+        number(rect.width()) + "\" height=\"" + number(rect.height()) + "\" rx=\"" +
+        number(radius) + '"' + paint("fill", fill) + "/>");
+}
+
+void SvgPicture::text(const ClearText &text, const QRectF &rect, ClearLabel::Side side,
+                      const QColor &color)
+{
+    openLink();
+    const bool isReversed = text.isRightToLeft();
+    // Where the text meets its bone it stays in place whatever the font.
+    const char *anchor = side == ClearLabel::Side::Center                  ? "middle"
+                         : (side == ClearLabel::Side::Right) != isReversed ? "end"
+                                                                           : nullptr;
+    QByteArray attributes = fontOf(text.font()) + paint("fill", color);
+    if (anchor)
+        attributes += QByteArray(" text-anchor=\"") + anchor + '"';
+    if (isReversed)
+        attributes += " direction=\"rtl\"";
+    for (int line = 0; line < text.lineCount(); ++line) {
+        const ClearText::Line &each = text.lines()[std::size_t(line)];
+        if (each.text.isEmpty())
+            continue;
+        QPointF base = ClearLabel::base(text, rect, side, line);
+        if (side == ClearLabel::Side::Center)
+            base.rx() += each.width / 2;
+        else if (side == ClearLabel::Side::Right)
+            base.rx() += each.width;
+        put("<text x=\"" + number(base.x()) + "\" y=\"" + number(base.y()) + '"' + attributes +
+            " textLength=\"" + number(each.width) + "\" lengthAdjust=\"spacingAndGlyphs\">" +
+            escaped(each.text) + "</text>");
+    }
+}
+
+void SvgPicture::icon(const QRectF &rect, const QString &file)
+{
+    const QByteArray id = m_icons.value(file);
+    if (id.isEmpty())
+        return;
+    put("<use xlink:href=\"#" + id + "\" x=\"" + number(rect.x()) + "\" y=\"" + number(rect.y()) +
+        "\" width=\"" + number(rect.width()) + "\" height=\"" + number(rect.height()) + "\"/>");
+}

@@ -1,0 +1,52 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <fishbone/drawing/clearpainter.h>
+#include <fishbone/drawing/clearpicture.h>
+#include <fishbone/items/taskstatusinfo.h>
+
+#include <QImage>
+#include <QPainter>
+
+#include <vector>
+
+/// Pictures of layouts, to look at and to compare.
+namespace ClearPictures {
+
+/// What a picture of \a subjects needs; \a statuses may be shorter.
+inline ClearPictureContent contentOf(const std::vector<ClearSubject> &subjects,
+                                     const std::vector<int> &statuses = {})
+{
+    ClearPictureContent content;
+    content.subjects = subjects;
+    content.linkIcon = QStringLiteral(":/fishboneDiagram/link.png");
+    for (std::size_t i = 0; i < subjects.size(); ++i) {
+        const int status = i < statuses.size() ? statuses[i] : int(tsRunning);
+        ClearSubjectLook look;
+        if (subjects[i].hasStatus)
+            look.icon = TaskStatusInfo(TaskStatus(status), 40).iconPath();
+        PictureSubject meaning;
+        meaning.title = subjects[i].title;
+        meaning.parent = subjects[i].parent;
+        content.looks.push_back(look);
+        content.meanings.push_back(meaning);
+    }
+    return content;
+}
+
+inline QImage paint(const ClearPicture &picture, qreal scale)
+{
+    const QRectF bounds = picture.bounds().adjusted(-8, -8, 8, 8);
+    QImage image((bounds.size() * scale).toSize(), QImage::Format_RGB32);
+    image.fill(picture.theme().paper());
+    QPainter painter(&image);
+    painter.scale(scale, scale);
+    painter.translate(-bounds.topLeft());
+    ClearPainter sink(painter);
+    picture.describe(sink);
+    return image;
+}
+
+} // namespace ClearPictures
