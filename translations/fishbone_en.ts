@@ -109,6 +109,37 @@
     </message>
 </context>
 <context>
+    <name>ClearContent</name>
+    <message>
+        <source>cancelled</source>
+        <translation>cancelled</translation>
+    </message>
+    <message>
+        <source>finished</source>
+        <translation>finished</translation>
+    </message>
+    <message>
+        <source>finished late</source>
+        <translation>finished late</translation>
+    </message>
+    <message>
+        <source>postponed</source>
+        <translation>postponed</translation>
+    </message>
+    <message>
+        <source>under way</source>
+        <translation>under way</translation>
+    </message>
+    <message>
+        <source>waiting</source>
+        <translation>waiting</translation>
+    </message>
+    <message>
+        <source>waiting for approval</source>
+        <translation>waiting for approval</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
     <message>
         <source>Show this help and quit.</source>
