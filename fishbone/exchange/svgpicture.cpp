@@ -124,6 +124,7 @@ bool SvgPicture::write(const ClearPicture &picture, const SvgPictureOptions &opt
 
 void SvgPicture::begin(const ClearPicture &picture, const SvgPictureOptions &options)
 {
+    m_isPart = options.isPart;
     const qreal m = options.margin;
     const QRectF rect = picture.bounds().adjusted(-m, -m, m, m);
     if (!options.isPart)
@@ -132,7 +133,8 @@ void SvgPicture::begin(const ClearPicture &picture, const SvgPictureOptions &opt
         " version=\"1.1\" viewBox=\"" +
         point(rect.topLeft()) + ' ' + number(rect.width()) + ' ' + number(rect.height()) +
         "\" width=\"" + number(rect.width()) + "\" height=\"" + number(rect.height()) +
-        "\" role=\"img\" stroke-linecap=\"round\" font-family=\"&#39;" +
+        "\" role=\"" + (options.isPart ? "tree" : "img") +
+        "\" stroke-linecap=\"round\" font-family=\"&#39;" +
         escaped(picture.fonts().ofLevel(2).font().family()) +
         "&#39;, &#39;Noto Sans&#39;, &#39;Noto Sans CJK SC&#39;, &#39;DejaVu Sans&#39;,"
         " sans-serif\">\n");
@@ -196,7 +198,19 @@ QByteArray SvgPicture::idOf(int index, const QString &wanted)
 void SvgPicture::beginSubject(int index, const PictureSubject &subject)
 {
     m_link = safeLink(subject.link);
-    put("<g id=\"" + idOf(index, subject.id) + "\">");
+    put("<g id=\"" + idOf(index, subject.id) + '"' + (m_isPart ? roleOf(subject) : QByteArray()) +
+        '>');
+}
+
+/** What a page knows of a subject. */
+QByteArray SvgPicture::roleOf(const PictureSubject &subject)
+{
+    QByteArray out = " role=\"treeitem\" tabindex=\"";
+    out += subject.parent < 0 ? "0\"" : "-1\" data-p=\"" + QByteArray::number(subject.parent) + '"';
+    const QByteArray title = escaped(subject.title);
+    const QByteArray state = subject.state.isEmpty() ? QByteArray() : ", " + escaped(subject.state);
+    return out + " aria-level=\"" + QByteArray::number(subject.level + 1) + "\" data-title=\"" +
+           title + "\" aria-label=\"" + title + state + '"';
 }
 
 void SvgPicture::endSubject()
@@ -213,7 +227,8 @@ void SvgPicture::openLink()
 {
     if (m_link.isEmpty())
         return;
-    put("<a xlink:href=\"" + escaped(m_link) + "\" target=\"_blank\">");
+    put("<a xlink:href=\"" + escaped(m_link) + "\" target=\"_blank\"" +
+        (m_isPart ? " rel=\"noopener noreferrer\" tabindex=\"-1\">" : ">"));
     m_link.clear();
     m_hasOpenLink = true;
 }

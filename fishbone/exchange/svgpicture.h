@@ -20,7 +20,9 @@ struct SvgPictureOptions
     QString description; ///< for whoever cannot see it; empty for none
     QColor background;   ///< what it is filled with; invalid for nothing
     qreal margin = 8;    ///< around the drawing
-    bool isPart = false; ///< whether it becomes part of a page, so that it needs no XML declaration
+    /** Whether it becomes part of a page: then it needs no XML declaration, and says of each
+     * subject what a script and assistive technology want to know. */
+    bool isPart = false;
 };
 
 /**
@@ -65,6 +67,7 @@ private:
     void flush();
     QByteArray idOf(int index, const QString &wanted);
     void openLink();
+    static QByteArray roleOf(const PictureSubject &subject);
 
     QIODevice &m_device;
     QByteArray m_buffer;
@@ -72,5 +75,6 @@ private:
     QSet<QByteArray> m_ids;
     QString m_link; ///< of the subject, until its text begins
     bool m_hasOpenLink = false;
+    bool m_isPart = false;
     bool m_isGood = true;
 };

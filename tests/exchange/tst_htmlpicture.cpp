@@ -1,0 +1,154 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#include <fishbone/exchange/htmlpicture.h>
+
+#include <tests/program/testprogram.h>
+#include <tests/support/clearpictures.h>
+
+#include <QBuffer>
+#include <QFile>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <QtTest>
+
+namespace {
+
+const QString hostile =
+    QStringLiteral("</script></svg><script>document.title='owned'</script>"
+                   "<img src=x onerror=\"document.title='owned'\">\" onfocus=\"x\" '<!--");
+
+/// A head, three categories and causes below them.
+ClearPictureContent content(int subjects)
+{
+    std::vector<ClearSubject> all;
+    for (int i = 0; i < subjects; ++i) {
+        ClearSubject subject;
+        subject.title = i == 5 ? hostile : QStringLiteral("Subject %1").arg(i);
+        subject.parent = i == 0 ? -1 : i % 20 == 1 ? 0 : i - (i - 1) % 20;
+        subject.hasStatus = i > 0;
+        subject.hasLink = i == 3 || i == 4;
+        all.push_back(subject);
+    }
+    ClearPictureContent made = ClearPictures::contentOf(all);
+    for (std::size_t i = 0; i < made.meanings.size(); ++i) {
+        made.meanings[i].level = i == 0 ? 0 : i % 20 == 1 ? 1 : 2;
+        made.meanings[i].state = QStringLiteral("under way");
+    }
+    if (subjects > 5) {
+        made.meanings[2].detail = QStringLiteral("Seen in the night shift ") + hostile;
+        made.meanings[3].link = QStringLiteral("https://example.org/3");
+        made.meanings[4].link = QStringLiteral("javascript:document.title='owned'");
+    }
+    return made;
+}
+
+QByteArray pageOf(const ClearPictureContent &content)
+{
+    const ClearFonts fonts(QFont(QStringLiteral("Noto Sans CJK SC")));
+    const ClearTree tree(content.subjects);
+    ClearTextCache cache;
+    const ClearLayout layout(tree, fonts, {}, cache);
+    const ClearPicture picture(content, layout, fonts, ClearTheme());
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    const bool isWritten =
+        HtmlPicture::write(picture, QStringLiteral("Effect <b>"), QStringLiteral("en"), buffer);
+    return isWritten ? buffer.data() : QByteArray();
+}
+
+} // namespace
+
+class TestHtmlPicture : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void shouldStaySmall();
+    void shouldNeedNothingElse();
+    void shouldWorkInABrowser_data();
+    void shouldWorkInABrowser();
+};
+
+void TestHtmlPicture::shouldStaySmall()
+{
+    const qint64 few = pageOf(content(1)).size();
+    const qint64 many = pageOf(content(2001)).size();
+    qInfo("%lld bytes and %lld a bone", few, (many - few) / 2000);
+    QVERIFY(few > 1000);
+    QVERIFY(few <= 100 * 1024);
+    QVERIFY((many - few) / 2000 <= 1024);
+}
+
+void TestHtmlPicture::shouldNeedNothingElse()
+{
+    const QByteArray page = pageOf(content(60));
+    QVERIFY(page.contains("default-src 'none'"));
+    QVERIFY(!page.contains("unsafe-inline"));
+    QVERIFY(!page.contains("javascript:document"));
+    QCOMPARE(page.count("<script"), 2); // its data and its own
+    QVERIFY(!page.contains("<img"));
+    const QRegularExpression loads(QStringLiteral("(src|srcset|action)\\s*=|@import|url\\("));
+    const QString text = QString::fromUtf8(page).remove(hostile);
+    QVERIFY(!text.left(text.indexOf(QLatin1String("<svg"))).contains(loads));
+}
+
+void TestHtmlPicture::shouldWorkInABrowser_data()
+{
+    QTest::addColumn<QString>("fragment");
+    QTest::addColumn<QString>("expected");
+    QTest::addColumn<int>("count");
+    QTest::newRow("ready") << QString() << QStringLiteral("data-ready=\"yes\"") << 1;
+    QTest::newRow("all are there") << QString() << QStringLiteral("role=\"treeitem\"") << 60;
+    QTest::newRow("no script of a title ran")
+        << QString() << QStringLiteral("<title>Effect &lt;b&gt;</title>") << 1;
+    QTest::newRow("folding hides what is below")
+        << QStringLiteral("#fold=1") << QStringLiteral("class=\"hidden\"") << 56;
+    QTest::newRow("and says how many")
+        << QStringLiteral("#fold=1") << QStringLiteral(">+19</text>") << 2;
+    QTest::newRow("search marks what it finds")
+        << QStringLiteral("#q=subject%204") << QStringLiteral("class=\"hit\"") << 11;
+    QTest::newRow("in details, too")
+        << QStringLiteral("#q=night%20shift") << QStringLiteral("class=\"hit\"") << 1;
+    QTest::newRow("details of one")
+        << QStringLiteral("#show=3") << QStringLiteral("<h2 id=\"title\">Subject 3</h2>") << 1;
+    QTest::newRow("with its link")
+        << QStringLiteral("#show=3")
+        << QStringLiteral("rel=\"noopener noreferrer\" href=\"https://example.org/3\"") << 1;
+    QTest::newRow("but no script")
+        << QStringLiteral("#show=4") << QStringLiteral("href=\"javascript") << 0;
+    QTest::newRow("hostile details are text")
+        << QStringLiteral("#show=2") << QStringLiteral("<img") << 0;
+}
+
+void TestHtmlPicture::shouldWorkInABrowser()
+{
+    QFETCH(QString, fragment);
+    QFETCH(QString, expected);
+    QFETCH(int, count);
+    const QString browser = QStandardPaths::findExecutable(QStringLiteral("chromium"));
+    if (browser.isEmpty())
+        QSKIP("the browser is not installed");
+    const QTemporaryDir folder;
+    QFile file(folder.filePath(QStringLiteral("page.html")));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(pageOf(content(60)));
+    file.close();
+
+    QProcess process;
+    process.start(browser, {QStringLiteral("--headless"), QStringLiteral("--no-sandbox"),
+                            QStringLiteral("--disable-gpu"), QStringLiteral("--dump-dom"),
+                            QStringLiteral("--user-data-dir=") + folder.path(),
+                            QStringLiteral("file://") + file.fileName() + fragment});
+    QVERIFY(process.waitForFinished(120000));
+
+    // The page's own script is in the dump as well.
+    const QString dump = QString::fromUtf8(process.readAllStandardOutput())
+                             .section(QStringLiteral("<script>\n\"use strict\""), 0, 0);
+    QCOMPARE(dump.count(expected), count);
+}
+
+FISHBONE_TEST(TestHtmlPicture)
+#include "tst_htmlpicture.moc"
