@@ -1591,6 +1591,49 @@ Do you want to save your changes?</translation>
     </message>
 </context>
 <context>
+    <name>HtmlPicture</name>
+    <message>
+        <source>Search</source>
+        <translation>Search</translation>
+    </message>
+    <message>
+        <source>Expand all</source>
+        <translation>Expand all</translation>
+    </message>
+    <message>
+        <source>Fold</source>
+        <translation>Fold</translation>
+    </message>
+    <message>
+        <source>Fold to the categories</source>
+        <translation>Fold to the categories</translation>
+    </message>
+    <message>
+        <source>Zoom out</source>
+        <translation>Zoom out</translation>
+    </message>
+    <message>
+        <source>Zoom in</source>
+        <translation>Zoom in</translation>
+    </message>
+    <message>
+        <source>Fit</source>
+        <translation>Fit</translation>
+    </message>
+    <message>
+        <source>Show all</source>
+        <translation>Show all</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>Fishbone diagram. Arrow keys move, Return shows details, the space bar folds.</source>
+        <translation>Fishbone diagram. Arrow keys move, Return shows details, the space bar folds.</translation>
+    </message>
+</context>
+<context>
     <name>ImportSummary</name>
     <message>
         <source>%1: %2 left out, %3 put into details.</source>

@@ -1587,6 +1587,49 @@ Do you want to save your changes?</source>
     </message>
 </context>
 <context>
+    <name>HtmlPicture</name>
+    <message>
+        <source>Search</source>
+        <translation>搜索</translation>
+    </message>
+    <message>
+        <source>Expand all</source>
+        <translation>全部展开</translation>
+    </message>
+    <message>
+        <source>Fold</source>
+        <translation>折叠</translation>
+    </message>
+    <message>
+        <source>Fold to the categories</source>
+        <translation>折叠到类别</translation>
+    </message>
+    <message>
+        <source>Zoom out</source>
+        <translation>缩小</translation>
+    </message>
+    <message>
+        <source>Zoom in</source>
+        <translation>放大</translation>
+    </message>
+    <message>
+        <source>Fit</source>
+        <translation>适合</translation>
+    </message>
+    <message>
+        <source>Show all</source>
+        <translation>显示全部</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>Fishbone diagram. Arrow keys move, Return shows details, the space bar folds.</source>
+        <translation>鱼骨图。方向键移动，回车键显示详细信息，空格键折叠。</translation>
+    </message>
+</context>
+<context>
     <name>ImportSummary</name>
     <message>
         <source>%1: %2 left out, %3 put into details.</source>
