@@ -57,8 +57,6 @@ void paintBone(QPainter &painter, const SpearItem &spear)
 }
 } // namespace
 
-SpearLook::~SpearLook() = default;
-
 const std::shared_ptr<const SpearLook> &SpearLook::standard()
 {
     static const std::shared_ptr<const SpearLook> look = std::make_shared<ClassicLook>();

@@ -6,6 +6,7 @@
 #include <QGraphicsScene>
 
 #include <fishbone/drawing/classiclook.h>
+#include <fishbone/drawing/clearlook.h>
 
 FishDrawing::FishDrawing()
 {
@@ -16,7 +17,10 @@ void FishDrawing::choose(DiagramLook::Kind kind, const DiagramLook::Options &opt
 {
     m_kind = kind;
     m_options = options;
-    m_look = std::static_pointer_cast<const DrawingLook>(SpearLook::standard());
+    if (kind == DiagramLook::Clear)
+        m_look = std::make_shared<ClearLook>(options);
+    else
+        m_look = std::static_pointer_cast<const DrawingLook>(SpearLook::standard());
 }
 
 void FishDrawing::update(SpearItem *head)

@@ -18,10 +18,22 @@ FishLayout::FishLayout(SpearItem *head, std::shared_ptr<const DrawingLook> look)
 {
 }
 
-/** Brings every spear in line with its subject, parents before their children, and calls @p refresh
- * with each and the direction it is to have. */
-template <typename Refresh>
-void FishLayout::refreshAll(Refresh refresh)
+namespace {
+/** Fetches what is looked at for the entry at @p current and those behind it. */
+void prefetchBehind(const std::vector<SpearTree::Entry> &entries, std::size_t current)
+{
+    constexpr std::size_t ahead = 4;
+    if (current + 2 * ahead < entries.size())
+        entries[current + 2 * ahead].spear->prefetchParts();
+    if (current + ahead < entries.size())
+        entries[current + ahead].spear->prefetchInsides();
+}
+} // namespace
+
+/** Brings every spear in line with its subject, parents before their children. Calls @p refresh
+ * with each and the direction it is to have, and @p visit with each when it is done. */
+template <typename Refresh, typename Visit>
+void FishLayout::refreshAll(Refresh refresh, Visit visit)
 {
     const OnePass pass;
     SpearItem *const head = m_tree.head().spear;
@@ -29,42 +41,54 @@ void FishLayout::refreshAll(Refresh refresh)
     refresh(head, 0);
     head->updateTaskStatus();
     updateLinkItem(head);
+    visit(std::size_t(0), *head);
     for (const SpearTree::Entry &parent : m_tree.entries()) {
         for (int row = 0; row < parent.childCount; ++row) {
-            const SpearTree::Entry &child = m_tree.child(parent, row);
+            const std::size_t place = std::size_t(parent.firstChild + row);
+            prefetchBehind(m_tree.entries(), place);
+            const SpearTree::Entry &child = m_tree.entries()[place];
             child.spear->setLook(m_look);
             refresh(child.spear, SpearBuilder::directionFor(parent.spear, parent.level, row));
             child.spear->updateTaskStatus();
             child.spear->setVisible(parent.spear->isExpand());
             refreshCompanions(child);
+            visit(place, *child.spear);
         }
     }
 }
 
 void FishLayout::refreshSpears()
 {
-    refreshAll([](SpearItem *spear, int direction) { spear->initData(direction); });
+    refreshAll([](SpearItem *spear, int direction) { spear->initData(direction); },
+               [](std::size_t, const SpearItem &) {});
 }
 
 bool FishLayout::update(SettledDrawing &settled)
 {
-    refreshAll([](SpearItem *spear, int direction) { spear->refresh(direction); });
-    const std::vector<SpearTree::Entry> &entries = m_tree.entries();
-    bool isSettled = m_look->isSettled() && settled.matches(entries.size(), m_look.get());
-    for (std::size_t i = 0; isSettled && i < entries.size(); ++i)
-        isSettled = settled.matches(i, *entries[i].spear);
+    bool isSettled = m_look->isSettled() && settled.matches(m_tree.entries().size(), m_look.get());
+    refreshAll([](SpearItem *spear, int direction) { spear->refresh(direction); },
+               [&isSettled, &settled](std::size_t place, const SpearItem &spear) {
+                   isSettled = isSettled && settled.matches(place, spear);
+               });
     if (isSettled)
         return false;
-    for (const SpearTree::Entry &entry : entries)
+    for (const SpearTree::Entry &entry : m_tree.entries())
         entry.spear->beginLayout();
     sizeSpears();
     placeSpears();
+    settled.forget();
+    if (m_look->isSettled())
+        noteIn(settled);
+    return true;
+}
+
+void FishLayout::noteIn(SettledDrawing &settled) const
+{
     std::vector<SettledSpear> spears;
-    spears.reserve(entries.size());
-    for (const SpearTree::Entry &entry : entries)
+    spears.reserve(m_tree.entries().size());
+    for (const SpearTree::Entry &entry : m_tree.entries())
         spears.emplace_back(*entry.spear);
     settled.note(std::move(spears), m_look.get());
-    return true;
 }
 
 void FishLayout::refreshCompanions(const SpearTree::Entry &entry) const

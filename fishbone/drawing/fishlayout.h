@@ -37,8 +37,9 @@ public:
     const SpearTree &tree() const { return m_tree; }
 
 private:
-    template <typename Refresh>
-    void refreshAll(Refresh refresh);
+    template <typename Refresh, typename Visit>
+    void refreshAll(Refresh refresh, Visit visit);
+    void noteIn(SettledDrawing &settled) const;
     void refreshCompanions(const SpearTree::Entry &entry) const;
 
     SpearTree m_tree;

@@ -30,13 +30,28 @@ SettledSpear::Part SettledSpear::partOf(const QGraphicsItem *item)
     return {item->pos(), item->boundingRect().width()};
 }
 
+namespace {
+// Exactly, and quicker than the toolkit's comparison, which allows for rounding.
+bool isSame(const QPointF &a, const QPointF &b)
+{
+    return a.x() == b.x() && a.y() == b.y();
+}
+} // namespace
+
+bool SettledSpear::Part::operator==(const Part &other) const
+{
+    return isSame(position, other.position) && width == other.width;
+}
+
 bool SettledSpear::operator==(const SettledSpear &other) const
 {
-    return m_spear == other.m_spear && m_text == other.m_text && m_direction == other.m_direction &&
+    return m_spear == other.m_spear && m_text.width() == other.m_text.width() &&
+           m_text.height() == other.m_text.height() && m_direction == other.m_direction &&
            m_isExpanded == other.m_isExpanded && m_offset == other.m_offset &&
-           m_children == other.m_children && m_line == other.m_line &&
-           m_textPosition == other.m_textPosition && m_textRotation == other.m_textRotation &&
-           m_statusPosition == other.m_statusPosition && m_link == other.m_link &&
+           m_children == other.m_children && isSame(m_line.p1(), other.m_line.p1()) &&
+           isSame(m_line.p2(), other.m_line.p2()) && isSame(m_textPosition, other.m_textPosition) &&
+           m_textRotation == other.m_textRotation &&
+           isSame(m_statusPosition, other.m_statusPosition) && m_link == other.m_link &&
            m_button == other.m_button;
 }
 

@@ -28,10 +28,7 @@ private:
         QPointF position;
         double width = -1; ///< none where there is no such part
 
-        bool operator==(const Part &other) const
-        {
-            return position == other.position && width == other.width;
-        }
+        bool operator==(const Part &other) const;
     };
 
     static Part partOf(const QGraphicsItem *item);

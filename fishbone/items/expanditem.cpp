@@ -10,6 +10,7 @@
 
 #include <fishbone/editor/fisheditor.h>
 #include <fishbone/items/spearitem.h>
+#include <fishbone/items/spearlook.h>
 #include <fishbone/model/fishmodel.h>
 #include <fishbone/model/treeitem.h>
 
@@ -38,6 +39,32 @@ void ExpandItem::setFishEditor(FishEditor *editor)
 {
     if (editor)
         fallbackEditor() = editor;
+}
+
+QRectF ExpandItem::badge() const
+{
+    const SpearItem *const spear = m_spear.get();
+    return spear ? spear->look().badge(*spear) : QRectF();
+}
+
+QRectF ExpandItem::boundingRect() const
+{
+    const QRectF instead = badge();
+    return instead.isNull() ? SvgItem::boundingRect() : instead;
+}
+
+void ExpandItem::boxChanges()
+{
+    prepareGeometryChange();
+    update();
+}
+
+void ExpandItem::paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget)
+{
+    if (badge().isNull())
+        SvgItem::paint(painter, option, widget);
+    else
+        m_spear.get()->look().paintBadge(*painter, *m_spear.get());
 }
 
 void ExpandItem::updateSvgIcon()

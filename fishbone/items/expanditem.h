@@ -27,6 +27,13 @@ public:
     /// ignored. The editor may be destroyed at any time.
     static void setFishEditor(FishEditor *editor);
 
+    /// The picture, or what the spear's look has in place of it.
+    QRectF boundingRect() const override;
+    void paint(QPainter *painter, const QStyleOptionGraphicsItem *option,
+               QWidget *widget = nullptr) override;
+    /// The bounding rectangle is about to become another one. For SpearItem.
+    void boxChanges();
+
     /// Brings the picture in line with the spear's expand flag.
     void updateSvgIcon();
 
@@ -35,6 +42,7 @@ protected:
     void hoverEnterEvent(QGraphicsSceneHoverEvent *event) override;
 
 private:
+    QRectF badge() const;
     FishEditor *responsibleEditor() const;
     bool generateMissingChildren(SpearItem *spear) const;
 

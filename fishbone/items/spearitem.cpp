@@ -261,6 +261,7 @@ void SpearItem::applyState(SpearStyle::SpearState state)
     showLooks(applied);
     showPen(applied);
     showMovability();
+    showButton();
 }
 
 void SpearItem::showPen(const SpearStyle &style)
@@ -413,6 +414,7 @@ void SpearItem::setLinkItem(QGraphicsItem *item)
 void SpearItem::setExpandBuddy(QGraphicsItem *item)
 {
     setCompanion(m_expandBuddy, item);
+    m_isButtonHidden = false;
     if (m_expandBuddy)
         m_expandBuddy->setPos(expandBuddyPosition());
 }

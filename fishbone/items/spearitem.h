@@ -16,6 +16,7 @@
 
 class FishModel;
 class SpearLook;
+class SpearLookData;
 class TaskStatusItem;
 class TextItem;
 class TreeItem;
@@ -209,6 +210,10 @@ public:
     const SpearLook &look() const { return *m_look; }
     /// Draws the spear in another look, which the next layout follows. For the layout.
     void setLook(const std::shared_ptr<const SpearLook> &look);
+    /// What the look keeps with the spear; null for nothing.
+    const SpearLookData *lookData() const { return m_lookData.get(); }
+    /// Keeps \a data, after which everything is painted anew. For the look.
+    void setLookData(std::unique_ptr<const SpearLookData> data);
     /// The row that something dropped at \a scenePos gets below this spear; \a moving is what is
     /// dropped, null for something else.
     int dropRow(const QPointF &scenePos, const SpearItem *moving) const;
@@ -235,6 +240,10 @@ public:
     /// Brings everything that no layout computes in line with subject, style and state. For
     /// FishLayout.
     void refresh(int direction);
+    /// Has the processor fetch what refresh() looks at: first the spear's parts, then what these
+    /// keep apart. For FishLayout, some bones ahead.
+    void prefetchParts() const;
+    void prefetchInsides() const; ///< see prefetchParts()
     /// Forgets offset and child sizes. For FishLayout.
     void beginLayout();
     /// As updatePosition(). \a parent is the parent spear, null for the header. For FishLayout.
@@ -309,6 +318,9 @@ private:
     void showLooks(const SpearStyle &style);
     void showBox(const SpearStyle &style);
     void showMovability();
+    void showButton();
+    void scaleIcons();
+    void repaintAll();
     void setCompanion(QGraphicsItem *&companion, QGraphicsItem *item);
     void placeCompanions();
     void forgetChildSpears();
@@ -326,6 +338,7 @@ private:
     QString m_text;
     QString m_textDisplay;
     std::shared_ptr<const SpearLook> m_look;
+    std::unique_ptr<const SpearLookData> m_lookData;
     ChildExtents m_children;
     Painted m_painted;
     qint64 m_paintedPictures = 0; ///< the header's
@@ -341,6 +354,7 @@ private:
     bool m_expand = false;
     bool m_hovered = false;
     bool m_hasHiddenStatus = false; ///< as every header does
+    bool m_isButtonHidden = false;  ///< by the look
     TextItem *m_textItem = nullptr;
     QGraphicsItem *m_linkItem = nullptr;
     QGraphicsItem *m_expandBuddy = nullptr;

@@ -7,10 +7,17 @@
 
 #include <utility>
 
+#include <fishbone/base/prefetch.h>
+#include <fishbone/items/expanditem.h>
+#include <fishbone/items/linkitem.h>
 #include <fishbone/items/spearlook.h>
 #include <fishbone/items/taskstatusitem.h>
 #include <fishbone/items/textitem.h>
 #include <fishbone/model/treeitem.h>
+
+namespace {
+constexpr int itemPrivateSize = 320; ///< what the toolkit keeps of a line, about
+} // namespace
 
 void SpearItem::setLine(const QLineF &line)
 {
@@ -37,6 +44,26 @@ void SpearItem::beginLayout()
 {
     m_offset = 0;
     m_children = ChildExtents();
+}
+
+void SpearItem::prefetchParts() const
+{
+    prefetch(d_ptr.data(), itemPrivateSize);
+    prefetch(m_treeItem, int(sizeof(TreeItem)));
+    prefetch(m_textItem, int(sizeof(TextItem)));
+    prefetch(m_statusItem, int(sizeof(TaskStatusItem)));
+    prefetch(m_linkItem, int(sizeof(LinkItem)));
+    prefetch(m_expandBuddy, int(sizeof(ExpandItem)));
+}
+
+void SpearItem::prefetchInsides() const
+{
+    m_textItem->prefetchInsides();
+    m_statusItem->prefetchInsides();
+    if (const auto *const link = qgraphicsitem_cast<LinkItem *>(m_linkItem))
+        link->prefetchInsides();
+    if (const auto *const button = qgraphicsitem_cast<ExpandItem *>(m_expandBuddy))
+        button->prefetchInsides();
 }
 
 void SpearItem::refresh(int direction)
@@ -126,10 +153,13 @@ void SpearItem::placeCompanions()
         prepareGeometryChange(); // the bounding rectangle covers the text box of a horizontal bone
         m_textItem->setPos(textPosition);
     }
+    if (m_look->scalesIcons())
+        scaleIcons();
     if (m_linkItem)
         m_linkItem->setPos(linkBuddyPosition());
     if (m_expandBuddy)
         m_expandBuddy->setPos(expandBuddyPosition());
+    showButton();
     if (!m_look->showsStatus(*this)) {
         m_hasHiddenStatus = m_hasHiddenStatus || m_statusItem->isVisible();
         m_statusItem->setVisible(false);
@@ -169,8 +199,47 @@ void SpearItem::setLook(const std::shared_ptr<const SpearLook> &look)
 {
     if (m_look == look)
         return;
-    prepareGeometryChange();
+    repaintAll();
     m_look = look;
+    m_lookData.reset();
+    scaleIcons();
+    showButton();
+}
+
+void SpearItem::setLookData(std::unique_ptr<const SpearLookData> data)
+{
+    if (!data && !m_lookData)
+        return;
+    repaintAll();
+    m_lookData = std::move(data);
+}
+
+/** Before something of its geometry and that of its companions changes. */
+void SpearItem::repaintAll()
+{
+    prepareGeometryChange();
     update();
-    m_textItem->update();
+    m_textItem->boxChanges();
+    if (auto *const button = qgraphicsitem_cast<ExpandItem *>(m_expandBuddy))
+        button->boxChanges();
+}
+
+/** Gives the icons the size that the look has for them; that of their pictures where it has none.
+ */
+void SpearItem::scaleIcons()
+{
+    for (QGraphicsItem *const icon : {static_cast<QGraphicsItem *>(m_statusItem), m_linkItem}) {
+        // Compared first: the scale that is there already would schedule a repaint.
+        const double scale = icon ? m_look->iconScale(*icon) : 1;
+        if (icon && icon->scale() != scale)
+            icon->setScale(scale);
+    }
+}
+
+void SpearItem::showButton()
+{
+    if (m_expandBuddy && m_look->showsButton(*this) == m_isButtonHidden) {
+        m_isButtonHidden = !m_isButtonHidden;
+        m_expandBuddy->setVisible(!m_isButtonHidden);
+    }
 }

@@ -11,8 +11,20 @@
 #include <QPointF>
 #include <QRectF>
 
+class QGraphicsItem;
 class QPainter;
 class SpearItem;
+
+/** What a look keeps with a spear. */
+class SpearLookData
+{
+public:
+    SpearLookData() = default;
+    virtual ~SpearLookData();
+
+private:
+    Q_DISABLE_COPY(SpearLookData)
+};
 
 /**
  * What a spear asks its look: its measures, where it and its companions stand, what is hit and what
@@ -55,6 +67,12 @@ public:
     virtual QPointF buttonPosition(const SpearItem &spear) const = 0;
     /** Whether a spear shows the status of its subject. */
     virtual bool showsStatus(const SpearItem &spear) const = 0;
+    /** Whether the expand button of a spear is shown now. */
+    virtual bool showsButton(const SpearItem &spear) const;
+    /** Whether status and link icons have another size than their pictures. */
+    virtual bool scalesIcons() const;
+    /** How much such an icon is scaled then. */
+    virtual double iconScale(const QGraphicsItem &icon) const;
     /** @} */
 
     /**
@@ -81,6 +99,14 @@ public:
     /** Paints the spear in its current state, without its companions, and leaves pen and font as
      * the circle of a drop needs them. */
     virtual void paint(QPainter &painter, const SpearItem &spear) const = 0;
+    /** The text box in its own coordinates; null where the laid-out text says it. */
+    virtual QRectF textBox(const SpearItem &spear) const;
+    /** Paints the text box; false where it paints itself. */
+    virtual bool paintText(QPainter &painter, const SpearItem &spear) const;
+    /** What stands in place of the button's picture, in the button's coordinates; null for none. */
+    virtual QRectF badge(const SpearItem &spear) const;
+    /** Paints what badge() has room for. */
+    virtual void paintBadge(QPainter &painter, const SpearItem &spear) const;
     /** @} */
 
 private:

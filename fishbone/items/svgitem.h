@@ -5,6 +5,7 @@
 
 #include <QGraphicsSvgItem>
 
+#include <fishbone/base/prefetch.h>
 #include <fishbone/fishbone_export.h>
 
 /// A picture item whose file can be set. Items that show the same file share one renderer, so that
@@ -29,6 +30,8 @@ public:
     void setSvgFile(const QString &file);
     /// The file given last, whether or not it could be shown.
     QString svgFile() const { return m_file; }
+    /// Has the processor fetch what the toolkit keeps of the item.
+    void prefetchInsides() const { prefetch(QGraphicsItem::d_ptr.data(), 384); }
     /// Whether there is a picture behind svgFile().
     bool showsPicture() const { return m_shown; }
 

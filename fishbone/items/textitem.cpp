@@ -16,6 +16,7 @@
 
 #include <fishbone/items/hovercursor.h>
 #include <fishbone/items/spearitem.h>
+#include <fishbone/items/spearlook.h>
 #include <fishbone/style/textbox.h>
 
 namespace {
@@ -35,6 +36,7 @@ TextItem::TextItem(const QString &text, QGraphicsItem *parent)
 {
     m_text = text;
     fillDocument(true);
+    m_color = defaultTextColor();
     if (!parentSpear()) // a spear gives its own
         showColor(QColor());
 }
@@ -91,8 +93,10 @@ void TextItem::watchDocument()
 
 void TextItem::showColor(const QColor &color)
 {
-    if (defaultTextColor() != color)
-        setDefaultTextColor(color);
+    if (m_color == color)
+        return;
+    m_color = color;
+    setDefaultTextColor(color);
 }
 
 SpearItem *TextItem::parentSpear() const
@@ -100,8 +104,23 @@ SpearItem *TextItem::parentSpear() const
     return qgraphicsitem_cast<SpearItem *>(parentItem());
 }
 
+QRectF TextItem::boundingRect() const
+{
+    const SpearItem *const spear = parentSpear();
+    const QRectF box = spear ? spear->look().textBox(*spear) : QRectF();
+    return box.isNull() ? QGraphicsTextItem::boundingRect() : box;
+}
+
+void TextItem::boxChanges()
+{
+    prepareGeometryChange();
+    update();
+}
+
 void TextItem::paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget)
 {
+    if (defaultTextColor() != m_color)
+        setDefaultTextColor(m_color); // somebody has set another one
     m_ownState =
         stateOf(option->state & QStyle::State_MouseOver, option->state & QStyle::State_Selected);
     SpearStyle::SpearState state = m_ownState;
@@ -109,6 +128,8 @@ void TextItem::paint(QPainter *painter, const QStyleOptionGraphicsItem *option, 
     QPen frame = painter->pen();
     if (SpearItem *const spear = parentSpear()) {
         spear->updateTextLooks();
+        if (spear->look().paintText(*painter, *spear))
+            return;
         state = spear->boxState();
         fill = spear->textBkColor(state);
         frame = spear->broaderPen(state);

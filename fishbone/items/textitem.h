@@ -3,9 +3,12 @@
 
 #pragma once
 
+#include <QColor>
+#include <QFont>
 #include <QGraphicsTextItem>
 #include <QTextDocument>
 
+#include <fishbone/base/prefetch.h>
 #include <fishbone/fishbone_export.h>
 #include <fishbone/style/spearstyle.h>
 
@@ -32,18 +35,26 @@ public:
     /// Size of the laid-out text, margins included.
     QSizeF textSize() const { return m_isTouched ? document()->size() : m_size; }
 
+    /// Has the processor fetch what the toolkit keeps of the item.
+    void prefetchInsides() const { prefetch(QGraphicsItem::d_ptr.data(), 256); }
     /// Whether showText() with the same arguments would change anything.
     bool shows(const QFont &font, QStringView text) const;
     /// Shows \a text in \a font; what is shown already is not laid out again.
     void showText(const QFont &font, const QString &text);
     /// Shows what showText() was given last, when anybody has changed the document since.
     void restoreText();
-    /// Shows the text in \a color; the colour already shown schedules no repaint.
+    /// Shows the text in \a color; the colour shown last schedules no repaint. Whatever other
+    /// colour the text was given is found when it is painted.
     void showColor(const QColor &color);
 
     /// What the box itself gives cause for: ssHovered or ssSelected as it was at its last event or
     /// paint, else ssNormal. The mouse may be over the box and not count as being over the spear.
     SpearStyle::SpearState ownState() const { return m_ownState; }
+
+    /// As the look of the parent spear has it.
+    QRectF boundingRect() const override;
+    /// The box is about to become another one. For SpearItem.
+    void boxChanges();
 
     /// Paints the box of the parent spear's state or its own, the stronger one, then the text.
     /// Schedules no repaint when font, colour and text are those of the state already.
@@ -71,6 +82,7 @@ private:
     QString m_text;           ///< what the document was filled with
     QFont m_font;
     QSizeF m_size;                             ///< of that
+    QColor m_color;                            ///< that the text was given
     const QTextDocument *m_document = nullptr; ///< that was filled; may be gone when touched
     QObject *m_documentOwner = nullptr;
 };

@@ -1,0 +1,31 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <fishbone/drawing/diagramlook.h>
+
+#include <QColor>
+
+/** The colours of the clear look. Every text keeps a contrast of 4.5 to what lies below it. */
+class ClearColors
+{
+public:
+    explicit ClearColors(DiagramLook::Palette palette);
+
+    /** The colour of the category in row @p category: its box and all its lines. */
+    QColor category(int category) const;
+    /** The colour of a text of @p level, which in a category stands on category(). */
+    QColor ink(int level) const;
+    QColor head() const;     ///< inside the head
+    QColor outline() const;  ///< around head and tail
+    QColor backbone() const; ///< of backbone and tail
+    QColor badge() const;    ///< behind the "+5"
+    QColor badgeInk() const; ///< the "+5"
+
+private:
+    bool isDark() const { return m_palette == DiagramLook::DarkColors; }
+    bool isGray() const { return m_palette == DiagramLook::GrayColors; }
+
+    DiagramLook::Palette m_palette;
+};

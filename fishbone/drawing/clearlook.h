@@ -1,0 +1,66 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <fishbone/drawing/clearcolors.h>
+#include <fishbone/drawing/cleartext.h>
+#include <fishbone/drawing/diagramlook.h>
+#include <fishbone/drawing/drawinglook.h>
+
+struct ClearSpear;
+struct ClearOptions;
+
+/**
+ * The clear look: all texts level and wrapped, categories in coloured boxes, the title inside the
+ * head. ClearLayout computes it for the whole drawing; each spear keeps its part as ClearSpear.
+ *
+ * Hidden spears have no place; they stand as points where they come from.
+ */
+class ClearLook : public DrawingLook
+{
+public:
+    explicit ClearLook(const DiagramLook::Options &options);
+
+    double width(const SpearItem &spear) const override;
+    double height(const SpearItem &spear) const override;
+    double backboneAngle(const SpearItem &spear) const override;
+
+    QLineF line(const SpearItem &spear, const SpearItem *parent) const override;
+    QPointF textPosition(const SpearItem &spear) const override;
+    std::optional<double> textRotation(const SpearItem &spear) const override;
+    QPointF statusPosition(const SpearItem &spear) const override;
+    QPointF linkPosition(const SpearItem &spear) const override;
+    QPointF buttonPosition(const SpearItem &spear) const override;
+    bool showsStatus(const SpearItem &spear) const override;
+    bool showsButton(const SpearItem &spear) const override;
+    bool scalesIcons() const override { return true; }
+    double iconScale(const QGraphicsItem &icon) const override;
+
+    int rowAt(const SpearItem &spear, const QPointF &scenePos, int movingRow) const override;
+    QPointF slot(const SpearItem &spear, int row) const override;
+
+    QRectF textRect(const SpearItem &spear) const override;
+    QRectF boundingRect(const SpearItem &spear) const override;
+    QPainterPath shape(const SpearItem &spear) const override;
+    void paint(QPainter &painter, const SpearItem &spear) const override;
+    QRectF textBox(const SpearItem &spear) const override;
+    bool paintText(QPainter &painter, const SpearItem &spear) const override;
+    QRectF badge(const SpearItem &spear) const override;
+    void paintBadge(QPainter &painter, const SpearItem &spear) const override;
+
+    void size(const SpearTree &tree) const override;
+    void place(const SpearTree &tree) const override;
+    bool isSettled() const override { return false; }
+
+private:
+    ClearOptions layoutOptions() const;
+    void paintHeader(QPainter &painter, const ClearSpear &header) const;
+    QPen penOf(const SpearItem &spear, const ClearSpear &place) const;
+    QColor inkOf(const SpearItem &spear, const ClearSpear &place) const;
+    QColor fillOf(const SpearItem &spear, const ClearSpear &place) const;
+
+    DiagramLook::Options m_options;
+    ClearColors m_colors;
+    mutable ClearTextCache m_texts; ///< what was measured stays measured
+};

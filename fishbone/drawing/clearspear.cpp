@@ -1,0 +1,38 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#include <fishbone/drawing/clearspear.h>
+
+#include <fishbone/items/spearitem.h>
+
+namespace {
+constexpr qreal boxMargin = 3; ///< around a title without a box of its own
+
+bool isSame(const std::unique_ptr<const ClearFrame> &a, const std::unique_ptr<const ClearFrame> &b)
+{
+    return a && b ? *a == *b : !a && !b;
+}
+} // namespace
+
+const ClearSpear *ClearSpear::of(const SpearItem &spear)
+{
+    return dynamic_cast<const ClearSpear *>(spear.lookData());
+}
+
+bool ClearSpear::operator==(const ClearSpear &other) const
+{
+    return bone.text == other.bone.text && bone.side == other.bone.side &&
+           bone.level == other.bone.level && bone.category == other.bone.category &&
+           bone.line == other.bone.line && bone.textRect == other.bone.textRect &&
+           bone.box == other.bone.box && bone.status == other.bone.status &&
+           bone.link == other.bone.link && bone.badge == other.bone.badge &&
+           bone.button == other.bone.button && extent == other.extent && hidden == other.hidden &&
+           badgeFont == other.badgeFont && isSame(frame, other.frame);
+}
+
+QRectF ClearSpear::box() const
+{
+    if (bone.level == 1)
+        return bone.box;
+    return bone.textRect.adjusted(-boxMargin, -boxMargin / 2, boxMargin, boxMargin / 2);
+}

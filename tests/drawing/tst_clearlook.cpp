@@ -1,0 +1,366 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#include <fishbone/drawing/clearlook.h>
+
+#include <QtTest>
+
+#include <fishbone/drawing/clearspear.h>
+#include <fishbone/items/expanditem.h>
+#include <fishbone/items/linkitem.h>
+#include <fishbone/items/taskstatusitem.h>
+#include <fishbone/items/textitem.h>
+#include <tests/program/testprogram.h>
+#include <tests/support/drawing.h>
+#include <tests/support/drawingtext.h>
+#include <tests/support/editorfixture.h>
+#include <tests/support/pictures.h>
+#include <tests/support/statelooks.h>
+
+using namespace TestSupport;
+
+/// The clear look on the items of an editor.
+class TestClearLook : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void shouldSetAllTextsLevelAndApart();
+    void shouldStandWhereTheLayoutSays();
+    void shouldShowNoBonesOfAContractedOne();
+    void shouldShowTheButtonOfABoneThatIsPointedAtOnly();
+    void shouldShowHowManyAreHidden();
+    void shouldComeBackToTheClassicLook();
+    void shouldFollowEveryEdit();
+    void shouldRepaintNothingThatStays();
+    void shouldPaintInPiecesAsAtOnce_data();
+    void shouldPaintInPiecesAsAtOnce();
+    void shouldDropBetweenTheChildrenThatAreSeen_data();
+    void shouldDropBetweenTheChildrenThatAreSeen();
+    void shouldBeHitWhereItIsSeen();
+    void shouldPreferAnOwnStyle();
+    void shouldMirrorForAHeadOnTheLeft();
+    void shouldKeepEveryTextReadable_data();
+    void shouldKeepEveryTextReadable();
+};
+
+namespace {
+const QString man = QStringLiteral("Man");
+const QString wear = QStringLiteral("Wear and tear");
+
+QJsonObject document()
+{
+    return documentFromText(
+        QStringLiteral("Why are deliveries late?[Man[Training is missing[No budget,No time],Shift "
+                       "plan],Machine[Wear and tear,Tools[Old]],Method[Nobody owns the "
+                       "handover],Material[Supplier,Wrong parts[Catalogue]]]"));
+}
+
+struct ClearFish : EditorFixture
+{
+    explicit ClearFish(const QJsonObject &shown = document())
+        : EditorFixture(shown)
+    {
+        editor.setLook(DiagramLook::Clear);
+        editor.expandAll();
+    }
+
+    std::vector<SpearItem *> shownSpears() const
+    {
+        std::vector<SpearItem *> shown;
+        for (SpearItem *const each : spearsInOrder(editor.headSpear())) {
+            if (each->isVisible())
+                shown.push_back(each);
+        }
+        return shown;
+    }
+};
+
+QRectF sceneRect(const QGraphicsItem &item)
+{
+    return item.mapToScene(item.boundingRect()).boundingRect();
+}
+
+double luminance(const QColor &color)
+{
+    const auto linear = [](double part) {
+        return part <= 0.03928 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +
+           0.0722 * linear(color.blueF());
+}
+
+double contrast(const QColor &a, const QColor &b)
+{
+    const double first = luminance(a) + 0.05;
+    const double second = luminance(b) + 0.05;
+    return qMax(first, second) / qMin(first, second);
+}
+} // namespace
+
+void TestClearLook::shouldSetAllTextsLevelAndApart()
+{
+    ClearFish fish;
+
+    const std::vector<SpearItem *> spears = fish.shownSpears();
+    QCOMPARE(int(spears.size()), 16);
+    for (const SpearItem *const spear : spears) {
+        QCOMPARE(spear->textItem()->rotation(), 0.0);
+        for (const SpearItem *const other : spears) {
+            if (other == spear)
+                continue;
+            const QRectF common = sceneRect(*spear->textItem()) & sceneRect(*other->textItem());
+            QVERIFY2(common.isEmpty() || common.height() < 4,
+                     qPrintable(spear->text() + QLatin1String(" on ") + other->text()));
+        }
+    }
+}
+
+void TestClearLook::shouldStandWhereTheLayoutSays()
+{
+    ClearFish fish;
+    fish.subject(wear)->setStatus(tsRunning);
+    fish.subject(wear)->setUrl(QStringLiteral("https://example.org"));
+    fish.editor.updateFish(false);
+
+    const SpearItem *const spear = fish.spear(wear);
+    const ClearSpear *const place = ClearSpear::of(*spear);
+    QVERIFY(place);
+    QCOMPARE(spear->line(), place->bone.line);
+    QCOMPARE(sceneRect(*spear->textItem()), place->box());
+    QCOMPARE(sceneRect(*spear->statusItem()).center(), place->bone.status.center());
+    QCOMPARE(sceneRect(*spear->linkItem()).center(), place->bone.link.center());
+    QVERIFY(spear->statusItem()->isVisible());
+    // Each icon stands beside the text, not on it.
+    QVERIFY(!place->bone.status.intersects(place->bone.textRect));
+    QVERIFY(!place->bone.link.intersects(place->bone.textRect));
+    QVERIFY(!fish.editor.headSpear()->statusItem()->isVisible());
+}
+
+void TestClearLook::shouldShowNoBonesOfAContractedOne()
+{
+    ClearFish fish;
+    fish.spear(man)->setExpand(false);
+    fish.editor.updateFish(false);
+
+    QVERIFY(!fish.spear(QStringLiteral("No time"))->isVisible());
+    QVERIFY(!ClearSpear::of(*fish.spear(QStringLiteral("No time"))));
+    QCOMPARE(fish.spear(QStringLiteral("No time"))->line().length(), 0.0);
+    QVERIFY(ClearSpear::of(*fish.spear(man)));
+}
+
+void TestClearLook::shouldShowTheButtonOfABoneThatIsPointedAtOnly()
+{
+    ClearFish fish;
+    SpearItem *const spear = fish.spear(man);
+    QVERIFY(spear->expandBuddy());
+    QVERIFY(!spear->expandBuddy()->isVisible());
+
+    spear->setSelected(true);
+    QVERIFY(spear->expandBuddy()->isVisible());
+    spear->setSelected(false);
+    QVERIFY(!spear->expandBuddy()->isVisible());
+
+    DiagramLook::Options options;
+    options.hasButtons = false;
+    fish.editor.setLookOptions(options);
+    spear->setSelected(true);
+    QVERIFY(!spear->expandBuddy()->isVisible());
+}
+
+void TestClearLook::shouldShowHowManyAreHidden()
+{
+    ClearFish fish;
+    fish.spear(man)->setExpand(false);
+    fish.editor.updateFish(false);
+
+    const QGraphicsItem *const button = fish.spear(man)->expandBuddy();
+    QVERIFY(button->isVisible());
+    const ClearSpear *const place = ClearSpear::of(*fish.spear(man));
+    QCOMPARE(place->hidden, 4);
+    QCOMPARE(sceneRect(*button), place->bone.badge);
+    fish.spear(man)->setExpand(true);
+    fish.editor.updateFish(false);
+    QVERIFY(ClearSpear::of(*fish.spear(man))->bone.badge.isNull());
+    QVERIFY(!button->isVisible());
+}
+
+void TestClearLook::shouldComeBackToTheClassicLook()
+{
+    EditorFixture fish(document());
+    fish.subject(wear)->setStatus(tsRunning);
+    fish.subject(wear)->setUrl(QStringLiteral("https://example.org"));
+    fish.editor.expandAll();
+    const QStringList classic = drawingText(fish.editor.headSpear());
+    const QImage picture = rendered(*fish.editor.scene());
+
+    fish.editor.setLook(DiagramLook::Clear);
+    QVERIFY(drawingText(fish.editor.headSpear()) != classic);
+    fish.editor.setLook(DiagramLook::Classic);
+
+    QCOMPARE(drawingText(fish.editor.headSpear()), classic);
+    QCOMPARE(rendered(*fish.editor.scene()), picture);
+}
+
+void TestClearLook::shouldFollowEveryEdit()
+{
+    ClearFish fish;
+    fish.select({man});
+    fish.editor.insertChildSubject();
+    fish.editor.appendSubject();
+    fish.subject(wear)->setTitle(QStringLiteral("Something much longer than before"));
+    fish.editor.updateFish(false);
+    fish.editor.deleteItem(fish.index(QStringLiteral("Material")));
+    const QStringList edited = drawingText(fish.editor.headSpear());
+
+    fish.editor.refreshFish();
+    fish.editor.updateSpearSize();
+    fish.editor.updateSpearPostion();
+    QCOMPARE(drawingText(fish.editor.headSpear()), edited);
+    fish.editor.updateFish(true);
+    fish.editor.expandAll();
+    QCOMPARE(int(fish.shownSpears().size()), int(spearsInOrder(fish.editor.headSpear()).size()));
+    fish.editor.undo();
+    QCOMPARE(fish.editor.look(), DiagramLook::Clear);
+    QVERIFY(ClearSpear::of(*fish.spear(QStringLiteral("Material"))));
+}
+
+void TestClearLook::shouldRepaintNothingThatStays()
+{
+    ClearFish fish;
+    QVERIFY(fish.show());
+    QVERIFY(paintEverything(*fish.editor.view()));
+    settle();
+    const PaintCounter paints(fish.editor.view()->viewport());
+    settle();
+    QCOMPARE(paints.count, 0);
+
+    fish.editor.updateFish(false);
+    settle();
+
+    QCOMPARE(paints.count, 0);
+}
+
+void TestClearLook::shouldPaintInPiecesAsAtOnce_data()
+{
+    QTest::addColumn<int>("palette");
+    QTest::newRow("colours") << int(DiagramLook::DistinctColors);
+    QTest::newRow("gray") << int(DiagramLook::GrayColors);
+    QTest::newRow("dark") << int(DiagramLook::DarkColors);
+}
+
+void TestClearLook::shouldPaintInPiecesAsAtOnce()
+{
+    QFETCH(int, palette);
+    ClearFish fish;
+    DiagramLook::Options options;
+    options.palette = DiagramLook::Palette(palette);
+    fish.editor.setLookOptions(options);
+    fish.select({man});
+    fish.spear(wear)->setLinked(true, 0);
+    const Canvas canvas{visibleRect(*fish.editor.scene()).toAlignedRect(), 1};
+
+    const QImage whole = paintedAtOnce(*fish.editor.scene(), canvas);
+    const QImage pieces = paintedInPieces(*fish.editor.scene(), canvas, 97);
+
+    // Where a slanted line is cut, the toolkit rounds anew: single pixels, and few.
+    int differing = 0;
+    for (int y = 0; y < whole.height(); ++y) {
+        for (int x = 0; x < whole.width(); ++x)
+            differing += whole.pixel(x, y) != pieces.pixel(x, y) ? 1 : 0;
+    }
+    QVERIFY2(differing <= 40, qPrintable(QString::number(differing)));
+    QVERIFY(inkedPixels(whole) > 2000);
+}
+
+void TestClearLook::shouldDropBetweenTheChildrenThatAreSeen_data()
+{
+    QTest::addColumn<QString>("parent");
+    QTest::newRow("a category") << man;
+    QTest::newRow("a cause") << QStringLiteral("Training is missing");
+}
+
+void TestClearLook::shouldDropBetweenTheChildrenThatAreSeen()
+{
+    QFETCH(QString, parent);
+    ClearFish fish;
+    const SpearItem *const target = fish.spear(parent);
+    const QList<SpearItem *> children = target->childSpears();
+    QCOMPARE(children.size(), 2);
+
+    QCOMPARE(target->dropRow(target->line().p1(), nullptr), 0);
+    QCOMPARE(
+        target->dropRow((children.at(0)->line().p1() + children.at(1)->line().p1()) / 2, nullptr),
+        1);
+    QCOMPARE(
+        target->dropRow(target->line().p2() + (target->line().p2() - target->line().p1()), nullptr),
+        2);
+    // The circle marks the same places.
+    for (int row = 0; row <= 2; ++row)
+        QCOMPARE(target->dropRow(target->look().slot(*target, row), nullptr), row);
+}
+
+void TestClearLook::shouldBeHitWhereItIsSeen()
+{
+    ClearFish fish;
+    for (const SpearItem *const spear : fish.shownSpears()) {
+        const QPointF middle = sceneRect(*spear->textItem()).center();
+        QVERIFY(spear->shape().contains(middle));
+        QVERIFY(spear->isHeader() || spear->shape().contains(spear->line().center()));
+        // Paints nothing outside its bounding rectangle.
+        QVERIFY(spear->boundingRect().contains(
+            QRectF(spear->line().p1(), spear->line().p2()).normalized().center()));
+    }
+}
+
+void TestClearLook::shouldPreferAnOwnStyle()
+{
+    ClearFish fish;
+    fish.subject(man)->setSpearStyle(styleWithLooks());
+    fish.editor.updateFish(false);
+    const Canvas canvas{sceneRect(*fish.spear(man)->textItem()).toAlignedRect(), 2};
+
+    const QImage picture = paintedAtOnce(*fish.editor.scene(), canvas);
+
+    // The background shows in the normal state, too.
+    QVERIFY(pixelsOf(picture, lookOf(SpearStyle::ssNormal).background) > 200);
+}
+
+void TestClearLook::shouldMirrorForAHeadOnTheLeft()
+{
+    ClearFish fish;
+    const double right = fish.editor.headSpear()->line().x2();
+    DiagramLook::Options options;
+    options.isHeadLeft = true;
+
+    fish.editor.setLookOptions(options);
+
+    QVERIFY(right < 0);
+    QVERIFY(fish.editor.headSpear()->line().x2() > 0);
+    QVERIFY(sceneRect(*fish.editor.headSpear()->textItem()).center().x() < 0);
+}
+
+void TestClearLook::shouldKeepEveryTextReadable_data()
+{
+    QTest::addColumn<int>("palette");
+    QTest::addColumn<QColor>("canvas");
+    QTest::newRow("colours") << int(DiagramLook::DistinctColors) << QColor(Qt::white);
+    QTest::newRow("gray") << int(DiagramLook::GrayColors) << QColor(Qt::white);
+    QTest::newRow("dark") << int(DiagramLook::DarkColors) << QColor(0x1e, 0x1e, 0x22);
+}
+
+void TestClearLook::shouldKeepEveryTextReadable()
+{
+    QFETCH(int, palette);
+    QFETCH(QColor, canvas);
+    const ClearColors colors{DiagramLook::Palette(palette)};
+    for (int category = 0; category < 20; ++category)
+        QVERIFY(contrast(colors.ink(1), colors.category(category)) >= 4.5);
+    QVERIFY(contrast(colors.ink(0), colors.head()) >= 4.5);
+    QVERIFY(contrast(colors.badgeInk(), colors.badge()) >= 4.5);
+    for (int level = 2; level < 8; ++level)
+        QVERIFY(contrast(colors.ink(level), canvas) >= 4.5);
+}
+
+FISHBONE_TEST(TestClearLook)
+#include "tst_clearlook.moc"
