@@ -22,6 +22,19 @@ qreal dotsPerInch()
     const QScreen *const screen = QGuiApplication::primaryScreen();
     return screen ? screen->logicalDotsPerInchY() : usualDots;
 }
+/** How many subjects are below @p item. */
+int countBelow(const TreeItem *item)
+{
+    int count = -1; // without itself
+    std::vector<const TreeItem *> open{item};
+    while (!open.empty()) {
+        const TreeItem *const next = open.back();
+        open.pop_back();
+        ++count;
+        open.insert(open.end(), next->childItems().cbegin(), next->childItems().cend());
+    }
+    return count;
+}
 } // namespace
 
 QString ClearContent::meaningOf(int status)
@@ -76,7 +89,7 @@ void ClearContent::add(const TreeItem *item, int parent, ClearPictureContent &co
     content.meanings.push_back(meaning);
 }
 
-ClearPictureContent ClearContent::of(const TreeItem *head)
+ClearPictureContent ClearContent::of(const TreeItem *head, int levels)
 {
     ClearPictureContent content;
     content.linkIcon = QStringLiteral(":/fishboneDiagram/link.png");
@@ -90,6 +103,10 @@ ClearPictureContent ClearContent::of(const TreeItem *head)
         if (index > 0 && content.subjects.back().hasStatus)
             used.emplace(item->status(), content.looks.back().icon);
         const QList<TreeItem *> &children = item->childItems();
+        if (levels >= 0 && content.meanings.back().level > levels) {
+            content.subjects.back().hidden = countBelow(item);
+            continue;
+        }
         for (auto child = children.crbegin(); child != children.crend(); ++child)
             open.emplace_back(*child, index);
     }

@@ -15,9 +15,10 @@ class ClearContent
     Q_DECLARE_TR_FUNCTIONS(ClearContent)
 
 public:
-    /** All of the diagram below @p head, which must not be null: every subject, expanded. The
+    /** The diagram below @p head, which must not be null: @p levels levels below the categories,
+     * all of them when that is negative; subjects above what is left out say how much that is. The
      * legend has the statuses that occur. Linear, without recursion. */
-    static ClearPictureContent of(const TreeItem *head);
+    static ClearPictureContent of(const TreeItem *head, int levels = -1);
 
     /** What the status @p status means, translated; empty for one without an icon. */
     static QString meaningOf(int status);

@@ -127,12 +127,13 @@ void SvgPicture::begin(const ClearPicture &picture, const SvgPictureOptions &opt
     m_isPart = options.isPart;
     const qreal m = options.margin;
     const QRectF rect = picture.bounds().adjusted(-m, -m, m, m);
+    const QSizeF size = options.size.isEmpty() ? rect.size() : options.size;
     if (!options.isPart)
         put("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n");
     put("<svg xmlns=\"http://www.w3.org/2000/svg\" xmlns:xlink=\"http://www.w3.org/1999/xlink\""
         " version=\"1.1\" viewBox=\"" +
         point(rect.topLeft()) + ' ' + number(rect.width()) + ' ' + number(rect.height()) +
-        "\" width=\"" + number(rect.width()) + "\" height=\"" + number(rect.height()) +
+        "\" width=\"" + number(size.width()) + "\" height=\"" + number(size.height()) +
         "\" role=\"" + (options.isPart ? "tree" : "img") +
         "\" stroke-linecap=\"round\" font-family=\"&#39;" +
         escaped(picture.fonts().ofLevel(2).font().family()) +

@@ -9,6 +9,7 @@
 #include <QColor>
 #include <QHash>
 #include <QSet>
+#include <QSizeF>
 
 class ClearPicture;
 class QIODevice;
@@ -20,6 +21,7 @@ struct SvgPictureOptions
     QString description; ///< for whoever cannot see it; empty for none
     QColor background;   ///< what it is filled with; invalid for nothing
     qreal margin = 8;    ///< around the drawing
+    QSizeF size;         ///< how large it is shown; empty for the drawing and its margin at 100 %
     /** Whether it becomes part of a page: then it needs no XML declaration, and says of each
      * subject what a script and assistive technology want to know. */
     bool isPart = false;

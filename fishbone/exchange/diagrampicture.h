@@ -1,0 +1,82 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <fishbone/drawing/diagramlook.h>
+#include <fishbone/exchange/pictureexport.h>
+#include <fishbone/fishbone_export.h>
+
+#include <QByteArray>
+#include <QSizeF>
+#include <QString>
+
+#include <memory>
+
+class TreeItem;
+
+/**
+ * A diagram in the clear look, laid out to be written as a picture, without an editor or a scene.
+ *
+ * Takes a copy of what it shows, so that the diagram may change or go. Nothing but lines, texts and
+ * icons is in the picture: no buttons and no selection. Needs a QGuiApplication.
+ */
+class FISHBONE_EXPORT DiagramPicture
+{
+    Q_DECLARE_TR_FUNCTIONS(DiagramPicture)
+    Q_DISABLE_COPY(DiagramPicture)
+
+public:
+    /** All subjects of the diagram are shown. */
+    static constexpr int allLevels = -1;
+
+    /**
+     * The diagram below @p head, which must not be null, in @p options. Shows @p levels levels of
+     * subjects below the categories; what lies deeper is counted where it would be. Near linear in
+     * the number of subjects, without recursion.
+     */
+    explicit DiagramPicture(const TreeItem *head, const DiagramLook::Options &options = {},
+                            int levels = allLevels);
+    ~DiagramPicture();
+
+    /**
+     * Arranges it so that it is as large as possible on a page with the proportions of @p page:
+     * texts are wrapped, bones go to one side or both. Tries 42 arrangements up to 500 subjects,
+     * six up to 5,000 and one above.
+     */
+    void arrangeFor(const QSizeF &page);
+
+    /** The size of the drawing at 100 %, without a margin. */
+    QSizeF size() const;
+    /** How high the letters of a cause are when the drawing fills @p page, in its unit: the size of
+     * their font. */
+    double textSizeOn(const QSizeF &page) const;
+
+    /** Whether the suffix of @p fileName, in any case, names a format that can be written: .png,
+     * .svg, .pdf or .html. */
+    static bool canWrite(const QString &fileName);
+
+    /**
+     * Writes it into the file @p fileName, which is replaced whole or not at all; in a folder that
+     * is not writable it is written in place. An HTML page takes the title alone from @p options.
+     */
+    PictureExport::Result write(const QString &fileName,
+                                const PictureOptions &options = PictureOptions()) const;
+
+    /**
+     * Writes a PDF of one page of @p millimetres, with a margin of @p margin millimetres on each
+     * side, the drawing in its middle.
+     */
+    PictureExport::Result writePage(const QString &fileName, const QSizeF &millimetres,
+                                    double margin = 10,
+                                    const PictureOptions &options = PictureOptions()) const;
+
+private:
+    struct Data;
+
+    PictureExport::Result render(PictureExport::Format format, const PictureOptions &options,
+                                 QByteArray &bytes) const;
+    QByteArray page(const PictureOptions &options) const;
+
+    std::unique_ptr<Data> m_data;
+};

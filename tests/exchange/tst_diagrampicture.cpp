@@ -1,0 +1,184 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#include <fishbone/exchange/diagrampicture.h>
+#include <fishbone/model/fishmodel.h>
+#include <fishbone/model/treeitem.h>
+
+#include <tests/program/testprogram.h>
+#include <tests/support/sourcefolder.h>
+
+#include <QFile>
+#include <QImage>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QXmlStreamReader>
+#include <QtTest>
+
+namespace {
+
+QByteArray contentOf(const QString &fileName)
+{
+    QFile file(fileName);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+} // namespace
+
+class TestDiagramPicture : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void shouldWriteAllFormats_data();
+    void shouldWriteAllFormats();
+    void shouldRefuseOtherNames();
+    void shouldFitThePage();
+    void shouldBeLargestWhenArranged();
+    void shouldSayHowManyAreLeftOut();
+    void shouldKeepTheFileThatCannotBeReplaced();
+    void shouldSayWhenAPictureIsTooLarge();
+
+private:
+    const TreeItem *head() const { return m_root.childAtIndex(0); }
+
+    TreeItem m_root;
+    QTemporaryDir m_folder;
+};
+
+void TestDiagramPicture::initTestCase()
+{
+    const QByteArray bytes =
+        contentOf(TestSupport::sourceFile(QStringLiteral("samples/checkout-outage.fishbone.json")));
+    FishModel().read(QJsonDocument::fromJson(bytes).object(), &m_root, 0);
+    QVERIFY(head());
+}
+
+void TestDiagramPicture::shouldWriteAllFormats_data()
+{
+    QTest::addColumn<QByteArray>("start");
+    QTest::newRow("png") << QByteArray("\x89PNG");
+    QTest::newRow("svg") << QByteArray("<?xml");
+    QTest::newRow("pdf") << QByteArray("%PDF");
+    QTest::newRow("html") << QByteArray("<!DOCTYPE html>");
+    QTest::newRow("HTML") << QByteArray("<!DOCTYPE html>");
+}
+
+void TestDiagramPicture::shouldWriteAllFormats()
+{
+    QFETCH(QByteArray, start);
+    const QString name = m_folder.filePath(QStringLiteral("picture.") +
+                                           QString::fromLatin1(QTest::currentDataTag()));
+    const DiagramPicture picture(head());
+    QVERIFY(DiagramPicture::canWrite(name));
+    const PictureExport::Result result = picture.write(name);
+    QVERIFY2(result, qPrintable(result.reason));
+    QVERIFY(contentOf(name).startsWith(start));
+    if (name.endsWith(QLatin1String("png"))) {
+        const QImage image(name);
+        QVERIFY(qAbs(image.width() - picture.size().width() - 40) <= 1);
+        QCOMPARE(image.pixelColor(0, 0), QColor(Qt::white));
+    }
+    const QString pictures = qEnvironmentVariable("FISHBONE_PICTURES");
+    if (!pictures.isEmpty())
+        QFile::copy(name, pictures + QStringLiteral("/written.") +
+                              QString::fromLatin1(QTest::currentDataTag()));
+}
+
+void TestDiagramPicture::shouldRefuseOtherNames()
+{
+    const QString name = m_folder.filePath(QStringLiteral("picture.gif"));
+    QVERIFY(!DiagramPicture::canWrite(name));
+    const PictureExport::Result result = DiagramPicture(head()).write(name);
+    QVERIFY(result.error == PictureExport::Error::UnknownFormat);
+    QVERIFY(!result.reason.isEmpty());
+    QVERIFY(!QFile::exists(name));
+}
+
+void TestDiagramPicture::shouldFitThePage()
+{
+    const QString name = m_folder.filePath(QStringLiteral("page.pdf"));
+    DiagramPicture picture(head());
+    picture.arrangeFor(QSizeF(277, 190));
+    QVERIFY(picture.writePage(name, QSizeF(297, 210)));
+    QProcess info;
+    info.start(QStringLiteral("pdfinfo"), {name});
+    QVERIFY(info.waitForFinished());
+    const QString text = QString::fromUtf8(info.readAllStandardOutput());
+    QVERIFY2(text.contains(QLatin1String("Pages:           1")), qPrintable(text));
+    QVERIFY2(text.contains(QLatin1String("(A4)")), qPrintable(text));
+    info.start(QStringLiteral("pdftotext"), {name, QStringLiteral("-")});
+    QVERIFY(info.waitForFinished());
+    QVERIFY(info.readAllStandardOutput().contains("Dashboards"));
+
+    QVERIFY(!picture.writePage(name, QSizeF(15, 210)));
+    QVERIFY(!picture.writePage(name, QSizeF(1e6, 210)));
+}
+
+void TestDiagramPicture::shouldBeLargestWhenArranged()
+{
+    const QSizeF slide(1920, 1080);
+    DiagramPicture picture(head());
+    picture.arrangeFor(slide);
+    const double size = picture.textSizeOn(slide);
+    QVERIFY(qAbs(size * 2 - picture.textSizeOn(slide * 2)) < 1e-6);
+    for (const double headWidth : {90.0, 130.0}) {
+        for (const auto sides :
+             {DiagramLook::OneSide, DiagramLook::UnevenSides, DiagramLook::BothSides}) {
+            DiagramLook::Options options;
+            options.headWidth = headWidth;
+            options.sides = sides;
+            QVERIFY(DiagramPicture(head(), options).textSizeOn(slide) <= size * 1.01 + 1e-9);
+        }
+    }
+    picture.arrangeFor(QSizeF(100, 1000));
+    QVERIFY(picture.size().width() < picture.size().height());
+}
+
+void TestDiagramPicture::shouldSayHowManyAreLeftOut()
+{
+    const QString name = m_folder.filePath(QStringLiteral("levels.svg"));
+    QVERIFY(DiagramPicture(head(), {}, 0).write(name));
+    QStringList counts;
+    QXmlStreamReader xml(contentOf(name));
+    while (!xml.atEnd()) {
+        if (xml.readNext() != QXmlStreamReader::StartElement || xml.name() != QLatin1String("text"))
+            continue;
+        const QString text = xml.readElementText();
+        if (text.startsWith(u'+'))
+            counts << text;
+    }
+    QVERIFY(!xml.hasError());
+    QCOMPARE(counts.size(), head()->childCount());
+    int all = 0;
+    for (const QString &count : counts)
+        all += count.toInt();
+    QCOMPARE(all, 78 - head()->childCount()); // 79 subjects with the head
+}
+
+void TestDiagramPicture::shouldKeepTheFileThatCannotBeReplaced()
+{
+    const PictureExport::Result result =
+        DiagramPicture(head()).write(m_folder.filePath(QStringLiteral("none/picture.svg")));
+    QVERIFY(result.error == PictureExport::Error::CannotWrite);
+    QVERIFY(!result.reason.isEmpty());
+}
+
+void TestDiagramPicture::shouldSayWhenAPictureIsTooLarge()
+{
+    PictureOptions options;
+    options.scale = 100;
+    const DiagramPicture picture(head());
+    const QString name = m_folder.filePath(QStringLiteral("large.png"));
+    QVERIFY(picture.write(name, options).error == PictureExport::Error::TooLarge);
+    QVERIFY(!QFile::exists(name));
+    QVERIFY(picture.write(m_folder.filePath(QStringLiteral("large.svg")), options));
+    options.scale = 0;
+    QVERIFY(picture.write(name, options).error == PictureExport::Error::BadOptions);
+}
+
+FISHBONE_TEST(TestDiagramPicture)
+#include "tst_diagrampicture.moc"
