@@ -830,6 +830,29 @@ What is left out, or put where it can be kept, is listed on the error output.</t
     </message>
 </context>
 <context>
+    <name>DiagramPicture</name>
+    <message>
+        <source>the scale, the size or the margin makes no picture</source>
+        <translation>the scale, the size or the margin makes no picture</translation>
+    </message>
+    <message>
+        <source>it cannot be written</source>
+        <translation>it cannot be written</translation>
+    </message>
+    <message>
+        <source>there is not enough memory for it</source>
+        <translation>there is not enough memory for it</translation>
+    </message>
+    <message>
+        <source>the file name must end in .png, .svg, .pdf or .html</source>
+        <translation>the file name must end in .png, .svg, .pdf or .html</translation>
+    </message>
+    <message>
+        <source>the page is too small or too large</source>
+        <translation>the page is too small or too large</translation>
+    </message>
+</context>
+<context>
     <name>DocumentLoader</name>
     <message>
         <source>it is empty</source>

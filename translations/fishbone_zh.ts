@@ -828,6 +828,29 @@ What is left out, or put where it can be kept, is listed on the error output.</s
     </message>
 </context>
 <context>
+    <name>DiagramPicture</name>
+    <message>
+        <source>the scale, the size or the margin makes no picture</source>
+        <translation>以此比例、尺寸或边距无法生成图片</translation>
+    </message>
+    <message>
+        <source>it cannot be written</source>
+        <translation>无法写入</translation>
+    </message>
+    <message>
+        <source>there is not enough memory for it</source>
+        <translation>内存不足</translation>
+    </message>
+    <message>
+        <source>the file name must end in .png, .svg, .pdf or .html</source>
+        <translation>文件名必须以 .png、.svg、.pdf 或 .html 结尾</translation>
+    </message>
+    <message>
+        <source>the page is too small or too large</source>
+        <translation>页面太小或太大</translation>
+    </message>
+</context>
+<context>
     <name>DocumentLoader</name>
     <message>
         <source>it is empty</source>
