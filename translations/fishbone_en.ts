@@ -154,10 +154,6 @@
         <translation>Show texts in &lt;language&gt;, zh or en, instead of the system&apos;s.</translation>
     </message>
     <message>
-        <source>Draw the diagram into the picture &lt;file&gt; and quit. The ending .png, .svg or .pdf tells the format. Needs no display.</source>
-        <translation>Draw the diagram into the picture &lt;file&gt; and quit. The ending .png, .svg or .pdf tells the format. Needs no display.</translation>
-    </message>
-    <message>
         <source>How far to expand the bones of the picture: all (the default), none, or a number of levels below the main bones.</source>
         <translation>How far to expand the bones of the picture: all (the default), none, or a number of levels below the main bones.</translation>
     </message>
@@ -188,10 +184,6 @@
     <message>
         <source>--%1 needs --export</source>
         <translation>--%1 needs --export</translation>
-    </message>
-    <message>
-        <source>the format of &quot;%1&quot; is unknown: the name must end in .png, .svg or .pdf</source>
-        <translation>the format of &quot;%1&quot; is unknown: the name must end in .png, .svg or .pdf</translation>
     </message>
     <message>
         <source>--export takes one document, not %1</source>
@@ -308,16 +300,6 @@ The exit code is 3 when anything is.</translation>
         <translation>Write nothing when that would leave content out.</translation>
     </message>
     <message>
-        <source>Writes a diagram in another format, or as a picture.
-The endings tell the formats. Read: %1.
-Written: %2, and png, svg and pdf for pictures.
-What is left out, or put where it can be kept, is listed on the error output.</source>
-        <translation>Writes a diagram in another format, or as a picture.
-The endings tell the formats. Read: %1.
-Written: %2, and png, svg and pdf for pictures.
-What is left out, or put where it can be kept, is listed on the error output.</translation>
-    </message>
-    <message>
         <source>--%1 needs convert</source>
         <translation>--%1 needs convert</translation>
     </message>
@@ -334,12 +316,30 @@ What is left out, or put where it can be kept, is listed on the error output.</t
         <translation>the format of &quot;%1&quot; is unknown: the name must end in one of %2, or --from tell one of %3</translation>
     </message>
     <message>
-        <source>the format of &quot;%1&quot; is unknown: the name must end in one of %2, or in .png, .svg or .pdf for a picture, or --to tell one of %3</source>
-        <translation>the format of &quot;%1&quot; is unknown: the name must end in one of %2, or in .png, .svg or .pdf for a picture, or --to tell one of %3</translation>
-    </message>
-    <message>
         <source>%1 was not written: something would be left out</source>
         <translation>%1 was not written: something would be left out</translation>
+    </message>
+    <message>
+        <source>Draw the diagram into the picture &lt;file&gt; and quit. The ending .png, .svg, .pdf or, for a slide, .pptx tells the format. Needs no display.</source>
+        <translation>Draw the diagram into the picture &lt;file&gt; and quit. The ending .png, .svg, .pdf or, for a slide, .pptx tells the format. Needs no display.</translation>
+    </message>
+    <message>
+        <source>Writes a diagram in another format, or as a picture.
+The endings tell the formats. Read: %1.
+Written: %2, and png, svg, pdf and pptx for pictures.
+What is left out, or put where it can be kept, is listed on the error output.</source>
+        <translation>Writes a diagram in another format, or as a picture.
+The endings tell the formats. Read: %1.
+Written: %2, and png, svg, pdf and pptx for pictures.
+What is left out, or put where it can be kept, is listed on the error output.</translation>
+    </message>
+    <message>
+        <source>the format of &quot;%1&quot; is unknown: the name must end in .png, .svg, .pdf or .pptx</source>
+        <translation>the format of &quot;%1&quot; is unknown: the name must end in .png, .svg, .pdf or .pptx</translation>
+    </message>
+    <message>
+        <source>the format of &quot;%1&quot; is unknown: the name must end in one of %2, or in .png, .svg, .pdf or .pptx for a picture, or --to tell one of %3</source>
+        <translation>the format of &quot;%1&quot; is unknown: the name must end in one of %2, or in .png, .svg, .pdf or .pptx for a picture, or --to tell one of %3</translation>
     </message>
 </context>
 <context>
@@ -1276,6 +1276,10 @@ What is left out, or put where it can be kept, is listed on the error output.</t
     <message>
         <source>Writing %1…</source>
         <translation>Writing %1…</translation>
+    </message>
+    <message>
+        <source>PowerPoint slide (*.%1)</source>
+        <translation>PowerPoint slide (*.%1)</translation>
     </message>
 </context>
 <context>
@@ -2380,6 +2384,21 @@ Do you want to save your changes?</translation>
     <message>
         <source>Not found key word %1.</source>
         <translation>“%1” was not found.</translation>
+    </message>
+</context>
+<context>
+    <name>SlideExport</name>
+    <message>
+        <source>Fishbone diagram &quot;%1&quot; with %2 causes</source>
+        <translation>Fishbone diagram &quot;%1&quot; with %2 causes</translation>
+    </message>
+    <message>
+        <source>Actions</source>
+        <translation>Actions</translation>
+    </message>
+    <message>
+        <source>there is nothing to draw</source>
+        <translation>there is nothing to draw</translation>
     </message>
 </context>
 <context>

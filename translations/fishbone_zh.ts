@@ -154,10 +154,6 @@
         <translation>以 &lt;language&gt;（zh 或 en）显示文字，而不用系统语言。</translation>
     </message>
     <message>
-        <source>Draw the diagram into the picture &lt;file&gt; and quit. The ending .png, .svg or .pdf tells the format. Needs no display.</source>
-        <translation>将鱼骨图绘制到图片 &lt;file&gt; 中并退出。格式由扩展名 .png、.svg 或 .pdf 决定。无需图形显示。</translation>
-    </message>
-    <message>
         <source>How far to expand the bones of the picture: all (the default), none, or a number of levels below the main bones.</source>
         <translation>图片中鱼骨展开到何处：all（全部，默认）、none（不展开），或大骨以下的层数。</translation>
     </message>
@@ -188,10 +184,6 @@
     <message>
         <source>--%1 needs --export</source>
         <translation>--%1 只能与 --export 一起使用</translation>
-    </message>
-    <message>
-        <source>the format of &quot;%1&quot; is unknown: the name must end in .png, .svg or .pdf</source>
-        <translation>无法识别“%1”的格式：文件名必须以 .png、.svg 或 .pdf 结尾</translation>
     </message>
     <message>
         <source>--export takes one document, not %1</source>
@@ -308,16 +300,6 @@ The exit code is 3 when anything is.</source>
         <translation>若会丢失内容，则不写入任何文件。</translation>
     </message>
     <message>
-        <source>Writes a diagram in another format, or as a picture.
-The endings tell the formats. Read: %1.
-Written: %2, and png, svg and pdf for pictures.
-What is left out, or put where it can be kept, is listed on the error output.</source>
-        <translation>将图表写成另一种格式或图片。
-扩展名决定格式。可读取：%1。
-可写入：%2，图片为 png、svg 和 pdf。
-被省略或另存别处的内容会列在错误输出中。</translation>
-    </message>
-    <message>
         <source>--%1 needs convert</source>
         <translation>--%1 需要 convert</translation>
     </message>
@@ -334,12 +316,30 @@ What is left out, or put where it can be kept, is listed on the error output.</s
         <translation>“%1”的格式未知：名称须以 %2 之一结尾，或用 --from 指定 %3 之一</translation>
     </message>
     <message>
-        <source>the format of &quot;%1&quot; is unknown: the name must end in one of %2, or in .png, .svg or .pdf for a picture, or --to tell one of %3</source>
-        <translation>“%1”的格式未知：名称须以 %2 之一结尾，图片以 .png、.svg 或 .pdf 结尾，或用 --to 指定 %3 之一</translation>
-    </message>
-    <message>
         <source>%1 was not written: something would be left out</source>
         <translation>未写入 %1：有内容会被省略</translation>
+    </message>
+    <message>
+        <source>Draw the diagram into the picture &lt;file&gt; and quit. The ending .png, .svg, .pdf or, for a slide, .pptx tells the format. Needs no display.</source>
+        <translation>将图表绘制为图片 &lt;file&gt; 并退出。扩展名 .png、.svg、.pdf 或（幻灯片）.pptx 决定格式。不需要显示器。</translation>
+    </message>
+    <message>
+        <source>Writes a diagram in another format, or as a picture.
+The endings tell the formats. Read: %1.
+Written: %2, and png, svg, pdf and pptx for pictures.
+What is left out, or put where it can be kept, is listed on the error output.</source>
+        <translation>将图表写成另一种格式或图片。
+扩展名决定格式。可读取：%1。
+可写入：%2，图片为 png、svg、pdf 和 pptx。
+被省略或另存别处的内容会列在错误输出中。</translation>
+    </message>
+    <message>
+        <source>the format of &quot;%1&quot; is unknown: the name must end in .png, .svg, .pdf or .pptx</source>
+        <translation>“%1”的格式未知：名称须以 .png、.svg、.pdf 或 .pptx 结尾</translation>
+    </message>
+    <message>
+        <source>the format of &quot;%1&quot; is unknown: the name must end in one of %2, or in .png, .svg, .pdf or .pptx for a picture, or --to tell one of %3</source>
+        <translation>“%1”的格式未知：名称须以 %2 之一结尾，图片以 .png、.svg、.pdf 或 .pptx 结尾，或用 --to 指定 %3 之一</translation>
     </message>
 </context>
 <context>
@@ -1274,6 +1274,10 @@ What is left out, or put where it can be kept, is listed on the error output.</s
     <message>
         <source>Writing %1…</source>
         <translation>正在写入 %1…</translation>
+    </message>
+    <message>
+        <source>PowerPoint slide (*.%1)</source>
+        <translation>PowerPoint 幻灯片 (*.%1)</translation>
     </message>
 </context>
 <context>
@@ -2372,6 +2376,21 @@ Do you want to save your changes?</source>
     <message>
         <source>Not found key word %1.</source>
         <translation>未找到关键字“%1”。</translation>
+    </message>
+</context>
+<context>
+    <name>SlideExport</name>
+    <message>
+        <source>Fishbone diagram &quot;%1&quot; with %2 causes</source>
+        <translation>鱼骨图“%1”，共 %2 个原因</translation>
+    </message>
+    <message>
+        <source>Actions</source>
+        <translation>行动</translation>
+    </message>
+    <message>
+        <source>there is nothing to draw</source>
+        <translation>没有可绘制的内容</translation>
     </message>
 </context>
 <context>

@@ -3,6 +3,7 @@
 
 #include <app/commandline/commandline.h>
 
+#include <fishbone/exchange/slideexport.h>
 #include <fishbone/version.h>
 
 #include <QCommandLineParser>
@@ -36,7 +37,8 @@ QCommandLineOption exportOption()
 {
     return {QStringLiteral("export"),
             CommandLine::tr("Draw the diagram into the picture <file> and quit. The ending .png, "
-                            ".svg or .pdf tells the format. Needs no display."),
+                            ".svg, .pdf or, for a slide, .pptx tells the format. Needs no "
+                            "display."),
             QStringLiteral("file")};
 }
 
@@ -106,6 +108,12 @@ QString endings(bool (*can)(DiagramExchange::Format))
     return endings.join(QLatin1String(", "));
 }
 
+/** Whether the ending of @p fileName is that of a picture or slide. */
+bool isPicture(const QString &fileName)
+{
+    return PictureExport::formatOf(fileName) || SlideExport::isSlide(fileName);
+}
+
 void describeWindow(QCommandLineParser &parser)
 {
     parser.setApplicationDescription(CommandLine::tr(
@@ -127,7 +135,7 @@ void describeConvert(QCommandLineParser &parser)
     parser.setApplicationDescription(
         CommandLine::tr("Writes a diagram in another format, or as a picture.\n"
                         "The endings tell the formats. Read: %1.\n"
-                        "Written: %2, and png, svg and pdf for pictures.\n"
+                        "Written: %2, and png, svg, pdf and pptx for pictures.\n"
                         "What is left out, or put where it can be kept, is listed on the error "
                         "output.")
             .arg(formatIds(DiagramExchange::canRead), formatIds(DiagramExchange::canWrite)));
@@ -273,9 +281,11 @@ bool CommandLine::readExport(const QCommandLineParser &parser)
         return refuseOptions(parser, pictureOptions(), tr("--%1 needs --export"));
     action = Action::Export;
     target = parser.value(QStringLiteral("export"));
-    if (!PictureExport::formatOf(target))
-        return refuse(tr("the format of \"%1\" is unknown: the name must end in .png, .svg or .pdf")
-                          .arg(target));
+    if (!isPicture(target))
+        return refuse(
+            tr("the format of \"%1\" is unknown: the name must end in .png, .svg, .pdf or "
+               ".pptx")
+                .arg(target));
     if (documents.size() != 1)
         return refuse(tr("--export takes one document, not %1").arg(documents.size()));
     return readPicture(parser);
@@ -293,7 +303,7 @@ bool CommandLine::readConvert(const QCommandLineParser &parser)
     isStrict = parser.isSet(strictOption());
     if (!readFormat(parser, QStringLiteral("from"), documents.constFirst(), from))
         return false;
-    if (!parser.isSet(QStringLiteral("to")) && PictureExport::formatOf(target))
+    if (!parser.isSet(QStringLiteral("to")) && isPicture(target))
         return readPicture(parser);
     return refuseOptions(parser, pictureOptions(), tr("--%1 needs a picture to write")) &&
            readFormat(parser, QStringLiteral("to"), target, to);
@@ -335,7 +345,7 @@ bool CommandLine::readFormat(const QCommandLineParser &parser, const QString &na
                          "--from tell one of %3")
                           .arg(fileName, endings(can), formatIds(can)));
     return refuse(tr("the format of \"%1\" is unknown: the name must end in one of %2, or in "
-                     ".png, .svg or .pdf for a picture, or --to tell one of %3")
+                     ".png, .svg, .pdf or .pptx for a picture, or --to tell one of %3")
                       .arg(fileName, endings(can), formatIds(can)));
 }
 

@@ -10,6 +10,7 @@
 #include <app/files/importsummary.h>
 
 #include <fishbone/editor/fishscene.h>
+#include <fishbone/exchange/slideexport.h>
 #include <fishbone/model/fishinfo.h>
 #include <fishbone/model/fishmodel.h>
 #include <fishbone/model/treeitem.h>
@@ -37,6 +38,17 @@ FishInfo *loadNow(DocumentLoader &loader, const QString &source, QString &messag
     return loadedDocument;
 }
 
+/** Writes the drawing in @p scene of the diagram of @p head as a slide; returns an exit code. */
+int drawSlide(QGraphicsScene &scene, const TreeItem &head, const CommandLine &line,
+              QString &message)
+{
+    QString reason;
+    if (SlideExport::write(scene, head, line.target, SlideExport::Aspect::Wide, &reason))
+        return CommandLine::success;
+    message = CommandLine::tr("cannot write %1: %2").arg(line.target, reason);
+    return CommandLine::failure;
+}
+
 /** Draws @p document of @p model into the target of @p line; returns an exit code. */
 int drawPicture(FishModel &model, FishInfo *document, const CommandLine &line, QString &message)
 {
@@ -44,6 +56,8 @@ int drawPicture(FishModel &model, FishInfo *document, const CommandLine &line, Q
     LevelDrawing drawing(model, model.index(model.fishRow(document), 0));
     drawing.expand(line.levels);
 
+    if (SlideExport::isSlide(line.target))
+        return drawSlide(*drawing.scene(), *document->treeItem()->childAtIndex(0), line, message);
     PictureOptions options = line.options;
     options.title = document->treeItem()->childAtIndex(0)->title();
     const PictureExport::Result result =

@@ -17,6 +17,7 @@
 #include <fishbone/editor/fishscene.h>
 #include <fishbone/exchange/diagramexchange.h>
 #include <fishbone/exchange/exchangereport.h>
+#include <fishbone/exchange/slideexport.h>
 #include <fishbone/model/fishinfo.h>
 #include <fishbone/model/fishmodel.h>
 #include <fishbone/model/treeitem.h>
@@ -150,8 +151,10 @@ PictureExport::Result ExportCommands::writePicture(PictureSource &source,
 /** Asks for the file of exportAs(); its ending tells the format. Empty when the user cancels. */
 QString ExportCommands::targetOfExport() const
 {
-    const QStringList filters = DiagramExchange::exportFilter().split(QStringLiteral(";;"));
-    const QStringList suffixes = foreignSuffixes();
+    const QString slide = QStringLiteral("pptx");
+    const QStringList filters = DiagramExchange::exportFilter().split(QStringLiteral(";;")) +
+                                QStringList(tr("PowerPoint slide (*.%1)").arg(slide));
+    const QStringList suffixes = foreignSuffixes() + QStringList(slide);
     QFileDialog dialog(m_window, tr("Export as"), proposedName(suffixes.constFirst()));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setNameFilters(filters);
@@ -170,17 +173,27 @@ QString ExportCommands::targetOfExport() const
 QString ExportCommands::writeAs(const FishInfo &document, const QString &path) const
 {
     const auto format = DiagramExchange::formatOf(path);
-    if (!format)
+    const bool isSlide = SlideExport::isSlide(path);
+    if (!format && !isSlide)
         return tr("its ending tells none of the formats");
     const BusyCursor busy(document.treeItem());
     QString reason;
     const TreeItem &head = *document.treeItem()->childAtIndex(0);
+    if (isSlide) {
+        const SelectionHidden unmarked(m_editor->scene());
+        return SlideExport::write(*m_editor->scene(), head, path, SlideExport::Aspect::Wide,
+                                  &reason)
+                   ? QString()
+                   : reason;
+    }
     return DiagramExchange::writeFile(path, head, *format, &reason) ? QString() : reason;
 }
 
 /** What of @p document is not in the file @p path, for the status bar; empty when all is. */
 QString ExportCommands::lossesOf(const FishInfo &document, const QString &path)
 {
+    if (SlideExport::isSlide(path))
+        return QString();
     const ExchangeReport report = DiagramExchange::lossesOf(*document.treeItem()->childAtIndex(0),
                                                             *DiagramExchange::formatOf(path));
     const QStringList lines = report.losesContent() ? report.lines() : QStringList();

@@ -91,6 +91,7 @@ void TestCommandLineConvert::shouldDrawPicturesOfEveryFormat_data()
         QTest::newRow(source) << QString::fromLatin1(source) << QStringLiteral("png") << png;
     QTest::newRow("svg") << QStringLiteral("md") << QStringLiteral("svg") << QByteArray("<?xml");
     QTest::newRow("pdf") << QStringLiteral("md") << QStringLiteral("pdf") << QByteArray("%PDF-");
+    QTest::newRow("pptx") << QStringLiteral("md") << QStringLiteral("pptx") << QByteArray("PK");
 }
 
 void TestCommandLineConvert::shouldDrawPicturesOfEveryFormat()
@@ -198,7 +199,8 @@ void TestCommandLineConvert::shouldRefuseWhatMakesNoSense_data()
     row("one file", "convert a.md", "convert|file to write");
     row("three files", "convert a.md b.md c.md", "convert|file to write");
     row("unknown ending", "convert a.doc b.md", "a.doc|--from|.md|.opml|.plantuml");
-    row("unknown target", "convert a.md b.jpg", "b.jpg|--to|.md|.opml|.drawio|.png|.svg|.pdf");
+    row("unknown target", "convert a.md b.jpg",
+        "b.jpg|--to|.md|.opml|.drawio|.png|.svg|.pdf|.pptx");
     row("only written", "convert a.drawio b.md", "draw.io|written");
     row("only read", "convert a.md b.puml", "PlantUML|read");
     row("strict without a command", "--strict a.md", "--strict|convert");

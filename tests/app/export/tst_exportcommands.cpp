@@ -35,6 +35,8 @@ private Q_SLOTS:
     void init();
     void shouldExportEveryForeignFormat_data();
     void shouldExportEveryForeignFormat();
+    void shouldExportASlide();
+    void shouldSayWhatAnExportLeavesOut();
     void shouldExportTheWholeDocument();
     void shouldLeaveTheDocumentAsItIs();
     void shouldNotExportUnderAnEndingThatTellsNoFormat();
@@ -88,6 +90,36 @@ void TestExportCommands::shouldExportEveryForeignFormat()
     QVERIFY(head);
     QCOMPARE(AppFixture::textOf(head.get()), app.text());
     QCOMPARE(app.window.statusBar()->currentMessage(), QStringLiteral("%1 written").arg(written));
+}
+
+void TestExportCommands::shouldExportASlide()
+{
+    AppFixture app;
+    app.select("People"); // which the slide does not show
+    const QString path = app.path(QStringLiteral("a.pptx"));
+    QStringList filters;
+    const ModalDriver<QFileDialog> driver([&](QFileDialog &dialog) {
+        filters = dialog.nameFilters();
+        enter(path)(dialog);
+    });
+    app.trigger("exportAs");
+    QVERIFY(driver.isDone());
+    QVERIFY(filters.contains(QStringLiteral("PowerPoint slide (*.pptx)")));
+    QVERIFY(AppFixture::contentOf(path).startsWith("PK"));
+    QCOMPARE(app.window.statusBar()->currentMessage(), QStringLiteral("%1 written").arg(path));
+    QCOMPARE(app.selectedInDrawing(), QStringList(QStringLiteral("People")));
+}
+
+void TestExportCommands::shouldSayWhatAnExportLeavesOut()
+{
+    AppFixture app;
+    app.subject("Rust")->setDetail(QStringLiteral("brown"));
+    const QString path = app.path(QStringLiteral("a.txt"));
+    const ModalDriver<QFileDialog> driver(enter(path));
+    app.trigger("exportAs");
+    QVERIFY(driver.isDone());
+    QCOMPARE(app.window.statusBar()->currentMessage(),
+             QStringLiteral("%1 written; left out: \"detail\"").arg(path));
 }
 
 void TestExportCommands::shouldExportTheWholeDocument()
