@@ -12,13 +12,14 @@
 #include <memory>
 
 class UndoCommand;
+class UndoStackOwner;
 
 /**
  * The linear history of an editor: which commands were run, and which of them is the last one in
  * effect.
  *
- * The stack owns its commands. It knows no saved state and neither merges nor groups commands, and
- * it does not ask whether a command had an effect.
+ * The stack owns its commands. It neither merges nor groups them, and it does not ask whether a
+ * command had an effect. It can tell whether it is back where it was when setClean() was called.
  *
  * At its bound the oldest commands fall off while the index goes on counting, so that it stands
  * past the last command and nothing can be undone any more. setRolling() makes the index follow the
@@ -60,6 +61,30 @@ public:
     /** Returns the position of the command that was applied last, -1 when there is none. */
     int currentIndex() const { return m_index; }
 
+    /** Returns the number of commands, those that can be redone included. */
+    int count() const { return m_commands.count(); }
+
+    /** Returns the name of the command that undo() would take back; empty when there is none. */
+    QString undoText() const;
+
+    /** Returns the name of the command that redo() would repeat; empty when there is none. */
+    QString redoText() const;
+
+    /**
+     * Deletes all commands, the oldest one first; what they did stays done. Emits undoAvailable(),
+     * redoAvailable() and stackChanged(). The history is as clean as it was.
+     */
+    void clear();
+
+    /** Remembers where the history stands now, which is where its document was saved, say. */
+    void setClean();
+
+    /**
+     * Returns whether the history stands where setClean() was called last, or where it began. Once
+     * that position is gone, by a push in its place or past the bound, it does not come back.
+     */
+    bool isClean() const;
+
     /**
      * Undoes or redoes step by step until @p index is the current one.
      *
@@ -79,6 +104,9 @@ public:
      * command.
      */
     void setRolling(bool rolling) { m_isRolling = rolling; }
+
+    /** Has @p owner, null for none, told of the calls of this stack. For FishEditor. */
+    void setOwner(UndoStackOwner *owner) { m_owner = owner; }
 
 public Q_SLOTS:
     /**
@@ -109,19 +137,28 @@ Q_SIGNALS:
     void currentChanged(int index);
 
 private:
+    class Call;
+
     using Command =
         std::shared_ptr<UndoCommand>; // a running command outlives its place in the list
 
-    bool run(Command command, void (UndoCommand::*step)());
+    enum class CleanState { Beginning, Command, Gone };
+
+    void step(bool isUndo);
+    bool run(Command command, void (UndoCommand::*side)());
     void settle();
     bool discardRedoTail();
     void boundHistory();
     bool emitAvailability();
-    void emitStep();
+    void emitChange();
 
     int m_index = -1;
     QList<Command> m_commands;
     int m_running = 0;     // how many commands are within their undo() or redo()
     int m_pendingStep = 0; // what the command that runs adds to the index when it is through
     bool m_isRolling = false;
+    int m_runs = 0; // of commands, so far
+    CleanState m_cleanState = CleanState::Beginning;
+    std::weak_ptr<UndoCommand> m_cleanCommand; // the current one when setClean() was called
+    UndoStackOwner *m_owner = nullptr;
 };
