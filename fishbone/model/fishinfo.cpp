@@ -59,7 +59,7 @@ FishInfo::FishInfo(QObject *parent)
 FishInfo::~FishInfo()
 {
     if (m_owner)
-        m_owner->takeFish(m_owner->fishRow(this));
+        m_owner->forget(this);
 }
 
 void FishInfo::setCurrentFile(const QString &path)
@@ -82,21 +82,25 @@ QString FishInfo::userFriendlyCurrentFile() const
 
 void FishInfo::reset()
 {
-    if (m_owner)
-        m_owner->beginResetModel();
-    clearTree();
-    if (m_owner)
-        m_owner->endResetModel();
+    rebuild([this] { clearTree(); });
 }
 
 void FishInfo::loadFish(const QJsonObject &root, QAbstractItemModel *model)
 {
+    const QPointer<QAbstractItemModel> shown(model);
+    rebuild([this, root, shown] {
+        buildTree(root);
+        m_model = shown;
+    });
+}
+
+/** Carries out a @p change of the whole tree, which the model that lists the document announces. */
+void FishInfo::rebuild(const std::function<void()> &change)
+{
     if (m_owner)
-        m_owner->beginResetModel();
-    buildTree(root);
-    m_model = model;
-    if (m_owner)
-        m_owner->endResetModel();
+        m_owner->rebuild(this, change);
+    else
+        change();
 }
 
 /** reset() without announcement. */

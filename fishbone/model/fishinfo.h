@@ -122,6 +122,7 @@ public:
 private:
     friend class FishModel;
 
+    void rebuild(const std::function<void()> &change);
     void clearTree();
     void buildTree(const QJsonObject &root);
     QString newAutoSaveFile() const;
@@ -136,5 +137,6 @@ private:
     int m_noParentNodeCount = 0;
     QStringList m_historys;
     QPointer<QAbstractItemModel> m_model;
+    quint64 m_changeStamp = 0;    // FishModel::changeStamp() at the last change that it told
     FishModel *m_owner = nullptr; // the model that lists the document, kept by that model
 };

@@ -5,6 +5,7 @@
 
 #include <fishbone/model/fishinfo.h>
 #include <fishbone/model/jsonnodes.h>
+#include <fishbone/model/modelchange.h>
 #include <fishbone/model/treeitem.h>
 
 #include <QBrush>
@@ -43,12 +44,14 @@ bool visitPreOrder(TreeItem *top, Visitor visit)
 FishModel::FishModel(QObject *parent)
     : DragDropModel(parent)
 {
+    join();
     qRegisterMetaType<MODEL_ERROR>();
     qRegisterMetaType<TreeItem *>();
 }
 
 FishModel::~FishModel()
 {
+    part();
     const QList<FishInfo *> documents = std::exchange(m_fishList, {});
     for (FishInfo *document : documents) {
         document->m_owner = nullptr;
@@ -146,7 +149,7 @@ bool FishModel::setData(const QModelIndex &index, const QVariant &value, int rol
     TreeItem *const item = getTreeItem(index);
     if (!item || role != Qt::EditRole || !item->setData(index.column(), value))
         return false;
-    Q_EMIT dataChanged(index, index);
+    tellData(index, index);
     return true;
 }
 
@@ -163,12 +166,13 @@ void FishModel::updateItem(const QModelIndex &index, TreeItem *source)
     item->setPlanEndDate(source->planEndDate());
     item->setPriority(source->priority());
     item->setEditModified(true);
+    stamp(item);
 }
 
 void FishModel::refreshModel()
 {
-    beginResetModel();
-    endResetModel();
+    if (!isAnnouncing())
+        const Change reset = resetting();
 }
 
 TreeItem *FishModel::headAt(int row) const
@@ -331,21 +335,20 @@ void FishModel::write(QJsonObject &out, TreeItem *item, bool includeItem)
 
 void FishModel::read(const QJsonObject &root, TreeItem *parent, int position)
 {
-    if (!parent)
+    if (!parent || isAnnouncing() || (!fishOf(parent) && isInAnyModel(parent)))
         return;
     std::unique_ptr<TreeItem> node = JsonNodes::read(root, parent, position);
     const QModelIndex parentIndex = indexFromItem(parent);
     const bool inside = position >= 0 && position < parent->childCount();
     const int row = inside ? position : parent->childCount();
     if (parentIndex.isValid()) {
-        beginInsertRows(parentIndex, row, row);
+        const Change insertion = inserting(parentIndex, row, row);
         parent->appendChild(node.release(), row);
-        endInsertRows();
     } else if (containerRow(parent) >= 0) {
         // A document gets a head: its row is there already, but had no index.
-        beginResetModel();
+        const Change reset = resetting();
         parent->appendChild(node.release(), row);
-        endResetModel();
+        stamp(parent);
     } else {
         parent->appendChild(node.release(), row);
     }

@@ -9,7 +9,11 @@
 #include <QIcon>
 #include <QList>
 #include <QMetaType>
+#include <QPointer>
 #include <QSet>
+
+#include <functional>
+#include <vector>
 
 class FishInfo;
 class QByteArray;
@@ -46,6 +50,11 @@ Q_DECLARE_METATYPE(MODEL_ERROR)
  * behind the model's back while views are attached; insertFishToList() and removeFishFromList(),
  * which are meant for callers that announce by themselves, keep persistent indexes valid but tell
  * no view.
+ *
+ * Whoever hears of a change may change the model again, or end it. Between the announcement of a
+ * change (rowsAboutToBeInserted() and its like) and the change itself all other changes of the tree
+ * are refused, as any that cannot be, and loads come when the change is through; to end the model
+ * there is an error. A node that lives in another model is refused everywhere.
  */
 class FISHBONE_EXPORT FishModel : public DragDropModel
 {
@@ -121,8 +130,15 @@ public:
      * @p index and marks it edited. Emits nothing: the caller refreshes.
      */
     void updateItem(const QModelIndex &index, TreeItem *source);
+    /** Emits dataChanged() for what the caller has changed in nodes; none needs it for setData().
+     */
+    void tellData(const QModelIndex &first, const QModelIndex &last);
+    /** Emits nodeChanged() for what the caller has changed in a node. */
+    void tellNode(const QModelIndex &index);
     /** Announces a reset of the whole model. */
     void refreshModel();
+    /** Whether a change is announced and not made yet, so that any other is refused. */
+    bool isAnnouncing() const { return m_announcements > 0; }
     /** @} */
 
     /**
@@ -137,7 +153,10 @@ public:
     bool insertFishToList(int row, TreeItem *head);
     /** Deletes @p count documents from @p row on; tells no view. */
     bool removeFishFromList(int row, int count);
-    /** Deletes @p document, announced; nothing for one that this model does not list. */
+    /**
+     * Deletes @p document, announced; nothing for one that this model does not list, which may be
+     * gone already.
+     */
     void unloadFish(FishInfo *document);
     /** Takes a document out of the model, announced; the caller owns it. Null for a wrong row. */
     FishInfo *takeFish(int row);
@@ -175,6 +194,22 @@ public:
     int fishRow(const FishInfo *document) const;
     /** The document that holds @p item, null when no document of this model does. */
     FishInfo *fishOf(const TreeItem *item) const;
+    /** A number that grows with each change of any document of any model. */
+    static quint64 changeStamp();
+    /**
+     * The documents of all models in which rows, data or nodes have changed, as their models told,
+     * since changeStamp() was @p stamp; a document that was only loaded anew has not. Linear in the
+     * number of documents of the models that changed.
+     */
+    static QList<QPointer<FishInfo>> fishChangedSince(quint64 stamp);
+    /** Whether documents came, went or moved since changeStamp() was @p stamp. */
+    bool isListChangedSince(quint64 stamp) const { return m_listStamp > stamp; }
+    /**
+     * The document of an index that came with a signal, also when another listener has ended its
+     * subject since; null when that cannot be known any more. Linear in that case, and when the
+     * signal was emitted by hand.
+     */
+    FishInfo *fishOfTold(const QModelIndex &index) const;
     /** The top-level index of the first document of that file name. */
     QModelIndex findFish(const QString &fileName) const;
     /** @} */
@@ -212,7 +247,8 @@ public:
      */
     /**
      * Loads from text; null when it is no JSON document, and when a listener of the insertion has
-     * unloaded it again. Emits no fishLoaded().
+     * unloaded it again. Emits no fishLoaded(). A document that has to wait for the end of another
+     * change is returned before it has a row.
      */
     FishInfo *loadJsonFish(const QByteArray &json);
     /** Loads a file and names the document after it. Returns a MODEL_ERROR number. */
@@ -262,12 +298,33 @@ public Q_SLOTS:
 Q_SIGNALS:
     /** A load ended; @p index is the document's top-level index, invalid on an error. */
     void fishLoaded(const QModelIndex &index, MODEL_ERROR errorCode);
+    /**
+     * Something of the subject at @p index has changed that no column shows, so that dataChanged()
+     * does not tell: its link, or that it is the head now. Sent by the commands that do so, and by
+     * wrapHead() and unwrapHead().
+     */
+    void nodeChanged(const QModelIndex &index);
 
 protected:
     QModelIndexList indexesFromRecords(const QVector<Record> &records) const override;
 
 private:
     friend class FishInfo; // announces its own reset, load and death
+    class Change;
+
+    Change inserting(const QModelIndex &parent, int first, int last);
+    Change removing(const QModelIndex &parent, int first, int last);
+    Change moving(const QModelIndex &from, int row, int count, const QModelIndex &to, int before);
+    Change resetting();
+    Change arranging();
+    void join();
+    void part();
+    void stamp(const TreeItem *item);
+    void noteTold(const QModelIndex &index);
+    void whenChanged(const std::function<void()> &action);
+    void runWaiting();
+    void rebuild(FishInfo *document, const std::function<void()> &change);
+    void forget(FishInfo *dying);
 
     TreeItem *headAt(int row) const;
     int containerRow(const TreeItem *container) const;
@@ -278,7 +335,8 @@ private:
     bool resolve(const QModelIndex &parent, TreeItem **node) const;
     int rowsBelow(const TreeItem *node) const;
     bool insertPending(int row, TreeItem *node, const QList<TreeItem *> &pending);
-    bool canEnter(const TreeItem *item, const QSet<const TreeItem *> &entering) const;
+    static bool isInAnyModel(const TreeItem *item);
+    static bool canEnter(const TreeItem *item, const QSet<const TreeItem *> &entering);
     void createFish(int row, int count);
     void enter(int row, FishInfo *document);
     FishInfo *leave(int row);
@@ -287,13 +345,24 @@ private:
     void moveRow(TreeItem *source, int sourceRow, TreeItem *destination, int position);
     FishInfo *moveHead(int row, TreeItem *destination, int position);
     void moveToTop(TreeItem *source, int sourceRow, int row, FishInfo *document);
+    void exchangeHead(int row, TreeItem *container, TreeItem *child);
     void shiftHeadIndexes(int firstRow, int by);
     void dropIndexes(int row, int count);
 
     int loadFile(const QString &path, bool named);
+    void reportLoad(FishInfo *document);
 
     QList<FishInfo *> m_fishList;
     QList<TreeItem *> m_pendingItems;
+    std::vector<std::function<void()>> m_waiting; // for the end of what is announced
+    int m_announcements = 0;                      // whose listeners run just now
+    int m_changes = 0;                            // of the tree, so far
+    quint64 m_listStamp = 0;
+    quint64 m_lastStamp = 0;
+    // What the latest signal about data was sent for:
+    const TreeItem *m_told = nullptr; // only compared
+    QPointer<FishInfo> m_toldDocument;
+    int m_changesWhenTold = 0;
     FISH_MODEL_TYPE m_modelType = FISH_MODEL_NORMAL;
     mutable QIcon m_noParentIcon;
     int m_transferTimeout = 30000;

@@ -6,9 +6,10 @@
 #include <fishbone/model/fishmodel.h>
 
 #include <fishbone/model/fishinfo.h>
+#include <fishbone/model/modelchange.h>
 #include <fishbone/model/treeitem.h>
 
-#include <memory>
+#include <QPointer>
 
 /** Lists @p document at @p row; the announcement is the caller's. */
 void FishModel::enter(int row, FishInfo *document)
@@ -42,10 +43,12 @@ void FishModel::createFish(int row, int count)
 
 bool FishModel::insertFishToList(int row, int count)
 {
-    if (row < 0 || row > m_fishList.size())
+    if (isAnnouncing() || row < 0 || row > m_fishList.size())
         return false;
     if (count < 1)
         return true;
+    ++m_changes;
+    stamp(nullptr);
     shiftHeadIndexes(row, count);
     createFish(row, count);
     return true;
@@ -53,8 +56,10 @@ bool FishModel::insertFishToList(int row, int count)
 
 bool FishModel::insertFishToList(int row, TreeItem *head)
 {
-    if (row < 0 || row > m_fishList.size() || !head || fishOf(head))
+    if (isAnnouncing() || row < 0 || row > m_fishList.size() || !head || isInAnyModel(head))
         return false;
+    ++m_changes;
+    stamp(nullptr);
     shiftHeadIndexes(row, 1);
     auto *const document = new FishInfo;
     document->treeItem()->appendChild(head);
@@ -64,10 +69,12 @@ bool FishModel::insertFishToList(int row, TreeItem *head)
 
 bool FishModel::removeFishFromList(int row, int count)
 {
-    if (row < 0 || count > m_fishList.size() - row)
+    if (isAnnouncing() || row < 0 || count > m_fishList.size() - row)
         return false;
     if (count < 1)
         return true;
+    ++m_changes;
+    stamp(nullptr);
     dropIndexes(row, count);
     shiftHeadIndexes(row + count, -count);
     for (int i = 0; i < count; ++i)
@@ -109,33 +116,37 @@ void FishModel::dropIndexes(int row, int count)
 
 void FishModel::unloadFish(FishInfo *document)
 {
-    delete takeFish(fishRow(document));
+    // Compared with the list before anybody looks at it.
+    delete takeFish(m_fishList.indexOf(document));
 }
 
 FishInfo *FishModel::takeFish(int row)
 {
-    if (row < 0 || row >= m_fishList.size())
+    if (isAnnouncing() || row < 0 || row >= m_fishList.size())
         return nullptr;
-    beginRemoveRows(QModelIndex(), row, row);
-    FishInfo *const document = leave(row);
-    endRemoveRows();
+    QPointer<FishInfo> document; // which a listener may end
+    {
+        const Change removal = removing(QModelIndex(), row, row);
+        document = leave(row);
+    }
     return document;
 }
 
 bool FishModel::insertFish(int row, FishInfo *document)
 {
-    if (row < 0 || row > m_fishList.size() || !document || document->m_owner)
+    if (isAnnouncing() || row < 0 || row > m_fishList.size() || !document || document->m_owner)
         return false;
-    beginInsertRows(QModelIndex(), row, row);
-    enter(row, document);
-    endInsertRows();
+    const QPointer<FishInfo> alive(document);
+    const Change insertion = inserting(QModelIndex(), row, row);
+    // A row was announced, also when a listener has ended the document.
+    enter(row, alive ? document : new FishInfo);
     return true;
 }
 
 FishInfo *FishModel::moveHeadUnder(int row, const QModelIndex &parent, int position)
 {
     TreeItem *const destination = getTreeItem(parent);
-    if (row < 0 || row >= m_fishList.size() || !destination || position < 0 ||
+    if (isAnnouncing() || row < 0 || row >= m_fishList.size() || !destination || position < 0 ||
         position > destination->childCount() || !canMove(nullptr, row, 1, destination))
         return nullptr;
     return moveHead(row, destination, position);
@@ -144,10 +155,12 @@ FishInfo *FishModel::moveHeadUnder(int row, const QModelIndex &parent, int posit
 /** moveHeadUnder() with everything checked. */
 FishInfo *FishModel::moveHead(int row, TreeItem *destination, int position)
 {
-    beginMoveRows(QModelIndex(), row, row, rowIndex(destination), position);
-    FishInfo *const document = leave(row);
-    destination->insertChildAtPosition(position, document->treeItem()->childAtIndex(0));
-    endMoveRows();
+    QPointer<FishInfo> document;
+    {
+        const Change move = moving(QModelIndex(), row, 1, rowIndex(destination), position);
+        document = leave(row);
+        destination->insertChildAtPosition(position, document->treeItem()->childAtIndex(0));
+    }
     return document;
 }
 
@@ -155,8 +168,8 @@ bool FishModel::moveToTopLevel(const QModelIndex &index, int row, FishInfo *docu
 {
     const TreeItem *const item = getTreeItem(index);
     TreeItem *const source = item ? item->parent() : nullptr;
-    if (!source || item->isTopVaildItem() || row < 0 || row > m_fishList.size() || !document ||
-        document->m_owner || document->treeItem()->childCount() != 0)
+    if (isAnnouncing() || !source || item->isTopVaildItem() || row < 0 || row > m_fishList.size() ||
+        !document || document->m_owner || document->treeItem()->childCount() != 0)
         return false;
     moveToTop(source, item->index(), row, document);
     return true;
@@ -165,9 +178,10 @@ bool FishModel::moveToTopLevel(const QModelIndex &index, int row, FishInfo *docu
 /** moveToTopLevel() with everything checked. */
 void FishModel::moveToTop(TreeItem *source, int sourceRow, int row, FishInfo *document)
 {
-    beginMoveRows(rowIndex(source), sourceRow, sourceRow, QModelIndex(), row);
+    const QPointer<FishInfo> alive(document);
+    const Change move = moving(rowIndex(source), sourceRow, 1, QModelIndex(), row);
+    FishInfo *const entering = alive ? document : new FishInfo; // as in insertFish()
     // The container's own uuid is "-1", which as a pid says that there is no parent task.
-    document->treeItem()->insertChildAtPosition(0, source->childAtIndex(sourceRow));
-    enter(row, document);
-    endMoveRows();
+    entering->treeItem()->insertChildAtPosition(0, source->childAtIndex(sourceRow));
+    enter(row, entering);
 }

@@ -6,17 +6,17 @@
 #include <fishbone/model/fishmodel.h>
 
 #include <fishbone/model/fishinfo.h>
+#include <fishbone/model/modelchange.h>
 #include <fishbone/model/treeitem.h>
 
 bool FishModel::putRow(int row, TreeItem *item, const QModelIndex &parent)
 {
     TreeItem *const node = getTreeItem(parent);
-    if (!node || row < 0 || row > node->childCount() || !item || !canEnter(item, {}) ||
-        item->root() != item || item == node->root())
+    if (isAnnouncing() || !node || row < 0 || row > node->childCount() || !item ||
+        !canEnter(item, {}) || item->root() != item || item == node->root())
         return false;
-    beginInsertRows(rowIndex(node), row, row);
+    const Change insertion = inserting(rowIndex(node), row, row);
     node->appendChild(item, row);
-    endInsertRows();
     return true;
 }
 
@@ -24,17 +24,21 @@ bool FishModel::wrapHead(FishInfo *document, TreeItem *newHead)
 {
     const int row = fishRow(document);
     TreeItem *const head = headAt(row);
-    if (!head || !newHead || !canEnter(newHead, {}) || newHead->root() != newHead)
+    if (isAnnouncing() || !head || !newHead || !canEnter(newHead, {}) || newHead->root() != newHead)
         return false;
     // The row stays and only what it shows changes, which no announcement of rows could tell.
-    Q_EMIT layoutAboutToBeChanged();
     TreeItem *const container = document->treeItem();
-    container->takeAt(0);
-    container->appendChild(newHead, 0);
-    newHead->insertChildAtPosition(0, head);
-    for (int column = 0; column < columnCount(); ++column)
-        changePersistentIndex(createIndex(row, column, head), createIndex(0, column, head));
-    Q_EMIT layoutChanged();
+    const QPointer<FishModel> alive(this);
+    {
+        const Change arrangement = arranging();
+        container->takeAt(0);
+        container->appendChild(newHead, 0);
+        newHead->insertChildAtPosition(0, head);
+        for (int column = 0; column < columnCount(); ++column)
+            changePersistentIndex(createIndex(row, column, head), createIndex(0, column, head));
+    }
+    if (alive)
+        tellNode(index(row, 0));
     return true;
 }
 
@@ -42,10 +46,20 @@ TreeItem *FishModel::unwrapHead(FishInfo *document, TreeItem *child)
 {
     const int row = fishRow(document);
     TreeItem *const head = headAt(row);
-    if (!head || !child || child->parent() != head || child->index() < 0)
+    if (isAnnouncing() || !head || !child || child->parent() != head || child->index() < 0)
         return nullptr;
-    Q_EMIT layoutAboutToBeChanged();
-    TreeItem *const container = document->treeItem();
+    const QPointer<FishModel> alive(this);
+    exchangeHead(row, document->treeItem(), child);
+    if (alive)
+        tellNode(index(row, 0));
+    return head;
+}
+
+/** unwrapHead() with everything checked. */
+void FishModel::exchangeHead(int row, TreeItem *container, TreeItem *child)
+{
+    TreeItem *const head = child->parent();
+    const Change arrangement = arranging();
     head->takeAt(child->index());
     container->takeAt(0);
     head->setParent(nullptr);
@@ -58,6 +72,4 @@ TreeItem *FishModel::unwrapHead(FishInfo *document, TreeItem *child)
         else if (node->root() == head)
             changePersistentIndex(index, QModelIndex());
     }
-    Q_EMIT layoutChanged();
-    return head;
 }

@@ -6,6 +6,7 @@
 #include <fishbone/model/fishmodel.h>
 
 #include <fishbone/model/fishinfo.h>
+#include <fishbone/model/modelchange.h>
 
 #include <QFile>
 #include <QJsonDocument>
@@ -64,8 +65,20 @@ FishInfo *FishModel::loadJsonFish(const QByteArray &json)
     document->buildTree(parsed.object());
     // Who hears of the new row may unload it at once.
     const QPointer<FishInfo> loaded(document.release());
-    insertFish(m_fishList.size(), loaded);
+    loaded->setParent(this); // while it waits
+    whenChanged([this, loaded] {
+        if (!loaded)
+            return;
+        loaded->setParent(nullptr);
+        insertFish(m_fishList.size(), loaded);
+    });
     return loaded;
+}
+
+void FishModel::reportLoad(FishInfo *document)
+{
+    const QPointer<FishInfo> loaded(document);
+    whenChanged([this, loaded] { Q_EMIT fishLoaded(index(fishRow(loaded), 0), MODEL_NO_ERROR); });
 }
 
 /** Loads a file and announces it; the document takes the file's name when it is to be @p named. */
@@ -79,7 +92,7 @@ int FishModel::loadFile(const QString &path, bool named)
         return MODEL_DATA_ERROR;
     if (named)
         document->setFileName(path);
-    Q_EMIT fishLoaded(index(fishRow(document), 0), MODEL_NO_ERROR);
+    reportLoad(document);
     return MODEL_NO_ERROR;
 }
 
@@ -125,16 +138,19 @@ void FishModel::replyFinished(QNetworkReply *reply)
     if (manager && manager->QObject::parent() == this)
         manager->deleteLater();
 
+    const QPointer<FishModel> alive(this);
     const bool fits = m_replyLimit <= 0 || reply->bytesAvailable() <= m_replyLimit;
     FishInfo *document = nullptr;
     if (fits && reply->error() == QNetworkReply::NoError)
         document = loadJsonFish(reply->readAll());
+    if (!alive)
+        return;
     if (!document) {
         Q_EMIT fishLoaded(QModelIndex(), MODEL_DATA_ERROR);
         return;
     }
     document->setFileName(reply->url().toString());
-    Q_EMIT fishLoaded(index(fishRow(document), 0), MODEL_NO_ERROR);
+    reportLoad(document);
 }
 
 int FishModel::reloadDataFromFile(const QString &path, FishInfo *document)
@@ -148,11 +164,24 @@ int FishModel::reloadDataFromFile(const QString &path, FishInfo *document)
     if (!document)
         return MODEL_NO_DOCUMENT;
     FishModel *const shown = document->m_owner ? document->m_owner : this;
-    shown->beginResetModel();
-    document->clearTree();
-    document->buildTree(parsed.object());
-    document->setModel(shown);
-    shown->endResetModel();
-    Q_EMIT fishLoaded(findFish(path), MODEL_NO_ERROR);
+    const QPointer<FishModel> alive(this);
+    const QPointer<FishInfo> reloaded(document);
+    const QJsonObject root = parsed.object();
+    const auto reload = [reloaded, root, shown] {
+        reloaded->clearTree();
+        reloaded->buildTree(root);
+        reloaded->setModel(shown);
+    };
+    if (document->m_owner) {
+        shown->rebuild(document, reload);
+    } else {
+        whenChanged([this, reloaded, reload] {
+            const Change reset = resetting();
+            if (reloaded)
+                reload();
+        });
+    }
+    if (alive)
+        whenChanged([this, path] { Q_EMIT fishLoaded(findFish(path), MODEL_NO_ERROR); });
     return MODEL_NO_ERROR;
 }

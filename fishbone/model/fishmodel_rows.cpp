@@ -6,8 +6,10 @@
 #include <fishbone/model/fishmodel.h>
 
 #include <fishbone/model/fishinfo.h>
+#include <fishbone/model/modelchange.h>
 #include <fishbone/model/treeitem.h>
 
+#include <QPointer>
 #include <QSet>
 
 #include <limits>
@@ -30,7 +32,7 @@ bool FishModel::insertRows(int row, int count, const QModelIndex &parent)
 {
     const QList<TreeItem *> pending = std::exchange(m_pendingItems, {});
     TreeItem *node = nullptr;
-    if (!resolve(parent, &node) || row < 0 || row > rowsBelow(node))
+    if (isAnnouncing() || !resolve(parent, &node) || row < 0 || row > rowsBelow(node))
         return false;
     if (!pending.isEmpty())
         return insertPending(row, node, pending);
@@ -38,24 +40,23 @@ bool FishModel::insertRows(int row, int count, const QModelIndex &parent)
         return true;
     if (count > std::numeric_limits<int>::max() - rowsBelow(node))
         return false;
-    beginInsertRows(rowIndex(node), row, row + count - 1);
+    const Change insertion = inserting(rowIndex(node), row, row + count - 1);
     if (node)
         node->insertChildren(row, count, node->uuid());
     else
         createFish(row, count);
     for (int i = row; i < row + count; ++i)
         (node ? node->childItems().at(i) : headAt(i))->ensureUuid();
-    endInsertRows();
     return true;
 }
 
-/** Whether @p item is outside this model, and outside the subtrees that are @p entering it. */
-bool FishModel::canEnter(const TreeItem *item, const QSet<const TreeItem *> &entering) const
+/** Whether @p item is outside all models, and outside the subtrees that are @p entering it. */
+bool FishModel::canEnter(const TreeItem *item, const QSet<const TreeItem *> &entering)
 {
     const TreeItem *above = item;
     while (above && !entering.contains(above))
         above = above->m_lister;
-    return !above && !fishOf(item);
+    return !above && !isInAnyModel(item);
 }
 
 bool FishModel::insertPending(int row, TreeItem *node, const QList<TreeItem *> &pending)
@@ -74,7 +75,7 @@ bool FishModel::insertPending(int row, TreeItem *node, const QList<TreeItem *> &
     }
     if (inRowOrder.isEmpty())
         return lastEnters;
-    beginInsertRows(rowIndex(node), row, row + inRowOrder.size() - 1);
+    const Change insertion = inserting(rowIndex(node), row, row + int(inRowOrder.size()) - 1);
     for (TreeItem *item : std::as_const(inRowOrder)) {
         if (node) {
             node->insertChildAtPosition(row, item);
@@ -86,7 +87,6 @@ bool FishModel::insertPending(int row, TreeItem *node, const QList<TreeItem *> &
         item->ensureUuid();
         ++row;
     }
-    endInsertRows();
     return lastEnters;
 }
 
@@ -103,34 +103,35 @@ bool FishModel::insertExistItemRows(const QModelIndex &parent, const QList<TreeI
 bool FishModel::removeRows(int row, int count, const QModelIndex &parent)
 {
     TreeItem *node = nullptr;
-    if (!resolve(parent, &node) || row < 0 || count > rowsBelow(node) - row)
+    if (isAnnouncing() || !resolve(parent, &node) || row < 0 || count > rowsBelow(node) - row)
         return false;
     if (count < 1)
         return true;
-    QList<FishInfo *> documents;
-    beginRemoveRows(rowIndex(node), row, row + count - 1);
-    if (node)
-        node->removeChildren(row, count);
-    else
-        for (int i = 0; i < count; ++i)
-            documents.append(leave(row));
-    endRemoveRows();
-    qDeleteAll(documents);
+    QList<QPointer<FishInfo>> documents; // which a listener may end
+    {
+        const Change removal = removing(rowIndex(node), row, row + count - 1);
+        if (node)
+            node->removeChildren(row, count);
+        else
+            for (int i = 0; i < count; ++i)
+                documents.append(leave(row));
+    }
+    for (const QPointer<FishInfo> &document : std::as_const(documents))
+        delete document;
     return true;
 }
 
 TreeItem *FishModel::takeRow(int row, const QModelIndex &parent)
 {
     TreeItem *node = nullptr;
-    if (!resolve(parent, &node) || row < 0 || row >= rowsBelow(node))
+    if (isAnnouncing() || !resolve(parent, &node) || row < 0 || row >= rowsBelow(node))
         return nullptr;
     if (!node && m_fishList.at(row)->treeItem()->childCount() != 1)
         return nullptr;
-    beginRemoveRows(rowIndex(node), row, row);
+    const Change removal = removing(rowIndex(node), row, row);
     const std::unique_ptr<FishInfo> document(node ? nullptr : leave(row));
     TreeItem *const taken = node ? node->takeAt(row) : document->treeItem()->takeAt(0);
     taken->setParent(nullptr);
-    endRemoveRows();
     return taken;
 }
 
@@ -162,30 +163,35 @@ bool FishModel::canMove(const TreeItem *source, int sourceRow, int count,
 bool FishModel::moveSrcToDstWithList(TreeItem *source, int sourceRow, int count,
                                      TreeItem *destination, int destinationChild)
 {
-    if (sourceRow < 0 || destinationChild < 0 || count > rowsBelow(source) - sourceRow ||
-        destinationChild > rowsBelow(destination))
+    if (isAnnouncing() || sourceRow < 0 || destinationChild < 0 ||
+        count > rowsBelow(source) - sourceRow || destinationChild > rowsBelow(destination))
         return false;
     if (count < 1)
         return true;
     const bool sourceIsHere = !source || indexFromItem(source).isValid();
     const bool destinationIsHere = !destination || indexFromItem(destination).isValid();
     if (!sourceIsHere && !destinationIsHere)
-        return source->moveChildren(sourceRow, count, destination, destinationChild);
+        return !isInAnyModel(source) && !isInAnyModel(destination) &&
+               source->moveChildren(sourceRow, count, destination, destinationChild);
     if (!sourceIsHere || !destinationIsHere || !canMove(source, sourceRow, count, destination))
         return false;
 
     if (source && destination && source != destination) {
-        beginMoveRows(rowIndex(source), sourceRow, sourceRow + count - 1, rowIndex(destination),
-                      destinationChild);
+        const Change move =
+            moving(rowIndex(source), sourceRow, count, rowIndex(destination), destinationChild);
         source->moveChildren(sourceRow, count, destination, destinationChild);
-        endMoveRows();
         return true;
     }
     // Within one list the rows that follow close up after each step, so that several rows do not
     // stay together; no single announcement could tell that.
     const int back = source == destination && destinationChild > sourceRow ? 1 : 0;
-    for (int k = 0; k < count; ++k)
+    const QPointer<FishModel> alive(this);
+    for (int k = 0; k < count && alive; ++k) {
+        const int before = m_changes;
         moveRow(source, sourceRow, destination, destinationChild - back + k);
+        if (alive && m_changes > before + 1)
+            break; // by a listener: the rows that follow may be others now
+    }
     return true;
 }
 
@@ -204,10 +210,9 @@ void FishModel::moveRow(TreeItem *source, int sourceRow, TreeItem *destination, 
         return;
     const int before = row > sourceRow ? row + 1 : row; // counted while the row is still there
     const QModelIndex parent = rowIndex(source);
-    beginMoveRows(parent, sourceRow, sourceRow, parent, before);
+    const Change move = moving(parent, sourceRow, 1, parent, before);
     if (source)
         source->moveChildren(sourceRow, 1, source, before);
     else
         m_fishList.move(sourceRow, row);
-    endMoveRows();
 }
