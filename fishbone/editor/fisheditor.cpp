@@ -5,6 +5,7 @@
 
 #include <algorithm>
 
+#include <QAbstractProxyModel>
 #include <QHBoxLayout>
 #include <QMimeData>
 #include <QTimer>
@@ -14,9 +15,10 @@
 #include <fishbone/drawing/fishdrawing.h>
 #include <fishbone/drawing/spearbuilder.h>
 #include <fishbone/editor/accessiblediagram.h>
+#include <fishbone/editor/editorcall.h>
 #include <fishbone/editor/fishscene.h>
 #include <fishbone/editor/graphicsview.h>
-#include <fishbone/editor/selectionhold.h>
+#include <fishbone/editor/stackowner.h>
 #include <fishbone/items/expanditem.h>
 #include <fishbone/items/spearitem.h>
 #include <fishbone/model/fishinfo.h>
@@ -49,6 +51,8 @@ FishEditor::FishEditor(QWidget *parent)
     registerMetaTypes();
     AccessibleDiagram::install();
     m_undoStack = new UndoStack(this);
+    m_stackOwner = std::make_unique<StackOwner>(this);
+    m_undoStack->setOwner(m_stackOwner.get());
     setFrameStyle(sunkenPanel);
     m_view = new GraphicsView(this);
     connect(m_view, &GraphicsView::rightClicked, this, &FishEditor::onRightClicked);
@@ -70,13 +74,16 @@ FishEditor::FishEditor(QWidget *parent)
 FishEditor::~FishEditor()
 {
     livingEditors().removeOne(this);
+    m_undoStack->setOwner(nullptr);
+    for (Call *call : qAsConst(m_calls))
+        call->abandon();
     // A model below the editor dies later than this part of it, and must not call it any more.
     const QList<QAbstractItemModel *> models = findChildren<QAbstractItemModel *>();
     for (QAbstractItemModel *model : models)
         model->disconnect(this);
     // The scene goes first and reports nothing more: neither host nor view shall hear of the
     // selection that dies with it.
-    m_scene->disconnect(this);
+    m_scene->blockSignals(true);
     m_headSpear = SpearPointer();
     m_view->setScene(nullptr);
     m_scene.reset();
@@ -119,12 +126,23 @@ QModelIndex FishEditor::spearIndex(SpearItem *spear) const
     return spear ? spear->modelIndex() : QModelIndex();
 }
 
+/// The index of the editor's model that \a index, of any model, stands for; invalid for none.
+QModelIndex FishEditor::ownIndex(QModelIndex index) const
+{
+    while (index.isValid() && index.model() != m_model) {
+        const auto *const proxy = qobject_cast<const QAbstractProxyModel *>(index.model());
+        index = proxy ? proxy->mapToSource(index) : QModelIndex();
+    }
+    return index;
+}
+
+/// The spear of a subject in this editor's own scene.
 SpearItem *FishEditor::spearOf(const QModelIndex &index) const
 {
     const FishModel *const model = fishModel();
-    if (!model || index.model() != model)
-        return nullptr;
-    return model->getTreeItem(index)->spear();
+    const TreeItem *const subject = model ? model->getTreeItem(ownIndex(index)) : nullptr;
+    SpearItem *const spear = subject ? subject->spear() : nullptr;
+    return spear && spear->scene() == m_scene.get() ? spear : nullptr;
 }
 
 FishInfo *FishEditor::currentFishInfo() const
@@ -159,8 +177,11 @@ int FishEditor::directionFor(const SpearItem *parent, int level, int row)
 void FishEditor::showNothing()
 {
     m_headSpear = SpearPointer();
-    const SelectionHold hold(this);
-    m_scene->clear();
+    const Call call(this);
+    {
+        const SelectionSilence silence(m_scene.get());
+        m_scene->clear();
+    }
     AccessibleDiagram::drawingChanged(m_view);
 }
 
@@ -182,13 +203,18 @@ void FishEditor::unlinkShownSubjects()
 void FishEditor::takeOverFromOtherEditors()
 {
     const FishInfo *const document = currentFishInfo();
-    const QVector<FishEditor *> editors = livingEditors();
-    for (FishEditor *other : editors) {
-        if (other == this || other->m_model != m_model || other->currentFishInfo() != document)
+    QVector<QPointer<FishEditor>> editors; // which listeners of the others may end
+    for (FishEditor *editor : qAsConst(livingEditors()))
+        editors.append(editor);
+    const QPointer<FishEditor> alive(this);
+    for (const QPointer<FishEditor> &other : qAsConst(editors)) {
+        if (!alive || !other || other == this || other->m_model != m_model ||
+            other->currentFishInfo() != document)
             continue;
+        other->m_shown = ShownRoot();
+        const Call call(other);
         other->showNothing();
         other->m_rootIndex = QModelIndex();
-        other->m_shown = ShownRoot();
     }
 }
 
@@ -202,56 +228,62 @@ bool FishEditor::isShownByAnotherEditor(const FishInfo *document) const
 
 void FishEditor::setRootIndex(const QModelIndex &index)
 {
-    const FishModel *const model = fishModel();
-    const QModelIndex root =
-        model && index.model() == model ? index.sibling(index.row(), 0) : QModelIndex();
-    const SelectionHold hold(this); // until the new drawing stands
+    const QModelIndex own = fishModel() ? ownIndex(index) : QModelIndex();
+    const QPersistentModelIndex root = own.sibling(own.row(), 0);
+    const Call call(this); // until the new drawing stands
     unlinkShownSubjects();
     showNothing();
     if (!root.isValid())
         return;
     m_rootIndex = root;
     takeOverFromOtherEditors();
+    if (!call.isAlive() || !root.isValid() || root.model() != m_model)
+        return;
     rememberShownRoot();
     loadFish(root);
     expandorContractAll(false);
     centerView(root);
-    ensureVisible(root);
+    if (call.isAlive()) // whoever hears of the scroll bars
+        ensureVisible(root);
 }
 
 void FishEditor::loadFish(const QModelIndex &index)
 {
     const FishModel *const model = fishModel();
-    if (!model || index.model() != model)
+    const QModelIndex own = ownIndex(index);
+    if (!model || !own.isValid())
         return;
-    m_headSpear = SpearBuilder(*model).buildHead(index);
+    m_headSpear = SpearBuilder(*model).buildHead(own);
     m_scene->addItem(headSpear());
 }
 
 void FishEditor::generateSpear(QAbstractItemModel *model, const QModelIndex &index)
 {
     const auto *const subjects = qobject_cast<FishModel *>(model);
-    if (subjects && index.model() == subjects)
-        SpearBuilder(*subjects).buildChildren(index);
+    const QModelIndex own = ownIndex(index);
+    if (subjects && own.model() == subjects)
+        SpearBuilder(*subjects).buildChildren(own);
 }
 
 void FishEditor::generateAllSubSpear(QAbstractItemModel *model, const QModelIndex &index)
 {
     const auto *const subjects = qobject_cast<FishModel *>(model);
-    if (subjects && index.model() == subjects)
-        SpearBuilder(*subjects).buildDescendants(index);
+    const QModelIndex own = ownIndex(index);
+    if (subjects && own.model() == subjects)
+        SpearBuilder(*subjects).buildDescendants(own);
 }
 
 void FishEditor::generateSpear(const QModelIndex &index, int level, int row, SpearItem *parent)
 {
     const FishModel *const model = fishModel();
-    if (model && index.model() == model)
-        SpearBuilder(*model).buildSubtree(index, level, row, parent, headSpear());
+    const QModelIndex own = ownIndex(index);
+    if (model && own.isValid())
+        SpearBuilder(*model).buildSubtree(own, level, row, parent, headSpear());
 }
 
 void FishEditor::updateFish(bool rebuild)
 {
-    const SelectionHold hold(this);
+    const Call call(this);
     if (rebuild) {
         setRootIndex(rootIndex());
     } else if (headSpear() && !headSpear()->treeItem()) {
@@ -261,10 +293,15 @@ void FishEditor::updateFish(bool rebuild)
         showNothing();
     } else if (headSpear()) {
         updateHeadText();
-        m_drawing->update(headSpear());
+        {
+            const SelectionSilence silence(m_scene.get()); // what is hidden is not selected
+            m_drawing->update(headSpear());
+        }
         AccessibleDiagram::drawingChanged(m_view);
         return;
     }
+    if (!call.isAlive())
+        return;
     if (FishInfo *const document = currentFishInfo())
         document->updateNoParentNodeCount();
 }
@@ -314,6 +351,7 @@ void FishEditor::refreshFish()
     if (!headSpear() || !headSpear()->treeItem())
         return;
     updateHeadText();
+    const SelectionSilence silence(m_scene.get());
     m_drawing->layout(headSpear()).refreshSpears();
 }
 
@@ -331,9 +369,11 @@ void FishEditor::updateSpearPostion()
 
 void FishEditor::expandorContractAll(bool expand)
 {
-    const SelectionHold hold(this);
-    if (headSpear())
+    const Call call(this);
+    if (headSpear()) {
+        const SelectionSilence silence(m_scene.get());
         m_drawing->layout(headSpear()).expandBones(expand);
+    }
     updateFish(false);
 }
 
@@ -344,6 +384,7 @@ void FishEditor::contractAll()
 
 void FishEditor::expandAll()
 {
+    const Call call(this);
     if (headSpear())
         generateAllSubSpear(m_model, headSpear()->modelIndex());
     expandorContractAll(true);
@@ -351,52 +392,53 @@ void FishEditor::expandAll()
 
 void FishEditor::modifyExpandAll()
 {
-    const QPointer<FishEditor> alive(this);
+    const Call call(this);
     expandorContractAll(true);
-    if (alive)
-        Q_EMIT onExpandAll();
+    Q_EMIT onExpandAll();
 }
 
 void FishEditor::modifyContractAll()
 {
-    const QPointer<FishEditor> alive(this);
+    const Call call(this);
     expandorContractAll(false);
-    if (alive)
-        Q_EMIT onCollapsAll();
+    Q_EMIT onCollapsAll();
 }
 
 void FishEditor::modifyExpand()
 {
-    const QModelIndex index = firstSelectedSpearIndex();
-    if (!index.isValid())
-        return;
-    firstSelectedSpear()->setExpand(true);
-    const QPointer<FishEditor> alive(this);
-    Q_EMIT onExpand(index);
-    if (alive)
-        updateFish(false);
+    expandSelected(true, &FishEditor::onExpand);
 }
 
 void FishEditor::modifyContract()
 {
+    expandSelected(false, &FishEditor::onCollaps);
+}
+
+void FishEditor::expandSelected(bool expand, void (FishEditor::*report)(const QModelIndex &))
+{
     const QModelIndex index = firstSelectedSpearIndex();
     if (!index.isValid())
         return;
-    const QPointer<FishEditor> alive(this);
-    {
-        const SelectionHold hold(this);
-        firstSelectedSpear()->setExpand(false);
-    }
-    if (alive)
-        Q_EMIT onCollaps(index);
-    if (alive)
+    const Call call(this);
+    firstSelectedSpear()->setExpand(expand);
+    Q_EMIT(this->*report)(index);
+    if (call.isAlive())
         updateFish(false);
 }
 
 void FishEditor::modelDataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight)
 {
     Q_UNUSED(bottomRight)
+    const auto *const told = qobject_cast<const QAbstractItemModel *>(sender());
+    if (told && told != m_model)
+        return; // one that was set earlier
+    const Call call(this);
+    // Found first: another listener may have ended the subject, and the layout need not know it.
+    const FishModel *const model = fishModel();
+    const QPointer<FishInfo> document =
+        model && topLeft.isValid() ? model->fishOfTold(ownIndex(topLeft)) : currentFishInfo();
     if (topLeft.column() == 0)
         updateFish(false);
-    setModified(true);
+    if (document)
+        document->setModified(true);
 }

@@ -47,8 +47,14 @@ Q_DECLARE_METATYPE(CHANGE_PARENT_TYPE)
 /// bones exist from setRootIndex() on, deeper bones are made when they are first shown. Every edit
 /// ends in updateFish().
 ///
-/// A listener may end the editor from any signal of an edit; what is left of the call is skipped
-/// then.
+/// A listener may do anything from any signal: end the editor, the model or a document, rebuild,
+/// edit again. What is left of the call that sent it does nothing more to what is gone, and never
+/// acts on another subject in its place. The scene's selectionChanged() and copyAvailable() come
+/// once for a call, when it has done its work.
+///
+/// An index of a proxy model over the editor's model stands for the one that it maps to; one of any
+/// other model is as good as invalid. A change in a document that the editor does not show marks
+/// that document, not the shown one.
 ///
 /// The editor never acts on what concerns a task outside the diagram (opening it, creating a real
 /// sub-task, editing its details): it reports the gesture with a signal. No operation reports an
@@ -74,8 +80,8 @@ public:
     FishScene *scene() const { return m_scene.get(); }    ///< owned by the editor
     UndoStack *undoStack() const { return m_undoStack; }  ///< owned by the editor
     QAbstractItemModel *model() const { return m_model; } ///< not owned; null until setModel()
-    /// Sets the model and connects it. The drawing and the root index stay as they are, and a model
-    /// set before stays connected.
+    /// Sets the model and connects it. The drawing and the root index stay as they are until
+    /// another root is set; what a model set before tells of its data is ignored.
     void setModel(QAbstractItemModel *model);
     /// The model's FishModel::modelType(), 0 without a model.
     int modelType() const;
@@ -161,6 +167,10 @@ public:
     bool canUndo() const;
     /// Whether redo() has a command to repeat.
     bool canRedo() const;
+    /// Runs \a command as the slots run theirs: pushes it on the stack, which takes it over, lays
+    /// out and marks the documents that it has changed. False when it changed nothing, also when a
+    /// listener has ended the editor meanwhile; null does nothing.
+    bool run(std::unique_ptr<UndoCommand> command);
     /// Deletes the subject \a index with all below it.
     void deleteItem(const QModelIndex &index);
     /// Deletes the subjects of \a objects, as saveObjects() makes it.
@@ -279,9 +289,10 @@ public Q_SLOTS:
     void contractAll();
     /// Makes all missing spears and expands every one.
     void expandAll();
-    /// Undoes the last command and rebuilds the drawing.
+    /// Undoes the last command, rebuilds the drawing and marks what has changed. When the stack is
+    /// called directly the drawing is laid out and the same is marked.
     void undo();
-    /// Redoes the next command and rebuilds the drawing.
+    /// Redoes the next command, as undo() does.
     void redo();
     /// Copies the selected subjects, then deletes them.
     void cut();
@@ -332,7 +343,8 @@ public Q_SLOTS:
     void setupMatrix();
     /// Emits copyAvailable(). Connected to the scene.
     void sceneSelectionChanged();
-    /// Lays out when a title may have changed and marks the document. Connected to the model.
+    /// Lays out when a title may have changed and marks the document of \a topLeft, or the shown
+    /// one for an invalid index. Connected to the model.
     void modelDataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight);
     /// The first pass of a relayout: brings every spear in line with its subject and resets it.
     void refreshFish();
@@ -342,8 +354,8 @@ public Q_SLOTS:
     /// Carries out, or refuses, a move of spears with the mouse: the arguments are those of
     /// GraphicsView::moveSpear(), to which this is connected.
     void moveItems(const QPoint &, const QList<QGraphicsItem *> &srcs, const QModelIndex &, int);
-    /// Carries out a drop of dragged rows on \a indexTo, at the row given last; not undoable.
-    /// Connected to GraphicsView::dropTo(), queued.
+    /// Carries out a drop of dragged rows on \a indexTo, at the row given last; not undoable. A
+    /// subject that may not be moved stays. Connected to GraphicsView::dropTo(), queued.
     void onDropTo(const QMimeData *mimeData, const QModelIndex &indexTo, int);
     /// Autosaves the shown document; nothing without one.
     void saveTmpFile();
@@ -365,7 +377,10 @@ private:
         bool isHead = false;               ///< the document's head, whichever that is
     };
 
-    class SelectionHold;
+    class Call;
+    class StackOwner;
+    /// How the drawing follows a command.
+    enum class Follow { Layout, Rebuild, Nothing };
 
     /// Whether the scene holds what was laid out last and nothing else, as far as that is known.
     bool showsOwnItemsOnly() const;
@@ -380,17 +395,25 @@ private:
     QModelIndex rememberedRoot() const;
     void updateHeadText();
     void runMenuEntry(int entry, const SpearItem &spear);
+    void storeCopy(const QJsonObject &objects);
     static QList<TreeItem *> subjectsOf(QList<QGraphicsItem *> items);
     void deleteSubjects(const QJsonObject &objects, const QList<TreeItem *> &subjects);
-    bool execute(std::unique_ptr<UndoCommand> command);
-    bool executeOnce(UndoCommand &&command);
-    void afterEdit();
+    QModelIndex ownIndex(QModelIndex index) const;
+    bool push(const Call &call, std::unique_ptr<UndoCommand> command);
+    void execute(std::unique_ptr<UndoCommand> command, Follow follow = Follow::Layout);
+    void executeOnce(UndoCommand &&command);
+    void finish(const Call &call, Follow follow);
+    void step(void (UndoStack::*side)());
+    void expandSelected(bool expand, void (FishEditor::*report)(const QModelIndex &));
+    void changeLink(std::unique_ptr<UndoCommand> command, const QPersistentModelIndex &index);
     void updateLinkOf(const QModelIndex &index) const;
+    QModelIndex livingTarget(const QModelIndex &index) const;
     bool isWithin(const QModelIndex &target, const TreeItem *subject) const;
     void reportNewParent(const QStringList &children, const QModelIndex &parent,
                          CHANGE_PARENT_TYPE type);
     void connectModel(QAbstractItemModel *model);
     void forgetRemovedRoot(const QModelIndex &parent, int first, int last);
+    void forgetLostRoot();
     void showReturnedRoot(const QModelIndex &parent);
     void followReset();
     void followHead();
@@ -411,7 +434,8 @@ private:
     QTimer *m_saveTimer = nullptr;
     bool m_pasteAsNew = false;
     ShownRoot m_shown;
-    int m_selectionHolds = 0;
-    bool m_selectionChanged = false; ///< while held
+    std::unique_ptr<StackOwner> m_stackOwner;
+    QList<Call *> m_calls;           ///< the innermost one last
+    bool m_selectionChanged = false; ///< within them
     bool m_rootRemoved = false;      ///< the shown root left the model; it may come back
 };

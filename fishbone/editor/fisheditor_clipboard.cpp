@@ -14,7 +14,14 @@
 
 void FishEditor::copyItemToClipBoard()
 {
-    selectedObjects(m_copyBuffer);
+    QJsonObject objects;
+    selectedObjects(objects);
+    storeCopy(objects);
+}
+
+void FishEditor::storeCopy(const QJsonObject &objects)
+{
+    m_copyBuffer = objects;
     Q_EMIT clipBoardAvailable(hasClipBoardData());
 }
 

@@ -7,8 +7,9 @@
 
 #include <fishbone/dialogs/urldialog.h>
 #include <fishbone/drawing/spearbuilder.h>
+#include <fishbone/editor/editorcall.h>
 #include <fishbone/editor/fishscene.h>
-#include <fishbone/editor/selectionhold.h>
+#include <fishbone/editor/stackowner.h>
 #include <fishbone/items/linkitem.h>
 #include <fishbone/items/spearitem.h>
 #include <fishbone/model/fishmodel.h>
@@ -20,29 +21,51 @@ namespace {
 constexpr int linkColumn = 2; ///< the column whose text counts as a subject's link
 } // namespace
 
-/// Runs a command on the stack; false when a listener has ended the editor meanwhile.
-bool FishEditor::execute(std::unique_ptr<UndoCommand> command)
+/// Runs a command on the stack as one of the editor's own; false when a listener has ended it.
+bool FishEditor::push(const Call &call, std::unique_ptr<UndoCommand> command)
 {
-    const QPointer<FishEditor> alive(this);
-    {
-        const SelectionHold hold(this);
-        m_undoStack->push(command.release());
-    }
-    return !alive.isNull();
+    m_stackOwner->expectOwnCall();
+    m_undoStack->push(command.release());
+    return call.isAlive();
 }
 
-/// Runs a command outside the history; false when a listener has ended the editor meanwhile.
-bool FishEditor::executeOnce(UndoCommand &&command)
+/// What follows a command: the drawing, then the documents.
+void FishEditor::finish(const Call &call, Follow follow)
 {
-    const QPointer<FishEditor> alive(this);
+    if (follow != Follow::Nothing)
+        updateFish(follow == Follow::Rebuild);
+    if (call.isAlive())
+        call.mark(Call::Otherwise::Shown);
+}
+
+void FishEditor::execute(std::unique_ptr<UndoCommand> command, Follow follow)
+{
+    const Call call(this);
+    if (push(call, std::move(command)))
+        finish(call, follow);
+}
+
+/// Runs a command outside the history.
+void FishEditor::executeOnce(UndoCommand &&command)
+{
+    const Call call(this);
     command.redo();
-    return !alive.isNull();
+    if (call.isAlive())
+        finish(call, Follow::Layout);
 }
 
-void FishEditor::afterEdit()
+bool FishEditor::run(std::unique_ptr<UndoCommand> command)
 {
+    if (!command)
+        return false;
+    const Call call(this);
+    if (!push(call, std::move(command)))
+        return false;
     updateFish(false);
-    setModified(true);
+    const bool hasChanges = call.isAlive() && call.hasChanges();
+    if (hasChanges)
+        call.mark(Call::Otherwise::Nothing);
+    return hasChanges;
 }
 
 bool FishEditor::canUndo() const
@@ -57,90 +80,82 @@ bool FishEditor::canRedo() const
 
 void FishEditor::undo()
 {
-    const QPointer<FishEditor> alive(this);
-    const SelectionHold hold(this);
-    m_undoStack->undo();
-    if (alive)
-        updateFish(true);
+    step(&UndoStack::undo);
 }
 
 void FishEditor::redo()
 {
-    const QPointer<FishEditor> alive(this);
-    const SelectionHold hold(this);
-    m_undoStack->redo();
-    if (alive)
+    step(&UndoStack::redo);
+}
+
+void FishEditor::step(void (UndoStack::*side)())
+{
+    const Call call(this);
+    m_stackOwner->expectOwnCall();
+    (m_undoStack->*side)();
+    if (call.isAlive())
         updateFish(true);
+    if (call.isAlive())
+        call.mark(Call::Otherwise::Nothing);
 }
 
 void FishEditor::insertSubject()
 {
-    const QModelIndex index = firstSelectedSpearIndex();
-    if (!index.isValid())
-        return;
-    if (execute(std::make_unique<InsertFront>(m_model, index)))
-        afterEdit();
+    const QModelIndex index = ownIndex(firstSelectedSpearIndex());
+    if (index.isValid())
+        execute(std::make_unique<InsertFront>(m_model, index));
 }
 
 void FishEditor::appendSubject()
 {
-    const QModelIndex index = firstSelectedSpearIndex();
-    if (!index.isValid())
-        return;
-    if (execute(std::make_unique<InsertBack>(m_model, index)))
-        afterEdit();
+    const QModelIndex index = ownIndex(firstSelectedSpearIndex());
+    if (index.isValid())
+        execute(std::make_unique<InsertBack>(m_model, index));
 }
 
 void FishEditor::insertChildSubject()
 {
-    const QModelIndex index = firstSelectedSpearIndex();
-    if (!index.isValid())
-        return;
-    if (execute(std::make_unique<InsertChild>(m_model, index)))
-        afterEdit();
+    const QModelIndex index = ownIndex(firstSelectedSpearIndex());
+    if (index.isValid())
+        execute(std::make_unique<InsertChild>(m_model, index));
 }
 
 void FishEditor::insertParentSubject()
 {
-    const QModelIndex index = firstSelectedSpearIndex();
-    if (!index.isValid())
-        return;
-    if (execute(std::make_unique<InsertParent>(m_model, index)))
-        afterEdit();
+    const QModelIndex index = ownIndex(firstSelectedSpearIndex());
+    if (index.isValid())
+        execute(std::make_unique<InsertParent>(m_model, index));
 }
 
 void FishEditor::insertChildSubject(const QModelIndex &parent, TreeItem *item)
 {
-    if (!parent.isValid() || !item || !fishModel())
+    const QModelIndex index = ownIndex(parent);
+    if (!index.isValid() || !item || !fishModel())
         return;
-    auto command = std::make_unique<InsertChild>(m_model, parent);
+    auto command = std::make_unique<InsertChild>(m_model, index);
     command->setTreeItem(item);
-    if (execute(std::move(command)))
-        afterEdit();
+    execute(std::move(command));
 }
 
 void FishEditor::insertFreeSubject()
 {
-    if (executeOnce(InsertFree(m_model)))
-        afterEdit();
+    executeOnce(InsertFree(m_model));
 }
 
 void FishEditor::editSubject(const QModelIndex &index, TreeItem *item)
 {
     FishModel *const model = fishModel();
-    if (!index.isValid() || !item || !model)
-        return;
-    executeOnce(EditModify(model, index, item)); // which nobody hears of
-    afterEdit();
+    const QModelIndex own = ownIndex(index);
+    if (own.isValid() && item && model)
+        executeOnce(EditModify(model, own, item));
 }
 
 void FishEditor::deleteItem(const QModelIndex &index)
 {
     FishModel *const model = fishModel();
-    if (!index.isValid() || !model)
-        return;
-    if (execute(std::make_unique<EditDelete>(model, index)))
-        afterEdit();
+    const QModelIndex own = ownIndex(index);
+    if (own.isValid() && model)
+        execute(std::make_unique<EditDelete>(model, own));
 }
 
 void FishEditor::deleteSubject(const QModelIndex &index)
@@ -155,8 +170,7 @@ void FishEditor::deleteSubjects(const QJsonObject &objects, const QList<TreeItem
         return;
     auto command = std::make_unique<EditDelete>(model, objects, subjects);
     command->setDocument(currentFishInfo());
-    if (execute(std::move(command)))
-        afterEdit();
+    execute(std::move(command));
 }
 
 void FishEditor::deleteItems(const QJsonObject &objects)
@@ -173,10 +187,21 @@ void FishEditor::del()
 
 void FishEditor::cut()
 {
-    const QPointer<FishEditor> alive(this);
-    copyItemToClipBoard();
-    if (alive)
-        deleteSubjects(m_copyBuffer, subjectsOf(selectedItems()));
+    const Call call(this);
+    // What is cut is what was copied, whatever a listener selects, copies or deletes meanwhile.
+    std::vector<GuardedPointer<TreeItem>> subjects;
+    const QList<TreeItem *> selected = subjectsOf(selectedItems());
+    subjects.assign(selected.cbegin(), selected.cend());
+    QJsonObject objects;
+    selectedObjects(objects);
+    const QPointer<QAbstractItemModel> model = m_model;
+    storeCopy(objects);
+    if (!call.isAlive() || m_model != model)
+        return;
+    QList<TreeItem *> living;
+    for (const GuardedPointer<TreeItem> &subject : subjects)
+        living.append(subject.get());
+    deleteSubjects(objects, living);
 }
 
 void FishEditor::copy()
@@ -192,23 +217,19 @@ void FishEditor::paste()
 void FishEditor::pasteItem(const QModelIndex &index)
 {
     FishModel *const model = fishModel();
-    if (!index.isValid() || !hasClipBoardData() || !model)
+    const QModelIndex own = ownIndex(index);
+    if (!own.isValid() || !hasClipBoardData() || !model)
         return;
-    auto command = std::make_unique<EditPaste>(model, index, m_copyBuffer);
+    auto command = std::make_unique<EditPaste>(model, own, m_copyBuffer);
     command->setPasteAsNew(m_pasteAsNew);
-    if (!execute(std::move(command)))
-        return;
-    const SelectionHold hold(this);
-    updateFish(true);
-    setModified(true);
+    execute(std::move(command), Follow::Rebuild);
 }
 
 void FishEditor::renameItem(const QModelIndex &index, const QString &name)
 {
-    if (!index.isValid())
-        return;
-    if (execute(std::make_unique<ModifyName>(m_model, index, name)))
-        setModified(true);
+    const QModelIndex own = ownIndex(index);
+    if (own.isValid())
+        execute(std::make_unique<ModifyName>(m_model, own, name), Follow::Nothing);
 }
 
 void FishEditor::updateLinkOf(const QModelIndex &index) const
@@ -217,31 +238,33 @@ void FishEditor::updateLinkOf(const QModelIndex &index) const
         updateLinkItem(spear);
 }
 
+void FishEditor::changeLink(std::unique_ptr<UndoCommand> command,
+                            const QPersistentModelIndex &index)
+{
+    const Call call(this);
+    if (!push(call, std::move(command)))
+        return;
+    updateLinkOf(index);
+    finish(call, Follow::Nothing);
+}
+
 void FishEditor::modifyLink()
 {
-    const QPersistentModelIndex index = firstSelectedSpearIndex();
+    const QPersistentModelIndex index = ownIndex(firstSelectedSpearIndex());
     if (!index.isValid())
         return;
     // The dialog runs an event loop, in which the host may edit, unload or destroy what is shown.
     const QPointer<FishEditor> alive(this);
     const QUrl url = URLDialog::linkToUrlDialog(currItemUrl(), this);
-    if (!alive || !url.isValid() || !index.isValid())
-        return;
-    if (!execute(std::make_unique<ModifyLinkTo>(m_model, index, url.toString())))
-        return;
-    updateLinkOf(index);
-    setModified(true);
+    if (alive && url.isValid() && ownIndex(index).isValid())
+        changeLink(std::make_unique<ModifyLinkTo>(m_model, index, url.toString()), index);
 }
 
 void FishEditor::modifyDelLink()
 {
-    const QModelIndex index = firstSelectedSpearIndex();
-    if (!index.isValid())
-        return;
-    if (!execute(std::make_unique<ModifyDelLink>(m_model, index)))
-        return;
-    updateLinkOf(index);
-    setModified(true);
+    const QModelIndex index = ownIndex(firstSelectedSpearIndex());
+    if (index.isValid())
+        changeLink(std::make_unique<ModifyDelLink>(m_model, index), index);
 }
 
 QString FishEditor::currItemUrl() const
@@ -279,14 +302,9 @@ void FishEditor::delSpearStyle()
 
 void FishEditor::selectAll()
 {
-    const int selected = m_scene->selectedItems().count();
-    {
-        // One report for all of them: each one costs its listeners a look at the whole selection.
-        const QSignalBlocker blocker(m_scene.get());
-        const QList<QGraphicsItem *> items = m_scene->items();
-        for (QGraphicsItem *item : items)
-            item->setSelected(true);
-    }
-    if (m_scene->selectedItems().count() != selected)
-        Q_EMIT m_scene->selectionChanged();
+    const Call call(this);
+    const SelectionSilence silence(m_scene.get()); // each report costs a look at all of it
+    const QList<QGraphicsItem *> items = m_scene->items();
+    for (QGraphicsItem *item : items)
+        item->setSelected(true);
 }

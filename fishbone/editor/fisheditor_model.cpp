@@ -5,6 +5,7 @@
 
 #include <fishbone/editor/fisheditor.h>
 
+#include <fishbone/items/spearitem.h>
 #include <fishbone/model/fishinfo.h>
 #include <fishbone/model/fishmodel.h>
 
@@ -15,6 +16,7 @@ void FishEditor::connectModel(QAbstractItemModel *model)
     connect(model, &Model::dataChanged, this, &FishEditor::modelDataChanged, Qt::UniqueConnection);
     connect(model, &Model::rowsAboutToBeRemoved, this, &FishEditor::forgetRemovedRoot,
             Qt::UniqueConnection);
+    connect(model, &Model::rowsRemoved, this, &FishEditor::forgetLostRoot, Qt::UniqueConnection);
     connect(model, &Model::rowsInserted, this, &FishEditor::showReturnedRoot, Qt::UniqueConnection);
     connect(model, &Model::rowsMoved, this, &FishEditor::followMove, Qt::UniqueConnection);
     connect(model, &Model::modelReset, this, &FishEditor::followReset, Qt::UniqueConnection);
@@ -58,8 +60,17 @@ void FishEditor::forgetRemovedRoot(const QModelIndex &parent, int first, int las
         above = above.parent();
     if (!above.isValid() || above.row() < first || above.row() > last)
         return;
-    showNothing();
     m_rootRemoved = true;
+    showNothing();
+}
+
+/// Shows nothing any more when a listener of the announcement has drawn what was to go.
+void FishEditor::forgetLostRoot()
+{
+    if (!headSpear() || headSpear()->modelIndex().isValid())
+        return;
+    m_rootRemoved = true;
+    showNothing();
 }
 
 void FishEditor::showReturnedRoot(const QModelIndex &parent)
@@ -100,9 +111,9 @@ void FishEditor::followToAnotherDocument()
 {
     if (isShownByAnotherEditor(currentFishInfo())) {
         // What moved into that editor's document is drawn there from now on.
-        showNothing();
         m_rootIndex = QModelIndex();
         m_rootRemoved = true;
+        showNothing();
     } else if (!m_shown.isHead) { // a head comes back as the head of its old document
         m_shown.document = currentFishInfo();
     }
@@ -125,6 +136,6 @@ void FishEditor::forgetDestroyedModel()
 {
     if (m_rootIndex.isValid())
         return; // another one, set earlier
-    showNothing();
     m_shown = ShownRoot();
+    showNothing();
 }

@@ -9,7 +9,8 @@
 
 #include <QJsonArray>
 
-#include <fishbone/editor/fishscene.h>
+#include <fishbone/editor/editorcall.h>
+#include <fishbone/editor/graphicsview.h>
 #include <fishbone/items/spearitem.h>
 #include <fishbone/model/fishmodel.h>
 #include <fishbone/undo/structuralcommands.h>
@@ -46,14 +47,15 @@ void FishEditor::moveItems(const QPoint &pos, const QList<QGraphicsItem *> &srcs
                            const QModelIndex &target, int row)
 {
     Q_UNUSED(pos)
+    const Call call(this);
     FishModel *const model = fishModel();
+    const QPersistentModelIndex parent = model ? ownIndex(target) : QModelIndex();
     const auto movesIntoItself = [&](const QGraphicsItem *item) {
         const auto *const spear = qgraphicsitem_cast<const SpearItem *>(item);
-        return spear && isWithin(target, spear->treeItem());
+        return spear && isWithin(parent, spear->treeItem());
     };
     // The mouse has dragged the items along already, so a refusal puts them back.
-    if (!model || !target.isValid() || target.model() != model ||
-        std::any_of(srcs.cbegin(), srcs.cend(), isImmovable) ||
+    if (!parent.isValid() || std::any_of(srcs.cbegin(), srcs.cend(), isImmovable) ||
         std::any_of(srcs.cbegin(), srcs.cend(), movesIntoItself)) {
         updateFish(false);
         return;
@@ -62,38 +64,44 @@ void FishEditor::moveItems(const QPoint &pos, const QList<QGraphicsItem *> &srcs
     saveObjects(snapshot, srcs);
     if (snapshot.isEmpty())
         return;
-    const QPersistentModelIndex parent = target;
-    auto command = std::make_unique<EditMove>(model, target, row, snapshot, subjectsOf(srcs));
+    auto command = std::make_unique<EditMove>(model, parent, row, snapshot, subjectsOf(srcs));
     command->setDocument(currentFishInfo());
-    if (!execute(std::move(command)))
+    if (!push(call, std::move(command)))
         return;
-    setModified(true);
-    updateFish(false);
-    reportNewParent(uuidsOf(snapshot), parent, CHANGE_PARENT_BY_MOVE);
+    finish(call, Follow::Layout);
+    if (call.isAlive())
+        reportNewParent(uuidsOf(snapshot), parent, CHANGE_PARENT_BY_MOVE);
 }
 
 void FishEditor::onDropTo(const QMimeData *mimeData, const QModelIndex &indexTo, int row)
 {
+    const Call call(this);
     FishModel *const model = fishModel();
     TreeItem *const dropped = treeItemFromMimeData(mimeData);
-    // The drop was queued: its target may have gone since, or stand in another row.
-    const TreeItem *const under = model ? model->getTreeItem(indexTo) : nullptr;
-    if (!dropped || !under || !model->contains(under))
-        return;
-    const QPersistentModelIndex target = model->indexFromItem(under);
-    if (isWithin(target, dropped))
+    const QPersistentModelIndex target = model ? livingTarget(indexTo) : QModelIndex();
+    if (!dropped || !dropped->spearItemIsMovable() || !target.isValid() ||
+        isWithin(target, dropped))
         return;
     dropped->ensureUuid();
+    const QString uuid = dropped->uuid();
     QJsonObject snapshot;
     FishModel::write(snapshot, dropped, true);
     // The command also makes the spears of a subject that was not shown here.
     EditMove command(model, target, row, snapshot, {dropped});
     command.setDocument(model->fishOf(dropped));
-    if (!executeOnce(std::move(command)))
-        return;
-    setModified(true);
-    updateFish(false);
-    reportNewParent({dropped->uuid()}, target, CHANGE_PARENT_BY_DROP);
+    executeOnce(std::move(command));
+    if (call.isAlive())
+        reportNewParent({uuid}, target, CHANGE_PARENT_BY_DROP);
+}
+
+/// The target of a drop, which was queued: it may have gone since, or stand in another row.
+QModelIndex FishEditor::livingTarget(const QModelIndex &index) const
+{
+    const FishModel *const model = fishModel();
+    if (index.model() != model) // which may be gone by now when the view has sent the index
+        return sender() == m_view ? QModelIndex() : ownIndex(index);
+    const TreeItem *const under = model->getTreeItem(index);
+    return under && model->contains(under) ? model->indexFromItem(under) : QModelIndex();
 }
 
 void FishEditor::reportNewParent(const QStringList &children, const QModelIndex &parent,

@@ -78,8 +78,7 @@ void FishEditor::excludeChildSubject(QList<QGraphicsItem *> &items)
 
 void FishEditor::sceneSelectionChanged()
 {
-    if (m_selectionHolds > 0)
-        m_selectionChanged = true;
-    else
+    m_selectionChanged = !m_calls.isEmpty();
+    if (!m_selectionChanged)
         Q_EMIT copyAvailable(hasSelection());
 }

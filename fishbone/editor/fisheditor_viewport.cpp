@@ -88,7 +88,10 @@ void FishEditor::rotateReset()
 void FishEditor::fullSize()
 {
     m_zoomValue = unscaledZoom;
+    const QPointer<FishEditor> alive(this);
     Q_EMIT zoomValueChanged(m_zoomValue);
+    if (!alive)
+        return;
     setupMatrix();
     m_view->ensureVisible(QRectF(0, 0, 0, 0), viewMargin, viewMargin);
 }
@@ -101,10 +104,15 @@ void FishEditor::equalRatio(const QRectF &rect)
     const double scale = qMin(available.width() / rect.width(), available.height() / rect.height());
     if (!std::isnormal(scale))
         return; // a rectangle without bounds, or one too small to be divided by
+    const QPointer<FishEditor> alive(this);
     m_zoomValue = int(doublingSteps * std::log2(scale) + unscaledZoom);
     Q_EMIT zoomValueChanged(m_zoomValue);
+    if (!alive)
+        return;
     m_rotateValue = 0;
     Q_EMIT rotateValueChanged(m_rotateValue);
+    if (!alive)
+        return;
     const QTransform matrix = QTransform::fromScale(scale, scale);
     if (isUsable(matrix))
         m_view->setTransform(matrix, false);

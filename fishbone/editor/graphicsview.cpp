@@ -17,6 +17,7 @@
 #include <fishbone/editor/fisheditor.h>
 #include <fishbone/editor/itemancestry.h>
 #include <fishbone/items/hovercursor.h>
+#include <fishbone/items/sceneselection.h>
 #include <fishbone/items/spearitem.h>
 #include <fishbone/items/textitem.h>
 
@@ -112,7 +113,28 @@ bool GraphicsView::event(QEvent *event)
     return isHandled;
 }
 
+/// Runs a part of an event, and tells of the selection when it is through: the toolkit goes on
+/// using its items meanwhile. False, with the event accepted, when a listener has ended the view
+/// then.
+template <typename Part>
+bool GraphicsView::handle(QEvent *event, Part part)
+{
+    const QPointer<GraphicsView> alive(this);
+    {
+        const SelectionHold hold(scene());
+        part();
+    }
+    if (!alive)
+        event->accept(); // nobody shall look for the parent of what is gone
+    return alive;
+}
+
 void GraphicsView::mousePressEvent(QMouseEvent *event)
+{
+    handle(event, [this, event] { press(event); });
+}
+
+void GraphicsView::press(QMouseEvent *event)
 {
     qDebug() << "GraphicsView::mousePressEvent" << event;
     const bool beginsMove = event->button() == Qt::LeftButton && scene();
@@ -120,7 +142,10 @@ void GraphicsView::mousePressEvent(QMouseEvent *event)
         m_selected.clear();
         m_pressed = true;
     }
-    QGraphicsView::mousePressEvent(event);
+    {
+        const SelectionSilence silence(scene());
+        QGraphicsView::mousePressEvent(event);
+    }
     viewport()->setCursor(Qt::ArrowCursor);
     if (!beginsMove || !m_pressed)
         return; // also when a dialog that the press has opened took the release
@@ -242,12 +267,17 @@ void GraphicsView::mouseReleaseEvent(QMouseEvent *event)
         if (m_pressed)
             reportMove(event->pos(), target);
     }
-    if (!alive)
+    if (!alive) {
+        event->accept();
         return;
+    }
     m_pressed = false;
     m_pressedSpear = SpearPointer();
-    QGraphicsView::mouseReleaseEvent(event);
-    viewport()->setCursor(Qt::ArrowCursor);
+    handle(event, [this, event] {
+        const SelectionSilence silence(scene());
+        QGraphicsView::mouseReleaseEvent(event);
+        viewport()->setCursor(Qt::ArrowCursor);
+    });
 }
 
 void GraphicsView::reportMove(const QPoint &pos, SpearItem *target)
@@ -292,16 +322,25 @@ void GraphicsView::contextMenuEvent(QContextMenuEvent *event)
 {
     if (!scene())
         return;
-    if (!scene()->selectedItems().isEmpty())
-        scene()->clearSelection();
     const QList<QGraphicsItem *> under =
         scene()->items(mapToScene(event->pos()), Qt::IntersectsItemShape, Qt::DescendingOrder,
                        viewportTransform());
-    if (SpearItem *const spear = spearOfItem(under.value(0))) {
-        spear->setSelected(true);
-        Q_EMIT rightClicked(spear);
+    const SpearPointer spear(spearOfItem(under.value(0)));
+    const bool isOnSpear = spear.get();
+    const bool isAlive = handle(event, [this, &spear] {
+        const SelectionSilence silence(scene());
+        scene()->clearSelection();
+        if (spear.get())
+            spear.get()->setSelected(true);
+    });
+    if (!isAlive)
+        return;
+    if (spear.get()) {
+        Q_EMIT rightClicked(spear.get());
         return;
     }
+    if (isOnSpear)
+        return; // on one that a listener has ended
     QGraphicsView::contextMenuEvent(event);
     Q_EMIT rightClicked(nullptr);
 }

@@ -80,6 +80,9 @@ private:
     void zoomSmoothly(double steps);
     bool followPinch(QEvent &event);
 
+    template <typename Part>
+    bool handle(QEvent *event, Part part);
+    void press(QMouseEvent *event);
     QList<QGraphicsItem *> itemsAround(const QPoint &pos) const;
     SpearItem *topmostSpearAround(const QPoint &pos) const;
     QList<SpearItem *> livingSelection() const;

@@ -9,6 +9,7 @@
 #include <QPointer>
 
 #include <fishbone/editor/fisheditor.h>
+#include <fishbone/items/sceneselection.h>
 #include <fishbone/items/spearitem.h>
 #include <fishbone/items/spearlook.h>
 #include <fishbone/model/fishmodel.h>
@@ -80,9 +81,13 @@ void ExpandItem::mousePressEvent(QGraphicsSceneMouseEvent *event)
     SpearItem *const spear = m_spear.get();
     if (event->button() != Qt::LeftButton || !spear)
         return;
-    if (QGraphicsScene *const shownIn = scene())
-        shownIn->clearSelection();
-    spear->setSelected(true);
+    const SelectionHold hold(scene()); // to the end: who hears of it may end the button
+    {
+        const SelectionSilence silence(scene());
+        if (QGraphicsScene *const shownIn = scene())
+            shownIn->clearSelection();
+        spear->setSelected(true);
+    }
     // Children that were built just now are shown, whatever the flag said before.
     const bool generated = generateMissingChildren(spear);
     spear->setExpand(generated || !spear->isExpand());

@@ -11,6 +11,7 @@
 #include <fishbone/items/headpictures.h>
 #include <fishbone/items/hovercursor.h>
 #include <fishbone/items/linkitem.h>
+#include <fishbone/items/sceneselection.h>
 #include <fishbone/items/spearlook.h>
 #include <fishbone/items/taskstatusitem.h>
 #include <fishbone/items/textitem.h>
@@ -325,13 +326,14 @@ void SpearItem::setMoving(bool moving)
 void SpearItem::setExpand(bool expand)
 {
     m_expand = expand;
-    showChildren();
     update();
+    showChildren(); // the last: who hears of the selection may end the spear
 }
 
 void SpearItem::showChildren()
 {
     const QList<SpearItem *> children = knownChildSpears();
+    const SelectionSilence silence(scene()); // what is hidden is not selected any more
     for (SpearItem *child : children)
         child->setVisible(m_expand);
 }

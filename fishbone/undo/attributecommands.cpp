@@ -44,6 +44,14 @@ TreeItem *AttributeCommand::subject() const
     return itemFromIndex(subjectIndex());
 }
 
+void AttributeCommand::setUrl(const QString &url)
+{
+    const QModelIndex index = subjectIndex();
+    itemFromIndex(index)->setUrl(url);
+    if (auto *const subjects = qobject_cast<FishModel *>(model()))
+        subjects->tellNode(index);
+}
+
 ModifyName::ModifyName(QAbstractItemModel *model, const QModelIndex &index, const QString &name)
     : AttributeCommand([] { return tr("Modify subject name"); }, model, index)
     , m_newName(name)
@@ -77,19 +85,18 @@ ModifyLinkTo::ModifyLinkTo(QAbstractItemModel *model, const QModelIndex &index, 
 
 void ModifyLinkTo::redo()
 {
-    TreeItem *const item = subject();
+    const TreeItem *const item = subject();
     m_isApplied = item;
     if (!m_isApplied)
         return;
     m_oldUrl = item->url();
-    item->setUrl(m_newUrl);
+    setUrl(m_newUrl);
 }
 
 void ModifyLinkTo::undo()
 {
-    TreeItem *const item = subject();
-    if (m_isApplied && item)
-        item->setUrl(m_oldUrl);
+    if (m_isApplied && subject())
+        setUrl(m_oldUrl);
 }
 
 ModifyDelLink::ModifyDelLink(QAbstractItemModel *model, const QModelIndex &index)
@@ -99,19 +106,18 @@ ModifyDelLink::ModifyDelLink(QAbstractItemModel *model, const QModelIndex &index
 
 void ModifyDelLink::redo()
 {
-    TreeItem *const item = subject();
+    const TreeItem *const item = subject();
     m_isApplied = item;
     if (!m_isApplied)
         return;
     m_oldUrl = item->url();
-    item->setUrl(QStringLiteral(""));
+    setUrl(QStringLiteral(""));
 }
 
 void ModifyDelLink::undo()
 {
-    TreeItem *const item = subject();
-    if (m_isApplied && item)
-        item->setUrl(m_oldUrl);
+    if (m_isApplied && subject())
+        setUrl(m_oldUrl);
 }
 
 EditModify::EditModify(FishModel *model, const QModelIndex &index, TreeItem *item)

@@ -42,6 +42,8 @@ protected:
     QModelIndex subjectIndex() const;
     /** The subject; null when it is not there or the model has no nodes. */
     TreeItem *subject() const;
+    /** Gives the subject, which must be there, the link @p url and has the model tell. */
+    void setUrl(const QString &url);
 
 private:
     struct Private;

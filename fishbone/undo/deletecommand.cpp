@@ -5,9 +5,11 @@
 
 #include <fishbone/undo/structuralcommands.h>
 
+#include <fishbone/items/sceneselection.h>
 #include <fishbone/model/fishmodel.h>
 #include <fishbone/model/treeitem.h>
 #include <fishbone/undo/heldsubject.h>
+#include <fishbone/undo/stepgate.h>
 #include <fishbone/undo/subjectlookup.h>
 #include <fishbone/undo/subjectspears.h>
 
@@ -31,13 +33,14 @@ struct Deletion
 struct EditDelete::Private
 {
     void set(FishModel *newModel, const QJsonObject &newObjects, const QList<TreeItem *> &known);
-    void deleteSubject(TreeItem *subject);
+    void deleteSubject(TreeItem *subject, SelectionHold &hold);
     TreeItem *restore(Deletion &deletion, SubjectFinder &finder);
 
     QPointer<FishModel> model;
     QJsonObject objects;
     QVector<SubjectKey> subjects;
     QList<int> rows;
+    StepGate gate;
     std::vector<Deletion> deletions; // in the order of the subjects
 };
 
@@ -51,23 +54,25 @@ void EditDelete::Private::set(FishModel *newModel, const QJsonObject &newObjects
         nameSubjects(*model, subjects);
 }
 
-void EditDelete::Private::deleteSubject(TreeItem *subject)
+void EditDelete::Private::deleteSubject(TreeItem *subject, SelectionHold &hold)
 {
     const bool isHead = subject->isTopVaildItem();
     Deletion deletion{{}, {}, isHead, rows.last()};
     if (!isHead)
         deletion.parent = keyFromItem(*model, subject->parent());
-    deletion.held.take(*model, subject);
-    deletions.push_back(std::move(deletion));
+    if (deletion.held.take(*model, subject, hold))
+        deletions.push_back(std::move(deletion));
 }
 
-/** Puts a subject back; null when it cannot go back. */
+/** Puts a subject back; null when it cannot go back, or did not stay. */
 TreeItem *EditDelete::Private::restore(Deletion &deletion, SubjectFinder &finder)
 {
     TreeItem *const parent = model && !deletion.isHead ? finder.find(deletion.parent) : nullptr;
     TreeItem *const subject = deletion.held.item();
+    const GuardedPointer<TreeItem> alive(subject);
     if (!model || (!parent && !deletion.isHead) ||
-        !deletion.held.putBack(*model, parent, deletion.row) || !model)
+        !deletion.held.putBack(*model, parent, deletion.row) || !model || !alive.get() ||
+        !model->indexFromItem(subject).isValid())
         return nullptr;
     finder.add(subject);
     return subject;
@@ -108,9 +113,10 @@ void EditDelete::setDocument(FishInfo *document)
 
 void EditDelete::redo()
 {
-    m_d->rows.clear();
-    if (!m_d->model)
+    if (!m_d->model || !m_d->gate.letsRedo(m_d->model))
         return;
+    m_d->rows.clear();
+    SelectionHold hold;
     SubjectFinder finder(*m_d->model, m_d->subjects);
     for (SubjectKey &key : m_d->subjects) {
         TreeItem *const subject = m_d->model ? finder.findNamed(key, {}) : nullptr;
@@ -119,13 +125,13 @@ void EditDelete::redo()
             continue;
         key.document = m_d->model->fishOf(subject);
         key.node = subject;
-        m_d->deleteSubject(subject);
+        m_d->deleteSubject(subject, hold);
     }
 }
 
 void EditDelete::undo()
 {
-    if (!m_d->model)
+    if (!m_d->model || !m_d->gate.letsUndo(m_d->model))
         return;
     QVector<SubjectKey> keys;
     for (const Deletion &deletion : m_d->deletions)
@@ -134,19 +140,19 @@ void EditDelete::undo()
 
     // What cannot go back, because its parent is not there, waits for the next time.
     std::vector<Deletion> waiting;
-    QSet<TreeItem *> parents;
+    QHash<const TreeItem *, GuardedPointer<TreeItem>> parents;
     while (!m_d->deletions.empty()) {
         Deletion deletion = std::move(m_d->deletions.back());
         m_d->deletions.pop_back();
         if (const TreeItem *const subject = m_d->restore(deletion, finder))
-            parents.insert(subject->parent());
+            parents.insert(subject->parent(), subject->parent());
         else if (!deletion.held.isEmpty())
             waiting.insert(waiting.begin(), std::move(deletion));
     }
     m_d->deletions = std::move(waiting);
-    for (TreeItem *parent : qAsConst(parents)) {
+    for (const GuardedPointer<TreeItem> &parent : qAsConst(parents)) {
         if (m_d->model)
-            generateMissingSpears(*m_d->model, parent);
+            generateMissingSpears(*m_d->model, parent.get());
     }
 }
 

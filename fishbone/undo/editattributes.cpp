@@ -135,7 +135,7 @@ struct EditAttributes::Private
         for (const QPersistentModelIndex &persistent : changed) {
             const QModelIndex index = persistent;
             if (model && index.isValid())
-                Q_EMIT model->dataChanged(index, index.siblingAtColumn(model->columnCount() - 1));
+                model->tellData(index, index.siblingAtColumn(model->columnCount() - 1));
         }
     }
 };

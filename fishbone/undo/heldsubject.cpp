@@ -23,29 +23,45 @@ void HeldSubject::adopt(TreeItem *item)
     m_item.reset(item);
 }
 
+void HeldSubject::adoptHead(TreeItem *item)
+{
+    m_document = std::make_unique<FishInfo>();
+    m_document->treeItem()->appendChild(item);
+}
+
 void HeldSubject::release()
 {
     static_cast<void>(m_item.release());
 }
 
-void HeldSubject::take(FishModel &model, TreeItem *subject)
+bool HeldSubject::take(FishModel &model, TreeItem *subject, SelectionHold &hold)
 {
     const QModelIndex index = model.indexFromItem(subject);
+    if (!index.isValid())
+        return false;
     if (index.parent().isValid())
         m_item.reset(model.takeRow(index.row(), index.parent()));
     else
         m_document.reset(model.takeFish(index.row()));
     // Only now: an editor that showed the subject has forgotten its spear by itself.
-    deleteSpears(subject);
+    if (item())
+        deleteSpears(item(), hold);
+    return !isEmpty();
 }
 
 bool HeldSubject::putBack(FishModel &model, TreeItem *parent, int row)
 {
     const QModelIndex index = model.indexFromItem(parent);
     const int place = qMin(row, model.rowCount(index));
-    if (m_document && !parent)
-        model.insertFish(place, m_document.release());
-    else if (m_item && parent)
-        model.putRow(place, m_item.release(), index);
+    // Given up before it is announced: who hears of it may end what it went into.
+    if (m_document && !parent) {
+        FishInfo *const document = m_document.release();
+        if (!model.insertFish(place, document))
+            m_document.reset(document);
+    } else if (m_item && index.isValid()) {
+        TreeItem *const item = m_item.release();
+        if (!model.putRow(place, item, index))
+            m_item.reset(item);
+    }
     return isEmpty();
 }

@@ -7,6 +7,7 @@
 
 class FishInfo;
 class FishModel;
+class SelectionHold;
 class TreeItem;
 
 /**
@@ -28,11 +29,16 @@ public:
 
     /** Takes over a node that is in no list. */
     void adopt(TreeItem *item);
+    /** Takes over a node that is in no list as the head of a new document. */
+    void adoptHead(TreeItem *item);
     /** Gives the node up without deleting it. */
     void release();
 
-    /** Takes @p subject out of @p model, in which it has an index; its spears are deleted. */
-    void take(FishModel &model, TreeItem *subject);
+    /**
+     * Takes @p subject out of @p model, and deletes its spears; @p hold keeps the selection that
+     * goes with them. False, with nothing changed, when the model does not have it or refuses.
+     */
+    bool take(FishModel &model, TreeItem *subject, SelectionHold &hold);
     /**
      * Puts what is held into @p row below @p parent, or, for a document and without a parent, of
      * the top level; a row past the end is the end. False, still holding it, when it cannot go

@@ -5,9 +5,11 @@
 
 #include <fishbone/undo/structuralcommands.h>
 
+#include <fishbone/items/sceneselection.h>
 #include <fishbone/items/spearitem.h>
 #include <fishbone/model/fishmodel.h>
 #include <fishbone/model/treeitem.h>
+#include <fishbone/undo/stepgate.h>
 #include <fishbone/undo/subjectlookup.h>
 #include <fishbone/undo/subjectmove.h>
 #include <fishbone/undo/subjectspears.h>
@@ -61,11 +63,13 @@ struct EditMove::Private
     SubjectKey target;
     int row = 0;
     bool wasMoved = false; // so that a row that is too great now was not so from the beginning
+    StepGate gate;
     std::vector<Move> moves;
     QList<int> sourceRows;
     // Within one redo() or undo():
     QSet<const TreeItem *> moved;
     QHash<TreeItem *, Arrivals> arrivals; // by the new parent
+    SelectionHold selection;
 };
 
 /** Moves the subject that @p move names; false when it is not there or stays where it is. */
@@ -86,7 +90,7 @@ bool EditMove::Private::carryOut(Move &move, TreeItem *to, SubjectFinder &finder
     const int rows = model->rowCount(model->indexFromItem(to));
     const int position = wasMoved ? qMin(row, rows) : row;
     const bool isMoved = moveSubject(*model, subject, to, position, move.document);
-    if (!isMoved || !model || !move.name.node.get())
+    if (!isMoved || !model || !move.name.node.get() || !model->indexFromItem(subject).isValid())
         return false;
     move.subject = keyFromItem(*model, subject);
     follow(subject, before, finder);
@@ -105,7 +109,7 @@ void EditMove::Private::takeBack(Move &move, SubjectFinder &finder)
     const bool isMoved = moveSubjectToRow(*model, subject, parent, move.row, move.document);
     if (isMoved && model && guard.get())
         restorePid(*model, subject, move.pid);
-    if (isMoved && model && guard.get())
+    if (isMoved && model && guard.get() && model->indexFromItem(subject).isValid())
         follow(subject, before, finder);
 }
 
@@ -115,7 +119,7 @@ void EditMove::Private::follow(TreeItem *subject, const Before &before, SubjectF
     moved.insert(subject);
     if (model->fishOf(subject) != before.document)
         finder.add(subject);
-    moveSpear(subject, before.spear);
+    moveSpear(subject, before.spear, selection);
     Arrivals &there = arrivals[subject->parent()];
     there.parent = subject->parent();
     there.subjects.emplace_back(subject);
@@ -164,10 +168,10 @@ void EditMove::setDocument(FishInfo *document)
 
 void EditMove::redo()
 {
-    m_d->sourceRows.clear();
     FishModel *const model = m_d->model;
-    if (!model)
+    if (!model || !m_d->gate.letsRedo(model))
         return;
+    m_d->sourceRows.clear();
     QVector<SubjectKey> keys;
     for (const Move &move : m_d->moves)
         keys.append(move.name);
@@ -178,11 +182,12 @@ void EditMove::redo()
         move.isMoved = guard.get() == to && m_d->carryOut(move, to, finder);
     m_d->wasMoved = m_d->wasMoved || !m_d->moved.isEmpty();
     m_d->completeSpears();
+    m_d->selection.release();
 }
 
 void EditMove::undo()
 {
-    if (!m_d->model)
+    if (!m_d->model || !m_d->gate.letsUndo(m_d->model))
         return;
     QVector<SubjectKey> keys;
     for (const Move &move : m_d->moves)
@@ -193,6 +198,7 @@ void EditMove::undo()
             m_d->takeBack(move, finder);
     });
     m_d->completeSpears();
+    m_d->selection.release();
 }
 
 QJsonObject EditMove::objects() const

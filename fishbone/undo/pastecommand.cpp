@@ -5,11 +5,13 @@
 
 #include <fishbone/undo/structuralcommands.h>
 
+#include <fishbone/items/sceneselection.h>
 #include <fishbone/model/fishmodel.h>
 #include <fishbone/model/jsonnodes.h>
 #include <fishbone/model/systemhelper.h>
 #include <fishbone/model/treeitem.h>
 #include <fishbone/undo/heldsubject.h>
+#include <fishbone/undo/stepgate.h>
 #include <fishbone/undo/subjectlookup.h>
 #include <fishbone/undo/subjectspears.h>
 #include <fishbone/undo/subjectwalk.h>
@@ -76,33 +78,37 @@ QHash<QString, int> countChildUuids(const TreeItem &parent)
 
 struct EditPaste::Private
 {
-    bool paste(Copy &copy, TreeItem *parent, QSet<QString> &used);
+    TreeItem *paste(Copy &copy, TreeItem *parent, QSet<QString> &used);
     TreeItem *pastedSubject(const Copy &copy, SubjectFinder &finder) const;
 
     QPointer<FishModel> model;
     QJsonObject objects;
     SubjectKey target;
     bool pasteAsNew = false;
+    StepGate gate;
     std::vector<Copy> copies;
     QStringList pastedUuids;
 };
 
-/** Appends a copy to @p parent: the one that undo() took out, or else one from the snapshot. */
-bool EditPaste::Private::paste(Copy &copy, TreeItem *parent, QSet<QString> &used)
+/**
+ * Appends a copy to @p parent: the one that undo() took out, or else one from the snapshot. The
+ * subject, or null when it cannot stand there or did not stay.
+ */
+TreeItem *EditPaste::Private::paste(Copy &copy, TreeItem *parent, QSet<QString> &used)
 {
     const int row = parent->childCount();
-    if (!copy.held.isEmpty())
-        return copy.held.putBack(*model, parent, row);
-    if (pasteAsNew) {
-        std::unique_ptr<TreeItem> subject = JsonNodes::read(copy.object, nullptr, -1);
-        renewUuids(subject.get(), used);
-        if (!model->putRow(row, subject.get(), model->indexFromItem(parent)))
-            return false;
-        static_cast<void>(subject.release());
-        return true;
+    if (copy.held.isEmpty()) {
+        std::unique_ptr<TreeItem> made =
+            JsonNodes::read(copy.object, pasteAsNew ? nullptr : parent, pasteAsNew ? -1 : row);
+        if (pasteAsNew)
+            renewUuids(made.get(), used);
+        copy.held.adopt(made.release());
     }
-    model->read(copy.object, parent, row);
-    return true;
+    TreeItem *const subject = copy.held.item();
+    const GuardedPointer<TreeItem> alive(subject);
+    const bool isPut = copy.held.putBack(*model, parent, row);
+    return isPut && model && alive.get() && model->indexFromItem(subject).isValid() ? subject
+                                                                                    : nullptr;
 }
 
 /** The subject that was pasted, never one that was there before; null when it is gone. */
@@ -145,38 +151,44 @@ void EditPaste::setPasteAsNew(bool pasteAsNew)
 
 void EditPaste::redo()
 {
+    if (!m_d->model || !m_d->gate.letsRedo(m_d->model))
+        return;
     m_d->pastedUuids.clear();
     FishModel *const model = m_d->model;
-    TreeItem *const target = model ? findSubject(*model, m_d->target) : nullptr;
-    if (!target)
+    const GuardedPointer<TreeItem> target(findSubject(*model, m_d->target));
+    if (!target.get())
         return;
-    QHash<QString, int> alike = countChildUuids(*target);
+    QHash<QString, int> alike = countChildUuids(*target.get());
     QSet<QString> used = m_d->pasteAsNew ? uuidsOf(*model) : QSet<QString>();
     for (Copy &copy : m_d->copies) {
-        if (!m_d->model || !m_d->paste(copy, target, used) || !m_d->model)
-            break;
-        copy.key = keyFromItem(*model, target->childItems().last());
-        copy.isPasted = true;
+        if (!m_d->model || !target.get())
+            return;
+        TreeItem *const pasted = m_d->paste(copy, target.get(), used);
+        copy.isPasted = pasted;
+        if (!pasted)
+            continue; // a listener has removed it again, say
+        copy.key = keyFromItem(*model, pasted);
         copy.alikeBefore = alike[copy.key.uuid]++;
         m_d->pastedUuids.prepend(copy.key.uuid);
     }
     if (m_d->model)
-        generateMissingSpears(*model, target);
+        generateMissingSpears(*model, target.get());
 }
 
 void EditPaste::undo()
 {
-    if (!m_d->model)
+    if (!m_d->model || !m_d->gate.letsUndo(m_d->model))
         return;
     QVector<SubjectKey> keys{m_d->target};
     for (const Copy &copy : m_d->copies)
         keys.append(copy.key);
+    SelectionHold hold;
     SubjectFinder finder(*m_d->model, keys);
     std::for_each(m_d->copies.rbegin(), m_d->copies.rend(), [&](Copy &copy) {
         if (!std::exchange(copy.isPasted, false) || !m_d->model)
             return;
         if (TreeItem *const subject = m_d->pastedSubject(copy, finder))
-            copy.held.take(*m_d->model, subject);
+            copy.held.take(*m_d->model, subject, hold);
     });
 }
 

@@ -32,6 +32,10 @@ class TreeItem;
  * Spears follow where the parent has one: the new subject gets a spear, in row order, and loses it
  * when it is taken out. Laying out is up to the editor.
  *
+ * A listener may remove the new subject as soon as it is there; undo() then finds nothing to do. A
+ * step that comes while the model announces another change does nothing, and neither does the step
+ * back.
+ *
  * The model is not owned; once it is gone the command does nothing any more.
  */
 class FISHBONE_EXPORT InsertCommand : public UndoCommand
@@ -65,6 +69,10 @@ protected:
     virtual Place place(const QModelIndex &reference) const = 0;
     /** Puts the subject there; false when it cannot stand there. */
     virtual bool insertAt(const Place &place);
+    /** What redo() does, when it has anything to do. */
+    virtual void insert();
+    /** What undo() does, when it has anything to do. */
+    virtual void remove();
 
     const std::unique_ptr<Private> m_d; ///< what the commands of this file share
 };
@@ -133,15 +141,18 @@ public:
     /** The new subject goes above @p index. */
     InsertParent(QAbstractItemModel *model, const QModelIndex &index);
 
-    void undo() override;
-    void redo() override;
-
 protected:
     Place place(const QModelIndex &reference) const override;
+    void insert() override;
+    void remove() override;
 
 private:
+    void insertAbove(FishModel &model, TreeItem *subject);
     void insertAboveHead(FishModel &model, TreeItem *head);
-    void removeAboveHead(FishModel &model, TreeItem *subject, TreeItem *inserted);
+    bool removeAbove(FishModel &model, TreeItem *subject, TreeItem *inserted);
+    bool removeAboveHead(FishModel &model, TreeItem *subject, TreeItem *inserted);
+    void insertElsewhere();
+    void removeElsewhere();
 
     QString m_pid; // of the subject, before the insertion
 };
@@ -190,7 +201,6 @@ public:
     void undo() override;
     void redo() override;
 
-    /** The snapshot. */
     /** The snapshot. */
     QJsonObject objects() const;
     /** Where the subjects stood when redo() came to them, in its order; -1 for one not found. */

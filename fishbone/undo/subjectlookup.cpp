@@ -211,13 +211,13 @@ void SubjectFinder::collect(TreeItem *top, Match match, Candidates &candidates) 
         const QString &uuid = subject->uuid();
         if (match == Match::Exact) {
             if (only.isEmpty() ? m_uuids.contains(uuid) : uuid == only)
-                candidates[uuid].append(subject);
+                candidates[uuid].append(GuardedPointer<TreeItem>(subject));
             return true;
         }
         for (int length : m_lengths) {
             const QString ending = uuid.right(length).toCaseFolded();
             if (uuid.size() >= length && m_endings.contains(ending))
-                candidates[ending].append(subject);
+                candidates[ending].append(GuardedPointer<TreeItem>(subject));
         }
         return true;
     });
@@ -246,10 +246,10 @@ TreeItem *SubjectFinder::pick(const SubjectKey &key, Match match,
     const QString name = match == Match::Exact ? key.uuid : key.uuid.toCaseFolded();
     const QList<FishInfo *> documents = searchOrder(m_model, key.document);
     for (const FishInfo *document : documents) {
-        const QVector<TreeItem *> subjects = candidates(document, match).value(name);
-        for (TreeItem *subject : subjects) {
-            if (!except.contains(subject) && m_model.fishOf(subject))
-                return subject;
+        const auto subjects = candidates(document, match).value(name);
+        for (const GuardedPointer<TreeItem> &subject : subjects) {
+            if (subject.get() && !except.contains(subject.get()) && isIn(m_model, subject.get()))
+                return subject.get();
         }
     }
     return nullptr;

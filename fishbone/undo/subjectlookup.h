@@ -78,7 +78,7 @@ void nameSubjects(const FishModel &model, const QVector<SubjectKey> &keys);
  * Finds many subjects in one walk over the nodes.
  *
  * It looks at a document the first time it needs it, and holds for as long as subjects only move
- * within their document or leave the model without being deleted; add() tells it of others.
+ * within their document or leave it, deleted or not; add() tells it of others.
  */
 class SubjectFinder
 {
@@ -97,7 +97,7 @@ public:
 
 private:
     /** The subjects that may be meant by each uuid, in pre-order. */
-    using Candidates = QHash<QString, QVector<TreeItem *>>;
+    using Candidates = QHash<QString, QVector<GuardedPointer<TreeItem>>>;
     enum class Match { Exact, Ending };
 
     void collect(TreeItem *top, Match match, Candidates &candidates) const;

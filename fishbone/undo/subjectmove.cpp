@@ -18,16 +18,19 @@ bool moveSubject(FishModel &model, TreeItem *subject, TreeItem *parent, int posi
 {
     const QModelIndex index = model.indexFromItem(subject);
     const QModelIndex to = model.indexFromItem(parent);
+    if (!index.isValid() || (parent && !to.isValid()))
+        return false; // to the top level, it would be
     const bool isHead = !index.parent().isValid();
     if (isHead && parent) {
         document.reset(model.moveHeadUnder(index.row(), to, position));
         return document != nullptr;
     }
     if (!isHead && !parent && document) {
-        const bool isMoved = model.moveToTopLevel(index, position, document.get());
-        if (isMoved)
-            static_cast<void>(document.release());
-        return isMoved;
+        FishInfo *const entering = document.release(); // as who hears of it may end it there
+        if (model.moveToTopLevel(index, position, entering))
+            return true;
+        document.reset(entering);
+        return false;
     }
     return model.moveRows(index.parent(), index.row(), 1, to, position);
 }

@@ -4,6 +4,7 @@
 #include <fishbone/undo/subjectspears.h>
 
 #include <fishbone/drawing/spearbuilder.h>
+#include <fishbone/items/sceneselection.h>
 #include <fishbone/items/spearitem.h>
 #include <fishbone/model/fishmodel.h>
 #include <fishbone/model/treeitem.h>
@@ -27,6 +28,13 @@ void unlinkSpears(TreeItem *subject)
         below->setSpear(nullptr, QModelIndex());
         return true;
     });
+}
+
+void deleteSpear(SpearItem *spear, SelectionHold &hold)
+{
+    hold.add(spear->scene());
+    const SelectionSilence silence(spear->scene());
+    delete spear;
 }
 
 /** The spears of @p subjects that are children of @p parent. */
@@ -99,20 +107,21 @@ void generateMissingSpears(const FishModel &model, TreeItem *parent, const QList
         queue.append(generateChildSpears(model, *queue.dequeue()));
 }
 
-void deleteSpears(TreeItem *subject)
+void deleteSpears(TreeItem *subject, SelectionHold &hold)
 {
-    visitSubjects(subject, [](TreeItem *below) {
-        delete below->spear();
+    visitSubjects(subject, [&hold](const TreeItem *below) {
+        if (below->spear())
+            deleteSpear(below->spear(), hold);
         return true;
     });
 }
 
-void moveSpear(TreeItem *subject, const SpearPointer &former)
+void moveSpear(TreeItem *subject, const SpearPointer &former, SelectionHold &hold)
 {
     SpearItem *const spear = subject->spear();
     SpearItem *const parent = subject->parent() ? subject->parent()->spear() : nullptr;
     if (former.get() && former.get() != spear && former.get()->parentItem())
-        delete former.get();
+        deleteSpear(former.get(), hold);
     if (!spear)
         return;
     if (!spear->parentItem()) {
@@ -124,9 +133,11 @@ void moveSpear(TreeItem *subject, const SpearPointer &former)
         }
         spear->setZValue(0);
     } else if (!parent) {
-        delete spear;
+        deleteSpear(spear, hold);
         return;
     }
+    hold.add(spear->scene());
+    const SelectionSilence silence(spear->scene()); // a bone that is contracted hides it
     if (spear->scene() && spear->scene() != parent->scene())
         spear->scene()->removeItem(spear);
     spear->setParentItem(parent);

@@ -8,6 +8,7 @@
 #include <fishbone/items/spearpointer.h>
 
 class FishModel;
+class SelectionHold;
 class TreeItem;
 
 /**
@@ -21,8 +22,8 @@ class TreeItem;
 void generateMissingSpears(const FishModel &model, TreeItem *parent,
                            const QList<TreeItem *> &moved = {});
 
-/** Deletes the spears of @p subject and of everything below it. */
-void deleteSpears(TreeItem *subject);
+/** Deletes the spears of @p subject and of all below it; @p hold tells of the selection later. */
+void deleteSpears(TreeItem *subject, SelectionHold &hold);
 
 /**
  * Brings the spear of a subject that has moved below the spear of its parent, in any place among
@@ -30,6 +31,6 @@ void deleteSpears(TreeItem *subject);
  * drawing of its own stays there, without subjects once they are drawn elsewhere.
  *
  * @p former is the spear before the move. Who heard of the move may have drawn the subject anew
- * already; the former spear is deleted then.
+ * already; the former spear is deleted then. @p hold tells of the selection later.
  */
-void moveSpear(TreeItem *subject, const SpearPointer &former);
+void moveSpear(TreeItem *subject, const SpearPointer &former, SelectionHold &hold);
