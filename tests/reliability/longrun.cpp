@@ -182,7 +182,8 @@ int main(int argc, char **argv)
                 parser.isSet(QStringLiteral("verbose")));
     run.run(numberOf(parser, "operations"));
     const auto &calls = run.user().calledSlots();
-    std::printf("%d slots of the editor were called, %d dialogs and menus answered\n",
-                int(calls.size()), run.answeredDialogs());
+    std::printf("%d slots of the editor were called, %d dialogs and menus answered, %d times a "
+                "listener did something\n",
+                int(calls.size()), run.answeredDialogs(), run.user().reactions());
     return 0;
 }

@@ -47,6 +47,7 @@ RandomUser::RandomUser(RandomWorld &world, QRandomGenerator &random)
     : m_world(world)
     , m_random(random)
     , m_slots(editorSlots())
+    , m_listener(world, random)
 {
 }
 
@@ -83,9 +84,17 @@ QString RandomUser::callSlot()
     if (m_random.bounded(3) != 0)
         selectSome(*editor);
     const QMetaMethod slot = m_slots.at(m_random.bounded(int(m_slots.size())));
+    const QString name = QString::fromLatin1(slot.methodSignature());
+    const bool isHeard = m_random.bounded(4) == 0;
+    if (isHeard)
+        m_listener.arm(*editor);
     if (call(*editor, slot))
         ++m_calls[slot.methodSignature()];
-    return QString::fromLatin1(slot.methodSignature());
+    if (!isHeard || !m_listener.disarm())
+        return name;
+    m_world.redrawAll();
+    ++m_reactions;
+    return name + QStringLiteral(" with a listener");
 }
 
 /// Calls a slot with arguments of its types; false when there is none to be had.

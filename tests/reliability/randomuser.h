@@ -9,6 +9,7 @@
 #include <QString>
 #include <QVector>
 
+#include <tests/reliability/randomlistener.h>
 #include <tests/reliability/randomworld.h>
 
 /// Does at random whatever a host and its user can do.
@@ -28,6 +29,8 @@ public:
 
     /// How often each public slot of the editor was called; for the proof that none was left out.
     const QHash<QByteArray, int> &calledSlots() const { return m_calls; }
+    /// How often a listener did something while a slot ran.
+    int reactions() const { return m_reactions; }
 
 private:
     QString callSlot();
@@ -46,6 +49,8 @@ private:
     RandomWorld &m_world;
     QRandomGenerator &m_random;
     QVector<QMetaMethod> m_slots;
+    RandomListener m_listener;
     QHash<QByteArray, int> m_calls;
+    int m_reactions = 0;
     QPointer<FishEditor> m_pressed; ///< where a button of the mouse is held
 };

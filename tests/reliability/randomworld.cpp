@@ -238,6 +238,12 @@ void RandomWorld::redraw(FishModel *model)
     }
 }
 
+void RandomWorld::redrawAll()
+{
+    for (const Model &entry : m_models)
+        redraw(entry.model.get());
+}
+
 QString RandomWorld::quickFault() const
 {
     for (const Model &entry : m_models) {

@@ -51,6 +51,7 @@ public:
     void setModel(FishEditor *editor);
     /// What a host does after it has changed rows by itself.
     void redraw(FishModel *model);
+    void redrawAll();
 
     /// What is wrong and can be seen at once; empty when nothing is.
     QString quickFault() const;
