@@ -3,18 +3,30 @@
 
 #include <fishbone/drawing/clearcolors.h>
 
+#include <algorithm>
 #include <array>
+#include <cmath>
 
 namespace {
-using Colors = std::array<QRgb, 8>;
+using Colors = std::array<QRgb, 10>;
 
-// Neighbours differ in lightness as well as in hue, for people who do not tell hues apart.
-constexpr Colors distinct{0xff1f6fb4, 0xffa8430f, 0xff1d6b3a, 0xff8a3f9b,
-                          0xff0d5c75, 0xffb03048, 0xff5b5b10, 0xff46508f};
-constexpr Colors gray{0xff3a3a3a, 0xff666666, 0xff4c4c4c, 0xff707070,
-                      0xff404040, 0xff5c5c5c, 0xff505050, 0xff6a6a6a};
-constexpr Colors dark{0xff7db8ee, 0xfff0a070, 0xff74cf93, 0xffd09be0,
-                      0xff6fc9d6, 0xfff092a4, 0xffcfcf70, 0xffa9b3ee};
+// In an order in which neighbours differ most, also for eyes that lack one kind of cone.
+constexpr Colors distinct{0xff1f6fb4, 0xff0f7c86, 0xffb84d18, 0xff5b21b6, 0xff0067a5,
+                          0xff007a5a, 0xff7a5c00, 0xff27348b, 0xff404a54, 0xff1d7a46};
+constexpr Colors gray{0xff3a3a3a, 0xff666666, 0xff4c4c4c, 0xff707070, 0xff404040,
+                      0xff5c5c5c, 0xff505050, 0xff6a6a6a, 0xff464646, 0xff747474};
+constexpr Colors dark{0xff7db8ee, 0xff6fc9d6, 0xfff0a070, 0xffd09be0, 0xff74cf93,
+                      0xffcfcf70, 0xfff092a4, 0xffa9b3ee, 0xffd8b088, 0xffb8d0c8};
+
+/** As light as the eye takes it, 0 to 1. */
+qreal luminance(const QColor &color)
+{
+    const auto linear = [](qreal part) {
+        return part <= 0.03928 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +
+           0.0722 * linear(color.blueF());
+}
 } // namespace
 
 ClearColors::ClearColors(DiagramLook::Palette palette)
@@ -46,6 +58,18 @@ QColor ClearColors::head() const
     return isGray() ? QColor(0xe8e8e8) : QColor(0xd8f0e4);
 }
 
+QColor ClearColors::paper() const
+{
+    return isDark() ? QColor(0x1e2126) : QColor(Qt::white);
+}
+
+QColor ClearColors::tail() const
+{
+    if (isDark())
+        return QColor(0x2f6e52);
+    return isGray() ? QColor(0xc8c8c8) : QColor(0x8fd6b4);
+}
+
 QColor ClearColors::outline() const
 {
     if (isDark())
@@ -66,4 +90,18 @@ QColor ClearColors::badge() const
 QColor ClearColors::badgeInk() const
 {
     return isDark() ? QColor(0xe8edf2) : QColor(0x2a3643);
+}
+
+QColor ClearColors::inkOn(const QColor &fill)
+{
+    const QColor light(Qt::white);
+    const QColor night(0x10161c);
+    return contrast(fill, light) >= contrast(fill, night) ? light : night;
+}
+
+qreal ClearColors::contrast(const QColor &one, const QColor &other)
+{
+    const qreal a = luminance(one) + 0.05;
+    const qreal b = luminance(other) + 0.05;
+    return std::max(a, b) / std::min(a, b);
 }

@@ -54,7 +54,6 @@ public:
     bool isSettled() const override { return false; }
 
 private:
-    ClearOptions layoutOptions() const;
     void paintHeader(QPainter &painter, const ClearSpear &header) const;
     QPen penOf(const SpearItem &spear, const ClearSpear &place) const;
     QColor inkOf(const SpearItem &spear, const ClearSpear &place) const;

@@ -13,6 +13,17 @@ ClearFont weighted(QFont like, QFont::Weight weight, qreal pixels)
 }
 } // namespace
 
+ClearOptions ClearOptions::of(const DiagramLook::Options &options)
+{
+    ClearOptions clear;
+    clear.wrap.limit = options.wrapLimit;
+    clear.headWidth = options.headWidth;
+    clear.sides = ClearSides(options.sides);
+    clear.isHeadLeft = options.isHeadLeft;
+    clear.hasLegend = options.hasLegend;
+    return clear;
+}
+
 ClearFonts::ClearFonts(const QFont &like)
     : m_head(weighted(like, QFont::Bold, ClearMeasure::headSize))
     , m_category(weighted(like, QFont::Bold, ClearMeasure::categorySize))

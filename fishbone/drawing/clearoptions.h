@@ -4,6 +4,7 @@
 #pragma once
 
 #include <fishbone/drawing/cleartext.h>
+#include <fishbone/drawing/diagramlook.h>
 
 #include <cmath>
 
@@ -20,7 +21,7 @@ constexpr qreal iconGap = 4; ///< between an icon and its text
 constexpr qreal gap = 5;     ///< clear height between two texts
 } // namespace ClearMeasure
 
-/** Where the bones of a category go. */
+/** Where the bones of a category go; as DiagramLook::Sides. */
 enum class ClearSides {
     One,    ///< all on the side away from the head
     Uneven, ///< on both sides of the categories that have far more subjects than the others
@@ -35,6 +36,9 @@ struct ClearOptions
     bool isHeadLeft = false; ///< the head stands on the left, mirrored but for the texts
     qreal headWidth = 120;   ///< the width of a line in the head
     bool hasLegend = false;  ///< whether what is in the legend is shown
+
+    /** What @p options of the look mean for the layout. */
+    static ClearOptions of(const DiagramLook::Options &options);
 
     bool operator==(const ClearOptions &o) const
     {

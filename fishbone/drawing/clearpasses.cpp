@@ -122,17 +122,6 @@ void give(SpearItem *spear, const ClearLayout &layout, int index, int hidden,
 }
 } // namespace
 
-ClearOptions ClearLook::layoutOptions() const
-{
-    ClearOptions options;
-    options.wrap.limit = m_options.wrapLimit;
-    options.headWidth = m_options.headWidth;
-    options.sides = ClearSides(m_options.sides);
-    options.isHeadLeft = m_options.isHeadLeft;
-    options.hasLegend = m_options.hasLegend;
-    return options;
-}
-
 void ClearLook::size(const SpearTree &tree) const
 {
     Q_UNUSED(tree) // the texts are measured where they are packed
@@ -142,7 +131,8 @@ void ClearLook::place(const SpearTree &tree) const
 {
     const Shown shown(tree.head().spear);
     const ClearFonts fonts(family());
-    const ClearLayout layout(ClearTree(shown.subjects), fonts, layoutOptions(), m_texts);
+    const ClearLayout layout(ClearTree(shown.subjects), fonts, ClearOptions::of(m_options),
+                             m_texts);
     QFont badge = fonts.badge().font();
     badge.setPixelSize(int(fonts.badge().pixels()));
     m_texts.forgetUnused();

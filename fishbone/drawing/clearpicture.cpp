@@ -9,6 +9,7 @@
 
 namespace {
 constexpr qreal boxRadius = 4;
+constexpr int legendLevel = 3; ///< as quiet as the deeper causes
 constexpr qreal fishLine = 1.5;
 constexpr qreal ring = 1.5; ///< of paper around an icon on a coloured box
 constexpr qreal backgroundPadding = 2;
@@ -28,25 +29,25 @@ QPainterPath closed(const QPolygonF &polygon)
 } // namespace
 
 ClearPicture::ClearPicture(const ClearPictureContent &content, const ClearLayout &layout,
-                           const ClearFonts &fonts, const ClearTheme &theme)
+                           const ClearFonts &fonts, const ClearColors &colors)
     : m_content(content)
     , m_layout(layout)
     , m_fonts(fonts)
-    , m_theme(theme)
+    , m_colors(colors)
 {
     for (int index = 0; index < layout.size(); ++index) {
         const ClearLayout::Bone &bone = layout.bone(index);
         if (bone.level != 1)
             continue;
         const QColor own = content.looks[std::size_t(index)].colour;
-        m_categoryColors.push_back(own.isValid() ? own : theme.category(bone.category));
+        m_categoryColors.push_back(own.isValid() ? own : colors.category(bone.category));
     }
 }
 
 QColor ClearPicture::colorOf(int index) const
 {
     const int category = m_layout.bone(index).category;
-    return category < 0 ? m_theme.headLine() : m_categoryColors[std::size_t(category)];
+    return category < 0 ? m_colors.outline() : m_categoryColors[std::size_t(category)];
 }
 
 void ClearPicture::describe(PictureSink &sink) const
@@ -61,8 +62,8 @@ void ClearPicture::describe(PictureSink &sink) const
 
 void ClearPicture::describeFish(PictureSink &sink) const
 {
-    sink.shape(closed(m_layout.backbone()), m_theme.backbone(), QColor(), 0);
-    sink.shape(m_layout.tail(), m_theme.tailFill(), m_theme.headLine(), fishLine);
+    sink.shape(closed(m_layout.backbone()), m_colors.backbone(), QColor(), 0);
+    sink.shape(m_layout.tail(), m_colors.tail(), m_colors.outline(), fishLine);
 }
 
 void ClearPicture::describeBone(PictureSink &sink, int index) const
@@ -71,10 +72,10 @@ void ClearPicture::describeBone(PictureSink &sink, int index) const
     const ClearSubjectLook &look = m_content.looks[std::size_t(index)];
     const QColor color = colorOf(index);
     sink.beginSubject(index, m_content.meanings[std::size_t(index)]);
-    QColor below = m_theme.paper();
+    QColor below = m_colors.paper();
     if (index == 0) {
-        below = m_theme.headFill();
-        sink.shape(m_layout.head(), below, m_theme.headLine(), fishLine);
+        below = m_colors.head();
+        sink.shape(m_layout.head(), below, m_colors.outline(), fishLine);
     } else {
         sink.line(bone.line, color, lineWidth(bone.level));
     }
@@ -97,8 +98,8 @@ void ClearPicture::describeLabel(PictureSink &sink, int index, const QColor &bel
     const ClearSubjectLook &look = m_content.looks[std::size_t(index)];
     QColor ink = look.ink;
     if (!ink.isValid())
-        ink = bone.level == 1 || below != m_theme.paper() ? ClearTheme::inkOn(below)
-                                                          : m_theme.ink(bone.level);
+        ink = bone.level == 1 || below != m_colors.paper() ? ClearColors::inkOn(below)
+                                                           : m_colors.ink(bone.level);
     sink.text(*bone.text, bone.textRect, bone.side, ink);
     for (const QRectF &rect : {bone.status, bone.link}) {
         if (rect.isNull())
@@ -116,8 +117,8 @@ void ClearPicture::describeLabel(PictureSink &sink, int index, const QColor &bel
     const ClearText text(font, {{count, width}}, false, false);
     QRectF rect(0, 0, width, text.height());
     rect.moveCenter(bone.badge.center());
-    sink.box(bone.badge, bone.badge.height() / 2, m_theme.badgeFill());
-    sink.text(text, rect, ClearLabel::Side::Center, ClearTheme::inkOn(m_theme.badgeFill()));
+    sink.box(bone.badge, bone.badge.height() / 2, m_colors.badge());
+    sink.text(text, rect, ClearLabel::Side::Center, m_colors.badgeInk());
 }
 
 void ClearPicture::describeLegend(PictureSink &sink) const
@@ -127,6 +128,6 @@ void ClearPicture::describeLegend(PictureSink &sink) const
     for (std::size_t i = 0; i < count; ++i) {
         sink.icon(entries[i].symbol, m_content.legendIcons[i]);
         sink.text(*entries[i].text, entries[i].textRect, ClearLabel::Side::Left,
-                  m_theme.legendInk());
+                  m_colors.ink(legendLevel));
     }
 }

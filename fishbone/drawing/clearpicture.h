@@ -3,8 +3,8 @@
 
 #pragma once
 
+#include <fishbone/drawing/clearcolors.h>
 #include <fishbone/drawing/clearlayout.h>
-#include <fishbone/drawing/cleartheme.h>
 #include <fishbone/drawing/picturesink.h>
 
 #include <vector>
@@ -35,11 +35,11 @@ class ClearPicture
 public:
     /** The picture of @p content as @p layout has it; both live on. */
     ClearPicture(const ClearPictureContent &content, const ClearLayout &layout,
-                 const ClearFonts &fonts, const ClearTheme &theme);
+                 const ClearFonts &fonts, const ClearColors &colors);
 
     /** What it covers. */
     const QRectF &bounds() const { return m_layout.bounds(); }
-    const ClearTheme &theme() const { return m_theme; }
+    const ClearColors &colors() const { return m_colors; }
     const ClearFonts &fonts() const { return m_fonts; }
     const ClearPictureContent &content() const { return m_content; }
 
@@ -56,6 +56,6 @@ private:
     const ClearPictureContent &m_content;
     const ClearLayout &m_layout;
     ClearFonts m_fonts;
-    ClearTheme m_theme;
+    ClearColors m_colors;
     std::vector<QColor> m_categoryColors;
 };

@@ -27,32 +27,6 @@ namespace {
 constexpr double millimetresPerInch = 25.4;
 constexpr double pointsPerInch = 72;
 
-ClearTheme::Palette paletteOf(const DiagramLook::Options &options)
-{
-    switch (options.palette) {
-    case DiagramLook::GrayColors:
-        return ClearTheme::Palette::Gray;
-    case DiagramLook::DarkColors:
-        return ClearTheme::Palette::Dark;
-    case DiagramLook::DistinctColors:
-        break;
-    }
-    return ClearTheme::Palette::Distinct;
-}
-
-ClearOptions clearOptions(const DiagramLook::Options &options)
-{
-    ClearOptions clear;
-    clear.wrap.limit = options.wrapLimit;
-    clear.headWidth = options.headWidth;
-    clear.isHeadLeft = options.isHeadLeft;
-    clear.hasLegend = options.hasLegend;
-    clear.sides = options.sides == DiagramLook::OneSide       ? ClearSides::One
-                  : options.sides == DiagramLook::UnevenSides ? ClearSides::Uneven
-                                                              : ClearSides::Both;
-    return clear;
-}
-
 bool isPage(const QString &fileName)
 {
     return fileName.endsWith(QLatin1String(".html"), Qt::CaseInsensitive) ||
@@ -87,8 +61,8 @@ struct DiagramPicture::Data
         : content(std::move(made))
         , tree(content.subjects)
         , fonts(QFont())
-        , theme(paletteOf(options))
-        , clear(clearOptions(options))
+        , colors(options.palette)
+        , clear(ClearOptions::of(options))
     {
         layOut();
     }
@@ -97,12 +71,12 @@ struct DiagramPicture::Data
     {
         layout = std::make_unique<ClearLayout>(tree, fonts, clear, cache, content.legendTexts);
     }
-    ClearPicture picture() const { return {content, *layout, fonts, theme}; }
+    ClearPicture picture() const { return {content, *layout, fonts, colors}; }
 
     ClearPictureContent content;
     ClearTree tree;
     ClearFonts fonts;
-    ClearTheme theme;
+    ClearColors colors;
     ClearOptions clear;
     ClearTextCache cache;
     std::unique_ptr<ClearLayout> layout;

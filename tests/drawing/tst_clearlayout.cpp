@@ -30,7 +30,7 @@ void show(const ClearLayout &layout, const QString &name, const std::vector<Clea
     if (folder.isEmpty() || layout.bounds().width() > 5000)
         return;
     const ClearPictureContent content = ClearPictures::contentOf(subjects, statuses);
-    const ClearPicture picture(content, layout, fonts(), ClearTheme());
+    const ClearPicture picture(content, layout, fonts(), ClearColors(DiagramLook::DistinctColors));
     QVERIFY(ClearPictures::paint(picture, 1.5)
                 .save(QString::fromLocal8Bit(folder) + u'/' + name + QStringLiteral(".png")));
 }

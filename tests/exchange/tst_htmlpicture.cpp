@@ -51,7 +51,7 @@ QByteArray pageOf(const ClearPictureContent &content)
     const ClearTree tree(content.subjects);
     ClearTextCache cache;
     const ClearLayout layout(tree, fonts, {}, cache);
-    const ClearPicture picture(content, layout, fonts, ClearTheme());
+    const ClearPicture picture(content, layout, fonts, ClearColors(DiagramLook::DistinctColors));
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
     const bool isWritten =

@@ -39,7 +39,7 @@ struct Made
         : content(std::move(made))
         , tree(content.subjects)
         , layout(tree, fonts(), options, cache, content.legendTexts)
-        , picture(content, layout, fonts(), ClearTheme())
+        , picture(content, layout, fonts(), ClearColors(DiagramLook::DistinctColors))
     {
     }
 

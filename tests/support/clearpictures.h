@@ -40,7 +40,7 @@ inline QImage paint(const ClearPicture &picture, qreal scale)
 {
     const QRectF bounds = picture.bounds().adjusted(-8, -8, 8, 8);
     QImage image((bounds.size() * scale).toSize(), QImage::Format_RGB32);
-    image.fill(picture.theme().paper());
+    image.fill(picture.colors().paper());
     QPainter painter(&image);
     painter.scale(scale, scale);
     painter.translate(-bounds.topLeft());
