@@ -152,22 +152,25 @@ QString MarkdownReader::withoutComments(const QString &text, qint64 line)
 {
     const QLatin1String begin("<!--");
     const QLatin1String end("-->");
-    QString rest = text;
     QString kept;
-    for (;;) {
-        const int next = int(rest.indexOf(m_isInComment ? end : begin));
-        const bool isEscaped = !m_isInComment && next > 0 && rest.at(next - 1) == QLatin1Char('\\');
-        const QString before = next < 0 || isEscaped ? rest : rest.left(next);
-        if (m_isInComment && !before.trimmed().isEmpty())
-            m_tree.note(Report::LeftOut,
-                        DiagramExchange::tr("the comment \"%1\"").arg(before.trimmed()), line);
+    int position = 0;
+    while (position < text.size()) {
+        const QLatin1String mark = m_isInComment ? end : begin;
+        int next = int(text.indexOf(mark, position));
+        while (!m_isInComment && next > 0 && text.at(next - 1) == QLatin1Char('\\'))
+            next = int(text.indexOf(mark, next + 1)); // it is text
+        const QString before = text.mid(position, next < 0 ? -1 : next - position);
         if (!m_isInComment)
             kept += before;
-        if (next < 0 || isEscaped)
-            return kept.trimmed();
-        rest = rest.mid(next + int(m_isInComment ? end.size() : begin.size()));
+        else if (!before.trimmed().isEmpty())
+            m_tree.note(Report::LeftOut,
+                        DiagramExchange::tr("the comment \"%1\"").arg(before.trimmed()), line);
+        if (next < 0)
+            break;
+        position = next + int(mark.size());
         m_isInComment = !m_isInComment;
     }
+    return kept.trimmed();
 }
 
 /** Whether the line begins or ends a list of tasks, which is in a fence but no code. */

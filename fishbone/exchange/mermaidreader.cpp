@@ -163,8 +163,11 @@ bool MermaidReader::addMindNode(int headRank)
     if (takeDecoration(text))
         return true;
     // A text in quotes may go on over several lines.
-    while (text.count(QLatin1String("\"`")) > text.count(QLatin1String("`\"")) && m_lines.next())
+    bool isOpen = text.count(QLatin1String("\"`")) > text.count(QLatin1String("`\""));
+    while (isOpen && m_lines.next()) {
         text += QLatin1Char('\n') + m_lines.text();
+        isOpen = !m_lines.text().contains(QLatin1String("`\""));
+    }
     return m_tree.add(rank, nodeText(text), first);
 }
 

@@ -43,6 +43,15 @@ int levelOf(const QString &line)
     return level < line.size() && line.at(level) == QLatin1Char(' ') ? level : 0;
 }
 
+/** What stands behind the last blank of @p title. */
+QString lastWordOf(const QString &title)
+{
+    int begin = int(title.size());
+    while (begin > 0 && !title.at(begin - 1).isSpace())
+        --begin;
+    return title.mid(begin);
+}
+
 } // namespace
 
 QString OrgKeywords::wordOf(int status)
@@ -137,22 +146,24 @@ void OrgReader::takePriority(QString &title)
 
 void OrgReader::takeTags(QString &title)
 {
-    static const QRegularExpression form(QString::fromUtf8("(?:^|\\s+):([\\w@#%:]+):$"),
+    static const QRegularExpression form(QString::fromUtf8("^:([\\w@#%:]+):$"),
                                          QRegularExpression::UseUnicodePropertiesOption);
-    const auto match = form.match(title);
+    const QString last = lastWordOf(title);
+    const auto match = form.match(last);
     if (!match.hasMatch())
         return;
     m_tree.addNamedDetail(*m_subject, DiagramExchange::tr("Labels"),
                           match.captured(1).split(QLatin1Char(':')).join(QLatin1String(", ")),
                           m_lines.number());
-    title = title.left(match.capturedStart()).trimmed();
+    title = title.chopped(last.size()).trimmed();
 }
 
 /** Takes the progress that a heading shows: "[40%]", or as so many of so many. */
 void OrgReader::takeCookie(QString &title)
 {
-    static const QRegularExpression form(QStringLiteral("\\s*\\[(\\d+)(?:%|/(\\d+))\\]$"));
-    const auto match = form.match(title);
+    static const QRegularExpression form(QStringLiteral("\\[(\\d{1,9})(?:%|/(\\d{1,9}))\\]$"));
+    constexpr int longest = 24;
+    const auto match = form.match(title.right(longest));
     if (!match.hasMatch())
         return;
     const int all = match.captured(2).toInt();
@@ -160,12 +171,11 @@ void OrgReader::takeCookie(QString &title)
     const bool isShare = !match.captured(2).isEmpty();
     if (isShare && (all == 0 || done > all))
         return;
-    constexpr int whole = 100;
-    m_subject->setProgress(isShare ? done * whole / all : done);
-    m_tree.note(Kind::ReadAs,
-                DiagramExchange::tr("\"%1\" as a progress").arg(match.captured().trimmed()),
+    constexpr qint64 whole = 100;
+    m_subject->setProgress(isShare ? int(done * whole / all) : done);
+    m_tree.note(Kind::ReadAs, DiagramExchange::tr("\"%1\" as a progress").arg(match.captured()),
                 m_lines.number());
-    title = title.left(match.capturedStart());
+    title = title.chopped(match.capturedLength()).trimmed();
 }
 
 void OrgReader::takeLinks(QString &title)

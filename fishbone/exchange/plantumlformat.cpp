@@ -65,7 +65,8 @@ private:
     bool takeNode(const QString &line, int marks)
     {
         static const QRegularExpression look(QStringLiteral("^(?:_|\\[#[^\\]]*\\])+"));
-        static const QRegularExpression style(QStringLiteral("\\s*<<([^<>]+)>>$"));
+        static const QRegularExpression style(QStringLiteral("<<([^<>]+)>>$"));
+        constexpr int longestStyle = 100;
         const qint64 number = m_lines.number();
         // Levels are told by the number of marks, or by how far a single one is indented.
         const int rank = marks == 1 ? m_lines.indentation() : marks * 1000 + m_lines.indentation();
@@ -76,9 +77,9 @@ private:
         }
         if (text.startsWith(QLatin1Char(':')))
             text = restOfNode(text.mid(1));
-        if (const auto match = style.match(text); match.hasMatch()) {
-            m_tree.note(Kind::Appearance, match.captured().trimmed(), number);
-            text = text.left(match.capturedStart());
+        if (const auto match = style.match(text.right(longestStyle)); match.hasMatch()) {
+            m_tree.note(Kind::Appearance, match.captured(), number);
+            text = text.chopped(match.capturedLength());
         }
         TreeItem *const subject = m_tree.add(rank, QString(), number);
         if (subject)
@@ -105,16 +106,20 @@ private:
         static const QRegularExpression tag(
             QStringLiteral("</?(?:b|i|u|s|w|color|size|font|back)(?:[:=\\s][^<>]*)?>"));
         QStringList links;
-        for (auto matches = link.globalMatch(text); matches.hasNext();)
-            links.append(matches.next().captured(1));
-        QString plain = text;
-        for (auto match = link.match(plain); match.hasMatch(); match = link.match(plain)) {
-            const QString shown =
-                match.captured(2).isEmpty() ? match.captured(1) : match.captured(2);
-            plain.replace(match.capturedStart(), match.capturedLength(), shown);
+        QString plain;
+        int end = 0;
+        for (auto matches = link.globalMatch(text); matches.hasNext();) {
+            const auto match = matches.next();
+            plain += text.mid(end, match.capturedStart() - end);
+            plain += match.captured(2).isEmpty() ? match.captured(1) : match.captured(2);
+            links.append(match.captured(1));
+            end = match.capturedEnd();
         }
+        plain += text.mid(end);
         plain.remove(tag);
-        if (links.isEmpty())
+        // The marks of an address are none; and pairs are sought for each mark, again and again.
+        constexpr int longest = 300;
+        if (links.isEmpty() && plain.size() <= longest)
             plain.replace(pair, QStringLiteral("\\2"));
         subject.setTitle(plain.replace(QLatin1String("\\n"), QLatin1String("\n")));
         m_tree.addContent(subject, links, {}, line);
@@ -126,8 +131,11 @@ private:
         if (!isLong && !line.startsWith(QLatin1Char('\'')))
             return false;
         QString text = line.mid(isLong ? 2 : 1);
-        while (isLong && !text.contains(QLatin1String("'/")) && m_lines.next())
+        bool isOpen = isLong && !text.contains(QLatin1String("'/"));
+        while (isOpen && m_lines.next()) {
             text += QLatin1Char(' ') + m_lines.text();
+            isOpen = !m_lines.text().contains(QLatin1String("'/"));
+        }
         m_tree.note(Kind::LeftOut,
                     DiagramExchange::tr("the comment \"%1\"")
                         .arg(text.remove(QLatin1String("'/")).trimmed()),

@@ -74,8 +74,9 @@ TaskCells::TaskCells(const std::vector<TaskTable::Row> &rows, std::size_t firstR
 
 QList<int> TaskCells::columnsOf(Role role) const
 {
+    constexpr int most = 64; // more of one role are no table of tasks
     QList<int> columns;
-    for (int i = 0; i < m_mapping.roles.size(); ++i) {
+    for (int i = 0; i < m_mapping.roles.size() && columns.size() < most; ++i) {
         if (m_mapping.roles.at(i) == role)
             columns.append(i);
     }
@@ -118,6 +119,7 @@ void TaskCells::findOrder(const std::vector<TaskTable::Row> &rows, std::size_t f
 void TaskCells::apply(const TaskTable::Row &row, TreeItem &subject)
 {
     m_kept.clear();
+    m_keptPlaces.clear();
     for (m_column = 0; m_column < row.cells.size(); ++m_column) {
         const Role role = m_mapping.roles.value(m_column, Role::Other);
         const QString value = text(row, m_column);
@@ -142,12 +144,13 @@ void TaskCells::keep(const QString &heading, const QString &value)
 {
     if (value.isEmpty())
         return;
-    const auto found = std::find_if(m_kept.begin(), m_kept.end(),
-                                    [&](const auto &kept) { return kept.first == heading; });
-    if (found == m_kept.end())
-        m_kept.emplace_back(heading, QStringList(value));
-    else
-        found->second.append(value);
+    const auto place = m_keptPlaces.constFind(heading);
+    if (place != m_keptPlaces.constEnd()) {
+        m_kept[*place].second.append(value);
+        return;
+    }
+    m_keptPlaces.insert(heading, m_kept.size());
+    m_kept.emplace_back(heading, QStringList(value));
 }
 
 bool TaskCells::applyCell(Role role, const QString &value, TreeItem &subject,

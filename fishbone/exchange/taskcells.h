@@ -43,6 +43,7 @@ private:
     const TaskTable::Texts m_texts;
     bool m_isOwn;
     QHash<int, bool> m_dayFirst;                         ///< of columns of dates between slashes
+    QHash<QString, std::size_t> m_keptPlaces;            ///< by the headings
     std::vector<std::pair<QString, QStringList>> m_kept; ///< of the row, what no field takes
     int m_column = 0;                                    ///< of the cell
 };
