@@ -33,11 +33,13 @@ struct Deletion
 struct EditDelete::Private
 {
     void set(FishModel *newModel, const QJsonObject &newObjects, const QList<TreeItem *> &known);
+    void setNames(const QVector<SubjectKey> &newNames);
     void deleteSubject(TreeItem *subject, SelectionHold &hold);
     TreeItem *restore(Deletion &deletion, SubjectFinder &finder);
 
     QPointer<FishModel> model;
     QJsonObject objects;
+    QVector<SubjectKey> names; // as the snapshot has them
     QVector<SubjectKey> subjects;
     QList<int> rows;
     StepGate gate;
@@ -49,9 +51,14 @@ void EditDelete::Private::set(FishModel *newModel, const QJsonObject &newObjects
 {
     model = newModel;
     objects = newObjects;
-    subjects = snapshotKeys(objects, known);
-    if (model)
-        nameSubjects(*model, subjects);
+    setNames(snapshotKeys(objects, known));
+}
+
+/** Which subjects are meant is settled now, whatever comes later under the same name. */
+void EditDelete::Private::setNames(const QVector<SubjectKey> &newNames)
+{
+    names = newNames;
+    subjects = model ? resolveNames(*model, names) : names;
 }
 
 void EditDelete::Private::deleteSubject(TreeItem *subject, SelectionHold &hold)
@@ -94,7 +101,7 @@ EditDelete::EditDelete(FishModel *model, const QModelIndex &index)
     TreeItem *const subject = itemFromIndex(index);
     if (!subject)
         return;
-    m_d->subjects.append(keyFromIndex(index));
+    m_d->setNames({keyFromIndex(index)});
     FishModel::write(m_d->objects, subject, true);
 }
 
@@ -107,8 +114,10 @@ void EditDelete::init(FishModel *model, const QJsonObject &objects)
 
 void EditDelete::setDocument(FishInfo *document)
 {
-    for (SubjectKey &key : m_d->subjects)
-        key.document = document;
+    QVector<SubjectKey> names = m_d->names;
+    for (SubjectKey &name : names)
+        name.document = document;
+    m_d->setNames(names);
 }
 
 void EditDelete::redo()
@@ -117,12 +126,18 @@ void EditDelete::redo()
         return;
     m_d->rows.clear();
     SelectionHold hold;
-    SubjectFinder finder(*m_d->model, m_d->subjects);
-    for (SubjectKey &key : m_d->subjects) {
-        TreeItem *const subject = m_d->model ? finder.findNamed(key, {}) : nullptr;
-        m_d->rows.append(subject ? m_d->model->indexFromItem(subject).row() : -1);
-        if (!subject)
+    // Who hears of a removal may end any of the others.
+    std::vector<GuardedPointer<TreeItem>> found;
+    const QVector<TreeItem *> subjects = findTopSubjects(*m_d->model, m_d->subjects);
+    for (TreeItem *subject : subjects)
+        found.emplace_back(subject);
+    for (int i = 0; i < m_d->subjects.size(); ++i) {
+        TreeItem *const subject = found[std::size_t(i)].get();
+        const QModelIndex index = m_d->model ? m_d->model->indexFromItem(subject) : QModelIndex();
+        m_d->rows.append(index.row());
+        if (!index.isValid())
             continue;
+        SubjectKey &key = m_d->subjects[i];
         key.document = m_d->model->fishOf(subject);
         key.node = subject;
         m_d->deleteSubject(subject, hold);

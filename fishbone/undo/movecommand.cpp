@@ -53,31 +53,42 @@ struct Before
 
 struct EditMove::Private
 {
-    bool carryOut(Move &move, TreeItem *to, SubjectFinder &finder);
+    void setNames(const QVector<SubjectKey> &newNames);
+    bool carryOut(Move &move, TreeItem *subject, TreeItem *to);
     void takeBack(Move &move, SubjectFinder &finder);
-    void follow(TreeItem *subject, const Before &before, SubjectFinder &finder);
+    void follow(TreeItem *subject, const Before &before);
     void completeSpears();
 
     QPointer<FishModel> model;
     QJsonObject objects;
     SubjectKey target;
     int row = 0;
-    bool wasMoved = false; // so that a row that is too great now was not so from the beginning
+    bool wasMoved = false;     // so that a row that is too great now was not so from the beginning
+    QVector<SubjectKey> names; // as the snapshot has them
     StepGate gate;
     std::vector<Move> moves;
     QList<int> sourceRows;
     // Within one redo() or undo():
-    QSet<const TreeItem *> moved;
     QHash<TreeItem *, Arrivals> arrivals; // by the new parent
     SelectionHold selection;
 };
 
-/** Moves the subject that @p move names; false when it is not there or stays where it is. */
-bool EditMove::Private::carryOut(Move &move, TreeItem *to, SubjectFinder &finder)
+/** Which subjects are meant is settled now, whatever comes later under the same name. */
+void EditMove::Private::setNames(const QVector<SubjectKey> &newNames)
 {
-    TreeItem *const subject = model ? finder.findNamed(move.name, moved) : nullptr;
-    sourceRows.append(subject ? model->indexFromItem(subject).row() : -1);
-    if (!subject)
+    names = newNames;
+    moves.clear();
+    const QVector<SubjectKey> keys = model ? resolveNames(*model, names) : names;
+    for (const SubjectKey &key : keys)
+        moves.push_back({key});
+}
+
+/** Moves the @p subject of @p move; false when it is not there or stays where it is. */
+bool EditMove::Private::carryOut(Move &move, TreeItem *subject, TreeItem *to)
+{
+    const QModelIndex index = model ? model->indexFromItem(subject) : QModelIndex();
+    sourceRows.append(index.row());
+    if (!index.isValid())
         return false;
     const Before before{model->fishOf(subject), subject->spear()};
     move.name.document = before.document;
@@ -93,7 +104,7 @@ bool EditMove::Private::carryOut(Move &move, TreeItem *to, SubjectFinder &finder
     if (!isMoved || !model || !move.name.node.get() || !model->indexFromItem(subject).isValid())
         return false;
     move.subject = keyFromItem(*model, subject);
-    follow(subject, before, finder);
+    follow(subject, before);
     return subject->parent() != parent || model->indexFromItem(subject).row() != move.row;
 }
 
@@ -109,16 +120,16 @@ void EditMove::Private::takeBack(Move &move, SubjectFinder &finder)
     const bool isMoved = moveSubjectToRow(*model, subject, parent, move.row, move.document);
     if (isMoved && model && guard.get())
         restorePid(*model, subject, move.pid);
-    if (isMoved && model && guard.get() && model->indexFromItem(subject).isValid())
-        follow(subject, before, finder);
+    if (!isMoved || !model || !guard.get() || !model->indexFromItem(subject).isValid())
+        return;
+    if (model->fishOf(subject) != before.document)
+        finder.add(subject);
+    follow(subject, before);
 }
 
 /** What else a move of @p subject entails. */
-void EditMove::Private::follow(TreeItem *subject, const Before &before, SubjectFinder &finder)
+void EditMove::Private::follow(TreeItem *subject, const Before &before)
 {
-    moved.insert(subject);
-    if (model->fishOf(subject) != before.document)
-        finder.add(subject);
     moveSpear(subject, before.spear, selection);
     Arrivals &there = arrivals[subject->parent()];
     there.parent = subject->parent();
@@ -128,7 +139,6 @@ void EditMove::Private::follow(TreeItem *subject, const Before &before, SubjectF
 /** Makes and orders the spears where subjects have come to, after the last move. */
 void EditMove::Private::completeSpears()
 {
-    moved.clear();
     for (auto there = arrivals.cbegin(); there != arrivals.cend() && model; ++there) {
         QList<TreeItem *> living;
         for (const GuardedPointer<TreeItem> &subject : there->subjects) {
@@ -149,21 +159,18 @@ EditMove::EditMove(FishModel *model, const QModelIndex &target, int row, const Q
     m_d->objects = objects;
     m_d->target = keyFromIndex(target);
     m_d->row = row;
-    QVector<SubjectKey> keys = snapshotKeys(objects, subjects);
-    for (SubjectKey &key : keys) {
-        key.document = m_d->target.document;
-        m_d->moves.push_back({key});
-    }
-    if (model)
-        nameSubjects(*model, keys);
+    m_d->names = snapshotKeys(objects, subjects);
+    setDocument(m_d->target.document);
 }
 
 EditMove::~EditMove() = default;
 
 void EditMove::setDocument(FishInfo *document)
 {
-    for (Move &move : m_d->moves)
-        move.name.document = document;
+    QVector<SubjectKey> names = m_d->names;
+    for (SubjectKey &name : names)
+        name.document = document;
+    m_d->setNames(names);
 }
 
 void EditMove::redo()
@@ -175,12 +182,18 @@ void EditMove::redo()
     QVector<SubjectKey> keys;
     for (const Move &move : m_d->moves)
         keys.append(move.name);
-    SubjectFinder finder(*model, keys);
+    // Who hears of a move may end any of the others.
+    std::vector<GuardedPointer<TreeItem>> found;
+    const QVector<TreeItem *> subjects = findTopSubjects(*model, keys);
+    for (TreeItem *subject : subjects)
+        found.emplace_back(subject);
     TreeItem *const to = findSubject(*model, m_d->target);
     const GuardedPointer<TreeItem> guard(to);
-    for (Move &move : m_d->moves)
-        move.isMoved = guard.get() == to && m_d->carryOut(move, to, finder);
-    m_d->wasMoved = m_d->wasMoved || !m_d->moved.isEmpty();
+    for (std::size_t i = 0; i < found.size(); ++i) {
+        Move &move = m_d->moves[i];
+        move.isMoved = guard.get() == to && m_d->carryOut(move, found[i].get(), to);
+    }
+    m_d->wasMoved = m_d->wasMoved || !m_d->arrivals.isEmpty();
     m_d->completeSpears();
     m_d->selection.release();
 }

@@ -203,7 +203,10 @@ public:
 
     /** The snapshot. */
     QJsonObject objects() const;
-    /** Where the subjects stood when redo() came to them, in its order; -1 for one not found. */
+    /**
+     * Where the subjects stood when redo() came to them, in its order; -1 for one not found and for
+     * one below another of them, which goes with that one.
+     */
     QList<int> rows() const;
 
 private:
@@ -254,7 +257,8 @@ private:
  *
  * Without a target they go to the top level, as heads of new documents. A head that moves below a
  * subject leaves its document to the command; undo() brings the same document back. undo() puts
- * every subject back where it stood, with its pid.
+ * every subject back where it stood, with its pid. A subject below another one of the snapshot goes
+ * with that one.
  *
  * Spears move along. One whose subject leaves the drawing is deleted, and a bone gets the spears of
  * all its children when one moves in.
@@ -285,7 +289,10 @@ public:
     QString targetUuid() const;
     /** The row that the subjects move to. */
     int row() const;
-    /** Where the subjects stood when redo() came to them, in its order; -1 for one not found. */
+    /**
+     * Where the subjects stood when redo() came to them, in its order; -1 for one not found and for
+     * one below another of them, which goes with that one.
+     */
     QList<int> sourceRows() const;
 
 private:

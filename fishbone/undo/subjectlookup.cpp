@@ -48,6 +48,23 @@ TreeItem *ownNode(const FishModel &model, const SubjectKey &key)
     return node && endsWith(node, key.uuid) && isIn(model, node) ? node : nullptr;
 }
 
+/** Whether one of @p others is above @p subject. Nodes that have none above them go to @p free. */
+bool isBelowAny(const TreeItem *subject, const QSet<const TreeItem *> &others,
+                QSet<const TreeItem *> &free)
+{
+    QVector<const TreeItem *> path;
+    for (const TreeItem *above = subject->parent(); above; above = above->parent()) {
+        if (others.contains(above))
+            return true;
+        if (free.contains(above))
+            break;
+        path.append(above);
+    }
+    for (const TreeItem *above : qAsConst(path))
+        free.insert(above);
+    return false;
+}
+
 /** indexFromUuid() for a model that is known by its column of uuids only. */
 QModelIndex matchUuid(const QAbstractItemModel &model, const QString &uuid, int column)
 {
@@ -180,13 +197,40 @@ QVector<SubjectKey> snapshotKeys(const QJsonObject &objects, const QList<TreeIte
     return keys;
 }
 
-void nameSubjects(const FishModel &model, const QVector<SubjectKey> &keys)
+QVector<SubjectKey> resolveNames(const FishModel &model, const QVector<SubjectKey> &names)
+{
+    SubjectFinder finder(model, names);
+    QSet<const TreeItem *> taken;
+    QVector<SubjectKey> keys;
+    keys.reserve(names.size());
+    for (const SubjectKey &name : names) {
+        TreeItem *const subject = finder.findNamed(name, taken);
+        if (subject) {
+            taken.insert(subject);
+            ensureUuids(subject);
+        }
+        keys.append(subject ? keyFromItem(model, subject) : name);
+    }
+    return keys;
+}
+
+QVector<TreeItem *> findTopSubjects(const FishModel &model, const QVector<SubjectKey> &keys)
 {
     SubjectFinder finder(model, keys);
+    QSet<const TreeItem *> found;
+    QVector<TreeItem *> subjects;
+    subjects.reserve(keys.size());
     for (const SubjectKey &key : keys) {
-        if (TreeItem *const subject = finder.findNamed(key, {}))
-            ensureUuids(subject);
+        subjects.append(finder.find(key, found));
+        found.insert(subjects.constLast());
     }
+    found.remove(nullptr);
+    QSet<const TreeItem *> free; // with none of them above
+    for (TreeItem *&subject : subjects) {
+        if (subject && isBelowAny(subject, found, free))
+            subject = nullptr;
+    }
+    return subjects;
 }
 
 SubjectFinder::SubjectFinder(const FishModel &model, const QVector<SubjectKey> &keys)
@@ -255,9 +299,9 @@ TreeItem *SubjectFinder::pick(const SubjectKey &key, Match match,
     return nullptr;
 }
 
-TreeItem *SubjectFinder::find(const SubjectKey &key)
+TreeItem *SubjectFinder::find(const SubjectKey &key, const QSet<const TreeItem *> &except)
 {
-    return namesSubject(key.uuid) ? pick(key, Match::Exact, {}) : nullptr;
+    return namesSubject(key.uuid) ? pick(key, Match::Exact, except) : nullptr;
 }
 
 TreeItem *SubjectFinder::findNamed(const SubjectKey &key, const QSet<const TreeItem *> &except)
@@ -265,7 +309,7 @@ TreeItem *SubjectFinder::findNamed(const SubjectKey &key, const QSet<const TreeI
     if (!namesSubject(key.uuid))
         return nullptr;
     TreeItem *const exact = pick(key, Match::Exact, except);
-    return exact ? exact : pick(key, Match::Ending, except);
+    return exact || pick(key, Match::Exact, {}) ? exact : pick(key, Match::Ending, except);
 }
 
 void SubjectFinder::add(TreeItem *subject)

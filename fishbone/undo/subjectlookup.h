@@ -9,8 +9,8 @@
 #include <QString>
 #include <QVector>
 
+#include <fishbone/base/guardedpointer.h>
 #include <fishbone/model/fishinfo.h>
-#include <fishbone/model/guardedpointer.h>
 #include <fishbone/model/treeitem.h>
 
 class FishModel;
@@ -71,8 +71,18 @@ QVector<QJsonObject> snapshotSubjects(const QJsonObject &objects);
 /** Keys for the subjects of a snapshot, which are the first of \a subjects in their order. */
 QVector<SubjectKey> snapshotKeys(const QJsonObject &objects, const QList<TreeItem *> &subjects);
 
-/** Gives the subjects that @p keys name, and their parents, a uuid when they have none. */
-void nameSubjects(const FishModel &model, const QVector<SubjectKey> &keys);
+/**
+ * The keys of the subjects that @p names mean, in their order. A name is a uuid, or the end of one
+ * in any case when no subject has exactly that one; names that are alike mean different subjects,
+ * and one that means none stays as it is. The subjects, and their parents, get a uuid when they
+ * have none.
+ */
+QVector<SubjectKey> resolveNames(const FishModel &model, const QVector<SubjectKey> &names);
+/**
+ * The subjects that @p keys mean, in their order and each once. Null for one that is not there, and
+ * for one below another of them, which goes with that one.
+ */
+QVector<TreeItem *> findTopSubjects(const FishModel &model, const QVector<SubjectKey> &keys);
 
 /**
  * Finds many subjects in one walk over the nodes.
@@ -85,11 +95,14 @@ class SubjectFinder
 public:
     SubjectFinder(const FishModel &model, const QVector<SubjectKey> &keys);
 
-    /** The subject that @p key, one of those given, means; null when it is not in the model. */
-    TreeItem *find(const SubjectKey &key);
     /**
-     * As find(), for a name from outside: none of @p except, and failing all others one whose uuid
-     * only ends with it, in any case.
+     * The subject that @p key, one of those given, means, none of @p except; null when it is not in
+     * the model.
+     */
+    TreeItem *find(const SubjectKey &key, const QSet<const TreeItem *> &except = {});
+    /**
+     * As find(), for a name from outside: when no subject at all has that uuid, one whose uuid ends
+     * with it, in any case.
      */
     TreeItem *findNamed(const SubjectKey &key, const QSet<const TreeItem *> &except);
     /** Looks at @p subject and what is below it, which has come into its document. */

@@ -22,6 +22,9 @@ private Q_SLOTS:
     void shouldLookElsewhereWhenTheDocumentHasNoSuchSubject();
     void shouldTellShortUuidsApart();
     void shouldTakeAnEndingForAUuid();
+    void shouldTakeNoEndingForASubjectThatIsGone();
+    void shouldTakeNoEndingThatComesLater();
+    void shouldTakeTheUpperOneOfNestedSubjects();
     void shouldGiveAParentWithoutUuidOne();
     void shouldDeleteTheSpearsOfTheSubtree();
     void shouldPutBackTheSpearsOfTheSubtree();
@@ -93,6 +96,44 @@ void TestDeleteCommandLookup::shouldTakeAnEndingForAUuid()
                              {QStringLiteral("pid"), QStringLiteral("u-H")}};
     QCOMPARE(f.roundTripFault(new EditDelete(f.model.get(), ending)), QString());
     QCOMPARE(f.text(), QStringLiteral("H[A,C]"));
+}
+
+void TestDeleteCommandLookup::shouldTakeNoEndingForASubjectThatIsGone()
+{
+    CommandFixture f(QStringLiteral("H[A,B,C]"));
+    f.node("A")->setUuid(QStringLiteral("x-42"));
+    f.node("B")->setUuid(QStringLiteral("42"));
+    const QJsonObject snapshot = f.snapshot({QStringLiteral("B")});
+    auto *const command = new EditDelete(f.model.get(), snapshot);
+    QVERIFY(f.model->removeRows(1, 1, f.index("H")));
+    QCOMPARE(f.roundTripFault(command), QString());
+    QCOMPARE(f.text(), QStringLiteral("H[A,C]"));
+    QCOMPARE(command->rows(), QList<int>{-1});
+}
+
+void TestDeleteCommandLookup::shouldTakeNoEndingThatComesLater()
+{
+    CommandFixture f(QStringLiteral("H[A,B]"));
+    const QJsonObject ending{{QStringLiteral("uuid"), QStringLiteral("x42")}};
+    auto *const command = new EditDelete(f.model.get(), ending);
+    f.node("A")->setUuid(QStringLiteral("first-x42"));
+    QCOMPARE(f.roundTripFault(command), QString());
+    QCOMPARE(f.text(), QStringLiteral("H[A,B]"));
+}
+
+void TestDeleteCommandLookup::shouldTakeTheUpperOneOfNestedSubjects()
+{
+    CommandFixture f(QStringLiteral("H[A[a],B[b]]"));
+    f.draw();
+    f.node("b")->setUuid(QStringLiteral("u-a")); // a copy of what goes with A
+    const QJsonObject upperFirst = f.snapshot({QStringLiteral("A"), QStringLiteral("a")});
+    const QJsonObject lowerFirst = f.snapshot({QStringLiteral("a"), QStringLiteral("A")});
+    for (const QJsonObject &snapshot : {upperFirst, lowerFirst}) {
+        QCOMPARE(f.roundTripFault(new EditDelete(f.model.get(), snapshot)), QString());
+        QCOMPARE(f.text(), QStringLiteral("H[B[b]]"));
+        f.stack->undo();
+        QCOMPARE(f.text(), QStringLiteral("H[A[a],B[b]]"));
+    }
 }
 
 void TestDeleteCommandLookup::shouldGiveAParentWithoutUuidOne()

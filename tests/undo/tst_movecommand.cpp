@@ -38,6 +38,8 @@ private Q_SLOTS:
     void shouldStayInTheDocumentOfTheTarget();
     void shouldLookFirstInTheDocumentItIsGiven();
     void shouldTakeAnEndingForAUuid();
+    void shouldTakeNoEndingForASubjectThatIsGone();
+    void shouldMoveTheUpperOneOfNestedSubjects();
 
     void shouldKeepTheDocumentOfAHeadThatMovesBelow();
     void shouldDeleteTheDocumentItStillHolds();
@@ -80,8 +82,8 @@ void TestMoveCommand::shouldMoveAndPutBack_data()
     row("two backwards", "H[A,B,C,D]", "A,B", "H", 4, "H[C,D,A,B]");
     row("two forwards", "H[A,B,C,D]", "C,D", "H", 0, "H[D,C,A,B]");
     row("two around the row", "H[A,B,C,D]", "A,D", "H", 2, "H[B,A,D,C]");
-    row("from different parents", "H[A[a,b],B[c,d],T]", "a,d,B", "T", 0, "H[A[b],T[B[c],d,a]]");
-    row("a parent and its child", "H[A[a],T]", "A,a", "T", 0, "H[T[a,A]]");
+    row("from different parents", "H[A[a,b],B[c,d],T]", "a,d,B", "T", 0, "H[A[b],T[B[c,d],a]]");
+    row("a parent and its child", "H[A[a],T]", "A,a", "T", 0, "H[T[A[a]]]");
     row("one into the other", "H[A,B,T]", "A,T", "B", 0, "H[B[T,A]]");
     row("into another document", "H[A[a],B];G[C]", "A", "C", 0, "H[B];G[C[A[a]]]");
     row("into the document before", "H[A];G[C[c],D]", "C", "H", 0, "H[C[c],A];G[D]");
@@ -376,6 +378,35 @@ void TestMoveCommand::shouldTakeAnEndingForAUuid()
                              {QStringLiteral("pid"), QStringLiteral("u-H")}};
     QCOMPARE(f.roundTripFault(new EditMove(f.model.get(), f.index("T"), 0, ending)), QString());
     QCOMPARE(f.text(), QStringLiteral("H[B,T[A]]"));
+}
+
+void TestMoveCommand::shouldTakeNoEndingForASubjectThatIsGone()
+{
+    CommandFixture f(QStringLiteral("H[A,B,T]"));
+    f.node("A")->setUuid(QStringLiteral("x-42"));
+    f.node("B")->setUuid(QStringLiteral("42"));
+    const QJsonObject snapshot = f.snapshot({QStringLiteral("B")});
+    auto *const command = new EditMove(f.model.get(), f.index("T"), 0, snapshot);
+    QVERIFY(f.model->removeRows(1, 1, f.index("H")));
+    QCOMPARE(f.roundTripFault(command), QString());
+    QCOMPARE(f.text(), QStringLiteral("H[A,T]"));
+    QCOMPARE(command->sourceRows(), QList<int>{-1});
+}
+
+void TestMoveCommand::shouldMoveTheUpperOneOfNestedSubjects()
+{
+    CommandFixture f(QStringLiteral("H[A[a],B[b],T]"));
+    f.draw();
+    f.node("b")->setUuid(QStringLiteral("u-a")); // a copy of what goes with A
+    const QJsonObject upperFirst = f.snapshot({QStringLiteral("A"), QStringLiteral("a")});
+    const QJsonObject lowerFirst = f.snapshot({QStringLiteral("a"), QStringLiteral("A")});
+    for (const QJsonObject &snapshot : {upperFirst, lowerFirst}) {
+        auto *const command = new EditMove(f.model.get(), f.index("T"), 0, snapshot);
+        QCOMPARE(f.roundTripFault(command), QString());
+        QCOMPARE(f.text(), QStringLiteral("H[B[b],T[A[a]]]"));
+        f.stack->undo();
+        QCOMPARE(f.text(), QStringLiteral("H[A[a],B[b],T]"));
+    }
 }
 
 void TestMoveCommand::shouldKeepTheDocumentOfAHeadThatMovesBelow()

@@ -60,6 +60,9 @@ private Q_SLOTS:
 
     void shouldFindManyAsOne();
     void shouldLeaveOutWhatIsExcepted();
+    void shouldSettleWhichSubjectsNamesMean();
+    void shouldFindTheUpperOnesOfNestedSubjects_data();
+    void shouldFindTheUpperOnesOfNestedSubjects();
     void shouldLeaveOutWhatHasLeftTheModel();
     void shouldFindWhatHasComeBack();
 
@@ -372,8 +375,60 @@ void TestSubjectLookup::shouldLeaveOutWhatIsExcepted()
     SubjectFinder finder(*f.model, {key});
     QCOMPARE(finder.findNamed(key, {}), f.node("A"));
     QCOMPARE(finder.findNamed(key, {f.node("A")}), f.node("B"));
-    QCOMPARE(finder.findNamed(key, {f.node("A"), f.node("B")}), f.node("C"));
-    QVERIFY(!finder.findNamed(key, {f.node("A"), f.node("B"), f.node("C")}));
+    QVERIFY(!finder.findNamed(key, {f.node("A"), f.node("B")})); // C only ends with it
+}
+
+void TestSubjectLookup::shouldSettleWhichSubjectsNamesMean()
+{
+    CommandFixture f(QStringLiteral("H[A,B,C,D]"));
+    f.node("B")->setUuid(QStringLiteral("u-A"));
+    f.node("C")->setUuid(QStringLiteral("xu-a"));
+    f.node("D")->setUuid(QStringLiteral("first-tail"));
+    const QString uuid = QStringLiteral("u-A");
+    const QVector<SubjectKey> keys =
+        resolveNames(*f.model, {{uuid, nullptr, nullptr},
+                                {uuid, nullptr, nullptr},
+                                {uuid, nullptr, nullptr},
+                                {QStringLiteral("TAIL"), nullptr, nullptr}});
+    QCOMPARE(keys.size(), 4);
+    QCOMPARE(keys[0].node.get(), f.node("A"));
+    QCOMPARE(keys[1].node.get(), f.node("B"));
+    QVERIFY(!keys[2].node.get());
+    QCOMPARE(keys[3].node.get(), f.node("D"));
+    QCOMPARE(keys[3].uuid, QStringLiteral("first-tail"));
+    QCOMPARE(findTopSubjects(*f.model, keys),
+             QVector<TreeItem *>({f.node("A"), f.node("B"), nullptr, f.node("D")}));
+}
+
+void TestSubjectLookup::shouldFindTheUpperOnesOfNestedSubjects_data()
+{
+    QTest::addColumn<QStringList>("titles");
+    QTest::addColumn<QStringList>("tops");
+    const auto row = [](const char *name, const char *titles, const char *tops) {
+        QTest::newRow(name) << QString::fromLatin1(titles).split(QLatin1Char(' '))
+                            << QString::fromLatin1(tops).split(QLatin1Char(' '));
+    };
+    row("apart", "A B", "A B");
+    row("upper first", "A x", "A -");
+    row("lower first", "x A", "- A");
+    row("chain", "a A x B", "- A - B");
+    row("head", "B H x", "- H -");
+    row("twice", "A A", "A -");
+}
+
+void TestSubjectLookup::shouldFindTheUpperOnesOfNestedSubjects()
+{
+    QFETCH(QStringList, titles);
+    QFETCH(QStringList, tops);
+    CommandFixture f(QStringLiteral("H[A[a[x]],B];G[x]"));
+    QVector<SubjectKey> keys;
+    for (const QString &title : qAsConst(titles))
+        keys.append(keyFromItem(*f.model, nodeTitled(*f.model, title)));
+    QStringList found;
+    const QVector<TreeItem *> subjects = findTopSubjects(*f.model, keys);
+    for (const TreeItem *subject : subjects)
+        found.append(subject ? subject->title() : QStringLiteral("-"));
+    QCOMPARE(found, tops);
 }
 
 void TestSubjectLookup::shouldLeaveOutWhatHasLeftTheModel()
