@@ -3,59 +3,30 @@
 
 #include <fishbone/model/fishproxymodel.h>
 
-#include <fishbone/model/subtreematches.h>
+#include <fishbone/model/filteranswers.h>
 
-#include <QRegularExpression>
 #include <QVector>
 
-/** What is known about the source's rows, and under which filter it was found out. */
+#include <algorithm>
+
+/** What is known about the source's rows, and what is listened to. */
 struct FishProxyModel::Memo
 {
     explicit Memo(const FishProxyModel &proxy)
-        : matches([&proxy](int row, const QModelIndex &parent) {
-            return proxy.QSortFilterProxyModel::filterAcceptsRow(row, parent);
-        })
+        : answers(
+              [&proxy](int row, const QModelIndex &parent) {
+                  return proxy.QSortFilterProxyModel::filterAcceptsRow(row, parent);
+              },
+              [&proxy](int row, const QModelIndex &parent) {
+                  return proxy.filterAcceptsRow(row, parent);
+              })
     {
     }
 
-    /** Forgets everything when the filter is another one than before. */
-    void follow(const FishProxyModel &proxy);
-
-    SubtreeMatches matches;
-    bool ancestorsChanged = false; ///< since the base class was last told to filter again
-    bool mappingCleared = false;   ///< by the base class, since the last move of source rows
+    FilterAnswers answers;
+    bool mappingCleared = false; ///< by the base class, since the last move of source rows
     QVector<QMetaObject::Connection> connections;
-
-private:
-    QRegularExpression m_expression;
-#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
-    QRegExp m_pattern; // the other kind of filter that Qt 5 has
-#endif
-    Qt::CaseSensitivity m_caseSensitivity = Qt::CaseSensitive;
-    int m_column = 0;
-    int m_role = Qt::DisplayRole;
 };
-
-void FishProxyModel::Memo::follow(const FishProxyModel &proxy)
-{
-    // Qt has no signal for a new filter, but asks about rows as soon as there is one.
-    bool same = m_column == proxy.filterKeyColumn() && m_role == proxy.filterRole() &&
-                m_caseSensitivity == proxy.filterCaseSensitivity() &&
-                m_expression == proxy.filterRegularExpression();
-#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
-    same = same && m_pattern == proxy.filterRegExp();
-#endif
-    if (same)
-        return;
-    matches.clear();
-    m_column = proxy.filterKeyColumn();
-    m_role = proxy.filterRole();
-    m_caseSensitivity = proxy.filterCaseSensitivity();
-    m_expression = proxy.filterRegularExpression();
-#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
-    m_pattern = proxy.filterRegExp();
-#endif
-}
 
 FishProxyModel::FishProxyModel(QObject *parent)
     : QSortFilterProxyModel(parent)
@@ -67,7 +38,7 @@ FishProxyModel::FishProxyModel(QObject *parent)
             [this](const QList<QPersistentModelIndex> &, LayoutChangeHint hint) {
                 if (hint != NoLayoutChangeHint)
                     return;
-                m_memo->matches.clear();
+                m_memo->answers.clear();
                 m_memo->mappingCleared = true;
             });
 }
@@ -79,7 +50,7 @@ void FishProxyModel::setSourceModel(QAbstractItemModel *sourceModel)
     for (const QMetaObject::Connection &connection : std::as_const(m_memo->connections))
         disconnect(connection);
     m_memo->connections.clear();
-    m_memo->matches.setSource(sourceModel);
+    m_memo->answers.setSource(sourceModel);
     if (sourceModel)
         listenBefore(*sourceModel);
     QSortFilterProxyModel::setSourceModel(sourceModel);
@@ -91,77 +62,114 @@ void FishProxyModel::setSourceModel(QAbstractItemModel *sourceModel)
 void FishProxyModel::listenBefore(const QAbstractItemModel &source)
 {
     using Model = QAbstractItemModel;
-    using Index = QModelIndex;
-    SubtreeMatches &matches = m_memo->matches;
-    bool &changed = m_memo->ancestorsChanged;
-    const auto forget = [&matches, &changed] {
-        matches.clear();
-        changed = true;
+    const auto listen = [this, &source](auto signal) {
+        m_memo->connections.append(
+            connect(&source, signal, this, [this] { m_memo->answers.clear(); }));
     };
-    const auto listen = [this, &source](auto signal, auto slot) {
-        m_memo->connections.append(connect(&source, signal, this, slot));
-    };
-    listen(&Model::dataChanged, [&matches, &changed](const Index &first, const Index &last) {
-        changed |= matches.rowsChanged(first.parent(), first.row(), last.row());
-    });
-    listen(&Model::rowsInserted, [&matches, &changed](const Index &parent, int first, int last) {
-        changed |= matches.rowsInserted(parent, first, last);
-    });
-    listen(&Model::rowsAboutToBeRemoved, [&matches](const Index &parent, int first, int last) {
-        matches.rowsGoing(parent, first, last);
-    });
-    listen(&Model::rowsRemoved,
-           [&matches, &changed](const Index &parent) { changed |= matches.rowsGone(parent); });
-    listen(&Model::rowsAboutToBeMoved, [this] { m_memo->mappingCleared = false; });
-    // The base class, or else listenAfter(), drops the rows with it.
-    listen(&Model::rowsMoved, [&matches] { matches.clear(); });
-    listen(&Model::columnsInserted, forget);
-    listen(&Model::columnsRemoved, forget);
-    listen(&Model::columnsMoved, forget);
-    listen(&Model::layoutChanged, forget);
-    listen(&Model::modelReset, forget);
+    listen(&Model::dataChanged);
+    listen(&Model::rowsInserted);
+    listen(&Model::rowsAboutToBeRemoved);
+    listen(&Model::rowsRemoved);
+    listen(&Model::rowsMoved);
+    listen(&Model::columnsInserted);
+    listen(&Model::columnsRemoved);
+    listen(&Model::columnsMoved);
+    listen(&Model::layoutChanged);
+    listen(&Model::modelReset);
+    m_memo->connections.append(connect(&source, &Model::rowsAboutToBeMoved, this,
+                                       [this] { m_memo->mappingCleared = false; }));
 }
 
 /** Connects what brings the ancestors of a change in step once the base class is done with it. */
 void FishProxyModel::listenAfter(const QAbstractItemModel &source)
 {
     using Model = QAbstractItemModel;
+    using Index = QModelIndex;
+    const auto listen = [this, &source](auto signal, auto slot) {
+        m_memo->connections.append(connect(&source, signal, this, slot));
+    };
     // The base class skips moves between parents that are filtered out, but keeps what it knows of
     // their rows, which is wrong then.
-    m_memo->connections.append(connect(&source, &Model::rowsMoved, this, [this] {
+    listen(&Model::rowsMoved, [this] {
         if (!m_memo->mappingCleared)
             invalidate();
-    }));
+    });
+    listen(&Model::dataChanged, [this](const Index &first, const Index &last) {
+        followRows(first.parent(), first.row(), last.row(), true);
+    });
+    listen(&Model::rowsInserted, [this](const Index &parent, int first, int last) {
+        followRows(parent, first, last, false);
+    });
+    listen(&Model::rowsRemoved, [this](const Index &parent) { followRows(parent, 0, -1, true); });
     const auto refilter = [this] {
-        if (std::exchange(m_memo->ancestorsChanged, false) && dynamicSortFilter())
+        if (dynamicSortFilter())
             QSortFilterProxyModel::invalidateFilter();
     };
-    const auto listen = [this, &source, refilter](auto signal) {
-        m_memo->connections.append(connect(&source, signal, this, refilter));
-    };
-    listen(&Model::dataChanged);
-    listen(&Model::rowsInserted);
-    listen(&Model::rowsRemoved);
-    listen(&Model::columnsInserted);
-    listen(&Model::columnsRemoved);
-    listen(&Model::columnsMoved);
-    listen(&Model::layoutChanged);
-    listen(&Model::modelReset);
+    listen(&Model::columnsInserted, refilter);
+    listen(&Model::columnsRemoved, refilter);
+    listen(&Model::columnsMoved, refilter);
+    listen(&Model::layoutChanged, refilter);
+    listen(&Model::modelReset, refilter);
+}
+
+/**
+ * Filters again when the ancestors of rows that came or changed, or of rows that are gone, would
+ * not be shown as they are. @p mayHaveGone says whether an accepted row may be none any more.
+ */
+void FishProxyModel::followRows(const QModelIndex &parent, int first, int last, bool mayHaveGone)
+{
+    if (!dynamicSortFilter() || !parent.isValid() || !parent.parent().isValid())
+        return; // what is at the top is always shown
+    bool isAnyAccepted = false;
+    for (int row = first; row <= last && !isAnyAccepted; ++row)
+        isAnyAccepted = filterAcceptsRow(row, parent);
+    if (!isAnyAccepted && !mayHaveGone)
+        return;
+    const QModelIndex shown = shownIndex(parent);
+    const bool isInStep = isAnyAccepted ? shown.isValid()
+                                        : !shown.isValid() || rowCount(shown) > 0 ||
+                                              filterAcceptsRow(parent.row(), parent.parent());
+    if (!isInStep)
+        QSortFilterProxyModel::invalidateFilter();
+}
+
+/** As mapFromSource(), but asks about nothing below a row that is not shown. */
+QModelIndex FishProxyModel::shownIndex(const QModelIndex &sourceIndex) const
+{
+    QVector<QModelIndex> path;
+    for (QModelIndex index = sourceIndex; index.isValid(); index = index.parent())
+        path.append(index);
+    QModelIndex shown;
+    for (auto index = path.crbegin(); index != path.crend(); ++index) {
+        shown = mapFromSource(*index);
+        if (!shown.isValid())
+            break;
+    }
+    return shown;
 }
 
 bool FishProxyModel::filterAcceptsRow(int sourceRow, const QModelIndex &sourceParent) const
 {
-    if (!sourceModel() || !sourceParent.isValid() || !sourceParent.internalPointer())
+    FilterAnswers &answers = m_memo->answers;
+    if (!sourceParent.isValid()) {
+        // Nothing tells that there is another filter, but whoever changes it, or drops what is
+        // known, makes the base class ask about the top first.
+        answers.clear();
+        return true;
+    }
+    if (!sourceModel() || !sourceParent.internalPointer())
         return true;
     const QModelIndex index = sourceModel()->index(sourceRow, 0, sourceParent);
     if (!index.isValid())
         return true;
-    m_memo->follow(*this);
-    return m_memo->matches.contains(index);
+    if (answers.isEmpty())
+        rowCount(); // makes the base class know the top, and so ask about it
+    answers.followSilentChanges();
+    return answers.rule(index) || answers.below(index);
 }
 
 void FishProxyModel::invalidateFilter()
 {
-    m_memo->matches.clear();
+    m_memo->answers.clear();
     QSortFilterProxyModel::invalidateFilter();
 }

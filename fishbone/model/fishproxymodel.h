@@ -13,8 +13,13 @@
  * Shows the rows that the filter accepts, all their ancestors, and every top-level row.
  *
  * What a subtree holds is found out once for each filter: every row is asked a bounded number of
- * times however the rows nest, without recursion. Rows that appear, go, move or change their data
- * bring their ancestors in step at once, unless dynamicSortFilter is off.
+ * times however the rows nest, without recursion. A subclass may override filterAcceptsRow(), which
+ * is also what is asked about descendants. Nothing is remembered beyond a change of the filter, be
+ * it to the same one again, invalidate(), an announced change of the source and
+ * FishModel::updateItem().
+ *
+ * Rows that appear, go, move or change their data bring their ancestors in step at once, unless
+ * dynamicSortFilter is off.
  *
  * The filter looks as far down as the source goes, so the source must be complete: rows that are
  * fetched later count when they arrive.
@@ -45,6 +50,8 @@ private:
 
     void listenBefore(const QAbstractItemModel &source);
     void listenAfter(const QAbstractItemModel &source);
+    void followRows(const QModelIndex &parent, int first, int last, bool mayHaveGone);
+    QModelIndex shownIndex(const QModelIndex &sourceIndex) const;
 
     std::unique_ptr<Memo> m_memo;
 };
