@@ -18,13 +18,17 @@ QJsonObject read(const QString &path)
     return QJsonDocument::fromJson(file.readAll()).object();
 }
 
-bool write(const QString &path, const QJsonObject &object)
+bool write(const QString &path, const QJsonObject &object, Readers readers)
 {
     QSaveFile file(path);
     const QByteArray text = QJsonDocument(object).toJson();
+    const auto restrict = [&file, readers] {
+        return readers == Readers::Anybody ||
+               file.setPermissions(QFile::ReadOwner | QFile::WriteOwner);
+    };
     // What stays in the buffer until the commit could fail without a report.
-    return file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.flush() &&
-           file.commit();
+    return file.open(QIODevice::WriteOnly) &&restrict() && file.write(text) == text.size() &&
+           file.flush() && file.commit();
 }
 
 } // namespace JsonFile

@@ -12,7 +12,10 @@ namespace JsonFile {
 /** The object in the file at @p path; empty when there is none. */
 QJsonObject read(const QString &path);
 
+/** Who may read a file. */
+enum class Readers { Anybody, Owner };
+
 /** Writes @p object, whole or not at all; false when the file cannot be written. */
-bool write(const QString &path, const QJsonObject &object);
+bool write(const QString &path, const QJsonObject &object, Readers readers = Readers::Anybody);
 
 } // namespace JsonFile

@@ -41,7 +41,7 @@ void LinkOpener::open(const QUrl &url)
         QMessageBox question(QMessageBox::Question, tr("Open link"),
                              tr("This link is neither a web page nor a mail address. Open it?"),
                              QMessageBox::Open | QMessageBox::Cancel, m_window);
-        question.setInformativeText(target.toDisplayString().toHtmlEscaped());
+        question.setInformativeText(target.toDisplayString());
         question.setDefaultButton(QMessageBox::Cancel);
         if (question.exec() != QMessageBox::Open)
             return;

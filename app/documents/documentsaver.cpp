@@ -4,6 +4,7 @@
 #include <app/documents/documentsaver.h>
 
 #include <app/common/busycursor.h>
+#include <app/common/plainbox.h>
 #include <app/diagram/diagramsession.h>
 #include <app/documents/documenttab.h>
 #include <app/documents/fileconflict.h>
@@ -47,9 +48,9 @@ bool DocumentSaver::mayOverwrite(DocumentTab *tab)
     const QString question =
         tr("Another program has changed %1 since it was opened or saved here. Replace it, so that "
            "those changes are lost?");
-    return QMessageBox::warning(m_window, tr("Save"), question.arg(tab->name().toHtmlEscaped()),
-                                QMessageBox::Save | QMessageBox::Cancel,
-                                QMessageBox::Cancel) == QMessageBox::Save &&
+    return PlainBox::warning(m_window, tr("Save"), question.arg(tab->name()),
+                             QMessageBox::Save | QMessageBox::Cancel,
+                             QMessageBox::Cancel) == QMessageBox::Save &&
            alive;
 }
 
@@ -61,10 +62,10 @@ QString DocumentSaver::chosenFile(DocumentTab *tab, const QString &title) const
     const QString path = QFileDialog::getSaveFileName(m_window, title, proposed, documentFilter());
     if (path.isEmpty() || !DocumentLoader::foreignFormat(path))
         return path;
-    QMessageBox::warning(m_window, tr("Save"),
-                         tr("%1 would not be recognized as a diagram. Its name should end in "
-                            ".json; \"Export as\" writes other formats.")
-                             .arg(path.toHtmlEscaped()));
+    PlainBox::warning(m_window, tr("Save"),
+                      tr("%1 would not be recognized as a diagram. Its name should end in "
+                         ".json; \"Export as\" writes other formats.")
+                          .arg(path));
     return QString();
 }
 
@@ -99,10 +100,8 @@ bool DocumentSaver::write(DocumentTab *tab, const QString &path)
     tab->takeTyped();
     if (saved(*tab->document(), path))
         return true;
-    QMessageBox::warning(
-        m_window, tr("Save"),
-        tr("%1 cannot be written: %2.")
-            .arg(path.toHtmlEscaped(), tab->document()->saveError().toHtmlEscaped()));
+    PlainBox::warning(m_window, tr("Save"),
+                      tr("%1 cannot be written: %2.").arg(path, tab->document()->saveError()));
     return false;
 }
 

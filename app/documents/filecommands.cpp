@@ -5,6 +5,7 @@
 
 #include <app/common/actionset.h>
 #include <app/common/busycursor.h>
+#include <app/common/plainbox.h>
 #include <app/diagram/diagramsession.h>
 #include <app/documents/documentsaver.h>
 #include <app/documents/documenttab.h>
@@ -349,10 +350,8 @@ void FileCommands::revert(DocumentTab *tab)
     const QPointer<DocumentTab> alive(tab); // the question runs an event loop
     const QString path = tab->path();
     if (tab->document()->modified() &&
-        QMessageBox::question(
-            m_window, tr("Revert"),
-            tr("Give up all changes of %1 since it was saved?").arg(tab->name().toHtmlEscaped())) !=
-            QMessageBox::Yes)
+        !PlainBox::ask(m_window, tr("Revert"),
+                       tr("Give up all changes of %1 since it was saved?").arg(tab->name())))
         return;
     if (!alive)
         return;

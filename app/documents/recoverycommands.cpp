@@ -4,6 +4,7 @@
 #include <app/documents/recoverycommands.h>
 
 #include <app/common/actionset.h>
+#include <app/common/plainbox.h>
 #include <app/documents/documenttab.h>
 #include <app/documents/documenttabs.h>
 #include <app/files/documentloader.h>
@@ -16,7 +17,6 @@
 #include <fishbone/model/treeitem.h>
 
 #include <QFileInfo>
-#include <QMessageBox>
 
 RecoveryCommands::RecoveryCommands(DocumentTabs *tabs, ActionSet *actions, QWidget *window)
     : QObject(window)
@@ -77,10 +77,9 @@ FishInfo *RecoveryCommands::load(const LeftCopy &copy)
                                    ? DocumentLoader::reasonOf(copy.copy)
                                    : DocumentLoader::tr("it holds no diagram");
         m_arrivals->unloadFish(m_arrivals->fishList().value(0));
-        QMessageBox::warning(
+        PlainBox::warning(
             m_window, tr("Recover documents"),
-            tr("%1 cannot be recovered from %2: %3.")
-                .arg(copy.name.toHtmlEscaped(), copy.copy.toHtmlEscaped(), reason.toHtmlEscaped()));
+            tr("%1 cannot be recovered from %2: %3.").arg(copy.name, copy.copy, reason));
         return nullptr;
     }
     FishInfo *const document = m_arrivals->fishList().constLast();

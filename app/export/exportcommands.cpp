@@ -6,6 +6,7 @@
 #include <app/common/actionset.h>
 #include <app/common/busycursor.h>
 #include <app/common/canvastheme.h>
+#include <app/common/plainbox.h>
 #include <app/common/selectionhidden.h>
 #include <app/common/workprogress.h>
 #include <app/diagram/diagramsession.h>
@@ -25,7 +26,6 @@
 #include <QAction>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QMessageBox>
 #include <QWidget>
 
 #include <optional>
@@ -119,9 +119,8 @@ void ExportCommands::exportPicture()
                                   : tr("%1 was not written").arg(dialog.fileName()));
             return;
         }
-        QMessageBox::warning(
-            m_window, tr("Export picture"),
-            tr("%1 cannot be written: %2.").arg(dialog.fileName().toHtmlEscaped(), result.reason));
+        PlainBox::warning(m_window, tr("Export picture"),
+                          tr("%1 cannot be written: %2.").arg(dialog.fileName(), result.reason));
     }
 }
 
@@ -211,9 +210,7 @@ void ExportCommands::exportAs()
         Q_EMIT message(tr("%1 written").arg(path) + lossesOf(*document, path));
         return;
     }
-    QMessageBox::warning(
-        m_window, tr("Export as"),
-        tr("%1 cannot be written: %2.").arg(path.toHtmlEscaped(), reason.toHtmlEscaped()));
+    PlainBox::warning(m_window, tr("Export as"), tr("%1 cannot be written: %2.").arg(path, reason));
 }
 
 /** The title of what is shown: of the document, or of the subject shown as a diagram of its own. */

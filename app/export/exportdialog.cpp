@@ -3,6 +3,7 @@
 
 #include <app/export/exportdialog.h>
 
+#include <app/common/plainbox.h>
 #include <app/diagram/expansion.h>
 #include <app/export/picturesizefields.h>
 
@@ -15,7 +16,6 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMessageBox>
 #include <QPushButton>
 #include <QSettings>
 #include <QSpinBox>
@@ -258,14 +258,12 @@ void ExportDialog::accept()
     if (m_measuring.isActive())
         measure();
     if (const QString text = objection(); !text.isEmpty()) {
-        QMessageBox::warning(this, windowTitle(), text);
+        PlainBox::warning(this, windowTitle(), text);
         return;
     }
     if (QFileInfo::exists(fileName()) &&
-        QMessageBox::question(this, windowTitle(),
-                              tr("%1 exists already. Replace it?")
-                                  .arg(QFileInfo(fileName()).fileName().toHtmlEscaped())) !=
-            QMessageBox::Yes)
+        !PlainBox::ask(this, windowTitle(),
+                       tr("%1 exists already. Replace it?").arg(QFileInfo(fileName()).fileName())))
         return;
     remember();
     QDialog::accept();

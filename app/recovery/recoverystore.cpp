@@ -98,7 +98,8 @@ QString lockOf(const QString &copy)
 
 bool writeNote(const QString &copy, const QString &original, const QString &name)
 {
-    return JsonFile::write(noteOf(copy), {{fileKey(), original}, {nameKey(), name}});
+    return JsonFile::write(noteOf(copy), {{fileKey(), original}, {nameKey(), name}},
+                           JsonFile::Readers::Owner);
 }
 
 void remove(const QString &copy)

@@ -3,8 +3,9 @@
 
 #include <fishbone/dialogs/replacefinddialog.h>
 
-#include <fishbone/dialogs/dialogtexts.h>
-#include <fishbone/dialogs/warningbox.h>
+#include <fishbone/base/dialogtexts.h>
+#include <fishbone/base/literaltext.h>
+#include <fishbone/base/warningbox.h>
 
 #include <QAbstractItemModel>
 #include <QCheckBox>
@@ -14,17 +15,8 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QTextDocument>
 
-namespace {
-
-/// The text as a message box shows it letter by letter, also when it looks like markup.
-QString literal(const QString &text)
-{
-    return Qt::mightBeRichText(text) ? text.toHtmlEscaped() : text;
-}
-
-} // namespace
+#include <vector>
 
 ReplaceFindDialog::ReplaceFindDialog(QWidget *parent)
     : QDialog(parent)
@@ -161,14 +153,43 @@ void ReplaceFindDialog::find()
         m_lastCaseSensitive = caseSensitive;
         m_lastText = text;
         m_column = m_columns->currentIndex();
-        Qt::MatchFlags flags = m_matchFlags;
-        flags.setFlag(Qt::MatchCaseSensitive, caseSensitive);
-        const QModelIndexList found =
-            m_model->match(m_model->index(0, m_column), Qt::DisplayRole, text, -1, flags);
-        m_matches = QList<QPersistentModelIndex>(found.cbegin(), found.cend());
+        m_matches = search(text, caseSensitive ? Qt::CaseSensitive : Qt::CaseInsensitive);
     }
     if (m_matches.isEmpty())
-        showWarning(tr("Finder"), literal(tr("Not found key word %1.").arg(text)), this);
+        showWarning(tr("Finder"), literalText(tr("Not found key word %1.").arg(text)), this);
+}
+
+/** All rows that match, parents before children. A document without a head has no index. */
+QList<QPersistentModelIndex> ReplaceFindDialog::search(const QString &text,
+                                                       Qt::CaseSensitivity sensitivity) const
+{
+    struct Step
+    {
+        QModelIndex parent;
+        int next;
+        int rows;
+    };
+    QList<QPersistentModelIndex> found;
+    std::vector<Step> path{{QModelIndex(), 0, m_model->rowCount()}};
+    while (!path.empty()) {
+        Step &step = path.back();
+        if (step.next == step.rows) {
+            path.pop_back();
+            continue;
+        }
+        const int row = step.next++;
+        const QModelIndex first = m_model->index(row, 0, step.parent);
+        const QModelIndex index = m_model->index(row, m_column, step.parent);
+        const QString shown = index.data(Qt::DisplayRole).toString();
+        const bool isHit = m_matchFlags.testFlag(Qt::MatchEndsWith)
+                               ? shown.endsWith(text, sensitivity)
+                               : shown.contains(text, sensitivity);
+        if (index.isValid() && isHit)
+            found.append(index);
+        if (const int rows = first.isValid() ? m_model->rowCount(first) : 0)
+            path.push_back({first, 0, rows});
+    }
+    return found;
 }
 
 void ReplaceFindDialog::replace()

@@ -73,6 +73,7 @@ private:
     void showTexts();
     void buildLayout();
     void connectControls(QPushButton *find);
+    QList<QPersistentModelIndex> search(const QString &text, Qt::CaseSensitivity sensitivity) const;
     bool eventFilter(QObject *watched, QEvent *event) override;
 
     QPointer<QAbstractItemModel> m_model;

@@ -3,10 +3,11 @@
 
 #include <fishbone/dialogs/urldialog.h>
 
-#include <fishbone/dialogs/followlanguage.h>
-#include <fishbone/dialogs/modalanswer.h>
-#include <fishbone/dialogs/warningbox.h>
-#include <fishbone/model/filereplacement.h>
+#include <fishbone/base/filereplacement.h>
+#include <fishbone/base/followlanguage.h>
+#include <fishbone/base/literaltext.h>
+#include <fishbone/base/modalanswer.h>
+#include <fishbone/base/warningbox.h>
 
 #include <QComboBox>
 #include <QCompleter>
@@ -66,6 +67,7 @@ URLDialog::URLDialog(const QString &title, const QString &fileName, QWidget *par
     , m_fileName(fileName.isEmpty() ? QStringLiteral("moraine2.urllist") : fileName)
     , m_urls(new QComboBox(this))
 {
+    setModal(true);
     followLanguage(this,
                    [this, title] { setWindowTitle(title.isEmpty() ? tr("Input Url") : title); });
 
@@ -162,7 +164,8 @@ void URLDialog::saveUrl()
 {
     const QString failure = replaceContent(m_fileName, textFromUrls(m_urls));
     if (!failure.isEmpty())
-        showWarning(tr("Error"), tr("Failed to open %1\n%2").arg(m_fileName, failure), this);
+        showWarning(tr("Error"), literalText(tr("Failed to open %1\n%2").arg(m_fileName, failure)),
+                    this);
 }
 
 void URLDialog::clean()

@@ -3,12 +3,12 @@
 
 #include <fishbone/exchange/diagramexchange.h>
 
+#include <fishbone/base/filereplacement.h>
 #include <fishbone/exchange/exchangeformat.h>
 #include <fishbone/exchange/exchangereport.h>
 #include <fishbone/exchange/importedtree.h>
 #include <fishbone/exchange/outlinewalk.h>
 #include <fishbone/exchange/subjectattributes.h>
-#include <fishbone/model/filereplacement.h>
 #include <fishbone/model/jsonnodes.h>
 #include <fishbone/model/treeitem.h>
 

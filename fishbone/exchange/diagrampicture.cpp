@@ -3,12 +3,12 @@
 
 #include <fishbone/exchange/diagrampicture.h>
 
+#include <fishbone/base/filereplacement.h>
 #include <fishbone/drawing/cleararrangement.h>
 #include <fishbone/drawing/clearcontent.h>
 #include <fishbone/drawing/clearpainter.h>
 #include <fishbone/exchange/htmlpicture.h>
 #include <fishbone/exchange/svgpicture.h>
-#include <fishbone/model/filereplacement.h>
 
 #include <QBuffer>
 #include <QImage>

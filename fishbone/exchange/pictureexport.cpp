@@ -3,8 +3,8 @@
 
 #include <fishbone/exchange/pictureexport.h>
 
+#include <fishbone/base/filereplacement.h>
 #include <fishbone/exchange/scenepainter.h>
-#include <fishbone/model/filereplacement.h>
 
 #include <QBuffer>
 #include <QFileInfo>

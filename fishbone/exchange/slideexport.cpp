@@ -3,11 +3,11 @@
 
 #include <fishbone/exchange/slideexport.h>
 
+#include <fishbone/base/filereplacement.h>
 #include <fishbone/exchange/outlinewalk.h>
 #include <fishbone/exchange/pictureexport.h>
 #include <fishbone/exchange/slidedevice.h>
 #include <fishbone/exchange/slidepackage.h>
-#include <fishbone/model/filereplacement.h>
 
 #include <QDateTime>
 #include <QGraphicsScene>

@@ -3,7 +3,8 @@
 
 #include <fishbone/model/systemhelper.h>
 
-#include <QCoreApplication>
+#include <fishbone/base/programfolder.h>
+
 #include <QDateTime>
 #include <QLocale>
 #include <QStandardPaths>
@@ -38,7 +39,7 @@ double SystemHelper::angleToRadian(double angle)
 
 QString SystemHelper::appliactionDirPath()
 {
-    return QCoreApplication::applicationDirPath() + QLatin1Char('/');
+    return programFolder();
 }
 
 QString SystemHelper::documentsLocation()

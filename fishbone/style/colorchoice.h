@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <fishbone/dialogs/modalanswer.h>
+#include <fishbone/base/modalanswer.h>
 
 #include <QColorDialog>
 

@@ -3,7 +3,7 @@
 
 #include <fishbone/style/penselect.h>
 
-#include <fishbone/dialogs/dialogtexts.h>
+#include <fishbone/base/dialogtexts.h>
 #include <fishbone/style/colorchoice.h>
 #include <fishbone/style/previewpixmap.h>
 
@@ -90,6 +90,7 @@ PenSelect::PenSelect(const QPen &pen, QWidget *parent)
     , m_joinStyle(new QComboBox(this))
     , m_preview(new QLabel(this))
 {
+    setModal(true);
     m_width->setText(QStringLiteral("%1").arg(m_pen.widthF()));
     m_width->setValidator(
         new QRegularExpressionValidator(QRegularExpression(QStringLiteral("^[1-5]{1}$")), m_width));

@@ -3,9 +3,9 @@
 
 #include <fishbone/style/spearstyle.h>
 
+#include <fishbone/base/filereplacement.h>
 #include <fishbone/base/onepass.h>
-#include <fishbone/model/filereplacement.h>
-#include <fishbone/model/systemhelper.h>
+#include <fishbone/base/programfolder.h>
 #include <fishbone/style/globalstylelookups.h>
 
 #include <QCoreApplication>
@@ -280,7 +280,7 @@ void SpearStyle::write(QJsonObject &object) const
 
 QString SpearStyle::spearStyleFilePath()
 {
-    return SystemHelper::appliactionDirPath() + QLatin1String("global.spearstyle");
+    return programFolder() + QLatin1String("global.spearstyle");
 }
 
 SpearStyle *SpearStyle::global()

@@ -3,7 +3,7 @@
 
 #include <fishbone/style/spearstyledialog.h>
 
-#include <fishbone/dialogs/dialogtexts.h>
+#include <fishbone/base/dialogtexts.h>
 #include <fishbone/style/colorchoice.h>
 #include <fishbone/style/penselect.h>
 #include <fishbone/style/previewpixmap.h>
@@ -187,10 +187,12 @@ QPen SpearStyleDialog::currentPen() const
 void SpearStyleDialog::openTextFont()
 {
     auto *const dialog = new QFontDialog(resolved(currentFont()), this);
-    if (const std::optional<QFont> font = modalAnswer(dialog, &QFontDialog::selectedFont)) {
-        m_style.setTextFont(currentState(), *font);
-        updatePreview();
-    }
+    const QFont shown = dialog->currentFont(); // not always the one it was given
+    const std::optional<QFont> font = modalAnswer(dialog, &QFontDialog::selectedFont);
+    if (!font || *font == shown)
+        return;
+    m_style.setTextFont(currentState(), *font);
+    updatePreview();
 }
 
 void SpearStyleDialog::openTextColor()

@@ -169,13 +169,13 @@ void tst_ReplaceFindDialog::shouldSearchOnceOnReturn()
     const ModalDriver<QMessageBox> user(keepMessage(message));
     QTest::keyClick(findEdit(dialog), Qt::Key_Return);
     QVERIFY(user.isDone());
-    QCOMPARE(model.m_searches.size(), 1);
+    QCOMPARE(model.m_searches, 1);
     QVERIFY(dialog.isVisible());
 
     QTest::keyClick(replaceEdit(dialog), Qt::Key_Return);
     QTest::keyClick(columnCombo(dialog), Qt::Key_Return);
     QTest::keyClick(dialog.findChild<QCheckBox *>(), Qt::Key_Return);
-    QCOMPARE(model.m_searches.size(), 1);
+    QCOMPARE(model.m_searches, 1);
     QVERIFY(dialog.isVisible());
 }
 
@@ -194,7 +194,7 @@ void tst_ReplaceFindDialog::shouldSearchOnceOnReturnAfterAClickOnAButton()
     const ModalDriver<QMessageBox> user(keepMessage(message));
     QTest::keyClick(findEdit(dialog), Qt::Key_Return);
     QVERIFY(user.isDone());
-    QCOMPARE(model.m_searches.size(), 2);
+    QCOMPARE(model.m_searches, 2);
 }
 
 void tst_ReplaceFindDialog::shouldLetReturnPressAFocusedButton()
@@ -208,13 +208,13 @@ void tst_ReplaceFindDialog::shouldLetReturnPressAFocusedButton()
     findEdit(dialog)->setText(QStringLiteral("man"));
     button(dialog, "Find")->setFocus();
     QTest::keyClick(button(dialog, "Find"), Qt::Key_Return);
-    QCOMPARE(model.m_searches.size(), 1);
+    QCOMPARE(model.m_searches, 1);
     findEdit(dialog)->setText(QStringLiteral("Mach"));
     QTest::keyClick(button(dialog, "Find"), Qt::Key_Enter);
-    QCOMPARE(model.m_searches.size(), 2);
+    QCOMPARE(model.m_searches, 2);
     findEdit(dialog)->setText(QStringLiteral("Tr"));
     QTest::keyClick(button(dialog, "Find"), Qt::Key_Space);
-    QCOMPARE(model.m_searches.size(), 3);
+    QCOMPARE(model.m_searches, 3);
 }
 
 void tst_ReplaceFindDialog::shouldEnableReplacingForTitlesAndShowidsOnly_data()
@@ -257,8 +257,7 @@ void tst_ReplaceFindDialog::shouldTakeAnyColumnFromAHost()
     QVERIFY(!replaceEdit(dialog)->isEnabled());
     // The search goes by the combo box and compares as the last column told it to.
     search(dialog, QStringLiteral("ma"));
-    QVERIFY(model.m_searches.last().startsWith(QLatin1String("row 0 column 0 ")));
-    QVERIFY(model.m_searches.last().endsWith(QLatin1String("flags 65")));
+    QCOMPARE(titles(dialog.matches()), QStringLiteral("Man|man power|Machine|Manual"));
     dialog.enableCtrl(2);
     QVERIFY(replaceEdit(dialog)->isEnabled());
 }

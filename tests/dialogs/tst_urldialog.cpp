@@ -26,6 +26,7 @@ private Q_SLOTS:
     void init();
     void cleanup();
     void shouldHaveDefaultsForItsArguments();
+    void shouldBeModal();
     void shouldShowItsTitleAndUseItsFile();
     void shouldStartOnTheFirstUrlSelected();
     void shouldPutAUrlIntoTheEditField();
@@ -72,6 +73,11 @@ void tst_URLDialog::shouldHaveDefaultsForItsArguments()
     const QStringList texts = TestSupport::writtenTexts(dialog);
     for (const char *const text : {"Url:", "Clean", "Open", "Cancel"})
         QVERIFY2(texts.contains(QLatin1String(text)), text);
+}
+
+void tst_URLDialog::shouldBeModal()
+{
+    QVERIFY(URLDialog().isModal());
 }
 
 void tst_URLDialog::shouldShowItsTitleAndUseItsFile()

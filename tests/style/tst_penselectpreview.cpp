@@ -23,6 +23,7 @@ class tst_PenSelectPreview : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void shouldBeModal();
     void shouldSetTheColorWhenItsDialogIsAccepted();
     void shouldKeepTheColorWhenItsDialogIsCancelled();
     void shouldSurviveItsEndWhileTheColorDialogIsOpen();
@@ -31,6 +32,11 @@ private Q_SLOTS:
     void shouldRefreshTheSampleOnEveryChange();
     void shouldDrawASharpSampleOnADenseScreen();
 };
+
+void tst_PenSelectPreview::shouldBeModal()
+{
+    QVERIFY(PenSelect(QPen()).isModal());
+}
 
 void tst_PenSelectPreview::shouldSetTheColorWhenItsDialogIsAccepted()
 {

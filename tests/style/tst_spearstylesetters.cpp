@@ -24,6 +24,7 @@ class tst_SpearStyleSetters : public QObject
 
 private Q_SLOTS:
     void shouldSetTheFontOfTheChosenState();
+    void shouldKeepTheFontWhenNoneIsChosen();
     void shouldSetTheTextColorOfTheChosenState();
     void shouldSetTheBackgroundColorOfTheChosenState();
     void shouldSetThePenOfTheChosenState();
@@ -58,6 +59,19 @@ void tst_SpearStyleSetters::shouldSetTheFontOfTheChosenState()
     QCOMPARE(style.textFont(SpearStyle::ssSelected)->pointSize(), 12);
     QCOMPARE(style.textFont(SpearStyle::ssLinked)->pointSize(), 16);
     QVERIFY(shownPixmap(dialog).toImage() != before);
+}
+
+void tst_SpearStyleSetters::shouldKeepTheFontWhenNoneIsChosen()
+{
+    SpearStyle style;
+    // The dialog shows a family that is installed in its place.
+    const QFont font(QStringLiteral("A family that nobody has"), 14);
+    style.setTextFont(SpearStyle::ssNormal, font);
+    const SpearStyleDialog dialog(style);
+    const ModalDriver<QFontDialog> user([](QFontDialog &fonts) { fonts.accept(); });
+    click(dialog, "Set TextFont");
+    QVERIFY(user.isDone());
+    QCOMPARE(*style.textFont(SpearStyle::ssNormal), font);
 }
 
 void tst_SpearStyleSetters::shouldSetTheTextColorOfTheChosenState()
@@ -144,7 +158,7 @@ void tst_SpearStyleSetters::shouldStartSubDialogsOnDefaultsWhenNothingIsSet()
         QVERIFY(user.isDone());
         QCOMPARE(shown.family(), QFontInfo(QFont()).family());
         QCOMPARE(shown.pointSize(), QFontInfo(QFont()).pointSize());
-        QVERIFY(style.textFont(SpearStyle::ssNormal));
+        QVERIFY(!style.textFont(SpearStyle::ssNormal)); // nothing was chosen
     }
     {
         const ModalDriver<QColorDialog> user([](QColorDialog &colors) { colors.accept(); });

@@ -43,6 +43,7 @@ private Q_SLOTS:
     void cleanup();
     void shouldKeepACopyAwayFromTheFile();
     void shouldNoteWhoseCopyItIs();
+    void shouldKeepACopyFromWhoeverMayNotReadTheFile();
     void shouldKeepACopyOfEachTab();
     void shouldSaveChangesByItself();
     void shouldSaveNothingThatIsNotModified();
@@ -100,6 +101,18 @@ void TestRecoveryCopy::shouldNoteWhoseCopyItIs()
     QCOMPARE(note.value(QStringLiteral("name")).toString(), QStringLiteral("late.json"));
     QCOMPARE(kept(QStringLiteral("lock")).size(), 1);
     QVERIFY(RecoveryStore::left().isEmpty()); // its owner lives
+}
+
+void TestRecoveryCopy::shouldKeepACopyFromWhoeverMayNotReadTheFile()
+{
+    AppFixture app;
+    QVERIFY(QFile::setPermissions(app.path(), QFile::ReadOwner | QFile::WriteOwner));
+    change(app);
+    QVERIFY(recoveryOf(app)->save());
+    const QFile::Permissions shared(0x0077);
+    const QString copy = recoveryOf(app)->path();
+    QCOMPARE(QFile::permissions(copy) & shared, QFile::Permissions());
+    QCOMPARE(QFile::permissions(RecoveryStore::noteOf(copy)) & shared, QFile::Permissions());
 }
 
 void TestRecoveryCopy::shouldKeepACopyOfEachTab()

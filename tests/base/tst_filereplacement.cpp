@@ -12,7 +12,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <fishbone/model/filereplacement.h>
+#include <fishbone/base/filereplacement.h>
 #include <tests/program/testprogram.h>
 
 namespace {
@@ -90,6 +90,10 @@ private Q_SLOTS:
     void shouldReplaceTheWholeContentInALockedFolder();
     void shouldReplaceTheContentWhereEverybodyKeepsWhatIsHis();
     void shouldWriteAFileWithTheLongestName();
+    void shouldGiveNoRightsThatTheOriginDoesNotGive_data();
+    void shouldGiveNoRightsThatTheOriginDoesNotGive();
+    void shouldKeepTheRightsOfAFileThatIsReplaced_data();
+    void shouldKeepTheRightsOfAFileThatIsReplaced();
     void shouldRefuseANameWithANullCharacter();
     void shouldFollowALink();
     void shouldFollowALinkToAFileThatIsNotThereYet();
@@ -216,6 +220,65 @@ void tst_FileReplacement::shouldWriteAFileWithTheLongestName()
     }
     QCOMPARE(contentOf(longest), QByteArray("a second"));
     QVERIFY(!replaceFile(m_folder.filePath(QString(256, QLatin1Char('n'))), "content").isEmpty());
+}
+
+void tst_FileReplacement::shouldGiveNoRightsThatTheOriginDoesNotGive_data()
+{
+    QTest::addColumn<int>("origin");
+    QTest::addColumn<int>("before"); // 0: the file is new
+    QTest::addColumn<int>("after");
+    QTest::newRow("new, private") << 0600 << 0 << 0600;
+    QTest::newRow("new, for the group") << 0640 << 0 << 0640;
+    QTest::newRow("new, for all") << 0666 << 0 << 0644;
+    QTest::newRow("private over one for all") << 0600 << 0644 << 0600;
+    QTest::newRow("for all over a private one") << 0644 << 0600 << 0600;
+    QTest::newRow("for the group over one for all") << 0640 << 0666 << 0640;
+    QTest::newRow("no origin") << 0 << 0604 << 0604;
+}
+
+void tst_FileReplacement::shouldGiveNoRightsThatTheOriginDoesNotGive()
+{
+    QFETCH(int, origin);
+    QFETCH(int, before);
+    QFETCH(int, after);
+    const mode_t mask = umask(022);
+    const QTemporaryDir folder;
+    const QString from = folder.filePath(QStringLiteral("from"));
+    const QString to = folder.filePath(QStringLiteral("to"));
+    if (origin != 0) {
+        QCOMPARE(replaceFile(from, "content"), QString());
+        QCOMPARE(chmod(QFile::encodeName(from).constData(), mode_t(origin)), 0);
+    }
+    if (before != 0) {
+        QCOMPARE(replaceFile(to, "old"), QString());
+        QCOMPARE(chmod(QFile::encodeName(to).constData(), mode_t(before)), 0);
+    }
+
+    QCOMPARE(replaceFile(to, "content", from), QString());
+
+    umask(mask);
+    struct stat written = {};
+    QCOMPARE(stat(QFile::encodeName(to).constData(), &written), 0);
+    QCOMPARE(int(written.st_mode) & 0777, after);
+    QCOMPARE(contentOf(to), QByteArray("content"));
+}
+
+void tst_FileReplacement::shouldKeepTheRightsOfAFileThatIsReplaced_data()
+{
+    QTest::addColumn<int>("mode");
+    for (const int mode : {0600, 0640, 0644, 0666, 0400 | 0200 | 0004})
+        QTest::addRow("%o", mode) << mode;
+}
+
+void tst_FileReplacement::shouldKeepTheRightsOfAFileThatIsReplaced()
+{
+    QFETCH(int, mode);
+    QCOMPARE(replaceFile(path("kept"), "old"), QString());
+    QCOMPARE(chmod(QFile::encodeName(path("kept")).constData(), mode_t(mode)), 0);
+    QCOMPARE(replaceFile(path("kept"), "new"), QString());
+    struct stat written = {};
+    QCOMPARE(stat(QFile::encodeName(path("kept")).constData(), &written), 0);
+    QCOMPARE(int(written.st_mode) & 0777, mode);
 }
 
 void tst_FileReplacement::shouldRefuseANameWithANullCharacter()

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <fishbone/dialogs/followlanguage.h>
+#include <fishbone/base/followlanguage.h>
 
 #include <QComboBox>
 #include <QFormLayout>
