@@ -13,6 +13,7 @@
 #include <fishbone/items/linkitem.h>
 #include <fishbone/items/sceneselection.h>
 #include <fishbone/items/spearlook.h>
+#include <fishbone/items/stackorder.h>
 #include <fishbone/items/taskstatusitem.h>
 #include <fishbone/items/textitem.h>
 #include <fishbone/model/fishmodel.h>
@@ -65,6 +66,7 @@ QModelIndex SpearItem::modelIndex() const
     return m_model && m_treeItem ? m_model->indexFromItem(m_treeItem) : QModelIndex();
 }
 
+/// Makes \a item the subject without touching the item's own link.
 void SpearItem::attachTreeItem(TreeItem *item)
 {
     TreeItem *const previous = m_treeItem;
@@ -73,6 +75,7 @@ void SpearItem::attachTreeItem(TreeItem *item)
         previous->setSpear(nullptr, QModelIndex());
 }
 
+/// The subject is gone or has another spear.
 void SpearItem::forgetTreeItem()
 {
     m_treeItem = nullptr;
@@ -378,17 +381,12 @@ void SpearItem::stackChildrenInRowOrder()
     if (!m_treeItem)
         return;
     forgetChildSpears();
-    // From the last row to the first, so that each one moved stands before all that follow it.
-    const auto &subjects = m_treeItem->childItems();
-    const SpearItem *next = nullptr;
-    for (auto subject = subjects.crbegin(); subject != subjects.crend(); ++subject) {
-        SpearItem *const spear = (*subject)->spear();
-        if (!spear || spear->parentItem() != this)
-            continue;
-        if (next)
-            spear->stackBefore(next);
-        next = spear;
+    QList<QGraphicsItem *> inRowOrder;
+    for (const TreeItem *subject : m_treeItem->childItems()) {
+        if (subject->spear() && subject->spear()->parentItem() == this)
+            inRowOrder.append(subject->spear());
     }
+    StackOrder::arrange(this, inRowOrder);
 }
 
 SpearItem *SpearItem::parentSpear() const

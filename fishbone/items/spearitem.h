@@ -10,8 +10,8 @@
 #include <QPen>
 #include <QPointer>
 
+#include <fishbone/base/guardedpointer.h>
 #include <fishbone/fishbone_export.h>
-#include <fishbone/model/guardedpointer.h>
 #include <fishbone/style/spearstyle.h>
 
 class FishModel;
@@ -77,10 +77,6 @@ public:
     QModelIndex modelIndex() const;
     /// The subject, or null.
     TreeItem *treeItem() const { return m_treeItem; }
-    /// Makes \a item the subject without touching the item's own link. For TreeItem.
-    void attachTreeItem(TreeItem *item);
-    /// The subject is gone or has another spear. For TreeItem.
-    void forgetTreeItem();
 
     /// Whether the subject may be dragged; true without a subject.
     bool isMovable() const;
@@ -303,6 +299,8 @@ protected:
     void hoverLeaveEvent(QGraphicsSceneHoverEvent *event) override;
 
 private:
+    friend class TreeItem; // which hands over its end of the link
+
     /// What was painted, or is about to be, of what no item keeps.
     struct Painted
     {
@@ -311,6 +309,8 @@ private:
         bool isMovable = true;
     };
 
+    void attachTreeItem(TreeItem *item);
+    void forgetTreeItem();
     SpearStyle::SpearState interactionState() const;
     void showChildren();
     int shownLength(const SpearStyle &style) const;

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <fishbone/model/guardedpointer.h>
+#include <fishbone/base/guardedpointer.h>
 
 class SpearItem;
 

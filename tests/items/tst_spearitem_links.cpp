@@ -59,7 +59,6 @@ private Q_SLOTS:
     void shouldLeaveNothingDangling();
     void shouldGoOnWithoutASubject();
     void shouldHaveNoIndexWhileItsSubjectIsOutOfTheModel();
-    void shouldLeaveTheLinksOfOthersAlone();
 };
 
 void TestSpearItemLinks::shouldLinkBothEndsForAnIndex()
@@ -328,42 +327,6 @@ void TestSpearItemLinks::shouldHaveNoIndexWhileItsSubjectIsOutOfTheModel()
 
     drawing.model.insertExistItemRows(head, {taken});
     QCOMPARE(spear->modelIndex(), drawing.model.index(0, 0, head));
-}
-
-/// A host that calls what is meant for nodes must not unlink what belongs together.
-void TestSpearItemLinks::shouldLeaveTheLinksOfOthersAlone()
-{
-    const Drawing drawing(QStringLiteral("Effect[Man,Machine]"));
-    TreeItem *const node = drawing.node(man);
-    SpearItem *const shown = drawing.spear(man);
-    auto spear = newSpear();
-
-    spear->attachTreeItem(node);
-    spear->attachTreeItem(node);
-    QCOMPARE(node->spear(), shown);
-    spear->attachTreeItem(drawing.node(machine));
-    QCOMPARE(node->spear(), shown);
-    spear->attachTreeItem(node);
-    spear.reset();
-    QCOMPARE(node->spear(), shown);
-
-    spear = newSpear();
-    auto other = std::make_unique<TreeItem>();
-    other->setSpear(spear.get(), QModelIndex());
-    spear->attachTreeItem(node);
-    other.reset();
-    QCOMPARE(spear->treeItem(), node);
-
-    other = std::make_unique<TreeItem>();
-    other->setSpear(spear.get(), QModelIndex());
-    spear->forgetTreeItem();
-    other.reset();
-    QCOMPARE(spear->treeItem(), nullptr);
-
-    spear->setModelIndex(drawing.index(machine));
-    spear->attachTreeItem(nullptr);
-    QVERIFY(!spear->modelIndex().isValid());
-    drawing.node(machine)->setSpear(nullptr, QModelIndex());
 }
 
 FISHBONE_TEST(TestSpearItemLinks)
