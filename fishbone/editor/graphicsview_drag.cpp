@@ -74,6 +74,8 @@ void GraphicsView::dropEvent(QDropEvent *event)
     unmarkTarget();
     QMimeData *const payload = copyOf(*event->mimeData()).release();
     Q_EMIT dropTo(payload, m_editor->spearIndex(target), row);
-    // Posted behind the calls of queued receivers, so that they find it alive.
-    payload->deleteLater();
+    // Posted behind the calls of queued receivers, so that they find it alive; also when somebody
+    // who waits has all deletions carried out before anything else, as the end of a drag may.
+    QMetaObject::invokeMethod(
+        payload, [payload] { payload->deleteLater(); }, Qt::QueuedConnection);
 }
