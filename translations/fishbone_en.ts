@@ -879,14 +879,6 @@ What is left out, or put where it can be kept, is listed on the error output.</t
         <translation>the program is closing</translation>
     </message>
     <message>
-        <source>the reply is not a JSON document</source>
-        <translation>the reply is not a JSON document</translation>
-    </message>
-    <message>
-        <source>the reply took too long or was too large</source>
-        <translation>the reply took too long or was too large</translation>
-    </message>
-    <message>
         <source>it holds no diagram</source>
         <translation>it holds no diagram</translation>
     </message>
@@ -1558,6 +1550,22 @@ Do you want to save your changes?</translation>
     <message>
         <source>自由主题</source>
         <translation>Free topic</translation>
+    </message>
+    <message>
+        <source>it is not a JSON document</source>
+        <translation>it is not a JSON document</translation>
+    </message>
+    <message>
+        <source>it is not a JSON document (line %1: %2)</source>
+        <translation>it is not a JSON document (line %1: %2)</translation>
+    </message>
+    <message>
+        <source>the reply took too long or was too large</source>
+        <translation>the reply took too long or was too large</translation>
+    </message>
+    <message>
+        <source>there is no document to load it into</source>
+        <translation>there is no document to load it into</translation>
     </message>
 </context>
 <context>

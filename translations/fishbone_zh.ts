@@ -877,14 +877,6 @@ What is left out, or put where it can be kept, is listed on the error output.</s
         <translation>程序正在关闭</translation>
     </message>
     <message>
-        <source>the reply is not a JSON document</source>
-        <translation>返回的内容不是 JSON 文档</translation>
-    </message>
-    <message>
-        <source>the reply took too long or was too large</source>
-        <translation>等待返回的时间过长，或返回的内容过大</translation>
-    </message>
-    <message>
         <source>it holds no diagram</source>
         <translation>其中没有鱼骨图</translation>
     </message>
@@ -1554,6 +1546,22 @@ Do you want to save your changes?</source>
     <message>
         <source>自由主题</source>
         <translation>自由主题</translation>
+    </message>
+    <message>
+        <source>it is not a JSON document</source>
+        <translation>不是 JSON 文档</translation>
+    </message>
+    <message>
+        <source>it is not a JSON document (line %1: %2)</source>
+        <translation>不是 JSON 文档（第 %1 行：%2）</translation>
+    </message>
+    <message>
+        <source>the reply took too long or was too large</source>
+        <translation>等待返回的时间过长，或返回的内容过大</translation>
+    </message>
+    <message>
+        <source>there is no document to load it into</source>
+        <translation>没有可以装入的文档</translation>
     </message>
 </context>
 <context>

@@ -13,7 +13,6 @@
 #include <QFileInfo>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QNetworkReply>
 #include <QUrl>
 
 #include <memory>
@@ -49,6 +48,10 @@ DocumentLoader::DocumentLoader(FishModel *model, QObject *parent)
     , m_model(model)
     , m_openDocuments([this] { return m_model->fishList(); })
 {
+    connect(model, &FishModel::loadProgress, this,
+            [this](const QUrl &, qint64 received, qint64 total) {
+                Q_EMIT fetchProgress(received, total);
+            });
 }
 
 void DocumentLoader::setOpenDocuments(std::function<QList<FishInfo *>()> documents)
@@ -251,25 +254,9 @@ QString DocumentLoader::freeName(const QString &baseName) const
 void DocumentLoader::fetch(const QUrl &url)
 {
     m_fetched = connect(m_model, &FishModel::fishLoaded, this, &DocumentLoader::endFetch);
-    const QList<QNetworkReply *> earlier = m_model->findChildren<QNetworkReply *>();
-    m_model->loadFishFromUrl(url);
-    const QList<QNetworkReply *> replies = m_model->findChildren<QNetworkReply *>();
-    for (QNetworkReply *reply : replies) {
-        if (!earlier.contains(reply))
-            m_reply = reply;
-    }
     m_isCancelled = false;
-    if (m_reply)
-        connect(m_reply, &QNetworkReply::readyRead, this, &DocumentLoader::reportProgress);
+    m_model->loadFishFromUrl(url);
     Q_EMIT fetchStarted(url);
-}
-
-/** Reports what has come, all of which waits in the reply until that is complete. The reply's own
- * report leaves out what comes shortly after the one before. */
-void DocumentLoader::reportProgress()
-{
-    const QVariant length = m_reply->header(QNetworkRequest::ContentLengthHeader);
-    Q_EMIT fetchProgress(m_reply->bytesAvailable(), length.isValid() ? length.toLongLong() : -1);
 }
 
 void DocumentLoader::cancel()
@@ -281,16 +268,16 @@ void DocumentLoader::cancel()
         leave();
         return;
     }
-    if (!m_reply || m_reply->isFinished())
+    if (!m_model || !m_model->isLoading())
         return;
     m_isCancelled = true;
-    m_reply->abort();
+    m_model->cancelLoads();
 }
 
 void DocumentLoader::endFetch(const QModelIndex &index, MODEL_ERROR error)
 {
     Q_UNUSED(index) // invalid for a document without a head
-    if (m_reply && !m_reply->isFinished())
+    if (m_model->isLoading())
         return; // somebody else loaded a file meanwhile
     disconnect(m_fetched);
     Q_EMIT fetchEnded();
@@ -300,18 +287,8 @@ void DocumentLoader::endFetch(const QModelIndex &index, MODEL_ERROR error)
         Q_EMIT cancelled(m_waiting.constFirst());
         leave();
     } else {
-        finish(nullptr, reasonOfReply());
+        finish(nullptr, m_model->loadError());
     }
-}
-
-/** Why what arrived was not loaded. */
-QString DocumentLoader::reasonOfReply() const
-{
-    if (!m_reply || m_reply->error() == QNetworkReply::NoError)
-        return tr("the reply is not a JSON document");
-    if (m_reply->error() == QNetworkReply::OperationCanceledError)
-        return tr("the reply took too long or was too large");
-    return m_reply->errorString();
 }
 
 /** Reports the end of the load under way: @p document, or null and the reason. */

@@ -19,7 +19,6 @@
 #include <optional>
 
 class FishInfo;
-class QNetworkReply;
 class QUrl;
 
 /**
@@ -102,18 +101,15 @@ private:
     void importFile(const QString &path, DiagramExchange::Format format);
     QString freeName(const QString &baseName) const;
     void fetch(const QUrl &url);
-    void reportProgress();
     void endFetch(const QModelIndex &index, MODEL_ERROR error);
     void leave();
     void finish(FishInfo *document, const QString &reason);
     FishInfo *openDocument(const QString &path) const;
-    QString reasonOfReply() const;
 
     QPointer<FishModel> m_model;
     std::function<QList<FishInfo *>()> m_openDocuments;
     QHash<QString, TableMapping> m_mappings; ///< of the tables that wait
     QStringList m_waiting;                   ///< the first one is being loaded
-    QPointer<QNetworkReply> m_reply;
     QMetaObject::Connection m_fetched;
     bool m_isCancelled = false;
     int m_reading = 0; ///< the number of the last reading

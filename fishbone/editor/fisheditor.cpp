@@ -11,7 +11,7 @@
 #include <QTimer>
 #include <QVector>
 
-#include <fishbone/dialogs/followlanguage.h>
+#include <fishbone/base/followlanguage.h>
 #include <fishbone/drawing/fishdrawing.h>
 #include <fishbone/drawing/spearbuilder.h>
 #include <fishbone/editor/accessiblediagram.h>
@@ -91,9 +91,10 @@ FishEditor::~FishEditor()
 
 void FishEditor::startSaveTmpFileTimer()
 {
-    m_saveTimer = new QTimer(this);
-    m_saveTimer->setInterval(autosaveInterval);
-    connect(m_saveTimer, &QTimer::timeout, this, &FishEditor::saveTmpFile);
+    if (!m_saveTimer) {
+        m_saveTimer = new QTimer(this);
+        connect(m_saveTimer, &QTimer::timeout, this, &FishEditor::saveTmpFile);
+    }
     m_saveTimer->start(autosaveInterval);
 }
 

@@ -62,10 +62,11 @@ Q_DECLARE_METATYPE(CHANGE_PARENT_TYPE)
 class FISHBONE_EXPORT FishEditor : public QFrame
 {
     Q_OBJECT
-    /// The zoom value, for forms: 250 is 1:1, 50 more doubles the scale. Applied when it is set.
-    Q_PROPERTY(int zoom READ zoomValue WRITE zoomFish NOTIFY zoomValueChanged)
-    /// The rotation in degrees, for forms. Applied when it is set.
-    Q_PROPERTY(int rotation READ rotateValue WRITE rotateFish NOTIFY rotateValueChanged)
+    /// The zoom value, for forms: 250 is 1:1, 50 more doubles the scale. Applied when it is set,
+    /// and told when that changes it; zoomFish() tells nobody.
+    Q_PROPERTY(int zoom READ zoomValue WRITE writeZoom NOTIFY zoomValueChanged)
+    /// The rotation in degrees, for forms. Applied and told as the zoom is.
+    Q_PROPERTY(int rotation READ rotateValue WRITE writeRotation NOTIFY rotateValueChanged)
 
 public:
     /// An editor that shows nothing. The newest editor also serves the expand buttons of scenes
@@ -97,7 +98,8 @@ public:
     bool isModified() const;
     /// Marks the shown document; nothing without one.
     void setModified(bool modified);
-    /// Starts the timer that calls saveTmpFile() every 30 seconds. Called on construction.
+    /// Starts, or starts again, the timer that calls saveTmpFile() every 30 seconds. Called on
+    /// construction.
     void startSaveTmpFileTimer();
     /// @}
 
@@ -367,6 +369,8 @@ public:
     void doubleClicked(QMouseEvent *event);
 
 private:
+    void writeZoom(int value);
+    void writeRotation(int value);
     friend class GraphicsView; // asks showsOwnItemsOnly()
 
     /// The root that was shown last, remembered across what makes its index invalid.

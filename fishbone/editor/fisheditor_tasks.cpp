@@ -12,7 +12,7 @@
 #include <QPrintDialog>
 #include <QPrinter>
 
-#include <fishbone/dialogs/modalanswer.h>
+#include <fishbone/base/modalanswer.h>
 #include <fishbone/editor/graphicsview.h>
 #include <fishbone/items/spearitem.h>
 #include <fishbone/model/fishmodel.h>

@@ -80,6 +80,24 @@ void FishEditor::rotateFish(int value)
     setupMatrix();
 }
 
+/** The zoom as a property. Who hears of it may end the editor. */
+void FishEditor::writeZoom(int value)
+{
+    const bool changes = value != m_zoomValue;
+    zoomFish(value);
+    if (changes)
+        Q_EMIT zoomValueChanged(value);
+}
+
+/** The rotation as a property. */
+void FishEditor::writeRotation(int value)
+{
+    const bool changes = value != m_rotateValue;
+    rotateFish(value);
+    if (changes)
+        Q_EMIT rotateValueChanged(value);
+}
+
 void FishEditor::rotateReset()
 {
     rotateFish(0);

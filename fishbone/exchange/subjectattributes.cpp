@@ -4,122 +4,70 @@
 #include <fishbone/exchange/subjectattributes.h>
 
 #include <fishbone/model/jsonnodes.h>
-#include <fishbone/model/treeitem.h>
+#include <fishbone/model/subjectattribute.h>
 
 #include <algorithm>
-#include <optional>
-
-namespace {
-
-using SubjectAttributes::Attribute;
-
-/** Which numbers a new subject has. */
-constexpr int noNumber = -1;
-constexpr int zero = 0;
-
-using Text = const QString &(TreeItem::*)() const;
-using SetText = void (TreeItem::*)(const QString &);
-using Number = int (TreeItem::*)() const;
-using SetNumber = void (TreeItem::*)(int);
-using Date = qint64 (TreeItem::*)() const;
-using SetDate = void (TreeItem::*)(qint64);
-
-template <Text get, SetText set>
-constexpr Attribute textAttribute(QLatin1String key)
-{
-    return {key, [](const TreeItem &subject) { return (subject.*get)(); },
-            [](TreeItem &subject, const QString &text) {
-                (subject.*set)(text);
-                return true;
-            }};
-}
-
-template <Number get, SetNumber set, int unset>
-constexpr Attribute numberAttribute(QLatin1String key)
-{
-    return {key,
-            [](const TreeItem &subject) {
-                const int number = (subject.*get)();
-                return number == unset ? QString() : QString::number(number);
-            },
-            [](TreeItem &subject, const QString &text) {
-                bool isNumber = true;
-                const int number = text.isEmpty() ? unset : text.toInt(&isNumber);
-                if (isNumber)
-                    (subject.*set)(number);
-                return isNumber;
-            }};
-}
-
-template <Date get, SetDate set>
-constexpr Attribute dateAttribute(QLatin1String key)
-{
-    return {key,
-            [](const TreeItem &subject) {
-                const qint64 date = (subject.*get)();
-                return date == 0 ? QString() : QString::number(date);
-            },
-            [](TreeItem &subject, const QString &text) {
-                bool isNumber = true;
-                const qint64 date = text.isEmpty() ? 0 : text.toLongLong(&isNumber);
-                if (isNumber)
-                    (subject.*set)(date);
-                return isNumber;
-            }};
-}
-
-QString uuidText(const TreeItem &subject)
-{
-    return subject.uuid() == QLatin1String("-1") ? QString() : subject.uuid();
-}
-
-bool setUuidText(TreeItem &subject, const QString &text)
-{
-    subject.setUuid(text);
-    return true;
-}
-
-QString followersText(const TreeItem &subject)
-{
-    return SubjectAttributes::joined(subject.followers());
-}
-
-bool setFollowersText(TreeItem &subject, const QString &text)
-{
-    subject.setFollowers(SubjectAttributes::separated(text));
-    return true;
-}
-
-} // namespace
 
 namespace SubjectAttributes {
 
-const std::array<Attribute, 15> &all()
+QString Attribute::text(const TreeItem &subject) const
 {
-    using namespace JsonNodes;
-    static const std::array<Attribute, 15> attributes{{
-        {uuidKey, uuidText, setUuidText},
-        textAttribute<&TreeItem::showid, &TreeItem::setShowid>(showidKey),
-        numberAttribute<&TreeItem::type, &TreeItem::setType, zero>(typeKey),
-        numberAttribute<&TreeItem::status, &TreeItem::setStatus, noNumber>(statusKey),
-        numberAttribute<&TreeItem::progress, &TreeItem::setProgress, zero>(progressKey),
-        numberAttribute<&TreeItem::priority, &TreeItem::setPriority, noNumber>(priorityKey),
-        textAttribute<&TreeItem::managerName, &TreeItem::setManagerName>(managerNameKey),
-        textAttribute<&TreeItem::managerId, &TreeItem::setManagerId>(managerIdKey),
-        textAttribute<&TreeItem::creatorName, &TreeItem::setCreatorName>(creatorNameKey),
-        textAttribute<&TreeItem::creatorId, &TreeItem::setCreatorId>(creatorIdKey),
-        {followersKey, followersText, setFollowersText},
-        dateAttribute<&TreeItem::createDate, &TreeItem::setCreateDate>(createDateKey),
-        dateAttribute<&TreeItem::planEndDate, &TreeItem::setPlanEndDate>(planEndDateKey),
-        textAttribute<&TreeItem::url, &TreeItem::setUrl>(urlKey),
-        textAttribute<&TreeItem::detail, &TreeItem::setDetail>(detailKey),
-    }};
+    const QVariant value = source->get(subject);
+    switch (source->kind()) {
+    case SubjectAttribute::Number:
+        return value.toInt() == source->unsetNumber() ? QString() : value.toString();
+    case SubjectAttribute::Date:
+        return value.toLongLong() == 0 ? QString() : value.toString();
+    case SubjectAttribute::Texts:
+        return joined(value.toStringList());
+    default:
+        break;
+    }
+    const bool isNone = key == JsonNodes::uuidKey && value.toString() == QLatin1String("-1");
+    return isNone ? QString() : value.toString();
+}
+
+bool Attribute::setText(TreeItem &subject, const QString &text) const
+{
+    bool isValue = true;
+    switch (source->kind()) {
+    case SubjectAttribute::Number: {
+        const int number = text.isEmpty() ? source->unsetNumber() : text.toInt(&isValue);
+        if (isValue)
+            source->set(subject, number);
+        break;
+    }
+    case SubjectAttribute::Date: {
+        const qint64 date = text.isEmpty() ? 0 : text.toLongLong(&isValue);
+        if (isValue)
+            source->set(subject, date);
+        break;
+    }
+    case SubjectAttribute::Texts:
+        source->set(subject, separated(text));
+        break;
+    default:
+        source->set(subject, text);
+    }
+    return isValue;
+}
+
+const QVector<Attribute> &all()
+{
+    static const QVector<Attribute> attributes = [] {
+        QVector<Attribute> exchanged;
+        for (const SubjectAttribute &attribute : SubjectAttribute::all()) {
+            if (attribute.uses().testFlag(SubjectAttribute::Exchanged))
+                exchanged.append({attribute.key(), &attribute});
+        }
+        return exchanged;
+    }();
     return attributes;
 }
 
 const Attribute &named(QLatin1String key)
 {
-    const auto &attributes = all();
+    const QVector<Attribute> &attributes = all();
     return *std::find_if(attributes.cbegin(), attributes.cend(),
                          [key](const Attribute &attribute) { return attribute.key == key; });
 }

@@ -6,25 +6,28 @@
 #include <QLatin1String>
 #include <QString>
 #include <QStringList>
+#include <QVector>
 
-#include <array>
-
+class SubjectAttribute;
 class TreeItem;
 
 /** The attributes of a subject as texts, for the formats that carry them as such. */
 namespace SubjectAttributes {
 
+/** An attribute and its value as a text. */
 struct Attribute
 {
     QLatin1String key; ///< as in the diagram format
+    const SubjectAttribute *source;
+
     /** The value as a text, empty for the value that a new subject has. */
-    QString (*text)(const TreeItem &subject);
+    QString text(const TreeItem &subject) const;
     /** Stores the value of a text; false, with nothing changed, when it is none. */
-    bool (*setText)(TreeItem &subject, const QString &text);
+    bool setText(TreeItem &subject, const QString &text) const;
 };
 
-/** All attributes but the title, the place in the tree and the style. */
-const std::array<Attribute, 15> &all();
+/** All attributes that are exchanged, the title left aside. */
+const QVector<Attribute> &all();
 
 /** The attribute of that key, which exists. */
 const Attribute &named(QLatin1String key);

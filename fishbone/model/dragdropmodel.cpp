@@ -102,6 +102,11 @@ Qt::DropActions DragDropModel::supportedDropActions() const
     return Qt::CopyAction | Qt::MoveAction;
 }
 
+Qt::DropActions DragDropModel::supportedDragActions() const
+{
+    return Qt::CopyAction;
+}
+
 Qt::ItemFlags DragDropModel::flags(const QModelIndex &index) const
 {
     const Qt::ItemFlags base = QAbstractItemModel::flags(index);

@@ -44,6 +44,12 @@ public:
 
     Qt::DropActions supportedDropActions() const override;
 
+    /**
+     * Copies alone: after a move a view would remove the rows that the receiver of the drop has
+     * carried somewhere else already.
+     */
+    Qt::DropActions supportedDragActions() const override;
+
     /** The base flags, with drag and drop added for a subject that may be moved. */
     Qt::ItemFlags flags(const QModelIndex &index) const override;
 

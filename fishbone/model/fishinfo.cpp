@@ -3,8 +3,9 @@
 
 #include <fishbone/model/fishinfo.h>
 
+#include <fishbone/base/filereplacement.h>
+#include <fishbone/base/literaltext.h>
 #include <fishbone/model/documentfile.h>
-#include <fishbone/model/filereplacement.h>
 #include <fishbone/model/fishmodel.h>
 #include <fishbone/model/jsonnodes.h>
 #include <fishbone/model/systemhelper.h>
@@ -19,6 +20,7 @@
 #include <QMessageBox>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -34,14 +36,15 @@ int nextSequenceNumber()
 QByteArray documentText(const TreeItem &container)
 {
     QJsonObject root;
-    int levels = 0;
+    JsonNodes::Extent extent;
     if (container.childCount() > 0) {
-        levels = JsonNodes::write(root, *container.childItems().last(), JsonNodes::readableLevels);
-        if (levels == 0)
+        extent = JsonNodes::write(root, *container.childItems().last(), JsonNodes::readableLevels);
+        if (extent.levels == 0)
             return QByteArray();
     }
     const QByteArray text = QJsonDocument(root).toJson();
-    const bool mayBeTooDeep = 2 * levels + JsonNodes::styleNesting > JsonNodes::readableNesting;
+    const bool mayBeTooDeep = extent.hasOtherFields || 2 * extent.levels + JsonNodes::styleNesting >
+                                                           JsonNodes::readableNesting;
     if (mayBeTooDeep && JsonNodes::nesting(text) > JsonNodes::readableNesting)
         return QByteArray();
     return text;
@@ -54,6 +57,8 @@ FishInfo::FishInfo(QObject *parent)
     , m_curFile(tr("fish%1.json").arg(nextSequenceNumber()))
     , m_treeItem(std::make_unique<TreeItem>())
 {
+    m_treeItem->setDocument(this);
+    m_toldFile = m_curFile;
 }
 
 FishInfo::~FishInfo()
@@ -62,12 +67,46 @@ FishInfo::~FishInfo()
         m_owner->forget(this);
 }
 
+void FishInfo::setFileName(const QString &fileName)
+{
+    m_curFile = fileName;
+    tellLater();
+}
+
+void FishInfo::setModified(bool modified)
+{
+    m_modified = modified;
+    tellLater();
+}
+
+/** Has the signals tell what has changed, when control is back in the event loop. */
+void FishInfo::tellLater()
+{
+    const bool isTold = m_modified == m_toldModified && m_curFile == m_toldFile;
+    if (!isTold && !std::exchange(m_willTell, true))
+        QMetaObject::invokeMethod(this, &FishInfo::tellChanges, Qt::QueuedConnection);
+}
+
+void FishInfo::tellChanges()
+{
+    m_willTell = false;
+    const bool isModifiedNew = std::exchange(m_toldModified, m_modified) != m_modified;
+    const bool isFileNew = std::exchange(m_toldFile, m_curFile) != m_curFile;
+    // Who hears of the one may end the document before the other.
+    const QPointer<FishInfo> alive(this);
+    if (isModifiedNew)
+        Q_EMIT modifiedChanged(m_toldModified);
+    if (alive && isFileNew)
+        Q_EMIT fileNameChanged(m_toldFile);
+}
+
 void FishInfo::setCurrentFile(const QString &path)
 {
     m_curFile = QFileInfo(path).canonicalFilePath();
     m_isUntitled = false;
     m_modified = false;
     m_autoSaveFile = m_curFile;
+    tellLater();
 }
 
 QString FishInfo::strippedName(const QString &path) const
@@ -107,7 +146,9 @@ void FishInfo::rebuild(const std::function<void()> &change)
 void FishInfo::clearTree()
 {
     m_treeItem = std::make_unique<TreeItem>();
+    m_treeItem->setDocument(this);
     m_modified = false;
+    tellLater();
 }
 
 /** loadFish() without announcement and model. */
@@ -120,6 +161,16 @@ void FishInfo::buildTree(const QJsonObject &root)
 
 bool FishInfo::saveFile(const QString &fileName)
 {
+    const bool saved = write(fileName, QString());
+    if (saved)
+        QMetaObject::invokeMethod(
+            this, [this, fileName] { Q_EMIT fileSaved(fileName); }, Qt::QueuedConnection);
+    return saved;
+}
+
+/** saveFile(), readable for those at most who may read @p origin. */
+bool FishInfo::write(const QString &fileName, const QString &origin)
+{
     if (!m_model) {
         DocumentFile::makeEmpty(fileName);
         m_saveError = tr("no model shows the document");
@@ -130,7 +181,7 @@ bool FishInfo::saveFile(const QString &fileName)
         m_saveError = tr("the diagram nests too deep to be read again");
         qDebug() << "FishInfo::saveFile:" << m_saveError;
     } else {
-        m_saveError = replaceFile(fileName, text);
+        m_saveError = replaceFile(fileName, text, origin);
     }
     return m_saveError.isEmpty();
 }
@@ -163,7 +214,7 @@ bool FishInfo::maybeSave(const std::function<bool()> &save)
                                  .arg(strippedName(m_curFile));
     const QPointer<FishInfo> alive(this);
     const auto answer =
-        QMessageBox::warning(nullptr, tr("FishInfo"), question,
+        QMessageBox::warning(nullptr, tr("FishInfo"), literalText(question),
                              QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel);
     if (answer == QMessageBox::Save)
         return alive && save();
@@ -179,7 +230,7 @@ bool FishInfo::saveTmpFile()
     if (target.isEmpty())
         return false;
     m_autoSaveFile = target;
-    const bool saved = saveFile(target);
+    const bool saved = write(target, m_curFile);
     if (isNew && !saved)
         QFile::remove(target); // what reserved the name
     return saved;
@@ -196,6 +247,26 @@ QString FishInfo::newAutoSaveFile() const
     if (!QFileInfo::exists(folder))
         qDebug() << QDir().mkpath(folder);
     return DocumentFile::reserveName(folder, head->title());
+}
+
+QJsonObject FishInfo::view() const
+{
+    const TreeItem *const head = m_treeItem->childAtIndex(0);
+    return head ? head->otherFields().value(JsonNodes::viewKey).toObject() : QJsonObject();
+}
+
+bool FishInfo::setView(const QJsonObject &view)
+{
+    TreeItem *const head = m_treeItem->childAtIndex(0);
+    if (!head)
+        return false;
+    QJsonObject fields = head->otherFields();
+    if (view.isEmpty())
+        fields.remove(JsonNodes::viewKey);
+    else
+        fields.insert(JsonNodes::viewKey, view);
+    head->setOtherFields(fields);
+    return true;
 }
 
 bool FishInfo::deleteOldTmpFile(const QString &path)

@@ -14,6 +14,7 @@
 #include <memory>
 
 class FishModel;
+class QJsonObject;
 class TreeItem;
 
 /**
@@ -39,11 +40,11 @@ public:
     /** The document's file; a canonical path once setCurrentFile() named it. */
     QString fileName() const { return m_curFile; }
     /** Stores the file name and nothing else; see setCurrentFile(). */
-    void setFileName(const QString &fileName) { m_curFile = fileName; }
+    void setFileName(const QString &fileName);
     /** Whether there are unsaved changes. */
     bool modified() const { return m_modified; }
     /** Saving does not clear the flag: the host does, here or with setCurrentFile(). */
-    void setModified(bool modified) { m_modified = modified; }
+    void setModified(bool modified);
     /** True until setCurrentFile() names the document. */
     bool isUntitled() const { return m_isUntitled; }
     /** The container of the tree, never null; its child 0 is the head. Owned by the document. */
@@ -102,9 +103,19 @@ public:
     bool maybeSave(const std::function<bool()> &save);
     /**
      * Autosave: writes autoSaveFile(), or a new file named after the model's first head in the
-     * application's autosave folder. False, with nothing touched, without a model or a head.
+     * application's autosave folder. Nobody may read it who may not read the document's own file.
+     * False, with nothing touched, without a model or a head.
      */
     bool saveTmpFile();
+    /**
+     * What the document keeps beside its tree for whoever shows it: its look, page and palette. It
+     * is saved with the document, stays when another subject becomes the head, and is empty without
+     * a head.
+     */
+    QJsonObject view() const;
+    /** Replaces that; false without a head. */
+    bool setView(const QJsonObject &view);
+
     /** Removes the file @p path. */
     bool deleteOldTmpFile(const QString &path);
 
@@ -119,12 +130,26 @@ public:
     /** Recounts noParentNodeCount() over the head's direct children. */
     void updateNoParentNodeCount();
 
+Q_SIGNALS:
+    // All of them come from the event loop, once whatever changed the document has done its work,
+    // and tell what holds by then: of changes that undo each other nothing is told.
+
+    /** The document has unsaved changes now, or has none any more. */
+    void modifiedChanged(bool modified);
+    /** The document has another file name. */
+    void fileNameChanged(const QString &fileName);
+    /** saveFile() has written the document to @p fileName. Autosaves are not told. */
+    void fileSaved(const QString &fileName);
+
 private:
     friend class FishModel;
 
+    void tellLater();
+    void tellChanges();
     void rebuild(const std::function<void()> &change);
     void clearTree();
     void buildTree(const QJsonObject &root);
+    bool write(const QString &fileName, const QString &origin);
     QString newAutoSaveFile() const;
 
     QString m_curFile;
@@ -133,6 +158,9 @@ private:
     std::unique_ptr<TreeItem> m_treeItem;
     bool m_modified = false;
     bool m_isUntitled = true;
+    bool m_toldModified = false; // as the signals have told it
+    QString m_toldFile;
+    bool m_willTell = false;
     int m_nodeCount = 0;
     int m_noParentNodeCount = 0;
     QStringList m_historys;

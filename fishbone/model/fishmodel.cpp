@@ -6,6 +6,7 @@
 #include <fishbone/model/fishinfo.h>
 #include <fishbone/model/jsonnodes.h>
 #include <fishbone/model/modelchange.h>
+#include <fishbone/model/rownumbers.h>
 #include <fishbone/model/treeitem.h>
 
 #include <QBrush>
@@ -166,7 +167,14 @@ void FishModel::updateItem(const QModelIndex &index, TreeItem *source)
     item->setPlanEndDate(source->planEndDate());
     item->setPriority(source->priority());
     item->setEditModified(true);
+    ++m_silentChanges;
     stamp(item);
+}
+
+void FishModel::announceChange(const QModelIndex &index)
+{
+    if (getTreeItem(index))
+        tellData(index.siblingAtColumn(0), index.siblingAtColumn(columnCount() - 1));
 }
 
 void FishModel::refreshModel()
@@ -184,16 +192,13 @@ TreeItem *FishModel::headAt(int row) const
 /** The row of the document whose container this is, -1 when none of this model's has it. */
 int FishModel::containerRow(const TreeItem *container) const
 {
-    const auto isAtHint = [this, container] {
-        const FishInfo *const document = m_fishList.value(container->m_rowHint, nullptr);
-        return document && document->treeItem() == container;
-    };
-    if (!isAtHint()) {
-        int row = 0;
-        for (const FishInfo *document : m_fishList)
-            document->treeItem()->m_rowHint = row++;
-    }
-    return isAtHint() ? container->m_rowHint : -1;
+    const FishInfo *const document = container->document();
+    if (!document || document->m_owner != this)
+        return -1;
+    return RowNumbers::find(
+        m_firstFishNumber, container->m_rowNumber, m_fishList.size(),
+        [this, document](int row) { return m_fishList.at(row) == document; },
+        [this](int row, int number) { m_fishList.at(row)->treeItem()->m_rowNumber = number; });
 }
 
 /** The row of a node of this model: its document's for a head. */
@@ -215,7 +220,8 @@ int FishModel::fishRow(const FishInfo *document) const
 
 FishInfo *FishModel::fishOf(const TreeItem *item) const
 {
-    return item ? m_fishList.value(containerRow(item->root()), nullptr) : nullptr;
+    FishInfo *const document = item ? item->root()->document() : nullptr;
+    return document && document->m_owner == this ? document : nullptr;
 }
 
 QModelIndex FishModel::findFish(const QString &fileName) const

@@ -10,13 +10,13 @@
 #include <QList>
 #include <QMetaType>
 #include <QPointer>
-#include <QSet>
 
 #include <functional>
 #include <vector>
 
 class FishInfo;
 class QByteArray;
+class QJsonDocument;
 class QJsonObject;
 class QNetworkReply;
 class QUrl;
@@ -92,14 +92,15 @@ public:
      * @{
      */
     /**
-     * Inserts new subjects, or new documents at the top level, each with a uuid of its own; or the
-     * nodes that insertExistItemRows() left waiting, all at @p row, so that they end up in reverse.
+     * Inserts new subjects, or new documents at the top level, each with a uuid of its own and at
+     * @p row, so that the newest comes first; or the nodes that insertExistItemRows() left waiting,
+     * likewise, so that they end up in reverse.
      */
     bool insertRows(int row, int count, const QModelIndex &parent = QModelIndex()) override;
     /**
      * Appends existing nodes under @p parent, or as new documents at the top level, and takes them
-     * over. Null entries are skipped. A node that is in this model already, or above @p parent,
-     * stays where it is; the result is false when the last one was such a node, otherwise true.
+     * over; null entries are skipped. False, with nothing changed, when one of them is in a model
+     * already, is listed twice, is above @p parent, or is below one that comes before it.
      */
     bool insertExistItemRows(const QModelIndex &parent, const QList<TreeItem *> &items);
     /** Deletes rows with all below them; at the top level the documents. */
@@ -126,10 +127,17 @@ public:
     bool putRow(int row, TreeItem *item, const QModelIndex &parent);
     /**
      * Copies title, detail, manager, followers, planned end and priority of @p source to the node
-     * at
-     * @p index and marks it edited. Emits nothing: the caller refreshes.
+     * at @p index and marks it edited. Emits nothing: the caller refreshes.
      */
     void updateItem(const QModelIndex &index, TreeItem *source);
+    /** How often updateItem() has changed a node: what was worked out before may be wrong. */
+    quint64 silentChanges() const { return m_silentChanges; }
+    /**
+     * Says that the node at @p index was changed otherwise than by setData(), as by its setters or
+     * by updateItem(): emits dataChanged() for all columns of its row. Nothing for an index of
+     * another model.
+     */
+    void announceChange(const QModelIndex &index);
     /** Emits dataChanged() for what the caller has changed in nodes; none needs it for setData().
      */
     void tellData(const QModelIndex &first, const QModelIndex &last);
@@ -147,7 +155,10 @@ public:
      */
     /** The documents in the order of their rows; owned by the model. */
     QList<FishInfo *> fishList() const { return m_fishList; }
-    /** Makes @p count documents with a head without uuid at @p row; tells no view. */
+    /**
+     * Makes @p count documents with a head without uuid, each at @p row, so that the newest comes
+     * first; tells no view.
+     */
     bool insertFishToList(int row, int count);
     /** Makes a document of @p head at @p row; tells no view. False for a node of this model. */
     bool insertFishToList(int row, TreeItem *head);
@@ -158,7 +169,11 @@ public:
      * gone already.
      */
     void unloadFish(FishInfo *document);
-    /** Takes a document out of the model, announced; the caller owns it. Null for a wrong row. */
+    /**
+     * Takes a document out of the model, announced; the caller owns it. Null for a wrong row. What
+     * is taken out has no model, so that saving it fails and leaves an empty file: it is to be
+     * saved before, or put into a model again.
+     */
     FishInfo *takeFish(int row);
     /**
      * Puts @p document into the model, announced, and takes it over. False for null, for a row
@@ -262,7 +277,19 @@ public:
      * Redirects are followed, but never from https down to http.
      */
     void loadFishFromUrl(const QUrl &url);
-    /** Loads @p path into @p document in place of its tree. Returns a MODEL_ERROR number. */
+    /** Whether anything is being fetched. */
+    bool isLoading() const { return !m_replies.isEmpty(); }
+    /** Ends all fetches; each fails then, with a fishLoaded() of its own. */
+    void cancelLoads();
+    /**
+     * Why the last load failed, a clause without a full stop in the user's language; empty when it
+     * did not fail.
+     */
+    QString loadError() const { return m_loadError; }
+    /**
+     * Loads @p path into @p document in place of its tree. Returns a MODEL_ERROR number, and
+     * reports the document's index with fishLoaded(), an invalid one when no model lists it.
+     */
     int reloadDataFromFile(const QString &path, FishInfo *document);
     /**
      * A transfer without progress for @p ms milliseconds fails, and so does one that takes twenty
@@ -296,6 +323,11 @@ public Q_SLOTS:
     void replyFinished(QNetworkReply *reply);
 
 Q_SIGNALS:
+    /**
+     * @p received bytes of what loadFishFromUrl() fetches from @p url have come, of @p total, which
+     * is -1 as long as nobody knows.
+     */
+    void loadProgress(const QUrl &url, qint64 received, qint64 total);
     /** A load ended; @p index is the document's top-level index, invalid on an error. */
     void fishLoaded(const QModelIndex &index, MODEL_ERROR errorCode);
     /**
@@ -336,10 +368,12 @@ private:
     int rowsBelow(const TreeItem *node) const;
     bool insertPending(int row, TreeItem *node, const QList<TreeItem *> &pending);
     static bool isInAnyModel(const TreeItem *item);
-    static bool canEnter(const TreeItem *item, const QSet<const TreeItem *> &entering);
+    static bool canEnter(const TreeItem *item);
+    static bool canEnterInTurn(const QList<TreeItem *> &items, const TreeItem *node);
     void createFish(int row, int count);
     void enter(int row, FishInfo *document);
     FishInfo *leave(int row);
+    void moveFish(int from, int to);
     bool canMove(const TreeItem *source, int sourceRow, int count,
                  const TreeItem *destination) const;
     void moveRow(TreeItem *source, int sourceRow, TreeItem *destination, int position);
@@ -350,9 +384,13 @@ private:
     void dropIndexes(int row, int count);
 
     int loadFile(const QString &path, bool named);
+    bool readFile(const QString &path, QByteArray *content);
+    QJsonDocument parse(const QByteArray &json);
+    QString reasonOf(const QNetworkReply &reply) const;
     void reportLoad(FishInfo *document);
 
     QList<FishInfo *> m_fishList;
+    int m_firstFishNumber = 0; // as TreeItem has one for its children
     QList<TreeItem *> m_pendingItems;
     std::vector<std::function<void()>> m_waiting; // for the end of what is announced
     int m_announcements = 0;                      // whose listeners run just now
@@ -364,7 +402,10 @@ private:
     QPointer<FishInfo> m_toldDocument;
     int m_changesWhenTold = 0;
     FISH_MODEL_TYPE m_modelType = FISH_MODEL_NORMAL;
+    quint64 m_silentChanges = 0;
     mutable QIcon m_noParentIcon;
+    QList<QNetworkReply *> m_replies; // of the fetches under way
+    QString m_loadError;
     int m_transferTimeout = 30000;
     qint64 m_replyLimit = Q_INT64_C(256) * 1024 * 1024;
 };

@@ -189,6 +189,8 @@ void FishModel::forget(FishInfo *dying)
     // Nobody was told that its row would go, so that another document has it until somebody can be.
     auto *const standIn = new FishInfo;
     standIn->m_treeItem.swap(dying->m_treeItem);
+    standIn->m_treeItem->setDocument(standIn);
+    dying->m_treeItem->setDocument(dying);
     standIn->m_owner = this;
     standIn->setModel(this);
     m_fishList.replace(row, standIn);

@@ -7,6 +7,7 @@
 
 #include <fishbone/model/fishinfo.h>
 #include <fishbone/model/modelchange.h>
+#include <fishbone/model/rownumbers.h>
 #include <fishbone/model/treeitem.h>
 
 #include <QPointer>
@@ -14,8 +15,9 @@
 /** Lists @p document at @p row; the announcement is the caller's. */
 void FishModel::enter(int row, FishInfo *document)
 {
+    RowNumbers::shift(m_firstFishNumber, row, 1, m_fishList.size());
     m_fishList.insert(row, document);
-    document->treeItem()->m_rowHint = row;
+    document->treeItem()->m_rowNumber = RowNumbers::numberOf(m_firstFishNumber, row);
     document->m_owner = this;
     document->setModel(this);
 }
@@ -24,9 +26,18 @@ void FishModel::enter(int row, FishInfo *document)
 FishInfo *FishModel::leave(int row)
 {
     FishInfo *const document = m_fishList.takeAt(row);
+    RowNumbers::shift(m_firstFishNumber, row, -1, m_fishList.size());
     document->m_owner = nullptr;
     document->setModel(nullptr);
     return document;
+}
+
+/** Moves a document within the list; the announcement is the caller's. */
+void FishModel::moveFish(int from, int to)
+{
+    m_fishList.move(from, to);
+    for (int row = qMin(from, to); row <= qMax(from, to); ++row)
+        m_fishList.at(row)->treeItem()->m_rowNumber = RowNumbers::numberOf(m_firstFishNumber, row);
 }
 
 /** Makes documents with a new head; the announcement is the caller's. */
@@ -37,7 +48,7 @@ void FishModel::createFish(int row, int count)
     for (int i = 0; i < count; ++i) {
         auto *const document = new FishInfo;
         document->treeItem()->appendChild(new TreeItem(title, empty, empty, empty, 0));
-        enter(row + i, document);
+        enter(row, document);
     }
 }
 
@@ -56,7 +67,7 @@ bool FishModel::insertFishToList(int row, int count)
 
 bool FishModel::insertFishToList(int row, TreeItem *head)
 {
-    if (isAnnouncing() || row < 0 || row > m_fishList.size() || !head || isInAnyModel(head))
+    if (isAnnouncing() || row < 0 || row > m_fishList.size() || !head || !canEnter(head))
         return false;
     ++m_changes;
     stamp(nullptr);

@@ -9,9 +9,11 @@
 #include <fishbone/model/modelchange.h>
 #include <fishbone/model/treeitem.h>
 
+#include <QHash>
 #include <QPointer>
-#include <QSet>
 
+#include <algorithm>
+#include <iterator>
 #include <limits>
 #include <memory>
 #include <utility>
@@ -50,31 +52,57 @@ bool FishModel::insertRows(int row, int count, const QModelIndex &parent)
     return true;
 }
 
-/** Whether @p item is outside all models, and outside the subtrees that are @p entering it. */
-bool FishModel::canEnter(const TreeItem *item, const QSet<const TreeItem *> &entering)
+/** Whether @p item is a subject, and in no model. */
+bool FishModel::canEnter(const TreeItem *item)
 {
-    const TreeItem *above = item;
-    while (above && !entering.contains(above))
-        above = above->m_lister;
-    return !above && !isInAnyModel(item);
+    const FishInfo *const document = item->root()->document();
+    return !item->document() && (!document || !document->m_owner);
+}
+
+/**
+ * Whether @p items, none of them null, may enter below @p node one after the other: none is in a
+ * model, listed twice, above @p node, or below one that entered before it.
+ */
+bool FishModel::canEnterInTurn(const QList<TreeItem *> &items, const TreeItem *node)
+{
+    QHash<const TreeItem *, int> turns;
+    for (const TreeItem *item : items) {
+        if (item->document() || turns.contains(item))
+            return false;
+        turns.insert(item, turns.size());
+    }
+    constexpr int inAModel = -1;
+    const int nowhere = items.size();
+    QHash<const TreeItem *, int> firstTurns; // the first there or above, to walk each way once
+    const auto firstTurn = [&](const TreeItem *below) {
+        QList<const TreeItem *> path;
+        for (const TreeItem *on = below; on && !firstTurns.contains(on); on = on->m_lister)
+            path.prepend(on);
+        for (const TreeItem *on : std::as_const(path)) {
+            const FishInfo *const document = on->document();
+            const int atTop = document && document->m_owner ? inAModel : nowhere;
+            const int above = on->m_lister ? firstTurns.value(on->m_lister) : atTop;
+            firstTurns.insert(on, qMin(above, turns.value(on, nowhere)));
+        }
+        return below ? firstTurns.value(below) : nowhere;
+    };
+    const int aboveNode = firstTurn(node);
+    return (aboveNode == nowhere || aboveNode == inAModel) &&
+           std::all_of(items.cbegin(), items.cend(), [&](const TreeItem *item) {
+               return firstTurn(item->m_lister) >= turns.value(item);
+           });
 }
 
 bool FishModel::insertPending(int row, TreeItem *node, const QList<TreeItem *> &pending)
 {
+    QList<TreeItem *> entering = pending;
+    entering.removeAll(nullptr);
+    if (entering.isEmpty())
+        return true;
+    if (!canEnterInTurn(entering, node))
+        return false;
     QList<TreeItem *> inRowOrder; // each goes in front of those before it
-    QSet<const TreeItem *> entering;
-    bool lastEnters = true;
-    for (TreeItem *item : pending) {
-        if (!item)
-            continue;
-        lastEnters = canEnter(item, entering);
-        if (lastEnters) {
-            entering.insert(item);
-            inRowOrder.prepend(item);
-        }
-    }
-    if (inRowOrder.isEmpty())
-        return lastEnters;
+    std::reverse_copy(entering.cbegin(), entering.cend(), std::back_inserter(inRowOrder));
     const Change insertion = inserting(rowIndex(node), row, row + int(inRowOrder.size()) - 1);
     for (TreeItem *item : std::as_const(inRowOrder)) {
         if (node) {
@@ -87,7 +115,7 @@ bool FishModel::insertPending(int row, TreeItem *node, const QList<TreeItem *> &
         item->ensureUuid();
         ++row;
     }
-    return lastEnters;
+    return true;
 }
 
 bool FishModel::insertExistItemRows(const QModelIndex &parent, const QList<TreeItem *> &items)
@@ -214,5 +242,5 @@ void FishModel::moveRow(TreeItem *source, int sourceRow, TreeItem *destination, 
     if (source)
         source->moveChildren(sourceRow, 1, source, before);
     else
-        m_fishList.move(sourceRow, row);
+        moveFish(sourceRow, row);
 }

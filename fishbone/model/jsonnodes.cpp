@@ -3,8 +3,8 @@
 
 #include <fishbone/model/jsonnodes.h>
 
+#include <fishbone/model/subjectattribute.h>
 #include <fishbone/model/treeitem.h>
-#include <fishbone/style/spearstyle.h>
 
 #include <QByteArray>
 #include <QJsonArray>
@@ -17,39 +17,19 @@ namespace {
 
 using namespace JsonNodes;
 
-void insertUnlessNull(QJsonObject &object, QLatin1String key, const QString &text)
-{
-    if (!text.isNull())
-        object.insert(key, text);
-}
-
 /** Adds the attributes of one node. The keys go in in sorted order, since each goes where it stays
  * then. */
 void insertAttributes(QJsonObject &object, const TreeItem &node)
 {
-    object.insert(createDateKey, double(node.createDate()));
-    insertUnlessNull(object, creatorIdKey, node.creatorId());
-    insertUnlessNull(object, creatorNameKey, node.creatorName());
-    object.insert(detailKey, node.detail());
-    if (!node.followers().isEmpty())
-        object.insert(followersKey, QJsonArray::fromStringList(node.followers()));
-    insertUnlessNull(object, managerIdKey, node.managerId());
-    insertUnlessNull(object, managerNameKey, node.managerName());
-    object.insert(pidKey, node.pid());
-    object.insert(planEndDateKey, double(node.planEndDate()));
-    object.insert(priorityKey, node.priority());
-    object.insert(progressKey, node.progress());
-    object.insert(showidKey, node.showid());
-    if (const SpearStyle *const style = node.spearStyle()) {
-        QJsonObject values;
-        style->write(values);
-        object.insert(spearStyleKey, values);
+    for (const SubjectAttribute &attribute : SubjectAttribute::inKeyOrder()) {
+        if (attribute.isWritten(node))
+            object.insert(attribute.key(), attribute.value(node));
     }
-    object.insert(statusKey, node.status());
-    object.insert(titleKey, node.title());
-    object.insert(typeKey, node.type());
-    insertUnlessNull(object, urlKey, node.url());
-    object.insert(uuidKey, node.uuid());
+    if (!node.hasOtherFields())
+        return;
+    const QJsonObject others = node.otherFields();
+    for (auto field = others.begin(); field != others.end(); ++field)
+        object.insert(field.key(), field.value());
 }
 
 /** The object of one node. */
@@ -80,6 +60,21 @@ void queueChildren(QQueue<Pending> &queue, const QJsonObject &object, TreeItem *
 
 namespace JsonNodes {
 
+bool isKnown(const QString &key)
+{
+    return key == childrenKey || SubjectAttribute::find(key);
+}
+
+QJsonObject otherFields(const QJsonObject &object)
+{
+    QJsonObject others;
+    for (auto field = object.begin(); field != object.end(); ++field) {
+        if (!isKnown(field.key()))
+            others.insert(field.key(), field.value());
+    }
+    return others;
+}
+
 QJsonObject attributes(const TreeItem &node)
 {
     QJsonObject object;
@@ -87,14 +82,14 @@ QJsonObject attributes(const TreeItem &node)
     return object;
 }
 
-int write(QJsonObject &out, const TreeItem &top, int maxLevels)
+Extent write(QJsonObject &out, const TreeItem &top, int maxLevels)
 {
     struct Frame
     {
         const TreeItem *node;
         QJsonArray children = {}; // the finished ones
     };
-    std::size_t levels = 1;
+    Extent extent{1, false};
     std::vector<Frame> frames;
     frames.push_back({&top});
     for (;;) {
@@ -102,17 +97,18 @@ int write(QJsonObject &out, const TreeItem &top, int maxLevels)
         const int next = frame.children.size();
         if (next < frame.node->childCount()) {
             if (int(frames.size()) >= maxLevels)
-                return 0;
+                return {};
             const TreeItem *const child = frame.node->childItems().at(next);
             frames.push_back({child});
-            levels = std::max(levels, frames.size());
+            extent.levels = std::max(extent.levels, int(frames.size()));
             continue;
         }
+        extent.hasOtherFields = extent.hasOtherFields || frame.node->hasOtherFields();
         const QJsonObject object = nodeObject(*frame.node, frame.children);
         frames.pop_back();
         if (frames.empty()) {
             out = object;
-            return int(levels);
+            return extent;
         }
         frames.back().children.append(object);
     }

@@ -44,14 +44,29 @@ constexpr int styleNesting = 4;
 /** The levels that a QJsonObject may have: Qt destroys it with recursion, and stacks are small. */
 constexpr int buildableLevels = 20000;
 
+/** What stands beside the attributes of a head and belongs to its document. */
+inline const QLatin1String viewKey("view");
+
+/** Whether the format gives @p key a meaning in the object of a node. */
+bool isKnown(const QString &key);
+/** What is left of @p object without the keys that the format knows. */
+QJsonObject otherFields(const QJsonObject &object);
+
 /** The object of a node without its children. */
 QJsonObject attributes(const TreeItem &node);
 
+/** What was written of a tree. */
+struct Extent
+{
+    int levels = 0;              ///< of nodes
+    bool hasOtherFields = false; ///< which may nest to any depth
+};
+
 /**
- * Sets @p out to the object of @p top with its subtree and returns the number of levels that it
- * has. Returns 0, with @p out untouched, when there are more than @p maxLevels.
+ * Sets @p out to the object of @p top with its subtree. No levels, with @p out untouched, when
+ * there are more than @p maxLevels.
  */
-int write(QJsonObject &out, const TreeItem &top, int maxLevels);
+Extent write(QJsonObject &out, const TreeItem &top, int maxLevels);
 
 /** How deep the objects and arrays of a JSON text nest. */
 int nesting(const QByteArray &json);

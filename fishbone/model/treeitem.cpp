@@ -3,16 +3,15 @@
 
 #include <fishbone/model/treeitem.h>
 
-#include <fishbone/items/spearitem.h>
 #include <fishbone/model/jsonnodes.h>
+#include <fishbone/model/stylesession.h>
+#include <fishbone/model/subjectattribute.h>
 #include <fishbone/model/systemhelper.h>
 #include <fishbone/style/spearstyle.h>
-#include <fishbone/style/spearstyledialog.h>
 
 #include <QJsonObject>
 #include <QModelIndex>
 
-#include <cmath>
 #include <utility>
 
 namespace {
@@ -36,59 +35,13 @@ bool namesTask(const QString &identity)
     return !identity.isEmpty() && identity != noTask();
 }
 
-/** An instant as a file holds it; one that 64 bits cannot hold counts as unset. */
-qint64 dateFrom(const QJsonValue &value)
-{
-    constexpr double limit = 9223372036854775808.0; // 2^63
-    const double msecs = value.toDouble();
-    return msecs > -limit && msecs < limit ? std::llround(msecs) : 0;
-}
-
-/**
- * A node whose style the user edits. The dialog runs its own event loop, in which the node can die:
- * its style then waits here until the dialog is done with it.
- */
-class StyleSession
-{
-    Q_DISABLE_COPY(StyleSession)
-
-public:
-    explicit StyleSession(TreeItem *node)
-        : m_node(node)
-        , m_outer(std::exchange(innermost, this))
-    {
-    }
-    ~StyleSession() { innermost = m_outer; }
-
-    bool nodeLives() const { return m_node; }
-
-    static void nodeDies(const TreeItem *node)
-    {
-        for (StyleSession *session = innermost; session; session = session->m_outer) {
-            if (session->m_node == node)
-                session->m_node = nullptr;
-        }
-    }
-    /** Deletes @p style, later when it is being edited. */
-    static void discard(const TreeItem *node, std::unique_ptr<SpearStyle> style)
-    {
-        for (StyleSession *session = innermost; session && style; session = session->m_outer) {
-            if (session->m_node == node && !session->m_kept)
-                session->m_kept = std::move(style);
-        }
-    }
-
-private:
-    static StyleSession *innermost;
-
-    TreeItem *m_node;
-    StyleSession *m_outer;
-    std::unique_ptr<SpearStyle> m_kept;
-};
-
-StyleSession *StyleSession::innermost = nullptr;
-
 } // namespace
+
+struct TreeItem::Extra
+{
+    QJsonObject otherFields;
+    FishInfo *document = nullptr; // whose container the node is
+};
 
 TreeItem::TreeItem()
 {
@@ -109,48 +62,18 @@ TreeItem::TreeItem(const QString &title, const QString &uuid, const QString &sho
 
 TreeItem::TreeItem(const QJsonObject &object, TreeItem *parent)
 {
-    using namespace JsonNodes;
-
     initData();
     m_parent = parent;
-    const auto readText = [&object](QLatin1String key, QString &text) {
-        const QJsonValue value = object.value(key);
-        if (!value.isUndefined())
-            text = value.toString();
-    };
-    const auto readNumber = [&object](QLatin1String key, int &number) {
-        const QJsonValue value = object.value(key);
-        if (!value.isUndefined())
-            number = value.toInt(0);
-    };
-
-    m_title = object.value(titleKey).toString();
-    m_uuid = object.value(uuidKey).toString();
-    m_showid = object.value(showidKey).toString();
-    readText(pidKey, m_pid);
+    int known = object.contains(JsonNodes::childrenKey);
+    for (const SubjectAttribute &attribute : SubjectAttribute::inKeyOrder()) {
+        const QJsonValue value = object.value(attribute.key());
+        known += !value.isUndefined();
+        attribute.read(*this, value);
+    }
     if (parent && m_pid == parent->m_uuid)
         m_pid = parent->m_uuid; // one text for all siblings
-    readText(detailKey, m_detail);
-    readNumber(priorityKey, m_priority);
-    readNumber(typeKey, m_type);
-    readNumber(statusKey, m_status);
-    readNumber(progressKey, m_progress);
-    const QJsonValue style = object.value(spearStyleKey);
-    if (style.isObject())
-        setSpearStyle(style.toObject());
-    readText(urlKey, m_url);
-    readText(managerNameKey, m_managerName);
-    readText(managerIdKey, m_managerId);
-    readText(creatorNameKey, m_creatorName);
-    readText(creatorIdKey, m_creatorId);
-    const QJsonValue followers = object.value(followersKey);
-    if (!followers.isUndefined())
-        setFollowers(followers.toArray());
-    m_createDate = dateFrom(object.value(createDateKey));
-    m_planEndDate = dateFrom(object.value(planEndDateKey));
-    const QJsonValue movable = object.value(isMovableKey);
-    if (!movable.isUndefined())
-        m_spearItemIsMovable = movable.toBool(false);
+    if (known < object.size())
+        setOtherFields(object);
 }
 
 TreeItem::~TreeItem()
@@ -164,8 +87,8 @@ TreeItem::~TreeItem()
         doomed.append(node->m_children);
         node->m_children.clear();
     }
-    if (m_spear && m_spear->treeItem() == this)
-        m_spear->forgetTreeItem();
+    if (m_spear)
+        leaveSpear();
     delSpearStyle();
     StyleSession::nodeDies(this);
 }
@@ -236,7 +159,7 @@ void TreeItem::setTitle(const QString &title)
 {
     m_title = title;
     if (m_spear)
-        m_spear->setText(m_title);
+        showTitle();
 }
 
 bool TreeItem::ensureUuid()
@@ -251,6 +174,41 @@ void TreeItem::setFollowers(const QJsonArray &followers)
 {
     for (const QJsonValue &follower : followers)
         m_followers.append(follower.toString());
+}
+
+QJsonObject TreeItem::otherFields() const
+{
+    return m_extra ? m_extra->otherFields : QJsonObject();
+}
+
+bool TreeItem::hasOtherFields() const
+{
+    return m_extra && !m_extra->otherFields.isEmpty();
+}
+
+void TreeItem::setOtherFields(const QJsonObject &fields)
+{
+    const QJsonObject others = JsonNodes::otherFields(fields);
+    if (m_extra || !others.isEmpty())
+        extra().otherFields = others;
+}
+
+TreeItem::Extra &TreeItem::extra()
+{
+    if (!m_extra)
+        m_extra = std::make_unique<Extra>();
+    return *m_extra;
+}
+
+/** The document whose container this node is, null for all other nodes. */
+FishInfo *TreeItem::document() const
+{
+    return m_extra ? m_extra->document : nullptr;
+}
+
+void TreeItem::setDocument(FishInfo *document)
+{
+    extra().document = document;
 }
 
 void TreeItem::setUrl(const QString &url)
@@ -268,23 +226,6 @@ void TreeItem::setProgress(int progress)
     m_progress = progress;
 }
 
-void TreeItem::setSpear(SpearItem *spear, const QModelIndex &index)
-{
-    if (m_spear && m_spear != spear) {
-        SpearItem *const former = std::exchange(m_spear, nullptr);
-        if (former->treeItem() == this)
-            former->forgetTreeItem();
-    }
-    m_spear = spear;
-    if (!spear)
-        return;
-    spear->setModelIndex(index);
-    m_spear = spear; // an index of another node, or of none, made the spear leave this one
-    if (spear->treeItem() != this)
-        spear->attachTreeItem(this);
-    spear->updateMovableFlag();
-}
-
 void TreeItem::setSpearStyle(const QJsonObject &object)
 {
     delSpearStyle();
@@ -292,24 +233,6 @@ void TreeItem::setSpearStyle(const QJsonObject &object)
         return;
     m_spearStyle = std::make_unique<SpearStyle>();
     m_spearStyle->read(object);
-}
-
-void TreeItem::setSpearStyle()
-{
-    const StyleSession session(this);
-    if (m_spearStyle) {
-        SpearStyleDialog(*m_spearStyle).exec();
-        return;
-    }
-    QJsonObject values;
-    SpearStyle::global()->write(values);
-    SpearStyle scratch;
-    scratch.read(values);
-    const bool accepted = SpearStyleDialog(scratch).exec() == QDialog::Accepted;
-    if (!accepted || !session.nodeLives())
-        return;
-    scratch.write(values);
-    setSpearStyle(values);
 }
 
 void TreeItem::delSpearStyle()

@@ -3,8 +3,8 @@
 
 #pragma once
 
+#include <fishbone/base/guardedpointer.h>
 #include <fishbone/fishbone_export.h>
-#include <fishbone/model/guardedpointer.h>
 
 #include <QCoreApplication>
 #include <QJsonArray>
@@ -16,6 +16,7 @@
 
 #include <memory>
 
+class FishInfo;
 class QJsonObject;
 class QModelIndex;
 class SpearItem;
@@ -92,8 +93,8 @@ public:
     TreeItem *childAtIndex(int i) const { return m_children.value(i, nullptr); }
     /**
      * The node's row in its parent's list: 0 without a parent, -1 when the parent does not list it.
-     * Constant time as long as the siblings stand still; the first question after a change numbers
-     * all of them again.
+     * Constant time as long as the siblings stand still. Changes of the list, with any questions
+     * between them, take no longer than the list itself takes to move its elements.
      */
     int index() const;
     /** True when this node is above @p node, following the lists; a node is not its own ancestor.
@@ -219,10 +220,22 @@ public:
     bool isEditModified() const { return m_editModified; }
     /** Stores that mark. */
     void setEditModified(bool modified) { m_editModified = modified; }
-    /** Whether the node's bone may be dragged. */
+    /** Whether the node's bone may be dragged. Read from a file, but never written to one. */
     bool spearItemIsMovable() const { return m_spearItemIsMovable; }
-    /** Allows or forbids dragging the bone; a linked spear takes it over at the next layout. */
+    /**
+     * Allows or forbids dragging the bone; a linked spear takes it over when its
+     * updateMovableFlag() is called, as every layout does.
+     */
     void setSpearItemIsMovable(bool movable) { m_spearItemIsMovable = movable; }
+    /**
+     * The fields of the node's object in a file that are none of the format's, as they were read.
+     * They go wherever the node goes and are written as they are.
+     */
+    QJsonObject otherFields() const;
+    /** Whether there are any. */
+    bool hasOtherFields() const;
+    /** Replaces those fields. Keys of the format are left out: they have attributes here. */
+    void setOtherFields(const QJsonObject &fields);
     /** @} */
 
     /**
@@ -266,13 +279,26 @@ public:
     std::shared_ptr<TreeItem *> guardCell() { return m_guard.shared(this); }
 
 private:
-    friend class FishModel; // keeps the rows of documents in their containers' row hints
+    friend class FishInfo;  // is known to the container of its tree
+    friend class FishModel; // keeps the rows of documents in their containers
+
+    struct Extra; // what few nodes have
 
     void initData();
+    // What concerns the spear is defined beside it, in items/subjectspear.cpp.
+    void showTitle();
+    void leaveSpear();
+    Extra &extra();
+    FishInfo *document() const;
+    void setDocument(FishInfo *document);
     bool accepts(const TreeItem *child) const;
     void place(TreeItem *child, int position);
+    void placeAll(const QList<TreeItem *> &children, int position);
+    void own(TreeItem *child, int row);
+    QList<TreeItem *> takeAll(int position, int count);
     void leaveList();
     int rowInList() const;
+    void numberRows(int first, int last);
 
     QList<TreeItem *> m_children;
     TreeItem *m_parent = nullptr;
@@ -294,11 +320,13 @@ private:
     QStringList m_followers;
     qint64 m_createDate = 0;
     qint64 m_planEndDate = 0;
-    mutable int m_rowHint = 0; // verified against the list before it is believed
+    mutable int m_rowNumber = 0; // verified against the list before it is believed
+    int m_firstNumber = 0;       // what the number of the first child is, or should be
     bool m_spearItemIsMovable = true;
     bool m_editModified = false;
     SpearItem *m_spear = nullptr;
     std::unique_ptr<SpearStyle> m_spearStyle;
+    std::unique_ptr<Extra> m_extra;
     GuardCell<TreeItem> m_guard;
 };
 

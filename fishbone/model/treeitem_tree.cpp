@@ -5,6 +5,8 @@
 
 #include <fishbone/model/treeitem.h>
 
+#include <fishbone/model/rownumbers.h>
+
 namespace {
 
 /** Cuts off and returns what @p list holds from @p position on. */
@@ -34,12 +36,17 @@ int TreeItem::index() const
 int TreeItem::rowInList() const
 {
     const QList<TreeItem *> &siblings = m_lister->m_children;
-    if (m_rowHint < 0 || m_rowHint >= siblings.size() || siblings.at(m_rowHint) != this) {
-        int row = 0;
-        for (const TreeItem *sibling : siblings)
-            sibling->m_rowHint = row++;
-    }
-    return m_rowHint;
+    return RowNumbers::find(
+        m_lister->m_firstNumber, m_rowNumber, siblings.size(),
+        [this, &siblings](int row) { return siblings.at(row) == this; },
+        [&siblings](int row, int number) { siblings.at(row)->m_rowNumber = number; });
+}
+
+/** Numbers the children from row @p first to @p last. */
+void TreeItem::numberRows(int first, int last)
+{
+    for (int row = first; row <= last; ++row)
+        m_children.at(row)->m_rowNumber = RowNumbers::numberOf(m_firstNumber, row);
 }
 
 bool TreeItem::isAncestorOf(const TreeItem *node) const
@@ -77,17 +84,45 @@ void TreeItem::leaveList()
 {
     if (!m_lister)
         return;
-    m_lister->m_children.removeAt(rowInList());
-    m_lister = nullptr;
+    m_lister->takeAt(rowInList());
 }
 
 /** Lists an accepted child that no list holds. */
 void TreeItem::place(TreeItem *child, int position)
 {
+    RowNumbers::shift(m_firstNumber, position, 1, childCount());
     m_children.insert(position, child);
+    own(child, position);
+}
+
+/** Makes the child that came to @p row this node's. */
+void TreeItem::own(TreeItem *child, int row)
+{
     child->m_parent = this;
     child->m_lister = this;
-    child->m_rowHint = position;
+    child->m_rowNumber = RowNumbers::numberOf(m_firstNumber, row);
+}
+
+/** Lists accepted children that no list holds, all at once. */
+void TreeItem::placeAll(const QList<TreeItem *> &children, int position)
+{
+    RowNumbers::shift(m_firstNumber, position, children.size(), childCount());
+    const QList<TreeItem *> behind = cutTail(m_children, position);
+    m_children.reserve(position + children.size() + behind.size());
+    for (TreeItem *child : children) {
+        own(child, childCount());
+        m_children.append(child);
+    }
+    m_children.append(behind);
+}
+
+/** Takes @p count children out of the list, all at once. */
+QList<TreeItem *> TreeItem::takeAll(int position, int count)
+{
+    const QList<TreeItem *> taken = m_children.mid(position, count);
+    m_children.erase(m_children.begin() + position, m_children.begin() + position + count);
+    RowNumbers::shift(m_firstNumber, position, -count, childCount());
+    return taken;
 }
 
 void TreeItem::appendChild(TreeItem *child, int position)
@@ -116,13 +151,13 @@ bool TreeItem::insertChildren(int position, int count, const QString &pid)
         return false;
     if (count < 1)
         return true;
-    const QList<TreeItem *> behind = cutTail(m_children, position);
-    m_children.reserve(m_children.size() + count + behind.size());
+    QList<TreeItem *> made;
+    made.reserve(count);
     const QString title = tr("子主题");
     const QString empty = QStringLiteral("");
     for (int i = 0; i < count; ++i)
-        place(new TreeItem(title, empty, empty, m_uuid, 0, this), childCount());
-    m_children.append(behind);
+        made.append(new TreeItem(title, empty, empty, m_uuid, 0, this));
+    placeAll(made, position);
     return true;
 }
 
@@ -140,6 +175,7 @@ bool TreeItem::moveChildren(int source, int count, TreeItem *destination, int de
             const int target = qMin(destinationChild - (forward ? 1 : 0) + k, childCount() - 1);
             m_children.at(source)->m_pid = m_uuid;
             m_children.move(source, target);
+            numberRows(qMin(source, target), qMax(source, target));
         }
         return true;
     }
@@ -147,14 +183,10 @@ bool TreeItem::moveChildren(int source, int count, TreeItem *destination, int de
     const int branch = branchOf(destination);
     if (branch >= source && branch < source + count)
         return false;
-    const QList<TreeItem *> moved = m_children.mid(source, count);
-    m_children.erase(m_children.begin() + source, m_children.begin() + source + count);
-    const QList<TreeItem *> behind = cutTail(destination->m_children, destinationChild);
-    for (TreeItem *child : moved) {
-        destination->place(child, destination->childCount());
+    const QList<TreeItem *> moved = takeAll(source, count);
+    destination->placeAll(moved, destinationChild);
+    for (TreeItem *child : moved)
         child->m_pid = destination->m_uuid;
-    }
-    destination->m_children.append(behind);
     return true;
 }
 
@@ -163,6 +195,7 @@ TreeItem *TreeItem::takeAt(int i)
     if (i < 0 || i >= childCount())
         return nullptr;
     TreeItem *const child = m_children.takeAt(i);
+    RowNumbers::shift(m_firstNumber, i, -1, childCount());
     child->m_lister = nullptr;
     return child;
 }
@@ -173,8 +206,6 @@ bool TreeItem::removeChildren(int position, int count)
         return false;
     if (count < 1)
         return true;
-    const QList<TreeItem *> removed = m_children.mid(position, count);
-    m_children.erase(m_children.begin() + position, m_children.begin() + position + count);
-    qDeleteAll(removed);
+    qDeleteAll(takeAll(position, count));
     return true;
 }

@@ -6,7 +6,8 @@
 #include <fishbone/items/spearitem.h>
 #include <fishbone/model/fishmodel.h>
 #include <fishbone/model/jsonnodes.h>
-#include <fishbone/style/spearstyle.h>
+#include <fishbone/model/subjectattribute.h>
+#include <fishbone/model/treeitem.h>
 #include <fishbone/undo/subjectlookup.h>
 
 #include <QPersistentModelIndex>
@@ -17,60 +18,6 @@ namespace {
 
 using namespace JsonNodes;
 
-/** One attribute of a subject: its key, and how it is copied from a record to a subject. */
-struct Attribute
-{
-    QLatin1String key;
-    void (*copy)(TreeItem &to, const TreeItem &from);
-};
-
-QJsonObject styleOf(const TreeItem &subject)
-{
-    QJsonObject style;
-    if (subject.spearStyle())
-        subject.spearStyle()->write(style);
-    return style;
-}
-
-/** Keeps the style object when it says the same already: dialogs may be working on it. */
-void copyStyle(TreeItem &to, const TreeItem &from)
-{
-    const QJsonObject style = styleOf(from);
-    if (styleOf(to) != style)
-        to.setSpearStyle(style);
-}
-
-void copyMovable(TreeItem &to, const TreeItem &from)
-{
-    to.setSpearItemIsMovable(from.spearItemIsMovable());
-    if (to.spear())
-        to.spear()->updateMovableFlag();
-}
-
-const Attribute knownAttributes[] = {
-    {titleKey, [](TreeItem &to, const TreeItem &from) { to.setTitle(from.title()); }},
-    {showidKey, [](TreeItem &to, const TreeItem &from) { to.setShowid(from.showid()); }},
-    {detailKey, [](TreeItem &to, const TreeItem &from) { to.setDetail(from.detail()); }},
-    {urlKey, [](TreeItem &to, const TreeItem &from) { to.setUrl(from.url()); }},
-    {typeKey, [](TreeItem &to, const TreeItem &from) { to.setType(from.type()); }},
-    {statusKey, [](TreeItem &to, const TreeItem &from) { to.setStatus(from.status()); }},
-    {progressKey, [](TreeItem &to, const TreeItem &from) { to.setProgress(from.progress()); }},
-    {priorityKey, [](TreeItem &to, const TreeItem &from) { to.setPriority(from.priority()); }},
-    {managerNameKey,
-     [](TreeItem &to, const TreeItem &from) { to.setManagerName(from.managerName()); }},
-    {managerIdKey, [](TreeItem &to, const TreeItem &from) { to.setManagerId(from.managerId()); }},
-    {creatorNameKey,
-     [](TreeItem &to, const TreeItem &from) { to.setCreatorName(from.creatorName()); }},
-    {creatorIdKey, [](TreeItem &to, const TreeItem &from) { to.setCreatorId(from.creatorId()); }},
-    {followersKey, [](TreeItem &to, const TreeItem &from) { to.setFollowers(from.followers()); }},
-    {createDateKey,
-     [](TreeItem &to, const TreeItem &from) { to.setCreateDate(from.createDate()); }},
-    {planEndDateKey,
-     [](TreeItem &to, const TreeItem &from) { to.setPlanEndDate(from.planEndDate()); }},
-    {spearStyleKey, copyStyle},
-    {isMovableKey, copyMovable},
-};
-
 /** Whether two values of a state differ; a text that is missing is an empty one. */
 bool differ(const QJsonValue &one, const QJsonValue &other)
 {
@@ -80,15 +27,47 @@ bool differ(const QJsonValue &one, const QJsonValue &other)
     return isText(one) && isText(other) ? one.toString() != other.toString() : one != other;
 }
 
-std::vector<const Attribute *> changedAttributes(const QJsonObject &before,
-                                                 const QJsonObject &after)
+std::vector<const SubjectAttribute *> changedAttributes(const QJsonObject &before,
+                                                        const QJsonObject &after)
 {
-    std::vector<const Attribute *> changed;
-    for (const Attribute &attribute : knownAttributes) {
-        if (differ(before.value(attribute.key), after.value(attribute.key)))
+    std::vector<const SubjectAttribute *> changed;
+    for (const SubjectAttribute &attribute : SubjectAttribute::all()) {
+        if (attribute.uses().testFlag(SubjectAttribute::Edited) &&
+            differ(before.value(attribute.key()), after.value(attribute.key())))
             changed.push_back(&attribute);
     }
     return changed;
+}
+
+/** The keys that the format does not know and in whose values two states differ. */
+QStringList changedOtherKeys(const QJsonObject &before, const QJsonObject &after)
+{
+    QStringList changed;
+    const QJsonObject former = otherFields(before);
+    const QJsonObject later = otherFields(after);
+    for (auto field = former.begin(); field != former.end(); ++field) {
+        if (later.value(field.key()) != field.value())
+            changed.append(field.key());
+    }
+    for (auto field = later.begin(); field != later.end(); ++field) {
+        if (!former.contains(field.key()))
+            changed.append(field.key());
+    }
+    return changed;
+}
+
+/** Gives @p target the fields of @p state with these keys, and only those that the state has. */
+void storeOthers(TreeItem &target, const QStringList &keys, const QJsonObject &state)
+{
+    QJsonObject fields = target.otherFields();
+    for (const QString &key : keys) {
+        const QJsonValue value = state.value(key);
+        if (value.isUndefined())
+            fields.remove(key);
+        else
+            fields.insert(key, value);
+    }
+    target.setOtherFields(fields);
 }
 
 } // namespace
@@ -99,7 +78,8 @@ struct EditAttributes::Private
     struct Edit
     {
         SubjectKey subject;
-        std::vector<const Attribute *> changed;
+        std::vector<const SubjectAttribute *> changed;
+        QStringList changedOthers;
         QJsonObject before;
         QJsonObject after;
         bool isApplied = false;
@@ -107,8 +87,12 @@ struct EditAttributes::Private
         void store(TreeItem &target, const QJsonObject &state) const
         {
             const TreeItem record(state);
-            for (const Attribute *attribute : changed)
+            for (const SubjectAttribute *attribute : changed)
                 attribute->copy(target, record);
+            if (target.spear())
+                target.spear()->updateMovableFlag();
+            if (!changedOthers.isEmpty())
+                storeOthers(target, changedOthers, state);
         }
     };
 
@@ -132,10 +116,9 @@ struct EditAttributes::Private
             model->fishOf(subject)->setModified(true);
             changed.emplace_back(model->indexFromItem(subject));
         }
-        for (const QPersistentModelIndex &persistent : changed) {
-            const QModelIndex index = persistent;
-            if (model && index.isValid())
-                model->tellData(index, index.siblingAtColumn(model->columnCount() - 1));
+        for (const QPersistentModelIndex &index : changed) {
+            if (model)
+                model->announceChange(index);
         }
     }
 };
@@ -159,11 +142,12 @@ EditAttributes::~EditAttributes() = default;
 QJsonObject EditAttributes::stateOf(const TreeItem &subject)
 {
     QJsonObject state = JsonNodes::attributes(subject);
-    state.insert(isMovableKey, subject.spearItemIsMovable());
-    // A null text is written to no file, and stays one only when the state says so.
-    for (QLatin1String key : {urlKey, managerNameKey, managerIdKey, creatorNameKey, creatorIdKey}) {
-        if (!state.contains(key))
-            state.insert(key, QJsonValue());
+    for (const SubjectAttribute &attribute : SubjectAttribute::all()) {
+        // A null text is written to no file, and stays one only when the state says so.
+        const bool isLeftOut = attribute.kind() == SubjectAttribute::Text ||
+                               attribute.kind() == SubjectAttribute::Flag;
+        if (isLeftOut && !attribute.isWritten(subject))
+            state.insert(attribute.key(), attribute.value(subject));
     }
     return state;
 }
@@ -171,10 +155,12 @@ QJsonObject EditAttributes::stateOf(const TreeItem &subject)
 bool EditAttributes::add(const QModelIndex &index, const QJsonObject &before,
                          const QJsonObject &after)
 {
-    std::vector<const Attribute *> changed = changedAttributes(before, after);
-    if (changed.empty() || !m_d->model || !m_d->model->getTreeItem(index))
+    std::vector<const SubjectAttribute *> changed = changedAttributes(before, after);
+    const QStringList changedOthers = changedOtherKeys(before, after);
+    if ((changed.empty() && changedOthers.isEmpty()) || !m_d->model ||
+        !m_d->model->getTreeItem(index))
         return false;
-    m_d->edits.push_back({keyFromIndex(index), std::move(changed), before, after});
+    m_d->edits.push_back({keyFromIndex(index), std::move(changed), changedOthers, before, after});
     return true;
 }
 

@@ -21,7 +21,7 @@ class TreeItem;
  * format as stateOf() makes it. Only attributes in which the two differ are touched: redo() stores
  * those of the one state, undo() those of the other. Title, description, link, status, progress,
  * priority, type, showid, the people, the dates, the own style and whether the bone may be dragged
- * are attributes; identity, place and children are not.
+ * are attributes, and so is each of TreeItem::otherFields(); identity, place and children are not.
  *
  * The change may have been made before the command is pushed, as by a dialog that works on the
  * subject itself: redo() then finds it made.

@@ -41,6 +41,7 @@ private Q_SLOTS:
     void shouldAnswerARightClickWithAMenu();
     void shouldServeExpandButtonsThatNoEditorShows();
     void shouldAutosaveEveryThirtySeconds();
+    void shouldStartTheOneTimerAgain();
     void shouldGoOnAutosaving();
     void shouldAutosaveTheShownDocument();
     void shouldAutosaveNothingWithoutADocument();
@@ -300,6 +301,20 @@ void TestFishEditorConstruction::shouldAutosaveEveryThirtySeconds()
     QCOMPARE(timer->interval(), 30000);
     QVERIFY(timer->isActive());
     QVERIFY(!timer->isSingleShot());
+}
+
+void TestFishEditorConstruction::shouldStartTheOneTimerAgain()
+{
+    FishEditor editor;
+    QTimer *const timer = autosaveTimer(editor);
+    timer->start(1000);
+
+    editor.startSaveTmpFileTimer();
+
+    QCOMPARE(editor.findChildren<QTimer *>(QString(), Qt::FindDirectChildrenOnly).size(), 1);
+    QCOMPARE(autosaveTimer(editor), timer);
+    QCOMPARE(timer->interval(), 30000);
+    QVERIFY(timer->isActive());
 }
 
 void TestFishEditorConstruction::shouldGoOnAutosaving()

@@ -20,6 +20,7 @@ class TestFishEditorViewport : public QObject
 private Q_SLOTS:
     void shouldAskForAnotherZoomValue_data();
     void shouldAskForAnotherZoomValue();
+    void shouldTellOfAPropertyThatIsWritten();
     void shouldKeepAZoomValueWithinItsType();
     void shouldStoreValuesWithoutApplyingThem();
     void shouldScaleByPowersOfTwo_data();
@@ -77,6 +78,24 @@ void TestFishEditorViewport::shouldAskForAnotherZoomValue()
     // A host hands the value back, and then the view follows.
     editor.zoomFish(value);
     QCOMPARE(editor.view()->transform().m11(), std::pow(2.0, (value - 250) / 50.0));
+    QCOMPARE(recorder.take(), QString());
+}
+
+void TestFishEditorViewport::shouldTellOfAPropertyThatIsWritten()
+{
+    FishEditor editor;
+    SignalRecorder recorder(editor);
+
+    QVERIFY(editor.setProperty("zoom", 300));
+    QCOMPARE(recorder.take(), QStringLiteral("zoomValueChanged(300)"));
+    QCOMPARE(editor.view()->transform().m11(), 2.0);
+    QVERIFY(editor.setProperty("rotation", 90));
+    QCOMPARE(recorder.take(), QStringLiteral("rotateValueChanged(90)"));
+    QVERIFY(editor.setProperty("zoom", 300));
+    QVERIFY(editor.setProperty("rotation", 90));
+    QCOMPARE(recorder.take(), QString());
+    editor.zoomFish(250);
+    editor.rotateFish(0);
     QCOMPARE(recorder.take(), QString());
 }
 

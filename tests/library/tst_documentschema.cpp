@@ -229,7 +229,9 @@ void tst_DocumentSchema::shouldFindAMistake_data()
         << QStringLiteral("children") << QJsonValue(QJsonObject());
     QTest::newRow("a child that is no subject")
         << QStringLiteral("children") << QJsonValue(QJsonArray{QJsonObject()});
-    QTest::newRow("an unknown key") << QStringLiteral("colour") << QJsonValue(1);
+    QTest::newRow("a colour that is none") << QStringLiteral("colour") << QJsonValue(1);
+    QTest::newRow("a verdict that is none") << QStringLiteral("verdict") << QJsonValue(QString());
+    QTest::newRow("no votes at all") << QStringLiteral("votes") << QJsonValue(0);
     QTest::newRow("no followers at all") << QStringLiteral("followers") << QJsonValue(QJsonArray());
     QTest::newRow("an incomplete style")
         << QStringLiteral("spearstyle")

@@ -210,6 +210,7 @@ void TestDragDropModel::shouldSupportCopyAndMove()
     const NodeList model(0);
 
     QCOMPARE(model.supportedDropActions(), Qt::CopyAction | Qt::MoveAction);
+    QCOMPARE(model.supportedDragActions(), Qt::CopyAction);
 }
 
 void TestDragDropModel::shouldLetMovableNodesBeDragged()

@@ -25,6 +25,10 @@ private Q_SLOTS:
     void shouldBeNamedAfterACounter(); // the first, since the counter is the process's
     void shouldStartEmptyAndUnnamed();
     void shouldKeepWhatItIsTold();
+    void shouldTellWhatHasChanged();
+    void shouldTellNothingThatWasTakenBack();
+    void shouldTellWhenItIsSaved();
+    void shouldSurviveItsEndWhileItTells();
     void shouldTakeTheCanonicalNameOfAFile();
     void shouldLoseItsNameToAMissingFile();
     void shouldStripNames_data();
@@ -86,6 +90,76 @@ void TestFishInfo::shouldKeepWhatItIsTold()
     QCOMPARE(info.noParentNodeCount(), 3);
     QCOMPARE(info.autoSaveFile(), QStringLiteral("/x/auto"));
     QCOMPARE(info.model(), &model);
+}
+
+void TestFishInfo::shouldTellWhatHasChanged()
+{
+    FishInfo info;
+    QSignalSpy modified(&info, &FishInfo::modifiedChanged);
+    QSignalSpy named(&info, &FishInfo::fileNameChanged);
+
+    info.setModified(true);
+    info.setModified(true);
+    info.setFileName(QStringLiteral("a"));
+    info.setFileName(QStringLiteral("b"));
+    QCOMPARE(modified.count() + named.count(), 0); // not before whoever did it is done
+    QCoreApplication::processEvents();
+
+    QCOMPARE(modified, (QList<QVariantList>{{true}}));
+    QCOMPARE(named, (QList<QVariantList>{{QStringLiteral("b")}}));
+    info.reset();
+    QCoreApplication::processEvents();
+    QCOMPARE(modified, (QList<QVariantList>{{true}, {false}}));
+    QCOMPARE(named.count(), 1);
+    info.setModified(true);
+    QCoreApplication::processEvents();
+    info.setCurrentFile(QStringLiteral("there is none"));
+    QCoreApplication::processEvents();
+    QCOMPARE(modified.takeLast(), QVariantList{false});
+    QCOMPARE(named.takeLast(), QVariantList{QString()});
+}
+
+void TestFishInfo::shouldTellNothingThatWasTakenBack()
+{
+    FishInfo info;
+    const QString name = info.fileName();
+    QSignalSpy modified(&info, &FishInfo::modifiedChanged);
+    QSignalSpy named(&info, &FishInfo::fileNameChanged);
+    info.setModified(true);
+    info.setFileName(QStringLiteral("a"));
+    info.setModified(false);
+    info.setFileName(name);
+    QCoreApplication::processEvents();
+    QCOMPARE(modified.count() + named.count(), 0);
+}
+
+void TestFishInfo::shouldTellWhenItIsSaved()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("a.json"));
+    FishModel model;
+    FishInfo *const info = loadDocument(model, QStringLiteral("A"));
+    QSignalSpy saved(info, &FishInfo::fileSaved);
+    QVERIFY(info->saveFile(path));
+    QVERIFY(!info->saveFile(folder.path()));
+    info->setAutoSaveFile(path);
+    QVERIFY(info->saveTmpFile());
+    QCoreApplication::processEvents();
+    QCOMPARE(saved, (QList<QVariantList>{{path}}));
+}
+
+void TestFishInfo::shouldSurviveItsEndWhileItTells()
+{
+    auto *const info = new FishInfo;
+    const QPointer<FishInfo> alive(info);
+    bool isNameTold = false;
+    connect(info, &FishInfo::modifiedChanged, this, [info] { delete info; });
+    connect(info, &FishInfo::fileNameChanged, this, [&isNameTold] { isNameTold = true; });
+    info->setModified(true);
+    info->setFileName(QStringLiteral("a"));
+    QCoreApplication::processEvents();
+    QVERIFY(!alive);
+    QVERIFY(!isNameTold);
 }
 
 void TestFishInfo::shouldTakeTheCanonicalNameOfAFile()

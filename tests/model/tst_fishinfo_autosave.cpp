@@ -36,6 +36,8 @@ private Q_SLOTS:
     void shouldTouchNothingWithoutModelOrHead_data();
     void shouldTouchNothingWithoutModelOrHead();
     void shouldRememberTheNameOfAFailedAutoSave();
+    void shouldLetNobodyElseReadAnAutoSave_data();
+    void shouldLetNobodyElseReadAnAutoSave();
     void shouldDeleteOldAutoSaves();
 };
 
@@ -230,6 +232,41 @@ void TestFishInfoAutosave::shouldRememberTheNameOfAFailedAutoSave()
 
     QVERIFY(info->autoSaveFile().startsWith(autoSaveFolder() + QStringLiteral("Plan.")));
     QCOMPARE(QDir(autoSaveFolder()).entryList(QDir::Files), QStringList());
+}
+
+void TestFishInfoAutosave::shouldLetNobodyElseReadAnAutoSave_data()
+{
+    QTest::addColumn<int>("mode");
+    QTest::addColumn<int>("autosaved");
+    QTest::newRow("the owner's alone") << 0x6600 << 0x6600;
+    QTest::newRow("the group's") << 0x6640 << 0x6640;
+    QTest::newRow("everybody's") << 0x6644 << 0x6644;
+}
+
+void TestFishInfoAutosave::shouldLetNobodyElseReadAnAutoSave()
+{
+    QFETCH(int, mode);
+    QFETCH(int, autosaved);
+    const QString own = path("plan.json");
+    QVERIFY(m_info->saveFile(own));
+    QVERIFY(QFile::setPermissions(own, QFile::Permissions(mode)));
+    m_info->setFileName(own);
+    const int mask = 0x6066; // a user is told apart from the owner in different ways
+
+    QVERIFY(m_info->saveTmpFile()); // a new file
+    QCOMPARE(int(QFile::permissions(m_info->autoSaveFile())) & mask, autosaved & mask);
+
+    const QString told = path("told.json");
+    m_info->setAutoSaveFile(told);
+    QVERIFY(m_info->saveTmpFile());
+    QCOMPARE(int(QFile::permissions(told)) & mask, autosaved & mask);
+    QVERIFY(QFile::setPermissions(told, QFile::Permissions(0x6666)));
+    QVERIFY(m_info->saveTmpFile()); // one that gave too much
+    QCOMPARE(int(QFile::permissions(told)) & mask, autosaved & mask);
+
+    m_info->setAutoSaveFile(own);
+    QVERIFY(m_info->saveTmpFile());
+    QCOMPARE(int(QFile::permissions(own)) & mask, mode & mask);
 }
 
 void TestFishInfoAutosave::shouldDeleteOldAutoSaves()

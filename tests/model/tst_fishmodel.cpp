@@ -36,6 +36,7 @@ private Q_SLOTS:
     void shouldNumberItsEnumerations();
     void shouldRegisterItsTypes();
     void shouldStartEmpty();
+    void shouldAnnounceAChangedNode();
     void shouldShowDocumentsAtTheTop();
     void shouldShowNodesBelowHeads();
     void shouldAnswerNoIndexOutsideTheTree();
@@ -97,6 +98,25 @@ void TestFishModel::shouldStartEmpty()
     QCOMPARE(model.modelType(), FISH_MODEL_NORMAL);
     QCOMPARE(model.getFishHeadTreeItem(), nullptr);
     QVERIFY(!model.index(0, 0).isValid());
+}
+
+void TestFishModel::shouldAnnounceAChangedNode()
+{
+    FishModel model;
+    FishModel other;
+    loadDocument(model, QStringLiteral("A[a,b]"));
+    loadDocument(other, QStringLiteral("B"));
+    QSignalSpy changed(&model, &QAbstractItemModel::dataChanged);
+    const QModelIndex b = model.index(1, 0, model.index(0, 0));
+
+    model.announceChange(b.siblingAtColumn(2));
+
+    QCOMPARE(changed.count(), 1);
+    QCOMPARE(changed.first().at(0).toModelIndex(), b);
+    QCOMPARE(changed.first().at(1).toModelIndex(), b.siblingAtColumn(4));
+    model.announceChange(QModelIndex());
+    model.announceChange(other.index(0, 0));
+    QCOMPARE(changed.count(), 1);
 }
 
 void TestFishModel::shouldShowDocumentsAtTheTop()

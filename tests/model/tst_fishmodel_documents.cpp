@@ -75,8 +75,14 @@ void TestFishModelDocuments::shouldMakeDocumentsWithoutSignals()
 {
     QSignalSpy about(m_model.get(), &QAbstractItemModel::rowsAboutToBeInserted);
 
+    const FishInfo reference; // names count up
     QVERIFY(m_model->insertFishToList(1, 2));
 
+    const auto number = [](const FishInfo *info) {
+        return info->fileName().mid(4).section(QLatin1Char('.'), 0, 0).toInt();
+    };
+    QCOMPARE(number(m_model->fishList().at(1)), number(&reference) + 2); // the newest first
+    QCOMPARE(number(m_model->fishList().at(2)), number(&reference) + 1);
     QCOMPARE(heads(*m_model), QStringLiteral("A 自由主题 自由主题 B C"));
     const TreeItem *const head = m_model->fishList().at(1)->treeItem()->childAtIndex(0);
     QCOMPARE(head->uuid(), QString());

@@ -46,6 +46,7 @@ private Q_SLOTS:
     void shouldReloadADocument();
     void shouldReportReloadsThatFail();
     void shouldReloadADocumentOfAnotherModelThere();
+    void shouldSurviveTheEndOfWhatIsReloaded();
     void shouldReloadADocumentOfNoModel();
     void shouldLoadWhatItSaved();
 
@@ -264,10 +265,11 @@ void TestFishModelLoading::shouldReloadADocument()
     QCOMPARE(info->fileName(), file);
     QCOMPARE(info->nodeCount(), 2);
 
-    // A document of another name is not found under this one.
+    // Whatever else has that name, and whatever name it has itself.
     info->setFileName(QStringLiteral("elsewhere"));
+    loadDocument(model, QStringLiteral("Other"))->setFileName(file);
     QCOMPARE(model.reloadDataFromFile(file, info), 0);
-    QCOMPARE(signals.take(), QStringLiteral("modelReset(), fishLoaded(invalid, 0)"));
+    QCOMPARE(signals.take(), QStringLiteral("modelReset(), fishLoaded(Effect, 0)"));
 }
 
 void TestFishModelLoading::shouldReportReloadsThatFail()
@@ -296,11 +298,36 @@ void TestFishModelLoading::shouldReloadADocumentOfAnotherModelThere()
     FishInfo *const info = loadDocument(owner, QStringLiteral("A[a]"));
     const ModelFollower follower(owner);
 
+    QSignalSpy loaded(&model, &FishModel::fishLoaded);
     QCOMPARE(model.reloadDataFromFile(makeFile("other.json", document), info), 0);
 
+    QCOMPARE(loaded.count(), 1);
+    QCOMPARE(loaded.first().first().toModelIndex(), owner.index(0, 0));
     QCOMPARE(follower.text(), QStringLiteral("Effect[Man]"));
     QCOMPARE(info->model(), &owner);
     QCOMPARE(model.rowCount(), 0);
+}
+
+void TestFishModelLoading::shouldSurviveTheEndOfWhatIsReloaded()
+{
+    const QString file = makeFile("reload.json", document);
+    FishModel model;
+    QCOMPARE(model.loadFishFromFile(file), 0);
+    FishInfo *const info = model.fishList().first();
+    QSignalSpy loaded(&model, &FishModel::fishLoaded);
+    const auto connection = connect(&model, &QAbstractItemModel::modelReset, this,
+                                    [&model, info] { model.unloadFish(info); });
+    QCOMPARE(model.reloadDataFromFile(file, info), 0);
+    disconnect(connection);
+    QCOMPARE(loaded.count(), 1);
+    QVERIFY(!loaded.first().first().toModelIndex().isValid());
+
+    FishModel owner;
+    auto ending = std::make_unique<FishModel>();
+    FishInfo *const other = loadDocument(owner, QStringLiteral("A"));
+    connect(&owner, &QAbstractItemModel::modelReset, this, [&ending] { ending.reset(); });
+    QCOMPARE(ending->reloadDataFromFile(file, other), 0);
+    QCOMPARE(treeToText(*other->treeItem()->childAtIndex(0)), QStringLiteral("Effect[Man]"));
 }
 
 void TestFishModelLoading::shouldReloadADocumentOfNoModel()

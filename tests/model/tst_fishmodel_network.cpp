@@ -21,6 +21,8 @@
 #include <algorithm>
 #include <memory>
 
+#include <limits>
+
 using namespace TestSupport;
 
 namespace {
@@ -130,6 +132,9 @@ private Q_SLOTS:
     void cleanup();
     void shouldLoadADiagram();
     void shouldLoadWithinTheLimit();
+    void shouldTellHowFarALoadIs();
+    void shouldCancelLoads();
+    void shouldTellWhyALoadFailed();
     void shouldFollowRedirects();
     void shouldNotFollowRedirectsForEver();
     void shouldReportWhatIsNoDiagram_data();
@@ -203,6 +208,65 @@ void TestFishModelNetwork::shouldLoadWithinTheLimit()
     QCOMPARE(load(m_server->url("/a")), QStringLiteral("fishLoaded(Effect, 0)"));
     m_model->setReplyLimit(0); // any size
     QCOMPARE(load(m_server->url("/a")), QStringLiteral("fishLoaded(Effect, 0)"));
+    m_server->tell("/large", response("200 OK", QByteArray(document) + QByteArray(2000000, ' ')));
+    for (const qint64 limit : {std::numeric_limits<qint64>::max(), qint64(4000000)}) {
+        m_model->setReplyLimit(limit);
+        QCOMPARE(load(m_server->url("/large")), QStringLiteral("fishLoaded(Effect, 0)"));
+    }
+}
+
+void TestFishModelNetwork::shouldTellHowFarALoadIs()
+{
+    const QByteArray large = QByteArray(document) + QByteArray(200000, ' ');
+    m_server->tell("/large", response("200 OK", large));
+    m_server->tell("/unknown",
+                   QByteArray("HTTP/1.1 200 OK\r\nConnection: close\r\n\r\n") + document);
+    QSignalSpy progress(m_model.get(), &FishModel::loadProgress);
+    QVERIFY(!m_model->isLoading());
+
+    QCOMPARE(load(m_server->url("/large")), QStringLiteral("fishLoaded(Effect, 0)"));
+
+    QVERIFY(!m_model->isLoading());
+    QVERIFY(progress.count() > 0);
+    QCOMPARE(progress.last(),
+             QVariantList({m_server->url("/large"), qint64(large.size()), qint64(large.size())}));
+    progress.clear();
+    QCOMPARE(load(m_server->url("/unknown")), QStringLiteral("fishLoaded(Effect, 0)"));
+    QCOMPARE(progress.last().last().toLongLong(), Q_INT64_C(-1));
+    QCOMPARE(m_model->loadError(), QString());
+}
+
+void TestFishModelNetwork::shouldCancelLoads()
+{
+    m_server->tell("/a", response("200 OK", QByteArray(document)).left(60), false);
+    QSignalSpy loaded(m_model.get(), &FishModel::fishLoaded);
+    m_model->loadFishFromUrl(m_server->url("/a"));
+    m_model->loadFishFromUrl(m_server->url("/a"));
+    QVERIFY(m_model->isLoading());
+
+    m_model->cancelLoads();
+
+    QVERIFY(!m_model->isLoading());
+    QTRY_COMPARE(loaded.count(), 2);
+    QCOMPARE(loaded.first().last().value<MODEL_ERROR>(), MODEL_DATA_ERROR);
+    QVERIFY(!m_model->loadError().isEmpty());
+    m_model->cancelLoads(); // nothing is left
+}
+
+void TestFishModelNetwork::shouldTellWhyALoadFailed()
+{
+    m_server->tell("/text", response("200 OK", "{\n\"title\":"));
+    QCOMPARE(load(m_server->url("/text")), QStringLiteral("fishLoaded(invalid, -10002)"));
+    QVERIFY(m_model->loadError().contains(QStringLiteral("line 2")));
+    m_server->tell("/a", response("200 OK", document));
+    m_model->setReplyLimit(10);
+    QCOMPARE(load(m_server->url("/a")), QStringLiteral("fishLoaded(invalid, -10002)"));
+    QVERIFY(m_model->loadError().contains(QStringLiteral("too large")));
+    m_model->setReplyLimit(0);
+    QCOMPARE(load(m_server->url("/a")), QStringLiteral("fishLoaded(Effect, 0)"));
+    QCOMPARE(m_model->loadError(), QString());
+    QCOMPARE(m_model->loadFishFromFile(QStringLiteral("/there is none")), -10001);
+    QVERIFY(!m_model->loadError().isEmpty());
 }
 
 void TestFishModelNetwork::shouldFollowRedirects()

@@ -49,7 +49,9 @@ private Q_SLOTS:
     void shouldSkipNullNodes();
     void shouldAppendNothingFromAnEmptyList();
     void shouldRefuseNodesOfThisModel();
+    void shouldRefuseNodesOfAnotherModel();
     void shouldRefuseANodeTwice();
+    void shouldJudgeManyNodesInOneWalk();
     void shouldTakeANodeOutOfItsFormerTree();
     void shouldUseWaitingNodesOnce();
     void shouldRemoveSubjects();
@@ -266,24 +268,67 @@ void TestFishModelRows::shouldRefuseNodesOfThisModel()
     QCOMPARE(m_follower->announcements(), before);
     QCOMPARE(tree(), QStringLiteral("A[a,b,c]"));
 
-    QVERIFY(!m_model->insertExistItemRows(b, {makeNode("1"), item}));
-    QVERIFY(m_model->insertExistItemRows(b, {item, makeNode("2")}));
-    QCOMPARE(tree(), QStringLiteral("A[a,b[1,2],c]"));
+    const std::unique_ptr<TreeItem> one(makeNode("1"));
+    QVERIFY(!m_model->insertExistItemRows(b, {one.get(), item}));
+    QVERIFY(!m_model->insertExistItemRows(b, {item, one.get()}));
+    QVERIFY(!m_model->insertExistItemRows(QModelIndex(), {one.get(), item}));
+    QCOMPARE(m_follower->announcements(), before);
+    QCOMPARE(tree(), QStringLiteral("A[a,b,c]"));
+    QVERIFY(!one->parent());
+    QCOMPARE(one->uuid(), QStringLiteral("u-1"));
+}
+
+void TestFishModelRows::shouldRefuseNodesOfAnotherModel()
+{
+    FishModel other;
+    TreeItem *const theirs = loadDocument(other, QStringLiteral("B[b[x]]"))->treeItem();
+    TreeItem *const b = theirs->childAtIndex(0)->childAtIndex(0);
+    const std::unique_ptr<TreeItem> one(makeNode("1"));
+    const int before = m_follower->announcements();
+
+    QVERIFY(!m_model->insertExistItemRows(head(), {b}));
+    QVERIFY(!m_model->insertExistItemRows(head(), {one.get(), b->childAtIndex(0)}));
+    QVERIFY(!m_model->insertExistItemRows(QModelIndex(), {theirs->childAtIndex(0)}));
+    QVERIFY(!m_model->insertExistItemRows(QModelIndex(), {theirs}));
+    QVERIFY(!m_model->putRow(0, b, head()));
+    QVERIFY(!m_model->insertFishToList(0, b));
+    const FishInfo loose;
+    QVERIFY(!m_model->insertExistItemRows(head(), {loose.treeItem()}));
+
+    QCOMPARE(m_follower->announcements(), before);
+    QCOMPARE(tree(), QStringLiteral("A[a,b,c]"));
+    QCOMPARE(treeToText(*theirs->childAtIndex(0)), QStringLiteral("B[b[x]]"));
 }
 
 void TestFishModelRows::shouldRefuseANodeTwice()
 {
-    TreeItem *const node = makeNode("new");
+    const std::unique_ptr<TreeItem> node(makeNode("new"));
     TreeItem *const below = makeNode("below");
     node->appendChild(below);
+    below->appendChild(makeNode("child"));
 
-    QVERIFY(!m_model->insertExistItemRows(head(), {node, node}));
-    QCOMPARE(tree(), QStringLiteral("A[a,b,c,new[below]]"));
+    QVERIFY(!m_model->insertExistItemRows(head(), {node.get(), node.get()}));
+    QVERIFY(!m_model->insertExistItemRows(head(), {node.get(), below}));
+    QVERIFY(!m_model->insertExistItemRows(head(), {node.get(), below->childAtIndex(0)}));
+    QCOMPARE(tree(), QStringLiteral("A[a,b,c]"));
+    QCOMPARE(treeToText(*node), QStringLiteral("new[below[child]]"));
+}
 
-    TreeItem *const other = makeNode("other");
-    other->appendChild(makeNode("child"));
-    QVERIFY(!m_model->insertExistItemRows(head(), {other, other->childAtIndex(0)}));
-    QCOMPARE(tree(), QStringLiteral("A[a,b,c,new[below],other[child]]"));
+void TestFishModelRows::shouldJudgeManyNodesInOneWalk()
+{
+    constexpr int depth = 100000;
+    const std::unique_ptr<TreeItem> chain = makeChain(depth);
+    TreeItem *last = chain.get();
+    while (last->childCount() > 0)
+        last = last->childAtIndex(0);
+    QList<TreeItem *> leaves;
+    for (int i = 0; i < depth; ++i) {
+        leaves.append(makeNode("leaf"));
+        last->appendChild(leaves.last());
+    }
+
+    QVERIFY(m_model->insertExistItemRows(head(), leaves)); // a walk for each would take minutes
+    QCOMPARE(m_model->rowCount(head()), 3 + depth);
 }
 
 void TestFishModelRows::shouldTakeANodeOutOfItsFormerTree()

@@ -3,6 +3,8 @@
 
 #include <tests/app/appfixture.h>
 
+#include <app/panels/detailspanel.h>
+
 #include <fishbone/items/taskstatusinfo.h>
 #include <fishbone/items/taskstatusitem.h>
 
@@ -19,6 +21,7 @@
 #include <QToolButton>
 
 #include <fishbone/items/linkitem.h>
+#include <fishbone/model/subjectattribute.h>
 #include <fishbone/style/spearstyle.h>
 #include <fishbone/style/spearstyledialog.h>
 
@@ -52,6 +55,23 @@ void addFollower(const AppFixture &app, const QString &name)
     QTest::keyClick(field, Qt::Key_Return);
 }
 
+/// The texts and values of all fields.
+QString allThatIsShown(const QWidget &panel)
+{
+    QStringList shown;
+    const QList<QWidget *> fields = panel.findChildren<QWidget *>();
+    for (const QWidget *field : fields) {
+        for (const char *property :
+             {"text", "plainText", "value", "currentIndex", "checked", "date"})
+            shown.append(field->property(property).toString());
+        if (const auto *const list = qobject_cast<const QListWidget *>(field)) {
+            for (int row = 0; row < list->count(); ++row)
+                shown.append(list->item(row)->text());
+        }
+    }
+    return shown.join(QLatin1Char('|'));
+}
+
 void apply(const AppFixture &app)
 {
     auto *const button = app.widget<QPushButton>("detailsApply");
@@ -69,6 +89,8 @@ class TestDetailsPanel : public QObject
 private Q_SLOTS:
     void initTestCase();
     void shouldShowTheSelectedSubject();
+    void shouldShowEveryAttributeThatDetailsHave_data();
+    void shouldShowEveryAttributeThatDetailsHave();
     void shouldShowNothingWithoutASelection();
     void shouldApplyWhatIsEntered();
     void shouldRevertWhatIsEntered();
@@ -115,6 +137,42 @@ void TestDetailsPanel::shouldShowTheSelectedSubject()
     QCOMPARE(listed(app), QStringList({QStringLiteral("a"), QStringLiteral("b")}));
     QVERIFY(!app.widget<QPushButton>("detailsApply")->isEnabled());
     QVERIFY(!app.document()->modified());
+}
+
+void TestDetailsPanel::shouldShowEveryAttributeThatDetailsHave_data()
+{
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<QVariant>("value");
+    for (const SubjectAttribute &attribute : SubjectAttribute::all()) {
+        if (!attribute.uses().testFlag(SubjectAttribute::Detailed))
+            continue;
+        const QString key = attribute.key();
+        QVariant value = key;
+        if (attribute.kind() == SubjectAttribute::Number)
+            value = 3;
+        else if (attribute.kind() == SubjectAttribute::Date)
+            value = Q_INT64_C(1500000000000);
+        else if (attribute.kind() == SubjectAttribute::Texts)
+            value = QStringList{key};
+        QTest::newRow(attribute.key().data()) << key << value;
+    }
+}
+
+void TestDetailsPanel::shouldShowEveryAttributeThatDetailsHave()
+{
+    QFETCH(QString, key);
+    QFETCH(QVariant, value);
+    AppFixture app;
+    auto *const panel = app.window.findChild<DetailsPanel *>();
+    const QModelIndex index = app.window.session()->model()->index(0, 0);
+    panel->showSubject(index);
+    const QString before = allThatIsShown(*panel);
+
+    SubjectAttribute::find(key)->set(*app.window.session()->model()->getTreeItem(index), value);
+    panel->showSubject({});
+    panel->showSubject(index);
+
+    QVERIFY(allThatIsShown(*panel) != before);
 }
 
 void TestDetailsPanel::shouldShowNothingWithoutASelection()
