@@ -438,7 +438,7 @@ void FishEditor::modelDataChanged(const QModelIndex &topLeft, const QModelIndex 
     const FishModel *const model = fishModel();
     const QPointer<FishInfo> document =
         model && topLeft.isValid() ? model->fishOfTold(ownIndex(topLeft)) : currentFishInfo();
-    if (topLeft.column() == 0)
+    if (topLeft.column() == 0 && !m_stackOwner->postponesLayout())
         updateFish(false);
     if (document)
         document->setModified(true);

@@ -32,7 +32,8 @@ bool FishEditor::push(const Call &call, std::unique_ptr<UndoCommand> command)
 /// What follows a command: the drawing, then the documents.
 void FishEditor::finish(const Call &call, Follow follow)
 {
-    if (follow != Follow::Nothing)
+    const bool isLayoutDue = m_stackOwner->takePostponedLayout();
+    if (follow != Follow::Nothing || isLayoutDue)
         updateFish(follow == Follow::Rebuild);
     if (call.isAlive())
         call.mark(Call::Otherwise::Shown);

@@ -5,6 +5,12 @@
 
 #include <utility>
 
+bool FishEditor::StackOwner::postponesLayout()
+{
+    m_isLayoutDue = m_isLayoutDue || !m_calls.empty();
+    return !m_calls.empty();
+}
+
 void FishEditor::StackOwner::stackCallBegins()
 {
     const bool isOwn = std::exchange(m_expectsOwnCall, false);
@@ -19,6 +25,7 @@ void FishEditor::StackOwner::stackCallEnds(bool ran)
     m_calls.pop_back();
     if (!call || !ran)
         return;
+    m_isLayoutDue = false;
     m_editor->updateFish(false);
     call->mark(Call::Otherwise::Nothing);
 }
