@@ -7,10 +7,11 @@
 #include <fishbone/model/fishinfo.h>
 #include <fishbone/model/fishmodel.h>
 
-FishEditor::Call::Call(FishEditor *editor)
+FishEditor::Call::Call(FishEditor *editor, AtItsEnd end)
     : m_editor(editor)
     , m_hold(editor->scene())
     , m_since(FishModel::changeStamp())
+    , m_laysOut(end == AtItsEnd::LaysOut)
 {
     m_editor->m_d->calls.append(this);
 }

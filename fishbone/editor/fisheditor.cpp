@@ -475,7 +475,10 @@ void FishEditor::modelDataChanged(const QModelIndex &topLeft, const QModelIndex 
     const FishModel *const model = fishModel();
     const QPointer<FishInfo> document =
         model && topLeft.isValid() ? model->fishOfTold(ownIndex(topLeft)) : currentFishInfo();
-    if (topLeft.column() == 0)
+    const auto &calls = m_d->calls;
+    const bool isLaidOutLater =
+        std::any_of(calls.cbegin(), calls.cend(), [](const Call *c) { return c->laysOut(); });
+    if (topLeft.column() == 0 && !isLaidOutLater)
         updateFish(false);
     if (document)
         document->setModified(true);

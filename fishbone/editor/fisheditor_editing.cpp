@@ -41,7 +41,8 @@ void FishEditor::finish(const Call &call, Follow follow)
 
 void FishEditor::execute(std::unique_ptr<UndoCommand> command, Follow follow)
 {
-    const Call call(this);
+    const Call call(this,
+                    follow == Follow::Nothing ? Call::AtItsEnd::Nothing : Call::AtItsEnd::LaysOut);
     if (push(call, std::move(command)))
         finish(call, follow);
 }
@@ -49,7 +50,7 @@ void FishEditor::execute(std::unique_ptr<UndoCommand> command, Follow follow)
 /// Runs a command outside the history.
 void FishEditor::executeOnce(UndoCommand &&command)
 {
-    const Call call(this);
+    const Call call(this, Call::AtItsEnd::LaysOut);
     command.redo();
     if (call.isAlive())
         finish(call, Follow::Layout);
@@ -59,7 +60,7 @@ bool FishEditor::run(std::unique_ptr<UndoCommand> command)
 {
     if (!command)
         return false;
-    const Call call(this);
+    const Call call(this, Call::AtItsEnd::LaysOut);
     if (!push(call, std::move(command)))
         return false;
     updateFish(false);
@@ -91,7 +92,7 @@ void FishEditor::redo()
 
 void FishEditor::step(void (UndoStack::*side)())
 {
-    const Call call(this);
+    const Call call(this, Call::AtItsEnd::LaysOut);
     m_d->stackOwner.expectOwnCall();
     (m_d->undoStack->*side)();
     if (call.isAlive())

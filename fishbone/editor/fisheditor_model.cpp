@@ -63,12 +63,14 @@ void FishEditor::forgetRemovedRoot(const QModelIndex &parent, int first, int las
     if (!above.isValid() || above.row() < first || above.row() > last)
         return;
     m_d->rootRemoved = true;
+    m_d->removal = std::make_unique<Call>(this); // nobody shall hear before the rows are gone
     showNothing();
 }
 
 /// Shows nothing any more when a listener of the announcement has drawn what was to go.
 void FishEditor::forgetLostRoot()
 {
+    const std::unique_ptr<Call> removal = std::move(m_d->removal); // which tells at the end
     if (!headSpear() || headSpear()->modelIndex().isValid())
         return;
     m_d->rootRemoved = true;

@@ -52,5 +52,6 @@ struct FishEditor::Private
     bool pasteAsNew = false;
 
     QList<Call *> calls;           ///< the innermost one last
+    std::unique_ptr<Call> removal; ///< from the announcement that the shown root goes to its end
     bool selectionChanged = false; ///< within them
 };
