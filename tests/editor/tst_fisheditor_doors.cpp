@@ -5,6 +5,7 @@
 #include <QTimer>
 #include <QtTest>
 
+#include <fishbone/items/textitem.h>
 #include <tests/program/testprogram.h>
 #include <tests/support/editorfixture.h>
 #include <tests/support/viewmouse.h>
