@@ -81,8 +81,10 @@ void UndoStack::push(UndoCommand *command)
     if (!run(m_d->commands.count() - 1, &UndoCommand::redo))
         return;
     settle();
+    const QPointer<UndoStack> self(this);
     boundHistory();
-    emitChange();
+    if (self) // also after the oldest command has ended
+        emitChange();
 }
 
 int UndoStack::currentIndex() const

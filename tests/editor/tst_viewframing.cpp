@@ -100,7 +100,7 @@ void TestViewFraming::shouldKnowNoScaleOfNothing()
 {
     Stage stage;
     QCOMPARE(stage.framing.scaleFor(QRectF()), 0.0);
-    QCOMPARE(stage.framing.scaleFor(QRectF(0, 0, 1e-320, 1)), 0.0);
+    QCOMPARE(stage.framing.scaleFor(QRectF(0, 0, 1e-320, 1e-320)), 0.0);
     stage.view.viewport()->resize(100, 200);
     QCOMPARE(stage.framing.scaleFor(QRectF(0, 0, 100, 100)), 0.0);
 }
