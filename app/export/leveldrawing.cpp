@@ -3,14 +3,13 @@
 
 #include <app/export/leveldrawing.h>
 
-#include <app/diagram/editorautosave.h>
 #include <app/diagram/expansion.h>
 
 #include <fishbone/model/fishmodel.h>
 
 LevelDrawing::LevelDrawing(FishModel &model, const QModelIndex &root)
 {
-    endAutosave(m_editor);
+    m_editor.setAutosaveInterval(0);
     m_editor.setModel(&model);
     m_editor.setRootIndex(root);
 }

@@ -4,9 +4,9 @@
 #include <app/recovery/recoverycopy.h>
 
 #include <app/diagram/diagramsession.h>
-#include <app/diagram/editorautosave.h>
 #include <app/recovery/recoverystore.h>
 
+#include <fishbone/editor/fisheditor.h>
 #include <fishbone/model/fishinfo.h>
 
 #include <QFile>
@@ -29,7 +29,7 @@ RecoveryCopy::RecoveryCopy(DiagramSession *session, QObject *parent)
     : QObject(parent)
     , m_session(session)
 {
-    endAutosave(*session->editor());
+    session->editor()->setAutosaveInterval(0);
     connect(session, &DiagramSession::stateChanged, this, [this] { m_mayHaveChanged = true; });
     connect(&m_timer, &QTimer::timeout, this, &RecoveryCopy::saveChanges);
     m_timer.start(interval());

@@ -3,27 +3,28 @@
 
 #include <fishbone/editor/editorcall.h>
 
-#include <fishbone/editor/fishscene.h>
+#include <fishbone/editor/fisheditor_p.h>
 #include <fishbone/model/fishinfo.h>
 #include <fishbone/model/fishmodel.h>
 
-FishEditor::Call::Call(FishEditor *editor)
+FishEditor::Call::Call(FishEditor *editor, AtItsEnd end)
     : m_editor(editor)
     , m_hold(editor->scene())
     , m_since(FishModel::changeStamp())
+    , m_laysOut(end == AtItsEnd::LaysOut)
 {
-    m_editor->m_calls.append(this);
+    m_editor->m_d->calls.append(this);
 }
 
 FishEditor::Call::~Call()
 {
     if (!m_editor)
         return; // and with it the scene, whose selection nobody is told of any more
-    m_editor->m_calls.removeOne(this);
+    m_editor->m_d->calls.removeOne(this);
     const QPointer<FishEditor> editor(m_editor);
     m_hold.release();
     // What a listener has changed was told by the scene at once, but not by the editor.
-    if (editor && editor->m_calls.isEmpty() && editor->m_selectionChanged)
+    if (editor && editor->m_d->calls.isEmpty() && editor->m_d->selectionChanged)
         editor->sceneSelectionChanged();
 }
 

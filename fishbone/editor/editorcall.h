@@ -22,12 +22,15 @@ class FishEditor::Call
 public:
     /// What to mark when no model has told of a change.
     enum class Otherwise { Nothing, Shown };
+    /// Whether the call lays out at its end, so that nobody needs to within it.
+    enum class AtItsEnd { Nothing, LaysOut };
 
-    explicit Call(FishEditor *editor);
+    explicit Call(FishEditor *editor, AtItsEnd end = AtItsEnd::Nothing);
     ~Call();
 
     /// Whether the editor still lives.
     bool isAlive() const { return m_editor; }
+    bool laysOut() const { return m_laysOut; }
     /// The editor dies before the call has ended.
     void abandon() { m_editor = nullptr; }
     /// Whether any document has changed since the call began.
@@ -41,4 +44,5 @@ private:
     FishEditor *m_editor;
     SelectionHold m_hold;
     quint64 m_since;
+    bool m_laysOut;
 };

@@ -8,17 +8,15 @@
 #include <QAbstractProxyModel>
 #include <QHBoxLayout>
 #include <QMimeData>
-#include <QTimer>
 #include <QVector>
 
 #include <fishbone/base/followlanguage.h>
-#include <fishbone/drawing/fishdrawing.h>
 #include <fishbone/drawing/spearbuilder.h>
 #include <fishbone/editor/accessiblediagram.h>
 #include <fishbone/editor/editorcall.h>
+#include <fishbone/editor/fisheditor_p.h>
 #include <fishbone/editor/fishscene.h>
 #include <fishbone/editor/graphicsview.h>
-#include <fishbone/editor/stackowner.h>
 #include <fishbone/items/expanditem.h>
 #include <fishbone/items/spearitem.h>
 #include <fishbone/model/fishinfo.h>
@@ -26,8 +24,7 @@
 #include <fishbone/undo/undostack.h>
 
 namespace {
-constexpr int sunkenPanel = 54;         ///< QFrame::StyledPanel | QFrame::Sunken
-constexpr int autosaveInterval = 30000; ///< milliseconds
+constexpr int sunkenPanel = 54; ///< QFrame::StyledPanel | QFrame::Sunken
 
 QVector<FishEditor *> &livingEditors()
 {
@@ -44,26 +41,32 @@ void registerMetaTypes()
 }
 } // namespace
 
+FishEditor::Private::Private(FishEditor *editor)
+    : undoStack(new UndoStack(editor))
+    , view(new GraphicsView(editor))
+    , stackOwner(editor)
+    , framing(*view)
+    , menu(*editor)
+    , autosave(editor, [editor] { editor->saveTmpFile(); })
+{
+    undoStack->setOwner(&stackOwner);
+}
+
 FishEditor::FishEditor(QWidget *parent)
     : QFrame(parent)
-    , m_drawing(std::make_unique<FishDrawing>())
+    , m_d(std::make_unique<Private>(this))
 {
     registerMetaTypes();
     AccessibleDiagram::install();
-    m_undoStack = new UndoStack(this);
-    m_stackOwner = std::make_unique<StackOwner>(this);
-    m_undoStack->setOwner(m_stackOwner.get());
     setFrameStyle(sunkenPanel);
-    m_view = new GraphicsView(this);
-    connect(m_view, &GraphicsView::rightClicked, this, &FishEditor::onRightClicked);
-    connect(m_view, &GraphicsView::moveSpear, this, &FishEditor::moveItems);
+    connect(view(), &GraphicsView::rightClicked, this, &FishEditor::onRightClicked);
+    connect(view(), &GraphicsView::moveSpear, this, &FishEditor::moveItems);
     // Queued, so that a drop is handled when the drag has ended.
-    connect(m_view, &GraphicsView::dropTo, this, &FishEditor::onDropTo, Qt::QueuedConnection);
+    connect(view(), &GraphicsView::dropTo, this, &FishEditor::onDropTo, Qt::QueuedConnection);
     auto *const layout = new QHBoxLayout(this);
-    layout->addWidget(m_view);
-    m_scene = std::make_unique<FishScene>();
-    connect(m_scene.get(), &FishScene::selectionChanged, this, &FishEditor::sceneSelectionChanged);
-    m_view->setScene(m_scene.get());
+    layout->addWidget(view());
+    connect(scene(), &FishScene::selectionChanged, this, &FishEditor::sceneSelectionChanged);
+    view()->setScene(scene());
     setupMatrix();
     ExpandItem::setFishEditor(this);
     startSaveTmpFileTimer();
@@ -74,8 +77,8 @@ FishEditor::FishEditor(QWidget *parent)
 FishEditor::~FishEditor()
 {
     livingEditors().removeOne(this);
-    m_undoStack->setOwner(nullptr);
-    for (Call *call : qAsConst(m_calls))
+    m_d->undoStack->setOwner(nullptr);
+    for (Call *call : qAsConst(m_d->calls))
         call->abandon();
     // A model below the editor dies later than this part of it, and must not call it any more.
     const QList<QAbstractItemModel *> models = findChildren<QAbstractItemModel *>();
@@ -83,19 +86,52 @@ FishEditor::~FishEditor()
         model->disconnect(this);
     // The scene goes first and reports nothing more: neither host nor view shall hear of the
     // selection that dies with it.
-    m_scene->blockSignals(true);
-    m_headSpear = SpearPointer();
-    m_view->setScene(nullptr);
-    m_scene.reset();
+    m_d->scene->blockSignals(true);
+    m_d->headSpear = SpearPointer();
+    m_d->view->setScene(nullptr);
+    m_d->scene.reset();
+    // Its timer is a child and must not find this part of the editor gone.
+    m_d->autosave.setInterval(0);
+}
+
+GraphicsView *FishEditor::view() const
+{
+    return m_d->view;
+}
+
+FishScene *FishEditor::scene() const
+{
+    return m_d->scene.get();
+}
+
+UndoStack *FishEditor::undoStack() const
+{
+    return m_d->undoStack;
+}
+
+QAbstractItemModel *FishEditor::model() const
+{
+    return m_d->model;
+}
+
+QModelIndex FishEditor::rootIndex() const
+{
+    return m_d->rootIndex;
+}
+
+SpearItem *FishEditor::headSpear() const
+{
+    return m_d->headSpear.get();
 }
 
 void FishEditor::startSaveTmpFileTimer()
 {
-    if (!m_saveTimer) {
-        m_saveTimer = new QTimer(this);
-        connect(m_saveTimer, &QTimer::timeout, this, &FishEditor::saveTmpFile);
-    }
-    m_saveTimer->start(autosaveInterval);
+    m_d->autosave.start();
+}
+
+void FishEditor::setAutosaveInterval(int ms)
+{
+    m_d->autosave.setInterval(ms);
 }
 
 void FishEditor::saveTmpFile()
@@ -106,7 +142,7 @@ void FishEditor::saveTmpFile()
 
 FishModel *FishEditor::fishModel() const
 {
-    return qobject_cast<FishModel *>(m_model.data());
+    return qobject_cast<FishModel *>(m_d->model.data());
 }
 
 int FishEditor::modelType() const
@@ -117,7 +153,7 @@ int FishEditor::modelType() const
 
 void FishEditor::setModel(QAbstractItemModel *model)
 {
-    m_model = model;
+    m_d->model = model;
     if (model)
         connectModel(model);
 }
@@ -130,7 +166,7 @@ QModelIndex FishEditor::spearIndex(SpearItem *spear) const
 /// The index of the editor's model that \a index, of any model, stands for; invalid for none.
 QModelIndex FishEditor::ownIndex(QModelIndex index) const
 {
-    while (index.isValid() && index.model() != m_model) {
+    while (index.isValid() && index.model() != m_d->model) {
         const auto *const proxy = qobject_cast<const QAbstractProxyModel *>(index.model());
         index = proxy ? proxy->mapToSource(index) : QModelIndex();
     }
@@ -143,16 +179,16 @@ SpearItem *FishEditor::spearOf(const QModelIndex &index) const
     const FishModel *const model = fishModel();
     const TreeItem *const subject = model ? model->getTreeItem(ownIndex(index)) : nullptr;
     SpearItem *const spear = subject ? subject->spear() : nullptr;
-    return spear && spear->scene() == m_scene.get() ? spear : nullptr;
+    return spear && spear->scene() == m_d->scene.get() ? spear : nullptr;
 }
 
 FishInfo *FishEditor::currentFishInfo() const
 {
     const FishModel *const model = fishModel();
     // What is shown may come from a model set earlier, whose rows are not those of this one.
-    if (!model || !m_rootIndex.isValid() || m_rootIndex.model() != model)
+    if (!model || !m_d->rootIndex.isValid() || m_d->rootIndex.model() != model)
         return nullptr;
-    QModelIndex top = m_rootIndex;
+    QModelIndex top = m_d->rootIndex;
     while (top.parent().isValid())
         top = top.parent();
     return model->fishList().value(top.row());
@@ -177,21 +213,21 @@ int FishEditor::directionFor(const SpearItem *parent, int level, int row)
 
 void FishEditor::showNothing()
 {
-    m_headSpear = SpearPointer();
+    m_d->headSpear = SpearPointer();
     const Call call(this);
     {
-        const SelectionSilence silence(m_scene.get());
-        m_scene->clear();
+        const SelectionSilence silence(m_d->scene.get());
+        m_d->scene->clear();
     }
-    AccessibleDiagram::drawingChanged(m_view);
+    AccessibleDiagram::drawingChanged(m_d->view);
 }
 
 void FishEditor::unlinkShownSubjects()
 {
     const FishModel *const model = fishModel();
-    if (!model || !m_rootIndex.isValid() || m_rootIndex.model() != model)
+    if (!model || !m_d->rootIndex.isValid() || m_d->rootIndex.model() != model)
         return;
-    std::vector<TreeItem *> pending{model->getTreeItem(m_rootIndex)};
+    std::vector<TreeItem *> pending{model->getTreeItem(m_d->rootIndex)};
     while (!pending.empty()) {
         TreeItem *const subject = pending.back();
         pending.pop_back();
@@ -209,13 +245,13 @@ void FishEditor::takeOverFromOtherEditors()
         editors.append(editor);
     const QPointer<FishEditor> alive(this);
     for (const QPointer<FishEditor> &other : qAsConst(editors)) {
-        if (!alive || !other || other == this || other->m_model != m_model ||
+        if (!alive || !other || other == this || other->m_d->model != m_d->model ||
             other->currentFishInfo() != document)
             continue;
-        other->m_shown = ShownRoot();
+        other->m_d->shown = ShownRoot();
         const Call call(other);
         other->showNothing();
-        other->m_rootIndex = QModelIndex();
+        other->m_d->rootIndex = QModelIndex();
     }
 }
 
@@ -236,9 +272,9 @@ void FishEditor::setRootIndex(const QModelIndex &index)
     showNothing();
     if (!root.isValid())
         return;
-    m_rootIndex = root;
+    m_d->rootIndex = root;
     takeOverFromOtherEditors();
-    if (!call.isAlive() || !root.isValid() || root.model() != m_model)
+    if (!call.isAlive() || !root.isValid() || root.model() != m_d->model)
         return;
     rememberShownRoot();
     loadFish(root);
@@ -254,8 +290,8 @@ void FishEditor::loadFish(const QModelIndex &index)
     const QModelIndex own = ownIndex(index);
     if (!model || !own.isValid())
         return;
-    m_headSpear = SpearBuilder(*model).buildHead(own);
-    m_scene->addItem(headSpear());
+    m_d->headSpear = SpearBuilder(*model).buildHead(own);
+    m_d->scene->addItem(headSpear());
 }
 
 void FishEditor::generateSpear(QAbstractItemModel *model, const QModelIndex &index)
@@ -289,16 +325,17 @@ void FishEditor::updateFish(bool rebuild)
         setRootIndex(rootIndex());
     } else if (headSpear() && !headSpear()->treeItem()) {
         // The subject left in a way that nobody announced. If it died, so did what the index has.
-        if (const FishModel *const model = fishModel(); model && !model->contains(m_shown.subject))
-            m_rootIndex = QModelIndex();
+        if (const FishModel *const model = fishModel();
+            model && !model->contains(m_d->shown.subject))
+            m_d->rootIndex = QModelIndex();
         showNothing();
     } else if (headSpear()) {
         updateHeadText();
         {
-            const SelectionSilence silence(m_scene.get()); // what is hidden is not selected
-            m_drawing->update(headSpear());
+            const SelectionSilence silence(m_d->scene.get()); // what is hidden is not selected
+            m_d->drawing.update(headSpear());
         }
-        AccessibleDiagram::drawingChanged(m_view);
+        AccessibleDiagram::drawingChanged(m_d->view);
         return;
     }
     if (!call.isAlive())
@@ -309,31 +346,31 @@ void FishEditor::updateFish(bool rebuild)
 
 bool FishEditor::showsOwnItemsOnly() const
 {
-    return m_drawing->isAlone(*m_scene, headSpear());
+    return m_d->drawing.isAlone(*m_d->scene, headSpear());
 }
 
 void FishEditor::setLook(DiagramLook::Kind look)
 {
-    m_drawing->choose(look, lookOptions());
+    m_d->drawing.choose(look, lookOptions());
     updateFish(false);
 }
 
 DiagramLook::Kind FishEditor::look() const
 {
-    return m_drawing->kind();
+    return m_d->drawing.kind();
 }
 
 void FishEditor::setLookOptions(const DiagramLook::Options &options)
 {
     if (options == lookOptions())
         return;
-    m_drawing->choose(look(), options);
+    m_d->drawing.choose(look(), options);
     updateFish(false);
 }
 
 const DiagramLook::Options &FishEditor::lookOptions() const
 {
-    return m_drawing->options();
+    return m_d->drawing.options();
 }
 
 void FishEditor::updateHeadText()
@@ -352,28 +389,28 @@ void FishEditor::refreshFish()
     if (!headSpear() || !headSpear()->treeItem())
         return;
     updateHeadText();
-    const SelectionSilence silence(m_scene.get());
-    m_drawing->layout(headSpear()).refreshSpears();
+    const SelectionSilence silence(m_d->scene.get());
+    m_d->drawing.layout(headSpear()).refreshSpears();
 }
 
 void FishEditor::updateSpearSize()
 {
     if (headSpear())
-        m_drawing->layout(headSpear()).sizeSpears();
+        m_d->drawing.layout(headSpear()).sizeSpears();
 }
 
 void FishEditor::updateSpearPostion()
 {
     if (headSpear())
-        m_drawing->layout(headSpear()).placeSpears();
+        m_d->drawing.layout(headSpear()).placeSpears();
 }
 
 void FishEditor::expandorContractAll(bool expand)
 {
     const Call call(this);
     if (headSpear()) {
-        const SelectionSilence silence(m_scene.get());
-        m_drawing->layout(headSpear()).expandBones(expand);
+        const SelectionSilence silence(m_d->scene.get());
+        m_d->drawing.layout(headSpear()).expandBones(expand);
     }
     updateFish(false);
 }
@@ -387,7 +424,7 @@ void FishEditor::expandAll()
 {
     const Call call(this);
     if (headSpear())
-        generateAllSubSpear(m_model, headSpear()->modelIndex());
+        generateAllSubSpear(m_d->model, headSpear()->modelIndex());
     expandorContractAll(true);
 }
 
@@ -431,14 +468,17 @@ void FishEditor::modelDataChanged(const QModelIndex &topLeft, const QModelIndex 
 {
     Q_UNUSED(bottomRight)
     const auto *const told = qobject_cast<const QAbstractItemModel *>(sender());
-    if (told && told != m_model)
+    if (told && told != m_d->model)
         return; // one that was set earlier
     const Call call(this);
     // Found first: another listener may have ended the subject, and the layout need not know it.
     const FishModel *const model = fishModel();
     const QPointer<FishInfo> document =
         model && topLeft.isValid() ? model->fishOfTold(ownIndex(topLeft)) : currentFishInfo();
-    if (topLeft.column() == 0 && !m_stackOwner->postponesLayout())
+    const auto &calls = m_d->calls;
+    const bool isLaidOutLater =
+        std::any_of(calls.cbegin(), calls.cend(), [](const Call *c) { return c->laysOut(); });
+    if (topLeft.column() == 0 && !isLaidOutLater)
         updateFish(false);
     if (document)
         document->setModified(true);

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <functional>
 #include <memory>
 
 #include <QFrame>
@@ -16,14 +17,12 @@
 #include <fishbone/items/spearpointer.h>
 #include <fishbone/model/treeitem.h>
 
-class FishDrawing;
 class FishInfo;
 class FishModel;
 class FishScene;
 class GraphicsView;
 class QMenu;
 class QMimeData;
-class QTimer;
 class SpearItem;
 class UndoCommand;
 class UndoStack;
@@ -77,19 +76,19 @@ public:
     /// \name Parts and state
     /// @{
 
-    GraphicsView *view() const { return m_view; }         ///< a child widget
-    FishScene *scene() const { return m_scene.get(); }    ///< owned by the editor
-    UndoStack *undoStack() const { return m_undoStack; }  ///< owned by the editor
-    QAbstractItemModel *model() const { return m_model; } ///< not owned; null until setModel()
+    GraphicsView *view() const;        ///< a child widget
+    FishScene *scene() const;          ///< owned by the editor
+    UndoStack *undoStack() const;      ///< owned by the editor
+    QAbstractItemModel *model() const; ///< not owned; null until setModel()
     /// Sets the model and connects it. The drawing and the root index stay as they are until
     /// another root is set; what a model set before tells of its data is ignored.
     void setModel(QAbstractItemModel *model);
     /// The model's FishModel::modelType(), 0 without a model.
     int modelType() const;
     /// The shown subject; invalid when nothing was ever shown or the subject is gone.
-    QModelIndex rootIndex() const { return m_rootIndex; }
+    QModelIndex rootIndex() const;
     /// The spear of the shown subject; null when nothing is shown.
-    SpearItem *headSpear() const { return m_headSpear.get(); }
+    SpearItem *headSpear() const;
     /// The index of the subject that \a spear shows; invalid for null.
     QModelIndex spearIndex(SpearItem *spear) const;
     /// The document that holds the shown subject, or null.
@@ -101,6 +100,8 @@ public:
     /// Starts, or starts again, the timer that calls saveTmpFile() every 30 seconds. Called on
     /// construction.
     void startSaveTmpFileTimer();
+    /// The milliseconds between two calls of saveTmpFile(), 0 for none. Starts the timer anew.
+    void setAutosaveInterval(int ms);
     /// @}
 
     /// \name Building and laying out the drawing
@@ -194,7 +195,7 @@ public:
     /// @{
 
     /// Whether the copy buffer holds anything.
-    bool hasClipBoardData() const { return !m_copyBuffer.isEmpty(); }
+    bool hasClipBoardData() const;
     /// Copies the selected subjects into the buffer and emits clipBoardAvailable().
     void copyItemToClipBoard();
     /// saveObjects() of the selected items.
@@ -206,7 +207,7 @@ public:
     void saveObjects(QJsonObject &objects, const QList<QGraphicsItem *> &items) const;
     /// With \a pasteAsNew, pasted subjects whose uuids the model holds already get fresh ones. Off
     /// unless set: a subject pasted twice exists twice with one uuid.
-    void setPasteAsNew(bool pasteAsNew) { m_pasteAsNew = pasteAsNew; }
+    void setPasteAsNew(bool pasteAsNew);
     /// The subject that a drag of \a mimeData carries: the last one, when it lives in the model;
     /// else null.
     TreeItem *treeItemFromMimeData(const QMimeData *mimeData) const;
@@ -219,8 +220,8 @@ public:
     /// \name Viewport
     /// @{
 
-    int zoomValue() const { return m_zoomValue; }     ///< 250 is 1:1, 50 more doubles the scale
-    int rotateValue() const { return m_rotateValue; } ///< degrees
+    int zoomValue() const;   ///< 250 is 1:1, 50 more doubles the scale
+    int rotateValue() const; ///< degrees
     /// Fits \a rect (scene units) into the view with margins of 50 pixels, without rotation. Does
     /// nothing for an empty rectangle or a viewport of 100 pixels or less. Emits
     /// zoomValueChanged() and rotateValueChanged().
@@ -229,6 +230,9 @@ public:
     void centerView(const QModelIndex &index);
     /// Scrolls the spear of \a index into view; nothing when it has none.
     void ensureVisible(const QModelIndex &index);
+    /// The topmost bone at \a pos (viewport coordinates), of which its text box is a part; null
+    /// where there is none.
+    SpearItem *boneAt(const QPoint &pos) const;
     /// @}
 
 Q_SIGNALS:
@@ -363,8 +367,11 @@ public Q_SLOTS:
     void saveTmpFile();
 
 public:
-    /// Fills \a menu with the entries for \a spear in the model's mode.
+    /// Fills \a menu with the entries for \a spear in the model's mode, and what a host adds.
     void createPopMenu(QMenu &menu, SpearItem *spear);
+    /// Has \a filler add a host's own entries to the context menu of a bone, or take some off; they
+    /// do what the host connects them to. Called each time the menu is filled.
+    void setBoneMenuFiller(const std::function<void(QMenu &menu, SpearItem *spear)> &filler);
     /// Reports a double click on the selected spear. For the view.
     void doubleClicked(QMouseEvent *event);
 
@@ -373,16 +380,9 @@ private:
     void writeRotation(int value);
     friend class GraphicsView; // asks showsOwnItemsOnly()
 
-    /// The root that was shown last, remembered across what makes its index invalid.
-    struct ShownRoot
-    {
-        QPointer<FishInfo> document;
-        const TreeItem *subject = nullptr; ///< only compared: it may be gone
-        bool isHead = false;               ///< the document's head, whichever that is
-    };
-
     class Call;
     class StackOwner;
+    struct Private;
     /// How the drawing follows a command.
     enum class Follow { Layout, Rebuild, Nothing };
 
@@ -398,7 +398,6 @@ private:
     void rememberShownRoot();
     QModelIndex rememberedRoot() const;
     void updateHeadText();
-    void runMenuEntry(int entry, const SpearItem &spear);
     void storeCopy(const QJsonObject &objects);
     static QList<TreeItem *> subjectsOf(QList<QGraphicsItem *> items);
     void deleteSubjects(const QJsonObject &objects, const QList<TreeItem *> &subjects);
@@ -425,21 +424,5 @@ private:
     void followMove();
     void forgetDestroyedModel();
 
-    QPersistentModelIndex m_rootIndex;
-    QJsonObject m_copyBuffer;
-    GraphicsView *m_view = nullptr;
-    QPointer<QAbstractItemModel> m_model;
-    std::unique_ptr<FishScene> m_scene;
-    SpearPointer m_headSpear;
-    std::unique_ptr<FishDrawing> m_drawing;
-    UndoStack *m_undoStack = nullptr;
-    int m_zoomValue = 250;
-    int m_rotateValue = 0;
-    QTimer *m_saveTimer = nullptr;
-    bool m_pasteAsNew = false;
-    ShownRoot m_shown;
-    std::unique_ptr<StackOwner> m_stackOwner;
-    QList<Call *> m_calls;           ///< the innermost one last
-    bool m_selectionChanged = false; ///< within them
-    bool m_rootRemoved = false;      ///< the shown root left the model; it may come back
+    const std::unique_ptr<Private> m_d;
 };

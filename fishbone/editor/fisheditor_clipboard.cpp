@@ -8,9 +8,20 @@
 #include <QJsonArray>
 #include <QMimeData>
 
+#include <fishbone/editor/fisheditor_p.h>
 #include <fishbone/items/spearitem.h>
 #include <fishbone/model/fishmodel.h>
 #include <fishbone/undo/subjectlookup.h>
+
+bool FishEditor::hasClipBoardData() const
+{
+    return !m_d->copyBuffer.isEmpty();
+}
+
+void FishEditor::setPasteAsNew(bool pasteAsNew)
+{
+    m_d->pasteAsNew = pasteAsNew;
+}
 
 void FishEditor::copyItemToClipBoard()
 {
@@ -21,7 +32,7 @@ void FishEditor::copyItemToClipBoard()
 
 void FishEditor::storeCopy(const QJsonObject &objects)
 {
-    m_copyBuffer = objects;
+    m_d->copyBuffer = objects;
     Q_EMIT clipBoardAvailable(hasClipBoardData());
 }
 

@@ -8,6 +8,7 @@
 #include <fishbone/dialogs/urldialog.h>
 #include <fishbone/drawing/spearbuilder.h>
 #include <fishbone/editor/editorcall.h>
+#include <fishbone/editor/fisheditor_p.h>
 #include <fishbone/editor/fishscene.h>
 #include <fishbone/editor/stackowner.h>
 #include <fishbone/items/linkitem.h>
@@ -24,16 +25,15 @@ constexpr int linkColumn = 2; ///< the column whose text counts as a subject's l
 /// Runs a command on the stack as one of the editor's own; false when a listener has ended it.
 bool FishEditor::push(const Call &call, std::unique_ptr<UndoCommand> command)
 {
-    m_stackOwner->expectOwnCall();
-    m_undoStack->push(command.release());
+    m_d->stackOwner.expectOwnCall();
+    m_d->undoStack->push(command.release());
     return call.isAlive();
 }
 
 /// What follows a command: the drawing, then the documents.
 void FishEditor::finish(const Call &call, Follow follow)
 {
-    const bool isLayoutDue = m_stackOwner->takePostponedLayout();
-    if (follow != Follow::Nothing || isLayoutDue)
+    if (follow != Follow::Nothing)
         updateFish(follow == Follow::Rebuild);
     if (call.isAlive())
         call.mark(Call::Otherwise::Shown);
@@ -41,7 +41,8 @@ void FishEditor::finish(const Call &call, Follow follow)
 
 void FishEditor::execute(std::unique_ptr<UndoCommand> command, Follow follow)
 {
-    const Call call(this);
+    const Call call(this,
+                    follow == Follow::Nothing ? Call::AtItsEnd::Nothing : Call::AtItsEnd::LaysOut);
     if (push(call, std::move(command)))
         finish(call, follow);
 }
@@ -49,7 +50,7 @@ void FishEditor::execute(std::unique_ptr<UndoCommand> command, Follow follow)
 /// Runs a command outside the history.
 void FishEditor::executeOnce(UndoCommand &&command)
 {
-    const Call call(this);
+    const Call call(this, Call::AtItsEnd::LaysOut);
     command.redo();
     if (call.isAlive())
         finish(call, Follow::Layout);
@@ -59,7 +60,7 @@ bool FishEditor::run(std::unique_ptr<UndoCommand> command)
 {
     if (!command)
         return false;
-    const Call call(this);
+    const Call call(this, Call::AtItsEnd::LaysOut);
     if (!push(call, std::move(command)))
         return false;
     updateFish(false);
@@ -71,12 +72,12 @@ bool FishEditor::run(std::unique_ptr<UndoCommand> command)
 
 bool FishEditor::canUndo() const
 {
-    return m_undoStack->canUndo();
+    return m_d->undoStack->canUndo();
 }
 
 bool FishEditor::canRedo() const
 {
-    return m_undoStack->canRedo();
+    return m_d->undoStack->canRedo();
 }
 
 void FishEditor::undo()
@@ -91,9 +92,9 @@ void FishEditor::redo()
 
 void FishEditor::step(void (UndoStack::*side)())
 {
-    const Call call(this);
-    m_stackOwner->expectOwnCall();
-    (m_undoStack->*side)();
+    const Call call(this, Call::AtItsEnd::LaysOut);
+    m_d->stackOwner.expectOwnCall();
+    (m_d->undoStack->*side)();
     if (call.isAlive())
         updateFish(true);
     if (call.isAlive())
@@ -104,28 +105,28 @@ void FishEditor::insertSubject()
 {
     const QModelIndex index = ownIndex(firstSelectedSpearIndex());
     if (index.isValid())
-        execute(std::make_unique<InsertFront>(m_model, index));
+        execute(std::make_unique<InsertFront>(m_d->model, index));
 }
 
 void FishEditor::appendSubject()
 {
     const QModelIndex index = ownIndex(firstSelectedSpearIndex());
     if (index.isValid())
-        execute(std::make_unique<InsertBack>(m_model, index));
+        execute(std::make_unique<InsertBack>(m_d->model, index));
 }
 
 void FishEditor::insertChildSubject()
 {
     const QModelIndex index = ownIndex(firstSelectedSpearIndex());
     if (index.isValid())
-        execute(std::make_unique<InsertChild>(m_model, index));
+        execute(std::make_unique<InsertChild>(m_d->model, index));
 }
 
 void FishEditor::insertParentSubject()
 {
     const QModelIndex index = ownIndex(firstSelectedSpearIndex());
     if (index.isValid())
-        execute(std::make_unique<InsertParent>(m_model, index));
+        execute(std::make_unique<InsertParent>(m_d->model, index));
 }
 
 void FishEditor::insertChildSubject(const QModelIndex &parent, TreeItem *item)
@@ -133,14 +134,14 @@ void FishEditor::insertChildSubject(const QModelIndex &parent, TreeItem *item)
     const QModelIndex index = ownIndex(parent);
     if (!index.isValid() || !item || !fishModel())
         return;
-    auto command = std::make_unique<InsertChild>(m_model, index);
+    auto command = std::make_unique<InsertChild>(m_d->model, index);
     command->setTreeItem(item);
     execute(std::move(command));
 }
 
 void FishEditor::insertFreeSubject()
 {
-    executeOnce(InsertFree(m_model));
+    executeOnce(InsertFree(m_d->model));
 }
 
 void FishEditor::editSubject(const QModelIndex &index, TreeItem *item)
@@ -195,9 +196,9 @@ void FishEditor::cut()
     subjects.assign(selected.cbegin(), selected.cend());
     QJsonObject objects;
     selectedObjects(objects);
-    const QPointer<QAbstractItemModel> model = m_model;
+    const QPointer<QAbstractItemModel> model = m_d->model;
     storeCopy(objects);
-    if (!call.isAlive() || m_model != model)
+    if (!call.isAlive() || m_d->model != model)
         return;
     QList<TreeItem *> living;
     for (const GuardedPointer<TreeItem> &subject : subjects)
@@ -221,8 +222,8 @@ void FishEditor::pasteItem(const QModelIndex &index)
     const QModelIndex own = ownIndex(index);
     if (!own.isValid() || !hasClipBoardData() || !model)
         return;
-    auto command = std::make_unique<EditPaste>(model, own, m_copyBuffer);
-    command->setPasteAsNew(m_pasteAsNew);
+    auto command = std::make_unique<EditPaste>(model, own, m_d->copyBuffer);
+    command->setPasteAsNew(m_d->pasteAsNew);
     execute(std::move(command), Follow::Rebuild);
 }
 
@@ -230,7 +231,7 @@ void FishEditor::renameItem(const QModelIndex &index, const QString &name)
 {
     const QModelIndex own = ownIndex(index);
     if (own.isValid())
-        execute(std::make_unique<ModifyName>(m_model, own, name), Follow::Nothing);
+        execute(std::make_unique<ModifyName>(m_d->model, own, name), Follow::Nothing);
 }
 
 void FishEditor::updateLinkOf(const QModelIndex &index) const
@@ -258,14 +259,14 @@ void FishEditor::modifyLink()
     const QPointer<FishEditor> alive(this);
     const QUrl url = URLDialog::linkToUrlDialog(currItemUrl(), this);
     if (alive && url.isValid() && ownIndex(index).isValid())
-        changeLink(std::make_unique<ModifyLinkTo>(m_model, index, url.toString()), index);
+        changeLink(std::make_unique<ModifyLinkTo>(m_d->model, index, url.toString()), index);
 }
 
 void FishEditor::modifyDelLink()
 {
     const QModelIndex index = ownIndex(firstSelectedSpearIndex());
     if (index.isValid())
-        changeLink(std::make_unique<ModifyDelLink>(m_model, index), index);
+        changeLink(std::make_unique<ModifyDelLink>(m_d->model, index), index);
 }
 
 QString FishEditor::currItemUrl() const
@@ -299,13 +300,4 @@ void FishEditor::delSpearStyle()
         return;
     spear->treeItem()->delSpearStyle();
     updateFish(false);
-}
-
-void FishEditor::selectAll()
-{
-    const Call call(this);
-    const SelectionSilence silence(m_scene.get()); // each report costs a look at all of it
-    const QList<QGraphicsItem *> items = m_scene->items();
-    for (QGraphicsItem *item : items)
-        item->setSelected(true);
 }

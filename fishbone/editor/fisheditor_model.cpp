@@ -5,6 +5,7 @@
 
 #include <fishbone/editor/fisheditor.h>
 
+#include <fishbone/editor/fisheditor_p.h>
 #include <fishbone/items/spearitem.h>
 #include <fishbone/model/fishinfo.h>
 #include <fishbone/model/fishmodel.h>
@@ -33,49 +34,52 @@ bool FishEditor::isListed(const FishInfo *document) const
 
 void FishEditor::rememberShownRoot()
 {
-    m_rootRemoved = false;
-    m_shown.document = currentFishInfo();
-    m_shown.subject = fishModel()->getTreeItem(m_rootIndex);
-    m_shown.isHead = !m_rootIndex.parent().isValid();
+    m_d->rootRemoved = false;
+    m_d->shown.document = currentFishInfo();
+    m_d->shown.subject = fishModel()->getTreeItem(m_d->rootIndex);
+    m_d->shown.isHead = !m_d->rootIndex.parent().isValid();
 }
 
 /// Where the root that was shown last stands now; invalid when it is not in the model.
 QModelIndex FishEditor::rememberedRoot() const
 {
     const FishModel *const model = fishModel();
-    if (!isListed(m_shown.document))
+    if (!isListed(m_d->shown.document))
         return {};
-    if (m_shown.isHead)
-        return model->index(model->fishList().indexOf(m_shown.document), 0);
+    if (m_d->shown.isHead)
+        return model->index(model->fishList().indexOf(m_d->shown.document), 0);
     // Compared only until it is known to be alive.
-    return model->contains(m_shown.subject) ? model->indexFromItem(m_shown.subject) : QModelIndex();
+    return model->contains(m_d->shown.subject) ? model->indexFromItem(m_d->shown.subject)
+                                               : QModelIndex();
 }
 
 void FishEditor::forgetRemovedRoot(const QModelIndex &parent, int first, int last)
 {
-    if (sender() != m_rootIndex.model())
+    if (sender() != m_d->rootIndex.model())
         return; // also when nothing is shown, or what is shown came from a model set earlier
-    QModelIndex above = m_rootIndex;
+    QModelIndex above = m_d->rootIndex;
     while (above.isValid() && above.parent() != parent)
         above = above.parent();
     if (!above.isValid() || above.row() < first || above.row() > last)
         return;
-    m_rootRemoved = true;
+    m_d->rootRemoved = true;
+    m_d->removal = std::make_unique<Call>(this); // nobody shall hear before the rows are gone
     showNothing();
 }
 
 /// Shows nothing any more when a listener of the announcement has drawn what was to go.
 void FishEditor::forgetLostRoot()
 {
+    const std::unique_ptr<Call> removal = std::move(m_d->removal); // which tells at the end
     if (!headSpear() || headSpear()->modelIndex().isValid())
         return;
-    m_rootRemoved = true;
+    m_d->rootRemoved = true;
     showNothing();
 }
 
 void FishEditor::showReturnedRoot(const QModelIndex &parent)
 {
-    if (sender() != m_model || parent.isValid() || !m_rootRemoved)
+    if (sender() != m_d->model || parent.isValid() || !m_d->rootRemoved)
         return;
     const QModelIndex root = rememberedRoot();
     if (root.isValid())
@@ -84,13 +88,14 @@ void FishEditor::showReturnedRoot(const QModelIndex &parent)
 
 void FishEditor::followReset()
 {
-    if (sender() != m_model || !headSpear())
+    if (sender() != m_d->model || !headSpear())
         return;
     // A reset makes every index invalid, whether or not the subject is still there. One that is
     // keeps its spear; a document that was loaded anew has other subjects.
     const FishModel *const model = fishModel();
-    if (model && model->contains(m_shown.subject) && m_shown.subject->spear() == headSpear()) {
-        m_rootIndex = model->indexFromItem(m_shown.subject);
+    if (model && model->contains(m_d->shown.subject) &&
+        m_d->shown.subject->spear() == headSpear()) {
+        m_d->rootIndex = model->indexFromItem(m_d->shown.subject);
         updateFish(false);
     } else {
         showNothing();
@@ -99,10 +104,10 @@ void FishEditor::followReset()
 
 void FishEditor::followHead()
 {
-    if (sender() != m_model || !m_shown.isHead)
+    if (sender() != m_d->model || !m_d->shown.isHead)
         return;
     const QModelIndex head = rememberedRoot();
-    if (head.isValid() && fishModel()->getTreeItem(head) != m_shown.subject)
+    if (head.isValid() && fishModel()->getTreeItem(head) != m_d->shown.subject)
         setRootIndex(head);
 }
 
@@ -111,31 +116,31 @@ void FishEditor::followToAnotherDocument()
 {
     if (isShownByAnotherEditor(currentFishInfo())) {
         // What moved into that editor's document is drawn there from now on.
-        m_rootIndex = QModelIndex();
-        m_rootRemoved = true;
+        m_d->rootIndex = QModelIndex();
+        m_d->rootRemoved = true;
         showNothing();
-    } else if (!m_shown.isHead) { // a head comes back as the head of its old document
-        m_shown.document = currentFishInfo();
+    } else if (!m_d->shown.isHead) { // a head comes back as the head of its old document
+        m_d->shown.document = currentFishInfo();
     }
 }
 
 void FishEditor::followMove()
 {
-    if (sender() != m_model)
+    if (sender() != m_d->model)
         return;
-    if (m_rootRemoved && m_shown.isHead) {
+    if (m_d->rootRemoved && m_d->shown.isHead) {
         const QModelIndex head = rememberedRoot();
         if (head.isValid())
             setRootIndex(head);
-    } else if (headSpear() && currentFishInfo() != m_shown.document) {
+    } else if (headSpear() && currentFishInfo() != m_d->shown.document) {
         followToAnotherDocument();
     }
 }
 
 void FishEditor::forgetDestroyedModel()
 {
-    if (m_rootIndex.isValid())
+    if (m_d->rootIndex.isValid())
         return; // another one, set earlier
-    m_shown = ShownRoot();
+    m_d->shown = ShownRoot();
     showNothing();
 }

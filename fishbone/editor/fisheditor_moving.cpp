@@ -10,6 +10,7 @@
 #include <QJsonArray>
 
 #include <fishbone/editor/editorcall.h>
+#include <fishbone/editor/fisheditor_p.h>
 #include <fishbone/editor/graphicsview.h>
 #include <fishbone/items/spearitem.h>
 #include <fishbone/model/fishmodel.h>
@@ -99,7 +100,7 @@ QModelIndex FishEditor::livingTarget(const QModelIndex &index) const
 {
     const FishModel *const model = fishModel();
     if (index.model() != model) // which may be gone by now when the view has sent the index
-        return sender() == m_view ? QModelIndex() : ownIndex(index);
+        return sender() == m_d->view ? QModelIndex() : ownIndex(index);
     const TreeItem *const under = model->getTreeItem(index);
     return under && model->contains(under) ? model->indexFromItem(under) : QModelIndex();
 }

@@ -1,89 +1,75 @@
 // SPDX-FileCopyrightText: 2026 The Fishbone authors
 // SPDX-License-Identifier: MIT
 
-// The part of FishEditor that frames the drawing in its view.
+// The part of FishEditor that frames the drawing in its view, and prints it.
 
 #include <fishbone/editor/fisheditor.h>
 
-#include <cmath>
-#include <limits>
-
 #include <QMouseEvent>
-#include <QTransform>
+#include <QPainter>
+#include <QPrintDialog>
+#include <QPrinter>
 
+#include <fishbone/base/modalanswer.h>
+#include <fishbone/editor/boneselection.h>
+#include <fishbone/editor/fisheditor_p.h>
 #include <fishbone/editor/fishscene.h>
 #include <fishbone/editor/graphicsview.h>
 #include <fishbone/items/spearitem.h>
 
-namespace {
-constexpr int unscaledZoom = 250;    ///< the zoom value of scale 1
-constexpr double doublingSteps = 50; ///< zoom steps that double the scale
-constexpr int viewMargin = 50;       ///< pixels kept free on every side when fitting
-
-bool isUsable(const QTransform &matrix)
+int FishEditor::zoomValue() const
 {
-    // Inverted rather than asked: isInvertible() gives up on scales that a view still copes with.
-    bool isInvertible = false;
-    static_cast<void>(matrix.inverted(&isInvertible));
-    // The square of the scale, so that neither the matrix nor its inverse is beyond all numbers.
-    return isInvertible && std::isnormal(matrix.determinant());
+    return m_d->framing.zoom();
 }
 
-int saturated(qint64 value)
+int FishEditor::rotateValue() const
 {
-    using Limits = std::numeric_limits<int>;
-    return int(qBound(qint64(Limits::min()), value, qint64(Limits::max())));
+    return m_d->framing.rotation();
 }
-} // namespace
 
 void FishEditor::setupMatrix()
 {
-    const double scale = std::pow(2.0, (double(m_zoomValue) - unscaledZoom) / doublingSteps);
-    QTransform matrix;
-    matrix.scale(scale, scale);
-    matrix.rotate(m_rotateValue);
-    if (isUsable(matrix))
-        m_view->setTransform(matrix, false);
+    m_d->framing.apply();
 }
 
 void FishEditor::zoomIn(int level)
 {
-    m_zoomValue = saturated(qint64(m_zoomValue) + level);
-    Q_EMIT zoomValueChanged(m_zoomValue);
+    m_d->framing.addZoom(level);
+    Q_EMIT zoomValueChanged(zoomValue());
 }
 
 void FishEditor::zoomOut(int level)
 {
-    m_zoomValue = saturated(qint64(m_zoomValue) - level);
-    Q_EMIT zoomValueChanged(m_zoomValue);
+    m_d->framing.addZoom(-qint64(level));
+    Q_EMIT zoomValueChanged(zoomValue());
 }
 
 void FishEditor::setZoomValue(int value)
 {
-    m_zoomValue = value;
+    m_d->framing.setZoom(value);
 }
 
 void FishEditor::setRotateValue(int value)
 {
-    m_rotateValue = value;
+    m_d->framing.setRotation(value);
 }
 
 void FishEditor::zoomFish(int value)
 {
-    m_zoomValue = value;
+    setZoomValue(value);
     setupMatrix();
 }
 
 void FishEditor::rotateFish(int value)
 {
-    m_rotateValue = value;
+    setRotateValue(value);
     setupMatrix();
 }
 
 /** The zoom as a property. Who hears of it may end the editor. */
 void FishEditor::writeZoom(int value)
 {
-    const bool changes = value != m_zoomValue;
+    const bool changes = value != zoomValue();
     zoomFish(value);
     if (changes)
         Q_EMIT zoomValueChanged(value);
@@ -92,7 +78,7 @@ void FishEditor::writeZoom(int value)
 /** The rotation as a property. */
 void FishEditor::writeRotation(int value)
 {
-    const bool changes = value != m_rotateValue;
+    const bool changes = value != rotateValue();
     rotateFish(value);
     if (changes)
         Q_EMIT rotateValueChanged(value);
@@ -105,36 +91,29 @@ void FishEditor::rotateReset()
 
 void FishEditor::fullSize()
 {
-    m_zoomValue = unscaledZoom;
     const QPointer<FishEditor> alive(this);
-    Q_EMIT zoomValueChanged(m_zoomValue);
+    setZoomValue(ViewFraming::unscaled);
+    Q_EMIT zoomValueChanged(ViewFraming::unscaled);
     if (!alive)
         return;
     setupMatrix();
-    m_view->ensureVisible(QRectF(0, 0, 0, 0), viewMargin, viewMargin);
+    view()->ensureVisible(QRectF(0, 0, 0, 0), ViewFraming::margin, ViewFraming::margin);
 }
 
 void FishEditor::equalRatio(const QRectF &rect)
 {
-    const QSize available = m_view->viewport()->size() - QSize(2 * viewMargin, 2 * viewMargin);
-    if (rect.isEmpty() || available.isEmpty())
+    const double scale = m_d->framing.scaleFor(rect);
+    if (scale <= 0)
         return;
-    const double scale = qMin(available.width() / rect.width(), available.height() / rect.height());
-    if (!std::isnormal(scale))
-        return; // a rectangle without bounds, or one too small to be divided by
     const QPointer<FishEditor> alive(this);
-    m_zoomValue = int(doublingSteps * std::log2(scale) + unscaledZoom);
-    Q_EMIT zoomValueChanged(m_zoomValue);
+    setZoomValue(ViewFraming::zoomFor(scale));
+    Q_EMIT zoomValueChanged(zoomValue());
     if (!alive)
         return;
-    m_rotateValue = 0;
-    Q_EMIT rotateValueChanged(m_rotateValue);
-    if (!alive)
-        return;
-    const QTransform matrix = QTransform::fromScale(scale, scale);
-    if (isUsable(matrix))
-        m_view->setTransform(matrix, false);
-    m_view->ensureVisible(rect, viewMargin, viewMargin);
+    setRotateValue(0);
+    Q_EMIT rotateValueChanged(0);
+    if (alive)
+        m_d->framing.show(rect, scale);
 }
 
 void FishEditor::showEntire()
@@ -155,13 +134,18 @@ void FishEditor::showSelected()
 void FishEditor::centerView(const QModelIndex &index)
 {
     if (const SpearItem *const spear = spearOf(index))
-        m_view->centerOn(spear);
+        view()->centerOn(spear);
 }
 
 void FishEditor::ensureVisible(const QModelIndex &index)
 {
     if (const SpearItem *const spear = spearOf(index))
-        m_view->ensureVisible(spear, viewMargin, viewMargin);
+        view()->ensureVisible(spear, ViewFraming::margin, ViewFraming::margin);
+}
+
+SpearItem *FishEditor::boneAt(const QPoint &pos) const
+{
+    return BoneSelection::spearOf(view()->itemAt(pos));
 }
 
 void FishEditor::doubleClicked(QMouseEvent *event)
@@ -170,4 +154,29 @@ void FishEditor::doubleClicked(QMouseEvent *event)
         return;
     if (SpearItem *const spear = firstSelectedSpear())
         Q_EMIT editTaskDetail(spear->modelIndex());
+}
+
+void FishEditor::createPopMenu(QMenu &menu, SpearItem *spear)
+{
+    m_d->menu.fill(menu, spear);
+}
+
+void FishEditor::onRightClicked(void *data)
+{
+    m_d->menu.show(static_cast<SpearItem *>(data));
+}
+
+void FishEditor::setBoneMenuFiller(const std::function<void(QMenu &, SpearItem *)> &filler)
+{
+    m_d->menu.setFiller(filler);
+}
+
+void FishEditor::print()
+{
+    QPrinter printer(QPrinter::ScreenResolution);
+    const auto isAccepted = [](const QPrintDialog &) { return true; };
+    if (!modalAnswer(new QPrintDialog(&printer, this), isAccepted))
+        return; // also when the editor has died with the dialog open
+    QPainter painter(&printer);
+    m_d->view->render(&painter, QRectF(), QRect(), Qt::KeepAspectRatio);
 }

@@ -15,6 +15,7 @@
 
 #include <fishbone/base/onepass.h>
 #include <fishbone/editor/fisheditor.h>
+#include <fishbone/editor/graphicsview_p.h>
 #include <fishbone/editor/itemancestry.h>
 #include <fishbone/items/hovercursor.h>
 #include <fishbone/items/sceneselection.h>
@@ -62,7 +63,7 @@ QSet<const QGraphicsItem *> asSet(const QList<SpearItem *> &spears)
 } // namespace
 
 GraphicsView::GraphicsView(FishEditor *editor)
-    : m_editor(editor)
+    : m_d(std::make_unique<Private>(editor))
 {
     setAcceptDrops(true);
     setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing |
@@ -72,6 +73,13 @@ GraphicsView::GraphicsView(FishEditor *editor)
     setViewportUpdateMode(SmartViewportUpdate);
     setTransformationAnchor(AnchorUnderMouse);
     viewport()->grabGesture(Qt::PinchGesture);
+}
+
+GraphicsView::~GraphicsView() = default;
+
+SpearItem *GraphicsView::linkedSpear() const
+{
+    return m_d->linkedSpear.get();
 }
 
 QList<QGraphicsItem *> GraphicsView::itemsAround(const QPoint &pos) const
@@ -92,7 +100,7 @@ SpearItem *GraphicsView::topmostSpearAround(const QPoint &pos) const
 QList<SpearItem *> GraphicsView::livingSelection() const
 {
     QList<SpearItem *> living;
-    for (const SpearPointer &spear : m_selected) {
+    for (const SpearPointer &spear : m_d->selected) {
         if (spear.get())
             living.append(spear.get());
     }
@@ -139,33 +147,33 @@ void GraphicsView::press(QMouseEvent *event)
     qDebug() << "GraphicsView::mousePressEvent" << event;
     const bool beginsMove = event->button() == Qt::LeftButton && scene();
     if (beginsMove) {
-        m_selected.clear();
-        m_pressed = true;
+        m_d->selected.clear();
+        m_d->pressed = true;
     }
     {
         const SelectionSilence silence(scene());
         QGraphicsView::mousePressEvent(event);
     }
     viewport()->setCursor(Qt::ArrowCursor);
-    if (!beginsMove || !m_pressed)
+    if (!beginsMove || !m_d->pressed)
         return; // also when a dialog that the press has opened took the release
-    const QList<QGraphicsItem *> selected = m_editor->selectedItems();
+    const QList<QGraphicsItem *> selected = m_d->editor->selectedItems();
     for (QGraphicsItem *item : selected) {
         if (SpearItem *const spear = toSpear(item))
-            m_selected.append(spear);
+            m_d->selected.append(spear);
     }
-    if (m_linkedSpear.get()) {
+    if (m_d->linkedSpear.get()) {
         unmarkTarget();
-        m_dropRow = 0;
+        m_d->dropRow = 0;
     }
-    m_pressedSpear = SpearPointer();
+    m_d->pressedSpear = SpearPointer();
     const QSet<const QGraphicsItem *> candidates = asSet(livingSelection());
     const QList<QGraphicsItem *> around = itemsAround(event->pos());
     const auto pressed =
         std::find_if(around.cbegin(), around.cend(),
                      [&candidates](QGraphicsItem *item) { return candidates.contains(item); });
     if (pressed != around.cend())
-        m_pressedSpear = toSpear(*pressed);
+        m_d->pressedSpear = toSpear(*pressed);
     beginMoving();
 }
 
@@ -177,18 +185,18 @@ void GraphicsView::beginMoving()
     for (SpearItem *spear : selected) {
         if (hasAncestorIn(spear, set))
             continue;
-        m_moving.append(spear);
+        m_d->moving.append(spear);
         fade(spear, true);
     }
 }
 
 void GraphicsView::endMoving()
 {
-    for (const SpearPointer &spear : qAsConst(m_moving)) {
+    for (const SpearPointer &spear : qAsConst(m_d->moving)) {
         if (spear.get())
             fade(spear.get(), false);
     }
-    m_moving.clear();
+    m_d->moving.clear();
 }
 
 /// Ends a move whose release will not come here.
@@ -196,8 +204,8 @@ void GraphicsView::abandonMove()
 {
     endMoving();
     unmarkTarget();
-    m_pressedSpear = SpearPointer();
-    if (std::exchange(m_pressed, false))
+    m_d->pressedSpear = SpearPointer();
+    if (std::exchange(m_d->pressed, false))
         reportMove(viewport()->mapFromGlobal(QCursor::pos()), nullptr);
 }
 
@@ -210,28 +218,28 @@ void GraphicsView::fade(SpearItem *spear, bool faded) const
 
 void GraphicsView::markTarget(SpearItem *spear, const QPoint &pos, SpearItem *moving)
 {
-    if (spear != m_linkedSpear.get())
+    if (spear != m_d->linkedSpear.get())
         unmarkTarget();
-    m_linkedSpear = spear;
-    m_dropRow = insertRow(pos, moving);
-    if (spear->isLinked() && spear->linkNumber() == m_dropRow)
+    m_d->linkedSpear = spear;
+    m_d->dropRow = insertRow(pos, moving);
+    if (spear->isLinked() && spear->linkNumber() == m_d->dropRow)
         return;
-    spear->setLinked(true, m_dropRow);
+    spear->setLinked(true, m_d->dropRow);
     repaintSpear(spear);
 }
 
 void GraphicsView::unmarkTarget()
 {
-    if (SpearItem *const spear = m_linkedSpear.get()) {
+    if (SpearItem *const spear = m_d->linkedSpear.get()) {
         spear->setLinked(false, 0);
         repaintSpear(spear);
     }
-    m_linkedSpear = SpearPointer();
+    m_d->linkedSpear = SpearPointer();
 }
 
 void GraphicsView::mouseMoveEvent(QMouseEvent *event)
 {
-    if (m_pressed && !m_selected.isEmpty()) {
+    if (m_d->pressed && !m_d->selected.isEmpty()) {
         const QSet<const QGraphicsItem *> selected = asSet(livingSelection());
         const QList<QGraphicsItem *> around = itemsAround(event->pos());
         const auto candidate =
@@ -239,17 +247,17 @@ void GraphicsView::mouseMoveEvent(QMouseEvent *event)
                 return toSpear(item) && !selected.contains(item);
             });
         if (candidate != around.crend())
-            markTarget(toSpear(*candidate), event->pos(), m_pressedSpear.get());
+            markTarget(toSpear(*candidate), event->pos(), m_d->pressedSpear.get());
         else
             unmarkTarget();
     }
-    const HoverDispatch dispatch(m_editor->showsOwnItemsOnly());
+    const HoverDispatch dispatch(m_d->editor->showsOwnItemsOnly());
     QGraphicsView::mouseMoveEvent(event);
 }
 
 int GraphicsView::insertRow(const QPoint &pos, SpearItem *moving) const
 {
-    const SpearItem *const target = m_linkedSpear.get();
+    const SpearItem *const target = m_d->linkedSpear.get();
     if (!target)
         return 0;
     return target->dropRow(mapToScene(pos), moving);
@@ -261,18 +269,18 @@ void GraphicsView::mouseReleaseEvent(QMouseEvent *event)
     const QPointer<GraphicsView> alive(this);
     if (event->button() == Qt::LeftButton) {
         // Nothing stays faded or marked, also when another button has ended the gesture before.
-        SpearItem *const target = m_linkedSpear.get();
+        SpearItem *const target = m_d->linkedSpear.get();
         endMoving();
         unmarkTarget();
-        if (m_pressed)
+        if (m_d->pressed)
             reportMove(event->pos(), target);
     }
     if (!alive) {
         event->accept();
         return;
     }
-    m_pressed = false;
-    m_pressedSpear = SpearPointer();
+    m_d->pressed = false;
+    m_d->pressedSpear = SpearPointer();
     handle(event, [this, event] {
         const SelectionSilence silence(scene());
         QGraphicsView::mouseReleaseEvent(event);
@@ -291,14 +299,15 @@ void GraphicsView::reportMove(const QPoint &pos, SpearItem *target)
         moved.append(spear);
     // A move into the moved subject's own subtree has no target.
     const bool intoItself = target && hasAncestorIn(target, asSet(selected));
-    const QModelIndex index = target && !intoItself ? m_editor->spearIndex(target) : QModelIndex();
-    Q_EMIT moveSpear(pos, moved, index, m_dropRow);
+    const QModelIndex index =
+        target && !intoItself ? m_d->editor->spearIndex(target) : QModelIndex();
+    Q_EMIT moveSpear(pos, moved, index, m_d->dropRow);
 }
 
 void GraphicsView::mouseDoubleClickEvent(QMouseEvent *event)
 {
     event->accept();
-    m_editor->doubleClicked(event);
+    m_d->editor->doubleClicked(event);
 }
 
 void GraphicsView::wheelEvent(QWheelEvent *event)
@@ -312,9 +321,9 @@ void GraphicsView::wheelEvent(QWheelEvent *event)
         return;
     }
     if (deltaOf(event->angleDelta()) > 0)
-        m_editor->zoomIn(wheelZoomStep);
+        m_d->editor->zoomIn(wheelZoomStep);
     else
-        m_editor->zoomOut(wheelZoomStep);
+        m_d->editor->zoomOut(wheelZoomStep);
     event->accept();
 }
 

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include <memory>
+
 #include <QGraphicsView>
 #include <QModelIndex>
 
@@ -30,9 +32,10 @@ class FISHBONE_EXPORT GraphicsView : public QGraphicsView
 public:
     /// A view without a parent widget, for \a editor, which must outlive it.
     explicit GraphicsView(FishEditor *editor);
+    ~GraphicsView() override;
 
     /// The spear shown as the target of a move or drop; null when there is none.
-    SpearItem *linkedSpear() const { return m_linkedSpear.get(); }
+    SpearItem *linkedSpear() const;
 
     /// The row below linkedSpear() at which \a moving would be inserted when released at \a pos
     /// (viewport coordinates). \a moving may be null. 0 without a linked spear.
@@ -72,6 +75,8 @@ protected:
 #endif
 
 private:
+    struct Private;
+
     /// What a step of the wheel with Ctrl adds to the zoom value.
     static constexpr int wheelZoomStep = 6;
 
@@ -94,12 +99,5 @@ private:
     void unmarkTarget();
     void reportMove(const QPoint &pos, SpearItem *target);
 
-    FishEditor *m_editor;
-    QList<SpearPointer> m_selected; ///< the selection at the last left press, in document order
-    QList<SpearPointer> m_moving;   ///< those of m_selected without a selected ancestor
-    SpearPointer m_linkedSpear;
-    SpearPointer m_pressedSpear;
-    int m_dropRow = 0;
-    double m_zoomRemainder = 0; ///< what smooth zooming has asked for beyond whole steps
-    bool m_pressed = false;
+    const std::unique_ptr<Private> m_d;
 };

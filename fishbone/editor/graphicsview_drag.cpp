@@ -13,6 +13,7 @@
 #include <QMimeData>
 
 #include <fishbone/editor/fisheditor.h>
+#include <fishbone/editor/graphicsview_p.h>
 #include <fishbone/items/spearitem.h>
 
 namespace {
@@ -30,13 +31,13 @@ std::unique_ptr<QMimeData> copyOf(const QMimeData &data)
 void GraphicsView::dragEnterEvent(QDragEnterEvent *event)
 {
     unmarkTarget();
-    m_dropRow = 0;
+    m_d->dropRow = 0;
     event->acceptProposedAction();
 }
 
 void GraphicsView::dragMoveEvent(QDragMoveEvent *event)
 {
-    const TreeItem *const dragged = m_editor->treeItemFromMimeData(event->mimeData());
+    const TreeItem *const dragged = m_d->editor->treeItemFromMimeData(event->mimeData());
     if (!dragged) {
         unmarkTarget();
         event->ignore();
@@ -67,13 +68,13 @@ void GraphicsView::dropEvent(QDropEvent *event)
 {
     qDebug() << "GraphicsView::dropEvent";
     event->acceptProposedAction();
-    SpearItem *const target = m_linkedSpear.get();
+    SpearItem *const target = m_d->linkedSpear.get();
     if (!target)
         return;
-    const int row = std::exchange(m_dropRow, 0);
+    const int row = std::exchange(m_d->dropRow, 0);
     unmarkTarget();
     QMimeData *const payload = copyOf(*event->mimeData()).release();
-    Q_EMIT dropTo(payload, m_editor->spearIndex(target), row);
+    Q_EMIT dropTo(payload, m_d->editor->spearIndex(target), row);
     // Posted behind the calls of queued receivers, so that they find it alive; also when somebody
     // who waits has all deletions carried out before anything else, as the end of a drag may.
     QMetaObject::invokeMethod(

@@ -14,6 +14,7 @@
 #include <QWheelEvent>
 
 #include <fishbone/editor/fisheditor.h>
+#include <fishbone/editor/graphicsview_p.h>
 
 namespace {
 
@@ -57,13 +58,13 @@ void GraphicsView::followTouchpad(QWheelEvent &event)
 /// too.
 void GraphicsView::zoomSmoothly(double steps)
 {
-    m_zoomRemainder += qBound(-1000.0, steps, 1000.0);
-    const int whole = int(m_zoomRemainder);
-    m_zoomRemainder -= whole;
+    m_d->zoomRemainder += qBound(-1000.0, steps, 1000.0);
+    const int whole = int(m_d->zoomRemainder);
+    m_d->zoomRemainder -= whole;
     if (whole > 0)
-        m_editor->zoomIn(whole);
+        m_d->editor->zoomIn(whole);
     else if (whole < 0)
-        m_editor->zoomOut(-whole);
+        m_d->editor->zoomOut(-whole);
 }
 
 bool GraphicsView::followPinch(QEvent &event)

@@ -5,16 +5,10 @@
 
 #include <utility>
 
-bool FishEditor::StackOwner::postponesLayout()
-{
-    m_isLayoutDue = m_isLayoutDue || !m_calls.empty();
-    return !m_calls.empty();
-}
-
 void FishEditor::StackOwner::stackCallBegins()
 {
     const bool isOwn = std::exchange(m_expectsOwnCall, false);
-    m_calls.push_back(isOwn ? nullptr : std::make_unique<Call>(m_editor));
+    m_calls.push_back(isOwn ? nullptr : std::make_unique<Call>(m_editor, Call::AtItsEnd::LaysOut));
 }
 
 void FishEditor::StackOwner::stackCallEnds(bool ran)
@@ -23,9 +17,8 @@ void FishEditor::StackOwner::stackCallEnds(bool ran)
     // it.
     const std::unique_ptr<Call> call = std::move(m_calls.back());
     m_calls.pop_back();
-    if (!call || !ran)
+    if (!call || (!ran && !call->hasChanges()))
         return;
-    m_isLayoutDue = false;
     m_editor->updateFish(false);
     call->mark(Call::Otherwise::Nothing);
 }

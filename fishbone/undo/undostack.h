@@ -5,7 +5,6 @@
 
 #include <fishbone/fishbone_export.h>
 
-#include <QList>
 #include <QObject>
 #include <QStringList>
 
@@ -59,10 +58,10 @@ public:
     bool canRedo() const;
 
     /** Returns the position of the command that was applied last, -1 when there is none. */
-    int currentIndex() const { return m_index; }
+    int currentIndex() const;
 
     /** Returns the number of commands, those that can be redone included. */
-    int count() const { return m_commands.count(); }
+    int count() const;
 
     /** Returns the name of the command that undo() would take back; empty when there is none. */
     QString undoText() const;
@@ -103,10 +102,10 @@ public:
      * Takes effect with the next push, which also brings back an index that stands past the last
      * command.
      */
-    void setRolling(bool rolling) { m_isRolling = rolling; }
+    void setRolling(bool rolling);
 
     /** Has @p owner, null for none, told of the calls of this stack. For FishEditor. */
-    void setOwner(UndoStackOwner *owner) { m_owner = owner; }
+    void setOwner(UndoStackOwner *owner);
 
 public Q_SLOTS:
     /**
@@ -138,27 +137,15 @@ Q_SIGNALS:
 
 private:
     class Call;
-
-    using Command =
-        std::shared_ptr<UndoCommand>; // a running command outlives its place in the list
-
-    enum class CleanState { Beginning, Command, Gone };
+    struct Private;
 
     void step(bool isUndo);
-    bool run(Command command, void (UndoCommand::*side)());
+    bool run(int index, void (UndoCommand::*side)());
     void settle();
     bool discardRedoTail();
     void boundHistory();
     bool emitAvailability();
     void emitChange();
 
-    int m_index = -1;
-    QList<Command> m_commands;
-    int m_running = 0;     // how many commands are within their undo() or redo()
-    int m_pendingStep = 0; // what the command that runs adds to the index when it is through
-    bool m_isRolling = false;
-    int m_runs = 0; // of commands, so far
-    CleanState m_cleanState = CleanState::Beginning;
-    std::weak_ptr<UndoCommand> m_cleanCommand; // the current one when setClean() was called
-    UndoStackOwner *m_owner = nullptr;
+    const std::unique_ptr<Private> m_d;
 };

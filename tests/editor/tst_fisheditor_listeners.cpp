@@ -70,6 +70,7 @@ private Q_SLOTS:
     void shouldTakeNoForeignIndex();
     void shouldIgnoreWhatAModelSetEarlierTells();
     void shouldTellOfTheSelectionOnceWhenTheWorkIsDone();
+    void shouldTellOfTheSelectionWhenTheShownRootIsGone();
     void shouldUndoNothingWhenAListenerHasRemovedTheNewRow();
     void shouldKeepTheOriginalWhenAListenerHasRemovedThePastedRow();
     void shouldUndoADeletionWhoseParentAListenerDeletes();
@@ -286,6 +287,21 @@ void TestFishEditorListeners::shouldTellOfTheSelectionOnceWhenTheWorkIsDone()
     told.clear();
     f.editor.undoStack()->redo();
     QCOMPARE(told.count(), 2);
+}
+
+void TestFishEditorListeners::shouldTellOfTheSelectionWhenTheShownRootIsGone()
+{
+    Fixture f;
+    f.select({QStringLiteral("Man")});
+    int told = 0;
+    connect(f.editor.scene(), &FishScene::selectionChanged, &f.editor, [&] {
+        ++told;
+        QVERIFY(!f.model.isAnnouncing()); // so that a listener may end the model as well
+        QCOMPARE(f.model.rowCount(), 1);
+        QVERIFY(!f.editor.headSpear());
+    });
+    QVERIFY(f.model.removeRows(0, 1));
+    QCOMPARE(told, 1);
 }
 
 void TestFishEditorListeners::shouldUndoNothingWhenAListenerHasRemovedTheNewRow()

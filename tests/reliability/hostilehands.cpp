@@ -182,7 +182,12 @@ void addRemovals(std::vector<HostileAct> &acts)
         QStringLiteral("model.unloadFish"),
         [](HostileStage &stage) { stage.model->unloadFish(stage.shownDocument()); }, {"*"}));
     acts.push_back(modelAct(QStringLiteral("delete a document"),
-                            [](HostileStage &stage) { delete stage.shownDocument(); }, {"*"}));
+                            [](HostileStage &stage) {
+                                FishInfo *const document = stage.shownDocument();
+                                stage.forgetDocument();
+                                delete document;
+                            },
+                            {"*"}));
     acts.push_back(modelAct(QStringLiteral("model.reloadDataFromFile"),
                             [](HostileStage &stage) {
                                 stage.model->reloadDataFromFile(stage.file(),

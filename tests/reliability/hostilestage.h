@@ -34,6 +34,8 @@ public:
     TreeItem *newNode() const;
     /// The document that the first editor shows at the beginning, as long as it is listed.
     FishInfo *shownDocument() const;
+    /// Nobody asks for that document any more: it is about to die, and nothing dies twice.
+    void forgetDocument() { m_shown.clear(); }
     /// A file with a document of its own.
     QString file() const { return m_folder.filePath(QStringLiteral("diagram.json")); }
 

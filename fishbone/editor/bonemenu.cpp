@@ -1,19 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The Fishbone authors
 // SPDX-License-Identifier: MIT
 
-// The part of FishEditor that speaks with the user and the host: context menu and printing.
-
-#include <fishbone/editor/fisheditor.h>
+#include <fishbone/editor/bonemenu.h>
 
 #include <QCursor>
 #include <QDebug>
 #include <QMenu>
-#include <QPainter>
-#include <QPrintDialog>
-#include <QPrinter>
+#include <QPointer>
 
-#include <fishbone/base/modalanswer.h>
-#include <fishbone/editor/graphicsview.h>
+#include <fishbone/editor/fisheditor.h>
 #include <fishbone/items/spearitem.h>
 #include <fishbone/model/fishmodel.h>
 
@@ -33,9 +28,9 @@ void addEntry(QMenu &menu, const QString &label, MenuEntry entry)
 }
 } // namespace
 
-void FishEditor::createPopMenu(QMenu &menu, SpearItem *spear)
+void BoneMenu::addOwnEntries(QMenu &menu, const SpearItem *spear) const
 {
-    if (modelType() == FISH_MODEL_NORMAL) {
+    if (m_editor.modelType() == FISH_MODEL_NORMAL) {
         addEntry(menu, QObject::tr("新建子任务"), NewSubTask);
         addEntry(menu, QObject::tr("查看详情"), ShowDetails);
         addEntry(menu, QObject::tr("用鱼骨图详细查看"), ShowAsDiagram);
@@ -47,24 +42,35 @@ void FishEditor::createPopMenu(QMenu &menu, SpearItem *spear)
         addEntry(menu, QObject::tr("删除节点"), DeleteNode);
 }
 
-void FishEditor::onRightClicked(void *item)
+void BoneMenu::fill(QMenu &menu, SpearItem *spear) const
 {
-    const SpearPointer spear(static_cast<SpearItem *>(item));
-    if (!spear.get() || !spear.get()->treeItem())
-        return;
-    if (modelType() == FISH_MODEL_NORMAL && spear.get()->treeItem()->isTopVaildItem())
-        return;
-    const QPointer<FishEditor> alive(this);
-    QMenu menu;
-    createPopMenu(menu, spear.get());
-    const QAction *const chosen = menu.exec(QCursor::pos());
-    // The menu runs an event loop: editor, spear and subject may be gone by now.
-    if (!chosen || !alive || !spear.get() || !spear.get()->treeItem())
-        return;
-    runMenuEntry(chosen->data().toInt(), *spear.get());
+    addOwnEntries(menu, spear);
+    if (m_filler)
+        m_filler(menu, spear);
 }
 
-void FishEditor::runMenuEntry(int entry, const SpearItem &spear)
+void BoneMenu::show(SpearItem *spear) const
+{
+    const SpearPointer shown(spear);
+    if (!spear || !spear->treeItem())
+        return;
+    if (m_editor.modelType() == FISH_MODEL_NORMAL && spear->treeItem()->isTopVaildItem())
+        return;
+    const QPointer<FishEditor> alive(&m_editor);
+    QMenu menu;
+    addOwnEntries(menu, spear);
+    const QList<QAction *> own = menu.actions(); // an entry of a host's does what the host says
+    if (m_filler)
+        m_filler(menu, spear);
+    const QAction *const chosen = menu.exec(QCursor::pos());
+    // The menu runs an event loop: editor, spear and subject may be gone by now.
+    if (!chosen || !own.contains(const_cast<QAction *>(chosen)) || !alive || !shown.get() ||
+        !shown.get()->treeItem())
+        return;
+    run(chosen->data().toInt(), *shown.get());
+}
+
+void BoneMenu::run(int entry, const SpearItem &spear) const
 {
     const TreeItem &subject = *spear.treeItem();
     // Copies, since a receiver of the signal may delete the subject.
@@ -74,36 +80,26 @@ void FishEditor::runMenuEntry(int entry, const SpearItem &spear)
     case NewSubTask: {
         const QString showid = subject.showid();
         qDebug() << "emit createNewSubTask signal : " << uuid;
-        Q_EMIT createNewSubTask(title, uuid, showid);
+        Q_EMIT m_editor.createNewSubTask(title, uuid, showid);
         break;
     }
     case ShowDetails:
         qDebug() << "emit oneTaskClicked signal : " << uuid;
-        Q_EMIT oneTaskClicked(title, uuid);
+        Q_EMIT m_editor.oneTaskClicked(title, uuid);
         break;
     case ShowAsDiagram:
-        Q_EMIT changeFishWithModelIndex(spear.modelIndex());
+        Q_EMIT m_editor.changeFishWithModelIndex(spear.modelIndex());
         break;
     case EditNode:
-        Q_EMIT editTaskDetail(spear.modelIndex());
+        Q_EMIT m_editor.editTaskDetail(spear.modelIndex());
         break;
     case NewChildNode:
-        Q_EMIT insertChildTask(spear.modelIndex());
+        Q_EMIT m_editor.insertChildTask(spear.modelIndex());
         break;
     case DeleteNode:
-        deleteItem(spear.modelIndex());
+        m_editor.deleteItem(spear.modelIndex());
         break;
     default:
         break;
     }
-}
-
-void FishEditor::print()
-{
-    QPrinter printer(QPrinter::ScreenResolution);
-    const auto isAccepted = [](const QPrintDialog &) { return true; };
-    if (!modalAnswer(new QPrintDialog(&printer, this), isAccepted))
-        return; // also when the editor has died with the dialog open
-    QPainter painter(&printer);
-    m_view->render(&painter, QRectF(), QRect(), Qt::KeepAspectRatio);
 }

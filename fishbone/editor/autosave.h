@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <functional>
+
+class QObject;
+class QTimer;
+
+/// Saves every so often.
+class Autosave
+{
+public:
+    static constexpr int defaultInterval = 30000; ///< milliseconds
+
+    /// Calls \a save, on a timer that is a child of \a owner and lives as long, once start() was
+    /// called.
+    Autosave(QObject *owner, const std::function<void()> &save);
+
+    /// Begins to wait, anew when it waits already; nothing while the interval is 0.
+    void start();
+    /// Milliseconds; 0, and whatever is less, for none. Begins to wait anew.
+    void setInterval(int ms);
+
+private:
+    QTimer *m_timer;
+    int m_interval = defaultInterval;
+};

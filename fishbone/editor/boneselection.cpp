@@ -1,0 +1,63 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#include <fishbone/editor/boneselection.h>
+
+#include <algorithm>
+#include <iterator>
+
+#include <QGraphicsScene>
+#include <QSet>
+
+#include <fishbone/editor/itemancestry.h>
+#include <fishbone/items/spearitem.h>
+#include <fishbone/items/textitem.h>
+
+namespace {
+/// Moves the spears among \a unordered to the front of the result, in pre-order below \a head.
+QList<QGraphicsItem *> inDocumentOrder(const QList<QGraphicsItem *> &unordered, SpearItem *head)
+{
+    QList<QGraphicsItem *> ordered;
+    QSet<const QGraphicsItem *> missing(unordered.cbegin(), unordered.cend());
+    QList<SpearItem *> pending{head};
+    while (!pending.isEmpty() && !missing.isEmpty()) {
+        SpearItem *const spear = pending.takeLast();
+        if (missing.remove(spear))
+            ordered.append(spear);
+        const QList<SpearItem *> children = spear->childSpears();
+        std::copy(children.crbegin(), children.crend(), std::back_inserter(pending));
+    }
+    for (QGraphicsItem *item : unordered) {
+        if (missing.contains(item))
+            ordered.append(item);
+    }
+    return ordered;
+}
+} // namespace
+
+QList<QGraphicsItem *> BoneSelection::items(const QGraphicsScene &scene, SpearItem *head)
+{
+    const QList<QGraphicsItem *> unordered = scene.selectedItems();
+    return unordered.count() < 2 || !head ? unordered : inDocumentOrder(unordered, head);
+}
+
+SpearItem *BoneSelection::spearOf(QGraphicsItem *item)
+{
+    const auto *const text = qgraphicsitem_cast<TextItem *>(item);
+    return qgraphicsitem_cast<SpearItem *>(text ? text->parentItem() : item);
+}
+
+void BoneSelection::removeTops(QList<QGraphicsItem *> &items)
+{
+    const auto isTop = [](const QGraphicsItem *item) { return !item || !item->parentItem(); };
+    items.erase(std::remove_if(items.begin(), items.end(), isTop), items.end());
+}
+
+void BoneSelection::removeNested(QList<QGraphicsItem *> &items)
+{
+    const QSet<const QGraphicsItem *> listed(items.cbegin(), items.cend());
+    const auto isBelow = [&listed](const QGraphicsItem *item) {
+        return hasAncestorIn(item, listed);
+    };
+    items.erase(std::remove_if(items.begin(), items.end(), isBelow), items.end());
+}

@@ -1,0 +1,60 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#include <fishbone/editor/viewframing.h>
+
+#include <cmath>
+#include <limits>
+
+#include <QGraphicsView>
+#include <QTransform>
+
+namespace {
+constexpr double doublingSteps = 50; ///< zoom steps that double the scale
+
+void give(QGraphicsView &view, const QTransform &matrix)
+{
+    // Inverted rather than asked: isInvertible() gives up on scales that a view still copes with.
+    bool isInvertible = false;
+    static_cast<void>(matrix.inverted(&isInvertible));
+    // The square of the scale, so that neither the matrix nor its inverse is beyond all numbers.
+    if (isInvertible && std::isnormal(matrix.determinant()))
+        view.setTransform(matrix, false);
+}
+} // namespace
+
+void ViewFraming::addZoom(long long steps)
+{
+    using Limits = std::numeric_limits<int>;
+    m_zoom = int(qBound<long long>(Limits::min(), m_zoom + steps, Limits::max()));
+}
+
+void ViewFraming::apply() const
+{
+    const double scale = std::pow(2.0, (double(m_zoom) - unscaled) / doublingSteps);
+    QTransform matrix;
+    matrix.scale(scale, scale);
+    matrix.rotate(m_rotation);
+    give(m_view, matrix);
+}
+
+double ViewFraming::scaleFor(const QRectF &rect) const
+{
+    const QSize available = m_view.viewport()->size() - QSize(2 * margin, 2 * margin);
+    if (rect.isEmpty() || available.isEmpty())
+        return 0;
+    const double scale = qMin(available.width() / rect.width(), available.height() / rect.height());
+    // A rectangle without bounds, or one too small to be divided by, has none.
+    return std::isnormal(scale) ? scale : 0;
+}
+
+int ViewFraming::zoomFor(double scale)
+{
+    return int(doublingSteps * std::log2(scale) + unscaled);
+}
+
+void ViewFraming::show(const QRectF &rect, double scale) const
+{
+    give(m_view, QTransform::fromScale(scale, scale));
+    m_view.ensureVisible(rect, margin, margin);
+}

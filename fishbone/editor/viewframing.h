@@ -1,0 +1,43 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+class QGraphicsView;
+class QRectF;
+
+/// How a view frames its scene: zoom value and rotation, and the matrix that they make. Tells
+/// nobody.
+class ViewFraming
+{
+public:
+    static constexpr int unscaled = 250; ///< the zoom value of scale 1
+    static constexpr int margin = 50;    ///< pixels kept free on every side when fitting
+
+    explicit ViewFraming(QGraphicsView &view)
+        : m_view(view)
+    {
+    }
+
+    int zoom() const { return m_zoom; }         ///< 250 is 1:1, 50 more doubles the scale
+    int rotation() const { return m_rotation; } ///< degrees
+    void setZoom(int value) { m_zoom = value; }
+    void setRotation(int degrees) { m_rotation = degrees; }
+    /// Adds to the zoom value, up to what an int can hold.
+    void addZoom(long long steps);
+
+    /// Gives the view the matrix of both; one that no inverse can be had of leaves it as it was.
+    void apply() const;
+    /// The scale at which \a rect (scene units) and the margins fill the view; 0 when there is
+    /// none, for an empty rectangle or in a small viewport.
+    double scaleFor(const QRectF &rect) const;
+    /// The zoom value of \a scale, rounded towards 0.
+    static int zoomFor(double scale);
+    /// Shows \a rect at exactly \a scale, without rotation.
+    void show(const QRectF &rect, double scale) const;
+
+private:
+    QGraphicsView &m_view;
+    int m_zoom = unscaled;
+    int m_rotation = 0;
+};

@@ -1,0 +1,92 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#include <QtTest>
+
+#include <fishbone/editor/boneselection.h>
+#include <fishbone/items/textitem.h>
+#include <tests/program/testprogram.h>
+#include <tests/support/drawing.h>
+
+using namespace TestSupport;
+
+/// What is selected, and what of it counts.
+class TestBoneSelection : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void shouldListSpearsInDocumentOrder();
+    void shouldListWhatElseIsSelectedBehind();
+    void shouldListWithoutAHead();
+    void shouldFindTheSpearOfATextBox();
+    void shouldLeaveOutTops();
+    void shouldLeaveOutWhatIsNested();
+};
+
+void TestBoneSelection::shouldListSpearsInDocumentOrder()
+{
+    Drawing drawing(QStringLiteral("H[A[B],C]"));
+    for (const char *title : {"C", "B", "H", "A"})
+        drawing.spear(QString::fromLatin1(title))->setSelected(true);
+    QStringList titles;
+    const auto items = BoneSelection::items(drawing.scene, drawing.head);
+    for (QGraphicsItem *item : items)
+        titles.append(BoneSelection::spearOf(item)->text());
+    QCOMPARE(titles.join(QLatin1Char(' ')), QStringLiteral("H A B C"));
+}
+
+void TestBoneSelection::shouldListWhatElseIsSelectedBehind()
+{
+    Drawing drawing(QStringLiteral("H[A]"));
+    QGraphicsItem *const stranger = drawing.scene.addRect(0, 0, 1, 1);
+    stranger->setFlag(QGraphicsItem::ItemIsSelectable);
+    stranger->setSelected(true);
+    drawing.spear(QStringLiteral("A"))->setSelected(true);
+    const QList<QGraphicsItem *> expected = {drawing.spear(QStringLiteral("A")), stranger};
+    QCOMPARE(BoneSelection::items(drawing.scene, drawing.head), expected);
+}
+
+void TestBoneSelection::shouldListWithoutAHead()
+{
+    Drawing drawing(QStringLiteral("H[A,B]"));
+    drawing.spear(QStringLiteral("A"))->setSelected(true);
+    drawing.spear(QStringLiteral("B"))->setSelected(true);
+    QCOMPARE(BoneSelection::items(drawing.scene, nullptr).count(), 2);
+}
+
+void TestBoneSelection::shouldFindTheSpearOfATextBox()
+{
+    Drawing drawing(QStringLiteral("H[A]"));
+    SpearItem *const spear = drawing.spear(QStringLiteral("A"));
+    TextItem alone((QString()));
+    QCOMPARE(BoneSelection::spearOf(spear), spear);
+    QCOMPARE(BoneSelection::spearOf(spear->textItem()), spear);
+    QVERIFY(!BoneSelection::spearOf(&alone));
+    QVERIFY(!BoneSelection::spearOf(nullptr));
+    QVERIFY(!BoneSelection::spearOf(drawing.scene.addRect(0, 0, 1, 1)));
+}
+
+void TestBoneSelection::shouldLeaveOutTops()
+{
+    Drawing drawing(QStringLiteral("H[A]"));
+    SpearItem *const bone = drawing.spear(QStringLiteral("A"));
+    QList<QGraphicsItem *> items = {drawing.head, nullptr, bone};
+    BoneSelection::removeTops(items);
+    QCOMPARE(items, QList<QGraphicsItem *>{bone});
+}
+
+void TestBoneSelection::shouldLeaveOutWhatIsNested()
+{
+    Drawing drawing(QStringLiteral("H[A[B[C]],D]"));
+    const auto bone = [&drawing](const char *title) -> QGraphicsItem * {
+        return drawing.spear(QString::fromLatin1(title));
+    };
+    QList<QGraphicsItem *> items = {bone("C"), bone("D"), bone("A")};
+    BoneSelection::removeNested(items);
+    const QList<QGraphicsItem *> expected = {bone("D"), bone("A")};
+    QCOMPARE(items, expected);
+}
+
+FISHBONE_TEST(TestBoneSelection)
+#include "tst_boneselection.moc"

@@ -1,0 +1,131 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#include <QMenu>
+#include <QTimer>
+#include <QtTest>
+
+#include <fishbone/items/textitem.h>
+#include <tests/program/testprogram.h>
+#include <tests/support/editorfixture.h>
+#include <tests/support/viewmouse.h>
+
+using namespace TestSupport;
+
+namespace {
+
+QStringList textsOf(const QMenu &menu)
+{
+    QStringList texts;
+    const QList<QAction *> actions = menu.actions();
+    for (const QAction *action : actions)
+        texts.append(action->text());
+    return texts;
+}
+
+QString document()
+{
+    return QStringLiteral("Effect[Man[Training],Machine]");
+}
+
+} // namespace
+
+/// What a host sets and asks beside the slots.
+class TestFishEditorDoors : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void shouldStartOneAutosaveTimer();
+    void shouldChangeTheAutosaveInterval();
+    void shouldAddEntriesToTheBoneMenu();
+    void shouldDoWhatAHostsEntryDoesAndNothingElse();
+    void shouldFindTheBoneAtAPoint();
+};
+
+void TestFishEditorDoors::shouldStartOneAutosaveTimer()
+{
+    FishEditor editor;
+    const auto timers = [&editor] {
+        return editor.findChildren<QTimer *>(QString(), Qt::FindDirectChildrenOnly);
+    };
+    QCOMPARE(timers().count(), 1);
+    QVERIFY(timers().first()->isActive());
+    QCOMPARE(timers().first()->interval(), 30000);
+    editor.startSaveTmpFileTimer();
+    QCOMPARE(timers().count(), 1);
+    QVERIFY(timers().first()->isActive());
+}
+
+void TestFishEditorDoors::shouldChangeTheAutosaveInterval()
+{
+    FishEditor editor;
+    const auto *const timer = editor.findChild<QTimer *>(QString(), Qt::FindDirectChildrenOnly);
+    editor.setAutosaveInterval(5000);
+    QCOMPARE(timer->interval(), 5000);
+    QVERIFY(timer->isActive());
+    editor.setAutosaveInterval(0);
+    QVERIFY(!timer->isActive());
+    editor.startSaveTmpFileTimer();
+    QVERIFY(!timer->isActive());
+}
+
+void TestFishEditorDoors::shouldAddEntriesToTheBoneMenu()
+{
+    EditorFixture f(document());
+    const SpearItem *asked = nullptr;
+    QMenu before;
+    f.editor.createPopMenu(before, f.spear(QStringLiteral("Man")));
+    f.editor.setBoneMenuFiller([&asked](QMenu &menu, SpearItem *spear) {
+        asked = spear;
+        menu.addAction(QStringLiteral("mine"));
+    });
+    QMenu menu;
+    f.editor.createPopMenu(menu, f.spear(QStringLiteral("Man")));
+    QCOMPARE(textsOf(menu), textsOf(before) + QStringList{QStringLiteral("mine")});
+    QCOMPARE(asked, f.spear(QStringLiteral("Man")));
+    f.editor.setBoneMenuFiller({});
+    QMenu after;
+    f.editor.createPopMenu(after, f.spear(QStringLiteral("Man")));
+    QCOMPARE(textsOf(after), textsOf(before));
+}
+
+void TestFishEditorDoors::shouldDoWhatAHostsEntryDoesAndNothingElse()
+{
+    // Given an entry of a host's with the data of the library's own deletion
+    EditorFixture f(document());
+    int triggered = 0;
+    f.editor.setBoneMenuFiller([&triggered](QMenu &menu, SpearItem *) {
+        QAction *const mine = menu.addAction(QStringLiteral("mine"), [&triggered] { ++triggered; });
+        mine->setData(1006);
+    });
+
+    // When it is chosen
+    QTimer chooser;
+    connect(&chooser, &QTimer::timeout, this, [] {
+        auto *const menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+        if (!menu)
+            return;
+        menu->setActiveAction(menu->actions().last());
+        QTest::keyClick(menu, Qt::Key_Return);
+    });
+    chooser.start(1);
+    f.editor.onRightClicked(f.spear(QStringLiteral("Man")));
+
+    // Then nothing is deleted
+    QCOMPARE(triggered, 1);
+    QVERIFY(f.subject(QStringLiteral("Man")));
+}
+
+void TestFishEditorDoors::shouldFindTheBoneAtAPoint()
+{
+    EditorFixture f(document());
+    QVERIFY(f.show());
+    SpearItem *const machine = f.spear(QStringLiteral("Machine"));
+    const FishEditor &editor = f.editor;
+    QCOMPARE(editor.boneAt(middleOf(*editor.view(), machine->textItem())), machine);
+    QCOMPARE(editor.boneAt(QPoint(2, 2)), nullptr);
+}
+
+FISHBONE_TEST(TestFishEditorDoors)
+#include "tst_fisheditor_doors.moc"
