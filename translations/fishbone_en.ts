@@ -320,10 +320,6 @@ The exit code is 3 when anything is.</translation>
         <translation>%1 was not written: something would be left out</translation>
     </message>
     <message>
-        <source>Draw the diagram into the picture &lt;file&gt; and quit. The ending .png, .svg, .pdf or, for a slide, .pptx tells the format. Needs no display.</source>
-        <translation>Draw the diagram into the picture &lt;file&gt; and quit. The ending .png, .svg, .pdf or, for a slide, .pptx tells the format. Needs no display.</translation>
-    </message>
-    <message>
         <source>Writes a diagram in another format, or as a picture.
 The endings tell the formats. Read: %1.
 Written: %2, and png, svg, pdf and pptx for pictures.
@@ -334,12 +330,20 @@ Written: %2, and png, svg, pdf and pptx for pictures.
 What is left out, or put where it can be kept, is listed on the error output.</translation>
     </message>
     <message>
-        <source>the format of &quot;%1&quot; is unknown: the name must end in .png, .svg, .pdf or .pptx</source>
-        <translation>the format of &quot;%1&quot; is unknown: the name must end in .png, .svg, .pdf or .pptx</translation>
+        <source>Draw the diagram into the picture &lt;file&gt; and quit. The ending .png, .svg, .pdf, .html or, for a slide, .pptx tells the format. Needs no display.</source>
+        <translation>Draw the diagram into the picture &lt;file&gt; and quit. The ending .png, .svg, .pdf, .html or, for a slide, .pptx tells the format. Needs no display.</translation>
     </message>
     <message>
-        <source>the format of &quot;%1&quot; is unknown: the name must end in one of %2, or in .png, .svg, .pdf or .pptx for a picture, or --to tell one of %3</source>
-        <translation>the format of &quot;%1&quot; is unknown: the name must end in one of %2, or in .png, .svg, .pdf or .pptx for a picture, or --to tell one of %3</translation>
+        <source>the format of &quot;%1&quot; is unknown: the name must end in .png, .svg, .pdf, .html or .pptx</source>
+        <translation>the format of &quot;%1&quot; is unknown: the name must end in .png, .svg, .pdf, .html or .pptx</translation>
+    </message>
+    <message>
+        <source>the format of &quot;%1&quot; is unknown: the name must end in one of %2, or in .png, .svg, .pdf, .html or .pptx for a picture, or --to tell one of %3</source>
+        <translation>the format of &quot;%1&quot; is unknown: the name must end in one of %2, or in .png, .svg, .pdf, .html or .pptx for a picture, or --to tell one of %3</translation>
+    </message>
+    <message>
+        <source>a page for the browser needs the clear look</source>
+        <translation>a page for the browser needs the clear look</translation>
     </message>
 </context>
 <context>
@@ -1783,6 +1787,57 @@ Do you want to save your changes?</translation>
     <message>
         <source>%1 received</source>
         <translation>%1 received</translation>
+    </message>
+</context>
+<context>
+    <name>LookChoice</name>
+    <message>
+        <source>Draw in the &lt;look&gt; clear, which is the default and has all texts level, or classic.</source>
+        <translation>Draw in the &lt;look&gt; clear, which is the default and has all texts level, or classic.</translation>
+    </message>
+    <message>
+        <source>Arrange the drawing for &lt;page&gt;: 16:9, A4, A3, Letter, or a size such as 1920x1080 or 297x210mm. A PDF has a page of that size.</source>
+        <translation>Arrange the drawing for &lt;page&gt;: 16:9, A4, A3, Letter, or a size such as 1920x1080 or 297x210mm. A PDF has a page of that size.</translation>
+    </message>
+    <message>
+        <source>Explain the icons below the drawing, which is the default.</source>
+        <translation>Explain the icons below the drawing, which is the default.</translation>
+    </message>
+    <message>
+        <source>Leave out the explanation of the icons.</source>
+        <translation>Leave out the explanation of the icons.</translation>
+    </message>
+    <message>
+        <source>Draw in &lt;colours&gt;: colour (the default), gray or dark.</source>
+        <translation>Draw in &lt;colours&gt;: colour (the default), gray or dark.</translation>
+    </message>
+    <message>
+        <source>Draw the head on the &lt;side&gt;: right (the default) or left.</source>
+        <translation>Draw the head on the &lt;side&gt;: right (the default) or left.</translation>
+    </message>
+    <message>
+        <source>--%1 takes %2, not &quot;%3&quot;</source>
+        <translation>--%1 takes %2, not &quot;%3&quot;</translation>
+    </message>
+    <message>
+        <source>clear or classic</source>
+        <translation>clear or classic</translation>
+    </message>
+    <message>
+        <source>--%1 needs the clear look</source>
+        <translation>--%1 needs the clear look</translation>
+    </message>
+    <message>
+        <source>colour, gray or dark</source>
+        <translation>colour, gray or dark</translation>
+    </message>
+    <message>
+        <source>left or right</source>
+        <translation>left or right</translation>
+    </message>
+    <message>
+        <source>16:9, A4, A3, Letter or a size such as 1920x1080 or 297x210mm</source>
+        <translation>16:9, A4, A3, Letter or a size such as 1920x1080 or 297x210mm</translation>
     </message>
 </context>
 <context>

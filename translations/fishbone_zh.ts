@@ -320,10 +320,6 @@ The exit code is 3 when anything is.</source>
         <translation>未写入 %1：有内容会被省略</translation>
     </message>
     <message>
-        <source>Draw the diagram into the picture &lt;file&gt; and quit. The ending .png, .svg, .pdf or, for a slide, .pptx tells the format. Needs no display.</source>
-        <translation>将图表绘制为图片 &lt;file&gt; 并退出。扩展名 .png、.svg、.pdf 或（幻灯片）.pptx 决定格式。不需要显示器。</translation>
-    </message>
-    <message>
         <source>Writes a diagram in another format, or as a picture.
 The endings tell the formats. Read: %1.
 Written: %2, and png, svg, pdf and pptx for pictures.
@@ -334,12 +330,20 @@ What is left out, or put where it can be kept, is listed on the error output.</s
 被省略或另存别处的内容会列在错误输出中。</translation>
     </message>
     <message>
-        <source>the format of &quot;%1&quot; is unknown: the name must end in .png, .svg, .pdf or .pptx</source>
-        <translation>“%1”的格式未知：名称须以 .png、.svg、.pdf 或 .pptx 结尾</translation>
+        <source>Draw the diagram into the picture &lt;file&gt; and quit. The ending .png, .svg, .pdf, .html or, for a slide, .pptx tells the format. Needs no display.</source>
+        <translation>将鱼骨图绘制到图片 &lt;file&gt; 后退出。扩展名 .png、.svg、.pdf、.html 或（幻灯片）.pptx 决定格式。不需要显示器。</translation>
     </message>
     <message>
-        <source>the format of &quot;%1&quot; is unknown: the name must end in one of %2, or in .png, .svg, .pdf or .pptx for a picture, or --to tell one of %3</source>
-        <translation>“%1”的格式未知：名称须以 %2 之一结尾，图片以 .png、.svg、.pdf 或 .pptx 结尾，或用 --to 指定 %3 之一</translation>
+        <source>the format of &quot;%1&quot; is unknown: the name must end in .png, .svg, .pdf, .html or .pptx</source>
+        <translation>“%1”的格式未知：文件名必须以 .png、.svg、.pdf、.html 或 .pptx 结尾</translation>
+    </message>
+    <message>
+        <source>the format of &quot;%1&quot; is unknown: the name must end in one of %2, or in .png, .svg, .pdf, .html or .pptx for a picture, or --to tell one of %3</source>
+        <translation>“%1”的格式未知：文件名必须以 %2 之一结尾，图片则以 .png、.svg、.pdf、.html 或 .pptx 结尾，或用 --to 指定 %3 之一</translation>
+    </message>
+    <message>
+        <source>a page for the browser needs the clear look</source>
+        <translation>浏览器页面需要清晰外观</translation>
     </message>
 </context>
 <context>
@@ -1779,6 +1783,57 @@ Do you want to save your changes?</source>
     <message>
         <source>%1 received</source>
         <translation>已接收 %1</translation>
+    </message>
+</context>
+<context>
+    <name>LookChoice</name>
+    <message>
+        <source>Draw in the &lt;look&gt; clear, which is the default and has all texts level, or classic.</source>
+        <translation>以 &lt;look&gt; 绘制：clear（默认，所有文字水平）或 classic。</translation>
+    </message>
+    <message>
+        <source>Arrange the drawing for &lt;page&gt;: 16:9, A4, A3, Letter, or a size such as 1920x1080 or 297x210mm. A PDF has a page of that size.</source>
+        <translation>按 &lt;page&gt; 排列：16:9、A4、A3、Letter，或如 1920x1080、297x210mm 的尺寸。PDF 的页面即为该尺寸。</translation>
+    </message>
+    <message>
+        <source>Explain the icons below the drawing, which is the default.</source>
+        <translation>在图下方说明图标（默认）。</translation>
+    </message>
+    <message>
+        <source>Leave out the explanation of the icons.</source>
+        <translation>不说明图标。</translation>
+    </message>
+    <message>
+        <source>Draw in &lt;colours&gt;: colour (the default), gray or dark.</source>
+        <translation>以 &lt;colours&gt; 绘制：colour（默认）、gray 或 dark。</translation>
+    </message>
+    <message>
+        <source>Draw the head on the &lt;side&gt;: right (the default) or left.</source>
+        <translation>鱼头在 &lt;side&gt;：right（默认）或 left。</translation>
+    </message>
+    <message>
+        <source>--%1 takes %2, not &quot;%3&quot;</source>
+        <translation>--%1 需要%2，而不是“%3”</translation>
+    </message>
+    <message>
+        <source>clear or classic</source>
+        <translation>clear 或 classic</translation>
+    </message>
+    <message>
+        <source>--%1 needs the clear look</source>
+        <translation>--%1 需要清晰外观</translation>
+    </message>
+    <message>
+        <source>colour, gray or dark</source>
+        <translation>colour、gray 或 dark</translation>
+    </message>
+    <message>
+        <source>left or right</source>
+        <translation>left 或 right</translation>
+    </message>
+    <message>
+        <source>16:9, A4, A3, Letter or a size such as 1920x1080 or 297x210mm</source>
+        <translation>16:9、A4、A3、Letter，或如 1920x1080、297x210mm 的尺寸</translation>
     </message>
 </context>
 <context>

@@ -3,6 +3,7 @@
 
 #include <app/commandline/commandline.h>
 
+#include <fishbone/exchange/diagrampicture.h>
 #include <fishbone/exchange/slideexport.h>
 #include <fishbone/version.h>
 
@@ -37,7 +38,7 @@ QCommandLineOption exportOption()
 {
     return {QStringLiteral("export"),
             CommandLine::tr("Draw the diagram into the picture <file> and quit. The ending .png, "
-                            ".svg, .pdf or, for a slide, .pptx tells the format. Needs no "
+                            ".svg, .pdf, .html or, for a slide, .pptx tells the format. Needs no "
                             "display."),
             QStringLiteral("file")};
 }
@@ -45,7 +46,7 @@ QCommandLineOption exportOption()
 /** The options that go with --export, in the order of the help text. */
 QList<QCommandLineOption> pictureOptions()
 {
-    return {
+    QList<QCommandLineOption> options{
         {QStringLiteral("expand"),
          CommandLine::tr("How far to expand the bones of the picture: all (the default), none, or "
                          "a number of levels below the main bones."),
@@ -61,6 +62,8 @@ QList<QCommandLineOption> pictureOptions()
                          "transparent. White is the default."),
          QStringLiteral("colour")},
     };
+    options += LookChoice::commandLineOptions();
+    return options;
 }
 
 QCommandLineOption fromOption()
@@ -111,7 +114,7 @@ QString endings(bool (*can)(DiagramExchange::Format))
 /** Whether the ending of @p fileName is that of a picture or slide. */
 bool isPicture(const QString &fileName)
 {
-    return PictureExport::formatOf(fileName) || SlideExport::isSlide(fileName);
+    return DiagramPicture::canWrite(fileName) || SlideExport::isSlide(fileName);
 }
 
 void describeWindow(QCommandLineParser &parser)
@@ -283,7 +286,7 @@ bool CommandLine::readExport(const QCommandLineParser &parser)
     target = parser.value(QStringLiteral("export"));
     if (!isPicture(target))
         return refuse(
-            tr("the format of \"%1\" is unknown: the name must end in .png, .svg, .pdf or "
+            tr("the format of \"%1\" is unknown: the name must end in .png, .svg, .pdf, .html or "
                ".pptx")
                 .arg(target));
     if (documents.size() != 1)
@@ -345,7 +348,7 @@ bool CommandLine::readFormat(const QCommandLineParser &parser, const QString &na
                          "--from tell one of %3")
                           .arg(fileName, endings(can), formatIds(can)));
     return refuse(tr("the format of \"%1\" is unknown: the name must end in one of %2, or in "
-                     ".png, .svg, .pdf or .pptx for a picture, or --to tell one of %3")
+                     ".png, .svg, .pdf, .html or .pptx for a picture, or --to tell one of %3")
                       .arg(fileName, endings(can), formatIds(can)));
 }
 
@@ -354,6 +357,11 @@ bool CommandLine::readPicture(const QCommandLineParser &parser)
 {
     if (parser.isSet(QStringLiteral("size")) && parser.isSet(QStringLiteral("scale")))
         return refuse(tr("--size and --scale exclude each other"));
+    if (const QString reason = look.read(parser); !reason.isEmpty())
+        return refuse(reason);
+    if (look.kind == DiagramLook::Classic && !PictureExport::formatOf(target) &&
+        !SlideExport::isSlide(target))
+        return refuse(tr("a page for the browser needs the clear look"));
     return readOption(parser, QStringLiteral("expand"), levelsFrom,
                       tr("all, none or a number of levels"), levels) &&
            readOption(parser, QStringLiteral("size"), sizeFrom, tr("a size such as 1600x900"),

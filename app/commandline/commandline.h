@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <app/commandline/lookchoice.h>
 #include <app/diagram/expansion.h>
 
 #include <fishbone/exchange/diagramexchange.h>
@@ -66,6 +67,7 @@ public:
     bool isStrict = false;             ///< a conversion that would leave something out is refused
     int levels = Expansion::allLevels; ///< how many levels of bones below the main bones to expand
     PictureOptions options;
+    LookChoice look; ///< of a picture
 
 private:
     bool readCommand(const QCommandLineParser &parser);

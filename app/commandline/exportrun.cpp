@@ -10,6 +10,7 @@
 #include <app/files/importsummary.h>
 
 #include <fishbone/editor/fishscene.h>
+#include <fishbone/exchange/diagrampicture.h>
 #include <fishbone/exchange/slideexport.h>
 #include <fishbone/model/fishinfo.h>
 #include <fishbone/model/fishmodel.h>
@@ -38,30 +39,72 @@ FishInfo *loadNow(DocumentLoader &loader, const QString &source, QString &messag
     return loadedDocument;
 }
 
-/** Writes the drawing in @p scene of the diagram of @p head as a slide; returns an exit code. */
-int drawSlide(QGraphicsScene &scene, const TreeItem &head, const CommandLine &line,
-              QString &message)
+/** Draws @p document of @p model into a slide; returns an exit code. */
+int drawSlide(FishModel &model, FishInfo *document, const CommandLine &line, QString &message)
 {
+    const CanvasTheme theme; // gives the bones the user's style
+    LevelDrawing drawing(model, model.index(model.fishRow(document), 0));
+    drawing.expand(line.levels);
+    const TreeItem &head = *document->treeItem()->childAtIndex(0);
     QString reason;
-    if (SlideExport::write(scene, head, line.target, SlideExport::Aspect::Wide, &reason))
+    if (SlideExport::write(*drawing.scene(), head, line.target, SlideExport::Aspect::Wide, &reason))
         return CommandLine::success;
     message = CommandLine::tr("cannot write %1: %2").arg(line.target, reason);
     return CommandLine::failure;
 }
 
-/** Draws @p document of @p model into the target of @p line; returns an exit code. */
-int drawPicture(FishModel &model, FishInfo *document, const CommandLine &line, QString &message)
+constexpr double usualDots = 96;    ///< an inch
+constexpr double printedDots = 192; ///< an inch of paper, as pixels
+constexpr double millimetresPerInch = 25.4;
+constexpr double clearMargin = 8;
+
+/** Draws the diagram below @p head in the clear look into the target of @p line. */
+PictureExport::Result drawClear(const TreeItem *head, const CommandLine &line,
+                                PictureOptions options)
+{
+    const LookChoice &look = line.look;
+    DiagramPicture picture(head, look.options, line.levels);
+    const QSizeF slide(16, 9);
+    picture.arrangeFor(!look.page.isEmpty()      ? look.page
+                       : !options.size.isEmpty() ? QSizeF(options.size)
+                                                 : slide);
+    options.margin = clearMargin;
+    if (look.options.palette == DiagramLook::DarkColors && options.background == Qt::white)
+        options.background = QColor(0x1e, 0x21, 0x26);
+    if (look.page.isEmpty())
+        return picture.write(line.target, options);
+    const double unit = look.isMillimetres ? 1 : millimetresPerInch / usualDots;
+    if (PictureExport::formatOf(line.target) == PictureExport::Format::Pdf)
+        return picture.writePage(line.target, look.page * unit, DiagramPicture::pageMargin,
+                                 options);
+    if (options.size.isEmpty()) {
+        const double dots = look.isMillimetres ? printedDots / millimetresPerInch : 1;
+        options.size = (look.page * dots).toSize();
+    }
+    return picture.write(line.target, options);
+}
+
+/** Draws @p document of @p model in the classic look. */
+PictureExport::Result drawClassic(FishModel &model, FishInfo *document, const CommandLine &line,
+                                  const PictureOptions &options)
 {
     const CanvasTheme theme; // gives the bones the user's style
     LevelDrawing drawing(model, model.index(model.fishRow(document), 0));
     drawing.expand(line.levels);
+    return PictureExport::write(*drawing.scene(), line.target, options);
+}
 
+/** Draws @p document of @p model into the target of @p line; returns an exit code. */
+int drawPicture(FishModel &model, FishInfo *document, const CommandLine &line, QString &message)
+{
     if (SlideExport::isSlide(line.target))
-        return drawSlide(*drawing.scene(), *document->treeItem()->childAtIndex(0), line, message);
+        return drawSlide(model, document, line, message);
+    const TreeItem *const head = document->treeItem()->childAtIndex(0);
     PictureOptions options = line.options;
-    options.title = document->treeItem()->childAtIndex(0)->title();
-    const PictureExport::Result result =
-        PictureExport::write(*drawing.scene(), line.target, options);
+    options.title = head->title();
+    const PictureExport::Result result = line.look.kind == DiagramLook::Clear
+                                             ? drawClear(head, line, options)
+                                             : drawClassic(model, document, line, options);
     if (result)
         return CommandLine::success;
     message = CommandLine::tr("cannot write %1: %2").arg(line.target, result.reason);

@@ -3,6 +3,8 @@
 
 #include <fishbone/drawing/clearoptions.h>
 
+#include <fishbone/style/spearstyle.h>
+
 namespace {
 constexpr qreal smallSize = 11;
 
@@ -32,6 +34,14 @@ ClearFonts::ClearFonts(const QFont &like)
     , m_badge(weighted(like, QFont::Bold, smallSize))
     , m_legend(weighted(like, QFont::Normal, smallSize))
 {
+}
+
+ClearFonts ClearFonts::ofTheUser()
+{
+    const QFont *const set = SpearStyle::global()->textFont(SpearStyle::ssNormal);
+    QFont font = set ? *set : QFont();
+    font.setItalic(false);
+    return ClearFonts(font);
 }
 
 const ClearFont &ClearFonts::ofLevel(int level) const

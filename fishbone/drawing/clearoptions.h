@@ -55,6 +55,9 @@ public:
     /** The fonts of the family of @p like. */
     explicit ClearFonts(const QFont &like);
 
+    /** The fonts of the family that the user has chosen for all subjects. */
+    static ClearFonts ofTheUser();
+
     /** The font of a title at @p level. */
     const ClearFont &ofLevel(int level) const;
     /** The font of the "+5" of a contracted bone. */

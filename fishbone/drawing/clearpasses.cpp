@@ -88,14 +88,6 @@ struct Shown
     }
 };
 
-QFont family()
-{
-    const QFont *const set = SpearStyle::global()->textFont(SpearStyle::ssNormal);
-    QFont font = set ? *set : QFont();
-    font.setItalic(false);
-    return font;
-}
-
 std::unique_ptr<const ClearFrame> frameOf(const ClearLayout &layout)
 {
     auto frame = std::make_unique<ClearFrame>();
@@ -130,7 +122,7 @@ void ClearLook::size(const SpearTree &tree) const
 void ClearLook::place(const SpearTree &tree) const
 {
     const Shown shown(tree.head().spear);
-    const ClearFonts fonts(family());
+    const ClearFonts fonts = ClearFonts::ofTheUser();
     const ClearLayout layout(ClearTree(shown.subjects), fonts, ClearOptions::of(m_options),
                              m_texts);
     QFont badge = fonts.badge().font();

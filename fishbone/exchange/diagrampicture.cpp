@@ -60,7 +60,7 @@ struct DiagramPicture::Data
     Data(ClearPictureContent made, const DiagramLook::Options &options)
         : content(std::move(made))
         , tree(content.subjects)
-        , fonts(QFont())
+        , fonts(ClearFonts::ofTheUser())
         , colors(options.palette)
         , clear(ClearOptions::of(options))
     {

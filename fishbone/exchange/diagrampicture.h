@@ -29,6 +29,8 @@ class FISHBONE_EXPORT DiagramPicture
 public:
     /** All subjects of the diagram are shown. */
     static constexpr int allLevels = -1;
+    /** The usual margin of a page of paper, in millimetres. */
+    static constexpr double pageMargin = 10;
 
     /**
      * The diagram below @p head, which must not be null, in @p options. Shows @p levels levels of
@@ -68,7 +70,7 @@ public:
      * side, the drawing in its middle.
      */
     PictureExport::Result writePage(const QString &fileName, const QSizeF &millimetres,
-                                    double margin = 10,
+                                    double margin = pageMargin,
                                     const PictureOptions &options = PictureOptions()) const;
 
 private:

@@ -22,6 +22,8 @@ private Q_SLOTS:
     void shouldDrawInTheStyleOfTheUser();
     void shouldExpandAsAsked_data();
     void shouldExpandAsAsked();
+    void shouldDrawForAPage_data();
+    void shouldDrawForAPage();
     void shouldMakeThePictureAsLargeAsAsked();
     void shouldFillTheBackgroundAsAsked_data();
     void shouldFillTheBackgroundAsAsked();
@@ -154,7 +156,9 @@ void TestCommandLine::shouldDrawInTheStyleOfTheUser()
     ProgramRunner::writeFile(source, ProgramRunner::diagram());
     const auto exported = [&] {
         const QString target = home.filePath(QStringLiteral("a.png"));
-        ProgramRunner::run({source, QStringLiteral("--export"), target}, environment);
+        ProgramRunner::run({source, QStringLiteral("--look=classic"), // in which titles are cut
+                            QStringLiteral("--export"), target},
+                           environment);
         return ProgramRunner::contentOf(target);
     };
     const QByteArray usual = exported();
@@ -192,8 +196,10 @@ void TestCommandLine::shouldExpandAsAsked()
     QFETCH(QString, more);
     QFETCH(bool, differ);
 
-    const QImage smaller = exported({QStringLiteral("--expand"), less});
-    const QImage larger = exported({QStringLiteral("--expand"), more});
+    // The clear look would arrange what is left anew.
+    const QString look = QStringLiteral("--look=classic");
+    const QImage smaller = exported({look, QStringLiteral("--expand"), less});
+    const QImage larger = exported({look, QStringLiteral("--expand"), more});
     QVERIFY(!smaller.isNull());
     QVERIFY(!larger.isNull());
     if (differ)
@@ -201,7 +207,38 @@ void TestCommandLine::shouldExpandAsAsked()
     else
         QCOMPARE(smaller, larger);
     if (more == QLatin1String("all"))
-        QCOMPARE(exported({}), larger); // the default
+        QCOMPARE(exported({look}), larger); // the default
+}
+
+void TestCommandLine::shouldDrawForAPage_data()
+{
+    QTest::addColumn<QString>("page");
+    QTest::addColumn<QSize>("size");
+    QTest::newRow("slide") << QStringLiteral("16:9") << QSize(1920, 1080);
+    QTest::newRow("pixels") << QStringLiteral("400x300") << QSize(400, 300);
+    QTest::newRow("named pixels") << QStringLiteral("400x300px") << QSize(400, 300);
+    QTest::newRow("millimetres") << QStringLiteral("127x63.5mm") << QSize(960, 480);
+    QTest::newRow("paper") << QStringLiteral("a4") << QSize(2245, 1587);
+    QTest::newRow("nothing") << QStringLiteral("0x300") << QSize();
+    QTest::newRow("no page") << QStringLiteral("B7") << QSize();
+}
+
+void TestCommandLine::shouldDrawForAPage()
+{
+    QFETCH(QString, page);
+    QFETCH(QSize, size);
+    const QStringList arguments{QStringLiteral("--page"), page, QStringLiteral("--export"),
+                                picture(), document()};
+    QCOMPARE(run(arguments + QStringList(QStringLiteral("--look=classic")), environment()).code,
+             2); // it has no pages
+    if (size.isEmpty()) {
+        QCOMPARE(run(arguments, environment()).code, 2);
+        return;
+    }
+    const QImage image = exported({QStringLiteral("--page"), page});
+    QCOMPARE(image.size(), size);
+    QVERIFY(exported({QStringLiteral("--head=left"), QStringLiteral("--page"), page}) != image);
+    QVERIFY(exported({QStringLiteral("--palette=gray"), QStringLiteral("--page"), page}) != image);
 }
 
 void TestCommandLine::shouldMakeThePictureAsLargeAsAsked()

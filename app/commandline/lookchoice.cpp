@@ -1,0 +1,101 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#include <app/commandline/lookchoice.h>
+
+#include <QCommandLineParser>
+#include <QHash>
+#include <QRegularExpression>
+
+namespace {
+
+const QString lookName = QStringLiteral("look");
+const QString pageName = QStringLiteral("page");
+const QString legendName = QStringLiteral("legend");
+const QString noLegendName = QStringLiteral("no-legend");
+const QString paletteName = QStringLiteral("palette");
+const QString headName = QStringLiteral("head");
+
+/** Sets @p value to what @p text names; false when it names nothing. */
+template <typename Value>
+bool choose(const QHash<QString, Value> &names, const QString &text, Value &value)
+{
+    const auto found = names.constFind(text.toLower());
+    if (found == names.cend())
+        return false;
+    value = *found;
+    return true;
+}
+
+} // namespace
+
+QList<QCommandLineOption> LookChoice::commandLineOptions()
+{
+    return {
+        {lookName,
+         tr("Draw in the <look> clear, which is the default and has all texts level, or classic."),
+         QStringLiteral("look")},
+        {pageName,
+         tr("Arrange the drawing for <page>: 16:9, A4, A3, Letter, or a size such as 1920x1080 or "
+            "297x210mm. A PDF has a page of that size."),
+         QStringLiteral("page")},
+        {legendName, tr("Explain the icons below the drawing, which is the default.")},
+        {noLegendName, tr("Leave out the explanation of the icons.")},
+        {paletteName, tr("Draw in <colours>: colour (the default), gray or dark."),
+         QStringLiteral("colours")},
+        {headName, tr("Draw the head on the <side>: right (the default) or left."),
+         QStringLiteral("side")},
+    };
+}
+
+QString LookChoice::read(const QCommandLineParser &parser)
+{
+    const auto wrong = [&](const QString &name, const QString &what) {
+        return tr("--%1 takes %2, not \"%3\"").arg(name, what, parser.value(name));
+    };
+    if (parser.isSet(lookName) &&
+        !choose<DiagramLook::Kind>({{QStringLiteral("clear"), DiagramLook::Clear},
+                                    {QStringLiteral("classic"), DiagramLook::Classic}},
+                                   parser.value(lookName), kind))
+        return wrong(lookName, tr("clear or classic"));
+    for (const QString &name : {pageName, legendName, noLegendName, paletteName, headName}) {
+        if (kind == DiagramLook::Classic && parser.isSet(name))
+            return tr("--%1 needs the clear look").arg(name);
+    }
+    options.hasLegend = !parser.isSet(noLegendName);
+    if (parser.isSet(paletteName) &&
+        !choose<DiagramLook::Palette>({{QStringLiteral("colour"), DiagramLook::DistinctColors},
+                                       {QStringLiteral("color"), DiagramLook::DistinctColors},
+                                       {QStringLiteral("gray"), DiagramLook::GrayColors},
+                                       {QStringLiteral("grey"), DiagramLook::GrayColors},
+                                       {QStringLiteral("dark"), DiagramLook::DarkColors}},
+                                      parser.value(paletteName), options.palette))
+        return wrong(paletteName, tr("colour, gray or dark"));
+    if (parser.isSet(headName) &&
+        !choose<bool>({{QStringLiteral("left"), true}, {QStringLiteral("right"), false}},
+                      parser.value(headName), options.isHeadLeft))
+        return wrong(headName, tr("left or right"));
+    return parser.isSet(pageName) ? readPage(parser.value(pageName)) : QString();
+}
+
+QString LookChoice::readPage(const QString &text)
+{
+    isMillimetres = true;
+    if (choose<QSizeF>({{QStringLiteral("a4"), QSizeF(297, 210)},
+                        {QStringLiteral("a3"), QSizeF(420, 297)},
+                        {QStringLiteral("letter"), QSizeF(279.4, 215.9)}},
+                       text, page))
+        return QString();
+    static const QRegularExpression form(
+        QStringLiteral("^([0-9]{1,5}(?:\\.[0-9]{1,3})?)x([0-9]{1,5}(?:\\.[0-9]{1,3})?)(mm|px)?$"),
+        QRegularExpression::CaseInsensitiveOption);
+    const QRegularExpressionMatch match = form.match(text);
+    isMillimetres = match.captured(3).compare(QLatin1String("mm"), Qt::CaseInsensitive) == 0;
+    page = QSizeF(match.captured(1).toDouble(), match.captured(2).toDouble());
+    if (text == QLatin1String("16:9"))
+        page = QSizeF(1920, 1080);
+    if (!page.isEmpty())
+        return QString();
+    return tr("--%1 takes %2, not \"%3\"")
+        .arg(pageName, tr("16:9, A4, A3, Letter or a size such as 1920x1080 or 297x210mm"), text);
+}
