@@ -13,7 +13,7 @@ using ClearMeasure::slope;
 
 constexpr qreal firstBelow = 14; ///< from the head to the first joint of each side
 constexpr qreal firstAbove = 26;
-constexpr qreal overHead = 4;      ///< what may hang over towards the head before that grows
+constexpr qreal overHead = 4;       ///< what may hang over towards the head before that grows
 constexpr qreal headClear = 4;      ///< between the head and what hangs over above it
 constexpr qreal jointPitch = 12;    ///< between two joints of a side
 constexpr qreal columnGap = 16;     ///< between two categories
