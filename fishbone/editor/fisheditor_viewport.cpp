@@ -161,9 +161,9 @@ void FishEditor::createPopMenu(QMenu &menu, SpearItem *spear)
     m_d->menu.fill(menu, spear);
 }
 
-void FishEditor::onRightClicked(void *data)
+void FishEditor::onRightClicked(void *payload)
 {
-    m_d->menu.show(static_cast<SpearItem *>(data));
+    m_d->menu.show(static_cast<SpearItem *>(payload));
 }
 
 void FishEditor::setBoneMenuFiller(const std::function<void(QMenu &, SpearItem *)> &filler)

@@ -153,8 +153,9 @@ const QVector<SubjectAttribute> &SubjectAttribute::inKeyOrder()
 {
     static const QVector<SubjectAttribute> attributes = [] {
         QVector<SubjectAttribute> sorted = makeAll();
-        std::sort(sorted.begin(), sorted.end(),
-                  [](const auto &one, const auto &other) { return one.m_key < other.m_key; });
+        std::sort(sorted.begin(), sorted.end(), [](const auto &one, const auto &other) {
+            return one.m_key.compare(other.m_key) < 0;
+        });
         return sorted;
     }();
     return attributes;
