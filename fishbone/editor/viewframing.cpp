@@ -25,8 +25,9 @@ void give(QGraphicsView &view, const QTransform &matrix)
 
 void ViewFraming::addZoom(long long steps)
 {
-    using Limits = std::numeric_limits<int>;
-    m_zoom = int(qBound<long long>(Limits::min(), m_zoom + steps, Limits::max()));
+    constexpr long long least = std::numeric_limits<int>::min();
+    constexpr long long most = std::numeric_limits<int>::max();
+    m_zoom = int(qBound(least, m_zoom + steps, most));
 }
 
 void ViewFraming::apply() const

@@ -30,8 +30,14 @@ public:
 
 /** Runs the slots of a class in an application that has windows. */
 #define FISHBONE_TEST(TestObject)                                                                  \
-    static int run##TestObject(int argc, char *argv[]){                                            \
-        QTEST_MAIN_IMPL(TestObject)} FISHBONE_TEST_MAIN(run##TestObject)
+    static int run##TestObject(int argc, char *argv[])                                             \
+    {                                                                                              \
+        const QApplication application(argc, argv);                                                \
+        QApplication::setAttribute(Qt::AA_Use96Dpi);                                               \
+        TestObject test;                                                                           \
+        return QTest::qExec(&test, argc, argv);                                                    \
+    }                                                                                              \
+    FISHBONE_TEST_MAIN(run##TestObject)
 
 /** Runs the slots of a class in an application that has no windows. */
 #define FISHBONE_GUILESS_TEST(TestObject)                                                          \
