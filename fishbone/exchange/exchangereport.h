@@ -33,7 +33,7 @@ public:
     /** One thing, and how often it came. */
     struct Entry
     {
-        Kind kind;
+        Kind kind;       ///< what became of it
         QString what;    ///< for the user, translated
         int count = 0;   ///< how often it came
         qint64 line = 0; ///< where it came first; 0 where there are no lines

@@ -44,13 +44,14 @@ public:
     /// What the layout needs to know of the recorded child sizes.
     struct ChildExtents
     {
-        int count = 0;
-        double widest = 0;
-        double tallest = 0;
-        double heightSum = 0;
+        int count = 0;                ///< of the children
+        double widest = 0;            ///< the largest width of a child
+        double tallest = 0;           ///< the largest height of a child
+        double heightSum = 0;         ///< over all children
         double widthSum = 0;          ///< over all children
         double sideWidth[2] = {0, 0}; ///< over the children of even and of odd number
 
+        /// Whether a parent needs as much room for both.
         bool operator==(const ChildExtents &other) const
         {
             return count == other.count && widest == other.widest && tallest == other.tallest &&

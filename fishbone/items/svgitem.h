@@ -40,6 +40,7 @@ public:
                QWidget *widget = nullptr) override;
 
 protected:
+    /** The file whose picture is shown. */
     const QString &shownFile() const { return m_file; }
     void hoverEnterEvent(QGraphicsSceneHoverEvent *event) override;
     void hoverMoveEvent(QGraphicsSceneHoverEvent *event) override;

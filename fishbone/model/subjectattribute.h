@@ -60,9 +60,13 @@ public:
     /** The attribute of that key, null when there is none. */
     static const SubjectAttribute *find(const QString &key);
 
+    /** The key in the diagram format. */
     QLatin1String key() const { return m_key; }
+    /** What kind of value it has. */
     Kind kind() const { return m_kind; }
+    /** Who deals with it. */
     Uses uses() const { return m_uses; }
+    /** When a file has it. */
     Writing writing() const { return m_writing; }
     /** What a new subject has in place of a number. */
     int unsetNumber() const { return m_unset; }
