@@ -127,9 +127,12 @@ qint64 HeadPictures::key()
 void HeadPictures::paint(QPainter &painter, const QLineF &backbone)
 {
     // Whole pixels above the line, so that a picture of odd height is not blurred.
-    if (const QPixmap *const head = SpearItem::m_pixHeader; isThere(head))
-        paintPicture(painter, backbone.p1() - QPointF(0, head->height() / 2), *head, loadedHead);
-    if (const QPixmap *const tail = SpearItem::m_pixTail; isThere(tail))
-        paintPicture(painter, backbone.p2() - QPointF(tail->width(), tail->height() / 2), *tail,
-                     loadedTail);
+    if (const QPixmap *const head = SpearItem::m_pixHeader; isThere(head)) {
+        const int above = head->height() / 2;
+        paintPicture(painter, backbone.p1() - QPointF(0, above), *head, loadedHead);
+    }
+    if (const QPixmap *const tail = SpearItem::m_pixTail; isThere(tail)) {
+        const int above = tail->height() / 2;
+        paintPicture(painter, backbone.p2() - QPointF(tail->width(), above), *tail, loadedTail);
+    }
 }
