@@ -64,6 +64,26 @@ check_include_guards() {
     done | none
 }
 
+# A class outside a namespace has a name of its own in library, program, examples and tests: they are linked
+# with each other, and of two classes with one name the linker takes the functions of either.
+check_class_names() {
+    local headers
+    mapfile -t headers <<<"$(sources h)"
+    awk '/^namespace [A-Za-z:]+ \{/ { inside = 1 }
+         /^\}/ { inside = 0 }
+         FNR == 1 { inside = 0 }
+         !inside && /^(class|struct) / && !/;$/ {
+             sub(/^(class|struct) /, "")
+             sub(/^(FISHBONE_EXPORT|FISHBONE_DESIGNER_EXPORT) /, "")
+             if (/^[A-Za-z0-9_]+::/)
+                 next
+             sub(/[^A-Za-z0-9_].*/, "")
+             if ($0 in seen)
+                 print FILENAME ": " $0 " is in " seen[$0] ", too"
+             seen[$0] = FILENAME
+         }' "${headers[@]}" | none
+}
+
 # There is one spelling of an include, from the top folder; only moc output is included as a neighbour.
 check_includes() {
     local files

@@ -13,7 +13,7 @@
 #include <app/documents/filecommands.h>
 #include <app/documents/recoverycommands.h>
 #include <app/documents/tabcommands.h>
-#include <app/editing/bonemenu.h>
+#include <app/editing/bonemenuentries.h>
 #include <app/editing/editcommands.h>
 #include <app/editing/movecommands.h>
 #include <app/editing/typedtitle.h>
@@ -237,7 +237,7 @@ void MainWindow::takeIn(DocumentTab *tab)
 void MainWindow::connectGestures(DocumentTab *tab)
 {
     FishEditor *const editor = tab->editor();
-    new BoneMenu(editor, m_actions, tab); // which owns it
+    offerActionsInBoneMenu(*editor, *m_actions);
     auto *const typing = new TypedTitle(editor, tab);
     connect(typing, &TypedTitle::typed, this, [this, editor](const QString &text) {
         m_edits->rename(editor->firstSelectedSpearIndex(), text);

@@ -7,6 +7,7 @@
 #include <QDebug>
 #include <QMenu>
 #include <QPointer>
+#include <QVector>
 
 #include <fishbone/editor/fisheditor.h>
 #include <fishbone/items/spearitem.h>
@@ -26,7 +27,20 @@ void addEntry(QMenu &menu, const QString &label, MenuEntry entry)
 {
     menu.addAction(label)->setData(int(entry));
 }
+QVector<QPointer<QAction>> pointersTo(const QList<QAction *> &actions)
+{
+    QVector<QPointer<QAction>> pointers;
+    for (QAction *action : actions)
+        pointers.append(action);
+    return pointers;
+}
 } // namespace
+
+// The head of a task diagram has no entries of the library's.
+bool BoneMenu::isHeadOfTasks(const SpearItem &spear) const
+{
+    return m_editor.modelType() == FISH_MODEL_NORMAL && spear.treeItem()->isTopVaildItem();
+}
 
 void BoneMenu::addOwnEntries(QMenu &menu, const SpearItem *spear) const
 {
@@ -54,18 +68,20 @@ void BoneMenu::show(SpearItem *spear) const
     const SpearPointer shown(spear);
     if (!spear || !spear->treeItem())
         return;
-    if (m_editor.modelType() == FISH_MODEL_NORMAL && spear->treeItem()->isTopVaildItem())
-        return;
     const QPointer<FishEditor> alive(&m_editor);
     QMenu menu;
-    addOwnEntries(menu, spear);
-    const QList<QAction *> own = menu.actions(); // an entry of a host's does what the host says
+    if (!isHeadOfTasks(*spear))
+        addOwnEntries(menu, spear);
+    // An entry of a host's does what the host says. The filler may have deleted some of our own,
+    // and a new one may have got the address of such a one.
+    const QVector<QPointer<QAction>> own = pointersTo(menu.actions());
     if (m_filler)
         m_filler(menu, spear);
-    const QAction *const chosen = menu.exec(QCursor::pos());
+    if (menu.isEmpty())
+        return;
+    QAction *const chosen = menu.exec(QCursor::pos());
     // The menu runs an event loop: editor, spear and subject may be gone by now.
-    if (!chosen || !own.contains(const_cast<QAction *>(chosen)) || !alive || !shown.get() ||
-        !shown.get()->treeItem())
+    if (!chosen || !own.contains(chosen) || !alive || !shown.get() || !shown.get()->treeItem())
         return;
     run(chosen->data().toInt(), *shown.get());
 }

@@ -30,6 +30,7 @@ public:
     void show(SpearItem *spear) const;
 
 private:
+    bool isHeadOfTasks(const SpearItem &spear) const;
     void addOwnEntries(QMenu &menu, const SpearItem *spear) const;
     void run(int entry, const SpearItem &spear) const;
 

@@ -370,7 +370,9 @@ public:
     /// Fills \a menu with the entries for \a spear in the model's mode, and what a host adds.
     void createPopMenu(QMenu &menu, SpearItem *spear);
     /// Has \a filler add a host's own entries to the context menu of a bone, or take some off; they
-    /// do what the host connects them to. Called each time the menu is filled.
+    /// do what the host connects them to. Called each time the menu is filled; for the head of a
+    /// task diagram, which has no entries of its own, with an empty one. A menu left empty is not
+    /// shown.
     void setBoneMenuFiller(const std::function<void(QMenu &menu, SpearItem *spear)> &filler);
     /// Reports a double click on the selected spear. For the view.
     void doubleClicked(QMouseEvent *event);

@@ -23,6 +23,25 @@ QStringList textsOf(const QMenu &menu)
     return texts;
 }
 
+/// The text of the last entry of the context menu of a spear, which is chosen; nothing when no menu
+/// comes up.
+QString chooseLastEntry(FishEditor &editor, SpearItem *spear)
+{
+    QString text;
+    QTimer chooser;
+    QObject::connect(&chooser, &QTimer::timeout, &editor, [&text] {
+        auto *const menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+        if (!menu)
+            return;
+        text = menu->actions().last()->text();
+        menu->setActiveAction(menu->actions().last());
+        QTest::keyClick(menu, Qt::Key_Return);
+    });
+    chooser.start(1);
+    editor.onRightClicked(spear);
+    return text;
+}
+
 QString document()
 {
     return QStringLiteral("Effect[Man[Training],Machine]");
@@ -40,6 +59,8 @@ private Q_SLOTS:
     void shouldChangeTheAutosaveInterval();
     void shouldAddEntriesToTheBoneMenu();
     void shouldDoWhatAHostsEntryDoesAndNothingElse();
+    void shouldShowAHostsEntriesAtTheHeadOfATaskDiagram();
+    void shouldNotTakeAHostsEntryForAnOwnOneThatItTookTheAddressOf();
     void shouldFindTheBoneAtAPoint();
 };
 
@@ -101,19 +122,43 @@ void TestFishEditorDoors::shouldDoWhatAHostsEntryDoesAndNothingElse()
     });
 
     // When it is chosen
-    QTimer chooser;
-    connect(&chooser, &QTimer::timeout, this, [] {
-        auto *const menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
-        if (!menu)
-            return;
-        menu->setActiveAction(menu->actions().last());
-        QTest::keyClick(menu, Qt::Key_Return);
-    });
-    chooser.start(1);
-    f.editor.onRightClicked(f.spear(QStringLiteral("Man")));
+    QCOMPARE(chooseLastEntry(f.editor, f.spear(QStringLiteral("Man"))), QStringLiteral("mine"));
 
     // Then nothing is deleted
     QCOMPARE(triggered, 1);
+    QVERIFY(f.subject(QStringLiteral("Man")));
+}
+
+void TestFishEditorDoors::shouldShowAHostsEntriesAtTheHeadOfATaskDiagram()
+{
+    // Given a task diagram, whose head has no menu of the library's
+    EditorFixture f(document());
+    f.model.setModelType(FISH_MODEL_NORMAL);
+    SpearItem *const head = f.spear(QStringLiteral("Effect"));
+    QCOMPARE(chooseLastEntry(f.editor, head), QString());
+
+    // When a host adds an entry
+    QStringList given;
+    f.editor.setBoneMenuFiller([&given](QMenu &menu, SpearItem *) {
+        given = textsOf(menu);
+        menu.addAction(QStringLiteral("mine"));
+    });
+
+    // Then the menu has it alone
+    QCOMPARE(chooseLastEntry(f.editor, head), QStringLiteral("mine"));
+    QCOMPARE(given, QStringList());
+}
+
+void TestFishEditorDoors::shouldNotTakeAHostsEntryForAnOwnOneThatItTookTheAddressOf()
+{
+    EditorFixture f(document());
+    f.editor.setBoneMenuFiller([](QMenu &menu, SpearItem *) {
+        menu.clear();
+        for (int i = 0; i < 20; ++i)
+            menu.addAction(QStringLiteral("mine"))->setData(1006);
+    });
+    for (int i = 0; i < 20; ++i)
+        QCOMPARE(chooseLastEntry(f.editor, f.spear(QStringLiteral("Man"))), QStringLiteral("mine"));
     QVERIFY(f.subject(QStringLiteral("Man")));
 }
 

@@ -1,15 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The Fishbone authors
 // SPDX-License-Identifier: MIT
 
-#include <app/editing/bonemenu.h>
+#include <app/editing/bonemenuentries.h>
 
 #include <app/common/actionset.h>
 
 #include <fishbone/editor/fisheditor.h>
-#include <fishbone/editor/graphicsview.h>
 #include <fishbone/model/fishmodel.h>
 
-#include <QCursor>
 #include <QMenu>
 
 namespace {
@@ -32,25 +30,14 @@ void fill(QMenu &menu, const char *const (&names)[size], const ActionSet &action
 
 } // namespace
 
-BoneMenu::BoneMenu(FishEditor *editor, const ActionSet *actions, QObject *parent)
-    : QObject(parent)
-    , m_editor(editor)
-    , m_actions(actions)
+void offerActionsInBoneMenu(FishEditor &editor, const ActionSet &actions)
 {
-    disconnect(editor->view(), &GraphicsView::rightClicked, editor, &FishEditor::onRightClicked);
-    connect(editor->view(), &GraphicsView::rightClicked, this, &BoneMenu::show);
-}
-
-/** The view has selected the bone, which the actions are for. */
-void BoneMenu::show(const void *spear)
-{
-    if (!spear)
-        return;
-    QMenu menu;
-    if (m_editor->modelType() == FISH_MODEL_NORMAL)
-        fill(menu, taskEntries, *m_actions);
-    else
-        fill(menu, diagramEntries, *m_actions);
-    fill(menu, commonEntries, *m_actions);
-    menu.exec(QCursor::pos());
+    editor.setBoneMenuFiller([&editor, &actions](QMenu &menu, SpearItem *) {
+        menu.clear();
+        if (editor.modelType() == FISH_MODEL_NORMAL)
+            fill(menu, taskEntries, actions);
+        else
+            fill(menu, diagramEntries, actions);
+        fill(menu, commonEntries, actions);
+    });
 }

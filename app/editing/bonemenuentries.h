@@ -1,0 +1,15 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+class ActionSet;
+class FishEditor;
+class QMenu;
+
+/**
+ * Has the context menu of a bone in @p editor offer the program's actions in place of the editor's
+ * own: those of the editor's menu in the present mode, and the clipboard. @p actions are those that
+ * the set has when the menu opens; the set must outlive the editor.
+ */
+void offerActionsInBoneMenu(FishEditor &editor, const ActionSet &actions);
