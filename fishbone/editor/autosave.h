@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include <QtGlobal>
+
 #include <functional>
 
 class QObject;
@@ -11,6 +13,8 @@ class QTimer;
 /// Saves every so often.
 class Autosave
 {
+    Q_DISABLE_COPY(Autosave)
+
 public:
     static constexpr int defaultInterval = 30000; ///< milliseconds
 

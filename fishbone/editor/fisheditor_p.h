@@ -30,6 +30,8 @@ struct ShownRoot
 /// The state of an editor. What it has in here is made in this order.
 struct FishEditor::Private
 {
+    Q_DISABLE_COPY(Private)
+
     /// Makes the view, which the editor's layout takes over.
     explicit Private(FishEditor *editor);
 

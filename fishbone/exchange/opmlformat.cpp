@@ -118,6 +118,17 @@ void takeAttributes(const QXmlStreamAttributes &values, qint64 line, TreeItem &s
     }
 }
 
+/** Keeps @p link, which the attributes of a subject may have taken the place of. */
+void keepLink(const QString &link, qint64 line, TreeItem &subject, ImportedTree &tree)
+{
+    if (link.isEmpty() || link == subject.url())
+        return;
+    if (subject.url().isEmpty())
+        subject.setUrl(link);
+    else
+        tree.addNamedDetail(subject, DiagramExchange::tr("Link"), link, line);
+}
+
 /** Adds the outline that @p xml has just entered. */
 bool addOutline(const QXmlStreamReader &xml, int depth, ImportedTree &tree)
 {
@@ -129,12 +140,9 @@ bool addOutline(const QXmlStreamReader &xml, int depth, ImportedTree &tree)
     const QString name =
         values.hasAttribute(textName) ? QString(textName) : QStringLiteral("title");
     subject->setTitle(titleFrom(values.value(name).toString(), tree, *subject, line));
-    const QString url = subject->url(); // of a link in the title
+    const QString linkInTitle = subject->url();
     takeAttributes(values, line, *subject, tree);
-    if (!url.isEmpty() && subject->url().isEmpty())
-        subject->setUrl(url);
-    else if (url != subject->url())
-        tree.addNamedDetail(*subject, DiagramExchange::tr("Link"), url, line);
+    keepLink(linkInTitle, line, *subject, tree);
     return true;
 }
 

@@ -33,8 +33,8 @@ SpearStyle::SpearState stateOf(bool hovered, bool selected)
 
 TextItem::TextItem(const QString &text, QGraphicsItem *parent)
     : QGraphicsTextItem(parent)
+    , m_text(text)
 {
-    m_text = text;
     fillDocument(true);
     m_color = defaultTextColor();
     if (!parentSpear()) // a spear gives its own

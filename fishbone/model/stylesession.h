@@ -40,9 +40,11 @@ public:
     /** Deletes @p style, later when it is being edited. */
     static void discard(const TreeItem *node, std::unique_ptr<SpearStyle> style)
     {
-        for (StyleSession *session = innermost; session && style; session = session->m_outer) {
-            if (session->m_node == node && !session->m_kept)
+        for (StyleSession *session = innermost; session; session = session->m_outer) {
+            if (session->m_node == node && !session->m_kept) {
                 session->m_kept = std::move(style);
+                return;
+            }
         }
     }
 
