@@ -19,11 +19,25 @@ ClearOptions ClearOptions::of(const DiagramLook::Options &options)
 {
     ClearOptions clear;
     clear.wrap.limit = options.wrapLimit;
+    clear.wrap.lines = options.wrapLines;
+    clear.wrap.widens = options.widensLines;
     clear.headWidth = options.headWidth;
     clear.sides = ClearSides(options.sides);
     clear.isHeadLeft = options.isHeadLeft;
     clear.hasLegend = options.hasLegend;
     return clear;
+}
+
+DiagramLook::Options ClearOptions::in(DiagramLook::Options options) const
+{
+    options.wrapLimit = wrap.limit;
+    options.wrapLines = wrap.lines;
+    options.widensLines = wrap.widens;
+    options.headWidth = headWidth;
+    options.sides = DiagramLook::Sides(sides);
+    options.isHeadLeft = isHeadLeft;
+    options.hasLegend = hasLegend;
+    return options;
 }
 
 ClearFonts::ClearFonts(const QFont &like)

@@ -39,6 +39,8 @@ struct ClearOptions
 
     /** What @p options of the look mean for the layout. */
     static ClearOptions of(const DiagramLook::Options &options);
+    /** @p options with this arrangement, so that of() gives it back. */
+    DiagramLook::Options in(DiagramLook::Options options) const;
 
     bool operator==(const ClearOptions &o) const
     {

@@ -3,6 +3,10 @@
 
 #pragma once
 
+#include <fishbone/fishbone_export.h>
+
+class QJsonObject;
+
 /**
  * How an editor draws: where bones and texts go and what is painted. What a user does is the same
  * in all looks. FishEditor::setLook() and setLookOptions() choose one.
@@ -31,10 +35,13 @@ public:
     };
 
     /** What can be chosen of the clear look; the classic one has no options. */
-    struct Options
+    struct FISHBONE_EXPORT Options
     {
-        double wrapLimit = 0;   ///< the width of a line of a title in units; 0 for no limit
-        double headWidth = 120; ///< the same for the title in the head
+        double wrapLimit = 0;     ///< the width of a line of a title in units; 0 for no limit
+        int wrapLines = 3;        ///< a title has at most so many lines
+        bool widensLines = false; ///< whether lines get longer than the limit rather than titles
+                                  ///< with more lines cut
+        double headWidth = 120;   ///< the width of a line of the title in the head
         Sides sides = OneSide;
         bool isHeadLeft = false; ///< the head stands on the left instead of the right
         Palette palette = DistinctColors;
@@ -42,9 +49,16 @@ public:
             true; ///< whether expanded bones show their button when they are pointed at
         bool hasLegend = false; ///< whether the meanings of icons and colours stand below the tail
 
+        /** All of them, to be stored in a document, whose "view" is a place for them. */
+        QJsonObject toJson() const;
+        /** The options that toJson() has stored in @p json. Whatever is missing there, is unknown
+         * or makes no sense is as in options that nobody has changed. */
+        static Options fromJson(const QJsonObject &json);
+
         bool operator==(const Options &other) const
         {
-            return wrapLimit == other.wrapLimit && headWidth == other.headWidth &&
+            return wrapLimit == other.wrapLimit && wrapLines == other.wrapLines &&
+                   widensLines == other.widensLines && headWidth == other.headWidth &&
                    sides == other.sides && isHeadLeft == other.isHeadLeft &&
                    palette == other.palette && hasButtons == other.hasButtons &&
                    hasLegend == other.hasLegend;

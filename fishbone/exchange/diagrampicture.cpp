@@ -57,12 +57,13 @@ Result written(const QString &fileName, const QByteArray &bytes)
 
 struct DiagramPicture::Data
 {
-    Data(ClearPictureContent made, const DiagramLook::Options &options)
+    Data(ClearPictureContent made, const DiagramLook::Options &chosen)
         : content(std::move(made))
+        , options(chosen)
         , tree(content.subjects)
         , fonts(ClearFonts::ofTheUser())
-        , colors(options.palette)
-        , clear(ClearOptions::of(options))
+        , colors(chosen.palette)
+        , clear(ClearOptions::of(chosen))
     {
         layOut();
     }
@@ -74,6 +75,7 @@ struct DiagramPicture::Data
     ClearPicture picture() const { return {content, *layout, fonts, colors}; }
 
     ClearPictureContent content;
+    DiagramLook::Options options;
     ClearTree tree;
     ClearFonts fonts;
     ClearColors colors;
@@ -94,7 +96,21 @@ void DiagramPicture::arrangeFor(const QSizeF &page)
 {
     m_data->clear = ClearArrangement::bestFor(m_data->tree, m_data->fonts, m_data->clear, page,
                                               m_data->cache, m_data->content.legendTexts);
+    m_data->options = m_data->clear.in(m_data->options);
     m_data->layOut();
+}
+
+DiagramLook::Options DiagramPicture::options() const
+{
+    return m_data->options;
+}
+
+DiagramLook::Options DiagramPicture::arrangedFor(const QSizeF &page, const TreeItem *head,
+                                                 const DiagramLook::Options &options)
+{
+    DiagramPicture picture(head, options);
+    picture.arrangeFor(page);
+    return picture.options();
 }
 
 QSizeF DiagramPicture::size() const

@@ -48,6 +48,17 @@ public:
      */
     void arrangeFor(const QSizeF &page);
 
+    /** How it is drawn: the options it was made with, after arrangeFor() with the arrangement that
+     * was found. An editor with these options shows the same drawing. */
+    DiagramLook::Options options() const;
+
+    /**
+     * @p options with the arrangement that makes the diagram below @p head, which must not be null,
+     * largest on a page with the proportions of @p page: what arrangeFor() finds, for an editor.
+     */
+    static DiagramLook::Options arrangedFor(const QSizeF &page, const TreeItem *head,
+                                            const DiagramLook::Options &options = {});
+
     /** The size of the drawing at 100 %, without a margin. */
     QSizeF size() const;
     /** How high the letters of a cause are when the drawing fills @p page, in its unit: the size of

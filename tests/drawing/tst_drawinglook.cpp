@@ -25,7 +25,6 @@ private Q_SLOTS:
     void shouldDrawInAnotherLook();
     void shouldGoBack();
     void shouldLayOutOnlyWhatIsNotSettled();
-    void shouldCompareOptions();
     void shouldKeepTheOptionsOfAnEditor();
 };
 
@@ -144,26 +143,6 @@ void TestDrawingLook::shouldLayOutOnlyWhatIsNotSettled()
     fish.update(drawing.head);
     fish.update(drawing.head);
     QCOMPARE(look->layouts, 4);
-}
-
-void TestDrawingLook::shouldCompareOptions()
-{
-    using Change = void (*)(DiagramLook::Options &);
-    const Change changes[] = {
-        [](DiagramLook::Options &options) { options.wrapLimit = 110; },
-        [](DiagramLook::Options &options) { options.headWidth = 90; },
-        [](DiagramLook::Options &options) { options.sides = DiagramLook::BothSides; },
-        [](DiagramLook::Options &options) { options.isHeadLeft = true; },
-        [](DiagramLook::Options &options) { options.palette = DiagramLook::GrayColors; },
-        [](DiagramLook::Options &options) { options.hasButtons = false; },
-        [](DiagramLook::Options &options) { options.hasLegend = true; },
-    };
-    for (const Change change : changes) {
-        DiagramLook::Options options;
-        QVERIFY(options == DiagramLook::Options());
-        change(options);
-        QVERIFY(options != DiagramLook::Options());
-    }
 }
 
 void TestDrawingLook::shouldKeepTheOptionsOfAnEditor()

@@ -1,11 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The Fishbone authors
 // SPDX-License-Identifier: MIT
 
+#include <fishbone/drawing/clearspear.h>
 #include <fishbone/exchange/diagrampicture.h>
 #include <fishbone/model/fishmodel.h>
 #include <fishbone/model/treeitem.h>
 
 #include <tests/program/testprogram.h>
+#include <tests/support/editorfixture.h>
 #include <tests/support/sourcefolder.h>
 
 #include <QFile>
@@ -18,6 +20,8 @@
 #include <QtTest>
 
 namespace {
+
+const QString sample = QStringLiteral("samples/checkout-outage.fishbone.json");
 
 QByteArray contentOf(const QString &fileName)
 {
@@ -38,6 +42,7 @@ private Q_SLOTS:
     void shouldRefuseOtherNames();
     void shouldFitThePage();
     void shouldBeLargestWhenArranged();
+    void shouldTellTheArrangementToAnEditor();
     void shouldSayHowManyAreLeftOut();
     void shouldKeepTheFileThatCannotBeReplaced();
     void shouldSayWhenAPictureIsTooLarge();
@@ -51,8 +56,7 @@ private:
 
 void TestDiagramPicture::initTestCase()
 {
-    const QByteArray bytes =
-        contentOf(TestSupport::sourceFile(QStringLiteral("samples/checkout-outage.fishbone.json")));
+    const QByteArray bytes = contentOf(TestSupport::sourceFile(sample));
     FishModel().read(QJsonDocument::fromJson(bytes).object(), &m_root, 0);
     QVERIFY(head());
 }
@@ -136,6 +140,35 @@ void TestDiagramPicture::shouldBeLargestWhenArranged()
     }
     picture.arrangeFor(QSizeF(100, 1000));
     QVERIFY(picture.size().width() < picture.size().height());
+}
+
+void TestDiagramPicture::shouldTellTheArrangementToAnEditor()
+{
+    TestSupport::EditorFixture fish(
+        QJsonDocument::fromJson(contentOf(TestSupport::sourceFile(sample))).object());
+    const TreeItem *const shown = fish.model.getTreeItem(fish.model.index(0, 0));
+    const QSizeF narrow(297, 420);
+    DiagramLook::Options chosen;
+    chosen.isHeadLeft = true;
+    chosen.hasButtons = false;
+    chosen.palette = DiagramLook::DarkColors;
+    DiagramPicture picture(shown, chosen);
+    QVERIFY(picture.options() == chosen);
+    picture.arrangeFor(narrow);
+
+    const DiagramLook::Options found = DiagramPicture::arrangedFor(narrow, shown, chosen);
+
+    QVERIFY(found == picture.options());
+    QVERIFY(found.wrapLimit > 0); // upright paper wants short lines
+    QVERIFY(found.widensLines);
+    QVERIFY(found.isHeadLeft && !found.hasButtons && found.palette == DiagramLook::DarkColors);
+    QCOMPARE(DiagramPicture(shown, found).size(), picture.size());
+    fish.editor.setLook(DiagramLook::Clear);
+    fish.editor.expandAll();
+    fish.editor.setLookOptions(found);
+    const ClearSpear *const place = ClearSpear::of(*fish.editor.headSpear());
+    QVERIFY(place);
+    QCOMPARE(place->extent.size(), picture.size());
 }
 
 void TestDiagramPicture::shouldSayHowManyAreLeftOut()
