@@ -8,20 +8,11 @@
 #include <fishbone/style/spearstyle.h>
 
 #include <QFont>
-#include <QGuiApplication>
-#include <QScreen>
 
 #include <map>
 #include <utility>
 
 namespace {
-constexpr qreal usualDots = 96; ///< an inch, without a screen
-
-qreal dotsPerInch()
-{
-    const QScreen *const screen = QGuiApplication::primaryScreen();
-    return screen ? screen->logicalDotsPerInchY() : usualDots;
-}
 /** How many subjects are below @p item. */
 int countBelow(const TreeItem *item)
 {
@@ -72,7 +63,7 @@ void ClearContent::add(const TreeItem *item, int parent, ClearPictureContent &co
         look.icon = info.iconPath();
     if (const SpearStyle *const style = item->spearStyle()) {
         if (const QFont *const font = style->textFont(SpearStyle::ssNormal))
-            subject.font = ClearFont::onScreen(*font, dotsPerInch());
+            subject.font = ClearFont::onScreen(*font);
         look.ink = style->textColor(SpearStyle::ssNormal);
         look.background = style->textBkColor(SpearStyle::ssNormal);
     }

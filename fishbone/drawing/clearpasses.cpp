@@ -17,8 +17,6 @@
 #include <fishbone/style/spearstyle.h>
 
 namespace {
-constexpr double dotsPerInch = 96;
-
 bool isSeen(const QGraphicsItem *icon)
 {
     return icon && icon->isVisible() && !icon->boundingRect().isEmpty();
@@ -49,7 +47,7 @@ std::optional<ClearFont> ownFont(const SpearItem &spear)
 {
     const SpearStyle *const own = spear.treeItem() ? spear.treeItem()->spearStyle() : nullptr;
     const QFont *const font = own ? own->textFont(SpearStyle::ssNormal) : nullptr;
-    return font ? std::optional(ClearFont::onScreen(*font, dotsPerInch)) : std::nullopt;
+    return font ? std::optional(ClearFont::onScreen(*font)) : std::nullopt;
 }
 
 ClearSubject subjectOf(const SpearItem &spear, int parent)

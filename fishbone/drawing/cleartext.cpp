@@ -44,10 +44,12 @@ ClearFont::ClearFont(const QFont &like, qreal pixels)
     m_font.setHintingPreference(QFont::PreferNoHinting);
 }
 
-ClearFont ClearFont::onScreen(const QFont &font, qreal dotsPerInch)
+ClearFont ClearFont::onScreen(const QFont &font)
 {
+    constexpr qreal dotsPerInch = 96;
+    constexpr qreal pointsPerInch = 72;
     const qreal pixels =
-        font.pixelSize() > 0 ? font.pixelSize() : font.pointSizeF() * dotsPerInch / 72;
+        font.pixelSize() > 0 ? font.pixelSize() : font.pointSizeF() * dotsPerInch / pointsPerInch;
     return ClearFont(font, pixels);
 }
 

@@ -28,8 +28,9 @@ public:
     /** @p like in the size @p pixels. */
     ClearFont(const QFont &like, qreal pixels);
 
-    /** @p font as it would be on a screen of @p dotsPerInch. */
-    static ClearFont onScreen(const QFont &font, qreal dotsPerInch);
+    /** @p font as it is on a screen of 96 dots an inch, whatever the screen is, so that a diagram
+     * is the same everywhere. */
+    static ClearFont onScreen(const QFont &font);
 
     /** The font to lay texts out with; its point is a unit of the drawing on device() alone. */
     const QFont &font() const { return m_font; }
