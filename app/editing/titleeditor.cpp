@@ -42,10 +42,12 @@ void TitleEditor::open(FishEditor *editor, const QModelIndex &index, const QStri
     auto *const field = new TitleEditor(editor, index, step); // owned by the viewport
     field->show();
     field->setFocus();
-    if (typed.isEmpty())
+    if (typed.isEmpty()) {
         field->selectAll();
-    else
-        field->setText(typed);
+    } else {
+        field->setPlainText(typed);
+        field->moveCursor(QTextCursor::End);
+    }
 }
 
 void TitleEditor::finishIn(const FishEditor &editor)
@@ -57,20 +59,42 @@ void TitleEditor::finishIn(const FishEditor &editor)
 }
 
 TitleEditor::TitleEditor(FishEditor *editor, const QModelIndex &index, CommandGroup *step)
-    : QLineEdit(subjectAt(*editor, index)->title(), editor->view()->viewport())
+    : QPlainTextEdit(subjectAt(*editor, index)->title(), editor->view()->viewport())
     , m_editor(editor)
     , m_index(index)
+    , m_former(text())
     , m_step(step)
 {
     setObjectName(QStringLiteral("title"));
+    setLineWrapMode(NoWrap);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     Language::bind(this, &QWidget::setAccessibleName, [] { return tr("Title"); });
     place();
-    connect(this, &QLineEdit::textChanged, this, &TitleEditor::place);
-    connect(this, &QLineEdit::editingFinished, this, &TitleEditor::finish);
+    connect(this, &QPlainTextEdit::textChanged, this, &TitleEditor::place);
     parentWidget()->installEventFilter(this);
     const auto endStep = [this] { m_step.clear(); };
     connect(editor->undoStack(), &UndoStack::stackChanged, this, endStep);
     connect(editor->undoStack(), &UndoStack::currentChanged, this, endStep);
+}
+
+QString TitleEditor::text() const
+{
+    // The plain text of a document has common spaces in place of those that do not break.
+    return document()
+        ->toRawText()
+        .replace(QChar::ParagraphSeparator, u'\n')
+        .replace(QChar::LineSeparator, u'\n');
+}
+
+/** How large the lines are. */
+QSize TitleEditor::textSize() const
+{
+    const QStringList lines = text().split(u'\n');
+    int width = 0;
+    for (const QString &line : lines)
+        width = std::max(width, fontMetrics().horizontalAdvance(line));
+    return {width, int(lines.size()) * fontMetrics().lineSpacing()};
 }
 
 /** Follows the bone's text, which may move or go away while its title is edited, and makes room for
@@ -87,9 +111,11 @@ void TitleEditor::place()
         m_editor->view()->mapFromScene(title->mapToScene(title->boundingRect())).boundingRect();
     const QRect room = parentWidget()->rect();
     constexpr int frame = 40; // beside the text, with a little to type into
-    const int width = std::max(box.width(), fontMetrics().horizontalAdvance(text()));
+    const QSize shown = textSize();
+    const int width = std::max(box.width(), shown.width());
+    const int border = 2 * (frameWidth() + int(document()->documentMargin()));
     const QSize wanted(qBound(minimalWidth, width + frame, std::max(minimalWidth, room.width())),
-                       sizeHint().height());
+                       shown.height() + border);
     const QPoint free(std::max(0, room.width() - wanted.width()),
                       std::max(0, room.height() - wanted.height()));
     const QPoint topLeft = box.center() - QPoint(wanted.width() / 2, wanted.height() / 2);
@@ -102,7 +128,7 @@ bool TitleEditor::eventFilter(QObject *watched, QEvent *event)
     // Whatever moves the text on the screen (a scroll, a zoom, a new size) paints it anew.
     if (event->type() == QEvent::Paint)
         place();
-    return QLineEdit::eventFilter(watched, event);
+    return QPlainTextEdit::eventFilter(watched, event);
 }
 
 bool TitleEditor::event(QEvent *event)
@@ -112,15 +138,28 @@ bool TitleEditor::event(QEvent *event)
         event->accept();
         return true;
     }
-    return QLineEdit::event(event);
+    return QPlainTextEdit::event(event);
 }
 
 void TitleEditor::keyPressEvent(QKeyEvent *event)
 {
+    const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (event->key() == Qt::Key_Escape)
         close();
+    else if (isReturn && event->modifiers() & Qt::ShiftModifier)
+        textCursor().insertBlock();
+    else if (isReturn)
+        finish();
     else
-        QLineEdit::keyPressEvent(event);
+        QPlainTextEdit::keyPressEvent(event);
+}
+
+void TitleEditor::focusOutEvent(QFocusEvent *event)
+{
+    QPlainTextEdit::focusOutEvent(event);
+    // Another window or the field's own menu is no end of it.
+    if (event->reason() != Qt::ActiveWindowFocusReason && event->reason() != Qt::PopupFocusReason)
+        finish();
 }
 
 /** Tab ends the field as Return does, so that the next key is for the drawing again. */
@@ -137,7 +176,7 @@ void TitleEditor::finish()
         return;
     const TreeItem *const subject = subjectAt(*m_editor, m_index);
     const QString title = text();
-    const bool changed = subject && title != subject->title();
+    const bool changed = subject && title != m_former && title != subject->title();
     close();
     if (changed)
         rename(title);

@@ -3,8 +3,8 @@
 
 #pragma once
 
-#include <QLineEdit>
 #include <QPersistentModelIndex>
+#include <QPlainTextEdit>
 #include <QPointer>
 
 #include <fishbone/undo/commandgroup.h>
@@ -12,11 +12,11 @@
 class FishEditor;
 
 /**
- * A field over a bone's text in which its title is changed. Return, Tab, or leaving the field,
- * takes the new title, Esc keeps the old one; the field then deletes itself and the drawing gets
- * the focus.
+ * A field over a bone's text in which its title is changed. Shift and Return break the line.
+ * Return, Tab, or leaving the field, takes the new title, Esc keeps the old one; the field then
+ * deletes itself and the drawing gets the focus.
  */
-class TitleEditor : public QLineEdit
+class TitleEditor : public QPlainTextEdit
 {
     Q_OBJECT
 
@@ -29,21 +29,27 @@ public:
     /** Takes the new title of the field that is open in @p editor, if there is one. */
     static void finishIn(const FishEditor &editor);
 
+    /** The title as it is now, with its line breaks. */
+    QString text() const;
+
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
     bool event(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
     bool focusNextPrevChild(bool next) override;
 
 private:
     TitleEditor(FishEditor *editor, const QModelIndex &index, CommandGroup *step);
     void place();
+    QSize textSize() const;
     void finish();
     void rename(const QString &title);
     void close();
 
     FishEditor *m_editor;
     QPersistentModelIndex m_index;
+    QString m_former; ///< what the field began with
     QPointer<CommandGroup> m_step;
     bool m_isClosed = false;
 };

@@ -6,6 +6,7 @@
 #include <tests/program/testprogram.h>
 #include <tests/support/modaldriver.h>
 
+#include <app/editing/titleeditor.h>
 #include <fishbone/items/linkitem.h>
 #include <fishbone/items/textitem.h>
 #include <fishbone/style/spearstyle.h>
@@ -22,11 +23,11 @@ using TestSupport::ModalDriver;
 namespace {
 
 /// The field over the drawing in which a title is changed; null when none is open.
-QLineEdit *titleField(const AppFixture &app)
+TitleEditor *titleField(const AppFixture &app)
 {
-    const QList<QLineEdit *> fields =
-        app.window.editor()->view()->viewport()->findChildren<QLineEdit *>();
-    for (QLineEdit *field : fields) {
+    const QList<TitleEditor *> fields =
+        app.window.editor()->view()->viewport()->findChildren<TitleEditor *>();
+    for (TitleEditor *field : fields) {
         if (field->isVisible())
             return field;
     }
@@ -120,7 +121,7 @@ void TestEditCommands::shouldInsertByShortcutAndName()
 
     QTest::keyClick(app.window.editor()->view(), Qt::Key(key), Qt::KeyboardModifiers(modifiers));
     AppFixture::settle();
-    QLineEdit *const field = titleField(app);
+    TitleEditor *const field = titleField(app);
     QVERIFY(field);
     QVERIFY(field->hasFocus());
     QTest::keyClicks(field, QStringLiteral("New"));
@@ -299,10 +300,10 @@ void TestEditCommands::shouldRename()
     AppFixture app;
     app.select("Too few");
     QTest::keyClick(app.window.editor()->view(), Qt::Key_F2);
-    QLineEdit *const field = titleField(app);
+    TitleEditor *const field = titleField(app);
     QVERIFY(field);
     QCOMPARE(field->text(), QStringLiteral("Too few"));
-    field->setText(QStringLiteral("Not enough"));
+    field->setPlainText(QStringLiteral("Not enough"));
     app.window.editor()->view()->setFocus(); // leaving the field takes the title
     AppFixture::settle();
     QVERIFY(!titleField(app));

@@ -4,17 +4,18 @@
 #include <tests/app/appfixture.h>
 #include <tests/program/testprogram.h>
 
+#include <app/editing/titleeditor.h>
+
 #include <QInputMethodEvent>
-#include <QLineEdit>
 
 namespace {
 
 /// The field over the drawing; null when none is open.
-QLineEdit *titleField(const AppFixture &app)
+TitleEditor *titleField(const AppFixture &app)
 {
-    const QList<QLineEdit *> fields =
-        app.window.editor()->view()->viewport()->findChildren<QLineEdit *>();
-    for (QLineEdit *field : fields) {
+    const QList<TitleEditor *> fields =
+        app.window.editor()->view()->viewport()->findChildren<TitleEditor *>();
+    for (TitleEditor *field : fields) {
         if (field->isVisible())
             return field;
     }
@@ -33,6 +34,9 @@ private Q_SLOTS:
     void shouldReplaceTheTitleByWhatIsTyped();
     void shouldKeepTheTitleOnEscape();
     void shouldMakeRoomForALongTitle();
+    void shouldBreakLines_data();
+    void shouldBreakLines();
+    void shouldKeepWhatIsNotTyped();
     void shouldTakeWhatAnInputMethodCommits();
     void shouldOpenNoFieldForOtherKeys_data();
     void shouldOpenNoFieldForOtherKeys();
@@ -59,7 +63,7 @@ void TestTypedTitle::shouldReplaceTheTitleByWhatIsTyped()
     AppFixture app;
     app.select("Machines");
     QTest::keyClick(app.window.editor()->view(), 'T', Qt::ShiftModifier);
-    QLineEdit *const field = titleField(app);
+    TitleEditor *const field = titleField(app);
     QVERIFY(field);
     QVERIFY(field->hasFocus());
     QTest::keyClicks(field, QStringLiteral("ools - +2/3"));
@@ -94,16 +98,77 @@ void TestTypedTitle::shouldMakeRoomForALongTitle()
     AppFixture app;
     app.select("Machines");
     QTest::keyClick(app.window.editor()->view(), 'x');
-    QLineEdit *const field = titleField(app);
+    TitleEditor *const field = titleField(app);
     QVERIFY(field);
     const QWidget *const room = field->parentWidget();
     for (const int length : {40, 400}) {
-        field->setText(QString(length, QLatin1Char('x')));
+        field->setPlainText(QString(length, QLatin1Char('x')));
         QVERIFY(room->rect().contains(field->geometry()));
         QVERIFY(field->width() == room->width() ||
                 field->width() > field->fontMetrics().horizontalAdvance(field->text()));
     }
     QCOMPARE(field->width(), room->width());
+}
+
+void TestTypedTitle::shouldBreakLines_data()
+{
+    QTest::addColumn<int>("look");
+    QTest::newRow("classic") << int(DiagramLook::Classic);
+    QTest::newRow("clear") << int(DiagramLook::Clear);
+}
+
+void TestTypedTitle::shouldBreakLines()
+{
+    QFETCH(int, look);
+    AppFixture app;
+    app.window.editor()->setLook(DiagramLook::Kind(look));
+    app.select("Machines");
+    const QString broken = QStringLiteral("Tools\nand machines");
+    QTest::keyClick(app.window.editor()->view(), 'T', Qt::ShiftModifier);
+    TitleEditor *const field = titleField(app);
+    QVERIFY(field);
+    const int low = field->height();
+    QTest::keyClicks(field, QStringLiteral("ools"));
+    QTest::keyClick(field, Qt::Key_Return, Qt::ShiftModifier);
+    QVERIFY(titleField(app));
+    QTest::keyClicks(field, QStringLiteral("and machines"));
+    QCOMPARE(field->text(), broken);
+    QVERIFY(field->height() >= low + field->fontMetrics().lineSpacing());
+    QTest::keyClick(field, Qt::Key_Return);
+    AppFixture::settle();
+
+    QVERIFY(!titleField(app));
+    QVERIFY(app.find(qPrintable(broken)).isValid());
+    QCOMPARE(app.window.editor()->undoStack()->commandNames().size(), 1);
+    // The next field begins with both lines, and typing replaces both.
+    app.select(qPrintable(broken));
+    app.trigger("rename");
+    QCOMPARE(titleField(app)->text(), broken);
+    QTest::keyClicks(titleField(app), QStringLiteral("Engines"));
+    QTest::keyClick(titleField(app), Qt::Key_Return);
+    AppFixture::settle();
+    QVERIFY(app.find("Engines").isValid());
+    app.trigger("undo");
+    QVERIFY(app.find(qPrintable(broken)).isValid());
+}
+
+void TestTypedTitle::shouldKeepWhatIsNotTyped()
+{
+    // A space that does not break, and another sign for a line break.
+    const QString odd = QStringLiteral("5\u00a0mm\u2028wide");
+    AppFixture app;
+    app.window.editor()->renameItem(app.find("Machines"), odd);
+    app.select(qPrintable(odd));
+    app.trigger("rename");
+    QTest::keyClick(titleField(app), Qt::Key_Return);
+    AppFixture::settle();
+    QVERIFY(app.find(qPrintable(odd)).isValid());
+    app.trigger("rename");
+    titleField(app)->moveCursor(QTextCursor::End);
+    QTest::keyClicks(titleField(app), QStringLiteral("r"));
+    QTest::keyClick(titleField(app), Qt::Key_Return);
+    AppFixture::settle();
+    QVERIFY(app.find("5\u00a0mm\nwider").isValid());
 }
 
 void TestTypedTitle::shouldTakeWhatAnInputMethodCommits()

@@ -4,6 +4,7 @@
 #include <tests/app/appfixture.h>
 
 #include <app/common/language.h>
+#include <app/editing/titleeditor.h>
 
 #include <tests/app/programrunner.h>
 #include <tests/program/testprogram.h>
@@ -243,7 +244,7 @@ void TestLanguageSwitch::shouldKeepATitleThatIsEditedInThePlace()
     AppFixture app;
     app.select("Machines");
     app.trigger("rename");
-    auto *const title = app.window.editor()->findChild<QLineEdit *>(QStringLiteral("title"));
+    auto *const title = app.window.editor()->findChild<TitleEditor *>(QStringLiteral("title"));
     QVERIFY(title);
     QTest::keyClicks(title, QStringLiteral("Engines"));
     Language::choose(QStringLiteral("zh"));
@@ -317,7 +318,7 @@ void TestLanguageSwitch::shouldNameTheHistory()
     AppFixture app;
     app.select("Machines");
     app.trigger("child");
-    QTest::keyClick(app.window.editor()->findChild<QLineEdit *>(QStringLiteral("title")),
+    QTest::keyClick(app.window.editor()->findChild<TitleEditor *>(QStringLiteral("title")),
                     Qt::Key_Return);
     app.select("Material");
     app.trigger("delete");
