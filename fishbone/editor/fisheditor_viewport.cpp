@@ -16,6 +16,7 @@
 #include <fishbone/editor/fishscene.h>
 #include <fishbone/editor/graphicsview.h>
 #include <fishbone/items/spearitem.h>
+#include <fishbone/items/textitem.h>
 
 int FishEditor::zoomValue() const
 {
@@ -139,8 +140,12 @@ void FishEditor::centerView(const QModelIndex &index)
 
 void FishEditor::ensureVisible(const QModelIndex &index)
 {
-    if (const SpearItem *const spear = spearOf(index))
-        view()->ensureVisible(spear, ViewFraming::margin, ViewFraming::margin);
+    const SpearItem *const spear = spearOf(index);
+    if (!spear)
+        return;
+    view()->ensureVisible(spear, ViewFraming::margin, ViewFraming::margin);
+    if (look() != DiagramLook::Classic) // where texts stand along their bones
+        view()->ensureVisible(spear->textItem(), ViewFraming::margin, ViewFraming::margin);
 }
 
 SpearItem *FishEditor::boneAt(const QPoint &pos) const
