@@ -1841,6 +1841,81 @@ Do you want to save your changes?</translation>
     </message>
 </context>
 <context>
+    <name>LookCommands</name>
+    <message>
+        <source>Look</source>
+        <translation>Look</translation>
+    </message>
+    <message>
+        <source>Loo&amp;k</source>
+        <translation>Loo&amp;k</translation>
+    </message>
+    <message>
+        <source>&amp;Clear</source>
+        <translation>&amp;Clear</translation>
+    </message>
+    <message>
+        <source>Cl&amp;assic</source>
+        <translation>Cl&amp;assic</translation>
+    </message>
+    <message>
+        <source>&amp;Screen</source>
+        <translation>&amp;Screen</translation>
+    </message>
+    <message>
+        <source>&amp;Palette</source>
+        <translation>&amp;Palette</translation>
+    </message>
+    <message>
+        <source>&amp;Colours</source>
+        <translation>&amp;Colours</translation>
+    </message>
+    <message>
+        <source>&amp;Grey</source>
+        <translation>&amp;Grey</translation>
+    </message>
+    <message>
+        <source>&amp;Dark</source>
+        <translation>&amp;Dark</translation>
+    </message>
+    <message>
+        <source>Lines of &amp;titles</source>
+        <translation>Lines of &amp;titles</translation>
+    </message>
+    <message>
+        <source>&amp;Not broken</source>
+        <translation>&amp;Not broken</translation>
+    </message>
+    <message>
+        <source>&amp;Long</source>
+        <translation>&amp;Long</translation>
+    </message>
+    <message>
+        <source>&amp;Medium</source>
+        <translation>&amp;Medium</translation>
+    </message>
+    <message>
+        <source>&amp;Short</source>
+        <translation>&amp;Short</translation>
+    </message>
+    <message>
+        <source>&amp;Bones on both sides</source>
+        <translation>&amp;Bones on both sides</translation>
+    </message>
+    <message>
+        <source>&amp;Head on the left</source>
+        <translation>&amp;Head on the left</translation>
+    </message>
+    <message>
+        <source>&amp;Legend</source>
+        <translation>&amp;Legend</translation>
+    </message>
+    <message>
+        <source>Arrang&amp;e for page</source>
+        <translation>Arrang&amp;e for page</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>&amp;Details</source>
@@ -2783,10 +2858,6 @@ Do you want to save your changes?</translation>
         <translation>Rotate &amp;left</translation>
     </message>
     <message>
-        <source>&amp;Expand</source>
-        <translation>&amp;Expand</translation>
-    </message>
-    <message>
         <source>&amp;Contract</source>
         <translation>&amp;Contract</translation>
     </message>
@@ -2833,6 +2904,10 @@ Do you want to save your changes?</translation>
     <message>
         <source>U&amp;pright</source>
         <translation>U&amp;pright</translation>
+    </message>
+    <message>
+        <source>E&amp;xpand</source>
+        <translation>E&amp;xpand</translation>
     </message>
 </context>
 <context>

@@ -1837,6 +1837,81 @@ Do you want to save your changes?</source>
     </message>
 </context>
 <context>
+    <name>LookCommands</name>
+    <message>
+        <source>Look</source>
+        <translation>外观</translation>
+    </message>
+    <message>
+        <source>Loo&amp;k</source>
+        <translation>外观(&amp;K)</translation>
+    </message>
+    <message>
+        <source>&amp;Clear</source>
+        <translation>清晰(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Cl&amp;assic</source>
+        <translation>经典(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Screen</source>
+        <translation>屏幕(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Palette</source>
+        <translation>配色(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Colours</source>
+        <translation>彩色(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Grey</source>
+        <translation>灰色(&amp;G)</translation>
+    </message>
+    <message>
+        <source>&amp;Dark</source>
+        <translation>深色(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Lines of &amp;titles</source>
+        <translation>标题换行(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Not broken</source>
+        <translation>不换行(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Long</source>
+        <translation>长行(&amp;L)</translation>
+    </message>
+    <message>
+        <source>&amp;Medium</source>
+        <translation>中等(&amp;M)</translation>
+    </message>
+    <message>
+        <source>&amp;Short</source>
+        <translation>短行(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Bones on both sides</source>
+        <translation>两侧分枝(&amp;B)</translation>
+    </message>
+    <message>
+        <source>&amp;Head on the left</source>
+        <translation>鱼头在左(&amp;H)</translation>
+    </message>
+    <message>
+        <source>&amp;Legend</source>
+        <translation>图例(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Arrang&amp;e for page</source>
+        <translation>按页面排布(&amp;E)</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>&amp;Details</source>
@@ -2775,10 +2850,6 @@ Do you want to save your changes?</source>
         <translation>向左旋转(&amp;L)</translation>
     </message>
     <message>
-        <source>&amp;Expand</source>
-        <translation>展开(&amp;E)</translation>
-    </message>
-    <message>
         <source>&amp;Contract</source>
         <translation>折叠(&amp;C)</translation>
     </message>
@@ -2825,6 +2896,10 @@ Do you want to save your changes?</source>
     <message>
         <source>U&amp;pright</source>
         <translation>取消旋转(&amp;P)</translation>
+    </message>
+    <message>
+        <source>E&amp;xpand</source>
+        <translation>展开(&amp;X)</translation>
     </message>
 </context>
 <context>

@@ -63,9 +63,9 @@ void CanvasTheme::follow(const QPalette &palette)
     show(palette.color(QPalette::Active, QPalette::Base).lightness() < 128);
 }
 
-QColor CanvasTheme::canvasColor() const
+QColor CanvasTheme::canvasColor(bool dark)
 {
-    return m_isDark ? QColor(0x1e, 0x23, 0x29) : QColor(0xfd, 0xfd, 0xfb);
+    return dark ? QColor(0x1e, 0x23, 0x29) : QColor(0xfd, 0xfd, 0xfb);
 }
 
 void CanvasTheme::show(bool dark)
@@ -74,6 +74,7 @@ void CanvasTheme::show(bool dark)
     SpearStyle::global()->read(dark ? m_dark : m_light);
     for (FishEditor *editor : qAsConst(m_editors))
         show(*editor);
+    Q_EMIT shown();
 }
 
 void CanvasTheme::show(FishEditor &editor) const

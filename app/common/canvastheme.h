@@ -31,7 +31,9 @@ public:
 
     bool isDark() const { return m_isDark; }
     /** The colour of the canvas as it is shown. */
-    QColor canvasColor() const;
+    QColor canvasColor() const { return canvasColor(m_isDark); }
+    /** The colour of a dark canvas, or of a light one. */
+    static QColor canvasColor(bool dark);
 
     /** Lets the user edit the style of all bones without a style of their own, and keeps it. */
     void editStyle(QWidget *parent);
@@ -52,6 +54,8 @@ public:
     };
 
 Q_SIGNALS:
+    /** The canvases are shown anew, perhaps as dark ones or no longer so. */
+    void shown();
     /** Something for the status bar. */
     void message(const QString &text);
 

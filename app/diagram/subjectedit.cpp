@@ -10,7 +10,6 @@
 #include <fishbone/model/treeitem.h>
 #include <fishbone/undo/attributecommands.h>
 #include <fishbone/undo/editattributes.h>
-#include <fishbone/undo/undostack.h>
 
 #include <QCoreApplication>
 #include <QJsonObject>
@@ -28,9 +27,9 @@ bool push(DiagramSession &session, const QModelIndex &index, const UndoCommand::
     if (command->count() == 0)
         return false;
     command->setText(name);
-    session.editor()->undoStack()->push(command.release()); // which takes it over
+    const bool isDone = session.editor()->run(std::move(command));
     session.touch();
-    return true;
+    return isDone;
 }
 
 } // namespace

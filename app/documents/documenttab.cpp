@@ -7,6 +7,7 @@
 #include <app/common/language.h>
 #include <app/common/messagebar.h>
 #include <app/diagram/diagramsession.h>
+#include <app/diagram/documentlook.h>
 #include <app/diagram/drawingstate.h>
 #include <app/documents/fileconflict.h>
 #include <app/editing/canvasgestures.h>
@@ -43,6 +44,7 @@ DocumentTab::DocumentTab(CanvasTheme *theme, QWidget *parent)
     m_editor->layout()->setContentsMargins(0, 0, 0, 0);
     m_editor->view()->setFrameShape(QFrame::NoFrame);
     theme->add(m_editor);
+    m_look = new DocumentLook(m_session, theme, this);
     new CanvasGestures(m_session, m_sync, this); // which owns it
     for (QWidget *panel : QList<QWidget *>{m_tree, m_details, m_history})
         panel->hide(); // until a dock shows it
@@ -68,6 +70,7 @@ DocumentTab::~DocumentTab()
     delete m_details;
     delete m_history;
     delete m_recovery;
+    delete m_look;
     delete m_editor;
     delete m_session;
 }

@@ -9,6 +9,7 @@
 class CanvasTheme;
 class DetailsPanel;
 class DiagramSession;
+class DocumentLook;
 class FileConflict;
 class FishEditor;
 class FishInfo;
@@ -40,6 +41,7 @@ public:
     FishModel *model() const { return m_model; }
     FishEditor *editor() const { return m_editor; }
     DiagramSession *session() const { return m_session; }
+    DocumentLook *look() const { return m_look; }
     RecoveryCopy *recovery() const { return m_recovery; }
     FileConflict *conflict() const { return m_conflict; }
     SubjectTree *tree() const;
@@ -66,6 +68,7 @@ private:
     FishModel *m_model;
     FishEditor *m_editor;
     DiagramSession *m_session;
+    DocumentLook *m_look = nullptr;
     RecoveryCopy *m_recovery;
     FileConflict *m_conflict = nullptr;
     QPointer<SubjectTree> m_tree;

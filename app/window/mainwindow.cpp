@@ -31,6 +31,7 @@
 #include <app/window/emptypage.h>
 #include <app/window/helpcommands.h>
 #include <app/window/languagemenu.h>
+#include <app/window/lookcommands.h>
 #include <app/window/menukeys.h>
 #include <app/window/menus.h>
 #include <app/window/viewcommands.h>
@@ -143,7 +144,13 @@ void MainWindow::addCommands()
     m_exports = new ExportCommands(session(), m_theme, m_actions, this);
     m_edits = new EditCommands(session(), m_actions, this);
     m_views = new ViewCommands(session(), m_theme, m_controls, m_actions, this);
-    m_commands = {m_exports, m_edits, m_views, new MoveCommands(session(), m_actions, this),
+    m_looks = new LookCommands(session(), m_actions, this);
+    m_looks->setLook(m_tabs->current()->look());
+    m_commands = {m_exports,
+                  m_edits,
+                  m_views,
+                  m_looks,
+                  new MoveCommands(session(), m_actions, this),
                   new WalkCommands(session(), m_actions, this)};
     new HelpCommands(m_actions, this); // which owns it
     m_actions->add(
@@ -190,10 +197,11 @@ void MainWindow::addBars()
     Language::bind(visited, &QMenu::setTitle, [] { return tr("Shown be&fore"); });
     m_views->listVisited(visited);
     new MenuKeys(this); // which owns it
-    Menus::build(this, *m_actions,
-                 {{QStringLiteral("recent"), m_recent->menu()},
-                  {QStringLiteral("visited"), visited},
-                  {QStringLiteral("language"), new LanguageMenu(this)}});
+    QHash<QString, QMenu *> submenus = m_looks->menus();
+    submenus.insert(QStringLiteral("recent"), m_recent->menu());
+    submenus.insert(QStringLiteral("visited"), visited);
+    submenus.insert(QStringLiteral("language"), new LanguageMenu(this));
+    Menus::build(this, *m_actions, submenus);
     QMenu *const panels = createPopupMenu();
     Language::bind(panels, &QMenu::setTitle, [] { return tr("&Panels"); });
     menuBar()->insertMenu(findChild<QMenu *>(QStringLiteral("helpMenu"))->menuAction(), panels);
@@ -272,6 +280,7 @@ void MainWindow::showTab(DocumentTab *tab)
     m_overview->setSession(tab->session());
     m_counts->setSession(tab->session());
     m_autosave->setCopy(tab->recovery());
+    m_looks->setLook(tab->look());
     for (DiagramCommands *commands : qAsConst(m_commands))
         commands->setSession(tab->session());
     if (tab->document() && (wasInTabs || !QApplication::focusWidget()))

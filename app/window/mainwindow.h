@@ -20,6 +20,7 @@ class FileCommands;
 class FileDrop;
 class FishEditor;
 class FishModel;
+class LookCommands;
 class Minimap;
 class QDockWidget;
 class QStackedWidget;
@@ -93,6 +94,7 @@ private:
     EditCommands *m_edits = nullptr;
     ExportCommands *m_exports = nullptr;
     ViewCommands *m_views = nullptr;
+    LookCommands *m_looks = nullptr;
     QList<DiagramCommands *> m_commands; ///< all on the diagram of the current tab
     QStackedWidget *m_trees = nullptr;
     QStackedWidget *m_details = nullptr;

@@ -13,7 +13,8 @@ class QMenu;
 namespace Menus {
 
 /** Fills the menu bar and the tool bars of @p window. The menu of its docks and bars is left to it.
- * @p submenus are those that somebody else fills: "language", "recent", "visited". */
+ * @p submenus are those that somebody else fills: "language", "look", "page", "recent",
+ * "visited". */
 void build(QMainWindow *window, const ActionSet &actions, const QHash<QString, QMenu *> &submenus);
 
 } // namespace Menus

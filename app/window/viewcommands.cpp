@@ -77,7 +77,7 @@ void ViewCommands::addExpandActions()
             QLatin1String(name), [text] { return tr(text); }, {shortcut},
             ActionSet::Scope::Selection, std::move(run));
     };
-    add("expand", QT_TR_NOOP("&Expand"), Qt::Key_Plus, [this] {
+    add("expand", QT_TR_NOOP("E&xpand"), Qt::Key_Plus, [this] {
         // The editor shows the children that there are; those that were never shown are made
         // first.
         m_editor->generateSpear(m_session->model(), m_editor->firstSelectedSpearIndex());

@@ -8,6 +8,7 @@
 #include <tests/program/testprogram.h>
 #include <tests/support/modaldriver.h>
 
+#include <app/diagram/diagramview.h>
 #include <app/export/exportdialog.h>
 #include <app/recovery/recoverystore.h>
 
@@ -123,6 +124,9 @@ void TestExportDialog::init()
 {
     QDir(RecoveryStore::folder()).removeRecursively();
     QSettings().remove(QStringLiteral("export"));
+    DiagramView classic; // whose drawing there is to compare with
+    classic.look = DiagramLook::Classic;
+    classic.becomeUsual();
 }
 
 void TestExportDialog::shouldExportAPicture()

@@ -112,7 +112,7 @@ void TestPrintPreview::printsWhatItShows()
     app.window.editor()->expandAll();
     PrintPreview preview(app.window.editor()->scene(), QStringLiteral("Late"));
     preview.findChild<QComboBox *>(QStringLiteral("fit"))->setCurrentIndex(2);
-    preview.findChild<QSpinBox *>(QStringLiteral("percent"))->setValue(300);
+    preview.findChild<QSpinBox *>(QStringLiteral("percent"))->setValue(400);
     preview.show();
     AppFixture::settle();
     const int shown = preview.findChild<QPrintPreviewWidget *>()->pageCount();

@@ -1,0 +1,68 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#include <app/diagram/diagramview.h>
+
+#include <QJsonDocument>
+#include <QSettings>
+
+namespace {
+
+const QLatin1String lookKey("look");
+const QLatin1String pageKey("page");
+const QLatin1String clearName("clear");
+const QLatin1String classicName("classic");
+
+QString usualKey()
+{
+    return QStringLiteral("view/usual");
+}
+
+} // namespace
+
+DiagramView DiagramView::of(const QJsonObject &fields, const DiagramView &usual)
+{
+    const QString name = fields.value(lookKey).toString();
+    if (name != clearName && name != classicName)
+        return usual;
+    return {name == classicName ? DiagramLook::Classic : DiagramLook::Clear,
+            fields.value(pageKey).toString(), DiagramLook::Options::fromJson(fields)};
+}
+
+void DiagramView::store(QJsonObject &fields) const
+{
+    const QJsonObject chosen = options.toJson();
+    for (auto field = chosen.begin(); field != chosen.end(); ++field)
+        fields.insert(field.key(), field.value());
+    fields.insert(lookKey, look == DiagramLook::Classic ? classicName : clearName);
+    if (page.isEmpty())
+        fields.remove(pageKey);
+    else
+        fields.insert(pageKey, page);
+}
+
+DiagramView DiagramView::usual()
+{
+    const QByteArray stored = QSettings().value(usualKey()).toByteArray();
+    return of(QJsonDocument::fromJson(stored).object(), DiagramView());
+}
+
+void DiagramView::becomeUsual() const
+{
+    DiagramView view = *this;
+    view.arrangeForScreen();
+    QJsonObject fields;
+    view.store(fields);
+    QSettings().setValue(usualKey(), QJsonDocument(fields).toJson(QJsonDocument::Compact));
+}
+
+void DiagramView::arrangeForScreen()
+{
+    const DiagramLook::Options fresh;
+    page.clear();
+    options.wrapLimit = fresh.wrapLimit;
+    options.wrapLines = fresh.wrapLines;
+    options.widensLines = fresh.widensLines;
+    options.headWidth = fresh.headWidth;
+    options.sides = fresh.sides;
+}

@@ -1,0 +1,177 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#include <app/window/lookcommands.h>
+
+#include <app/common/actionset.h>
+#include <app/common/busycursor.h>
+#include <app/diagram/diagramsession.h>
+#include <app/diagram/documentlook.h>
+#include <app/diagram/pagesize.h>
+
+#include <fishbone/editor/fisheditor.h>
+#include <fishbone/exchange/diagrampicture.h>
+#include <fishbone/model/fishmodel.h>
+
+#include <QAction>
+#include <QMenu>
+
+LookCommands::LookCommands(DiagramSession *session, ActionSet *actions, QWidget *window)
+    : DiagramCommands(session, actions, window)
+    , m_window(window)
+{
+    addLooks();
+    addPages();
+}
+
+QMenu *LookCommands::addMenu(const char *name, const char *title)
+{
+    auto *const menu = new QMenu(m_window);
+    menu->setObjectName(QLatin1String(name) + QStringLiteral("Menu"));
+    Language::bind(menu, &QMenu::setTitle, [title] { return tr(title); });
+    m_menus.insert(QLatin1String(name), menu);
+    return menu;
+}
+
+/** Adds an entry that is checked while @p test holds, and makes @p change of the view. */
+QAction *LookCommands::add(QMenu *menu, const char *name, const Language::Text &text,
+                           const Change &change, const Test &test)
+{
+    QAction *const action =
+        m_actions->add(QLatin1String(name), text, {}, ActionSet::Scope::Window, [this, change] {
+            if (!m_look)
+                return;
+            DiagramView view = m_look->view();
+            change(view);
+            m_look->choose(view, [] { return tr("Look"); });
+            updateActions(); // also when the entry was what is shown already
+        });
+    action->setCheckable(true);
+    m_tests.insert(action, test);
+    menu->addAction(action);
+    return action;
+}
+
+void LookCommands::addLooks()
+{
+    QMenu *const menu = addMenu("look", QT_TR_NOOP("Loo&k"));
+    const auto addLook = [this, menu](const char *name, const char *text, DiagramLook::Kind look) {
+        return add(
+            menu, name, [text] { return tr(text); },
+            [look](DiagramView &view) { view.look = look; },
+            [look](const DiagramView &view) { return view.look == look; });
+    };
+    addLook("lookClear", QT_TR_NOOP("&Clear"), DiagramLook::Clear);
+    m_classic = addLook("lookClassic", QT_TR_NOOP("Cl&assic"), DiagramLook::Classic);
+    menu->addSeparator();
+    addPalettes(menu);
+    addLines(menu);
+    addSwitches(menu);
+}
+
+void LookCommands::addPages()
+{
+    QMenu *const menu = addMenu("page", QT_TR_NOOP("Arrang&e for page"));
+    add(
+        menu, "pageScreen", [] { return tr("&Screen"); },
+        [](DiagramView &view) { view.arrangeForScreen(); },
+        [](const DiagramView &view) { return view.page.isEmpty(); });
+    const QStringList names = PageSize::names();
+    for (const QString &page : names) {
+        const QByteArray name = "page" + page.toLatin1().replace(':', 'x');
+        add(
+            menu, name.constData(),
+            [page] { return QString(page).insert(page.size() - 1, QLatin1Char('&')); },
+            [this, page](DiagramView &view) { arrange(view, page); },
+            [page](const DiagramView &view) { return view.page == page; });
+    }
+}
+
+/** Chooses the arrangement of what is shown that is largest on @p page. */
+void LookCommands::arrange(DiagramView &view, const QString &page) const
+{
+    const TreeItem *const root = m_session->model()->getTreeItem(m_editor->rootIndex());
+    const BusyCursor busy(m_session->container());
+    view.arrangeForScreen();
+    view.page = page;
+    view.options = DiagramPicture::arrangedFor(PageSize::of(page)->size, root, view.options);
+}
+
+void LookCommands::addPalettes(QMenu *parent)
+{
+    QMenu *const menu = parent->addMenu(QString());
+    menu->setObjectName(QStringLiteral("paletteMenu"));
+    Language::bind(menu, &QMenu::setTitle, [] { return tr("&Palette"); });
+    const auto addPalette = [this, menu](const char *name, const char *text,
+                                         DiagramLook::Palette palette) {
+        add(
+            menu, name, [text] { return tr(text); },
+            [palette](DiagramView &view) { view.options.palette = palette; },
+            [palette](const DiagramView &view) { return view.options.palette == palette; });
+    };
+    addPalette("paletteColours", QT_TR_NOOP("&Colours"), DiagramLook::DistinctColors);
+    addPalette("paletteGray", QT_TR_NOOP("&Grey"), DiagramLook::GrayColors);
+    addPalette("paletteDark", QT_TR_NOOP("&Dark"), DiagramLook::DarkColors);
+}
+
+void LookCommands::addLines(QMenu *parent)
+{
+    QMenu *const menu = parent->addMenu(QString());
+    menu->setObjectName(QStringLiteral("linesMenu"));
+    Language::bind(menu, &QMenu::setTitle, [] { return tr("Lines of &titles"); });
+    const auto addLimit = [this, menu](const char *name, const char *text, double limit) {
+        add(
+            menu, name, [text] { return tr(text); },
+            [limit](DiagramView &view) {
+                view.arrangeForScreen();
+                view.options.wrapLimit = limit;
+            },
+            [limit](const DiagramView &view) {
+                return view.page.isEmpty() && view.options.wrapLimit == limit;
+            });
+    };
+    addLimit("linesAny", QT_TR_NOOP("&Not broken"), 0);
+    addLimit("linesLong", QT_TR_NOOP("&Long"), 200);
+    addLimit("linesMedium", QT_TR_NOOP("&Medium"), 145);
+    addLimit("linesShort", QT_TR_NOOP("&Short"), 110);
+}
+
+void LookCommands::addSwitches(QMenu *menu)
+{
+    add(
+        menu, "bothSides", [] { return tr("&Bones on both sides"); },
+        [](DiagramView &view) {
+            view.options.sides = view.options.sides == DiagramLook::BothSides
+                                     ? DiagramLook::OneSide
+                                     : DiagramLook::BothSides;
+        },
+        [](const DiagramView &view) { return view.options.sides == DiagramLook::BothSides; });
+    add(
+        menu, "headLeft", [] { return tr("&Head on the left"); },
+        [](DiagramView &view) { view.options.isHeadLeft = !view.options.isHeadLeft; },
+        [](const DiagramView &view) { return view.options.isHeadLeft; });
+    add(
+        menu, "legend", [] { return tr("&Legend"); },
+        [](DiagramView &view) { view.options.hasLegend = !view.options.hasLegend; },
+        [](const DiagramView &view) { return view.options.hasLegend; });
+}
+
+void LookCommands::setLook(DocumentLook *look)
+{
+    m_look = look;
+}
+
+void LookCommands::updateActions()
+{
+    if (!m_look)
+        return;
+    const DiagramView &view = m_look->view();
+    const bool isShown = m_session->document();
+    for (auto entry = m_tests.cbegin(); entry != m_tests.cend(); ++entry) {
+        const bool isLook = entry.key() == m_classic ||
+                            entry.key() == m_actions->action(QStringLiteral("lookClear"));
+        // The classic look has nothing to choose.
+        entry.key()->setEnabled(isShown && (isLook || view.look == DiagramLook::Clear));
+        entry.key()->setChecked(entry.value()(view));
+    }
+}
