@@ -17,6 +17,8 @@
 #include <QPen>
 #include <QStringList>
 
+#include <limits>
+
 namespace {
 
 /** Measured by the compiler, so that the keys are there before any code runs. */
@@ -103,10 +105,16 @@ QColor colorFromJson(const QJsonObject &object)
     return color;
 }
 
+/** Its fraction cut off; a host may have set a width that no int holds. */
+int wholeWidth(const QPen &pen)
+{
+    return int(qBound(0.0, pen.widthF(), qreal(std::numeric_limits<int>::max())));
+}
+
 QJsonObject penToJson(const QPen &pen)
 {
     QJsonObject object = colorToJson(pen.color());
-    object[QLatin1String("width")] = int(pen.widthF());
+    object[QLatin1String("width")] = wholeWidth(pen);
     object[QLatin1String("style")] = int(pen.style());
     object[QLatin1String("capStyle")] = int(pen.capStyle());
     object[QLatin1String("joinStyle")] = int(pen.joinStyle());

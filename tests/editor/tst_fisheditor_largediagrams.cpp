@@ -130,6 +130,7 @@ void TestFishEditorLargeDiagrams::shouldShowEveryRow()
     }
     fish.editor.updateFish(true);
     QCOMPARE(fish.editor.headSpear()->childSpears().size(), width);
+    settle(); // what was never polished is looked for in a list when it dies
 }
 
 void TestFishEditorLargeDiagrams::shouldShowWideBranchesOfOneBone()

@@ -46,7 +46,7 @@ private Q_SLOTS:
 void TestZipArchive::shouldGiveBackWhatWasPutIn()
 {
     QByteArray everything;
-    for (int i = 0; i < 100000; ++i)
+    for (unsigned i = 0; i < 100000; ++i)
         everything.append(char(i * i));
     const QByteArray bytes = ZipWriter::archive(
         {{name, "x"}, {QStringLiteral("a/b"), everything}, {QStringLiteral("e"), {}}});

@@ -56,11 +56,11 @@ struct Owner
     void give(SpearItem *to, QGraphicsItem *item) const { (to->*m_kind.set)(item); }
     QGraphicsItem *companion() const { return (spear->*m_kind.get)(); }
 
+    int deletions = 0; // first, since what the others own counts into it to the end
     QGraphicsScene scene;
     std::unique_ptr<SpearItem> owned;
     SpearItem *spear = nullptr;
     CountedItem *first = nullptr;
-    int deletions = 0;
 
 private:
     Companion m_kind;

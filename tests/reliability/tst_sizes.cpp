@@ -23,6 +23,8 @@
 
 #include <sys/resource.h>
 
+#include <ctime>
+
 using namespace TestSupport;
 
 namespace {
@@ -340,8 +342,7 @@ void tst_Sizes::shouldDrawAWholeTitle()
     editor.resize(400, 300);
     editor.setModel(&model);
     editor.setRootIndex(model.index(0, 0));
-    QElapsedTimer elapsed;
-    elapsed.start();
+    const std::clock_t start = std::clock();
     editor.renameItem(indexTitled(model, QStringLiteral("Man")), title);
     editor.showEntire();
     QImage picture(200, 150, QImage::Format_ARGB32_Premultiplied);
@@ -349,7 +350,8 @@ void tst_Sizes::shouldDrawAWholeTitle()
     QPainter painter(&picture);
     editor.scene()->render(&painter);
     painter.end();
-    QVERIFY2(elapsed.elapsed() < 30000, qPrintable(QString::number(elapsed.elapsed())));
+    const double seconds = double(std::clock() - start) / CLOCKS_PER_SEC; // whoever else is at work
+    QVERIFY2(seconds < 30, qPrintable(QString::number(seconds)));
     QCOMPARE(spearFault(model), QString());
 }
 

@@ -163,7 +163,7 @@ void TestDetailsPanel::shouldShowEveryAttributeThatDetailsHave()
     QFETCH(QString, key);
     QFETCH(QVariant, value);
     AppFixture app;
-    auto *const panel = app.window.findChild<DetailsPanel *>();
+    DetailsPanel *const panel = app.window.tabs()->current()->details();
     const QModelIndex index = app.window.session()->model()->index(0, 0);
     panel->showSubject(index);
     const QString before = allThatIsShown(*panel);
