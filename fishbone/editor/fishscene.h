@@ -5,7 +5,11 @@
 
 #include <QGraphicsScene>
 
+#include <memory>
+
 #include <fishbone/fishbone_export.h>
+
+class OnePass;
 
 /// The scene that holds the drawing of one diagram: the head spear is its only top-level item, all
 /// others are below it.
@@ -16,6 +20,7 @@ class FISHBONE_EXPORT FishScene : public QGraphicsScene
 public:
     /// A scene that shows nothing.
     explicit FishScene(QObject *parent = nullptr);
+    ~FishScene() override;
 
     /// The first view that shows the scene, or null.
     QGraphicsView *currentGraphicsView() const { return views().value(0); }
@@ -26,6 +31,13 @@ public Q_SLOTS:
     /// last. Nothing in the library connects this.
     void handleSelectionChanged();
 
+protected:
+    /// A picture of the scene begins: whatever is missing, such as the file of the global style, is
+    /// looked for once until drawForeground(), however many bones ask for it.
+    void drawBackground(QPainter *painter, const QRectF &rect) override;
+    void drawForeground(QPainter *painter, const QRectF &rect) override; ///< the picture is drawn
+
 private:
-    QGraphicsItem *m_lastAlone = nullptr; ///< only ever compared: the item may be gone
+    std::unique_ptr<const OnePass> m_picture; ///< while one is drawn
+    QGraphicsItem *m_lastAlone = nullptr;     ///< only ever compared: the item may be gone
 };

@@ -273,6 +273,15 @@ void TestOperationCounts::shouldLookForTheGlobalStyleOnceAPass()
     QVERIFY(paints.count > 0);
     QVERIFY2(globalStyleLookupCount() - before <= paints.count,
              qPrintable(QString::number(globalStyleLookupCount() - before)));
+
+    QImage picture(200, 100, QImage::Format_ARGB32_Premultiplied);
+    picture.fill(Qt::white);
+    QPainter painter(&picture);
+    before = globalStyleLookupCount();
+    fish.editor.scene()->render(&painter);
+    QCOMPARE(globalStyleLookupCount(), before + 1);
+    fish.editor.scene()->render(&painter); // which finds a file that came between
+    QCOMPARE(globalStyleLookupCount(), before + 2);
 }
 
 FISHBONE_TEST(TestOperationCounts)
