@@ -11,6 +11,7 @@
 
 #include <fishbone/items/headpictures.h>
 #include <fishbone/items/spearitem.h>
+#include <fishbone/items/spearpasses.h>
 
 namespace {
 constexpr double firstOffset = 30.0;      ///< of the first child along its parent
@@ -103,7 +104,7 @@ void ClassicLook::placeAlongSlantedBone(const SpearTree &tree, const SpearTree::
         SpearItem *const child = tree.child(parent, row).spear;
         child->setOffset(offset);
         offset += child->spearHeight();
-        child->place(parent.spear);
+        SpearPasses::place(*child, parent.spear);
     }
 }
 
@@ -122,6 +123,6 @@ void ClassicLook::placeAlongLevelBone(const SpearTree &tree, const SpearTree::En
                                         : offset);
             offset += qMax(minimumAdvance, child->spearWidth());
         }
-        child->place(parent.spear);
+        SpearPasses::place(*child, parent.spear);
     }
 }

@@ -12,6 +12,7 @@
 #include <fishbone/drawing/clearspear.h>
 #include <fishbone/drawing/speartree.h>
 #include <fishbone/items/spearitem.h>
+#include <fishbone/items/spearpasses.h>
 #include <fishbone/items/taskstatusitem.h>
 #include <fishbone/model/treeitem.h>
 #include <fishbone/style/spearstyle.h>
@@ -134,5 +135,5 @@ void ClearLook::place(const SpearTree &tree) const
     for (std::size_t i = 0; i < shown.spears.size(); ++i)
         give(shown.spears[i], layout, int(i), shown.subjects[i].hidden, badge);
     for (const SpearTree::Entry &entry : tree.entries())
-        entry.spear->place(entry.spear->parentSpear());
+        SpearPasses::place(*entry.spear, entry.spear->parentSpear());
 }

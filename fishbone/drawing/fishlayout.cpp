@@ -9,6 +9,7 @@
 #include <fishbone/drawing/classiclook.h>
 #include <fishbone/drawing/spearbuilder.h>
 #include <fishbone/items/spearitem.h>
+#include <fishbone/items/spearpasses.h>
 #include <fishbone/model/treeitem.h>
 
 FishLayout::FishLayout(SpearItem *head, std::shared_ptr<const DrawingLook> look)
@@ -24,9 +25,9 @@ void prefetchBehind(const std::vector<SpearTree::Entry> &entries, std::size_t cu
 {
     constexpr std::size_t ahead = 4;
     if (current + 2 * ahead < entries.size())
-        entries[current + 2 * ahead].spear->prefetchParts();
+        SpearPasses::prefetchParts(*entries[current + 2 * ahead].spear);
     if (current + ahead < entries.size())
-        entries[current + ahead].spear->prefetchInsides();
+        SpearPasses::prefetchInsides(*entries[current + ahead].spear);
 }
 } // namespace
 
@@ -66,14 +67,14 @@ void FishLayout::refreshSpears()
 bool FishLayout::update(SettledDrawing &settled)
 {
     bool isSettled = m_look->isSettled() && settled.matches(m_tree.entries().size(), m_look.get());
-    refreshAll([](SpearItem *spear, int direction) { spear->refresh(direction); },
+    refreshAll([](SpearItem *spear, int direction) { SpearPasses::refresh(*spear, direction); },
                [&isSettled, &settled](std::size_t place, const SpearItem &spear) {
                    isSettled = isSettled && settled.matches(place, spear);
                });
     if (isSettled)
         return false;
     for (const SpearTree::Entry &entry : m_tree.entries())
-        entry.spear->beginLayout();
+        SpearPasses::begin(*entry.spear);
     sizeSpears();
     placeSpears();
     settled.forget();

@@ -234,17 +234,6 @@ public:
 
     /// Resets the item for a new layout: position, offset, line, recorded child sizes.
     void initData(int direction);
-    /// Brings everything that no layout computes in line with subject, style and state. For
-    /// FishLayout.
-    void refresh(int direction);
-    /// Has the processor fetch what refresh() looks at: first the spear's parts, then what these
-    /// keep apart. For FishLayout, some bones ahead.
-    void prefetchParts() const;
-    void prefetchInsides() const; ///< see prefetchParts()
-    /// Forgets offset and child sizes. For FishLayout.
-    void beginLayout();
-    /// As updatePosition(). \a parent is the parent spear, null for the header. For FishLayout.
-    void place(SpearItem *parent);
     /// Records the size of the next child spear.
     void sumChildSize(const QSizeF &size);
     /// What was recorded.
@@ -300,7 +289,8 @@ protected:
     void hoverLeaveEvent(QGraphicsSceneHoverEvent *event) override;
 
 private:
-    friend class TreeItem; // which hands over its end of the link
+    friend class SpearPasses; // which a layout of a whole drawing takes its steps through
+    friend class TreeItem;    // which hands over its end of the link
 
     /// What was painted, or is about to be, of what no item keeps.
     struct Painted
@@ -310,6 +300,11 @@ private:
         bool isMovable = true;
     };
 
+    void refresh(int direction);
+    void prefetchParts() const;
+    void prefetchInsides() const;
+    void beginLayout();
+    void place(SpearItem *parent);
     void attachTreeItem(TreeItem *item);
     void forgetTreeItem();
     SpearStyle::SpearState interactionState() const;

@@ -5,6 +5,7 @@
 // but the size of the text's document.
 
 #include <fishbone/items/spearitem.h>
+#include <fishbone/items/spearpasses.h>
 
 #include <QTextDocument>
 #include <QtTest>
@@ -83,8 +84,8 @@ void TestSpearItemGeometry::shouldKeepTheLineForALayoutThatMayChangeNothing()
     bones.spear->setOffset(7);
     bones.spear->sumChildSize(QSizeF(500, 700));
 
-    bones.spear->refresh(-1);
-    bones.spear->beginLayout();
+    SpearPasses::refresh(*bones.spear, -1);
+    SpearPasses::begin(*bones.spear);
 
     QCOMPARE(bones.spear->line(), QLineF(1, 2, 3, 4));
     QCOMPARE(bones.spear->pos(), QPointF(0, 0));
