@@ -138,6 +138,26 @@
         <source>waiting for approval</source>
         <translation>waiting for approval</translation>
     </message>
+    <message>
+        <source>suspected</source>
+        <translation>suspected</translation>
+    </message>
+    <message>
+        <source>being checked</source>
+        <translation>being checked</translation>
+    </message>
+    <message>
+        <source>confirmed</source>
+        <translation>confirmed</translation>
+    </message>
+    <message>
+        <source>ruled out</source>
+        <translation>ruled out</translation>
+    </message>
+    <message>
+        <source>root cause</source>
+        <translation>root cause</translation>
+    </message>
 </context>
 <context>
     <name>CommandLine</name>

@@ -138,6 +138,26 @@
         <source>waiting for approval</source>
         <translation>等待审批</translation>
     </message>
+    <message>
+        <source>suspected</source>
+        <translation>怀疑</translation>
+    </message>
+    <message>
+        <source>being checked</source>
+        <translation>核查中</translation>
+    </message>
+    <message>
+        <source>confirmed</source>
+        <translation>已确认</translation>
+    </message>
+    <message>
+        <source>ruled out</source>
+        <translation>已排除</translation>
+    </message>
+    <message>
+        <source>root cause</source>
+        <translation>根本原因</translation>
+    </message>
 </context>
 <context>
     <name>CommandLine</name>

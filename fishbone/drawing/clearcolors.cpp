@@ -92,11 +92,23 @@ QColor ClearColors::badgeInk() const
     return isDark() ? QColor(0xe8edf2) : QColor(0x2a3643);
 }
 
+QColor ClearColors::rootCause() const
+{
+    if (isGray())
+        return QColor(0x202020);
+    return isDark() ? QColor(0xf28b82) : QColor(0xb3261e);
+}
+
 QColor ClearColors::inkOn(const QColor &fill)
 {
     const QColor light(Qt::white);
     const QColor night(0x10161c);
-    return contrast(fill, light) >= contrast(fill, night) ? light : night;
+    constexpr qreal enough = 4.5;
+    for (const QColor &ink : {light, night}) {
+        if (contrast(fill, ink) >= enough)
+            return ink;
+    }
+    return Qt::black; // on some colours between light and dark nothing else will do
 }
 
 qreal ClearColors::contrast(const QColor &one, const QColor &other)

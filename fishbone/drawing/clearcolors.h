@@ -17,15 +17,16 @@ public:
     QColor category(int category) const;
     /** The colour of a text of @p level, which in a category stands on category(). */
     QColor ink(int level) const;
-    QColor paper() const;    ///< of a picture that is filled
-    QColor head() const;     ///< inside the head
-    QColor tail() const;     ///< inside the tail
-    QColor outline() const;  ///< around head and tail
-    QColor backbone() const; ///< of backbone and tail
-    QColor badge() const;    ///< behind the "+5"
-    QColor badgeInk() const; ///< the "+5"
+    QColor paper() const;     ///< of a picture that is filled
+    QColor head() const;      ///< inside the head
+    QColor tail() const;      ///< inside the tail
+    QColor outline() const;   ///< around head and tail
+    QColor backbone() const;  ///< of backbone and tail
+    QColor badge() const;     ///< behind the "+5"
+    QColor badgeInk() const;  ///< the "+5"
+    QColor rootCause() const; ///< behind a root cause
 
-    /** Text on @p fill: white or nearly black, whichever is easier to read. */
+    /** Text on @p fill: white where that can be read, else black or nearly so. */
     static QColor inkOn(const QColor &fill);
     /** How much lighter one of two colours is than the other: 1 for none, 21 for white on black. */
     static qreal contrast(const QColor &one, const QColor &other);

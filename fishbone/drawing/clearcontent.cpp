@@ -8,16 +8,14 @@
 #include <fishbone/style/spearstyle.h>
 
 #include <QFont>
+#include <QStringList>
 
-#include <map>
 #include <utility>
 
-namespace {
-/** How many subjects are below @p item. */
-int countBelow(const TreeItem *item)
+int ClearContent::countBelow(const TreeItem &subject)
 {
     int count = -1; // without itself
-    std::vector<const TreeItem *> open{item};
+    std::vector<const TreeItem *> open{&subject};
     while (!open.empty()) {
         const TreeItem *const next = open.back();
         open.pop_back();
@@ -26,7 +24,6 @@ int countBelow(const TreeItem *item)
     }
     return count;
 }
-} // namespace
 
 QString ClearContent::meaningOf(int status)
 {
@@ -50,29 +47,78 @@ QString ClearContent::meaningOf(int status)
     }
 }
 
+QString ClearContent::meaningOf(Verdict verdict)
+{
+    switch (verdict) {
+    case Verdict::Suspected:
+        return tr("suspected");
+    case Verdict::Checking:
+        return tr("being checked");
+    case Verdict::Confirmed:
+        return tr("confirmed");
+    case Verdict::RuledOut:
+        return tr("ruled out");
+    case Verdict::RootCause:
+        return tr("root cause");
+    case Verdict::None:
+        break;
+    }
+    return QString();
+}
+
+QString ClearContent::shownIn(const TreeItem &subject)
+{
+    QStringList all{meaningOf(subject.status()), meaningOf(SubjectMarks::verdict(subject))};
+    all.removeAll(QString());
+    return all.join(QStringLiteral(", "));
+}
+
+std::optional<ClearFont> ClearContent::ownFont(const TreeItem &subject)
+{
+    const SpearStyle *const style = subject.spearStyle();
+    const QFont *const font = style ? style->textFont(SpearStyle::ssNormal) : nullptr;
+    return font ? std::optional(ClearFont::onScreen(*font)) : std::nullopt;
+}
+
+void ClearSymbols::add(const TreeItem &subject, const ClearSubjectLook &look, int level)
+{
+    if (level > 0 && !look.icon.isEmpty())
+        m_statuses.emplace(subject.status(), look.icon);
+    if (look.verdict != Verdict::None)
+        m_verdicts.insert(int(look.verdict));
+    // The box of a category and the head say themselves what their colours mean.
+    if (level > 1 && look.colour.isValid())
+        m_colours.emplace(look.colour.rgb(), subject.title());
+}
+
+std::vector<ClearMeaning> ClearSymbols::all() const
+{
+    std::vector<ClearMeaning> all;
+    for (const auto &[status, icon] : m_statuses)
+        all.push_back({icon, Verdict::None, QColor(), ClearContent::meaningOf(status)});
+    for (const int verdict : m_verdicts)
+        all.push_back(
+            {QString(), Verdict(verdict), QColor(), ClearContent::meaningOf(Verdict(verdict))});
+    for (const auto &[colour, title] : m_colours)
+        all.push_back({QString(), Verdict::None, QColor(colour), title.simplified()});
+    return all;
+}
+
 void ClearContent::add(const TreeItem *item, int parent, ClearPictureContent &content)
 {
-    const TaskStatusInfo info(TaskStatus(item->status()), item->progress());
+    const ClearSubjectLook look = ClearSubjectLook::of(*item);
     ClearSubject subject;
     subject.parent = parent;
     subject.title = item->title();
     subject.hasLink = !item->url().isEmpty();
-    subject.hasStatus = !info.iconPath().isEmpty();
-    ClearSubjectLook look;
-    if (subject.hasStatus)
-        look.icon = info.iconPath();
-    if (const SpearStyle *const style = item->spearStyle()) {
-        if (const QFont *const font = style->textFont(SpearStyle::ssNormal))
-            subject.font = ClearFont::onScreen(*font);
-        look.ink = style->textColor(SpearStyle::ssNormal);
-        look.background = style->textBkColor(SpearStyle::ssNormal);
-    }
+    subject.hasStatus = !look.icon.isEmpty();
+    subject.font = ownFont(*item);
     PictureSubject meaning;
     meaning.id = item->uuid();
     meaning.title = item->title();
     meaning.detail = item->detail();
     meaning.link = item->url();
-    meaning.state = meaningOf(item->status());
+    meaning.state = shownIn(*item);
     meaning.parent = parent;
     meaning.level = parent < 0 ? 0 : content.meanings[std::size_t(parent)].level + 1;
     content.subjects.push_back(subject);
@@ -84,26 +130,23 @@ ClearPictureContent ClearContent::of(const TreeItem *head, int levels)
 {
     ClearPictureContent content;
     content.linkIcon = QStringLiteral(":/fishboneDiagram/link.png");
-    std::map<int, QString> used; // the first icon of each status
+    ClearSymbols symbols;
     std::vector<std::pair<const TreeItem *, int>> open{{head, -1}};
     while (!open.empty()) {
         const auto [item, parent] = open.back();
         open.pop_back();
         const int index = int(content.subjects.size());
         add(item, parent, content);
-        if (index > 0 && content.subjects.back().hasStatus)
-            used.emplace(item->status(), content.looks.back().icon);
+        const int level = content.meanings.back().level;
+        symbols.add(*item, content.looks.back(), level);
         const QList<TreeItem *> &children = item->childItems();
-        if (levels >= 0 && content.meanings.back().level > levels) {
-            content.subjects.back().hidden = countBelow(item);
+        if (levels >= 0 && level > levels) {
+            content.subjects.back().hidden = countBelow(*item);
             continue;
         }
         for (auto child = children.crbegin(); child != children.crend(); ++child)
             open.emplace_back(*child, index);
     }
-    for (const auto &[status, icon] : used) {
-        content.legendIcons.push_back(icon);
-        content.legendTexts.push_back(meaningOf(status));
-    }
+    content.symbols = symbols.all();
     return content;
 }

@@ -7,7 +7,26 @@
 
 #include <QCoreApplication>
 
+#include <map>
+#include <optional>
+#include <set>
+
 class TreeItem;
+
+/** Collects what the legend of a drawing explains, each once. */
+class ClearSymbols
+{
+public:
+    /** Takes what is drawn of @p subject, which is at @p level and looks like @p look. */
+    void add(const TreeItem &subject, const ClearSubjectLook &look, int level);
+    /** Statuses, then verdicts, then colours. */
+    std::vector<ClearMeaning> all() const;
+
+private:
+    std::map<int, QString> m_statuses; ///< with the first icon of each
+    std::set<int> m_verdicts;
+    std::map<QRgb, QString> m_colours; ///< with the first subject of each
+};
 
 /** Takes out of a diagram what a picture of it shows. */
 class ClearContent
@@ -22,7 +41,15 @@ public:
 
     /** What the status @p status means, translated; empty for one without an icon. */
     static QString meaningOf(int status);
+    /** What @p verdict means, translated; empty for none. */
+    static QString meaningOf(Verdict verdict);
+
+    /** The font that @p subject has of its own. */
+    static std::optional<ClearFont> ownFont(const TreeItem &subject);
+    /** How many subjects are below @p subject. Linear, without recursion. */
+    static int countBelow(const TreeItem &subject);
 
 private:
+    static QString shownIn(const TreeItem &subject);
     static void add(const TreeItem *item, int parent, ClearPictureContent &content);
 };

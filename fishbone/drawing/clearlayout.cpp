@@ -3,7 +3,6 @@
 
 #include <fishbone/drawing/clearlayout.h>
 
-#include <QFontMetricsF>
 #include <QTransform>
 
 #include <algorithm>
@@ -63,7 +62,6 @@ ClearLayout::ClearLayout(const ClearTree &tree, const ClearFonts &fonts,
 
 void ClearLayout::makeLabels(const ClearTree &tree, const ClearFonts &fonts, ClearTextCache &cache)
 {
-    const QFontMetricsF badge(fonts.badge().font(), ClearFont::device());
     ClearWrap ofCategories = m_options.wrap;
     if (ofCategories.limit > 0)
         ofCategories.limit = std::max(ofCategories.limit, narrowestCategory);
@@ -80,11 +78,12 @@ void ClearLayout::makeLabels(const ClearTree &tree, const ClearFonts &fonts, Cle
         const ClearWrap &wrap = level == 0 ? ofHead : level == 1 ? ofCategories : m_options.wrap;
         std::shared_ptr<const ClearText> text = cache.text(subject.title, font, wrap);
         m_cutTitles += text->isCut() ? 1 : 0;
-        qreal badgeWidth = 0;
+        Bone &bone = m_bones[std::size_t(index)];
         if (subject.hidden > 0)
-            badgeWidth =
-                badge.horizontalAdvance(u'+' + QString::number(subject.hidden)) + 2 * badgePadding;
-        m_bones[std::size_t(index)].text = text;
+            bone.badgeText =
+                cache.text(u'+' + QString::number(subject.hidden), fonts.badge(), ClearWrap());
+        const qreal badgeWidth = bone.badgeText ? bone.badgeText->width() + 2 * badgePadding : 0;
+        bone.text = text;
         m_labels.emplace_back(std::move(text), subject.hasStatus && level > 0, subject.hasLink,
                               badgeWidth);
     }

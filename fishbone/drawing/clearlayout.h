@@ -35,14 +35,15 @@ public:
         std::shared_ptr<const ClearText> text;
         ClearLabel::Side side = ClearLabel::Side::Center; ///< of the text the bone is on
         int level = 0;
-        int category = -1; ///< the row of its category, -1 for the head
-        QLineF line;       ///< from the joint to the end
-        QRectF textRect;   ///< the lines of the title
-        QRectF box;        ///< behind the title of a category
-        QRectF status;     ///< the status icon, null without one
-        QRectF link;       ///< the link icon, null without one
-        QRectF badge;      ///< the "+5" of a contracted bone
-        QPointF button;    ///< the middle of the button that contracts an expanded one
+        int category = -1;                          ///< the row of its category, -1 for the head
+        QLineF line;                                ///< from the joint to the end
+        QRectF textRect;                            ///< the lines of the title
+        QRectF box;                                 ///< behind the title of a category
+        QRectF status;                              ///< the status icon, null without one
+        QRectF link;                                ///< the link icon, null without one
+        QRectF badge;                               ///< the "+5" of a contracted bone
+        std::shared_ptr<const ClearText> badgeText; ///< that "+5"; null for all others
+        QPointF button; ///< the middle of the button that contracts an expanded one
 
         /** Where the base line of line @p number of the title begins. */
         QPointF base(int number) const { return ClearLabel::base(*text, textRect, side, number); }

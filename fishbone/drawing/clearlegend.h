@@ -20,6 +20,11 @@ public:
         std::shared_ptr<const ClearText> text;
         QRectF symbol;
         QRectF textRect;
+
+        bool operator==(const Entry &o) const
+        {
+            return text == o.text && symbol == o.symbol && textRect == o.textRect;
+        }
     };
 
     ClearLegend() = default;

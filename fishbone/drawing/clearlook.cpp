@@ -176,8 +176,7 @@ QRectF ClearLook::boundingRect(const SpearItem &spear) const
     const QLineF line = spear.line();
     QRectF rect = QRectF(line.p1(), line.p2()).normalized();
     if (place && place->frame)
-        rect |= place->frame->head.boundingRect() | place->frame->tail.boundingRect() |
-                place->frame->backbone.boundingRect();
+        rect |= place->frame->rect();
     return rect.adjusted(-lineMargin, -lineMargin, lineMargin, lineMargin);
 }
 

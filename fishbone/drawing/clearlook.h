@@ -8,8 +8,12 @@
 #include <fishbone/drawing/diagramlook.h>
 #include <fishbone/drawing/drawinglook.h>
 
+#include <vector>
+
 struct ClearSpear;
-struct ClearOptions;
+struct ClearInk;
+class ClearSymbols;
+class ClearTree;
 
 /**
  * The clear look: all texts level and wrapped, categories in coloured boxes, the title inside the
@@ -48,16 +52,18 @@ public:
     bool paintText(QPainter &painter, const SpearItem &spear) const override;
     QRectF badge(const SpearItem &spear) const override;
     void paintBadge(QPainter &painter, const SpearItem &spear) const override;
+    bool showsChains() const override { return true; }
 
     void size(const SpearTree &tree) const override;
     void place(const SpearTree &tree) const override;
     bool isSettled() const override { return false; }
 
 private:
-    void paintHeader(QPainter &painter, const ClearSpear &header) const;
+    std::vector<ClearInk> inksOf(const ClearTree &tree, const std::vector<SpearItem *> &spears,
+                                 ClearSymbols &symbols) const;
+    void paintHeader(QPainter &painter, const SpearItem &spear, const ClearSpear &header) const;
     QPen penOf(const SpearItem &spear, const ClearSpear &place) const;
-    QColor inkOf(const SpearItem &spear, const ClearSpear &place) const;
-    QColor fillOf(const SpearItem &spear, const ClearSpear &place) const;
+    ClearInk inkOf(const SpearItem &spear, const ClearSpear &place) const;
 
     DiagramLook::Options m_options;
     ClearColors m_colors;

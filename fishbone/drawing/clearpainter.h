@@ -16,7 +16,7 @@ public:
 
     void beginSubject(int index, const PictureSubject &subject) override;
     void endSubject() override;
-    void line(const QLineF &line, const QColor &color, qreal width) override;
+    void line(const QLineF &line, const QPen &pen) override;
     void shape(const QPainterPath &path, const QColor &fill, const QColor &outline,
                qreal width) override;
     void box(const QRectF &rect, qreal radius, const QColor &fill) override;
@@ -25,5 +25,9 @@ public:
     void icon(const QRectF &rect, const QString &file) override;
 
 private:
+    void bar(const ClearText &text, int line, const QPointF &base, const QColor &color);
+
     QPainter &m_painter;
+    bool m_hasBars; ///< texts are too low to be read
+    qreal m_scale;  ///< device pixels for a unit of the drawing
 };

@@ -7,6 +7,7 @@
 
 #include <QPainter>
 
+#include <fishbone/drawing/clearpainter.h>
 #include <fishbone/drawing/clearspear.h>
 #include <fishbone/items/spearitem.h>
 #include <fishbone/model/treeitem.h>
@@ -14,18 +15,7 @@
 #include <fishbone/style/textbox.h>
 
 namespace {
-constexpr double categoryLine = 2.2;
-constexpr double causeLine = 1.2;
-constexpr double deepLine = 1;
-constexpr double outlineWidth = 1.5;
 constexpr double boxCorner = 4;
-
-double lineWidth(int level)
-{
-    if (level == 1)
-        return categoryLine;
-    return level == 2 ? causeLine : deepLine;
-}
 
 /** The style that counts in that state: the subject's own one always, the one of all where a bone
  * stands out; null for that of the look. */
@@ -36,34 +26,53 @@ const SpearStyle *styleOf(const SpearItem &spear, SpearStyle::SpearState state)
         return own;
     return state == SpearStyle::ssNormal ? nullptr : SpearStyle::global();
 }
+
+/** The pen that a style has for that state; null for none. */
+const QPen *penIn(const SpearItem &spear, SpearStyle::SpearState state)
+{
+    const SpearStyle *const style = styleOf(spear, state);
+    return style ? style->broderPen(state) : nullptr;
+}
+
+/** Whether @p spear is one that leads to another that is selected, pointed at or linked. */
+bool isOnTheWay(const SpearItem &spear)
+{
+    return spear.boxState() == SpearStyle::ssNormal && spear.standsOut();
+}
 } // namespace
 
 QPen ClearLook::penOf(const SpearItem &spear, const ClearSpear &place) const
 {
     if (!spear.isMovable())
-        return QPen(Qt::red, lineWidth(place.bone.level));
-    const SpearStyle *const style = styleOf(spear, spear.currentState());
-    if (const QPen *const set = style ? style->broderPen(spear.currentState()) : nullptr)
+        return QPen(Qt::red, place.ink.line.widthF());
+    const SpearStyle::SpearState state = spear.currentState();
+    if (!spear.standsOut())
+        return place.ink.line;
+    if (const QPen *const set = state == SpearStyle::ssNormal ? nullptr : penIn(spear, state))
         return *set;
-    QPen pen(m_colors.category(place.bone.category), lineWidth(place.bone.level));
-    pen.setCapStyle(Qt::RoundCap);
-    return pen;
+    return place.ink.standingOut(place.bone.level, m_colors).line;
 }
 
-QColor ClearLook::fillOf(const SpearItem &spear, const ClearSpear &place) const
+/** The colours of the title in the state that it shows. */
+ClearInk ClearLook::inkOf(const SpearItem &spear, const ClearSpear &place) const
 {
-    const SpearStyle *const style = styleOf(spear, spear.boxState());
-    const QColor set = style ? style->textBkColor(spear.boxState()) : QColor();
-    if (set.isValid())
-        return set;
-    return place.bone.level == 1 ? m_colors.category(place.bone.category) : QColor();
-}
-
-QColor ClearLook::inkOf(const SpearItem &spear, const ClearSpear &place) const
-{
-    const SpearStyle *const style = styleOf(spear, spear.textState());
-    const QColor set = style ? style->textColor(spear.textState()) : QColor();
-    return set.isValid() ? set : m_colors.ink(place.bone.level);
+    if (isOnTheWay(spear))
+        return place.ink.standingOut(place.bone.level, m_colors);
+    ClearInk ink = place.ink;
+    if (spear.boxState() == SpearStyle::ssNormal)
+        return ink;
+    const SpearStyle *const boxStyle = styleOf(spear, spear.boxState());
+    const QColor fill = boxStyle ? boxStyle->textBkColor(spear.boxState()) : QColor();
+    const SpearStyle *const textStyle = styleOf(spear, spear.textState());
+    const QColor text = textStyle ? textStyle->textColor(spear.textState()) : QColor();
+    if (fill.isValid()) {
+        ink.box = fill;
+        ink.background = QColor();
+        ink.text = ClearColors::inkOn(fill);
+    }
+    if (text.isValid())
+        ink.text = text;
+    return ink;
 }
 
 void ClearLook::paint(QPainter &painter, const SpearItem &spear) const
@@ -72,7 +81,7 @@ void ClearLook::paint(QPainter &painter, const SpearItem &spear) const
     if (!place)
         return;
     if (place->frame) {
-        paintHeader(painter, *place);
+        paintHeader(painter, spear, *place);
         return;
     }
     painter.setPen(penOf(spear, *place));
@@ -80,16 +89,15 @@ void ClearLook::paint(QPainter &painter, const SpearItem &spear) const
         painter.drawLine(spear.line());
 }
 
-void ClearLook::paintHeader(QPainter &painter, const ClearSpear &header) const
+void ClearLook::paintHeader(QPainter &painter, const SpearItem &spear,
+                            const ClearSpear &header) const
 {
+    const ClearFrame &frame = *header.frame;
     painter.save();
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(m_colors.backbone());
-    painter.drawPolygon(header.frame->backbone);
-    painter.setPen(QPen(m_colors.outline(), outlineWidth));
-    painter.drawPath(header.frame->tail);
-    painter.setBrush(m_colors.head());
-    painter.drawPath(header.frame->head);
+    ClearPainter sink(painter);
+    ClearPieces::fish(sink, frame.backbone, frame.tail, m_colors);
+    ClearPieces::head(sink, frame.head, header.ink, m_colors, isOnTheWay(spear));
+    ClearPieces::legend(sink, frame.legend, frame.symbols, m_colors);
     painter.restore();
     painter.setPen(m_colors.outline());
 }
@@ -101,18 +109,18 @@ bool ClearLook::paintText(QPainter &painter, const SpearItem &spear) const
         return true;
     const SpearStyle::SpearState state = spear.boxState();
     const QRectF box = place->box();
+    const ClearInk ink = inkOf(spear, *place);
     painter.save();
     painter.translate(-box.topLeft());
-    if (const QColor fill = fillOf(spear, *place); fill.isValid()) {
-        painter.setPen(Qt::NoPen);
-        painter.setBrush(fill);
-        painter.drawRoundedRect(box, boxCorner, boxCorner);
+    ClearPainter sink(painter);
+    const bool hasFill = state != SpearStyle::ssNormal && ink.box.isValid();
+    if (hasFill && place->bone.level != 1)
+        sink.box(box, boxCorner, ink.box);
+    ClearPieces::label(sink, place->bone, ink, m_colors);
+    if (state != SpearStyle::ssNormal) {
+        const QPen *const frame = penIn(spear, state);
+        paintTextBox(painter, box, box, QColor(), frame ? *frame : QPen(ink.accent));
     }
-    if (state != SpearStyle::ssNormal)
-        paintTextBox(painter, box, box, QColor(), spear.broaderPen(state));
-    const QColor ink = inkOf(spear, *place);
-    for (int line = 0; line < place->bone.text->lineCount(); ++line)
-        place->bone.text->paintLine(painter, line, place->bone.base(line), ink);
     painter.restore();
     return true;
 }
@@ -120,15 +128,10 @@ bool ClearLook::paintText(QPainter &painter, const SpearItem &spear) const
 void ClearLook::paintBadge(QPainter &painter, const SpearItem &spear) const
 {
     const ClearSpear *const place = ClearSpear::of(spear);
-    if (!place)
+    if (!place || !place->bone.badgeText)
         return;
     painter.save();
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(m_colors.badge());
-    const QRectF rect = badge(spear);
-    painter.drawRoundedRect(rect, rect.height() / 2, rect.height() / 2);
-    painter.setPen(m_colors.badgeInk());
-    painter.setFont(place->badgeFont);
-    painter.drawText(rect, Qt::AlignCenter, QLatin1Char('+') + QString::number(place->hidden));
+    ClearPainter sink(painter);
+    ClearPieces::badge(sink, *place->bone.badgeText, badge(spear), m_colors);
     painter.restore();
 }

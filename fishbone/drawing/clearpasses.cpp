@@ -9,13 +9,13 @@
 
 #include <QApplication>
 
+#include <fishbone/drawing/clearcontent.h>
 #include <fishbone/drawing/clearspear.h>
 #include <fishbone/drawing/speartree.h>
 #include <fishbone/items/spearitem.h>
 #include <fishbone/items/spearpasses.h>
 #include <fishbone/items/taskstatusitem.h>
 #include <fishbone/model/treeitem.h>
-#include <fishbone/style/spearstyle.h>
 
 namespace {
 bool isSeen(const QGraphicsItem *icon)
@@ -23,32 +23,12 @@ bool isSeen(const QGraphicsItem *icon)
     return icon && icon->isVisible() && !icon->boundingRect().isEmpty();
 }
 
-/** How many subjects are below @p subject. */
-int countBelow(const TreeItem &subject)
-{
-    int count = 0;
-    std::vector<const TreeItem *> pending{&subject};
-    while (!pending.empty()) {
-        const QList<TreeItem *> &children = pending.back()->childItems();
-        pending.pop_back();
-        count += children.count();
-        pending.insert(pending.end(), children.cbegin(), children.cend());
-    }
-    return count;
-}
-
 int hiddenBelow(const SpearItem &spear)
 {
     if (spear.isExpand() && !spear.knownChildSpears().isEmpty())
         return 0;
-    return spear.treeItem() ? countBelow(*spear.treeItem()) : spear.knownChildSpears().count();
-}
-
-std::optional<ClearFont> ownFont(const SpearItem &spear)
-{
-    const SpearStyle *const own = spear.treeItem() ? spear.treeItem()->spearStyle() : nullptr;
-    const QFont *const font = own ? own->textFont(SpearStyle::ssNormal) : nullptr;
-    return font ? std::optional(ClearFont::onScreen(*font)) : std::nullopt;
+    return spear.treeItem() ? ClearContent::countBelow(*spear.treeItem())
+                            : spear.knownChildSpears().count();
 }
 
 ClearSubject subjectOf(const SpearItem &spear, int parent)
@@ -59,7 +39,8 @@ ClearSubject subjectOf(const SpearItem &spear, int parent)
     subject.hasStatus = !spear.isHeader() && isSeen(spear.statusItem());
     subject.hasLink = isSeen(spear.linkItem());
     subject.hidden = hiddenBelow(spear);
-    subject.font = ownFont(spear);
+    if (spear.treeItem())
+        subject.font = ClearContent::ownFont(*spear.treeItem());
     return subject;
 }
 
@@ -87,29 +68,32 @@ struct Shown
     }
 };
 
-std::unique_ptr<const ClearFrame> frameOf(const ClearLayout &layout)
+std::unique_ptr<const ClearFrame> frameOf(const ClearLayout &layout,
+                                          std::vector<ClearMeaning> symbols)
 {
     auto frame = std::make_unique<ClearFrame>();
     frame->head = layout.head();
     frame->tail = layout.tail();
     frame->backbone = layout.backbone();
+    frame->legend = layout.legend();
+    frame->symbols = std::move(symbols);
     return frame;
 }
 
 /** Gives @p spear its place; one that stands there already is not touched. */
-void give(SpearItem *spear, const ClearLayout &layout, int index, int hidden,
-          const QFont &badgeFont)
+void give(SpearItem *spear, std::unique_ptr<const ClearSpear> place)
 {
-    auto place = std::make_unique<ClearSpear>();
-    place->bone = layout.bone(index);
-    place->extent = layout.extent(index);
-    place->hidden = hidden;
-    place->badgeFont = badgeFont;
-    if (index == 0)
-        place->frame = frameOf(layout);
     const ClearSpear *const former = ClearSpear::of(*spear);
     if (!former || !(*former == *place))
         spear->setLookData(std::move(place));
+}
+
+std::vector<QString> textsOf(const std::vector<ClearMeaning> &symbols)
+{
+    std::vector<QString> texts;
+    for (const ClearMeaning &symbol : symbols)
+        texts.push_back(symbol.text);
+    return texts;
 }
 } // namespace
 
@@ -118,22 +102,56 @@ void ClearLook::size(const SpearTree &tree) const
     Q_UNUSED(tree) // the texts are measured where they are packed
 }
 
+/** The colours of the bones of @p tree, and the symbols that they show. */
+std::vector<ClearInk> ClearLook::inksOf(const ClearTree &tree,
+                                        const std::vector<SpearItem *> &spears,
+                                        ClearSymbols &symbols) const
+{
+    std::vector<ClearInk> inks;
+    inks.reserve(spears.size());
+    int category = -1;
+    for (int index = 0; index < tree.size(); ++index) {
+        const TreeItem *const subject = spears[std::size_t(index)]->treeItem();
+        const ClearSubjectLook look = subject ? ClearSubjectLook::of(*subject) : ClearSubjectLook();
+        const int level = tree.level(index);
+        category += level == 1 ? 1 : 0;
+        const int parent = tree.at(index).parent;
+        inks.push_back(ClearInk::of(look, level, category,
+                                    parent < 0 ? QColor() : inks[std::size_t(parent)].colour,
+                                    m_colors));
+        if (subject)
+            symbols.add(*subject, look, level);
+    }
+    return inks;
+}
+
 void ClearLook::place(const SpearTree &tree) const
 {
     const Shown shown(tree.head().spear);
-    const ClearFonts fonts = ClearFonts::ofTheUser();
-    const ClearLayout layout(ClearTree(shown.subjects), fonts, ClearOptions::of(m_options),
-                             m_texts);
-    QFont badge = fonts.badge().font();
-    badge.setPixelSize(int(fonts.badge().pixels()));
+    const ClearTree subjects(shown.subjects);
+    ClearSymbols used;
+    const std::vector<ClearInk> inks = inksOf(subjects, shown.spears, used);
+    std::vector<ClearMeaning> symbols;
+    if (m_options.hasLegend)
+        symbols = used.all();
+    const ClearLayout layout(subjects, ClearFonts::ofTheUser(), ClearOptions::of(m_options),
+                             m_texts, textsOf(symbols));
     m_texts.forgetUnused();
     const std::unordered_set<const SpearItem *> seen(shown.spears.cbegin(), shown.spears.cend());
     for (const SpearTree::Entry &entry : tree.entries()) {
         if (seen.count(entry.spear) == 0)
             entry.spear->setLookData(nullptr);
     }
-    for (std::size_t i = 0; i < shown.spears.size(); ++i)
-        give(shown.spears[i], layout, int(i), shown.subjects[i].hidden, badge);
+    for (std::size_t i = 0; i < shown.spears.size(); ++i) {
+        auto place = std::make_unique<ClearSpear>();
+        place->bone = layout.bone(int(i));
+        place->ink = inks[i];
+        place->extent = i == 0 ? layout.bounds() : layout.extent(int(i));
+        place->hidden = shown.subjects[i].hidden;
+        if (i == 0)
+            place->frame = frameOf(layout, symbols);
+        give(shown.spears[i], std::move(place));
+    }
     for (const SpearTree::Entry &entry : tree.entries())
         SpearPasses::place(*entry.spear, entry.spear->parentSpear());
 }

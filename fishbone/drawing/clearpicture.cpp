@@ -3,30 +3,14 @@
 
 #include <fishbone/drawing/clearpicture.h>
 
-#include <QFontMetricsF>
-
-#include <algorithm>
-
-namespace {
-constexpr qreal boxRadius = 4;
-constexpr int legendLevel = 3; ///< as quiet as the deeper causes
-constexpr qreal fishLine = 1.5;
-constexpr qreal ring = 1.5; ///< of paper around an icon on a coloured box
-constexpr qreal backgroundPadding = 2;
-
-qreal lineWidth(int level)
+std::vector<QString> ClearPictureContent::legendTexts() const
 {
-    return level == 1 ? 2.2 : level == 2 ? 1.2 : 1;
+    std::vector<QString> texts;
+    texts.reserve(symbols.size());
+    for (const ClearMeaning &symbol : symbols)
+        texts.push_back(symbol.text);
+    return texts;
 }
-
-QPainterPath closed(const QPolygonF &polygon)
-{
-    QPainterPath path;
-    path.addPolygon(polygon);
-    path.closeSubpath();
-    return path;
-}
-} // namespace
 
 ClearPicture::ClearPicture(const ClearPictureContent &content, const ClearLayout &layout,
                            const ClearFonts &fonts, const ClearColors &colors)
@@ -35,99 +19,41 @@ ClearPicture::ClearPicture(const ClearPictureContent &content, const ClearLayout
     , m_fonts(fonts)
     , m_colors(colors)
 {
+    m_inks.reserve(std::size_t(layout.size()));
     for (int index = 0; index < layout.size(); ++index) {
         const ClearLayout::Bone &bone = layout.bone(index);
-        if (bone.level != 1)
-            continue;
-        const QColor own = content.looks[std::size_t(index)].colour;
-        m_categoryColors.push_back(own.isValid() ? own : colors.category(bone.category));
+        const int parent = content.subjects[std::size_t(index)].parent;
+        m_inks.push_back(ClearInk::of(content.looks[std::size_t(index)], bone.level, bone.category,
+                                      parent < 0 ? QColor() : m_inks[std::size_t(parent)].colour,
+                                      colors));
     }
-}
-
-QColor ClearPicture::colorOf(int index) const
-{
-    const int category = m_layout.bone(index).category;
-    return category < 0 ? m_colors.outline() : m_categoryColors[std::size_t(category)];
 }
 
 void ClearPicture::describe(PictureSink &sink) const
 {
     if (m_layout.size() == 0)
         return;
-    describeFish(sink);
+    ClearPieces::fish(sink, m_layout.backbone(), m_layout.tail(), m_colors);
     for (int index = 0; index < m_layout.size(); ++index)
         describeBone(sink, index);
-    describeLegend(sink);
-}
-
-void ClearPicture::describeFish(PictureSink &sink) const
-{
-    sink.shape(closed(m_layout.backbone()), m_colors.backbone(), QColor(), 0);
-    sink.shape(m_layout.tail(), m_colors.tail(), m_colors.outline(), fishLine);
+    ClearPieces::legend(sink, m_layout.legend(), m_content.symbols, m_colors);
 }
 
 void ClearPicture::describeBone(PictureSink &sink, int index) const
 {
     const ClearLayout::Bone &bone = m_layout.bone(index);
-    const ClearSubjectLook &look = m_content.looks[std::size_t(index)];
-    const QColor color = colorOf(index);
+    const ClearInk &ink = m_inks[std::size_t(index)];
     sink.beginSubject(index, m_content.meanings[std::size_t(index)]);
-    QColor below = m_colors.paper();
-    if (index == 0) {
-        below = m_colors.head();
-        sink.shape(m_layout.head(), below, m_colors.outline(), fishLine);
-    } else {
-        sink.line(bone.line, color, lineWidth(bone.level));
-    }
-    if (bone.level == 1) {
-        below = color;
-        sink.box(bone.box, boxRadius, below);
-    }
-    if (look.background.isValid() && look.background.alpha() > 0) {
-        below = look.background;
-        const qreal p = backgroundPadding;
-        sink.box(bone.textRect.adjusted(-p, 0, p, 0), p, below);
-    }
-    describeLabel(sink, index, below);
+    if (index == 0)
+        ClearPieces::head(sink, m_layout.head(), ink, m_colors);
+    else
+        sink.line(bone.line, ink.line);
+    ClearPieces::label(sink, bone, ink, m_colors);
+    if (!bone.status.isNull())
+        sink.icon(bone.status, m_content.looks[std::size_t(index)].icon);
+    if (!bone.link.isNull())
+        sink.icon(bone.link, m_content.linkIcon);
+    if (bone.badgeText)
+        ClearPieces::badge(sink, *bone.badgeText, bone.badge, m_colors);
     sink.endSubject();
-}
-
-void ClearPicture::describeLabel(PictureSink &sink, int index, const QColor &below) const
-{
-    const ClearLayout::Bone &bone = m_layout.bone(index);
-    const ClearSubjectLook &look = m_content.looks[std::size_t(index)];
-    QColor ink = look.ink;
-    if (!ink.isValid())
-        ink = bone.level == 1 || below != m_colors.paper() ? ClearColors::inkOn(below)
-                                                           : m_colors.ink(bone.level);
-    sink.text(*bone.text, bone.textRect, bone.side, ink);
-    for (const QRectF &rect : {bone.status, bone.link}) {
-        if (rect.isNull())
-            continue;
-        if (bone.level == 1) // an icon in the colour of the box shows all the same
-            sink.box(rect.adjusted(-ring, -ring, ring, ring), rect.width() / 2 + ring, Qt::white);
-        sink.icon(rect, rect == bone.status ? look.icon : m_content.linkIcon);
-    }
-    if (bone.badge.isNull())
-        return;
-    const int hidden = m_content.subjects[std::size_t(index)].hidden;
-    const QString count = u'+' + QString::number(hidden);
-    const ClearFont &font = m_fonts.badge();
-    const qreal width = QFontMetricsF(font.font(), ClearFont::device()).horizontalAdvance(count);
-    const ClearText text(font, {{count, width}}, false, false);
-    QRectF rect(0, 0, width, text.height());
-    rect.moveCenter(bone.badge.center());
-    sink.box(bone.badge, bone.badge.height() / 2, m_colors.badge());
-    sink.text(text, rect, ClearLabel::Side::Center, m_colors.badgeInk());
-}
-
-void ClearPicture::describeLegend(PictureSink &sink) const
-{
-    const std::vector<ClearLegend::Entry> &entries = m_layout.legend();
-    const std::size_t count = std::min(entries.size(), m_content.legendIcons.size());
-    for (std::size_t i = 0; i < count; ++i) {
-        sink.icon(entries[i].symbol, m_content.legendIcons[i]);
-        sink.text(*entries[i].text, entries[i].textRect, ClearLabel::Side::Left,
-                  m_colors.ink(legendLevel));
-    }
 }

@@ -5,18 +5,10 @@
 
 #include <fishbone/drawing/clearcolors.h>
 #include <fishbone/drawing/clearlayout.h>
+#include <fishbone/drawing/clearpieces.h>
 #include <fishbone/drawing/picturesink.h>
 
 #include <vector>
-
-/** How a subject differs from what its place in the diagram gives it. */
-struct ClearSubjectLook
-{
-    QString icon;      ///< the resource of its status icon; empty without one
-    QColor ink;        ///< its own colour of text; invalid for that of its level
-    QColor background; ///< its own colour behind the text; invalid for none
-    QColor colour;     ///< a category's own colour; invalid for the palette's
-};
 
 /** All that is drawn of a diagram, and what a file says of it besides. */
 struct ClearPictureContent
@@ -24,9 +16,11 @@ struct ClearPictureContent
     std::vector<ClearSubject> subjects;
     std::vector<PictureSubject> meanings; ///< one a subject
     std::vector<ClearSubjectLook> looks;  ///< one a subject
-    std::vector<QString> legendIcons;     ///< the icons in use, each once
-    std::vector<QString> legendTexts;     ///< what they mean
+    std::vector<ClearMeaning> symbols;    ///< what the legend explains
     QString linkIcon;                     ///< the resource of the link icon
+
+    /** The texts of the legend. */
+    std::vector<QString> legendTexts() const;
 };
 
 /** Describes a diagram that is laid out, piece by piece, in the order in which it is drawn. */
@@ -47,15 +41,11 @@ public:
     void describe(PictureSink &sink) const;
 
 private:
-    void describeFish(PictureSink &sink) const;
     void describeBone(PictureSink &sink, int index) const;
-    void describeLabel(PictureSink &sink, int index, const QColor &below) const;
-    void describeLegend(PictureSink &sink) const;
-    QColor colorOf(int index) const;
 
     const ClearPictureContent &m_content;
     const ClearLayout &m_layout;
     ClearFonts m_fonts;
     ClearColors m_colors;
-    std::vector<QColor> m_categoryColors;
+    std::vector<ClearInk> m_inks;
 };

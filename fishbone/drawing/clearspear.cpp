@@ -27,7 +27,15 @@ bool ClearSpear::operator==(const ClearSpear &other) const
            bone.box == other.bone.box && bone.status == other.bone.status &&
            bone.link == other.bone.link && bone.badge == other.bone.badge &&
            bone.button == other.bone.button && extent == other.extent && hidden == other.hidden &&
-           badgeFont == other.badgeFont && isSame(frame, other.frame);
+           bone.badgeText == other.bone.badgeText && ink == other.ink && isSame(frame, other.frame);
+}
+
+QRectF ClearFrame::rect() const
+{
+    QRectF rect = head.boundingRect() | tail.boundingRect() | backbone.boundingRect();
+    for (const ClearLegend::Entry &entry : legend)
+        rect |= entry.symbol | entry.textRect;
+    return rect;
 }
 
 QRectF ClearSpear::box() const

@@ -8,6 +8,7 @@
 #include <QColor>
 #include <QLineF>
 #include <QPainterPath>
+#include <QPen>
 #include <QRectF>
 #include <QString>
 
@@ -38,8 +39,8 @@ public:
 
     virtual void beginSubject(int index, const PictureSubject &subject) = 0;
     virtual void endSubject() = 0;
-    /** A straight line with round ends. */
-    virtual void line(const QLineF &line, const QColor &color, qreal width) = 0;
+    /** A straight line. */
+    virtual void line(const QLineF &line, const QPen &pen) = 0;
     /** A shape with an outline of @p width, none when that is 0. */
     virtual void shape(const QPainterPath &path, const QColor &fill, const QColor &outline,
                        qreal width) = 0;

@@ -70,7 +70,7 @@ struct DiagramPicture::Data
 
     void layOut()
     {
-        layout = std::make_unique<ClearLayout>(tree, fonts, clear, cache, content.legendTexts);
+        layout = std::make_unique<ClearLayout>(tree, fonts, clear, cache, content.legendTexts());
     }
     ClearPicture picture() const { return {content, *layout, fonts, colors}; }
 
@@ -95,7 +95,7 @@ DiagramPicture::~DiagramPicture() = default;
 void DiagramPicture::arrangeFor(const QSizeF &page)
 {
     m_data->clear = ClearArrangement::bestFor(m_data->tree, m_data->fonts, m_data->clear, page,
-                                              m_data->cache, m_data->content.legendTexts);
+                                              m_data->cache, m_data->content.legendTexts());
     m_data->options = m_data->clear.in(m_data->options);
     m_data->layOut();
 }

@@ -56,6 +56,24 @@ QByteArray pathData(const QPainterPath &path)
     return out + 'Z';
 }
 
+/** The dashes of @p pen, which are given in its width, and its ends when they are not round. */
+QByteArray dashes(const QPen &pen)
+{
+    QByteArray out;
+    const qreal width = std::max(pen.widthF(), 1.0);
+    if (pen.style() != Qt::SolidLine) {
+        out += " stroke-dasharray=\"";
+        for (const qreal dash : pen.dashPattern())
+            out += number(dash * width) + ' ';
+        out.chop(1);
+        out += '"';
+    }
+    if (pen.capStyle() != Qt::RoundCap)
+        out += pen.capStyle() == Qt::FlatCap ? " stroke-linecap=\"butt\""
+                                             : " stroke-linecap=\"square\"";
+    return out;
+}
+
 /** The font of a text, as far as it is not that of the file. */
 QByteArray fontOf(const ClearFont &font)
 {
@@ -146,8 +164,8 @@ void SvgPicture::begin(const ClearPicture &picture, const SvgPictureOptions &opt
     put("<defs>\n");
     for (const ClearSubjectLook &look : picture.content().looks)
         defineIcon(look.icon);
-    for (const QString &icon : picture.content().legendIcons)
-        defineIcon(icon);
+    for (const ClearMeaning &symbol : picture.content().symbols)
+        defineIcon(symbol.icon);
     defineIcon(picture.content().linkIcon);
     put("</defs>\n");
     if (options.background.isValid() && options.background.alpha() > 0)
@@ -234,10 +252,14 @@ void SvgPicture::openLink()
     m_hasOpenLink = true;
 }
 
-void SvgPicture::line(const QLineF &line, const QColor &color, qreal width)
+void SvgPicture::line(const QLineF &line, const QPen &pen)
 {
-    put("<path d=\"M" + point(line.p1()) + 'L' + point(line.p2()) + '"' + paint("stroke", color) +
-        " stroke-width=\"" + number(width) + "\"/>");
+    if (pen.style() == Qt::NoPen)
+        return;
+    const qreal width = std::max(pen.widthF(), 1.0);
+    put("<path d=\"M" + point(line.p1()) + 'L' + point(line.p2()) + '"' +
+        paint("stroke", pen.color()) + " stroke-width=\"" + number(width) + '"' + dashes(pen) +
+        "/>");
 }
 
 void SvgPicture::shape(const QPainterPath &path, const QColor &fill, const QColor &outline,

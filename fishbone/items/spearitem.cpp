@@ -38,6 +38,8 @@ SpearItem::SpearItem(const QString &text, int direction, double spearSize)
 SpearItem::~SpearItem()
 {
     m_guard.clear();
+    if (SpearItem *const parent = standsOut() ? parentSpear() : nullptr)
+        parent->changeStandingOut(-1);
     TreeItem *const subject = m_treeItem;
     m_treeItem = nullptr;
     if (subject && subject->spear() == this)
@@ -231,6 +233,7 @@ void SpearItem::showLooks(const SpearStyle &style)
     showText(style);
     m_textItem->showColor(style.textColor(textState()));
     showBox(style);
+    noteStandingOut();
 }
 
 /** Has the text box painted anew when what it paints behind and around its text is another. */
@@ -437,6 +440,10 @@ QVariant SpearItem::itemChange(GraphicsItemChange change, const QVariant &value)
     } else if (change == ItemSceneHasChanged && m_hovered) {
         m_hovered = false; // the scene that it left sends no further event
         applyState(interactionState());
+    } else if (change == ItemParentChange && standsOut() && parentSpear()) {
+        parentSpear()->changeStandingOut(-1);
+    } else if (change == ItemParentHasChanged && standsOut() && parentSpear()) {
+        parentSpear()->changeStandingOut(1);
     } else if (change == ItemChildAddedChange) {
         forgetChildSpears();
     } else if (change == ItemChildRemovedChange) {

@@ -126,6 +126,9 @@ public:
     SpearStyle::SpearState boxState() const;
     /// The state that the text is drawn in: boxState(), but a linked header keeps its normal text.
     SpearStyle::SpearState textState() const;
+    /// Whether this spear or one below it is selected, hovered or linked, its text box included.
+    /// Such spears lead from the header to what the user deals with.
+    bool standsOut() const { return m_standingOut > 0; }
     /// Brings font, colour and text of the text box in line with boxState(), where they differ. The
     /// text of a header stays normal while it is linked.
     void updateTextLooks();
@@ -313,6 +316,8 @@ private:
     void showText(const SpearStyle &style);
     void showLooks(const SpearStyle &style);
     void showBox(const SpearStyle &style);
+    void noteStandingOut();
+    void changeStandingOut(int by);
     void showMovability();
     void showButton();
     void scaleIcons();
@@ -345,12 +350,14 @@ private:
     int m_side = -1;
     QPointer<const FishModel> m_model;
     int m_linkNumber = 0;
+    int m_standingOut = 0; ///< how many child spears do, itself included
     bool m_linked = false;
     bool m_moving = false;
     bool m_expand = false;
     bool m_hovered = false;
     bool m_hasHiddenStatus = false; ///< as every header does
     bool m_isButtonHidden = false;  ///< by the look
+    bool m_standsOutItself = false;
     TextItem *m_textItem = nullptr;
     QGraphicsItem *m_linkItem = nullptr;
     QGraphicsItem *m_expandBuddy = nullptr;

@@ -43,6 +43,11 @@ QRectF SpearLook::badge(const SpearItem &spear) const
     return {};
 }
 
+bool SpearLook::showsChains() const
+{
+    return false;
+}
+
 void SpearLook::paintBadge(QPainter &painter, const SpearItem &spear) const
 {
     Q_UNUSED(painter)

@@ -107,6 +107,10 @@ public:
     virtual QRectF badge(const SpearItem &spear) const;
     /** Paints what badge() has room for. */
     virtual void paintBadge(QPainter &painter, const SpearItem &spear) const;
+    /** Whether the bones that lead to one that stands out look otherwise than in their normal
+     * state.
+     */
+    virtual bool showsChains() const;
     /** @} */
 
 private:

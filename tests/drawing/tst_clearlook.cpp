@@ -10,14 +10,15 @@
 #include <fishbone/items/linkitem.h>
 #include <fishbone/items/taskstatusitem.h>
 #include <fishbone/items/textitem.h>
+#include <tests/drawing/clearfish.h>
 #include <tests/program/testprogram.h>
 #include <tests/support/drawing.h>
 #include <tests/support/drawingtext.h>
-#include <tests/support/editorfixture.h>
 #include <tests/support/pictures.h>
 #include <tests/support/statelooks.h>
 
 using namespace TestSupport;
+using namespace ClearFishes;
 
 /// The clear look on the items of an editor.
 class TestClearLook : public QObject
@@ -43,60 +44,6 @@ private Q_SLOTS:
     void shouldKeepEveryTextReadable_data();
     void shouldKeepEveryTextReadable();
 };
-
-namespace {
-const QString man = QStringLiteral("Man");
-const QString wear = QStringLiteral("Wear and tear");
-
-QJsonObject document()
-{
-    return documentFromText(
-        QStringLiteral("Why are deliveries late?[Man[Training is missing[No budget,No time],Shift "
-                       "plan],Machine[Wear and tear,Tools[Old]],Method[Nobody owns the "
-                       "handover],Material[Supplier,Wrong parts[Catalogue]]]"));
-}
-
-struct ClearFish : EditorFixture
-{
-    explicit ClearFish(const QJsonObject &shown = document())
-        : EditorFixture(shown)
-    {
-        editor.setLook(DiagramLook::Clear);
-        editor.expandAll();
-    }
-
-    std::vector<SpearItem *> shownSpears() const
-    {
-        std::vector<SpearItem *> shown;
-        for (SpearItem *const each : spearsInOrder(editor.headSpear())) {
-            if (each->isVisible())
-                shown.push_back(each);
-        }
-        return shown;
-    }
-};
-
-QRectF sceneRect(const QGraphicsItem &item)
-{
-    return item.mapToScene(item.boundingRect()).boundingRect();
-}
-
-double luminance(const QColor &color)
-{
-    const auto linear = [](double part) {
-        return part <= 0.03928 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +
-           0.0722 * linear(color.blueF());
-}
-
-double contrast(const QColor &a, const QColor &b)
-{
-    const double first = luminance(a) + 0.05;
-    const double second = luminance(b) + 0.05;
-    return qMax(first, second) / qMin(first, second);
-}
-} // namespace
 
 void TestClearLook::shouldSetAllTextsLevelAndApart()
 {

@@ -38,7 +38,7 @@ struct Made
     explicit Made(ClearPictureContent made, const ClearOptions &options = {})
         : content(std::move(made))
         , tree(content.subjects)
-        , layout(tree, fonts(), options, cache, content.legendTexts)
+        , layout(tree, fonts(), options, cache, content.legendTexts())
         , picture(content, layout, fonts(), ClearColors(DiagramLook::DistinctColors))
     {
     }
