@@ -6,6 +6,7 @@
 #include <QtTest>
 
 #include <fishbone/drawing/classiclook.h>
+#include <fishbone/items/spearpasses.h>
 #include <fishbone/items/taskstatusitem.h>
 #include <fishbone/items/textitem.h>
 #include <tests/program/testprogram.h>
@@ -52,7 +53,7 @@ public:
         double top = 0;
         for (const SpearTree::Entry &entry : tree.entries()) {
             entry.spear->setOffset(top += 20);
-            entry.spear->place(entry.spear->parentSpear());
+            SpearPasses::place(*entry.spear, entry.spear->parentSpear());
         }
     }
 };
