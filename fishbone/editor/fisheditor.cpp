@@ -11,8 +11,8 @@
 #include <QVector>
 
 #include <fishbone/base/followlanguage.h>
+#include <fishbone/drawing/drawingaudience.h>
 #include <fishbone/drawing/spearbuilder.h>
-#include <fishbone/editor/accessiblediagram.h>
 #include <fishbone/editor/editorcall.h>
 #include <fishbone/editor/fisheditor_p.h>
 #include <fishbone/editor/fishscene.h>
@@ -57,7 +57,7 @@ FishEditor::FishEditor(QWidget *parent)
     , m_d(std::make_unique<Private>(this))
 {
     registerMetaTypes();
-    AccessibleDiagram::install();
+    DrawingAudience::invite();
     setFrameStyle(sunkenPanel);
     connect(view(), &GraphicsView::rightClicked, this, &FishEditor::onRightClicked);
     connect(view(), &GraphicsView::moveSpear, this, &FishEditor::moveItems);
@@ -219,7 +219,7 @@ void FishEditor::showNothing()
         const SelectionSilence silence(m_d->scene.get());
         m_d->scene->clear();
     }
-    AccessibleDiagram::drawingChanged(m_d->view);
+    DrawingAudience::drawingChanged(m_d->view);
 }
 
 void FishEditor::unlinkShownSubjects()
@@ -335,7 +335,7 @@ void FishEditor::updateFish(bool rebuild)
             const SelectionSilence silence(m_d->scene.get()); // what is hidden is not selected
             m_d->drawing.update(headSpear());
         }
-        AccessibleDiagram::drawingChanged(m_d->view);
+        DrawingAudience::drawingChanged(m_d->view);
         return;
     }
     if (!call.isAlive())

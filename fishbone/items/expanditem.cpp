@@ -5,23 +5,12 @@
 
 #include <QGraphicsScene>
 #include <QGraphicsSceneMouseEvent>
-#include <QGraphicsView>
-#include <QPointer>
 
-#include <fishbone/editor/fisheditor.h>
 #include <fishbone/items/sceneselection.h>
 #include <fishbone/items/spearitem.h>
 #include <fishbone/items/spearlook.h>
-#include <fishbone/model/fishmodel.h>
-#include <fishbone/model/treeitem.h>
 
 namespace {
-QPointer<FishEditor> &fallbackEditor()
-{
-    static QPointer<FishEditor> editor;
-    return editor;
-}
-
 QString iconFile(bool expanded)
 {
     return expanded ? QStringLiteral(":/fishboneDiagram/contract.svg")
@@ -34,12 +23,6 @@ ExpandItem::ExpandItem(SpearItem *spear)
     , m_spear(spear)
 {
     setAcceptedMouseButtons(Qt::LeftButton);
-}
-
-void ExpandItem::setFishEditor(FishEditor *editor)
-{
-    if (editor)
-        fallbackEditor() = editor;
 }
 
 QRectF ExpandItem::badge() const
@@ -98,29 +81,4 @@ void ExpandItem::hoverEnterEvent(QGraphicsSceneHoverEvent *event)
 {
     Q_UNUSED(event)
     setCursor(Qt::PointingHandCursor);
-}
-
-FishEditor *ExpandItem::responsibleEditor() const
-{
-    const QList<QGraphicsView *> views = scene() ? scene()->views() : QList<QGraphicsView *>();
-    for (const QGraphicsView *view : views) {
-        for (QWidget *widget = view->parentWidget(); widget; widget = widget->parentWidget()) {
-            if (auto *const editor = qobject_cast<FishEditor *>(widget))
-                return editor;
-        }
-    }
-    return fallbackEditor();
-}
-
-bool ExpandItem::generateMissingChildren(SpearItem *spear) const
-{
-    const TreeItem *const subject = spear->treeItem();
-    if (!subject || subject->childCount() == 0 || !spear->childSpears().isEmpty())
-        return false;
-    FishEditor *const editor = responsibleEditor();
-    if (!editor || !qobject_cast<FishModel *>(editor->model()))
-        return false;
-    // Builds nothing when the editor shows another model.
-    editor->generateSpear(editor->model(), spear->modelIndex());
-    return !spear->childSpears().isEmpty();
 }

@@ -43,7 +43,6 @@ protected:
 
 private:
     QRectF badge() const;
-    FishEditor *responsibleEditor() const;
     bool generateMissingChildren(SpearItem *spear) const;
 
     SpearPointer m_spear;

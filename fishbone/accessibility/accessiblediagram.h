@@ -32,12 +32,6 @@ class AccessibleDiagram : public QAccessibleWidget
 public:
     using Reporter = void (*)(QAccessibleEvent &event);
 
-    /** Lets the toolkit find this class for every GraphicsView. May be called again. */
-    static void install();
-    /** To be called when the drawing in @p view was built, laid out or taken down; takes no time
-     * where nobody listens. The scene's own signal would come after every repaint, and costs the
-     * scene more than the repaint itself. */
-    static void drawingChanged(GraphicsView *view);
     /** The one of @p view. Null once the view is gone. */
     static AccessibleDiagram *of(GraphicsView *view);
 
@@ -48,6 +42,9 @@ public:
     static void setReporter(Reporter reporter);
 
     explicit AccessibleDiagram(GraphicsView *view);
+
+    /** Has it look, when control is back in the event loop, whether the drawing is another one. */
+    void followSoon() { m_drawing.start(0); }
 
     /** The entry of @p spear, which is made when there is none; null for null. */
     AccessibleBone *bone(SpearItem *spear);

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Fishbone authors
 // SPDX-License-Identifier: MIT
 
-#include <fishbone/editor/accessiblebone.h>
+#include <fishbone/accessibility/accessiblebone.h>
 
-#include <fishbone/editor/accessiblediagram.h>
+#include <fishbone/accessibility/accessiblediagram.h>
 #include <fishbone/editor/fisheditor.h>
 #include <fishbone/editor/fishscene.h>
 #include <fishbone/items/spearitem.h>

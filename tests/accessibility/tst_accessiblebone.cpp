@@ -5,8 +5,8 @@
 #include <QWindow>
 #include <QtTest>
 
-#include <fishbone/editor/accessiblebone.h>
-#include <fishbone/editor/accessiblediagram.h>
+#include <fishbone/accessibility/accessiblebone.h>
+#include <fishbone/accessibility/accessiblediagram.h>
 #include <fishbone/items/textitem.h>
 #include <tests/program/testprogram.h>
 #include <tests/support/editorfixture.h>

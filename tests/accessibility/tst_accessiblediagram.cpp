@@ -4,8 +4,8 @@
 #include <QAccessible>
 #include <QtTest>
 
-#include <fishbone/editor/accessiblebone.h>
-#include <fishbone/editor/accessiblediagram.h>
+#include <fishbone/accessibility/accessiblebone.h>
+#include <fishbone/accessibility/accessiblediagram.h>
 #include <fishbone/items/taskstatusinfo.h>
 #include <fishbone/items/textitem.h>
 #include <fishbone/undo/undostack.h>

@@ -1,9 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Fishbone authors
 // SPDX-License-Identifier: MIT
 
-#include <fishbone/editor/accessiblediagram.h>
+#include <fishbone/accessibility/accessiblediagram.h>
 
-#include <fishbone/editor/accessiblebone.h>
+#include <fishbone/accessibility/accessiblebone.h>
+#include <fishbone/drawing/drawingaudience.h>
 #include <fishbone/editor/fisheditor.h>
 #include <fishbone/editor/fishscene.h>
 #include <fishbone/editor/graphicsview.h>
@@ -52,9 +53,19 @@ void forget(QAccessible::Id id)
 
 } // namespace
 
-void AccessibleDiagram::install()
+void DrawingAudience::invite()
 {
     QAccessible::installFactory(makeAccessible);
+}
+
+void DrawingAudience::drawingChanged(QGraphicsView *view)
+{
+    AccessibleDiagram *const diagram =
+        wasAnybodyAsked || isAnybodyListening()
+            ? AccessibleDiagram::of(qobject_cast<GraphicsView *>(view))
+            : nullptr;
+    if (diagram)
+        diagram->followSoon();
 }
 
 void AccessibleDiagram::setReporter(Reporter reporter)
@@ -95,13 +106,6 @@ void AccessibleDiagram::listen()
         if (isAnybodyListening())
             m_selection.start(0);
     });
-}
-
-void AccessibleDiagram::drawingChanged(GraphicsView *view)
-{
-    AccessibleDiagram *const diagram = wasAnybodyAsked || isAnybodyListening() ? of(view) : nullptr;
-    if (diagram)
-        diagram->m_drawing.start(0);
 }
 
 AccessibleDiagram::~AccessibleDiagram()
