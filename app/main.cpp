@@ -10,6 +10,7 @@
 #include <app/files/documentloader.h>
 #include <app/window/mainwindow.h>
 
+#include <fishbone/dialogs/urldialog.h>
 #include <fishbone/version.h>
 
 #include <QApplication>
@@ -41,12 +42,12 @@ QString absolute(const QString &source)
     return path.isEmpty() ? source : QFileInfo(path).absoluteFilePath();
 }
 
-/** The library keeps the history of entered URLs in the working folder. */
+/** Keeps the URLs that were entered with the other data of the user. */
 void useDataFolder()
 {
     const QString folder = QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation);
     if (QDir().mkpath(folder))
-        QDir::setCurrent(folder);
+        URLDialog::setHistoryFolder(folder);
 }
 
 /** What is asked for counts most. What was chosen in the window is for windows: a script gets the

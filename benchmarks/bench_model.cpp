@@ -95,7 +95,7 @@ public:
         : LoadedFish(shape, count)
     {
         lastNode(head())->setTitle(m_key);
-        m_dialog.findChildren<QLineEdit *>().first()->setText(m_key);
+        m_dialog.searchField()->setText(m_key);
     }
 
     double ours()

@@ -4,7 +4,6 @@
 #pragma once
 
 #include <QApplication>
-#include <QTimer>
 
 #include <fishbone/editor/fisheditor.h>
 #include <fishbone/editor/fishscene.h>
@@ -40,9 +39,7 @@ public:
         : LoadedFish(shape, count)
     {
         // Autosaving in the middle of a measurement would be measured with it.
-        const QList<QTimer *> timers = editor.findChildren<QTimer *>();
-        for (QTimer *timer : timers)
-            timer->stop();
+        editor.setAutosaveInterval(0);
         editor.setModel(&model);
     }
 

@@ -97,6 +97,20 @@ check_layers() {
     scripts/check-layers
 }
 
+# The program reaches into the library, and its tests and the benchmarks into both, by public functions: they look for
+# no timers, no controls of dialogs and no texts of theirs, emit no signal of another object, leave the working folder
+# of the process alone and run their commands through the editor.
+check_back_doors() {
+    {
+        search -rnE 'findChild(ren)?<(const )?QTimer' app benchmarks tests/app
+        search -rnE '[iI]alog(\.|->)findChild(ren)?<(const )?(QCheckBox|QComboBox|QLineEdit)' app benchmarks
+        search -rnE '\b(ReplaceFindDialog|URLDialog|SpearStyleDialog|PenSelect|FishEditor)::tr\(' app benchmarks tests/app
+        search -rnE 'Q_EMIT [A-Za-z_]+(\(\))?(->|\.)' app benchmarks | search -vF 'Q_EMIT self.'
+        search -rnE 'QDir::setCurrent' app benchmarks
+        search -rn 'undoStack()->push' app
+    } | none
+}
+
 # Each public header, which is one that exports something, has test programs of its name.
 check_tests_exist() {
     local header name

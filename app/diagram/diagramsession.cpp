@@ -209,17 +209,23 @@ void DiagramSession::select(const QModelIndexList &indexes)
         if (reveal(index))
             shown.append(index);
     }
-    {
-        const QSignalBlocker blocker(m_editor->scene()); // one report for all, below
-        m_editor->scene()->clearSelection();
-        for (const QPersistentModelIndex &index : qAsConst(shown)) {
-            if (SpearItem *const spear = m_model->getTreeItem(index)->spear())
-                spear->setSelected(true);
-        }
+    QList<SpearItem *> spears;
+    for (const QPersistentModelIndex &index : qAsConst(shown)) {
+        if (SpearItem *const spear = m_model->getTreeItem(index)->spear())
+            spears.append(spear);
     }
-    Q_EMIT m_editor->scene()->selectionChanged();
+    m_editor->selectSpears(spears);
+    touch();
     if (!shown.isEmpty())
         m_editor->ensureVisible(shown.constLast());
+}
+
+void DiagramSession::restore(const DrawingState &state)
+{
+    m_editor->expandorContractAll(false);
+    state.restore(*m_editor);
+    touch();
+    Q_EMIT drawingRebuilt();
 }
 
 QModelIndex DiagramSession::insert(const std::function<void()> &edit)
@@ -283,9 +289,8 @@ void DiagramSession::paste(const QJsonObject &subjects)
     pasteBy([&] {
         auto command = std::make_unique<EditPaste>(m_model, target, subjects);
         command->setPasteAsNew(true);
-        m_editor->undoStack()->push(command.release()); // which takes it over
-        m_editor->updateFish(true);
-        m_editor->setModified(true);
+        if (m_editor->run(std::move(command)))
+            m_editor->updateFish(true);
     });
 }
 

@@ -15,6 +15,7 @@
 
 #include <functional>
 
+class DrawingState;
 class ModifiedTracker;
 
 /**
@@ -59,6 +60,10 @@ public:
     void select(const QModelIndex &index);
     /** Selects the subjects at @p indexes, which are brought into view as by select(). */
     void select(const QModelIndexList &indexes);
+
+    /** Gives the drawing the look of @p state again, as far as it is still there; all else is
+     * contracted. */
+    void restore(const DrawingState &state);
 
     /** Runs @p edit, which inserts a subject, and selects that. Its index, or an invalid one. */
     QModelIndex insert(const std::function<void()> &edit);

@@ -64,12 +64,6 @@ void DrawingState::restore(FishEditor &editor) const
         waiting += spear->childSpears();
     }
     editor.updateFish(false);
-    {
-        const QSignalBlocker blocker(editor.scene()); // one report for all, below
-        editor.scene()->clearSelection();
-        for (SpearItem *spear : qAsConst(selected))
-            spear->setSelected(true);
-    }
-    Q_EMIT editor.scene()->selectionChanged();
+    editor.selectSpears(selected);
     editor.view()->centerOn(m_center);
 }

@@ -133,11 +133,8 @@ void EditCommands::insertAndRename()
     auto insertion = std::make_unique<Command>(m_session->model(), selected);
     auto *const step = new CommandGroup(insertion->name()); // the stack takes it over
     step->add(std::move(insertion));
-    const QModelIndex inserted = m_session->insert([&] {
-        m_editor->undoStack()->push(step);
-        m_editor->updateFish(false);
-        m_editor->setModified(true);
-    });
+    const QModelIndex inserted =
+        m_session->insert([&] { m_editor->run(std::unique_ptr<UndoCommand>(step)); });
     TitleEditor::open(m_editor, inserted, QString(), step);
 }
 

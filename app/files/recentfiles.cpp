@@ -76,7 +76,7 @@ void RecentFiles::fillMenu()
             m_menu->fontMetrics().elidedText(shownPath(path), Qt::ElideMiddle, widestEntry);
         text.replace(QLatin1Char('&'), QLatin1String("&&"));
         m_menu->addAction(QStringLiteral("&%1  %2").arg(++number).arg(text), this,
-                          [this, path] { Q_EMIT chosen(path); });
+                          [this, path] { choose(path); });
     }
     if (paths.isEmpty()) {
         m_menu->addAction(tr("(nothing yet)"))->setEnabled(false);

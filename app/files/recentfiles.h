@@ -28,6 +28,8 @@ public:
     QStringList files() const;
     /** Puts the file @p path in front. */
     void add(const QString &path);
+    /** Says that the user wants the file @p path. */
+    void choose(const QString &path) { Q_EMIT chosen(path); }
     /** Forgets the file @p path. */
     void remove(const QString &path);
 

@@ -10,34 +10,20 @@
 #include <fishbone/dialogs/replacefinddialog.h>
 #include <fishbone/model/treeitem.h>
 #include <fishbone/undo/editattributes.h>
-#include <fishbone/undo/undostack.h>
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QGridLayout>
 #include <QJsonObject>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPushButton>
 
-#include <algorithm>
 #include <memory>
 
 namespace {
 
 constexpr int titleColumn = 0;
 constexpr int showidColumn = 2;
-
-/** The control in @p dialog whose @p text is @p wanted, of which there has to be one. */
-template <typename Control, typename Text>
-Control *controlOf(const QDialog &dialog, Text text, const QString &wanted)
-{
-    const QList<Control *> all = dialog.findChildren<Control *>();
-    const auto found = std::find_if(all.cbegin(), all.cend(),
-                                    [&](const Control *each) { return (each->*text)() == wanted; });
-    Q_ASSERT(found != all.cend());
-    return *found;
-}
 
 } // namespace
 
@@ -46,47 +32,30 @@ Finder::Finder(DiagramSession *session, QWidget *window)
     , m_session(session)
     , m_dialog(new ReplaceFindDialog(window))
     , m_hits(new HitList(session->model(), m_dialog))
-    , m_search(controlOf<QLineEdit>(*m_dialog, &QWidget::accessibleName,
-                                    ReplaceFindDialog::tr("Find what:")))
-    , m_replacement(controlOf<QLineEdit>(*m_dialog, &QWidget::accessibleName,
-                                         ReplaceFindDialog::tr("Replace with:")))
+    , m_search(m_dialog->searchField())
+    , m_replacement(m_dialog->replacementField())
 {
     m_dialog->setModel(session->model());
     m_dialog->installEventFilter(this);
-    addHitList();
-    connectControls();
-}
-
-void Finder::addHitList()
-{
-    auto *const layout = qobject_cast<QGridLayout *>(m_dialog->layout());
-    Q_ASSERT(layout);
-    const int row = layout->rowCount();
-    layout->addWidget(m_hits, row, 0, 1, layout->columnCount());
-    constexpr int stretch = 10; // all the room that there is
-    layout->setRowStretch(row, stretch);
     m_hits->setObjectName(QStringLiteral("hits"));
+    m_dialog->setResultsArea(m_hits);
     m_dialog->resize(560, 420);
+    connectControls();
 }
 
 /** These come after the dialog's own connections, so the search is done. */
 void Finder::connectControls()
 {
-    const auto button = [this](const QString &text) {
-        return controlOf<QPushButton>(*m_dialog, &QPushButton::text, text);
-    };
     connect(m_search, &QLineEdit::returnPressed, this, &Finder::showNext);
     connect(m_search, &QLineEdit::textChanged, this, &Finder::forgetHits);
-    connect(button(ReplaceFindDialog::tr("Find")), &QPushButton::clicked, this, &Finder::showNext);
+    connect(m_dialog->findButton(), &QPushButton::clicked, this, &Finder::showNext);
     connect(m_replacement, &QLineEdit::returnPressed, this, &Finder::replaceCurrent);
     connect(m_replacement, &QLineEdit::textChanged, this, &Finder::preview);
-    connect(button(ReplaceFindDialog::tr("Replace")), &QPushButton::clicked, this,
-            &Finder::replaceCurrent);
-    connect(button(ReplaceFindDialog::tr("Replace All")), &QPushButton::clicked, this,
-            &Finder::replaceAll);
-    connect(m_dialog->findChild<QCheckBox *>(), &QCheckBox::toggled, this, &Finder::forgetHits);
-    connect(m_dialog->findChild<QComboBox *>(), QOverload<int>::of(&QComboBox::currentIndexChanged),
-            this, &Finder::forgetHits);
+    connect(m_dialog->replaceButton(), &QPushButton::clicked, this, &Finder::replaceCurrent);
+    connect(m_dialog->replaceAllButton(), &QPushButton::clicked, this, &Finder::replaceAll);
+    connect(m_dialog->caseBox(), &QCheckBox::toggled, this, &Finder::forgetHits);
+    connect(m_dialog->columnBox(), QOverload<int>::of(&QComboBox::currentIndexChanged), this,
+            &Finder::forgetHits);
     connect(m_hits, &HitList::hitChosen, this, &Finder::showHit);
     connect(m_hits, &HitList::itemActivated, m_dialog, &QDialog::accept);
 }
@@ -122,8 +91,7 @@ void Finder::show()
 
 Qt::CaseSensitivity Finder::caseSensitivity() const
 {
-    return m_dialog->findChild<QCheckBox *>()->isChecked() ? Qt::CaseSensitive
-                                                           : Qt::CaseInsensitive;
+    return m_dialog->caseBox()->isChecked() ? Qt::CaseSensitive : Qt::CaseInsensitive;
 }
 
 /** What a replacement makes of @p text. */
@@ -209,7 +177,7 @@ int Finder::replaceIn(const QModelIndexList &hits)
     if (count == 0)
         return 0;
     command->setText([count] { return tr("Replace %n text(s)", nullptr, count); });
-    m_session->editor()->undoStack()->push(command.release()); // which takes it over
+    m_session->editor()->run(std::move(command));
     m_session->touch();
     return count;
 }
@@ -253,12 +221,8 @@ void Finder::replaceAll()
 /** Makes the drawing look as it did before the search, as far as it is still there. */
 void Finder::restoreLook()
 {
-    if (!m_session->editor()->headSpear() || m_session->editor()->rootIndex() != m_searchedFrom)
-        return;
-    m_session->editor()->expandorContractAll(false);
-    m_look.restore(*m_session->editor());
-    Q_EMIT m_session->drawingRebuilt();
-    m_session->touch();
+    if (m_session->editor()->headSpear() && m_session->editor()->rootIndex() == m_searchedFrom)
+        m_session->restore(m_look);
 }
 
 bool Finder::eventFilter(QObject *watched, QEvent *event)

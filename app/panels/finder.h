@@ -40,7 +40,6 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    void addHitList();
     void connectControls();
     void forgetHits();
     void listHits();

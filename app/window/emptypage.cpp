@@ -46,7 +46,7 @@ EmptyPage::EmptyPage(const ActionSet &actions, RecentFiles *recent, QWidget *par
     Language::bind(m_label, &QLabel::setText, listTitle);
     Language::bind(m_list, &QWidget::setAccessibleName, listTitle);
     connect(m_list, &QListWidget::itemActivated, this, [this](const QListWidgetItem *item) {
-        Q_EMIT m_recent->chosen(item->data(Qt::UserRole).toString());
+        m_recent->choose(item->data(Qt::UserRole).toString());
     });
 
     auto *const column = new QVBoxLayout;

@@ -6,12 +6,12 @@
 #include <fishbone/accessibility/accessiblediagram.h>
 #include <fishbone/editor/fisheditor.h>
 #include <fishbone/editor/fishscene.h>
+#include <fishbone/items/sceneselection.h>
 #include <fishbone/items/spearitem.h>
 #include <fishbone/items/taskstatusinfo.h>
 #include <fishbone/items/textitem.h>
 #include <fishbone/model/treeitem.h>
 
-#include <QSignalBlocker>
 #include <QStringList>
 #include <QWindow>
 
@@ -277,13 +277,10 @@ void AccessibleBone::select()
     const SpearPointer spear = m_spear;
     QGraphicsScene *const scene = shown.scene();
     if (!spear.get()->isSelected() || scene->selectedItems().size() != 1) {
-        {
-            // Reported when the scene is through with it, since who hears of it may end the editor.
-            const QSignalBlocker blocker(scene);
-            scene->clearSelection();
-            spear.get()->setSelected(true);
-        }
-        Q_EMIT scene->selectionChanged();
+        // Told when the scene is through with it, since who hears of it may end the editor.
+        const SelectionSilence silence(scene);
+        scene->clearSelection();
+        spear.get()->setSelected(true);
     }
     if (view && spear.get())
         view->ensureVisible(spear.get());

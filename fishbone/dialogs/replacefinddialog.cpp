@@ -14,86 +14,179 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QList>
+#include <QPersistentModelIndex>
+#include <QPointer>
 #include <QPushButton>
 
 #include <vector>
 
-ReplaceFindDialog::ReplaceFindDialog(QWidget *parent)
-    : QDialog(parent)
-    , m_find(new QLineEdit(this))
-    , m_replace(new QLineEdit(this))
-    , m_caseSensitive(new QCheckBox(this))
-    , m_columns(new QComboBox(this))
-    , m_replaceButton(new QPushButton(this))
-    , m_replaceAllButton(new QPushButton(this))
+namespace {
+
+constexpr int resultsRow = 3;
+
+} // namespace
+
+/** The controls of a dialog and its last search. */
+struct ReplaceFindDialog::Private
 {
-    m_columns->setSizeAdjustPolicy(QComboBox::AdjustToContents);
-    followLanguage(this, [this] { showTexts(); });
-    m_columns->setCurrentIndex(0);
+    Q_DISABLE_COPY(Private)
+
+    explicit Private(ReplaceFindDialog *owner);
+
+    void showTexts();
+    void buildLayout();
+    void connectControls();
+    QList<QPersistentModelIndex> search(const QString &text, Qt::CaseSensitivity sensitivity) const;
+
+    ReplaceFindDialog *const dialog;
+    QLabel *const findLabel;
+    QLabel *const replaceLabel;
+    QLineEdit *const searchField;
+    QLineEdit *const replacementField;
+    QCheckBox *const caseBox;
+    QComboBox *const columnBox;
+    QPushButton *const findButton;
+    QPushButton *const replaceButton;
+    QPushButton *const replaceAllButton;
+    QPointer<QWidget> results;
+
+    QPointer<QAbstractItemModel> model;
+    QList<QPersistentModelIndex> matches;
+    QString lastText;
+    int column = 0;
+    bool wasCaseSensitive = false;
+    Qt::MatchFlags matchFlags = Qt::MatchContains | Qt::MatchRecursive;
+};
+
+ReplaceFindDialog::Private::Private(ReplaceFindDialog *owner)
+    : dialog(owner)
+    , findLabel(new QLabel(owner))
+    , replaceLabel(new QLabel(owner))
+    , searchField(new QLineEdit(owner))
+    , replacementField(new QLineEdit(owner))
+    , caseBox(new QCheckBox(owner))
+    , columnBox(new QComboBox(owner))
+    , findButton(new QPushButton(owner))
+    , replaceButton(new QPushButton(owner))
+    , replaceAllButton(new QPushButton(owner))
+{
+    findLabel->setBuddy(searchField);
+    replaceLabel->setBuddy(replacementField);
+    columnBox->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    followLanguage(owner, [this] { showTexts(); });
+    columnBox->setCurrentIndex(0);
     buildLayout();
 }
 
-void ReplaceFindDialog::showTexts()
+void ReplaceFindDialog::Private::showTexts()
 {
-    setWindowTitle(tr("Finder"));
-    m_caseSensitive->setText(tr("Case sensitive"));
-    m_replaceButton->setText(tr("Replace"));
-    m_replaceAllButton->setText(tr("Replace All"));
-    m_columns->setAccessibleName(tr("Column"));
-    setItemTexts(m_columns, {tr("title"), tr("uuid"), tr("showid"), tr("pid")});
+    dialog->setWindowTitle(tr("Finder"));
+    findLabel->setText(tr("Find what:"));
+    searchField->setAccessibleName(findLabel->text());
+    replaceLabel->setText(tr("Replace with:"));
+    replacementField->setAccessibleName(replaceLabel->text());
+    caseBox->setText(tr("Case sensitive"));
+    findButton->setText(tr("Find"));
+    replaceButton->setText(tr("Replace"));
+    replaceAllButton->setText(tr("Replace All"));
+    columnBox->setAccessibleName(tr("Column"));
+    setItemTexts(columnBox, {tr("title"), tr("uuid"), tr("showid"), tr("pid")});
 }
 
-void ReplaceFindDialog::buildLayout()
+void ReplaceFindDialog::Private::buildLayout()
 {
-    auto *const findLabel = new QLabel(this);
-    auto *const replaceLabel = new QLabel(this);
-    auto *const find = new QPushButton(this);
-    findLabel->setBuddy(m_find);
-    replaceLabel->setBuddy(m_replace);
-    followLanguage(this, [this, findLabel, replaceLabel, find] {
-        find->setText(tr("Find"));
-        findLabel->setText(tr("Find what:"));
-        replaceLabel->setText(tr("Replace with:"));
-        m_find->setAccessibleName(findLabel->text());
-        m_replace->setAccessibleName(replaceLabel->text());
-    });
-
-    auto *const layout = new QGridLayout(this);
+    auto *const layout = new QGridLayout(dialog);
     layout->addWidget(findLabel, 0, 0);
-    layout->addWidget(m_find, 0, 1);
-    layout->addWidget(find, 0, 2);
+    layout->addWidget(searchField, 0, 1);
+    layout->addWidget(findButton, 0, 2);
     layout->addWidget(replaceLabel, 1, 0);
-    layout->addWidget(m_replace, 1, 1);
-    layout->addWidget(m_replaceButton, 1, 2);
-    layout->addWidget(m_caseSensitive, 2, 0);
-    layout->addWidget(m_columns, 2, 1);
-    layout->addWidget(m_replaceAllButton, 2, 2);
+    layout->addWidget(replacementField, 1, 1);
+    layout->addWidget(replaceButton, 1, 2);
+    layout->addWidget(caseBox, 2, 0);
+    layout->addWidget(columnBox, 2, 1);
+    layout->addWidget(replaceAllButton, 2, 2);
     layout->setColumnStretch(1, 1);
-    layout->setRowStretch(3, 1);
+    layout->setRowStretch(resultsRow, 1);
 
-    QWidget *const order[] = {m_find, m_replace,       m_caseSensitive,   m_columns,
-                              find,   m_replaceButton, m_replaceAllButton};
+    QWidget *const order[] = {searchField, replacementField, caseBox,         columnBox,
+                              findButton,  replaceButton,    replaceAllButton};
     for (std::size_t i = 1; i < std::size(order); ++i)
         setTabOrder(order[i - 1], order[i]);
-    connectControls(find);
 }
 
-void ReplaceFindDialog::connectControls(QPushButton *find)
+void ReplaceFindDialog::Private::connectControls()
 {
-    connect(m_find, &QLineEdit::returnPressed, this, &ReplaceFindDialog::find);
-    connect(find, &QPushButton::clicked, this, &ReplaceFindDialog::find);
-    connect(m_replace, &QLineEdit::returnPressed, this, &ReplaceFindDialog::replace);
-    connect(m_replaceButton, &QPushButton::clicked, this, &ReplaceFindDialog::replace);
-    connect(m_replaceAllButton, &QPushButton::clicked, this, &ReplaceFindDialog::replaceAll);
-    connect(m_columns, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
+    connect(searchField, &QLineEdit::returnPressed, dialog, &ReplaceFindDialog::find);
+    connect(findButton, &QPushButton::clicked, dialog, &ReplaceFindDialog::find);
+    connect(replacementField, &QLineEdit::returnPressed, dialog, &ReplaceFindDialog::replace);
+    connect(replaceButton, &QPushButton::clicked, dialog, &ReplaceFindDialog::replace);
+    connect(replaceAllButton, &QPushButton::clicked, dialog, &ReplaceFindDialog::replaceAll);
+    connect(columnBox, QOverload<int>::of(&QComboBox::currentIndexChanged), dialog,
             &ReplaceFindDialog::enableCtrl);
 
     // The edit fields act on Return themselves; a default button would act a second time. Without
     // one, only the filter makes a focused button react to Return.
-    for (QPushButton *const button : {find, m_replaceButton, m_replaceAllButton}) {
+    for (QPushButton *const button : {findButton, replaceButton, replaceAllButton}) {
         button->setAutoDefault(false);
-        button->installEventFilter(this);
+        button->installEventFilter(dialog);
     }
+}
+
+ReplaceFindDialog::ReplaceFindDialog(QWidget *parent)
+    : QDialog(parent)
+    , m_d(std::make_unique<Private>(this))
+{
+    m_d->connectControls();
+}
+
+ReplaceFindDialog::~ReplaceFindDialog() = default;
+
+void ReplaceFindDialog::setResultsArea(QWidget *area)
+{
+    if (area == m_d->results)
+        return;
+    delete m_d->results;
+    m_d->results = area;
+    if (!area)
+        return;
+    auto *const layout = static_cast<QGridLayout *>(QDialog::layout());
+    layout->addWidget(area, resultsRow, 0, 1, layout->columnCount());
+}
+
+QLineEdit *ReplaceFindDialog::searchField() const
+{
+    return m_d->searchField;
+}
+
+QLineEdit *ReplaceFindDialog::replacementField() const
+{
+    return m_d->replacementField;
+}
+
+QCheckBox *ReplaceFindDialog::caseBox() const
+{
+    return m_d->caseBox;
+}
+
+QComboBox *ReplaceFindDialog::columnBox() const
+{
+    return m_d->columnBox;
+}
+
+QPushButton *ReplaceFindDialog::findButton() const
+{
+    return m_d->findButton;
+}
+
+QPushButton *ReplaceFindDialog::replaceButton() const
+{
+    return m_d->replaceButton;
+}
+
+QPushButton *ReplaceFindDialog::replaceAllButton() const
+{
+    return m_d->replaceAllButton;
 }
 
 bool ReplaceFindDialog::eventFilter(QObject *watched, QEvent *event)
@@ -110,16 +203,16 @@ bool ReplaceFindDialog::eventFilter(QObject *watched, QEvent *event)
 
 void ReplaceFindDialog::setModel(QAbstractItemModel *model)
 {
-    if (model == m_model)
+    if (model == m_d->model)
         return;
-    m_model = model;
-    m_matches.clear();
+    m_d->model = model;
+    m_d->matches.clear();
 }
 
 QModelIndexList ReplaceFindDialog::matches() const
 {
     QModelIndexList live;
-    for (const QPersistentModelIndex &match : m_matches) {
+    for (const QPersistentModelIndex &match : m_d->matches) {
         if (match.isValid())
             live.append(match);
     }
@@ -128,40 +221,40 @@ QModelIndexList ReplaceFindDialog::matches() const
 
 void ReplaceFindDialog::enableCtrl(int index)
 {
-    if (index != m_column) {
-        m_column = index;
-        m_matches.clear();
+    if (index != m_d->column) {
+        m_d->column = index;
+        m_d->matches.clear();
     }
     const bool isIdentifier = index == 1 || index == 3;
-    m_matchFlags = (isIdentifier ? Qt::MatchEndsWith : Qt::MatchContains) | Qt::MatchRecursive;
+    m_d->matchFlags = (isIdentifier ? Qt::MatchEndsWith : Qt::MatchContains) | Qt::MatchRecursive;
 
     const bool replaceable = index == 0 || index == 2;
-    m_replace->setEnabled(replaceable);
-    m_replaceButton->setEnabled(replaceable);
-    m_replaceAllButton->setEnabled(replaceable);
+    m_d->replacementField->setEnabled(replaceable);
+    m_d->replaceButton->setEnabled(replaceable);
+    m_d->replaceAllButton->setEnabled(replaceable);
 }
 
 void ReplaceFindDialog::find()
 {
-    if (!m_model)
+    if (!m_d->model)
         return;
-    const QString text = m_find->text();
-    const bool caseSensitive = m_caseSensitive->isChecked();
+    const QString text = m_d->searchField->text();
+    const bool caseSensitive = m_d->caseBox->isChecked();
     const bool known =
-        !matches().isEmpty() && text == m_lastText && caseSensitive == m_lastCaseSensitive;
+        !matches().isEmpty() && text == m_d->lastText && caseSensitive == m_d->wasCaseSensitive;
     if (!known) {
-        m_lastCaseSensitive = caseSensitive;
-        m_lastText = text;
-        m_column = m_columns->currentIndex();
-        m_matches = search(text, caseSensitive ? Qt::CaseSensitive : Qt::CaseInsensitive);
+        m_d->wasCaseSensitive = caseSensitive;
+        m_d->lastText = text;
+        m_d->column = m_d->columnBox->currentIndex();
+        m_d->matches = m_d->search(text, caseSensitive ? Qt::CaseSensitive : Qt::CaseInsensitive);
     }
-    if (m_matches.isEmpty())
+    if (m_d->matches.isEmpty())
         showWarning(tr("Finder"), literalText(tr("Not found key word %1.").arg(text)), this);
 }
 
 /** All rows that match, parents before children. A document without a head has no index. */
-QList<QPersistentModelIndex> ReplaceFindDialog::search(const QString &text,
-                                                       Qt::CaseSensitivity sensitivity) const
+QList<QPersistentModelIndex>
+ReplaceFindDialog::Private::search(const QString &text, Qt::CaseSensitivity sensitivity) const
 {
     struct Step
     {
@@ -170,7 +263,7 @@ QList<QPersistentModelIndex> ReplaceFindDialog::search(const QString &text,
         int rows;
     };
     QList<QPersistentModelIndex> found;
-    std::vector<Step> path{{QModelIndex(), 0, m_model->rowCount()}};
+    std::vector<Step> path{{QModelIndex(), 0, model->rowCount()}};
     while (!path.empty()) {
         Step &step = path.back();
         if (step.next == step.rows) {
@@ -178,15 +271,15 @@ QList<QPersistentModelIndex> ReplaceFindDialog::search(const QString &text,
             continue;
         }
         const int row = step.next++;
-        const QModelIndex first = m_model->index(row, 0, step.parent);
-        const QModelIndex index = m_model->index(row, m_column, step.parent);
+        const QModelIndex first = model->index(row, 0, step.parent);
+        const QModelIndex index = model->index(row, column, step.parent);
         const QString shown = index.data(Qt::DisplayRole).toString();
-        const bool isHit = m_matchFlags.testFlag(Qt::MatchEndsWith)
+        const bool isHit = matchFlags.testFlag(Qt::MatchEndsWith)
                                ? shown.endsWith(text, sensitivity)
                                : shown.contains(text, sensitivity);
         if (index.isValid() && isHit)
             found.append(index);
-        if (const int rows = first.isValid() ? m_model->rowCount(first) : 0)
+        if (const int rows = first.isValid() ? model->rowCount(first) : 0)
             path.push_back({first, 0, rows});
     }
     return found;
@@ -194,13 +287,13 @@ QList<QPersistentModelIndex> ReplaceFindDialog::search(const QString &text,
 
 void ReplaceFindDialog::replace()
 {
-    const QString replacement = m_replace->text();
+    const QString replacement = m_d->replacementField->text();
     const QModelIndexList found = matches();
-    if (!m_model || replacement.isEmpty() || found.isEmpty())
+    if (!m_d->model || replacement.isEmpty() || found.isEmpty())
         return;
     QString text = found.last().data(Qt::DisplayRole).toString();
-    text.replace(m_find->text(), replacement,
-                 m_caseSensitive->isChecked() ? Qt::CaseSensitive : Qt::CaseInsensitive);
+    text.replace(m_d->searchField->text(), replacement,
+                 m_d->caseBox->isChecked() ? Qt::CaseSensitive : Qt::CaseInsensitive);
     // The text goes no further: only undoable commands change titles, and this dialog knows none.
 }
 

@@ -6,11 +6,9 @@
 #include <fishbone/fishbone_export.h>
 
 #include <QDialog>
-#include <QList>
 #include <QModelIndexList>
-#include <QPersistentModelIndex>
-#include <QPointer>
-#include <QString>
+
+#include <memory>
 
 class QAbstractItemModel;
 class QCheckBox;
@@ -22,9 +20,11 @@ class QPushButton;
  * A dialog that searches one column of an item model for a text and keeps the matches.
  *
  * A host gives it a model with setModel() and reads matches(); the dialog itself shows nothing but
- * the warning that nothing was found. It does not change the model: replace() and replaceAll() end
- * before they would. Without a model, and once the model is gone, every search and replace
- * operation does nothing.
+ * the warning that nothing was found. A host that shows more puts it into the results area, and
+ * listens to the controls, which belong to the dialog: when it hears of a click on findButton() or
+ * of a return in searchField() the search is done. The dialog does not change the model:
+ * replace() and replaceAll() end before they would. Without a model, and once the model is gone,
+ * every search and replace operation does nothing.
  */
 class FISHBONE_EXPORT ReplaceFindDialog : public QDialog
 {
@@ -33,6 +33,7 @@ class FISHBONE_EXPORT ReplaceFindDialog : public QDialog
 public:
     /** Makes a dialog without a model. */
     explicit ReplaceFindDialog(QWidget *parent = nullptr);
+    ~ReplaceFindDialog() override;
 
     /**
      * Sets the model to search, which is not owned and may be null. Another model than the present
@@ -45,6 +46,23 @@ public:
      * model; removed ones drop out.
      */
     QModelIndexList matches() const;
+
+    /**
+     * Shows @p area below the controls, where it gets all the room that there is, and takes it
+     * over. The one that was there before is deleted; null leaves none.
+     */
+    void setResultsArea(QWidget *area);
+
+    /** @name Controls, for hosts that act on them; never null
+     * @{ */
+    QLineEdit *searchField() const;        /**< the text to find */
+    QLineEdit *replacementField() const;   /**< what it is to be replaced with */
+    QCheckBox *caseBox() const;            /**< checked when upper and lower case differ */
+    QComboBox *columnBox() const;          /**< the column to search */
+    QPushButton *findButton() const;       /**< calls find() */
+    QPushButton *replaceButton() const;    /**< calls replace() */
+    QPushButton *replaceAllButton() const; /**< calls replaceAll() */
+    /** @} */
 
 public Q_SLOTS:
     /**
@@ -63,29 +81,16 @@ public Q_SLOTS:
     void replaceAll();
 
     /**
-     * Takes over column \a index (0 title, 1 uuid, 2 showid, 3 pid), which empties the matches when
+     * Takes over column @p index (0 title, 1 uuid, 2 showid, 3 pid), which empties the matches when
      * it is another one than before. Uuids and pids are compared by their ending and cannot be
      * replaced.
      */
     void enableCtrl(int index);
 
 private:
-    void showTexts();
-    void buildLayout();
-    void connectControls(QPushButton *find);
-    QList<QPersistentModelIndex> search(const QString &text, Qt::CaseSensitivity sensitivity) const;
+    struct Private;
+
     bool eventFilter(QObject *watched, QEvent *event) override;
 
-    QPointer<QAbstractItemModel> m_model;
-    QList<QPersistentModelIndex> m_matches;
-    QString m_lastText;
-    int m_column = 0;
-    bool m_lastCaseSensitive = false;
-    Qt::MatchFlags m_matchFlags = Qt::MatchContains | Qt::MatchRecursive;
-    QLineEdit *m_find;
-    QLineEdit *m_replace;
-    QCheckBox *m_caseSensitive;
-    QComboBox *m_columns;
-    QPushButton *m_replaceButton;
-    QPushButton *m_replaceAllButton;
+    const std::unique_ptr<Private> m_d;
 };

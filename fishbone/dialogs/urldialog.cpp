@@ -11,6 +11,7 @@
 
 #include <QComboBox>
 #include <QCompleter>
+#include <QDir>
 #include <QFile>
 #include <QGridLayout>
 #include <QGuiApplication>
@@ -23,7 +24,7 @@
 
 namespace {
 
-/// Shows the wait cursor as long as it lives.
+/** Shows the wait cursor as long as it lives. */
 class WaitCursor
 {
     Q_DISABLE_COPY(WaitCursor)
@@ -32,6 +33,19 @@ public:
     WaitCursor() { QGuiApplication::setOverrideCursor(Qt::WaitCursor); }
     ~WaitCursor() { QGuiApplication::restoreOverrideCursor(); }
 };
+
+QString &folderOfHistories()
+{
+    static QString folder;
+    return folder;
+}
+
+/** Where the history of that name is kept. */
+QString historyFile(const QString &name)
+{
+    const QString &folder = folderOfHistories();
+    return folder.isEmpty() ? name : QDir(folder).filePath(name);
+}
 
 QStringList urlsFromText(const QString &text)
 {
@@ -53,7 +67,7 @@ QByteArray textFromUrls(const QComboBox *urls)
     return text.toUtf8();
 }
 
-/// Replaces the content of a file under the wait cursor; returns what went wrong, if anything.
+/** Replaces the content of a file under the wait cursor; returns what went wrong, if anything. */
 QString replaceContent(const QString &fileName, const QByteArray &content)
 {
     const WaitCursor cursor;
@@ -62,37 +76,57 @@ QString replaceContent(const QString &fileName, const QByteArray &content)
 
 } // namespace
 
+/** The history file of a dialog and what shows it. */
+struct URLDialog::Private
+{
+    QString fileName;
+    QComboBox *urls; ///< a child of the dialog
+};
+
 URLDialog::URLDialog(const QString &title, const QString &fileName, QWidget *parent)
     : QDialog(parent)
-    , m_fileName(fileName.isEmpty() ? QStringLiteral("moraine2.urllist") : fileName)
-    , m_urls(new QComboBox(this))
+    , m_d(new Private{
+          historyFile(fileName.isEmpty() ? QStringLiteral("moraine2.urllist") : fileName),
+          new QComboBox(this)})
 {
     setModal(true);
     followLanguage(this,
                    [this, title] { setWindowTitle(title.isEmpty() ? tr("Input Url") : title); });
 
-    m_urls->setEditable(true);
-    m_urls->setInsertPolicy(QComboBox::NoInsert);
+    m_d->urls->setEditable(true);
+    m_d->urls->setInsertPolicy(QComboBox::NoInsert);
     // URLs that differ in case are different ones, which completing must not mix up.
-    m_urls->completer()->setCaseSensitivity(Qt::CaseSensitive);
-    m_urls->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    m_urls->setMinimumContentsLength(40);
+    m_d->urls->completer()->setCaseSensitivity(Qt::CaseSensitive);
+    m_d->urls->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    m_d->urls->setMinimumContentsLength(40);
 
     buildLayout();
     loadUrl();
 }
 
+URLDialog::~URLDialog() = default;
+
+void URLDialog::setHistoryFolder(const QString &path)
+{
+    folderOfHistories() = path;
+}
+
+QString URLDialog::historyFolder()
+{
+    return folderOfHistories();
+}
+
 void URLDialog::buildLayout()
 {
     auto *const label = new QLabel(this);
-    label->setBuddy(m_urls);
+    label->setBuddy(m_d->urls);
 
     auto *const clean = new QPushButton(this);
     auto *const open = new QPushButton(this);
     auto *const cancel = new QPushButton(this);
     followLanguage(this, [this, label, clean, open, cancel] {
         label->setText(tr("Url:"));
-        m_urls->setAccessibleName(label->text());
+        m_d->urls->setAccessibleName(label->text());
         clean->setText(tr("Clean"));
         open->setText(tr("Open"));
         cancel->setText(tr("Cancel"));
@@ -112,7 +146,7 @@ void URLDialog::buildLayout()
 
     auto *const layout = new QGridLayout(this);
     layout->addWidget(label, 0, 0);
-    layout->addWidget(m_urls, 0, 1);
+    layout->addWidget(m_d->urls, 0, 1);
     layout->addLayout(buttons, 1, 0, 1, 2);
     layout->setColumnStretch(1, 1);
     layout->setRowStretch(2, 1);
@@ -139,49 +173,49 @@ QUrl URLDialog::openUrlDialog(QWidget *parent)
 
 QUrl URLDialog::url() const
 {
-    return QUrl(m_urls->currentText(), QUrl::TolerantMode);
+    return QUrl(m_d->urls->currentText(), QUrl::TolerantMode);
 }
 
 void URLDialog::setUrl(const QString &url)
 {
-    m_urls->setCurrentText(url);
-    m_urls->lineEdit()->selectAll();
+    m_d->urls->setCurrentText(url);
+    m_d->urls->lineEdit()->selectAll();
 }
 
 void URLDialog::loadUrl()
 {
-    QFile file(m_fileName);
+    QFile file(m_d->fileName);
     if (!file.open(QIODevice::ReadOnly))
         return;
     const WaitCursor cursor;
     const QByteArray content = file.readAll();
     // Told the size, since it would end the text at a null character otherwise.
-    m_urls->addItems(urlsFromText(QString::fromUtf8(content.constData(), content.size())));
-    m_urls->lineEdit()->selectAll();
+    m_d->urls->addItems(urlsFromText(QString::fromUtf8(content.constData(), content.size())));
+    m_d->urls->lineEdit()->selectAll();
 }
 
 void URLDialog::saveUrl()
 {
-    const QString failure = replaceContent(m_fileName, textFromUrls(m_urls));
+    const QString failure = replaceContent(m_d->fileName, textFromUrls(m_d->urls));
     if (!failure.isEmpty())
-        showWarning(tr("Error"), literalText(tr("Failed to open %1\n%2").arg(m_fileName, failure)),
-                    this);
+        showWarning(tr("Error"),
+                    literalText(tr("Failed to open %1\n%2").arg(m_d->fileName, failure)), this);
 }
 
 void URLDialog::clean()
 {
-    m_urls->clear();
+    m_d->urls->clear();
     saveUrl();
 }
 
 void URLDialog::accept()
 {
-    const QString text = m_urls->currentText().trimmed();
+    const QString text = m_d->urls->currentText().trimmed();
     if (text.isEmpty())
         return;
-    m_urls->setEditText(text);
-    if (m_urls->findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive) < 0)
-        m_urls->addItem(text);
+    m_d->urls->setEditText(text);
+    if (m_d->urls->findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive) < 0)
+        m_d->urls->addItem(text);
     const QPointer<URLDialog> alive(this);
     saveUrl();
     if (alive)

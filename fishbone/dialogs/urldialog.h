@@ -8,14 +8,14 @@
 #include <QDialog>
 #include <QUrl>
 
-class QComboBox;
+#include <memory>
 
 /**
  * A modal dialog in which the user types a URL or picks one that was entered before.
  *
  * The URLs are remembered in a history file: UTF-8 text, one URL per line, without a limit. A
- * relative file name is resolved against the working folder of the process. Most callers need only
- * the static functions, which use one history per purpose.
+ * relative file name is resolved against setHistoryFolder(). Most callers need only the static
+ * functions, which use one history per purpose.
  */
 class FISHBONE_EXPORT URLDialog : public QDialog
 {
@@ -23,13 +23,22 @@ class FISHBONE_EXPORT URLDialog : public QDialog
 
 public:
     /**
-     * Makes a dialog with the history of \a fileName, "moraine2.urllist" when that is empty.
-     * An empty \a title becomes "Input Url".
+     * Makes a dialog with the history of @p fileName, "moraine2.urllist" when that is empty.
+     * An empty @p title becomes "Input Url".
      */
     explicit URLDialog(const QString &title = {}, const QString &fileName = {},
                        QWidget *parent = nullptr);
+    ~URLDialog() override;
 
-    /** Asks for the URL to link to, starting on \a url; empty when the dialog is cancelled. */
+    /**
+     * Keeps the histories of dialogs made from now on in @p path, which has to exist; empty, as it
+     * is at first, stands for the working folder of the process.
+     */
+    static void setHistoryFolder(const QString &path);
+    /** The folder that was set; empty for the working folder. */
+    static QString historyFolder();
+
+    /** Asks for the URL to link to, starting on @p url; empty when the dialog is cancelled. */
     static QUrl linkToUrlDialog(const QString &url, QWidget *parent = nullptr);
 
     /** Asks for the URL to save to; empty when the dialog is cancelled. */
@@ -41,7 +50,7 @@ public:
     /** The entered URL, parsed tolerantly. */
     QUrl url() const;
 
-    /** Puts \a url into the edit field, all of it selected. */
+    /** Puts @p url into the edit field, all of it selected. */
     void setUrl(const QString &url);
 
 public Q_SLOTS:
@@ -68,8 +77,9 @@ public Q_SLOTS:
     void accept() override;
 
 private:
+    struct Private;
+
     void buildLayout();
 
-    QString m_fileName;
-    QComboBox *m_urls;
+    const std::unique_ptr<Private> m_d;
 };

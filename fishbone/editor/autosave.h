@@ -26,6 +26,8 @@ public:
     void start();
     /// Milliseconds; 0, and whatever is less, for none. Begins to wait anew.
     void setInterval(int ms);
+    /// That number.
+    int interval() const { return m_interval; }
 
 private:
     QTimer *m_timer;

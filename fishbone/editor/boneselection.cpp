@@ -10,6 +10,7 @@
 #include <QSet>
 
 #include <fishbone/editor/itemancestry.h>
+#include <fishbone/items/sceneselection.h>
 #include <fishbone/items/spearitem.h>
 #include <fishbone/items/textitem.h>
 
@@ -45,6 +46,16 @@ SpearItem *BoneSelection::spearOf(QGraphicsItem *item)
 {
     const auto *const text = qgraphicsitem_cast<TextItem *>(item);
     return qgraphicsitem_cast<SpearItem *>(text ? text->parentItem() : item);
+}
+
+void BoneSelection::select(QGraphicsScene &scene, const QList<SpearItem *> &spears)
+{
+    const SelectionSilence silence(&scene);
+    scene.clearSelection();
+    for (SpearItem *spear : spears) {
+        if (spear->scene() == &scene)
+            spear->setSelected(true);
+    }
 }
 
 void BoneSelection::removeTops(QList<QGraphicsItem *> &items)

@@ -134,6 +134,11 @@ void FishEditor::setAutosaveInterval(int ms)
     m_d->autosave.setInterval(ms);
 }
 
+int FishEditor::autosaveInterval() const
+{
+    return m_d->autosave.interval();
+}
+
 void FishEditor::saveTmpFile()
 {
     if (FishInfo *const document = currentFishInfo())

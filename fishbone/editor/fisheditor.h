@@ -102,6 +102,8 @@ public:
     void startSaveTmpFileTimer();
     /// The milliseconds between two calls of saveTmpFile(), 0 for none. Starts the timer anew.
     void setAutosaveInterval(int ms);
+    /// That number.
+    int autosaveInterval() const;
     /// @}
 
     /// \name Building and laying out the drawing
@@ -156,6 +158,9 @@ public:
     SpearItem *firstSelectedSpear() const;
     /// The index of firstSelectedSpear(); invalid for none.
     QModelIndex firstSelectedSpearIndex() const;
+    /// Selects \a spears, as far as they are in this drawing, and nothing else; told once, if at
+    /// all.
+    void selectSpears(const QList<SpearItem *> &spears);
     /// Removes the items without a parent item (the head) and null pointers from \a items.
     static void excludeCenterSubject(QList<QGraphicsItem *> &items);
     /// Removes the items that have an ancestor in \a items; the others keep their order.

@@ -31,6 +31,12 @@ QModelIndex FishEditor::firstSelectedSpearIndex() const
     return spearIndex(firstSelectedSpear());
 }
 
+void FishEditor::selectSpears(const QList<SpearItem *> &spears)
+{
+    const Call call(this);
+    BoneSelection::select(*scene(), spears);
+}
+
 void FishEditor::excludeCenterSubject(QList<QGraphicsItem *> &items)
 {
     BoneSelection::removeTops(items);

@@ -21,6 +21,8 @@ class tst_ReplaceFindDialog : public QObject
 
 private Q_SLOTS:
     void shouldLayOutItsControlsInAGrid();
+    void shouldNameItsControlsForHosts();
+    void shouldShowWhatAHostHasFound();
     void shouldDeclareItsSlotsInOrder();
     void shouldDoNothingWithoutAModel();
     void shouldWarnWhenNothingIsFound();
@@ -78,6 +80,48 @@ void tst_ReplaceFindDialog::shouldLayOutItsControlsInAGrid()
     QVERIFY(button(dialog, "Replace")->isEnabled());
     QVERIFY(button(dialog, "Replace All")->isEnabled());
     QVERIFY(dialog.matches().isEmpty());
+}
+
+void tst_ReplaceFindDialog::shouldNameItsControlsForHosts()
+{
+    const ReplaceFindDialog dialog;
+    const auto *const layout = qobject_cast<QGridLayout *>(dialog.layout());
+    const auto at = [layout](int row, int column) {
+        return layout->itemAtPosition(row, column)->widget();
+    };
+    QCOMPARE(at(0, 1), static_cast<QWidget *>(dialog.searchField()));
+    QCOMPARE(at(0, 2), static_cast<QWidget *>(dialog.findButton()));
+    QCOMPARE(at(1, 1), static_cast<QWidget *>(dialog.replacementField()));
+    QCOMPARE(at(1, 2), static_cast<QWidget *>(dialog.replaceButton()));
+    QCOMPARE(at(2, 0), static_cast<QWidget *>(dialog.caseBox()));
+    QCOMPARE(at(2, 1), static_cast<QWidget *>(dialog.columnBox()));
+    QCOMPARE(at(2, 2), static_cast<QWidget *>(dialog.replaceAllButton()));
+}
+
+void tst_ReplaceFindDialog::shouldShowWhatAHostHasFound()
+{
+    ReplaceFindDialog dialog;
+    const QPointer<QWidget> first = new QWidget;
+    dialog.setResultsArea(first);
+    dialog.resize(600, 500);
+    dialog.show();
+    QVERIFY(first->isVisible());
+    QVERIFY(first->y() > dialog.replaceAllButton()->y());
+    QVERIFY(first->height() > 300); // all the room that there is
+    QVERIFY(first->width() > 500);
+    dialog.setResultsArea(first);
+    QVERIFY(first);
+
+    const QPointer<QWidget> second = new QWidget;
+    dialog.setResultsArea(second);
+    QVERIFY(!first);
+    QCOMPARE(second->parentWidget(), &dialog);
+    dialog.setResultsArea(nullptr);
+    QVERIFY(!second);
+    auto third = std::make_unique<QWidget>();
+    dialog.setResultsArea(third.get());
+    third.reset(); // by somebody else
+    dialog.setResultsArea(nullptr);
 }
 
 void tst_ReplaceFindDialog::shouldDeclareItsSlotsInOrder()

@@ -50,6 +50,7 @@ private Q_SLOTS:
     void shouldWriteInPlaceWhenTheFolderIsNotWritable();
     void shouldWriteIntoAPipe();
     void shouldLeaveNothingElseInTheFolder();
+    void shouldKeepItWhereAHostWants();
 
 private:
     std::unique_ptr<WorkingFolder> m_folder;
@@ -332,6 +333,31 @@ void tst_UrlHistory::shouldLeaveNothingElseInTheFolder()
     dialog.setUrl(QStringLiteral("http://a/"));
     dialog.accept();
     QCOMPARE(m_folder->entries(), QStringList{QStringLiteral("moraine2.urllist")});
+}
+
+void tst_UrlHistory::shouldKeepItWhereAHostWants()
+{
+    QCOMPARE(URLDialog::historyFolder(), QString());
+    const QTemporaryDir elsewhere;
+    URLDialog::setHistoryFolder(elsewhere.path());
+    {
+        URLDialog dialog(QString(), QStringLiteral("a.urllist"));
+        URLDialog::setHistoryFolder(QString()); // for those made from now on
+        dialog.setUrl(QStringLiteral("http://a/"));
+        dialog.accept();
+    }
+    QCOMPARE(contentOf(elsewhere.filePath(QStringLiteral("a.urllist"))), QByteArray("http://a/\n"));
+    QCOMPARE(m_folder->entries(), QStringList());
+    QCOMPARE(entries(URLDialog(QString(), QStringLiteral("a.urllist"))), QString());
+
+    URLDialog::setHistoryFolder(elsewhere.path());
+    QCOMPARE(URLDialog::historyFolder(), elsewhere.path());
+    QCOMPARE(entries(URLDialog(QString(), QStringLiteral("a.urllist"))),
+             QStringLiteral("http://a/"));
+    const QString absolute = m_folder->filePath(QStringLiteral("b.urllist"));
+    URLDialog(QString(), absolute).saveUrl();
+    QVERIFY(QFile::exists(absolute));
+    URLDialog::setHistoryFolder(QString());
 }
 
 FISHBONE_TEST(tst_UrlHistory)

@@ -20,6 +20,7 @@ private Q_SLOTS:
     void shouldListWhatElseIsSelectedBehind();
     void shouldListWithoutAHead();
     void shouldFindTheSpearOfATextBox();
+    void shouldSelectSpearsOfItsSceneAlone();
     void shouldLeaveOutTops();
     void shouldLeaveOutWhatIsNested();
 };
@@ -65,6 +66,27 @@ void TestBoneSelection::shouldFindTheSpearOfATextBox()
     QVERIFY(!BoneSelection::spearOf(&alone));
     QVERIFY(!BoneSelection::spearOf(nullptr));
     QVERIFY(!BoneSelection::spearOf(drawing.scene.addRect(0, 0, 1, 1)));
+}
+
+void TestBoneSelection::shouldSelectSpearsOfItsSceneAlone()
+{
+    Drawing drawing(QStringLiteral("H[A,B,C]"));
+    Drawing other(QStringLiteral("H[A]"));
+    const auto bone = [](Drawing &in, const char *title) {
+        return in.spear(QString::fromLatin1(title));
+    };
+    bone(drawing, "A")->setSelected(true);
+    const QSignalSpy spy(&drawing.scene, &QGraphicsScene::selectionChanged);
+    BoneSelection::select(drawing.scene,
+                          {bone(drawing, "C"), bone(other, "A"), bone(drawing, "B")});
+    const QList<QGraphicsItem *> expected = {bone(drawing, "B"), bone(drawing, "C")};
+    QCOMPARE(BoneSelection::items(drawing.scene, drawing.head), expected);
+    QCOMPARE(spy.count(), 1);
+    QVERIFY(other.scene.selectedItems().isEmpty());
+    BoneSelection::select(drawing.scene, {bone(drawing, "B"), bone(drawing, "C")});
+    QCOMPARE(spy.count(), 1); // as they were
+    BoneSelection::select(drawing.scene, {});
+    QVERIFY(drawing.scene.selectedItems().isEmpty());
 }
 
 void TestBoneSelection::shouldLeaveOutTops()

@@ -57,6 +57,8 @@ class TestFishEditorDoors : public QObject
 private Q_SLOTS:
     void shouldStartOneAutosaveTimer();
     void shouldChangeTheAutosaveInterval();
+    void shouldTellItsAutosaveInterval();
+    void shouldSelectSpearsAndTellOnce();
     void shouldAddEntriesToTheBoneMenu();
     void shouldDoWhatAHostsEntryDoesAndNothingElse();
     void shouldShowAHostsEntriesAtTheHeadOfATaskDiagram();
@@ -170,6 +172,33 @@ void TestFishEditorDoors::shouldFindTheBoneAtAPoint()
     const FishEditor &editor = f.editor;
     QCOMPARE(editor.boneAt(middleOf(*editor.view(), machine->textItem())), machine);
     QCOMPARE(editor.boneAt(QPoint(2, 2)), nullptr);
+}
+
+void TestFishEditorDoors::shouldTellItsAutosaveInterval()
+{
+    FishEditor editor;
+    QCOMPARE(editor.autosaveInterval(), 30000);
+    editor.setAutosaveInterval(50);
+    QCOMPARE(editor.autosaveInterval(), 50);
+    editor.setAutosaveInterval(-1);
+    QCOMPARE(editor.autosaveInterval(), 0);
+}
+
+void TestFishEditorDoors::shouldSelectSpearsAndTellOnce()
+{
+    EditorFixture fish(document());
+    fish.select({QStringLiteral("Effect")});
+    const QSignalSpy told(&fish.editor, &FishEditor::copyAvailable);
+    fish.editor.selectSpears(
+        {fish.spear(QStringLiteral("Machine")), fish.spear(QStringLiteral("Man"))});
+    const QList<QGraphicsItem *> expected = {fish.spear(QStringLiteral("Man")),
+                                             fish.spear(QStringLiteral("Machine"))};
+    QCOMPARE(fish.editor.selectedItems(), expected);
+    QCOMPARE(told.count(), 1);
+    QCOMPARE(told.at(0).at(0).toBool(), true);
+    fish.editor.selectSpears({});
+    QVERIFY(!fish.editor.hasSelection());
+    QCOMPARE(told.count(), 2);
 }
 
 FISHBONE_TEST(TestFishEditorDoors)

@@ -17,7 +17,6 @@
 #include <QStatusBar>
 #include <QTreeWidget>
 
-using TestSupport::buttonWithText;
 using TestSupport::ModalDriver;
 
 class TestFinder : public QObject
@@ -56,19 +55,21 @@ struct FinderFixture : AppFixture
         dialog = window.findChild<ReplaceFindDialog *>();
     }
 
-    QLineEdit *field(int index) const { return dialog->findChildren<QLineEdit *>().value(index); }
     void search(const QString &text)
     {
-        field(0)->setText(text);
-        press("Find");
+        dialog->searchField()->setText(text);
+        findNext();
     }
-    void press(const char *button)
+    void findNext() const { press(dialog->findButton()); }
+    void replace() const { press(dialog->replaceButton()); }
+    void replaceAll() const { press(dialog->replaceAllButton()); }
+    static void press(QPushButton *button)
     {
-        buttonWithText(*dialog, QLatin1String(button))->click();
+        button->click();
         settle();
     }
 
-    QTreeWidget *hits() const { return dialog->findChild<QTreeWidget *>(); }
+    QTreeWidget *hits() const { return dialog->findChild<QTreeWidget *>(QStringLiteral("hits")); }
     /// The listed hits: "[x]" for a checked box, then the columns.
     QStringList rows() const
     {
@@ -104,10 +105,10 @@ void TestFinder::shouldGoFromMatchToMatch()
     QCOMPARE(app.selectedInDrawing(), QStringList(QStringLiteral("Too few")));
     QVERIFY(app.subject("Too few")->spear()->isVisible());
     QCOMPARE(app.window.statusBar()->currentMessage(), QStringLiteral("Match 1 of 2"));
-    QTest::keyClick(app.field(0), Qt::Key_Return);
+    QTest::keyClick(app.dialog->searchField(), Qt::Key_Return);
     AppFixture::settle();
     QCOMPARE(app.selectedInDrawing(), QStringList(QStringLiteral("Too new")));
-    app.press("Find"); // and round again
+    app.findNext(); // and round again
     QCOMPARE(app.selectedInDrawing(), QStringList(QStringLiteral("Too few")));
     app.search(QStringLiteral("rust"));
     QCOMPARE(app.selectedInDrawing(), QStringList(QStringLiteral("Rust")));
@@ -123,7 +124,7 @@ void TestFinder::shouldSearchTheCurrentTab()
         QVERIFY(driver.isDone()); // there is none in the new diagram
     }
     app.showTab(0);
-    app.press("Find");
+    app.findNext();
     QCOMPARE(app.selectedInDrawing(), QStringList(QStringLiteral("Illness")));
 }
 
@@ -146,8 +147,8 @@ void TestFinder::shouldReplaceAsAStepThatCanBeUndone()
 {
     FinderFixture app;
     app.search(QStringLiteral("Too"));
-    app.field(1)->setText(QStringLiteral("Far too"));
-    app.press("Replace");
+    app.dialog->replacementField()->setText(QStringLiteral("Far too"));
+    app.replace();
     QVERIFY(app.text().contains(QLatin1String("People[Far too few[Illness],Too new]")));
     QCOMPARE(app.selectedInDrawing(), QStringList(QStringLiteral("Too new"))); // the next one
     app.trigger("undo");
@@ -157,9 +158,9 @@ void TestFinder::shouldReplaceAsAStepThatCanBeUndone()
 void TestFinder::shouldReplaceInAllTitles()
 {
     FinderFixture app;
-    app.field(0)->setText(QStringLiteral("too"));
-    app.field(1)->setText(QStringLiteral("Very"));
-    app.press("Replace All");
+    app.dialog->searchField()->setText(QStringLiteral("too"));
+    app.dialog->replacementField()->setText(QStringLiteral("Very"));
+    app.replaceAll();
     QVERIFY(app.text().contains(QLatin1String("People[Very few[Illness],Very new]")));
     QCOMPARE(app.window.statusBar()->currentMessage(), QStringLiteral("2 text(s) replaced"));
     QCOMPARE(app.window.editor()->undoStack()->commandNames(),
@@ -175,16 +176,16 @@ void TestFinder::shouldReplaceInAllTitles()
 void TestFinder::shouldRespectTheCase()
 {
     FinderFixture app;
-    app.dialog->findChild<QCheckBox *>()->setChecked(true);
-    app.field(0)->setText(QStringLiteral("m"));
-    app.field(1)->setText(QStringLiteral("X"));
+    app.dialog->caseBox()->setChecked(true);
+    app.dialog->searchField()->setText(QStringLiteral("m"));
+    app.dialog->replacementField()->setText(QStringLiteral("X"));
     const ModalDriver<QMessageBox> driver([](QMessageBox &box) { box.accept(); });
-    app.press("Replace All");
+    app.replaceAll();
     QVERIFY(driver.isDone()); // there is no small m
     QVERIFY(!app.window.editor()->undoStack()->canUndo());
 
-    app.field(0)->setText(QStringLiteral("M"));
-    app.press("Replace All");
+    app.dialog->searchField()->setText(QStringLiteral("M"));
+    app.replaceAll();
     QVERIFY(app.text().contains(QLatin1String("Xachines,Xaterial")));
 }
 
@@ -192,11 +193,11 @@ void TestFinder::shouldReplaceNumbersToo()
 {
     FinderFixture app;
     app.subject("Machines")->setShowid(QStringLiteral("No. 7"));
-    app.dialog->findChild<QComboBox *>()->setCurrentIndex(2);
+    app.dialog->columnBox()->setCurrentIndex(2);
     app.search(QStringLiteral("7"));
     QCOMPARE(app.selectedInDrawing(), QStringList(QStringLiteral("Machines")));
-    app.field(1)->setText(QStringLiteral("8"));
-    app.press("Replace");
+    app.dialog->replacementField()->setText(QStringLiteral("8"));
+    app.replace();
     QCOMPARE(app.subject("Machines")->showid(), QStringLiteral("No. 8"));
     app.trigger("undo");
     QCOMPARE(app.subject("Machines")->showid(), QStringLiteral("No. 7"));
@@ -206,13 +207,13 @@ void TestFinder::shouldReplaceNumbersToo()
 void TestFinder::shouldReplaceNoIdentities()
 {
     FinderFixture app;
-    app.dialog->findChild<QComboBox *>()->setCurrentIndex(1);
-    app.field(1)->setText(QStringLiteral("x"));
+    app.dialog->columnBox()->setCurrentIndex(1);
+    app.dialog->replacementField()->setText(QStringLiteral("x"));
     app.search(QStringLiteral("e}"));
     QCOMPARE(app.selectedInDrawing(), QStringList(QStringLiteral("Machines")));
     QCOMPARE(app.rows(), QStringList(QStringLiteral("{e}||Late")));
-    QVERIFY(!buttonWithText(*app.dialog, QStringLiteral("Replace"))->isEnabled());
-    QVERIFY(!buttonWithText(*app.dialog, QStringLiteral("Replace All"))->isEnabled());
+    QVERIFY(!app.dialog->replaceButton()->isEnabled());
+    QVERIFY(!app.dialog->replaceAllButton()->isEnabled());
 }
 
 void TestFinder::shouldListWhatWasFound()
@@ -221,7 +222,7 @@ void TestFinder::shouldListWhatWasFound()
     app.search(QStringLiteral("too"));
     QCOMPARE(app.rows(), QStringList({QStringLiteral("[x]Too few| few|Late › People"),
                                       QStringLiteral("[x]Too new| new|Late › People")}));
-    app.field(0)->setText(QStringLiteral("to")); // not searched for yet
+    app.dialog->searchField()->setText(QStringLiteral("to")); // not searched for yet
     QCOMPARE(app.rows(), QStringList());
     app.search(QStringLiteral("illness"));
     QCOMPARE(app.rows(), QStringList(QStringLiteral("[x]Illness||Late › People › Too few")));
@@ -236,7 +237,7 @@ void TestFinder::shouldGoToAListedHit()
     QTest::keyClick(app.hits(), Qt::Key_Down);
     AppFixture::settle();
     QCOMPARE(app.selectedInDrawing(), QStringList(QStringLiteral("Too new")));
-    app.press("Find"); // goes on from there
+    app.findNext(); // goes on from there
     QCOMPARE(app.selectedInDrawing(), QStringList(QStringLiteral("Too few")));
     QCOMPARE(app.hits()->currentItem(), app.hits()->topLevelItem(0));
 }
@@ -245,14 +246,14 @@ void TestFinder::shouldPreviewWhatWillChange()
 {
     FinderFixture app;
     app.search(QStringLiteral("ma"));
-    app.field(1)->setText(QStringLiteral("X"));
+    app.dialog->replacementField()->setText(QStringLiteral("X"));
     QCOMPARE(app.rows(), QStringList({QStringLiteral("[x]Machines|Xchines|Late"),
                                       QStringLiteral("[x]Material|Xterial|Late")}));
-    app.field(1)->setText(QStringLiteral("ma"));
+    app.dialog->replacementField()->setText(QStringLiteral("ma"));
     QCOMPARE(app.rows(), QStringList({QStringLiteral("[x]Machines|machines|Late"),
                                       QStringLiteral("[x]Material|material|Late")}));
-    app.dialog->findChild<QCheckBox *>()->setChecked(true);
-    app.field(1)->setText(QStringLiteral("Ma"));
+    app.dialog->caseBox()->setChecked(true);
+    app.dialog->replacementField()->setText(QStringLiteral("Ma"));
     app.search(QStringLiteral("Ma")); // nothing changes
     QCOMPARE(app.rows(),
              QStringList({QStringLiteral("Machines||Late"), QStringLiteral("Material||Late")}));
@@ -263,10 +264,10 @@ void TestFinder::shouldReplaceOnlyWhatIsChecked()
 {
     FinderFixture app;
     app.search(QStringLiteral("m"));
-    app.field(1)->setText(QStringLiteral("X"));
+    app.dialog->replacementField()->setText(QStringLiteral("X"));
     QCOMPARE(app.hits()->topLevelItemCount(), 2);
     app.hits()->topLevelItem(0)->setCheckState(0, Qt::Unchecked);
-    app.press("Replace All");
+    app.replaceAll();
     QVERIFY(app.text().endsWith(QLatin1String("Machines,Xaterial[Rust]]")));
     QCOMPARE(app.window.statusBar()->currentMessage(), QStringLiteral("1 text(s) replaced"));
     app.trigger("undo");
@@ -278,9 +279,9 @@ void TestFinder::shouldReplaceThePlainTitleOfAHead()
     FinderFixture app;
     app.window.model()->setModelType(FISH_MODEL_NORMAL); // the counts stand behind the title
     app.search(QStringLiteral("Late"));
-    app.field(1)->setText(QStringLiteral("Early"));
+    app.dialog->replacementField()->setText(QStringLiteral("Early"));
     QCOMPARE(app.rows(), QStringList(QStringLiteral("[x]Late|Early|")));
-    app.press("Replace All");
+    app.replaceAll();
     QVERIFY(app.text().startsWith(QLatin1String("Early[People")));
     app.trigger("undo");
     QVERIFY(app.text().startsWith(QLatin1String("Late[People")));
@@ -289,11 +290,11 @@ void TestFinder::shouldReplaceThePlainTitleOfAHead()
 void TestFinder::shouldFollowSubjectsThatGo()
 {
     FinderFixture app;
-    app.field(1)->setText(QStringLiteral("Very"));
+    app.dialog->replacementField()->setText(QStringLiteral("Very"));
     app.search(QStringLiteral("too"));
     app.window.editor()->deleteItem(app.find("Too few"));
     AppFixture::settle();
-    app.press("Replace All");
+    app.replaceAll();
     QVERIFY(app.text().contains(QLatin1String("People[Very new]")));
 }
 
@@ -306,12 +307,12 @@ void TestFinder::shouldRestoreTheLookOnEscape()
     auto *const dialog = plain.window.findChild<ReplaceFindDialog *>();
     QVERIFY(plain.subject("Material")->spear()->isExpand());
     QVERIFY(!plain.subject("People")->spear()->isExpand());
-    dialog->findChildren<QLineEdit *>().value(0)->setText(QStringLiteral("Illness"));
-    buttonWithText(*dialog, QStringLiteral("Find"))->click();
+    dialog->searchField()->setText(QStringLiteral("Illness"));
+    dialog->findButton()->click();
     AppFixture::settle();
     QVERIFY(plain.subject("Illness")->spear()->isVisible());
 
-    QTest::keyClick(dialog->findChildren<QLineEdit *>().value(0), Qt::Key_Escape);
+    QTest::keyClick(dialog->searchField(), Qt::Key_Escape);
     AppFixture::settle();
     QVERIFY(!dialog->isVisible());
     QVERIFY(plain.subject("Material")->spear()->isExpand());

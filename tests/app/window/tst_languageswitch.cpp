@@ -50,10 +50,9 @@ public:
         trigger("find");
         widget<QLineEdit>("detailsLink")->setText(QStringLiteral("http://localhost"));
         auto *const dialog = window.findChild<ReplaceFindDialog *>();
-        const QList<QLineEdit *> fields = dialog->findChildren<QLineEdit *>();
-        fields.at(0)->setText(QStringLiteral("Too"));
-        fields.at(1)->setText(QStringLiteral("Two"));
-        Q_EMIT fields.at(0)->returnPressed();
+        dialog->searchField()->setText(QStringLiteral("Too"));
+        dialog->replacementField()->setText(QStringLiteral("Two"));
+        QTest::keyClick(dialog->searchField(), Qt::Key_Return);
         writeFile(path(), "{}");
         QTRY_VERIFY(widget<QWidget>("messageBar")->isVisible());
         settle();
@@ -356,13 +355,10 @@ void TestLanguageSwitch::shouldFindAndReplaceAfterwards()
     Language::choose(QStringLiteral("zh"));
     app.trigger("find");
     auto *const dialog = app.window.findChild<ReplaceFindDialog *>();
-    const QList<QLineEdit *> fields = dialog->findChildren<QLineEdit *>();
-    QTest::keyClicks(fields.at(0), QStringLiteral("Too"));
-    QTest::keyClicks(fields.at(1), QStringLiteral("Two"));
-    for (QPushButton *button : dialog->findChildren<QPushButton *>()) {
-        if (button->text() == QStringLiteral("全部替换"))
-            QTest::mouseClick(button, Qt::LeftButton);
-    }
+    QTest::keyClicks(dialog->searchField(), QStringLiteral("Too"));
+    QTest::keyClicks(dialog->replacementField(), QStringLiteral("Two"));
+    QCOMPARE(dialog->replaceAllButton()->text(), QStringLiteral("全部替换"));
+    QTest::mouseClick(dialog->replaceAllButton(), Qt::LeftButton);
     AppFixture::settle();
     QCOMPARE(app.text(),
              QStringLiteral("Late[People[Two few[Illness],Two new],Machines,Material[Rust]]"));
