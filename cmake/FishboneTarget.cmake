@@ -13,6 +13,7 @@ function(fishbone_setup_target target)
         CXX_STANDARD_REQUIRED ON
         CXX_VISIBILITY_PRESET hidden
         POSITION_INDEPENDENT_CODE ON
+        UNITY_BUILD_MODE GROUP
         VISIBILITY_INLINES_HIDDEN ON)
     target_compile_definitions(${target} PRIVATE
         QT_DISABLE_DEPRECATED_BEFORE=0x050F00
@@ -23,5 +24,29 @@ function(fishbone_setup_target target)
         target_compile_options(${target} PRIVATE
             -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor
             $<$<BOOL:${FISHBONE_WERROR}>:-Werror>)
+    endif()
+endfunction()
+
+# fishbone_unite_folders(<target>)
+#
+# In a unity build (CMAKE_UNITY_BUILD) the sources of a folder of the target are compiled as one, but for those of
+# the folders named: their parts are alike, and so are the names in them. Targets that are not given to this
+# function are compiled source by source.
+function(fishbone_unite_folders target)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "EXCEPT")
+    get_target_property(sources ${target} SOURCES)
+    list(FILTER sources INCLUDE REGEX "\\.cpp$")
+    foreach(source IN LISTS sources)
+        cmake_path(ABSOLUTE_PATH source OUTPUT_VARIABLE path)
+        cmake_path(GET path PARENT_PATH folder)
+        cmake_path(GET folder FILENAME name)
+        if(NOT name IN_LIST arg_EXCEPT)
+            set_source_files_properties("${source}" PROPERTIES UNITY_GROUP "${name}")
+        endif()
+    endforeach()
+    # For g++ what a unity source includes is a header, in which a private class had better have no member of a type
+    # that each source would have of its own.
+    if(CMAKE_UNITY_BUILD AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+        target_compile_options(${target} PRIVATE -Wno-subobject-linkage)
     endif()
 endfunction()

@@ -9,15 +9,15 @@
 
 namespace {
 constexpr qreal rowHeight = 17;
-constexpr qreal columnGap = 14;
-constexpr qreal below = 9;   ///< between the drawing and the legend
-constexpr qreal around = 12; ///< what stays clear of it in a corner
+constexpr qreal entryGap = 14;
+constexpr qreal below = 9;      ///< between the drawing and the legend
+constexpr qreal cornerGap = 12; ///< what stays clear of it in a corner
 constexpr qreal narrowest = 160;
 constexpr qreal symbolSpace = ClearMeasure::icon + ClearMeasure::iconGap;
 
 bool isFree(const QRectF &place, const std::vector<QRectF> &taken)
 {
-    const QRectF wide = place.adjusted(-around, -around, around, around);
+    const QRectF wide = place.adjusted(-cornerGap, -cornerGap, cornerGap, cornerGap);
     return std::none_of(taken.cbegin(), taken.cend(),
                         [&](const QRectF &each) { return each.intersects(wide); });
 }
@@ -47,7 +47,7 @@ QSizeF ClearLegend::arrange(qreal width)
         entry.textRect = QRectF(at.x() + symbolSpace, middle - entry.text->height() / 2,
                                 entry.text->width(), entry.text->height());
         widest = std::max(widest, at.x() + wide);
-        at.rx() += wide + columnGap;
+        at.rx() += wide + entryGap;
     }
     return QSizeF(widest, at.y() + rowHeight);
 }

@@ -13,13 +13,13 @@ using ClearMeasure::slope;
 constexpr qreal margin = 2;       ///< boxes keep twice this apart along the bones
 constexpr qreal stub = 10;        ///< a bone without further ones
 constexpr qreal leafText = 13;    ///< where its text begins
-constexpr qreal textGap = 3;      ///< from the end of a bone to its text
+constexpr qreal boneTextGap = 3;  ///< from the end of a bone to its text
 constexpr qreal pitch = 14;       ///< between two twigs
 constexpr qreal firstReach = 8;   ///< from a bone to what hangs over from its first twig
 constexpr qreal nextReach = 6;    ///< and from one twig to the next
 constexpr qreal beyond = 9;       ///< a level bone goes on behind its last twig
 constexpr qreal slantedPitch = 6; ///< between two joints on a slanted bone
-constexpr qreal backboneHalf = 2; ///< what the backbone takes
+constexpr qreal backboneRoom = 2; ///< what the backbone takes
 constexpr qreal boxGap = 8;       ///< from the last joint of a category to its box
 constexpr qreal shortestCategory = 40;
 constexpr qreal boxPadding = 7; ///< of a category's box, left and right
@@ -117,7 +117,7 @@ void ClearShapes::packLevel(int index)
         places.push_back(place);
     }
     bone.length = places.empty() ? stub : place + std::max(beyond, lean);
-    bone.textAlong = places.empty() ? std::max(leafText, lean + textGap) - stub : textGap;
+    bone.textAlong = places.empty() ? std::max(leafText, lean + boneTextGap) - stub : boneTextGap;
     outline.add(textBox(index, bone.length + bone.textAlong, 0), margin);
     outline.add({0, bone.length, -1, 1}, margin);
     for (int row = children.size() - 1; row >= 0; --row) {
@@ -150,12 +150,12 @@ void ClearShapes::packSlanted(int index)
     const ClearLabel &label = m_labels[std::size_t(index)];
     const qreal high = label.height() / 2;
     bone.textAlong =
-        textGap + std::max<qreal>(0, high - label.text()->font().lineHeight() / 2) * slope;
+        boneTextGap + std::max<qreal>(0, high - label.text()->font().lineHeight() / 2) * slope;
     if (m_maySwap[std::size_t(index)]) // on the other side the bone leans towards the text
         bone.textAlong = std::max(bone.textAlong, high * slope + 1);
     ClearOutline text;
     text.add(textBox(index, bone.textAlong, 0), margin);
-    qreal least = high + textGap;
+    qreal least = high + boneTextGap;
     if (children.size())
         least = std::max(least, last + slantedPitch);
     bone.length = std::max(least, outline.drop(text, 0, -1e9) + gap);
@@ -176,7 +176,7 @@ void ClearShapes::packCategory(int index)
     for (const int child : children) {
         ClearOutline shape = takeOutline(child);
         const qreal least = std::max(both ? first : std::max(first, last + slantedPitch),
-                                     backboneHalf - shape.bottom() + gap);
+                                     backboneRoom - shape.bottom() + gap);
         const qreal here = std::max(least, sides[0].drop(shape, 0, -1e9) + gap);
         const qreal there = both ? std::max(least, sides[1].drop(shape, 0, -1e9) + gap) : here;
         const bool isMirrored = there < here - otherSideGain;

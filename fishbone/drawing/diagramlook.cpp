@@ -12,7 +12,7 @@ namespace {
 
 constexpr double narrowestLine = 40;
 constexpr double widestLine = 10000;
-constexpr int mostLines = 20;
+constexpr int mostStoredLines = 20;
 
 const QLatin1String wrapKey("wrap");
 const QLatin1String linesKey("lines");
@@ -70,7 +70,7 @@ DiagramLook::Options DiagramLook::Options::fromJson(const QJsonObject &json)
     if (isWidth(json.value(wrapKey)))
         options.wrapLimit = json.value(wrapKey).toDouble();
     const int lines = json.value(linesKey).toInt();
-    if (lines >= 1 && lines <= mostLines)
+    if (lines >= 1 && lines <= mostStoredLines)
         options.wrapLines = lines;
     options.widensLines = json.value(widensKey).toBool(options.widensLines);
     if (isWidth(json.value(headWidthKey)))

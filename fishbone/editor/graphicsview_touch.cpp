@@ -18,12 +18,11 @@
 
 namespace {
 
-constexpr int notch = 120;           ///< what a wheel turns by at the least, eighths of a degree
-constexpr double doublingSteps = 50; ///< zoom steps that double the scale
+constexpr int notch = 120; ///< what a wheel turns by at the least, eighths of a degree
 
 double zoomStepsOf(double factor)
 {
-    return factor > 0 ? doublingSteps * std::log2(factor) : 0;
+    return factor > 0 ? ViewFraming::doublingSteps * std::log2(factor) : 0;
 }
 
 bool isWholeNotches(const QPoint &angle)

@@ -10,7 +10,6 @@
 #include <QTransform>
 
 namespace {
-constexpr double doublingSteps = 50; ///< zoom steps that double the scale
 
 void give(QGraphicsView &view, const QTransform &matrix)
 {

@@ -11,8 +11,9 @@ class QRectF;
 class ViewFraming
 {
 public:
-    static constexpr int unscaled = 250; ///< the zoom value of scale 1
-    static constexpr int margin = 50;    ///< pixels kept free on every side when fitting
+    static constexpr int unscaled = 250;        ///< the zoom value of scale 1
+    static constexpr double doublingSteps = 50; ///< zoom steps that double the scale
+    static constexpr int margin = 50;           ///< pixels kept free on every side when fitting
 
     explicit ViewFraming(QGraphicsView &view)
         : m_view(view)

@@ -19,12 +19,6 @@
 
 #include <utility>
 
-namespace {
-
-constexpr int uuidColumn = 1;
-
-} // namespace
-
 struct InsertCommand::Private
 {
     FishModel *subjects() const { return qobject_cast<FishModel *>(model.data()); }

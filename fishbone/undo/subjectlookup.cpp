@@ -12,8 +12,6 @@
 
 namespace {
 
-constexpr int uuidColumn = 1;
-
 /** The documents of @p model in the order in which they are searched. */
 QList<FishInfo *> searchOrder(const FishModel &model, const FishInfo *first)
 {

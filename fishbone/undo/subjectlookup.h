@@ -18,6 +18,8 @@ class QAbstractItemModel;
 class QJsonObject;
 class QModelIndex;
 
+constexpr int uuidColumn = 1; ///< of FishModel
+
 /**
  * How a command knows a subject, whose index and node may come and go between redo() and undo().
  *
