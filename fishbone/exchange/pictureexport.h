@@ -45,7 +45,8 @@ struct PictureOptions
  * unit of the view box of an SVG, and as much of a PDF's page as the unit takes on the screen. SVG
  * and PDF hold lines and real text, and the page of a PDF is as large as the drawing.
  *
- * The scene is drawn as it stands: who does not want the selection in the picture clears it before.
+ * The scene is drawn as it stands, without the buttons that expand and contract bones: who does not
+ * want the selection in the picture clears it before.
  * A picture holds its items. The scene's background is left out in favour of
  * PictureOptions::background, and what a subclass of it paints in front of the items as well. Needs
  * a QGuiApplication.

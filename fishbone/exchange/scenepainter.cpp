@@ -3,6 +3,8 @@
 
 #include <fishbone/exchange/scenepainter.h>
 
+#include <fishbone/drawing/screenonly.h>
+
 #include <QGraphicsEffect>
 #include <QGraphicsItem>
 #include <QGraphicsScene>
@@ -82,6 +84,12 @@ QStyleOptionGraphicsItem optionFor(const QGraphicsItem &item)
     return option;
 }
 
+bool isSeen(const Placed &placed)
+{
+    return placed.item->isVisible() && placed.opacity * placed.item->opacity() >= invisible &&
+           !isForTheScreenOnly(*placed.item);
+}
+
 /** Puts @p placed and its children onto @p waiting in the order of painting. */
 void unfold(Placed placed, std::vector<Placed> &waiting)
 {
@@ -125,7 +133,8 @@ SceneExtent extentOf(const QGraphicsScene &scene)
         waiting.pop_back();
         if (!placed.item->isVisible())
             continue;
-        ++extent.items;
+        if (!isForTheScreenOnly(*placed.item))
+            ++extent.items;
         extent.isPlain = extent.isPlain && isPlain(*placed.item);
         if (!(placed.item->flags() & QGraphicsItem::ItemHasNoContents))
             extent.rect |= placed.toScene.mapRect(placed.item->boundingRect());
@@ -176,7 +185,7 @@ bool ScenePainter::paintItems(QPainter &painter, const Goes &goes) const
         const Placed placed = waiting.back();
         waiting.pop_back();
         if (!placed.isAlone) {
-            if (placed.item->isVisible() && placed.opacity * placed.item->opacity() >= invisible)
+            if (isSeen(placed))
                 unfold(placed, waiting);
             continue;
         }

@@ -16,7 +16,7 @@ class QPainter;
 struct SceneExtent
 {
     QRectF rect;                     ///< what the visible items cover
-    int items = 0;                   ///< how many items are visible
+    int items = 0;                   ///< how many items are painted
     bool isPlain = true;             ///< every item paints itself and does nothing to others
     QList<QGraphicsItem *> topLevel; ///< the items without a parent, the undermost last
 };
@@ -25,9 +25,9 @@ struct SceneExtent
 SceneExtent extentOf(const QGraphicsScene &scene);
 
 /**
- * Paints the items of a scene as QGraphicsScene::render() does, but one by one, so that somebody
- * can follow and end it. A scene with effects, clipping items and the like is not plain: the scene
- * paints it in one go.
+ * Paints the items of a scene as QGraphicsScene::render() does, but without the buttons of bones,
+ * and one by one, so that somebody can follow and end it. A scene with effects, clipping items and
+ * the like is not plain: the scene paints it in one go.
  */
 class ScenePainter
 {

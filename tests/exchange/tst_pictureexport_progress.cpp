@@ -4,6 +4,8 @@
 #include <fishbone/editor/fisheditor.h>
 #include <fishbone/editor/fishscene.h>
 #include <fishbone/exchange/pictureexport.h>
+#include <fishbone/items/expanditem.h>
+#include <fishbone/items/spearitem.h>
 #include <fishbone/model/fishmodel.h>
 #include <tests/program/testprogram.h>
 
@@ -108,7 +110,8 @@ class TestPictureExportProgress : public QObject
 
 private Q_SLOTS:
     void shouldPaintAsTheSceneDoes();
-    void shouldPaintADiagramAsTheSceneDoes();
+    void shouldPaintADiagramWithoutItsButtons_data();
+    void shouldPaintADiagramWithoutItsButtons();
     void shouldLeaveEffectsToTheScene();
     void shouldReportWhatIsDone_data();
     void shouldReportWhatIsDone();
@@ -129,16 +132,41 @@ void TestPictureExportProgress::shouldPaintAsTheSceneDoes()
     QCOMPARE(exported(scene), paintedBy(scene, withMargin(scene)));
 }
 
-void TestPictureExportProgress::shouldPaintADiagramAsTheSceneDoes()
+void TestPictureExportProgress::shouldPaintADiagramWithoutItsButtons_data()
 {
+    QTest::addColumn<int>("look");
+    QTest::newRow("classic") << int(DiagramLook::Classic);
+    QTest::newRow("clear") << int(DiagramLook::Clear);
+}
+
+void TestPictureExportProgress::shouldPaintADiagramWithoutItsButtons()
+{
+    QFETCH(int, look);
     FishModel model;
     QCOMPARE(model.loadFishTempl(), int(MODEL_NO_ERROR));
     FishEditor editor;
     editor.setModel(&model);
     editor.setRootIndex(model.index(0, 0));
+    editor.setLook(DiagramLook::Kind(look));
     editor.expandAll();
+    const QList<SpearItem *> categories = editor.headSpear()->childSpears();
+    categories.front()->setExpand(false);
+    editor.updateFish(false);
+    categories.back()->setSelected(true); // which shows the button in the clear look, too
     QGraphicsScene &scene = *editor.scene();
-    QCOMPARE(exported(scene), paintedBy(scene, withMargin(scene)));
+    const QRectF part = withMargin(scene);
+    const QImage picture = exported(scene);
+    QVERIFY(picture != paintedBy(scene, part));
+
+    // What says how many subjects are hidden stays.
+    const QGraphicsItem *const said =
+        look == DiagramLook::Clear ? categories.front()->expandBuddy() : nullptr;
+    const QList<QGraphicsItem *> items = scene.items();
+    for (QGraphicsItem *const item : items) {
+        if (qgraphicsitem_cast<ExpandItem *>(item) && item != said)
+            item->setVisible(false);
+    }
+    QCOMPARE(picture, paintedBy(scene, part));
 }
 
 void TestPictureExportProgress::shouldLeaveEffectsToTheScene()

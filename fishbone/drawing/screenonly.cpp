@@ -1,0 +1,16 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#include <fishbone/drawing/screenonly.h>
+
+#include <fishbone/items/expanditem.h>
+#include <fishbone/items/spearitem.h>
+#include <fishbone/items/spearlook.h>
+
+bool isForTheScreenOnly(const QGraphicsItem &item)
+{
+    if (item.type() != ExpandItem::Type)
+        return false;
+    const auto *const spear = qgraphicsitem_cast<const SpearItem *>(item.parentItem());
+    return !spear || spear->look().badge(*spear).isNull();
+}
