@@ -18,6 +18,8 @@ constexpr Colors gray{0xff3a3a3a, 0xff666666, 0xff4c4c4c, 0xff707070, 0xff404040
 constexpr Colors dark{0xff7db8ee, 0xff6fc9d6, 0xfff0a070, 0xffd09be0, 0xff74cf93,
                       0xffcfcf70, 0xfff092a4, 0xffa9b3ee, 0xffd8b088, 0xffb8d0c8};
 
+constexpr qreal enough = 4.5; ///< contrast of a text
+
 /** As light as the eye takes it, 0 to 1. */
 qreal luminance(const QColor &color)
 {
@@ -99,11 +101,29 @@ QColor ClearColors::rootCause() const
     return isDark() ? QColor(0xf28b82) : QColor(0xb3261e);
 }
 
+QColor ClearColors::readable(const QColor &ink, const QColor &below)
+{
+    constexpr int steps = 10;
+    const QColor best = inkOn(below);
+    for (int step = 0; step < steps; ++step) {
+        const QColor tried = mixed(best, ink, qreal(step) / steps);
+        if (contrast(tried, below) >= enough)
+            return tried;
+    }
+    return best;
+}
+
+QColor ClearColors::mixed(const QColor &color, const QColor &below, qreal part)
+{
+    const auto mix = [part](qreal a, qreal b) { return part * a + (1 - part) * b; };
+    return QColor::fromRgbF(mix(color.redF(), below.redF()), mix(color.greenF(), below.greenF()),
+                            mix(color.blueF(), below.blueF()));
+}
+
 QColor ClearColors::inkOn(const QColor &fill)
 {
     const QColor light(Qt::white);
     const QColor night(0x10161c);
-    constexpr qreal enough = 4.5;
     for (const QColor &ink : {light, night}) {
         if (contrast(fill, ink) >= enough)
             return ink;

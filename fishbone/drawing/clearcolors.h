@@ -28,6 +28,10 @@ public:
 
     /** Text on @p fill: white where that can be read, else black or nearly so. */
     static QColor inkOn(const QColor &fill);
+    /** @p part of @p color on @p below. */
+    static QColor mixed(const QColor &color, const QColor &below, qreal part);
+    /** @p ink, as much lighter or darker as it takes to be read on @p below. */
+    static QColor readable(const QColor &ink, const QColor &below);
     /** How much lighter one of two colours is than the other: 1 for none, 21 for white on black. */
     static qreal contrast(const QColor &one, const QColor &other);
 

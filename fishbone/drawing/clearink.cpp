@@ -27,14 +27,6 @@ bool isSeen(const QColor &color)
 {
     return color.isValid() && color.alpha() > 0;
 }
-
-/** @p part of @p color on @p below. */
-QColor mixed(const QColor &color, const QColor &below, qreal part)
-{
-    const auto mix = [part](qreal a, qreal b) { return part * a + (1 - part) * b; };
-    return QColor::fromRgbF(mix(color.redF(), below.redF()), mix(color.greenF(), below.greenF()),
-                            mix(color.blueF(), below.blueF()));
-}
 } // namespace
 
 ClearSubjectLook ClearSubjectLook::of(const TreeItem &subject)
@@ -77,10 +69,11 @@ ClearInk ClearInk::of(const ClearSubjectLook &look, int level, int category,
     if (look.verdict == Verdict::RootCause && level > 1 && !ink.background.isValid())
         ink.background = colors.rootCause();
     if (ink.background.isValid())
-        below = mixed(ink.background, below, ink.background.alphaF());
+        below = ClearColors::mixed(ink.background, below, ink.background.alphaF());
     const bool isUsual = !ink.background.isValid() && (level > 1 || !look.colour.isValid());
+    // A text and a background that a subject has of its own are left to whoever has chosen both.
     if (look.ink.isValid())
-        ink.text = look.ink;
+        ink.text = isSeen(look.background) ? look.ink : ClearColors::readable(look.ink, below);
     else
         ink.text = isUsual ? colors.ink(level) : ClearColors::inkOn(below);
     ink.accent = colors.ink(strongestLevel);
@@ -92,7 +85,7 @@ ClearInk ClearInk::standingOut(int level, const ClearColors &colors) const
     ClearInk ink = *this;
     ink.line.setWidthF(line.widthF() + broader);
     if (level > 1 && !background.isValid()) {
-        ink.background = mixed(colour, colors.paper(), tint);
+        ink.background = ClearColors::mixed(colour, colors.paper(), tint);
         // A text that its subject gives a colour of its own keeps it.
         if (text == colors.ink(level))
             ink.text = accent;

@@ -17,6 +17,9 @@ constexpr qreal markLine = 1.4;
 constexpr qreal frameLine = 2.5;
 constexpr qreal dotRadius = 0.3; ///< of the size of a colour in the legend
 constexpr int legendLevel = 3;   ///< as quiet as the deeper causes
+constexpr int strongestLevel = 2;
+constexpr qreal sampleTint = 0.3;
+constexpr qreal strikeHeight = 0.3; ///< of the size of the letters
 
 QPainterPath closed(const QPolygonF &polygon)
 {
@@ -45,8 +48,18 @@ void verdictOn(PictureSink &sink, Verdict verdict, const QPointF &base, qreal wi
     if (verdict == Verdict::None || verdict == Verdict::RootCause || width <= 0)
         return;
     const bool isStruck = verdict == Verdict::RuledOut;
-    const QPointF start = base + QPointF(0, isStruck ? -letterHeight * 0.3 : padding);
+    const QPointF start = base + QPointF(0, isStruck ? -letterHeight * strikeHeight : padding);
     sink.line(QLineF(start, start + QPointF(width, 0)), underline(verdict, color));
+}
+/** What a verdict looks like, on a bar that stands for a title. */
+void verdictSample(PictureSink &sink, Verdict verdict, const QRectF &symbol,
+                   const ClearColors &colors)
+{
+    const QRectF bar = symbol.adjusted(0, padding, 0, -2 * padding);
+    sink.box(bar, 1, ClearColors::mixed(colors.ink(legendLevel), colors.paper(), sampleTint));
+    const qreal letters = bar.height() / 2 / strikeHeight; // so that it is struck in its middle
+    verdictOn(sink, verdict, QPointF(bar.left(), bar.bottom()), bar.width(), letters,
+              colors.ink(strongestLevel));
 }
 } // namespace
 
@@ -113,8 +126,7 @@ void ClearPieces::legend(PictureSink &sink, const std::vector<ClearLegend::Entry
         else if (meanings[i].verdict == Verdict::RootCause)
             sink.box(symbol, padding, colors.rootCause());
         else
-            verdictOn(sink, meanings[i].verdict, QPointF(symbol.left(), symbol.center().y()),
-                      symbol.width(), 0, ink);
+            verdictSample(sink, meanings[i].verdict, symbol, colors);
         sink.text(*entries[i].text, entries[i].textRect, ClearLabel::Side::Left, ink);
     }
 }

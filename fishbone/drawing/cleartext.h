@@ -56,9 +56,9 @@ private:
 struct ClearWrap
 {
     qreal limit = 0;     ///< the width of a line, 0 for one that is as long as it has to be
-    int lines = 3;       ///< at most so many lines
+    int lines = 3;       ///< at most so many lines, and as many as the title has of its own
     bool widens = false; ///< whether lines get longer than the limit rather than the text cut
-    qreal widest = 260;  ///< and how long at most
+    qreal widest = 260;  ///< and how long at most; what is longer gets more lines
 
     bool operator==(const ClearWrap &o) const
     {

@@ -15,6 +15,7 @@ constexpr qreal unlimited = 1200;  ///< even a text without limit is cut there
 constexpr qreal longestWord = 200; ///< where lines may get wider, words are kept whole up to here
 constexpr int longestTitle = 4000; ///< characters that are looked at
 constexpr int searchSteps = 16;
+constexpr int mostLines = 8; ///< of a title that breaks its lines itself or must not be cut
 const QChar ellipsis(0x2026);
 
 QString cleaned(const QString &title)
@@ -43,6 +44,12 @@ bool isIdeographic(QChar c)
     return (code >= 0x2e80 && code <= 0xd7ff) || (code >= 0xf900 && code <= 0xfaff) ||
            (code >= 0xfe30 && code <= 0xfe4f) || (code >= 0xff00 && code <= 0xffef) ||
            (code >= 0xd840 && code <= 0xd8ff) || (code >= 0xdc00 && code <= 0xdfff); // rare ones
+}
+
+/** Whether @p c stays with the number before the space. */
+bool isUnit(QChar c)
+{
+    return c == u'%' || c == QChar(0x2030) || c == QChar(0xb0); // per mille, degrees
 }
 
 bool isInnerBreak(QChar c)
@@ -88,8 +95,9 @@ void ClearTextBreaker::collectPieces()
         if (next < 0 || next > size)
             next = size;
         const QChar before = next > 0 ? m_title.at(next - 1) : QChar();
-        const bool canBreak = next >= size || before.isSpace() || isIdeographic(before) ||
-                              isIdeographic(m_title.at(next));
+        const bool canBreak =
+            next >= size || (before.isSpace() && (before == u'\n' || !isUnit(m_title.at(next)))) ||
+            isIdeographic(before) || isIdeographic(m_title.at(next));
         if (!canBreak)
             continue;
         int end = next;
@@ -245,17 +253,28 @@ ClearText::Line ClearTextBreaker::cutLine(int start, int end, qreal width) const
     return {text, metrics.horizontalAdvance(text)};
 }
 
+/** How many lines the title has of its own. */
+int ClearTextBreaker::ownLines() const
+{
+    const auto breaks = std::count_if(m_pieces.cbegin(), m_pieces.cend(),
+                                      [](const Piece &piece) { return piece.endsLine; });
+    return std::min(int(breaks) + 1, mostLines);
+}
+
 std::shared_ptr<const ClearText> ClearTextBreaker::broken(const ClearWrap &wrap)
 {
     const qreal limit = wrap.limit > 0 ? wrap.limit : unlimited;
     splitPieces(wrap.widens ? std::max(limit, longestWord) : limit);
+    int allowed = std::max(wrap.lines, ownLines());
     qreal width = limit;
-    if (wrap.widens && countLines(limit, wrap.lines) > wrap.lines)
+    if (wrap.widens && countLines(limit, allowed) > allowed)
         width = std::max(limit, wrap.widest);
-    const int lines = countLines(width, wrap.lines);
-    if (lines <= wrap.lines)
+    if (wrap.widens)
+        allowed = std::max(allowed, std::min(countLines(width, mostLines), mostLines));
+    const int lines = countLines(width, allowed);
+    if (lines <= allowed)
         width = narrowest(std::max(width, longestWord), lines);
     bool isCut = false;
-    std::vector<ClearText::Line> result = linesWithin(width, wrap.lines, isCut);
+    std::vector<ClearText::Line> result = linesWithin(width, allowed, isCut);
     return std::make_shared<ClearText>(m_font, std::move(result), m_title.isRightToLeft(), isCut);
 }

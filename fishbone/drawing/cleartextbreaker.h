@@ -38,6 +38,7 @@ private:
     void splitPiece(const Piece &piece, qreal limit, std::vector<Piece> &out);
     qreal widthOf(int start, int end);
 
+    int ownLines() const;
     int countLines(qreal width, int atMost) const;
     qreal narrowest(qreal widest, int lines) const;
     std::vector<ClearText::Line> linesWithin(qreal width, int atMost, bool &isCut);

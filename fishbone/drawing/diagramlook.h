@@ -38,9 +38,9 @@ public:
     struct FISHBONE_EXPORT Options
     {
         double wrapLimit = 0;     ///< the width of a line of a title in units; 0 for no limit
-        int wrapLines = 3;        ///< a title has at most so many lines
-        bool widensLines = false; ///< whether lines get longer than the limit rather than titles
-                                  ///< with more lines cut
+        int wrapLines = 3;        ///< at most so many lines, and as many as a title has of its own
+        bool widensLines = false; ///< whether lines get longer than the limit, and then more,
+                                  ///< rather than titles cut
         double headWidth = 120;   ///< the width of a line of the title in the head
         Sides sides = OneSide;
         bool isHeadLeft = false; ///< the head stands on the left instead of the right

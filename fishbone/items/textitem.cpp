@@ -104,11 +104,33 @@ SpearItem *TextItem::parentSpear() const
     return qgraphicsitem_cast<SpearItem *>(parentItem());
 }
 
-QRectF TextItem::boundingRect() const
+/** The box that the look has in place of the document's; null for none. */
+QRectF TextItem::ownBox() const
 {
     const SpearItem *const spear = parentSpear();
-    const QRectF box = spear ? spear->look().textBox(*spear) : QRectF();
+    return spear ? spear->look().textBox(*spear) : QRectF();
+}
+
+QRectF TextItem::boundingRect() const
+{
+    const QRectF box = ownBox();
     return box.isNull() ? QGraphicsTextItem::boundingRect() : box;
+}
+
+QPainterPath TextItem::shape() const
+{
+    const QRectF box = ownBox();
+    if (box.isNull())
+        return QGraphicsTextItem::shape();
+    QPainterPath path;
+    path.addRect(box);
+    return path;
+}
+
+bool TextItem::contains(const QPointF &point) const
+{
+    const QRectF box = ownBox();
+    return box.isNull() ? QGraphicsTextItem::contains(point) : box.contains(point);
 }
 
 void TextItem::boxChanges()

@@ -53,6 +53,10 @@ public:
 
     /// As the look of the parent spear has it.
     QRectF boundingRect() const override;
+    /// The same.
+    QPainterPath shape() const override;
+    /// Whether that holds \a point.
+    bool contains(const QPointF &point) const override;
     /// The box is about to become another one. For SpearItem.
     void boxChanges();
 
@@ -69,6 +73,7 @@ protected:
 
 private:
     SpearItem *parentSpear() const;
+    QRectF ownBox() const;
     void fillDocument(bool isAnotherText);
     void watchDocument();
     void noteTouch() { m_isTouched = true; }

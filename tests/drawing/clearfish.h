@@ -13,6 +13,7 @@
 #include <fishbone/editor/fisheditor.h>
 #include <tests/support/drawingtext.h>
 #include <tests/support/editorfixture.h>
+#include <tests/support/pictures.h>
 
 /// An editor in the clear look.
 namespace ClearFishes {
@@ -20,6 +21,9 @@ using namespace TestSupport;
 
 inline const QString man = QStringLiteral("Man");
 inline const QString wear = QStringLiteral("Wear and tear");
+
+inline const QString training = QStringLiteral("Training is missing");
+inline const QString budget = QStringLiteral("No budget");
 
 inline QJsonObject document()
 {
@@ -52,6 +56,11 @@ struct ClearFish : EditorFixture
 inline QRectF sceneRect(const QGraphicsItem &item)
 {
     return item.mapToScene(item.boundingRect()).boundingRect();
+}
+
+inline Canvas canvasOf(const QRectF &rect, int scale = 1)
+{
+    return {rect.toAlignedRect().adjusted(-4, -4, 4, 4), scale};
 }
 
 inline double luminance(const QColor &color)

@@ -6,6 +6,7 @@
 #include <QtTest>
 
 #include <fishbone/drawing/clearspear.h>
+#include <fishbone/editor/graphicsview.h>
 #include <fishbone/items/expanditem.h>
 #include <fishbone/items/linkitem.h>
 #include <fishbone/items/taskstatusitem.h>
@@ -250,6 +251,18 @@ void TestClearLook::shouldDropBetweenTheChildrenThatAreSeen()
 void TestClearLook::shouldBeHitWhereItIsSeen()
 {
     ClearFish fish;
+    // Also where only the beginning of a title is shown otherwise, and where it has two lines.
+    fish.subject(man)->setTitle(QStringLiteral("Man\nand\nwoman"));
+    fish.subject(wear)->setTitle(QStringLiteral("Wear and tear of the bearings of the spindle"));
+    fish.editor.updateFish(false);
+    QVERIFY(fish.show());
+    const GraphicsView *const view = fish.editor.view();
+    for (const SpearItem *const spear : fish.shownSpears()) {
+        const QRectF box = sceneRect(*spear->textItem()).adjusted(3, 3, -3, -3);
+        for (const QPointF &point :
+             {box.topLeft(), box.topRight(), box.bottomLeft(), box.bottomRight(), box.center()})
+            QCOMPARE(view->itemAt(view->mapFromScene(point)), spear->textItem());
+    }
     for (const SpearItem *const spear : fish.shownSpears()) {
         const QPointF middle = sceneRect(*spear->textItem()).center();
         QVERIFY(spear->shape().contains(middle));

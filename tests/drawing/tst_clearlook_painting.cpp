@@ -44,14 +44,7 @@ private Q_SLOTS:
 };
 
 namespace {
-const QString training = QStringLiteral("Training is missing");
-const QString budget = QStringLiteral("No budget");
 const QColor orange(0xd2, 0x69, 0x1e);
-
-Canvas canvasOf(const QRectF &rect, int scale = 1)
-{
-    return {rect.toAlignedRect().adjusted(-4, -4, 4, 4), scale};
-}
 
 QImage painted(ClearFish &fish, int scale = 1)
 {

@@ -57,12 +57,13 @@ int differingPixels(const QImage &picture, const QImage &expected)
 class Twins
 {
 public:
-    explicit Twins(const QJsonObject &document)
+    Twins(const QJsonObject &document, DiagramLook::Kind look)
         : m_updated(document)
         , m_passed(document)
     {
         for (EditorFixture *fish : {&m_updated, &m_passed}) {
             fish->editor.resize(420, 360);
+            fish->editor.setLook(look);
             fish->editor.expandAll();
         }
     }
@@ -131,6 +132,14 @@ private:
     EditorFixture m_passed;
 };
 
+/// How the looks are called in the tables.
+struct NamedLook
+{
+    const char *name;
+    DiagramLook::Kind kind;
+};
+constexpr NamedLook looks[] = {{"classic", DiagramLook::Classic}, {"clear", DiagramLook::Clear}};
+
 QJsonObject document(quint32 seed)
 {
     return randomDocument(seed, {10, 3, 9, 40});
@@ -141,17 +150,21 @@ QJsonObject document(quint32 seed)
 void TestFishEditorAnySetter::shouldShowWhatOneSetterChanged_data()
 {
     QTest::addColumn<int>("number");
+    QTest::addColumn<int>("look");
 
-    int number = 0;
-    for (const AnySetter::Setter &setter : AnySetter::all())
-        QTest::newRow(setter.name) << number++;
+    for (const NamedLook &look : looks) {
+        int number = 0;
+        for (const AnySetter::Setter &setter : AnySetter::all())
+            QTest::addRow("%s, %s", look.name, setter.name) << number++ << int(look.kind);
+    }
 }
 
 void TestFishEditorAnySetter::shouldShowWhatOneSetterChanged()
 {
     QFETCH(int, number);
+    QFETCH(int, look);
     const AnySetter::Setter &setter = AnySetter::all()[std::size_t(number)];
-    Twins twins(document(3));
+    Twins twins(document(3), DiagramLook::Kind(look));
     twins.selectEverySecondBone(); // which shows its box
     QVERIFY(twins.show());
     QCOMPARE(twins.difference(), QString());
@@ -165,16 +178,20 @@ void TestFishEditorAnySetter::shouldShowWhatOneSetterChanged()
 void TestFishEditorAnySetter::shouldShowWhatRandomSettersChanged_data()
 {
     QTest::addColumn<quint32>("seed");
+    QTest::addColumn<int>("look");
 
-    for (quint32 seed = 1; seed <= 20; ++seed)
-        QTest::addRow("seed %u", seed) << seed;
+    for (const NamedLook &look : looks) {
+        for (quint32 seed = 1; seed <= 20; ++seed)
+            QTest::addRow("%s, seed %u", look.name, seed) << seed << int(look.kind);
+    }
 }
 
 void TestFishEditorAnySetter::shouldShowWhatRandomSettersChanged()
 {
     QFETCH(quint32, seed);
+    QFETCH(int, look);
     QRandomGenerator random(seed);
-    Twins twins(document(seed));
+    Twins twins(document(seed), DiagramLook::Kind(look));
     QVERIFY(twins.show());
     QStringList done;
 
