@@ -17,7 +17,7 @@ constexpr qreal markLine = 1.4;
 constexpr qreal frameLine = 2.5;
 constexpr qreal dotRadius = 0.3; ///< of the size of a colour in the legend
 constexpr int legendLevel = 3;   ///< as quiet as the deeper causes
-constexpr int strongestLevel = 2;
+constexpr int sampleLevel = 2;
 constexpr qreal sampleTint = 0.3;
 constexpr qreal strikeHeight = 0.3; ///< of the size of the letters
 
@@ -59,7 +59,7 @@ void verdictSample(PictureSink &sink, Verdict verdict, const QRectF &symbol,
     sink.box(bar, 1, ClearColors::mixed(colors.ink(legendLevel), colors.paper(), sampleTint));
     const qreal letters = bar.height() / 2 / strikeHeight; // so that it is struck in its middle
     verdictOn(sink, verdict, QPointF(bar.left(), bar.bottom()), bar.width(), letters,
-              colors.ink(strongestLevel));
+              colors.ink(sampleLevel));
 }
 } // namespace
 

@@ -15,7 +15,7 @@ constexpr qreal unlimited = 1200;  ///< even a text without limit is cut there
 constexpr qreal longestWord = 200; ///< where lines may get wider, words are kept whole up to here
 constexpr int longestTitle = 4000; ///< characters that are looked at
 constexpr int searchSteps = 16;
-constexpr int mostLines = 8; ///< of a title that breaks its lines itself or must not be cut
+constexpr int mostOwnLines = 8; ///< of a title that breaks its lines itself or must not be cut
 const QChar ellipsis(0x2026);
 
 QString cleaned(const QString &title)
@@ -258,7 +258,7 @@ int ClearTextBreaker::ownLines() const
 {
     const auto breaks = std::count_if(m_pieces.cbegin(), m_pieces.cend(),
                                       [](const Piece &piece) { return piece.endsLine; });
-    return std::min(int(breaks) + 1, mostLines);
+    return std::min(int(breaks) + 1, mostOwnLines);
 }
 
 std::shared_ptr<const ClearText> ClearTextBreaker::broken(const ClearWrap &wrap)
@@ -270,7 +270,7 @@ std::shared_ptr<const ClearText> ClearTextBreaker::broken(const ClearWrap &wrap)
     if (wrap.widens && countLines(limit, allowed) > allowed)
         width = std::max(limit, wrap.widest);
     if (wrap.widens)
-        allowed = std::max(allowed, std::min(countLines(width, mostLines), mostLines));
+        allowed = std::max(allowed, std::min(countLines(width, mostOwnLines), mostOwnLines));
     const int lines = countLines(width, allowed);
     if (lines <= allowed)
         width = narrowest(std::max(width, longestWord), lines);
