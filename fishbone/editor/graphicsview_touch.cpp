@@ -15,6 +15,7 @@
 
 #include <fishbone/editor/fisheditor.h>
 #include <fishbone/editor/graphicsview_p.h>
+#include <fishbone/editor/viewframing.h>
 
 namespace {
 
