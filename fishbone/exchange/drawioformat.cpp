@@ -7,6 +7,8 @@
 
 #include <QXmlStreamWriter>
 
+#include <algorithm>
+#include <iterator>
 #include <vector>
 
 namespace {
@@ -57,6 +59,17 @@ std::vector<Box> placed(const TreeItem &head)
     return boxes;
 }
 
+/** Whether a browser that opens @p link would run what is in it; it does not see blanks. */
+bool runsCode(const QString &link)
+{
+    QString seen;
+    std::copy_if(link.cbegin(), link.cend(), std::back_inserter(seen),
+                 [](QChar c) { return c > QLatin1Char(' '); });
+    const QString scheme = seen.left(seen.indexOf(QLatin1Char(':'))).toLower();
+    return scheme == QLatin1String("javascript") || scheme == QLatin1String("vbscript") ||
+           scheme == QLatin1String("data");
+}
+
 void writeGeometry(QXmlStreamWriter &xml, const Box &box)
 {
     xml.writeEmptyElement(QStringLiteral("mxGeometry"));
@@ -73,10 +86,15 @@ void writeBox(QXmlStreamWriter &xml, const Box &box, int number)
     const TreeItem &subject = *box.subject;
     xml.writeStartElement(QStringLiteral("UserObject"));
     xml.writeAttribute(QStringLiteral("label"), XmlSupport::storable(subject.title()));
-    if (!subject.url().isEmpty())
+    QStringList tooltip{subject.detail()};
+    if (runsCode(subject.url()))
+        tooltip.append(subject.url());
+    else if (!subject.url().isEmpty())
         xml.writeAttribute(QStringLiteral("link"), XmlSupport::storable(subject.url()));
-    if (!subject.detail().isEmpty())
-        xml.writeAttribute(QStringLiteral("tooltip"), XmlSupport::storable(subject.detail()));
+    tooltip.removeAll(QString());
+    if (!tooltip.isEmpty())
+        xml.writeAttribute(QStringLiteral("tooltip"),
+                           XmlSupport::storable(tooltip.join(QLatin1Char('\n'))));
     xml.writeAttribute(QStringLiteral("id"), QStringLiteral("n%1").arg(number));
     xml.writeStartElement(QStringLiteral("mxCell"));
     xml.writeAttribute(QStringLiteral("style"),
