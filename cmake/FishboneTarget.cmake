@@ -29,20 +29,16 @@ endfunction()
 
 # fishbone_unite_folders(<target>)
 #
-# In a unity build (CMAKE_UNITY_BUILD) the sources of a folder of the target are compiled as one, but for those of
-# the folders named: their parts are alike, and so are the names in them. Targets that are not given to this
-# function are compiled source by source.
+# In a unity build (CMAKE_UNITY_BUILD) the sources of a folder of the target are compiled as one. Targets that are
+# not given to this function are compiled source by source.
 function(fishbone_unite_folders target)
-    cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "EXCEPT")
     get_target_property(sources ${target} SOURCES)
     list(FILTER sources INCLUDE REGEX "\\.cpp$")
     foreach(source IN LISTS sources)
         cmake_path(ABSOLUTE_PATH source OUTPUT_VARIABLE path)
         cmake_path(GET path PARENT_PATH folder)
         cmake_path(GET folder FILENAME name)
-        if(NOT name IN_LIST arg_EXCEPT)
-            set_source_files_properties("${source}" PROPERTIES UNITY_GROUP "${name}")
-        endif()
+        set_source_files_properties("${source}" PROPERTIES UNITY_GROUP "${name}")
     endforeach()
     # For g++ what a unity source includes is a header, in which a private class had better have no member of a type
     # that each source would have of its own.

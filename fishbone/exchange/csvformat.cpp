@@ -19,13 +19,13 @@ bool readRows(const QByteArray &bytes, ImportedTree &tree, std::vector<TaskTable
     return tree.error().isEmpty();
 }
 
-bool read(const QByteArray &bytes, ImportedTree &tree)
+bool readCsv(const QByteArray &bytes, ImportedTree &tree)
 {
     std::vector<TaskTable::Row> rows;
     return readRows(bytes, tree, rows) && TaskTable::read(rows, tree, TaskTable::Texts::Guarded);
 }
 
-QByteArray write(const TreeItem &head)
+QByteArray writeCsv(const TreeItem &head)
 {
     // The mark tells spreadsheets the encoding, which some would not guess.
     QByteArray bytes = "\xef\xbb\xbf" + CsvTable::line(OwnTable::headings());
@@ -48,6 +48,6 @@ const ExchangeFormat ExchangeFormats::csv{
     "csv",
     "title children uuid showid detail type status progress priority url mgrname mgrid "
     "creatorname creatorid followers createdate planenddate",
-    read,
-    write,
+    readCsv,
+    writeCsv,
     readRows};

@@ -132,7 +132,7 @@ void writeLayer(QXmlStreamWriter &xml, const QString &id, const QString &parent)
         xml.writeAttribute(QStringLiteral("parent"), parent);
 }
 
-QByteArray write(const TreeItem &head)
+QByteArray writeDrawIo(const TreeItem &head)
 {
     QByteArray bytes;
     QXmlStreamWriter xml(&bytes);
@@ -169,4 +169,4 @@ const ExchangeFormat ExchangeFormats::drawIo{
     "drawio",
     "title children detail url",
     nullptr,
-    write};
+    writeDrawIo};

@@ -58,14 +58,14 @@ void writeSubject(QXmlStreamWriter &xml, const TreeItem &subject)
     }
 }
 
-bool read(const QByteArray &bytes, ImportedTree &tree)
+bool readFreeMind(const QByteArray &bytes, ImportedTree &tree)
 {
     QXmlStreamReader xml(bytes);
     return XmlSupport::enterRoot(xml, QStringLiteral("map"), tree) &&
            FreeMindReader(xml, tree).read() && XmlSupport::finish(xml, tree);
 }
 
-QByteArray write(const TreeItem &head)
+QByteArray writeFreeMind(const TreeItem &head)
 {
     QByteArray bytes;
     QXmlStreamWriter xml(&bytes);
@@ -91,5 +91,5 @@ const ExchangeFormat ExchangeFormats::freeMind{
     "mm",
     "title children uuid showid detail type status progress priority url mgrname mgrid "
     "creatorname creatorid followers createdate planenddate",
-    read,
-    write};
+    readFreeMind,
+    writeFreeMind};

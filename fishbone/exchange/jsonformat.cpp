@@ -18,7 +18,7 @@ QString reasonOf(const QByteArray &json, const QJsonParseError &error)
         .arg(error.errorString());
 }
 
-bool read(const QByteArray &bytes, ImportedTree &tree)
+bool readJson(const QByteArray &bytes, ImportedTree &tree)
 {
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson(bytes, &error);
@@ -31,7 +31,7 @@ bool read(const QByteArray &bytes, ImportedTree &tree)
     return true;
 }
 
-QByteArray write(const TreeItem &head)
+QByteArray writeJson(const TreeItem &head)
 {
     QJsonObject object;
     JsonNodes::write(object, head, DiagramExchange::maximalLevels);
@@ -47,5 +47,5 @@ const ExchangeFormat ExchangeFormats::json{
     "json",
     "title children uuid showid detail type status progress priority url mgrname mgrid "
     "creatorname creatorid followers createdate planenddate spearstyle",
-    read,
-    write};
+    readJson,
+    writeJson};

@@ -64,13 +64,13 @@ QString quotation(const TreeItem &subject, const QString &indentation)
     return text;
 }
 
-bool read(const QByteArray &bytes, ImportedTree &tree)
+bool readMarkdown(const QByteArray &bytes, ImportedTree &tree)
 {
     const std::optional<QString> text = ExchangeText::decode(bytes, tree);
     return text && MarkdownReader(*text, tree).read();
 }
 
-QByteArray write(const TreeItem &head)
+QByteArray writeMarkdown(const TreeItem &head)
 {
     constexpr int indentation = 2; // the text of an item begins behind its mark
     QString text = line(QStringLiteral("#"), titleOf(head));
@@ -106,7 +106,7 @@ const ExchangeFormat ExchangeFormats::markdown{
     QT_TRANSLATE_NOOP("DiagramExchange", "Markdown outline"),
     "md markdown",
     "title children detail url status",
-    read,
-    write,
+    readMarkdown,
+    writeMarkdown,
     nullptr,
     keeps};

@@ -14,7 +14,7 @@
 namespace {
 
 using MarkdownInline::Content;
-using MarkdownInline::Kind;
+using InlineKind = MarkdownInline::Kind;
 
 bool isPunctuation(QChar c)
 {
@@ -69,7 +69,7 @@ QString reference(QChar c)
 class Reader
 {
 public:
-    Reader(const QString &markdown, Kind kind, const QHash<QString, QString> &definitions)
+    Reader(const QString &markdown, InlineKind kind, const QHash<QString, QString> &definitions)
         : m_markdown(markdown)
         , m_kind(kind)
         , m_definitions(definitions)
@@ -107,7 +107,7 @@ private:
             return readEscape();
         if (c == QLatin1Char('&'))
             return readReference();
-        if (m_kind == Kind::Target)
+        if (m_kind == InlineKind::Target)
             return false;
         switch (c.unicode()) {
         case u'<':
@@ -160,7 +160,7 @@ private:
             m_position += match.capturedLength();
             return true;
         }
-        if (m_kind != Kind::Title || !scheme.match(ahead).hasMatch())
+        if (m_kind != InlineKind::Title || !scheme.match(ahead).hasMatch())
             return false;
         const int end = find(QLatin1Char('>'), m_position);
         if (end < 0)
@@ -196,7 +196,7 @@ private:
         const bool isImage = at(m_position) == QLatin1Char('!');
         const int begin = m_position + (isImage ? 1 : 0);
         const int textEnd =
-            m_kind == Kind::Title && at(begin) == QLatin1Char('[') ? linkTextEnd(begin) : -1;
+            m_kind == InlineKind::Title && at(begin) == QLatin1Char('[') ? linkTextEnd(begin) : -1;
         if (textEnd < 0)
             return false;
         const int end = at(textEnd + 1) == QLatin1Char('(') ? readTarget(textEnd, isImage)
@@ -222,7 +222,7 @@ private:
         QString url = m_markdown.mid(begin, end - begin);
         if (!isAngled)
             url = url.section(QLatin1Char(' '), 0, 0); // a title of the link may follow
-        noteUrl(MarkdownInline::read(url, Kind::Target).text, isImage);
+        noteUrl(MarkdownInline::read(url, InlineKind::Target).text, isImage);
         return close + 1;
     }
 
@@ -345,7 +345,7 @@ private:
     static constexpr int longestCodeMark = 32;
 
     const QString m_markdown;
-    const Kind m_kind;
+    const InlineKind m_kind;
     const QHash<QString, QString> &m_definitions;
     int m_position = 0;
     int m_linkTextEnd = -1; ///< of the link that was entered last
@@ -401,7 +401,7 @@ QString link(const QString &text, const QString &url)
     return QStringLiteral("[%1](%2)").arg(escaped(text), target);
 }
 
-Content read(const QString &markdown, Kind kind, const QHash<QString, QString> &definitions)
+Content read(const QString &markdown, InlineKind kind, const QHash<QString, QString> &definitions)
 {
     return Reader(markdown, kind, definitions).read();
 }

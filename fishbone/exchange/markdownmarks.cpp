@@ -11,13 +11,13 @@ constexpr int highestHeading = 6;
 
 /** The boxes of tasks: the empty one and the ticked one are everybody's, the others those of note
  * taking programs. */
-struct Box
+struct TaskBox
 {
     char16_t mark;
     int status;
 };
 
-constexpr Box boxes[] = {{u'x', 2}, {u' ', 6}, {u'/', 5}, {u'-', 1}, {u'>', 4}};
+constexpr TaskBox boxes[] = {{u'x', 2}, {u' ', 6}, {u'/', 5}, {u'-', 1}, {u'>', 4}};
 
 } // namespace
 
@@ -94,7 +94,7 @@ int boxLength(const QString &title)
 
 int statusOfBox(QChar mark)
 {
-    for (const Box &box : boxes) {
+    for (const TaskBox &box : boxes) {
         if (mark.toLower() == QChar(box.mark))
             return box.status;
     }
@@ -110,7 +110,7 @@ int issueLength(const QString &title)
 
 QChar boxOfStatus(int status)
 {
-    for (const Box &box : boxes) {
+    for (const TaskBox &box : boxes) {
         if (status == box.status)
             return QChar(box.mark);
     }

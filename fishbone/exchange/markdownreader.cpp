@@ -15,7 +15,7 @@
 
 namespace {
 
-using MarkdownInline::Kind;
+using InlineKind = MarkdownInline::Kind;
 using Report = ExchangeReport::Kind;
 
 /** Where the subjects of list items rank: below all headings, and by their indentation. */
@@ -326,7 +326,7 @@ void MarkdownReader::finishSubject()
         takeIssue(*subject);
     if (subject && !m_title.isEmpty()) {
         const MarkdownInline::Content title =
-            MarkdownInline::read(m_title.join(QLatin1Char(' ')), Kind::Title, m_definitions);
+            MarkdownInline::read(m_title.join(QLatin1Char(' ')), InlineKind::Title, m_definitions);
         subject->setTitle(title.text);
         m_tree.addContent(*subject, title.links, title.images, m_titleLine);
         if (m_status >= 0)
@@ -365,5 +365,5 @@ void MarkdownReader::addDetail(const QString &text)
 
 QString MarkdownReader::readDetail(const QString &markdown) const
 {
-    return MarkdownInline::read(markdown, Kind::Detail).text;
+    return MarkdownInline::read(markdown, InlineKind::Detail).text;
 }

@@ -9,7 +9,7 @@
 
 namespace {
 
-bool read(const QByteArray &bytes, ImportedTree &tree)
+bool readMermaid(const QByteArray &bytes, ImportedTree &tree)
 {
     const std::optional<QString> text = ExchangeText::decode(bytes, tree);
     // All that follows lies below the first line, also where it is not indented further.
@@ -17,7 +17,7 @@ bool read(const QByteArray &bytes, ImportedTree &tree)
     return text && MermaidReader(*text, tree).read(headRank, 0);
 }
 
-QByteArray write(const TreeItem &head)
+QByteArray writeMermaid(const TreeItem &head)
 {
     constexpr int indentation = 2;
     QByteArray bytes = "ishikawa\n";
@@ -36,5 +36,5 @@ const ExchangeFormat ExchangeFormats::mermaid{
     QT_TRANSLATE_NOOP("DiagramExchange", "Mermaid ishikawa diagram"),
     "mmd mermaid",
     "title children",
-    read,
-    write};
+    readMermaid,
+    writeMermaid};

@@ -11,14 +11,14 @@
 namespace {
 
 /** Stands for an empty title, which would leave no line: a space without width. */
-const QLatin1String emptyTitle("#8203;");
+const QLatin1String blankTitle("#8203;");
 
-QString reference(QChar c)
+QString entity(QChar c)
 {
     return QStringLiteral("#%1;").arg(c.unicode());
 }
 
-/** Whether @p title has a reference or a line break in the form of the format at @p i. */
+/** Whether @p title has a entity or a line break in the form of the format at @p i. */
 bool looksSpecial(const QString &title, int i)
 {
     static const QRegularExpression special(QStringLiteral("^(#[A-Za-z0-9]{1,10};|<br\\s?/?>)"),
@@ -47,7 +47,7 @@ namespace MermaidText {
 QString escaped(const QString &title)
 {
     if (title.isEmpty())
-        return emptyTitle;
+        return blankTitle;
     const bool hasTags = looksLikeTags(title);
     QString text;
     for (int i = 0; i < title.size(); ++i) {
@@ -64,7 +64,7 @@ QString escaped(const QString &title)
             text.append(QLatin1String("#gt;"));
         else if (ExchangeText::isControl(c) || (isEdge && c.isSpace()) || isComment || isKeyword ||
                  (isMark && looksSpecial(title, i)))
-            text.append(reference(c));
+            text.append(entity(c));
         else
             text.append(c);
     }
@@ -75,7 +75,7 @@ QString unescaped(const QString &line)
 {
     static const QRegularExpression special(QStringLiteral("#([A-Za-z0-9]{1,10});|<br\\s?/?>"),
                                             QRegularExpression::CaseInsensitiveOption);
-    if (line == emptyTitle)
+    if (line == blankTitle)
         return QString();
     QString title;
     int end = 0;

@@ -211,7 +211,7 @@ bool readBody(QXmlStreamReader &xml, ImportedTree &tree)
     return true;
 }
 
-bool read(const QByteArray &bytes, ImportedTree &tree)
+bool readOpml(const QByteArray &bytes, ImportedTree &tree)
 {
     QXmlStreamReader xml(bytes);
     if (!XmlSupport::enterRoot(xml, QStringLiteral("opml"), tree))
@@ -229,7 +229,7 @@ bool read(const QByteArray &bytes, ImportedTree &tree)
     return XmlSupport::finish(xml, tree);
 }
 
-QByteArray write(const TreeItem &head)
+QByteArray writeOpml(const TreeItem &head)
 {
     QByteArray bytes;
     QXmlStreamWriter xml(&bytes);
@@ -267,5 +267,5 @@ const ExchangeFormat ExchangeFormats::opml{
     "opml",
     "title children uuid showid detail type status progress priority url mgrname mgrid "
     "creatorname creatorid followers createdate planenddate",
-    read,
-    write};
+    readOpml,
+    writeOpml};

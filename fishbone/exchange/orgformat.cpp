@@ -67,13 +67,13 @@ QString headingOf(const TreeItem &subject, int level)
     return line + QLatin1Char(' ') + title + QLatin1Char('\n');
 }
 
-bool read(const QByteArray &bytes, ImportedTree &tree)
+bool readOrg(const QByteArray &bytes, ImportedTree &tree)
 {
     const std::optional<QString> text = ExchangeText::decode(bytes, tree);
     return text && OrgReader(*text, tree).read();
 }
 
-QByteArray write(const TreeItem &head)
+QByteArray writeOrg(const TreeItem &head)
 {
     QString text = OrgKeywords::declaration + QLatin1String("\n\n");
     OutlineWalk::walk(head, [&text](const TreeItem &subject, int level) {
@@ -93,5 +93,5 @@ const ExchangeFormat ExchangeFormats::org{
     "org",
     "title children uuid showid detail type status progress priority url mgrname mgrid "
     "creatorname creatorid followers createdate planenddate",
-    read,
-    write};
+    readOrg,
+    writeOrg};

@@ -19,7 +19,7 @@
 
 namespace {
 
-using Kind = PastedNotes::Kind;
+using NotesKind = PastedNotes::Kind;
 using Format = DiagramExchange::Format;
 
 /** The length of the bullet or number in front of a line, 0 for none. */
@@ -162,13 +162,13 @@ bool readTable(const QString &text, ImportedTree &tree)
     return true;
 }
 
-bool readNotes(const QString &text, Kind kind, ImportedTree &tree)
+bool readNotes(const QString &text, NotesKind kind, ImportedTree &tree)
 {
-    if (kind == Kind::Table)
+    if (kind == NotesKind::Table)
         return readTable(text, tree);
-    if (kind == Kind::Diagram)
+    if (kind == NotesKind::Diagram)
         return MermaidReader(text, tree).read(-1, 0);
-    return NotesReader(text, kind == Kind::Markdown, tree).read();
+    return NotesReader(text, kind == NotesKind::Markdown, tree).read();
 }
 
 } // namespace
@@ -180,36 +180,37 @@ PastedNotes::Kind PastedNotes::kindOf(const QString &text)
     constexpr int looked = 1000;
     const QString beginning = text.left(looked);
     if (opml.match(beginning).hasMatch())
-        return Kind::Opml;
+        return NotesKind::Opml;
     if (map.match(beginning).hasMatch())
-        return Kind::FreeMind;
+        return NotesKind::FreeMind;
     if (MermaidReader::isTree(text))
-        return Kind::Diagram;
+        return NotesKind::Diagram;
     const Looks looks(text);
     if (looks.cells > 1 && looks.cells * 2 > looks.lines)
-        return Kind::Table;
-    return looks.marked > 0 && 2 * looks.marked >= looks.lines ? Kind::Markdown : Kind::Notes;
+        return NotesKind::Table;
+    return looks.marked > 0 && 2 * looks.marked >= looks.lines ? NotesKind::Markdown
+                                                               : NotesKind::Notes;
 }
 
 bool PastedNotes::isDoubtful(const QString &text)
 {
-    const Kind kind = kindOf(text);
-    if (kind == Kind::Table)
+    const NotesKind kind = kindOf(text);
+    if (kind == NotesKind::Table)
         return !TableMapping::hasTitles(
             TableMapping::guessed(text.section(QLatin1Char('\n'), 0, 0).split(QLatin1Char('\t'))));
     const Looks looks(text);
-    return kind == Kind::Notes && looks.cells > 0;
+    return kind == NotesKind::Notes && looks.cells > 0;
 }
 
-std::unique_ptr<TreeItem> PastedNotes::read(const QString &text, Kind kind, QString *error,
+std::unique_ptr<TreeItem> PastedNotes::read(const QString &text, NotesKind kind, QString *error,
                                             ExchangeReport *report)
 {
-    if (kind == Kind::Opml || kind == Kind::FreeMind) {
+    if (kind == NotesKind::Opml || kind == NotesKind::FreeMind) {
         QByteArray bytes = text.trimmed().toUtf8();
         QBuffer buffer(&bytes);
         buffer.open(QIODevice::ReadOnly);
         return DiagramExchange::readBranches(
-            buffer, kind == Kind::Opml ? Format::Opml : Format::FreeMind, error, report);
+            buffer, kind == NotesKind::Opml ? Format::Opml : Format::FreeMind, error, report);
     }
     ImportedTree tree;
     std::unique_ptr<TreeItem> branches;

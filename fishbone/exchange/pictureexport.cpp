@@ -21,7 +21,7 @@
 
 namespace {
 
-constexpr double pointsPerInch = 72;
+constexpr double pointsAnInch = 72;
 constexpr double inchesPerMetre = 1 / 0.0254;
 constexpr int pngQuality = 89; ///< the lightest compression: a drawing is small, and this is fast
 /** The longest side of any picture, in picture units: painters do not count further. */
@@ -186,7 +186,7 @@ private:
 /** The size of a PDF's page in points. */
 QSize pageOf(const QSizeF &size)
 {
-    const double points = pointsPerInch / screenResolution();
+    const double points = pointsAnInch / screenResolution();
     return {int(std::ceil(size.width() * points)), int(std::ceil(size.height() * points))};
 }
 

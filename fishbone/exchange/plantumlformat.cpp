@@ -195,7 +195,7 @@ private:
     QStringList m_texts; ///< that stand beside the map
 };
 
-bool read(const QByteArray &bytes, ImportedTree &tree)
+bool readPlantUml(const QByteArray &bytes, ImportedTree &tree)
 {
     const std::optional<QString> text = ExchangeText::decode(bytes, tree);
     return text && MapReader(*text, tree).read();
@@ -209,5 +209,5 @@ const ExchangeFormat ExchangeFormats::plantUml{
     QT_TRANSLATE_NOOP("DiagramExchange", "PlantUML mind map"),
     "puml plantuml pu",
     "",
-    read,
+    readPlantUml,
     nullptr};

@@ -27,7 +27,7 @@ constexpr qint64 slideHeight = 6858000;
 constexpr double filled = 0.94; ///< the share of the slide that the drawing takes
 constexpr double unitsPerPoint = 12700;
 
-QByteArray number(double value)
+QByteArray measure(double value)
 {
     return QByteArray::number(qint64(std::llround(value)));
 }
@@ -118,9 +118,9 @@ private:
                                         : QByteArray("bg1");
         }
         constexpr int whole = 100000;
-        const QByteArray alpha = colour.alpha() == 255
-                                     ? QByteArray()
-                                     : "<a:alpha val=\"" + number(colour.alphaF() * whole) + "\"/>";
+        const QByteArray alpha =
+            colour.alpha() == 255 ? QByteArray()
+                                  : "<a:alpha val=\"" + measure(colour.alphaF() * whole) + "\"/>";
         return "<a:solidFill><" + name + " val=\"" + value + "\">" + alpha + "</" + name +
                "></a:solidFill>";
     }
@@ -129,7 +129,7 @@ private:
     {
         if (!shape.stroke.isValid())
             return "<a:ln><a:noFill/></a:ln>";
-        return "<a:ln w=\"" + number(qMax(shape.width * m_scale, 1.0)) + "\" cap=\"rnd\">" +
+        return "<a:ln w=\"" + measure(qMax(shape.width * m_scale, 1.0)) + "\" cap=\"rnd\">" +
                colour(shape.stroke) + (shape.isDashed ? "<a:prstDash val=\"dash\"/>" : "") +
                "</a:ln>";
     }
@@ -142,9 +142,9 @@ private:
 
     static QByteArray frame(const QRectF &rect, const QByteArray &attributes)
     {
-        return "<a:xfrm" + attributes + "><a:off x=\"" + number(rect.x()) + "\" y=\"" +
-               number(rect.y()) + "\"/><a:ext cx=\"" + number(rect.width()) + "\" cy=\"" +
-               number(rect.height()) + "\"/></a:xfrm>";
+        return "<a:xfrm" + attributes + "><a:off x=\"" + measure(rect.x()) + "\" y=\"" +
+               measure(rect.y()) + "\"/><a:ext cx=\"" + measure(rect.width()) + "\" cy=\"" +
+               measure(rect.height()) + "\"/></a:xfrm>";
     }
 
     QByteArray straightLine(const SlideShape &shape)
@@ -165,7 +165,7 @@ private:
 
     static QByteArray point(const QPointF &point)
     {
-        return "<a:pt x=\"" + number(point.x()) + "\" y=\"" + number(point.y()) + "\"/>";
+        return "<a:pt x=\"" + measure(point.x()) + "\" y=\"" + measure(point.y()) + "\"/>";
     }
 
     QByteArray geometry(const QPainterPath &path, const QRectF &bounds) const
@@ -187,7 +187,7 @@ private:
         }
         return "<a:custGeom><a:avLst/><a:gdLst/><a:ahLst/><a:cxnLst/>"
                "<a:rect l=\"0\" t=\"0\" r=\"r\" b=\"b\"/><a:pathLst><a:path w=\"" +
-               number(bounds.width()) + "\" h=\"" + number(bounds.height()) + "\">" + steps +
+               measure(bounds.width()) + "\" h=\"" + measure(bounds.height()) + "\">" + steps +
                "</a:path></a:pathLst></a:custGeom>";
     }
 
@@ -220,7 +220,7 @@ private:
         const QRectF box(place(shape.box.topLeft()), place(shape.box.bottomRight()));
         const QByteArray turn = std::abs(shape.angle) < 0.01
                                     ? QByteArray()
-                                    : " rot=\"" + number(shape.angle * minuteOfDegree) + "\"";
+                                    : " rot=\"" + measure(shape.angle * minuteOfDegree) + "\"";
         const double size = qMax(shape.fontSize * m_scale / unitsPerPoint * 100, 100.0);
         const QByteArray family = escaped(shape.family);
         return "<p:sp><p:nvSpPr>" + name("Text") +
@@ -228,7 +228,7 @@ private:
                "<a:prstGeom prst=\"rect\"><a:avLst/></a:prstGeom><a:noFill/></p:spPr>"
                "<p:txBody><a:bodyPr wrap=\"none\" lIns=\"0\" tIns=\"0\" rIns=\"0\" bIns=\"0\" "
                "anchor=\"ctr\"/><a:lstStyle/><a:p><a:pPr algn=\"ctr\"/><a:r><a:rPr sz=\"" +
-               number(size) + "\"" + (shape.isBold ? " b=\"1\"" : "") +
+               measure(size) + "\"" + (shape.isBold ? " b=\"1\"" : "") +
                (shape.isItalic ? " i=\"1\"" : "") + ">" + colour(shape.colour) +
                "<a:latin typeface=\"" + family + "\"/><a:ea typeface=\"" + family + "\"/>" +
                link(shape.text) + "</a:rPr><a:t>" + escaped(shape.text) +
@@ -253,10 +253,10 @@ private:
                         .arg(m_head.title())
                         .arg(causes));
         QByteArray group = frame(rect, {});
-        group.insert(group.indexOf("</a:xfrm>"), "<a:chOff x=\"" + number(rect.x()) + "\" y=\"" +
-                                                     number(rect.y()) + "\"/><a:chExt cx=\"" +
-                                                     number(rect.width()) + "\" cy=\"" +
-                                                     number(rect.height()) + "\"/>");
+        group.insert(group.indexOf("</a:xfrm>"), "<a:chOff x=\"" + measure(rect.x()) + "\" y=\"" +
+                                                     measure(rect.y()) + "\"/><a:chExt cx=\"" +
+                                                     measure(rect.width()) + "\" cy=\"" +
+                                                     measure(rect.height()) + "\"/>");
         return "<?xml version=\"1.0\" encoding=\"UTF-8\" standalone=\"yes\"?>\n"
                "<p:sld xmlns:a=\"http://schemas.openxmlformats.org/drawingml/2006/main\" "
                "xmlns:r=\"http://schemas.openxmlformats.org/officeDocument/2006/relationships\" "

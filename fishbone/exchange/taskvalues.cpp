@@ -19,7 +19,7 @@ struct Words
 };
 
 /** A word in the form in which words are compared. */
-QString plain(const QString &text)
+QString plainWord(const QString &text)
 {
     QString word = text.trimmed().toLower();
     word.replace(QLatin1Char('_'), QLatin1Char(' '));
@@ -35,7 +35,7 @@ QHash<QString, int> tableOf(const Words (&words)[size])
     for (const Words &entry : words) {
         const QStringList names = QString::fromUtf8(entry.words).split(QLatin1Char('|'));
         for (const QString &name : names)
-            table.insert(plain(name), entry.value);
+            table.insert(plainWord(name), entry.value);
     }
     return table;
 }
@@ -47,7 +47,7 @@ std::optional<int> numberOrWord(const QString &text, const QHash<QString, int> &
     const int number = trimmed.toInt(&isNumber);
     if (isNumber)
         return number;
-    const auto found = words.constFind(plain(trimmed));
+    const auto found = words.constFind(plainWord(trimmed));
     return found == words.constEnd() ? std::nullopt : std::make_optional(*found);
 }
 

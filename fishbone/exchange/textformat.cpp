@@ -29,7 +29,7 @@ int bulletLength(const QString &line)
 }
 
 /** Whether @p title cannot stand in a line as it is. */
-bool needsQuotes(const QString &title)
+bool titleNeedsQuotes(const QString &title)
 {
     return title.isEmpty() || title != title.trimmed() || looksQuoted(title) ||
            title.startsWith(QChar(QChar::ByteOrderMark)) || bulletLength(title) > 0 ||
@@ -37,7 +37,7 @@ bool needsQuotes(const QString &title)
 }
 
 /** @p title in quotes, with the escapes of JSON. */
-QString quoted(const QString &title)
+QString quotedTitle(const QString &title)
 {
     const QByteArray json = QJsonDocument(QJsonArray{title}).toJson(QJsonDocument::Compact);
     QString text = QString::fromUtf8(json.mid(1, json.size() - 2));
@@ -53,10 +53,10 @@ QString titleOf(const QString &text)
         return line;
     const QJsonArray values = QJsonDocument::fromJson('[' + line.toUtf8() + ']').array();
     const QString title = values.at(0).toString();
-    return values.size() == 1 && needsQuotes(title) ? title : line;
+    return values.size() == 1 && titleNeedsQuotes(title) ? title : line;
 }
 
-bool read(const QByteArray &bytes, ImportedTree &tree)
+bool readText(const QByteArray &bytes, ImportedTree &tree)
 {
     const std::optional<QString> text = ExchangeText::decode(bytes, tree);
     if (!text)
@@ -70,13 +70,13 @@ bool read(const QByteArray &bytes, ImportedTree &tree)
     return true;
 }
 
-QByteArray write(const TreeItem &head)
+QByteArray writeText(const TreeItem &head)
 {
     QByteArray bytes;
     OutlineWalk::walk(head, [&bytes](const TreeItem &subject, int level) {
         const QString &title = subject.title();
         bytes += QByteArray(level, '\t');
-        bytes += (needsQuotes(title) ? quoted(title) : title).toUtf8() + '\n';
+        bytes += (titleNeedsQuotes(title) ? quotedTitle(title) : title).toUtf8() + '\n';
     });
     return bytes;
 }
@@ -88,5 +88,5 @@ const ExchangeFormat ExchangeFormats::text{DiagramExchange::Format::Text,
                                            QT_TRANSLATE_NOOP("DiagramExchange", "Indented text"),
                                            "txt text",
                                            "title children",
-                                           read,
-                                           write};
+                                           readText,
+                                           writeText};

@@ -37,7 +37,7 @@ bool readSheet(XlsxReader &workbook, ImportedTree &tree, std::vector<TaskTable::
     return true;
 }
 
-bool readRows(const QByteArray &bytes, ImportedTree &tree, std::vector<TaskTable::Row> &rows)
+bool readSheetRows(const QByteArray &bytes, ImportedTree &tree, std::vector<TaskTable::Row> &rows)
 {
     ZipReader archive(bytes, tree);
     if (!archive.isOpen())
@@ -46,10 +46,11 @@ bool readRows(const QByteArray &bytes, ImportedTree &tree, std::vector<TaskTable
     return workbook.open() && readSheet(workbook, tree, rows);
 }
 
-bool read(const QByteArray &bytes, ImportedTree &tree)
+bool readXlsx(const QByteArray &bytes, ImportedTree &tree)
 {
     std::vector<TaskTable::Row> rows;
-    return readRows(bytes, tree, rows) && TaskTable::read(rows, tree, TaskTable::Texts::AsTheyAre);
+    return readSheetRows(bytes, tree, rows) &&
+           TaskTable::read(rows, tree, TaskTable::Texts::AsTheyAre);
 }
 
 } // namespace
@@ -61,6 +62,6 @@ const ExchangeFormat ExchangeFormats::xlsx{
     "xlsx",
     "title children uuid showid detail type status progress priority url mgrname mgrid "
     "creatorname creatorid followers createdate planenddate",
-    read,
+    readXlsx,
     XlsxWriter::write,
-    readRows};
+    readSheetRows};

@@ -24,10 +24,10 @@ const QStringList overviewHeadings{
     QStringLiteral("By when"),  QStringLiteral("Address"),
 };
 
-const char *const statusWords[] = {"Unknown",   "Cancelled", "Finished", "Finished late",
+const char *const statusNames[] = {"Unknown",   "Cancelled", "Finished", "Finished late",
                                    "Postponed", "Running",   "Waiting",  "Waiting for approval"};
 
-QByteArray contentTypes()
+QByteArray workbookTypes()
 {
     return "<?xml version=\"1.0\" encoding=\"UTF-8\" standalone=\"yes\"?>\n"
            "<Types xmlns=\"http://schemas.openxmlformats.org/package/2006/content-types\">"
@@ -49,7 +49,7 @@ QByteArray contentTypes()
            "</Types>";
 }
 
-QByteArray packageRelations()
+QByteArray packageParts()
 {
     return "<?xml version=\"1.0\" encoding=\"UTF-8\" standalone=\"yes\"?>\n"
            "<Relationships xmlns=\"http://schemas.openxmlformats.org/package/2006/relationships\">"
@@ -239,7 +239,7 @@ void addAction(Sheet &sheet, const TreeItem &subject)
     sheet.beginRow(0);
     sheet.addText(subject.title());
     sheet.addText(subject.parent() ? subject.parent()->title() : QString());
-    sheet.addText(isKnown ? QString::fromLatin1(statusWords[subject.status()]) : QString());
+    sheet.addText(isKnown ? QString::fromLatin1(statusNames[subject.status()]) : QString());
     sheet.addNumber(subject.progress() / whole, Percent);
     if (subject.priority() >= 0)
         sheet.addNumber(subject.priority());
@@ -271,8 +271,8 @@ namespace XlsxWriter {
 
 QByteArray write(const TreeItem &head)
 {
-    return ZipWriter::archive({{QStringLiteral("[Content_Types].xml"), contentTypes()},
-                               {QStringLiteral("_rels/.rels"), packageRelations()},
+    return ZipWriter::archive({{QStringLiteral("[Content_Types].xml"), workbookTypes()},
+                               {QStringLiteral("_rels/.rels"), packageParts()},
                                {QStringLiteral("xl/workbook.xml"), workbook()},
                                {QStringLiteral("xl/_rels/workbook.xml.rels"), workbookRelations()},
                                {QStringLiteral("xl/styles.xml"), styles()},

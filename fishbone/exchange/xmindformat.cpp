@@ -36,7 +36,7 @@ void noteOtherFiles(const QStringList &names, ImportedTree &tree)
     }
 }
 
-bool read(const QByteArray &bytes, ImportedTree &tree)
+bool readXMind(const QByteArray &bytes, ImportedTree &tree)
 {
     ZipReader archive(bytes, tree);
     if (!archive.isOpen())
@@ -63,7 +63,7 @@ QByteArray manifest(const QString &content)
         .toUtf8();
 }
 
-QByteArray write(const TreeItem &head)
+QByteArray writeXMind(const TreeItem &head)
 {
     const QByteArray metadata = "{\"creator\":{\"name\":\"Fishbone\"}}";
     if (OutlineWalk::levelsOf(head) <= jsonLevels)
@@ -87,5 +87,5 @@ const ExchangeFormat ExchangeFormats::xmind{
     "xmind",
     "title children uuid showid detail type status progress priority url mgrname mgrid "
     "creatorname creatorid followers createdate planenddate",
-    read,
-    write};
+    readXMind,
+    writeXMind};

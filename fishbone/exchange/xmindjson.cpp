@@ -39,7 +39,7 @@ bool isRead(const QString &key)
     return keys.contains(key);
 }
 
-bool isLook(const QString &key)
+bool isLookKey(const QString &key)
 {
     static const QStringList keys{
         QStringLiteral("class"),          QStringLiteral("style"),
@@ -125,7 +125,7 @@ private:
         for (const QJsonValue &boundary : boundaries)
             m_topics.addDetail(DiagramExchange::tr("Boundary"), text(boundary.toObject(), "title"));
         for (auto member = topic.begin(); member != topic.end(); ++member) {
-            if (isLook(member.key()))
+            if (isLookKey(member.key()))
                 m_tree.note(Kind::Appearance, member.key());
             else if (!isRead(member.key()))
                 m_topics.addDetail(member.key(), plain(member.value()));

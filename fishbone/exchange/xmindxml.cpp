@@ -18,10 +18,10 @@ namespace {
 using Kind = ExchangeReport::Kind;
 
 /** Reads the document element by element: maps may be deep. */
-class MapReader
+class XMindMapReader
 {
 public:
-    MapReader(QXmlStreamReader &xml, ImportedTree &tree)
+    XMindMapReader(QXmlStreamReader &xml, ImportedTree &tree)
         : m_xml(xml)
         , m_tree(tree)
         , m_topics(tree)
@@ -248,7 +248,7 @@ bool XmindXml::read(const QByteArray &bytes, ImportedTree &tree)
 {
     QXmlStreamReader xml(bytes);
     return XmlSupport::enterRoot(xml, QStringLiteral("xmap-content"), tree) &&
-           MapReader(xml, tree).read() && XmlSupport::finish(xml, tree);
+           XMindMapReader(xml, tree).read() && XmlSupport::finish(xml, tree);
 }
 
 QByteArray XmindXml::write(const TreeItem &head)
