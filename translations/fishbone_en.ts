@@ -1297,6 +1297,18 @@ What is left out, or put where it can be kept, is listed on the error output.</t
         <source>PowerPoint slide (*.%1)</source>
         <translation>PowerPoint slide (*.%1)</translation>
     </message>
+    <message>
+        <source>Copy as p&amp;icture</source>
+        <translation>Copy as p&amp;icture</translation>
+    </message>
+    <message>
+        <source>Copied as a picture</source>
+        <translation>Copied as a picture</translation>
+    </message>
+    <message>
+        <source>Not copied as a picture: %1</source>
+        <translation>Not copied as a picture: %1</translation>
+    </message>
 </context>
 <context>
     <name>ExportDialog</name>
@@ -1319,14 +1331,6 @@ What is left out, or put where it can be kept, is listed on the error output.</t
     <message>
         <source>&amp;Background:</source>
         <translation>&amp;Background:</translation>
-    </message>
-    <message>
-        <source>Pictures (*.png *.svg *.pdf)</source>
-        <translation>Pictures (*.png *.svg *.pdf)</translation>
-    </message>
-    <message>
-        <source>The file name must end in .png, .svg or .pdf.</source>
-        <translation>The file name must end in .png, .svg or .pdf.</translation>
     </message>
     <message>
         <source>%1 exists already. Replace it?</source>
@@ -1367,6 +1371,30 @@ What is left out, or put where it can be kept, is listed on the error output.</t
     <message>
         <source>This cannot be exported: %1.</source>
         <translation>This cannot be exported: %1.</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Preview</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Dark</translation>
+    </message>
+    <message>
+        <source>Pictures (*.png *.svg *.pdf *.html)</source>
+        <translation>Pictures (*.png *.svg *.pdf *.html)</translation>
+    </message>
+    <message>
+        <source>The file name must end in .png, .svg, .pdf or .html.</source>
+        <translation>The file name must end in .png, .svg, .pdf or .html.</translation>
+    </message>
+    <message>
+        <source>A page for the browser needs the clear look.</source>
+        <translation>A page for the browser needs the clear look.</translation>
+    </message>
+    <message>
+        <source>%1 Use %2, which fits?</source>
+        <translation>%1 Use %2, which fits?</translation>
     </message>
 </context>
 <context>
@@ -2294,6 +2322,65 @@ Do you want to save your changes?</translation>
         <source>an SVG of it would have more than %1 MiB; a PDF is smaller</source>
         <translation>an SVG of it would have more than %1 MiB; a PDF is smaller</translation>
     </message>
+    <message>
+        <source>%1; it fits at a scale of %2</source>
+        <translation>%1; it fits at a scale of %2</translation>
+    </message>
+</context>
+<context>
+    <name>PictureLookFields</name>
+    <message>
+        <source>Le&amp;gend</source>
+        <translation>Le&amp;gend</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Clear</translation>
+    </message>
+    <message>
+        <source>Classic</source>
+        <translation>Classic</translation>
+    </message>
+    <message>
+        <source>Loo&amp;k:</source>
+        <translation>Loo&amp;k:</translation>
+    </message>
+    <message>
+        <source>As on the screen</source>
+        <translation>As on the screen</translation>
+    </message>
+    <message>
+        <source>&amp;Page:</source>
+        <translation>&amp;Page:</translation>
+    </message>
+    <message>
+        <source>Colours</source>
+        <translation>Colours</translation>
+    </message>
+    <message>
+        <source>Grey</source>
+        <translation>Grey</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Dark</translation>
+    </message>
+    <message>
+        <source>On the right</source>
+        <translation>On the right</translation>
+    </message>
+    <message>
+        <source>On the left</source>
+        <translation>On the left</translation>
+    </message>
+    <message>
+        <source>Pale&amp;tte:</source>
+        <translation>Pale&amp;tte:</translation>
+    </message>
+    <message>
+        <source>Hea&amp;d:</source>
+        <translation>Hea&amp;d:</translation>
+    </message>
 </context>
 <context>
     <name>PictureSizeFields</name>
@@ -2320,6 +2407,10 @@ Do you want to save your changes?</translation>
     <message>
         <source>%1 × %2 pixels</source>
         <translation>%1 × %2 pixels</translation>
+    </message>
+    <message>
+        <source>&amp;Use %1, which fits</source>
+        <translation>&amp;Use %1, which fits</translation>
     </message>
 </context>
 <context>

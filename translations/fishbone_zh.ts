@@ -1295,6 +1295,18 @@ What is left out, or put where it can be kept, is listed on the error output.</s
         <source>PowerPoint slide (*.%1)</source>
         <translation>PowerPoint 幻灯片 (*.%1)</translation>
     </message>
+    <message>
+        <source>Copy as p&amp;icture</source>
+        <translation>复制为图片(&amp;I)</translation>
+    </message>
+    <message>
+        <source>Copied as a picture</source>
+        <translation>已复制为图片</translation>
+    </message>
+    <message>
+        <source>Not copied as a picture: %1</source>
+        <translation>未能复制为图片：%1</translation>
+    </message>
 </context>
 <context>
     <name>ExportDialog</name>
@@ -1317,14 +1329,6 @@ What is left out, or put where it can be kept, is listed on the error output.</s
     <message>
         <source>&amp;Background:</source>
         <translation>背景(&amp;B)：</translation>
-    </message>
-    <message>
-        <source>Pictures (*.png *.svg *.pdf)</source>
-        <translation>图片 (*.png *.svg *.pdf)</translation>
-    </message>
-    <message>
-        <source>The file name must end in .png, .svg or .pdf.</source>
-        <translation>文件名必须以 .png、.svg 或 .pdf 结尾。</translation>
     </message>
     <message>
         <source>%1 exists already. Replace it?</source>
@@ -1365,6 +1369,30 @@ What is left out, or put where it can be kept, is listed on the error output.</s
     <message>
         <source>This cannot be exported: %1.</source>
         <translation>无法导出：%1。</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>预览</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>深色</translation>
+    </message>
+    <message>
+        <source>Pictures (*.png *.svg *.pdf *.html)</source>
+        <translation>图片 (*.png *.svg *.pdf *.html)</translation>
+    </message>
+    <message>
+        <source>The file name must end in .png, .svg, .pdf or .html.</source>
+        <translation>文件名须以 .png、.svg、.pdf 或 .html 结尾。</translation>
+    </message>
+    <message>
+        <source>A page for the browser needs the clear look.</source>
+        <translation>浏览器页面需要清晰外观。</translation>
+    </message>
+    <message>
+        <source>%1 Use %2, which fits?</source>
+        <translation>%1 改用可行的 %2？</translation>
     </message>
 </context>
 <context>
@@ -2289,6 +2317,65 @@ Do you want to save your changes?</source>
         <source>an SVG of it would have more than %1 MiB; a PDF is smaller</source>
         <translation>其 SVG 将超过 %1 MiB；PDF 更小</translation>
     </message>
+    <message>
+        <source>%1; it fits at a scale of %2</source>
+        <translation>%1；比例为 %2 时可行</translation>
+    </message>
+</context>
+<context>
+    <name>PictureLookFields</name>
+    <message>
+        <source>Le&amp;gend</source>
+        <translation>图例(&amp;G)</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>清晰</translation>
+    </message>
+    <message>
+        <source>Classic</source>
+        <translation>经典</translation>
+    </message>
+    <message>
+        <source>Loo&amp;k:</source>
+        <translation>外观(&amp;K)：</translation>
+    </message>
+    <message>
+        <source>As on the screen</source>
+        <translation>与屏幕相同</translation>
+    </message>
+    <message>
+        <source>&amp;Page:</source>
+        <translation>页面(&amp;P)：</translation>
+    </message>
+    <message>
+        <source>Colours</source>
+        <translation>彩色</translation>
+    </message>
+    <message>
+        <source>Grey</source>
+        <translation>灰色</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>深色</translation>
+    </message>
+    <message>
+        <source>On the right</source>
+        <translation>在右</translation>
+    </message>
+    <message>
+        <source>On the left</source>
+        <translation>在左</translation>
+    </message>
+    <message>
+        <source>Pale&amp;tte:</source>
+        <translation>配色(&amp;T)：</translation>
+    </message>
+    <message>
+        <source>Hea&amp;d:</source>
+        <translation>鱼头(&amp;D)：</translation>
+    </message>
 </context>
 <context>
     <name>PictureSizeFields</name>
@@ -2315,6 +2402,10 @@ Do you want to save your changes?</source>
     <message>
         <source>%1 × %2 pixels</source>
         <translation>%1 × %2 像素</translation>
+    </message>
+    <message>
+        <source>&amp;Use %1, which fits</source>
+        <translation>使用可行的 %1(&amp;U)</translation>
     </message>
 </context>
 <context>

@@ -128,6 +128,12 @@ void ClearContent::add(const TreeItem *item, int parent, ClearPictureContent &co
 
 ClearPictureContent ClearContent::of(const TreeItem *head, int levels)
 {
+    return of(head,
+              [levels](const TreeItem &, int level) { return levels < 0 || level <= levels; });
+}
+
+ClearPictureContent ClearContent::of(const TreeItem *head, const Shows &shows)
+{
     ClearPictureContent content;
     content.linkIcon = QStringLiteral(":/fishboneDiagram/link.png");
     ClearSymbols symbols;
@@ -140,7 +146,7 @@ ClearPictureContent ClearContent::of(const TreeItem *head, int levels)
         const int level = content.meanings.back().level;
         symbols.add(*item, content.looks.back(), level);
         const QList<TreeItem *> &children = item->childItems();
-        if (levels >= 0 && level > levels) {
+        if (index > 0 && !shows(*item, level)) {
             content.subjects.back().hidden = countBelow(*item);
             continue;
         }

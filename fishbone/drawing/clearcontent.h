@@ -7,6 +7,7 @@
 
 #include <QCoreApplication>
 
+#include <functional>
 #include <map>
 #include <optional>
 #include <set>
@@ -38,6 +39,12 @@ public:
      * all of them when that is negative; subjects above what is left out say how much that is. The
      * legend has the statuses that occur. Linear, without recursion. */
     static ClearPictureContent of(const TreeItem *head, int levels = -1);
+
+    /** Whether what is below a subject on that level is shown; the head is on level 0. */
+    using Shows = std::function<bool(const TreeItem &subject, int level)>;
+    /** The same with what is below those subjects that @p shows tells; always what is below the
+     * head. */
+    static ClearPictureContent of(const TreeItem *head, const Shows &shows);
 
     /** What the status @p status means, translated; empty for one without an icon. */
     static QString meaningOf(int status);

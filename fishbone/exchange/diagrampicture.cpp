@@ -8,6 +8,8 @@
 #include <fishbone/drawing/clearcontent.h>
 #include <fishbone/drawing/clearpainter.h>
 #include <fishbone/exchange/htmlpicture.h>
+#include <fishbone/exchange/picturepart.h>
+#include <fishbone/exchange/picturetexts.h>
 #include <fishbone/exchange/svgpicture.h>
 
 #include <QBuffer>
@@ -90,6 +92,14 @@ DiagramPicture::DiagramPicture(const TreeItem *head, const DiagramLook::Options 
 {
 }
 
+DiagramPicture::DiagramPicture(const TreeItem *head, const DiagramLook::Options &options,
+                               const Shows &shows)
+    : m_data(std::make_unique<Data>(
+          ClearContent::of(head, [&shows](const TreeItem &subject, int) { return shows(subject); }),
+          options))
+{
+}
+
 DiagramPicture::~DiagramPicture() = default;
 
 void DiagramPicture::arrangeFor(const QSizeF &page)
@@ -121,6 +131,37 @@ QSizeF DiagramPicture::size() const
 double DiagramPicture::textSizeOn(const QSizeF &page) const
 {
     return ClearMeasure::causeSize * ClearArrangement::scaleOn(page, m_data->layout->bounds());
+}
+
+void DiagramPicture::paint(QPainter &painter, const QRectF &target) const
+{
+    paintInto(painter, m_data->picture(), target);
+}
+
+void DiagramPicture::paint(QPainter &painter, const QRectF &target, const QRectF &source) const
+{
+    const ClearPicture picture = m_data->picture();
+    const QPointF corner = picture.bounds().topLeft();
+    const qreal scale = target.width() / source.width();
+    painter.save();
+    painter.setClipRect(target, Qt::IntersectClip);
+    painter.translate(target.topLeft());
+    painter.scale(scale, scale);
+    painter.translate(-source.topLeft() - corner);
+    PicturePart sink(painter, source.translated(corner));
+    picture.describe(sink);
+    painter.restore();
+}
+
+QList<QRectF> DiagramPicture::texts() const
+{
+    const ClearPicture picture = m_data->picture();
+    PictureTexts texts;
+    picture.describe(texts);
+    QList<QRectF> rects = texts.rects();
+    for (QRectF &rect : rects)
+        rect.translate(-picture.bounds().topLeft());
+    return rects;
 }
 
 bool DiagramPicture::canWrite(const QString &fileName)
@@ -158,7 +199,7 @@ Result DiagramPicture::render(PictureExport::Format format, const PictureOptions
                    ? Result()
                    : Result{Error::CannotWrite, tr("it cannot be written")};
     }
-    if (Result check = PictureExport::check(format, size); !check)
+    if (Result check = PictureExport::check(format, size, options); !check)
         return check;
     const double margin =
         options.margin * ClearArrangement::scaleOn(

@@ -8,11 +8,15 @@
 #include <fishbone/fishbone_export.h>
 
 #include <QByteArray>
+#include <QList>
+#include <QRectF>
 #include <QSizeF>
 #include <QString>
 
+#include <functional>
 #include <memory>
 
+class QPainter;
 class TreeItem;
 
 /**
@@ -39,6 +43,10 @@ public:
      */
     explicit DiagramPicture(const TreeItem *head, const DiagramLook::Options &options = {},
                             int levels = allLevels);
+    /** Whether what is below a subject is shown; else it is counted. */
+    using Shows = std::function<bool(const TreeItem &subject)>;
+    /** The same with what is below those subjects that @p shows tells, and below the head. */
+    DiagramPicture(const TreeItem *head, const DiagramLook::Options &options, const Shows &shows);
     ~DiagramPicture();
 
     /**
@@ -65,6 +73,18 @@ public:
      * their font. */
     double textSizeOn(const QSizeF &page) const;
 
+    /** Paints it as large as it fits into @p target, in whose middle it stands, and nothing behind
+     * it. */
+    void paint(QPainter &painter, const QRectF &target) const;
+    /** Paints the part @p source, in the coordinates of the drawing at 100 % from its left upper
+     * corner on, into @p target, which has the same shape; nothing of the rest. */
+    void paint(QPainter &painter, const QRectF &target, const QRectF &source) const;
+    /** Where texts, icons and what is filled behind them stand, in the same coordinates. */
+    QList<QRectF> texts() const;
+    /** Stores the bytes of a picture in @p bytes. */
+    PictureExport::Result render(PictureExport::Format format, const PictureOptions &options,
+                                 QByteArray &bytes) const;
+
     /** Whether the suffix of @p fileName, in any case, names a format that can be written: .png,
      * .svg, .pdf or .html. */
     static bool canWrite(const QString &fileName);
@@ -87,8 +107,6 @@ public:
 private:
     struct Data;
 
-    PictureExport::Result render(PictureExport::Format format, const PictureOptions &options,
-                                 QByteArray &bytes) const;
     QByteArray page(const PictureOptions &options) const;
 
     std::unique_ptr<Data> m_data;

@@ -352,6 +352,37 @@ PictureExport::Result PictureExport::check(Format format, const QSizeF &size)
     return {};
 }
 
+PictureExport::Result PictureExport::check(Format format, const QSizeF &size,
+                                           const PictureOptions &options)
+{
+    Result result = check(format, size);
+    const double scale = roundedScale(options.scale * fittingFactor(format, size));
+    if (!result && !options.size.isValid() && scale > 0)
+        result.reason = tr("%1; it fits at a scale of %2").arg(result.reason).arg(scale);
+    return result;
+}
+
+double PictureExport::fittingFactor(Format format, const QSizeF &size)
+{
+    if (check(format, size))
+        return 1;
+    double fits = 0;
+    double tooMuch = 1;
+    constexpr int steps = 40;
+    for (int step = 0; step < steps; ++step) {
+        const double middle = (fits + tooMuch) / 2;
+        const QSizeF smaller(std::ceil(size.width() * middle), std::ceil(size.height() * middle));
+        (check(format, smaller) ? fits : tooMuch) = middle;
+    }
+    return fits;
+}
+
+double PictureExport::roundedScale(double scale)
+{
+    constexpr double decimals = 1000;
+    return std::floor(scale * decimals) / decimals;
+}
+
 double PictureExport::millimetresPerUnit()
 {
     constexpr double millimetresPerInch = 25.4;
@@ -370,7 +401,7 @@ PictureExport::Result PictureExport::render(QGraphicsScene &scene, Format format
     const Frame frame = frameFor(extent.rect, options);
     if (frame.size.isEmpty())
         return {Error::BadOptions, tr("a drawing without height or width needs a margin")};
-    if (Result check = PictureExport::check(format, frame.size); !check)
+    if (Result check = PictureExport::check(format, frame.size, options); !check)
         return check;
     Drawing drawing(scene, extent, frame, options);
     Result result = drawAs(format, drawing, picture);

@@ -111,6 +111,14 @@ public:
     /** Whether a picture of @p size picture units can be made: what is too large is refused here,
      * before anybody makes room for it. */
     static Result check(Format format, const QSizeF &size);
+    /** The same for a picture with @p options, whose scale gave it that size: the reason tells
+     * which scale fits. */
+    static Result check(Format format, const QSizeF &size, const PictureOptions &options);
+    /** The largest factor, at most 1, by which a picture of @p size picture units has to be made
+     * smaller so that it can be made. */
+    static double fittingFactor(Format format, const QSizeF &size);
+    /** The largest scale of three decimals that is not above @p scale. */
+    static double roundedScale(double scale);
     /** The millimetres of a PDF's page for each picture unit. */
     static double millimetresPerUnit();
 

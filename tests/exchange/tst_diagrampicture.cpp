@@ -14,10 +14,13 @@
 #include <QImage>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QPainter>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QXmlStreamReader>
 #include <QtTest>
+
+#include <cmath>
 
 namespace {
 
@@ -27,6 +30,12 @@ QByteArray contentOf(const QString &fileName)
 {
     QFile file(fileName);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+/// What of its uuid names a subject in a file.
+QByteArray idOf(const TreeItem &subject)
+{
+    return subject.uuid().mid(1, 36).toUtf8();
 }
 
 } // namespace
@@ -44,6 +53,9 @@ private Q_SLOTS:
     void shouldBeLargestWhenArranged();
     void shouldTellTheArrangementToAnEditor();
     void shouldSayHowManyAreLeftOut();
+    void shouldShowWhatIsExpanded();
+    void shouldPaintInParts();
+    void shouldTellWhereTextsStand();
     void shouldKeepTheFileThatCannotBeReplaced();
     void shouldSayWhenAPictureIsTooLarge();
 
@@ -190,6 +202,61 @@ void TestDiagramPicture::shouldSayHowManyAreLeftOut()
     for (const QString &count : counts)
         all += count.toInt();
     QCOMPARE(all, 78 - head()->childCount()); // 79 subjects with the head
+}
+
+void TestDiagramPicture::shouldShowWhatIsExpanded()
+{
+    const TreeItem *const expanded = head()->childAtIndex(1);
+    const DiagramPicture picture(head(), {},
+                                 [expanded](const TreeItem &item) { return &item == expanded; });
+    QByteArray svg;
+    QVERIFY(picture.render(PictureExport::Format::Svg, PictureOptions(), svg));
+    for (const TreeItem *category : head()->childItems()) {
+        for (const TreeItem *cause : category->childItems()) {
+            QCOMPARE(svg.contains(idOf(*cause)), category == expanded);
+            for (const TreeItem *deeper : cause->childItems())
+                QVERIFY(!svg.contains(idOf(*deeper)));
+        }
+    }
+}
+
+void TestDiagramPicture::shouldPaintInParts()
+{
+    const DiagramPicture picture(head());
+    const QSize size(int(std::ceil(picture.size().width())),
+                     int(std::ceil(picture.size().height())));
+    const auto painted = [&](const QList<QRectF> &parts) {
+        QImage image(size, QImage::Format_RGB32);
+        image.fill(Qt::white);
+        QPainter painter(&image);
+        for (const QRectF &part : parts)
+            picture.paint(painter, part, part);
+        return image;
+    };
+    const QRectF whole(QPointF(0, 0), size);
+    const QImage atOnce = painted({whole});
+    QVERIFY(atOnce != painted({}));
+    const qreal x = std::floor(whole.width() / 2);
+    QCOMPARE(
+        painted({QRectF(0, 0, x, whole.height()), QRectF(x, 0, whole.width() - x, whole.height())}),
+        atOnce);
+    // Half as large.
+    QImage small(size / 2, QImage::Format_RGB32);
+    small.fill(Qt::white);
+    QPainter painter(&small);
+    picture.paint(painter, QRectF(QPointF(), QSizeF(size) / 2), whole);
+    painter.end();
+    QVERIFY(small.pixelColor(small.width() - 20, small.height() / 2) != QColor(Qt::white));
+}
+
+void TestDiagramPicture::shouldTellWhereTextsStand()
+{
+    const DiagramPicture picture(head());
+    const QList<QRectF> texts = picture.texts();
+    QVERIFY(texts.size() >= 79); // one for each subject
+    const QRectF whole(QPointF(), picture.size());
+    for (const QRectF &text : texts)
+        QVERIFY(whole.adjusted(-1, -1, 1, 1).contains(text));
 }
 
 void TestDiagramPicture::shouldKeepTheFileThatCannotBeReplaced()

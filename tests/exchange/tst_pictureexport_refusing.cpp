@@ -25,6 +25,8 @@ private Q_SLOTS:
     void shouldRefuseADrawingWithoutHeightThatHasNoMargin();
     void shouldRefuseWhatIsTooLarge_data();
     void shouldRefuseWhatIsTooLarge();
+    void shouldSayWhichScaleFits_data();
+    void shouldSayWhichScaleFits();
     void shouldRefuseAnEmptyScene();
     void shouldRefuseAnUnknownSuffix();
     void shouldRefuseANumberThatIsNoFormat();
@@ -104,6 +106,36 @@ void TestPictureExportRefusing::shouldRefuseWhatIsTooLarge()
     QCOMPARE(result.error, Error::TooLarge);
     QVERIFY(!result.reason.isEmpty());
     QVERIFY(picture.isEmpty());
+}
+
+void TestPictureExportRefusing::shouldSayWhichScaleFits_data()
+{
+    QTest::addColumn<Format>("format");
+    QTest::addColumn<QSizeF>("size");
+    QTest::newRow("wide png") << Format::Png << QSizeF(100000, 50);
+    QTest::newRow("large png") << Format::Png << QSizeF(30000, 30000);
+    QTest::newRow("pdf") << Format::Pdf << QSizeF(100, 90000);
+    QTest::newRow("svg") << Format::Svg << QSizeF(3e6, 100);
+}
+
+void TestPictureExportRefusing::shouldSayWhichScaleFits()
+{
+    QFETCH(Format, format);
+    QFETCH(QSizeF, size);
+    const double factor = PictureExport::fittingFactor(format, size);
+    QVERIFY(factor > 0 && factor < 1);
+    QVERIFY(PictureExport::check(format, size * factor));
+    QVERIFY(!PictureExport::check(format, size * (factor * 1.01)));
+    QCOMPARE(PictureExport::fittingFactor(format, QSizeF(100, 100)), 1.0);
+
+    const double scale = PictureExport::roundedScale(2 * factor);
+    QVERIFY(scale <= 2 * factor && scale > 2 * factor - 0.001);
+    const auto result = PictureExport::check(format, size, scaledBy(2));
+    QCOMPARE(result.error, Error::TooLarge);
+    QVERIFY2(result.reason.endsWith(QStringLiteral(" %1").arg(scale)), qPrintable(result.reason));
+    QVERIFY(PictureExport::check(format, QSizeF(100, 100), scaledBy(2)));
+    const auto sized = PictureExport::check(format, size, ofSize(size.toSize()));
+    QCOMPARE(sized.reason, PictureExport::check(format, size).reason); // it has no scale
 }
 
 void TestPictureExportRefusing::shouldRefuseAnEmptyScene()
