@@ -5,6 +5,7 @@
 
 #include <app/commandline/commandline.h>
 #include <app/common/canvastheme.h>
+#include <app/export/clearexport.h>
 #include <app/export/leveldrawing.h>
 #include <app/files/documentloader.h>
 #include <app/files/importsummary.h>
@@ -53,35 +54,18 @@ int drawSlide(FishModel &model, FishInfo *document, const CommandLine &line, QSt
     return CommandLine::failure;
 }
 
-constexpr double usualDots = 96;    ///< an inch
-constexpr double printedDots = 192; ///< an inch of paper, as pixels
-constexpr double millimetresPerInch = 25.4;
-constexpr double clearMargin = 8;
-
 /** Draws the diagram below @p head in the clear look into the target of @p line. */
 PictureExport::Result drawClear(const TreeItem *head, const CommandLine &line,
-                                PictureOptions options)
+                                const PictureOptions &options)
 {
     const LookChoice &look = line.look;
-    DiagramPicture picture(head, look.options, line.levels);
+    DiagramPicture picture(head, look.view.options, line.levels);
     const QSizeF slide(16, 9);
-    picture.arrangeFor(!look.page.isEmpty()      ? look.page
+    picture.arrangeFor(look.page                 ? look.page->size
                        : !options.size.isEmpty() ? QSizeF(options.size)
                                                  : slide);
-    options.margin = clearMargin;
-    if (look.options.palette == DiagramLook::DarkColors && options.background == Qt::white)
-        options.background = QColor(0x1e, 0x21, 0x26);
-    if (look.page.isEmpty())
-        return picture.write(line.target, options);
-    const double unit = look.isMillimetres ? 1 : millimetresPerInch / usualDots;
-    if (PictureExport::formatOf(line.target) == PictureExport::Format::Pdf)
-        return picture.writePage(line.target, look.page * unit, DiagramPicture::pageMargin,
-                                 options);
-    if (options.size.isEmpty()) {
-        const double dots = look.isMillimetres ? printedDots / millimetresPerInch : 1;
-        options.size = (look.page * dots).toSize();
-    }
-    return picture.write(line.target, options);
+    return ClearExport::write(picture, look.page, line.target,
+                              ClearExport::suited(options, look.view.options));
 }
 
 /** Draws @p document of @p model in the classic look. */
@@ -102,7 +86,7 @@ int drawPicture(FishModel &model, FishInfo *document, const CommandLine &line, Q
     const TreeItem *const head = document->treeItem()->childAtIndex(0);
     PictureOptions options = line.options;
     options.title = head->title();
-    const PictureExport::Result result = line.look.kind == DiagramLook::Clear
+    const PictureExport::Result result = line.look.view.look == DiagramLook::Clear
                                              ? drawClear(head, line, options)
                                              : drawClassic(model, document, line, options);
     if (result)

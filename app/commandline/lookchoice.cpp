@@ -5,7 +5,6 @@
 
 #include <QCommandLineParser>
 #include <QHash>
-#include <QRegularExpression>
 
 namespace {
 
@@ -56,45 +55,32 @@ QString LookChoice::read(const QCommandLineParser &parser)
     if (parser.isSet(lookName) &&
         !choose<DiagramLook::Kind>({{QStringLiteral("clear"), DiagramLook::Clear},
                                     {QStringLiteral("classic"), DiagramLook::Classic}},
-                                   parser.value(lookName), kind))
+                                   parser.value(lookName), view.look))
         return wrong(lookName, tr("clear or classic"));
     for (const QString &name : {pageName, legendName, noLegendName, paletteName, headName}) {
-        if (kind == DiagramLook::Classic && parser.isSet(name))
+        if (view.look == DiagramLook::Classic && parser.isSet(name))
             return tr("--%1 needs the clear look").arg(name);
     }
-    options.hasLegend = !parser.isSet(noLegendName);
+    view.options.hasLegend = !parser.isSet(noLegendName);
     if (parser.isSet(paletteName) &&
         !choose<DiagramLook::Palette>({{QStringLiteral("colour"), DiagramLook::DistinctColors},
                                        {QStringLiteral("color"), DiagramLook::DistinctColors},
                                        {QStringLiteral("gray"), DiagramLook::GrayColors},
                                        {QStringLiteral("grey"), DiagramLook::GrayColors},
                                        {QStringLiteral("dark"), DiagramLook::DarkColors}},
-                                      parser.value(paletteName), options.palette))
+                                      parser.value(paletteName), view.options.palette))
         return wrong(paletteName, tr("colour, gray or dark"));
     if (parser.isSet(headName) &&
         !choose<bool>({{QStringLiteral("left"), true}, {QStringLiteral("right"), false}},
-                      parser.value(headName), options.isHeadLeft))
+                      parser.value(headName), view.options.isHeadLeft))
         return wrong(headName, tr("left or right"));
     return parser.isSet(pageName) ? readPage(parser.value(pageName)) : QString();
 }
 
 QString LookChoice::readPage(const QString &text)
 {
-    isMillimetres = true;
-    if (choose<QSizeF>({{QStringLiteral("a4"), QSizeF(297, 210)},
-                        {QStringLiteral("a3"), QSizeF(420, 297)},
-                        {QStringLiteral("letter"), QSizeF(279.4, 215.9)}},
-                       text, page))
-        return QString();
-    static const QRegularExpression form(
-        QStringLiteral("^([0-9]{1,5}(?:\\.[0-9]{1,3})?)x([0-9]{1,5}(?:\\.[0-9]{1,3})?)(mm|px)?$"),
-        QRegularExpression::CaseInsensitiveOption);
-    const QRegularExpressionMatch match = form.match(text);
-    isMillimetres = match.captured(3).compare(QLatin1String("mm"), Qt::CaseInsensitive) == 0;
-    page = QSizeF(match.captured(1).toDouble(), match.captured(2).toDouble());
-    if (text == QLatin1String("16:9"))
-        page = QSizeF(1920, 1080);
-    if (!page.isEmpty())
+    page = PageSize::of(text);
+    if (page)
         return QString();
     return tr("--%1 takes %2, not \"%3\"")
         .arg(pageName, tr("16:9, A4, A3, Letter or a size such as 1920x1080 or 297x210mm"), text);

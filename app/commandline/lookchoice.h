@@ -3,13 +3,15 @@
 
 #pragma once
 
-#include <fishbone/drawing/diagramlook.h>
+#include <app/diagram/diagramview.h>
+#include <app/diagram/pagesize.h>
 
 #include <QCommandLineOption>
 #include <QCoreApplication>
 #include <QList>
-#include <QSizeF>
 #include <QString>
+
+#include <optional>
 
 class QCommandLineParser;
 
@@ -26,10 +28,8 @@ public:
      */
     QString read(const QCommandLineParser &parser);
 
-    DiagramLook::Kind kind = DiagramLook::Clear;
-    DiagramLook::Options options;
-    QSizeF page;                ///< what to arrange it for; empty for no page in particular
-    bool isMillimetres = false; ///< the page is of paper, else of pixels
+    DiagramView view;
+    std::optional<PageSize> page; ///< what to arrange it for; nothing for no page in particular
 
 private:
     QString readPage(const QString &text);

@@ -7,10 +7,11 @@
 #include <app/common/busycursor.h>
 #include <app/common/canvastheme.h>
 #include <app/common/plainbox.h>
-#include <app/common/selectionhidden.h>
 #include <app/common/workprogress.h>
 #include <app/diagram/diagramsession.h>
+#include <app/export/clearexport.h>
 #include <app/export/exportdialog.h>
+#include <app/export/picturecopy.h>
 #include <app/export/picturesource.h>
 #include <app/export/printpreview.h>
 
@@ -24,8 +25,11 @@
 #include <fishbone/model/treeitem.h>
 
 #include <QAction>
+#include <QClipboard>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QGuiApplication>
+#include <QMimeData>
 #include <QWidget>
 
 #include <optional>
@@ -78,6 +82,9 @@ ExportCommands::ExportCommands(DiagramSession *session, CanvasTheme *theme, Acti
         QStringLiteral("exportAs"), [] { return tr("E&xport as…"); },
         {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_E)}, Scope::Window, [this] { exportAs(); });
     actions->add(
+        QStringLiteral("copyPicture"), [] { return tr("Copy as p&icture"); },
+        {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_C)}, Scope::Window, [this] { copyPicture(); });
+    actions->add(
         QStringLiteral("print"), [] { return tr("&Print…"); }, {QKeySequence::Print}, Scope::Window,
         [this] { print(); });
     actions->add(
@@ -88,8 +95,17 @@ ExportCommands::ExportCommands(DiagramSession *session, CanvasTheme *theme, Acti
 
 void ExportCommands::updateActions()
 {
-    for (const char *name : {"export", "exportAs", "print", "printPreview"})
+    for (const char *name : {"export", "exportAs", "copyPicture", "print", "printPreview"})
         m_actions->action(QLatin1String(name))->setEnabled(m_session->document());
+}
+
+/** How the document is shown, in the colours for paper. */
+DiagramView ExportCommands::shownView() const
+{
+    DiagramView view{m_editor->look(), QString(), m_editor->lookOptions()};
+    if (m_theme->isDark() && view.options.palette == DiagramLook::DarkColors)
+        view.options.palette = DiagramLook::DistinctColors; // which are dark for the canvas alone
+    return view;
 }
 
 /** The name of the shown document with another ending, beside its file. */
@@ -104,13 +120,17 @@ void ExportCommands::exportPicture()
     if (!m_session->document())
         return;
     PictureSource source(m_editor);
-    const auto extent = [this, &source](std::optional<int> levels) {
+    const auto extent = [this, &source](const PictureWish &wish) {
         const BusyCursor busy(m_session->container());
-        source.setLevels(levels);
-        return PictureExport::visibleRect(*source.scene());
+        source.setWish(wish);
+        return source.extent();
+    };
+    const auto paint = [&source](QPainter &painter, const QRectF &target) {
+        source.paint(painter, target);
     };
     ExportDialog dialog(proposedName(QStringLiteral("png")),
-                        {source.depth(), m_theme->canvasColor(), extent}, m_window);
+                        {source.depth(), m_theme->canvasColor(), shownView(), extent, paint},
+                        m_window);
     // What cannot be written can be chosen otherwise.
     while (dialog.exec() == QDialog::Accepted) {
         const PictureExport::Result result = writePicture(source, dialog);
@@ -130,6 +150,11 @@ PictureExport::Result ExportCommands::writePicture(PictureSource &source,
 {
     PictureOptions options = dialog.options();
     options.title = source.title();
+    source.setWish(dialog.wish());
+    if (dialog.wish().view.look == DiagramLook::Clear) {
+        const BusyCursor busy;
+        return ClearExport::write(source.picture(), dialog.page(), dialog.fileName(), options);
+    }
     WorkProgress progress(tr("Writing %1…").arg(QFileInfo(dialog.fileName()).fileName()), m_window);
     options.progress = [&progress](int done, int total) { return progress.report(done, total); };
     PictureExport::Result result;
@@ -138,13 +163,32 @@ PictureExport::Result ExportCommands::writePicture(PictureSource &source,
         if (dialog.isLight() && m_theme->isDark())
             paper.emplace(m_theme, m_editor);
         const UpdatesHeld still(m_window); // the window does not show what is meant for the picture
-        source.setLevels(dialog.levels());
-        source.update();
-        const SelectionHidden unmarked(source.scene());
         result = PictureExport::write(*source.scene(), dialog.fileName(), options);
     }
     m_session->touch(); // who looked while nothing was selected looks again
     return result;
+}
+
+/** Puts a picture of what is selected, or of all, on the clipboard. */
+void ExportCommands::copyPicture()
+{
+    PictureExport::Result result;
+    std::unique_ptr<QMimeData> data;
+    {
+        const BusyCursor busy(m_session->container());
+        const DiagramView view = shownView();
+        std::optional<CanvasTheme::Paper> paper;
+        if (view.look == DiagramLook::Classic && m_theme->isDark())
+            paper.emplace(m_theme, m_editor);
+        PictureSource source(m_editor, PictureSource::Part::Selection);
+        source.setWish({std::nullopt, view});
+        data = PictureCopy::of(source, ClearExport::paperOf(view.options.palette), result);
+    }
+    m_session->touch(); // who looked while the canvas was paper looks again
+    if (data)
+        QGuiApplication::clipboard()->setMimeData(data.release()); // which takes it over
+    Q_EMIT message(result ? tr("Copied as a picture")
+                          : tr("Not copied as a picture: %1").arg(result.reason));
 }
 
 /** Asks for the file of exportAs(); its ending tells the format. Empty when the user cancels. */
@@ -179,9 +223,9 @@ QString ExportCommands::writeAs(const FishInfo &document, const QString &path) c
     QString reason;
     const TreeItem &head = *document.treeItem()->childAtIndex(0);
     if (isSlide) {
-        const SelectionHidden unmarked(m_editor->scene());
-        return SlideExport::write(*m_editor->scene(), head, path, SlideExport::Aspect::Wide,
-                                  &reason)
+        PictureSource source(m_editor);
+        source.setWish({std::nullopt, shownView()});
+        return SlideExport::write(*source.scene(), head, path, SlideExport::Aspect::Wide, &reason)
                    ? QString()
                    : reason;
     }

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <app/diagram/diagramview.h>
 #include <app/editing/diagramcommands.h>
 
 #include <fishbone/exchange/pictureexport.h>
@@ -32,6 +33,7 @@ Q_SIGNALS:
     void message(const QString &text);
 
 private:
+    DiagramView shownView() const;
     QString proposedName(const QString &suffix) const;
     void exportPicture();
     PictureExport::Result writePicture(PictureSource &source, const ExportDialog &dialog);
@@ -39,6 +41,7 @@ private:
     static QString lossesOf(const FishInfo &document, const QString &path);
     void exportAs();
     QString targetOfExport() const;
+    void copyPicture();
     void print();
     void previewPrint();
     QString shownTitle() const;

@@ -5,7 +5,11 @@
 
 #include <app/common/plainbox.h>
 #include <app/diagram/expansion.h>
+#include <app/export/clearexport.h>
+#include <app/export/picturelookfields.h>
 #include <app/export/picturesizefields.h>
+
+#include <fishbone/exchange/diagrampicture.h>
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -16,6 +20,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPainter>
 #include <QPushButton>
 #include <QSettings>
 #include <QSpinBox>
@@ -36,6 +41,8 @@ enum class Background {
     Transparent,
     Canvas,
 };
+
+constexpr QSize previewSize(400, 300);
 
 QString expandedKey()
 {
@@ -73,26 +80,44 @@ ExportDialog::ExportDialog(const QString &path, Subject subject, QWidget *parent
     , m_levels(new QSpinBox(this))
     , m_light(new QCheckBox(tr("&Light, as on paper"), this))
     , m_background(new QComboBox(this))
+    , m_preview(new QLabel(this))
 {
     setWindowTitle(tr("Export picture"));
-    auto *const layout = new QFormLayout(this);
-    addFile(layout);
-    m_size = new PictureSizeFields(layout, this);
-    addLevels(layout);
-    addColours(layout);
+    m_preview->setObjectName(QStringLiteral("preview"));
+    m_preview->setAccessibleName(tr("Preview"));
+    m_preview->setFixedSize(previewSize);
+    auto *const beside = new QHBoxLayout;
+    beside->addWidget(makeFields(), 1);
+    beside->addWidget(m_preview);
     auto *const buttons =
         new QDialogButtonBox(QDialogButtonBox::Save | QDialogButtonBox::Cancel, this);
     connect(buttons, &QDialogButtonBox::accepted, this, &ExportDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &ExportDialog::reject);
-    layout->addRow(buttons);
+    auto *const layout = new QVBoxLayout(this);
+    layout->addLayout(beside);
+    layout->addWidget(buttons);
 
     m_measuring.setSingleShot(true);
     m_measuring.setInterval(300);
     connect(&m_measuring, &QTimer::timeout, this, &ExportDialog::measure);
     restore();
-    followFile();
+    followLook();
     followLevels();
     measure();
+}
+
+QWidget *ExportDialog::makeFields()
+{
+    auto *const fields = new QWidget(this);
+    auto *const layout = new QFormLayout(fields);
+    layout->setContentsMargins(0, 0, 0, 0);
+    addFile(layout);
+    m_look = new PictureLookFields(layout, m_subject.view, this);
+    connect(m_look, &PictureLookFields::changed, this, &ExportDialog::followLook);
+    m_size = new PictureSizeFields(layout, this);
+    addLevels(layout);
+    addColours(layout);
+    return fields;
 }
 
 void ExportDialog::addFile(QFormLayout *layout)
@@ -138,6 +163,8 @@ void ExportDialog::addColours(QFormLayout *layout)
     m_background->setObjectName(QStringLiteral("background"));
     layout->addRow(QString(), m_light);
     layout->addRow(tr("&Background:"), m_background);
+    connect(m_background, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
+            &ExportDialog::showPreview);
 }
 
 /** Chooses what was chosen the last time. */
@@ -159,6 +186,7 @@ void ExportDialog::remember() const
         settings.setValue(levelsKey(), m_levels->value());
     settings.setValue(lightKey(), m_light->isChecked());
     settings.setValue(backgroundKey(), m_background->currentData());
+    m_look->remember();
     m_size->remember();
 }
 
@@ -180,9 +208,21 @@ std::optional<int> ExportDialog::levels() const
     return std::nullopt;
 }
 
+PictureWish ExportDialog::wish() const
+{
+    return {levels(), m_look->view()};
+}
+
+std::optional<PageSize> ExportDialog::page() const
+{
+    return PageSize::of(m_look->view().page);
+}
+
 bool ExportDialog::isLight() const
 {
-    return m_light->isChecked();
+    const DiagramView view = m_look->view();
+    return view.look == DiagramLook::Clear ? view.options.palette != DiagramLook::DarkColors
+                                           : m_light->isChecked();
 }
 
 PictureOptions ExportDialog::options() const
@@ -197,15 +237,28 @@ PictureOptions ExportDialog::options() const
         options.background = Qt::transparent;
         break;
     case Background::Canvas:
-        options.background = m_subject.canvas;
+        options.background = m_look->view().look == DiagramLook::Clear
+                                 ? ClearExport::paperOf(DiagramLook::DarkColors)
+                                 : m_subject.canvas;
         break;
     }
+    if (m_look->view().look == DiagramLook::Clear)
+        options.margin = ClearExport::margin;
     return options;
 }
 
 void ExportDialog::followFile()
 {
     m_size->setFormat(PictureExport::formatOf(fileName()));
+}
+
+void ExportDialog::followLook()
+{
+    m_measuring.start();
+    m_light->setEnabled(m_look->view().look == DiagramLook::Classic);
+    m_size->setPage(page());
+    followFile();
+    followLight();
 }
 
 void ExportDialog::followLevels()
@@ -220,9 +273,12 @@ void ExportDialog::followLight()
     const QVariant chosen = m_background->currentData();
     const bool wasLight = m_background->findData(int(Background::Canvas)) < 0;
     m_background->clear();
+    const bool isDark = m_look->view().look == DiagramLook::Clear && !isLight();
     if (!isLight()) // on white what is drawn for a dark screen can hardly be seen
-        m_background->addItem(tr("As on the screen"), int(Background::Canvas));
-    m_background->addItem(tr("White"), int(Background::White));
+        m_background->addItem(isDark ? tr("Dark") : tr("As on the screen"),
+                              int(Background::Canvas));
+    if (!isDark)
+        m_background->addItem(tr("White"), int(Background::White));
     m_background->addItem(tr("Transparent"), int(Background::Transparent));
     if (wasLight == isLight() || chosen == int(Background::Transparent))
         choose(m_background, chosen);
@@ -231,14 +287,42 @@ void ExportDialog::followLight()
 void ExportDialog::measure()
 {
     m_measuring.stop();
-    m_size->setDrawing(m_subject.extent(levels()));
+    m_size->setDrawing(m_subject.extent(wish()), options().margin);
+    showPreview();
+}
+
+/** Shows the picture as it is now, on its page or its background. */
+void ExportDialog::showPreview()
+{
+    if (m_measuring.isActive())
+        return; // it comes with what is measured
+    constexpr double marginOfPage = 0.03;
+    const double dots = devicePixelRatioF();
+    QPixmap pixmap((QSizeF(previewSize) * dots).toSize());
+    pixmap.setDevicePixelRatio(dots);
+    pixmap.fill(palette().color(QPalette::Window));
+    const QSizeF whole = page() ? page()->size : m_size->size();
+    if (!whole.isEmpty()) {
+        QRectF paper(QPointF(0, 0), whole.scaled(previewSize, Qt::KeepAspectRatio));
+        paper.moveCenter(QRectF(QPointF(0, 0), previewSize).center());
+        const QColor background = options().background;
+        QPainter painter(&pixmap);
+        painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+        if (background.alpha() > 0)
+            painter.fillRect(paper, background);
+        else
+            painter.fillRect(paper, QBrush(Qt::lightGray, Qt::Dense6Pattern));
+        const double margin = marginOfPage * qMin(paper.width(), paper.height());
+        m_subject.paint(painter, paper.adjusted(margin, margin, -margin, -margin));
+    }
+    m_preview->setPixmap(pixmap);
 }
 
 void ExportDialog::browse()
 {
     const QString chosen = QFileDialog::getSaveFileName(this, windowTitle(), fileName(),
-                                                        tr("Pictures (*.png *.svg *.pdf)"), nullptr,
-                                                        QFileDialog::DontConfirmOverwrite);
+                                                        tr("Pictures (*.png *.svg *.pdf *.html)"),
+                                                        nullptr, QFileDialog::DontConfirmOverwrite);
     if (!chosen.isEmpty())
         m_file->setText(chosen);
 }
@@ -246,9 +330,13 @@ void ExportDialog::browse()
 /** What is wrong with what was chosen; empty when nothing is. */
 QString ExportDialog::objection() const
 {
+    if (!DiagramPicture::canWrite(fileName()))
+        return tr("The file name must end in .png, .svg, .pdf or .html.");
     const auto format = PictureExport::formatOf(fileName());
     if (!format)
-        return tr("The file name must end in .png, .svg or .pdf.");
+        return m_look->view().look == DiagramLook::Clear
+                   ? QString()
+                   : tr("A page for the browser needs the clear look.");
     const auto check = PictureExport::check(*format, m_size->size());
     return check ? QString() : tr("This cannot be exported: %1.").arg(check.reason);
 }
@@ -258,7 +346,11 @@ void ExportDialog::accept()
     if (m_measuring.isActive())
         measure();
     if (const QString text = objection(); !text.isEmpty()) {
-        PlainBox::warning(this, windowTitle(), text);
+        const QString scale = m_size->fittingScale();
+        if (scale.isEmpty())
+            PlainBox::warning(this, windowTitle(), text);
+        else if (PlainBox::ask(this, windowTitle(), tr("%1 Use %2, which fits?").arg(text, scale)))
+            m_size->useFittingScale();
         return;
     }
     if (QFileInfo::exists(fileName()) &&

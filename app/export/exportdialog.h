@@ -3,6 +3,9 @@
 
 #pragma once
 
+#include <app/diagram/pagesize.h>
+#include <app/export/picturesource.h>
+
 #include <fishbone/exchange/pictureexport.h>
 
 #include <QDialog>
@@ -11,14 +14,17 @@
 #include <functional>
 #include <optional>
 
+class PictureLookFields;
 class PictureSizeFields;
 class QCheckBox;
 class QComboBox;
 class QFormLayout;
+class QLabel;
 class QLineEdit;
 class QSpinBox;
 
-/** Asks for the file and the looks of a picture. What was chosen last is chosen the next time. */
+/** Asks for the file and the looks of a picture, and shows what becomes of it. What was chosen last
+ * is chosen the next time. */
 class ExportDialog : public QDialog
 {
     Q_OBJECT
@@ -29,9 +35,11 @@ public:
     {
         int depth = 0;             ///< the levels of bones below the main bones
         QColor canvas = Qt::white; ///< what it is drawn on, on the screen
-        /** What the drawing covers when it is expanded so far, in scene units; as setLevels() of
-         * PictureSource takes it. May take its time. */
-        std::function<QRectF(std::optional<int> levels)> extent;
+        DiagramView view;          ///< how it is shown there
+        /** What the drawing covers when it is what is wished, in scene units. May take its time. */
+        std::function<QRectF(const PictureWish &wish)> extent;
+        /** Paints that drawing into the target. */
+        std::function<void(QPainter &painter, const QRectF &target)> paint;
     };
 
     /** Proposes the file @p path for a picture of @p subject. */
@@ -40,9 +48,13 @@ public:
     QString fileName() const;
     /** The chosen options; the title is left to the caller. */
     PictureOptions options() const;
+    /** What the picture shall show. */
+    PictureWish wish() const;
     /** How many levels below the main bones are to be expanded, Expansion::allLevels for all;
      * nothing for those that are expanded on the screen. */
     std::optional<int> levels() const;
+    /** The page that it is for, if any. */
+    std::optional<PageSize> page() const;
     /** Whether it shall look as on paper, whatever the screen looks like. */
     bool isLight() const;
 
@@ -52,6 +64,7 @@ public Q_SLOTS:
     void accept() override;
 
 private:
+    QWidget *makeFields();
     void addFile(QFormLayout *layout);
     void addLevels(QFormLayout *layout);
     void addColours(QFormLayout *layout);
@@ -60,16 +73,20 @@ private:
     void browse();
     void followFile();
     void followLevels();
+    void followLook();
     void followLight();
     void measure();
+    void showPreview();
     QString objection() const;
 
     Subject m_subject;
     QLineEdit *m_file;
-    PictureSizeFields *m_size;
+    PictureLookFields *m_look = nullptr;
+    PictureSizeFields *m_size = nullptr;
     QComboBox *m_expansion;
     QSpinBox *m_levels;
     QCheckBox *m_light;
     QComboBox *m_background;
+    QLabel *m_preview;
     QTimer m_measuring; ///< so that it is measured once for several steps of a field
 };

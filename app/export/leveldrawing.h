@@ -5,11 +5,14 @@
 
 #include <fishbone/editor/fisheditor.h>
 
+#include <QSet>
+
 class FishModel;
 class FishScene;
 class QModelIndex;
 
-/** A drawing that no window shows, expanded to a number of levels: for a picture. */
+/** A drawing that no window shows, expanded to a number of levels: for a picture. It has no
+ * buttons, but where a look says with one how much is left out. */
 class LevelDrawing
 {
 public:
@@ -17,13 +20,21 @@ public:
      */
     LevelDrawing(FishModel &model, const QModelIndex &root);
 
-    /** Expands @p levels levels of bones below the main bones, Expansion::allLevels for all. */
+    /** Draws in the look @p look from the next update() on. */
+    void setLook(DiagramLook::Kind look, DiagramLook::Options options);
+
+    /** Expands @p levels levels of bones below the main bones, Expansion::allLevels for all, and
+     * contracts all others. */
     void expand(int levels);
+    /** Expands those of @p subjects above which all are expanded, and contracts all others. */
+    void expand(const QSet<const TreeItem *> &subjects);
     /** Lays out what has changed. */
-    void update() { m_editor.updateFish(false); }
+    void update();
 
     FishScene *scene() const { return m_editor.scene(); }
 
 private:
+    void hideButtons();
+
     FishEditor m_editor;
 };

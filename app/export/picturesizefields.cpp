@@ -8,6 +8,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLocale>
+#include <QPushButton>
 #include <QSettings>
 #include <QSignalBlocker>
 #include <QSpinBox>
@@ -46,6 +47,7 @@ PictureSizeFields::PictureSizeFields(QFormLayout *layout, QWidget *parent)
     , m_width(sideField("width", parent))
     , m_height(sideField("height", parent))
     , m_result(new QLabel(parent))
+    , m_fit(new QPushButton(parent))
 {
     m_scale->setObjectName(QStringLiteral("scale"));
     m_scale->setRange(0.001, 1000);
@@ -59,6 +61,9 @@ PictureSizeFields::PictureSizeFields(QFormLayout *layout, QWidget *parent)
     layout->addRow(tr("&Width:"), m_width);
     layout->addRow(tr("&Height:"), m_height);
     layout->addRow(QString(), m_result);
+    m_fit->setObjectName(QStringLiteral("fit"));
+    layout->addRow(QString(), m_fit);
+    connect(m_fit, &QPushButton::clicked, this, &PictureSizeFields::useFittingScale);
 
     const QSettings settings;
     m_leader = Leader(qBound(0, settings.value(leaderKey()).toInt(), int(Leader::Height)));
@@ -76,10 +81,19 @@ PictureSizeFields::PictureSizeFields(QFormLayout *layout, QWidget *parent)
             [this] { follow(Leader::Height); });
 }
 
-void PictureSizeFields::setDrawing(const QRectF &drawing)
+void PictureSizeFields::setDrawing(const QRectF &drawing, double margin)
 {
     m_drawing = drawing;
+    m_margin = margin;
     follow(m_leader);
+}
+
+void PictureSizeFields::setPage(const std::optional<PageSize> &page)
+{
+    m_page = page;
+    for (QWidget *field : QList<QWidget *>{m_scale, m_width, m_height})
+        field->setEnabled(!page);
+    showResult();
 }
 
 void PictureSizeFields::setFormat(std::optional<PictureExport::Format> format)
@@ -91,8 +105,7 @@ void PictureSizeFields::setFormat(std::optional<PictureExport::Format> format)
 /** The size of the picture at a scale of 1, with its margin. */
 QSizeF PictureSizeFields::unscaledSize() const
 {
-    const double margin = PictureOptions().margin;
-    return m_drawing.adjusted(-margin, -margin, margin, margin).size();
+    return m_drawing.adjusted(-m_margin, -m_margin, m_margin, m_margin).size();
 }
 
 /** The scale that the leading field asks for. */
@@ -139,7 +152,8 @@ void PictureSizeFields::showResult()
         if (!check) {
             text = check.reason;
         } else if (*m_format == PictureExport::Format::Pdf) {
-            const QSizeF page = size * PictureExport::millimetresPerUnit();
+            const QSizeF page =
+                m_page ? m_page->millimetres() : size * PictureExport::millimetresPerUnit();
             text = tr("A page of %1 × %2 mm")
                        .arg(locale.toString(page.width(), 'f', 0),
                             locale.toString(page.height(), 'f', 0));
@@ -150,10 +164,39 @@ void PictureSizeFields::showResult()
         }
     }
     m_result->setText(text);
+    const QString scale = fittingScale();
+    m_fit->setVisible(!scale.isEmpty());
+    m_fit->setText(tr("&Use %1, which fits").arg(scale));
+}
+
+/** The largest scale that a picture of the chosen format can have. */
+double PictureSizeFields::largestScale() const
+{
+    return PictureExport::roundedScale(scale() * PictureExport::fittingFactor(*m_format, size()));
+}
+
+QString PictureSizeFields::fittingScale() const
+{
+    if (!m_format || m_page || size().isEmpty() || PictureExport::check(*m_format, size()))
+        return QString();
+    const double largest = largestScale();
+    return largest < m_scale->minimum() ? QString()
+                                        : m_scale->prefix() + m_scale->textFromValue(largest);
+}
+
+void PictureSizeFields::useFittingScale()
+{
+    if (fittingScale().isEmpty())
+        return;
+    const double largest = largestScale();
+    m_scale->setValue(largest);
+    follow(Leader::Scale); // also when it was that already, by a side
 }
 
 void PictureSizeFields::apply(PictureOptions &options) const
 {
+    if (m_page)
+        return;
     if (m_leader == Leader::Scale)
         options.scale = m_scale->value();
     else
@@ -162,7 +205,10 @@ void PictureSizeFields::apply(PictureOptions &options) const
 
 QSizeF PictureSizeFields::size() const
 {
+    if (m_page)
+        return m_page->pixels();
     PictureOptions options;
+    options.margin = m_margin;
     apply(options);
     return PictureExport::sizeOf(m_drawing, options);
 }

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include <app/diagram/pagesize.h>
+
 #include <fishbone/exchange/pictureexport.h>
 
 #include <QRectF>
@@ -13,6 +15,7 @@
 class QDoubleSpinBox;
 class QFormLayout;
 class QLabel;
+class QPushButton;
 class QSpinBox;
 
 /**
@@ -27,8 +30,11 @@ public:
     /** Adds its rows to @p layout; begins with what was entered the last time. */
     explicit PictureSizeFields(QFormLayout *layout, QWidget *parent);
 
-    /** A picture of what covers @p drawing, in scene units, is to be made. */
-    void setDrawing(const QRectF &drawing);
+    /** A picture of what covers @p drawing, in scene units, is to be made, with @p margin around
+     * it. */
+    void setDrawing(const QRectF &drawing, double margin);
+    /** It is for @p page, which gives the size; nothing for the sizes of the fields. */
+    void setPage(const std::optional<PageSize> &page);
     /** It is to be made in that format, nothing while there is none yet. */
     void setFormat(std::optional<PictureExport::Format> format);
 
@@ -36,6 +42,12 @@ public:
     void apply(PictureOptions &options) const;
     /** The size that the picture is going to have, in picture units; empty without a drawing. */
     QSizeF size() const;
+
+    /** The scale that a picture of the chosen format can have, as the field shows it; empty when
+     * the chosen one can be made, or none. */
+    QString fittingScale() const;
+    /** Chooses that scale. */
+    void useFittingScale();
 
     /** Remembers for the next time what was entered. */
     void remember() const;
@@ -51,13 +63,17 @@ private:
     QSizeF unscaledSize() const;
     double scale() const;
     void follow(Leader leader);
+    double largestScale() const;
     void showResult();
 
     QDoubleSpinBox *m_scale;
     QSpinBox *m_width;
     QSpinBox *m_height;
     QLabel *m_result;
+    QPushButton *m_fit; ///< while it is too large
     Leader m_leader = Leader::Scale;
     QRectF m_drawing;
+    double m_margin = 0;
+    std::optional<PageSize> m_page;
     std::optional<PictureExport::Format> m_format;
 };

@@ -3,53 +3,115 @@
 
 #include <app/export/picturesource.h>
 
+#include <app/diagram/pagesize.h>
 #include <app/export/leveldrawing.h>
 
 #include <fishbone/editor/fisheditor.h>
 #include <fishbone/editor/fishscene.h>
+#include <fishbone/exchange/diagrampicture.h>
+#include <fishbone/exchange/pictureexport.h>
+#include <fishbone/items/spearitem.h>
 #include <fishbone/model/fishinfo.h>
 #include <fishbone/model/fishmodel.h>
 #include <fishbone/model/treeitem.h>
 #include <fishbone/undo/editattributes.h>
 
-#include <utility>
+#include <QPainter>
+
 #include <vector>
 
 namespace {
 
-/** A copy of @p top with all that is below it. */
-std::unique_ptr<TreeItem> copyOf(const TreeItem &top)
+std::unique_ptr<TreeItem> copyOf(const TreeItem &item)
 {
-    const auto copied = [](const TreeItem &item) {
-        return std::make_unique<TreeItem>(EditAttributes::stateOf(item));
-    };
-    auto copy = copied(top);
-    std::vector<std::pair<const TreeItem *, TreeItem *>> waiting{{&top, copy.get()}};
-    while (!waiting.empty()) {
-        const auto [original, parent] = waiting.back();
-        waiting.pop_back();
-        for (const TreeItem *child : original->childItems()) {
-            TreeItem *const item = copied(*child).release();
-            parent->appendChild(item); // which takes it over
-            waiting.emplace_back(child, item);
-        }
-    }
+    auto copy = std::make_unique<TreeItem>(EditAttributes::stateOf(item));
+    copy->setUuid(item.uuid()); // which names it in a file
     return copy;
+}
+
+/** The subjects that are selected in @p editor; none when its head is one of them. */
+QSet<const TreeItem *> selectedIn(const FishEditor &editor)
+{
+    QSet<const TreeItem *> selected;
+    const QList<QGraphicsItem *> items = editor.selectedItems();
+    for (const QGraphicsItem *item : items) {
+        const auto *const spear = qgraphicsitem_cast<const SpearItem *>(item);
+        if (spear && spear->isHeader())
+            return {};
+        if (spear && spear->treeItem())
+            selected.insert(spear->treeItem());
+    }
+    return selected;
+}
+
+/** The subjects above @p selected. */
+QSet<const TreeItem *> above(const QSet<const TreeItem *> &selected)
+{
+    QSet<const TreeItem *> found;
+    for (const TreeItem *item : selected) {
+        for (const TreeItem *next = item->parent(); next && !found.contains(next);
+             next = next->parent())
+            found.insert(next);
+    }
+    return found;
 }
 
 } // namespace
 
-PictureSource::PictureSource(FishEditor *editor)
-    : m_editor(editor)
+PictureSource::PictureSource(const FishEditor *editor, Part part)
+    : m_copy(std::make_unique<FishModel>())
 {
+    const auto *const shown = qobject_cast<const FishModel *>(editor->model());
+    const TreeItem &shownRoot = *shown->getTreeItem(editor->rootIndex());
+    take(shownRoot, *editor,
+         part == Part::Selection ? selectedIn(*editor) : QSet<const TreeItem *>());
+    if (!shownRoot.isTopVaildItem()) {
+        m_copy->setModelType(FISH_MODEL_DIAGRAM);
+        return;
+    }
+    m_copy->setModelType(shown->modelType()); // whose title may be shown with these numbers
+    FishInfo *const document = m_copy->fishList().constFirst();
+    document->setNodeCount(editor->currentFishInfo()->nodeCount());
+    document->setNoParentNodeCount(editor->currentFishInfo()->noParentNodeCount());
 }
 
 PictureSource::~PictureSource() = default;
 
+/** Copies what is below @p shownRoot: all, or of the branches that lead to what is @p selected
+ * those alone. */
+void PictureSource::take(const TreeItem &shownRoot, const FishEditor &editor,
+                         const QSet<const TreeItem *> &selected)
+{
+    struct Step
+    {
+        const TreeItem *original;
+        TreeItem *copy;
+        bool isWhole;
+    };
+    const QSet<const TreeItem *> leading = above(selected);
+    auto head = copyOf(shownRoot);
+    std::vector<Step> waiting{{&shownRoot, head.get(), selected.isEmpty()}};
+    while (!waiting.empty()) {
+        const Step step = waiting.back();
+        waiting.pop_back();
+        const SpearItem *const spear = step.original->spear();
+        if (spear && spear->scene() == editor.scene() && spear->isExpand())
+            m_expanded.insert(step.copy);
+        for (const TreeItem *child : step.original->childItems()) {
+            const bool isWhole = step.isWhole || selected.contains(child);
+            if (!isWhole && !leading.contains(child))
+                continue;
+            TreeItem *const copy = copyOf(*child).release();
+            step.copy->appendChild(copy); // which takes it over
+            waiting.push_back({child, copy, isWhole});
+        }
+    }
+    m_copy->insertExistItemRows(QModelIndex(), {head.release()}); // which takes it over
+}
+
 const TreeItem &PictureSource::root() const
 {
-    const auto *const model = qobject_cast<FishModel *>(m_editor->model());
-    return *model->getTreeItem(m_editor->rootIndex());
+    return *m_copy->getTreeItem(m_copy->index(0, 0));
 }
 
 QString PictureSource::title() const
@@ -70,41 +132,57 @@ int PictureSource::depth() const
     return qMax(levels, 0);
 }
 
-void PictureSource::setLevels(std::optional<int> levels)
+void PictureSource::setWish(const PictureWish &wish)
 {
-    if (levels == m_levels)
+    if (wish == m_wish)
         return;
-    m_levels = levels;
-    if (!levels)
-        return;
-    if (!m_drawing)
-        makeCopy();
-    m_drawing->expand(*levels);
+    m_wish = wish;
+    m_picture.reset();
+    m_isDrawn = false;
 }
 
-void PictureSource::makeCopy()
+QRectF PictureSource::extent()
 {
-    const auto *const shown = qobject_cast<FishModel *>(m_editor->model());
-    m_copy = std::make_unique<FishModel>();
-    m_copy->insertExistItemRows(QModelIndex(), {copyOf(root()).release()}); // which takes it over
-    if (root().isTopVaildItem()) { // whose title may be shown with these numbers
-        m_copy->setModelType(shown->modelType());
-        FishInfo *const document = m_copy->fishList().constFirst();
-        document->setNodeCount(m_editor->currentFishInfo()->nodeCount());
-        document->setNoParentNodeCount(m_editor->currentFishInfo()->noParentNodeCount());
-    } else {
-        m_copy->setModelType(FISH_MODEL_DIAGRAM);
+    return isClear() ? QRectF(QPointF(), picture().size()) : PictureExport::visibleRect(*scene());
+}
+
+void PictureSource::paint(QPainter &painter, const QRectF &target)
+{
+    if (isClear()) {
+        picture().paint(painter, target);
+        return;
     }
-    m_drawing = std::make_unique<LevelDrawing>(*m_copy, m_copy->index(0, 0));
+    FishScene *const drawn = scene();
+    drawn->render(&painter, target, PictureExport::visibleRect(*drawn));
 }
 
-void PictureSource::update()
+const DiagramPicture &PictureSource::picture()
 {
-    if (m_levels)
-        m_drawing->update();
+    if (m_picture)
+        return *m_picture;
+    const DiagramLook::Options &options = m_wish.view.options;
+    if (m_wish.levels)
+        m_picture = std::make_unique<DiagramPicture>(&root(), options, *m_wish.levels);
+    else
+        m_picture = std::make_unique<DiagramPicture>(
+            &root(), options, [this](const TreeItem &item) { return m_expanded.contains(&item); });
+    if (const auto page = PageSize::of(m_wish.view.page))
+        m_picture->arrangeFor(page->size);
+    return *m_picture;
 }
 
-FishScene *PictureSource::scene() const
+FishScene *PictureSource::scene()
 {
-    return m_levels ? m_drawing->scene() : m_editor->scene();
+    if (!m_drawing)
+        m_drawing = std::make_unique<LevelDrawing>(*m_copy, m_copy->index(0, 0));
+    if (!m_isDrawn) {
+        m_drawing->setLook(m_wish.view.look, isClear() ? picture().options() : m_wish.view.options);
+        if (m_wish.levels)
+            m_drawing->expand(*m_wish.levels);
+        else
+            m_drawing->expand(m_expanded);
+    }
+    m_isDrawn = true;
+    m_drawing->update();
+    return m_drawing->scene();
 }

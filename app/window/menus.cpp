@@ -28,7 +28,7 @@ constexpr Bar menus[] = {
      "saveAll "
      "revert | export exportAs print printPreview | close | reopen quit"},
     {"editMenu", QT_TRANSLATE_NOOP("Menus", "&Edit"),
-     "undo redo | cut copy paste delete | selectAll find"},
+     "undo redo | cut copy copyPicture paste delete | selectAll find"},
     {"subjectMenu", QT_TRANSLATE_NOOP("Menus", "&Subject"),
      "child before after parent subTask free | rename details | moveUp moveDown promote demote | "
      "link openLink unlink | style "

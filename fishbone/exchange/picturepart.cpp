@@ -3,11 +3,14 @@
 
 #include <fishbone/exchange/picturepart.h>
 
-void PicturePart::line(const QLineF &line, const QColor &color, qreal width)
+#include <QPen>
+
+void PicturePart::line(const QLineF &line, const QPen &pen)
 {
+    const qreal width = pen.widthF();
     const QRectF covered = QRectF(line.p1(), line.p2()).normalized();
     if (shows(covered.adjusted(-width, -width, width, width)))
-        ClearPainter::line(line, color, width);
+        ClearPainter::line(line, pen);
 }
 
 void PicturePart::shape(const QPainterPath &path, const QColor &fill, const QColor &outline,

@@ -19,7 +19,7 @@ public:
     {
     }
 
-    void line(const QLineF &line, const QColor &color, qreal width) override;
+    void line(const QLineF &line, const QPen &pen) override;
     void shape(const QPainterPath &path, const QColor &fill, const QColor &outline,
                qreal width) override;
     void box(const QRectF &rect, qreal radius, const QColor &fill) override;

@@ -17,7 +17,7 @@ public:
 
     void beginSubject(int, const PictureSubject &) override {}
     void endSubject() override {}
-    void line(const QLineF &, const QColor &, qreal) override {}
+    void line(const QLineF &, const QPen &) override {}
     void shape(const QPainterPath &, const QColor &, const QColor &, qreal) override {}
     void box(const QRectF &rect, qreal, const QColor &) override { m_rects.append(rect); }
     void text(const ClearText &, const QRectF &rect, ClearLabel::Side, const QColor &) override

@@ -6,11 +6,17 @@
 #include <app/diagram/expansion.h>
 #include <app/export/exportdialog.h>
 
-/// What covers 460 x 160, which makes a picture of 500 x 200 with its margin; twice as wide with
-/// all levels.
-inline ExportDialog::Subject pictureSubject()
+#include <QPainter>
+
+/// What covers 460 x 160, which in the classic look makes a picture of 500 x 200 with its margin;
+/// twice as wide with all levels.
+inline ExportDialog::Subject pictureSubject(DiagramLook::Kind look = DiagramLook::Classic)
 {
-    return {3, QColor(1, 2, 3), [](std::optional<int> levels) {
-                return QRectF(0, 0, levels == Expansion::allLevels ? 960 : 460, 160);
-            }};
+    DiagramView view;
+    view.look = look;
+    return {3, QColor(1, 2, 3), view,
+            [](const PictureWish &wish) {
+                return QRectF(0, 0, wish.levels == Expansion::allLevels ? 960 : 460, 160);
+            },
+            [](QPainter &painter, const QRectF &target) { painter.fillRect(target, Qt::red); }};
 }

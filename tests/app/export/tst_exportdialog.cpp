@@ -12,6 +12,8 @@
 #include <app/export/exportdialog.h>
 #include <app/recovery/recoverystore.h>
 
+#include <fishbone/items/expanditem.h>
+
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDoubleSpinBox>
@@ -20,6 +22,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QProcess>
 #include <QPushButton>
 #include <QScreen>
 #include <QSettings>
@@ -77,6 +80,18 @@ QStringList visibleTitles(const AppFixture &app)
     return titles;
 }
 
+/// What a picture of the classic drawing covers: all but the buttons.
+QRectF coveredBy(const AppFixture &app)
+{
+    QRectF covered;
+    const QList<QGraphicsItem *> items = app.window.editor()->scene()->items();
+    for (const QGraphicsItem *item : items) {
+        if (item->isVisible() && item->type() != ExpandItem::Type)
+            covered |= item->sceneBoundingRect();
+    }
+    return covered;
+}
+
 QString resultOf(const QDialog &dialog)
 {
     return field<QLabel>(dialog, "result")->text();
@@ -111,6 +126,17 @@ private Q_SLOTS:
     void shouldExportASubjectShownAsDiagram();
     void shouldExportADarkDrawing();
     void shouldExportWhatWasShownWhenItBegan();
+    void shouldLeaveOutTheButtons();
+    void shouldChooseHowItIsDrawn();
+    void shouldOfferTheClassicLookNothingElse();
+    void shouldBeginWithWhatIsShown();
+    void shouldShowAPreview();
+    void shouldMakeThePictureForAPage();
+    void shouldMakeAPdfOfAPage();
+    void shouldMakeAPageForTheBrowser();
+    void shouldWriteASmallSvg();
+    void shouldOfferAScaleThatFits();
+    void shouldExportTheClearLookAsShown();
 };
 
 void TestExportDialog::initTestCase()
@@ -144,7 +170,7 @@ void TestExportDialog::shouldExportAPicture()
     const QImage picture(path);
     QVERIFY(!picture.isNull());
     QCOMPARE(picture.pixelColor(0, 0).alpha(), 0);
-    const QRectF drawing = PictureExport::visibleRect(*app.window.editor()->scene());
+    const QRectF drawing = coveredBy(app);
     QCOMPARE(picture.width(), int(std::ceil((drawing.width() + 40) * 2)));
     QCOMPARE(picture.text(QStringLiteral("Title")), QStringLiteral("Late"));
 }
@@ -266,7 +292,7 @@ void TestExportDialog::shouldMakeAPictureOfTheSizeThatWasEntered()
     });
     app.trigger("export");
     QVERIFY(driver.isDone());
-    const QRectF drawing = PictureExport::visibleRect(*app.window.editor()->scene());
+    const QRectF drawing = coveredBy(app);
     QCOMPARE(shown.height(),
              int(std::ceil((drawing.height() + 40) * 1234 / (drawing.width() + 40))));
     QCOMPARE(QImage(path).size(), shown);
@@ -328,9 +354,9 @@ void TestExportDialog::shouldMeasureTheChosenLevels()
 {
     int measured = 0;
     ExportDialog::Subject counted = pictureSubject();
-    counted.extent = [&measured](std::optional<int> levels) {
+    counted.extent = [&measured](const PictureWish &wish) {
         ++measured;
-        return pictureSubject().extent(levels);
+        return pictureSubject().extent(wish);
     };
     ExportDialog dialog(QStringLiteral("a.png"), counted);
     dialog.show();
@@ -402,7 +428,8 @@ void TestExportDialog::shouldBeUsedByKeyboard()
     dialog.show();
     const QList<QLabel *> labels = dialog.findChildren<QLabel *>();
     QStringList keys;
-    for (const char *name : {"file", "scale", "width", "height", "expansion", "background"}) {
+    for (const char *name : {"file", "look", "page", "palette", "head", "scale", "width", "height",
+                             "expansion", "background"}) {
         auto *const widget = field<QWidget>(dialog, name);
         const auto label = std::find_if(labels.cbegin(), labels.cend(),
                                         [widget](QLabel *each) { return each->buddy() == widget; });
@@ -533,6 +560,259 @@ void TestExportDialog::shouldExportWhatWasShownWhenItBegan()
     const QByteArray svg = AppFixture::contentOf(path);
     QVERIFY(svg.contains("<title>Late</title>"));
     QVERIFY(svg.contains(">People<"));
+}
+
+void TestExportDialog::shouldLeaveOutTheButtons()
+{
+    AppFixture app; // People is contracted and has a button
+    const QString path = app.path(QStringLiteral("a.png"));
+    const ModalDriver<ExportDialog> driver([&](ExportDialog &dialog) {
+        field<QLineEdit>(dialog, "file")->setText(path);
+        dialog.accept();
+    });
+    app.trigger("export");
+    QVERIFY(driver.isDone());
+    FishScene *const scene = app.window.editor()->scene();
+    const auto drawn = [scene, &app] {
+        PictureOptions options;
+        options.title = app.document()->treeItem()->childAtIndex(0)->title();
+        QByteArray png;
+        PictureExport::render(*scene, PictureExport::Format::Png, options, png);
+        return QImage::fromData(png);
+    };
+    const QImage picture(path);
+    int buttons = 0;
+    const QList<QGraphicsItem *> items = scene->items();
+    for (QGraphicsItem *item : items) {
+        if (item->type() == ExpandItem::Type && item->isVisible()) {
+            ++buttons;
+            item->hide();
+        }
+    }
+    QVERIFY(buttons > 0);
+    QCOMPARE(picture, drawn());
+}
+
+void TestExportDialog::shouldChooseHowItIsDrawn()
+{
+    const QTemporaryDir folder;
+    const DiagramLook::Options usual;
+    {
+        ExportDialog dialog(folder.filePath(QStringLiteral("a.png")),
+                            pictureSubject(DiagramLook::Clear));
+        dialog.show();
+        QCOMPARE(dialog.wish().view.look, DiagramLook::Clear);
+        QVERIFY(dialog.wish().view.options.hasLegend); // on for pictures
+        QVERIFY(!dialog.page());
+        chooseEntry(field<QComboBox>(dialog, "page"), 2);
+        chooseEntry(field<QComboBox>(dialog, "palette"), 1);
+        chooseEntry(field<QComboBox>(dialog, "head"), 1);
+        focus(field<QCheckBox>(dialog, "legend"));
+        QTest::keyClick(field<QCheckBox>(dialog, "legend"), Qt::Key_Space);
+        const DiagramView view = dialog.wish().view;
+        QCOMPARE(view.page, QStringLiteral("A4"));
+        QCOMPARE(dialog.page()->size, QSizeF(297, 210));
+        QCOMPARE(view.options.palette, DiagramLook::GrayColors);
+        QVERIFY(view.options.isHeadLeft);
+        QVERIFY(!view.options.hasLegend);
+        QVERIFY(!field<QSpinBox>(dialog, "width")->isEnabled());
+        QVERIFY2(resultOf(dialog).contains(QLatin1String("2,245")), qPrintable(resultOf(dialog)));
+        dialog.accept();
+        QCOMPARE(dialog.result(), int(QDialog::Accepted));
+    }
+    // Of these the page and the legend are the user's, the others the document's.
+    const ExportDialog dialog(QStringLiteral("a.png"), pictureSubject(DiagramLook::Clear));
+    QCOMPARE(dialog.wish().view.page, QStringLiteral("A4"));
+    QVERIFY(!dialog.wish().view.options.hasLegend);
+    QCOMPARE(dialog.wish().view.options.palette, usual.palette);
+}
+
+void TestExportDialog::shouldOfferTheClassicLookNothingElse()
+{
+    ExportDialog dialog(QStringLiteral("a.png"), pictureSubject(DiagramLook::Clear));
+    dialog.show();
+    chooseEntry(field<QComboBox>(dialog, "page"), 1);
+    const char *const names[] = {"page", "palette", "head", "legend"};
+    for (const char *name : names)
+        QVERIFY2(field<QWidget>(dialog, name)->isEnabled(), name);
+    QVERIFY(!field<QWidget>(dialog, "light")->isEnabled()); // the palette says it
+    chooseEntry(field<QComboBox>(dialog, "look"), 1);
+    QCOMPARE(dialog.wish().view.look, DiagramLook::Classic);
+    for (const char *name : names)
+        QVERIFY2(!field<QWidget>(dialog, name)->isEnabled(), name);
+    QVERIFY(field<QWidget>(dialog, "light")->isEnabled());
+    QVERIFY(field<QSpinBox>(dialog, "width")->isEnabled());
+    QVERIFY(!dialog.page());
+}
+
+void TestExportDialog::shouldBeginWithWhatIsShown()
+{
+    AppFixture app;
+    app.trigger("lookClear");
+    app.trigger("headLeft");
+    app.trigger("paletteGray");
+    DiagramView view;
+    const ModalDriver<ExportDialog> driver([&](ExportDialog &dialog) {
+        view = dialog.wish().view;
+        dialog.reject();
+    });
+    app.trigger("export");
+    QVERIFY(driver.isDone());
+    QCOMPARE(view.look, DiagramLook::Clear);
+    QVERIFY(view.options.isHeadLeft);
+    QCOMPARE(view.options.palette, DiagramLook::GrayColors);
+}
+
+void TestExportDialog::shouldShowAPreview()
+{
+    ExportDialog dialog(QStringLiteral("a.png"), pictureSubject(DiagramLook::Clear));
+    dialog.show();
+    const auto shown = [&dialog] {
+        return field<QLabel>(dialog, "preview")->pixmap(Qt::ReturnByValue).toImage();
+    };
+    const QImage atFirst = shown();
+    QCOMPARE(atFirst.pixelColor(atFirst.rect().center()), QColor(Qt::red));
+    chooseEntry(field<QComboBox>(dialog, "page"), 2);
+    QTRY_VERIFY(shown() != atFirst);
+    const QImage onPage = shown();
+    const int x = onPage.width() / 2;
+    const int below = onPage.height() / 2 + int(onPage.width() * 210 / 297 / 2) - 3;
+    QCOMPARE(onPage.pixelColor(x, below), QColor(Qt::white));
+    QVERIFY(onPage.pixelColor(x, below + 6) != QColor(Qt::white));
+    chooseEntry(field<QComboBox>(dialog, "palette"), 2);
+    QTRY_COMPARE(shown().pixelColor(x, below), QColor(0x1e, 0x21, 0x26));
+}
+
+void TestExportDialog::shouldMakeThePictureForAPage()
+{
+    AppFixture app;
+    app.trigger("lookClear");
+    const QString path = app.path(QStringLiteral("a.png"));
+    const ModalDriver<ExportDialog> driver([&](ExportDialog &dialog) {
+        field<QLineEdit>(dialog, "file")->setText(path);
+        chooseEntry(field<QComboBox>(dialog, "page"), 1);
+        chooseEntry(field<QComboBox>(dialog, "palette"), 2);
+        dialog.accept();
+    });
+    app.trigger("export");
+    QVERIFY(driver.isDone());
+    QCOMPARE(QImage(path).size(), QSize(1920, 1080));
+    QVERIFY(QImage(path).pixelColor(0, 0).lightness() < 60); // the colours for dark paper
+}
+
+void TestExportDialog::shouldMakeAPdfOfAPage()
+{
+    AppFixture app;
+    app.trigger("lookClear");
+    const QString path = app.path(QStringLiteral("a.pdf"));
+    QString result;
+    const ModalDriver<ExportDialog> driver([&](ExportDialog &dialog) {
+        field<QLineEdit>(dialog, "file")->setText(path);
+        chooseEntry(field<QComboBox>(dialog, "page"), 2);
+        result = resultOf(dialog);
+        dialog.accept();
+    });
+    app.trigger("export");
+    QVERIFY(driver.isDone());
+    QVERIFY2(result.contains(QStringLiteral("297 × 210 mm")), qPrintable(result));
+    QProcess info;
+    info.start(QStringLiteral("pdfinfo"), {path});
+    QVERIFY(info.waitForFinished());
+    QVERIFY(info.readAllStandardOutput().contains("(A4)"));
+}
+
+void TestExportDialog::shouldMakeAPageForTheBrowser()
+{
+    AppFixture app;
+    app.trigger("lookClear");
+    const QString path = app.path(QStringLiteral("a.html"));
+    QString refused;
+    const ModalDriver<ExportDialog> driver([&](ExportDialog &dialog) {
+        field<QLineEdit>(dialog, "file")->setText(path);
+        chooseEntry(field<QComboBox>(dialog, "look"), 1);
+        {
+            const ModalDriver<QMessageBox> warning([&](QMessageBox &box) {
+                refused = box.text();
+                box.accept();
+            });
+            dialog.accept();
+        }
+        chooseEntry(field<QComboBox>(dialog, "look"), 0);
+        dialog.accept();
+    });
+    app.trigger("export");
+    QVERIFY(driver.isDone());
+    QVERIFY2(refused.contains(QLatin1String("clear look")), qPrintable(refused));
+    const QByteArray page = AppFixture::contentOf(path);
+    QVERIFY(page.contains("<html"));
+    QVERIFY(page.contains("Machines"));
+}
+
+void TestExportDialog::shouldWriteASmallSvg()
+{
+    AppFixture app;
+    app.trigger("lookClear");
+    const QString path = app.path(QStringLiteral("a.svg"));
+    const ModalDriver<ExportDialog> driver([&](ExportDialog &dialog) {
+        field<QLineEdit>(dialog, "file")->setText(path);
+        chooseEntry(field<QComboBox>(dialog, "expansion"), 1);
+        dialog.accept();
+    });
+    app.trigger("export");
+    QVERIFY(driver.isDone());
+    const QByteArray svg = AppFixture::contentOf(path);
+    QVERIFY2(svg.size() < 8 * 500 + 2000, qPrintable(QString::number(svg.size())));
+    for (const char *title : {"Illness", "Late", "Machines", "Too new"})
+        QVERIFY2(svg.contains(title), title);
+}
+
+void TestExportDialog::shouldOfferAScaleThatFits()
+{
+    ExportDialog dialog(QStringLiteral("a.png"), pictureSubject());
+    dialog.show();
+    auto *const button = field<QPushButton>(dialog, "fit");
+    QVERIFY(!button->isVisible());
+    type(field<QDoubleSpinBox>(dialog, "scale"), "100"); // 50,000 pixels wide, 20,000 high
+    QVERIFY(button->isVisible());
+    QVERIFY2(button->text().contains(QLatin1String("51.809")), qPrintable(button->text()));
+    QTest::mouseClick(button, Qt::LeftButton);
+    QVERIFY(!button->isVisible());
+    QCOMPARE(dialog.options().scale, 51.809);
+    QVERIFY(PictureExport::check(PictureExport::Format::Png,
+                                 PictureExport::sizeOf(QRectF(0, 0, 460, 160), dialog.options())));
+
+    // And where the picture is refused.
+    type(field<QSpinBox>(dialog, "width"), "40000");
+    QString offered;
+    const ModalDriver<QMessageBox> driver([&offered](QMessageBox &box) {
+        offered = box.text();
+        box.button(QMessageBox::Yes)->click();
+    });
+    dialog.accept();
+    QVERIFY(driver.isDone());
+    QVERIFY2(offered.contains(QLatin1String("51.809")), qPrintable(offered));
+    QVERIFY(dialog.isVisible());
+    QCOMPARE(dialog.options().scale, 51.809);
+}
+
+void TestExportDialog::shouldExportTheClearLookAsShown()
+{
+    AppFixture app;
+    app.trigger("lookClear");
+    app.select("Material");
+    app.trigger("expand");
+    const QString path = app.path(QStringLiteral("a.svg"));
+    const ModalDriver<ExportDialog> driver([&](ExportDialog &dialog) {
+        field<QLineEdit>(dialog, "file")->setText(path);
+        dialog.accept();
+    });
+    app.trigger("export");
+    QVERIFY(driver.isDone());
+    const QByteArray svg = AppFixture::contentOf(path);
+    QVERIFY(svg.contains(">Rust<"));
+    QVERIFY(!svg.contains(">Illness<"));
+    QVERIFY(svg.contains(">+3<")); // of People
+    QCOMPARE(app.selectedInDrawing(), QStringList(QStringLiteral("Material")));
 }
 
 FISHBONE_TEST(TestExportDialog)

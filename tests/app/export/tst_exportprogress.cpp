@@ -7,6 +7,7 @@
 #include <tests/support/modaldriver.h>
 
 #include <app/common/workprogress.h>
+#include <app/diagram/diagramview.h>
 #include <app/export/exportdialog.h>
 #include <app/recovery/recoverystore.h>
 
@@ -72,6 +73,9 @@ void TestExportProgress::init()
 {
     QDir(RecoveryStore::folder()).removeRecursively();
     QSettings().remove(QStringLiteral("export"));
+    DiagramView classic; // which takes its time
+    classic.look = DiagramLook::Classic;
+    classic.becomeUsual();
 }
 
 bool TestExportProgress::exportSlowly(AppFixture &app, const QString &path,
