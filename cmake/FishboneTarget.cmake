@@ -40,9 +40,10 @@ function(fishbone_unite_folders target)
         cmake_path(GET folder FILENAME name)
         set_source_files_properties("${source}" PROPERTIES UNITY_GROUP "${name}")
     endforeach()
-    # For g++ what a unity source includes is a header, in which a private class had better have no member of a type
-    # that each source would have of its own.
-    if(CMAKE_UNITY_BUILD AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
-        target_compile_options(${target} PRIVATE -Wno-subobject-linkage)
+    # A local name may be that of something in another source. And for g++ what a unity source includes is a header,
+    # in which a private class had better have no member of a type that each source would have of its own.
+    if(CMAKE_UNITY_BUILD AND CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
+        target_compile_options(${target} PRIVATE -Wno-shadow
+            $<$<CXX_COMPILER_ID:GNU>:-Wno-subobject-linkage>)
     endif()
 endfunction()
