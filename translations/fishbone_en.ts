@@ -2453,6 +2453,38 @@ Do you want to save your changes?</translation>
             <numerusform>Nothing to print, or more than %n pages</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Arranged for the paper</source>
+        <translation>Arranged for the paper</translation>
+    </message>
+    <message>
+        <source>Legend</source>
+        <translation>Legend</translation>
+    </message>
+    <message>
+        <source>Look</source>
+        <translation>Look</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Clear</translation>
+    </message>
+    <message>
+        <source>Classic</source>
+        <translation>Classic</translation>
+    </message>
+    <message>
+        <source>Palette</source>
+        <translation>Palette</translation>
+    </message>
+    <message>
+        <source>Colours</source>
+        <translation>Colours</translation>
+    </message>
+    <message>
+        <source>Grey</source>
+        <translation>Grey</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

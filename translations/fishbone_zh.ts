@@ -2446,6 +2446,38 @@ Do you want to save your changes?</source>
             <numerusform>没有可打印的内容，或超过 %n 页</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Arranged for the paper</source>
+        <translation>按纸张排布</translation>
+    </message>
+    <message>
+        <source>Legend</source>
+        <translation>图例</translation>
+    </message>
+    <message>
+        <source>Look</source>
+        <translation>外观</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>清晰</translation>
+    </message>
+    <message>
+        <source>Classic</source>
+        <translation>经典</translation>
+    </message>
+    <message>
+        <source>Palette</source>
+        <translation>配色</translation>
+    </message>
+    <message>
+        <source>Colours</source>
+        <translation>彩色</translation>
+    </message>
+    <message>
+        <source>Grey</source>
+        <translation>灰色</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

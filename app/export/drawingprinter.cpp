@@ -4,12 +4,8 @@
 #include <app/export/drawingprinter.h>
 
 #include <app/common/busycursor.h>
-#include <app/common/selectionhidden.h>
-
-#include <fishbone/exchange/pictureexport.h>
 
 #include <QCoreApplication>
-#include <QGraphicsScene>
 #include <QPainter>
 #include <QPrinter>
 
@@ -19,9 +15,12 @@
 
 namespace {
 
-constexpr int manyItems = 20000; ///< take a second or so
+constexpr int manyTexts = 5000; ///< take a second or so
 constexpr double screenDotsPerInch = 96;
+constexpr double millimetresPerInch = 25.4;
 constexpr double footerInches = 0.25;
+constexpr double markInches = 0.01;
+constexpr double markLengthInches = 0.2;
 constexpr double edge = 4; ///< around the drawing, in scene units, for the width of its lines
 
 double dotsPerUnit(const QPrinter &printer)
@@ -29,17 +28,26 @@ double dotsPerUnit(const QPrinter &printer)
     return printer.resolution() / screenDotsPerInch;
 }
 
-/** How many parts of the length @p part cover @p whole; one too much would be an empty page. */
-int partsOf(double whole, double part)
+/** Paints which of the pages of @p grid is page @p number, as large as it fits into @p room;
+ * returns the width. */
+double paintMap(QPainter *painter, const PageGrid &grid, int number, const QRectF &room)
 {
-    constexpr double rounding = 1e-6;
-    return qMax(1, int(std::ceil(whole / part - rounding)));
+    const double cell = qMin(room.height() / grid.rows(),
+                             room.width() / 3 / grid.columns()); // leaves room for text
+    const QRectF first(room.left(), room.bottom() - cell * grid.rows(), cell, cell);
+    for (int page = 0; page < grid.count(); ++page) {
+        const QRectF square =
+            first.translated(page % grid.columns() * cell, page / grid.columns() * cell);
+        painter->setBrush(page == number ? QBrush(Qt::darkGray) : QBrush(Qt::NoBrush));
+        painter->drawRect(square);
+    }
+    return cell * grid.columns();
 }
 
 } // namespace
 
-DrawingPrinter::DrawingPrinter(QGraphicsScene *scene, QString title)
-    : m_scene(scene)
+DrawingPrinter::DrawingPrinter(PrintedDrawing drawing, QString title)
+    : m_drawing(std::move(drawing))
     , m_title(std::move(title))
 {
 }
@@ -66,77 +74,96 @@ double DrawingPrinter::factor(const QRectF &drawing, const QSizeF &paper) const
     return m_layout.scale;
 }
 
-QList<QRectF> DrawingPrinter::pages(const QPrinter &printer) const
+PageGrid DrawingPrinter::pages(const QPrinter &printer) const
 {
-    const QRectF visible = PictureExport::visibleRect(*m_scene);
-    if (visible.isEmpty())
+    if (m_drawing.extent.isEmpty())
         return {};
-    const QRectF drawing = visible.adjusted(-edge, -edge, edge, edge);
-    const QSizeF paper = paperOf(printer, m_layout.fit != Fit::Page);
-    const QSizeF part = paper / factor(drawing, paper);
+    const QRectF drawing = m_drawing.extent.adjusted(-edge, -edge, edge, edge);
+    const bool isSeveral = m_layout.fit != Fit::Page;
+    const QSizeF paper = paperOf(printer, isSeveral);
+    const double scale = factor(drawing, paper);
+    const QSizeF part = paper / scale;
     if (!(part.width() > 0 && part.height() > 0))
         return {};
-    if (std::ceil(drawing.width() / part.width()) * std::ceil(drawing.height() / part.height()) >
-        maximalPages)
-        return {};
-    const int columns = partsOf(drawing.width(), part.width());
-    const int rows = partsOf(drawing.height(), part.height());
-    // What the last pages have left over is shared by both sides.
-    const QSizeF all(part.width() * columns, part.height() * rows);
-    const QPointF begin = drawing.center() - QPointF(all.width() / 2, all.height() / 2);
-    QList<QRectF> parts;
-    for (int row = 0; row < rows; ++row) {
-        for (int column = 0; column < columns; ++column)
-            parts.append(QRectF(begin + QPointF(part.width() * column, part.height() * row), part));
-    }
-    return parts;
+    const double repeated =
+        isSeveral ? overlap / millimetresPerInch * screenDotsPerInch / scale : 0;
+    return PageGrid(drawing, part, repeated, m_drawing.texts, maximalPages);
 }
 
 bool DrawingPrinter::print(QPrinter *printer) const
 {
-    const QList<QRectF> parts = pages(*printer);
-    const int count = int(parts.size());
+    const PageGrid grid = pages(*printer);
     const int first = qMax(printer->fromPage(), 1);
-    const int last = printer->toPage() > 0 ? qMin(printer->toPage(), count) : count;
+    const int last = printer->toPage() > 0 ? qMin(printer->toPage(), grid.count()) : grid.count();
     if (first > last)
         return false;
     QPainter painter;
     if (!painter.begin(printer))
         return false;
-    const SelectionHidden unmarked(m_scene);
     std::optional<BusyCursor> busy;
-    if (m_scene->items().size() > manyItems)
+    if (m_drawing.texts.size() > manyTexts)
         busy.emplace();
     for (int number = first; number <= last; ++number) {
         if (number > first && !printer->newPage())
             return false;
-        const QString footer =
-            count == 1 ? QString()
-                       : QCoreApplication::translate("DrawingPrinter", "%1 – page %2 of %3")
-                             .arg(m_title)
-                             .arg(number)
-                             .arg(count);
-        paintPage(&painter, parts.at(number - 1), footer);
+        paintPage(&painter, grid, number - 1);
     }
     return painter.end();
 }
 
-/** Paints @p part of the scene as large as the page is, with @p footer, if any, below it. */
-void DrawingPrinter::paintPage(QPainter *painter, const QRectF &part, const QString &footer) const
+/** Paints page @p number as large as the paper, and of several what helps to put them together. */
+void DrawingPrinter::paintPage(QPainter *painter, const PageGrid &grid, int number) const
 {
     const QPaintDevice *const page = painter->device();
     QRectF area(0, 0, page->width(), page->height());
-    if (!footer.isEmpty()) {
-        const double height = footerInches * page->logicalDpiY();
-        const QRectF line(0, area.height() - height, area.width(), height);
-        area.setBottom(line.top());
-        QFont font = painter->font();
-        font.setPointSizeF(8);
-        painter->setFont(font);
-        painter->setPen(Qt::darkGray);
-        painter->drawText(
-            line, Qt::AlignRight | Qt::AlignBottom,
-            painter->fontMetrics().elidedText(footer, Qt::ElideMiddle, int(line.width())));
+    const bool isOneOfSeveral = m_layout.fit != Fit::Page;
+    const QRectF whole = area;
+    if (isOneOfSeveral)
+        area.setBottom(area.bottom() - footerInches * page->logicalDpiY());
+    m_drawing.paint(*painter, area, grid.part(number));
+    if (grid.count() == 1)
+        return;
+    painter->save();
+    painter->setPen(QPen(Qt::darkGray, markInches * page->logicalDpiX()));
+    paintMarks(painter, grid, number, area);
+    paintFooter(painter, grid, number,
+                QRectF(QPointF(whole.left(), area.bottom()), whole.bottomRight()));
+    painter->restore();
+}
+
+/** Marks at the ends of the edges along which the page is cut, so that the next one fits there. */
+void DrawingPrinter::paintMarks(QPainter *painter, const PageGrid &grid, int number,
+                                const QRectF &area) const
+{
+    const QRectF part = grid.part(number);
+    const QRectF own = grid.own(number);
+    const double scale = area.width() / part.width();
+    const double length = markLengthInches * painter->device()->logicalDpiX();
+    const QPointF cut = area.topLeft() + (own.bottomRight() - part.topLeft()) * scale;
+    if (own.right() < part.right()) {
+        painter->drawLine(QLineF(cut.x(), area.top(), cut.x(), area.top() + length));
+        painter->drawLine(QLineF(cut.x(), area.bottom() - length, cut.x(), area.bottom()));
     }
-    m_scene->render(painter, area, part, Qt::KeepAspectRatio);
+    if (own.bottom() < part.bottom()) {
+        painter->drawLine(QLineF(area.left(), cut.y(), area.left() + length, cut.y()));
+        painter->drawLine(QLineF(area.right() - length, cut.y(), area.right(), cut.y()));
+    }
+}
+
+/** A map of the pages, and which one of them it is. */
+void DrawingPrinter::paintFooter(QPainter *painter, const PageGrid &grid, int number,
+                                 const QRectF &line) const
+{
+    const double gap = line.height() / 8;
+    const double taken = paintMap(painter, grid, number, line.adjusted(0, gap, 0, 0)) + 2 * gap;
+    const QString footer = QCoreApplication::translate("DrawingPrinter", "%1 – page %2 of %3")
+                               .arg(m_title)
+                               .arg(number + 1)
+                               .arg(grid.count());
+    QFont font = painter->font();
+    font.setPointSizeF(8);
+    painter->setFont(font);
+    painter->drawText(
+        line.adjusted(taken, 0, 0, 0), Qt::AlignRight | Qt::AlignBottom,
+        painter->fontMetrics().elidedText(footer, Qt::ElideMiddle, int(line.width() - taken)));
 }

@@ -3,15 +3,15 @@
 
 #pragma once
 
-#include <QList>
-#include <QRectF>
+#include <app/export/pagegrid.h>
+#include <app/export/printeddrawing.h>
+
 #include <QString>
 
-class QGraphicsScene;
-class QPainter;
 class QPrinter;
 
-/** Puts a whole drawing on paper, on one page or on several that are put together. */
+/** Puts a whole drawing on paper, on one page or on several that are put together: these overlap,
+ * have marks where to cut them, and a map that says which one each is. */
 class DrawingPrinter
 {
 public:
@@ -31,17 +31,18 @@ public:
 
     /** More pages than that are not printed: nobody wants to put them together. */
     static constexpr int maximalPages = 400;
+    /** By how much two pages overlap at least, in millimetres. */
+    static constexpr double overlap = 10;
 
-    /** Prints what @p scene shows, which must live as long; @p title stands below each page of
-     * several. */
-    DrawingPrinter(QGraphicsScene *scene, QString title);
+    /** Prints @p drawing; @p title stands below each page of several. */
+    explicit DrawingPrinter(PrintedDrawing drawing = {}, QString title = QString());
 
     void setLayout(const Layout &layout) { m_layout = layout; }
     Layout layout() const { return m_layout; }
 
-    /** The parts of the scene that the pages show, row by row, for pages like those of @p printer;
-     * empty when there is nothing to draw or when there would be too many. */
-    QList<QRectF> pages(const QPrinter &printer) const;
+    /** What pages like those of @p printer show; none when there is nothing to draw or when there
+     * would be too many. */
+    PageGrid pages(const QPrinter &printer) const;
 
     /** Paints the pages, those alone that the printer is told to print. False when there are none.
      */
@@ -50,9 +51,11 @@ public:
 private:
     double factor(const QRectF &drawing, const QSizeF &paper) const;
     QSizeF paperOf(const QPrinter &printer, bool several) const;
-    void paintPage(QPainter *painter, const QRectF &part, const QString &footer) const;
+    void paintPage(QPainter *painter, const PageGrid &grid, int number) const;
+    void paintMarks(QPainter *painter, const PageGrid &grid, int number, const QRectF &area) const;
+    void paintFooter(QPainter *painter, const PageGrid &grid, int number, const QRectF &line) const;
 
-    QGraphicsScene *m_scene;
+    PrintedDrawing m_drawing;
     QString m_title;
     Layout m_layout;
 };

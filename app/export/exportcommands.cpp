@@ -30,6 +30,8 @@
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QMimeData>
+#include <QPrintDialog>
+#include <QPrinter>
 #include <QWidget>
 
 #include <optional>
@@ -257,22 +259,26 @@ void ExportCommands::exportAs()
     PlainBox::warning(m_window, tr("Export as"), tr("%1 cannot be written: %2.").arg(path, reason));
 }
 
-/** The title of what is shown: of the document, or of the subject shown as a diagram of its own. */
-QString ExportCommands::shownTitle() const
-{
-    return m_session->model()->getTreeItem(m_editor->rootIndex())->title();
-}
-
 void ExportCommands::previewPrint()
 {
     if (!m_session->document())
         return;
     const CanvasTheme::Paper paper(m_theme, m_editor);
-    PrintPreview(m_editor->scene(), shownTitle(), m_window).exec();
+    PictureSource source(m_editor);
+    PrintPreview(&source, shownView(), m_window).exec();
 }
 
+/** Prints as the preview was last left, which need not have been seen. */
 void ExportCommands::print()
 {
+    if (!m_session->document())
+        return;
     const CanvasTheme::Paper paper(m_theme, m_editor);
-    m_session->editor()->print();
+    PictureSource source(m_editor);
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setPageOrientation(QPageLayout::Landscape); // as wide as most fishbones are
+    printer.setDocName(source.title());
+    QPrintDialog dialog(&printer, m_window);
+    if (dialog.exec() == QDialog::Accepted)
+        PrintPreview(&source, shownView(), m_window).printTo(&printer);
 }

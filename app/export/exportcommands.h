@@ -44,7 +44,6 @@ private:
     void copyPicture();
     void print();
     void previewPrint();
-    QString shownTitle() const;
 
     CanvasTheme *m_theme;
     QWidget *m_window;

@@ -3,9 +3,13 @@
 
 #include <app/export/printpreview.h>
 
+#include <app/export/picturesource.h>
+
+#include <fishbone/editor/fishscene.h>
+
 #include <QAction>
+#include <QCheckBox>
 #include <QComboBox>
-#include <QGraphicsScene>
 #include <QLabel>
 #include <QLayout>
 #include <QPrintPreviewWidget>
@@ -28,27 +32,46 @@ QString percentKey()
     return QStringLiteral("print/percent");
 }
 
+QString arrangedKey()
+{
+    return QStringLiteral("print/arranged");
+}
+
+QString printLegendKey()
+{
+    return QStringLiteral("print/legend");
+}
+
+/** The part of the paper that @p device prints on, as PageSize reads it. */
+QString pageOf(const QPrinter &device)
+{
+    const QSizeF size = device.pageRect(QPrinter::Millimeter).size();
+    return QStringLiteral("%1x%2mm").arg(size.width(), 0, 'f', 1).arg(size.height(), 0, 'f', 1);
+}
+
 } // namespace
 
-PrintPreview::PrintPreview(QGraphicsScene *scene, const QString &title, QWidget *parent)
+PrintPreview::PrintPreview(PictureSource *source, const DiagramView &shown, QWidget *parent)
     : QPrintPreviewDialog(parent)
-    , m_drawing(scene, title)
-    , m_fit(new QComboBox(this))
+    , m_source(source)
+    , m_shown(shown)
     , m_percent(new QSpinBox(this))
     , m_pages(new QLabel(this))
+    , m_arranged(new QCheckBox(tr("Arranged for the paper"), this))
+    , m_legend(new QCheckBox(tr("Legend"), this))
 {
     setWindowTitle(tr("Print preview"));
     printer()->setResolution(600); // the dialog's own has that of the screen
     printer()->setPageOrientation(QPageLayout::Landscape); // as wide as most fishbones are
-    printer()->setDocName(title);
-    addControls();
+    printer()->setDocName(source->title());
+    layout()->setMenuBar(makeBar());
     restore();
-    connect(this, &QPrintPreviewDialog::paintRequested, this, [this](QPrinter *device) {
-        m_drawing.print(device);
-        refresh();
-    });
-    connect(m_fit, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
-            &PrintPreview::follow);
+    connect(this, &QPrintPreviewDialog::paintRequested, this, &PrintPreview::printTo);
+    for (QComboBox *box : {m_fit, m_look, m_palette})
+        connect(box, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
+                &PrintPreview::follow);
+    for (QCheckBox *box : {m_arranged, m_legend})
+        connect(box, &QCheckBox::toggled, this, &PrintPreview::follow);
     connect(m_percent, QOverload<int>::of(&QSpinBox::valueChanged), this, &PrintPreview::follow);
     resize(1000, 700);
 }
@@ -60,11 +83,20 @@ PrintPreview::~PrintPreview()
     m_percent->disconnect(this);
 }
 
-void PrintPreview::addControls()
+QComboBox *PrintPreview::addBox(QToolBar *bar, const char *name, const QString &text)
 {
-    m_fit->setObjectName(QStringLiteral("fit"));
-    m_fit->setAccessibleName(tr("Size on paper"));
-    m_fit->setToolTip(m_fit->accessibleName());
+    auto *const box = new QComboBox(this);
+    box->setObjectName(QLatin1String(name));
+    box->setAccessibleName(text);
+    box->setToolTip(text);
+    bar->addWidget(box);
+    return box;
+}
+
+QToolBar *PrintPreview::makeBar()
+{
+    auto *const bar = new QToolBar(this);
+    m_fit = addBox(bar, "fit", tr("Size on paper"));
     m_fit->addItem(tr("Fit one page"), int(Fit::Page));
     m_fit->addItem(tr("Fit the width of the page"), int(Fit::Width));
     m_fit->addItem(tr("Scale"), int(Fit::Scale));
@@ -76,12 +108,20 @@ void PrintPreview::addControls()
     m_percent->setKeyboardTracking(false);
     m_pages->setObjectName(QStringLiteral("pages"));
     m_pages->setMargin(4);
-
-    auto *const bar = new QToolBar(this);
-    bar->addWidget(m_fit);
     bar->addWidget(m_percent);
     bar->addWidget(m_pages);
-    layout()->setMenuBar(bar);
+    bar->addSeparator();
+    m_look = addBox(bar, "look", tr("Look"));
+    m_look->addItem(tr("Clear"), int(DiagramLook::Clear));
+    m_look->addItem(tr("Classic"), int(DiagramLook::Classic));
+    m_palette = addBox(bar, "palette", tr("Palette"));
+    m_palette->addItem(tr("Colours"), int(DiagramLook::DistinctColors));
+    m_palette->addItem(tr("Grey"), int(DiagramLook::GrayColors));
+    m_arranged->setObjectName(QStringLiteral("arranged"));
+    m_legend->setObjectName(QStringLiteral("legend"));
+    bar->addWidget(m_arranged);
+    bar->addWidget(m_legend);
+    return bar;
 }
 
 void PrintPreview::restore()
@@ -90,23 +130,51 @@ void PrintPreview::restore()
     const int fit = m_fit->findData(settings.value(fitKey()));
     m_fit->setCurrentIndex(qMax(fit, 0));
     m_percent->setValue(settings.value(percentKey(), 100).toInt());
-    takeOver();
+    m_arranged->setChecked(settings.value(arrangedKey(), true).toBool());
+    m_legend->setChecked(settings.value(printLegendKey(), true).toBool());
+    m_look->setCurrentIndex(m_look->findData(int(m_shown.look)));
+    // Dark colours are for screens.
+    m_palette->setCurrentIndex(qMax(m_palette->findData(int(m_shown.options.palette)), 0));
+    takeOver(*printer());
     refresh();
 }
 
-/** Lays the pages out as the fields say. */
-void PrintPreview::takeOver()
+/** Draws for the paper of @p device as the fields say, and lays the pages out. */
+void PrintPreview::takeOver(const QPrinter &device)
 {
+    DiagramView view = m_shown;
+    view.look = DiagramLook::Kind(m_look->currentData().toInt());
+    view.page.clear();
+    if (view.look == DiagramLook::Clear) {
+        view.options.palette = DiagramLook::Palette(m_palette->currentData().toInt());
+        view.options.hasLegend = m_legend->isChecked();
+        if (m_arranged->isChecked())
+            view.page = pageOf(device);
+    }
+    m_source->setWish({std::nullopt, view});
+    const bool isClear = view.look == DiagramLook::Clear;
+    m_drawing = DrawingPrinter(isClear ? PrintedDrawing::of(m_source->picture())
+                                       : PrintedDrawing::of(*m_source->scene()),
+                               m_source->title());
     m_drawing.setLayout({Fit(m_fit->currentData().toInt()), m_percent->value() / 100.0});
+}
+
+bool PrintPreview::printTo(QPrinter *device)
+{
+    takeOver(*device);
+    const bool isPrinted = m_drawing.print(device);
+    refresh();
+    return isPrinted;
 }
 
 /** Takes over what was chosen and shows it. */
 void PrintPreview::follow()
 {
-    takeOver();
     QSettings settings;
     settings.setValue(fitKey(), m_fit->currentData());
     settings.setValue(percentKey(), m_percent->value());
+    settings.setValue(arrangedKey(), m_arranged->isChecked());
+    settings.setValue(printLegendKey(), m_legend->isChecked());
     findChild<QPrintPreviewWidget *>()->updatePreview();
 }
 
@@ -114,7 +182,10 @@ void PrintPreview::follow()
 void PrintPreview::refresh()
 {
     m_percent->setEnabled(m_drawing.layout().fit == Fit::Scale);
-    const int count = int(m_drawing.pages(*printer()).size());
+    const bool isClear = m_look->currentData() == int(DiagramLook::Clear);
+    for (QWidget *field : QList<QWidget *>{m_palette, m_arranged, m_legend})
+        field->setEnabled(isClear);
+    const int count = m_drawing.pages(*printer()).count();
     m_pages->setText(count > 0 ? tr("%n page(s)", nullptr, count)
                                : tr("Nothing to print, or more than %n page(s)", nullptr,
                                     DrawingPrinter::maximalPages));

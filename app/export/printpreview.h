@@ -3,36 +3,52 @@
 
 #pragma once
 
+#include <app/diagram/diagramview.h>
 #include <app/export/drawingprinter.h>
 
 #include <QPrintPreviewDialog>
 
+class PictureSource;
+class QCheckBox;
 class QComboBox;
 class QLabel;
 class QSpinBox;
+class QToolBar;
 
 /**
  * Shows the drawing as it will be on paper and prints exactly that: fitted to the page or to its
- * width, or at a percentage on several pages. What was chosen last is chosen the next time.
+ * width, or at a percentage on several pages; in the look of the screen or another one, arranged
+ * for the paper or as on the screen. What was chosen last is chosen the next time, but for the look
+ * and its colours, which begin as on the screen.
  */
 class PrintPreview : public QPrintPreviewDialog
 {
     Q_OBJECT
 
 public:
-    /** Shows @p scene, which must outlive the dialog, under @p title. */
-    PrintPreview(QGraphicsScene *scene, const QString &title, QWidget *parent = nullptr);
+    /** Shows @p source, which must outlive the dialog, as @p shown has it. */
+    PrintPreview(PictureSource *source, const DiagramView &shown, QWidget *parent = nullptr);
     ~PrintPreview() override;
 
+    /** Prints on @p device what would be shown for it. False when there is nothing to print. */
+    bool printTo(QPrinter *device);
+
 private:
-    void addControls();
+    QToolBar *makeBar();
+    QComboBox *addBox(QToolBar *bar, const char *name, const QString &text);
     void restore();
-    void takeOver();
+    void takeOver(const QPrinter &device);
     void follow();
     void refresh();
 
+    PictureSource *m_source;
+    DiagramView m_shown;
     DrawingPrinter m_drawing;
-    QComboBox *m_fit;
+    QComboBox *m_fit = nullptr;
     QSpinBox *m_percent;
     QLabel *m_pages;
+    QComboBox *m_look = nullptr;
+    QComboBox *m_palette = nullptr;
+    QCheckBox *m_arranged;
+    QCheckBox *m_legend;
 };

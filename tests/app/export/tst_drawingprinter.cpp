@@ -1,14 +1,26 @@
 // SPDX-FileCopyrightText: 2026 The Fishbone authors
 // SPDX-License-Identifier: MIT
 
+#include <app/diagram/expansion.h>
 #include <app/export/drawingprinter.h>
+#include <app/export/leveldrawing.h>
 #include <tests/program/testprogram.h>
+
+#include <fishbone/editor/fishscene.h>
+#include <fishbone/exchange/diagrampicture.h>
+#include <fishbone/model/fishmodel.h>
+#include <fishbone/model/treeitem.h>
 
 #include <QGraphicsRectItem>
 #include <QGraphicsScene>
 #include <QPrinter>
+#include <QProcess>
 #include <QTemporaryDir>
 #include <QtTest>
+
+#include <algorithm>
+#include <memory>
+#include <utility>
 
 using Fit = DrawingPrinter::Fit;
 
@@ -27,7 +39,10 @@ private Q_SLOTS:
     void refusesTooManyPages();
     void printsNothingOfAnEmptyScene();
     void printsTheChosenPagesOnly();
-    void printsWhatIsSelectedLikeTheRest();
+    void overlapsHaveMarksAndAMap();
+    void everyTitleIsWholeOnSomePage();
+    void severalPagesAreNotLargerThanSoManyFilesOfOne_data();
+    void severalPagesAreNotLargerThanSoManyFilesOfOne();
 
 private:
     static void setUp(QPrinter &printer, const QString &file)
@@ -49,6 +64,54 @@ private:
         return int(pdf.readAll().count("/Type /Page\n"));
     }
 
+    /// The pages of the PDF file at 96 dots per inch.
+    QList<QImage> imagesOf(const QString &file) const
+    {
+        QProcess painter;
+        const QString begin = m_folder.filePath(QStringLiteral("image"));
+        painter.start(QStringLiteral("pdftoppm"), {QStringLiteral("-r"), QStringLiteral("96"),
+                                                   QStringLiteral("-png"), file, begin});
+        if (!painter.waitForFinished())
+            return {};
+        QList<QImage> images;
+        const QStringList names =
+            QDir(m_folder.path())
+                .entryList({QStringLiteral("image*.png")}, QDir::Files, QDir::Name);
+        for (const QString &name : names)
+            images.append(QImage(m_folder.filePath(name)));
+        return images;
+    }
+    /// Whether there is a mark within a pixel or two.
+    static bool isDark(const QImage &page, const QPointF &at)
+    {
+        for (int x = -2; x <= 2; ++x) {
+            for (int y = -2; y <= 2; ++y) {
+                const QPoint point = at.toPoint() + QPoint(x, y);
+                if (page.rect().contains(point) && page.pixelColor(point).lightness() < 190)
+                    return true;
+            }
+        }
+        return false;
+    }
+    /// Eight categories with ten causes each, "word0 …" to "word79 …".
+    static std::unique_ptr<TreeItem> diagram()
+    {
+        auto head = std::make_unique<TreeItem>();
+        head->setTitle(QStringLiteral("Head"));
+        for (int category = 0; category < 8; ++category) {
+            auto *const bone = new TreeItem;
+            bone->setTitle(QStringLiteral("Category %1").arg(category));
+            head->appendChild(bone); // which takes it over
+            for (int cause = 0; cause < 10; ++cause) {
+                auto *const item = new TreeItem;
+                item->setTitle(
+                    QStringLiteral("word%1 and some more of them").arg(category * 10 + cause));
+                bone->appendChild(item);
+            }
+        }
+        return head;
+    }
+
     QTemporaryDir m_folder;
 };
 
@@ -62,8 +125,9 @@ void TestDrawingPrinter::pages_data()
     QTest::newRow("small, one page") << QSizeF(50, 50) << Fit::Page << 1.0 << 1;
     QTest::newRow("huge, one page") << QSizeF(90000, 700) << Fit::Page << 1.0 << 1;
     QTest::newRow("wide, fits the width") << QSizeF(5000, 500) << Fit::Width << 1.0 << 1;
-    // 400 units wide become 960; 2000 high become 4800, of which 456 are on a page.
-    QTest::newRow("high, fits the width") << QSizeF(392, 1992) << Fit::Width << 1.0 << 11;
+    // 400 units wide become 960; 2000 high become 4800, of which 456 are on a page and 37.8 of
+    // these are repeated.
+    QTest::newRow("high, fits the width") << QSizeF(392, 1992) << Fit::Width << 1.0 << 12;
     QTest::newRow("as on the screen, one page") << QSizeF(900, 440) << Fit::Scale << 1.0 << 1;
     QTest::newRow("as on the screen, just too wide") << QSizeF(960, 440) << Fit::Scale << 1.0 << 2;
     QTest::newRow("as on the screen, two by two") << QSizeF(1500, 800) << Fit::Scale << 1.0 << 4;
@@ -80,13 +144,13 @@ void TestDrawingPrinter::pages()
 
     QGraphicsScene scene;
     scene.addRect(QRectF(QPointF(-100, 30), drawing), Qt::NoPen, Qt::black);
-    DrawingPrinter printing(&scene, QStringLiteral("Late"));
+    DrawingPrinter printing(PrintedDrawing::of(scene), QStringLiteral("Late"));
     printing.setLayout({fit, scale});
     const QString file = m_folder.filePath(QStringLiteral("pages.pdf"));
     {
         QPrinter printer;
         setUp(printer, file);
-        QCOMPARE(printing.pages(printer).size(), count);
+        QCOMPARE(printing.pages(printer).count(), count);
         QVERIFY(printing.print(&printer));
     }
     QCOMPARE(pagesIn(file), count);
@@ -97,38 +161,36 @@ void TestDrawingPrinter::pagesCoverTheDrawing()
     QGraphicsScene scene;
     const QRectF drawing(-300, 200, 2100, 1700);
     scene.addRect(drawing, Qt::NoPen, Qt::black);
-    DrawingPrinter printing(&scene, QString());
+    DrawingPrinter printing(PrintedDrawing::of(scene));
     printing.setLayout({Fit::Scale, 1});
     QPrinter printer;
     setUp(printer, m_folder.filePath(QStringLiteral("cover.pdf")));
-    const QList<QRectF> parts = printing.pages(printer);
+    const QList<QRectF> parts = printing.pages(printer).parts();
     QRectF all;
-    double area = 0;
-    for (const QRectF &part : parts) {
+    for (const QRectF &part : parts)
         all |= part;
-        area += part.width() * part.height();
-    }
     QVERIFY(all.contains(drawing));
-    QVERIFY2(qAbs(area - all.width() * all.height()) < 1, "no part is on two pages");
     QCOMPARE(all.center(), drawing.center());
+    const double overlap = DrawingPrinter::overlap / 25.4 * 96;
+    QVERIFY(parts.at(0).right() - parts.at(1).left() >= overlap - 1e-6);
 }
 
 void TestDrawingPrinter::refusesTooManyPages()
 {
     QGraphicsScene scene;
     scene.addRect(0, 0, 1e6, 1e6, Qt::NoPen, Qt::black);
-    DrawingPrinter printing(&scene, QString());
+    DrawingPrinter printing(PrintedDrawing::of(scene));
     printing.setLayout({Fit::Scale, 4});
     QPrinter printer;
     setUp(printer, m_folder.filePath(QStringLiteral("many.pdf")));
-    QVERIFY(printing.pages(printer).isEmpty());
+    QVERIFY(printing.pages(printer).count() == 0);
     QVERIFY(!printing.print(&printer));
 }
 
 void TestDrawingPrinter::printsNothingOfAnEmptyScene()
 {
     QGraphicsScene scene;
-    const DrawingPrinter printing(&scene, QString());
+    const DrawingPrinter printing(PrintedDrawing::of(scene));
     QPrinter printer;
     setUp(printer, m_folder.filePath(QStringLiteral("empty.pdf")));
     QVERIFY(!printing.print(&printer));
@@ -138,7 +200,7 @@ void TestDrawingPrinter::printsTheChosenPagesOnly()
 {
     QGraphicsScene scene;
     scene.addRect(0, 0, 1500, 800, Qt::NoPen, Qt::black);
-    DrawingPrinter printing(&scene, QString());
+    DrawingPrinter printing(PrintedDrawing::of(scene));
     printing.setLayout({Fit::Scale, 1});
     const QString file = m_folder.filePath(QStringLiteral("chosen.pdf"));
     {
@@ -150,19 +212,112 @@ void TestDrawingPrinter::printsTheChosenPagesOnly()
     QCOMPARE(pagesIn(file), 2);
 }
 
-void TestDrawingPrinter::printsWhatIsSelectedLikeTheRest()
+void TestDrawingPrinter::overlapsHaveMarksAndAMap()
 {
-    QGraphicsScene scene;
-    QGraphicsRectItem *const item = scene.addRect(0, 0, 100, 100, Qt::NoPen, Qt::black);
-    item->setFlag(QGraphicsItem::ItemIsSelectable);
-    item->setSelected(true);
-    QSignalSpy changes(&scene, &QGraphicsScene::selectionChanged);
-    const DrawingPrinter printing(&scene, QString());
-    QPrinter printer;
-    setUp(printer, m_folder.filePath(QStringLiteral("selected.pdf")));
-    QVERIFY(printing.print(&printer));
-    QVERIFY(item->isSelected());
-    QCOMPARE(changes.count(), 0);
+    PrintedDrawing drawing;
+    drawing.extent = QRectF(0, 0, 1500, 800);
+    drawing.paint = [](QPainter &, const QRectF &, const QRectF &) {};
+    DrawingPrinter printing(drawing, QStringLiteral("Late"));
+    printing.setLayout({Fit::Scale, 1});
+    const QString file = m_folder.filePath(QStringLiteral("marks.pdf"));
+    {
+        QPrinter printer;
+        setUp(printer, file);
+        QVERIFY(printing.print(&printer));
+    }
+    const QList<QImage> pages = imagesOf(file);
+    QCOMPARE(pages.size(), 4);
+    const double dots = pages.at(0).width() / 960.0; // for a unit
+    const PageGrid grid = [&] {
+        QPrinter printer;
+        setUp(printer, m_folder.filePath(QStringLiteral("unused.pdf")));
+        return printing.pages(printer);
+    }();
+    for (int number = 0; number < 4; ++number) {
+        const QImage &page = pages.at(number);
+        const QPointF cut = (grid.own(number).bottomRight() - grid.part(number).topLeft()) * dots;
+        const bool hasRight = number % 2 == 0;
+        const bool hasBelow = number < 2;
+        QCOMPARE(isDark(page, QPointF(cut.x(), 5 * dots)), hasRight);
+        QCOMPARE(isDark(page, QPointF(5 * dots, cut.y())), hasBelow);
+        // The map fills the cell of the page, of two by two in a footer of 24 units.
+        const double cell = 24 * 7 / 8.0 / 2;
+        for (int other = 0; other < 4; ++other) {
+            const QPointF center((other % 2 + 0.5) * cell, 480 - (1.5 - other / 2) * cell);
+            QCOMPARE(isDark(page, center * dots), other == number);
+        }
+    }
+}
+
+void TestDrawingPrinter::everyTitleIsWholeOnSomePage()
+{
+    const auto head = diagram();
+    const DiagramPicture picture(head.get());
+    DrawingPrinter printing(PrintedDrawing::of(picture), QStringLiteral("Large"));
+    printing.setLayout({Fit::Scale, 2});
+    const QString file = m_folder.filePath(QStringLiteral("titles.pdf"));
+    PageGrid grid;
+    {
+        QPrinter printer;
+        setUp(printer, file);
+        grid = printing.pages(printer);
+        QVERIFY(printing.print(&printer));
+    }
+    QVERIFY(grid.count() > 4);
+    const QList<QRectF> parts = grid.parts();
+    const QList<QRectF> texts = picture.texts();
+    for (const QRectF &text : texts) {
+        QVERIFY(std::any_of(parts.cbegin(), parts.cend(),
+                            [&text](const QRectF &part) { return part.contains(text); }));
+    }
+    QProcess reader;
+    reader.start(QStringLiteral("pdftotext"), {file, QStringLiteral("-")});
+    QVERIFY(reader.waitForFinished());
+    const QByteArray words = reader.readAllStandardOutput();
+    for (int category = 0; category < 8; ++category) {
+        for (int cause = 0; cause < 10; ++cause) {
+            const QByteArray word = "word" + QByteArray::number(category * 10 + cause);
+            QVERIFY2(words.contains(word), word.constData());
+        }
+    }
+}
+
+void TestDrawingPrinter::severalPagesAreNotLargerThanSoManyFilesOfOne_data()
+{
+    QTest::addColumn<bool>("isClear");
+    QTest::newRow("clear") << true;
+    QTest::newRow("classic") << false;
+}
+
+void TestDrawingPrinter::severalPagesAreNotLargerThanSoManyFilesOfOne()
+{
+    QFETCH(bool, isClear);
+    auto head = diagram();
+    const DiagramPicture picture(head.get());
+    FishModel model;
+    model.insertExistItemRows(QModelIndex(), {head.release()}); // which takes it over
+    LevelDrawing classic(model, model.index(0, 0));
+    classic.expand(Expansion::allLevels);
+    const PrintedDrawing drawing =
+        isClear ? PrintedDrawing::of(picture) : PrintedDrawing::of(*classic.scene());
+    const auto printed = [&](const DrawingPrinter::Layout &layout) {
+        DrawingPrinter printing(drawing, QStringLiteral("Large"));
+        printing.setLayout(layout);
+        const QString file = m_folder.filePath(QStringLiteral("size.pdf"));
+        {
+            QPrinter printer;
+            setUp(printer, file);
+            if (!printing.print(&printer))
+                return std::pair<qint64, int>(0, 0);
+        }
+        return std::pair<qint64, int>(QFileInfo(file).size(), pagesIn(file));
+    };
+    const auto [one, onePage] = printed({Fit::Page, 1});
+    QCOMPARE(onePage, 1);
+    const auto [all, pages] = printed({Fit::Scale, 3});
+    QVERIFY(pages > 4);
+    QVERIFY2(all <= one * pages,
+             qPrintable(QStringLiteral("%1 <= %2 * %3").arg(all).arg(one).arg(pages)));
 }
 
 FISHBONE_TEST(TestDrawingPrinter)

@@ -1,16 +1,23 @@
 // SPDX-FileCopyrightText: 2026 The Fishbone authors
 // SPDX-License-Identifier: MIT
 
+#include <app/export/picturesource.h>
 #include <app/export/printpreview.h>
 
 #include <tests/app/appfixture.h>
 #include <tests/program/testprogram.h>
 #include <tests/support/modaldriver.h>
+#include <tests/support/sourcefolder.h>
 
+#include <fishbone/exchange/diagrampicture.h>
+
+#include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
+#include <QPrintDialog>
 #include <QPrintPreviewWidget>
 #include <QPrinter>
+#include <QProcess>
 #include <QSettings>
 #include <QSpinBox>
 
@@ -29,6 +36,10 @@ private Q_SLOTS:
     void printsWhatItShows();
     void leavesTheSelectionAlone();
     void isOffWithoutADocument();
+    void choosesHowItIsDrawn();
+    void arrangesForThePaper();
+    void beginsInTheLookOfTheScreen();
+    void printsTheWholeDiagramWithoutAPreview();
 };
 
 void TestPrintPreview::opensFromTheWindow()
@@ -49,7 +60,8 @@ void TestPrintPreview::showsAsManyPagesAsAreWanted()
 {
     AppFixture app;
     app.window.editor()->expandAll();
-    PrintPreview preview(app.window.editor()->scene(), QStringLiteral("Late"));
+    PictureSource source(app.window.editor());
+    PrintPreview preview(&source, DiagramView());
     preview.show();
     preview.activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(&preview));
@@ -81,7 +93,8 @@ void TestPrintPreview::showsAsManyPagesAsAreWanted()
 void TestPrintPreview::goesWhileAScaleIsBeingTyped()
 {
     AppFixture app;
-    PrintPreview preview(app.window.editor()->scene(), QString());
+    PictureSource source(app.window.editor());
+    PrintPreview preview(&source, DiagramView());
     preview.findChild<QComboBox *>(QStringLiteral("fit"))->setCurrentIndex(2);
     preview.show();
     preview.activateWindow();
@@ -97,11 +110,13 @@ void TestPrintPreview::remembersWhatWasChosen()
 {
     AppFixture app;
     {
-        PrintPreview preview(app.window.editor()->scene(), QString());
+        PictureSource source(app.window.editor());
+        PrintPreview preview(&source, DiagramView());
         preview.findChild<QComboBox *>(QStringLiteral("fit"))->setCurrentIndex(2);
         preview.findChild<QSpinBox *>(QStringLiteral("percent"))->setValue(70);
     }
-    const PrintPreview preview(app.window.editor()->scene(), QString());
+    PictureSource source(app.window.editor());
+    const PrintPreview preview(&source, DiagramView());
     QCOMPARE(preview.findChild<QComboBox *>(QStringLiteral("fit"))->currentIndex(), 2);
     QCOMPARE(preview.findChild<QSpinBox *>(QStringLiteral("percent"))->value(), 70);
 }
@@ -110,7 +125,8 @@ void TestPrintPreview::printsWhatItShows()
 {
     AppFixture app;
     app.window.editor()->expandAll();
-    PrintPreview preview(app.window.editor()->scene(), QStringLiteral("Late"));
+    PictureSource source(app.window.editor());
+    PrintPreview preview(&source, DiagramView());
     preview.findChild<QComboBox *>(QStringLiteral("fit"))->setCurrentIndex(2);
     preview.findChild<QSpinBox *>(QStringLiteral("percent"))->setValue(400);
     preview.show();
@@ -141,6 +157,95 @@ void TestPrintPreview::isOffWithoutADocument()
     AppFixture app;
     app.trigger("close");
     QVERIFY(!app.window.findChild<QAction *>(QStringLiteral("printPreview"))->isEnabled());
+}
+
+void TestPrintPreview::choosesHowItIsDrawn()
+{
+    AppFixture app;
+    PictureSource source(app.window.editor());
+    PrintPreview preview(&source, DiagramView());
+    preview.show();
+    preview.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&preview));
+    AppFixture::settle();
+    auto *const look = preview.findChild<QComboBox *>(QStringLiteral("look"));
+    auto *const palette = preview.findChild<QComboBox *>(QStringLiteral("palette"));
+    auto *const legend = preview.findChild<QCheckBox *>(QStringLiteral("legend"));
+    QCOMPARE(source.look(), DiagramLook::Clear);
+    QVERIFY(source.picture().options().hasLegend);
+    palette->setFocus();
+    QTest::keyClick(palette, Qt::Key_End);
+    AppFixture::settle();
+    QCOMPARE(source.picture().options().palette, DiagramLook::GrayColors);
+    legend->setFocus();
+    QTest::keyClick(legend, Qt::Key_Space);
+    AppFixture::settle();
+    QVERIFY(!source.picture().options().hasLegend);
+    look->setFocus();
+    QTest::keyClick(look, Qt::Key_End);
+    AppFixture::settle();
+    QCOMPARE(source.look(), DiagramLook::Classic);
+    QVERIFY(!palette->isEnabled());
+    QVERIFY(!legend->isEnabled());
+    QCOMPARE(preview.findChild<QPrintPreviewWidget *>()->pageCount(), 1);
+}
+
+void TestPrintPreview::arrangesForThePaper()
+{
+    AppFixture app;
+    app.window.open(
+        {TestSupport::sourceFile(QStringLiteral("samples/checkout-outage.fishbone.json"))});
+    AppFixture::settle();
+    app.trigger("expandall");
+    PictureSource source(app.window.editor());
+    PrintPreview preview(&source, DiagramView());
+    preview.show();
+    AppFixture::settle();
+    const QSizeF lying = source.picture().size();
+    preview.printer()->setPageOrientation(QPageLayout::Portrait);
+    preview.findChild<QPrintPreviewWidget *>()->updatePreview();
+    AppFixture::settle();
+    const QSizeF standing = source.picture().size();
+    QVERIFY(standing.width() / standing.height() < lying.width() / lying.height());
+    QTest::mouseClick(preview.findChild<QCheckBox *>(QStringLiteral("arranged")), Qt::LeftButton);
+    AppFixture::settle();
+    QVERIFY(source.picture().options().wrapLimit == DiagramLook::Options().wrapLimit);
+}
+
+void TestPrintPreview::beginsInTheLookOfTheScreen()
+{
+    AppFixture app;
+    app.trigger("lookClassic");
+    QString look;
+    const ModalDriver<PrintPreview> driver([&look](PrintPreview &preview) {
+        look = preview.findChild<QComboBox *>(QStringLiteral("look"))->currentText();
+        preview.reject();
+    });
+    app.trigger("printPreview");
+    QVERIFY(driver.isDone());
+    QCOMPARE(look, QStringLiteral("Classic"));
+}
+
+void TestPrintPreview::printsTheWholeDiagramWithoutAPreview()
+{
+    AppFixture app;
+    app.trigger("expandall");
+    app.window.editor()->zoomFish(500); // of which the window shows next to nothing
+    const QString file = app.path(QStringLiteral("printed.pdf"));
+    const ModalDriver<QPrintDialog> driver([&file](QPrintDialog &dialog) {
+        dialog.printer()->setOutputFormat(QPrinter::PdfFormat);
+        dialog.printer()->setOutputFileName(file);
+        dialog.QDialog::accept();
+    });
+    app.trigger("print");
+    QVERIFY(driver.isDone());
+    QProcess reader;
+    reader.start(QStringLiteral("pdftotext"), {file, QStringLiteral("-")});
+    QVERIFY(reader.waitForFinished());
+    const QByteArray text = reader.readAllStandardOutput();
+    for (const char *title : {"Late", "People", "Illness", "Rust", "Machines"})
+        QVERIFY2(text.contains(title), title);
+    QVERIFY(!app.document()->modified());
 }
 
 FISHBONE_TEST(TestPrintPreview)
