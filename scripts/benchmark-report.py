@@ -90,6 +90,12 @@ ROWS = [
     ("G16", "G16 parses", "picture files parsed / shown", ratio, "%.2f", "1", at_most(1)),
     ("G17", "G17 export", "picture of the program, times as fast as dot", times_faster, "%.1fx",
      "5x, 10x faster", lambda value, size: value >= (5 if size == 1000 else 10)),
+    ("G19", "G19a clear look, all moved", "relayout of the clear look, all moved / of the classic one", ratio,
+     "%.2f", "3.0 at 10,000", lambda value, size: size < 10000 or value <= 3),
+    ("G19", "G19b clear look, a title", "another title in the clear look / in the classic one", ratio, "%.2f",
+     "3.0 at 10,000", lambda value, size: size < 10000 or value <= 3),
+    ("G19", "G19c best arrangement", "best arrangement for a slide / a relayout", ratio, "%.1f", "50",
+     at_most(50)),
 ]
 
 

@@ -31,20 +31,26 @@ ClearColumns::ClearColumns(qreal headHeight)
 {
 }
 
-qreal ClearColumns::place(const std::vector<ClearBox> &boxes, bool isBelow)
+ClearColumn ClearColumns::columnOf(std::vector<ClearBox> boxes)
 {
-    qreal hangsOver = 0;
-    qreal nearest = 0;            // what keeps off the tail
     std::vector<ClearBox> turned; // here things are packed along the backbone
     turned.reserve(boxes.size());
-    for (const ClearBox &box : boxes) {
+    for (const ClearBox &box : boxes)
+        turned.push_back({box.low, box.high, box.from, box.to});
+    return {std::move(boxes), ClearOutline::ofBoxes(turned, columnMargin)};
+}
+
+qreal ClearColumns::place(const ClearColumn &column, bool isBelow)
+{
+    qreal hangsOver = 0;
+    qreal nearest = 0; // what keeps off the tail
+    for (const ClearBox &box : column.boxes) {
         if (box.low < m_headHalf)
             hangsOver = std::max(hangsOver, -box.from - box.low * slope);
         if (box.low < nearBackbone)
             nearest = std::max(nearest, box.to + box.high * slope);
-        turned.push_back({box.low, box.high, box.from, box.to});
     }
-    ClearOutline outline = ClearOutline::ofBoxes(turned, columnMargin);
+    ClearOutline outline = column.outline;
     ClearOutline &side = m_sides[isBelow];
     qreal joint = (isBelow ? firstBelow : firstAbove) + std::max<qreal>(0, hangsOver - overHead);
     joint = std::max(joint, m_previous[isBelow] + jointPitch);

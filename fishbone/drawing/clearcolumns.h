@@ -7,6 +7,13 @@
 
 #include <vector>
 
+/** What a category covers: as boxes, and as the contour of these along the backbone. */
+struct ClearColumn
+{
+    std::vector<ClearBox> boxes;
+    ClearOutline outline;
+};
+
 /**
  * Packs the categories beside each other, on both sides of the backbone independently, each as near
  * to the head as it goes. Near linear in the number of boxes.
@@ -17,9 +24,12 @@ public:
     /** For a head of the height @p headHeight. */
     explicit ClearColumns(qreal headHeight);
 
-    /** Places a category that covers @p boxes: from and to are along the backbone as skewed
-     * coordinates have it, low and high across. Returns the distance of its joint from the head. */
-    qreal place(const std::vector<ClearBox> &boxes, bool isBelow);
+    /** The column of a category that covers @p boxes: from and to are along the backbone as skewed
+     * coordinates have it, low and high across. */
+    static ClearColumn columnOf(std::vector<ClearBox> boxes);
+
+    /** Places a category. Returns the distance of its joint from the head. */
+    qreal place(const ClearColumn &column, bool isBelow);
 
     /** How far from the head the backbone ends, so that the tail is clear of everything. */
     qreal end() const { return m_end; }

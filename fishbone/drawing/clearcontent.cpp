@@ -106,7 +106,8 @@ std::vector<ClearMeaning> ClearSymbols::all() const
 
 void ClearContent::add(const TreeItem *item, int parent, ClearPictureContent &content)
 {
-    const ClearSubjectLook look = ClearSubjectLook::of(*item);
+    ClearSubjectLook look = ClearSubjectLook::of(*item);
+    look.icon = ClearSubjectLook::iconOf(*item);
     ClearSubject subject;
     subject.parent = parent;
     subject.title = item->title();

@@ -29,10 +29,14 @@ bool isSeen(const QColor &color)
 }
 } // namespace
 
+QString ClearSubjectLook::iconOf(const TreeItem &subject)
+{
+    return TaskStatusInfo(TaskStatus(subject.status()), subject.progress()).iconPath();
+}
+
 ClearSubjectLook ClearSubjectLook::of(const TreeItem &subject)
 {
     ClearSubjectLook look;
-    look.icon = TaskStatusInfo(TaskStatus(subject.status()), subject.progress()).iconPath();
     look.colour = SubjectMarks::colour(subject);
     look.verdict = SubjectMarks::verdict(subject);
     if (const SpearStyle *const style = subject.spearStyle()) {

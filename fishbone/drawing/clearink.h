@@ -17,15 +17,17 @@ class TreeItem;
 /** How a subject differs from what its place in the diagram gives it. */
 struct ClearSubjectLook
 {
-    QString icon;            ///< the resource of its status icon; empty without one
+    QString icon;            ///< the resource of its status icon; empty without one, or not asked
     QColor ink;              ///< its own colour of text; invalid for that of its level
     QColor background;       ///< its own colour behind the text; invalid for none
     std::optional<QPen> pen; ///< its own pen for the bone
     QColor colour;           ///< its own colour for the bone and all below; invalid for none
     Verdict verdict = Verdict::None;
 
-    /** That of @p subject. */
+    /** That of @p subject, without its icon. */
     static ClearSubjectLook of(const TreeItem &subject);
+    /** The resource of the status icon of @p subject. */
+    static QString iconOf(const TreeItem &subject);
 };
 
 /** The colours and strokes that a bone is drawn with. */

@@ -57,6 +57,13 @@ public:
 
     static constexpr qreal badgeHeight = 15;
 
+    /** Whether it takes the same room: texts that are laid out once are compared. */
+    bool operator==(const ClearLabel &o) const
+    {
+        return m_text == o.m_text && m_hasStatus == o.m_hasStatus && m_hasLink == o.m_hasLink &&
+               m_badgeWidth == o.m_badgeWidth;
+    }
+
 private:
     bool hasIcon(bool onLeft) const;
     qreal iconLineWidth(bool onLeft) const;

@@ -20,8 +20,8 @@ constexpr int headLines = 5;
 constexpr qreal headWidest = 360;
 constexpr qreal penHalf = 1.1;
 constexpr qreal lineHalf = 1;
-constexpr qreal boxSlice = 4;
-constexpr qreal lineSlice = 6;
+constexpr qreal boxSlice = 7;
+constexpr qreal lineSlice = 9;
 constexpr qreal buttonInset = 5;
 
 QRectF around(const QLineF &line)
@@ -37,20 +37,37 @@ QRectF ClearLayout::Bone::rect() const
 
 ClearLayout::ClearLayout(const ClearTree &tree, const ClearFonts &fonts,
                          const ClearOptions &options, ClearTextCache &cache,
+                         const std::vector<QString> &legend, std::vector<ClearPacked> &packed)
+    : m_options(options)
+    , m_bones(std::size_t(tree.size()))
+{
+    layOut(tree, fonts, cache, legend, packed);
+}
+
+ClearLayout::ClearLayout(const ClearTree &tree, const ClearFonts &fonts,
+                         const ClearOptions &options, ClearTextCache &cache,
                          const std::vector<QString> &legend)
     : m_options(options)
     , m_bones(std::size_t(tree.size()))
 {
+    std::vector<ClearPacked> packed;
+    layOut(tree, fonts, cache, legend, packed);
+}
+
+void ClearLayout::layOut(const ClearTree &tree, const ClearFonts &fonts, ClearTextCache &cache,
+                         const std::vector<QString> &legend, std::vector<ClearPacked> &packed)
+{
     if (tree.size() == 0)
         return;
     makeLabels(tree, fonts, cache);
-    if (options.hasLegend)
+    if (m_options.hasLegend)
         m_legend = ClearLegend(legend, fonts.legend(), cache);
-    const ClearShapes shapes(tree, m_labels, m_options);
+    packed.resize(std::size_t(tree.children(0).size()));
+    const ClearShapes shapes(tree, m_labels, m_options, packed);
     const ClearHead head(m_labels.front());
     ClearColumns columns(head.size().height());
     for (int row = 0; row < tree.children(0).size(); ++row)
-        placeCategory(tree, shapes, row, columns);
+        placeCategory(tree, shapes, row, columns, packed[std::size_t(row)]);
     m_tailPlace = -columns.end();
     placeHead(head);
     measure(tree);
@@ -115,12 +132,14 @@ ClearBox ClearLayout::skewed(const QRectF &rect) const
 
 /** Places the bones of a category around its joint, and then all of it on the backbone. */
 void ClearLayout::placeCategory(const ClearTree &tree, const ClearShapes &shapes, int row,
-                                ClearColumns &columns)
+                                ClearColumns &columns, ClearPacked &packed)
 {
     const int category = tree.children(0)[row];
     const int side = row % 2 == 0 ? 1 : -1; // below the backbone first
+    const bool isKnown = !packed.column.boxes.empty();
     std::vector<ClearBox> boxes;
-    boxes.reserve(std::size_t(5 * (tree.end(category) - category)));
+    if (!isKnown)
+        boxes.reserve(std::size_t(5 * (tree.end(category) - category)));
     for (int index = category; index < tree.end(category); ++index) {
         Bone &bone = m_bones[std::size_t(index)];
         bone.level = tree.level(index);
@@ -129,9 +148,12 @@ void ClearLayout::placeCategory(const ClearTree &tree, const ClearShapes &shapes
             placeBox(shapes, index, side);
         else
             placeBone(shapes, index, side);
-        addBoxes(shapes, index, boxes);
+        if (!isKnown)
+            addBoxes(shapes, index, boxes);
     }
-    const qreal joint = columns.place(boxes, side > 0);
+    if (!isKnown)
+        packed.column = ClearColumns::columnOf(std::move(boxes));
+    const qreal joint = columns.place(packed.column, side > 0);
     for (int index = category; index < tree.end(category); ++index)
         m_bones[std::size_t(index)].move(-direction() * joint);
 }

@@ -8,6 +8,7 @@
 #include <fishbone/drawing/clearlabel.h>
 #include <fishbone/drawing/clearlegend.h>
 #include <fishbone/drawing/clearoptions.h>
+#include <fishbone/drawing/clearpacked.h>
 #include <fishbone/drawing/clearshapes.h>
 #include <fishbone/drawing/cleartree.h>
 
@@ -55,7 +56,12 @@ public:
         void move(qreal dx);
     };
 
-    /** Lays out @p tree. @p legend has the meanings of the symbols in use, in order. */
+    /** Lays out @p tree. @p legend has the meanings of the symbols in use, in order. Categories
+     * that are as they are in @p packed are taken from there, the others stored there. */
+    ClearLayout(const ClearTree &tree, const ClearFonts &fonts, const ClearOptions &options,
+                ClearTextCache &cache, const std::vector<QString> &legend,
+                std::vector<ClearPacked> &packed);
+    /** The same from nothing. */
     ClearLayout(const ClearTree &tree, const ClearFonts &fonts, const ClearOptions &options,
                 ClearTextCache &cache, const std::vector<QString> &legend = {});
 
@@ -81,8 +87,10 @@ public:
 
 private:
     void makeLabels(const ClearTree &tree, const ClearFonts &fonts, ClearTextCache &cache);
+    void layOut(const ClearTree &tree, const ClearFonts &fonts, ClearTextCache &cache,
+                const std::vector<QString> &legend, std::vector<ClearPacked> &packed);
     void placeCategory(const ClearTree &tree, const ClearShapes &shapes, int row,
-                       ClearColumns &columns);
+                       ClearColumns &columns, ClearPacked &packed);
     void placeBone(const ClearShapes &shapes, int index, int side);
     void placeBox(const ClearShapes &shapes, int index, int side);
     void addBoxes(const ClearShapes &shapes, int index, std::vector<ClearBox> &out) const;

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <fishbone/drawing/clearcolors.h>
+#include <fishbone/drawing/clearpacked.h>
 #include <fishbone/drawing/cleartext.h>
 #include <fishbone/drawing/diagramlook.h>
 #include <fishbone/drawing/drawinglook.h>
@@ -67,5 +68,6 @@ private:
 
     DiagramLook::Options m_options;
     ClearColors m_colors;
-    mutable ClearTextCache m_texts; ///< what was measured stays measured
+    mutable ClearTextCache m_texts;            ///< what was measured stays measured
+    mutable std::vector<ClearPacked> m_packed; ///< the categories of the last layout
 };

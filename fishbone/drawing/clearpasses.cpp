@@ -112,14 +112,16 @@ std::vector<ClearInk> ClearLook::inksOf(const ClearTree &tree,
     int category = -1;
     for (int index = 0; index < tree.size(); ++index) {
         const TreeItem *const subject = spears[std::size_t(index)]->treeItem();
-        const ClearSubjectLook look = subject ? ClearSubjectLook::of(*subject) : ClearSubjectLook();
+        ClearSubjectLook look = subject ? ClearSubjectLook::of(*subject) : ClearSubjectLook();
+        if (subject && m_options.hasLegend)
+            look.icon = ClearSubjectLook::iconOf(*subject);
         const int level = tree.level(index);
         category += level == 1 ? 1 : 0;
         const int parent = tree.at(index).parent;
         inks.push_back(ClearInk::of(look, level, category,
                                     parent < 0 ? QColor() : inks[std::size_t(parent)].colour,
                                     m_colors));
-        if (subject)
+        if (subject && m_options.hasLegend)
             symbols.add(*subject, look, level);
     }
     return inks;
@@ -135,7 +137,7 @@ void ClearLook::place(const SpearTree &tree) const
     if (m_options.hasLegend)
         symbols = used.all();
     const ClearLayout layout(subjects, ClearFonts::ofTheUser(), ClearOptions::of(m_options),
-                             m_texts, textsOf(symbols));
+                             m_texts, textsOf(symbols), m_packed);
     m_texts.forgetUnused();
     const std::unordered_set<const SpearItem *> seen(shown.spears.cbegin(), shown.spears.cend());
     for (const SpearTree::Entry &entry : tree.entries()) {

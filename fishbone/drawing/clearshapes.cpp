@@ -3,6 +3,8 @@
 
 #include <fishbone/drawing/clearshapes.h>
 
+#include <fishbone/drawing/clearpacked.h>
+
 #include <algorithm>
 #include <utility>
 
@@ -31,7 +33,7 @@ constexpr qreal half = 0.5;
 } // namespace
 
 ClearShapes::ClearShapes(const ClearTree &tree, const std::vector<ClearLabel> &labels,
-                         const ClearOptions &options)
+                         const ClearOptions &options, std::vector<ClearPacked> &packed)
     : m_tree(tree)
     , m_labels(labels)
     , m_options(options)
@@ -39,16 +41,32 @@ ClearShapes::ClearShapes(const ClearTree &tree, const std::vector<ClearLabel> &l
     , m_outlines(std::size_t(tree.size()))
 {
     decideSides();
-    for (int index = tree.size() - 1; index > 0; --index) {
-        const int level = tree.level(index);
-        if (level == 1)
-            packCategory(index);
-        else if (isSlanted(level))
+    for (int row = 0; row < tree.children(0).size(); ++row) {
+        const int category = tree.children(0)[row];
+        const bool both = usesBothSides(category);
+        const auto first = m_bones.begin() + category;
+        ClearPacked &known = packed[std::size_t(row)];
+        if (known.isOf(tree, labels, category, both, options.isHeadLeft)) {
+            std::copy(known.bones().begin(), known.bones().end(), first);
+            continue;
+        }
+        packTree(category);
+        known.keep(tree, labels, category, both, options.isHeadLeft,
+                   {first, m_bones.begin() + tree.end(category)});
+    }
+}
+
+/** Packs a category with all below it, from the leaves up. */
+void ClearShapes::packTree(int category)
+{
+    for (int index = m_tree.end(category) - 1; index > category; --index) {
+        if (isSlanted(m_tree.level(index)))
             packSlanted(index);
         else
             packLevel(index);
     }
-    settle();
+    packCategory(category);
+    settle(category);
 }
 
 void ClearShapes::decideSides()
@@ -208,11 +226,9 @@ void ClearShapes::packCategory(int index)
 }
 
 /** Turns places seen from the parent into places seen from the category. */
-void ClearShapes::settle()
+void ClearShapes::settle(int category)
 {
-    for (int index = 1; index < m_tree.size(); ++index) {
-        if (m_tree.level(index) < 2)
-            continue;
+    for (int index = category + 1; index < m_tree.end(category); ++index) {
         Bone &bone = m_bones[std::size_t(index)];
         const Bone &parent = m_bones[std::size_t(m_tree.at(index).parent)];
         bone.isMirrored = bone.isMirrored || parent.isMirrored;

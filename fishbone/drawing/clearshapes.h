@@ -12,6 +12,8 @@
 
 #include <vector>
 
+class ClearPacked;
+
 /**
  * Packs the bones of each category: where every bone branches off, how long it is and where its
  * text stands.
@@ -36,9 +38,10 @@ public:
         bool isMirrored = false; ///< whether it is on the side towards the head
     };
 
-    /** Packs @p tree with one of @p labels for each subject; @p labels lives on. */
+    /** Packs @p tree with one of @p labels for each subject; @p labels lives on. Categories are
+     * taken from @p packed, which has one for each row, where they are the same. */
     ClearShapes(const ClearTree &tree, const std::vector<ClearLabel> &labels,
-                const ClearOptions &options);
+                const ClearOptions &options, std::vector<ClearPacked> &packed);
 
     const Bone &bone(int index) const { return m_bones[std::size_t(index)]; }
 
@@ -57,11 +60,12 @@ public:
     quint64 work() const { return m_work; }
 
 private:
+    void packTree(int category);
     void packLevel(int index);
     void packSlanted(int index);
     void packCategory(int index);
     void place(int child, qreal along, qreal across, bool isMirrored = false);
-    void settle();
+    void settle(int category);
     void decideSides();
     ClearBox textBox(int index, qreal along, qreal across) const;
     qreal labelWidth(int index) const;
