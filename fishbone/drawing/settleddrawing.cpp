@@ -38,21 +38,26 @@ bool isSame(const QPointF &a, const QPointF &b)
 }
 } // namespace
 
-bool SettledSpear::Part::operator==(const Part &other) const
+bool SettledSpear::Part::holds(const QGraphicsItem *item) const
 {
-    return isSame(position, other.position) && width == other.width;
+    if (!item)
+        return width < 0;
+    return isSame(position, item->pos()) && width == item->boundingRect().width();
 }
 
-bool SettledSpear::operator==(const SettledSpear &other) const
+bool SettledSpear::holds(const SpearItem &spear) const
 {
-    return m_spear == other.m_spear && m_text.width() == other.m_text.width() &&
-           m_text.height() == other.m_text.height() && m_direction == other.m_direction &&
-           m_isExpanded == other.m_isExpanded && m_offset == other.m_offset &&
-           m_children == other.m_children && isSame(m_line.p1(), other.m_line.p1()) &&
-           isSame(m_line.p2(), other.m_line.p2()) && isSame(m_textPosition, other.m_textPosition) &&
-           m_textRotation == other.m_textRotation &&
-           isSame(m_statusPosition, other.m_statusPosition) && m_link == other.m_link &&
-           m_button == other.m_button;
+    const TextItem &text = *spear.textItem();
+    const QSizeF size = text.textSize();
+    const QLineF line = spear.line();
+    return m_spear == &spear && m_direction == spear.direction() &&
+           m_isExpanded == spear.isExpand() && m_offset == spear.offset() &&
+           m_children == spear.childExtents() && isSame(m_line.p1(), line.p1()) &&
+           isSame(m_line.p2(), line.p2()) && m_text.width() == size.width() &&
+           m_text.height() == size.height() && isSame(m_textPosition, text.pos()) &&
+           m_textRotation == text.rotation() &&
+           isSame(m_statusPosition, spear.statusItem()->pos()) && m_link.holds(spear.linkItem()) &&
+           m_button.holds(spear.expandBuddy());
 }
 
 void SettledDrawing::note(std::vector<SettledSpear> spears, const SpearLook *look)

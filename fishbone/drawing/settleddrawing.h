@@ -19,8 +19,8 @@ class SettledSpear
 public:
     explicit SettledSpear(const SpearItem &spear);
 
-    bool operator==(const SettledSpear &other) const;
-    bool operator!=(const SettledSpear &other) const { return !(*this == other); }
+    /** Whether @p spear is the same one and says all of it still. */
+    bool holds(const SpearItem &spear) const;
 
 private:
     struct Part
@@ -28,7 +28,7 @@ private:
         QPointF position;
         double width = -1; ///< none where there is no such part
 
-        bool operator==(const Part &other) const;
+        bool holds(const QGraphicsItem *item) const;
     };
 
     static Part partOf(const QGraphicsItem *item);
@@ -59,7 +59,7 @@ public:
     /** Whether @p spear stands in that place of the breadth-first order as noted. */
     bool matches(std::size_t place, const SpearItem &spear) const
     {
-        return place < m_spears.size() && m_spears[place] == SettledSpear(spear);
+        return place < m_spears.size() && m_spears[place].holds(spear);
     }
     /** Whether so many spears were noted, in that look. */
     bool matches(std::size_t count, const SpearLook *look) const
