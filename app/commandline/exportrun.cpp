@@ -40,15 +40,34 @@ FishInfo *loadNow(DocumentLoader &loader, const QString &source, QString &messag
     return loadedDocument;
 }
 
+/** What @p line has the drawing arranged for, a wide slide when it does not say. */
+QSizeF pageOf(const CommandLine &line)
+{
+    if (line.look.page)
+        return line.look.page->size;
+    return line.options.size.isEmpty() ? QSizeF(16, 9) : QSizeF(line.options.size);
+}
+
 /** Draws @p document of @p model into a slide; returns an exit code. */
 int drawSlide(FishModel &model, FishInfo *document, const CommandLine &line, QString &message)
 {
     const CanvasTheme theme; // gives the bones the user's style
     LevelDrawing drawing(model, model.index(model.fishRow(document), 0));
-    drawing.expand(line.levels);
     const TreeItem &head = *document->treeItem()->childAtIndex(0);
+    const QSizeF page = pageOf(line);
+    if (line.look.view.look == DiagramLook::Clear) {
+        DiagramPicture picture(&head, line.look.view.options, line.levels);
+        picture.arrangeFor(page);
+        drawing.setLook(DiagramLook::Clear, picture.options());
+    }
+    drawing.expand(line.levels);
+    drawing.update();
+    constexpr double betweenAspects = 1.5;
+    const SlideExport::Aspect aspect = page.width() < betweenAspects * page.height()
+                                           ? SlideExport::Aspect::Narrow
+                                           : SlideExport::Aspect::Wide;
     QString reason;
-    if (SlideExport::write(*drawing.scene(), head, line.target, SlideExport::Aspect::Wide, &reason))
+    if (SlideExport::write(*drawing.scene(), head, line.target, aspect, &reason))
         return CommandLine::success;
     message = CommandLine::tr("cannot write %1: %2").arg(line.target, reason);
     return CommandLine::failure;
@@ -60,10 +79,7 @@ PictureExport::Result drawClear(const TreeItem *head, const CommandLine &line,
 {
     const LookChoice &look = line.look;
     DiagramPicture picture(head, look.view.options, line.levels);
-    const QSizeF slide(16, 9);
-    picture.arrangeFor(look.page                 ? look.page->size
-                       : !options.size.isEmpty() ? QSizeF(options.size)
-                                                 : slide);
+    picture.arrangeFor(pageOf(line));
     return ClearExport::write(picture, look.page, line.target,
                               ClearExport::suited(options, look.view.options));
 }

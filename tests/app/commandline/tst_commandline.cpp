@@ -4,6 +4,9 @@
 #include <tests/app/programrunner.h>
 #include <tests/program/testprogram.h>
 
+#include <fishbone/exchange/importedtree.h>
+#include <fishbone/exchange/ziparchive.h>
+
 #include <QImage>
 
 using namespace ProgramRunner;
@@ -24,6 +27,7 @@ private Q_SLOTS:
     void shouldExpandAsAsked();
     void shouldDrawForAPage_data();
     void shouldDrawForAPage();
+    void shouldDrawASlideInTheLookForAPage();
     void shouldMakeThePictureAsLargeAsAsked();
     void shouldFillTheBackgroundAsAsked_data();
     void shouldFillTheBackgroundAsAsked();
@@ -239,6 +243,32 @@ void TestCommandLine::shouldDrawForAPage()
     QCOMPARE(image.size(), size);
     QVERIFY(exported({QStringLiteral("--head=left"), QStringLiteral("--page"), page}) != image);
     QVERIFY(exported({QStringLiteral("--palette=gray"), QStringLiteral("--page"), page}) != image);
+}
+
+void TestCommandLine::shouldDrawASlideInTheLookForAPage()
+{
+    const QString slide = path(QStringLiteral("slide.pptx"));
+    const auto partOf = [&](const QStringList &options, const QString &part) {
+        QFile::remove(slide);
+        if (run(options + QStringList{QStringLiteral("--export"), slide, document()}, environment())
+                .code != 0)
+            return QByteArray("not written");
+        QFile file(slide);
+        const QByteArray bytes = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+        ImportedTree tree;
+        ZipReader archive(bytes, tree);
+        return archive.file(part).value_or(QByteArray("no such part"));
+    };
+    const QString presentation = QStringLiteral("ppt/presentation.xml");
+    const QString shapes = QStringLiteral("ppt/slides/slide1.xml");
+    const QString page = QStringLiteral("--page");
+    QVERIFY(partOf({}, presentation).contains("<p:sldSz cx=\"12192000\" cy=\"6858000\"/>"));
+    QVERIFY(partOf({page, QStringLiteral("1024x768")}, presentation)
+                .contains("<p:sldSz cx=\"9144000\" cy=\"6858000\"/>"));
+    const QByteArray clear = partOf({}, shapes);
+    QVERIFY(clear.contains("<p:sp>"));
+    QVERIFY(partOf({QStringLiteral("--look=classic")}, shapes) != clear);
+    QVERIFY(partOf({QStringLiteral("--head=left")}, shapes) != clear);
 }
 
 void TestCommandLine::shouldMakeThePictureAsLargeAsAsked()
