@@ -284,6 +284,18 @@ std::optional<TableMapping> DiagramExchange::tableMapping(const QString &fileNam
     return TaskTable::mappingOf(rows);
 }
 
+namespace {
+/** Names the fields of @p subject that only diagrams have. */
+void addOtherFields(const TreeItem &subject, ExchangeReport &report)
+{
+    const QStringList keys = subject.otherFields().keys();
+    for (const QString &key : keys)
+        report.add(key == JsonNodes::viewKey ? ExchangeReport::Kind::Appearance
+                                             : ExchangeReport::Kind::LeftOut,
+                   QLatin1Char('"') + key + QLatin1Char('"'));
+}
+} // namespace
+
 ExchangeReport DiagramExchange::lossesOf(const TreeItem &head, Format format)
 {
     ExchangeReport report;
@@ -300,6 +312,8 @@ ExchangeReport DiagramExchange::lossesOf(const TreeItem &head, Format format)
                 report.add(ExchangeReport::Kind::LeftOut,
                            QLatin1Char('"') + key + QLatin1Char('"'));
         }
+        if (format != Format::Json)
+            addOtherFields(subject, report);
         if (losesStyle && subject.spearStyle())
             report.add(ExchangeReport::Kind::Appearance, tr("a style"));
     });

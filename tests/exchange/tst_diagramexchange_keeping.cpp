@@ -96,6 +96,8 @@ private Q_SLOTS:
     void shouldTellProgramsWhatTheTableTellsPeople();
     void shouldNameWhatIsLeftOutInWriting_data() { addFormats(); }
     void shouldNameWhatIsLeftOutInWriting();
+    void shouldNameTheFieldsOfOtherPrograms_data() { addFormats(); }
+    void shouldNameTheFieldsOfOtherPrograms();
     void shouldNameStatusesThatHaveNoBox();
     void shouldNameEveryAttributeInTheTable();
     void shouldKeepEverythingTwice_data() { addFormats(); }
@@ -187,6 +189,27 @@ void TestDiagramExchangeKeeping::shouldNameWhatIsLeftOutInWriting()
     named.sort();
     expected.sort();
     QCOMPARE(named, expected);
+}
+
+void TestDiagramExchangeKeeping::shouldNameTheFieldsOfOtherPrograms()
+{
+    QFETCH(Format, format);
+    const QJsonObject fields{{QStringLiteral("cost"), 12},
+                             {QStringLiteral("verdict"), QStringLiteral("confirmed")},
+                             {QStringLiteral("view"), QJsonObject{{QStringLiteral("zoom"), 1}}}};
+    TreeItem head;
+    head.setTitle(QStringLiteral("Effect"));
+    head.setOtherFields(fields);
+    const Imported result = carriedThrough(head, format);
+    QVERIFY2(result.head, qPrintable(result.error));
+    QStringList expected;
+    if (result.head->otherFields() != fields) {
+        QCOMPARE(result.head->otherFields(), QJsonObject());
+        expected = QStringList{QStringLiteral("left out: \"cost\""),
+                               QStringLiteral("left out: \"verdict\""),
+                               QStringLiteral("appearance left out: \"view\"")};
+    }
+    QCOMPARE(DiagramExchange::lossesOf(head, format).lines(), expected);
 }
 
 void TestDiagramExchangeKeeping::shouldNameStatusesThatHaveNoBox()
