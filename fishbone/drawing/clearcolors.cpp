@@ -18,8 +18,6 @@ constexpr Colors gray{0xff3a3a3a, 0xff666666, 0xff4c4c4c, 0xff707070, 0xff404040
 constexpr Colors dark{0xff7db8ee, 0xff6fc9d6, 0xfff0a070, 0xffd09be0, 0xff74cf93,
                       0xffcfcf70, 0xfff092a4, 0xffa9b3ee, 0xffd8b088, 0xffb8d0c8};
 
-constexpr qreal enough = 4.5; ///< contrast of a text
-
 /** As light as the eye takes it, 0 to 1. */
 qreal luminance(const QColor &color)
 {
@@ -101,7 +99,7 @@ QColor ClearColors::rootCause() const
     return isDark() ? QColor(0xf28b82) : QColor(0xb3261e);
 }
 
-QColor ClearColors::readable(const QColor &ink, const QColor &below)
+QColor ClearColors::readable(const QColor &ink, const QColor &below, qreal enough)
 {
     constexpr int steps = 10;
     const QColor best = inkOn(below);
@@ -125,7 +123,7 @@ QColor ClearColors::inkOn(const QColor &fill)
     const QColor light(Qt::white);
     const QColor night(0x10161c);
     for (const QColor &ink : {light, night}) {
-        if (contrast(fill, ink) >= enough)
+        if (contrast(fill, ink) >= enoughForText)
             return ink;
     }
     return Qt::black; // on some colours between light and dark nothing else will do

@@ -30,8 +30,10 @@ public:
     static QColor inkOn(const QColor &fill);
     /** @p part of @p color on @p below. */
     static QColor mixed(const QColor &color, const QColor &below, qreal part);
-    /** @p ink, as much lighter or darker as it takes to be read on @p below. */
-    static QColor readable(const QColor &ink, const QColor &below);
+    static constexpr qreal enoughForText = 4.5; ///< contrast
+    static constexpr qreal enoughForLines = 3;  ///< contrast
+    /** @p ink, as much lighter or darker as it takes to have that contrast to @p below. */
+    static QColor readable(const QColor &ink, const QColor &below, qreal enough = enoughForText);
     /** How much lighter one of two colours is than the other: 1 for none, 21 for white on black. */
     static qreal contrast(const QColor &one, const QColor &other);
 

@@ -54,7 +54,7 @@ ClearInk ClearInk::of(const ClearSubjectLook &look, int level, int category,
     ClearInk ink;
     QColor below = colors.paper();
     if (look.colour.isValid())
-        ink.colour = look.colour;
+        ink.colour = ClearColors::readable(look.colour, below, ClearColors::enoughForLines);
     else if (level <= 1)
         ink.colour = level == 0 ? colors.outline() : colors.category(category);
     else
@@ -65,7 +65,7 @@ ClearInk ClearInk::of(const ClearSubjectLook &look, int level, int category,
         ink.line =
             look.pen.value_or(QPen(ink.colour, lineWidth(level), Qt::SolidLine, Qt::RoundCap));
     if (level == 1)
-        ink.box = ink.colour;
+        ink.box = look.colour.isValid() ? look.colour : ink.colour;
     if (isSeen(ink.box))
         below = ink.box;
     ink.verdict = look.verdict;

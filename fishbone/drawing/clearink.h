@@ -34,7 +34,7 @@ struct ClearSubjectLook
 struct ClearInk
 {
     QPen line;         ///< of the bone; solid and black for the head, which has none
-    QColor colour;     ///< what the bones below inherit
+    QColor colour;     ///< what the bones below inherit; shows on the canvas
     QColor box;        ///< behind the title of a category, inside the head; invalid for others
     QColor background; ///< directly behind the title; invalid for none
     QColor text;

@@ -225,6 +225,14 @@ void TestClearLookReading::shouldMakeOwnColoursReadable()
         for (const int lightness : {0, 60, 128, 200, 255}) {
             ClearSubjectLook look;
             look.ink = QColor::fromHsl(hue, 230, lightness);
+            look.colour = look.ink;
+            for (const int level : {1, 2, 3}) {
+                const ClearInk ink = ClearInk::of(look, level, 0, Qt::gray, colors);
+                QVERIFY(contrast(ink.line.color(), colors.paper()) >= 3);
+                if (contrast(look.colour, colors.paper()) >= 3)
+                    QCOMPARE(ink.line.color().rgb(), look.colour.rgb());
+            }
+            look.colour = QColor();
             for (const int level : {0, 1, 2, 3}) {
                 const ClearInk ink = ClearInk::of(look, level, 0, Qt::gray, colors);
                 const QColor below = level < 2 ? ink.box : colors.paper();
