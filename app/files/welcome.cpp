@@ -3,10 +3,8 @@
 
 #include <app/files/welcome.h>
 
-#include <fishbone/exchange/diagramexchange.h>
 #include <fishbone/model/treeitem.h>
 
-#include <QBuffer>
 #include <QCoreApplication>
 #include <QSettings>
 
@@ -52,15 +50,22 @@ namespace Welcome {
 
 std::unique_ptr<TreeItem> diagram()
 {
-    QString outline;
+    std::unique_ptr<TreeItem> head;
+    TreeItem *latest[3] = {}; // of each level
     for (const Line &line : lines) {
-        outline += QString(line.level, QLatin1Char('\t')) +
-                   QCoreApplication::translate("Welcome", line.title) + QLatin1Char('\n');
+        auto item = std::make_unique<TreeItem>();
+        item->setTitle(QCoreApplication::translate("Welcome", line.title));
+        item->ensureUuid();
+        latest[line.level] = item.get();
+        if (line.level == 0) {
+            head = std::move(item);
+            continue;
+        }
+        TreeItem *const parent = latest[line.level - 1];
+        item->setPid(parent->uuid());
+        parent->appendChild(item.release()); // which takes it over
     }
-    QByteArray text = outline.toUtf8();
-    QBuffer buffer(&text);
-    buffer.open(QIODevice::ReadOnly);
-    return DiagramExchange::read(buffer, DiagramExchange::Format::Text);
+    return head;
 }
 
 bool isFirstStart()

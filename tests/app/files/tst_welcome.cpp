@@ -16,6 +16,7 @@ class TestWelcome : public QObject
 private Q_SLOTS:
     void init() { QSettings().clear(); }
     void teachesTheKeysOnThreeLevels();
+    void namesTheKeyThatLooksLikeABullet();
     void greetsAtTheFirstStartAlone();
     void comesUntitledAndUnmodifiedAndAllInView();
     void comesAgainFromTheMenu();
@@ -31,6 +32,17 @@ void TestWelcome::teachesTheKeysOnThreeLevels()
     QCOMPARE(head->childCount(), 6);
     for (const TreeItem *bone : head->childItems())
         QVERIFY2(bone->childCount() >= 2, qPrintable(bone->title()));
+}
+
+void TestWelcome::namesTheKeyThatLooksLikeABullet()
+{
+    const auto head = Welcome::diagram();
+    QStringList titles;
+    for (const TreeItem *bone : head->childItems()) {
+        for (const TreeItem *key : bone->childItems())
+            titles.append(key->title());
+    }
+    QVERIFY(titles.contains(QStringLiteral("+ and −: expand, contract")));
 }
 
 void TestWelcome::greetsAtTheFirstStartAlone()
