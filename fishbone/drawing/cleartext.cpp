@@ -6,6 +6,7 @@
 #include <fishbone/drawing/cleartextbreaker.h>
 
 #include <QImage>
+#include <QPaintEngine>
 #include <QPainter>
 #include <QTextLayout>
 
@@ -18,6 +19,7 @@ constexpr std::size_t textsKept = 4096; ///< below that nothing is forgotten
 constexpr int widthsKept = 50000;
 constexpr qreal veryWide = 1e6;
 constexpr qreal metre = 39.37; ///< inches
+constexpr qreal pointsOfInch = 72;
 
 QList<QGlyphRun> glyphsOf(const QString &text, const ClearFont &font, bool isRightToLeft)
 {
@@ -78,6 +80,15 @@ ClearText::ClearText(const ClearFont &font, std::vector<Line> lines, bool isRigh
 void ClearText::paintLine(QPainter &painter, int line, const QPointF &base,
                           const QColor &color) const
 {
+    const QPaintEngine *const engine = painter.paintEngine();
+    if (engine && engine->type() >= QPaintEngine::User) { // of a slide, say: it takes words
+        QFont font = m_font.font();
+        font.setPointSizeF(m_font.pixels() * pointsOfInch / painter.device()->logicalDpiY());
+        painter.setFont(font);
+        painter.setPen(color);
+        painter.drawText(base, m_lines[std::size_t(line)].text);
+        return;
+    }
     if (m_glyphs.empty()) {
         m_glyphs.reserve(m_lines.size());
         for (const Line &each : m_lines)

@@ -11,6 +11,8 @@
 
 #include <fishbone/exchange/diagramexchange.h>
 
+#include <QProcess>
+#include <QSettings>
 #include <QStatusBar>
 
 using DialogAnswers::enter;
@@ -36,6 +38,8 @@ private Q_SLOTS:
     void shouldExportEveryForeignFormat_data();
     void shouldExportEveryForeignFormat();
     void shouldExportASlide();
+    void shouldWriteTheTitlesOfASlide_data();
+    void shouldWriteTheTitlesOfASlide();
     void shouldSayWhatAnExportLeavesOut();
     void shouldExportTheWholeDocument();
     void shouldLeaveTheDocumentAsItIs();
@@ -54,6 +58,7 @@ void TestExportCommands::initTestCase()
 void TestExportCommands::init()
 {
     QDir(RecoveryStore::folder()).removeRecursively();
+    QSettings().clear();
 }
 
 void TestExportCommands::shouldExportEveryForeignFormat_data()
@@ -108,6 +113,33 @@ void TestExportCommands::shouldExportASlide()
     QVERIFY(AppFixture::contentOf(path).startsWith("PK"));
     QCOMPARE(app.window.statusBar()->currentMessage(), QStringLiteral("%1 written").arg(path));
     QCOMPARE(app.selectedInDrawing(), QStringList(QStringLiteral("People")));
+}
+
+void TestExportCommands::shouldWriteTheTitlesOfASlide_data()
+{
+    QTest::addColumn<QByteArray>("look");
+    QTest::newRow("clear") << QByteArray("lookClear");
+    QTest::newRow("classic") << QByteArray("lookClassic");
+}
+
+void TestExportCommands::shouldWriteTheTitlesOfASlide()
+{
+    QFETCH(QByteArray, look);
+    AppFixture app;
+    app.trigger(look.constData());
+    app.trigger("expandall");
+    const QString path = app.path(QStringLiteral("a.pptx"));
+    const ModalDriver<QFileDialog> driver(enter(path));
+    app.trigger("exportAs");
+    QVERIFY(driver.isDone());
+    QProcess unpacking;
+    unpacking.start(QStringLiteral("unzip"),
+                    {QStringLiteral("-p"), path, QStringLiteral("ppt/slides/slide1.xml")});
+    QVERIFY(unpacking.waitForFinished());
+    const QByteArray slide = unpacking.readAllStandardOutput();
+    for (const char *title :
+         {"Illness", "Late", "Machines", "Material", "People", "Rust", "Too few", "Too new"})
+        QVERIFY2(slide.contains("<a:t>" + QByteArray(title) + "</a:t>"), title);
 }
 
 void TestExportCommands::shouldSayWhatAnExportLeavesOut()
