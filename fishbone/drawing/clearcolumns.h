@@ -7,16 +7,26 @@
 
 #include <vector>
 
-/** What a category covers: as boxes, and as the contour of these along the backbone. */
+/** How far something reaches along the backbone, between two distances from it. */
+struct ClearReach
+{
+    qreal low;
+    qreal high;
+    qreal value;
+};
+
+/** What a category covers: as boxes, and as the contours of these along the backbone, in order of
+ * their distance from it. */
 struct ClearColumn
 {
     std::vector<ClearBox> boxes;
-    ClearOutline outline;
+    std::vector<ClearReach> near; ///< towards the head
+    std::vector<ClearReach> far;  ///< towards the tail
 };
 
 /**
  * Packs the categories beside each other, on both sides of the backbone independently, each as near
- * to the head as it goes. Near linear in the number of boxes.
+ * to the head as it goes. Linear in the number of steps of a column and of those that it covers.
  */
 class ClearColumns
 {
@@ -35,10 +45,14 @@ public:
     qreal end() const { return m_end; }
 
     /** How many steps of contours were looked at. */
-    quint64 work() const { return m_sides[0].work() + m_sides[1].work(); }
+    quint64 work() const { return m_work; }
 
 private:
-    ClearOutline m_sides[2]; ///< across the backbone: how far the columns reach along it
+    qreal clearance(const std::vector<ClearReach> &side, const std::vector<ClearReach> &near);
+    void stack(std::vector<ClearReach> &side, const std::vector<ClearReach> &far, qreal joint);
+
+    std::vector<ClearReach> m_sides[2]; ///< how far the columns reach, one behind the other
+    quint64 m_work = 0;
     qreal m_previous[2];
     qreal m_headHalf;
     qreal m_end;

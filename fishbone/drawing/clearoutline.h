@@ -129,6 +129,10 @@ public:
     /** Takes over @p shape, moved by @p along and @p across; it must not reach into this one. */
     void stack(ClearOutline &&shape, qreal along, qreal across);
 
+    /** How high it reaches, and how low. */
+    const ClearSteps &upper() const { return m_upper; }
+    const ClearSteps &lower() const { return m_lower; } ///< see upper()
+
     /** The smallest start of a box, margins left out. */
     qreal start() const { return m_start; }
     /** The lowest side of a box. */
