@@ -3,17 +3,34 @@
 
 #include <app/recovery/documentpicture.h>
 
+#include <app/diagram/diagramview.h>
 #include <app/diagram/expansion.h>
 
 #include <fishbone/editor/fisheditor.h>
 #include <fishbone/editor/fishscene.h>
 #include <fishbone/exchange/pictureexport.h>
+#include <fishbone/model/fishinfo.h>
 #include <fishbone/model/fishmodel.h>
 
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QPainter>
 #include <QPalette>
+
+namespace {
+
+/** @p options with colours that show on @p canvas. */
+DiagramLook::Options optionsOn(const QColor &canvas, DiagramLook::Options options)
+{
+    constexpr int dark = 128;
+    options.palette =
+        canvas.lightness() < dark ? DiagramLook::DarkColors : DiagramLook::DistinctColors;
+    options.hasButtons = false;
+    options.hasLegend = false;
+    return options;
+}
+
+} // namespace
 
 namespace DocumentPicture {
 
@@ -27,12 +44,17 @@ QPixmap render(const QString &path, const QSize &size)
     if (QFileInfo(path).size() > quicklyDrawn ||
         model.loadFishFromTemplate(path) != MODEL_NO_ERROR || !model.index(0, 0).isValid())
         return QPixmap();
+    const DiagramView view =
+        DiagramView::of(model.fishList().constFirst()->view(), DiagramView::usual());
+    const QColor canvas = QGuiApplication::palette().color(QPalette::Base);
     FishEditor editor;
+    editor.setLookOptions(optionsOn(canvas, view.options));
+    editor.setLook(view.look);
     editor.setModel(&model);
     editor.setRootIndex(model.index(0, 0));
     Expansion::expandLevels(editor, levels);
     QPixmap picture(size);
-    picture.fill(QGuiApplication::palette().color(QPalette::Base));
+    picture.fill(canvas);
     QPainter painter(&picture);
     painter.setRenderHint(QPainter::Antialiasing);
     const QRectF target = QRectF(QPointF(), size).adjusted(margin, margin, -margin, -margin);
