@@ -4,6 +4,7 @@
 #include <fishbone/accessibility/accessiblediagram.h>
 
 #include <fishbone/accessibility/accessiblebone.h>
+#include <fishbone/base/preorder.h>
 #include <fishbone/drawing/drawingaudience.h>
 #include <fishbone/editor/fisheditor.h>
 #include <fishbone/editor/fishscene.h>
@@ -11,7 +12,6 @@
 #include <fishbone/items/spearitem.h>
 
 #include <utility>
-#include <vector>
 
 namespace {
 
@@ -244,22 +244,18 @@ quint64 AccessibleDiagram::drawnState() const
 {
     quint64 state = 1;
     const auto add = [&state](auto value) { state = state * 1099511628211U ^ quint64(value); };
-    std::vector<const SpearItem *> pending;
-    if (const SpearItem *const shown = head())
-        pending.push_back(shown);
-    while (!pending.empty()) {
-        const SpearItem *const spear = pending.back();
-        pending.pop_back();
+    const auto shownChildren = [](const SpearItem &spear) {
+        return spear.isExpand() ? spear.knownChildSpears() : QList<SpearItem *>();
+    };
+    visitPreOrder(head(), shownChildren, [&add](const SpearItem *spear) {
         const QLineF line = spear->line();
         add(quintptr(spear));
         add(spear->isExpand());
         add(qHash(spear->text()));
         for (const double number : {line.x1(), line.y1(), line.x2(), line.y2()})
             add(qHash(number));
-        const QList<SpearItem *> &children = spear->knownChildSpears();
-        if (spear->isExpand())
-            pending.insert(pending.end(), children.cbegin(), children.cend());
-    }
+        return true;
+    });
     return state;
 }
 

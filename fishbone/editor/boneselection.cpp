@@ -4,14 +4,13 @@
 #include <fishbone/editor/boneselection.h>
 
 #include <algorithm>
-#include <iterator>
 
 #include <QGraphicsScene>
 #include <QSet>
 
 #include <fishbone/editor/itemancestry.h>
 #include <fishbone/items/sceneselection.h>
-#include <fishbone/items/spearitem.h>
+#include <fishbone/items/spearwalk.h>
 #include <fishbone/items/textitem.h>
 
 namespace {
@@ -20,14 +19,11 @@ QList<QGraphicsItem *> inDocumentOrder(const QList<QGraphicsItem *> &unordered, 
 {
     QList<QGraphicsItem *> ordered;
     QSet<const QGraphicsItem *> missing(unordered.cbegin(), unordered.cend());
-    QList<SpearItem *> pending{head};
-    while (!pending.isEmpty() && !missing.isEmpty()) {
-        SpearItem *const spear = pending.takeLast();
+    visitSpears(head, [&](SpearItem *spear) {
         if (missing.remove(spear))
             ordered.append(spear);
-        const QList<SpearItem *> children = spear->childSpears();
-        std::copy(children.crbegin(), children.crend(), std::back_inserter(pending));
-    }
+        return !missing.isEmpty();
+    });
     for (QGraphicsItem *item : unordered) {
         if (missing.contains(item))
             ordered.append(item);

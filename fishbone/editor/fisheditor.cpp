@@ -21,6 +21,7 @@
 #include <fishbone/items/spearitem.h>
 #include <fishbone/model/fishinfo.h>
 #include <fishbone/model/fishmodel.h>
+#include <fishbone/model/subjectwalk.h>
 #include <fishbone/undo/undostack.h>
 
 namespace {
@@ -232,14 +233,10 @@ void FishEditor::unlinkShownSubjects()
     const FishModel *const model = fishModel();
     if (!model || !m_d->rootIndex.isValid() || m_d->rootIndex.model() != model)
         return;
-    std::vector<TreeItem *> pending{model->getTreeItem(m_d->rootIndex)};
-    while (!pending.empty()) {
-        TreeItem *const subject = pending.back();
-        pending.pop_back();
+    visitSubjects(model->getTreeItem(m_d->rootIndex), [](TreeItem *subject) {
         subject->setSpear(nullptr, QModelIndex());
-        const auto &children = subject->childItems();
-        pending.insert(pending.end(), children.cbegin(), children.cend());
-    }
+        return true;
+    });
 }
 
 void FishEditor::takeOverFromOtherEditors()

@@ -5,6 +5,7 @@
 
 #include <fishbone/exchange/diagramexchange.h>
 #include <fishbone/exchange/outlinewalk.h>
+#include <fishbone/model/subjectwalk.h>
 #include <fishbone/model/systemhelper.h>
 
 #include <QSet>
@@ -23,10 +24,7 @@ QString tooDeep()
 void ImportedTree::complete(TreeItem &head)
 {
     QSet<QString> taken;
-    std::vector<TreeItem *> waiting{&head};
-    while (!waiting.empty()) {
-        TreeItem *const subject = waiting.back();
-        waiting.pop_back();
+    visitSubjects(&head, [this, &taken](TreeItem *subject) {
         subject->ensureUuid();
         if (taken.contains(subject->uuid()))
             subject->setUuid(SystemHelper::randomUuid());
@@ -37,9 +35,8 @@ void ImportedTree::complete(TreeItem &head)
             details.prepend(subject->detail());
         if (!details.isEmpty())
             subject->setDetail(details.join(QLatin1Char('\n')));
-        const QList<TreeItem *> &children = subject->childItems();
-        waiting.insert(waiting.end(), children.crbegin(), children.crend());
-    }
+        return true;
+    });
 }
 
 TreeItem *ImportedTree::add(int rank, const QString &title, qint64 line)

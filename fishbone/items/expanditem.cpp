@@ -3,6 +3,7 @@
 
 #include <fishbone/items/expanditem.h>
 
+#include <QCursor>
 #include <QGraphicsScene>
 #include <QGraphicsSceneMouseEvent>
 

@@ -8,13 +8,13 @@
 #include <fishbone/items/sceneselection.h>
 #include <fishbone/model/fishmodel.h>
 #include <fishbone/model/jsonnodes.h>
+#include <fishbone/model/subjectwalk.h>
 #include <fishbone/model/systemhelper.h>
 #include <fishbone/model/treeitem.h>
 #include <fishbone/undo/heldsubject.h>
 #include <fishbone/undo/stepgate.h>
 #include <fishbone/undo/subjectlookup.h>
 #include <fishbone/undo/subjectspears.h>
-#include <fishbone/undo/subjectwalk.h>
 
 #include <QJsonObject>
 

@@ -5,8 +5,8 @@
 
 #include <fishbone/model/fishmodel.h>
 #include <fishbone/model/jsonnodes.h>
+#include <fishbone/model/subjectwalk.h>
 #include <fishbone/model/treeitem.h>
-#include <fishbone/undo/subjectwalk.h>
 
 #include <QJsonArray>
 

@@ -7,8 +7,8 @@
 #include <fishbone/items/sceneselection.h>
 #include <fishbone/items/spearitem.h>
 #include <fishbone/model/fishmodel.h>
+#include <fishbone/model/subjectwalk.h>
 #include <fishbone/model/treeitem.h>
-#include <fishbone/undo/subjectwalk.h>
 
 #include <QGraphicsScene>
 #include <QQueue>

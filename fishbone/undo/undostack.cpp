@@ -11,7 +11,7 @@
 
 #include <utility>
 
-struct UndoStack::Private
+struct FISHBONE_NO_EXPORT UndoStack::Private
 {
     using Command =
         std::shared_ptr<UndoCommand>; // a running command outlives its place in the list

@@ -1,0 +1,17 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <fishbone/base/preorder.h>
+#include <fishbone/model/treeitem.h>
+
+/** visitPreOrder() of subjects. */
+template <typename Visitor>
+bool visitSubjects(TreeItem *top, Visitor visit)
+{
+    const auto childrenOf = [](const TreeItem &subject) -> const QList<TreeItem *> & {
+        return subject.childItems();
+    };
+    return visitPreOrder(top, childrenOf, visit);
+}
