@@ -3,9 +3,14 @@
 
 #include <fishbone/model/documentfile.h>
 
+#include <fishbone/model/jsonnodes.h>
+#include <fishbone/model/treeitem.h>
+
 #include <QDateTime>
 #include <QFile>
 #include <QFileInfo>
+#include <QJsonDocument>
+#include <QJsonObject>
 
 #include <algorithm>
 
@@ -28,6 +33,23 @@ bool isForbiddenInNames(QChar c)
 } // namespace
 
 namespace DocumentFile {
+
+QByteArray text(const TreeItem &container)
+{
+    QJsonObject root;
+    JsonNodes::Extent extent;
+    if (container.childCount() > 0) {
+        extent = JsonNodes::write(root, *container.childItems().last(), JsonNodes::readableLevels);
+        if (extent.levels == 0)
+            return QByteArray();
+    }
+    const QByteArray json = QJsonDocument(root).toJson();
+    const bool mayBeTooDeep = extent.hasOtherFields || 2 * extent.levels + JsonNodes::styleNesting >
+                                                           JsonNodes::readableNesting;
+    if (mayBeTooDeep && JsonNodes::nesting(json) > JsonNodes::readableNesting)
+        return QByteArray();
+    return json;
+}
 
 void makeEmpty(const QString &fileName)
 {

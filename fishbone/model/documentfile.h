@@ -3,10 +3,15 @@
 
 #pragma once
 
+class QByteArray;
 class QString;
+class TreeItem;
 
 /** How documents reach the disk, and how autosave names its files. */
 namespace DocumentFile {
+
+/** The text of the diagram in @p container; empty when it would nest deeper than a reader takes. */
+QByteArray text(const TreeItem &container);
 
 /** Makes @p fileName an empty file. */
 void makeEmpty(const QString &fileName);

@@ -7,7 +7,6 @@
 
 #include <QAbstractItemModel>
 #include <QObject>
-#include <QPointer>
 #include <QStringList>
 
 #include <functional>
@@ -38,33 +37,33 @@ public:
     ~FishInfo() override;
 
     /** The document's file; a canonical path once setCurrentFile() named it. */
-    QString fileName() const { return m_curFile; }
+    QString fileName() const;
     /** Stores the file name and nothing else; see setCurrentFile(). */
     void setFileName(const QString &fileName);
     /** Whether there are unsaved changes. */
-    bool modified() const { return m_modified; }
+    bool modified() const;
     /** Saving does not clear the flag: the host does, here or with setCurrentFile(). */
     void setModified(bool modified);
     /** True until setCurrentFile() names the document. */
-    bool isUntitled() const { return m_isUntitled; }
+    bool isUntitled() const;
     /** The container of the tree, never null; its child 0 is the head. Owned by the document. */
-    TreeItem *treeItem() const { return m_treeItem.get(); }
+    TreeItem *treeItem() const;
     /** How many nodes the last load made. */
-    int nodeCount() const { return m_nodeCount; }
+    int nodeCount() const;
     /** Stores the number of nodes. */
-    void setNodeCount(int count) { m_nodeCount = count; }
+    void setNodeCount(int count);
     /** How many nodes have no parent task: as loaded, or as last recounted. */
-    int noParentNodeCount() const { return m_noParentNodeCount; }
+    int noParentNodeCount() const;
     /** Stores the number of nodes without a parent task. */
-    void setNoParentNodeCount(int count) { m_noParentNodeCount = count; }
+    void setNoParentNodeCount(int count);
     /** The file that autosave writes; empty until the first autosave picks one. */
-    QString autoSaveFile() const { return m_autoSaveFile; }
+    QString autoSaveFile() const;
     /** Chooses the file that autosave writes. */
-    void setAutoSaveFile(const QString &fileName) { m_autoSaveFile = fileName; }
+    void setAutoSaveFile(const QString &fileName);
     /** The model that shows the document; not owned, null when there is none. */
-    QAbstractItemModel *model() const { return m_model.data(); }
+    QAbstractItemModel *model() const;
     /** Stores the model; the document enters no list. */
-    void setModel(QAbstractItemModel *model) { m_model = model; }
+    void setModel(QAbstractItemModel *model);
 
     /** Names the document after the canonical form of @p path; its changes count as saved then. */
     void setCurrentFile(const QString &path);
@@ -89,7 +88,7 @@ public:
      */
     bool saveFile(const QString &fileName);
     /** Why the last saveFile() failed, in the user's language; empty when it did not. */
-    QString saveError() const { return m_saveError; }
+    QString saveError() const;
     /** saveFile() under the document's name, or saveAs() while it has none. */
     bool save();
     /** Asks for a file and writes it. The document keeps its name and its flags. */
@@ -125,7 +124,7 @@ public:
      */
     bool addFishToHistory(const QModelIndex &index);
     /** Uuids of the remembered subjects, oldest first. */
-    QStringList fishHistorys() const { return m_historys; }
+    QStringList fishHistorys() const;
 
     /** Recounts noParentNodeCount() over the head's direct children. */
     void updateNoParentNodeCount();
@@ -142,7 +141,10 @@ Q_SIGNALS:
     void fileSaved(const QString &fileName);
 
 private:
-    friend class FishModel;
+    friend class ChangeRecord; // notes when the document has changed
+    friend class DocumentList; // notes where it is listed
+    friend class FishModel;    // announces what changes the whole tree
+    struct Private;
 
     void tellLater();
     void tellChanges();
@@ -152,19 +154,5 @@ private:
     bool write(const QString &fileName, const QString &origin);
     QString newAutoSaveFile() const;
 
-    QString m_curFile;
-    QString m_autoSaveFile;
-    QString m_saveError;
-    std::unique_ptr<TreeItem> m_treeItem;
-    bool m_modified = false;
-    bool m_isUntitled = true;
-    bool m_toldModified = false; // as the signals have told it
-    QString m_toldFile;
-    bool m_willTell = false;
-    int m_nodeCount = 0;
-    int m_noParentNodeCount = 0;
-    QStringList m_historys;
-    QPointer<QAbstractItemModel> m_model;
-    quint64 m_changeStamp = 0;    // FishModel::changeStamp() at the last change that it told
-    FishModel *m_owner = nullptr; // the model that lists the document, kept by that model
+    const std::unique_ptr<Private> m_d;
 };

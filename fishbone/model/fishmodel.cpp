@@ -4,16 +4,17 @@
 #include <fishbone/model/fishmodel.h>
 
 #include <fishbone/model/fishinfo.h>
+#include <fishbone/model/fishmodel_p.h>
 #include <fishbone/model/jsonnodes.h>
-#include <fishbone/model/modelchange.h>
-#include <fishbone/model/rownumbers.h>
 #include <fishbone/model/treeitem.h>
 
 #include <QBrush>
+#include <QIcon>
 #include <QSet>
+#include <QVector>
 
+#include <algorithm>
 #include <array>
-#include <utility>
 
 namespace {
 
@@ -21,43 +22,28 @@ const std::array<QLatin1String, 5> headers = {QLatin1String("title"), QLatin1Str
                                               QLatin1String("showid"), QLatin1String("pid"),
                                               QLatin1String("type")};
 
-/**
- * Calls @p visit for @p top and everything below it, parents before children and siblings in their
- * order, until it returns false; whether it never did.
- */
-template <typename Visitor>
-bool visitPreOrder(TreeItem *top, Visitor visit)
+/** Every model there is. */
+QVector<FishModel *> &livingModels()
 {
-    QList<TreeItem *> waiting{top};
-    while (!waiting.isEmpty()) {
-        TreeItem *const node = waiting.takeLast();
-        if (!visit(node))
-            return false;
-        const QList<TreeItem *> &children = node->childItems();
-        for (int i = children.size() - 1; i >= 0; --i)
-            waiting.append(children.at(i));
-    }
-    return true;
+    static QVector<FishModel *> models;
+    return models;
 }
 
 } // namespace
 
 FishModel::FishModel(QObject *parent)
     : DragDropModel(parent)
+    , m_d(std::make_unique<Private>(*this))
 {
-    join();
+    livingModels().append(this);
     qRegisterMetaType<MODEL_ERROR>();
     qRegisterMetaType<TreeItem *>();
 }
 
 FishModel::~FishModel()
 {
-    part();
-    const QList<FishInfo *> documents = std::exchange(m_fishList, {});
-    for (FishInfo *document : documents) {
-        document->m_owner = nullptr;
-        delete document;
-    }
+    livingModels().removeOne(this);
+    m_d->documents.clear();
 }
 
 QModelIndex FishModel::index(int row, int column, const QModelIndex &parent) const
@@ -65,7 +51,7 @@ QModelIndex FishModel::index(int row, int column, const QModelIndex &parent) con
     if (row < 0 || column < 0)
         return QModelIndex();
     if (!parent.isValid()) {
-        TreeItem *const head = headAt(row);
+        TreeItem *const head = m_d->documents.headAt(row);
         return head ? createIndex(row, column, head) : QModelIndex();
     }
     if (!hasIndex(row, column, parent))
@@ -84,7 +70,7 @@ QModelIndex FishModel::parent(const QModelIndex &index) const
 int FishModel::rowCount(const QModelIndex &parent) const
 {
     if (!parent.isValid())
-        return m_fishList.size();
+        return m_d->documents.count();
     const TreeItem *const item = parent.column() == 0 ? getTreeItem(parent) : nullptr;
     return item ? item->childCount() : 0;
 }
@@ -116,15 +102,15 @@ QVariant FishModel::data(const QModelIndex &index, int role) const
     const bool isHeadTitle = index.column() == 0 && item->isTopVaildItem();
     switch (role) {
     case Qt::DisplayRole:
-        if (isHeadTitle && m_modelType == FISH_MODEL_NORMAL)
+        if (isHeadTitle && m_d->type == FISH_MODEL_NORMAL)
             return headText(item);
         return item->data(index.column());
     case Qt::DecorationRole:
         if (!item->isHaveParentTask())
             return QVariant();
-        if (m_noParentIcon.isNull()) // until the host's picture is there
-            m_noParentIcon = QIcon(QStringLiteral(":/fishboneDiagram/noparent.png"));
-        return m_noParentIcon;
+        if (m_d->noParentIcon.isNull()) // until the host's picture is there
+            m_d->noParentIcon = QIcon(QStringLiteral(":/fishboneDiagram/noparent.png"));
+        return m_d->noParentIcon;
     case Qt::ToolTipRole:
         return isHeadTitle ? QVariant() : item->toolTipString();
     case Qt::ForegroundRole:
@@ -137,7 +123,7 @@ QVariant FishModel::data(const QModelIndex &index, int role) const
 /** A head's title with the counts, which are the first document's whichever head is asked about. */
 QString FishModel::headText(const TreeItem *head) const
 {
-    const FishInfo *const first = m_fishList.value(0, nullptr);
+    const FishInfo *const first = fishList().value(0, nullptr);
     if (!first)
         return head->title(); // asked about a document that has left the model
     return head->title() + QLatin1Char('(') + QString::number(first->noParentNodeCount()) +
@@ -167,8 +153,7 @@ void FishModel::updateItem(const QModelIndex &index, TreeItem *source)
     item->setPlanEndDate(source->planEndDate());
     item->setPriority(source->priority());
     item->setEditModified(true);
-    ++m_silentChanges;
-    stamp(item);
+    m_d->changes.noteSilentChange(fishOf(item));
 }
 
 void FishModel::announceChange(const QModelIndex &index)
@@ -180,25 +165,13 @@ void FishModel::announceChange(const QModelIndex &index)
 void FishModel::refreshModel()
 {
     if (!isAnnouncing())
-        const Change reset = resetting();
-}
-
-TreeItem *FishModel::headAt(int row) const
-{
-    const FishInfo *const document = m_fishList.value(row, nullptr);
-    return document ? document->treeItem()->childAtIndex(0) : nullptr;
+        const Change reset = m_d->announcer.resetting();
 }
 
 /** The row of the document whose container this is, -1 when none of this model's has it. */
 int FishModel::containerRow(const TreeItem *container) const
 {
-    const FishInfo *const document = container->document();
-    if (!document || document->m_owner != this)
-        return -1;
-    return RowNumbers::find(
-        m_firstFishNumber, container->m_rowNumber, m_fishList.size(),
-        [this, document](int row) { return m_fishList.at(row) == document; },
-        [this](int row, int number) { m_fishList.at(row)->treeItem()->m_rowNumber = number; });
+    return m_d->documents.rowOf(container->document());
 }
 
 /** The row of a node of this model: its document's for a head. */
@@ -215,19 +188,19 @@ QModelIndex FishModel::rowIndex(const TreeItem *item) const
 
 int FishModel::fishRow(const FishInfo *document) const
 {
-    return document && document->m_owner == this ? containerRow(document->treeItem()) : -1;
+    return m_d->documents.rowOf(document);
 }
 
 FishInfo *FishModel::fishOf(const TreeItem *item) const
 {
     FishInfo *const document = item ? item->root()->document() : nullptr;
-    return document && document->m_owner == this ? document : nullptr;
+    return m_d->documents.contains(document) ? document : nullptr;
 }
 
 QModelIndex FishModel::findFish(const QString &fileName) const
 {
-    for (int row = 0; row < m_fishList.size(); ++row) {
-        if (m_fishList.at(row)->fileName() == fileName)
+    for (int row = 0; row < m_d->documents.count(); ++row) {
+        if (m_d->documents.at(row)->fileName() == fileName)
             return index(row, 0);
     }
     return QModelIndex();
@@ -247,7 +220,7 @@ TreeItem *FishModel::getParentTreeItem(const QModelIndex &index) const
 
 TreeItem *FishModel::getFishHeadTreeItem() const
 {
-    return headAt(0);
+    return m_d->documents.headAt(0);
 }
 
 QModelIndex FishModel::indexFromItem(const TreeItem *item, int column) const
@@ -261,73 +234,262 @@ QModelIndex FishModel::indexFromItem(const TreeItem *item, int column) const
 
 bool FishModel::contains(const TreeItem *item) const
 {
-    const auto differs = [item](const TreeItem *node) { return node != item; };
-    for (int row = 0; row < m_fishList.size(); ++row) {
-        TreeItem *const head = headAt(row);
-        if (head && !visitPreOrder(head, differs))
-            return true;
-    }
-    return false;
+    return m_d->lookup.contains(item);
 }
 
 QModelIndex FishModel::modelIndexByUuid(const QString &uuid) const
 {
-    for (int row = 0; row < m_fishList.size(); ++row) {
-        const TreeItem *found = nullptr;
-        const auto differs = [&uuid, &found](const TreeItem *node) {
-            if (node->uuid() == uuid)
-                found = node;
-            return !found;
-        };
-        TreeItem *const head = headAt(row);
-        if (head && !visitPreOrder(head, differs))
-            return rowIndex(found);
-    }
-    return QModelIndex();
+    return m_d->lookup.withUuid(uuid);
 }
 
 QModelIndexList FishModel::searchModelIndexes(const QString &key) const
 {
-    QModelIndexList found;
-    const auto collect = [this, &key, &found](const TreeItem *node) {
-        if (node->title().contains(key, Qt::CaseInsensitive))
-            found.append(rowIndex(node));
-        return true;
-    };
-    for (int row = 0; row < m_fishList.size(); ++row) {
-        if (TreeItem *const head = headAt(row))
-            visitPreOrder(head, collect);
-    }
-    return found;
+    return m_d->lookup.withTitle(key);
 }
 
 QModelIndexList FishModel::indexesFromRecords(const QVector<Record> &records) const
 {
-    // One walk over the tree for all of them: pointers from outside are compared, never followed.
-    QSet<quintptr> unknown;
-    for (const Record &record : records)
-        unknown.insert(record.pointer);
-    QSet<quintptr> known;
-    const auto look = [&unknown, &known](TreeItem *node) {
-        const auto pointer = reinterpret_cast<quintptr>(node);
-        if (unknown.remove(pointer))
-            known.insert(pointer);
-        return !unknown.isEmpty();
-    };
-    for (int row = 0; row < m_fishList.size() && !unknown.isEmpty(); ++row) {
-        if (TreeItem *const head = headAt(row))
-            visitPreOrder(head, look);
-    }
+    return m_d->lookup.ofRecords(records);
+}
 
-    QModelIndexList indexes;
-    indexes.reserve(records.size());
-    for (const Record &record : records) {
-        const bool exists =
-            known.contains(record.pointer) && record.column >= 0 && record.column < columnCount();
-        const auto *const item = reinterpret_cast<const TreeItem *>(record.pointer);
-        indexes.append(exists ? rowIndex(item).siblingAtColumn(record.column) : QModelIndex());
+bool FishModel::insertRows(int row, int count, const QModelIndex &parent)
+{
+    return m_d->rows.insert(row, count, parent);
+}
+
+bool FishModel::insertExistItemRows(const QModelIndex &parent, const QList<TreeItem *> &items)
+{
+    return m_d->rows.append(parent, items);
+}
+
+bool FishModel::removeRows(int row, int count, const QModelIndex &parent)
+{
+    return m_d->rows.remove(row, count, parent);
+}
+
+TreeItem *FishModel::takeRow(int row, const QModelIndex &parent)
+{
+    return m_d->rows.take(row, parent);
+}
+
+bool FishModel::putRow(int row, TreeItem *item, const QModelIndex &parent)
+{
+    return m_d->rows.put(row, item, parent);
+}
+
+bool FishModel::moveRows(const QModelIndex &sourceParent, int sourceRow, int count,
+                         const QModelIndex &destinationParent, int destinationChild)
+{
+    TreeItem *const source = getTreeItem(sourceParent);
+    TreeItem *const destination = getTreeItem(destinationParent);
+    return (source || !sourceParent.isValid()) && (destination || !destinationParent.isValid()) &&
+           m_d->moves.move(source, sourceRow, count, destination, destinationChild);
+}
+
+bool FishModel::moveSrcToDstWithList(TreeItem *source, int sourceRow, int count,
+                                     TreeItem *destination, int destinationChild)
+{
+    return m_d->moves.move(source, sourceRow, count, destination, destinationChild);
+}
+
+FishInfo *FishModel::moveHeadUnder(int row, const QModelIndex &parent, int position)
+{
+    return m_d->moves.moveHeadUnder(row, parent, position);
+}
+
+bool FishModel::moveToTopLevel(const QModelIndex &index, int row, FishInfo *document)
+{
+    return m_d->moves.moveToTopLevel(index, row, document);
+}
+
+bool FishModel::wrapHead(FishInfo *document, TreeItem *newHead)
+{
+    return m_d->heads.wrap(document, newHead);
+}
+
+TreeItem *FishModel::unwrapHead(FishInfo *document, TreeItem *child)
+{
+    return m_d->heads.unwrap(document, child);
+}
+
+QList<FishInfo *> FishModel::fishList() const
+{
+    return m_d->documents.all();
+}
+
+bool FishModel::insertFishToList(int row, int count)
+{
+    return m_d->listing.insertToList(row, count);
+}
+
+bool FishModel::insertFishToList(int row, TreeItem *head)
+{
+    return m_d->listing.insertToList(row, head);
+}
+
+bool FishModel::removeFishFromList(int row, int count)
+{
+    return m_d->listing.removeFromList(row, count);
+}
+
+void FishModel::unloadFish(FishInfo *document)
+{
+    // Compared with the list before anybody looks at it.
+    delete takeFish(m_d->documents.all().indexOf(document));
+}
+
+FishInfo *FishModel::takeFish(int row)
+{
+    return m_d->listing.take(row);
+}
+
+bool FishModel::insertFish(int row, FishInfo *document)
+{
+    return m_d->listing.insert(row, document);
+}
+
+/** Carries out a @p change of a listed document's whole tree. */
+void FishModel::rebuild(FishInfo *document, const std::function<void()> &change)
+{
+    m_d->listing.rebuild(document, change);
+}
+
+/** A listed document dies. */
+void FishModel::forget(FishInfo *dying)
+{
+    m_d->listing.forget(dying);
+}
+
+bool FishModel::isInAnyModel(const TreeItem *item)
+{
+    const QVector<FishModel *> &models = livingModels();
+    return std::any_of(models.cbegin(), models.cend(),
+                       [item](const FishModel *model) { return model->fishOf(item) != nullptr; });
+}
+
+bool FishModel::isAnnouncing() const
+{
+    return m_d->announcer.isAnnouncing();
+}
+
+void FishModel::tellData(const QModelIndex &first, const QModelIndex &last)
+{
+    m_d->announcer.tellData(first, last);
+}
+
+void FishModel::tellNode(const QModelIndex &index)
+{
+    m_d->announcer.tellNode(index);
+}
+
+quint64 FishModel::silentChanges() const
+{
+    return m_d->changes.silentChanges();
+}
+
+quint64 FishModel::changeStamp()
+{
+    return ChangeRecord::latestStamp();
+}
+
+QList<QPointer<FishInfo>> FishModel::fishChangedSince(quint64 stamp)
+{
+    QList<QPointer<FishInfo>> changed;
+    for (const FishModel *model : qAsConst(livingModels())) {
+        if (!model->m_d->changes.isChangedSince(stamp))
+            continue;
+        for (FishInfo *document : model->m_d->documents.all()) {
+            if (ChangeRecord::stampOf(*document) > stamp)
+                changed.append(document);
+        }
     }
-    return indexes;
+    return changed;
+}
+
+bool FishModel::isListChangedSince(quint64 stamp) const
+{
+    return m_d->changes.isListChangedSince(stamp);
+}
+
+FishInfo *FishModel::fishOfTold(const QModelIndex &index) const
+{
+    const TreeItem *const item = getTreeItem(index);
+    if (!item)
+        return nullptr;
+    const bool isTold = m_d->changes.isTold(item);
+    if ((isTold && m_d->changes.isTreeAsTold()) || contains(item))
+        return fishOf(item);
+    return isTold ? m_d->changes.toldDocument() : nullptr;
+}
+
+FISH_MODEL_TYPE FishModel::modelType() const
+{
+    return m_d->type;
+}
+
+void FishModel::setModelType(FISH_MODEL_TYPE type)
+{
+    m_d->type = type;
+}
+
+FishInfo *FishModel::loadJsonFish(const QByteArray &json)
+{
+    return m_d->loading.loadJson(json);
+}
+
+int FishModel::loadFishFromFile(const QString &path)
+{
+    return m_d->loading.loadFile(path, true);
+}
+
+int FishModel::loadFishTempl()
+{
+    return m_d->loading.loadTemplate();
+}
+
+int FishModel::loadFishFromTemplate(const QString &path)
+{
+    return m_d->loading.loadFile(path, false);
+}
+
+void FishModel::loadFishFromUrl(const QUrl &url)
+{
+    m_d->loading.fetch(url);
+}
+
+bool FishModel::isLoading() const
+{
+    return m_d->loading.isFetching();
+}
+
+void FishModel::cancelLoads()
+{
+    m_d->loading.cancel();
+}
+
+QString FishModel::loadError() const
+{
+    return m_d->loading.error();
+}
+
+int FishModel::reloadDataFromFile(const QString &path, FishInfo *document)
+{
+    return m_d->loading.reload(path, document);
+}
+
+void FishModel::setTransferTimeout(int ms)
+{
+    m_d->loading.setTimeout(ms);
+}
+
+void FishModel::setReplyLimit(qint64 bytes)
+{
+    m_d->loading.setLimit(bytes);
+}
+
+void FishModel::replyFinished(QNetworkReply *reply)
+{
+    m_d->loading.finishFetch(reply);
 }
 
 void FishModel::write(QJsonObject &out, TreeItem *item, bool includeItem)
@@ -341,21 +503,5 @@ void FishModel::write(QJsonObject &out, TreeItem *item, bool includeItem)
 
 void FishModel::read(const QJsonObject &root, TreeItem *parent, int position)
 {
-    if (!parent || isAnnouncing() || (!fishOf(parent) && isInAnyModel(parent)))
-        return;
-    std::unique_ptr<TreeItem> node = JsonNodes::read(root, parent, position);
-    const QModelIndex parentIndex = indexFromItem(parent);
-    const bool inside = position >= 0 && position < parent->childCount();
-    const int row = inside ? position : parent->childCount();
-    if (parentIndex.isValid()) {
-        const Change insertion = inserting(parentIndex, row, row);
-        parent->appendChild(node.release(), row);
-    } else if (containerRow(parent) >= 0) {
-        // A document gets a head: its row is there already, but had no index.
-        const Change reset = resetting();
-        parent->appendChild(node.release(), row);
-        stamp(parent);
-    } else {
-        parent->appendChild(node.release(), row);
-    }
+    m_d->rows.graft(root, parent, position);
 }

@@ -6,13 +6,12 @@
 #include <fishbone/fishbone_export.h>
 #include <fishbone/model/dragdropmodel.h>
 
-#include <QIcon>
 #include <QList>
 #include <QMetaType>
 #include <QPointer>
 
 #include <functional>
-#include <vector>
+#include <memory>
 
 class FishInfo;
 class QByteArray;
@@ -131,22 +130,21 @@ public:
      */
     void updateItem(const QModelIndex &index, TreeItem *source);
     /** How often updateItem() has changed a node: what was worked out before may be wrong. */
-    quint64 silentChanges() const { return m_silentChanges; }
+    quint64 silentChanges() const;
     /**
      * Says that the node at @p index was changed otherwise than by setData(), as by its setters or
      * by updateItem(): emits dataChanged() for all columns of its row. Nothing for an index of
      * another model.
      */
     void announceChange(const QModelIndex &index);
-    /** Emits dataChanged() for what the caller has changed in nodes; none needs it for setData().
-     */
+    /** What announceChange() emits, for any rectangle of indexes. */
     void tellData(const QModelIndex &first, const QModelIndex &last);
     /** Emits nodeChanged() for what the caller has changed in a node. */
     void tellNode(const QModelIndex &index);
     /** Announces a reset of the whole model. */
     void refreshModel();
     /** Whether a change is announced and not made yet, so that any other is refused. */
-    bool isAnnouncing() const { return m_announcements > 0; }
+    bool isAnnouncing() const;
     /** @} */
 
     /**
@@ -154,7 +152,7 @@ public:
      * @{
      */
     /** The documents in the order of their rows; owned by the model. */
-    QList<FishInfo *> fishList() const { return m_fishList; }
+    QList<FishInfo *> fishList() const;
     /**
      * Makes @p count documents with a head without uuid, each at @p row, so that the newest comes
      * first; tells no view.
@@ -218,7 +216,7 @@ public:
      */
     static QList<QPointer<FishInfo>> fishChangedSince(quint64 stamp);
     /** Whether documents came, went or moved since changeStamp() was @p stamp. */
-    bool isListChangedSince(quint64 stamp) const { return m_listStamp > stamp; }
+    bool isListChangedSince(quint64 stamp) const;
     /**
      * The document of an index that came with a signal, also when another listener has ended its
      * subject since; null when that cannot be known any more. Linear in that case, and when the
@@ -251,9 +249,9 @@ public:
     /** All indexes, in pre-order, whose title contains @p key in any case. Linear. */
     QModelIndexList searchModelIndexes(const QString &key) const;
     /** What heads show and which context menu the editor offers. */
-    FISH_MODEL_TYPE modelType() const { return m_modelType; }
+    FISH_MODEL_TYPE modelType() const;
     /** Chooses that; views are not told. */
-    void setModelType(FISH_MODEL_TYPE type) { m_modelType = type; }
+    void setModelType(FISH_MODEL_TYPE type);
     /** @} */
 
     /**
@@ -278,14 +276,14 @@ public:
      */
     void loadFishFromUrl(const QUrl &url);
     /** Whether anything is being fetched. */
-    bool isLoading() const { return !m_replies.isEmpty(); }
+    bool isLoading() const;
     /** Ends all fetches; each fails then, with a fishLoaded() of its own. */
     void cancelLoads();
     /**
      * Why the last load failed, a clause without a full stop in the user's language; empty when it
      * did not fail.
      */
-    QString loadError() const { return m_loadError; }
+    QString loadError() const;
     /**
      * Loads @p path into @p document in place of its tree. Returns a MODEL_ERROR number, and
      * reports the document's index with fishLoaded(), an invalid one when no model lists it.
@@ -295,9 +293,9 @@ public:
      * A transfer without progress for @p ms milliseconds fails, and so does one that takes twenty
      * times as long altogether; 0 waits for ever. Default 30000.
      */
-    void setTransferTimeout(int ms) { m_transferTimeout = ms; }
+    void setTransferTimeout(int ms);
     /** A reply of more than @p bytes fails; 0 takes any size. Default 256 MiB. */
-    void setReplyLimit(qint64 bytes) { m_replyLimit = bytes; }
+    void setReplyLimit(qint64 bytes);
     /** @} */
 
     /**
@@ -342,70 +340,24 @@ protected:
 
 private:
     friend class FishInfo; // announces its own reset, load and death
+    class Announcer;
     class Change;
+    class Documents;
+    class Heads;
+    class Loading;
+    class Lookup;
+    class Moves;
+    class Part;
+    class Rows;
+    struct Private;
 
-    Change inserting(const QModelIndex &parent, int first, int last);
-    Change removing(const QModelIndex &parent, int first, int last);
-    Change moving(const QModelIndex &from, int row, int count, const QModelIndex &to, int before);
-    Change resetting();
-    Change arranging();
-    void join();
-    void part();
-    void stamp(const TreeItem *item);
-    void noteTold(const QModelIndex &index);
-    void whenChanged(const std::function<void()> &action);
-    void runWaiting();
     void rebuild(FishInfo *document, const std::function<void()> &change);
     void forget(FishInfo *dying);
-
-    TreeItem *headAt(int row) const;
+    static bool isInAnyModel(const TreeItem *item);
     int containerRow(const TreeItem *container) const;
     int rowOf(const TreeItem *item) const;
     QModelIndex rowIndex(const TreeItem *item) const;
     QString headText(const TreeItem *head) const;
 
-    bool resolve(const QModelIndex &parent, TreeItem **node) const;
-    int rowsBelow(const TreeItem *node) const;
-    bool insertPending(int row, TreeItem *node, const QList<TreeItem *> &pending);
-    static bool isInAnyModel(const TreeItem *item);
-    static bool canEnter(const TreeItem *item);
-    static bool canEnterInTurn(const QList<TreeItem *> &items, const TreeItem *node);
-    void createFish(int row, int count);
-    void enter(int row, FishInfo *document);
-    FishInfo *leave(int row);
-    void moveFish(int from, int to);
-    bool canMove(const TreeItem *source, int sourceRow, int count,
-                 const TreeItem *destination) const;
-    void moveRow(TreeItem *source, int sourceRow, TreeItem *destination, int position);
-    FishInfo *moveHead(int row, TreeItem *destination, int position);
-    void moveToTop(TreeItem *source, int sourceRow, int row, FishInfo *document);
-    void exchangeHead(int row, TreeItem *container, TreeItem *child);
-    void shiftHeadIndexes(int firstRow, int by);
-    void dropIndexes(int row, int count);
-
-    int loadFile(const QString &path, bool named);
-    bool readFile(const QString &path, QByteArray *content);
-    QJsonDocument parse(const QByteArray &json);
-    QString reasonOf(const QNetworkReply &reply) const;
-    void reportLoad(FishInfo *document);
-
-    QList<FishInfo *> m_fishList;
-    int m_firstFishNumber = 0; // as TreeItem has one for its children
-    QList<TreeItem *> m_pendingItems;
-    std::vector<std::function<void()>> m_waiting; // for the end of what is announced
-    int m_announcements = 0;                      // whose listeners run just now
-    int m_changes = 0;                            // of the tree, so far
-    quint64 m_listStamp = 0;
-    quint64 m_lastStamp = 0;
-    // What the latest signal about data was sent for:
-    const TreeItem *m_told = nullptr; // only compared
-    QPointer<FishInfo> m_toldDocument;
-    int m_changesWhenTold = 0;
-    FISH_MODEL_TYPE m_modelType = FISH_MODEL_NORMAL;
-    quint64 m_silentChanges = 0;
-    mutable QIcon m_noParentIcon;
-    QList<QNetworkReply *> m_replies; // of the fetches under way
-    QString m_loadError;
-    int m_transferTimeout = 30000;
-    qint64 m_replyLimit = Q_INT64_C(256) * 1024 * 1024;
+    const std::unique_ptr<Private> m_d;
 };

@@ -49,98 +49,96 @@ QVector<SubjectAttribute> SubjectAttribute::makeAll()
     const Uses exchanged = Edited | Exchanged;
     const Uses shown = exchanged | Detailed;
     constexpr int none = -1;
+    using Row = SubjectAttribute;
     return {
-        text(titleKey, &T::title, &T::setTitle, Edited | Detailed | Searched, Always, true),
-        text(uuidKey, &T::uuid, &T::setUuid, Exchanged | Searched, Always, true),
-        text(showidKey, &T::showid, &T::setShowid, shown | Searched, Always, true),
-        text(pidKey, &T::pid, &T::setPid, Searched),
-        number(typeKey, &T::type, &T::setType, exchanged, 0),
-        number(statusKey, &T::status, &T::setStatus, shown, none),
-        number(progressKey, &T::progress, &T::setProgress, shown, 0),
-        number(priorityKey, &T::priority, &T::setPriority, shown, none),
-        text(managerNameKey, &T::managerName, &T::setManagerName, shown, UnlessNull),
-        text(managerIdKey, &T::managerId, &T::setManagerId, shown, UnlessNull),
-        text(creatorNameKey, &T::creatorName, &T::setCreatorName, shown, UnlessNull),
-        text(creatorIdKey, &T::creatorId, &T::setCreatorId, exchanged, UnlessNull),
-        texts(followersKey, &T::followers, &T::setFollowers),
-        date(createDateKey, &T::createDate, &T::setCreateDate),
-        date(planEndDateKey, &T::planEndDate, &T::setPlanEndDate),
-        text(urlKey, &T::url, &T::setUrl, shown, UnlessNull),
-        text(detailKey, &T::detail, &T::setDetail, shown),
-        style(spearStyleKey),
-        flag(isMovableKey, &T::spearItemIsMovable, &T::setSpearItemIsMovable),
+        Row(titleKey, &T::title, &T::setTitle, Edited | Detailed | Searched).inEveryFile(),
+        Row(uuidKey, &T::uuid, &T::setUuid, Exchanged | Searched).inEveryFile(),
+        Row(showidKey, &T::showid, &T::setShowid, shown | Searched).inEveryFile(),
+        Row(pidKey, &T::pid, &T::setPid, Searched),
+        Row(typeKey, &T::type, &T::setType, exchanged),
+        Row(statusKey, &T::status, &T::setStatus, shown).unset(none),
+        Row(progressKey, &T::progress, &T::setProgress, shown),
+        Row(priorityKey, &T::priority, &T::setPriority, shown).unset(none),
+        Row(managerNameKey, &T::managerName, &T::setManagerName, shown, UnlessNull),
+        Row(managerIdKey, &T::managerId, &T::setManagerId, shown, UnlessNull),
+        Row(creatorNameKey, &T::creatorName, &T::setCreatorName, shown, UnlessNull),
+        Row(creatorIdKey, &T::creatorId, &T::setCreatorId, exchanged, UnlessNull),
+        Row(followersKey, &T::followers, SetTexts(&T::setFollowers), shown, UnlessEmpty),
+        Row(createDateKey, &T::createDate, &T::setCreateDate, shown),
+        Row(planEndDateKey, &T::planEndDate, &T::setPlanEndDate, shown),
+        Row(urlKey, &T::url, &T::setUrl, shown, UnlessNull),
+        Row(detailKey, &T::detail, &T::setDetail, shown),
+        Row(spearStyleKey, Edited, UnlessEmpty),
+        Row(isMovableKey, &T::spearItemIsMovable, &T::setSpearItemIsMovable, Edited, Never),
     };
 }
 
-SubjectAttribute SubjectAttribute::text(QLatin1String key, GetText get, SetText set, Uses uses,
-                                        Writing writing, bool isInEveryFile)
+/** A style. */
+SubjectAttribute::SubjectAttribute(QLatin1String key, Uses uses, Writing writing)
+    : m_key(key)
+    , m_uses(uses)
+    , m_writing(writing)
 {
-    SubjectAttribute made;
-    made.m_key = key;
-    made.m_uses = uses;
-    made.m_writing = writing;
-    made.m_isInEveryFile = isInEveryFile;
-    made.m_getText = get;
-    made.m_setText = set;
-    return made;
 }
 
-SubjectAttribute SubjectAttribute::number(QLatin1String key, GetNumber get, SetNumber set,
-                                          Uses uses, int unset)
+/** One of the kind that its node's functions give and take. */
+template <typename Get, typename Set>
+SubjectAttribute::SubjectAttribute(QLatin1String key, Get getter, Set setter, Uses uses,
+                                   Writing writing)
+    : SubjectAttribute(key, uses, writing)
 {
-    SubjectAttribute made;
-    made.m_key = key;
-    made.m_kind = Number;
-    made.m_uses = uses;
-    made.m_unset = unset;
-    made.m_getNumber = get;
-    made.m_setNumber = set;
-    return made;
+    use(getter, setter);
 }
 
-SubjectAttribute SubjectAttribute::date(QLatin1String key, GetDate get, SetDate set)
+/** The same, which every node of a file has: it is emptied where it is missing. */
+SubjectAttribute SubjectAttribute::inEveryFile() const
 {
-    SubjectAttribute made;
-    made.m_key = key;
-    made.m_kind = Date;
-    made.m_uses = Edited | Exchanged | Detailed;
-    made.m_getDate = get;
-    made.m_setDate = set;
-    return made;
+    SubjectAttribute changed = *this;
+    changed.m_isInEveryFile = true;
+    return changed;
 }
 
-SubjectAttribute SubjectAttribute::texts(QLatin1String key, GetTexts get, SetTexts set)
+/** The same, of a @p number other than 0 in a new subject. */
+SubjectAttribute SubjectAttribute::unset(int number) const
 {
-    SubjectAttribute made;
-    made.m_key = key;
-    made.m_kind = Texts;
-    made.m_uses = Edited | Exchanged | Detailed;
-    made.m_writing = UnlessEmpty;
-    made.m_getTexts = get;
-    made.m_setTexts = set;
-    return made;
+    SubjectAttribute changed = *this;
+    changed.m_unset = number;
+    return changed;
 }
 
-SubjectAttribute SubjectAttribute::flag(QLatin1String key, GetFlag get, SetFlag set)
+void SubjectAttribute::use(GetText getter, SetText setter)
 {
-    SubjectAttribute made;
-    made.m_key = key;
-    made.m_kind = Flag;
-    made.m_uses = Edited;
-    made.m_writing = Never;
-    made.m_getFlag = get;
-    made.m_setFlag = set;
-    return made;
+    m_kind = Text;
+    m_getText = getter;
+    m_setText = setter;
 }
 
-SubjectAttribute SubjectAttribute::style(QLatin1String key)
+void SubjectAttribute::use(GetNumber getter, SetNumber setter)
 {
-    SubjectAttribute made;
-    made.m_key = key;
-    made.m_kind = Style;
-    made.m_uses = Edited;
-    made.m_writing = UnlessEmpty;
-    return made;
+    m_kind = Number;
+    m_getNumber = getter;
+    m_setNumber = setter;
+}
+
+void SubjectAttribute::use(GetDate getter, SetDate setter)
+{
+    m_kind = Date;
+    m_getDate = getter;
+    m_setDate = setter;
+}
+
+void SubjectAttribute::use(GetTexts getter, SetTexts setter)
+{
+    m_kind = Texts;
+    m_getTexts = getter;
+    m_setTexts = setter;
+}
+
+void SubjectAttribute::use(GetFlag getter, SetFlag setter)
+{
+    m_kind = Flag;
+    m_getFlag = getter;
+    m_setFlag = setter;
 }
 
 const QVector<SubjectAttribute> &SubjectAttribute::all()

@@ -26,6 +26,9 @@ class TreeItem;
 class FISHBONE_EXPORT SubjectAttribute
 {
 public:
+    /** No attribute, for containers. */
+    SubjectAttribute() = default;
+
     /** What a value is. */
     enum Kind : int {
         Text,   ///< a string
@@ -103,18 +106,21 @@ private:
     using GetFlag = bool (TreeItem::*)() const;
     using SetFlag = void (TreeItem::*)(bool);
 
-    static SubjectAttribute text(QLatin1String key, GetText get, SetText set, Uses uses,
-                                 Writing writing = Always, bool isInEveryFile = false);
-    static SubjectAttribute number(QLatin1String key, GetNumber get, SetNumber set, Uses uses,
-                                   int unset);
-    static SubjectAttribute date(QLatin1String key, GetDate get, SetDate set);
-    static SubjectAttribute texts(QLatin1String key, GetTexts get, SetTexts set);
-    static SubjectAttribute flag(QLatin1String key, GetFlag get, SetFlag set);
-    static SubjectAttribute style(QLatin1String key);
+    SubjectAttribute(QLatin1String key, Uses uses, Writing writing);
+    template <typename Get, typename Set>
+    SubjectAttribute(QLatin1String key, Get getter, Set setter, Uses uses,
+                     Writing writing = Always);
+    SubjectAttribute inEveryFile() const;
+    SubjectAttribute unset(int number) const;
+    void use(GetText getter, SetText setter);
+    void use(GetNumber getter, SetNumber setter);
+    void use(GetDate getter, SetDate setter);
+    void use(GetTexts getter, SetTexts setter);
+    void use(GetFlag getter, SetFlag setter);
     static QVector<SubjectAttribute> makeAll();
 
     QLatin1String m_key;
-    Kind m_kind = Text;
+    Kind m_kind = Style;
     Uses m_uses;
     Writing m_writing = Always;
     int m_unset = 0;

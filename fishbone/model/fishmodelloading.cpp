@@ -1,12 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Fishbone authors
 // SPDX-License-Identifier: MIT
-//
-// How documents get into FishModel from text, files and the network.
 
-#include <fishbone/model/fishmodel.h>
+#include <fishbone/model/fishmodelloading.h>
 
 #include <fishbone/model/fishinfo.h>
-#include <fishbone/model/modelchange.h>
+#include <fishbone/model/fishmodel_p.h>
 
 #include <QFile>
 #include <QJsonDocument>
@@ -50,33 +48,33 @@ void limitReply(QNetworkReply *reply, qint64 limit)
 } // namespace
 
 /** Reads a whole file; false when it cannot be opened. */
-bool FishModel::readFile(const QString &path, QByteArray *content)
+bool FishModel::Loading::readFile(const QString &path, QByteArray *content)
 {
     QFile file(path);
     const bool isOpen = file.open(QIODevice::ReadOnly);
     if (isOpen)
         *content = file.readAll();
-    m_loadError = isOpen ? QString() : file.errorString();
+    m_error = isOpen ? QString() : file.errorString();
     return isOpen;
 }
 
 /** The document of a text; null, with the reason kept, when it is none. */
-QJsonDocument FishModel::parse(const QByteArray &json)
+QJsonDocument FishModel::Loading::parse(const QByteArray &json)
 {
     QJsonParseError error;
     const QJsonDocument parsed = QJsonDocument::fromJson(json, &error);
     if (!parsed.isNull())
-        m_loadError.clear();
+        m_error.clear();
     else if (error.error == QJsonParseError::NoError)
-        m_loadError = tr("it is not a JSON document");
+        m_error = tr("it is not a JSON document");
     else
-        m_loadError = tr("it is not a JSON document (line %1: %2)")
-                          .arg(json.left(error.offset).count('\n') + 1)
-                          .arg(error.errorString());
+        m_error = tr("it is not a JSON document (line %1: %2)")
+                      .arg(json.left(error.offset).count('\n') + 1)
+                      .arg(error.errorString());
     return parsed;
 }
 
-FishInfo *FishModel::loadJsonFish(const QByteArray &json)
+FishInfo *FishModel::Loading::loadJson(const QByteArray &json)
 {
     const QJsonDocument parsed = parse(json);
     if (parsed.isNull())
@@ -85,83 +83,76 @@ FishInfo *FishModel::loadJsonFish(const QByteArray &json)
     document->buildTree(parsed.object());
     // Who hears of the new row may unload it at once.
     const QPointer<FishInfo> loaded(document.release());
-    loaded->setParent(this); // while it waits
-    whenChanged([this, loaded] {
+    loaded->setParent(&m_model); // while it waits
+    announcer().whenChanged([this, loaded] {
         if (!loaded)
             return;
         loaded->setParent(nullptr);
-        insertFish(m_fishList.size(), loaded);
+        m_model.insertFish(documents().count(), loaded);
     });
     return loaded;
 }
 
-void FishModel::reportLoad(FishInfo *document)
+/** Tells of a document that was loaded, once nothing is announced. */
+void FishModel::Loading::report(FishInfo *document) const
 {
     const QPointer<FishInfo> loaded(document);
-    whenChanged([this, loaded] { Q_EMIT fishLoaded(index(fishRow(loaded), 0), MODEL_NO_ERROR); });
+    announcer().whenChanged([this, loaded] {
+        Q_EMIT m_model.fishLoaded(m_model.index(documents().rowOf(loaded), 0), MODEL_NO_ERROR);
+    });
 }
 
 /** Loads a file and announces it; the document takes the file's name when it is to be @p named. */
-int FishModel::loadFile(const QString &path, bool named)
+int FishModel::Loading::loadFile(const QString &path, bool named)
 {
     QByteArray content;
     if (!readFile(path, &content))
         return MODEL_FILE_OPEN_ERROR;
-    FishInfo *const document = loadJsonFish(content);
+    FishInfo *const document = loadJson(content);
     if (!document)
         return MODEL_DATA_ERROR;
     if (named)
         document->setFileName(path);
-    reportLoad(document);
+    report(document);
     return MODEL_NO_ERROR;
 }
 
-int FishModel::loadFishFromFile(const QString &path)
-{
-    return loadFile(path, true);
-}
-
-int FishModel::loadFishFromTemplate(const QString &path)
-{
-    return loadFile(path, false);
-}
-
-int FishModel::loadFishTempl()
+int FishModel::Loading::loadTemplate()
 {
     QByteArray content;
     if (!readFile(QStringLiteral(":/res/default.json"), &content))
         return MODEL_FILE_OPEN_ERROR;
-    return loadJsonFish(content) ? MODEL_NO_ERROR : MODEL_DATA_ERROR;
+    return loadJson(content) ? MODEL_NO_ERROR : MODEL_DATA_ERROR;
 }
 
-void FishModel::loadFishFromUrl(const QUrl &url)
+void FishModel::Loading::fetch(const QUrl &url)
 {
     QNetworkRequest request(url);
     request.setAttribute(QNetworkRequest::RedirectPolicyAttribute,
                          QNetworkRequest::NoLessSafeRedirectPolicy);
-    request.setTransferTimeout(m_transferTimeout);
-    auto *const manager = new QNetworkAccessManager(this);
-    connect(manager, &QNetworkAccessManager::finished, this, &FishModel::replyFinished);
+    request.setTransferTimeout(m_timeout);
+    auto *const manager = new QNetworkAccessManager(&m_model);
+    connect(manager, &QNetworkAccessManager::finished, &m_model, &FishModel::replyFinished);
     QNetworkReply *const reply = manager->get(request);
     m_replies.append(reply);
     // The reply's own report leaves out what comes shortly after the one before.
-    connect(reply, &QNetworkReply::readyRead, this, [this, reply, url] {
+    connect(reply, &QNetworkReply::readyRead, &m_model, [this, reply, url] {
         const QVariant length = reply->header(QNetworkRequest::ContentLengthHeader);
-        Q_EMIT loadProgress(url, reply->bytesAvailable(),
-                            length.isValid() ? length.toLongLong() : -1);
+        Q_EMIT m_model.loadProgress(url, reply->bytesAvailable(),
+                                    length.isValid() ? length.toLongLong() : -1);
     });
-    if (m_replyLimit > 0)
-        limitReply(reply, m_replyLimit);
-    if (m_transferTimeout > 0)
-        limitTime(reply, qint64(longestLoad) * m_transferTimeout);
+    if (m_limit > 0)
+        limitReply(reply, m_limit);
+    if (m_timeout > 0)
+        limitTime(reply, qint64(longestLoad) * m_timeout);
 }
 
-void FishModel::cancelLoads()
+void FishModel::Loading::cancel()
 {
     const QList<QNetworkReply *> replies = m_replies;
     for (QNetworkReply *reply : replies) {
         // Who hears of the end of one may end the model, and another one with it.
-        const QPointer<FishModel> alive(this);
+        const QPointer<FishModel> alive(&m_model);
         if (m_replies.contains(reply))
             reply->abort();
         if (!alive)
@@ -170,41 +161,41 @@ void FishModel::cancelLoads()
 }
 
 /** Why there is nothing to load in a reply. */
-QString FishModel::reasonOf(const QNetworkReply &reply) const
+QString FishModel::Loading::reasonOf(const QNetworkReply &reply)
 {
     const bool isEnded = reply.error() == QNetworkReply::NoError ||
                          reply.error() == QNetworkReply::OperationCanceledError;
     return isEnded ? tr("the reply took too long or was too large") : reply.errorString();
 }
 
-void FishModel::replyFinished(QNetworkReply *reply)
+void FishModel::Loading::finishFetch(QNetworkReply *reply)
 {
     if (!reply)
         return;
     m_replies.removeOne(reply);
     reply->deleteLater();
     QNetworkAccessManager *const manager = reply->manager();
-    if (manager && manager->QObject::parent() == this)
+    if (manager && manager->parent() == &m_model)
         manager->deleteLater();
 
-    const QPointer<FishModel> alive(this);
-    const bool fits = m_replyLimit <= 0 || reply->bytesAvailable() <= m_replyLimit;
+    const QPointer<FishModel> alive(&m_model);
+    const bool fits = m_limit <= 0 || reply->bytesAvailable() <= m_limit;
     FishInfo *document = nullptr;
     if (fits && reply->error() == QNetworkReply::NoError)
-        document = loadJsonFish(reply->readAll());
+        document = loadJson(reply->readAll());
     else
-        m_loadError = reasonOf(*reply);
+        m_error = reasonOf(*reply);
     if (!alive)
         return;
     if (!document) {
-        Q_EMIT fishLoaded(QModelIndex(), MODEL_DATA_ERROR);
+        Q_EMIT m_model.fishLoaded(QModelIndex(), MODEL_DATA_ERROR);
         return;
     }
     document->setFileName(reply->url().toString());
-    reportLoad(document);
+    report(document);
 }
 
-int FishModel::reloadDataFromFile(const QString &path, FishInfo *document)
+int FishModel::Loading::reload(const QString &path, FishInfo *document)
 {
     QByteArray content;
     if (!readFile(path, &content))
@@ -213,32 +204,39 @@ int FishModel::reloadDataFromFile(const QString &path, FishInfo *document)
     if (parsed.isNull())
         return MODEL_DATA_ERROR;
     if (!document) {
-        m_loadError = tr("there is no document to load it into");
+        m_error = tr("there is no document to load it into");
         return MODEL_NO_DOCUMENT;
     }
-    FishModel *const shown = document->m_owner ? document->m_owner : this;
-    const QPointer<FishModel> alive(this);
+    FishModel *const owner = ownerOf(document);
+    FishModel *const shown = owner ? owner : &m_model;
+    const QPointer<FishModel> alive(&m_model);
     const QPointer<FishInfo> reloaded(document);
     const QJsonObject root = parsed.object();
-    const auto reload = [reloaded, root, shown] {
+    const auto rebuild = [reloaded, root, shown] {
         reloaded->clearTree();
         reloaded->buildTree(root);
         reloaded->setModel(shown);
     };
-    if (document->m_owner) {
-        shown->rebuild(document, reload);
+    if (owner) {
+        owner->rebuild(document, rebuild);
     } else {
-        whenChanged([this, reloaded, reload] {
-            const Change reset = resetting();
+        announcer().whenChanged([this, reloaded, rebuild] {
+            const Change reset = announcer().resetting();
             if (reloaded)
-                reload();
+                rebuild();
         });
     }
     if (alive)
-        whenChanged([this, reloaded] {
-            const FishModel *const lists = reloaded ? reloaded->m_owner : nullptr;
-            Q_EMIT fishLoaded(lists ? lists->index(lists->fishRow(reloaded), 0) : QModelIndex(),
-                              MODEL_NO_ERROR);
-        });
+        reportReload(reloaded);
     return MODEL_NO_ERROR;
+}
+
+/** Tells of a document that was loaded anew, once nothing is announced. */
+void FishModel::Loading::reportReload(const QPointer<FishInfo> &document) const
+{
+    announcer().whenChanged([this, document] {
+        const FishModel *const lists = ownerOf(document);
+        Q_EMIT m_model.fishLoaded(lists ? lists->index(lists->fishRow(document), 0) : QModelIndex(),
+                                  MODEL_NO_ERROR);
+    });
 }
