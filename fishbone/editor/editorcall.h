@@ -15,7 +15,7 @@
 /// - Changes of the selection are told once, when the outermost call is through: a subject that is
 ///   deleted or hidden loses its selection item by item, in a tree that is not whole yet.
 /// - mark() marks the documents that have changed since, whichever they are.
-class FishEditor::Call
+class FISHBONE_NO_EXPORT FishEditor::Call
 {
     Q_DISABLE_COPY(Call)
 

@@ -28,7 +28,7 @@ struct ShownRoot
 };
 
 /// The state of an editor. What it has in here is made in this order.
-struct FishEditor::Private
+struct FISHBONE_NO_EXPORT FishEditor::Private
 {
     Q_DISABLE_COPY(Private)
 

@@ -4,66 +4,62 @@
 #include <fishbone/editor/graphicsview.h>
 
 #include <algorithm>
-#include <utility>
+#include <memory>
 
-#include <QApplication>
 #include <QContextMenuEvent>
+#include <QCursor>
 #include <QDebug>
+#include <QDragEnterEvent>
+#include <QMimeData>
 #include <QPointer>
-#include <QScrollBar>
 #include <QWheelEvent>
 
 #include <fishbone/base/onepass.h>
+#include <fishbone/editor/boneselection.h>
+#include <fishbone/editor/droptarget.h>
 #include <fishbone/editor/fisheditor.h>
-#include <fishbone/editor/graphicsview_p.h>
-#include <fishbone/editor/itemancestry.h>
+#include <fishbone/editor/spearmove.h>
+#include <fishbone/editor/speartools.h>
+#include <fishbone/editor/wheelinput.h>
 #include <fishbone/items/hovercursor.h>
 #include <fishbone/items/sceneselection.h>
 #include <fishbone/items/spearitem.h>
-#include <fishbone/items/textitem.h>
 
 namespace {
-constexpr qreal fadedOpacity = 0.2;
 
-SpearItem *toSpear(QGraphicsItem *item)
+std::unique_ptr<QMimeData> copyOf(const QMimeData &data)
 {
-    return qgraphicsitem_cast<SpearItem *>(item);
+    auto copy = std::make_unique<QMimeData>();
+    const QStringList formats = data.formats();
+    for (const QString &format : formats)
+        copy->setData(format, data.data(format));
+    return copy;
 }
 
-/// The spear that \a item is or whose text box it is; else null.
-SpearItem *spearOfItem(QGraphicsItem *item)
-{
-    if (SpearItem *const spear = toSpear(item))
-        return spear;
-    const auto *const text = qgraphicsitem_cast<TextItem *>(item);
-    return text ? toSpear(text->parentItem()) : nullptr;
-}
-
-/// A spear and its text box are separate items, and both show whether the spear is linked.
-void repaintSpear(SpearItem *spear)
-{
-    spear->update();
-    spear->textItem()->update();
-}
-
-/// How far a wheel was turned, along the axis that it was mainly turned along.
-int deltaOf(const QPoint &angle)
-{
-    return qAbs(angle.x()) > qAbs(angle.y()) ? angle.x() : angle.y();
-}
-
-QSet<const QGraphicsItem *> asSet(const QList<SpearItem *> &spears)
-{
-    QSet<const QGraphicsItem *> set;
-    set.reserve(spears.count());
-    for (const SpearItem *spear : spears)
-        set.insert(spear);
-    return set;
-}
 } // namespace
 
+/** The state of a view. */
+struct FISHBONE_NO_EXPORT GraphicsView::Private
+{
+    Private(GraphicsView &view, FishEditor *shownBy)
+        : editor(shownBy)
+        , wheel(view, [shownBy](int steps) {
+            if (steps > 0)
+                shownBy->zoomIn(steps);
+            else
+                shownBy->zoomOut(-steps);
+        })
+    {
+    }
+
+    FishEditor *const editor;
+    WheelInput wheel;
+    SpearMove move;
+    DropTarget target;
+};
+
 GraphicsView::GraphicsView(FishEditor *editor)
-    : m_d(std::make_unique<Private>(editor))
+    : m_d(std::make_unique<Private>(*this, editor))
 {
     setAcceptDrops(true);
     setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing |
@@ -79,7 +75,7 @@ GraphicsView::~GraphicsView() = default;
 
 SpearItem *GraphicsView::linkedSpear() const
 {
-    return m_d->linkedSpear.get();
+    return m_d->target.spear();
 }
 
 QList<QGraphicsItem *> GraphicsView::itemsAround(const QPoint &pos) const
@@ -95,16 +91,6 @@ SpearItem *GraphicsView::topmostSpearAround(const QPoint &pos) const
     const QList<QGraphicsItem *> around = itemsAround(pos);
     const auto spear = std::find_if(around.cbegin(), around.cend(), toSpear);
     return spear != around.cend() ? toSpear(*spear) : nullptr;
-}
-
-QList<SpearItem *> GraphicsView::livingSelection() const
-{
-    QList<SpearItem *> living;
-    for (const SpearPointer &spear : m_d->selected) {
-        if (spear.get())
-            living.append(spear.get());
-    }
-    return living;
 }
 
 void GraphicsView::paintEvent(QPaintEvent *event)
@@ -146,110 +132,38 @@ void GraphicsView::press(QMouseEvent *event)
 {
     qDebug() << "GraphicsView::mousePressEvent" << event;
     const bool beginsMove = event->button() == Qt::LeftButton && scene();
-    if (beginsMove) {
-        m_d->selected.clear();
-        m_d->pressed = true;
-    }
+    if (beginsMove)
+        m_d->move.press();
     {
         const SelectionSilence silence(scene());
         QGraphicsView::mousePressEvent(event);
     }
     viewport()->setCursor(Qt::ArrowCursor);
-    if (!beginsMove || !m_d->pressed)
+    if (!beginsMove || !m_d->move.isPressed())
         return; // also when a dialog that the press has opened took the release
-    const QList<QGraphicsItem *> selected = m_d->editor->selectedItems();
-    for (QGraphicsItem *item : selected) {
-        if (SpearItem *const spear = toSpear(item))
-            m_d->selected.append(spear);
-    }
-    if (m_d->linkedSpear.get()) {
-        unmarkTarget();
-        m_d->dropRow = 0;
-    }
-    m_d->pressedSpear = SpearPointer();
-    const QSet<const QGraphicsItem *> candidates = asSet(livingSelection());
-    const QList<QGraphicsItem *> around = itemsAround(event->pos());
-    const auto pressed =
-        std::find_if(around.cbegin(), around.cend(),
-                     [&candidates](QGraphicsItem *item) { return candidates.contains(item); });
-    if (pressed != around.cend())
-        m_d->pressedSpear = toSpear(*pressed);
-    beginMoving();
-}
-
-void GraphicsView::beginMoving()
-{
-    endMoving(); // a press whose release went elsewhere leaves its items faded
-    const QList<SpearItem *> selected = livingSelection();
-    const QSet<const QGraphicsItem *> set = asSet(selected);
-    for (SpearItem *spear : selected) {
-        if (hasAncestorIn(spear, set))
-            continue;
-        m_d->moving.append(spear);
-        fade(spear, true);
-    }
-}
-
-void GraphicsView::endMoving()
-{
-    for (const SpearPointer &spear : qAsConst(m_d->moving)) {
-        if (spear.get())
-            fade(spear.get(), false);
-    }
-    m_d->moving.clear();
+    if (m_d->target.spear())
+        m_d->target.clear();
+    m_d->move.begin(m_d->editor->selectedItems(), itemsAround(event->pos()));
 }
 
 /// Ends a move whose release will not come here.
 void GraphicsView::abandonMove()
 {
-    endMoving();
-    unmarkTarget();
-    m_d->pressedSpear = SpearPointer();
-    if (std::exchange(m_d->pressed, false))
+    m_d->move.restore();
+    m_d->target.unmark();
+    const bool wasPressed = m_d->move.isPressed();
+    m_d->move.release();
+    if (wasPressed)
         reportMove(viewport()->mapFromGlobal(QCursor::pos()), nullptr);
-}
-
-void GraphicsView::fade(SpearItem *spear, bool faded) const
-{
-    spear->setMoving(faded);
-    spear->setOpacity(faded ? fadedOpacity : 1.0);
-    repaintSpear(spear);
-}
-
-void GraphicsView::markTarget(SpearItem *spear, const QPoint &pos, SpearItem *moving)
-{
-    if (spear != m_d->linkedSpear.get())
-        unmarkTarget();
-    m_d->linkedSpear = spear;
-    m_d->dropRow = insertRow(pos, moving);
-    if (spear->isLinked() && spear->linkNumber() == m_d->dropRow)
-        return;
-    spear->setLinked(true, m_d->dropRow);
-    repaintSpear(spear);
-}
-
-void GraphicsView::unmarkTarget()
-{
-    if (SpearItem *const spear = m_d->linkedSpear.get()) {
-        spear->setLinked(false, 0);
-        repaintSpear(spear);
-    }
-    m_d->linkedSpear = SpearPointer();
 }
 
 void GraphicsView::mouseMoveEvent(QMouseEvent *event)
 {
-    if (m_d->pressed && !m_d->selected.isEmpty()) {
-        const QSet<const QGraphicsItem *> selected = asSet(livingSelection());
-        const QList<QGraphicsItem *> around = itemsAround(event->pos());
-        const auto candidate =
-            std::find_if(around.crbegin(), around.crend(), [&selected](QGraphicsItem *item) {
-                return toSpear(item) && !selected.contains(item);
-            });
-        if (candidate != around.crend())
-            markTarget(toSpear(*candidate), event->pos(), m_d->pressedSpear.get());
+    if (m_d->move.isPressed() && m_d->move.hasSelection()) {
+        if (SpearItem *const under = m_d->move.candidate(itemsAround(event->pos())))
+            m_d->target.mark(*under, mapToScene(event->pos()), m_d->move.pressedSpear());
         else
-            unmarkTarget();
+            m_d->target.unmark();
     }
     const HoverDispatch dispatch(m_d->editor->showsOwnItemsOnly());
     QGraphicsView::mouseMoveEvent(event);
@@ -257,10 +171,7 @@ void GraphicsView::mouseMoveEvent(QMouseEvent *event)
 
 int GraphicsView::insertRow(const QPoint &pos, SpearItem *moving) const
 {
-    const SpearItem *const target = m_d->linkedSpear.get();
-    if (!target)
-        return 0;
-    return target->dropRow(mapToScene(pos), moving);
+    return m_d->target.rowAt(mapToScene(pos), moving);
 }
 
 void GraphicsView::mouseReleaseEvent(QMouseEvent *event)
@@ -269,18 +180,17 @@ void GraphicsView::mouseReleaseEvent(QMouseEvent *event)
     const QPointer<GraphicsView> alive(this);
     if (event->button() == Qt::LeftButton) {
         // Nothing stays faded or marked, also when another button has ended the gesture before.
-        SpearItem *const target = m_d->linkedSpear.get();
-        endMoving();
-        unmarkTarget();
-        if (m_d->pressed)
+        SpearItem *const target = m_d->target.spear();
+        m_d->move.restore();
+        m_d->target.unmark();
+        if (m_d->move.isPressed())
             reportMove(event->pos(), target);
     }
     if (!alive) {
         event->accept();
         return;
     }
-    m_d->pressed = false;
-    m_d->pressedSpear = SpearPointer();
+    m_d->move.release();
     handle(event, [this, event] {
         const SelectionSilence silence(scene());
         QGraphicsView::mouseReleaseEvent(event);
@@ -290,7 +200,7 @@ void GraphicsView::mouseReleaseEvent(QMouseEvent *event)
 
 void GraphicsView::reportMove(const QPoint &pos, SpearItem *target)
 {
-    const QList<SpearItem *> selected = livingSelection();
+    const QList<SpearItem *> selected = m_d->move.selection();
     if (selected.isEmpty())
         return;
     QList<QGraphicsItem *> moved;
@@ -298,10 +208,10 @@ void GraphicsView::reportMove(const QPoint &pos, SpearItem *target)
     for (SpearItem *spear : selected)
         moved.append(spear);
     // A move into the moved subject's own subtree has no target.
-    const bool intoItself = target && hasAncestorIn(target, asSet(selected));
+    const bool intoItself = m_d->move.isInto(target);
     const QModelIndex index =
         target && !intoItself ? m_d->editor->spearIndex(target) : QModelIndex();
-    Q_EMIT moveSpear(pos, moved, index, m_d->dropRow);
+    Q_EMIT moveSpear(pos, moved, index, m_d->target.row());
 }
 
 void GraphicsView::mouseDoubleClickEvent(QMouseEvent *event)
@@ -312,19 +222,12 @@ void GraphicsView::mouseDoubleClickEvent(QMouseEvent *event)
 
 void GraphicsView::wheelEvent(QWheelEvent *event)
 {
-    if (isTouchpadScroll(*event)) {
-        followTouchpad(*event);
-        return;
-    }
-    if (!event->modifiers().testFlag(Qt::ControlModifier)) {
-        QApplication::sendEvent(horizontalScrollBar(), event);
-        return;
-    }
-    if (deltaOf(event->angleDelta()) > 0)
-        m_d->editor->zoomIn(wheelZoomStep);
-    else
-        m_d->editor->zoomOut(wheelZoomStep);
-    event->accept();
+    m_d->wheel.turn(*event);
+}
+
+bool GraphicsView::viewportEvent(QEvent *event)
+{
+    return m_d->wheel.gesture(*event) || QGraphicsView::viewportEvent(event);
 }
 
 void GraphicsView::contextMenuEvent(QContextMenuEvent *event)
@@ -334,7 +237,7 @@ void GraphicsView::contextMenuEvent(QContextMenuEvent *event)
     const QList<QGraphicsItem *> under =
         scene()->items(mapToScene(event->pos()), Qt::IntersectsItemShape, Qt::DescendingOrder,
                        viewportTransform());
-    const SpearPointer spear(spearOfItem(under.value(0)));
+    const SpearPointer spear(BoneSelection::spearOf(under.value(0)));
     const bool isOnSpear = spear.get();
     const bool isAlive = handle(event, [this, &spear] {
         const SelectionSilence silence(scene());
@@ -362,4 +265,42 @@ void GraphicsView::enterEvent(QEvent *event)
 {
     QGraphicsView::enterEvent(event);
     viewport()->setCursor(Qt::ArrowCursor);
+}
+
+void GraphicsView::dragEnterEvent(QDragEnterEvent *event)
+{
+    m_d->target.clear();
+    event->acceptProposedAction();
+}
+
+void GraphicsView::dragMoveEvent(QDragMoveEvent *event)
+{
+    const TreeItem *const dragged = m_d->editor->treeItemFromMimeData(event->mimeData());
+    SpearItem *const under = dragged ? topmostSpearAround(event->pos()) : nullptr;
+    if (m_d->target.offer(dragged, under, mapToScene(event->pos())))
+        event->acceptProposedAction();
+    else
+        event->ignore();
+}
+
+void GraphicsView::dragLeaveEvent(QDragLeaveEvent *event)
+{
+    event->accept();
+}
+
+void GraphicsView::dropEvent(QDropEvent *event)
+{
+    qDebug() << "GraphicsView::dropEvent";
+    event->acceptProposedAction();
+    SpearItem *const target = m_d->target.spear();
+    if (!target)
+        return;
+    const int row = m_d->target.row();
+    m_d->target.clear();
+    QMimeData *const payload = copyOf(*event->mimeData()).release();
+    Q_EMIT dropTo(payload, m_d->editor->spearIndex(target), row);
+    // Posted behind the calls of queued receivers, so that they find it alive; also when somebody
+    // who waits has all deletions carried out before anything else, as the end of a drag may.
+    QMetaObject::invokeMethod(
+        payload, [payload] { payload->deleteLater(); }, Qt::QueuedConnection);
 }

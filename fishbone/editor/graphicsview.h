@@ -77,26 +77,12 @@ protected:
 private:
     struct Private;
 
-    /// What a step of the wheel with Ctrl adds to the zoom value.
-    static constexpr int wheelZoomStep = 6;
-
-    static bool isTouchpadScroll(const QWheelEvent &event);
-    void followTouchpad(QWheelEvent &event);
-    void zoomSmoothly(double steps);
-    bool followPinch(QEvent &event);
-
     template <typename Part>
     bool handle(QEvent *event, Part part);
     void press(QMouseEvent *event);
     QList<QGraphicsItem *> itemsAround(const QPoint &pos) const;
     SpearItem *topmostSpearAround(const QPoint &pos) const;
-    QList<SpearItem *> livingSelection() const;
-    void beginMoving();
-    void endMoving();
     void abandonMove();
-    void fade(SpearItem *spear, bool faded) const;
-    void markTarget(SpearItem *spear, const QPoint &pos, SpearItem *moving);
-    void unmarkTarget();
     void reportMove(const QPoint &pos, SpearItem *target);
 
     const std::unique_ptr<Private> m_d;

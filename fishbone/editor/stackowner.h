@@ -9,7 +9,7 @@
 #include <fishbone/undo/undostackowner.h>
 
 /// Brings the drawing up to date when somebody else than the editor calls its stack.
-class FishEditor::StackOwner final : public UndoStackOwner
+class FISHBONE_NO_EXPORT FishEditor::StackOwner final : public UndoStackOwner
 {
     Q_DISABLE_COPY(StackOwner)
 
