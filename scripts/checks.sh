@@ -74,7 +74,7 @@ check_class_names() {
          FNR == 1 { inside = 0 }
          !inside && /^(class|struct) / && !/;$/ {
              sub(/^(class|struct) /, "")
-             sub(/^(FISHBONE_EXPORT|FISHBONE_DESIGNER_EXPORT) /, "")
+             sub(/^(FISHBONE_EXPORT|FISHBONE_NO_EXPORT|FISHBONE_DESIGNER_EXPORT) /, "")
              if (/^[A-Za-z0-9_]+::/)
                  next
              sub(/[^A-Za-z0-9_].*/, "")

@@ -28,7 +28,7 @@ constexpr int resultsRow = 3;
 } // namespace
 
 /** The controls of a dialog and its last search. */
-struct ReplaceFindDialog::Private
+struct FISHBONE_NO_EXPORT ReplaceFindDialog::Private
 {
     Q_DISABLE_COPY(Private)
 

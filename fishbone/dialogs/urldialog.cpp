@@ -77,7 +77,7 @@ QString replaceContent(const QString &fileName, const QByteArray &content)
 } // namespace
 
 /** The history file of a dialog and what shows it. */
-struct URLDialog::Private
+struct FISHBONE_NO_EXPORT URLDialog::Private
 {
     QString fileName;
     QComboBox *urls; ///< a child of the dialog
