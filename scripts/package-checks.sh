@@ -118,6 +118,36 @@ check_symbols() {
     exported "$library" | diff --unified=0 "cmake/symbols/$2" -
 }
 
+# abi_of <library>: what programs rely on of a library that was built with debugging information: the functions of
+# the public headers, the sizes and virtual functions of their classes, their enumerators.
+abi_of() {
+    local headers=$PWD/build/abi/headers
+    rm -rf "$headers"
+    mkdir -p "$headers"
+    grep -rlZ --include='*.h' FISHBONE_EXPORT fishbone | xargs -0 cp -t "$headers"
+    abidw --exported-interfaces-only --suppressions cmake/abi/others.ini --headers-dir "$headers" \
+        --drop-private-types --no-show-locs --no-corpus-path --no-comp-dir-path --no-architecture \
+        --drop-undefined-syms "$1"
+}
+
+# Builds the library as abi_of wants it, and prints where it is.
+abi_library() {
+    configure dev >&2
+    cmake --build --preset dev --target fishbone >&2
+    find build/dev/fishbone -name 'libfishbone.so.*.*'
+}
+
+# Programs that run with the library of the record run with this one: nothing of what they rely on has gone or
+# changed. What has come is no fault.
+check_abi() {
+    local folder=build/abi
+    abi_of "$(abi_library)" >"$folder/built.abi"
+    xz --decompress --stdout cmake/abi/fishbone.abi.xz >"$folder/recorded.abi"
+    [[ $(grep -c '<function-decl' "$folder/recorded.abi") -gt 500 ]]
+    abidiff --no-added-syms --no-unreferenced-symbols --suppressions cmake/abi/others.ini \
+        "$folder/recorded.abi" "$folder/built.abi"
+}
+
 # The drawing of the folders shows what the sources include of each other. Its picture is compared by what it
 # shows, since another version of the drawing program places things elsewhere.
 check_drawing() {
