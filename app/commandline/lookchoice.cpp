@@ -3,6 +3,8 @@
 
 #include <app/commandline/lookchoice.h>
 
+#include <app/diagram/looklist.h>
+
 #include <QCommandLineParser>
 #include <QHash>
 
@@ -52,13 +54,14 @@ QString LookChoice::read(const QCommandLineParser &parser)
     const auto wrong = [&](const QString &name, const QString &what) {
         return tr("--%1 takes %2, not \"%3\"").arg(name, what, parser.value(name));
     };
-    if (parser.isSet(lookName) &&
-        !choose<DiagramLook::Kind>({{QStringLiteral("clear"), DiagramLook::Clear},
-                                    {QStringLiteral("classic"), DiagramLook::Classic}},
-                                   parser.value(lookName), view.look))
-        return wrong(lookName, tr("clear or classic"));
+    if (parser.isSet(lookName)) {
+        const LookList::Entry *const look = LookList::find(parser.value(lookName).toLower());
+        if (!look)
+            return wrong(lookName, tr("clear or classic"));
+        view.look = look->kind;
+    }
     for (const QString &name : {pageName, legendName, noLegendName, paletteName, headName}) {
-        if (view.look == DiagramLook::Classic && parser.isSet(name))
+        if (view.look != DiagramLook::Clear && parser.isSet(name))
             return tr("--%1 needs the clear look").arg(name);
     }
     view.options.hasLegend = !parser.isSet(noLegendName);

@@ -3,6 +3,8 @@
 
 #include <app/diagram/diagramview.h>
 
+#include <app/diagram/looklist.h>
+
 #include <QJsonDocument>
 #include <QSettings>
 
@@ -10,8 +12,6 @@ namespace {
 
 const QLatin1String lookKey("look");
 const QLatin1String pageKey("page");
-const QLatin1String clearName("clear");
-const QLatin1String classicName("classic");
 
 QString usualKey()
 {
@@ -22,11 +22,10 @@ QString usualKey()
 
 DiagramView DiagramView::of(const QJsonObject &fields, const DiagramView &usual)
 {
-    const QString name = fields.value(lookKey).toString();
-    if (name != clearName && name != classicName)
+    const LookList::Entry *const look = LookList::find(fields.value(lookKey).toString());
+    if (!look)
         return usual;
-    return {name == classicName ? DiagramLook::Classic : DiagramLook::Clear,
-            fields.value(pageKey).toString(), DiagramLook::Options::fromJson(fields)};
+    return {look->kind, fields.value(pageKey).toString(), DiagramLook::Options::fromJson(fields)};
 }
 
 void DiagramView::store(QJsonObject &fields) const
@@ -34,7 +33,7 @@ void DiagramView::store(QJsonObject &fields) const
     const QJsonObject chosen = options.toJson();
     for (auto field = chosen.begin(); field != chosen.end(); ++field)
         fields.insert(field.key(), field.value());
-    fields.insert(lookKey, look == DiagramLook::Classic ? classicName : clearName);
+    fields.insert(lookKey, LookList::nameOf(look));
     if (page.isEmpty())
         fields.remove(pageKey);
     else

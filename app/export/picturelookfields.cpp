@@ -3,6 +3,7 @@
 
 #include <app/export/picturelookfields.h>
 
+#include <app/diagram/looklist.h>
 #include <app/diagram/pagesize.h>
 
 #include <QCheckBox>
@@ -46,8 +47,8 @@ PictureLookFields::PictureLookFields(QFormLayout *layout, const DiagramView &sho
     , m_head(lookBox("head", parent))
     , m_legend(new QCheckBox(tr("Le&gend"), parent))
 {
-    m_look->addItem(tr("Clear"), int(DiagramLook::Clear));
-    m_look->addItem(tr("Classic"), int(DiagramLook::Classic));
+    for (const LookList::Entry &look : LookList::all())
+        m_look->addItem(tr(look.title), int(look.kind));
     chooseData(m_look, int(shown.look));
     layout->addRow(tr("Loo&k:"), m_look);
     addPages(layout);
@@ -91,7 +92,7 @@ DiagramView PictureLookFields::view() const
     DiagramView view = m_shown;
     view.look = DiagramLook::Kind(m_look->currentData().toInt());
     view.page.clear();
-    if (view.look == DiagramLook::Classic)
+    if (view.look != DiagramLook::Clear)
         return view;
     view.page = m_page->currentData().toString();
     view.options.palette = DiagramLook::Palette(m_palette->currentData().toInt());
@@ -107,7 +108,7 @@ void PictureLookFields::remember() const
     settings.setValue(pictureLegendKey(), m_legend->isChecked());
 }
 
-/** The classic look has nothing to choose. */
+/** Only the clear look has something to choose. */
 void PictureLookFields::follow()
 {
     const bool isClear = m_look->currentData() == int(DiagramLook::Clear);

@@ -7,6 +7,7 @@
 #include <app/common/busycursor.h>
 #include <app/diagram/diagramsession.h>
 #include <app/diagram/documentlook.h>
+#include <app/diagram/looklist.h>
 #include <app/diagram/pagesize.h>
 
 #include <fishbone/editor/fisheditor.h>
@@ -55,14 +56,12 @@ QAction *LookCommands::add(QMenu *menu, const char *name, const Language::Text &
 void LookCommands::addLooks()
 {
     QMenu *const menu = addMenu("look", QT_TR_NOOP("Loo&k"));
-    const auto addLook = [this, menu](const char *name, const char *text, DiagramLook::Kind look) {
-        return add(
-            menu, name, [text] { return tr(text); },
-            [look](DiagramView &view) { view.look = look; },
-            [look](const DiagramView &view) { return view.look == look; });
-    };
-    addLook("lookClear", QT_TR_NOOP("&Clear"), DiagramLook::Clear);
-    m_classic = addLook("lookClassic", QT_TR_NOOP("Cl&assic"), DiagramLook::Classic);
+    for (const LookList::Entry &look : LookList::all()) {
+        m_looks.append(add(
+            menu, look.action, [text = look.menuText] { return tr(text); },
+            [kind = look.kind](DiagramView &view) { view.look = kind; },
+            [kind = look.kind](const DiagramView &view) { return view.look == kind; }));
+    }
     menu->addSeparator();
     addPalettes(menu);
     addLines(menu);
@@ -168,9 +167,8 @@ void LookCommands::updateActions()
     const DiagramView &view = m_look->view();
     const bool isShown = m_session->document();
     for (auto entry = m_tests.cbegin(); entry != m_tests.cend(); ++entry) {
-        const bool isLook = entry.key() == m_classic ||
-                            entry.key() == m_actions->action(QStringLiteral("lookClear"));
-        // The classic look has nothing to choose.
+        const bool isLook = m_looks.contains(entry.key());
+        // The other looks have nothing to choose.
         entry.key()->setEnabled(isShown && (isLook || view.look == DiagramLook::Clear));
         entry.key()->setChecked(entry.value()(view));
     }

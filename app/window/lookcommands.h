@@ -59,5 +59,5 @@ private:
     QPointer<DocumentLook> m_look;
     QHash<QString, QMenu *> m_menus;
     QHash<QAction *, Test> m_tests;
-    QAction *m_classic = nullptr;
+    QList<QAction *> m_looks;
 };
