@@ -11,6 +11,7 @@
 #include <fishbone/items/linkitem.h>
 #include <fishbone/items/taskstatusinfo.h>
 #include <fishbone/model/fishmodel.h>
+#include <fishbone/model/subjectattribute.h>
 #include <fishbone/model/systemhelper.h>
 #include <fishbone/model/treeitem.h>
 #include <fishbone/undo/editattributes.h>
@@ -29,9 +30,27 @@
 #include <QSpinBox>
 #include <QToolButton>
 
+#include <iterator>
 #include <limits>
 
 namespace {
+
+/** An attribute that has a plain number field. */
+struct NumberField
+{
+    const char *key;
+    const char *name;  ///< of the field
+    const char *label; ///< for tr()
+
+    const SubjectAttribute &attribute() const
+    {
+        return *SubjectAttribute::find(QLatin1String(key));
+    }
+};
+
+const NumberField numberFields[] = {
+    {"priority", "detailsPriority", QT_TRANSLATE_NOOP("DetailsPanel", "Priority:")},
+};
 
 constexpr int noStatus = -1;
 constexpr int iconSize = 20;
@@ -42,6 +61,19 @@ void allowAnyNumber(QSpinBox &box)
     constexpr int usual = 80;
     box.setRange(std::numeric_limits<int>::min(), std::numeric_limits<int>::max());
     box.setMinimumWidth(usual);
+}
+
+/** The boxes of all number fields. */
+QVector<QSpinBox *> boxesOfNumbers(QWidget *form)
+{
+    QVector<QSpinBox *> boxes;
+    for (const NumberField &field : numberFields) {
+        auto *const box = new QSpinBox(form);
+        box->setObjectName(QLatin1String(field.name));
+        allowAnyNumber(*box);
+        boxes.append(box);
+    }
+    return boxes;
 }
 
 /** @p state with what differs between @p from and @p to as it is in the latter. */
@@ -75,7 +107,7 @@ DetailsPanel::DetailsPanel(DiagramSession *session, QWidget *parent)
     , m_status(new QComboBox(m_form))
     , m_progress(new QSpinBox(m_form))
     , m_statusIcon(new QLabel(m_form))
-    , m_priority(new QSpinBox(m_form))
+    , m_numbers(boxesOfNumbers(m_form))
     , m_managerName(new QLineEdit(m_form))
     , m_managerId(new QLineEdit(m_form))
     , m_followers(new StringListEditor(m_form))
@@ -105,7 +137,6 @@ void DetailsPanel::nameFields()
     m_status->setObjectName(QStringLiteral("detailsStatus"));
     m_progress->setObjectName(QStringLiteral("detailsProgress"));
     m_statusIcon->setObjectName(QStringLiteral("detailsStatusIcon"));
-    m_priority->setObjectName(QStringLiteral("detailsPriority"));
     m_managerName->setObjectName(QStringLiteral("detailsManager"));
     m_followers->setObjectName(QStringLiteral("detailsFollowers"));
     m_hasPlannedEnd->setObjectName(QStringLiteral("detailsHasPlannedEnd"));
@@ -149,7 +180,6 @@ void DetailsPanel::setUpFields()
     }
     m_status->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     allowAnyNumber(*m_progress);
-    allowAnyNumber(*m_priority);
     m_progress->setSuffix(QStringLiteral(" %"));
     m_progress->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     m_statusIcon->setFixedSize(iconSize, iconSize);
@@ -180,7 +210,8 @@ void DetailsPanel::addRows(QFormLayout &rows)
     add([] { return tr("Number:"); }, m_number);
     add([] { return tr("Status:"); }, m_status);
     add([] { return tr("Progress:"); }, beside(m_progress, m_statusIcon));
-    add([] { return tr("Priority:"); }, m_priority);
+    for (std::size_t i = 0; i < std::size(numberFields); ++i)
+        add([i] { return tr(numberFields[i].label); }, m_numbers.at(int(i)));
     add([] { return tr("Responsible:"); }, m_managerName);
     add([] { return tr("Their id:"); }, m_managerId);
     add([] { return tr("Planned end:"); }, beside(m_hasPlannedEnd, m_plannedEnd));
@@ -216,7 +247,7 @@ void DetailsPanel::watchFields()
         connect(field, &QLineEdit::textChanged, this, changed);
         connect(field, &QLineEdit::returnPressed, this, &DetailsPanel::apply);
     }
-    for (QSpinBox *field : {m_progress, m_priority})
+    for (QSpinBox *field : m_numbers + QVector<QSpinBox *>{m_progress})
         connect(field, QOverload<int>::of(&QSpinBox::valueChanged), this, changed);
     connect(m_status, QOverload<int>::of(&QComboBox::currentIndexChanged), this, changed);
     connect(m_detail, &QPlainTextEdit::textChanged, this, changed);
@@ -284,7 +315,8 @@ void DetailsPanel::fill(const TreeItem &subject)
     m_detail->setPlainText(subject.detail());
     m_status->setCurrentIndex(qMax(0, m_status->findData(subject.status())));
     m_progress->setValue(subject.progress());
-    m_priority->setValue(subject.priority());
+    for (std::size_t i = 0; i < std::size(numberFields); ++i)
+        m_numbers.at(int(i))->setValue(numberFields[i].attribute().get(subject).toInt());
     m_managerName->setText(subject.managerName());
     m_managerId->setText(subject.managerId());
     m_followers->setTexts(subject.followers());
@@ -330,7 +362,8 @@ void DetailsPanel::store(TreeItem &target) const
     target.setDetail(m_detail->toPlainText());
     target.setStatus(m_status->currentData().toInt());
     target.setProgress(m_progress->value());
-    target.setPriority(m_priority->value());
+    for (std::size_t i = 0; i < std::size(numberFields); ++i)
+        numberFields[i].attribute().set(target, m_numbers.at(int(i))->value());
     target.setManagerName(m_managerName->text());
     target.setManagerId(m_managerId->text());
     target.setFollowers(m_followers->texts());

@@ -5,6 +5,7 @@
 
 #include <QJsonObject>
 #include <QPersistentModelIndex>
+#include <QVector>
 #include <QWidget>
 
 class DiagramSession;
@@ -71,7 +72,7 @@ private:
     QComboBox *m_status;
     QSpinBox *m_progress;
     QLabel *m_statusIcon;
-    QSpinBox *m_priority;
+    QVector<QSpinBox *> m_numbers; ///< in the order of their list
     QLineEdit *m_managerName;
     QLineEdit *m_managerId;
     StringListEditor *m_followers;

@@ -183,7 +183,12 @@ bool DiagramExchange::canWrite(Format format)
 
 QStringList DiagramExchange::keptKeys(Format format)
 {
-    return wordsOf(ExchangeFormats::of(format).kept);
+    QStringList keys = wordsOf(ExchangeFormats::of(format).kept);
+    if (keys.removeOne(QStringLiteral("*"))) {
+        for (const SubjectAttributes::Attribute &attribute : SubjectAttributes::all())
+            keys.append(attribute.key);
+    }
+    return keys;
 }
 
 QString DiagramExchange::name(Format format)

@@ -25,7 +25,8 @@ struct ExchangeFormat
     const char *id;
     const char *name;    ///< for DiagramExchange::tr()
     const char *endings; ///< separated by blanks, the usual one first
-    /** The keys of the diagram format whose values come back after writing and reading. */
+    /** The keys of the diagram format whose values come back after writing and reading; "*" stands
+     * for all attributes that formats exchange. */
     const char *kept;
     /** Adds what the bytes hold to a tree, which knows the reason when it did not work. Null for a
      * format that is only written. */

@@ -89,7 +89,6 @@ const ExchangeFormat ExchangeFormats::freeMind{
     "mm",
     QT_TRANSLATE_NOOP("DiagramExchange", "FreeMind mind map"),
     "mm",
-    "title children uuid showid detail type status progress priority url mgrname mgrid "
-    "creatorname creatorid followers createdate planenddate",
+    "title children *",
     readFreeMind,
     writeFreeMind};

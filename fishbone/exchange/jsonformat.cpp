@@ -40,12 +40,10 @@ QByteArray writeJson(const TreeItem &head)
 
 } // namespace
 
-const ExchangeFormat ExchangeFormats::json{
-    DiagramExchange::Format::Json,
-    "json",
-    QT_TRANSLATE_NOOP("DiagramExchange", "Fishbone diagram"),
-    "json",
-    "title children uuid showid detail type status progress priority url mgrname mgrid "
-    "creatorname creatorid followers createdate planenddate spearstyle",
-    readJson,
-    writeJson};
+const ExchangeFormat ExchangeFormats::json{DiagramExchange::Format::Json,
+                                           "json",
+                                           QT_TRANSLATE_NOOP("DiagramExchange", "Fishbone diagram"),
+                                           "json",
+                                           "title children * spearstyle",
+                                           readJson,
+                                           writeJson};

@@ -260,12 +260,10 @@ QByteArray writeOpml(const TreeItem &head)
 
 } // namespace
 
-const ExchangeFormat ExchangeFormats::opml{
-    DiagramExchange::Format::Opml,
-    "opml",
-    QT_TRANSLATE_NOOP("DiagramExchange", "OPML outline"),
-    "opml",
-    "title children uuid showid detail type status progress priority url mgrname mgrid "
-    "creatorname creatorid followers createdate planenddate",
-    readOpml,
-    writeOpml};
+const ExchangeFormat ExchangeFormats::opml{DiagramExchange::Format::Opml,
+                                           "opml",
+                                           QT_TRANSLATE_NOOP("DiagramExchange", "OPML outline"),
+                                           "opml",
+                                           "title children *",
+                                           readOpml,
+                                           writeOpml};

@@ -86,12 +86,10 @@ QByteArray writeOrg(const TreeItem &head)
 
 } // namespace
 
-const ExchangeFormat ExchangeFormats::org{
-    DiagramExchange::Format::Org,
-    "org",
-    QT_TRANSLATE_NOOP("DiagramExchange", "Org outline"),
-    "org",
-    "title children uuid showid detail type status progress priority url mgrname mgrid "
-    "creatorname creatorid followers createdate planenddate",
-    readOrg,
-    writeOrg};
+const ExchangeFormat ExchangeFormats::org{DiagramExchange::Format::Org,
+                                          "org",
+                                          QT_TRANSLATE_NOOP("DiagramExchange", "Org outline"),
+                                          "org",
+                                          "title children *",
+                                          readOrg,
+                                          writeOrg};

@@ -80,12 +80,10 @@ QByteArray writeXMind(const TreeItem &head)
 
 } // namespace
 
-const ExchangeFormat ExchangeFormats::xmind{
-    DiagramExchange::Format::Xmind,
-    "xmind",
-    QT_TRANSLATE_NOOP("DiagramExchange", "XMind map"),
-    "xmind",
-    "title children uuid showid detail type status progress priority url mgrname mgrid "
-    "creatorname creatorid followers createdate planenddate",
-    readXMind,
-    writeXMind};
+const ExchangeFormat ExchangeFormats::xmind{DiagramExchange::Format::Xmind,
+                                            "xmind",
+                                            QT_TRANSLATE_NOOP("DiagramExchange", "XMind map"),
+                                            "xmind",
+                                            "title children *",
+                                            readXMind,
+                                            writeXMind};
