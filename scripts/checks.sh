@@ -38,7 +38,8 @@ check_scripts() {
 check_cppcheck() {
     local memory=build/cppcheck
     mkdir -p "$memory"
-    cppcheck --quiet --cppcheck-build-dir="$memory" --std=c++17 --library=qt -I . -D FISHBONE_EXPORT= -D Q_OS_UNIX \
+    cppcheck --quiet --cppcheck-build-dir="$memory" --std=c++17 --library=qt -I . \
+        -D FISHBONE_EXPORT= -D FISHBONE_NO_EXPORT= -D Q_OS_UNIX \
         --enable=warning,performance,portability --suppressions-list=scripts/cppcheck.txt \
         --error-exitcode=1 fishbone app
 }
