@@ -42,9 +42,9 @@ public:
         bool widensLines = false; ///< whether lines get longer than the limit, and then more,
                                   ///< rather than titles cut
         double headWidth = 120;   ///< the width of a line of the title in the head
-        Sides sides = OneSide;
-        bool isHeadLeft = false; ///< the head stands on the left instead of the right
-        Palette palette = DistinctColors;
+        Sides sides = OneSide;    ///< where the bones of a category grow
+        bool isHeadLeft = false;  ///< the head stands on the left instead of the right
+        Palette palette = DistinctColors; ///< the colours of categories
         bool hasButtons =
             true; ///< whether expanded bones show their button when they are pointed at
         bool hasLegend = false; ///< whether the meanings of icons and colours stand below the tail
@@ -55,6 +55,7 @@ public:
          * or makes no sense is as in options that nobody has changed. */
         static Options fromJson(const QJsonObject &json);
 
+        /** Whether all options are the same. */
         bool operator==(const Options &other) const
         {
             return wrapLimit == other.wrapLimit && wrapLines == other.wrapLines &&
@@ -63,6 +64,7 @@ public:
                    palette == other.palette && hasButtons == other.hasButtons &&
                    hasLegend == other.hasLegend;
         }
+        /** Whether any option is another one. */
         bool operator!=(const Options &other) const { return !(*this == other); }
     };
 };
