@@ -1891,10 +1891,6 @@ Do you want to save your changes?</translation>
 <context>
     <name>LookCommands</name>
     <message>
-        <source>Look</source>
-        <translation>Look</translation>
-    </message>
-    <message>
         <source>Loo&amp;k</source>
         <translation>Loo&amp;k</translation>
     </message>
@@ -1961,6 +1957,10 @@ Do you want to save your changes?</translation>
     <message>
         <source>Arrang&amp;e for page</source>
         <translation>Arrang&amp;e for page</translation>
+    </message>
+    <message>
+        <source>Look: %1</source>
+        <translation>Look: %1</translation>
     </message>
 </context>
 <context>

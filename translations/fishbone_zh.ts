@@ -1887,10 +1887,6 @@ Do you want to save your changes?</source>
 <context>
     <name>LookCommands</name>
     <message>
-        <source>Look</source>
-        <translation>外观</translation>
-    </message>
-    <message>
         <source>Loo&amp;k</source>
         <translation>外观(&amp;K)</translation>
     </message>
@@ -1957,6 +1953,10 @@ Do you want to save your changes?</source>
     <message>
         <source>Arrang&amp;e for page</source>
         <translation>按页面排布(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Look: %1</source>
+        <translation>外观：%1</translation>
     </message>
 </context>
 <context>

@@ -38,13 +38,17 @@ QMenu *LookCommands::addMenu(const char *name, const char *title)
 QAction *LookCommands::add(QMenu *menu, const char *name, const Language::Text &text,
                            const Change &change, const Test &test)
 {
+    const QString actionName = QLatin1String(name);
     QAction *const action =
-        m_actions->add(QLatin1String(name), text, {}, ActionSet::Scope::Window, [this, change] {
+        m_actions->add(actionName, text, {}, ActionSet::Scope::Window, [this, actionName, change] {
             if (!m_look)
                 return;
             DiagramView view = m_look->view();
             change(view);
-            m_look->choose(view, [] { return tr("Look"); });
+            const QPointer<QAction> entry = m_actions->action(actionName);
+            m_look->choose(view, [entry] {
+                return tr("Look: %1").arg(entry ? ActionSet::plainText(*entry) : QString());
+            });
             updateActions(); // also when the entry was what is shown already
         });
     action->setCheckable(true);

@@ -101,6 +101,8 @@ void TestLookCommands::shouldBeOneStepOfTheHistory()
     QVERIFY(PictureExport::visibleRect(*app.window.editor()->scene()) != clear);
     QCOMPARE(steps(app), 1);
     QVERIFY(app.document()->modified());
+    QCOMPARE(app.window.editor()->undoStack()->commandNames(),
+             QStringList(QStringLiteral("Look: Classic")));
     app.trigger("lookClassic"); // is shown already
     QCOMPARE(steps(app), 1);
     QVERIFY(app.action("lookClassic")->isChecked());
