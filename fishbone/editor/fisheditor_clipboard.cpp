@@ -5,13 +5,12 @@
 
 #include <fishbone/editor/fisheditor.h>
 
-#include <QJsonArray>
 #include <QMimeData>
 
 #include <fishbone/editor/fisheditor_p.h>
+#include <fishbone/editor/subjectsnapshot.h>
 #include <fishbone/items/spearitem.h>
 #include <fishbone/model/fishmodel.h>
-#include <fishbone/undo/subjectlookup.h>
 
 bool FishEditor::hasClipBoardData() const
 {
@@ -57,19 +56,7 @@ QList<TreeItem *> FishEditor::subjectsOf(QList<QGraphicsItem *> items)
 
 void FishEditor::saveObjects(QJsonObject &objects, const QList<QGraphicsItem *> &items) const
 {
-    objects = QJsonObject();
-    QJsonArray children;
-    const QList<TreeItem *> subjects = subjectsOf(items);
-    for (TreeItem *subject : subjects) {
-        ensureUuids(subject);
-        QJsonObject child;
-        FishModel::write(child, subject, true);
-        children.append(child);
-    }
-    if (children.count() == 1)
-        objects = children.first().toObject();
-    else if (!children.isEmpty())
-        objects.insert(QStringLiteral("children"), children);
+    objects = SubjectSnapshot::of(subjectsOf(items));
 }
 
 TreeItem *FishEditor::treeItemFromMimeData(const QMimeData *mimeData) const

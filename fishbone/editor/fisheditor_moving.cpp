@@ -7,11 +7,12 @@
 
 #include <algorithm>
 
-#include <QJsonArray>
+#include <QJsonObject>
 
 #include <fishbone/editor/editorcall.h>
 #include <fishbone/editor/fisheditor_p.h>
 #include <fishbone/editor/graphicsview.h>
+#include <fishbone/editor/subjectsnapshot.h>
 #include <fishbone/items/spearitem.h>
 #include <fishbone/model/fishmodel.h>
 #include <fishbone/undo/structuralcommands.h>
@@ -22,18 +23,6 @@ bool isImmovable(const QGraphicsItem *item)
 {
     const auto *const spear = qgraphicsitem_cast<const SpearItem *>(item);
     return spear && !spear->isMovable();
-}
-
-QStringList uuidsOf(const QJsonObject &snapshot)
-{
-    const QString uuid = QStringLiteral("uuid");
-    if (snapshot.contains(uuid))
-        return {snapshot.value(uuid).toString()};
-    QStringList uuids;
-    const QJsonArray children = snapshot.value(QStringLiteral("children")).toArray();
-    for (const QJsonValue &child : children)
-        uuids.append(child.toObject().value(uuid).toString());
-    return uuids;
 }
 } // namespace
 
@@ -71,7 +60,7 @@ void FishEditor::moveItems(const QPoint &pos, const QList<QGraphicsItem *> &srcs
         return;
     finish(call, Follow::Layout);
     if (call.isAlive())
-        reportNewParent(uuidsOf(snapshot), parent, CHANGE_PARENT_BY_MOVE);
+        reportNewParent(SubjectSnapshot::uuids(snapshot), parent, CHANGE_PARENT_BY_MOVE);
 }
 
 void FishEditor::onDropTo(const QMimeData *mimeData, const QModelIndex &indexTo, int row)
