@@ -41,13 +41,11 @@ QByteArray writeCsv(const TreeItem &head)
 
 } // namespace
 
-const ExchangeFormat ExchangeFormats::csv{
-    DiagramExchange::Format::Csv,
-    "csv",
-    QT_TRANSLATE_NOOP("DiagramExchange", "Table of tasks"),
-    "csv",
-    "title children uuid showid detail type status progress priority url mgrname mgrid "
-    "creatorname creatorid followers createdate planenddate",
-    readCsv,
-    writeCsv,
-    readRows};
+const ExchangeFormat ExchangeFormats::csv{DiagramExchange::Format::Csv,
+                                          "csv",
+                                          QT_TRANSLATE_NOOP("DiagramExchange", "Table of tasks"),
+                                          "csv",
+                                          "title children *",
+                                          readCsv,
+                                          writeCsv,
+                                          readRows};

@@ -6,11 +6,13 @@
 #include <fishbone/exchange/outlinewalk.h>
 #include <fishbone/exchange/subjectattributes.h>
 #include <fishbone/model/jsonnodes.h>
+#include <fishbone/model/subjectattribute.h>
 #include <fishbone/model/systemhelper.h>
 
 #include <QDateTime>
 #include <QSet>
 
+#include <algorithm>
 #include <vector>
 
 namespace {
@@ -24,14 +26,12 @@ QString dateFrom(const QString &milliseconds)
     return QDateTime::fromString(text, Qt::ISODateWithMs).isValid() ? text : milliseconds;
 }
 
-} // namespace
-
-namespace OwnTable {
-
-const std::array<Column, 17> &columns()
+/** The columns with a name of their own. */
+std::vector<OwnTable::Column> namedColumns()
 {
     using namespace JsonNodes;
-    static const std::array<Column, 17> all{{
+    using OwnTable::Kind;
+    return {
         {QLatin1String("uuid"), uuidKey},
         {QLatin1String("parent"), pidKey},
         {QLatin1String("title"), titleKey},
@@ -49,7 +49,39 @@ const std::array<Column, 17> &columns()
         {QLatin1String("detail"), detailKey},
         {QLatin1String("short id"), showidKey},
         {QLatin1String("type"), typeKey, Kind::Number},
-    }};
+    };
+}
+
+OwnTable::Kind kindOf(const SubjectAttribute &attribute)
+{
+    switch (attribute.kind()) {
+    case SubjectAttribute::Number:
+        return OwnTable::Kind::Number;
+    case SubjectAttribute::Date:
+        return OwnTable::Kind::Date;
+    default:
+        return OwnTable::Kind::Text;
+    }
+}
+
+} // namespace
+
+namespace OwnTable {
+
+const std::vector<Column> &columns()
+{
+    static const std::vector<Column> all = [] {
+        std::vector<Column> made = namedColumns();
+        for (const SubjectAttributes::Attribute &attribute : SubjectAttributes::all()) {
+            const bool isNamed =
+                std::any_of(made.cbegin(), made.cend(), [&attribute](const Column &column) {
+                    return column.key == attribute.key;
+                });
+            if (!isNamed)
+                made.push_back({attribute.key, attribute.key, kindOf(*attribute.source)});
+        }
+        return made;
+    }();
     return all;
 }
 

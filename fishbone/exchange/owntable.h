@@ -6,8 +6,8 @@
 #include <QLatin1String>
 #include <QStringList>
 
-#include <array>
 #include <functional>
+#include <vector>
 
 class TreeItem;
 
@@ -27,8 +27,11 @@ struct Column
     Kind kind = Kind::Text;
 };
 
-/** All columns, beginning with the uuid, the parent and the title. */
-const std::array<Column, 17> &columns();
+/**
+ * All columns, beginning with the uuid, the parent and the title: those with a name of their own,
+ * then what else formats exchange, under its key.
+ */
+const std::vector<Column> &columns();
 
 /** The names of all columns. */
 QStringList headings();

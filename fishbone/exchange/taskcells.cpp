@@ -6,6 +6,7 @@
 #include <fishbone/exchange/csvtable.h>
 #include <fishbone/exchange/diagramexchange.h>
 #include <fishbone/exchange/importedtree.h>
+#include <fishbone/exchange/owntable.h>
 #include <fishbone/exchange/subjectattributes.h>
 #include <fishbone/exchange/taskvalues.h>
 #include <fishbone/model/jsonnodes.h>
@@ -156,6 +157,8 @@ void TaskCells::keep(const QString &heading, const QString &value)
 bool TaskCells::applyCell(Role role, const QString &value, TreeItem &subject,
                           const QString &heading, qint64 line)
 {
+    if (role == Role::Other)
+        return applyOwn(value, subject, heading);
     if (role == Role::Url)
         return applyUrl(value, subject, heading, line);
     if (isDate(role))
@@ -174,6 +177,18 @@ bool TaskCells::applyCell(Role role, const QString &value, TreeItem &subject,
     const SubjectAttributes::Attribute &attribute = SubjectAttributes::named(key);
     const bool isTaken = role != Role::Uuid && !attribute.text(subject).isEmpty();
     return !isTaken && attribute.setText(subject, value);
+}
+
+/** Takes a column of a table of this program that has the key of an attribute. */
+bool TaskCells::applyOwn(const QString &value, TreeItem &subject, const QString &heading) const
+{
+    const std::vector<OwnTable::Column> &columns = OwnTable::columns();
+    const auto column =
+        std::find_if(columns.cbegin(), columns.cend(), [&heading](const OwnTable::Column &each) {
+            return each.name == heading && each.name == each.key;
+        });
+    return m_isOwn && column != columns.cend() &&
+           SubjectAttributes::named(column->key).setText(subject, value);
 }
 
 bool TaskCells::applyNumber(Role role, const QString &value, TreeItem &subject,

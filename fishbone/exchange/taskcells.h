@@ -31,6 +31,7 @@ public:
 private:
     bool applyCell(Role role, const QString &value, TreeItem &subject, const QString &heading,
                    qint64 line);
+    bool applyOwn(const QString &value, TreeItem &subject, const QString &heading) const;
     bool applyNumber(Role role, const QString &value, TreeItem &subject, const QString &heading,
                      qint64 line);
     bool applyDate(Role role, const QString &value, TreeItem &subject);

@@ -55,13 +55,11 @@ bool readXlsx(const QByteArray &bytes, ImportedTree &tree)
 
 } // namespace
 
-const ExchangeFormat ExchangeFormats::xlsx{
-    DiagramExchange::Format::Xlsx,
-    "xlsx",
-    QT_TRANSLATE_NOOP("DiagramExchange", "Excel workbook"),
-    "xlsx",
-    "title children uuid showid detail type status progress priority url mgrname mgrid "
-    "creatorname creatorid followers createdate planenddate",
-    readXlsx,
-    XlsxWriter::write,
-    readSheetRows};
+const ExchangeFormat ExchangeFormats::xlsx{DiagramExchange::Format::Xlsx,
+                                           "xlsx",
+                                           QT_TRANSLATE_NOOP("DiagramExchange", "Excel workbook"),
+                                           "xlsx",
+                                           "title children *",
+                                           readXlsx,
+                                           XlsxWriter::write,
+                                           readSheetRows};
