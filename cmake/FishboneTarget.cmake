@@ -20,6 +20,17 @@ function(fishbone_setup_target target)
         QT_NO_CAST_FROM_ASCII
         QT_NO_CAST_TO_ASCII
         QT_NO_KEYWORDS)
+    # CMake does not run moc again for a source that is added to a build that there is already.
+    get_target_property(sources ${target} SOURCES)
+    set(listed "${CMAKE_CURRENT_BINARY_DIR}/${target}.sources")
+    set(before "")
+    if(EXISTS "${listed}")
+        file(READ "${listed}" before)
+    endif()
+    if(NOT before STREQUAL "${sources}")
+        file(WRITE "${listed}" "${sources}")
+        file(REMOVE "${CMAKE_CURRENT_BINARY_DIR}/${target}_autogen/timestamp")
+    endif()
     if(CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
         target_compile_options(${target} PRIVATE
             -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor
