@@ -125,8 +125,8 @@ void TestSpearItemCompanions::shouldDeleteTheCompanionThatIsReplaced()
 {
     QFETCH(Companion, companion);
     QFETCH(bool, inScene);
+    int laterDeletions = 0; // before the owner, whose end it counts
     Owner owner(companion, inScene);
-    int laterDeletions = 0;
     auto *const second = std::make_unique<CountedItem>(&laterDeletions).release();
 
     owner.give(owner.spear, second);
@@ -236,9 +236,9 @@ void TestSpearItemCompanions::shouldTakeItsCompanionsAlong()
 
 void TestSpearItemCompanions::shouldPlaceACompanionAtOnce()
 {
+    int deletions = 0; // before the spear, whose end it counts
     const auto spear = newSpear();
     spear->setLine(0, 0, -100, 0);
-    int deletions = 0;
     auto *const expand = std::make_unique<CountedItem>(&deletions).release();
     auto *const link = std::make_unique<CountedItem>(&deletions).release();
 
