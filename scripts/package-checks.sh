@@ -141,6 +141,7 @@ abi_library() {
 # changed. What has come is no fault.
 check_abi() {
     local folder=build/abi
+    mkdir -p "$folder"
     abi_of "$(abi_library)" >"$folder/built.abi"
     xz --decompress --stdout cmake/abi/fishbone.abi.xz >"$folder/recorded.abi"
     [[ $(grep -c '<function-decl' "$folder/recorded.abi") -gt 500 ]]
