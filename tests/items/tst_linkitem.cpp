@@ -256,6 +256,11 @@ void TestLinkItem::shouldOpenOnceWhenTheReleaseGetsLost()
     view.centerOn(item);
     const QPoint pos = view.mapFromScene(item->mapToScene(item->boundingRect().center()));
 
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+    // It says so of every press that a view leaves to what is below.
+    QTest::ignoreMessage(QtWarningMsg,
+                         "Mouse event \"MousePress\" not accepted by receiving widget");
+#endif
     // A dialog that the opener shows takes the release.
     QTest::mousePress(view.viewport(), Qt::LeftButton, Qt::NoModifier, pos);
     QTest::mouseClick(view.viewport(), Qt::LeftButton, Qt::NoModifier, {3, 3});

@@ -3,6 +3,8 @@
 
 #include <tests/reliability/hostilerun.h>
 
+#include <QThreadPool>
+
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -45,6 +47,8 @@ void ForkedRuns::start(const std::function<int()> &body, const Report &report)
 {
     while (int(m_running.size()) >= m_atOnce)
         collectOne();
+    // Qt 6 reads the fonts in another thread, which a child would wait for and not have.
+    QThreadPool::globalInstance()->waitForDone();
     std::fflush(nullptr);
     const int output = ::memfd_create("run", 0);
     const pid_t child = ::fork();
