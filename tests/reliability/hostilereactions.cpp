@@ -145,7 +145,7 @@ void addEdits(std::vector<HostileAct> &acts)
                         editor.selectAll();
                         editor.cut();
                     }),
-                    {"*"}});
+                    {"*", "Other"}}); // of the document that the operation has it show
 }
 
 void addRows(std::vector<HostileAct> &acts)
