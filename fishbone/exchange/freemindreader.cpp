@@ -134,12 +134,17 @@ bool FreeMindReader::read()
 
 bool FreeMindReader::readElement()
 {
-    const auto name = m_xml.name();
-    if (name == FreeMindNames::nodeName)
+    if (m_xml.name() == FreeMindNames::nodeName)
         return openNode();
-    if (m_open.empty())
+    if (m_open.empty() || !readPart())
         leaveOutLook();
-    else if (name == FreeMindNames::richTextName)
+    return true;
+}
+
+bool FreeMindReader::readPart()
+{
+    const auto name = m_xml.name();
+    if (name == FreeMindNames::richTextName)
         readRichText();
     else if (name == FreeMindNames::attributeName)
         readNamedValue();
@@ -150,7 +155,7 @@ bool FreeMindReader::readElement()
     else if (name == QLatin1String("hook"))
         readHook();
     else
-        leaveOutLook();
+        return false;
     return true;
 }
 

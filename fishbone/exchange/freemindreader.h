@@ -44,6 +44,8 @@ private:
     };
 
     bool readElement();
+    /** Reads the element that stands in a node; false for one that is not known. */
+    bool readPart();
     bool openNode();
     void closeNode();
     void readNodeValues(TreeItem &subject);

@@ -6,6 +6,7 @@
 #include <fishbone/exchange/exchangetext.h>
 
 #include <QString>
+#include <QStringList>
 
 #include <optional>
 
