@@ -85,11 +85,7 @@ bool FishLayout::update(SettledDrawing &settled)
 
 void FishLayout::noteIn(SettledDrawing &settled) const
 {
-    std::vector<SettledSpear> spears;
-    spears.reserve(m_tree.entries().size());
-    for (const SpearTree::Entry &entry : m_tree.entries())
-        spears.emplace_back(*entry.spear);
-    settled.note(std::move(spears), m_look.get());
+    settled.note(m_tree.entries(), m_look.get());
 }
 
 void FishLayout::refreshCompanions(const SpearTree::Entry &entry) const

@@ -59,9 +59,3 @@ bool SettledSpear::holds(const SpearItem &spear) const
            isSame(m_statusPosition, spear.statusItem()->pos()) && m_link.holds(spear.linkItem()) &&
            m_button.holds(spear.expandBuddy());
 }
-
-void SettledDrawing::note(std::vector<SettledSpear> spears, const SpearLook *look)
-{
-    m_spears = std::move(spears);
-    m_look = look;
-}

@@ -53,8 +53,19 @@ class SettledDrawing
 public:
     /** Nothing is known of the drawing from now on. */
     void forget() { m_spears.clear(); }
-    /** Notes how all @p spears stand, which were laid out in @p look. */
-    void note(std::vector<SettledSpear> spears, const SpearLook *look);
+    /**
+     * Notes how the spears of all @p entries stand, which were laid out in @p look. Into the memory
+     * of the notes before: new pages for each layout would take longer than the notes do.
+     */
+    template <typename Entries>
+    void note(const Entries &entries, const SpearLook *look)
+    {
+        m_spears.clear();
+        m_spears.reserve(entries.size());
+        for (const auto &entry : entries)
+            m_spears.emplace_back(*entry.spear);
+        m_look = look;
+    }
 
     /** Whether @p spear stands in that place of the breadth-first order as noted. */
     bool matches(std::size_t place, const SpearItem &spear) const
