@@ -121,6 +121,9 @@ public:
     /** What of @p head and everything below it is left out when it is written in @p format. Linear
      * in the number of subjects. */
     static ExchangeReport lossesOf(const TreeItem &head, Format format);
+    /** What a slide (SlideExport) of the diagram below @p head does not hold. @p showsMarks says
+     * whether its look draws verdicts and colours, as the clear one does. */
+    static ExchangeReport lossesOfSlide(const TreeItem &head, bool showsMarks);
 
     /**
      * Writes @p head with everything below it to @p device, which is open for writing. False on

@@ -39,6 +39,8 @@ struct ExchangeFormat
     /** Whether the value of the field @p key comes back; null where kept says that for all values.
      */
     bool (*keeps)(const TreeItem &subject, QLatin1String key) = nullptr;
+    /** Whether the fields of subjects that this program does not know come back, too. */
+    bool keepsOtherFields = false;
 };
 
 namespace ExchangeFormats {

@@ -46,4 +46,7 @@ const ExchangeFormat ExchangeFormats::json{DiagramExchange::Format::Json,
                                            "json",
                                            "title children * spearstyle",
                                            readJson,
-                                           writeJson};
+                                           writeJson,
+                                           nullptr,
+                                           nullptr,
+                                           true};

@@ -52,9 +52,12 @@ std::vector<OwnTable::Column> namedColumns()
     };
 }
 
-OwnTable::Kind kindOf(const SubjectAttribute &attribute)
+OwnTable::Kind kindOf(const SubjectAttributes::Attribute &attribute)
 {
-    switch (attribute.kind()) {
+    if (!attribute.source) // marks: only the votes are a number, and nothing a spreadsheet runs
+        return attribute.key == QLatin1String("votes") ? OwnTable::Kind::Number
+                                                       : OwnTable::Kind::Text;
+    switch (attribute.source->kind()) {
     case SubjectAttribute::Number:
         return OwnTable::Kind::Number;
     case SubjectAttribute::Date:
@@ -78,7 +81,7 @@ const std::vector<Column> &columns()
                     return column.key == attribute.key;
                 });
             if (!isNamed)
-                made.push_back({attribute.key, attribute.key, kindOf(*attribute.source)});
+                made.push_back({attribute.key, attribute.key, kindOf(attribute)});
         }
         return made;
     }();

@@ -5,13 +5,60 @@
 
 #include <fishbone/model/jsonnodes.h>
 #include <fishbone/model/subjectattribute.h>
+#include <fishbone/model/subjectmarks.h>
+#include <fishbone/model/treeitem.h>
+
+#include <QColor>
+#include <QJsonObject>
 
 #include <algorithm>
+
+namespace {
+
+const QLatin1String verdictKey("verdict");
+const QLatin1String votesKey("votes");
+const QLatin1String colourKey("colour");
+
+/** What is left of @p fields when only the mark @p key with a value that readers know is. */
+QJsonObject knownMark(const QJsonObject &fields, QLatin1String key)
+{
+    QJsonObject known;
+    if (key == verdictKey)
+        SubjectMarks::setVerdict(known, SubjectMarks::verdict(fields));
+    else if (key == votesKey)
+        SubjectMarks::setVotes(known, SubjectMarks::votes(fields));
+    else
+        SubjectMarks::setColour(known, SubjectMarks::colour(fields));
+    return known;
+}
+
+/** Stores the mark @p key, an empty text for none; false when @p text is no value of it. */
+bool setMark(TreeItem &subject, QLatin1String key, const QString &text)
+{
+    QJsonObject fields = subject.otherFields();
+    fields.remove(key);
+    if (!text.isEmpty()) {
+        const QJsonValue value = key == votesKey ? QJsonValue(text.toInt()) : QJsonValue(text);
+        const QJsonObject known = knownMark({{key, value}}, key);
+        if (known.isEmpty())
+            return false;
+        fields.insert(key, known.value(key));
+    }
+    subject.setOtherFields(fields);
+    return true;
+}
+
+} // namespace
 
 namespace SubjectAttributes {
 
 QString Attribute::text(const TreeItem &subject) const
 {
+    if (!source) {
+        const bool hasMarks = subject.hasOtherFields();
+        return hasMarks ? knownMark(subject.otherFields(), key).value(key).toVariant().toString()
+                        : QString();
+    }
     const QVariant value = source->get(subject);
     switch (source->kind()) {
     case SubjectAttribute::Number:
@@ -29,6 +76,8 @@ QString Attribute::text(const TreeItem &subject) const
 
 bool Attribute::setText(TreeItem &subject, const QString &text) const
 {
+    if (!source)
+        return setMark(subject, key, text);
     bool isValue = true;
     switch (source->kind()) {
     case SubjectAttribute::Number: {
@@ -60,6 +109,8 @@ const QVector<Attribute> &all()
             if (attribute.uses().testFlag(SubjectAttribute::Exchanged))
                 exchanged.append({attribute.key(), &attribute});
         }
+        for (const QLatin1String mark : {verdictKey, votesKey, colourKey})
+            exchanged.append({mark, nullptr});
         return exchanged;
     }();
     return attributes;

@@ -17,8 +17,8 @@ namespace SubjectAttributes {
 /** An attribute and its value as a text. */
 struct Attribute
 {
-    QLatin1String key; ///< as in the diagram format
-    const SubjectAttribute *source;
+    QLatin1String key;              ///< as in the diagram format
+    const SubjectAttribute *source; ///< null for a mark, which is a field beside the attributes
 
     /** The value as a text, empty for the value that a new subject has. */
     QString text(const TreeItem &subject) const;
@@ -26,7 +26,8 @@ struct Attribute
     bool setText(TreeItem &subject, const QString &text) const;
 };
 
-/** All attributes that are exchanged, the title left aside. */
+/** All attributes that are exchanged, the title left aside, and behind them the marks of a team:
+ * the verdict, the votes and the colour. */
 const QVector<Attribute> &all();
 
 /** The attribute of that key, which exists. */

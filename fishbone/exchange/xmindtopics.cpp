@@ -10,6 +10,8 @@
 
 #include <QFileInfo>
 
+#include <algorithm>
+
 namespace {
 
 using Kind = ExchangeReport::Kind;
@@ -59,10 +61,11 @@ void XmindTopics::close()
         m_tree.addNamedDetail(subject, DiagramExchange::tr("Icons"),
                               topic.markers.join(QLatin1String(", ")), topic.line);
     for (const auto &[key, value] : topic.own) {
-        for (const SubjectAttributes::Attribute &attribute : SubjectAttributes::all()) {
-            if (key == attribute.key)
-                attribute.setText(subject, value);
-        }
+        const QVector<SubjectAttributes::Attribute> &all = SubjectAttributes::all();
+        const auto attribute = std::find_if(
+            all.cbegin(), all.cend(), [&field = key](const auto &a) { return field == a.key; });
+        if (attribute == all.cend() || !attribute->setText(subject, value))
+            m_tree.addNamedDetail(subject, key, value, topic.line);
     }
 }
 

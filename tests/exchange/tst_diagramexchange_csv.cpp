@@ -242,11 +242,12 @@ void TestDiagramExchangeCsv::shouldWriteATable()
     bone->setDetail(QStringLiteral("1\n2, 3"));
     QCOMPARE(exported(*head, Format::Csv),
              QByteArray("\xef\xbb\xbfuuid,parent,title,status,progress,priority,manager,manager id,"
-                        "creator,creator id,followers,created,planned end,url,detail,short id,type"
+                        "creator,creator id,followers,created,planned end,url,detail,short id,type,"
+                        "verdict,votes,colour"
                         "\r\n"
-                        "1,,a,,,,,,,,,,,,,,\r\n"
+                        "1,,a,,,,,,,,,,,,,,,,,\r\n"
                         "2,1,\"\"\"b\"\"\",5,40,,,,,,x;y\\;z,2017-07-14T02:40:00.123Z,,,"
-                        "\"1\n2, 3\",,\r\n"));
+                        "\"1\n2, 3\",,,,,\r\n"));
 }
 
 void TestDiagramExchangeCsv::shouldWriteNothingThatASpreadsheetRuns()

@@ -71,6 +71,9 @@ QJsonObject unusualValues()
             {QStringLiteral("createdate"), 1500000000123.0},
             {QStringLiteral("planenddate"), -62135596800001.0}, // before the year 1
             {QStringLiteral("spearstyle"), styleObject},
+            {QStringLiteral("verdict"), QStringLiteral("rootcause")},
+            {QStringLiteral("votes"), 3},
+            {QStringLiteral("colour"), QStringLiteral("#12ab9f")},
             {QStringLiteral("children"),
              QJsonArray{QJsonObject{{QStringLiteral("title"), QStringLiteral("child")},
                                     {QStringLiteral("uuid"), QStringLiteral("{u-2}")}}}}};
@@ -99,6 +102,7 @@ private Q_SLOTS:
     void shouldNameTheFieldsOfOtherPrograms_data() { addFormats(); }
     void shouldNameTheFieldsOfOtherPrograms();
     void shouldNameStatusesThatHaveNoBox();
+    void shouldNameWhatASlideDoesNotHold();
     void shouldNameEveryAttributeInTheTable();
     void shouldKeepEverythingTwice_data() { addFormats(); }
     void shouldKeepEverythingTwice();
@@ -195,7 +199,7 @@ void TestDiagramExchangeKeeping::shouldNameTheFieldsOfOtherPrograms()
 {
     QFETCH(Format, format);
     const QJsonObject fields{{QStringLiteral("cost"), 12},
-                             {QStringLiteral("verdict"), QStringLiteral("confirmed")},
+                             {QStringLiteral("verdict"), QStringLiteral("of another program")},
                              {QStringLiteral("view"), QJsonObject{{QStringLiteral("zoom"), 1}}}};
     TreeItem head;
     head.setTitle(QStringLiteral("Effect"));
@@ -220,6 +224,24 @@ void TestDiagramExchangeKeeping::shouldNameStatusesThatHaveNoBox()
         const bool isKept = carriedThrough(head, Format::Markdown).head->status() == status;
         QCOMPARE(DiagramExchange::lossesOf(head, Format::Markdown).losesContent(), !isKept);
     }
+}
+
+void TestDiagramExchangeKeeping::shouldNameWhatASlideDoesNotHold()
+{
+    const TreeItem head(unusualValues());
+    QStringList lines = DiagramExchange::lossesOfSlide(head, true).lines();
+    lines.sort();
+    const QStringList expected{
+        QStringLiteral("left out: \"createdate\""),  QStringLiteral("left out: \"creatorid\""),
+        QStringLiteral("left out: \"creatorname\""), QStringLiteral("left out: \"detail\""),
+        QStringLiteral("left out: \"followers\""),   QStringLiteral("left out: \"mgrid\""),
+        QStringLiteral("left out: \"priority\""),    QStringLiteral("left out: \"showid\""),
+        QStringLiteral("left out: \"type\""),        QStringLiteral("left out: \"votes\"")};
+    QCOMPARE(lines, expected);
+    lines = DiagramExchange::lossesOfSlide(head, false).lines();
+    QVERIFY(lines.contains(QStringLiteral("left out: \"verdict\"")));
+    QVERIFY(lines.contains(QStringLiteral("left out: \"colour\"")));
+    QVERIFY(!DiagramExchange::lossesOfSlide(TreeItem(), false).losesContent());
 }
 
 void TestDiagramExchangeKeeping::shouldNameEveryAttributeInTheTable()
