@@ -8,7 +8,9 @@
 #include <app/files/documentloader.h>
 #include <app/files/importsummary.h>
 
+#include <fishbone/drawing/diagramlook.h>
 #include <fishbone/exchange/exchangereport.h>
+#include <fishbone/exchange/slideexport.h>
 #include <fishbone/model/treeitem.h>
 
 namespace {
@@ -49,6 +51,8 @@ int runConvert(const CommandLine &line, QString &message)
     ExchangeReport written;
     if (line.to)
         written = DiagramExchange::lossesOf(*head, *line.to);
+    else if (SlideExport::isSlide(line.target))
+        written = DiagramExchange::lossesOfSlide(*head, line.look.view.look == DiagramLook::Clear);
     ImportSummary::print(line.target, written);
     if (line.isStrict && (read.losesContent() || written.losesContent())) {
         message =

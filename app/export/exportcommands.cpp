@@ -235,12 +235,13 @@ QString ExportCommands::writeAs(const FishInfo &document, const QString &path) c
 }
 
 /** What of @p document is not in the file @p path, for the status bar; empty when all is. */
-QString ExportCommands::lossesOf(const FishInfo &document, const QString &path)
+QString ExportCommands::lossesOf(const FishInfo &document, const QString &path) const
 {
-    if (SlideExport::isSlide(path))
-        return QString();
-    const ExchangeReport report = DiagramExchange::lossesOf(*document.treeItem()->childAtIndex(0),
-                                                            *DiagramExchange::formatOf(path));
+    const TreeItem &head = *document.treeItem()->childAtIndex(0);
+    const ExchangeReport report =
+        SlideExport::isSlide(path)
+            ? DiagramExchange::lossesOfSlide(head, m_editor->look() == DiagramLook::Clear)
+            : DiagramExchange::lossesOf(head, *DiagramExchange::formatOf(path));
     const QStringList lines = report.losesContent() ? report.lines() : QStringList();
     return lines.isEmpty() ? QString() : QLatin1String("; ") + lines.join(QLatin1String("; "));
 }

@@ -38,7 +38,7 @@ private:
     void exportPicture();
     PictureExport::Result writePicture(PictureSource &source, const ExportDialog &dialog);
     QString writeAs(const FishInfo &document, const QString &path) const;
-    static QString lossesOf(const FishInfo &document, const QString &path);
+    QString lossesOf(const FishInfo &document, const QString &path) const;
     void exportAs();
     QString targetOfExport() const;
     void copyPicture();

@@ -178,6 +178,12 @@ void TestCommandLineConvert::shouldWriteNothingThatLosesContentWhenStrict()
     const QString text = path(QStringLiteral("c.txt"));
     QCOMPARE(convert({strict, target, text}).code, 1);
     QVERIFY(!QFile::exists(text));
+    const QString slide = path(QStringLiteral("d.pptx"));
+    outcome = convert({strict, target, slide});
+    QCOMPARE(outcome.code, 1);
+    QVERIFY2(outcome.err.contains(slide + QLatin1String(": left out: \"detail\"")),
+             qPrintable(outcome.err));
+    QVERIFY(!QFile::exists(slide));
 }
 
 void TestCommandLineConvert::shouldReadFileUrls()
