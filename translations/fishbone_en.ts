@@ -852,6 +852,10 @@ What is left out, or put where it can be kept, is listed on the error output.</t
         <source>it expands to more than %1 times its size</source>
         <translation>it expands to more than %1 times its size</translation>
     </message>
+    <message>
+        <source>headings that are repeated</source>
+        <translation>headings that are repeated</translation>
+    </message>
 </context>
 <context>
     <name>DiagramPicture</name>
@@ -2897,6 +2901,14 @@ Do you want to save your changes?</translation>
     <message>
         <source>Completed on</source>
         <translation>Completed on</translation>
+    </message>
+    <message>
+        <source>Verdict</source>
+        <translation>Verdict</translation>
+    </message>
+    <message>
+        <source>Votes</source>
+        <translation>Votes</translation>
     </message>
 </context>
 <context>

@@ -850,6 +850,10 @@ What is left out, or put where it can be kept, is listed on the error output.</s
         <source>it expands to more than %1 times its size</source>
         <translation>解压后超过原大小的 %1 倍</translation>
     </message>
+    <message>
+        <source>headings that are repeated</source>
+        <translation>重复的表头</translation>
+    </message>
 </context>
 <context>
     <name>DiagramPicture</name>
@@ -2889,6 +2893,14 @@ Do you want to save your changes?</source>
     <message>
         <source>Completed on</source>
         <translation>完成日期</translation>
+    </message>
+    <message>
+        <source>Verdict</source>
+        <translation>结论</translation>
+    </message>
+    <message>
+        <source>Votes</source>
+        <translation>票数</translation>
     </message>
 </context>
 <context>

@@ -47,6 +47,8 @@ public:
         Detail,      ///< a longer text
         Type,        ///< a number
         CompletedAt, ///< a date: what has one is finished
+        Verdict,     ///< what has been found out about a cause, a word
+        Votes,       ///< how many hold it for the likeliest
     };
 
     /** All roles that a user may choose among, Other first. */

@@ -10,6 +10,7 @@
 #include <fishbone/exchange/subjectattributes.h>
 #include <fishbone/exchange/taskvalues.h>
 #include <fishbone/model/jsonnodes.h>
+#include <fishbone/model/subjectmarks.h>
 
 #include <QRegularExpression>
 
@@ -57,6 +58,17 @@ QLatin1String textKey(Role role)
     default:
         return QLatin1String();
     }
+}
+
+/** People as one program or another lists them: "[Li,Bo]", "Li;". */
+QString peopleIn(const QString &value)
+{
+    QString people = value.trimmed();
+    if (people.startsWith(QLatin1Char('[')) && people.endsWith(QLatin1Char(']')))
+        people = people.mid(1, people.size() - 2).trimmed();
+    while (people.endsWith(QLatin1Char(';')) || people.endsWith(QLatin1Char(',')))
+        people.chop(1);
+    return people;
 }
 
 } // namespace
@@ -163,20 +175,43 @@ bool TaskCells::applyCell(Role role, const QString &value, TreeItem &subject,
         return applyUrl(value, subject, heading, line);
     if (isDate(role))
         return applyDate(role, value, subject);
+    if (role == Role::Verdict || role == Role::Votes)
+        return applyMark(role, value, subject);
     if (role == Role::Followers) {
         const bool isForeign =
             heading != QLatin1String("followers") && !value.contains(QLatin1Char(';'));
         static const QRegularExpression commas(QStringLiteral("\\s*,\\s*"));
-        subject.setFollowers(isForeign ? value.split(commas, Qt::SkipEmptyParts)
+        subject.setFollowers(isForeign ? peopleIn(value).split(commas, Qt::SkipEmptyParts)
                                        : SubjectAttributes::separated(value));
         return true;
     }
-    const QLatin1String key = textKey(role);
-    if (key.size() == 0)
+    if (textKey(role).size() == 0)
         return applyNumber(role, value, subject, heading, line);
-    const SubjectAttributes::Attribute &attribute = SubjectAttributes::named(key);
+    const bool isPerson = role == Role::Manager && !m_isOwn;
+    return applyText(role, isPerson ? peopleIn(value) : value, subject);
+}
+
+/** Takes a text whose field is still free. */
+bool TaskCells::applyText(Role role, const QString &value, TreeItem &subject)
+{
+    const SubjectAttributes::Attribute &attribute = SubjectAttributes::named(textKey(role));
     const bool isTaken = role != Role::Uuid && !attribute.text(subject).isEmpty();
     return !isTaken && attribute.setText(subject, value);
+}
+
+bool TaskCells::applyMark(Role role, const QString &value, TreeItem &subject)
+{
+    if (role == Role::Verdict) {
+        const Verdict verdict = TaskValues::verdict(value);
+        if (verdict != Verdict::None)
+            SubjectMarks::setVerdict(subject, verdict);
+        return verdict != Verdict::None;
+    }
+    bool isNumber = false;
+    const int votes = value.trimmed().toInt(&isNumber);
+    if (isNumber && votes > 0)
+        SubjectMarks::setVotes(subject, votes);
+    return isNumber && votes >= 0;
 }
 
 /** Takes a column of a table of this program that has the key of an attribute. */
@@ -214,7 +249,7 @@ bool TaskCells::applyNumber(Role role, const QString &value, TreeItem &subject,
         break;
     }
     if (!number)
-        return false;
+        return applyRelated(role, value, subject, heading, line);
     if (role == Role::Status)
         subject.setStatus(*number);
     else if (role == Role::Priority)
@@ -227,6 +262,29 @@ bool TaskCells::applyNumber(Role role, const QString &value, TreeItem &subject,
         m_tree.note(Kind::ReadAs,
                     DiagramExchange::tr("\"%1\" of \"%2\" as %3").arg(value, heading).arg(*number),
                     line);
+    return true;
+}
+
+/** Takes a status of a column of progress, and the reverse, as far as nothing else tells it. */
+bool TaskCells::applyRelated(Role role, const QString &value, TreeItem &subject,
+                             const QString &heading, qint64 line)
+{
+    const bool isPercentage = value.contains(QLatin1Char('%')) || value.contains(QChar(u'\uff05'));
+    const bool isProgress = role == Role::Status && isPercentage;
+    std::optional<int> number;
+    if (isProgress && subject.progress() <= 0)
+        number = TaskValues::progress(value);
+    else if (role == Role::Progress && subject.status() == -1)
+        number = TaskValues::status(value);
+    if (!number)
+        return false;
+    if (isProgress)
+        subject.setProgress(*number);
+    else
+        subject.setStatus(*number);
+    m_tree.note(Kind::ReadAs,
+                DiagramExchange::tr("\"%1\" of \"%2\" as %3").arg(value, heading).arg(*number),
+                line);
     return true;
 }
 

@@ -32,8 +32,12 @@ private:
     bool applyCell(Role role, const QString &value, TreeItem &subject, const QString &heading,
                    qint64 line);
     bool applyOwn(const QString &value, TreeItem &subject, const QString &heading) const;
+    static bool applyText(Role role, const QString &value, TreeItem &subject);
+    static bool applyMark(Role role, const QString &value, TreeItem &subject);
     bool applyNumber(Role role, const QString &value, TreeItem &subject, const QString &heading,
                      qint64 line);
+    bool applyRelated(Role role, const QString &value, TreeItem &subject, const QString &heading,
+                      qint64 line);
     bool applyDate(Role role, const QString &value, TreeItem &subject);
     bool applyUrl(const QString &value, TreeItem &subject, const QString &heading, qint64 line);
     void keep(const QString &heading, const QString &value);

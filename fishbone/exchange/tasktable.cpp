@@ -12,6 +12,7 @@
 #include <QSet>
 
 #include <algorithm>
+#include <limits>
 
 namespace {
 
@@ -38,14 +39,15 @@ QString plainName(const QString &text)
 }
 
 /** The names that a reference to another row may hold, the surest first: "12", "Bug #12: Title",
- * "[KEY-1] Title", the end of a link. */
+ * "[KEY-1] Title", the end of a link, a title with a link behind it. */
 QStringList namesIn(const QString &reference)
 {
     static const QRegularExpression number(QStringLiteral("#(\\d+)\\b"));
     static const QRegularExpression key(QStringLiteral("^\\[?([A-Za-z][A-Za-z0-9_]*-\\d+)\\b"));
     static const QRegularExpression end(QStringLiteral("^\\w+://\\S*/([^/\\s]+)/?$"));
+    static const QRegularExpression linked(QStringLiteral("^(.+) \\(\\w+://[^\\s()]*\\)$"));
     QStringList names{reference, plainName(reference)};
-    for (const QRegularExpression &form : {number, key, end}) {
+    for (const QRegularExpression &form : {number, key, end, linked}) {
         if (const auto match = form.match(reference); match.hasMatch())
             names.append(match.captured(1));
     }
@@ -84,14 +86,19 @@ private:
             return;
         }
         const int title = m_mapping.roles.indexOf(Role::Title);
-        for (std::size_t row = m_first; row < m_rows.size(); ++row)
-            m_nodes.push_back({row, cell(row, title)});
+        for (std::size_t row = m_first; row < m_rows.size(); ++row) {
+            if (m_rows[row].cells == m_mapping.headings)
+                m_tree.note(Kind::Appearance, DiagramExchange::tr("headings that are repeated"),
+                            m_rows[row].line);
+            else
+                m_nodes.push_back({row, cell(row, title)});
+        }
         const int level = m_mapping.roles.indexOf(Role::Level);
         const int outline = outlineColumn();
         if (hasParents())
             linkByParents();
         else if (level >= 0)
-            linkByRanks([&](const Node &node) { return levelFrom(cell(node.row, level)); });
+            linkByRanks([&](const Node &node) { return levelOf(node, level); });
         else if (outline >= 0)
             linkByRanks([&](const Node &node) {
                 return int(cell(node.row, outline).trimmed().count(QLatin1Char('.')));
@@ -124,6 +131,16 @@ private:
                 return column;
         }
         return -1;
+    }
+
+    /** The level of a row; remarks, which have none, lie below the row that they follow. */
+    int levelOf(const Node &node, int column) const
+    {
+        const QString level = cell(node.row, column);
+        const int type = m_mapping.roles.indexOf(Role::Type);
+        const bool isRemark =
+            level.trimmed().isEmpty() && type >= 0 && cell(node.row, type) == QLatin1String("note");
+        return isRemark ? std::numeric_limits<int>::max() : levelFrom(level);
     }
 
     /** A level, which some spreadsheets write as 2.0. */

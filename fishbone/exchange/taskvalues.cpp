@@ -51,37 +51,61 @@ std::optional<int> numberOrWord(const QString &text, const QHash<QString, int> &
     return found == words.constEnd() ? std::nullopt : std::make_optional(*found);
 }
 
+/** A level with a number and a word, "2 - High", of which the number counts. */
+std::optional<int> numberBeforeAWord(const QString &text)
+{
+    static const QRegularExpression form(
+        QStringLiteral("^\\s*([0-9])\\s*[-.:]\\s*[A-Za-z]{1,30}$"));
+    const auto match = form.match(text.left(50));
+    return match.hasMatch() ? std::make_optional(match.captured(1).toInt()) : std::nullopt;
+}
+
 const Words statusWords[] = {
     {0, "unknown|no status|未知"},
     {1, "cancelled|canceled|cancel|rejected|declined|abandoned|aborted|duplicate|invalid|wontfix|"
-        "wont fix|wont do|not planned|discarded|取消|已取消|已拒绝|拒绝|作废|废弃|不予处理"},
+        "wont fix|wont do|not planned|discarded|dropped|removed|cannot reproduce|not a bug|"
+        "works for me|worksforme|取消|已取消|已拒绝|拒绝|作废|废弃|不予处理|无效|无法重现"},
     {2, "done|finish|finished|complete|completed|closed|close|resolved|fixed|accepted|merged|"
-        "delivered|released|shipped|yes|x|true|完成|已完成|关闭|已关闭|已解决|解决|已发布"},
+        "delivered|released|shipped|deployed|live|verified|yes|x|true|✓|✔|✅|☑|完成|已完成|关闭|"
+        "已关闭|已解决|解决|已发布|已实现|已修复|已验证|已验收|已上线"},
     {3, "finish delay|finished late|done late|completed late|延期完成|逾期完成|已延期完成"},
-    {4, "postponed|postpone|on hold|hold|deferred|blocked|paused|suspended|icebox|later|someday|"
+    {4, "postponed|postpone|on hold|hold|deferred|blocked|stuck|parked|paused|suspended|icebox|"
+        "later|someday|"
         "延期|已延期|推迟|已推迟|挂起|暂停|已暂停|搁置|阻塞|受阻"},
     {5, "in progress|progress|doing|started|running|active|under way|underway|wip|working|ongoing|"
-        "in development|in work|working on it|assigned|implementing|进行中|处理中|正在进行|开发中|"
-        "执行中|实施中|已开始"},
-    {6,
-     "to do|todo|open|opened|new|backlog|waiting|waitting|planned|not started|unstarted|"
-     "unscheduled|scheduled|pending|ready|reopened|triage|selected for development|next|queued|"
-     "proposed|draft|no|false|待办|未开始|新建|新的|打开|等待|待处理|未完成|未解决|计划中|待开始|"
-     "重新打开"},
+        "in development|in work|working on it|assigned|implementing|committed|on track|at risk|"
+        "off track|进行中|处理中|正在进行|开发中|执行中|实施中|实现中|修复中|已开始|已分配"},
+    {6, "to do|todo|open|opened|new|backlog|waiting|waitting|planned|not started|unstarted|"
+        "unscheduled|scheduled|pending|ready|reopened|triage|selected for development|next|queued|"
+        "proposed|draft|not "
+        "done|incomplete|confirmed|unconfirmed|no|false|☐|规划中|激活|未处理|待办|未开始|新建|新的|"
+        "打开|等待|待处理|未完成|未解决|计划中|待开始|"
+        "重新打开"},
     {7, "waiting for approval|waitting agree|in review|review|reviewing|under review|code review|"
-        "awaiting approval|pending approval|needs review|approval|qa|in qa|testing|in testing|"
+        "awaiting approval|pending approval|needs review|ready for review|approval|qa|in qa|"
+        "testing|in testing|in test|ready for test|"
         "feedback|verify|to verify|verification|待审批|审核中|待审核|评审中|待评审|待确认|等待审批|"
         "测试中|待验收"},
 };
 
 const Words priorityWords[] = {
     {0, "p0"},
-    {1, "highest|blocker|urgent|immediate|top|p1|最高|紧急|立即|非常高|阻塞"},
+    {1, "highest|blocker|show stopper|urgent|immediate|top|p1|最高|紧急|特急|立即|非常高|阻塞"},
     {2, "high|critical|important|p2|高|较高|重要|严重"},
     {3, "medium|normal|major|middle|moderate|standard|default|p3|中|普通|一般|正常|中等|主要"},
-    {4, "low|minor|p4|低|较低|次要"},
-    {5, "lowest|trivial|p5|最低|微不足道|非常低"},
+    {4, "low|minor|optional|p4|低|较低|次要"},
+    {5, "lowest|trivial|nice to have|p5|最低|微不足道|非常低"},
     {-1, "none|no priority|not set|unset|-|无|未设置|没有"},
+};
+
+const Words verdictWords[] = {
+    {int(Verdict::Suspected), "suspected|suspect|possible|likely|怀疑|可疑|疑似"},
+    {int(Verdict::Checking),
+     "checking|being checked|investigating|under investigation|调查中|验证中"},
+    {int(Verdict::Confirmed),
+     "confirmed|verified|contributing|contributing cause|已确认|确认|要因"},
+    {int(Verdict::RuledOut), "ruledout|ruled out|not a cause|excluded|rejected|已排除|排除|非要因"},
+    {int(Verdict::RootCause), "rootcause|root cause|root|根本原因|根因"},
 };
 
 int monthOf(const QString &name)
@@ -212,7 +236,14 @@ std::optional<int> status(const QString &text)
 std::optional<int> priority(const QString &text)
 {
     static const QHash<QString, int> words = tableOf(priorityWords);
-    return numberOrWord(text, words);
+    const std::optional<int> level = numberBeforeAWord(text);
+    return level ? level : numberOrWord(text, words);
+}
+
+Verdict verdict(const QString &text)
+{
+    static const QHash<QString, int> words = tableOf(verdictWords);
+    return Verdict(words.value(plainWord(text), int(Verdict::None)));
 }
 
 std::optional<int> progress(const QString &text)

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include <fishbone/model/subjectmarks.h>
+
 #include <QString>
 
 #include <optional>
@@ -14,13 +16,16 @@ namespace TaskValues {
 std::optional<int> status(const QString &text);
 
 /**
- * A priority, 1 for the highest: the number itself or a word, -1 for words such as "none". The
- * words of a scale of five are 1 to 5.
+ * A priority, 1 for the highest: the number itself, alone or before a word ("2 - High"), or a word,
+ * -1 for words such as "none". The words of a scale of five are 1 to 5.
  */
 std::optional<int> priority(const QString &text);
 
 /** A progress in whole percent: "40", "40 %" or a fraction such as "0.4". */
 std::optional<int> progress(const QString &text);
+
+/** What has been found out about a cause; Verdict::None for what says nothing of that. */
+Verdict verdict(const QString &text);
 
 /** Which number of a date such as 3/4/2024 is the month. */
 enum class NumberOrder { MonthFirst, DayFirst };

@@ -64,7 +64,9 @@ void TestTableMapping::shouldKnowHeadings_data()
     row("Id|Issue key|Key|#|No.|Card ID|编号|序号", Role::Id);
     row("Parent|Parent id|Parent task|Epic Link|Custom field (Epic Link)|父任务|上级任务",
         Role::Parent);
-    row("Status|State|Current State|状态", Role::Status);
+    row("Status|State|Current State|状态|List Name|bugStatus|需求状态", Role::Status);
+    row("Votes|Vote Count|票数", Role::Votes);
+    row("Verdict|结论", Role::Verdict);
     row("Progress|% Done|% Complete|进度", Role::Progress);
     row("Priority|优先级", Role::Priority);
     row("Assignee|Owner|Owned By|assigned_to|Resource Names|负责人|经办人", Role::Manager);
