@@ -17,7 +17,7 @@ struct TaskBox
     int status;
 };
 
-constexpr TaskBox boxes[] = {{u'x', 2}, {u' ', 6}, {u'/', 5}, {u'-', 1}, {u'>', 4}};
+constexpr TaskBox boxes[] = {{u'x', 2}, {u' ', 6}, {u'/', 5}, {u'-', 1}, {u'~', 1}, {u'>', 4}};
 
 } // namespace
 

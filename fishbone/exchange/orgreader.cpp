@@ -312,9 +312,11 @@ bool OrgReader::takePlanning(const QString &line)
         const std::optional<qint64> date = TaskValues::date(text);
         const QString rest = match.captured(4).trimmed();
         const bool isDeadline = match.captured(1) == QLatin1String("DEADLINE");
-        if (isDeadline && date && rest.isEmpty() && !m_hasPlannedEnd)
+        const bool isTaken = isDeadline && date && !m_hasPlannedEnd;
+        if (isTaken)
             m_subject->setPlanEndDate(*date);
-        else if (!isDeadline || !m_hasPlannedEnd)
+        // How often it comes again, and how long before it is told, stay with it.
+        if (isTaken ? !rest.isEmpty() : (!isDeadline || !m_hasPlannedEnd))
             m_tree.addDetail(*m_subject, match.captured(),
                              QLatin1Char('"') + match.captured(1) + QLatin1Char('"'),
                              m_lines.number());
