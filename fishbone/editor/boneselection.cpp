@@ -54,6 +54,22 @@ void BoneSelection::select(QGraphicsScene &scene, const QList<SpearItem *> &spea
     }
 }
 
+void BoneSelection::selectAll(QGraphicsScene &scene)
+{
+    const SelectionSilence silence(&scene); // each report costs a look at all of it
+    const QList<QGraphicsItem *> items = scene.items();
+    for (QGraphicsItem *item : items)
+        item->setSelected(true);
+}
+
+QRectF BoneSelection::boundsOf(const QList<QGraphicsItem *> &items)
+{
+    QRectF united;
+    for (const QGraphicsItem *item : items)
+        united = united.isEmpty() ? item->boundingRect() : united | item->boundingRect();
+    return united;
+}
+
 void BoneSelection::removeTops(QList<QGraphicsItem *> &items)
 {
     const auto isTop = [](const QGraphicsItem *item) { return !item || !item->parentItem(); };
@@ -67,4 +83,17 @@ void BoneSelection::removeNested(QList<QGraphicsItem *> &items)
         return hasAncestorIn(item, listed);
     };
     items.erase(std::remove_if(items.begin(), items.end(), isBelow), items.end());
+}
+
+QList<TreeItem *> BoneSelection::subjects(QList<QGraphicsItem *> items)
+{
+    removeTops(items);
+    removeNested(items);
+    QList<TreeItem *> subjects;
+    for (const QGraphicsItem *item : qAsConst(items)) {
+        const auto *const spear = qgraphicsitem_cast<const SpearItem *>(item);
+        if (spear && spear->modelIndex().isValid())
+            subjects.append(spear->treeItem());
+    }
+    return subjects;
 }

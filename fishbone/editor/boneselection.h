@@ -4,10 +4,12 @@
 #pragma once
 
 #include <QList>
+#include <QRectF>
 
 class QGraphicsItem;
 class QGraphicsScene;
 class SpearItem;
+class TreeItem;
 
 /// What is selected in the drawing of a scene, and what of it an operation concerns.
 namespace BoneSelection {
@@ -18,9 +20,15 @@ QList<QGraphicsItem *> items(const QGraphicsScene &scene, SpearItem *head);
 SpearItem *spearOf(QGraphicsItem *item);
 /// Selects \a spears, as far as \a scene shows them, and nothing else; told once, if at all.
 void select(QGraphicsScene &scene, const QList<SpearItem *> &spears);
+/// Selects everything that can be selected, with no report in between.
+void selectAll(QGraphicsScene &scene);
+/// What covers the rectangles of \a items, each in its own coordinates.
+QRectF boundsOf(const QList<QGraphicsItem *> &items);
 /// Removes the items without a parent item and null pointers.
 void removeTops(QList<QGraphicsItem *> &items);
 /// Removes the items that have an ancestor among them; the others keep their order.
 void removeNested(QList<QGraphicsItem *> &items);
+/// The subjects that an operation on \a items concerns, each subtree once and without the head.
+QList<TreeItem *> subjects(QList<QGraphicsItem *> items);
 
 } // namespace BoneSelection

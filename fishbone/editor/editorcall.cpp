@@ -3,49 +3,52 @@
 
 #include <fishbone/editor/editorcall.h>
 
-#include <fishbone/editor/fisheditor_p.h>
+#include <QGraphicsScene>
+
+#include <fishbone/editor/shownsubject.h>
 #include <fishbone/model/fishinfo.h>
 #include <fishbone/model/fishmodel.h>
 
-FishEditor::Call::Call(FishEditor *editor, AtItsEnd end)
-    : m_editor(editor)
-    , m_hold(editor->scene())
+EditorCall::EditorCall(EditorCalls &calls, AtItsEnd end)
+    : m_calls(&calls)
+    , m_hold(calls.m_scene)
     , m_since(FishModel::changeStamp())
     , m_laysOut(end == AtItsEnd::LaysOut)
 {
-    m_editor->m_d->calls.append(this);
+    calls.m_calls.append(this);
 }
 
-FishEditor::Call::~Call()
+EditorCall::~EditorCall()
 {
-    if (!m_editor)
-        return; // and with it the scene, whose selection nobody is told of any more
-    m_editor->m_d->calls.removeOne(this);
-    const QPointer<FishEditor> editor(m_editor);
+    if (!m_calls)
+        return; // and with the editor the scene, whose selection nobody is told of any more
+    m_calls->m_calls.removeOne(this);
+    const QPointer<EditorCalls> calls(m_calls);
     m_hold.release();
     // What a listener has changed was told by the scene at once, but not by the editor.
-    if (editor && editor->m_d->calls.isEmpty() && editor->m_d->selectionChanged)
-        editor->sceneSelectionChanged();
+    if (calls && calls->m_calls.isEmpty() && calls->m_hasNewSelection)
+        calls->noteSelection();
 }
 
-bool FishEditor::Call::hasListChanged() const
+bool EditorCall::hasListChanged() const
 {
-    const FishModel *const model = m_editor ? m_editor->fishModel() : nullptr;
+    const FishModel *const model = m_calls ? m_calls->m_shown.fishModel() : nullptr;
     return model && model->isListChangedSince(m_since);
 }
 
-bool FishEditor::Call::hasChanges() const
+bool EditorCall::hasChanges() const
 {
     return hasListChanged() || !FishModel::fishChangedSince(m_since).isEmpty();
 }
 
-void FishEditor::Call::mark(Otherwise otherwise) const
+void EditorCall::mark(Otherwise otherwise) const
 {
     const QList<QPointer<FishInfo>> changed = FishModel::fishChangedSince(m_since);
     const bool marksShown =
         hasListChanged() || (changed.isEmpty() && otherwise == Otherwise::Shown);
-    if (marksShown && m_editor)
-        m_editor->setModified(true);
+    FishInfo *const shown = marksShown && m_calls ? m_calls->m_shown.document() : nullptr;
+    if (shown)
+        shown->setModified(true);
     for (const QPointer<FishInfo> &document : changed) {
         if (document)
             document->setModified(true);

@@ -383,53 +383,13 @@ public:
     void doubleClicked(QMouseEvent *event);
 
 private:
+    friend class GraphicsView; // asks showsOwnItemsOnly()
+    struct Private;
+
     void writeZoom(int value);
     void writeRotation(int value);
-    friend class GraphicsView; // asks showsOwnItemsOnly()
-
-    class Call;
-    class StackOwner;
-    struct Private;
-    /// How the drawing follows a command.
-    enum class Follow { Layout, Rebuild, Nothing };
-
     /// Whether the scene holds what was laid out last and nothing else, as far as that is known.
     bool showsOwnItemsOnly() const;
-    FishModel *fishModel() const;
-    SpearItem *spearOf(const QModelIndex &index) const;
-    bool isListed(const FishInfo *document) const;
-    void showNothing();
-    void unlinkShownSubjects();
-    void takeOverFromOtherEditors();
-    bool isShownByAnotherEditor(const FishInfo *document) const;
-    void rememberShownRoot();
-    QModelIndex rememberedRoot() const;
-    void updateHeadText();
-    void storeCopy(const QJsonObject &objects);
-    static QList<TreeItem *> subjectsOf(QList<QGraphicsItem *> items);
-    void deleteSubjects(const QJsonObject &objects, const QList<TreeItem *> &subjects);
-    QModelIndex ownIndex(QModelIndex index) const;
-    bool push(const Call &call, std::unique_ptr<UndoCommand> command);
-    void execute(std::unique_ptr<UndoCommand> command, Follow follow = Follow::Layout);
-    void executeOnce(UndoCommand &&command);
-    void finish(const Call &call, Follow follow);
-    void step(void (UndoStack::*side)());
-    void expandSelected(bool expand, void (FishEditor::*report)(const QModelIndex &));
-    void changeLink(std::unique_ptr<UndoCommand> command, const QPersistentModelIndex &index);
-    void updateLinkOf(const QModelIndex &index) const;
-    QModelIndex livingTarget(const QModelIndex &index) const;
-    bool isWithin(const QModelIndex &target, const TreeItem *subject) const;
-    void reportNewParent(const QStringList &children, const QModelIndex &parent,
-                         CHANGE_PARENT_TYPE type);
-    void connectModel(QAbstractItemModel *model);
-    void forgetRemovedRoot(const QModelIndex &parent, int first, int last);
-    void forgetLostRoot();
-    void showReturnedRoot(const QModelIndex &parent);
-    void followReset();
-    void followHead();
-    void followToAnotherDocument();
-    void followMove();
-    void forgetDestroyedModel();
 
     const std::unique_ptr<Private> m_d;
 };

@@ -1,73 +1,66 @@
 // SPDX-FileCopyrightText: 2026 The Fishbone authors
 // SPDX-License-Identifier: MIT
 
-// The part of FishEditor that changes subjects.
+// What FishEditor offers for what is selected, and for changing subjects.
 
 #include <fishbone/editor/fisheditor.h>
 
-#include <fishbone/dialogs/urldialog.h>
-#include <fishbone/drawing/spearbuilder.h>
+#include <QMimeData>
+
+#include <fishbone/editor/boneselection.h>
 #include <fishbone/editor/editorcall.h>
 #include <fishbone/editor/fisheditor_p.h>
 #include <fishbone/editor/fishscene.h>
-#include <fishbone/editor/stackowner.h>
-#include <fishbone/items/linkitem.h>
-#include <fishbone/items/spearitem.h>
-#include <fishbone/model/fishmodel.h>
-#include <fishbone/undo/attributecommands.h>
-#include <fishbone/undo/structuralcommands.h>
+#include <fishbone/editor/graphicsview.h>
+#include <fishbone/editor/subjectsnapshot.h>
+#include <fishbone/undo/undocommand.h>
 #include <fishbone/undo/undostack.h>
 
-namespace {
-constexpr int linkColumn = 2; ///< the column whose text counts as a subject's link
-} // namespace
-
-/// Runs a command on the stack as one of the editor's own; false when a listener has ended it.
-bool FishEditor::push(const Call &call, std::unique_ptr<UndoCommand> command)
+QList<QGraphicsItem *> FishEditor::selectedItems() const
 {
-    m_d->stackOwner.expectOwnCall();
-    m_d->undoStack->push(command.release());
-    return call.isAlive();
+    return m_d->drawing.selectedItems();
 }
 
-/// What follows a command: the drawing, then the documents.
-void FishEditor::finish(const Call &call, Follow follow)
+bool FishEditor::hasSelection() const
 {
-    if (follow != Follow::Nothing)
-        updateFish(follow == Follow::Rebuild);
-    if (call.isAlive())
-        call.mark(Call::Otherwise::Shown);
+    return !scene()->selectedItems().isEmpty();
 }
 
-void FishEditor::execute(std::unique_ptr<UndoCommand> command, Follow follow)
+SpearItem *FishEditor::firstSelectedSpear() const
 {
-    const Call call(this,
-                    follow == Follow::Nothing ? Call::AtItsEnd::Nothing : Call::AtItsEnd::LaysOut);
-    if (push(call, std::move(command)))
-        finish(call, follow);
+    return m_d->drawing.selectedSpear();
 }
 
-/// Runs a command outside the history.
-void FishEditor::executeOnce(UndoCommand &&command)
+QModelIndex FishEditor::firstSelectedSpearIndex() const
 {
-    const Call call(this, Call::AtItsEnd::LaysOut);
-    command.redo();
-    if (call.isAlive())
-        finish(call, Follow::Layout);
+    return m_d->drawing.selectedIndex();
 }
 
-bool FishEditor::run(std::unique_ptr<UndoCommand> command)
+void FishEditor::selectSpears(const QList<SpearItem *> &spears)
 {
-    if (!command)
-        return false;
-    const Call call(this, Call::AtItsEnd::LaysOut);
-    if (!push(call, std::move(command)))
-        return false;
-    updateFish(false);
-    const bool hasChanges = call.isAlive() && call.hasChanges();
-    if (hasChanges)
-        call.mark(Call::Otherwise::Nothing);
-    return hasChanges;
+    const EditorCall call(m_d->calls);
+    BoneSelection::select(*scene(), spears);
+}
+
+void FishEditor::selectAll()
+{
+    const EditorCall call(m_d->calls);
+    BoneSelection::selectAll(*scene());
+}
+
+void FishEditor::sceneSelectionChanged()
+{
+    m_d->calls.noteSelection();
+}
+
+void FishEditor::excludeCenterSubject(QList<QGraphicsItem *> &items)
+{
+    BoneSelection::removeTops(items);
+}
+
+void FishEditor::excludeChildSubject(QList<QGraphicsItem *> &items)
+{
+    BoneSelection::removeNested(items);
 }
 
 bool FishEditor::canUndo() const
@@ -82,128 +75,82 @@ bool FishEditor::canRedo() const
 
 void FishEditor::undo()
 {
-    step(&UndoStack::undo);
+    m_d->runner.undo();
 }
 
 void FishEditor::redo()
 {
-    step(&UndoStack::redo);
+    m_d->runner.redo();
 }
 
-void FishEditor::step(void (UndoStack::*side)())
+bool FishEditor::run(std::unique_ptr<UndoCommand> command)
 {
-    const Call call(this, Call::AtItsEnd::LaysOut);
-    m_d->stackOwner.expectOwnCall();
-    (m_d->undoStack->*side)();
-    if (call.isAlive())
-        updateFish(true);
-    if (call.isAlive())
-        call.mark(Call::Otherwise::Nothing);
+    return m_d->runner.run(std::move(command));
 }
 
 void FishEditor::insertSubject()
 {
-    const QModelIndex index = ownIndex(firstSelectedSpearIndex());
-    if (index.isValid())
-        execute(std::make_unique<InsertFront>(m_d->model, index));
+    m_d->edits.insertBefore();
 }
 
 void FishEditor::appendSubject()
 {
-    const QModelIndex index = ownIndex(firstSelectedSpearIndex());
-    if (index.isValid())
-        execute(std::make_unique<InsertBack>(m_d->model, index));
+    m_d->edits.insertAfter();
 }
 
 void FishEditor::insertChildSubject()
 {
-    const QModelIndex index = ownIndex(firstSelectedSpearIndex());
-    if (index.isValid())
-        execute(std::make_unique<InsertChild>(m_d->model, index));
+    m_d->edits.insertChild();
 }
 
 void FishEditor::insertParentSubject()
 {
-    const QModelIndex index = ownIndex(firstSelectedSpearIndex());
-    if (index.isValid())
-        execute(std::make_unique<InsertParent>(m_d->model, index));
+    m_d->edits.insertParent();
 }
 
 void FishEditor::insertChildSubject(const QModelIndex &parent, TreeItem *item)
 {
-    const QModelIndex index = ownIndex(parent);
-    if (!index.isValid() || !item || !fishModel())
-        return;
-    auto command = std::make_unique<InsertChild>(m_d->model, index);
-    command->setTreeItem(item);
-    execute(std::move(command));
+    m_d->edits.insertChild(parent, item);
 }
 
 void FishEditor::insertFreeSubject()
 {
-    executeOnce(InsertFree(m_d->model));
+    m_d->edits.insertFree();
 }
 
 void FishEditor::editSubject(const QModelIndex &index, TreeItem *item)
 {
-    FishModel *const model = fishModel();
-    const QModelIndex own = ownIndex(index);
-    if (own.isValid() && item && model)
-        executeOnce(EditModify(model, own, item));
+    m_d->edits.edit(index, item);
+}
+
+void FishEditor::renameItem(const QModelIndex &index, const QString &name)
+{
+    m_d->edits.rename(index, name);
 }
 
 void FishEditor::deleteItem(const QModelIndex &index)
 {
-    FishModel *const model = fishModel();
-    const QModelIndex own = ownIndex(index);
-    if (own.isValid() && model)
-        execute(std::make_unique<EditDelete>(model, own));
+    m_d->edits.remove(index);
 }
 
 void FishEditor::deleteSubject(const QModelIndex &index)
 {
-    deleteItem(index);
-}
-
-void FishEditor::deleteSubjects(const QJsonObject &objects, const QList<TreeItem *> &subjects)
-{
-    FishModel *const model = fishModel();
-    if (objects.isEmpty() || !model)
-        return;
-    auto command = std::make_unique<EditDelete>(model, objects, subjects);
-    command->setDocument(currentFishInfo());
-    execute(std::move(command));
+    m_d->edits.remove(index);
 }
 
 void FishEditor::deleteItems(const QJsonObject &objects)
 {
-    deleteSubjects(objects, {});
+    m_d->edits.remove(objects);
 }
 
 void FishEditor::del()
 {
-    QJsonObject objects;
-    selectedObjects(objects);
-    deleteSubjects(objects, subjectsOf(selectedItems()));
+    m_d->edits.removeSelected();
 }
 
 void FishEditor::cut()
 {
-    const Call call(this);
-    // What is cut is what was copied, whatever a listener selects, copies or deletes meanwhile.
-    std::vector<GuardedPointer<TreeItem>> subjects;
-    const QList<TreeItem *> selected = subjectsOf(selectedItems());
-    subjects.assign(selected.cbegin(), selected.cend());
-    QJsonObject objects;
-    selectedObjects(objects);
-    const QPointer<QAbstractItemModel> model = m_d->model;
-    storeCopy(objects);
-    if (!call.isAlive() || m_d->model != model)
-        return;
-    QList<TreeItem *> living;
-    for (const GuardedPointer<TreeItem> &subject : subjects)
-        living.append(subject.get());
-    deleteSubjects(objects, living);
+    m_d->edits.cutSelected();
 }
 
 void FishEditor::copy()
@@ -213,91 +160,97 @@ void FishEditor::copy()
 
 void FishEditor::paste()
 {
-    pasteItem(firstSelectedSpearIndex());
+    m_d->edits.paste(firstSelectedSpearIndex());
 }
 
 void FishEditor::pasteItem(const QModelIndex &index)
 {
-    FishModel *const model = fishModel();
-    const QModelIndex own = ownIndex(index);
-    if (!own.isValid() || !hasClipBoardData() || !model)
-        return;
-    auto command = std::make_unique<EditPaste>(model, own, m_d->copyBuffer);
-    command->setPasteAsNew(m_d->pasteAsNew);
-    execute(std::move(command), Follow::Rebuild);
+    m_d->edits.paste(index);
 }
 
-void FishEditor::renameItem(const QModelIndex &index, const QString &name)
+bool FishEditor::hasClipBoardData() const
 {
-    const QModelIndex own = ownIndex(index);
-    if (own.isValid())
-        execute(std::make_unique<ModifyName>(m_d->model, own, name), Follow::Nothing);
+    return m_d->edits.hasCopy();
 }
 
-void FishEditor::updateLinkOf(const QModelIndex &index) const
+void FishEditor::setPasteAsNew(bool pasteAsNew)
 {
-    if (SpearItem *const spear = spearOf(index))
-        updateLinkItem(spear);
+    m_d->edits.setPasteAsNew(pasteAsNew);
 }
 
-void FishEditor::changeLink(std::unique_ptr<UndoCommand> command,
-                            const QPersistentModelIndex &index)
+void FishEditor::copyItemToClipBoard()
 {
-    const Call call(this);
-    if (!push(call, std::move(command)))
-        return;
-    updateLinkOf(index);
-    finish(call, Follow::Nothing);
+    m_d->edits.copySelected();
 }
 
-void FishEditor::modifyLink()
+void FishEditor::selectedObjects(QJsonObject &objects) const
 {
-    const QPersistentModelIndex index = ownIndex(firstSelectedSpearIndex());
-    if (!index.isValid())
-        return;
-    // The dialog runs an event loop, in which the host may edit, unload or destroy what is shown.
-    const QPointer<FishEditor> alive(this);
-    const QUrl url = URLDialog::linkToUrlDialog(currItemUrl(), this);
-    if (alive && url.isValid() && ownIndex(index).isValid())
-        changeLink(std::make_unique<ModifyLinkTo>(m_d->model, index, url.toString()), index);
+    objects = m_d->edits.selectedSnapshot();
 }
 
-void FishEditor::modifyDelLink()
+void FishEditor::saveObjects(QJsonObject &objects, const QList<QGraphicsItem *> &items) const
 {
-    const QModelIndex index = ownIndex(firstSelectedSpearIndex());
-    if (index.isValid())
-        changeLink(std::make_unique<ModifyDelLink>(m_d->model, index), index);
+    objects = SubjectSnapshot::of(BoneSelection::subjects(items));
 }
 
-QString FishEditor::currItemUrl() const
+void FishEditor::insertItem(const QModelIndex &index, QAbstractItemModel *model,
+                            const QModelIndex &parent)
 {
-    const QModelIndex index = firstSelectedSpearIndex();
-    return index.sibling(index.row(), linkColumn).data(Qt::DisplayRole).toString();
+    Q_UNUSED(index)
+    Q_UNUSED(model)
+    Q_UNUSED(parent)
 }
 
-void FishEditor::modifyOpenLink()
+bool FishEditor::pasteItemFromClipBoard()
 {
-    const QString url = currItemUrl();
-    if (!url.isEmpty())
-        LinkItem::open(url);
+    return false;
 }
 
 void FishEditor::setSpearStyle()
 {
-    const SpearItem *const spear = firstSelectedSpear();
-    if (!spear || !spear->treeItem())
-        return;
-    const QPointer<FishEditor> alive(this);
-    spear->treeItem()->setSpearStyle();
-    if (alive)
-        updateFish(false);
+    m_d->edits.editStyle();
 }
 
 void FishEditor::delSpearStyle()
 {
-    const SpearItem *const spear = firstSelectedSpear();
-    if (!spear || !spear->treeItem())
-        return;
-    spear->treeItem()->delSpearStyle();
-    updateFish(false);
+    m_d->edits.removeStyle();
+}
+
+QString FishEditor::currItemUrl() const
+{
+    return m_d->links.url();
+}
+
+void FishEditor::modifyLink()
+{
+    m_d->links.ask();
+}
+
+void FishEditor::modifyDelLink()
+{
+    m_d->links.remove();
+}
+
+void FishEditor::modifyOpenLink()
+{
+    m_d->links.open();
+}
+
+TreeItem *FishEditor::treeItemFromMimeData(const QMimeData *mimeData) const
+{
+    return m_d->moves.carriedBy(mimeData);
+}
+
+void FishEditor::moveItems(const QPoint &pos, const QList<QGraphicsItem *> &srcs,
+                           const QModelIndex &target, int row)
+{
+    Q_UNUSED(pos)
+    m_d->moves.move(srcs, target, row);
+}
+
+void FishEditor::onDropTo(const QMimeData *mimeData, const QModelIndex &indexTo, int row)
+{
+    const bool isFromView = sender() == m_d->view;
+    m_d->moves.drop(mimeData, indexTo, row,
+                    isFromView ? SubjectMoves::Came::Queued : SubjectMoves::Came::AtOnce);
 }

@@ -7,6 +7,7 @@
 #include <limits>
 
 #include <QGraphicsView>
+#include <QPointer>
 #include <QTransform>
 
 namespace {
@@ -27,6 +28,57 @@ void ViewFraming::addZoom(long long steps)
     constexpr long long least = std::numeric_limits<int>::min();
     constexpr long long most = std::numeric_limits<int>::max();
     m_zoom = int(qBound(least, m_zoom + steps, most));
+}
+
+void ViewFraming::stepZoom(long long steps)
+{
+    addZoom(steps);
+    Q_EMIT zoomChanged(m_zoom);
+}
+
+void ViewFraming::zoomTo(int value, bool tells)
+{
+    const bool isTold = tells && value != m_zoom;
+    setZoom(value);
+    apply();
+    if (isTold)
+        Q_EMIT zoomChanged(value);
+}
+
+void ViewFraming::rotateTo(int degrees, bool tells)
+{
+    const bool isTold = tells && degrees != m_rotation;
+    setRotation(degrees);
+    apply();
+    if (isTold)
+        Q_EMIT rotationChanged(degrees);
+}
+
+void ViewFraming::showUnscaled()
+{
+    const QPointer<ViewFraming> alive(this);
+    setZoom(unscaled);
+    Q_EMIT zoomChanged(unscaled);
+    if (!alive)
+        return;
+    apply();
+    m_view.ensureVisible(QRectF(0, 0, 0, 0), margin, margin);
+}
+
+void ViewFraming::fit(const QRectF &rect)
+{
+    const double scale = scaleFor(rect);
+    if (scale <= 0)
+        return;
+    const QPointer<ViewFraming> alive(this);
+    setZoom(zoomFor(scale));
+    Q_EMIT zoomChanged(m_zoom);
+    if (!alive)
+        return;
+    setRotation(0);
+    Q_EMIT rotationChanged(0);
+    if (alive)
+        show(rect, scale);
 }
 
 void ViewFraming::apply() const

@@ -3,13 +3,17 @@
 
 #pragma once
 
+#include <QObject>
+
 class QGraphicsView;
 class QRectF;
 
-/// How a view frames its scene: zoom value and rotation, and the matrix that they make. Tells
-/// nobody.
-class ViewFraming
+/// How a view frames its scene: zoom value and rotation, and the matrix that they make. Who hears
+/// of them may end the view.
+class ViewFraming : public QObject
 {
+    Q_OBJECT
+
 public:
     static constexpr int unscaled = 250;        ///< the zoom value of scale 1
     static constexpr double doublingSteps = 50; ///< zoom steps that double the scale
@@ -27,6 +31,18 @@ public:
     /// Adds to the zoom value, up to what an int can hold.
     void addZoom(long long steps);
 
+    /// Adds to the zoom value and tells; the view stays as it is.
+    void stepZoom(long long steps);
+    /// Sets the zoom value and applies it; told when \a tells says so and the value is another.
+    void zoomTo(int value, bool tells);
+    /// Likewise the rotation.
+    void rotateTo(int degrees, bool tells);
+    /// 1:1, with the scene's origin in view; told before it is applied.
+    void showUnscaled();
+    /// Fits \a rect (scene units) and the margins into the view, without rotation; both are told
+    /// before they are applied. Nothing when there is no scale for it.
+    void fit(const QRectF &rect);
+
     /// Gives the view the matrix of both; one that no inverse can be had of leaves it as it was.
     void apply() const;
     /// The scale at which \a rect (scene units) and the margins fill the view; 0 when there is
@@ -36,6 +52,12 @@ public:
     static int zoomFor(double scale);
     /// Shows \a rect at exactly \a scale, without rotation.
     void show(const QRectF &rect, double scale) const;
+
+Q_SIGNALS:
+    /// The zoom value is \a value.
+    void zoomChanged(int value);
+    /// The rotation is \a degrees.
+    void rotationChanged(int degrees);
 
 private:
     QGraphicsView &m_view;

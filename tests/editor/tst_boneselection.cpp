@@ -23,6 +23,9 @@ private Q_SLOTS:
     void shouldSelectSpearsOfItsSceneAlone();
     void shouldLeaveOutTops();
     void shouldLeaveOutWhatIsNested();
+    void shouldConcernEachSubtreeOnceWithoutTheHead();
+    void shouldSelectEverythingWithOneReport();
+    void shouldCoverRectanglesInTheirOwnCoordinates();
 };
 
 void TestBoneSelection::shouldListSpearsInDocumentOrder()
@@ -108,6 +111,41 @@ void TestBoneSelection::shouldLeaveOutWhatIsNested()
     BoneSelection::removeNested(items);
     const QList<QGraphicsItem *> expected = {bone("D"), bone("A")};
     QCOMPARE(items, expected);
+}
+
+void TestBoneSelection::shouldConcernEachSubtreeOnceWithoutTheHead()
+{
+    Drawing drawing(QStringLiteral("H[A[B],D]"));
+    const QList<QGraphicsItem *> items = {drawing.head, drawing.spear(QStringLiteral("D")),
+                                          drawing.scene.addRect(0, 0, 1, 1),
+                                          drawing.spear(QStringLiteral("B"))};
+    // Without the head, below which all of them are, the others count.
+    const QList<TreeItem *> expected = {drawing.node(QStringLiteral("D")),
+                                        drawing.node(QStringLiteral("B"))};
+    QCOMPARE(BoneSelection::subjects(items), expected);
+    const QList<QGraphicsItem *> nested = {drawing.spear(QStringLiteral("B")),
+                                           drawing.spear(QStringLiteral("A"))};
+    QCOMPARE(BoneSelection::subjects(nested), QList<TreeItem *>{drawing.node(QStringLiteral("A"))});
+}
+
+void TestBoneSelection::shouldSelectEverythingWithOneReport()
+{
+    Drawing drawing(QStringLiteral("H[A,B]"));
+    const QSignalSpy spy(&drawing.scene, &QGraphicsScene::selectionChanged);
+    BoneSelection::selectAll(drawing.scene);
+    for (const char *title : {"H", "A", "B"})
+        QVERIFY(drawing.spear(QString::fromLatin1(title))->isSelected());
+    QCOMPARE(spy.count(), 1);
+}
+
+void TestBoneSelection::shouldCoverRectanglesInTheirOwnCoordinates()
+{
+    QGraphicsScene scene;
+    QGraphicsItem *const one = scene.addRect(0, 0, 10, 10, Qt::NoPen);
+    QGraphicsItem *const other = scene.addRect(20, 0, 10, 30, Qt::NoPen);
+    one->setPos(1000, 1000);
+    QCOMPARE(BoneSelection::boundsOf({one, other}), QRectF(0, 0, 30, 30));
+    QCOMPARE(BoneSelection::boundsOf({}), QRectF());
 }
 
 FISHBONE_TEST(TestBoneSelection)

@@ -45,6 +45,11 @@ private Q_SLOTS:
     void shouldKnowNoScaleOfNothing();
     void shouldGiveTheZoomValueOfAScale();
     void shouldShowARectangleAtItsScale();
+    void shouldTellEachStepOfTheZoom();
+    void shouldTellNewValuesWhenAsked();
+    void shouldTellBeforeItFits();
+    void shouldShowTheOriginUnscaled();
+    void shouldDoNothingMoreWhenAListenerEndsIt();
 };
 
 void TestViewFraming::shouldDoubleTheScaleEachFiftySteps()
@@ -120,6 +125,83 @@ void TestViewFraming::shouldShowARectangleAtItsScale()
     stage.framing.show(QRectF(0, 0, 100, 50), 2);
     QCOMPARE(stage.view.transform(), QTransform::fromScale(2, 2));
     QCOMPARE(stage.framing.rotation(), 30); // for the next matrix
+}
+
+void TestViewFraming::shouldTellEachStepOfTheZoom()
+{
+    Stage stage;
+    const QSignalSpy spy(&stage.framing, &ViewFraming::zoomChanged);
+    stage.framing.stepZoom(50);
+    stage.framing.stepZoom(0);
+    QCOMPARE(spy.count(), 2);
+    QCOMPARE(spy.at(0).at(0).toInt(), 300);
+    QCOMPARE(stage.view.transform(), QTransform()); // until it is applied
+}
+
+void TestViewFraming::shouldTellNewValuesWhenAsked()
+{
+    Stage stage;
+    const QSignalSpy zooms(&stage.framing, &ViewFraming::zoomChanged);
+    const QSignalSpy turns(&stage.framing, &ViewFraming::rotationChanged);
+    stage.framing.zoomTo(300, false);
+    stage.framing.rotateTo(90, false);
+    QCOMPARE(zooms.count() + turns.count(), 0);
+    QCOMPARE(stage.view.transform().map(QPointF(1, 0)), QPointF(0, 2));
+    stage.framing.zoomTo(300, true);
+    stage.framing.rotateTo(90, true);
+    QCOMPARE(zooms.count() + turns.count(), 0);
+    stage.framing.zoomTo(250, true);
+    stage.framing.rotateTo(0, true);
+    QCOMPARE(zooms.value(0).value(0).toInt(), 250);
+    QCOMPARE(turns.count(), 1);
+    QCOMPARE(stage.view.transform(), QTransform());
+}
+
+void TestViewFraming::shouldTellBeforeItFits()
+{
+    Stage stage;
+    stage.framing.setRotation(30);
+    QStringList told;
+    connect(&stage.framing, &ViewFraming::zoomChanged, &stage.view, [&](int value) {
+        told.append(QStringLiteral("zoom %1 %2").arg(value).arg(stage.view.transform().m11()));
+    });
+    connect(&stage.framing, &ViewFraming::rotationChanged, &stage.view, [&](int degrees) {
+        told.append(QStringLiteral("turn %1 %2").arg(degrees).arg(stage.view.transform().m11()));
+    });
+    stage.framing.fit(QRectF(0, 0, 100, 10));
+    QCOMPARE(told, QStringList({QStringLiteral("zoom 300 1"), QStringLiteral("turn 0 1")}));
+    QCOMPARE(stage.view.transform(), QTransform::fromScale(2, 2));
+    stage.framing.fit(QRectF());
+    QCOMPARE(told.count(), 2);
+}
+
+void TestViewFraming::shouldShowTheOriginUnscaled()
+{
+    Stage stage;
+    stage.scene.setSceneRect(-5000, -5000, 10000, 10000);
+    stage.framing.zoomTo(400, false);
+    stage.view.centerOn(4000, 4000);
+    stage.framing.showUnscaled();
+    QCOMPARE(stage.view.transform(), QTransform());
+    QVERIFY(stage.view.viewport()->rect().contains(stage.view.mapFromScene(QPointF())));
+}
+
+void TestViewFraming::shouldDoNothingMoreWhenAListenerEndsIt()
+{
+    QGraphicsScene scene;
+    QGraphicsView view(&scene);
+    view.resize(300, 300);
+    for (const bool unscaled : {true, false}) {
+        auto framing = std::make_unique<ViewFraming>(view);
+        framing->zoomTo(300, false);
+        connect(framing.get(), &ViewFraming::zoomChanged, &view, [&framing] { framing.reset(); });
+        if (unscaled)
+            framing->showUnscaled();
+        else
+            framing->fit(QRectF(0, 0, 1000, 1000));
+        QVERIFY(!framing);
+        QCOMPARE(view.transform(), QTransform::fromScale(2, 2));
+    }
 }
 
 FISHBONE_TEST(TestViewFraming)
