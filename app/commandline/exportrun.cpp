@@ -62,12 +62,9 @@ int drawSlide(FishModel &model, FishInfo *document, const CommandLine &line, QSt
     }
     drawing.expand(line.levels);
     drawing.update();
-    constexpr double betweenAspects = 1.5;
-    const SlideExport::Aspect aspect = page.width() < betweenAspects * page.height()
-                                           ? SlideExport::Aspect::Narrow
-                                           : SlideExport::Aspect::Wide;
     QString reason;
-    if (SlideExport::write(*drawing.scene(), head, line.target, aspect, &reason))
+    if (SlideExport::write(*drawing.scene(), head, line.target, SlideExport::aspectFor(page),
+                           &reason))
         return CommandLine::success;
     message = CommandLine::tr("cannot write %1: %2").arg(line.target, reason);
     return CommandLine::failure;

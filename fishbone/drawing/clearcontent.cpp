@@ -114,17 +114,25 @@ void ClearContent::add(const TreeItem *item, int parent, ClearPictureContent &co
     subject.hasLink = !item->url().isEmpty();
     subject.hasStatus = !look.icon.isEmpty();
     subject.font = ownFont(*item);
-    PictureSubject meaning;
-    meaning.id = item->uuid();
-    meaning.title = item->title();
-    meaning.detail = item->detail();
-    meaning.link = item->url();
-    meaning.state = shownIn(*item);
-    meaning.parent = parent;
-    meaning.level = parent < 0 ? 0 : content.meanings[std::size_t(parent)].level + 1;
+    const int level = parent < 0 ? 0 : content.meanings[std::size_t(parent)].level + 1;
     content.subjects.push_back(subject);
     content.looks.push_back(look);
-    content.meanings.push_back(meaning);
+    content.meanings.push_back(about(item, parent, level));
+}
+
+PictureSubject ClearContent::about(const TreeItem *item, int parent, int level)
+{
+    PictureSubject subject;
+    subject.parent = parent;
+    subject.level = level;
+    if (!item)
+        return subject;
+    subject.id = item->uuid();
+    subject.title = item->title();
+    subject.detail = item->detail();
+    subject.link = item->url();
+    subject.state = shownIn(*item);
+    return subject;
 }
 
 ClearPictureContent ClearContent::of(const TreeItem *head, int levels)

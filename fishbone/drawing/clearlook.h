@@ -15,6 +15,7 @@ struct ClearSpear;
 struct ClearInk;
 class ClearSymbols;
 class ClearTree;
+class PictureSink;
 
 /**
  * The clear look: all texts level and wrapped, categories in coloured boxes, the title inside the
@@ -55,6 +56,15 @@ public:
     void paintBadge(QPainter &painter, const SpearItem &spear) const override;
     bool showsChains() const override { return true; }
 
+    /** Describes backbone and tail, which the header @p spear has. */
+    void describeFish(PictureSink &sink, const SpearItem &spear) const;
+    /** Describes the bone, or the head, and the title of @p spear as they are painted. */
+    void describe(PictureSink &sink, const SpearItem &spear) const;
+    /** Describes the button of @p spear that says how much it hides, if it has one. */
+    void describeBadge(PictureSink &sink, const SpearItem &spear) const;
+    /** Describes the legend, which the header @p spear has. */
+    void describeLegend(PictureSink &sink, const SpearItem &spear) const;
+
     void size(const SpearTree &tree) const override;
     void place(const SpearTree &tree) const override;
     bool isSettled() const override { return false; }
@@ -62,7 +72,9 @@ public:
 private:
     std::vector<ClearInk> inksOf(const ClearTree &tree, const std::vector<SpearItem *> &spears,
                                  ClearSymbols &symbols) const;
-    void paintHeader(QPainter &painter, const SpearItem &spear, const ClearSpear &header) const;
+    void paintHeader(QPainter &painter, const SpearItem &spear) const;
+    void describeHead(PictureSink &sink, const SpearItem &spear, const ClearSpear &header) const;
+    void describeTitle(PictureSink &sink, const SpearItem &spear, const ClearSpear &place) const;
     QPen penOf(const SpearItem &spear, const ClearSpear &place) const;
     ClearInk inkOf(const SpearItem &spear, const ClearSpear &place) const;
 

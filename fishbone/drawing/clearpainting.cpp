@@ -34,6 +34,13 @@ const QPen *penIn(const SpearItem &spear, SpearStyle::SpearState state)
     return style ? style->broderPen(state) : nullptr;
 }
 
+/** The pen of the frame around the title of @p spear, which is not normal, in @p ink. */
+QPen framePen(const SpearItem &spear, const ClearInk &ink)
+{
+    const QPen *const frame = penIn(spear, spear.boxState());
+    return frame ? *frame : QPen(ink.accent);
+}
+
 /** Whether @p spear is one that leads to another that is selected, pointed at or linked. */
 bool isOnTheWay(const SpearItem &spear)
 {
@@ -81,7 +88,7 @@ void ClearLook::paint(QPainter &painter, const SpearItem &spear) const
     if (!place)
         return;
     if (place->frame) {
-        paintHeader(painter, spear, *place);
+        paintHeader(painter, spear);
         return;
     }
     painter.setPen(penOf(spear, *place));
@@ -89,15 +96,13 @@ void ClearLook::paint(QPainter &painter, const SpearItem &spear) const
         painter.drawLine(spear.line());
 }
 
-void ClearLook::paintHeader(QPainter &painter, const SpearItem &spear,
-                            const ClearSpear &header) const
+void ClearLook::paintHeader(QPainter &painter, const SpearItem &spear) const
 {
-    const ClearFrame &frame = *header.frame;
     painter.save();
     ClearPainter sink(painter);
-    ClearPieces::fish(sink, frame.backbone, frame.tail, m_colors);
-    ClearPieces::head(sink, frame.head, header.ink, m_colors, isOnTheWay(spear));
-    ClearPieces::legend(sink, frame.legend, frame.symbols, m_colors);
+    describeFish(sink, spear);
+    describeHead(sink, spear, *ClearSpear::of(spear));
+    describeLegend(sink, spear);
     painter.restore();
     painter.setPen(m_colors.outline());
 }
@@ -109,18 +114,12 @@ bool ClearLook::paintText(QPainter &painter, const SpearItem &spear) const
         return true;
     const SpearStyle::SpearState state = spear.boxState();
     const QRectF box = place->box();
-    const ClearInk ink = inkOf(spear, *place);
     painter.save();
     painter.translate(-box.topLeft());
     ClearPainter sink(painter);
-    const bool hasFill = state != SpearStyle::ssNormal && ink.box.isValid();
-    if (hasFill && place->bone.level != 1)
-        sink.box(box, boxCorner, ink.box);
-    ClearPieces::label(sink, place->bone, ink, m_colors);
-    if (state != SpearStyle::ssNormal) {
-        const QPen *const frame = penIn(spear, state);
-        paintTextBox(painter, box, box, QColor(), frame ? *frame : QPen(ink.accent));
-    }
+    describeTitle(sink, spear, *place);
+    if (state != SpearStyle::ssNormal)
+        paintTextBox(painter, box, box, QColor(), framePen(spear, inkOf(spear, *place)));
     painter.restore();
     return true;
 }
@@ -134,4 +133,56 @@ void ClearLook::paintBadge(QPainter &painter, const SpearItem &spear) const
     ClearPainter sink(painter);
     ClearPieces::badge(sink, *place->bone.badgeText, badge(spear), m_colors);
     painter.restore();
+}
+
+void ClearLook::describeFish(PictureSink &sink, const SpearItem &spear) const
+{
+    const ClearFrame &frame = *ClearSpear::of(spear)->frame;
+    ClearPieces::fish(sink, frame.backbone, frame.tail, m_colors);
+}
+
+void ClearLook::describeHead(PictureSink &sink, const SpearItem &spear,
+                             const ClearSpear &header) const
+{
+    ClearPieces::head(sink, header.frame->head, header.ink, m_colors, isOnTheWay(spear));
+}
+
+void ClearLook::describeLegend(PictureSink &sink, const SpearItem &spear) const
+{
+    const ClearFrame &frame = *ClearSpear::of(spear)->frame;
+    ClearPieces::legend(sink, frame.legend, frame.symbols, m_colors);
+}
+
+/** Describes the title in the state that it shows, without the frame of that. */
+void ClearLook::describeTitle(PictureSink &sink, const SpearItem &spear,
+                              const ClearSpear &place) const
+{
+    const ClearInk ink = inkOf(spear, place);
+    const bool hasFill = spear.boxState() != SpearStyle::ssNormal && ink.box.isValid();
+    if (hasFill && place.bone.level != 1)
+        sink.box(place.box(), boxCorner, ink.box);
+    ClearPieces::label(sink, place.bone, ink, m_colors);
+}
+
+void ClearLook::describe(PictureSink &sink, const SpearItem &spear) const
+{
+    const ClearSpear &place = *ClearSpear::of(spear);
+    if (place.frame)
+        describeHead(sink, spear, place);
+    else if (!spear.isMoving())
+        sink.line(spear.line(), penOf(spear, place));
+    describeTitle(sink, spear, place);
+    const QPen frame = framePen(spear, inkOf(spear, place));
+    if (spear.boxState() == SpearStyle::ssNormal || frame.style() == Qt::NoPen)
+        return;
+    QPainterPath outline;
+    outline.addRect(place.box());
+    sink.shape(outline, QColor(), frame.color(), qMax(frame.widthF(), 1.0));
+}
+
+void ClearLook::describeBadge(PictureSink &sink, const SpearItem &spear) const
+{
+    const ClearLayout::Bone &bone = ClearSpear::of(spear)->bone;
+    if (bone.badgeText)
+        ClearPieces::badge(sink, *bone.badgeText, bone.badge, m_colors);
 }

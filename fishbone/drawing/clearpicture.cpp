@@ -29,14 +29,33 @@ ClearPicture::ClearPicture(const ClearPictureContent &content, const ClearLayout
     }
 }
 
-void ClearPicture::describe(PictureSink &sink) const
+QString ClearPicture::family() const
+{
+    return m_fonts.ofLevel(2).font().family();
+}
+
+QStringList ClearPicture::icons() const
+{
+    QStringList files;
+    for (const ClearSubjectLook &look : m_content.looks)
+        files << look.icon;
+    for (const ClearMeaning &symbol : m_content.symbols)
+        files << symbol.icon;
+    return files << m_content.linkIcon;
+}
+
+bool ClearPicture::describe(PictureSink &sink) const
 {
     if (m_layout.size() == 0)
-        return;
+        return true;
     ClearPieces::fish(sink, m_layout.backbone(), m_layout.tail(), m_colors);
-    for (int index = 0; index < m_layout.size(); ++index)
+    for (int index = 0; index < m_layout.size(); ++index) {
+        if (!goesOn(index))
+            return false;
         describeBone(sink, index);
+    }
     ClearPieces::legend(sink, m_layout.legend(), m_content.symbols, m_colors);
+    return true;
 }
 
 void ClearPicture::describeBone(PictureSink &sink, int index) const

@@ -6,6 +6,7 @@
 #include <fishbone/drawing/clearcolors.h>
 #include <fishbone/drawing/clearlayout.h>
 #include <fishbone/drawing/clearpieces.h>
+#include <fishbone/drawing/describedpicture.h>
 #include <fishbone/drawing/picturesink.h>
 
 #include <vector>
@@ -23,22 +24,22 @@ struct ClearPictureContent
     std::vector<QString> legendTexts() const;
 };
 
-/** Describes a diagram that is laid out, piece by piece, in the order in which it is drawn. */
-class ClearPicture
+/** Describes a diagram that is laid out. */
+class ClearPicture : public DescribedPicture
 {
 public:
     /** The picture of @p content as @p layout has it; both live on. */
     ClearPicture(const ClearPictureContent &content, const ClearLayout &layout,
                  const ClearFonts &fonts, const ClearColors &colors);
 
-    /** What it covers. */
-    const QRectF &bounds() const { return m_layout.bounds(); }
     const ClearColors &colors() const { return m_colors; }
-    const ClearFonts &fonts() const { return m_fonts; }
     const ClearPictureContent &content() const { return m_content; }
 
-    /** Describes all of it to @p sink. Linear. */
-    void describe(PictureSink &sink) const;
+    QRectF bounds() const override { return m_layout.bounds(); }
+    QString family() const override;
+    QStringList icons() const override;
+    int count() const override { return m_layout.size(); }
+    bool describe(PictureSink &sink) const override;
 
 private:
     void describeBone(PictureSink &sink, int index) const;

@@ -6,6 +6,7 @@
 #include <fishbone/items/expanditem.h>
 #include <fishbone/items/spearitem.h>
 #include <fishbone/items/spearlook.h>
+#include <fishbone/items/textitem.h>
 
 bool isForTheScreenOnly(const QGraphicsItem &item)
 {
@@ -13,4 +14,12 @@ bool isForTheScreenOnly(const QGraphicsItem &item)
         return false;
     const auto *const spear = qgraphicsitem_cast<const SpearItem *>(item.parentItem());
     return !spear || spear->look().badge(*spear).isNull();
+}
+
+const TreeItem *subjectOfTitle(const QGraphicsItem &item)
+{
+    if (item.type() != TextItem::Type)
+        return nullptr;
+    const auto *const spear = qgraphicsitem_cast<const SpearItem *>(item.parentItem());
+    return spear ? spear->treeItem() : nullptr;
 }

@@ -9,10 +9,10 @@
 #include <fishbone/drawing/clearpainter.h>
 #include <fishbone/exchange/htmlpicture.h>
 #include <fishbone/exchange/picturepart.h>
+#include <fishbone/exchange/pictureprogress.h>
 #include <fishbone/exchange/picturetexts.h>
 #include <fishbone/exchange/svgpicture.h>
 
-#include <QBuffer>
 #include <QImage>
 #include <QLocale>
 #include <QPageSize>
@@ -35,8 +35,8 @@ bool isPage(const QString &fileName)
            fileName.endsWith(QLatin1String(".htm"), Qt::CaseInsensitive);
 }
 
-/** Paints @p picture as large as it fits into @p target. */
-void paintInto(QPainter &painter, const ClearPicture &picture, const QRectF &target)
+/** Paints @p picture as large as it fits into @p target; false when that was ended. */
+bool paintInto(QPainter &painter, const ClearPicture &picture, const QRectF &target)
 {
     const QRectF bounds = picture.bounds();
     const qreal scale =
@@ -46,8 +46,89 @@ void paintInto(QPainter &painter, const ClearPicture &picture, const QRectF &tar
     painter.scale(scale, scale);
     painter.translate(-bounds.center());
     ClearPainter sink(painter);
-    picture.describe(sink);
+    const bool isDone = picture.describe(sink);
     painter.restore();
+    return isDone;
+}
+
+/** Fills @p rect unless that would be white on white, which only takes room. */
+void fillPaper(QPainter &painter, const QRectF &rect, const QColor &background)
+{
+    if (background.alpha() > 0 && background != Qt::white)
+        painter.fillRect(rect, background);
+}
+
+/** Makes @p writer write one page of @p millimetres. */
+void setUp(QPdfWriter &writer, const QSizeF &millimetres, const QString &title)
+{
+    writer.setPageSize(
+        QPageSize(millimetres, QPageSize::Millimeter, QString(), QPageSize::ExactMatch));
+    writer.setPageMargins(QMarginsF());
+    writer.setTitle(title);
+    writer.setCreator(QStringLiteral("Fishbone"));
+}
+
+/** How one picture is written: the pieces of it, and whoever follows that. */
+struct Writing
+{
+    const ClearPicture &picture;
+    const PictureOptions &options;
+    QSizeF size; ///< in picture units
+    QRectF target;
+    PictureProgress &progress;
+
+    Result svg(QByteArray &bytes) const;
+    Result png(QByteArray &bytes) const;
+    /** A page of @p millimetres, as wide as the size. */
+    Result pdf(const QSizeF &millimetres, QByteArray &bytes) const;
+};
+
+Result Writing::svg(QByteArray &bytes) const
+{
+    SvgPictureOptions svg;
+    svg.title = options.title;
+    svg.background = options.background;
+    svg.margin = options.margin;
+    svg.size = size;
+    PictureBytes buffer(&bytes, progress);
+    return progress.outcome(SvgPicture::write(picture, svg, buffer));
+}
+
+Result Writing::png(QByteArray &bytes) const
+{
+    QImage image(QSize(int(std::ceil(size.width())), int(std::ceil(size.height()))),
+                 QImage::Format_ARGB32_Premultiplied);
+    if (image.isNull())
+        return {Error::TooLarge, DiagramPicture::tr("there is not enough memory for it")};
+    image.fill(options.background.isValid() ? options.background : QColor(Qt::transparent));
+    QPainter painter(&image);
+    const bool isPainted = paintInto(painter, picture, target);
+    painter.end();
+    if (!isPainted)
+        return progress.outcome(false);
+    image.setText(QStringLiteral("Title"), options.title);
+    PictureBytes buffer(&bytes, progress);
+    return progress.outcome(image.save(&buffer, "PNG"));
+}
+
+Result Writing::pdf(const QSizeF &millimetres, QByteArray &bytes) const
+{
+    PictureBytes buffer(&bytes, progress);
+    QPdfWriter writer(&buffer);
+    setUp(writer, millimetres, options.title);
+    QPainter painter(&writer);
+    const double dots =
+        writer.resolution() / millimetresPerInch * millimetres.width() / size.width();
+    painter.scale(dots, dots);
+    fillPaper(painter, QRectF(QPointF(), size), options.background);
+    const bool isPainted = paintInto(painter, picture, target);
+    return progress.outcome(painter.end() && isPainted);
+}
+
+/** Has @p progress follow how @p picture is described. */
+void follow(ClearPicture &picture, PictureProgress &progress)
+{
+    picture.setFollower([&progress](int done) { return progress.goesOn(done); });
 }
 
 Result written(const QString &fileName, const QByteArray &bytes)
@@ -67,14 +148,17 @@ struct DiagramPicture::Data
         , colors(chosen.palette)
         , clear(ClearOptions::of(chosen))
     {
-        layOut();
     }
 
-    void layOut()
+    /** The layout, made when it is asked for: who arranges it for a page needs no other. */
+    const ClearLayout &layout()
     {
-        layout = std::make_unique<ClearLayout>(tree, fonts, clear, cache, content.legendTexts());
+        if (!laidOut)
+            laidOut =
+                std::make_unique<ClearLayout>(tree, fonts, clear, cache, content.legendTexts());
+        return *laidOut;
     }
-    ClearPicture picture() const { return {content, *layout, fonts, colors}; }
+    ClearPicture picture() { return {content, layout(), fonts, colors}; }
 
     ClearPictureContent content;
     DiagramLook::Options options;
@@ -83,7 +167,7 @@ struct DiagramPicture::Data
     ClearColors colors;
     ClearOptions clear;
     ClearTextCache cache;
-    std::unique_ptr<ClearLayout> layout;
+    std::unique_ptr<ClearLayout> laidOut;
 };
 
 DiagramPicture::DiagramPicture(const TreeItem *head, const DiagramLook::Options &options,
@@ -107,7 +191,7 @@ void DiagramPicture::arrangeFor(const QSizeF &page)
     m_data->clear = ClearArrangement::bestFor(m_data->tree, m_data->fonts, m_data->clear, page,
                                               m_data->cache, m_data->content.legendTexts());
     m_data->options = m_data->clear.in(m_data->options);
-    m_data->layOut();
+    m_data->laidOut.reset();
 }
 
 DiagramLook::Options DiagramPicture::options() const
@@ -125,12 +209,12 @@ DiagramLook::Options DiagramPicture::arrangedFor(const QSizeF &page, const TreeI
 
 QSizeF DiagramPicture::size() const
 {
-    return m_data->layout->bounds().size();
+    return m_data->layout().bounds().size();
 }
 
 double DiagramPicture::textSizeOn(const QSizeF &page) const
 {
-    return ClearMeasure::causeSize * ClearArrangement::scaleOn(page, m_data->layout->bounds());
+    return ClearMeasure::causeSize * ClearArrangement::scaleOn(page, m_data->layout().bounds());
 }
 
 void DiagramPicture::paint(QPainter &painter, const QRectF &target) const
@@ -138,9 +222,12 @@ void DiagramPicture::paint(QPainter &painter, const QRectF &target) const
     paintInto(painter, m_data->picture(), target);
 }
 
-void DiagramPicture::paint(QPainter &painter, const QRectF &target, const QRectF &source) const
+bool DiagramPicture::paint(QPainter &painter, const QRectF &target, const QRectF &source,
+                           const Progress &progress) const
 {
-    const ClearPicture picture = m_data->picture();
+    ClearPicture picture = m_data->picture();
+    if (progress)
+        picture.setFollower([&](int done) { return progress(done, picture.count()); });
     const QPointF corner = picture.bounds().topLeft();
     const qreal scale = target.width() / source.width();
     painter.save();
@@ -149,8 +236,9 @@ void DiagramPicture::paint(QPainter &painter, const QRectF &target, const QRectF
     painter.scale(scale, scale);
     painter.translate(-source.topLeft() - corner);
     PicturePart sink(painter, source.translated(corner));
-    picture.describe(sink);
+    const bool isDone = picture.describe(sink);
     painter.restore();
+    return isDone;
 }
 
 QList<QRectF> DiagramPicture::texts() const
@@ -169,80 +257,59 @@ bool DiagramPicture::canWrite(const QString &fileName)
     return isPage(fileName) || PictureExport::formatOf(fileName);
 }
 
-QByteArray DiagramPicture::page(const PictureOptions &options) const
+Result DiagramPicture::page(const PictureOptions &options, QByteArray &bytes) const
 {
-    QBuffer buffer;
-    buffer.open(QIODevice::WriteOnly);
+    ClearPicture picture = m_data->picture();
+    PictureProgress progress(options, picture.count());
+    follow(picture, progress);
+    PictureBytes buffer(&bytes, progress);
     const QString title =
         options.title.isEmpty() ? m_data->content.meanings.front().title : options.title;
-    HtmlPicture::write(m_data->picture(), title, QLocale().bcp47Name(), buffer);
-    return buffer.data();
+    const bool isDone = HtmlPicture::write(picture, title, QLocale().bcp47Name(), buffer);
+    return isDone ? progress.finish() : progress.outcome(false);
 }
 
 Result DiagramPicture::render(PictureExport::Format format, const PictureOptions &options,
                               QByteArray &bytes) const
 {
-    const QRectF bounds = m_data->layout->bounds();
+    const QRectF bounds = m_data->layout().bounds();
     const QSizeF size = PictureExport::sizeOf(bounds, options);
+    bytes.clear();
     if (size.isEmpty())
         return {Error::BadOptions, tr("the scale, the size or the margin makes no picture")};
-    const ClearPicture picture = m_data->picture();
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    if (format == PictureExport::Format::Svg) {
-        SvgPictureOptions svg;
-        svg.title = options.title;
-        svg.background = options.background;
-        svg.margin = options.margin;
-        svg.size = size;
-        return SvgPicture::write(picture, svg, buffer)
-                   ? Result()
-                   : Result{Error::CannotWrite, tr("it cannot be written")};
-    }
-    if (Result check = PictureExport::check(format, size, options); !check)
+    if (Result check = PictureExport::check(format, size, options);
+        !check && format != PictureExport::Format::Svg)
         return check;
+    const double free = options.margin;
     const double margin =
-        options.margin * ClearArrangement::scaleOn(
-                             size, bounds.marginsAdded(QMarginsF(options.margin, options.margin,
-                                                                 options.margin, options.margin)));
-    const QRectF target = QRectF(QPointF(), size).adjusted(margin, margin, -margin, -margin);
-    if (format == PictureExport::Format::Png) {
-        QImage image(QSize(int(std::ceil(size.width())), int(std::ceil(size.height()))),
-                     QImage::Format_ARGB32_Premultiplied);
-        if (image.isNull())
-            return {Error::TooLarge, tr("there is not enough memory for it")};
-        image.fill(options.background.isValid() ? options.background : QColor(Qt::transparent));
-        QPainter painter(&image);
-        paintInto(painter, picture, target);
-        painter.end();
-        image.setText(QStringLiteral("Title"), options.title);
-        image.save(&buffer, "PNG");
-        return {};
-    }
-    const double unit = PictureExport::millimetresPerUnit();
-    QPdfWriter writer(&buffer);
-    writer.setPageSize(
-        QPageSize(size * unit, QPageSize::Millimeter, QString(), QPageSize::ExactMatch));
-    writer.setPageMargins(QMarginsF());
-    writer.setTitle(options.title);
-    writer.setCreator(QStringLiteral("Fishbone"));
-    QPainter painter(&writer);
-    const double dots = writer.resolution() * unit / millimetresPerInch;
-    painter.scale(dots, dots);
-    if (options.background.alpha() > 0 && options.background != Qt::white)
-        painter.fillRect(QRectF(QPointF(), size), options.background);
-    paintInto(painter, picture, target);
-    return {};
+        free * ClearArrangement::scaleOn(size, bounds.adjusted(-free, -free, free, free));
+    ClearPicture picture = m_data->picture();
+    PictureProgress progress(options, picture.count());
+    follow(picture, progress);
+    const Writing writing{picture, options, size,
+                          QRectF(QPointF(), size).adjusted(margin, margin, -margin, -margin),
+                          progress};
+    Result result = format == PictureExport::Format::Svg ? writing.svg(bytes)
+                    : format == PictureExport::Format::Png
+                        ? writing.png(bytes)
+                        : writing.pdf(size * PictureExport::millimetresPerUnit(), bytes);
+    if (result)
+        result = progress.finish();
+    if (!result)
+        bytes.clear();
+    return result;
 }
 
 Result DiagramPicture::write(const QString &fileName, const PictureOptions &options) const
 {
-    if (isPage(fileName))
-        return written(fileName, page(options));
+    QByteArray bytes;
+    if (isPage(fileName)) {
+        const Result result = page(options, bytes);
+        return result ? written(fileName, bytes) : result;
+    }
     const std::optional<PictureExport::Format> format = PictureExport::formatOf(fileName);
     if (!format)
         return {Error::UnknownFormat, tr("the file name must end in .png, .svg, .pdf or .html")};
-    QByteArray bytes;
     const Result result = render(*format, options, bytes);
     return result ? written(fileName, bytes) : result;
 }
@@ -257,20 +324,12 @@ Result DiagramPicture::writePage(const QString &fileName, const QSizeF &millimet
     if (target.isEmpty() || margin < 0 || points > PictureExport::maximalPoints)
         return {Error::BadOptions, tr("the page is too small or too large")};
     QByteArray bytes;
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    QPdfWriter writer(&buffer);
-    writer.setPageSize(
-        QPageSize(millimetres, QPageSize::Millimeter, QString(), QPageSize::ExactMatch));
-    writer.setPageMargins(QMarginsF());
-    writer.setTitle(options.title);
-    writer.setCreator(QStringLiteral("Fishbone"));
-    QPainter painter(&writer);
-    const double dots = writer.resolution() / millimetresPerInch;
-    painter.scale(dots, dots);
-    if (options.background.alpha() > 0 && options.background != Qt::white)
-        painter.fillRect(paper, options.background);
-    paintInto(painter, m_data->picture(), target);
-    painter.end();
-    return written(fileName, bytes);
+    ClearPicture picture = m_data->picture();
+    PictureProgress progress(options, picture.count());
+    follow(picture, progress);
+    Result result =
+        Writing{picture, options, millimetres, target, progress}.pdf(millimetres, bytes);
+    if (result)
+        result = progress.finish();
+    return result ? written(fileName, bytes) : result;
 }

@@ -73,12 +73,17 @@ public:
      * their font. */
     double textSizeOn(const QSizeF &page) const;
 
+    /** Is told from time to time how much is done; false ends it. */
+    using Progress = std::function<bool(int done, int total)>;
+
     /** Paints it as large as it fits into @p target, in whose middle it stands, and nothing behind
      * it. */
     void paint(QPainter &painter, const QRectF &target) const;
     /** Paints the part @p source, in the coordinates of the drawing at 100 % from its left upper
-     * corner on, into @p target, which has the same shape; nothing of the rest. */
-    void paint(QPainter &painter, const QRectF &target, const QRectF &source) const;
+     * corner on, into @p target, which has the same shape; nothing of the rest. @p progress is as
+     * in PictureOptions; false when that ended the painting. */
+    bool paint(QPainter &painter, const QRectF &target, const QRectF &source,
+               const Progress &progress = {}) const;
     /** Where texts, icons and what is filled behind them stand, in the same coordinates. */
     QList<QRectF> texts() const;
     /** Stores the bytes of a picture in @p bytes. */
@@ -91,7 +96,8 @@ public:
 
     /**
      * Writes it into the file @p fileName, which is replaced whole or not at all; in a folder that
-     * is not writable it is written in place. An HTML page takes the title alone from @p options.
+     * is not writable it is written in place. An HTML page takes title and progress alone from
+     * @p options. One that PictureOptions::progress ended leaves the file as it was.
      */
     PictureExport::Result write(const QString &fileName,
                                 const PictureOptions &options = PictureOptions()) const;
@@ -107,7 +113,7 @@ public:
 private:
     struct Data;
 
-    QByteArray page(const PictureOptions &options) const;
+    PictureExport::Result page(const PictureOptions &options, QByteArray &bytes) const;
 
     std::unique_ptr<Data> m_data;
 };

@@ -2,13 +2,12 @@
 // SPDX-License-Identifier: MIT
 
 #include <fishbone/exchange/exchangeformat.h>
+#include <fishbone/exchange/linksafety.h>
 #include <fishbone/exchange/outlinewalk.h>
 #include <fishbone/exchange/xmlsupport.h>
 
 #include <QXmlStreamWriter>
 
-#include <algorithm>
-#include <iterator>
 #include <vector>
 
 namespace {
@@ -59,17 +58,6 @@ std::vector<Box> placed(const TreeItem &head)
     return boxes;
 }
 
-/** Whether a browser that opens @p link would run what is in it; it does not see blanks. */
-bool runsCode(const QString &link)
-{
-    QString seen;
-    std::copy_if(link.cbegin(), link.cend(), std::back_inserter(seen),
-                 [](QChar c) { return c > QLatin1Char(' '); });
-    const QString scheme = seen.left(seen.indexOf(QLatin1Char(':'))).toLower();
-    return scheme == QLatin1String("javascript") || scheme == QLatin1String("vbscript") ||
-           scheme == QLatin1String("data");
-}
-
 void writeGeometry(QXmlStreamWriter &xml, const Box &box)
 {
     xml.writeEmptyElement(QStringLiteral("mxGeometry"));
@@ -87,7 +75,7 @@ void writeBox(QXmlStreamWriter &xml, const Box &box, int number)
     xml.writeStartElement(QStringLiteral("UserObject"));
     xml.writeAttribute(QStringLiteral("label"), XmlSupport::storable(subject.title()));
     QStringList tooltip{subject.detail()};
-    if (runsCode(subject.url()))
+    if (LinkSafety::runsCode(subject.url()))
         tooltip.append(subject.url());
     else if (!subject.url().isEmpty())
         xml.writeAttribute(QStringLiteral("link"), XmlSupport::storable(subject.url()));

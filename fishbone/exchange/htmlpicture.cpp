@@ -5,6 +5,7 @@
 
 #include <fishbone/drawing/clearpicture.h>
 #include <fishbone/exchange/htmlparts.h>
+#include <fishbone/exchange/linksafety.h>
 #include <fishbone/exchange/svgpicture.h>
 
 #include <QCryptographicHash>
@@ -79,7 +80,7 @@ QByteArray HtmlPicture::data(const ClearPicture &picture)
         };
         put("state", subject.state);
         put("detail", subject.detail);
-        put("link", SvgPicture::safeLink(subject.link));
+        put("link", LinkSafety::webOrMail(subject.link));
         all.append(about);
     }
     // Nothing in it may look like the end of the element that holds it.

@@ -22,7 +22,8 @@ class HtmlPicture
 
 public:
     /** Writes @p picture, titled @p title, to @p device, which is open; in @p language, as "en" or
-     * "zh-CN". False when that could not be written. */
+     * "zh-CN". False when that could not be written, or when whoever
+     * follows the picture has ended it. */
     static bool write(const ClearPicture &picture, const QString &title, const QString &language,
                       QIODevice &device);
 

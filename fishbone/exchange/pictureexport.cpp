@@ -4,7 +4,10 @@
 #include <fishbone/exchange/pictureexport.h>
 
 #include <fishbone/base/filereplacement.h>
+#include <fishbone/drawing/clearscene.h>
+#include <fishbone/exchange/pictureprogress.h>
 #include <fishbone/exchange/scenepainter.h>
+#include <fishbone/exchange/svgpicture.h>
 
 #include <QBuffer>
 #include <QFileInfo>
@@ -83,11 +86,6 @@ Result tooLarge(const QSizeF &size, const QString &limit)
                                  .arg(limit)};
 }
 
-Result cannotEncode()
-{
-    return {Error::CannotWrite, PictureExport::tr("the drawing cannot be encoded")};
-}
-
 /** A picture under way. */
 class Drawing
 {
@@ -100,6 +98,7 @@ public:
         , m_extent(extent)
         , m_frame(frame)
         , m_options(options)
+        , m_progress(options, extent.items)
     {
     }
 
@@ -107,28 +106,11 @@ public:
     const PictureOptions &options() const { return m_options; }
     const SceneExtent &extent() const { return m_extent; }
 
-    /** Reports @p done items; false once the picture is not wanted any more. */
-    bool goesOn(int done)
-    {
-        m_done = std::max(m_done, done);
-        if (m_options.progress && !m_isCancelled)
-            m_isCancelled = !m_options.progress(m_done, steps());
-        return !m_isCancelled;
-    }
-    bool goesOn() { return goesOn(m_done); }
-    /** One for each item, and one for what is done with them in the end. */
-    int steps() const { return m_extent.items + 1; }
+    const QGraphicsScene &scene() const { return m_scene; }
+    PictureProgress &progress() { return m_progress; }
 
     bool paint(QPainter &painter);
     void paintSample(QPainter &painter, int step) const;
-
-    /** What has become of the picture when its last step did so or not. */
-    Result outcome(bool isComplete) const
-    {
-        if (m_isCancelled)
-            return {Error::Cancelled, PictureExport::tr("it was cancelled")};
-        return isComplete ? Result() : cannotEncode();
-    }
 
 private:
     ScenePainter painterOfItems() const
@@ -140,8 +122,7 @@ private:
     const SceneExtent &m_extent;
     const Frame &m_frame;
     const PictureOptions &m_options;
-    int m_done = 0;
-    bool m_isCancelled = false;
+    PictureProgress m_progress;
 };
 
 /** Draws all; false when it was cancelled. */
@@ -151,7 +132,7 @@ bool Drawing::paint(QPainter &painter)
                            QPainter::SmoothPixmapTransform);
     if (fills(m_options.background))
         painter.fillRect(QRectF(QPointF(), m_frame.size), m_options.background);
-    return painterOfItems().paint(painter, [this](int done) { return goesOn(done); });
+    return painterOfItems().paint(painter, [this](int done) { return m_progress.goesOn(done); });
 }
 
 /** Draws every so many items. */
@@ -161,27 +142,6 @@ void Drawing::paintSample(QPainter &painter, int step) const
     items.setStep(step);
     items.paint(painter, [](int) { return true; });
 }
-
-/** Takes the bytes of a picture as long as it is wanted. */
-class Bytes : public QBuffer
-{
-public:
-    Bytes(QByteArray *bytes, Drawing &drawing)
-        : QBuffer(bytes)
-        , m_drawing(drawing)
-    {
-        open(QIODevice::WriteOnly);
-    }
-
-protected:
-    qint64 writeData(const char *data, qint64 size) override
-    {
-        return m_drawing.goesOn() ? QBuffer::writeData(data, size) : -1;
-    }
-
-private:
-    Drawing &m_drawing;
-};
 
 /** The size of a PDF's page in points. */
 QSize pageOf(const QSizeF &size)
@@ -224,7 +184,7 @@ Result drawPng(Drawing &drawing, QByteArray &picture)
     {
         QPainter painter(&image);
         if (!drawing.paint(painter))
-            return drawing.outcome(false);
+            return drawing.progress().outcome(false);
     }
     // Only afterwards, since a painter would size some texts by it.
     const double scale = frame.target.width() / frame.source.width();
@@ -233,8 +193,8 @@ Result drawPng(Drawing &drawing, QByteArray &picture)
     image.setDotsPerMeterY(dotsPerMetre);
     if (!options.title.isEmpty())
         image.setText(QStringLiteral("Title"), options.title);
-    Bytes bytes(&picture, drawing);
-    return drawing.outcome(image.save(&bytes, "PNG", pngQuality));
+    PictureBytes bytes(&picture, drawing.progress());
+    return drawing.progress().outcome(image.save(&bytes, "PNG", pngQuality));
 }
 
 /** Makes @p generator write what @p drawing shows to @p device. */
@@ -263,8 +223,28 @@ double svgBytes(const Drawing &drawing)
     return double(sample.size()) * step;
 }
 
+/** Writes what is in the clear look by a writer of its own, of which nothing is too large. */
+Result drawClearSvg(Drawing &drawing, ClearScene &clear, QByteArray &picture)
+{
+    PictureProgress &progress = drawing.progress();
+    // A subject has several items.
+    const double items = double(drawing.extent().items) / clear.count();
+    clear.setFollower([&](int done) { return progress.goesOn(int(done * items)); });
+    PictureBytes bytes(&picture, progress);
+    SvgPictureOptions options;
+    options.title = drawing.options().title;
+    options.background = drawing.options().background;
+    options.margin = drawing.options().margin;
+    options.size = drawing.frame().size;
+    return progress.outcome(SvgPicture::write(clear, options, bytes));
+}
+
 Result drawSvg(Drawing &drawing, QByteArray &picture)
 {
+    if (drawing.extent().isPlain) {
+        if (const auto clear = ClearScene::of(drawing.scene(), drawing.extent().rect))
+            return drawClearSvg(drawing, *clear, picture);
+    }
     // The generator keeps all in one string, and ends the program when that has no room.
     constexpr int itemsOfSomeSize = 20000;
     if (drawing.extent().isPlain && drawing.extent().items > itemsOfSomeSize &&
@@ -272,20 +252,20 @@ Result drawSvg(Drawing &drawing, QByteArray &picture)
         return {Error::TooLarge,
                 PictureExport::tr("an SVG of it would have more than %1 MiB; a PDF is smaller")
                     .arg(PictureExport::maximalSvgBytes >> 20)};
-    Bytes bytes(&picture, drawing);
+    PictureBytes bytes(&picture, drawing.progress());
     QSvgGenerator generator;
     setUp(generator, drawing, &bytes);
     QPainter painter;
     if (!painter.begin(&generator))
-        return cannotEncode();
+        return drawing.progress().outcome(false);
     const bool isPainted = drawing.paint(painter);
-    return drawing.outcome(painter.end() && isPainted);
+    return drawing.progress().outcome(painter.end() && isPainted);
 }
 
 Result drawPdf(Drawing &drawing, QByteArray &picture)
 {
     const Frame &frame = drawing.frame();
-    Bytes bytes(&picture, drawing);
+    PictureBytes bytes(&picture, drawing.progress());
     QPdfWriter writer(&bytes);
     writer.setPageSize(QPageSize(pageOf(frame.size), QString(), QPageSize::ExactMatch));
     writer.setPageMargins(QMarginsF());
@@ -293,11 +273,11 @@ Result drawPdf(Drawing &drawing, QByteArray &picture)
     writer.setCreator(QStringLiteral("Fishbone"));
     QPainter painter;
     if (!painter.begin(&writer))
-        return cannotEncode();
+        return drawing.progress().outcome(false);
     const double dots = writer.resolution() / screenResolution();
     painter.scale(dots, dots);
     const bool isPainted = drawing.paint(painter);
-    return drawing.outcome(painter.end() && isPainted);
+    return drawing.progress().outcome(painter.end() && isPainted);
 }
 
 Result drawAs(PictureExport::Format format, Drawing &drawing, QByteArray &picture)
@@ -389,6 +369,16 @@ double PictureExport::millimetresPerUnit()
     return millimetresPerInch / screenResolution();
 }
 
+bool PictureExport::paint(QGraphicsScene &scene, QPainter &painter, const QRectF &target,
+                          const QRectF &source,
+                          const std::function<bool(int done, int total)> &progress)
+{
+    const SceneExtent extent = extentOf(scene);
+    return ScenePainter(scene, extent, source, target).paint(painter, [&](int done) {
+        return !progress || progress(done, extent.items);
+    });
+}
+
 PictureExport::Result PictureExport::render(QGraphicsScene &scene, Format format,
                                             const PictureOptions &options, QByteArray &picture)
 {
@@ -406,7 +396,7 @@ PictureExport::Result PictureExport::render(QGraphicsScene &scene, Format format
     Drawing drawing(scene, extent, frame, options);
     Result result = drawAs(format, drawing, picture);
     if (result)
-        result = drawing.outcome(drawing.goesOn(drawing.steps()));
+        result = drawing.progress().finish();
     if (!result)
         picture.clear();
     return result;

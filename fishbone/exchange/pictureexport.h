@@ -16,6 +16,7 @@
 
 class QByteArray;
 class QGraphicsScene;
+class QPainter;
 
 /** How a picture of a drawing shall look. */
 struct PictureOptions
@@ -47,6 +48,8 @@ struct PictureOptions
  *
  * The scene is drawn as it stands, without the buttons that expand and contract bones: who does not
  * want the selection in the picture clears it before.
+ * An SVG of a diagram in the clear look is as DiagramPicture writes it: small, with links, ids and
+ * each icon once; of any other scene as the toolkit writes it.
  * A picture holds its items. The scene's background is left out in favour of
  * PictureOptions::background, and what a subclass of it paints in front of the items as well. Needs
  * a QGuiApplication.
@@ -121,6 +124,15 @@ public:
     static double roundedScale(double scale);
     /** The millimetres of a PDF's page for each picture unit. */
     static double millimetresPerUnit();
+
+    /**
+     * Paints the part @p source of what @p scene shows into @p target, which has the same shape, as
+     * into a picture: without buttons, and nothing behind it. Of what is not seen there nothing is
+     * painted. @p progress is as in PictureOptions; false when that ended the painting.
+     */
+    static bool paint(QGraphicsScene &scene, QPainter &painter, const QRectF &target,
+                      const QRectF &source,
+                      const std::function<bool(int done, int total)> &progress = {});
 
     /** Draws @p scene and stores the bytes of the picture in @p picture, empty on failure. */
     static Result render(QGraphicsScene &scene, Format format, const PictureOptions &options,

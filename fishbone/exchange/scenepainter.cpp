@@ -108,6 +108,17 @@ void unfold(Placed placed, std::vector<Placed> &waiting)
     put(true);
 }
 
+/** Whether @p placed shows anything in the part @p source. */
+bool isIn(const QRectF &source, const Placed &placed)
+{
+    if (placed.item->flags() & QGraphicsItem::ItemHasNoContents)
+        return false;
+    const QRectF covered = placed.toScene.mapRect(placed.item->boundingRect());
+    // A line along an axis covers nothing, and is seen all the same.
+    return covered.left() <= source.right() && covered.right() >= source.left() &&
+           covered.top() <= source.bottom() && covered.bottom() >= source.top();
+}
+
 void paintOne(QPainter &painter, const Placed &placed, const QTransform &view)
 {
     const QStyleOptionGraphicsItem option = optionFor(*placed.item);
@@ -192,8 +203,11 @@ bool ScenePainter::paintItems(QPainter &painter, const Goes &goes) const
         if (done % itemsBetweenQuestions == 0 && !goes(done))
             return false;
         const bool isSampled = done++ % m_step == 0;
-        if (isSampled && !(placed.item->flags() & QGraphicsItem::ItemHasNoContents))
-            paintOne(painter, placed, view);
+        if (!isSampled || !isIn(m_source, placed))
+            continue;
+        if (m_begins)
+            m_begins(*placed.item);
+        paintOne(painter, placed, view);
     }
     return true;
 }

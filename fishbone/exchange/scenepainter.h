@@ -7,6 +7,7 @@
 #include <QRectF>
 
 #include <functional>
+#include <utility>
 
 class QGraphicsItem;
 class QGraphicsScene;
@@ -40,10 +41,15 @@ public:
     ScenePainter(QGraphicsScene &scene, const SceneExtent &extent, const QRectF &source,
                  const QRectF &target);
 
+    /** Is told which item is painted next. */
+    using Begins = std::function<void(const QGraphicsItem &item)>;
+    /** Has @p begins follow the painting; not of a scene that is not plain. */
+    void setObserver(Begins begins) { m_begins = std::move(begins); }
     /** Paints only every so many items: a sample of the scene. */
     void setStep(int step) { m_step = step; }
 
-    /** Paints, and asks @p goes every now and then. False when that ended it. */
+    /** Paints what touches the part, and asks @p goes every now and then. False when that ended it.
+     */
     bool paint(QPainter &painter, const Goes &goes) const;
 
 private:
@@ -53,5 +59,6 @@ private:
     const SceneExtent &m_extent;
     QRectF m_source;
     QRectF m_target;
+    Begins m_begins;
     int m_step = 1;
 };

@@ -18,11 +18,12 @@ constexpr int dotsPerInch = 96;
 class SlideEngine : public QPaintEngine
 {
 public:
-    explicit SlideEngine(std::vector<SlideShape> *shapes)
+    SlideEngine(std::vector<SlideShape> *shapes, const QString *link)
         : QPaintEngine(PrimitiveTransform | PainterPaths | Antialiasing | AlphaBlend |
                        ConstantOpacity | PatternBrush | LinearGradientFill | RadialGradientFill |
                        PaintOutsidePaintEvent)
         , m_shapes(shapes)
+        , m_link(link)
     {
     }
 
@@ -80,6 +81,7 @@ public:
         const QFont font = item.font();
         SlideShape shape;
         shape.text = item.text();
+        shape.link = *m_link;
         shape.box = QRectF(0, 0, item.width() * scale, height * scale);
         shape.box.moveCenter(middle);
         shape.angle = std::atan2(m_transform.m12(), m_transform.m11()) * 180 / M_PI;
@@ -130,6 +132,7 @@ private:
     }
 
     std::vector<SlideShape> *m_shapes;
+    const QString *m_link;
     QTransform m_transform;
     QPen m_pen;
     QBrush m_brush;
@@ -140,7 +143,7 @@ private:
 
 SlideDevice::SlideDevice(const QSize &size)
     : m_size(size)
-    , m_engine(std::make_unique<SlideEngine>(&m_shapes))
+    , m_engine(std::make_unique<SlideEngine>(&m_shapes, &m_link))
 {
 }
 

@@ -22,6 +22,7 @@ struct SlideShape
     bool isDashed = false;
 
     QString text; ///< of a text box; empty for a drawn shape
+    QString link; ///< where the text leads; empty for nowhere
     QRectF box;   ///< around the text before it is turned about the middle
     double angle = 0;
     double fontSize = 0;
@@ -42,6 +43,8 @@ public:
     ~SlideDevice() override;
 
     QPaintEngine *paintEngine() const override;
+    /** Texts that are painted from now on lead to @p link. */
+    void setLink(const QString &link) { m_link = link; }
     /** What was painted, the undermost first. */
     const std::vector<SlideShape> &shapes() const { return m_shapes; }
 
@@ -50,6 +53,7 @@ protected:
 
 private:
     const QSize m_size;
+    QString m_link;
     std::vector<SlideShape> m_shapes;
     std::unique_ptr<QPaintEngine> m_engine;
 };

@@ -4,8 +4,10 @@
 #include <fishbone/exchange/slideexport.h>
 
 #include <fishbone/base/filereplacement.h>
+#include <fishbone/drawing/screenonly.h>
+#include <fishbone/exchange/linksafety.h>
 #include <fishbone/exchange/outlinewalk.h>
-#include <fishbone/exchange/pictureexport.h>
+#include <fishbone/exchange/scenepainter.h>
 #include <fishbone/exchange/slidedevice.h>
 #include <fishbone/exchange/slidepackage.h>
 
@@ -53,7 +55,6 @@ public:
         m_origin = QPointF((double(width) - drawing.width() * m_scale) / 2,
                            (double(slideHeight) - drawing.height() * m_scale) / 2);
         findAccents();
-        findLinks();
     }
 
     SlidePackage::Content content()
@@ -91,14 +92,6 @@ private:
                                 QStringLiteral("5B9BD5"), QStringLiteral("70AD47")};
         m_accents = colours.mid(0, int(usual.size()));
         m_accents += usual.mid(int(m_accents.size()));
-    }
-
-    void findLinks()
-    {
-        OutlineWalk::walk(m_head, [this](const TreeItem &subject, int) {
-            if (!subject.url().isEmpty())
-                m_links.insert(subject.title().simplified(), subject.url());
-        });
     }
 
     QPointF place(const QPointF &point) const
@@ -201,17 +194,24 @@ private:
                line(shape) + "</p:spPr></p:sp>";
     }
 
-    QByteArray link(const QString &text)
+    /** A relation to where @p link leads, once each. */
+    QByteArray relationTo(const QString &link)
     {
-        const QString url = m_links.value(text.simplified());
-        if (url.isEmpty())
-            return QByteArray();
-        const QByteArray id = "rId" + QByteArray::number(++m_relation);
+        QByteArray &id = m_linkIds[link];
+        if (!id.isEmpty())
+            return id;
+        id = "rId" + QByteArray::number(++m_relation);
         m_relations += "<Relationship Id=\"" + id +
                        "\" Type=\"http://schemas.openxmlformats.org/officeDocument/2006/"
                        "relationships/hyperlink\" Target=\"" +
-                       escaped(url) + "\" TargetMode=\"External\"/>";
-        return "<a:hlinkClick r:id=\"" + id + "\"/>";
+                       escaped(link) + "\" TargetMode=\"External\"/>";
+        return id;
+    }
+
+    QByteArray linkOf(const SlideShape &shape)
+    {
+        const QString link = LinkSafety::webOrMail(shape.link);
+        return link.isEmpty() ? QByteArray() : "<a:hlinkClick r:id=\"" + relationTo(link) + "\"/>";
     }
 
     QByteArray textBox(const SlideShape &shape)
@@ -231,7 +231,7 @@ private:
                measure(size) + "\"" + (shape.isBold ? " b=\"1\"" : "") +
                (shape.isItalic ? " i=\"1\"" : "") + ">" + colour(shape.colour) +
                "<a:latin typeface=\"" + family + "\"/><a:ea typeface=\"" + family + "\"/>" +
-               link(shape.text) + "</a:rPr><a:t>" + escaped(shape.text) +
+               linkOf(shape) + "</a:rPr><a:t>" + escaped(shape.text) +
                "</a:t></a:r></a:p></p:txBody></p:sp>";
     }
 
@@ -307,7 +307,7 @@ private:
     double m_scale = 1;
     QPointF m_origin;
     QStringList m_accents;
-    QHash<QString, QString> m_links; ///< by the titles
+    QHash<QString, QByteArray> m_linkIds; ///< of their relations
     QByteArray m_relations;
     int m_relation = 2; ///< the layout and the notes come first
     int m_id = 2;       ///< the page and the group come first
@@ -320,10 +320,18 @@ bool SlideExport::isSlide(const QString &fileName)
     return fileName.endsWith(QLatin1String(".pptx"), Qt::CaseInsensitive);
 }
 
+SlideExport::Aspect SlideExport::aspectFor(const QSizeF &page)
+{
+    constexpr double betweenAspects = 1.5;
+    return !page.isEmpty() && page.width() < betweenAspects * page.height() ? Aspect::Narrow
+                                                                            : Aspect::Wide;
+}
+
 QByteArray SlideExport::presentation(QGraphicsScene &scene, const TreeItem &head, Aspect aspect,
                                      QString *error)
 {
-    const QRectF drawing = PictureExport::visibleRect(scene);
+    const SceneExtent extent = extentOf(scene);
+    const QRectF &drawing = extent.rect;
     if (drawing.isEmpty()) {
         if (error)
             *error = tr("there is nothing to draw");
@@ -331,11 +339,12 @@ QByteArray SlideExport::presentation(QGraphicsScene &scene, const TreeItem &head
     }
     SlideDevice device(drawing.size().toSize());
     QPainter painter(&device);
-    const QRectF target(drawing);
-    const QBrush before = scene.backgroundBrush();
-    scene.setBackgroundBrush(Qt::NoBrush); // a slide has one of its own
-    scene.render(&painter, target, drawing, Qt::IgnoreAspectRatio);
-    scene.setBackgroundBrush(before);
+    ScenePainter items(scene, extent, drawing, drawing);
+    items.setObserver([&device](const QGraphicsItem &item) {
+        const TreeItem *const subject = subjectOfTitle(item);
+        device.setLink(subject ? subject->url() : QString());
+    });
+    items.paint(painter, [](int) { return true; });
     painter.end();
     const qint64 width = aspect == Aspect::Wide ? wideSlide : narrowSlide;
     SlideBuilder builder(device.shapes(), head, drawing, width);

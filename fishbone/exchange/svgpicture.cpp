@@ -3,11 +3,11 @@
 
 #include <fishbone/exchange/svgpicture.h>
 
-#include <fishbone/drawing/clearpicture.h>
+#include <fishbone/drawing/describedpicture.h>
+#include <fishbone/exchange/linksafety.h>
 #include <fishbone/exchange/svgsymbol.h>
 
 #include <QIODevice>
-#include <QUrl>
 
 #include <algorithm>
 
@@ -117,30 +117,19 @@ QByteArray SvgPicture::escaped(const QString &text)
     return out.toUtf8();
 }
 
-QString SvgPicture::safeLink(const QString &link)
-{
-    const QUrl url(link.trimmed());
-    const QString scheme = url.scheme(); // in lower case
-    const bool isWeb = scheme == QLatin1String("http") || scheme == QLatin1String("https");
-    if (!url.isValid() || (isWeb && url.host().isEmpty()))
-        return QString();
-    if (!isWeb && scheme != QLatin1String("mailto"))
-        return QString();
-    return QString::fromLatin1(url.toEncoded());
-}
-
-bool SvgPicture::write(const ClearPicture &picture, const SvgPictureOptions &options,
+bool SvgPicture::write(const DescribedPicture &picture, const SvgPictureOptions &options,
                        QIODevice &device)
 {
     SvgPicture writer(device);
     writer.begin(picture, options);
-    picture.describe(writer);
+    if (!picture.describe(writer))
+        return false;
     writer.put("</svg>\n");
     writer.flush();
     return writer.m_isGood;
 }
 
-void SvgPicture::begin(const ClearPicture &picture, const SvgPictureOptions &options)
+void SvgPicture::begin(const DescribedPicture &picture, const SvgPictureOptions &options)
 {
     m_isPart = options.isPart;
     const qreal m = options.margin;
@@ -153,8 +142,7 @@ void SvgPicture::begin(const ClearPicture &picture, const SvgPictureOptions &opt
         point(rect.topLeft()) + ' ' + number(rect.width()) + ' ' + number(rect.height()) +
         "\" width=\"" + number(size.width()) + "\" height=\"" + number(size.height()) +
         "\" role=\"" + (options.isPart ? "tree" : "img") +
-        "\" stroke-linecap=\"round\" font-family=\"&#39;" +
-        escaped(picture.fonts().ofLevel(2).font().family()) +
+        "\" stroke-linecap=\"round\" font-family=\"&#39;" + escaped(picture.family()) +
         "&#39;, &#39;Noto Sans&#39;, &#39;Noto Sans CJK SC&#39;, &#39;DejaVu Sans&#39;,"
         " sans-serif\">\n");
     if (!options.title.isEmpty())
@@ -162,11 +150,9 @@ void SvgPicture::begin(const ClearPicture &picture, const SvgPictureOptions &opt
     if (!options.description.isEmpty())
         put("<desc>" + escaped(options.description) + "</desc>\n");
     put("<defs>\n");
-    for (const ClearSubjectLook &look : picture.content().looks)
-        defineIcon(look.icon);
-    for (const ClearMeaning &symbol : picture.content().symbols)
-        defineIcon(symbol.icon);
-    defineIcon(picture.content().linkIcon);
+    const QStringList icons = picture.icons();
+    for (const QString &icon : icons)
+        defineIcon(icon);
     put("</defs>\n");
     if (options.background.isValid() && options.background.alpha() > 0)
         put("<rect x=\"" + number(rect.x()) + "\" y=\"" + number(rect.y()) + "\" width=\"" +
@@ -216,7 +202,7 @@ QByteArray SvgPicture::idOf(int index, const QString &wanted)
 
 void SvgPicture::beginSubject(int index, const PictureSubject &subject)
 {
-    m_link = safeLink(subject.link);
+    m_link = LinkSafety::webOrMail(subject.link);
     put("<g id=\"" + idOf(index, subject.id) + '"' + (m_isPart ? roleOf(subject) : QByteArray()) +
         '>');
 }

@@ -11,7 +11,7 @@
 #include <QSet>
 #include <QSizeF>
 
-class ClearPicture;
+class DescribedPicture;
 class QIODevice;
 
 /** What stands in the file of a vector picture besides the drawing. */
@@ -38,14 +38,13 @@ struct SvgPictureOptions
 class SvgPicture : public PictureSink
 {
 public:
-    /** Writes @p picture to @p device, which is open. False when that could not be written. */
-    static bool write(const ClearPicture &picture, const SvgPictureOptions &options,
+    /** Writes @p picture to @p device, which is open. False when that could not be written, or when
+     * whoever follows the picture has ended it. */
+    static bool write(const DescribedPicture &picture, const SvgPictureOptions &options,
                       QIODevice &device);
 
     /** @p text as it may stand in XML, between tags as in attributes. */
     static QByteArray escaped(const QString &text);
-    /** @p link when it leads to the web or to mail, else nothing. */
-    static QString safeLink(const QString &link);
 
     void beginSubject(int index, const PictureSubject &subject) override;
     void endSubject() override;
@@ -63,7 +62,7 @@ private:
     {
     }
 
-    void begin(const ClearPicture &picture, const SvgPictureOptions &options);
+    void begin(const DescribedPicture &picture, const SvgPictureOptions &options);
     void defineIcon(const QString &file);
     void put(const QByteArray &bytes);
     void flush();

@@ -20,6 +20,7 @@
 #include <QXmlStreamReader>
 #include <QtTest>
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -58,8 +59,21 @@ private Q_SLOTS:
     void shouldTellWhereTextsStand();
     void shouldKeepTheFileThatCannotBeReplaced();
     void shouldSayWhenAPictureIsTooLarge();
+    void shouldReportWhatIsDone_data();
+    void shouldReportWhatIsDone();
+    void shouldKeepTheOldFileWhenCancelled_data();
+    void shouldKeepTheOldFileWhenCancelled();
+    void shouldEndPaintingWhenCancelled();
 
 private:
+    /// Writes the sample, with \a isPage as a page of paper.
+    PictureExport::Result write(const QString &path, bool isPage,
+                                const PictureOptions &options) const
+    {
+        const DiagramPicture picture(head());
+        return isPage ? picture.writePage(path, QSizeF(297, 210), 10, options)
+                      : picture.write(path, options);
+    }
     const TreeItem *head() const { return m_root.childAtIndex(0); }
 
     TreeItem m_root;
@@ -278,6 +292,77 @@ void TestDiagramPicture::shouldSayWhenAPictureIsTooLarge()
     QVERIFY(picture.write(m_folder.filePath(QStringLiteral("large.svg")), options));
     options.scale = 0;
     QVERIFY(picture.write(name, options).error == PictureExport::Error::BadOptions);
+}
+
+void TestDiagramPicture::shouldReportWhatIsDone_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<bool>("isPage");
+    for (const char *suffix : {"png", "svg", "pdf", "html"})
+        QTest::newRow(suffix) << QStringLiteral("progress.") + QLatin1String(suffix) << false;
+    QTest::newRow("page") << QStringLiteral("page.pdf") << true;
+}
+
+void TestDiagramPicture::shouldReportWhatIsDone()
+{
+    QFETCH(QString, name);
+    QFETCH(bool, isPage);
+    QList<int> steps;
+    int whole = 0;
+    PictureOptions options;
+    options.progress = [&](int done, int total) {
+        steps.append(done);
+        whole = total;
+        return true;
+    };
+    QVERIFY(write(m_folder.filePath(name), isPage, options));
+    QVERIFY(std::is_sorted(steps.cbegin(), steps.cend()));
+    QVERIFY(steps.size() >= 2);
+    QCOMPARE(steps.constFirst(), 0);
+    QCOMPARE(steps.constLast(), whole);
+}
+
+void TestDiagramPicture::shouldKeepTheOldFileWhenCancelled_data()
+{
+    shouldReportWhatIsDone_data();
+}
+
+/// Whenever it is cancelled: at each report that there is.
+void TestDiagramPicture::shouldKeepTheOldFileWhenCancelled()
+{
+    QFETCH(QString, name);
+    QFETCH(bool, isPage);
+    const QString path = m_folder.filePath(name);
+    int reports = 0;
+    PictureOptions options;
+    options.progress = [&reports](int, int) {
+        ++reports;
+        return true;
+    };
+    QVERIFY(write(path, isPage, options));
+    const int all = reports;
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("old");
+    file.close();
+    for (int allowed : {0, 1, all / 2, all - 1}) {
+        options.progress = [&allowed](int, int) { return allowed-- > 0; };
+        const auto result = write(path, isPage, options);
+        QVERIFY(result.error == PictureExport::Error::Cancelled);
+        QCOMPARE(result.reason, QStringLiteral("it was cancelled"));
+        QCOMPARE(contentOf(path), QByteArray("old"));
+    }
+}
+
+void TestDiagramPicture::shouldEndPaintingWhenCancelled()
+{
+    const DiagramPicture picture(head());
+    QImage image(200, 200, QImage::Format_RGB32);
+    QPainter painter(&image);
+    const QRectF whole(QPointF(), picture.size());
+    const QRectF target(0, 0, 200, 200);
+    QVERIFY(!picture.paint(painter, target, whole, [](int, int) { return false; }));
+    QVERIFY(picture.paint(painter, target, whole, [](int, int) { return true; }));
 }
 
 FISHBONE_TEST(TestDiagramPicture)

@@ -3,6 +3,7 @@
 
 #include <tests/exchange/exchangefixture.h>
 #include <tests/program/testprogram.h>
+#include <tests/support/editorfixture.h>
 
 #include <fishbone/exchange/importedtree.h>
 #include <fishbone/exchange/slideexport.h>
@@ -75,7 +76,10 @@ private Q_SLOTS:
     void shouldPlaceTheDrawingInTheMiddle_data();
     void shouldPlaceTheDrawingInTheMiddle();
     void shouldTurnTextsAsTheyAreDrawn();
+    void shouldKeepLinks_data();
     void shouldKeepLinks();
+    void shouldSuitThePage_data();
+    void shouldSuitThePage();
     void shouldTakeTheColoursIntoTheTheme();
     void shouldDescribeTheDrawing();
     void shouldPutTheOutlineIntoTheNotes();
@@ -202,13 +206,63 @@ void TestSlideExport::shouldTurnTextsAsTheyAreDrawn()
     QVERIFY2(slide.contains("rot=\"1800000\""), slide.constData());
 }
 
+void TestSlideExport::shouldKeepLinks_data()
+{
+    QTest::addColumn<int>("look");
+    QTest::newRow("clear") << int(DiagramLook::Clear);
+    QTest::newRow("classic") << int(DiagramLook::Classic);
+}
+
+/// Every line of a title, and nothing else, leads to where its subject does.
 void TestSlideExport::shouldKeepLinks()
 {
-    m_head->setUrl(QStringLiteral("https://example.org/?a=1&b=2"));
-    const QByteArray bytes = SlideExport::presentation(*m_scene, *m_head);
-    QVERIFY(partOf(bytes, slidePart).contains("<a:hlinkClick r:id=\"rId3\"/>"));
-    QVERIFY(partOf(bytes, QStringLiteral("ppt/slides/_rels/slide1.xml.rels"))
-                .contains("Target=\"https://example.org/?a=1&amp;b=2\" TargetMode=\"External\""));
+    QFETCH(int, look);
+    TestSupport::EditorFixture fish(QStringLiteral("Effect[Man[Twin],Machine[Twin too]]"));
+    TreeItem *const linked = fish.subject(QStringLiteral("Twin too"));
+    linked->setUrl(QStringLiteral("https://example.org/?a=1&b=2"));
+    linked->setTitle(QStringLiteral("Twin\nof somebody"));
+    fish.subject(QStringLiteral("Effect"))->setUrl(QStringLiteral("file:///home/somebody"));
+    fish.editor.setLook(DiagramLook::Kind(look));
+    fish.editor.updateFish(true);
+    fish.editor.expandAll();
+    const QByteArray bytes =
+        SlideExport::presentation(*fish.editor.scene(), *fish.subject(QStringLiteral("Effect")));
+    const QByteArray slide = partOf(bytes, slidePart);
+    static const QRegularExpression run(
+        QStringLiteral("<a:hlinkClick r:id=\"rId3\"/></a:rPr><a:t>([^<]*)</a:t>"));
+    QStringList lines;
+    auto matches = run.globalMatch(QString::fromUtf8(slide));
+    while (matches.hasNext())
+        lines << matches.next().captured(1);
+    if (look == DiagramLook::Clear)
+        QCOMPARE(lines, (QStringList{QStringLiteral("Twin"), QStringLiteral("of somebody")}));
+    else
+        QVERIFY2(lines.join(QLatin1Char(' ')).startsWith(QStringLiteral("Twin")),
+                 slide.constData());
+    QCOMPARE(slide.count("hlinkClick"), int(lines.size()));
+    const QByteArray relations = partOf(bytes, QStringLiteral("ppt/slides/_rels/slide1.xml.rels"));
+    QVERIFY(
+        relations.contains("Target=\"https://example.org/?a=1&amp;b=2\" TargetMode=\"External\""));
+    QCOMPARE(relations.count("relationships/hyperlink"), 1);
+}
+
+void TestSlideExport::shouldSuitThePage_data()
+{
+    QTest::addColumn<QSizeF>("page");
+    QTest::addColumn<bool>("isNarrow");
+    QTest::newRow("none") << QSizeF() << false;
+    QTest::newRow("a screen") << QSizeF(1920, 1080) << false;
+    QTest::newRow("an old screen") << QSizeF(1024, 768) << true;
+    QTest::newRow("A4") << QSizeF(297, 210) << true;
+    QTest::newRow("upright") << QSizeF(210, 297) << true;
+    QTest::newRow("three to two") << QSizeF(300, 200) << false;
+}
+
+void TestSlideExport::shouldSuitThePage()
+{
+    QFETCH(QSizeF, page);
+    QFETCH(bool, isNarrow);
+    QVERIFY((SlideExport::aspectFor(page) == SlideExport::Aspect::Narrow) == isNarrow);
 }
 
 void TestSlideExport::shouldTakeTheColoursIntoTheTheme()

@@ -115,27 +115,6 @@ QSet<QString> namesIn(const QByteArray &svg)
     return names;
 }
 
-/// How alike two pictures are: the share of pixels that differ by no more than a little, after both
-/// are made small, so that the renderers' edges do not count.
-qreal likeness(const QImage &one, const QImage &other)
-{
-    const QSize size(one.width() / 4, one.height() / 4);
-    const QImage a = one.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
-                         .convertToFormat(QImage::Format_RGB32);
-    const QImage b = other.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
-                         .convertToFormat(QImage::Format_RGB32);
-    int alike = 0;
-    for (int y = 0; y < size.height(); ++y) {
-        for (int x = 0; x < size.width(); ++x) {
-            const QRgb p = a.pixel(x, y);
-            const QRgb q = b.pixel(x, y);
-            alike += qAbs(qRed(p) - qRed(q)) < 48 && qAbs(qGreen(p) - qGreen(q)) < 48 &&
-                     qAbs(qBlue(p) - qBlue(q)) < 48;
-        }
-    }
-    return qreal(alike) / (size.width() * size.height());
-}
-
 } // namespace
 
 class TestSvgPicture : public QObject
@@ -429,7 +408,7 @@ void TestSvgPicture::shouldLookAlikeInOtherRenderers()
         QVERIFY(shown.save(QString::fromLocal8Bit(pictures) + u'/' + program + u'-' + name +
                            QStringLiteral(".png")));
     QVERIFY(qAbs(shown.width() - expected.width()) <= 1);
-    const qreal alike = likeness(expected, shown);
+    const qreal alike = ClearPictures::likeness(expected, shown);
     qInfo("%.4f alike", alike);
     QVERIFY2(alike > 0.98, qPrintable(QString::number(alike)));
 }

@@ -49,4 +49,25 @@ inline QImage paint(const ClearPicture &picture, qreal scale)
     return image;
 }
 
+/// How alike two pictures are: the share of pixels that differ by no more than a little, after both
+/// are made small, so that the renderers' edges do not count.
+inline qreal likeness(const QImage &one, const QImage &other)
+{
+    const QSize size(one.width() / 4, one.height() / 4);
+    const QImage a = one.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
+                         .convertToFormat(QImage::Format_RGB32);
+    const QImage b = other.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
+                         .convertToFormat(QImage::Format_RGB32);
+    int alike = 0;
+    for (int y = 0; y < size.height(); ++y) {
+        for (int x = 0; x < size.width(); ++x) {
+            const QRgb p = a.pixel(x, y);
+            const QRgb q = b.pixel(x, y);
+            alike += qAbs(qRed(p) - qRed(q)) < 48 && qAbs(qGreen(p) - qGreen(q)) < 48 &&
+                     qAbs(qBlue(p) - qBlue(q)) < 48;
+        }
+    }
+    return qreal(alike) / (size.width() * size.height());
+}
+
 } // namespace ClearPictures

@@ -1,0 +1,30 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#include <fishbone/exchange/pictureprogress.h>
+
+#include <algorithm>
+
+bool PictureProgress::goesOn(int done)
+{
+    m_done = std::max(m_done, done);
+    if (m_options.progress && !m_isCancelled)
+        m_isCancelled = !m_options.progress(m_done, m_steps);
+    return !m_isCancelled;
+}
+
+PictureExport::Result PictureProgress::outcome(bool isComplete) const
+{
+    using Error = PictureExport::Error;
+    if (m_isCancelled)
+        return {Error::Cancelled, PictureExport::tr("it was cancelled")};
+    return isComplete ? PictureExport::Result()
+                      : PictureExport::Result{Error::CannotWrite,
+                                              PictureExport::tr("the drawing cannot be encoded")};
+}
+
+PictureExport::Result PictureProgress::finish()
+{
+    goesOn(m_steps);
+    return outcome(true);
+}
