@@ -864,10 +864,6 @@ What is left out, or put where it can be kept, is listed on the error output.</t
         <translation>the scale, the size or the margin makes no picture</translation>
     </message>
     <message>
-        <source>it cannot be written</source>
-        <translation>it cannot be written</translation>
-    </message>
-    <message>
         <source>there is not enough memory for it</source>
         <translation>there is not enough memory for it</translation>
     </message>
@@ -1312,6 +1308,10 @@ What is left out, or put where it can be kept, is listed on the error output.</t
     <message>
         <source>Not copied as a picture: %1</source>
         <translation>Not copied as a picture: %1</translation>
+    </message>
+    <message>
+        <source>Nothing was printed</source>
+        <translation>Nothing was printed</translation>
     </message>
 </context>
 <context>
@@ -2488,6 +2488,14 @@ Do you want to save your changes?</translation>
     <message>
         <source>Grey</source>
         <translation>Grey</translation>
+    </message>
+    <message>
+        <source>Printing…</source>
+        <translation>Printing…</translation>
+    </message>
+    <message>
+        <source>%1, at %2 % so that no title is cut</source>
+        <translation>%1, at %2 % so that no title is cut</translation>
     </message>
 </context>
 <context>

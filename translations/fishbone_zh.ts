@@ -862,10 +862,6 @@ What is left out, or put where it can be kept, is listed on the error output.</s
         <translation>以此比例、尺寸或边距无法生成图片</translation>
     </message>
     <message>
-        <source>it cannot be written</source>
-        <translation>无法写入</translation>
-    </message>
-    <message>
         <source>there is not enough memory for it</source>
         <translation>内存不足</translation>
     </message>
@@ -1310,6 +1306,10 @@ What is left out, or put where it can be kept, is listed on the error output.</s
     <message>
         <source>Not copied as a picture: %1</source>
         <translation>未能复制为图片：%1</translation>
+    </message>
+    <message>
+        <source>Nothing was printed</source>
+        <translation>没有打印任何内容</translation>
     </message>
 </context>
 <context>
@@ -2481,6 +2481,14 @@ Do you want to save your changes?</source>
     <message>
         <source>Grey</source>
         <translation>灰色</translation>
+    </message>
+    <message>
+        <source>Printing…</source>
+        <translation>正在打印…</translation>
+    </message>
+    <message>
+        <source>%1, at %2 % so that no title is cut</source>
+        <translation>%1，比例 %2 %，以免标题被截断</translation>
     </message>
 </context>
 <context>

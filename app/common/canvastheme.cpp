@@ -102,16 +102,15 @@ void CanvasTheme::storeStyle()
         Q_EMIT message(tr("The style is not kept: %1 cannot be written").arg(path));
 }
 
-CanvasTheme::Paper::Paper(CanvasTheme *theme, FishEditor *editor)
+CanvasTheme::Paper::Paper(const CanvasTheme *theme)
     : m_theme(theme)
-    , m_wasDark(theme->m_isDark)
 {
-    if (m_wasDark)
-        m_theme->show(false);
-    editor->view()->setBackgroundBrush(Qt::white);
+    if (m_theme->m_isDark)
+        SpearStyle::global()->read(m_theme->m_light);
 }
 
 CanvasTheme::Paper::~Paper()
 {
-    m_theme->show(m_wasDark);
+    if (m_theme->m_isDark)
+        SpearStyle::global()->read(m_theme->m_dark);
 }

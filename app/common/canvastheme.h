@@ -38,19 +38,21 @@ public:
     /** Lets the user edit the style of all bones without a style of their own, and keeps it. */
     void editStyle(QWidget *parent);
 
-    /** Shows the drawing of one editor as on paper while it lives, whatever the palette: to print
-     * or export it. */
+    /**
+     * Gives bones without a style of their own the one for paper while it lives, whatever the
+     * palette: for what is laid out and painted meanwhile to print or export it. The canvases stay
+     * as they are, and nothing of them may be painted before it is gone.
+     */
     class Paper
     {
         Q_DISABLE_COPY(Paper)
 
     public:
-        Paper(CanvasTheme *theme, FishEditor *editor);
+        explicit Paper(const CanvasTheme *theme);
         ~Paper();
 
     private:
-        CanvasTheme *m_theme;
-        bool m_wasDark;
+        const CanvasTheme *m_theme;
     };
 
 Q_SIGNALS:

@@ -3,19 +3,16 @@
 
 #include <app/export/drawingprinter.h>
 
-#include <app/common/busycursor.h>
-
 #include <QCoreApplication>
 #include <QPainter>
 #include <QPrinter>
 
+#include <algorithm>
 #include <cmath>
-#include <optional>
 #include <utility>
 
 namespace {
 
-constexpr int manyTexts = 5000; ///< take a second or so
 constexpr double screenDotsPerInch = 96;
 constexpr double millimetresPerInch = 25.4;
 constexpr double footerInches = 0.25;
@@ -52,20 +49,27 @@ DrawingPrinter::DrawingPrinter(PrintedDrawing drawing, QString title)
 {
 }
 
+/** What is put on paper: the drawing with the width of its lines. */
+QRectF DrawingPrinter::drawn() const
+{
+    return m_drawing.extent.adjusted(-edge, -edge, edge, edge);
+}
+
 /** The size of a page for the drawing, in scene units at their size on the screen. */
-QSizeF DrawingPrinter::paperOf(const QPrinter &printer, bool several) const
+QSizeF DrawingPrinter::paperOf(const QPrinter &printer) const
 {
     const QRectF page = printer.pageRect(QPrinter::DevicePixel);
-    const double footer = several ? footerInches * printer.resolution() : 0;
+    const double footer = m_layout.fit == Fit::Page ? 0 : footerInches * printer.resolution();
     return QSizeF(page.width(), page.height() - footer) / dotsPerUnit(printer);
 }
 
-double DrawingPrinter::factor(const QRectF &drawing, const QSizeF &paper) const
+/** How large the drawing would become if titles might be cut. */
+double DrawingPrinter::chosenScaleOn(const QSizeF &paper) const
 {
-    const double byWidth = paper.width() / drawing.width();
+    const double byWidth = paper.width() / drawn().width();
     switch (m_layout.fit) {
     case Fit::Page:
-        return qMin(byWidth, paper.height() / drawing.height());
+        return qMin(byWidth, paper.height() / drawn().height());
     case Fit::Width:
         return byWidth;
     case Fit::Scale:
@@ -74,23 +78,47 @@ double DrawingPrinter::factor(const QRectF &drawing, const QSizeF &paper) const
     return m_layout.scale;
 }
 
-PageGrid DrawingPrinter::pages(const QPrinter &printer) const
+/** The largest factor with which each title has room on one page: on more it would be nowhere
+ * whole. */
+double DrawingPrinter::factorForTitles(const QSizeF &paper) const
 {
-    if (m_drawing.extent.isEmpty())
-        return {};
-    const QRectF drawing = m_drawing.extent.adjusted(-edge, -edge, edge, edge);
-    const bool isSeveral = m_layout.fit != Fit::Page;
-    const QSizeF paper = paperOf(printer, isSeveral);
-    const double scale = factor(drawing, paper);
-    const QSizeF part = paper / scale;
-    if (!(part.width() > 0 && part.height() > 0))
-        return {};
-    const double repeated =
-        isSeveral ? overlap / millimetresPerInch * screenDotsPerInch / scale : 0;
-    return PageGrid(drawing, part, repeated, m_drawing.texts, maximalPages);
+    QSizeF largest(1, 1);
+    for (const QRectF &text : m_drawing.texts)
+        largest = largest.expandedTo(text.size());
+    largest += QSizeF(PageGrid::room, PageGrid::room);
+    return qMin(paper.width() / largest.width(), paper.height() / largest.height());
 }
 
-bool DrawingPrinter::print(QPrinter *printer) const
+double DrawingPrinter::scaleOn(const QPrinter &printer) const
+{
+    const QSizeF paper = paperOf(printer);
+    if (m_drawing.extent.isEmpty() || paper.isEmpty())
+        return 0;
+    const double chosen = chosenScaleOn(paper);
+    const QSizeF needed = drawn().size() * chosen;
+    const bool isOnePage = m_layout.fit == Fit::Page ||
+                           (needed.width() <= paper.width() && needed.height() <= paper.height());
+    return isOnePage ? chosen : qMin(chosen, factorForTitles(paper));
+}
+
+bool DrawingPrinter::isReducedOn(const QPrinter &printer) const
+{
+    const double scale = scaleOn(printer);
+    return scale > 0 && scale < chosenScaleOn(paperOf(printer));
+}
+
+PageGrid DrawingPrinter::pages(const QPrinter &printer) const
+{
+    const double scale = scaleOn(printer);
+    if (!(scale > 0))
+        return {};
+    const QSizeF part = paperOf(printer) / scale;
+    const double repeated =
+        m_layout.fit == Fit::Page ? 0 : overlap / millimetresPerInch * screenDotsPerInch / scale;
+    return PageGrid(drawn(), part, repeated, m_drawing.texts, maximalPages);
+}
+
+bool DrawingPrinter::print(QPrinter *printer, const Progress &progress) const
 {
     const PageGrid grid = pages(*printer);
     const int first = qMax(printer->fromPage(), 1);
@@ -100,19 +128,24 @@ bool DrawingPrinter::print(QPrinter *printer) const
     QPainter painter;
     if (!painter.begin(printer))
         return false;
-    std::optional<BusyCursor> busy;
-    if (m_drawing.texts.size() > manyTexts)
-        busy.emplace();
-    for (int number = first; number <= last; ++number) {
-        if (number > first && !printer->newPage())
-            return false;
-        paintPage(&painter, grid, number - 1);
+    constexpr int steps = 1000; // of a page
+    bool goesOn = true;
+    for (int number = first; number <= last && goesOn; ++number) {
+        const auto ofAll = [&](int done, int total) {
+            return !progress || progress((number - first) * steps + done * steps / qMax(total, 1),
+                                         (last - first + 1) * steps);
+        };
+        goesOn =
+            (number == first || printer->newPage()) && paintPage(&painter, grid, number - 1, ofAll);
     }
-    return painter.end();
+    if (!goesOn)
+        printer->abort();
+    return painter.end() && goesOn;
 }
 
 /** Paints page @p number as large as the paper, and of several what helps to put them together. */
-void DrawingPrinter::paintPage(QPainter *painter, const PageGrid &grid, int number) const
+bool DrawingPrinter::paintPage(QPainter *painter, const PageGrid &grid, int number,
+                               const Progress &progress) const
 {
     const QPaintDevice *const page = painter->device();
     QRectF area(0, 0, page->width(), page->height());
@@ -120,15 +153,17 @@ void DrawingPrinter::paintPage(QPainter *painter, const PageGrid &grid, int numb
     const QRectF whole = area;
     if (isOneOfSeveral)
         area.setBottom(area.bottom() - footerInches * page->logicalDpiY());
-    m_drawing.paint(*painter, area, grid.part(number));
+    if (!m_drawing.paint(*painter, area, grid.part(number), progress))
+        return false;
     if (grid.count() == 1)
-        return;
+        return true;
     painter->save();
     painter->setPen(QPen(Qt::darkGray, markInches * page->logicalDpiX()));
     paintMarks(painter, grid, number, area);
     paintFooter(painter, grid, number,
                 QRectF(QPointF(whole.left(), area.bottom()), whole.bottomRight()));
     painter->restore();
+    return true;
 }
 
 /** Marks at the ends of the edges along which the page is cut, so that the next one fits there. */

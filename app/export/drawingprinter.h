@@ -40,18 +40,29 @@ public:
     void setLayout(const Layout &layout) { m_layout = layout; }
     Layout layout() const { return m_layout; }
 
+    /** How large the drawing becomes on pages like those of @p printer; 1 is the size on the
+     * screen. Smaller than was chosen where a page has no room for the largest title. 0 when there
+     * is nothing to draw. */
+    double scaleOn(const QPrinter &printer) const;
+    /** Whether it becomes smaller than was chosen, so that each title has room. */
+    bool isReducedOn(const QPrinter &printer) const;
     /** What pages like those of @p printer show; none when there is nothing to draw or when there
      * would be too many. */
     PageGrid pages(const QPrinter &printer) const;
 
-    /** Paints the pages, those alone that the printer is told to print. False when there are none.
-     */
-    bool print(QPrinter *printer) const;
+    /** Is told how much is printed; false ends it, and the printer drops what it has. */
+    using Progress = PrintedDrawing::Progress;
+    /** Paints the pages, those alone that the printer is told to print. False when there are none,
+     * or when @p progress ended it. */
+    bool print(QPrinter *printer, const Progress &progress = {}) const;
 
 private:
-    double factor(const QRectF &drawing, const QSizeF &paper) const;
-    QSizeF paperOf(const QPrinter &printer, bool several) const;
-    void paintPage(QPainter *painter, const PageGrid &grid, int number) const;
+    QRectF drawn() const;
+    double chosenScaleOn(const QSizeF &paper) const;
+    double factorForTitles(const QSizeF &paper) const;
+    QSizeF paperOf(const QPrinter &printer) const;
+    bool paintPage(QPainter *painter, const PageGrid &grid, int number,
+                   const Progress &progress) const;
     void paintMarks(QPainter *painter, const PageGrid &grid, int number, const QRectF &area) const;
     void paintFooter(QPainter *painter, const PageGrid &grid, int number, const QRectF &line) const;
 

@@ -7,8 +7,10 @@
 #include <app/common/busycursor.h>
 #include <app/common/canvastheme.h>
 #include <app/common/plainbox.h>
+#include <app/common/updatesheld.h>
 #include <app/common/workprogress.h>
 #include <app/diagram/diagramsession.h>
+#include <app/diagram/pagesize.h>
 #include <app/export/clearexport.h>
 #include <app/export/exportdialog.h>
 #include <app/export/picturecopy.h>
@@ -51,22 +53,15 @@ QStringList foreignSuffixes()
     return suffixes;
 }
 
-/** Keeps a window from being painted as long as it lives. */
-class UpdatesHeld
+/** The shape of the slide that suits what @p document was arranged for; the wide one for a screen.
+ */
+SlideExport::Aspect aspectOf(const FishInfo &document)
 {
-    Q_DISABLE_COPY(UpdatesHeld)
-
-public:
-    explicit UpdatesHeld(QWidget *window)
-        : m_window(window)
-    {
-        m_window->setUpdatesEnabled(false);
-    }
-    ~UpdatesHeld() { m_window->setUpdatesEnabled(true); }
-
-private:
-    QWidget *m_window;
-};
+    const DiagramView view = DiagramView::of(document.view(), DiagramView::usual());
+    const auto page = PageSize::of(view.page);
+    const bool isArranged = page && view.look == DiagramLook::Clear;
+    return SlideExport::aspectFor(isArranged ? page->size : QSizeF());
+}
 
 } // namespace
 
@@ -127,7 +122,11 @@ void ExportCommands::exportPicture()
         source.setWish(wish);
         return source.extent();
     };
-    const auto paint = [&source](QPainter &painter, const QRectF &target) {
+    const auto paint = [this, &source](QPainter &painter, const QRectF &target, bool isLight) {
+        const BusyCursor busy(m_session->container());
+        std::optional<CanvasTheme::Paper> paper;
+        if (isLight)
+            paper.emplace(m_theme);
         source.paint(painter, target);
     };
     ExportDialog dialog(proposedName(QStringLiteral("png")),
@@ -153,22 +152,15 @@ PictureExport::Result ExportCommands::writePicture(PictureSource &source,
     PictureOptions options = dialog.options();
     options.title = source.title();
     source.setWish(dialog.wish());
-    if (dialog.wish().view.look == DiagramLook::Clear) {
-        const BusyCursor busy;
-        return ClearExport::write(source.picture(), dialog.page(), dialog.fileName(), options);
-    }
     WorkProgress progress(tr("Writing %1…").arg(QFileInfo(dialog.fileName()).fileName()), m_window);
     options.progress = [&progress](int done, int total) { return progress.report(done, total); };
-    PictureExport::Result result;
-    {
-        std::optional<CanvasTheme::Paper> paper;
-        if (dialog.isLight() && m_theme->isDark())
-            paper.emplace(m_theme, m_editor);
-        const UpdatesHeld still(m_window); // the window does not show what is meant for the picture
-        result = PictureExport::write(*source.scene(), dialog.fileName(), options);
-    }
-    m_session->touch(); // who looked while nothing was selected looks again
-    return result;
+    if (dialog.wish().view.look == DiagramLook::Clear)
+        return ClearExport::write(source.picture(), dialog.page(), dialog.fileName(), options);
+    std::optional<CanvasTheme::Paper> paper;
+    if (dialog.isLight())
+        paper.emplace(m_theme);
+    const UpdatesHeld still(m_window); // the window does not show what is meant for the picture
+    return PictureExport::write(*source.scene(), dialog.fileName(), options);
 }
 
 /** Puts a picture of what is selected, or of all, on the clipboard. */
@@ -179,14 +171,11 @@ void ExportCommands::copyPicture()
     {
         const BusyCursor busy(m_session->container());
         const DiagramView view = shownView();
-        std::optional<CanvasTheme::Paper> paper;
-        if (view.look == DiagramLook::Classic && m_theme->isDark())
-            paper.emplace(m_theme, m_editor);
+        const CanvasTheme::Paper paper(m_theme);
         PictureSource source(m_editor, PictureSource::Part::Selection);
         source.setWish({std::nullopt, view});
         data = PictureCopy::of(source, ClearExport::paperOf(view.options.palette), result);
     }
-    m_session->touch(); // who looked while the canvas was paper looks again
     if (data)
         QGuiApplication::clipboard()->setMimeData(data.release()); // which takes it over
     Q_EMIT message(result ? tr("Copied as a picture")
@@ -227,7 +216,8 @@ QString ExportCommands::writeAs(const FishInfo &document, const QString &path) c
     if (isSlide) {
         PictureSource source(m_editor);
         source.setWish({std::nullopt, shownView()});
-        return SlideExport::write(*source.scene(), head, path, SlideExport::Aspect::Wide, &reason)
+        const CanvasTheme::Paper paper(m_theme);
+        return SlideExport::write(*source.scene(), head, path, aspectOf(document), &reason)
                    ? QString()
                    : reason;
     }
@@ -264,9 +254,8 @@ void ExportCommands::previewPrint()
 {
     if (!m_session->document())
         return;
-    const CanvasTheme::Paper paper(m_theme, m_editor);
     PictureSource source(m_editor);
-    PrintPreview(&source, shownView(), m_window).exec();
+    PrintPreview(&source, shownView(), m_theme, m_window).exec();
 }
 
 /** Prints as the preview was last left, which need not have been seen. */
@@ -274,12 +263,12 @@ void ExportCommands::print()
 {
     if (!m_session->document())
         return;
-    const CanvasTheme::Paper paper(m_theme, m_editor);
     PictureSource source(m_editor);
     QPrinter printer(QPrinter::HighResolution);
     printer.setPageOrientation(QPageLayout::Landscape); // as wide as most fishbones are
     printer.setDocName(source.title());
     QPrintDialog dialog(&printer, m_window);
-    if (dialog.exec() == QDialog::Accepted)
-        PrintPreview(&source, shownView(), m_window).printTo(&printer);
+    if (dialog.exec() == QDialog::Accepted &&
+        !PrintPreview(&source, shownView(), m_theme, m_window).printTo(&printer))
+        Q_EMIT message(tr("Nothing was printed"));
 }

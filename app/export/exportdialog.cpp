@@ -313,7 +313,7 @@ void ExportDialog::showPreview()
         else
             painter.fillRect(paper, QBrush(Qt::lightGray, Qt::Dense6Pattern));
         const double margin = marginOfPage * qMin(paper.width(), paper.height());
-        m_subject.paint(painter, paper.adjusted(margin, margin, -margin, -margin));
+        m_subject.paint(painter, paper.adjusted(margin, margin, -margin, -margin), isLight());
     }
     m_preview->setPixmap(pixmap);
 }

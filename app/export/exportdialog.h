@@ -38,8 +38,8 @@ public:
         DiagramView view;          ///< how it is shown there
         /** What the drawing covers when it is what is wished, in scene units. May take its time. */
         std::function<QRectF(const PictureWish &wish)> extent;
-        /** Paints that drawing into the target. */
-        std::function<void(QPainter &painter, const QRectF &target)> paint;
+        /** Paints that drawing into the target, as on paper or as on the screen. */
+        std::function<void(QPainter &painter, const QRectF &target, bool isLight)> paint;
     };
 
     /** Proposes the file @p path for a picture of @p subject. */

@@ -17,7 +17,7 @@ using Span = std::pair<double, double>;
  * there is whole on it, if it has room. */
 double following(double end, double length, double overlap, const std::vector<Span> &texts)
 {
-    constexpr double gap = 2; // beside a text
+    constexpr double gap = PageGrid::room / 4; // beside a text
     double begin = end - overlap;
     for (const auto &[from, to] : texts) {
         const bool isCut = from < end && to + gap > end;

@@ -13,6 +13,10 @@
 class PageGrid
 {
 public:
+    /** By how much a page has to be larger than a text so that it is whole there, in the units of
+     * the drawing. */
+    static constexpr double room = 8;
+
     /** No page. */
     PageGrid() = default;
     /** Spreads @p drawing over parts of @p part units, which overlap by @p overlap at least, and

@@ -55,6 +55,8 @@ public:
     explicit PictureSource(const FishEditor *editor, Part part = Part::All);
     ~PictureSource();
 
+    /** The head of the copy. */
+    const TreeItem &root() const;
     /** The title of the diagram. */
     QString title() const;
     /** How many levels there are below the main bones. */
@@ -76,7 +78,6 @@ public:
     FishScene *scene();
 
 private:
-    const TreeItem &root() const;
     bool isClear() const { return m_wish.view.look == DiagramLook::Clear; }
     void take(const TreeItem &shownRoot, const FishEditor &editor,
               const QSet<const TreeItem *> &selected);

@@ -19,8 +19,9 @@ PrintedDrawing PrintedDrawing::of(QGraphicsScene &scene)
         if (item->type() == TextItem::Type && item->isVisible())
             drawing.texts.append(item->sceneBoundingRect());
     }
-    drawing.paint = [&scene](QPainter &painter, const QRectF &target, const QRectF &part) {
-        scene.render(&painter, target, part, Qt::KeepAspectRatio);
+    drawing.paint = [&scene](QPainter &painter, const QRectF &target, const QRectF &part,
+                             const Progress &progress) {
+        return PictureExport::paint(scene, painter, target, part, progress);
     };
     return drawing;
 }
@@ -28,7 +29,8 @@ PrintedDrawing PrintedDrawing::of(QGraphicsScene &scene)
 PrintedDrawing PrintedDrawing::of(const DiagramPicture &picture)
 {
     return {QRectF(QPointF(), picture.size()), picture.texts(),
-            [&picture](QPainter &painter, const QRectF &target, const QRectF &part) {
-                picture.paint(painter, target, part);
+            [&picture](QPainter &painter, const QRectF &target, const QRectF &part,
+                       const Progress &progress) {
+                return picture.paint(painter, target, part, progress);
             }};
 }

@@ -17,9 +17,13 @@ struct PrintedDrawing
 {
     QRectF extent;       ///< what it covers, in scene units
     QList<QRectF> texts; ///< what should not be cut
+    /** Is told how much of a part is painted; false ends that. */
+    using Progress = std::function<bool(int done, int total)>;
     /** Paints the part of the drawing into the target, which has the same shape, and nothing of the
-     * rest. */
-    std::function<void(QPainter &painter, const QRectF &target, const QRectF &part)> paint;
+     * rest. False when the progress ended it. */
+    std::function<bool(QPainter &painter, const QRectF &target, const QRectF &part,
+                       const Progress &progress)>
+        paint;
 
     /** What @p scene shows. */
     static PrintedDrawing of(QGraphicsScene &scene);

@@ -3,6 +3,10 @@
 
 #include <app/export/printpreview.h>
 
+#include <app/common/busycursor.h>
+#include <app/common/canvastheme.h>
+#include <app/common/updatesheld.h>
+#include <app/common/workprogress.h>
 #include <app/export/picturesource.h>
 
 #include <fishbone/editor/fishscene.h>
@@ -12,11 +16,14 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLayout>
+#include <QPaintEngine>
 #include <QPrintPreviewWidget>
 #include <QPrinter>
 #include <QSettings>
 #include <QSpinBox>
 #include <QToolBar>
+
+#include <optional>
 
 namespace {
 
@@ -51,9 +58,11 @@ QString pageOf(const QPrinter &device)
 
 } // namespace
 
-PrintPreview::PrintPreview(PictureSource *source, const DiagramView &shown, QWidget *parent)
+PrintPreview::PrintPreview(PictureSource *source, const DiagramView &shown,
+                           const CanvasTheme *theme, QWidget *parent)
     : QPrintPreviewDialog(parent)
     , m_source(source)
+    , m_theme(theme)
     , m_shown(shown)
     , m_percent(new QSpinBox(this))
     , m_pages(new QLabel(this))
@@ -161,10 +170,29 @@ void PrintPreview::takeOver(const QPrinter &device)
 
 bool PrintPreview::printTo(QPrinter *device)
 {
-    takeOver(*device);
-    const bool isPrinted = m_drawing.print(device);
+    std::optional<CanvasTheme::Paper> paper;
+    if (m_theme)
+        paper.emplace(m_theme);
+    const bool isPrinted = paintOn(device);
     refresh();
     return isPrinted;
+}
+
+/** Draws on @p device: in one go what is only shown, since it is painted from that meanwhile; else
+ * so that the user sees how far it is and can cancel it. */
+bool PrintPreview::paintOn(QPrinter *device)
+{
+    if (device->paintEngine()->type() == QPaintEngine::Picture) {
+        const BusyCursor busy(&m_source->root());
+        takeOver(*device);
+        return m_drawing.print(device);
+    }
+    QWidget *const window = isVisible() ? this : parentWidget();
+    WorkProgress progress(tr("Printing…"), window);
+    const UpdatesHeld still(parentWidget() ? parentWidget()->window() : nullptr);
+    takeOver(*device);
+    return m_drawing.print(
+        device, [&progress](int done, int total) { return progress.report(done, total); });
 }
 
 /** Takes over what was chosen and shows it. */
@@ -186,7 +214,12 @@ void PrintPreview::refresh()
     for (QWidget *field : QList<QWidget *>{m_palette, m_arranged, m_legend})
         field->setEnabled(isClear);
     const int count = m_drawing.pages(*printer()).count();
-    m_pages->setText(count > 0 ? tr("%n page(s)", nullptr, count)
-                               : tr("Nothing to print, or more than %n page(s)", nullptr,
-                                    DrawingPrinter::maximalPages));
+    QString text = count > 0 ? tr("%n page(s)", nullptr, count)
+                             : tr("Nothing to print, or more than %n page(s)", nullptr,
+                                  DrawingPrinter::maximalPages);
+    if (count > 0 && m_drawing.isReducedOn(*printer()))
+        text = tr("%1, at %2 % so that no title is cut")
+                   .arg(text)
+                   .arg(int(m_drawing.scaleOn(*printer()) * 100));
+    m_pages->setText(text);
 }

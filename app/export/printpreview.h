@@ -8,6 +8,7 @@
 
 #include <QPrintPreviewDialog>
 
+class CanvasTheme;
 class PictureSource;
 class QCheckBox;
 class QComboBox;
@@ -26,11 +27,14 @@ class PrintPreview : public QPrintPreviewDialog
     Q_OBJECT
 
 public:
-    /** Shows @p source, which must outlive the dialog, as @p shown has it. */
-    PrintPreview(PictureSource *source, const DiagramView &shown, QWidget *parent = nullptr);
+    /** Shows @p source, which must outlive the dialog, as @p shown has it; on the paper of @p
+     * theme, if that is not null. */
+    PrintPreview(PictureSource *source, const DiagramView &shown,
+                 const CanvasTheme *theme = nullptr, QWidget *parent = nullptr);
     ~PrintPreview() override;
 
-    /** Prints on @p device what would be shown for it. False when there is nothing to print. */
+    /** Prints on @p device what would be shown for it. False when there is nothing to print, or
+     * when the user has cancelled it. */
     bool printTo(QPrinter *device);
 
 private:
@@ -38,10 +42,12 @@ private:
     QComboBox *addBox(QToolBar *bar, const char *name, const QString &text);
     void restore();
     void takeOver(const QPrinter &device);
+    bool paintOn(QPrinter *device);
     void follow();
     void refresh();
 
     PictureSource *m_source;
+    const CanvasTheme *m_theme;
     DiagramView m_shown;
     DrawingPrinter m_drawing;
     QComboBox *m_fit = nullptr;

@@ -14,9 +14,10 @@ inline ExportDialog::Subject pictureSubject(DiagramLook::Kind look = DiagramLook
 {
     DiagramView view;
     view.look = look;
-    return {3, QColor(1, 2, 3), view,
-            [](const PictureWish &wish) {
-                return QRectF(0, 0, wish.levels == Expansion::allLevels ? 960 : 460, 160);
-            },
-            [](QPainter &painter, const QRectF &target) { painter.fillRect(target, Qt::red); }};
+    return {
+        3, QColor(1, 2, 3), view,
+        [](const PictureWish &wish) {
+            return QRectF(0, 0, wish.levels == Expansion::allLevels ? 960 : 460, 160);
+        },
+        [](QPainter &painter, const QRectF &target, bool) { painter.fillRect(target, Qt::red); }};
 }

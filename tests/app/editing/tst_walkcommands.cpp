@@ -9,6 +9,7 @@
 #include <fishbone/items/textitem.h>
 
 #include <QQueue>
+#include <QSettings>
 
 namespace {
 
@@ -33,8 +34,22 @@ class TestWalkCommands : public QObject
 {
     Q_OBJECT
 
+private:
+    /// Shows the document in the look of the row of the test.
+    static void showIn(AppFixture &app)
+    {
+        QFETCH(bool, isClear);
+        QFETCH(bool, isHeadLeft);
+        app.trigger(isClear ? "lookClear" : "lookClassic");
+        if (isHeadLeft)
+            app.trigger("headLeft");
+        QCOMPARE(app.window.editor()->look(), isClear ? DiagramLook::Clear : DiagramLook::Classic);
+        QCOMPARE(app.window.editor()->lookOptions().isHeadLeft, isHeadLeft);
+    }
+
 private Q_SLOTS:
     void initTestCase();
+    void init() { QSettings().clear(); } // where the look that was chosen last stands
     void shouldBeginAtTheHead();
     void shouldGoTheWayOfTheKey_data();
     void shouldGoTheWayOfTheKey();
@@ -64,14 +79,20 @@ void TestWalkCommands::shouldBeginAtTheHead()
 void TestWalkCommands::shouldGoTheWayOfTheKey_data()
 {
     QTest::addColumn<int>("rotation");
-    QTest::newRow("upright") << 0;
-    QTest::newRow("rotated") << 90;
+    QTest::addColumn<bool>("isClear");
+    QTest::addColumn<bool>("isHeadLeft");
+    QTest::newRow("clear") << 0 << true << false;
+    QTest::newRow("clear, head on the left") << 0 << true << true;
+    QTest::newRow("clear, rotated") << 90 << true << false;
+    QTest::newRow("classic") << 0 << false << false;
+    QTest::newRow("classic, rotated") << 90 << false << false;
 }
 
 void TestWalkCommands::shouldGoTheWayOfTheKey()
 {
     QFETCH(int, rotation);
     AppFixture app;
+    showIn(app);
     app.trigger("expandall");
     app.window.editor()->rotateFish(rotation);
     int steps = 0;
@@ -100,14 +121,20 @@ void TestWalkCommands::shouldReachEveryVisibleBone_data()
 {
     QTest::addColumn<QString>("file"); ///< the fixture's when empty
     QTest::addColumn<int>("rotation");
+    QTest::addColumn<bool>("isClear");
+    QTest::addColumn<bool>("isHeadLeft");
 
-    QTest::newRow("small") << QString() << 0;
-    QTest::newRow("small, rotated") << QString() << 90;
+    QTest::newRow("small") << QString() << 0 << false << false;
+    QTest::newRow("small, rotated") << QString() << 90 << false << false;
     const QDir samples(TestSupport::sourceFile(QStringLiteral("samples")));
     const QStringList names = samples.entryList({QStringLiteral("*.json")});
     QVERIFY(!names.isEmpty());
-    for (const QString &name : names)
-        QTest::newRow(qPrintable(name)) << samples.filePath(name) << 0;
+    for (const QString &name : names) {
+        const QString path = samples.filePath(name);
+        QTest::addRow("%s, classic", qPrintable(name)) << path << 0 << false << false;
+        QTest::addRow("%s, clear", qPrintable(name)) << path << 0 << true << false;
+        QTest::addRow("%s, head left", qPrintable(name)) << path << 0 << true << true;
+    }
 }
 
 void TestWalkCommands::shouldReachEveryVisibleBone()
@@ -118,6 +145,7 @@ void TestWalkCommands::shouldReachEveryVisibleBone()
     if (!file.isEmpty())
         app.window.open({file});
     AppFixture::settle();
+    showIn(app);
     app.trigger("expandall");
     app.window.editor()->rotateFish(rotation);
     const FishEditor *const editor = app.window.editor();

@@ -41,6 +41,9 @@ private Q_SLOTS:
     void printsTheChosenPagesOnly();
     void overlapsHaveMarksAndAMap();
     void everyTitleIsWholeOnSomePage();
+    void largeTitlesMakeItSmaller_data();
+    void largeTitlesMakeItSmaller();
+    void cancellingEndsIt();
     void severalPagesAreNotLargerThanSoManyFilesOfOne_data();
     void severalPagesAreNotLargerThanSoManyFilesOfOne();
 
@@ -216,7 +219,8 @@ void TestDrawingPrinter::overlapsHaveMarksAndAMap()
 {
     PrintedDrawing drawing;
     drawing.extent = QRectF(0, 0, 1500, 800);
-    drawing.paint = [](QPainter &, const QRectF &, const QRectF &) {};
+    drawing.paint = [](QPainter &, const QRectF &, const QRectF &,
+                       const PrintedDrawing::Progress &) { return true; };
     DrawingPrinter printing(drawing, QStringLiteral("Late"));
     printing.setLayout({Fit::Scale, 1});
     const QString file = m_folder.filePath(QStringLiteral("marks.pdf"));
@@ -280,6 +284,75 @@ void TestDrawingPrinter::everyTitleIsWholeOnSomePage()
             QVERIFY2(words.contains(word), word.constData());
         }
     }
+}
+
+void TestDrawingPrinter::largeTitlesMakeItSmaller_data()
+{
+    QTest::addColumn<QSizeF>("title");
+    QTest::addColumn<Fit>("fit");
+    QTest::addColumn<double>("scale");
+    QTest::addColumn<bool>("isSmaller");
+    // On a page are 960 x 456 units.
+    QTest::newRow("one with room") << QSizeF(900, 30) << Fit::Scale << 1.0 << false;
+    QTest::newRow("one that is too long") << QSizeF(1500, 30) << Fit::Scale << 1.0 << true;
+    QTest::newRow("one that is too high") << QSizeF(300, 700) << Fit::Scale << 1.0 << true;
+    QTest::newRow("one as large as the page") << QSizeF(960, 456) << Fit::Scale << 1.0 << true;
+    QTest::newRow("one too long when enlarged") << QSizeF(300, 30) << Fit::Scale << 4.0 << true;
+    QTest::newRow("fitting the width") << QSizeF(20, 900) << Fit::Width << 1.0 << true;
+}
+
+/// Whatever its size, each title is whole on one of the pages.
+void TestDrawingPrinter::largeTitlesMakeItSmaller()
+{
+    QFETCH(QSizeF, title);
+    QFETCH(Fit, fit);
+    QFETCH(double, scale);
+    QFETCH(bool, isSmaller);
+    PrintedDrawing drawing;
+    drawing.extent = fit == Fit::Width ? QRectF(0, 0, 500, 5000) : QRectF(0, 0, 4000, 3000);
+    for (const QPointF &corner : {QPointF(0, 0), QPointF(470, 1300), QPointF(200, 2000)})
+        drawing.texts.append(QRectF(corner, title));
+    DrawingPrinter printing(drawing);
+    printing.setLayout({fit, scale});
+    QPrinter printer;
+    setUp(printer, m_folder.filePath(QStringLiteral("unused.pdf")));
+    const QList<QRectF> parts = printing.pages(printer).parts();
+    QVERIFY(parts.size() > 1);
+    for (const QRectF &text : qAsConst(drawing.texts)) {
+        QVERIFY(std::any_of(parts.cbegin(), parts.cend(),
+                            [&text](const QRectF &part) { return part.contains(text); }));
+    }
+    QCOMPARE(printing.isReducedOn(printer), isSmaller);
+    if (fit == Fit::Scale)
+        QCOMPARE(printing.scaleOn(printer) < scale, isSmaller);
+}
+
+void TestDrawingPrinter::cancellingEndsIt()
+{
+    const auto head = diagram();
+    const DiagramPicture picture(head.get());
+    DrawingPrinter printing(PrintedDrawing::of(picture));
+    printing.setLayout({Fit::Scale, 1});
+    QList<int> reports;
+    int whole = 0;
+    const auto print = [&](int allowed) {
+        QPrinter printer;
+        setUp(printer, m_folder.filePath(QStringLiteral("cancelled.pdf")));
+        reports.clear();
+        return printing.print(&printer, [&](int done, int total) {
+            reports.append(done);
+            whole = total;
+            return reports.size() <= allowed;
+        });
+    };
+    QVERIFY(print(1000000));
+    const int all = reports.size();
+    QVERIFY(std::is_sorted(reports.cbegin(), reports.cend()));
+    QVERIFY(all > 4);
+    QVERIFY(reports.constFirst() == 0 && reports.constLast() < whole);
+    QVERIFY(!print(0));
+    QVERIFY(!print(all / 2));
+    QCOMPARE(int(reports.size()), all / 2 + 1);
 }
 
 void TestDrawingPrinter::severalPagesAreNotLargerThanSoManyFilesOfOne_data()

@@ -40,6 +40,8 @@ private Q_SLOTS:
     void shouldExportASlide();
     void shouldWriteTheTitlesOfASlide_data();
     void shouldWriteTheTitlesOfASlide();
+    void shouldShapeTheSlideAsThePage_data();
+    void shouldShapeTheSlideAsThePage();
     void shouldSayWhatAnExportLeavesOut();
     void shouldExportTheWholeDocument();
     void shouldLeaveTheDocumentAsItIs();
@@ -140,6 +142,41 @@ void TestExportCommands::shouldWriteTheTitlesOfASlide()
     for (const char *title :
          {"Illness", "Late", "Machines", "Material", "People", "Rust", "Too few", "Too new"})
         QVERIFY2(slide.contains("<a:t>" + QByteArray(title) + "</a:t>"), title);
+}
+
+void TestExportCommands::shouldShapeTheSlideAsThePage_data()
+{
+    QTest::addColumn<QByteArray>("page");
+    QTest::addColumn<QByteArray>("look");
+    QTest::addColumn<QByteArray>("width");
+    QTest::newRow("screen") << QByteArray("pageScreen") << QByteArray("lookClear")
+                            << QByteArray("cx=\"12192000\"");
+    QTest::newRow("16:9") << QByteArray("page16x9") << QByteArray("lookClear")
+                          << QByteArray("cx=\"12192000\"");
+    QTest::newRow("A4") << QByteArray("pageA4") << QByteArray("lookClear")
+                        << QByteArray("cx=\"9144000\"");
+    QTest::newRow("classic") << QByteArray("pageA4") << QByteArray("lookClassic")
+                             << QByteArray("cx=\"12192000\"");
+}
+
+void TestExportCommands::shouldShapeTheSlideAsThePage()
+{
+    QFETCH(QByteArray, page);
+    QFETCH(QByteArray, look);
+    QFETCH(QByteArray, width);
+    AppFixture app;
+    app.trigger(page.constData());
+    app.trigger(look.constData());
+    const QString path = app.path(QStringLiteral("a.pptx"));
+    const ModalDriver<QFileDialog> driver(enter(path));
+    app.trigger("exportAs");
+    QVERIFY(driver.isDone());
+    QProcess unpacking;
+    unpacking.start(QStringLiteral("unzip"),
+                    {QStringLiteral("-p"), path, QStringLiteral("ppt/presentation.xml")});
+    QVERIFY(unpacking.waitForFinished());
+    const QByteArray presentation = unpacking.readAllStandardOutput();
+    QVERIFY2(presentation.contains("<p:sldSz " + width), presentation.constData());
 }
 
 void TestExportCommands::shouldSayWhatAnExportLeavesOut()

@@ -49,6 +49,7 @@ class TestExportProgress : public QObject
 private Q_SLOTS:
     void initTestCase();
     void init();
+    void shouldKeepTheOldFileWhenCancelled_data();
     void shouldKeepTheOldFileWhenCancelled();
     void shouldNotLetTheUserCloseTheWindowMeanwhile();
     void shouldShowNothingForAQuickExport();
@@ -99,8 +100,19 @@ bool TestExportProgress::exportSlowly(AppFixture &app, const QString &path,
     return driver.isDone() && progress && progress->isDone();
 }
 
+void TestExportProgress::shouldKeepTheOldFileWhenCancelled_data()
+{
+    QTest::addColumn<int>("look");
+    QTest::newRow("classic") << int(DiagramLook::Classic);
+    QTest::newRow("clear") << int(DiagramLook::Clear);
+}
+
 void TestExportProgress::shouldKeepTheOldFileWhenCancelled()
 {
+    QFETCH(int, look);
+    DiagramView view;
+    view.look = DiagramLook::Kind(look);
+    view.becomeUsual();
     AppFixture app;
     const QString path = app.path(QStringLiteral("a.png"));
     AppFixture::writeFile(path, "old");

@@ -18,6 +18,7 @@
 #include <QPrintPreviewWidget>
 #include <QPrinter>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QSettings>
 #include <QSpinBox>
 
@@ -40,6 +41,7 @@ private Q_SLOTS:
     void arrangesForThePaper();
     void beginsInTheLookOfTheScreen();
     void printsTheWholeDiagramWithoutAPreview();
+    void saysWhatItMakesSmaller();
 };
 
 void TestPrintPreview::opensFromTheWindow()
@@ -246,6 +248,29 @@ void TestPrintPreview::printsTheWholeDiagramWithoutAPreview()
     for (const char *title : {"Late", "People", "Illness", "Rust", "Machines"})
         QVERIFY2(text.contains(title), title);
     QVERIFY(!app.document()->modified());
+}
+
+void TestPrintPreview::saysWhatItMakesSmaller()
+{
+    AppFixture app;
+    app.subject("Machines")->setTitle(QString(120, QLatin1Char('m')));
+    app.window.editor()->updateFish(false);
+    DiagramView classic; // which breaks no titles
+    classic.look = DiagramLook::Classic;
+    PictureSource source(app.window.editor());
+    PrintPreview preview(&source, classic);
+    preview.show();
+    auto *const label = preview.findChild<QLabel *>(QStringLiteral("pages"));
+    QCOMPARE(label->text(), QStringLiteral("1 page(s)"));
+    preview.findChild<QComboBox *>(QStringLiteral("fit"))->setCurrentIndex(2);
+    preview.findChild<QSpinBox *>(QStringLiteral("percent"))->setValue(400);
+    AppFixture::settle();
+    static const QRegularExpression said(
+        QStringLiteral("^(\\d+) page\\(s\\), at (\\d+) % so that no title is cut$"));
+    const auto match = said.match(label->text());
+    QVERIFY2(match.hasMatch(), qPrintable(label->text()));
+    QCOMPARE(match.captured(1).toInt(), preview.findChild<QPrintPreviewWidget *>()->pageCount());
+    QVERIFY(match.captured(2).toInt() < 400);
 }
 
 FISHBONE_TEST(TestPrintPreview)
