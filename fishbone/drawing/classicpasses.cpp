@@ -80,6 +80,7 @@ void ClassicLook::size(const SpearTree &tree) const
         if (!parent->spear->isExpand())
             continue;
         for (int row = 0; row < parent->childCount; ++row) {
+            tree.prefetchTextsAround(std::size_t(parent->firstChild + row));
             const SpearItem *const child = tree.child(*parent, row).spear;
             parent->spear->sumChildSize(QSizeF(child->spearWidth(), child->spearHeight()));
         }
@@ -101,6 +102,7 @@ void ClassicLook::placeAlongSlantedBone(const SpearTree &tree, const SpearTree::
 {
     double offset = firstOffset;
     for (int row = 0; row < parent.childCount; ++row) {
+        tree.prefetchMovedAfter(std::size_t(parent.firstChild + row));
         SpearItem *const child = tree.child(parent, row).spear;
         child->setOffset(offset);
         offset += child->spearHeight();
@@ -114,6 +116,7 @@ void ClassicLook::placeAlongLevelBone(const SpearTree &tree, const SpearTree::En
     const int sides = isHead ? 2 : 1;
     double offsets[2] = {firstOffset, secondSideOffset};
     for (int row = 0; row < parent.childCount; ++row) {
+        tree.prefetchMovedAfter(std::size_t(parent.firstChild + row));
         SpearItem *const child = tree.child(parent, row).spear;
         double &offset = offsets[row % sides];
         // A level child of a level bone keeps its place and takes up no room.

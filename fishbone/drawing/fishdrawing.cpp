@@ -3,6 +3,8 @@
 
 #include <fishbone/drawing/fishdrawing.h>
 
+#include <utility>
+
 #include <QGraphicsScene>
 
 #include <fishbone/drawing/classiclook.h>
@@ -15,6 +17,7 @@ FishDrawing::FishDrawing()
 
 void FishDrawing::choose(DiagramLook::Kind kind, const DiagramLook::Options &options)
 {
+    m_layout.reset();
     m_kind = kind;
     m_options = options;
     if (kind == DiagramLook::Clear)
@@ -25,11 +28,25 @@ void FishDrawing::choose(DiagramLook::Kind kind, const DiagramLook::Options &opt
 
 void FishDrawing::update(SpearItem *head)
 {
-    FishLayout layout(head, m_look);
-    layout.update(m_settled);
-    m_head = head;
+    const quint64 changes = SpearItem::treeChanges();
+    const bool isSameTree = m_head == head && m_treeChanges == changes;
+    // Taken out: who hears of something meanwhile may choose another look.
+    std::optional<FishLayout> layout = std::exchange(m_layout, std::nullopt);
+    if (!layout || !isSameTree)
+        layout.emplace(head, m_look);
+    layout->update(m_settled);
     m_treeChanges = SpearItem::treeChanges();
-    m_items = layout.itemCount();
+    if (!isSameTree || m_treeChanges != changes)
+        m_items = layout->itemCount();
+    m_head = head;
+    if (m_treeChanges == changes && layout->look() == m_look.get())
+        m_layout = std::move(layout); // whose tree is the one of the next time, too
+}
+
+void FishDrawing::setLook(std::shared_ptr<const DrawingLook> look)
+{
+    m_layout.reset();
+    m_look = std::move(look);
 }
 
 bool FishDrawing::isAlone(const QGraphicsScene &scene, const SpearItem *head) const

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 
 #include <fishbone/drawing/diagramlook.h>
 #include <fishbone/drawing/fishlayout.h>
@@ -21,7 +22,7 @@ public:
     /** Draws in a look from the next layout on. */
     void choose(DiagramLook::Kind kind, const DiagramLook::Options &options);
     /** Draws in a look of the caller's. */
-    void setLook(std::shared_ptr<const DrawingLook> look) { m_look = std::move(look); }
+    void setLook(std::shared_ptr<const DrawingLook> look);
 
     /** A layout of what is below @p head, for one pass. */
     FishLayout layout(SpearItem *head) const { return FishLayout(head, m_look); }
@@ -37,7 +38,8 @@ private:
     DiagramLook::Options m_options;
     std::shared_ptr<const DrawingLook> m_look;
     SettledDrawing m_settled;
-    const SpearItem *m_head = nullptr; ///< that was laid out last; only compared
-    quint64 m_treeChanges = 0;         ///< as SpearItem counted them then
-    int m_items = 0;                   ///< spears and companions then
+    std::optional<FishLayout> m_layout; ///< the last one, of use while the tree is the same
+    const SpearItem *m_head = nullptr;  ///< that was laid out last; only compared
+    quint64 m_treeChanges = 0;          ///< as SpearItem counted them then
+    int m_items = 0;                    ///< spears and companions then
 };

@@ -19,18 +19,6 @@ FishLayout::FishLayout(SpearItem *head, std::shared_ptr<const DrawingLook> look)
 {
 }
 
-namespace {
-/** Fetches what is looked at for the entry at @p current and those behind it. */
-void prefetchBehind(const std::vector<SpearTree::Entry> &entries, std::size_t current)
-{
-    constexpr std::size_t ahead = 4;
-    if (current + 2 * ahead < entries.size())
-        SpearPasses::prefetchParts(*entries[current + 2 * ahead].spear);
-    if (current + ahead < entries.size())
-        SpearPasses::prefetchInsides(*entries[current + ahead].spear);
-}
-} // namespace
-
 /** Brings every spear in line with its subject, parents before their children. Calls @p refresh
  * with each and the direction it is to have, and @p visit with each when it is done. */
 template <typename Refresh, typename Visit>
@@ -46,7 +34,7 @@ void FishLayout::refreshAll(Refresh refresh, Visit visit)
     for (const SpearTree::Entry &parent : m_tree.entries()) {
         for (int row = 0; row < parent.childCount; ++row) {
             const std::size_t place = std::size_t(parent.firstChild + row);
-            prefetchBehind(m_tree.entries(), place);
+            m_tree.prefetchAfter(place);
             const SpearTree::Entry &child = m_tree.entries()[place];
             child.spear->setLook(m_look);
             refresh(child.spear, SpearBuilder::directionFor(parent.spear, parent.level, row));
@@ -61,20 +49,25 @@ void FishLayout::refreshAll(Refresh refresh, Visit visit)
 void FishLayout::refreshSpears()
 {
     refreshAll([](SpearItem *spear, int direction) { spear->initData(direction); },
-               [](std::size_t, const SpearItem &) {});
+               [](std::size_t, SpearItem &) {});
 }
 
 bool FishLayout::update(SettledDrawing &settled)
 {
-    bool isSettled = m_look->isSettled() && settled.matches(m_tree.entries().size(), m_look.get());
+    const std::size_t count = m_tree.entries().size();
+    const bool isNoted = m_look->isSettled() && settled.matches(count, m_look.get());
+    std::size_t standing = isNoted ? count : 0; // so many stand as noted, from the first on
     refreshAll([](SpearItem *spear, int direction) { SpearPasses::refresh(*spear, direction); },
-               [&isSettled, &settled](std::size_t place, const SpearItem &spear) {
-                   isSettled = isSettled && settled.matches(place, spear);
+               [&standing, &settled](std::size_t place, SpearItem &spear) {
+                   if (place < standing && !settled.matches(place, spear))
+                       standing = place;
+                   if (place >= standing)
+                       SpearPasses::begin(spear); // now, while the processor has it at hand
                });
-    if (isSettled)
+    if (standing == count)
         return false;
-    for (const SpearTree::Entry &entry : m_tree.entries())
-        SpearPasses::begin(*entry.spear);
+    for (std::size_t place = 0; place < standing; ++place)
+        SpearPasses::begin(*m_tree.entries()[place].spear);
     sizeSpears();
     placeSpears();
     settled.forget();
@@ -85,7 +78,7 @@ bool FishLayout::update(SettledDrawing &settled)
 
 void FishLayout::noteIn(SettledDrawing &settled) const
 {
-    settled.note(m_tree.entries(), m_look.get());
+    settled.note(m_tree, m_look.get());
 }
 
 void FishLayout::refreshCompanions(const SpearTree::Entry &entry) const

@@ -35,6 +35,7 @@ public:
     int itemCount() const;
 
     const SpearTree &tree() const { return m_tree; }
+    const DrawingLook *look() const { return m_look.get(); }
 
 private:
     template <typename Refresh, typename Visit>

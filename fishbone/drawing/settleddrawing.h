@@ -9,6 +9,7 @@
 #include <QPointF>
 #include <QSizeF>
 
+#include <fishbone/drawing/speartree.h>
 #include <fishbone/items/spearitem.h>
 
 class SpearLook;
@@ -54,16 +55,17 @@ public:
     /** Nothing is known of the drawing from now on. */
     void forget() { m_spears.clear(); }
     /**
-     * Notes how the spears of all @p entries stand, which were laid out in @p look. Into the memory
+     * Notes how the spears of @p tree stand, which were laid out in @p look. Into the memory
      * of the notes before: new pages for each layout would take longer than the notes do.
      */
-    template <typename Entries>
-    void note(const Entries &entries, const SpearLook *look)
+    void note(const SpearTree &tree, const SpearLook *look)
     {
         m_spears.clear();
-        m_spears.reserve(entries.size());
-        for (const auto &entry : entries)
-            m_spears.emplace_back(*entry.spear);
+        m_spears.reserve(tree.entries().size());
+        for (std::size_t place = 0; place < tree.entries().size(); ++place) {
+            tree.prefetchAfter(place);
+            m_spears.emplace_back(*tree.entries()[place].spear);
+        }
         m_look = look;
     }
 

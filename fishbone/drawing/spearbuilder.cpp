@@ -31,14 +31,11 @@ struct PendingSubtree
 void updateLinkItem(SpearItem *spear)
 {
     const TreeItem *const subject = spear->treeItem();
-    if (!subject || subject->url().isEmpty()) {
-        if (spear->linkItem())
-            spear->setLinkItem(nullptr);
-        return;
-    }
     auto *const link = qgraphicsitem_cast<LinkItem *>(spear->linkItem());
-    if (link && link->url() == subject->url())
+    if (subject && link && link->leadsTo(subject->url()))
         link->updateSvgIcon();
+    else if (!subject || subject->url().isEmpty())
+        spear->setLinkItem(nullptr);
     else
         spear->setLinkItem(std::make_unique<LinkItem>(subject->url()).release());
 }

@@ -5,9 +5,11 @@
 
 #include <fishbone/base/prefetch.h>
 #include <fishbone/items/spearitem.h>
+#include <fishbone/items/spearpasses.h>
 
 namespace {
 constexpr std::size_t ahead = 8; ///< spears that are fetched while others are looked at
+constexpr std::size_t step = 4;  ///< between a spear, its parts and what is behind these
 } // namespace
 
 SpearTree::SpearTree(SpearItem *head)
@@ -23,4 +25,33 @@ SpearTree::SpearTree(SpearItem *head)
         for (SpearItem *child : children)
             m_entries.push_back({child, level, 0, 0});
     }
+}
+
+void SpearTree::prefetchAfter(std::size_t place) const
+{
+    if (place + 3 * step < m_entries.size())
+        prefetch(m_entries[place + 3 * step].spear, int(sizeof(SpearItem)));
+    if (place + 2 * step < m_entries.size())
+        SpearPasses::prefetchParts(*m_entries[place + 2 * step].spear);
+    if (place + step < m_entries.size())
+        SpearPasses::prefetchInsides(*m_entries[place + step].spear);
+}
+
+void SpearTree::prefetchMovedAfter(std::size_t place) const
+{
+    prefetchAfter(place);
+    if (place + step < m_entries.size())
+        SpearPasses::prefetchListeners(*m_entries[place + step].spear);
+}
+
+void SpearTree::prefetchTextsAround(std::size_t place) const
+{
+    const auto fetch = [this](std::size_t far, std::size_t near) {
+        if (far < m_entries.size())
+            prefetch(m_entries[far].spear, int(sizeof(SpearItem)));
+        if (near < m_entries.size())
+            SpearPasses::prefetchText(*m_entries[near].spear);
+    };
+    fetch(place + 2 * step, place + step);
+    fetch(place - 4 * step, place - 3 * step); // before the first one: beyond the last one
 }

@@ -27,6 +27,17 @@ public:
     explicit SpearTree(SpearItem *head);
 
     const std::vector<Entry> &entries() const { return m_entries; }
+    /**
+     * Has the processor fetch what a pass that goes forwards through the entries looks at a few
+     * entries after @p place: the spears themselves, nearer ones with their parts, and what the
+     * toolkit keeps of these.
+     */
+    void prefetchAfter(std::size_t place) const;
+    /** The same where spears and companions are moved, which those are told who listen. */
+    void prefetchMovedAfter(std::size_t place) const;
+    /** The same on both sides of @p place where spears and text boxes alone are looked at. */
+    void prefetchTextsAround(std::size_t place) const;
+
     const Entry &head() const { return m_entries.front(); }
     const Entry &child(const Entry &parent, int row) const
     {

@@ -24,6 +24,7 @@ std::function<void(const QUrl &)> &linkOpener()
 LinkItem::LinkItem(const QString &url)
     : SvgItem(iconFile(), nullptr)
     , m_url(url)
+    , m_leadsSomewhere(!url.isEmpty())
 {
     setAcceptedMouseButtons(Qt::LeftButton);
 }

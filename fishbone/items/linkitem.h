@@ -24,6 +24,11 @@ public:
 
     /// The link target as it was given.
     const QString &url() const { return m_url; }
+    /// Whether that is \a url, and not empty; quick for the text that the icon was made with.
+    bool leadsTo(const QString &url) const
+    {
+        return m_leadsSomewhere && (m_url.isSharedWith(url) || m_url == url);
+    }
     /// Shows the picture of a link, whatever was set meanwhile.
     void updateSvgIcon();
 
@@ -38,4 +43,5 @@ protected:
 
 private:
     QString m_url;
+    bool m_leadsSomewhere; ///< m_url is not empty
 };

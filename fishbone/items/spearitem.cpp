@@ -134,12 +134,12 @@ double SpearItem::textHeight() const
     return m_textItem->textHeight();
 }
 
-/** How many characters of the title are shown. */
+/** How many characters of the title are shown; -1 for all, whatever their number. */
 int SpearItem::shownLength(const SpearStyle &style) const
 {
     const int count = style.textCount();
     if (count < 1 || count >= m_text.length())
-        return m_text.length();
+        return -1;
     const bool splitsPair =
         m_text.at(count - 1).isHighSurrogate() && m_text.at(count).isLowSurrogate();
     return splitsPair ? count - 1 : count;
@@ -167,15 +167,17 @@ void SpearItem::updateTextMetrics()
 
 void SpearItem::showText(const SpearStyle &style)
 {
+    // This is asked for every bone of every layout: no copy of the font, no look at the letters of
+    // a text that is shown already.
     const int length = shownLength(style);
-    const QStringView shown = QStringView(m_text).left(length);
-    const auto showIn = [this, shown, length](const QFont &font) {
-        if (m_textItem->shows(font, shown))
+    const auto showIn = [this, length](const QFont &font) {
+        const bool isShown = length < 0 ? m_textItem->shows(font, m_text)
+                                        : m_textItem->shows(font, QStringView(m_text).left(length));
+        if (isShown)
             return;
         prepareGeometryChange();
         m_textItem->showText(font, m_text.left(length));
     };
-    // No copy of the font: this is asked for every bone of every layout.
     if (const QFont *const set = style.textFont(textState()))
         showIn(*set);
     else
@@ -183,8 +185,10 @@ void SpearItem::showText(const SpearStyle &style)
     // The box goes on showing the counts; only what is reported as the display text goes without.
     if (m_treeItem && m_treeItem->isTopVaildItem())
         m_textDisplay = withoutCounts(m_text.left(length));
-    else if (m_textDisplay != shown)
+    else if (length >= 0 && m_textDisplay != QStringView(m_text).left(length))
         m_textDisplay = m_text.left(length);
+    else if (length < 0 && !m_textDisplay.isSharedWith(m_text))
+        m_textDisplay = m_text;
 }
 
 SpearStyle *SpearItem::style() const

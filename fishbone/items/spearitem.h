@@ -306,6 +306,8 @@ private:
     void refresh(int direction);
     void prefetchParts() const;
     void prefetchInsides() const;
+    void prefetchText() const;
+    void prefetchListeners() const;
     void beginLayout();
     void place(SpearItem *parent);
     void attachTreeItem(TreeItem *item);

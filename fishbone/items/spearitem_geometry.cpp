@@ -66,6 +66,21 @@ void SpearItem::prefetchInsides() const
         button->prefetchInsides();
 }
 
+void SpearItem::prefetchListeners() const
+{
+    m_textItem->prefetchListeners();
+    m_statusItem->prefetchListeners();
+    if (const auto *const link = qgraphicsitem_cast<LinkItem *>(m_linkItem))
+        link->prefetchListeners();
+    if (const auto *const button = qgraphicsitem_cast<ExpandItem *>(m_expandBuddy))
+        button->prefetchListeners();
+}
+
+void SpearItem::prefetchText() const
+{
+    prefetch(m_textItem, int(sizeof(TextItem)));
+}
+
 void SpearItem::refresh(int direction)
 {
     setPos(0, 0);

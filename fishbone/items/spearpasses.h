@@ -21,6 +21,10 @@ public:
     static void prefetchParts(const SpearItem &spear) { spear.prefetchParts(); }
     /** Then what these keep apart. */
     static void prefetchInsides(const SpearItem &spear) { spear.prefetchInsides(); }
+    /** And what they keep of those who hear of their positions. */
+    static void prefetchListeners(const SpearItem &spear) { spear.prefetchListeners(); }
+    /** The same for who looks at the text box alone. */
+    static void prefetchText(const SpearItem &spear) { spear.prefetchText(); }
     /** Forgets offset and child sizes. */
     static void begin(SpearItem &spear) { spear.beginLayout(); }
     /** Sets the line from that of @p parent, which is null for the head, and places companions. */

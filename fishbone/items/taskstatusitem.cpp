@@ -31,7 +31,7 @@ void TaskStatusItem::setTask(int status, int progress)
 {
     if (status != m_info.status() || progress != m_info.progress())
         m_info = TaskStatusInfo(static_cast<TaskStatus>(status), progress);
-    else if (m_icon.isSharedWith(shownFile()) && !m_icon.isEmpty() == showsPicture())
+    else if (m_icon.isSharedWith(shownFile()) && (showsPicture() || m_icon.isEmpty()))
         return; // the layout comes here for every bone
     updateStatusIcon();
 }

@@ -46,6 +46,11 @@ bool TextItem::shows(const QFont &font, QStringView text) const
     return m_text == text && m_font == font;
 }
 
+bool TextItem::shows(const QFont &font, const QString &text) const
+{
+    return (m_text.isSharedWith(text) || m_text == text) && m_font == font;
+}
+
 void TextItem::showText(const QFont &font, const QString &text)
 {
     if (shows(font, text))

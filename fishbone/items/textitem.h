@@ -37,8 +37,12 @@ public:
 
     /// Has the processor fetch what the toolkit keeps of the item.
     void prefetchInsides() const { prefetch(QGraphicsItem::d_ptr.data(), 256); }
+    /// And what it keeps of those who hear of the position.
+    void prefetchListeners() const { prefetch(QObject::d_ptr.data(), 128); }
     /// Whether showText() with the same arguments would change anything.
     bool shows(const QFont &font, QStringView text) const;
+    /// The same, without a look at the letters of a text that is the one given last.
+    bool shows(const QFont &font, const QString &text) const;
     /// Shows \a text in \a font; what is shown already is not laid out again.
     void showText(const QFont &font, const QString &text);
     /// Shows what showText() was given last, when anybody has changed the document since.

@@ -26,6 +26,8 @@ private Q_SLOTS:
     void shouldDrawInAnotherLook();
     void shouldGoBack();
     void shouldLayOutOnlyWhatIsNotSettled();
+    void shouldFollowSpearsThatComeAndGo();
+    void shouldTakeALookThatIsChosenWhileItLaysOut();
     void shouldKeepTheOptionsOfAnEditor();
 };
 
@@ -144,6 +146,62 @@ void TestDrawingLook::shouldLayOutOnlyWhatIsNotSettled()
     fish.update(drawing.head);
     fish.update(drawing.head);
     QCOMPARE(look->layouts, 4);
+}
+
+void TestDrawingLook::shouldFollowSpearsThatComeAndGo()
+{
+    Drawing drawing(document);
+    const QGraphicsScene *const scene = drawing.head->scene();
+    FishDrawing fish;
+    fish.update(drawing.head);
+    fish.update(drawing.head); // knows the tree by now
+    QVERIFY(fish.isAlone(*scene, drawing.head));
+
+    SpearItem *const man = drawing.spear(QStringLiteral("Man"));
+    auto *const added = std::make_unique<SpearItem>(QStringLiteral("Late"), 0, 20).release();
+    added->setParentItem(man);
+    QVERIFY(!fish.isAlone(*scene, drawing.head));
+    fish.update(drawing.head);
+    QVERIFY(!added->line().isNull());
+    QVERIFY(fish.isAlone(*scene, drawing.head));
+
+    delete drawing.spear(QStringLiteral("Training"));
+    fish.update(drawing.head);
+    fish.update(drawing.head);
+    QVERIFY(fish.isAlone(*scene, drawing.head));
+}
+
+void TestDrawingLook::shouldTakeALookThatIsChosenWhileItLaysOut()
+{
+    Drawing drawing(document);
+    FishDrawing fish;
+    fish.update(drawing.head);
+    SpearItem *const man = drawing.spear(QStringLiteral("Man"));
+    SpearItem *const training = drawing.spear(QStringLiteral("Training"));
+    // A hidden bone that a host shows and gives the focus loses both to the layout.
+    man->setExpand(false);
+    fish.update(drawing.head);
+    training->setVisible(true);
+    training->setFlag(QGraphicsItem::ItemIsFocusable);
+    QGraphicsScene *const scene = drawing.head->scene();
+    QEvent activation(QEvent::WindowActivate);
+    QApplication::sendEvent(scene, &activation);
+    scene->setActivePanel(training); // as every bone is one
+    training->setFocus();
+    QVERIFY(training->hasFocus());
+    int chosen = 0;
+    connect(scene, &QGraphicsScene::focusItemChanged, scene, [&fish, &chosen] {
+        ++chosen;
+        fish.choose(DiagramLook::Clear, {});
+    });
+
+    fish.update(drawing.head);
+
+    QVERIFY(chosen > 0);
+    QVERIFY(!training->isVisible());
+    QCOMPARE(fish.kind(), DiagramLook::Clear);
+    fish.update(drawing.head);
+    QVERIFY(man->lookData());
 }
 
 void TestDrawingLook::shouldKeepTheOptionsOfAnEditor()
