@@ -160,6 +160,32 @@
     </message>
 </context>
 <context>
+    <name>CloseQuestion</name>
+    <message>
+        <source>Close</source>
+        <translation>Close</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n document(s) have changes that were not saved. Save those that are checked?</source>
+        <translation>
+            <numerusform>%n document has changes that were not saved. Save it if it is checked?</numerusform>
+            <numerusform>%n documents have changes that were not saved. Save those that are checked?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Documents with changes that were not saved</source>
+        <translation>Documents with changes that were not saved</translation>
+    </message>
+    <message>
+        <source>&amp;Save checked</source>
+        <translation>&amp;Save checked</translation>
+    </message>
+    <message>
+        <source>Close &amp;without saving</source>
+        <translation>Close &amp;without saving</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
     <message>
         <source>Show this help and quit.</source>
@@ -1409,11 +1435,7 @@ What is left out, or put where it can be kept, is listed on the error output.</t
     </message>
     <message>
         <source>New from the &amp;example</source>
-        <translation>New from the exa&amp;mple</translation>
-    </message>
-    <message>
-        <source>New from &amp;template…</source>
-        <translation>New from &amp;template…</translation>
+        <translation>New from t&amp;he example</translation>
     </message>
     <message>
         <source>&amp;Open…</source>
@@ -1450,10 +1472,6 @@ What is left out, or put where it can be kept, is listed on the error output.</t
     <message>
         <source>cannot open %1: %2</source>
         <translation>cannot open %1: %2</translation>
-    </message>
-    <message>
-        <source>New from template</source>
-        <translation>New from template</translation>
     </message>
     <message>
         <source>Open</source>
@@ -1503,10 +1521,6 @@ What is left out, or put where it can be kept, is listed on the error output.</t
         <source>&amp;Welcome diagram</source>
         <translation>&amp;Welcome diagram</translation>
     </message>
-    <message>
-        <source>Welcome</source>
-        <translation>Welcome</translation>
-    </message>
 </context>
 <context>
     <name>FileConflict</name>
@@ -1537,6 +1551,13 @@ What is left out, or put where it can be kept, is listed on the error output.</t
     <message>
         <source>&amp;Hide</source>
         <translation>&amp;Hide</translation>
+    </message>
+</context>
+<context>
+    <name>FileName</name>
+    <message>
+        <source>Untitled</source>
+        <translation>Untitled</translation>
     </message>
 </context>
 <context>
@@ -2917,6 +2938,107 @@ Do you want to save your changes?</translation>
     <message>
         <source>Votes</source>
         <translation>Votes</translation>
+    </message>
+</context>
+<context>
+    <name>TemplateCommands</name>
+    <message>
+        <source>New from &amp;template…</source>
+        <translation>New from &amp;template…</translation>
+    </message>
+    <message>
+        <source>Save as te&amp;mplate…</source>
+        <translation>Save as te&amp;mplate…</translation>
+    </message>
+    <message>
+        <source>New from template</source>
+        <translation>New from template</translation>
+    </message>
+    <message>
+        <source>%1 is no template: %2.</source>
+        <translation>%1 is no template: %2.</translation>
+    </message>
+    <message>
+        <source>Save as template</source>
+        <translation>Save as template</translation>
+    </message>
+    <message>
+        <source>Name of the template:</source>
+        <translation>Name of the template:</translation>
+    </message>
+    <message>
+        <source>There is a template %1 already. Replace it?</source>
+        <translation>There is a template %1 already. Replace it?</translation>
+    </message>
+    <message>
+        <source>File &gt; New from template offers %1 now</source>
+        <translation>File &gt; New from template offers %1 now</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2.</source>
+        <translation>%1 cannot be written: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>TemplateGallery</name>
+    <message>
+        <source>New from template</source>
+        <translation>New from template</translation>
+    </message>
+    <message>
+        <source>Templates</source>
+        <translation>Templates</translation>
+    </message>
+    <message>
+        <source>C&amp;reate</source>
+        <translation>C&amp;reate</translation>
+    </message>
+    <message>
+        <source>From a &amp;file…</source>
+        <translation>From a &amp;file…</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Delete</translation>
+    </message>
+    <message>
+        <source>Delete the template %1?</source>
+        <translation>Delete the template %1?</translation>
+    </message>
+</context>
+<context>
+    <name>Templates</name>
+    <message>
+        <source>Empty</source>
+        <translation>Empty</translation>
+    </message>
+    <message>
+        <source>6M: production</source>
+        <translation>6M: production</translation>
+    </message>
+    <message>
+        <source>4S: services</source>
+        <translation>4S: services</translation>
+    </message>
+    <message>
+        <source>8P: marketing</source>
+        <translation>8P: marketing</translation>
+    </message>
+    <message>
+        <source>4P: administration</source>
+        <translation>4P: administration</translation>
+    </message>
+    <message>
+        <source>5 whys</source>
+        <translation>5 whys</translation>
+    </message>
+    <message>
+        <source>Incident review</source>
+        <translation>Incident review</translation>
+    </message>
+    <message>
+        <source>Project risks</source>
+        <translation>Project risks</translation>
     </message>
 </context>
 <context>

@@ -160,6 +160,31 @@
     </message>
 </context>
 <context>
+    <name>CloseQuestion</name>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n document(s) have changes that were not saved. Save those that are checked?</source>
+        <translation>
+            <numerusform>有 %n 个文档的更改尚未保存。保存勾选的文档吗？</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Documents with changes that were not saved</source>
+        <translation>有未保存更改的文档</translation>
+    </message>
+    <message>
+        <source>&amp;Save checked</source>
+        <translation>保存所选(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Close &amp;without saving</source>
+        <translation>不保存并关闭(&amp;W)</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
     <message>
         <source>Show this help and quit.</source>
@@ -1407,11 +1432,7 @@ What is left out, or put where it can be kept, is listed on the error output.</s
     </message>
     <message>
         <source>New from the &amp;example</source>
-        <translation>从示例新建(&amp;M)</translation>
-    </message>
-    <message>
-        <source>New from &amp;template…</source>
-        <translation>从模板新建(&amp;T)…</translation>
+        <translation>从示例新建(&amp;H)</translation>
     </message>
     <message>
         <source>&amp;Open…</source>
@@ -1448,10 +1469,6 @@ What is left out, or put where it can be kept, is listed on the error output.</s
     <message>
         <source>cannot open %1: %2</source>
         <translation>无法打开 %1：%2</translation>
-    </message>
-    <message>
-        <source>New from template</source>
-        <translation>从模板新建</translation>
     </message>
     <message>
         <source>Open</source>
@@ -1501,10 +1518,6 @@ What is left out, or put where it can be kept, is listed on the error output.</s
         <source>&amp;Welcome diagram</source>
         <translation>欢迎图(&amp;W)</translation>
     </message>
-    <message>
-        <source>Welcome</source>
-        <translation>欢迎</translation>
-    </message>
 </context>
 <context>
     <name>FileConflict</name>
@@ -1535,6 +1548,13 @@ What is left out, or put where it can be kept, is listed on the error output.</s
     <message>
         <source>&amp;Hide</source>
         <translation>隐藏(&amp;I)</translation>
+    </message>
+</context>
+<context>
+    <name>FileName</name>
+    <message>
+        <source>Untitled</source>
+        <translation>未命名</translation>
     </message>
 </context>
 <context>
@@ -2909,6 +2929,107 @@ Do you want to save your changes?</source>
     <message>
         <source>Votes</source>
         <translation>票数</translation>
+    </message>
+</context>
+<context>
+    <name>TemplateCommands</name>
+    <message>
+        <source>New from &amp;template…</source>
+        <translation>从模板新建(&amp;T)…</translation>
+    </message>
+    <message>
+        <source>Save as te&amp;mplate…</source>
+        <translation>另存为模板(&amp;M)…</translation>
+    </message>
+    <message>
+        <source>New from template</source>
+        <translation>从模板新建</translation>
+    </message>
+    <message>
+        <source>%1 is no template: %2.</source>
+        <translation>%1 不是模板：%2。</translation>
+    </message>
+    <message>
+        <source>Save as template</source>
+        <translation>另存为模板</translation>
+    </message>
+    <message>
+        <source>Name of the template:</source>
+        <translation>模板名称：</translation>
+    </message>
+    <message>
+        <source>There is a template %1 already. Replace it?</source>
+        <translation>模板 %1 已存在。要替换吗？</translation>
+    </message>
+    <message>
+        <source>File &gt; New from template offers %1 now</source>
+        <translation>“文件 &gt; 从模板新建”中已有 %1</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2.</source>
+        <translation>无法写入 %1：%2。</translation>
+    </message>
+</context>
+<context>
+    <name>TemplateGallery</name>
+    <message>
+        <source>New from template</source>
+        <translation>从模板新建</translation>
+    </message>
+    <message>
+        <source>Templates</source>
+        <translation>模板</translation>
+    </message>
+    <message>
+        <source>C&amp;reate</source>
+        <translation>创建(&amp;R)</translation>
+    </message>
+    <message>
+        <source>From a &amp;file…</source>
+        <translation>从文件(&amp;F)…</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>删除(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Delete the template %1?</source>
+        <translation>删除模板 %1？</translation>
+    </message>
+</context>
+<context>
+    <name>Templates</name>
+    <message>
+        <source>Empty</source>
+        <translation>空白</translation>
+    </message>
+    <message>
+        <source>6M: production</source>
+        <translation>6M：生产</translation>
+    </message>
+    <message>
+        <source>4S: services</source>
+        <translation>4S：服务</translation>
+    </message>
+    <message>
+        <source>8P: marketing</source>
+        <translation>8P：营销</translation>
+    </message>
+    <message>
+        <source>4P: administration</source>
+        <translation>4P：管理</translation>
+    </message>
+    <message>
+        <source>5 whys</source>
+        <translation>5 个为什么</translation>
+    </message>
+    <message>
+        <source>Incident review</source>
+        <translation>事故复盘</translation>
+    </message>
+    <message>
+        <source>Project risks</source>
+        <translation>项目风险</translation>
     </message>
 </context>
 <context>

@@ -7,6 +7,7 @@
 #include <app/common/busycursor.h>
 #include <app/common/plainbox.h>
 #include <app/diagram/diagramsession.h>
+#include <app/documents/closequestion.h>
 #include <app/documents/documentsaver.h>
 #include <app/documents/documenttab.h>
 #include <app/documents/documenttabs.h>
@@ -33,8 +34,10 @@
 #include <QPointer>
 #include <QUrl>
 
+#include <algorithm>
 #include <cstdio>
 #include <functional>
+#include <iterator>
 #include <optional>
 
 namespace {
@@ -95,10 +98,6 @@ void FileCommands::addOpenActions()
     add("newExample", QT_TR_NOOP("New from the &example"), {},
         &FileCommands::newFromBuiltInTemplate);
     add("welcome", QT_TR_NOOP("&Welcome diagram"), {}, &FileCommands::newWelcome);
-    m_actions->add(
-        QStringLiteral("newFromTemplate"), [] { return tr("New from &template…"); }, {},
-        ActionSet::Scope::Window,
-        [this] { newFromTemplate(m_tabs->current()->session()->folder()); });
     add("open", QT_TR_NOOP("&Open…"), QKeySequence::Open, &FileCommands::openFiles);
     add("import", QT_TR_NOOP("&Import…"), QKeySequence(Qt::CTRL | Qt::Key_I),
         &FileCommands::importFiles);
@@ -144,6 +143,7 @@ void FileCommands::addCloseActions()
 
 void FileCommands::updateActions()
 {
+    rememberOpen(Remembering::GoOn);
     const DocumentTab *const tab = m_tabs->current();
     for (const char *name : {"save", "saveAs", "saveCopy", "saveAll", "close"})
         m_actions->action(QLatin1String(name))->setEnabled(tab->document());
@@ -155,6 +155,9 @@ void FileCommands::open(const QStringList &sources)
     const QStringList wanted = sources.isEmpty() ? LastDocuments::files() : sources;
     if (sources.isEmpty())
         m_shownAtLast = LastDocuments::shownFile();
+    // A document that ends the program while it is loaded is not opened again at the next start.
+    if (!wanted.isEmpty())
+        rememberOpen(Remembering::Begin);
     if (wanted.isEmpty() && m_tabs->tabs().isEmpty()) {
         if (Welcome::isFirstStart())
             newWelcome();
@@ -207,6 +210,7 @@ void FileCommands::endLoading()
     if (DocumentTab *const tab = m_tabs->tabOfFile(m_shownAtLast))
         m_tabs->setCurrent(tab);
     m_shownAtLast.clear();
+    rememberOpen(Remembering::Begin);
     showFailures();
 }
 
@@ -243,19 +247,8 @@ void FileCommands::newWelcome()
 {
     m_arrivals->insertExistItemRows(QModelIndex(), {Welcome::diagram().release()});
     FishInfo *const document = m_arrivals->fishList().constLast();
-    document->setFileName(tr("Welcome") + QStringLiteral(".json"));
     m_tabs->add(document)->editor()->expandAll();
     m_actions->action(QStringLiteral("fit"))->trigger();
-}
-
-void FileCommands::newFromTemplate(const QString &folder)
-{
-    const QString path = QFileDialog::getOpenFileName(m_window, tr("New from template"), folder,
-                                                      DocumentSaver::documentFilter());
-    if (path.isEmpty())
-        return;
-    if (FishInfo *const document = arrival(m_arrivals->loadFishFromTemplate(path), path))
-        m_tabs->add(document);
 }
 
 /** The document of the file @p path, whose load has ended with @p error; null, after a message,
@@ -373,8 +366,11 @@ void FileCommands::closeCurrent()
 void FileCommands::closeTabs(const QList<DocumentTab *> &tabs)
 {
     const QList<QPointer<DocumentTab>> open = openAmong(tabs);
+    const bool areMany = changedAmong(open).size() > 1;
+    if (areMany && !mayCloseMany(open))
+        return;
     for (const QPointer<DocumentTab> &tab : open) {
-        if (tab && !mayClose(tab))
+        if (tab && !areMany && !mayClose(tab))
             return;
         if (!tab)
             continue;
@@ -405,6 +401,8 @@ bool FileCommands::mayClose(DocumentTab *tab)
 bool FileCommands::mayCloseAll()
 {
     const QList<QPointer<DocumentTab>> tabs = openAmong(m_tabs->tabs());
+    if (changedAmong(tabs).size() > 1)
+        return mayCloseMany(tabs);
     for (const QPointer<DocumentTab> &tab : tabs) {
         if (tab && !mayClose(tab))
             return false;
@@ -412,14 +410,51 @@ bool FileCommands::mayCloseAll()
     return true;
 }
 
+/** Those of @p tabs that have something to save, with what is typed into their fields. */
+QList<QPointer<DocumentTab>>
+FileCommands::changedAmong(const QList<QPointer<DocumentTab>> &tabs) const
+{
+    QList<QPointer<DocumentTab>> changed;
+    std::copy_if(tabs.cbegin(), tabs.cend(), std::back_inserter(changed),
+                 [](const QPointer<DocumentTab> &tab) { return tab && hasChanges(*tab); });
+    return changed;
+}
+
+/** Asks one question for all changed ones of @p tabs; false when the user wants to go on working.
+ */
+bool FileCommands::mayCloseMany(const QList<QPointer<DocumentTab>> &tabs)
+{
+    CloseQuestion question(changedAmong(tabs), m_window);
+    if (question.exec() != QDialog::Accepted)
+        return false;
+    const QList<QPointer<DocumentTab>> wanted = question.toSave();
+    return std::all_of(wanted.cbegin(), wanted.cend(), [this](const QPointer<DocumentTab> &tab) {
+        return !tab || m_saver->save(tab);
+    });
+}
+
 void FileCommands::end()
 {
+    rememberOpen(Remembering::Begin);
+    m_isRemembering = false; // the tabs are about to go
+    const QList<DocumentTab *> tabs = m_tabs->tabs();
+    for (const DocumentTab *tab : tabs)
+        tab->recovery()->discard();
+}
+
+/** Notes which files are open, for the case that this run does not end well. */
+void FileCommands::rememberOpen(Remembering remembering)
+{
+    m_isRemembering = m_isRemembering || remembering == Remembering::Begin;
     QStringList paths;
     const QList<DocumentTab *> tabs = m_tabs->tabs();
     for (const DocumentTab *tab : tabs) {
-        tab->recovery()->discard();
         if (!tab->path().isEmpty())
             paths.append(tab->path());
     }
+    const QStringList open = paths + QStringList(m_tabs->current()->path());
+    if (!m_isRemembering || (open == m_remembered && remembering == Remembering::GoOn))
+        return;
+    m_remembered = open;
     LastDocuments::remember(paths, m_tabs->current()->path());
 }

@@ -66,7 +66,6 @@ private:
     FishInfo *arrival(int error, const QString &path);
     void newFromBuiltInTemplate();
     void newWelcome();
-    void newFromTemplate(const QString &startFolder);
     void openFiles();
     void importFiles();
     void importFile(const QString &path);
@@ -81,6 +80,10 @@ private:
     bool mayClose(DocumentTab *tab);
     QList<QPointer<DocumentTab>> openAmong(const QList<DocumentTab *> &tabs) const;
     void endLoading();
+    QList<QPointer<DocumentTab>> changedAmong(const QList<QPointer<DocumentTab>> &tabs) const;
+    bool mayCloseMany(const QList<QPointer<DocumentTab>> &tabs);
+    enum class Remembering { Begin, GoOn };
+    void rememberOpen(Remembering remembering);
 
     DocumentTabs *m_tabs;
     RecentFiles *m_recent;
@@ -89,6 +92,8 @@ private:
     FishModel *m_arrivals; ///< documents are loaded into it, and leave it for a tab
     DocumentLoader *m_loader;
     DocumentSaver *m_saver;
-    QStringList m_failures; ///< what could not be opened and was not shown in a box yet
-    QString m_shownAtLast;  ///< the file to be shown when all that was asked for is loaded
+    QStringList m_failures;       ///< what could not be opened and was not shown in a box yet
+    QString m_shownAtLast;        ///< the file to be shown when all that was asked for is loaded
+    QStringList m_remembered;     ///< the open files, and that of the shown document, as noted last
+    bool m_isRemembering = false; ///< not before the files of the last run are known
 };

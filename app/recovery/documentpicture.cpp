@@ -11,9 +11,11 @@
 #include <fishbone/exchange/pictureexport.h>
 #include <fishbone/model/fishinfo.h>
 #include <fishbone/model/fishmodel.h>
+#include <fishbone/model/treeitem.h>
 
 #include <QFileInfo>
 #include <QGuiApplication>
+#include <QJsonObject>
 #include <QPainter>
 #include <QPalette>
 
@@ -30,20 +32,10 @@ DiagramLook::Options optionsOn(const QColor &canvas, DiagramLook::Options option
     return options;
 }
 
-} // namespace
-
-namespace DocumentPicture {
-
-QPixmap render(const QString &path, const QSize &size)
+/** A picture of the first document of @p model, with that many levels below its main bones. */
+QPixmap pictureOf(FishModel &model, int levels, const QSize &size)
 {
-    constexpr qint64 quicklyDrawn = 2 * 1024 * 1024; // bytes, some thousand subjects
     constexpr int margin = 4;
-    constexpr int levels = 1; // below the main bones: more could not be told apart
-    FishModel model;
-    model.setModelType(FISH_MODEL_DIAGRAM);
-    if (QFileInfo(path).size() > quicklyDrawn ||
-        model.loadFishFromTemplate(path) != MODEL_NO_ERROR || !model.index(0, 0).isValid())
-        return QPixmap();
     const DiagramView view =
         DiagramView::of(model.fishList().constFirst()->view(), DiagramView::usual());
     const QColor canvas = QGuiApplication::palette().color(QPalette::Base);
@@ -60,6 +52,35 @@ QPixmap render(const QString &path, const QSize &size)
     const QRectF target = QRectF(QPointF(), size).adjusted(margin, margin, -margin, -margin);
     editor.scene()->render(&painter, target, PictureExport::visibleRect(*editor.scene()));
     return picture;
+}
+
+} // namespace
+
+namespace DocumentPicture {
+
+QPixmap render(const QString &path, const QSize &size)
+{
+    constexpr qint64 quicklyDrawn = 2 * 1024 * 1024; // bytes, some thousand subjects
+    constexpr int levels = 1; // below the main bones: more could not be told apart
+    FishModel model;
+    model.setModelType(FISH_MODEL_DIAGRAM);
+    if (QFileInfo(path).size() > quicklyDrawn ||
+        model.loadFishFromTemplate(path) != MODEL_NO_ERROR || !model.index(0, 0).isValid())
+        return QPixmap();
+    return pictureOf(model, levels, size);
+}
+
+QPixmap of(const TreeItem &head, const QSize &size)
+{
+    constexpr int levels = 10;
+    FishModel model;
+    model.setModelType(FISH_MODEL_DIAGRAM);
+    QJsonObject copy;
+    FishModel::write(copy, const_cast<TreeItem *>(&head), true);
+    auto *const document = new FishInfo;
+    document->loadFish(copy, &model);
+    model.insertFish(0, document); // which takes it over
+    return pictureOf(model, levels, size);
 }
 
 } // namespace DocumentPicture

@@ -28,7 +28,7 @@ EmptyPage::EmptyPage(const ActionSet &actions, RecentFiles *recent, QWidget *par
     font.setPointSizeF(font.pointSizeF() * 1.6);
     title->setFont(font);
     auto *const buttons = new QVBoxLayout;
-    for (const char *name : {"new", "newExample", "open", "url"}) {
+    for (const char *name : {"new", "newFromTemplate", "open", "url"}) {
         QAction *const action = actions.action(QLatin1String(name));
         auto *const button = new QPushButton(this);
         Language::bind(button, &QPushButton::setText, [action] { return action->text(); });

@@ -28,6 +28,7 @@ class RecentFiles;
 class RecoveryCommands;
 class SubjectTree;
 class TabCommands;
+class TemplateCommands;
 class ViewCommands;
 class ZoomControls;
 
@@ -90,6 +91,7 @@ private:
     AutosaveStatus *m_autosave = nullptr;
     FileCommands *m_files = nullptr;
     RecoveryCommands *m_recovery = nullptr;
+    TemplateCommands *m_templates = nullptr;
     TabCommands *m_tabCommands = nullptr;
     EditCommands *m_edits = nullptr;
     ExportCommands *m_exports = nullptr;

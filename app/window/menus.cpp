@@ -24,9 +24,8 @@ struct Bar
 
 constexpr Bar menus[] = {
     {"fileMenu", QT_TRANSLATE_NOOP("Menus", "&File"),
-     "new newExample newFromTemplate | open recent import url recover | save saveAs saveCopy "
-     "saveAll "
-     "revert | export exportAs print printPreview | close | reopen quit"},
+     "new newFromTemplate newExample | open recent import url recover | save saveAs saveCopy "
+     "saveAsTemplate saveAll revert | export exportAs print printPreview | close | reopen quit"},
     {"editMenu", QT_TRANSLATE_NOOP("Menus", "&Edit"),
      "undo redo | cut copy copyPicture paste delete | selectAll find"},
     {"subjectMenu", QT_TRANSLATE_NOOP("Menus", "&Subject"),

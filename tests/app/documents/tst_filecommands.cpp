@@ -7,18 +7,36 @@
 #include <tests/program/testprogram.h>
 #include <tests/support/modaldriver.h>
 
+#include <app/documents/closequestion.h>
 #include <app/recovery/recoverystore.h>
 
 #include <QFileDialog>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QStatusBar>
+#include <QTabBar>
+#include <QTabWidget>
 #include <QTcpServer>
 #include <QTcpSocket>
 
 using DialogAnswers::enter;
 using DialogAnswers::press;
 using TestSupport::ModalDriver;
+
+namespace {
+
+/// Types a title over that of the selected bone, as a user does.
+void typeTitle(const AppFixture &app, const QString &title)
+{
+    QTest::keyClicks(app.window.editor()->view(), title.left(1));
+    QTest::keyClicks(QApplication::focusWidget(), title.mid(1));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    AppFixture::settle();
+}
+
+} // namespace
 
 class TestFileCommands : public QObject
 {
@@ -38,7 +56,12 @@ private Q_SLOTS:
     void shouldAskBeforeWhatIsTypedGoes();
     void shouldSaveAll();
     void shouldOpenTheChosenFile();
-    void shouldMakeANewDocumentOfATemplate();
+    void shouldCallANewDocumentWhatItsHeadSays();
+    void shouldKeepTheNameOfADocumentWithAFile();
+    void shouldBeUnmodifiedWhereUndoLeadsBackToTheFile();
+    void shouldStayModifiedByWhatTheHistoryDoesNotKnow();
+    void shouldAskOneQuestionForSeveralDocuments_data();
+    void shouldAskOneQuestionForSeveralDocuments();
     void shouldCloseAnUnchangedDocumentWithoutAQuestion();
     void shouldAskBeforeAChangedDocumentCloses_data();
     void shouldAskBeforeAChangedDocumentCloses();
@@ -214,20 +237,125 @@ void TestFileCommands::shouldOpenTheChosenFile()
     QCOMPARE(app.text(), QStringLiteral("Other"));
 }
 
-void TestFileCommands::shouldMakeANewDocumentOfATemplate()
+void TestFileCommands::shouldCallANewDocumentWhatItsHeadSays()
 {
     AppFixture app;
-    const QString pattern = app.path(QStringLiteral("pattern.json"));
-    AppFixture::writeFile(pattern, R"({"title": "Pattern"})");
-    const ModalDriver<QFileDialog> driver(enter(pattern));
-    app.trigger("newFromTemplate");
+    app.trigger("new");
+    typeTitle(app, QStringLiteral("Pump: 1/2 fails"));
+    QVERIFY2(app.window.windowTitle().startsWith(QLatin1String("Pump 1 2 fails[*]")),
+             qPrintable(app.window.windowTitle()));
+    auto *const bar = app.window.findChild<QTabWidget *>(QStringLiteral("tabs"))->tabBar();
+    QCOMPARE(bar->tabText(1), QStringLiteral("Pump 1 2 fails*"));
+    QString proposed;
+    QString folder;
+    const ModalDriver<QFileDialog> driver([&](QFileDialog &dialog) {
+        proposed = dialog.findChild<QLineEdit *>(QStringLiteral("fileNameEdit"))->text();
+        folder = dialog.directory().path();
+        dialog.reject();
+    });
+    QTest::keyClick(app.window.editor()->view(), Qt::Key_S, Qt::ControlModifier);
     QVERIFY(driver.isDone());
-    QCOMPARE(app.text(), QStringLiteral("Pattern"));
-    QVERIFY(app.document()->isUntitled());
+    QCOMPARE(proposed, QStringLiteral("Pump 1 2 fails.json"));
+    QCOMPARE(folder, QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+}
 
-    app.trigger("newExample");
-    QCOMPARE(app.tabCount(), 3);
-    QVERIFY(app.document()->isUntitled());
+void TestFileCommands::shouldKeepTheNameOfADocumentWithAFile()
+{
+    AppFixture app;
+    app.select("Late");
+    typeTitle(app, QStringLiteral("Early"));
+    QVERIFY(app.text().startsWith(QLatin1String("Early")));
+    QVERIFY(app.window.windowTitle().startsWith(QLatin1String("late.json")));
+}
+
+void TestFileCommands::shouldBeUnmodifiedWhereUndoLeadsBackToTheFile()
+{
+    AppFixture app;
+    FishEditor *const editor = app.window.editor();
+    const auto press = [editor](Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+        QTest::keyClick(editor->view(), key, modifiers);
+        AppFixture::settle();
+    };
+    app.select("Machines");
+    press(Qt::Key_Delete);
+    QVERIFY(app.window.isWindowModified());
+    press(Qt::Key_Z, Qt::ControlModifier);
+    QVERIFY(!app.window.isWindowModified());
+    app.trigger("redo");
+    QVERIFY(app.window.isWindowModified());
+    press(Qt::Key_S, Qt::ControlModifier);
+    QVERIFY(!app.window.isWindowModified());
+    press(Qt::Key_Z, Qt::ControlModifier); // away from what is in the file
+    QVERIFY(app.window.isWindowModified());
+    app.trigger("redo");
+    QVERIFY(!app.window.isWindowModified());
+    app.trigger("close"); // without a question
+    QCOMPARE(app.tabCount(), 0);
+}
+
+/// What undo does not take back stays a change.
+void TestFileCommands::shouldStayModifiedByWhatTheHistoryDoesNotKnow()
+{
+    AppFixture app;
+    app.select("Machines");
+    app.trigger("delete");
+    app.subject("Rust")->setTitle(QStringLiteral("Dust"));
+    Q_EMIT app.window.model()->dataChanged(app.find("Dust"), app.find("Dust"));
+    AppFixture::settle();
+    app.trigger("undo");
+    QVERIFY(app.window.isWindowModified());
+}
+
+void TestFileCommands::shouldAskOneQuestionForSeveralDocuments_data()
+{
+    QTest::addColumn<QString>("button");
+    QTest::addColumn<bool>("firstIsSaved");
+    QTest::addColumn<bool>("closed");
+    QTest::newRow("save one") << QStringLiteral("closeSave") << true << true;
+    QTest::newRow("none") << QStringLiteral("closeWithoutSaving") << false << true;
+    QTest::newRow("cancel") << QString() << false << false;
+}
+
+void TestFileCommands::shouldAskOneQuestionForSeveralDocuments()
+{
+    QFETCH(QString, button);
+    QFETCH(bool, firstIsSaved);
+    QFETCH(bool, closed);
+    AppFixture app;
+    const QString other = app.path(QStringLiteral("other.json"));
+    const QByteArray content = R"({"title": "Other", "children": [{"title": "Bone"}]})";
+    AppFixture::writeFile(other, content);
+    app.window.open({other});
+    AppFixture::settle();
+    app.select("Bone");
+    app.trigger("delete");
+    app.showTab(0);
+    app.select("Machines");
+    app.trigger("delete");
+    QStringList names;
+    const ModalDriver<CloseQuestion> driver([&](CloseQuestion &question) {
+        auto *const list = question.findChild<QListWidget *>();
+        for (int row = 0; row < list->count(); ++row)
+            names.append(list->item(row)->text());
+        list->setFocus();
+        // Keys move nothing before the list is laid out.
+        for (int tries = 0; tries < 1000 && list->currentRow() == 0; ++tries) {
+            QTest::keyClick(list, Qt::Key_Down);
+            QCoreApplication::processEvents();
+        }
+        QTest::keyClick(list, Qt::Key_Space); // the second one is not to be saved
+        QCOMPARE(list->item(0)->checkState(), Qt::Checked);
+        QCOMPARE(list->item(1)->checkState(), Qt::Unchecked);
+        if (button.isEmpty())
+            QTest::keyClick(&question, Qt::Key_Escape);
+        else
+            QTest::mouseClick(question.findChild<QPushButton *>(button), Qt::LeftButton);
+    });
+    QCOMPARE(app.window.close(), closed);
+    QVERIFY(driver.isDone());
+    QCOMPARE(names, QStringList({QStringLiteral("late.json"), QStringLiteral("other.json")}));
+    QCOMPARE(!AppFixture::contentOf(app.path()).contains("Machines"), firstIsSaved);
+    QCOMPARE(AppFixture::contentOf(other), content);
 }
 
 void TestFileCommands::shouldCloseAnUnchangedDocumentWithoutAQuestion()
