@@ -33,6 +33,7 @@ DiagramSession::DiagramSession(FishModel *model, FishEditor *editor, QObject *pa
     auto *const tracker = new ModifiedTracker(model, this);
     connect(tracker, &ModifiedTracker::changed, this, [this](FishInfo *document) {
         m_changed = document;
+        m_sawChange = true;
         touch();
     });
     connect(model, &FishModel::rowsInserted, this,
@@ -84,18 +85,59 @@ void DiagramSession::touch()
     m_settle.start(0);
 }
 
+/** Notes whether the document was changed by what the history does not know. */
+void DiagramSession::noteOtherChanges()
+{
+    const UndoStack &stack = *m_editor->undoStack();
+    const std::pair<int, int> place(stack.currentIndex(), stack.count());
+    const FishInfo *const shown = document();
+    const bool isElsewhere = m_sawChange && place == m_place;
+    if (isElsewhere || (shown && shown->modified() && stack.isClean()))
+        m_isApart = true;
+    m_sawChange = false;
+    m_place = place;
+}
+
+void DiagramSession::markSaved()
+{
+    m_editor->undoStack()->setClean();
+    m_isApart = false;
+    noteOtherChanges();
+}
+
+void DiagramSession::markApart()
+{
+    m_isApart = true;
+    if (FishInfo *const shown = document())
+        shown->setModified(true);
+    touch();
+}
+
 /** What has to wait until the change that is under way is complete. */
 void DiagramSession::settle()
 {
+    noteOtherChanges();
     // The document that was shown is gone.
     if (!m_editor->headSpear() && !m_model->fishList().isEmpty())
         showDocument(m_model->fishList().constLast());
     Q_EMIT stateChanged();
 }
 
+/** The uuid of what is shown as a diagram. */
+QString DiagramSession::shownUuid() const
+{
+    const TreeItem *const root = m_model->getTreeItem(m_editor->rootIndex());
+    return root ? root->uuid() : QString();
+}
+
+/** Shows the diagram below @p root as it was left. */
 void DiagramSession::showRoot(const QModelIndex &root)
 {
+    if (m_editor->headSpear())
+        m_left.insert(shownUuid(), DrawingState::capture(*m_editor));
     m_editor->setRootIndex(root);
+    if (const auto left = m_left.constFind(shownUuid()); left != m_left.constEnd())
+        left->restore(*m_editor);
     touch();
     Q_EMIT drawingRebuilt();
 }
@@ -314,6 +356,7 @@ void DiagramSession::redo()
 
 void DiagramSession::jumpTo(int index)
 {
+    noteOtherChanges();
     preserve([this, index] {
         if (!m_editor->undoStack()->setCurrentIndex(index))
             return;
@@ -321,4 +364,7 @@ void DiagramSession::jumpTo(int index)
         if (!m_changed) // a link, say, of which the model tells nobody
             m_editor->setModified(true);
     });
+    FishInfo *const shown = document();
+    if (shown && !m_isApart && m_editor->undoStack()->isClean())
+        shown->setModified(false);
 }

@@ -3,10 +3,13 @@
 
 #pragma once
 
+#include <app/diagram/drawingstate.h>
+
 #include <fishbone/editor/fisheditor.h>
 #include <fishbone/model/fishinfo.h>
 #include <fishbone/model/fishmodel.h>
 
+#include <QHash>
 #include <QModelIndexList>
 #include <QObject>
 #include <QPersistentModelIndex>
@@ -14,8 +17,8 @@
 #include <QTimer>
 
 #include <functional>
+#include <utility>
 
-class DrawingState;
 class ModifiedTracker;
 
 /**
@@ -82,6 +85,12 @@ public:
     /** Announces stateChanged() soon. */
     void touch();
 
+    /** The document is what its file has: it is unmodified again whenever undo or redo leads back
+     * here. */
+    void markSaved();
+    /** The document differs from its file, whatever is undone. */
+    void markApart();
+
 Q_SIGNALS:
     /** Something that is shown somewhere may have changed. Comes once for any number of changes. */
     void stateChanged();
@@ -90,6 +99,8 @@ Q_SIGNALS:
 
 private:
     void showRoot(const QModelIndex &root);
+    void noteOtherChanges();
+    QString shownUuid() const;
     bool reveal(const QModelIndex &index);
     QModelIndex indexInDocument(const FishInfo *document, const QString &uuid) const;
     void preserve(const std::function<void()> &change);
@@ -102,4 +113,8 @@ private:
     QPersistentModelIndex m_inserted;    ///< the newest row
     QPersistentModelIndex m_removedFrom; ///< where a row was removed last
     QPointer<FishInfo> m_changed;        ///< the document that changed last
+    QHash<QString, DrawingState> m_left; ///< how the drawings were, by the uuids of their roots
+    std::pair<int, int> m_place;         ///< in the history, at the last look
+    bool m_sawChange = false;            ///< since that look
+    bool m_isApart = true;               ///< whether something differs that no undo takes back
 };

@@ -58,7 +58,10 @@ bool DocumentSaver::mayOverwrite(DocumentTab *tab)
  * there is none. */
 QString DocumentSaver::chosenFile(DocumentTab *tab, const QString &title) const
 {
-    const QString proposed = tab->session()->folder() + QLatin1Char('/') + tab->name();
+    const QString suffix = QStringLiteral(".json");
+    const bool isComplete = tab->name().endsWith(suffix) || !tab->path().isEmpty();
+    const QString proposed = tab->session()->folder() + QLatin1Char('/') + tab->name() +
+                             (isComplete ? QString() : suffix);
     const QString path = QFileDialog::getSaveFileName(m_window, title, proposed, documentFilter());
     if (path.isEmpty() || !DocumentLoader::foreignFormat(path))
         return path;
@@ -110,6 +113,7 @@ bool DocumentSaver::writeTo(DocumentTab *tab, const QString &path)
     if (!write(tab, path))
         return false;
     tab->document()->setCurrentFile(path);
+    tab->session()->markSaved();
     tab->recovery()->discard();
     tab->conflict()->settle();
     m_recent->add(path);

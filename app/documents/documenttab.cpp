@@ -12,6 +12,7 @@
 #include <app/documents/fileconflict.h>
 #include <app/editing/canvasgestures.h>
 #include <app/editing/titleeditor.h>
+#include <app/files/safename.h>
 #include <app/panels/detailspanel.h>
 #include <app/panels/historypanel.h>
 #include <app/panels/subjecttree.h>
@@ -22,9 +23,15 @@
 #include <fishbone/editor/graphicsview.h>
 #include <fishbone/model/fishinfo.h>
 #include <fishbone/model/fishmodel.h>
+#include <fishbone/model/treeitem.h>
 #include <fishbone/undo/undostack.h>
 
+#include <QRegularExpression>
 #include <QVBoxLayout>
+
+namespace {
+const QLatin1String ending(".json");
+} // namespace
 
 DocumentTab::DocumentTab(CanvasTheme *theme, QWidget *parent)
     : QWidget(parent)
@@ -79,9 +86,26 @@ void DocumentTab::setDocument(FishInfo *document)
 {
     if (!m_model->insertFish(0, document))
         return;
+    static const QRegularExpression numbered(QStringLiteral("^fish\\d+\\.json$"));
+    m_isNamedByHead = document->isUntitled() && numbered.match(document->fileName()).hasMatch();
+    followHead();
     m_recovery->setDocument(document);
     m_conflict->settle();
     m_session->showDocument(document);
+    if (!document->modified())
+        m_session->markSaved();
+}
+
+/** A new document is called what its head says, until it has a file. */
+void DocumentTab::followHead()
+{
+    FishInfo *const shown = document();
+    const TreeItem *const head = shown ? shown->treeItem()->childAtIndex(0) : nullptr;
+    if (!m_isNamedByHead || !head || !shown->isUntitled())
+        return;
+    const QString wanted = safeFileName(head->title()) + ending;
+    if (shown->fileName() != wanted)
+        shown->setFileName(wanted);
 }
 
 FishInfo *DocumentTab::document() const
@@ -107,7 +131,10 @@ HistoryPanel *DocumentTab::history() const
 QString DocumentTab::name() const
 {
     const FishInfo *const shown = document();
-    return shown ? shown->userFriendlyCurrentFile() : QString();
+    QString shownName = shown ? shown->userFriendlyCurrentFile() : QString();
+    if (shown && shown->isUntitled() && m_isNamedByHead && shownName.endsWith(ending))
+        shownName.chop(ending.size());
+    return shownName;
 }
 
 QString DocumentTab::path() const
@@ -133,6 +160,7 @@ void DocumentTab::takeLook(const DocumentTab &other)
 
 void DocumentTab::followState()
 {
+    followHead();
     m_details->showSubject(m_editor->firstSelectedSpearIndex());
     m_tree->view()->viewport()->update(); // not every change of a title is announced
     const QList<FishInfo *> others = m_model->fishList().mid(1);

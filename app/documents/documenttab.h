@@ -48,7 +48,7 @@ public:
     DetailsPanel *details() const;
     HistoryPanel *history() const;
 
-    /** The name of the document's file. */
+    /** The name of the document's file, or what a new document is called. */
     QString name() const;
     /** The path of the document's file, empty while it has none. */
     QString path() const;
@@ -64,6 +64,7 @@ Q_SIGNALS:
 
 private:
     void followState();
+    void followHead();
 
     FishModel *m_model;
     FishEditor *m_editor;
@@ -75,4 +76,5 @@ private:
     QPointer<TreeSync> m_sync;
     QPointer<DetailsPanel> m_details;
     QPointer<HistoryPanel> m_history;
+    bool m_isNamedByHead = false; ///< while the document has no file
 };

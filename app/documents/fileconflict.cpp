@@ -56,8 +56,7 @@ void FileConflict::tellOfChange()
 
 void FileConflict::tellOfLoss()
 {
-    m_tab->document()->setModified(true); // it is nowhere else now
-    m_tab->session()->touch();
+    m_tab->session()->markApart(); // it is nowhere else now
     m_bar->ask(
         [this] {
             return tr("%1 was deleted, moved or renamed by another program.").arg(m_tab->name());
@@ -75,6 +74,5 @@ void FileConflict::keep()
 {
     m_watch.accept();
     m_bar->dismiss();
-    m_tab->document()->setModified(true);
-    m_tab->session()->touch();
+    m_tab->session()->markApart();
 }

@@ -56,6 +56,8 @@ void RecoveryCopy::saveChanges()
 {
     if (m_document && m_mayHaveChanged && m_document->modified())
         save();
+    else if (m_document && m_mayHaveChanged && QFile::exists(m_path))
+        discard(); // all of it was undone
 }
 
 bool RecoveryCopy::save()

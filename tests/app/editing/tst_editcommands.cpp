@@ -452,7 +452,7 @@ void TestEditCommands::shouldUndoALink()
     });
     app.trigger("link");
     QVERIFY(driver.isDone());
-    app.document()->setModified(false);
+    app.trigger("save");
     app.trigger("undo");
     QVERIFY(app.subject("Machines")->url().isEmpty());
     QVERIFY(!app.subject("Machines")->spear()->linkItem());
@@ -510,7 +510,7 @@ void TestEditCommands::shouldUndoAStyle()
     app.trigger("style");
     QVERIFY(driver.isDone());
     QVERIFY(app.subject("Machines")->spearStyle());
-    app.document()->setModified(false);
+    app.trigger("save");
     app.trigger("undo");
     QVERIFY(!app.subject("Machines")->spearStyle());
     QVERIFY(app.document()->modified());

@@ -11,6 +11,7 @@
 
 #include <QDockWidget>
 #include <QSettings>
+#include <QTcpServer>
 
 /// What one run of the program leaves for the next one.
 class TestLastDocuments : public QObject
@@ -24,7 +25,8 @@ private Q_SLOTS:
     void shouldShowTheTemplateWhenNothingIsLeft();
     void shouldOpenNothingElseWhenAFileIsAskedFor();
     void shouldReopenNothingUnlessWanted();
-    void shouldRememberNothingWhenTheWindowStaysOpen();
+    void shouldRememberWhatIsOpenAllTheTime();
+    void shouldForgetWhatIsBeingLoaded();
     void shouldRememberWhereEverythingWas();
 };
 
@@ -106,14 +108,30 @@ void TestLastDocuments::shouldReopenNothingUnlessWanted()
     QVERIFY(next.session()->document()->isUntitled());
 }
 
-void TestLastDocuments::shouldRememberNothingWhenTheWindowStaysOpen()
+/// A run that does not end well leaves what was open, too.
+void TestLastDocuments::shouldRememberWhatIsOpenAllTheTime()
 {
     AppFixture app;
-    app.select("Machines");
-    app.trigger("delete");
-    const TestSupport::ModalDriver<QMessageBox> driver(DialogAnswers::press(QMessageBox::Cancel));
-    QVERIFY(!app.window.close());
-    QVERIFY(driver.isDone());
+    const QString other = app.path(QStringLiteral("other.json"));
+    AppFixture::writeFile(other, R"({"title": "Other"})");
+    const QString first = QFileInfo(app.path()).canonicalFilePath();
+    QTRY_COMPARE(LastDocuments::files(), QStringList(first));
+    app.window.open({other});
+    QTRY_COMPARE(LastDocuments::files().size(), 2);
+    QCOMPARE(LastDocuments::shownFile(), QFileInfo(other).canonicalFilePath());
+    app.trigger("close");
+    QTRY_COMPARE(LastDocuments::files(), QStringList(first));
+}
+
+/// A file that ends the program while it is loaded does not do so at every start.
+void TestLastDocuments::shouldForgetWhatIsBeingLoaded()
+{
+    QTcpServer server; // which never answers
+    QVERIFY(server.listen(QHostAddress::LocalHost));
+    LastDocuments::remember({QCoreApplication::applicationFilePath()}, QString());
+    QCOMPARE(LastDocuments::files().size(), 1);
+    MainWindow window;
+    window.open({QStringLiteral("http://127.0.0.1:%1/a.json").arg(server.serverPort())});
     QCOMPARE(LastDocuments::files(), QStringList());
 }
 

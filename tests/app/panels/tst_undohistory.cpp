@@ -107,7 +107,7 @@ void TestUndoHistory::shouldMarkTheDocumentOnUndo()
     AppFixture app;
     app.select("Machines");
     app.trigger("delete");
-    app.document()->setModified(false); // as after saving
+    app.trigger("save");
     app.trigger("undo");
     QVERIFY(app.document()->modified());
 

@@ -24,6 +24,7 @@ private Q_SLOTS:
     void shouldFitTheDrawing();
     void shouldSwitchBetweenTaskAndDiagramMode();
     void shouldShowAPartAsADiagramAndComeBack();
+    void shouldShowTheWholeAsItWasLeft();
     void shouldListWhatWasShownBefore();
     void shouldFollowADarkPalette();
     void shouldPrintOnPaper();
@@ -159,6 +160,21 @@ void TestViewCommands::shouldShowAPartAsADiagramAndComeBack()
     app.select("Rust"); // lies elsewhere
     QCOMPARE(app.window.editor()->rootIndex(), app.find("Late"));
     QCOMPARE(app.selectedInDrawing(), QStringList(QStringLiteral("Rust")));
+}
+
+void TestViewCommands::shouldShowTheWholeAsItWasLeft()
+{
+    AppFixture app;
+    app.select("Illness"); // which expands what is above it
+    QVERIFY(app.subject("Too few")->spear()->isExpand());
+    QVERIFY(!app.subject("Material")->spear()->isExpand());
+    app.select("People");
+    app.trigger("asDiagram");
+    app.trigger("back");
+    QVERIFY(app.subject("Too few")->spear()->isExpand());
+    QVERIFY(app.subject("Illness")->spear()->isVisible());
+    QVERIFY(!app.subject("Material")->spear()->isExpand());
+    QCOMPARE(app.selectedInDrawing(), QStringList(QStringLiteral("People")));
 }
 
 void TestViewCommands::shouldListWhatWasShownBefore()
