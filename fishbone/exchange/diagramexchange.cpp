@@ -291,7 +291,7 @@ std::optional<TableMapping> DiagramExchange::tableMapping(const QString &fileNam
 
 namespace {
 /** Whether the field @p key is a mark with a value that attributes() of a format carry. */
-bool isMark(const TreeItem &subject, const QString &key)
+bool isKnownMark(const TreeItem &subject, const QString &key)
 {
     const QVector<SubjectAttributes::Attribute> &all = SubjectAttributes::all();
     return std::any_of(all.cbegin(), all.cend(), [&](const auto &attribute) {
@@ -304,7 +304,7 @@ void addOtherFields(const TreeItem &subject, ExchangeReport &report)
 {
     const QStringList keys = subject.otherFields().keys();
     for (const QString &key : keys) {
-        if (isMark(subject, key))
+        if (isKnownMark(subject, key))
             continue; // listed with the attributes
         report.add(key == JsonNodes::viewKey ? ExchangeReport::Kind::Appearance
                                              : ExchangeReport::Kind::LeftOut,
