@@ -3194,6 +3194,10 @@ Do you want to save your changes?</translation>
         <source>E&amp;xpand</source>
         <translation>E&amp;xpand</translation>
     </message>
+    <message>
+        <source>&amp;Just the drawing</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>WalkCommands</name>

@@ -3185,6 +3185,10 @@ Do you want to save your changes?</source>
         <source>E&amp;xpand</source>
         <translation>展开(&amp;X)</translation>
     </message>
+    <message>
+        <source>&amp;Just the drawing</source>
+        <translation>仅显示图(&amp;J)</translation>
+    </message>
 </context>
 <context>
     <name>WalkCommands</name>

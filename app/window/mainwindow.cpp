@@ -36,6 +36,7 @@
 #include <app/window/menukeys.h>
 #include <app/window/menus.h>
 #include <app/window/viewcommands.h>
+#include <app/window/windowlayout.h>
 #include <app/window/zoomcontrols.h>
 
 #include <fishbone/editor/fisheditor.h>
@@ -51,7 +52,6 @@
 #include <QDockWidget>
 #include <QMenu>
 #include <QMenuBar>
-#include <QSettings>
 #include <QStackedWidget>
 #include <QStatusBar>
 #include <QUrl>
@@ -96,7 +96,7 @@ MainWindow::MainWindow(QWidget *parent)
     showTab(m_tabs->current());
     connect(m_tabs, &DocumentTabs::added, this, &MainWindow::takeIn);
     connect(m_tabs, &DocumentTabs::currentChanged, this, &MainWindow::showTab);
-    restoreLayout();
+    m_layout->restore();
     Language::bind(this, [this] { showTexts(); });
 }
 
@@ -192,6 +192,8 @@ void MainWindow::addDocks()
     resizeDocks({trees, details}, {240, 300}, Qt::Horizontal);
     resizeDocks({details, histories}, {500, 160}, Qt::Vertical);
     resizeDocks({trees, overview}, {500, 160}, Qt::Vertical);
+    m_layout = new WindowLayout(this, {histories, details, overview, trees});
+    m_views->offerFocus(m_layout);
 }
 
 void MainWindow::addBars()
@@ -205,6 +207,7 @@ void MainWindow::addBars()
     submenus.insert(QStringLiteral("visited"), visited);
     submenus.insert(QStringLiteral("language"), new LanguageMenu(this));
     Menus::build(this, *m_actions, submenus);
+    m_actions->addShortcuts(ActionSet::Scope::Window, this); // also without the menus
     QMenu *const panels = createPopupMenu();
     Language::bind(panels, &QMenu::setTitle, [] { return tr("&Panels"); });
     menuBar()->insertMenu(findChild<QMenu *>(QStringLiteral("helpMenu"))->menuAction(), panels);
@@ -282,6 +285,7 @@ void MainWindow::showTab(DocumentTab *tab)
     m_histories->setCurrentWidget(tab->history());
     m_controls->setEditor(tab->editor());
     m_overview->setSession(tab->session());
+    m_layout->setDrawing(tab->editor()->view());
     m_counts->setSession(tab->session());
     m_autosave->setCopy(tab->recovery());
     m_looks->setLook(tab->look());
@@ -354,14 +358,6 @@ void MainWindow::changeEvent(QEvent *event)
     m_actions->updateIcons(palette());
 }
 
-void MainWindow::restoreLayout()
-{
-    resize(1280, 800);
-    const QSettings settings;
-    restoreGeometry(settings.value(QStringLiteral("geometry")).toByteArray());
-    restoreState(settings.value(QStringLiteral("layout")).toByteArray());
-}
-
 void MainWindow::closeEvent(QCloseEvent *event)
 {
     if (!m_files->mayCloseAll()) {
@@ -369,8 +365,6 @@ void MainWindow::closeEvent(QCloseEvent *event)
         return;
     }
     m_files->end();
-    QSettings settings;
-    settings.setValue(QStringLiteral("geometry"), saveGeometry());
-    settings.setValue(QStringLiteral("layout"), saveState());
+    m_layout->save();
     event->accept();
 }

@@ -30,6 +30,7 @@ class SubjectTree;
 class TabCommands;
 class TemplateCommands;
 class ViewCommands;
+class WindowLayout;
 class ZoomControls;
 
 /** The program's window: the documents in tabs, and around them the tree, details and history of
@@ -80,7 +81,6 @@ private:
     void startDiagram();
     void showTexts();
     void updateState();
-    void restoreLayout();
 
     CanvasTheme *m_theme;
     ActionSet *m_actions;
@@ -96,6 +96,7 @@ private:
     EditCommands *m_edits = nullptr;
     ExportCommands *m_exports = nullptr;
     ViewCommands *m_views = nullptr;
+    WindowLayout *m_layout = nullptr;
     LookCommands *m_looks = nullptr;
     QList<DiagramCommands *> m_commands; ///< all on the diagram of the current tab
     QStackedWidget *m_trees = nullptr;

@@ -37,7 +37,7 @@ constexpr Bar menus[] = {
     {"viewMenu", QT_TRANSLATE_NOOP("Menus", "&View"),
      "zoomin zoomout fullsize fit fitselection | rotateLeft rotateRight rotateReset | expand "
      "contract expandall contractall | asDiagram back whole visited | diagramMode taskMode | "
-     "canvasStyle look page language | fullScreen"},
+     "canvasStyle look page language | fullScreen focus"},
     {"helpMenu", QT_TRANSLATE_NOOP("Menus", "&Help"), "keys welcome | about aboutQt"},
 };
 

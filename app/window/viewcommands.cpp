@@ -7,6 +7,7 @@
 #include <app/common/busycursor.h>
 #include <app/common/canvastheme.h>
 #include <app/diagram/diagramsession.h>
+#include <app/window/windowlayout.h>
 #include <app/window/zoomcontrols.h>
 
 #include <fishbone/editor/fisheditor.h>
@@ -122,6 +123,16 @@ void ViewCommands::addDiagramActions()
         modes->addAction(mode);
     }
     setTaskMode(false);
+}
+
+void ViewCommands::offerFocus(WindowLayout *layout)
+{
+    QAction *const focus = m_actions->add(
+        QStringLiteral("focus"), [] { return tr("&Just the drawing"); },
+        {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_F)}, ActionSet::Scope::Window,
+        [layout] { layout->setFocused(!layout->isFocused()); });
+    focus->setCheckable(true);
+    connect(layout, &WindowLayout::focusChanged, focus, &QAction::setChecked);
 }
 
 void ViewCommands::setTaskMode(bool taskMode)

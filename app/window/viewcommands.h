@@ -8,6 +8,7 @@
 class CanvasTheme;
 class QMenu;
 class QWidget;
+class WindowLayout;
 class ZoomControls;
 
 /** The commands on how a diagram is shown: zoom, expansion, mode, and which part of it. */
@@ -26,6 +27,9 @@ public:
 
     /** Fills @p menu with the parts of the diagram that were shown before, each time it opens. */
     void listVisited(QMenu *menu);
+
+    /** Adds the action that shows the drawing alone. */
+    void offerFocus(WindowLayout *layout);
 
     /** Shows task counts and offers what concerns tasks, or not. */
     void setTaskMode(bool taskMode);
