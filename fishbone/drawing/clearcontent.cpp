@@ -69,6 +69,8 @@ QString ClearContent::meaningOf(Verdict verdict)
 QString ClearContent::shownIn(const TreeItem &subject)
 {
     QStringList all{meaningOf(subject.status()), meaningOf(SubjectMarks::verdict(subject))};
+    if (const int votes = SubjectMarks::votes(subject); votes > 0)
+        all.append(tr("%n vote(s)", nullptr, votes));
     all.removeAll(QString());
     return all.join(QStringLiteral(", "));
 }
@@ -86,6 +88,7 @@ void ClearSymbols::add(const TreeItem &subject, const ClearSubjectLook &look, in
         m_statuses.emplace(subject.status(), look.icon);
     if (look.verdict != Verdict::None)
         m_verdicts.insert(int(look.verdict));
+    m_hasVotes = m_hasVotes || look.votes > 0;
     // The box of a category and the head say themselves what their colours mean.
     if (level > 1 && look.colour.isValid())
         m_colours.emplace(look.colour.rgb(), subject.title());
@@ -95,12 +98,14 @@ std::vector<ClearMeaning> ClearSymbols::all() const
 {
     std::vector<ClearMeaning> all;
     for (const auto &[status, icon] : m_statuses)
-        all.push_back({icon, Verdict::None, QColor(), ClearContent::meaningOf(status)});
+        all.push_back({icon, Verdict::None, QColor(), ClearContent::meaningOf(status), false});
     for (const int verdict : m_verdicts)
-        all.push_back(
-            {QString(), Verdict(verdict), QColor(), ClearContent::meaningOf(Verdict(verdict))});
+        all.push_back({QString(), Verdict(verdict), QColor(),
+                       ClearContent::meaningOf(Verdict(verdict)), false});
+    if (m_hasVotes)
+        all.push_back({QString(), Verdict::None, QColor(), ClearContent::tr("votes"), true});
     for (const auto &[colour, title] : m_colours)
-        all.push_back({QString(), Verdict::None, QColor(colour), title.simplified()});
+        all.push_back({QString(), Verdict::None, QColor(colour), title.simplified(), false});
     return all;
 }
 
@@ -113,6 +118,7 @@ void ClearContent::add(const TreeItem *item, int parent, ClearPictureContent &co
     subject.title = item->title();
     subject.hasLink = !item->url().isEmpty();
     subject.hasStatus = !look.icon.isEmpty();
+    subject.votes = look.votes;
     subject.font = ownFont(*item);
     const int level = parent < 0 ? 0 : content.meanings[std::size_t(parent)].level + 1;
     content.subjects.push_back(subject);

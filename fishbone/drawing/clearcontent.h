@@ -20,12 +20,13 @@ class ClearSymbols
 public:
     /** Takes what is drawn of @p subject, which is at @p level and looks like @p look. */
     void add(const TreeItem &subject, const ClearSubjectLook &look, int level);
-    /** Statuses, then verdicts, then colours. */
+    /** Statuses, verdicts, votes and colours. */
     std::vector<ClearMeaning> all() const;
 
 private:
     std::map<int, QString> m_statuses; ///< with the first icon of each
     std::set<int> m_verdicts;
+    bool m_hasVotes = false;
     std::map<QRgb, QString> m_colours; ///< with the first subject of each
 };
 

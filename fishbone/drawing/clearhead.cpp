@@ -75,7 +75,7 @@ qreal ClearHead::widthAtHeight(qreal height) const
         const qreal left = ClearLabel::base(text, places.text, ClearLabel::Side::Center, line).x();
         qreal right = left + text.lines()[std::size_t(line)].width;
         if (line == text.lineCount() - 1)
-            right = std::max(right, places.link.right());
+            right = std::max({right, places.votes.right(), places.link.right()});
         const qreal top = places.text.top() + line * text.font().lineHeight();
         const qreal far = std::max(std::abs(top), std::abs(top + text.font().lineHeight()));
         // The corner may come no nearer than that in any direction.

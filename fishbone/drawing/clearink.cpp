@@ -39,6 +39,7 @@ ClearSubjectLook ClearSubjectLook::of(const TreeItem &subject)
     ClearSubjectLook look;
     look.colour = SubjectMarks::colour(subject);
     look.verdict = SubjectMarks::verdict(subject);
+    look.votes = SubjectMarks::votes(subject);
     if (const SpearStyle *const style = subject.spearStyle()) {
         look.ink = style->textColor(SpearStyle::ssNormal);
         look.background = style->textBkColor(SpearStyle::ssNormal);

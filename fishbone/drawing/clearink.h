@@ -23,6 +23,7 @@ struct ClearSubjectLook
     std::optional<QPen> pen; ///< its own pen for the bone
     QColor colour;           ///< its own colour for the bone and all below; invalid for none
     Verdict verdict = Verdict::None;
+    int votes = 0;
 
     /** That of @p subject, without its icon. */
     static ClearSubjectLook of(const TreeItem &subject);

@@ -13,11 +13,12 @@ constexpr qreal badgeSpace = 4; ///< between the badge and the text
 } // namespace
 
 ClearLabel::ClearLabel(std::shared_ptr<const ClearText> text, bool hasStatus, bool hasLink,
-                       qreal badgeWidth)
+                       qreal badgeWidth, qreal votesWidth)
     : m_text(std::move(text))
     , m_hasStatus(hasStatus)
     , m_hasLink(hasLink)
     , m_badgeWidth(badgeWidth)
+    , m_votesWidth(votesWidth)
 {
 }
 
@@ -37,17 +38,29 @@ qreal ClearLabel::iconSpace() const
     return iconSize() + ClearMeasure::iconGap;
 }
 
-/** Whether an icon stands left or right of the text: reading starts where the status is. */
-bool ClearLabel::hasIcon(bool onLeft) const
+/** Whether that side is the one of the status: where reading starts. */
+bool ClearLabel::isStatusSide(bool onLeft) const
 {
-    return onLeft != m_text->isRightToLeft() ? m_hasStatus : m_hasLink;
+    return onLeft != m_text->isRightToLeft();
+}
+
+qreal ClearLabel::votesSpace() const
+{
+    return m_votesWidth > 0 ? m_votesWidth + ClearMeasure::iconGap : 0;
+}
+
+/** How much room what stands on that side of the text takes. */
+qreal ClearLabel::spaceOn(bool onLeft) const
+{
+    if (isStatusSide(onLeft))
+        return m_hasStatus ? iconSpace() : 0;
+    return votesSpace() + (m_hasLink ? iconSpace() : 0);
 }
 
 /** The line that has the icon on that side. */
 qreal ClearLabel::iconLineWidth(bool onLeft) const
 {
-    const bool isStatus = onLeft != m_text->isRightToLeft();
-    return isStatus ? m_text->lines().front().width : m_text->lines().back().width;
+    return isStatusSide(onLeft) ? m_text->lines().front().width : m_text->lines().back().width;
 }
 
 qreal ClearLabel::width(Side side) const
@@ -55,15 +68,14 @@ qreal ClearLabel::width(Side side) const
     qreal width = m_text->width();
     if (side == Side::Center) {
         // The lines are centred on each other, the icons stand beside them.
-        const qreal left = hasIcon(true) ? iconLineWidth(true) / 2 + iconSpace() : 0;
-        const qreal right = hasIcon(false) ? iconLineWidth(false) / 2 + iconSpace() : 0;
+        const qreal left = iconLineWidth(true) / 2 + spaceOn(true);
+        const qreal right = iconLineWidth(false) / 2 + spaceOn(false);
         return std::max(width / 2, left) + std::max(width / 2, right);
     }
     const bool isBoneLeft = side == Side::Left;
-    if (hasIcon(!isBoneLeft)) // beside its own line, at the ragged end
-        width = std::max(width, iconLineWidth(!isBoneLeft) + iconSpace());
-    if (hasIcon(isBoneLeft)) // beside all lines, at the straight end
-        width += iconSpace();
+    // Beside its own line at the ragged end, beside all lines at the straight one.
+    width = std::max(width, iconLineWidth(!isBoneLeft) + spaceOn(!isBoneLeft));
+    width += spaceOn(isBoneLeft);
     return width + (m_badgeWidth > 0 ? m_badgeWidth + badgeSpace : 0);
 }
 
@@ -82,15 +94,17 @@ ClearLabelPlaces ClearLabel::placesAt(const QPointF &anchor, Side side) const
     if (side == Side::Center)
         left += leftShift(side) - this->width(side) / 2;
     else if (side == Side::Left)
-        left += badge + (hasIcon(true) ? iconSpace() : 0);
+        left += badge + spaceOn(true);
     else
-        left -= badge + (hasIcon(false) ? iconSpace() : 0) + width;
+        left -= badge + spaceOn(false) + width;
     places.text = QRectF(left, top, width, m_text->height());
     const bool isReversed = m_text->isRightToLeft();
     if (m_hasStatus)
-        places.status = iconRect(places.text, side, !isReversed);
+        places.status = iconRect(places.text, side, !isReversed, 0);
+    if (m_votesWidth > 0)
+        places.votes = votesRect(places.text, side, isReversed);
     if (m_hasLink)
-        places.link = iconRect(places.text, side, isReversed);
+        places.link = iconRect(places.text, side, isReversed, votesSpace());
     if (m_badgeWidth > 0 && side != Side::Center) {
         const qreal x = side == Side::Right ? anchor.x() - m_badgeWidth : anchor.x();
         places.badge = QRectF(x, anchor.y() - badgeHeight / 2, m_badgeWidth, badgeHeight);
@@ -102,22 +116,35 @@ ClearLabelPlaces ClearLabel::placesAt(const QPointF &anchor, Side side) const
 qreal ClearLabel::leftShift(Side side) const
 {
     const qreal half = m_text->width() / 2;
-    if (!hasIcon(true) || side != Side::Center)
+    if (side != Side::Center)
         return 0;
-    return std::max(half, iconLineWidth(true) / 2 + iconSpace()) - half;
+    return std::max(half, iconLineWidth(true) / 2 + spaceOn(true)) - half;
 }
 
-QRectF ClearLabel::iconRect(const QRectF &text, Side side, bool onLeft) const
+/** Where an icon stands beside its line, or beside what takes @p width there. */
+QRectF ClearLabel::iconRect(const QRectF &text, Side side, bool onLeft, qreal width) const
 {
-    const bool isStatus = onLeft != m_text->isRightToLeft();
-    const int line = isStatus ? 0 : m_text->lineCount() - 1;
+    const int line = isStatusSide(onLeft) ? 0 : m_text->lineCount() - 1;
     const QPointF start = base(*m_text, text, side, line);
     const qreal lineHeight = m_text->font().lineHeight();
     const qreal size = iconSize();
-    const qreal x =
-        onLeft ? start.x() - iconSpace() : start.x() + iconLineWidth(false) + ClearMeasure::iconGap;
+    const qreal x = onLeft ? start.x() - width - iconSpace()
+                           : start.x() + iconLineWidth(false) + width + ClearMeasure::iconGap;
     const qreal y = text.top() + (line + 0.5) * lineHeight - size / 2;
     return QRectF(x, y, size, size);
+}
+
+QRectF ClearLabel::votesRect(const QRectF &text, Side side, bool onLeft) const
+{
+    QRectF rect = iconRect(text, side, onLeft, 0); // where an icon would stand
+    if (onLeft)
+        rect.setLeft(rect.right() - m_votesWidth);
+    else
+        rect.setRight(rect.left() + m_votesWidth);
+    const qreal height = std::min(votesHeight, m_text->font().lineHeight());
+    rect.setTop(rect.center().y() - height / 2);
+    rect.setHeight(height);
+    return rect;
 }
 
 QPointF ClearLabel::base(const ClearText &text, const QRectF &rect, Side side, int line)

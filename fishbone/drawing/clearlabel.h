@@ -15,14 +15,15 @@ struct ClearLabelPlaces
 {
     QRectF text;   ///< the lines alone
     QRectF status; ///< null without a status
+    QRectF votes;  ///< null without votes
     QRectF link;   ///< null without a link
     QRectF badge;  ///< null without a badge
 };
 
 /**
- * A title with what belongs to it: the status before its first line, the link after its last one,
- * as it is read, each in the middle of that line; and between the title and its bone the badge that
- * says how many subjects are hidden.
+ * A title with what belongs to it: the status before its first line, the votes and the link after
+ * its last one, as it is read, each in the middle of that line; and between the title and its bone
+ * the badge that says how many subjects are hidden.
  */
 class ClearLabel
 {
@@ -35,8 +36,9 @@ public:
     };
 
     ClearLabel() = default;
+    /** @p badgeWidth and @p votesWidth are 0 where there is none. */
     ClearLabel(std::shared_ptr<const ClearText> text, bool hasStatus, bool hasLink,
-               qreal badgeWidth);
+               qreal badgeWidth, qreal votesWidth = 0);
 
     const std::shared_ptr<const ClearText> &text() const { return m_text; }
 
@@ -56,24 +58,29 @@ public:
     static QPointF base(const ClearText &text, const QRectF &rect, Side side, int line);
 
     static constexpr qreal badgeHeight = 15;
+    static constexpr qreal votesHeight = 14;
 
     /** Whether it takes the same room: texts that are laid out once are compared. */
     bool operator==(const ClearLabel &o) const
     {
         return m_text == o.m_text && m_hasStatus == o.m_hasStatus && m_hasLink == o.m_hasLink &&
-               m_badgeWidth == o.m_badgeWidth;
+               m_badgeWidth == o.m_badgeWidth && m_votesWidth == o.m_votesWidth;
     }
 
 private:
-    bool hasIcon(bool onLeft) const;
+    bool isStatusSide(bool onLeft) const;
+    qreal spaceOn(bool onLeft) const;
+    qreal votesSpace() const;
+    QRectF votesRect(const QRectF &text, Side side, bool onLeft) const;
     qreal iconLineWidth(bool onLeft) const;
     qreal iconSize() const;
     qreal iconSpace() const;
-    QRectF iconRect(const QRectF &text, Side side, bool onLeft) const;
+    QRectF iconRect(const QRectF &text, Side side, bool onLeft, qreal width) const;
     qreal leftShift(Side side) const;
 
     std::shared_ptr<const ClearText> m_text;
     bool m_hasStatus = false;
     bool m_hasLink = false;
     qreal m_badgeWidth = 0;
+    qreal m_votesWidth = 0;
 };

@@ -100,9 +100,15 @@ void ClearLayout::makeLabels(const ClearTree &tree, const ClearFonts &fonts, Cle
             bone.badgeText =
                 cache.text(u'+' + QString::number(subject.hidden), fonts.badge(), ClearWrap());
         const qreal badgeWidth = bone.badgeText ? bone.badgeText->width() + 2 * badgePadding : 0;
+        if (subject.votes > 0)
+            bone.votesText = cache.text(QString::number(subject.votes), fonts.badge(), ClearWrap());
+        const qreal votesWidth =
+            bone.votesText
+                ? std::max(bone.votesText->width() + 2 * badgePadding, ClearLabel::votesHeight)
+                : 0;
         bone.text = text;
         m_labels.emplace_back(std::move(text), subject.hasStatus && level > 0, subject.hasLink,
-                              badgeWidth);
+                              badgeWidth, votesWidth);
     }
 }
 
@@ -110,7 +116,7 @@ void ClearLayout::Bone::move(qreal dx)
 {
     line.translate(dx, 0);
     button.rx() += dx;
-    for (QRectF *const rect : {&textRect, &box, &status, &link, &badge}) {
+    for (QRectF *const rect : {&textRect, &box, &status, &votes, &link, &badge}) {
         if (!rect->isNull())
             rect->translate(dx, 0);
     }
@@ -193,7 +199,7 @@ void ClearLayout::addBoxes(const ClearShapes &shapes, int index, std::vector<Cle
                       lineSlice, out);
         }
     }
-    for (const QRectF &part : {bone.status, bone.link, bone.badge}) {
+    for (const QRectF &part : {bone.status, bone.votes, bone.link, bone.badge}) {
         if (!part.isNull())
             out.push_back(skewed(part));
     }
@@ -218,6 +224,7 @@ void ClearLayout::placeBone(const ClearShapes &shapes, int index, int side)
     const ClearLabelPlaces places = m_labels[std::size_t(index)].placesAt(anchor, bone.side);
     bone.textRect = places.text;
     bone.status = places.status;
+    bone.votes = places.votes;
     bone.link = places.link;
     bone.badge = places.badge;
     const qreal inset = std::min(buttonInset / bone.line.length(), 0.5);
@@ -239,6 +246,7 @@ void ClearLayout::placeBox(const ClearShapes &shapes, int index, int side)
     const ClearLabelPlaces places = label.placesAt(middle, bone.side);
     bone.textRect = places.text;
     bone.status = places.status;
+    bone.votes = places.votes;
     bone.link = places.link;
     if (label.badgeWidth() > 0) {
         bone.badge = QRectF(0, 0, label.badgeWidth(), ClearLabel::badgeHeight);
@@ -259,6 +267,7 @@ void ClearLayout::placeHead(const ClearHead &head)
     const ClearLabelPlaces places = label.placesAt(center, ClearLabel::Side::Center);
     Bone &bone = m_bones.front();
     bone.textRect = places.text;
+    bone.votes = places.votes;
     bone.link = places.link;
     bone.box = m_head.boundingRect();
     bone.button = QPointF(-direction() * buttonInset, 0);

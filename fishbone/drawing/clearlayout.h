@@ -41,6 +41,8 @@ public:
         QRectF textRect;                            ///< the lines of the title
         QRectF box;                                 ///< behind the title of a category
         QRectF status;                              ///< the status icon, null without one
+        QRectF votes;                               ///< the number of votes, null without one
+        std::shared_ptr<const ClearText> votesText; ///< that number; null for none
         QRectF link;                                ///< the link icon, null without one
         QRectF badge;                               ///< the "+5" of a contracted bone
         std::shared_ptr<const ClearText> badgeText; ///< that "+5"; null for all others
@@ -49,7 +51,7 @@ public:
         /** Where the base line of line @p number of the title begins. */
         QPointF base(int number) const { return ClearLabel::base(*text, textRect, side, number); }
         /** The title with its icons and its badge. */
-        QRectF labelRect() const { return textRect | status | link | badge | box; }
+        QRectF labelRect() const { return textRect | status | votes | link | badge | box; }
         /** All of it. */
         QRectF rect() const;
         /** Moves it along the backbone. */

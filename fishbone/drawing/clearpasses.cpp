@@ -15,6 +15,7 @@
 #include <fishbone/items/spearitem.h>
 #include <fishbone/items/spearpasses.h>
 #include <fishbone/items/taskstatusitem.h>
+#include <fishbone/model/subjectmarks.h>
 #include <fishbone/model/treeitem.h>
 
 namespace {
@@ -39,8 +40,10 @@ ClearSubject subjectOf(const SpearItem &spear, int parent)
     subject.hasStatus = !spear.isHeader() && isSeen(spear.statusItem());
     subject.hasLink = isSeen(spear.linkItem());
     subject.hidden = hiddenBelow(spear);
-    if (spear.treeItem())
+    if (spear.treeItem()) {
         subject.font = ClearContent::ownFont(*spear.treeItem());
+        subject.votes = SubjectMarks::votes(*spear.treeItem());
+    }
     return subject;
 }
 

@@ -61,6 +61,17 @@ void verdictSample(PictureSink &sink, Verdict verdict, const QRectF &symbol,
     verdictOn(sink, verdict, QPointF(bar.left(), bar.bottom()), bar.width(), letters,
               colors.ink(sampleLevel));
 }
+/** How many have voted for a subject, in the colour of its bone. */
+void votesOf(PictureSink &sink, const ClearLayout::Bone &bone, const ClearInk &ink)
+{
+    if (!bone.votesText)
+        return;
+    const QColor fill = bone.level > 1 ? ink.colour : ink.text;
+    sink.box(bone.votes, bone.votes.height() / 2, fill);
+    QRectF place(0, 0, bone.votesText->width(), bone.votesText->height());
+    place.moveCenter(bone.votes.center());
+    sink.text(*bone.votesText, place, ClearLabel::Side::Center, ClearColors::inkOn(fill));
+}
 } // namespace
 
 void ClearPieces::fish(PictureSink &sink, const QPolygonF &backbone, const QPainterPath &tail,
@@ -95,6 +106,7 @@ void ClearPieces::label(PictureSink &sink, const ClearLayout::Bone &bone, const 
     for (int line = 0; line < bone.text->lineCount(); ++line)
         verdictOn(sink, ink.verdict, bone.base(line), bone.text->lines()[std::size_t(line)].width,
                   bone.text->font().pixels(), ink.text);
+    votesOf(sink, bone, ink);
     if (bone.level != 1)
         return;
     for (const QRectF &icon : {bone.status, bone.link}) {
@@ -121,6 +133,8 @@ void ClearPieces::legend(PictureSink &sink, const std::vector<ClearLegend::Entry
         const QRectF &symbol = entries[i].symbol;
         if (!meanings[i].icon.isEmpty())
             sink.icon(symbol, meanings[i].icon);
+        else if (meanings[i].isVotes)
+            sink.box(symbol.adjusted(0, padding, 0, -padding), symbol.height() / 2, ink);
         else if (meanings[i].colour.isValid())
             sink.box(symbol, symbol.width() * dotRadius, meanings[i].colour);
         else if (meanings[i].verdict == Verdict::RootCause)

@@ -11,17 +11,19 @@
 
 class ClearColors;
 
-/** What a symbol of the legend stands for: one of the icon, the verdict and the colour. */
+/** What a symbol of the legend stands for: one of the icon, the verdict, the colour and votes. */
 struct ClearMeaning
 {
     QString icon;
     Verdict verdict = Verdict::None;
     QColor colour;
     QString text; ///< what it means
+    bool isVotes = false;
 
     bool operator==(const ClearMeaning &o) const
     {
-        return icon == o.icon && verdict == o.verdict && colour == o.colour && text == o.text;
+        return icon == o.icon && verdict == o.verdict && colour == o.colour && text == o.text &&
+               isVotes == o.isVotes;
     }
 };
 
@@ -38,7 +40,7 @@ void fish(PictureSink &sink, const QPolygonF &backbone, const QPainterPath &tail
 void head(PictureSink &sink, const QPainterPath &path, const ClearInk &ink,
           const ClearColors &colors, bool standsOut = false);
 /** The title with what lies behind it: the box of a category, its own background, rings around
- * icons on a box, and what shows its verdict. */
+ * icons on a box, and what shows its verdict and its votes. */
 void label(PictureSink &sink, const ClearLayout::Bone &bone, const ClearInk &ink,
            const ClearColors &colors);
 /** The "+5" in @p rect. */

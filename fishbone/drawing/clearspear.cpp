@@ -25,6 +25,7 @@ bool ClearSpear::operator==(const ClearSpear &other) const
            bone.level == other.bone.level && bone.category == other.bone.category &&
            bone.line == other.bone.line && bone.textRect == other.bone.textRect &&
            bone.box == other.bone.box && bone.status == other.bone.status &&
+           bone.votes == other.bone.votes && bone.votesText == other.bone.votesText &&
            bone.link == other.bone.link && bone.badge == other.bone.badge &&
            bone.button == other.bone.button && extent == other.extent && hidden == other.hidden &&
            bone.badgeText == other.bone.badgeText && ink == other.ink && isSame(frame, other.frame);
@@ -42,5 +43,6 @@ QRectF ClearSpear::box() const
 {
     if (bone.level == 1)
         return bone.box;
-    return bone.textRect.adjusted(-boxMargin, -boxMargin / 2, boxMargin, boxMargin / 2);
+    const QRectF title = bone.votes.isNull() ? bone.textRect : bone.textRect | bone.votes;
+    return title.adjusted(-boxMargin, -boxMargin / 2, boxMargin, boxMargin / 2);
 }

@@ -84,6 +84,8 @@ private:
     {
         const ClearLayout::Bone &bone = m_layout.bone(index);
         for (int line = 0; line < bone.text->lineCount(); ++line) {
+            if (bone.text->lines()[std::size_t(line)].width <= 0)
+                continue; // nothing is on it
             const QPointF base = bone.base(line);
             const qreal height = bone.text->font().lineHeight();
             m_parts.push_back({index,
@@ -96,6 +98,7 @@ private:
                 m_parts.push_back({index, rect, what});
         };
         put(bone.status, "status");
+        put(bone.votes, "votes");
         put(bone.link, "link");
         put(bone.badge, "badge");
         if (bone.level == 1)

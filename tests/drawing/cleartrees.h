@@ -147,6 +147,8 @@ inline std::vector<ClearSubject> random(quint32 seed, const Kind &kind)
         const std::vector<int> &below = children[std::size_t(node)];
         if (kind.hasOddities) {
             subject.hasLink = random.bounded(4) == 0;
+            if (random.bounded(4) == 0)
+                subject.votes = 1 + int(random.bounded(120));
             if (below.empty() && random.bounded(5) == 0)
                 subject.hidden = 1 + int(random.bounded(200));
             if (random.bounded(10) == 0)

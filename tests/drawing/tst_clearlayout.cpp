@@ -261,6 +261,7 @@ void TestClearLayout::shouldPutStatusBeforeTheFirstLineAndLinkAfterTheLast()
     std::vector<ClearSubject> subjects = chain(3);
     subjects[2].title = QStringLiteral("short\nand a longer one");
     subjects[2].hasStatus = subjects[2].hasLink = true;
+    subjects[2].votes = 12;
     const ClearTree tree(subjects);
     ClearTextCache cache;
     const ClearLayout layout(tree, fonts(), {}, cache);
@@ -270,7 +271,10 @@ void TestClearLayout::shouldPutStatusBeforeTheFirstLineAndLinkAfterTheLast()
     const qreal lineHeight = bone.text->font().lineHeight();
     QCOMPARE(bone.status.right() + 4, bone.base(0).x());
     QCOMPARE(bone.status.center().y(), bone.textRect.top() + lineHeight / 2);
-    QCOMPARE(bone.link.left(), bone.base(1).x() + bone.text->lines()[1].width + 4);
+    QCOMPARE(bone.votes.left(), bone.base(1).x() + bone.text->lines()[1].width + 4);
+    QCOMPARE(bone.votes.center().y(), bone.link.center().y());
+    QVERIFY(bone.votes.width() > bone.votesText->width());
+    QCOMPARE(bone.link.left(), bone.votes.right() + 4);
     QCOMPARE(bone.link.center().y(), bone.textRect.bottom() - lineHeight / 2);
     QVERIFY(bone.base(0).x() > bone.base(1).x()); // set to the right, where the bone is
 }
@@ -280,6 +284,7 @@ void TestClearLayout::shouldSwapIconsOfTextFromRightToLeft()
     std::vector<ClearSubject> subjects = chain(3);
     subjects[2].title = QStringLiteral("\u062a\u0623\u062e\u064a\u0631 \u0627\u0644\u062a");
     subjects[2].hasStatus = subjects[2].hasLink = true;
+    subjects[2].votes = 3;
     const ClearTree tree(subjects);
     ClearTextCache cache;
     const ClearLayout layout(tree, fonts(), {}, cache);
@@ -287,7 +292,8 @@ void TestClearLayout::shouldSwapIconsOfTextFromRightToLeft()
     const ClearLayout::Bone &bone = layout.bone(2);
     QVERIFY(bone.text->isRightToLeft());
     QVERIFY(bone.status.left() > bone.textRect.right());
-    QVERIFY(bone.link.right() < bone.textRect.left());
+    QVERIFY(bone.votes.right() < bone.textRect.left());
+    QVERIFY(bone.link.right() < bone.votes.left());
 }
 
 void TestClearLayout::shouldShowHowManyAreHidden()
@@ -320,8 +326,10 @@ void TestClearLayout::shouldLayOutUnchangedTextsOnce()
     const ClearLayout first(ClearTree(subjects), fonts(), {}, cache);
     const int before = cache.layouts();
     std::set<int> badges; // which are texts, too
-    for (const ClearSubject &subject : subjects)
+    for (const ClearSubject &subject : subjects) {
         badges.insert(subject.hidden);
+        badges.insert(-subject.votes); // told from those
+    }
     QVERIFY(before > 0 && before <= kind.subjects + int(badges.size()));
 
     subjects[50].title += QStringLiteral(" anew");

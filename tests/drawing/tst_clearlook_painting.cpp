@@ -110,6 +110,8 @@ void TestClearLookPainting::shouldShowOnTheScreenWhatPicturesShow()
     mark(fish, QStringLiteral("Tools"), "verdict", QStringLiteral("rootcause"));
     mark(fish, budget, "verdict", QStringLiteral("ruledout"));
     mark(fish, training, "colour", orange.name());
+    mark(fish, training, "votes", 3);
+    mark(fish, man, "votes", 12); // a category
     fish.editor.setLookOptions(options);
     fish.editor.updateFish(false);
 
@@ -353,6 +355,7 @@ void TestClearLookPainting::shouldExplainTheSymbolsInUse()
     fish.subject(wear)->setStatus(tsRunning);
     mark(fish, budget, "verdict", QStringLiteral("confirmed"));
     mark(fish, training, "colour", orange.name());
+    mark(fish, wear, "votes", 2);
     fish.editor.updateFish(false);
     QVERIFY(ClearSpear::of(*fish.editor.headSpear())->frame->symbols.empty());
 
@@ -361,22 +364,24 @@ void TestClearLookPainting::shouldExplainTheSymbolsInUse()
     fish.editor.setLookOptions(options);
 
     const ClearFrame &frame = *ClearSpear::of(*fish.editor.headSpear())->frame;
-    QCOMPARE(int(frame.symbols.size()), 3);
+    QCOMPARE(int(frame.symbols.size()), 4);
     QCOMPARE(frame.symbols[0].text, ClearContent::meaningOf(tsRunning));
     QCOMPARE(frame.symbols[1].verdict, Verdict::Confirmed);
-    QCOMPARE(frame.symbols[2].text, training);
+    QCOMPARE(frame.symbols[2].text, QStringLiteral("votes"));
+    QCOMPARE(frame.symbols[3].text, training);
     QCOMPARE(frame.legend.size(), frame.symbols.size());
     for (const ClearLegend::Entry &entry : frame.legend) {
         QVERIFY(fish.editor.headSpear()->boundingRect().contains(entry.textRect));
         QVERIFY(ClearSpear::of(*fish.editor.headSpear())->extent.contains(entry.textRect));
     }
-    const Canvas canvas = canvasOf(frame.legend[2].symbol);
+    const Canvas canvas = canvasOf(frame.legend[3].symbol);
     QVERIFY(pixelsOf(paintedAtOnce(*fish.editor.scene(), canvas), orange) > 50);
 
     // What is contracted explains nothing.
     fish.spear(man)->setExpand(false);
     fish.editor.updateFish(false);
-    QCOMPARE(int(ClearSpear::of(*fish.editor.headSpear())->frame->symbols.size()), 1);
+    QCOMPARE(int(ClearSpear::of(*fish.editor.headSpear())->frame->symbols.size()),
+             2); // with the votes
 }
 
 void TestClearLookPainting::shouldDrawBarsForTextsThatAreTooSmall()

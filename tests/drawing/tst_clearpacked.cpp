@@ -37,8 +37,8 @@ QString difference(const ClearLayout &actual, const ClearLayout &expected)
         const ClearLayout::Bone &a = actual.bone(index);
         const ClearLayout::Bone &b = expected.bone(index);
         if (a.line != b.line || a.textRect != b.textRect || a.box != b.box ||
-            a.status != b.status || a.link != b.link || a.badge != b.badge || a.side != b.side ||
-            a.category != b.category)
+            a.status != b.status || a.votes != b.votes || a.votesText != b.votesText ||
+            a.link != b.link || a.badge != b.badge || a.side != b.side || a.category != b.category)
             return QStringLiteral("bone %1").arg(index);
     }
     return QString();
@@ -82,6 +82,8 @@ void TestClearPacked::shouldStandAsIfPackedAnew()
         [](Subjects &s) { s[1].title = QStringLiteral("Another category"); },
         [](Subjects &s) { s[90].hasStatus = !s[90].hasStatus; },
         [](Subjects &s) { s[91].hasLink = !s[91].hasLink; },
+        [](Subjects &s) { s[92].votes = 7; },
+        [](Subjects &s) { s[92].votes = 8; },
         [](Subjects &s) { s[119].hidden = 17; },
         [](Subjects &s) { s[30].font = ClearFont(QFont(), 24); },
         removeLast,

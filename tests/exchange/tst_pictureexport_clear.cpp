@@ -7,6 +7,7 @@
 #include <tests/support/editorfixture.h>
 
 #include <fishbone/exchange/diagrampicture.h>
+#include <fishbone/model/subjectmarks.h>
 
 #include <QProcess>
 #include <QRegularExpression>
@@ -30,6 +31,7 @@ std::unique_ptr<EditorFixture> clearEditor(bool isExpanded = true)
     fish->subject(QStringLiteral("Training"))->setUrl(QStringLiteral("https://example.org/?a=1&b"));
     fish->subject(QStringLiteral("Never"))->setUrl(QStringLiteral("javascript:alert(1)"));
     fish->subject(QStringLiteral("Two shifts"))->setStatus(1);
+    SubjectMarks::setVotes(*fish->subject(QStringLiteral("Two shifts")), 17);
     fish->subject(QStringLiteral("Worn pump"))->setTitle(QStringLiteral("Worn\npump <&>"));
     DiagramLook::Options options;
     options.hasLegend = true;
@@ -86,7 +88,7 @@ void TestPictureExportClear::shouldWriteASmallSvg()
     QVERIFY(!isByTheToolkit(svg));
     const QStringList texts = textsIn(svg, "text");
     for (const char *line : {"Effect", "Man", "Training", "Once a year", "Never", "Two shifts",
-                             "Machine", "Worn", "pump <&>", "cancelled"})
+                             "Machine", "Worn", "pump <&>", "cancelled", "17", "votes"})
         QVERIFY2(texts.contains(QLatin1String(line)), line);
     QCOMPARE(textsIn(svg, "title"), QStringList(QStringLiteral("A <title>")));
     QCOMPARE(svg.count("<a xlink:href=\"https://example.org/?a=1&amp;b\""), 1);
