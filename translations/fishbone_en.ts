@@ -158,6 +158,17 @@
         <source>root cause</source>
         <translation>root cause</translation>
     </message>
+    <message numerus="yes">
+        <source>%n vote(s)</source>
+        <translation>
+            <numerusform>%n vote</numerusform>
+            <numerusform>%n votes</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>votes</source>
+        <translation>votes</translation>
+    </message>
 </context>
 <context>
     <name>CloseQuestion</name>
@@ -1190,6 +1201,14 @@ What is left out, or put where it can be kept, is listed on the error output.</t
         <source>Title:</source>
         <translation>Title:</translation>
     </message>
+    <message>
+        <source>Select the &amp;branch</source>
+        <translation>Select the &amp;branch</translation>
+    </message>
+    <message>
+        <source>Select the sib&amp;lings</source>
+        <translation>Select the sib&amp;lings</translation>
+    </message>
 </context>
 <context>
     <name>EditDelete</name>
@@ -2075,6 +2094,209 @@ Do you want to save your changes?</translation>
     <message>
         <source>Read &quot;%1&quot; as</source>
         <translation>Read &quot;%1&quot; as</translation>
+    </message>
+</context>
+<context>
+    <name>MarkCommands</name>
+    <message>
+        <source>&amp;Suspected</source>
+        <translation>&amp;Suspected</translation>
+    </message>
+    <message>
+        <source>Being &amp;checked</source>
+        <translation>Being &amp;checked</translation>
+    </message>
+    <message>
+        <source>Con&amp;firmed</source>
+        <translation>Con&amp;firmed</translation>
+    </message>
+    <message>
+        <source>&amp;Ruled out</source>
+        <translation>&amp;Ruled out</translation>
+    </message>
+    <message>
+        <source>R&amp;oot cause</source>
+        <translation>R&amp;oot cause</translation>
+    </message>
+    <message>
+        <source>&amp;No verdict</source>
+        <translation>&amp;No verdict</translation>
+    </message>
+    <message>
+        <source>&amp;Waiting</source>
+        <translation>&amp;Waiting</translation>
+    </message>
+    <message>
+        <source>Waiting for &amp;approval</source>
+        <translation>Waiting for &amp;approval</translation>
+    </message>
+    <message>
+        <source>&amp;Under way</source>
+        <translation>&amp;Under way</translation>
+    </message>
+    <message>
+        <source>&amp;Finished</source>
+        <translation>&amp;Finished</translation>
+    </message>
+    <message>
+        <source>Finished &amp;late</source>
+        <translation>Finished &amp;late</translation>
+    </message>
+    <message>
+        <source>&amp;Postponed</source>
+        <translation>&amp;Postponed</translation>
+    </message>
+    <message>
+        <source>&amp;Cancelled</source>
+        <translation>&amp;Cancelled</translation>
+    </message>
+    <message>
+        <source>&amp;No status</source>
+        <translation>&amp;No status</translation>
+    </message>
+    <message>
+        <source>&amp;1 (highest)</source>
+        <translation>&amp;1 (highest)</translation>
+    </message>
+    <message>
+        <source>&amp;2 (high)</source>
+        <translation>&amp;2 (high)</translation>
+    </message>
+    <message>
+        <source>&amp;3 (medium)</source>
+        <translation>&amp;3 (medium)</translation>
+    </message>
+    <message>
+        <source>&amp;4 (low)</source>
+        <translation>&amp;4 (low)</translation>
+    </message>
+    <message>
+        <source>&amp;5 (lowest)</source>
+        <translation>&amp;5 (lowest)</translation>
+    </message>
+    <message>
+        <source>&amp;No priority</source>
+        <translation>&amp;No priority</translation>
+    </message>
+    <message>
+        <source>&amp;Blue</source>
+        <translation>&amp;Blue</translation>
+    </message>
+    <message>
+        <source>&amp;Teal</source>
+        <translation>&amp;Teal</translation>
+    </message>
+    <message>
+        <source>&amp;Green</source>
+        <translation>&amp;Green</translation>
+    </message>
+    <message>
+        <source>Bro&amp;wn</source>
+        <translation>Bro&amp;wn</translation>
+    </message>
+    <message>
+        <source>&amp;Orange</source>
+        <translation>&amp;Orange</translation>
+    </message>
+    <message>
+        <source>&amp;Red</source>
+        <translation>&amp;Red</translation>
+    </message>
+    <message>
+        <source>&amp;Purple</source>
+        <translation>&amp;Purple</translation>
+    </message>
+    <message>
+        <source>Gr&amp;ey</source>
+        <translation>Gr&amp;ey</translation>
+    </message>
+    <message>
+        <source>R&amp;esponsible…</source>
+        <translation>R&amp;esponsible…</translation>
+    </message>
+    <message>
+        <source>Change verdict</source>
+        <translation>Change verdict</translation>
+    </message>
+    <message>
+        <source>Vote</source>
+        <translation>Vote</translation>
+    </message>
+    <message>
+        <source>One vote &amp;more</source>
+        <translation>One vote &amp;more</translation>
+    </message>
+    <message>
+        <source>One vote &amp;less</source>
+        <translation>One vote &amp;less</translation>
+    </message>
+    <message>
+        <source>Sort it and its siblings &amp;by votes</source>
+        <translation>Sort it and its siblings &amp;by votes</translation>
+    </message>
+    <message>
+        <source>S&amp;tatus</source>
+        <translation>S&amp;tatus</translation>
+    </message>
+    <message>
+        <source>Change status</source>
+        <translation>Change status</translation>
+    </message>
+    <message>
+        <source>&amp;Priority</source>
+        <translation>&amp;Priority</translation>
+    </message>
+    <message>
+        <source>Change priority</source>
+        <translation>Change priority</translation>
+    </message>
+    <message>
+        <source>Colo&amp;ur</source>
+        <translation>Colo&amp;ur</translation>
+    </message>
+    <message>
+        <source>Change colour</source>
+        <translation>Change colour</translation>
+    </message>
+    <message>
+        <source>That of the p&amp;alette</source>
+        <translation>That of the p&amp;alette</translation>
+    </message>
+    <message>
+        <source>Ot&amp;her…</source>
+        <translation>Ot&amp;her…</translation>
+    </message>
+    <message>
+        <source>Colour of the bone</source>
+        <translation>Colour of the bone</translation>
+    </message>
+    <message>
+        <source>Responsible</source>
+        <translation>Responsible</translation>
+    </message>
+    <message>
+        <source>Who is responsible?</source>
+        <translation>Who is responsible?</translation>
+    </message>
+    <message>
+        <source>Change who is responsible</source>
+        <translation>Change who is responsible</translation>
+    </message>
+    <message>
+        <source>Sort by votes</source>
+        <translation>Sort by votes</translation>
+    </message>
+    <message>
+        <source>Sorted by votes</source>
+        <translation>Sorted by votes</translation>
+    </message>
+    <message>
+        <source>Mar&amp;k</source>
+        <translation>Mar&amp;k</translation>
+    </message>
+    <message>
+        <source>Mark at the bo&amp;ne</source>
+        <translation>Mark at the bo&amp;ne</translation>
     </message>
 </context>
 <context>

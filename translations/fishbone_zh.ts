@@ -158,6 +158,16 @@
         <source>root cause</source>
         <translation>根本原因</translation>
     </message>
+    <message numerus="yes">
+        <source>%n vote(s)</source>
+        <translation>
+            <numerusform>%n 票</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>votes</source>
+        <translation>票数</translation>
+    </message>
 </context>
 <context>
     <name>CloseQuestion</name>
@@ -1187,6 +1197,14 @@ What is left out, or put where it can be kept, is listed on the error output.</s
         <source>Title:</source>
         <translation>标题：</translation>
     </message>
+    <message>
+        <source>Select the &amp;branch</source>
+        <translation>选择分支(&amp;B)</translation>
+    </message>
+    <message>
+        <source>Select the sib&amp;lings</source>
+        <translation>选择同级主题(&amp;L)</translation>
+    </message>
 </context>
 <context>
     <name>EditDelete</name>
@@ -2069,6 +2087,209 @@ Do you want to save your changes?</source>
     <message>
         <source>Read &quot;%1&quot; as</source>
         <translation>“%1”读作</translation>
+    </message>
+</context>
+<context>
+    <name>MarkCommands</name>
+    <message>
+        <source>&amp;Suspected</source>
+        <translation>怀疑(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Being &amp;checked</source>
+        <translation>正在核实(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Con&amp;firmed</source>
+        <translation>已证实(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Ruled out</source>
+        <translation>已排除(&amp;R)</translation>
+    </message>
+    <message>
+        <source>R&amp;oot cause</source>
+        <translation>根本原因(&amp;O)</translation>
+    </message>
+    <message>
+        <source>&amp;No verdict</source>
+        <translation>无结论(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Waiting</source>
+        <translation>等待中(&amp;W)</translation>
+    </message>
+    <message>
+        <source>Waiting for &amp;approval</source>
+        <translation>等待审批(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Under way</source>
+        <translation>进行中(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Finished</source>
+        <translation>已完成(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Finished &amp;late</source>
+        <translation>延期完成(&amp;L)</translation>
+    </message>
+    <message>
+        <source>&amp;Postponed</source>
+        <translation>已推迟(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Cancelled</source>
+        <translation>已取消(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;No status</source>
+        <translation>无状态(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;1 (highest)</source>
+        <translation>1（最高）(&amp;1)</translation>
+    </message>
+    <message>
+        <source>&amp;2 (high)</source>
+        <translation>2（高）(&amp;2)</translation>
+    </message>
+    <message>
+        <source>&amp;3 (medium)</source>
+        <translation>3（中）(&amp;3)</translation>
+    </message>
+    <message>
+        <source>&amp;4 (low)</source>
+        <translation>4（低）(&amp;4)</translation>
+    </message>
+    <message>
+        <source>&amp;5 (lowest)</source>
+        <translation>5（最低）(&amp;5)</translation>
+    </message>
+    <message>
+        <source>&amp;No priority</source>
+        <translation>无优先级(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Blue</source>
+        <translation>蓝色(&amp;B)</translation>
+    </message>
+    <message>
+        <source>&amp;Teal</source>
+        <translation>青色(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Green</source>
+        <translation>绿色(&amp;G)</translation>
+    </message>
+    <message>
+        <source>Bro&amp;wn</source>
+        <translation>棕色(&amp;W)</translation>
+    </message>
+    <message>
+        <source>&amp;Orange</source>
+        <translation>橙色(&amp;O)</translation>
+    </message>
+    <message>
+        <source>&amp;Red</source>
+        <translation>红色(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Purple</source>
+        <translation>紫色(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Gr&amp;ey</source>
+        <translation>灰色(&amp;E)</translation>
+    </message>
+    <message>
+        <source>R&amp;esponsible…</source>
+        <translation>负责人(&amp;E)…</translation>
+    </message>
+    <message>
+        <source>Change verdict</source>
+        <translation>更改结论</translation>
+    </message>
+    <message>
+        <source>Vote</source>
+        <translation>投票</translation>
+    </message>
+    <message>
+        <source>One vote &amp;more</source>
+        <translation>加一票(&amp;M)</translation>
+    </message>
+    <message>
+        <source>One vote &amp;less</source>
+        <translation>减一票(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Sort it and its siblings &amp;by votes</source>
+        <translation>按票数排序同级主题(&amp;B)</translation>
+    </message>
+    <message>
+        <source>S&amp;tatus</source>
+        <translation>状态(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Change status</source>
+        <translation>更改状态</translation>
+    </message>
+    <message>
+        <source>&amp;Priority</source>
+        <translation>优先级(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Change priority</source>
+        <translation>更改优先级</translation>
+    </message>
+    <message>
+        <source>Colo&amp;ur</source>
+        <translation>颜色(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Change colour</source>
+        <translation>更改颜色</translation>
+    </message>
+    <message>
+        <source>That of the p&amp;alette</source>
+        <translation>调色板的颜色(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Ot&amp;her…</source>
+        <translation>其他(&amp;H)…</translation>
+    </message>
+    <message>
+        <source>Colour of the bone</source>
+        <translation>鱼骨颜色</translation>
+    </message>
+    <message>
+        <source>Responsible</source>
+        <translation>负责人</translation>
+    </message>
+    <message>
+        <source>Who is responsible?</source>
+        <translation>由谁负责？</translation>
+    </message>
+    <message>
+        <source>Change who is responsible</source>
+        <translation>更改负责人</translation>
+    </message>
+    <message>
+        <source>Sort by votes</source>
+        <translation>按票数排序</translation>
+    </message>
+    <message>
+        <source>Sorted by votes</source>
+        <translation>已按票数排序</translation>
+    </message>
+    <message>
+        <source>Mar&amp;k</source>
+        <translation>标记(&amp;K)</translation>
+    </message>
+    <message>
+        <source>Mark at the bo&amp;ne</source>
+        <translation>在鱼骨处标记(&amp;N)</translation>
     </message>
 </context>
 <context>

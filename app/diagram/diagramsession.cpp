@@ -239,6 +239,18 @@ bool DiagramSession::reveal(const QModelIndex &index)
     return subject->spear() != nullptr;
 }
 
+QModelIndexList DiagramSession::selected() const
+{
+    QModelIndexList indexes;
+    const QList<QGraphicsItem *> items = m_editor->selectedItems();
+    for (QGraphicsItem *item : items) {
+        const auto *const spear = qgraphicsitem_cast<const SpearItem *>(item);
+        if (spear && spear->treeItem())
+            indexes.append(spear->modelIndex());
+    }
+    return indexes;
+}
+
 void DiagramSession::select(const QModelIndex &index)
 {
     select(QModelIndexList{index});

@@ -58,6 +58,8 @@ public:
     /** Shows the whole diagram. */
     void showWhole();
 
+    /** The selected subjects, in document order. */
+    QModelIndexList selected() const;
     /** Selects the subject at @p index alone and brings it into view: shows its document and
      * expands what is above it. */
     void select(const QModelIndex &index);

@@ -19,17 +19,24 @@
 
 namespace {
 
-/** Pushes the step from @p before to @p after, unless they are the same. */
-bool push(DiagramSession &session, const QModelIndex &index, const UndoCommand::Name &name,
-          const QJsonObject &before, const QJsonObject &after)
+/** Pushes @p command as a step named @p name, unless it changes nothing. */
+bool push(DiagramSession &session, std::unique_ptr<EditAttributes> command,
+          const UndoCommand::Name &name)
 {
-    auto command = std::make_unique<EditAttributes>(session.model(), index, before, after);
     if (command->count() == 0)
         return false;
     command->setText(name);
     const bool isDone = session.editor()->run(std::move(command));
     session.touch();
     return isDone;
+}
+
+/** Pushes the step from @p before to @p after, unless they are the same. */
+bool push(DiagramSession &session, const QModelIndex &index, const UndoCommand::Name &name,
+          const QJsonObject &before, const QJsonObject &after)
+{
+    return push(session, std::make_unique<EditAttributes>(session.model(), index, before, after),
+                name);
 }
 
 } // namespace
@@ -39,13 +46,23 @@ namespace SubjectEdit {
 bool apply(DiagramSession &session, const QModelIndex &index, const UndoCommand::Name &name,
            const std::function<void(TreeItem &)> &change)
 {
-    const TreeItem *const subject = session.model()->getTreeItem(index);
-    if (!subject)
-        return false;
-    const QJsonObject before = EditAttributes::stateOf(*subject);
-    TreeItem draft(before);
-    change(draft);
-    return push(session, index, name, before, EditAttributes::stateOf(draft));
+    return applyToAll(session, {index}, name, change);
+}
+
+bool applyToAll(DiagramSession &session, const QModelIndexList &indexes,
+                const UndoCommand::Name &name, const std::function<void(TreeItem &)> &change)
+{
+    auto command = std::make_unique<EditAttributes>(session.model());
+    for (const QModelIndex &index : indexes) {
+        const TreeItem *const subject = session.model()->getTreeItem(index);
+        if (!subject)
+            continue;
+        const QJsonObject before = EditAttributes::stateOf(*subject);
+        TreeItem draft(before);
+        change(draft);
+        command->add(index, before, EditAttributes::stateOf(draft));
+    }
+    return push(session, std::move(command), name);
 }
 
 bool replace(DiagramSession &session, const QModelIndex &index, const UndoCommand::Name &name,

@@ -5,7 +5,7 @@
 
 #include <fishbone/undo/undocommand.h>
 
-#include <QModelIndex>
+#include <QModelIndexList>
 
 #include <functional>
 
@@ -22,6 +22,12 @@ namespace SubjectEdit {
  */
 bool apply(DiagramSession &session, const QModelIndex &index, const UndoCommand::Name &name,
            const std::function<void(TreeItem &)> &change);
+
+/**
+ * As apply(), for all subjects at @p indexes in one step. False when none of them differs.
+ */
+bool applyToAll(DiagramSession &session, const QModelIndexList &indexes,
+                const UndoCommand::Name &name, const std::function<void(TreeItem &)> &change);
 
 /**
  * Gives the subject at @p index the attributes of @p state, as EditAttributes::stateOf() makes one,

@@ -30,14 +30,15 @@ void fill(QMenu &menu, const char *const (&names)[size], const ActionSet &action
 
 } // namespace
 
-void offerActionsInBoneMenu(FishEditor &editor, const ActionSet &actions)
+void offerActionsInBoneMenu(FishEditor &editor, const ActionSet &actions, QMenu *marks)
 {
-    editor.setBoneMenuFiller([&editor, &actions](QMenu &menu, SpearItem *) {
+    editor.setBoneMenuFiller([&editor, &actions, marks](QMenu &menu, SpearItem *) {
         menu.clear();
         if (editor.modelType() == FISH_MODEL_NORMAL)
             fill(menu, taskEntries, actions);
         else
             fill(menu, diagramEntries, actions);
+        menu.addMenu(marks);
         fill(menu, commonEntries, actions);
     });
 }

@@ -9,7 +9,7 @@ class QMenu;
 
 /**
  * Has the context menu of a bone in @p editor offer the program's actions in place of the editor's
- * own: those of the editor's menu in the present mode, and the clipboard. @p actions are those that
- * the set has when the menu opens; the set must outlive the editor.
+ * own: those of the editor's menu in the present mode, the menu @p marks, and the clipboard. @p
+ * actions are those that the set has when the menu opens; both must outlive the editor.
  */
-void offerActionsInBoneMenu(FishEditor &editor, const ActionSet &actions);
+void offerActionsInBoneMenu(FishEditor &editor, const ActionSet &actions, QMenu *marks);

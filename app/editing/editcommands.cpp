@@ -23,6 +23,7 @@
 #include <QAction>
 #include <QDateTime>
 #include <QInputDialog>
+#include <QSet>
 
 #include <memory>
 
@@ -91,6 +92,9 @@ void EditCommands::addClipboardActions()
         [this] { m_session->removeSelected(false); });
     add("selectAll", QT_TR_NOOP("Select &all"), {QKeySequence::SelectAll},
         [this] { m_editor->selectAll(); });
+    add("selectBranch", QT_TR_NOOP("Select the &branch"),
+        {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_A)}, [this] { selectBranches(); });
+    add("selectSiblings", QT_TR_NOOP("Select the sib&lings"), {}, [this] { selectSiblings(); });
 }
 
 void EditCommands::addInsertActions()
@@ -122,6 +126,37 @@ void EditCommands::addSubjectActions()
         [this] { SubjectEdit::editStyle(*m_session, m_editor->firstSelectedSpearIndex()); });
     add("removeStyle", QT_TR_NOOP("Remove s&tyle"), {},
         [this] { SubjectEdit::removeStyle(*m_session, m_editor->firstSelectedSpearIndex()); });
+}
+
+/** Selects all that is below what is selected, too. */
+void EditCommands::selectBranches()
+{
+    const FishModel *const model = m_session->model();
+    QModelIndexList all = m_session->selected();
+    QSet<QModelIndex> known(all.cbegin(), all.cend());
+    for (int i = 0; i < int(all.size()); ++i) {
+        const QModelIndex index = all.at(i);
+        for (int row = 0; row < model->rowCount(index); ++row) {
+            const QModelIndex child = model->index(row, 0, index);
+            if (known.contains(child))
+                continue;
+            known.insert(child);
+            all.append(child);
+        }
+    }
+    m_session->select(all);
+}
+
+/** Selects what stands beside the selected subject, too. */
+void EditCommands::selectSiblings()
+{
+    const QModelIndex selected = m_editor->firstSelectedSpearIndex();
+    if (!selected.isValid() || selected == m_editor->rootIndex())
+        return;
+    QModelIndexList all;
+    for (int row = 0; row < m_session->model()->rowCount(selected.parent()); ++row)
+        all.append(selected.siblingAtRow(row));
+    m_session->select(all);
 }
 
 template <typename Command>
@@ -192,8 +227,9 @@ void EditCommands::updateActions()
     const SpearItem *const spear = m_editor->firstSelectedSpear();
     const TreeItem *const subject = spear ? spear->treeItem() : nullptr;
     const bool isBone = subject && !spear->isHeader();
-    for (const char *name :
-         {"child", "before", "after", "parent", "subTask", "rename", "link", "style"})
+    m_actions->action(QStringLiteral("selectSiblings"))->setEnabled(isBone);
+    for (const char *name : {"selectBranch", "child", "before", "after", "parent", "subTask",
+                             "rename", "link", "style"})
         m_actions->action(QLatin1String(name))->setEnabled(subject);
     for (const char *name : {"cut", "copy", "delete"})
         m_actions->action(QLatin1String(name))

@@ -45,6 +45,8 @@ private:
     void addClipboardActions();
     void addInsertActions();
     void addSubjectActions();
+    void selectBranches();
+    void selectSiblings();
     void add(const char *name, const char *text, const QList<QKeySequence> &shortcuts,
              std::function<void()> run);
     /** Inserts a subject at the selected one by a @p Command and opens a field for its title; both

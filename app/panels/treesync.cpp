@@ -57,13 +57,7 @@ void TreeSync::followSelection()
     if (m_following)
         return;
     const QScopedValueRollback<bool> guard(m_following, true);
-    QModelIndexList indexes;
-    const QList<QGraphicsItem *> items = m_editor->selectedItems();
-    for (QGraphicsItem *item : items) {
-        if (auto *const spear = qgraphicsitem_cast<SpearItem *>(item))
-            indexes.append(spear->modelIndex());
-    }
-    m_tree->selectSubjects(indexes);
+    m_tree->selectSubjects(m_session->selected());
 }
 
 void TreeSync::selectInDrawing()

@@ -16,6 +16,7 @@
 #include <app/documents/templatecommands.h>
 #include <app/editing/bonemenuentries.h>
 #include <app/editing/editcommands.h>
+#include <app/editing/markcommands.h>
 #include <app/editing/movecommands.h>
 #include <app/editing/typedtitle.h>
 #include <app/editing/walkcommands.h>
@@ -149,8 +150,10 @@ void MainWindow::addCommands()
     m_views = new ViewCommands(session(), m_theme, m_controls, m_actions, this);
     m_looks = new LookCommands(session(), m_actions, this);
     m_looks->setLook(m_tabs->current()->look());
+    m_marks = new MarkCommands(session(), m_actions, this);
     m_commands = {m_exports,
                   m_edits,
+                  m_marks,
                   m_views,
                   m_looks,
                   new MoveCommands(session(), m_actions, this),
@@ -204,6 +207,7 @@ void MainWindow::addBars()
     new MenuKeys(this); // which owns it
     QHash<QString, QMenu *> submenus = m_looks->menus();
     submenus.insert(QStringLiteral("recent"), m_recent->menu());
+    submenus.insert(QStringLiteral("mark"), m_marks->menu());
     submenus.insert(QStringLiteral("visited"), visited);
     submenus.insert(QStringLiteral("language"), new LanguageMenu(this));
     Menus::build(this, *m_actions, submenus);
@@ -222,6 +226,7 @@ void MainWindow::connectCommands()
     connect(m_templates, &TemplateCommands::message, this, &MainWindow::showMessage);
     connect(m_exports, &ExportCommands::message, this, &MainWindow::showMessage);
     connect(m_edits, &EditCommands::message, this, &MainWindow::showMessage);
+    connect(m_marks, &MarkCommands::message, this, &MainWindow::showMessage);
     connect(m_edits, &EditCommands::newDiagramWanted, this, &MainWindow::startDiagram);
     auto *const links = new LinkOpener(this);
     connect(links, &LinkOpener::failed, this, [this](const QUrl &url) {
@@ -252,7 +257,7 @@ void MainWindow::takeIn(DocumentTab *tab)
 void MainWindow::connectGestures(DocumentTab *tab)
 {
     FishEditor *const editor = tab->editor();
-    offerActionsInBoneMenu(*editor, *m_actions);
+    offerActionsInBoneMenu(*editor, *m_actions, m_marks->menu());
     auto *const typing = new TypedTitle(editor, tab);
     connect(typing, &TypedTitle::typed, this, [this, editor](const QString &text) {
         m_edits->rename(editor->firstSelectedSpearIndex(), text);

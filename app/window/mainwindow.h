@@ -21,6 +21,7 @@ class FileDrop;
 class FishEditor;
 class FishModel;
 class LookCommands;
+class MarkCommands;
 class Minimap;
 class QDockWidget;
 class QStackedWidget;
@@ -93,6 +94,7 @@ private:
     RecoveryCommands *m_recovery = nullptr;
     TemplateCommands *m_templates = nullptr;
     TabCommands *m_tabCommands = nullptr;
+    MarkCommands *m_marks = nullptr;
     EditCommands *m_edits = nullptr;
     ExportCommands *m_exports = nullptr;
     ViewCommands *m_views = nullptr;

@@ -27,9 +27,11 @@ constexpr Bar menus[] = {
      "new newFromTemplate newExample | open recent import url recover | save saveAs saveCopy "
      "saveAsTemplate saveAll revert | export exportAs print printPreview | close | reopen quit"},
     {"editMenu", QT_TRANSLATE_NOOP("Menus", "&Edit"),
-     "undo redo | cut copy copyPicture paste delete | selectAll find"},
+     "undo redo | cut copy copyPicture paste delete | selectAll selectBranch selectSiblings | "
+     "find"},
     {"subjectMenu", QT_TRANSLATE_NOOP("Menus", "&Subject"),
      "child before after parent subTask free | rename details | moveUp moveDown promote demote | "
+     "mark markHere | "
      "link openLink unlink | style "
      "removeStyle"},
     {"goMenu", QT_TRANSLATE_NOOP("Menus", "&Go"),

@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QMap>
+#include <QString>
+#include <QStringList>
+
+class TreeItem;
+
+/** Who is named in a document: to be offered where somebody is to be named. */
+class People
+{
+public:
+    /** Those who are responsible for a subject below @p root, which may be null, follow it or have
+     * made it. Linear, without recursion. */
+    static People in(const TreeItem *root);
+
+    /** Their names, sorted, each once. */
+    QStringList names() const { return m_ids.keys(); }
+    /** The id that goes with @p name; empty when none is known. */
+    QString idOf(const QString &name) const { return m_ids.value(name); }
+
+private:
+    void add(const QString &name, const QString &id = QString());
+
+    QMap<QString, QString> m_ids; ///< by the names
+};
