@@ -237,7 +237,7 @@ void TestDetailsPanel::shouldBeOneStepThatCanBeUndone()
     status->setCurrentIndex(status->findData(int(tsRunning)));
     app.widget<QSpinBox>("detailsProgress")->setValue(70);
     apply(app);
-    app.document()->setModified(false); // as after saving
+    app.trigger("save"); // so that undoing is a change
     app.trigger("undo");
     QCOMPARE(app.text(), original());
     const TreeItem *const machines = app.subject("Machines");
