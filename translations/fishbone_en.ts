@@ -404,14 +404,14 @@ What is left out, or put where it can be kept, is listed on the error output.</t
     </message>
 </context>
 <context>
-    <name>DetailsPanel</name>
+    <name>DetailsForm</name>
     <message>
-        <source>&amp;Apply</source>
-        <translation>&amp;Apply</translation>
+        <source>Priority:</source>
+        <translation>Priority:</translation>
     </message>
     <message>
-        <source>Re&amp;vert</source>
-        <translation>&amp;Revert</translation>
+        <source>none</source>
+        <translation>none</translation>
     </message>
     <message>
         <source>unknown</source>
@@ -446,60 +446,16 @@ What is left out, or put where it can be kept, is listed on the error output.</t
         <translation>waiting for approval</translation>
     </message>
     <message>
-        <source>none</source>
-        <translation>none</translation>
-    </message>
-    <message>
-        <source>Has a planned end</source>
-        <translation>Has a planned end</translation>
-    </message>
-    <message>
-        <source>Title:</source>
-        <translation>Title:</translation>
-    </message>
-    <message>
-        <source>Status:</source>
-        <translation>Status:</translation>
-    </message>
-    <message>
-        <source>Progress:</source>
-        <translation>Progress:</translation>
-    </message>
-    <message>
-        <source>Priority:</source>
-        <translation>Priority:</translation>
-    </message>
-    <message>
-        <source>Responsible:</source>
-        <translation>Responsible:</translation>
-    </message>
-    <message>
-        <source>Their id:</source>
-        <translation>Their id:</translation>
-    </message>
-    <message>
-        <source>Followers:</source>
-        <translation>Followers:</translation>
-    </message>
-    <message>
-        <source>Planned end:</source>
-        <translation>Planned end:</translation>
-    </message>
-    <message>
-        <source>Details:</source>
-        <translation>Details:</translation>
-    </message>
-    <message>
-        <source>Created by: %1</source>
-        <translation>Created by: %1</translation>
-    </message>
-    <message>
-        <source>Created on: %1</source>
-        <translation>Created on: %1</translation>
+        <source>Open</source>
+        <translation>Open</translation>
     </message>
     <message>
         <source>Edit style…</source>
         <translation>Edit style…</translation>
+    </message>
+    <message>
+        <source>Has a planned end</source>
+        <translation>Has a planned end</translation>
     </message>
     <message>
         <source>Planned end</source>
@@ -530,20 +486,78 @@ What is left out, or put where it can be kept, is listed on the error output.</t
         <translation>Origin</translation>
     </message>
     <message>
-        <source>Open</source>
-        <translation>Open</translation>
+        <source>several</source>
+        <translation>several</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n subjects</source>
+        <translation>
+            <numerusform>%n subject</numerusform>
+            <numerusform>%n subjects</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Title:</source>
+        <translation>Title:</translation>
     </message>
     <message>
         <source>Number:</source>
         <translation>Number:</translation>
     </message>
     <message>
+        <source>Status:</source>
+        <translation>Status:</translation>
+    </message>
+    <message>
+        <source>Progress:</source>
+        <translation>Progress:</translation>
+    </message>
+    <message>
+        <source>Responsible:</source>
+        <translation>Responsible:</translation>
+    </message>
+    <message>
+        <source>Their id:</source>
+        <translation>Their id:</translation>
+    </message>
+    <message>
+        <source>Planned end:</source>
+        <translation>Planned end:</translation>
+    </message>
+    <message>
         <source>Link:</source>
         <translation>Link:</translation>
     </message>
     <message>
+        <source>Followers:</source>
+        <translation>Followers:</translation>
+    </message>
+    <message>
+        <source>Details:</source>
+        <translation>Details:</translation>
+    </message>
+    <message>
         <source>Style:</source>
         <translation>Style:</translation>
+    </message>
+</context>
+<context>
+    <name>DetailsPanel</name>
+    <message>
+        <source>&amp;Apply</source>
+        <translation>&amp;Apply</translation>
+    </message>
+    <message>
+        <source>Re&amp;vert</source>
+        <translation>&amp;Revert</translation>
+    </message>
+    <message>
+        <source>Created by: %1</source>
+        <translation>Created by: %1</translation>
+    </message>
+    <message>
+        <source>Created on: %1</source>
+        <translation>Created on: %1</translation>
     </message>
     <message>
         <source>Edit details</source>
@@ -3418,7 +3432,7 @@ Do you want to save your changes?</translation>
     </message>
     <message>
         <source>&amp;Just the drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Just the drawing</translation>
     </message>
 </context>
 <context>

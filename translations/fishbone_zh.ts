@@ -402,14 +402,14 @@ What is left out, or put where it can be kept, is listed on the error output.</s
     </message>
 </context>
 <context>
-    <name>DetailsPanel</name>
+    <name>DetailsForm</name>
     <message>
-        <source>&amp;Apply</source>
-        <translation>应用(&amp;A)</translation>
+        <source>Priority:</source>
+        <translation>优先级：</translation>
     </message>
     <message>
-        <source>Re&amp;vert</source>
-        <translation>还原(&amp;R)</translation>
+        <source>none</source>
+        <translation>无</translation>
     </message>
     <message>
         <source>unknown</source>
@@ -444,64 +444,20 @@ What is left out, or put where it can be kept, is listed on the error output.</s
         <translation>等待审批</translation>
     </message>
     <message>
-        <source>none</source>
-        <translation>无</translation>
-    </message>
-    <message>
-        <source>Has a planned end</source>
-        <translation>设有截止时间</translation>
-    </message>
-    <message>
-        <source>Title:</source>
-        <translation>标题：</translation>
-    </message>
-    <message>
-        <source>Status:</source>
-        <translation>状态：</translation>
-    </message>
-    <message>
-        <source>Progress:</source>
-        <translation>进度：</translation>
-    </message>
-    <message>
-        <source>Priority:</source>
-        <translation>优先级：</translation>
-    </message>
-    <message>
-        <source>Responsible:</source>
-        <translation>负责人：</translation>
-    </message>
-    <message>
-        <source>Their id:</source>
-        <translation>负责人 ID：</translation>
-    </message>
-    <message>
-        <source>Followers:</source>
-        <translation>关注人：</translation>
-    </message>
-    <message>
-        <source>Planned end:</source>
-        <translation>截止时间：</translation>
-    </message>
-    <message>
-        <source>Details:</source>
-        <translation>详情：</translation>
-    </message>
-    <message>
-        <source>Created by: %1</source>
-        <translation>创建人：%1</translation>
-    </message>
-    <message>
-        <source>Created on: %1</source>
-        <translation>创建时间：%1</translation>
+        <source>Open</source>
+        <translation>确定</translation>
     </message>
     <message>
         <source>Edit style…</source>
         <translation>编辑样式…</translation>
     </message>
     <message>
+        <source>Has a planned end</source>
+        <translation>设有截止时间</translation>
+    </message>
+    <message>
         <source>Planned end</source>
-        <translation>截止时间</translation>
+        <translation>计划结束</translation>
     </message>
     <message>
         <source>Progress</source>
@@ -517,7 +473,7 @@ What is left out, or put where it can be kept, is listed on the error output.</s
     </message>
     <message>
         <source>Followers</source>
-        <translation>关注人</translation>
+        <translation>关注者</translation>
     </message>
     <message>
         <source>New follower</source>
@@ -528,20 +484,77 @@ What is left out, or put where it can be kept, is listed on the error output.</s
         <translation>来源</translation>
     </message>
     <message>
-        <source>Open</source>
-        <translation>打开</translation>
+        <source>several</source>
+        <translation>多个不同的值</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n subjects</source>
+        <translation>
+            <numerusform>%n 个主题</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Title:</source>
+        <translation>标题：</translation>
     </message>
     <message>
         <source>Number:</source>
         <translation>编号：</translation>
     </message>
     <message>
+        <source>Status:</source>
+        <translation>状态：</translation>
+    </message>
+    <message>
+        <source>Progress:</source>
+        <translation>进度：</translation>
+    </message>
+    <message>
+        <source>Responsible:</source>
+        <translation>负责人：</translation>
+    </message>
+    <message>
+        <source>Their id:</source>
+        <translation>负责人 ID：</translation>
+    </message>
+    <message>
+        <source>Planned end:</source>
+        <translation>截止时间：</translation>
+    </message>
+    <message>
         <source>Link:</source>
         <translation>链接：</translation>
     </message>
     <message>
+        <source>Followers:</source>
+        <translation>关注人：</translation>
+    </message>
+    <message>
+        <source>Details:</source>
+        <translation>详情：</translation>
+    </message>
+    <message>
         <source>Style:</source>
         <translation>样式：</translation>
+    </message>
+</context>
+<context>
+    <name>DetailsPanel</name>
+    <message>
+        <source>&amp;Apply</source>
+        <translation>应用(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Re&amp;vert</source>
+        <translation>还原(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Created by: %1</source>
+        <translation>创建人：%1</translation>
+    </message>
+    <message>
+        <source>Created on: %1</source>
+        <translation>创建时间：%1</translation>
     </message>
     <message>
         <source>Edit details</source>

@@ -13,6 +13,7 @@
 
 #include <QCoreApplication>
 #include <QJsonObject>
+#include <QPersistentModelIndex>
 #include <QUrl>
 
 #include <memory>
@@ -31,14 +32,6 @@ bool push(DiagramSession &session, std::unique_ptr<EditAttributes> command,
     return isDone;
 }
 
-/** Pushes the step from @p before to @p after, unless they are the same. */
-bool push(DiagramSession &session, const QModelIndex &index, const UndoCommand::Name &name,
-          const QJsonObject &before, const QJsonObject &after)
-{
-    return push(session, std::make_unique<EditAttributes>(session.model(), index, before, after),
-                name);
-}
-
 } // namespace
 
 namespace SubjectEdit {
@@ -52,24 +45,26 @@ bool apply(DiagramSession &session, const QModelIndex &index, const UndoCommand:
 bool applyToAll(DiagramSession &session, const QModelIndexList &indexes,
                 const UndoCommand::Name &name, const std::function<void(TreeItem &)> &change)
 {
+    return changeAll(session, indexes, name, [&change](const QJsonObject &state) {
+        TreeItem draft(state);
+        change(draft);
+        return EditAttributes::stateOf(draft);
+    });
+}
+
+bool changeAll(DiagramSession &session, const QModelIndexList &indexes,
+               const UndoCommand::Name &name,
+               const std::function<QJsonObject(const QJsonObject &state)> &change)
+{
     auto command = std::make_unique<EditAttributes>(session.model());
     for (const QModelIndex &index : indexes) {
         const TreeItem *const subject = session.model()->getTreeItem(index);
         if (!subject)
             continue;
         const QJsonObject before = EditAttributes::stateOf(*subject);
-        TreeItem draft(before);
-        change(draft);
-        command->add(index, before, EditAttributes::stateOf(draft));
+        command->add(index, before, change(before));
     }
     return push(session, std::move(command), name);
-}
-
-bool replace(DiagramSession &session, const QModelIndex &index, const UndoCommand::Name &name,
-             const QJsonObject &state)
-{
-    const TreeItem *const subject = session.model()->getTreeItem(index);
-    return subject && push(session, index, name, EditAttributes::stateOf(*subject), state);
 }
 
 void editLink(DiagramSession &session, const QModelIndex &index)
@@ -92,33 +87,42 @@ void openLink(const DiagramSession &session, const QModelIndex &index)
         LinkItem::open(subject->url());
 }
 
-void editStyle(DiagramSession &session, const QModelIndex &index)
+void editStyle(DiagramSession &session, const QModelIndexList &indexes)
 {
-    TreeItem *const subject = session.model()->getTreeItem(index);
+    TreeItem *const subject = session.model()->getTreeItem(indexes.value(0));
     if (!subject)
         return;
-    // The dialog runs an event loop, in which the subject may go.
-    const QPersistentModelIndex edited = index;
-    const QJsonObject before = EditAttributes::stateOf(*subject);
+    // The dialog runs an event loop, in which subjects may go.
+    QList<QPersistentModelIndex> edited;
+    for (const QModelIndex &index : indexes)
+        edited.append(index);
+    const QLatin1String key("spearstyle");
+    const QJsonValue before = EditAttributes::stateOf(*subject).value(key).toObject();
     subject->setSpearStyle();
-    const TreeItem *const after = session.model()->getTreeItem(edited);
+    const TreeItem *const after = session.model()->getTreeItem(edited.constFirst());
     if (!after)
         return;
-    // Only the style: meanwhile something else may have become of the rest.
-    const QLatin1String key("spearstyle");
-    QJsonObject styled = before;
-    styled.insert(key, EditAttributes::stateOf(*after).value(key).toObject());
-    QJsonObject plain = before;
-    plain.insert(key, before.value(key).toObject());
-    push(
-        session, edited, [] { return QCoreApplication::translate("SubjectEdit", "Change style"); },
-        plain, styled);
+    const QJsonValue style = EditAttributes::stateOf(*after).value(key).toObject();
+    auto command = std::make_unique<EditAttributes>(session.model());
+    for (const QPersistentModelIndex &index : qAsConst(edited)) {
+        const TreeItem *const each = session.model()->getTreeItem(index);
+        if (!each || style == before)
+            continue;
+        // Only the style: meanwhile something else may have become of the rest.
+        QJsonObject plain = EditAttributes::stateOf(*each);
+        QJsonObject styled = plain;
+        plain.insert(key, each == after ? before : plain.value(key).toObject());
+        styled.insert(key, style);
+        command->add(index, plain, styled);
+    }
+    push(session, std::move(command),
+         [] { return QCoreApplication::translate("SubjectEdit", "Change style"); });
 }
 
-void removeStyle(DiagramSession &session, const QModelIndex &index)
+void removeStyle(DiagramSession &session, const QModelIndexList &indexes)
 {
-    apply(
-        session, index, [] { return QCoreApplication::translate("SubjectEdit", "Remove style"); },
+    applyToAll(
+        session, indexes, [] { return QCoreApplication::translate("SubjectEdit", "Remove style"); },
         [](TreeItem &subject) { subject.delSpearStyle(); });
 }
 

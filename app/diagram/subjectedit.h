@@ -30,20 +30,22 @@ bool applyToAll(DiagramSession &session, const QModelIndexList &indexes,
                 const UndoCommand::Name &name, const std::function<void(TreeItem &)> &change);
 
 /**
- * Gives the subject at @p index the attributes of @p state, as EditAttributes::stateOf() makes one,
- * in one step named @p name. False, without a step, when it has them already.
+ * Gives each subject at @p indexes the attributes that @p change makes of its own, both as
+ * EditAttributes::stateOf() makes them, in one step named @p name. False when none differs.
  */
-bool replace(DiagramSession &session, const QModelIndex &index, const UndoCommand::Name &name,
-             const QJsonObject &state);
+bool changeAll(DiagramSession &session, const QModelIndexList &indexes,
+               const UndoCommand::Name &name,
+               const std::function<QJsonObject(const QJsonObject &state)> &change);
 
 /** Asks for a link for the subject at @p index, beginning with the one it has; one step. */
 void editLink(DiagramSession &session, const QModelIndex &index);
 /** Opens the link of the subject at @p index, if it has one. */
 void openLink(const DiagramSession &session, const QModelIndex &index);
 
-/** Lets the user edit the own style of the subject at @p index, in one step. */
-void editStyle(DiagramSession &session, const QModelIndex &index);
-/** Removes the own style of the subject at @p index, in one step. */
-void removeStyle(DiagramSession &session, const QModelIndex &index);
+/** Lets the user edit the own style of the first of the subjects at @p indexes, and gives it to all
+ * of them, in one step. */
+void editStyle(DiagramSession &session, const QModelIndexList &indexes);
+/** Removes the own styles of the subjects at @p indexes, in one step. */
+void removeStyle(DiagramSession &session, const QModelIndexList &indexes);
 
 } // namespace SubjectEdit

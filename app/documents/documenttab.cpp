@@ -161,7 +161,7 @@ void DocumentTab::takeLook(const DocumentTab &other)
 void DocumentTab::followState()
 {
     followHead();
-    m_details->showSubject(m_editor->firstSelectedSpearIndex());
+    m_details->showSubjects(m_session->selected());
     m_tree->view()->viewport()->update(); // not every change of a title is announced
     const QList<FishInfo *> others = m_model->fishList().mid(1);
     for (FishInfo *other : others)

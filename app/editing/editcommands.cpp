@@ -123,9 +123,9 @@ void EditCommands::addSubjectActions()
         [this] { SubjectEdit::openLink(*m_session, m_editor->firstSelectedSpearIndex()); });
     add("unlink", QT_TR_NOOP("Remove l&ink"), {}, [this] { m_editor->modifyDelLink(); });
     add("style", QT_TR_NOOP("&Style…"), {},
-        [this] { SubjectEdit::editStyle(*m_session, m_editor->firstSelectedSpearIndex()); });
+        [this] { SubjectEdit::editStyle(*m_session, m_session->selected()); });
     add("removeStyle", QT_TR_NOOP("Remove s&tyle"), {},
-        [this] { SubjectEdit::removeStyle(*m_session, m_editor->firstSelectedSpearIndex()); });
+        [this] { SubjectEdit::removeStyle(*m_session, m_session->selected()); });
 }
 
 /** Selects all that is below what is selected, too. */

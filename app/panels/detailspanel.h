@@ -4,28 +4,22 @@
 #pragma once
 
 #include <QJsonObject>
+#include <QList>
+#include <QModelIndexList>
 #include <QPersistentModelIndex>
-#include <QVector>
+#include <QSet>
 #include <QWidget>
 
+class DetailsForm;
 class DiagramSession;
-class QCheckBox;
-class QComboBox;
-class QDateEdit;
-class QFormLayout;
-class QLabel;
-class QLineEdit;
-class QPlainTextEdit;
 class QPushButton;
-class QSpinBox;
-class QToolButton;
-class StringListEditor;
 class TreeItem;
 
 /**
- * The attributes of one subject: the selected one, or none. What is changed here becomes the
- * subject's when the user applies it, in one step of the undo history, and until then can be
- * reverted. Only what was changed here is applied: the rest stays as it is by then.
+ * The attributes of the selected subjects. What is changed here becomes theirs when the user
+ * applies it, in one step of the undo history, and until then can be reverted. Only what was
+ * changed here is applied: the rest stays as it is by then, what differs between several subjects
+ * included.
  */
 class DetailsPanel : public QWidget
 {
@@ -34,54 +28,37 @@ class DetailsPanel : public QWidget
 public:
     explicit DetailsPanel(DiagramSession *session, QWidget *parent = nullptr);
 
-    /** Shows the subject at @p index, unless changes to it wait to be applied here. */
+    /** Shows the subject at @p index, unless it is shown together with others, or changes to it
+     * wait to be applied here. */
     void showSubject(const QModelIndex &index);
-    /** Lets the user begin to type a title. */
+    /** Shows the subjects at @p indexes together, unless changes to them wait to be applied here.
+     */
+    void showSubjects(const QModelIndexList &indexes);
+    /** Lets the user begin to type. */
     void focusTitle();
 
 public Q_SLOTS:
-    /** Gives the subject what is entered. */
+    /** Gives the subjects what is entered. */
     void apply();
-    /** Shows the subject as it is. */
+    /** Shows the subjects as they are. */
     void revert();
 
 private:
-    void nameFields();
-    void setUpFields();
+    void buildLayout();
     void showTexts();
     void showFacts();
-    void addRows(QFormLayout &rows);
-    void buildLayout();
-    void watchFields();
     void setChanged(bool changed);
-    void fill(const TreeItem &subject);
-    void store(TreeItem &target) const;
-    qint64 plannedEnd(qint64 before) const;
-    void showStatusIcon();
+    QModelIndexList living() const;
+    QSet<QString> differing(const QModelIndexList &indexes) const;
     void openLink() const;
     void editStyle();
 
     DiagramSession *m_session;
-    QPersistentModelIndex m_index;
-    QJsonObject m_shown; ///< what the fields said when they were filled
+    QList<QPersistentModelIndex> m_indexes;
+    QJsonObject m_shown;   ///< what the fields said when they were filled
+    QSet<QString> m_mixed; ///< the attributes that are not the same in all subjects
     bool m_isChanged = false;
-    QWidget *m_form;
-    QLineEdit *m_title;
-    QLineEdit *m_number;
-    QPlainTextEdit *m_detail;
-    QComboBox *m_status;
-    QSpinBox *m_progress;
-    QLabel *m_statusIcon;
-    QVector<QSpinBox *> m_numbers; ///< in the order of their list
-    QLineEdit *m_managerName;
-    QLineEdit *m_managerId;
-    StringListEditor *m_followers;
-    QCheckBox *m_hasPlannedEnd;
-    QDateEdit *m_plannedEnd;
-    QLineEdit *m_link;
-    QToolButton *m_openLink;
-    QPushButton *m_style;
-    QLabel *m_facts;
+    DetailsForm *m_form;
     QPushButton *m_apply;
     QPushButton *m_revert;
 };
