@@ -14,7 +14,7 @@
 
 namespace {
 constexpr double hitWidth = 8;   ///< of a bone, for the mouse
-constexpr double lineMargin = 4; ///< of the widest pen, and what is smoothed
+constexpr double lineMargin = 6; ///< of where the mouse hits, with its corners, and of any pen
 
 /** The end of the nearest bone above that is shown. */
 QPointF shownEnd(const SpearItem &spear)
@@ -177,6 +177,8 @@ QRectF ClearLook::boundingRect(const SpearItem &spear) const
     QRectF rect = QRectF(line.p1(), line.p2()).normalized();
     if (place && place->frame)
         rect |= place->frame->rect();
+    else if (place)
+        rect |= place->box(); // where it is hit as well, which its text box leaves to the bone
     return rect.adjusted(-lineMargin, -lineMargin, lineMargin, lineMargin);
 }
 

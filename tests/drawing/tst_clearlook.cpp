@@ -40,6 +40,7 @@ private Q_SLOTS:
     void shouldDropBetweenTheChildrenThatAreSeen_data();
     void shouldDropBetweenTheChildrenThatAreSeen();
     void shouldBeHitWhereItIsSeen();
+    void shouldSelectAndMoveABoneByItsTitle();
     void shouldPreferAnOwnStyle();
     void shouldMirrorForAHeadOnTheLeft();
     void shouldKeepEveryTextReadable_data();
@@ -267,10 +268,33 @@ void TestClearLook::shouldBeHitWhereItIsSeen()
         const QPointF middle = sceneRect(*spear->textItem()).center();
         QVERIFY(spear->shape().contains(middle));
         QVERIFY(spear->isHeader() || spear->shape().contains(spear->line().center()));
+        // A press goes through the text box to the bone, which the scene finds by its rectangle.
+        QVERIFY(spear->scene()->items(middle).contains(const_cast<SpearItem *>(spear)));
+        QVERIFY(spear->boundingRect().contains(spear->shape().boundingRect()));
         // Paints nothing outside its bounding rectangle.
         QVERIFY(spear->boundingRect().contains(
             QRectF(spear->line().p1(), spear->line().p2()).normalized().center()));
     }
+}
+
+void TestClearLook::shouldSelectAndMoveABoneByItsTitle()
+{
+    ClearFish fish;
+    QVERIFY(fish.show());
+    QWidget *const viewport = fish.editor.view()->viewport();
+    const auto seen = [&fish](const QString &title) {
+        return fish.editor.view()->mapFromScene(sceneRect(*fish.spear(title)->textItem()).center());
+    };
+    const QPoint from = seen(wear);
+    QTest::mousePress(viewport, Qt::LeftButton, {}, from);
+    QCOMPARE(fish.editor.firstSelectedSpear(), fish.spear(wear));
+    for (const QPoint &to : {from + QPoint(20, 20), seen(man)}) {
+        QMouseEvent move(QEvent::MouseMove, to, viewport->mapToGlobal(to), Qt::NoButton,
+                         Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(viewport, &move);
+    }
+    QTest::mouseRelease(viewport, Qt::LeftButton, {}, seen(man));
+    QCOMPARE(fish.subject(wear)->parent(), fish.subject(man));
 }
 
 void TestClearLook::shouldPreferAnOwnStyle()
