@@ -5,6 +5,7 @@
 
 #include <fishbone/model/treeitem.h>
 
+#include <algorithm>
 #include <vector>
 
 People People::in(const TreeItem *root)
@@ -34,4 +35,15 @@ void People::add(const QString &name, const QString &id)
     QString &known = m_ids[name];
     if (known.isEmpty())
         known = id;
+}
+
+QString People::spelled(const QString &typed) const
+{
+    if (m_ids.contains(typed))
+        return typed;
+    const QStringList known = names();
+    const auto same = std::find_if(known.cbegin(), known.cend(), [&typed](const QString &name) {
+        return name.compare(typed, Qt::CaseInsensitive) == 0;
+    });
+    return same != known.cend() ? *same : typed;
 }

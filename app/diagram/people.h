@@ -19,6 +19,9 @@ public:
 
     /** Their names, sorted, each once. */
     QStringList names() const { return m_ids.keys(); }
+    /** The name as the document has it, which @p typed may write with other capitals; @p typed
+     * itself for somebody new. */
+    QString spelled(const QString &typed) const;
     /** The id that goes with @p name; empty when none is known. */
     QString idOf(const QString &name) const { return m_ids.value(name); }
 

@@ -273,7 +273,7 @@ void MarkCommands::chooseManager()
     dialog.setTextValue(first->managerName());
     if (dialog.exec() != QDialog::Accepted)
         return;
-    const QString name = dialog.textValue().trimmed();
+    const QString name = people.spelled(dialog.textValue().trimmed());
     mark(stepName(QT_TR_NOOP("Change who is responsible")),
          [name, id = people.idOf(name)](TreeItem &subject) {
              if (subject.managerName() == name)
