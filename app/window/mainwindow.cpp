@@ -17,6 +17,7 @@
 #include <app/editing/bonemenuentries.h>
 #include <app/editing/editcommands.h>
 #include <app/editing/markcommands.h>
+#include <app/editing/mousedrags.h>
 #include <app/editing/movecommands.h>
 #include <app/editing/typedtitle.h>
 #include <app/editing/walkcommands.h>
@@ -258,6 +259,8 @@ void MainWindow::connectGestures(DocumentTab *tab)
 {
     FishEditor *const editor = tab->editor();
     offerActionsInBoneMenu(*editor, *m_actions, m_marks->menu());
+    new MouseDrags(editor, [this] { m_actions->action(QStringLiteral("markHere"))->trigger(); },
+                   tab); // which owns it
     auto *const typing = new TypedTitle(editor, tab);
     connect(typing, &TypedTitle::typed, this, [this, editor](const QString &text) {
         m_edits->rename(editor->firstSelectedSpearIndex(), text);

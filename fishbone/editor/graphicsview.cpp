@@ -146,7 +146,6 @@ void GraphicsView::press(QMouseEvent *event)
     m_d->move.begin(m_d->editor->selectedItems(), itemsAround(event->pos()));
 }
 
-/// Ends a move whose release will not come here.
 void GraphicsView::abandonMove()
 {
     m_d->move.restore();

@@ -41,6 +41,10 @@ public:
     /// (viewport coordinates). \a moving may be null. 0 without a linked spear.
     int insertRow(const QPoint &pos, SpearItem *moving) const;
 
+    /// Ends a move with the mouse whose release will not come here, or shall not count: what was
+    /// moved goes back. Emits moveSpear() without a target; nothing while no button is down.
+    void abandonMove();
+
 Q_SIGNALS:
     /// The context menu is wanted for \a item, a SpearItem, or for the canvas (null).
     void rightClicked(void *item);
@@ -82,7 +86,6 @@ private:
     void press(QMouseEvent *event);
     QList<QGraphicsItem *> itemsAround(const QPoint &pos) const;
     SpearItem *topmostSpearAround(const QPoint &pos) const;
-    void abandonMove();
     void reportMove(const QPoint &pos, SpearItem *target);
 
     const std::unique_ptr<Private> m_d;

@@ -35,6 +35,7 @@ private Q_SLOTS:
     void shouldForgetEverythingThatIsRebuilt();
     void shouldCarryOutAMoveInTheEditor();
     void shouldPutEverythingBackWithoutATarget();
+    void shouldAbandonAMove();
 };
 
 void TestGraphicsViewMoving::shouldMarkTheSpearUnderTheMouse()
@@ -316,6 +317,28 @@ void TestGraphicsViewMoving::shouldPutEverythingBackWithoutATarget()
     QCOMPARE(stage.spear("Method")->pos(), QPointF(0, 0));
     QVERIFY(!stage.editor.canUndo());
     QVERIFY(!stage.info->modified());
+}
+
+void TestGraphicsViewMoving::shouldAbandonAMove()
+{
+    MovingStage stage(true);
+    stage.view.abandonMove(); // none
+    QCOMPARE(stage.moves, QStringList());
+    const QPointF place = stage.spear("Method")->pos();
+    stage.mouse.press(stage.tip("Method"));
+    stage.mouse.move(stage.tip("Matter"));
+    QCOMPARE(stage.faded(), QStringLiteral("Method"));
+
+    stage.view.abandonMove();
+
+    QCOMPARE(stage.faded(), QString());
+    QVERIFY(!stage.view.linkedSpear());
+    QCOMPARE(stage.spear("Method")->pos(), place);
+    QCOMPARE(stage.moves.size(), 1);
+    QVERIFY(stage.moves.constFirst().startsWith(QLatin1String("Method to nothing")));
+    QVERIFY(!stage.editor.canUndo());
+    stage.mouse.release(stage.tip("Matter"));
+    QCOMPARE(stage.moves.size(), 1);
 }
 
 FISHBONE_TEST(TestGraphicsViewMoving)
