@@ -5,6 +5,7 @@
 #include <app/commandline/convertrun.h>
 #include <app/commandline/exportrun.h>
 #include <app/commandline/inforun.h>
+#include <app/commandline/reportrun.h>
 #include <app/commandline/startup.h>
 #include <app/common/language.h>
 #include <app/files/documentloader.h>
@@ -103,6 +104,10 @@ int main(int argc, char **argv)
     case CommandLine::Action::Info: {
         const int code = runInfo(line, message);
         return code == CommandLine::failure ? fail(message, code) : print(message, code);
+    }
+    case CommandLine::Action::Report: {
+        const int code = runReport(line, message);
+        return code == CommandLine::success ? code : fail(message, code);
     }
     case CommandLine::Action::Print:
         return print(line.text.isEmpty() ? CommandLine::helpText(line.command) : line.text,

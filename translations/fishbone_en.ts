@@ -287,20 +287,6 @@
         <translation>Write &lt;format&gt;, whatever the ending.</translation>
     </message>
     <message>
-        <source>Edits fishbone diagrams of tasks.
-
-Two commands need no display:
-  convert   write a diagram in another format, or as a picture
-  info      say what is in a diagram, and what is off in it
-&quot;fishbone convert --help&quot; tells more. A file of such a name is ./convert.</source>
-        <translation>Edits fishbone diagrams of tasks.
-
-Two commands need no display:
-  convert   write a diagram in another format, or as a picture
-  info      say what is in a diagram, and what is off in it
-&quot;fishbone convert --help&quot; tells more. A file of such a name is ./convert.</translation>
-    </message>
-    <message>
         <source>The file to read.</source>
         <translation>The file to read.</translation>
     </message>
@@ -313,10 +299,6 @@ Two commands need no display:
 The exit code is 3 when anything is.</source>
         <translation>Counts what is in a diagram and lists what is off in it.
 The exit code is 3 when anything is.</translation>
-    </message>
-    <message>
-        <source>--%1 needs convert or info</source>
-        <translation>--%1 needs convert or info</translation>
     </message>
     <message>
         <source>--%1 does not go with convert</source>
@@ -401,6 +383,44 @@ What is left out, or put where it can be kept, is listed on the error output.</t
     <message>
         <source>a page for the browser needs the clear look</source>
         <translation>a page for the browser needs the clear look</translation>
+    </message>
+    <message>
+        <source>Edits fishbone diagrams of tasks.
+
+Three commands need no display:
+  convert   write a diagram in another format, or as a picture
+  info      say what is in a diagram, and what is off in it
+  report    write what is sent round after a meeting
+&quot;fishbone convert --help&quot; tells more. A file of such a name is ./convert.</source>
+        <translation>Edits fishbone diagrams of tasks.
+
+Three commands need no display:
+  convert   write a diagram in another format, or as a picture
+  info      say what is in a diagram, and what is off in it
+  report    write what is sent round after a meeting
+&quot;fishbone convert --help&quot; tells more. A file of such a name is ./convert.</translation>
+    </message>
+    <message>
+        <source>Writes what is sent round after a meeting: the picture, the causes in the order of what was found out, what is to be done by whom, and a legend.
+The ending .html, .pdf or .md tells the format; .md has its picture in a file beside it.</source>
+        <translation>Writes what is sent round after a meeting: the picture, the causes in the order of what was found out, what is to be done by whom, and a legend.
+The ending .html, .pdf or .md tells the format; .md has its picture in a file beside it.</translation>
+    </message>
+    <message>
+        <source>--%1 needs convert, info or report</source>
+        <translation>--%1 needs convert, info or report</translation>
+    </message>
+    <message>
+        <source>--%1 does not go with report</source>
+        <translation>--%1 does not go with report</translation>
+    </message>
+    <message>
+        <source>report takes a file to read and a file to write</source>
+        <translation>report takes a file to read and a file to write</translation>
+    </message>
+    <message>
+        <source>the format of &quot;%1&quot; is unknown: the name must end in .html, .pdf or .md</source>
+        <translation>the format of &quot;%1&quot; is unknown: the name must end in .html, .pdf or .md</translation>
     </message>
 </context>
 <context>
@@ -2314,6 +2334,97 @@ Do you want to save your changes?</translation>
     </message>
 </context>
 <context>
+    <name>MeetingReport</name>
+    <message>
+        <source>it may be a cause</source>
+        <translation>it may be a cause</translation>
+    </message>
+    <message>
+        <source>somebody is looking into it</source>
+        <translation>somebody is looking into it</translation>
+    </message>
+    <message>
+        <source>it contributes</source>
+        <translation>it contributes</translation>
+    </message>
+    <message>
+        <source>it does not contribute</source>
+        <translation>it does not contribute</translation>
+    </message>
+    <message>
+        <source>all comes from it</source>
+        <translation>all comes from it</translation>
+    </message>
+    <message>
+        <source>Ranked causes</source>
+        <translation>Ranked causes</translation>
+    </message>
+    <message>
+        <source>Cause</source>
+        <translation>Cause</translation>
+    </message>
+    <message>
+        <source>Verdict</source>
+        <translation>Verdict</translation>
+    </message>
+    <message>
+        <source>Votes</source>
+        <translation>Votes</translation>
+    </message>
+    <message>
+        <source>Evidence</source>
+        <translation>Evidence</translation>
+    </message>
+    <message>
+        <source>No cause has a verdict or votes.</source>
+        <translation>No cause has a verdict or votes.</translation>
+    </message>
+    <message>
+        <source>Nobody yet</source>
+        <translation>Nobody yet</translation>
+    </message>
+    <message>
+        <source>Action</source>
+        <translation>Action</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Status</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Progress</translation>
+    </message>
+    <message>
+        <source>Until</source>
+        <translation>Until</translation>
+    </message>
+    <message>
+        <source>%1, overdue</source>
+        <translation>%1, overdue</translation>
+    </message>
+    <message>
+        <source>Legend</source>
+        <translation>Legend</translation>
+    </message>
+    <message>
+        <source>Meaning</source>
+        <translation>Meaning</translation>
+    </message>
+    <message>
+        <source>Actions</source>
+        <translation>Actions</translation>
+    </message>
+    <message>
+        <source>Nobody is to do anything.</source>
+        <translation>Nobody is to do anything.</translation>
+    </message>
+    <message>
+        <source>its name must end in .html, .pdf or .md</source>
+        <translation>its name must end in .html, .pdf or .md</translation>
+    </message>
+</context>
+<context>
     <name>Menus</name>
     <message>
         <source>&amp;File</source>
@@ -2934,6 +3045,33 @@ Do you want to save your changes?</translation>
     <message>
         <source>Not found key word %1.</source>
         <translation>“%1” was not found.</translation>
+    </message>
+</context>
+<context>
+    <name>ReportCommands</name>
+    <message>
+        <source>Meetin&amp;g report…</source>
+        <translation>Meetin&amp;g report…</translation>
+    </message>
+    <message>
+        <source>Meeting report</source>
+        <translation>Meeting report</translation>
+    </message>
+    <message>
+        <source>Page for the browser (*.html)</source>
+        <translation>Page for the browser (*.html)</translation>
+    </message>
+    <message>
+        <source>Markdown and a picture (*.md)</source>
+        <translation>Markdown and a picture (*.md)</translation>
+    </message>
+    <message>
+        <source>%1 written</source>
+        <translation>%1 written</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2.</source>
+        <translation>%1 cannot be written: %2.</translation>
     </message>
 </context>
 <context>

@@ -285,20 +285,6 @@
         <translation>写成 &lt;format&gt; 格式，不论扩展名。</translation>
     </message>
     <message>
-        <source>Edits fishbone diagrams of tasks.
-
-Two commands need no display:
-  convert   write a diagram in another format, or as a picture
-  info      say what is in a diagram, and what is off in it
-&quot;fishbone convert --help&quot; tells more. A file of such a name is ./convert.</source>
-        <translation>编辑任务鱼骨图。
-
-有两个命令无需图形显示：
-  convert   将鱼骨图写成另一种格式或图片
-  info      说明鱼骨图的内容及其中的问题
-“fishbone convert --help”有更多说明。同名的文件请写作 ./convert。</translation>
-    </message>
-    <message>
         <source>The file to read.</source>
         <translation>要读取的文件。</translation>
     </message>
@@ -311,10 +297,6 @@ Two commands need no display:
 The exit code is 3 when anything is.</source>
         <translation>统计鱼骨图的内容并列出其中的问题。
 如有问题，退出码为 3。</translation>
-    </message>
-    <message>
-        <source>--%1 needs convert or info</source>
-        <translation>--%1 须与 convert 或 info 一起使用</translation>
     </message>
     <message>
         <source>--%1 does not go with convert</source>
@@ -399,6 +381,44 @@ What is left out, or put where it can be kept, is listed on the error output.</s
     <message>
         <source>a page for the browser needs the clear look</source>
         <translation>浏览器页面需要清晰外观</translation>
+    </message>
+    <message>
+        <source>Edits fishbone diagrams of tasks.
+
+Three commands need no display:
+  convert   write a diagram in another format, or as a picture
+  info      say what is in a diagram, and what is off in it
+  report    write what is sent round after a meeting
+&quot;fishbone convert --help&quot; tells more. A file of such a name is ./convert.</source>
+        <translation>编辑任务的鱼骨图。
+
+三个命令不需要显示器：
+  convert   将图写成其他格式或图片
+  info      说明图中有什么，以及有什么问题
+  report    写出会后分发的报告
+“fishbone convert --help”有更多说明。同名的文件写作 ./convert。</translation>
+    </message>
+    <message>
+        <source>Writes what is sent round after a meeting: the picture, the causes in the order of what was found out, what is to be done by whom, and a legend.
+The ending .html, .pdf or .md tells the format; .md has its picture in a file beside it.</source>
+        <translation>写出会后分发的报告：图片、按结论排序的原因、由谁做什么，以及图例。
+扩展名 .html、.pdf 或 .md 决定格式；.md 的图片在旁边的文件中。</translation>
+    </message>
+    <message>
+        <source>--%1 needs convert, info or report</source>
+        <translation>--%1 需要 convert、info 或 report</translation>
+    </message>
+    <message>
+        <source>--%1 does not go with report</source>
+        <translation>--%1 不能与 report 一起使用</translation>
+    </message>
+    <message>
+        <source>report takes a file to read and a file to write</source>
+        <translation>report 需要一个要读取的文件和一个要写入的文件</translation>
+    </message>
+    <message>
+        <source>the format of &quot;%1&quot; is unknown: the name must end in .html, .pdf or .md</source>
+        <translation>“%1”的格式未知：名称必须以 .html、.pdf 或 .md 结尾</translation>
     </message>
 </context>
 <context>
@@ -2306,6 +2326,97 @@ Do you want to save your changes?</source>
     </message>
 </context>
 <context>
+    <name>MeetingReport</name>
+    <message>
+        <source>it may be a cause</source>
+        <translation>可能是原因</translation>
+    </message>
+    <message>
+        <source>somebody is looking into it</source>
+        <translation>有人正在调查</translation>
+    </message>
+    <message>
+        <source>it contributes</source>
+        <translation>有影响</translation>
+    </message>
+    <message>
+        <source>it does not contribute</source>
+        <translation>没有影响</translation>
+    </message>
+    <message>
+        <source>all comes from it</source>
+        <translation>一切由此而来</translation>
+    </message>
+    <message>
+        <source>Ranked causes</source>
+        <translation>原因排序</translation>
+    </message>
+    <message>
+        <source>Cause</source>
+        <translation>原因</translation>
+    </message>
+    <message>
+        <source>Verdict</source>
+        <translation>结论</translation>
+    </message>
+    <message>
+        <source>Votes</source>
+        <translation>票数</translation>
+    </message>
+    <message>
+        <source>Evidence</source>
+        <translation>依据</translation>
+    </message>
+    <message>
+        <source>No cause has a verdict or votes.</source>
+        <translation>没有原因有结论或票数。</translation>
+    </message>
+    <message>
+        <source>Nobody yet</source>
+        <translation>尚无负责人</translation>
+    </message>
+    <message>
+        <source>Action</source>
+        <translation>行动</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>状态</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>进度</translation>
+    </message>
+    <message>
+        <source>Until</source>
+        <translation>截止</translation>
+    </message>
+    <message>
+        <source>%1, overdue</source>
+        <translation>%1，已逾期</translation>
+    </message>
+    <message>
+        <source>Legend</source>
+        <translation>图例</translation>
+    </message>
+    <message>
+        <source>Meaning</source>
+        <translation>含义</translation>
+    </message>
+    <message>
+        <source>Actions</source>
+        <translation>行动</translation>
+    </message>
+    <message>
+        <source>Nobody is to do anything.</source>
+        <translation>没有待办的行动。</translation>
+    </message>
+    <message>
+        <source>its name must end in .html, .pdf or .md</source>
+        <translation>名称必须以 .html、.pdf 或 .md 结尾</translation>
+    </message>
+</context>
+<context>
     <name>Menus</name>
     <message>
         <source>&amp;File</source>
@@ -2923,6 +3034,33 @@ Do you want to save your changes?</source>
     <message>
         <source>Not found key word %1.</source>
         <translation>未找到关键字“%1”。</translation>
+    </message>
+</context>
+<context>
+    <name>ReportCommands</name>
+    <message>
+        <source>Meetin&amp;g report…</source>
+        <translation>会议报告(&amp;G)…</translation>
+    </message>
+    <message>
+        <source>Meeting report</source>
+        <translation>会议报告</translation>
+    </message>
+    <message>
+        <source>Page for the browser (*.html)</source>
+        <translation>浏览器页面 (*.html)</translation>
+    </message>
+    <message>
+        <source>Markdown and a picture (*.md)</source>
+        <translation>Markdown 和图片 (*.md)</translation>
+    </message>
+    <message>
+        <source>%1 written</source>
+        <translation>已写入 %1</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2.</source>
+        <translation>无法写入 %1：%2。</translation>
     </message>
 </context>
 <context>

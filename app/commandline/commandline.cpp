@@ -4,6 +4,7 @@
 #include <app/commandline/commandline.h>
 
 #include <fishbone/exchange/diagrampicture.h>
+#include <fishbone/exchange/meetingreport.h>
 #include <fishbone/exchange/slideexport.h>
 #include <fishbone/version.h>
 
@@ -121,9 +122,10 @@ void describeWindow(QCommandLineParser &parser)
 {
     parser.setApplicationDescription(CommandLine::tr(
         "Edits fishbone diagrams of tasks.\n\n"
-        "Two commands need no display:\n"
+        "Three commands need no display:\n"
         "  convert   write a diagram in another format, or as a picture\n"
         "  info      say what is in a diagram, and what is off in it\n"
+        "  report    write what is sent round after a meeting\n"
         "\"fishbone convert --help\" tells more. A file of such a name is ./convert."));
     parser.addOptions({helpOption(), versionOption(), languageOption(), exportOption()});
     parser.addOptions(pictureOptions());
@@ -164,6 +166,22 @@ void describeInfo(QCommandLineParser &parser)
                                  QStringLiteral("file"));
 }
 
+void describeReport(QCommandLineParser &parser)
+{
+    parser.setApplicationDescription(
+        CommandLine::tr("Writes what is sent round after a meeting: the picture, the causes in the "
+                        "order of what was found out, what is to be done by whom, and a legend.\n"
+                        "The ending .html, .pdf or .md tells the format; .md has its picture in a "
+                        "file beside it."));
+    parser.addOptions({helpOption(), languageOption(), fromOption()});
+    parser.addPositionalArgument(QStringLiteral("report"), CommandLine::tr("The command."),
+                                 QStringLiteral("report"));
+    parser.addPositionalArgument(QStringLiteral("file"), CommandLine::tr("The file to read."),
+                                 QStringLiteral("file"));
+    parser.addPositionalArgument(QStringLiteral("out"), CommandLine::tr("The file to write."),
+                                 QStringLiteral("out"));
+}
+
 void describe(QCommandLineParser &parser, CommandLine::Command command)
 {
     switch (command) {
@@ -173,6 +191,8 @@ void describe(QCommandLineParser &parser, CommandLine::Command command)
         return describeConvert(parser);
     case CommandLine::Command::Info:
         return describeInfo(parser);
+    case CommandLine::Command::Report:
+        return describeReport(parser);
     }
 }
 
@@ -182,6 +202,8 @@ CommandLine::Command commandFrom(const QString &text)
         return CommandLine::Command::Convert;
     if (text == QLatin1String("info"))
         return CommandLine::Command::Info;
+    if (text == QLatin1String("report"))
+        return CommandLine::Command::Report;
     return CommandLine::Command::None;
 }
 
@@ -266,13 +288,15 @@ bool CommandLine::readCommand(const QCommandLineParser &parser)
     switch (command) {
     case Command::None:
         return refuseOptions(parser, {fromOption(), toOption()},
-                             tr("--%1 needs convert or info")) &&
+                             tr("--%1 needs convert, info or report")) &&
                refuseOptions(parser, {strictOption()}, tr("--%1 needs convert")) &&
                readExport(parser);
     case Command::Convert:
         return readConvert(parser);
     case Command::Info:
         return readInfo(parser);
+    case Command::Report:
+        return readReport(parser);
     }
     return false;
 }
@@ -316,13 +340,34 @@ bool CommandLine::readConvert(const QCommandLineParser &parser)
 bool CommandLine::readInfo(const QCommandLineParser &parser)
 {
     action = Action::Info;
-    QList<QCommandLineOption> others = pictureOptions();
-    others += {exportOption(), toOption(), strictOption()};
-    if (!refuseOptions(parser, others, tr("--%1 does not go with info")))
+    if (!refuseAllBut(parser, tr("--%1 does not go with info")))
         return false;
     if (documents.size() != 1)
         return refuse(tr("info takes one file, not %1").arg(documents.size()));
     return readFormat(parser, QStringLiteral("from"), documents.constFirst(), from);
+}
+
+/** Reads the arguments of "report"; false when they make no sense. */
+bool CommandLine::readReport(const QCommandLineParser &parser)
+{
+    action = Action::Report;
+    if (!refuseAllBut(parser, tr("--%1 does not go with report")))
+        return false;
+    if (documents.size() != 2)
+        return refuse(tr("report takes a file to read and a file to write"));
+    target = documents.takeLast();
+    if (!MeetingReport::canWrite(target))
+        return refuse(tr("the format of \"%1\" is unknown: the name must end in .html, .pdf or .md")
+                          .arg(target));
+    return readFormat(parser, QStringLiteral("from"), documents.constFirst(), from);
+}
+
+/** Refuses all options but the format to read, for @p reason; true when there are no others. */
+bool CommandLine::refuseAllBut(const QCommandLineParser &parser, const QString &reason)
+{
+    QList<QCommandLineOption> others = pictureOptions();
+    others += {exportOption(), toOption(), strictOption()};
+    return refuseOptions(parser, others, reason);
 }
 
 /** Reads the format that the option @p name or the ending of @p fileName tells. */

@@ -37,6 +37,7 @@ public:
         None,
         Convert, ///< "convert": from one format to another
         Info,    ///< "info": about a document
+        Report,  ///< "report": what is sent round after a meeting
     };
 
     enum class Action {
@@ -44,6 +45,7 @@ public:
         Export,     ///< draw the one document into a picture file
         Convert,    ///< write the one document in another format, or as a picture
         Info,       ///< say what is in the one document, and what is off in it
+        Report,     ///< write a report of the one document
         Print,      ///< print the text to the standard output: help or version
         Refuse,     ///< print the text to the error output: the arguments make no sense
     };
@@ -74,6 +76,8 @@ private:
     bool readExport(const QCommandLineParser &parser);
     bool readConvert(const QCommandLineParser &parser);
     bool readInfo(const QCommandLineParser &parser);
+    bool readReport(const QCommandLineParser &parser);
+    bool refuseAllBut(const QCommandLineParser &parser, const QString &reason);
     bool readFormat(const QCommandLineParser &parser, const QString &name, const QString &fileName,
                     std::optional<DiagramExchange::Format> &format);
     bool readPicture(const QCommandLineParser &parser);

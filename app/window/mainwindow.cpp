@@ -12,6 +12,7 @@
 #include <app/documents/documenttabs.h>
 #include <app/documents/filecommands.h>
 #include <app/documents/recoverycommands.h>
+#include <app/documents/reportcommands.h>
 #include <app/documents/tabcommands.h>
 #include <app/documents/templatecommands.h>
 #include <app/editing/bonemenuentries.h>
@@ -109,6 +110,7 @@ MainWindow::~MainWindow()
     qDeleteAll(m_commands);
     delete m_files;
     delete m_recovery;
+    delete m_reports;
     delete m_templates;
     delete m_tabs;
 }
@@ -144,6 +146,7 @@ void MainWindow::addCommands()
     m_files = new FileCommands(m_tabs, m_recent, m_actions, this);
     statusBar()->insertPermanentWidget(0, new LoadProgress(m_files->loader(), this));
     m_recovery = new RecoveryCommands(m_tabs, m_actions, this);
+    m_reports = new ReportCommands(m_tabs, m_actions, this);
     m_templates = new TemplateCommands(m_tabs, m_actions, this);
     m_tabCommands = new TabCommands(m_tabs, m_actions, this);
     m_exports = new ExportCommands(session(), m_theme, m_actions, this);
@@ -224,6 +227,7 @@ void MainWindow::connectCommands()
     connect(m_theme, &CanvasTheme::message, this, &MainWindow::showMessage);
     connect(m_files, &FileCommands::message, this, &MainWindow::showMessage);
     connect(m_recovery, &RecoveryCommands::message, this, &MainWindow::showMessage);
+    connect(m_reports, &ReportCommands::message, this, &MainWindow::showMessage);
     connect(m_templates, &TemplateCommands::message, this, &MainWindow::showMessage);
     connect(m_exports, &ExportCommands::message, this, &MainWindow::showMessage);
     connect(m_edits, &EditCommands::message, this, &MainWindow::showMessage);
@@ -351,6 +355,7 @@ void MainWindow::updateState()
     setWindowTitle(document ? tr("%1[*] – Fishbone").arg(tab->name()) : tr("Fishbone"));
     setWindowModified(document && document->modified());
     m_files->updateActions();
+    m_reports->updateActions();
     m_templates->updateActions();
     m_tabCommands->updateActions();
     for (DiagramCommands *commands : qAsConst(m_commands))

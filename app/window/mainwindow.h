@@ -27,6 +27,7 @@ class QDockWidget;
 class QStackedWidget;
 class RecentFiles;
 class RecoveryCommands;
+class ReportCommands;
 class SubjectTree;
 class TabCommands;
 class TemplateCommands;
@@ -92,6 +93,7 @@ private:
     AutosaveStatus *m_autosave = nullptr;
     FileCommands *m_files = nullptr;
     RecoveryCommands *m_recovery = nullptr;
+    ReportCommands *m_reports = nullptr;
     TemplateCommands *m_templates = nullptr;
     TabCommands *m_tabCommands = nullptr;
     MarkCommands *m_marks = nullptr;

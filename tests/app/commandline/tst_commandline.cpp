@@ -360,7 +360,7 @@ void TestCommandLine::shouldNameAllOptionsInTheHelp()
 {
     const Outcome outcome = run({QStringLiteral("--help")}, environment());
     for (const char *option : {"--export", "--expand", "--size", "--scale", "--background",
-                               "--language", "--help", "--version", "convert", "info"})
+                               "--language", "--help", "--version", "convert", "info", "report"})
         QVERIFY2(outcome.out.contains(QLatin1String(option)), option);
     const QRegularExpression version(QStringLiteral("^fishbone [0-9]+\\.[0-9]+\\.[0-9]+\n$"));
     QVERIFY(version.match(run({QStringLiteral("--version")}, environment()).out).hasMatch());
