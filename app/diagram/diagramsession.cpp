@@ -14,13 +14,32 @@
 #include <fishbone/model/fishinfo.h>
 #include <fishbone/model/fishmodel.h>
 #include <fishbone/model/systemhelper.h>
+#include <fishbone/undo/commandgroup.h>
+#include <fishbone/undo/editattributes.h>
 #include <fishbone/undo/structuralcommands.h>
 #include <fishbone/undo/undostack.h>
 
 #include <QFileInfo>
+#include <QJsonArray>
 #include <QJsonObject>
 
 #include <memory>
+
+namespace {
+
+const QLatin1String childrenKey("children"); // of the diagram format, as the next ones
+const QLatin1String uuidKey("uuid");
+const QLatin1String pidKey("pid");
+
+std::unique_ptr<EditPaste> pastedBelow(FishModel *model, const QModelIndex &target,
+                                       const QJsonObject &subjects)
+{
+    auto command = std::make_unique<EditPaste>(model, target, subjects);
+    command->setPasteAsNew(true);
+    return command;
+}
+
+} // namespace
 
 DiagramSession::DiagramSession(FishModel *model, FishEditor *editor, QObject *parent)
     : QObject(parent)
@@ -340,12 +359,49 @@ void DiagramSession::paste(const QJsonObject &subjects)
     const QModelIndex target = m_editor->firstSelectedSpearIndex();
     if (!target.isValid())
         return;
+    const QJsonArray pasted = subjects.value(childrenKey).toArray();
+    const bool isHead = pasted.size() == 1 && isUntouched();
     pasteBy([&] {
-        auto command = std::make_unique<EditPaste>(m_model, target, subjects);
-        command->setPasteAsNew(true);
+        std::unique_ptr<UndoCommand> command;
+        if (isHead)
+            command = headFrom(pasted.at(0).toObject());
+        else
+            command = pastedBelow(m_model, target, subjects);
         if (m_editor->run(std::move(command)))
             m_editor->updateFish(true);
     });
+    if (isHead)
+        select(headOf(document()));
+}
+
+/** Whether there is nothing in the document yet but the head that it began with. */
+bool DiagramSession::isUntouched() const
+{
+    const FishInfo *const shown = document();
+    const TreeItem *const head = shown ? shown->treeItem()->childAtIndex(0) : nullptr;
+    return head && head->childCount() == 0 && shown->isUntitled() && !shown->modified();
+}
+
+/** A step that makes @p subject the head, and what is below it that of the head. */
+std::unique_ptr<UndoCommand> DiagramSession::headFrom(QJsonObject subject) const
+{
+    const QModelIndex head = headOf(document());
+    TreeItem &item = *m_model->getTreeItem(head);
+    item.ensureUuid();
+    QJsonArray below = subject.value(childrenKey).toArray();
+    for (QJsonValueRef child : below) {
+        QJsonObject object = child.toObject();
+        object.insert(pidKey, item.uuid());
+        child = object;
+    }
+    for (const QLatin1String key : {childrenKey, uuidKey, pidKey})
+        subject.remove(key);
+    auto paste = pastedBelow(m_model, head, {{childrenKey, below}});
+    auto step = std::make_unique<CommandGroup>(paste->name());
+    step->add(
+        std::make_unique<EditAttributes>(m_model, head, EditAttributes::stateOf(item), subject));
+    step->add(std::move(paste));
+    return step;
 }
 
 /** Runs @p change, which pastes, and selects what was pasted. */

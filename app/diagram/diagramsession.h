@@ -17,9 +17,11 @@
 #include <QTimer>
 
 #include <functional>
+#include <memory>
 #include <utility>
 
 class ModifiedTracker;
+class UndoCommand;
 
 /**
  * A document and what is shown of it. Knows how to get from one drawing of it to another, and how
@@ -77,7 +79,8 @@ public:
     void removeSelected(bool cut);
     /** Pastes what was copied below the selected subject. */
     void paste();
-    /** Pastes @p subjects, a snapshot as EditPaste takes it, below the selected subject. */
+    /** Pastes @p subjects, a snapshot as EditPaste takes it, below the selected subject. One
+     * subject that comes into a diagram in which nothing was done yet becomes its head. */
     void paste(const QJsonObject &subjects);
     void undo();
     void redo();
@@ -106,6 +109,8 @@ private:
     bool reveal(const QModelIndex &index);
     QModelIndex indexInDocument(const FishInfo *document, const QString &uuid) const;
     void preserve(const std::function<void()> &change);
+    bool isUntouched() const;
+    std::unique_ptr<UndoCommand> headFrom(QJsonObject subject) const;
     void pasteBy(const std::function<void()> &change);
     void settle();
 

@@ -166,11 +166,20 @@ void EditCommands::insertAndRename()
     if (!selected.isValid())
         return;
     auto insertion = std::make_unique<Command>(m_session->model(), selected);
+    // The command has given it one.
+    const QString before = m_session->model()->getTreeItem(selected)->uuid();
     auto *const step = new CommandGroup(insertion->name()); // the stack takes it over
     step->add(std::move(insertion));
     const QModelIndex inserted =
         m_session->insert([&] { m_editor->run(std::unique_ptr<UndoCommand>(step)); });
-    TitleEditor::open(m_editor, inserted, QString(), step);
+    const TitleEditor *const field = TitleEditor::open(m_editor, inserted, QString(), step);
+    if (!field)
+        return;
+    // What was selected before is selected again, and not what is nearest to the bone that goes.
+    connect(field, &TitleEditor::abandoned, m_session, [session = m_session, before] {
+        session->undo();
+        session->select(session->model()->modelIndexByUuid(before));
+    });
 }
 
 /** Inserts beside the selected subject. Beside the head of a diagram there is another diagram. */

@@ -32,12 +32,12 @@ TreeItem *subjectAt(const FishEditor &editor, const QModelIndex &index)
 
 } // namespace
 
-void TitleEditor::open(FishEditor *editor, const QModelIndex &index, const QString &typed,
-                       CommandGroup *step)
+TitleEditor *TitleEditor::open(FishEditor *editor, const QModelIndex &index, const QString &typed,
+                               CommandGroup *step)
 {
     const TreeItem *const subject = subjectAt(*editor, index);
     if (!subject || !subject->spear() || !subject->spear()->isVisible())
-        return;
+        return nullptr;
     editor->ensureVisible(index);
     auto *const field = new TitleEditor(editor, index, step); // owned by the viewport
     field->show();
@@ -48,6 +48,7 @@ void TitleEditor::open(FishEditor *editor, const QModelIndex &index, const QStri
         field->setPlainText(typed);
         field->moveCursor(QTextCursor::End);
     }
+    return field;
 }
 
 void TitleEditor::finishIn(const FishEditor &editor)
@@ -145,7 +146,7 @@ void TitleEditor::keyPressEvent(QKeyEvent *event)
 {
     const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (event->key() == Qt::Key_Escape)
-        close();
+        cancel();
     else if (isReturn && event->modifiers() & Qt::ShiftModifier)
         textCursor().insertBlock();
     else if (isReturn)
@@ -180,6 +181,14 @@ void TitleEditor::finish()
     close();
     if (changed)
         rename(title);
+}
+
+void TitleEditor::cancel()
+{
+    const bool isNew = m_step && !m_isClosed;
+    close();
+    if (isNew)
+        Q_EMIT abandoned();
 }
 
 void TitleEditor::rename(const QString &title)

@@ -54,7 +54,9 @@ private Q_SLOTS:
     void shouldInsertByMenu();
     void shouldKeepTheFieldOverTheTitle_data();
     void shouldKeepTheFieldOverTheTitle();
-    void shouldKeepTheDefaultTitleOnEscape();
+    void shouldTakeANewBoneAwayOnEscape_data();
+    void shouldTakeANewBoneAwayOnEscape();
+    void shouldKeepTheDefaultTitleOnReturn();
     void shouldRenameInAStepOfItsOwnLater();
     void shouldRenameInAStepOfItsOwnAfterAnotherEdit();
     void shouldLeaveShortcutsToWidgetsThatTakeText();
@@ -223,15 +225,39 @@ void TestEditCommands::shouldKeepTheFieldOverTheTitle()
     QVERIFY2(distance() < 5, QByteArray::number(distance()));
 }
 
-void TestEditCommands::shouldKeepTheDefaultTitleOnEscape()
+void TestEditCommands::shouldTakeANewBoneAwayOnEscape_data()
 {
+    QTest::addColumn<int>("key");
+    QTest::newRow("child") << int(Qt::Key_Tab);
+    QTest::newRow("sibling") << int(Qt::Key_Return);
+}
+
+void TestEditCommands::shouldTakeANewBoneAwayOnEscape()
+{
+    QFETCH(int, key);
     AppFixture app;
     app.select("Machines");
-    app.trigger("child");
+    QTest::keyClick(app.window.editor()->view(), Qt::Key(key));
+    AppFixture::settle();
+    QVERIFY(titleField(app));
+    QVERIFY(app.text() != original());
     QTest::keyClicks(titleField(app), QStringLiteral("abc"));
     QTest::keyClick(titleField(app), Qt::Key_Escape);
     AppFixture::settle();
     QVERIFY(!titleField(app));
+    QCOMPARE(app.text(), original());
+    QCOMPARE(app.selectedInDrawing(), QStringList(QStringLiteral("Machines")));
+    QVERIFY(!app.window.isWindowModified());
+}
+
+/// Return without a word keeps the bone with the title that it began with.
+void TestEditCommands::shouldKeepTheDefaultTitleOnReturn()
+{
+    AppFixture app;
+    app.select("Machines");
+    app.trigger("child");
+    QTest::keyClick(titleField(app), Qt::Key_Return);
+    AppFixture::settle();
     QVERIFY(app.text().contains(QStringLiteral("Machines[子主题]")));
     QCOMPARE(app.window.editor()->undoStack()->commandNames().size(), 1);
 }
@@ -241,7 +267,7 @@ void TestEditCommands::shouldRenameInAStepOfItsOwnLater()
     AppFixture app;
     app.select("Machines");
     app.trigger("child");
-    QTest::keyClick(titleField(app), Qt::Key_Escape);
+    QTest::keyClick(titleField(app), Qt::Key_Return);
     app.trigger("rename");
     QTest::keyClicks(titleField(app), QStringLiteral("New"));
     QTest::keyClick(titleField(app), Qt::Key_Return);

@@ -38,6 +38,10 @@ private Q_SLOTS:
     void shouldMakeATreeOfText_data();
     void shouldMakeATreeOfText();
     void shouldMakeADiagramThatCanBeEditedOfText();
+    void shouldMakeTheHeadOfAnEmptyDocumentOfWhatIsPasted_data();
+    void shouldMakeTheHeadOfAnEmptyDocumentOfWhatIsPasted();
+    void shouldKeepTheHeadThatHasATitle();
+    void shouldMakeAHeadOfABoneOfAnotherDocument();
     void shouldPreferWhatWasCopiedLast();
     void shouldTakeTheTextOfAnotherWindowAsItStands();
     void shouldSayWhyTextCannotBePasted();
@@ -135,6 +139,64 @@ void TestSubjectClipboard::shouldMakeATreeOfText()
     QCOMPARE(app.text(), before);
     app.trigger("redo");
     QVERIFY(app.text().contains(result));
+}
+
+void TestSubjectClipboard::shouldMakeTheHeadOfAnEmptyDocumentOfWhatIsPasted_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("result");
+    QTest::newRow("a tree") << QStringLiteral("Wear\n\tBelt\n\t\tOld\n\tGear\n")
+                            << QStringLiteral("Wear[Belt[Old],Gear]");
+    QTest::newRow("one line") << QStringLiteral("Wear") << QStringLiteral("Wear");
+    QTest::newRow("several trees")
+        << QStringLiteral("Wear\n\tBelt\nHeat\n") << QStringLiteral("自由主题[Wear[Belt],Heat]");
+}
+
+void TestSubjectClipboard::shouldMakeTheHeadOfAnEmptyDocumentOfWhatIsPasted()
+{
+    QFETCH(QString, text);
+    QFETCH(QString, result);
+    AppFixture app;
+    app.trigger("new");
+    const QString before = app.text();
+    QGuiApplication::clipboard()->setText(text);
+    AppFixture::settle();
+    pressIn(app, Qt::Key_V);
+    QCOMPARE(app.text(), result);
+    QVERIFY(app.window.isWindowModified());
+    pressIn(app, Qt::Key_Z); // one step
+    QCOMPARE(app.text(), before);
+    QVERIFY(!app.window.isWindowModified());
+    app.trigger("redo");
+    QCOMPARE(app.text(), result);
+}
+
+void TestSubjectClipboard::shouldKeepTheHeadThatHasATitle()
+{
+    AppFixture app;
+    app.trigger("new");
+    app.window.editor()->renameItem(app.window.editor()->rootIndex(), QStringLiteral("Late"));
+    AppFixture::settle();
+    app.window.session()->select(app.window.editor()->rootIndex());
+    QGuiApplication::clipboard()->setText(QStringLiteral("Wear\n\tBelt\n"));
+    AppFixture::settle();
+    pressIn(app, Qt::Key_V);
+    QCOMPARE(app.text(), QStringLiteral("Late[Wear[Belt]]"));
+}
+
+void TestSubjectClipboard::shouldMakeAHeadOfABoneOfAnotherDocument()
+{
+    AppFixture app;
+    app.subject("Material")->setProgress(70);
+    app.select("Material");
+    pressIn(app, Qt::Key_C);
+    app.trigger("new");
+    pressIn(app, Qt::Key_V);
+    QCOMPARE(app.text(), QStringLiteral("Material[Rust]"));
+    const TreeItem *const head = app.document()->treeItem()->childAtIndex(0);
+    QCOMPARE(head->progress(), 70);
+    QCOMPARE(head->childAtIndex(0)->pid(), head->uuid());
+    QCOMPARE(app.window.tabs()->current()->name(), QStringLiteral("Material"));
 }
 
 void TestSubjectClipboard::shouldMakeADiagramThatCanBeEditedOfText()
