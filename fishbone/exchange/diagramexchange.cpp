@@ -354,7 +354,7 @@ ExchangeReport DiagramExchange::lossesOfSlide(const TreeItem &head, bool showsMa
     QStringList shown =
         wordsOf("title children status progress url mgrname planenddate spearstyle");
     if (showsMarks)
-        shown += wordsOf("verdict colour");
+        shown += wordsOf("verdict votes colour");
     return lossesBut({shown}, head);
 }
 

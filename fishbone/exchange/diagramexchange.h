@@ -122,7 +122,7 @@ public:
      * in the number of subjects. */
     static ExchangeReport lossesOf(const TreeItem &head, Format format);
     /** What a slide (SlideExport) of the diagram below @p head does not hold. @p showsMarks says
-     * whether its look draws verdicts and colours, as the clear one does. */
+     * whether its look draws verdicts, votes and colours, as the clear one does. */
     static ExchangeReport lossesOfSlide(const TreeItem &head, bool showsMarks);
 
     /**

@@ -140,7 +140,7 @@ void TestLastDocuments::shouldRememberWhereEverythingWas()
     const QString dock = QStringLiteral("historyDock");
     {
         AppFixture app;
-        app.window.resize(900, 620);
+        app.window.resize(760, 560);
         app.widget<QDockWidget>("historyDock")->hide();
         app.window.addDockWidget(Qt::LeftDockWidgetArea, app.widget<QDockWidget>("detailsDock"));
         AppFixture::settle();
@@ -149,7 +149,7 @@ void TestLastDocuments::shouldRememberWhereEverythingWas()
     MainWindow next;
     next.show();
     AppFixture::settle();
-    QCOMPARE(next.size(), QSize(900, 620));
+    QCOMPARE(next.size(), QSize(760, 560));
     QVERIFY(next.findChild<QDockWidget *>(dock)->isHidden());
     auto *const details = next.findChild<QDockWidget *>(QStringLiteral("detailsDock"));
     QCOMPARE(next.dockWidgetArea(details), Qt::LeftDockWidgetArea);
