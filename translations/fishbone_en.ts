@@ -927,6 +927,10 @@ The ending .html, .pdf or .md tells the format; .md has its picture in a file be
         <source>headings that are repeated</source>
         <translation>headings that are repeated</translation>
     </message>
+    <message>
+        <source>&lt;/%1&gt; is missing, the end of &lt;%1&gt; in line %2</source>
+        <translation>&lt;/%1&gt; is missing, the end of &lt;%1&gt; in line %2</translation>
+    </message>
 </context>
 <context>
     <name>DiagramPicture</name>
@@ -976,6 +980,10 @@ The ending .html, .pdf or .md tells the format; .md has its picture in a file be
     <message>
         <source>it holds no diagram</source>
         <translation>it holds no diagram</translation>
+    </message>
+    <message>
+        <source>its ending is none of those that can be read: %1</source>
+        <translation>its ending is none of those that can be read: %1</translation>
     </message>
 </context>
 <context>

@@ -922,6 +922,10 @@ The ending .html, .pdf or .md tells the format; .md has its picture in a file be
         <source>headings that are repeated</source>
         <translation>重复的表头</translation>
     </message>
+    <message>
+        <source>&lt;/%1&gt; is missing, the end of &lt;%1&gt; in line %2</source>
+        <translation>缺少 &lt;/%1&gt;，即第 %2 行 &lt;%1&gt; 的结尾</translation>
+    </message>
 </context>
 <context>
     <name>DiagramPicture</name>
@@ -971,6 +975,10 @@ The ending .html, .pdf or .md tells the format; .md has its picture in a file be
     <message>
         <source>it holds no diagram</source>
         <translation>其中没有鱼骨图</translation>
+    </message>
+    <message>
+        <source>its ending is none of those that can be read: %1</source>
+        <translation>其扩展名不在可读取的扩展名之列：%1</translation>
     </message>
 </context>
 <context>

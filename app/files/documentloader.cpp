@@ -26,6 +26,25 @@ bool isNetworkUrl(const QUrl &url)
     return url.scheme() == QLatin1String("http") || url.scheme() == QLatin1String("https");
 }
 
+/** The endings of all formats that are read, ".json, .md, …". */
+QString readableEndings()
+{
+    QStringList endings;
+    const QList<DiagramExchange::Format> formats = DiagramExchange::formats();
+    for (const DiagramExchange::Format format : formats) {
+        const QStringList suffixes =
+            DiagramExchange::canRead(format) ? DiagramExchange::suffixes(format) : QStringList();
+        for (const QString &suffix : suffixes)
+            endings.append(QLatin1Char('.') + suffix);
+    }
+    return endings.join(QLatin1String(", "));
+}
+
+bool hasUnknownEnding(const QString &path)
+{
+    return !QFileInfo(path).suffix().isEmpty() && !DiagramExchange::formatOf(path);
+}
+
 /** What keeps @p json, which was parsed with @p error, from being read as a document. */
 QString reasonOfText(const QByteArray &json, const QJsonParseError &error)
 {
@@ -97,7 +116,8 @@ QString DocumentLoader::reasonOf(const QString &path)
         return file.errorString();
     const QByteArray content = file.readAll();
     QJsonParseError error;
-    QJsonDocument::fromJson(content, &error);
+    if (QJsonDocument::fromJson(content, &error).isNull() && hasUnknownEnding(path))
+        return tr("its ending is none of those that can be read: %1").arg(readableEndings());
     return reasonOfText(content, error);
 }
 

@@ -62,7 +62,7 @@ bool readFreeMind(const QByteArray &bytes, ImportedTree &tree)
 {
     QXmlStreamReader xml(bytes);
     return XmlSupport::enterRoot(xml, QStringLiteral("map"), tree) &&
-           FreeMindReader(xml, tree).read() && XmlSupport::finish(xml, tree);
+           FreeMindReader(xml, tree).read() && XmlSupport::finish(xml, tree, bytes);
 }
 
 QByteArray writeFreeMind(const TreeItem &head)

@@ -113,7 +113,9 @@ void takeAttributes(const QXmlStreamAttributes &values, qint64 line, TreeItem &s
         const SubjectAttributes::Attribute *const attribute = attributeNamed(name);
         if (attribute && attribute->setText(subject, value))
             continue;
-        if (!takeForeign(name, value, subject))
+        if (name == QLatin1String("collapsed")) // as the state of a window
+            tree.note(ExchangeReport::Kind::Appearance, name, line);
+        else if (!takeForeign(name, value, subject))
             tree.addNamedDetail(subject, name, value, line);
     }
 }
@@ -226,7 +228,7 @@ bool readOpml(const QByteArray &bytes, ImportedTree &tree)
             return false;
     }
     keepHead(head, tree);
-    return XmlSupport::finish(xml, tree);
+    return XmlSupport::finish(xml, tree, bytes);
 }
 
 QByteArray writeOpml(const TreeItem &head)

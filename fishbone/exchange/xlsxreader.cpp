@@ -135,7 +135,7 @@ bool XlsxReader::readPart(const QString &name, const QString &root,
         if (xml.readNext() == QXmlStreamReader::StartElement && !(this->*element)(xml))
             return false;
     }
-    return XmlSupport::finish(xml, m_tree);
+    return XmlSupport::finish(xml, m_tree, *bytes);
 }
 
 bool XlsxReader::open()

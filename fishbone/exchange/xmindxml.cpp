@@ -248,7 +248,7 @@ bool XmindXml::read(const QByteArray &bytes, ImportedTree &tree)
 {
     QXmlStreamReader xml(bytes);
     return XmlSupport::enterRoot(xml, QStringLiteral("xmap-content"), tree) &&
-           XMindMapReader(xml, tree).read() && XmlSupport::finish(xml, tree);
+           XMindMapReader(xml, tree).read() && XmlSupport::finish(xml, tree, bytes);
 }
 
 QByteArray XmindXml::write(const TreeItem &head)

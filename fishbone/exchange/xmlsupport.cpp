@@ -8,6 +8,9 @@
 
 #include <QXmlStreamReader>
 
+#include <optional>
+#include <vector>
+
 namespace {
 
 /** Whether the UTF-16 unit of @p text at @p i belongs to a character of XML 1.0. */
@@ -21,6 +24,37 @@ bool isStorable(const QString &text, int i)
     if (c < QLatin1Char(' '))
         return c == QLatin1Char('\t') || c == QLatin1Char('\n') || c == QLatin1Char('\r');
     return c.unicode() < 0xfffe;
+}
+
+/** Whether the error of @p xml is that something else stands where an element should end. */
+bool lacksAnEnd(const QXmlStreamReader &xml)
+{
+    QXmlStreamReader wrong(QByteArray("<a></b>")); // has the reader's text for that
+    while (!wrong.atEnd())
+        wrong.readNext();
+    return xml.error() == QXmlStreamReader::PrematureEndOfDocumentError ||
+           xml.errorString() == wrong.errorString();
+}
+
+struct OpenElement
+{
+    QString name;
+    qint64 line;
+};
+
+/** The innermost element that is open where @p document stops being well-formed. */
+std::optional<OpenElement> openElement(const QByteArray &document)
+{
+    std::vector<OpenElement> open;
+    QXmlStreamReader xml(document);
+    while (!xml.atEnd()) {
+        const QXmlStreamReader::TokenType token = xml.readNext();
+        if (token == QXmlStreamReader::StartElement)
+            open.push_back({xml.qualifiedName().toString(), xml.lineNumber()});
+        else if (token == QXmlStreamReader::EndElement)
+            open.pop_back();
+    }
+    return open.empty() ? std::nullopt : std::make_optional(open.back());
 }
 
 } // namespace
@@ -52,16 +86,21 @@ bool enterRoot(QXmlStreamReader &xml, const QString &root, ImportedTree &tree)
                          DiagramExchange::tr("the document begins with <%1>, not with <%2>")
                              .arg(xml.name().toString(), root));
     }
-    return finish(xml, tree);
+    return finish(xml, tree, QByteArray());
 }
 
-bool finish(QXmlStreamReader &xml, ImportedTree &tree)
+bool finish(QXmlStreamReader &xml, ImportedTree &tree, const QByteArray &document)
 {
     while (!xml.atEnd())
         xml.readNext();
     if (!xml.hasError())
         return true;
-    return tree.fail(xml.lineNumber(), xml.errorString());
+    const auto open = lacksAnEnd(xml) ? openElement(document) : std::nullopt;
+    return tree.fail(xml.lineNumber(),
+                     open ? DiagramExchange::tr("</%1> is missing, the end of <%1> in line %2")
+                                .arg(open->name)
+                                .arg(open->line)
+                          : xml.errorString());
 }
 
 } // namespace XmlSupport

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 
 class ImportedTree;
@@ -20,7 +21,8 @@ QString storable(const QString &text);
  */
 bool enterRoot(QXmlStreamReader &xml, const QString &root, ImportedTree &tree);
 
-/** Reads the rest of the document. Whether all of it is well-formed; @p tree fails when not. */
-bool finish(QXmlStreamReader &xml, ImportedTree &tree);
+/** Reads the rest of @p document, which @p xml reads. Whether all of it is well-formed; @p tree
+ * fails when not, and names the element that is not closed, if that is it. */
+bool finish(QXmlStreamReader &xml, ImportedTree &tree, const QByteArray &document);
 
 } // namespace XmlSupport

@@ -190,11 +190,14 @@ void TestDiagramExchangeXml::shouldRefuseOtherDocuments_data()
     row("another root of a map", Format::FreeMind, "<opml/>",
         "line 1: the document begins with <opml>, not with <map>");
     row("no XML", Format::Opml, "a", "line 1: ");
-    row("cut off", Format::Opml, "<opml><body>\n<outline text='a'>\n", "line 3: ");
-    row("cut off map", Format::FreeMind, "<map>\n<node TEXT='a'>", "line 2: ");
+    row("cut off", Format::Opml, "<opml><body>\n<outline text='a'>\n",
+        "line 3: </outline> is missing, the end of <outline> in line 2");
+    row("cut off map", Format::FreeMind, "<map>\n<node TEXT='a'>",
+        "line 2: </node> is missing, the end of <node> in line 2");
     row("cut off note", Format::FreeMind, "<map>\n<node TEXT='a'><richcontent TYPE='NOTE'><html>x",
-        "line 2: ");
-    row("wrong end", Format::FreeMind, "<map>\n<node TEXT='a'>\n</map>", "line 3: ");
+        "line 2: </html> is missing, the end of <html> in line 2");
+    row("wrong end", Format::FreeMind, "<map>\n<node TEXT='a'>\n</map>",
+        "line 3: </node> is missing, the end of <node> in line 2");
     row("two roots", Format::FreeMind, "<map><node TEXT='a'/></map>\n<map/>", "line 2: ");
     row("unknown entity", Format::Opml, "<opml><body>\n<outline text='&x;'/></body></opml>",
         "line 2: ");
