@@ -5,6 +5,7 @@
 
 #include <cmath>
 
+#include <fishbone/drawing/classicmarks.h>
 #include <fishbone/items/headpictures.h>
 #include <fishbone/items/spearitem.h>
 #include <fishbone/items/textitem.h>
@@ -253,6 +254,13 @@ QRectF ClassicLook::boundingRect(const SpearItem &spear) const
             rect |= picture;
     }
     return rect;
+}
+
+/** The title itself stays as the item has it: what shows a verdict lies behind. */
+bool ClassicLook::paintText(QPainter &painter, const SpearItem &spear) const
+{
+    ClassicMarks::paint(painter, spear);
+    return false;
 }
 
 QPainterPath ClassicLook::shape(const SpearItem &spear) const

@@ -33,6 +33,7 @@ public:
     QRectF boundingRect(const SpearItem &spear) const override;
     QPainterPath shape(const SpearItem &spear) const override;
     void paint(QPainter &painter, const SpearItem &spear) const override;
+    bool paintText(QPainter &painter, const SpearItem &spear) const override;
 
     void size(const SpearTree &tree) const override;
     void place(const SpearTree &tree) const override;

@@ -14,6 +14,7 @@ constexpr qreal causeLine = 1.2;
 constexpr qreal deepLine = 1;
 constexpr qreal broader = 1.4; ///< by which a line that stands out is wider
 constexpr int strongestLevel = 2;
+constexpr int deepLevel = 3;
 constexpr qreal tint = 0.16; ///< how much of a colour lies behind what stands out
 
 qreal lineWidth(int level)
@@ -76,11 +77,13 @@ ClearInk ClearInk::of(const ClearSubjectLook &look, int level, int category,
     if (ink.background.isValid())
         below = ClearColors::mixed(ink.background, below, ink.background.alphaF());
     const bool isUsual = !ink.background.isValid() && (level > 1 || !look.colour.isValid());
+    // What is ruled out is as pale as the deepest causes.
+    const int inkLevel = look.verdict == Verdict::RuledOut && level > 1 ? deepLevel : level;
     // A text and a background that a subject has of its own are left to whoever has chosen both.
     if (look.ink.isValid())
         ink.text = isSeen(look.background) ? look.ink : ClearColors::readable(look.ink, below);
     else
-        ink.text = isUsual ? colors.ink(level) : ClearColors::inkOn(below);
+        ink.text = isUsual ? colors.ink(inkLevel) : ClearColors::inkOn(below);
     ink.accent = colors.ink(strongestLevel);
     return ink;
 }

@@ -4,6 +4,7 @@
 #include <fishbone/undo/editattributes.h>
 
 #include <fishbone/items/spearitem.h>
+#include <fishbone/items/textitem.h>
 #include <fishbone/model/fishmodel.h>
 #include <fishbone/model/jsonnodes.h>
 #include <fishbone/model/subjectattribute.h>
@@ -91,8 +92,12 @@ struct EditAttributes::Private
                 attribute->copy(target, record);
             if (target.spear())
                 target.spear()->updateMovableFlag();
-            if (!changedOthers.isEmpty())
-                storeOthers(target, changedOthers, state);
+            if (changedOthers.isEmpty())
+                return;
+            storeOthers(target, changedOthers, state);
+            // Marks may show where nothing is laid out anew.
+            if (target.spear() && target.spear()->textItem())
+                target.spear()->textItem()->update();
         }
     };
 

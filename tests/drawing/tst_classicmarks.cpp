@@ -1,0 +1,160 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#include <tests/program/testprogram.h>
+#include <tests/support/drawing.h>
+#include <tests/support/editorfixture.h>
+#include <tests/support/pictures.h>
+
+#include <fishbone/items/textitem.h>
+#include <fishbone/model/subjectmarks.h>
+#include <fishbone/undo/editattributes.h>
+
+#include <QSignalSpy>
+#include <QtTest>
+
+using namespace TestSupport;
+
+Q_DECLARE_METATYPE(Verdict)
+
+namespace {
+
+const QString title = QStringLiteral("Training");
+
+QImage picture(const EditorFixture &fish)
+{
+    QGraphicsScene &scene = *fish.editor.scene();
+    const QRectF rect = scene.itemsBoundingRect();
+    QImage image = whitePicture(rect.size().toSize());
+    QPainter painter(&image);
+    scene.render(&painter, QRectF(image.rect()), rect);
+    return image;
+}
+
+/// How many pixels are more red than anything else.
+int redIn(const QImage &image)
+{
+    int count = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            const QRgb pixel = image.pixel(x, y);
+            count += qRed(pixel) > qGreen(pixel) + 60 && qRed(pixel) > qBlue(pixel) + 60 ? 1 : 0;
+        }
+    }
+    return count;
+}
+
+} // namespace
+
+/// What the classic look shows of marks.
+class TestClassicMarks : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void shouldShowEachVerdictInItsOwnWay();
+    void shouldStayWithinTheTitle_data();
+    void shouldStayWithinTheTitle();
+    void shouldMarkEveryLineOfATitle();
+    void shouldRepaintWhatIsMarked();
+};
+
+void TestClassicMarks::shouldShowEachVerdictInItsOwnWay()
+{
+    EditorFixture fish(QStringLiteral("Effect[Man[Training,Shifts],Machine]"));
+    fish.editor.expandAll();
+    QList<QImage> pictures{picture(fish)};
+    for (const Verdict verdict : {Verdict::Suspected, Verdict::Checking, Verdict::Confirmed,
+                                  Verdict::RuledOut, Verdict::RootCause}) {
+        SubjectMarks::setVerdict(*fish.subject(title), verdict);
+        const QImage marked = picture(fish);
+        QVERIFY(!pictures.contains(marked));
+        QCOMPARE(redIn(marked) > 50, verdict == Verdict::RootCause); // unmistakable
+        pictures.append(marked);
+    }
+    SubjectMarks::setVerdict(*fish.subject(title), Verdict::None);
+    QCOMPARE(picture(fish), pictures.constFirst());
+}
+
+void TestClassicMarks::shouldStayWithinTheTitle_data()
+{
+    QTest::addColumn<Verdict>("verdict");
+    QTest::addColumn<QString>("bone");
+    for (const Verdict verdict :
+         {Verdict::Suspected, Verdict::Confirmed, Verdict::RuledOut, Verdict::RootCause}) {
+        for (const char *bone : {"Man", "Training", "Course", "Effect"})
+            QTest::addRow("%d of %s", int(verdict), bone) << verdict << QString::fromLatin1(bone);
+    }
+}
+
+/// So that a partial repaint shows what a full one does.
+void TestClassicMarks::shouldStayWithinTheTitle()
+{
+    QFETCH(Verdict, verdict);
+    QFETCH(QString, bone);
+    EditorFixture fish(QStringLiteral("Effect[Man[Training[Course],Shifts],Machine]"));
+    fish.editor.expandAll();
+    const QRectF rect = fish.editor.scene()->itemsBoundingRect();
+    const QImage before = picture(fish);
+    SubjectMarks::setVerdict(*fish.subject(bone), verdict);
+    const QImage after = picture(fish);
+    QVERIFY(before != after);
+    const QRectF text =
+        fish.spear(bone)->textItem()->sceneBoundingRect().translated(-rect.topLeft());
+    for (int y = 0; y < after.height(); ++y) {
+        for (int x = 0; x < after.width(); ++x) {
+            if (after.pixel(x, y) != before.pixel(x, y))
+                QVERIFY2(text.adjusted(-2, -2, 2, 2).contains(x, y),
+                         qPrintable(QStringLiteral("%1 %2").arg(x).arg(y)));
+        }
+    }
+}
+
+void TestClassicMarks::shouldMarkEveryLineOfATitle()
+{
+    EditorFixture fish(QStringLiteral("Effect[Man[Training],Machine]"));
+    fish.subject(title)->setTitle(QStringLiteral("One\nTwo"));
+    fish.editor.updateFish(true);
+    fish.editor.expandAll();
+    const TextItem &text =
+        *fish.editor.headSpear()->childSpears().at(0)->childSpears().at(0)->textItem();
+    const QRectF rect = fish.editor.scene()->itemsBoundingRect();
+    const QImage before = picture(fish);
+    SubjectMarks::setVerdict(*fish.subject(QStringLiteral("One\nTwo")), Verdict::Confirmed);
+    const QImage after = picture(fish);
+    const QRect box = text.sceneBoundingRect().translated(-rect.topLeft()).toRect();
+    int changed[2] = {0, 0};
+    for (int y = qMax(box.top(), 0); y < qMin(box.bottom(), after.height()); ++y) {
+        for (int x = qMax(box.left(), 0); x < qMin(box.right(), after.width()); ++x)
+            changed[y < box.center().y() ? 0 : 1] +=
+                after.pixel(x, y) != before.pixel(x, y) ? 1 : 0;
+    }
+    QVERIFY2(changed[0] > 5 && changed[1] > 5,
+             qPrintable(QStringLiteral("%1 %2").arg(changed[0]).arg(changed[1])));
+}
+
+void TestClassicMarks::shouldRepaintWhatIsMarked()
+{
+    EditorFixture fish(QStringLiteral("Effect[Man[Training,Shifts],Machine]"));
+    fish.editor.expandAll();
+    QVERIFY(fish.show());
+    QTest::qWait(20);
+    QSignalSpy changed(fish.editor.scene(), &QGraphicsScene::changed);
+    const QRectF text = fish.spear(title)->textItem()->sceneBoundingRect();
+    const QJsonObject before = EditAttributes::stateOf(*fish.subject(title));
+    QJsonObject after = before;
+    SubjectMarks::setVerdict(after, Verdict::RootCause);
+    QVERIFY(fish.editor.run(
+        std::make_unique<EditAttributes>(&fish.model, fish.index(title), before, after)));
+    QTRY_VERIFY(!changed.isEmpty());
+    QRectF repainted;
+    for (const QVariantList &arguments : qAsConst(changed)) {
+        const auto rects = arguments.at(0).value<QList<QRectF>>();
+        for (const QRectF &rect : rects)
+            repainted |= rect;
+    }
+    QVERIFY(repainted.contains(text.center()));
+}
+
+FISHBONE_TEST(TestClassicMarks)
+#include "tst_classicmarks.moc"
