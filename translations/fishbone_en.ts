@@ -560,6 +560,34 @@ The ending .html, .pdf or .md tells the format; .md has its picture in a file be
         <source>Style:</source>
         <translation>Style:</translation>
     </message>
+    <message>
+        <source>suspected</source>
+        <translation>suspected</translation>
+    </message>
+    <message>
+        <source>being checked</source>
+        <translation>being checked</translation>
+    </message>
+    <message>
+        <source>confirmed</source>
+        <translation>confirmed</translation>
+    </message>
+    <message>
+        <source>ruled out</source>
+        <translation>ruled out</translation>
+    </message>
+    <message>
+        <source>root cause</source>
+        <translation>root cause</translation>
+    </message>
+    <message>
+        <source>Verdict:</source>
+        <translation>Verdict:</translation>
+    </message>
+    <message>
+        <source>Votes:</source>
+        <translation>Votes:</translation>
+    </message>
 </context>
 <context>
     <name>DetailsPanel</name>

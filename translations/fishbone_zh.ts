@@ -557,6 +557,34 @@ The ending .html, .pdf or .md tells the format; .md has its picture in a file be
         <source>Style:</source>
         <translation>样式：</translation>
     </message>
+    <message>
+        <source>suspected</source>
+        <translation>怀疑</translation>
+    </message>
+    <message>
+        <source>being checked</source>
+        <translation>核查中</translation>
+    </message>
+    <message>
+        <source>confirmed</source>
+        <translation>已确认</translation>
+    </message>
+    <message>
+        <source>ruled out</source>
+        <translation>已排除</translation>
+    </message>
+    <message>
+        <source>root cause</source>
+        <translation>根本原因</translation>
+    </message>
+    <message>
+        <source>Verdict:</source>
+        <translation>结论：</translation>
+    </message>
+    <message>
+        <source>Votes:</source>
+        <translation>票数：</translation>
+    </message>
 </context>
 <context>
     <name>DetailsPanel</name>
@@ -2138,11 +2166,11 @@ Do you want to save your changes?</source>
     </message>
     <message>
         <source>Being &amp;checked</source>
-        <translation>正在核实(&amp;C)</translation>
+        <translation>核查中(&amp;C)</translation>
     </message>
     <message>
         <source>Con&amp;firmed</source>
-        <translation>已证实(&amp;F)</translation>
+        <translation>已确认(&amp;F)</translation>
     </message>
     <message>
         <source>&amp;Ruled out</source>

@@ -8,6 +8,7 @@
 
 #include <fishbone/items/taskstatusinfo.h>
 #include <fishbone/model/subjectattribute.h>
+#include <fishbone/model/subjectmarks.h>
 #include <fishbone/model/treeitem.h>
 
 #include <QCheckBox>
@@ -85,6 +86,8 @@ DetailsForm::DetailsForm(QWidget *parent)
     , m_number(new QLineEdit(this))
     , m_detail(new QPlainTextEdit(this))
     , m_status(new QComboBox(this))
+    , m_verdict(new QComboBox(this))
+    , m_votes(new QSpinBox(this))
     , m_progress(new QSpinBox(this))
     , m_statusIcon(new QLabel(this))
     , m_numbers(boxesOfNumbers(this))
@@ -111,6 +114,8 @@ void DetailsForm::nameFields()
     m_number->setObjectName(QStringLiteral("detailsNumber"));
     m_detail->setObjectName(QStringLiteral("detailsText"));
     m_status->setObjectName(QStringLiteral("detailsStatus"));
+    m_verdict->setObjectName(QStringLiteral("detailsVerdict"));
+    m_votes->setObjectName(QStringLiteral("detailsVotes"));
     m_progress->setObjectName(QStringLiteral("detailsProgress"));
     m_statusIcon->setObjectName(QStringLiteral("detailsStatusIcon"));
     m_managerName->setObjectName(QStringLiteral("detailsManager"));
@@ -130,6 +135,11 @@ void DetailsForm::showTexts()
                                tr("under way"), tr("waiting"),       tr("waiting for approval")};
     for (int row = 0; row < statuses.size(); ++row)
         m_status->setItemText(row, statuses.at(row));
+    const QStringList verdicts{tr("none"),      tr("suspected"), tr("being checked"),
+                               tr("confirmed"), tr("ruled out"), tr("root cause")};
+    for (int row = 0; row < verdicts.size(); ++row)
+        m_verdict->setItemText(row, verdicts.at(row));
+    m_verdict->setMinimumWidth(m_verdict->sizeHint().width());
     m_status->setMinimumWidth(m_status->sizeHint().width()); // of its own it keeps the first one
     m_openLink->setText(tr("Open"));
     m_style->setText(tr("Edit style…"));
@@ -141,7 +151,8 @@ void DetailsForm::showTexts()
     m_followers->setNames(tr("Followers"), tr("New follower"));
     m_facts->setAccessibleName(tr("Origin"));
     const QString several = tr("several");
-    m_status->setPlaceholderText(several);
+    for (QComboBox *field : {m_status, m_verdict})
+        field->setPlaceholderText(several);
     for (QLineEdit *field : {m_number, m_managerName, m_managerId, m_link})
         field->setPlaceholderText(isMixed(field) ? several : QString());
     m_detail->setPlaceholderText(isMixed(m_detail) ? several : QString());
@@ -158,7 +169,14 @@ void DetailsForm::setUpFields()
         const TaskStatusInfo info{TaskStatus(status), 0};
         m_status->addItem(QIcon(info.iconPath()), QString(), status);
     }
-    m_status->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    for (int verdict = int(Verdict::None); verdict <= int(Verdict::RootCause); ++verdict)
+        m_verdict->addItem(QString(), verdict);
+    for (QComboBox *field : {m_status, m_verdict})
+        field->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    // One below what can be means that they differ.
+    m_votes->setRange(-1, std::numeric_limits<int>::max());
+    m_votes->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    m_votes->setMinimumWidth(80);
     allowAnyNumber(*m_progress);
     m_progress->setSuffix(QStringLiteral(" %"));
     m_progress->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
@@ -188,6 +206,8 @@ void DetailsForm::addRows(QFormLayout &rows)
     rows.setRowWrapPolicy(QFormLayout::WrapLongRows);
     add([] { return tr("Title:"); }, m_title);
     add([] { return tr("Number:"); }, m_number);
+    add([] { return tr("Verdict:"); }, m_verdict);
+    add([] { return tr("Votes:"); }, m_votes);
     add([] { return tr("Status:"); }, m_status);
     add([] { return tr("Progress:"); }, beside(m_progress, m_statusIcon));
     for (std::size_t i = 0; i < std::size(numberFields); ++i)
@@ -204,7 +224,7 @@ void DetailsForm::addRows(QFormLayout &rows)
 
 QVector<QSpinBox *> DetailsForm::allNumbers() const
 {
-    return m_numbers + QVector<QSpinBox *>{m_progress};
+    return m_numbers + QVector<QSpinBox *>{m_progress, m_votes};
 }
 
 void DetailsForm::watchFields()
@@ -230,6 +250,9 @@ void DetailsForm::watchFields()
     connect(m_progress, valueChanged, this, watch(m_progress, "progress"));
     connect(m_status, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
             watch(m_status, "status"));
+    connect(m_verdict, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
+            watch(m_verdict, "verdict"));
+    connect(m_votes, valueChanged, this, watch(m_votes, "votes"));
     connect(m_detail, &QPlainTextEdit::textChanged, this, watch(m_detail, "detail"));
     connect(m_followers, &StringListEditor::changed, this, watch(m_followers, "followers"));
     connect(m_plannedEnd, &QDateEdit::dateChanged, this, watch(m_plannedEnd, "planenddate"));
@@ -258,8 +281,10 @@ QSet<QString> DetailsForm::touched() const
     QSet<QString> keys = m_touched;
     if (m_hasPlannedEnd->checkState() == Qt::PartiallyChecked)
         keys.remove(QStringLiteral("planenddate"));
-    if (m_status->currentIndex() < 0)
-        keys.remove(QStringLiteral("status"));
+    for (const QComboBox *field : {m_status, m_verdict}) {
+        if (field->currentIndex() < 0)
+            keys.remove(m_keys.value(field));
+    }
     return keys;
 }
 
@@ -307,12 +332,13 @@ void DetailsForm::fill(const TreeItem &subject, const QSet<QString> &mixed, int 
     setText(m_managerId, subject.managerId());
     setText(m_link, subject.url());
     m_detail->setPlainText(isMixed(m_detail) ? QString() : subject.detail());
-    m_status->setCurrentIndex(isMixed(m_status) ? -1
-                                                : qMax(0, m_status->findData(subject.status())));
+    choose(m_status, subject.status());
+    choose(m_verdict, int(SubjectMarks::verdict(subject)));
     const auto setNumber = [this](QSpinBox *field, int value) {
         field->setValue(isMixed(field) ? field->minimum() : value);
     };
     setNumber(m_progress, subject.progress());
+    setNumber(m_votes, SubjectMarks::votes(subject));
     for (std::size_t i = 0; i < std::size(numberFields); ++i)
         setNumber(m_numbers.at(int(i)), numberFields[i].attribute().get(subject).toInt());
     m_followers->setTexts(isMixed(m_followers) ? QStringList() : subject.followers());
@@ -326,6 +352,12 @@ void DetailsForm::fill(const TreeItem &subject, const QSet<QString> &mixed, int 
     showStatusIcon();
     m_openLink->setEnabled(!link().isEmpty());
     m_touched.clear();
+}
+
+/** Shows @p value, or that it is not the same everywhere. */
+void DetailsForm::choose(QComboBox *field, int value) const
+{
+    field->setCurrentIndex(isMixed(field) ? -1 : qMax(0, field->findData(value)));
 }
 
 void DetailsForm::fillPlannedEnd(qint64 date)
@@ -360,6 +392,11 @@ void DetailsForm::store(TreeItem &target) const
     target.setDetail(m_detail->toPlainText());
     if (m_status->currentIndex() >= 0)
         target.setStatus(m_status->currentData().toInt());
+    if (m_verdict->currentIndex() >= 0 &&
+        int(SubjectMarks::verdict(target)) != m_verdict->currentData().toInt())
+        SubjectMarks::setVerdict(target, Verdict(m_verdict->currentData().toInt()));
+    if (SubjectMarks::votes(target) != m_votes->value())
+        SubjectMarks::setVotes(target, m_votes->value());
     target.setProgress(m_progress->value());
     for (std::size_t i = 0; i < std::size(numberFields); ++i)
         numberFields[i].attribute().set(target, m_numbers.at(int(i))->value());

@@ -69,6 +69,7 @@ private:
     bool isMixed(const QWidget *field) const;
     void noteChange(const QWidget *field);
     void fillPlannedEnd(qint64 date);
+    void choose(QComboBox *field, int value) const;
     qint64 plannedEnd(qint64 before) const;
     void showStatusIcon();
 
@@ -80,6 +81,8 @@ private:
     QLineEdit *m_number;
     QPlainTextEdit *m_detail;
     QComboBox *m_status;
+    QComboBox *m_verdict;
+    QSpinBox *m_votes;
     QSpinBox *m_progress;
     QLabel *m_statusIcon;
     QVector<QSpinBox *> m_numbers; ///< in the order of their list

@@ -6,6 +6,7 @@
 #include <tests/support/modaldriver.h>
 
 #include <fishbone/items/taskstatusinfo.h>
+#include <fishbone/model/subjectmarks.h>
 #include <fishbone/style/spearstyle.h>
 #include <fishbone/style/spearstyledialog.h>
 #include <fishbone/undo/editattributes.h>
@@ -45,6 +46,7 @@ private Q_SLOTS:
     void shouldTakeWhatTheFirstOneHasAlready();
     void shouldTakeADateForAll();
     void shouldEmptyAMixedField();
+    void shouldChangeVerdictsAndVotes();
     void shouldRevert();
     void shouldApplyWhenOthersAreSelected();
     void shouldGiveAllTheStyle();
@@ -86,6 +88,8 @@ void TestDetailsPanelSeveral::init()
     people().setManagerName(QStringLiteral("Ada"));
     machines().setManagerName(QStringLiteral("Bo"));
     people().setPlanEndDate(dateOf(1));
+    SubjectMarks::setVerdict(people(), Verdict::Confirmed);
+    SubjectMarks::setVotes(machines(), 3);
     people().setDetail(QStringLiteral("the same"));
     machines().setDetail(QStringLiteral("the same"));
     machines().setUrl(QStringLiteral("https://example.org"));
@@ -104,6 +108,8 @@ void TestDetailsPanelSeveral::shouldShowWhatIsTheSameAndWhatIsNot()
     QCOMPARE(field<QComboBox>("detailsStatus").currentIndex(), -1);
     QCOMPARE(field<QComboBox>("detailsStatus").placeholderText(), QStringLiteral("several"));
     QCOMPARE(field<QSpinBox>("detailsProgress").text(), QStringLiteral("several"));
+    QCOMPARE(field<QSpinBox>("detailsVotes").text(), QStringLiteral("several"));
+    QCOMPARE(field<QComboBox>("detailsVerdict").currentIndex(), -1);
     QCOMPARE(field<QLineEdit>("detailsManager").text(), QString());
     QCOMPARE(field<QLineEdit>("detailsManager").placeholderText(), QStringLiteral("several"));
     QCOMPARE(field<QLineEdit>("detailsLink").placeholderText(), QStringLiteral("several"));
@@ -154,6 +160,10 @@ void TestDetailsPanelSeveral::shouldLeaveAloneWhatIsNotTouched()
     QCOMPARE(machines().status(), int(tsFinish));
     QCOMPARE(people().progress(), 10);
     QCOMPARE(machines().progress(), 90);
+    QCOMPARE(SubjectMarks::verdict(people()), Verdict::Confirmed);
+    QCOMPARE(SubjectMarks::verdict(machines()), Verdict::None);
+    QCOMPARE(SubjectMarks::votes(people()), 0);
+    QCOMPARE(SubjectMarks::votes(machines()), 3);
     QCOMPARE(people().planEndDate(), dateOf(1));
     QCOMPARE(machines().planEndDate(), qint64(0));
     QCOMPARE(machines().url(), QStringLiteral("https://example.org"));
@@ -192,6 +202,25 @@ void TestDetailsPanelSeveral::shouldEmptyAMixedField()
     QTest::keyClick(&link, Qt::Key_Backspace);
     apply();
     QCOMPARE(machines().url(), QString());
+}
+
+void TestDetailsPanelSeveral::shouldChangeVerdictsAndVotes()
+{
+    auto &verdict = field<QComboBox>("detailsVerdict");
+    verdict.setCurrentIndex(verdict.findText(QStringLiteral("root cause")));
+    field<QSpinBox>("detailsVotes").setValue(0); // as the first one has
+    apply();
+    for (const TreeItem *subject : {&people(), &machines()}) {
+        QCOMPARE(SubjectMarks::verdict(*subject), Verdict::RootCause);
+        QCOMPARE(SubjectMarks::votes(*subject), 0);
+        QVERIFY(!subject->otherFields().contains(QStringLiteral("votes")));
+    }
+    m_app->select("Machines");
+    QCOMPARE(verdict.currentText(), QStringLiteral("root cause"));
+    verdict.setCurrentIndex(0);
+    apply();
+    QCOMPARE(SubjectMarks::verdict(machines()), Verdict::None);
+    QVERIFY(machines().otherFields().isEmpty());
 }
 
 void TestDetailsPanelSeveral::shouldRevert()
