@@ -2903,6 +2903,13 @@ Do you want to save your changes?</translation>
     </message>
 </context>
 <context>
+    <name>PriorityBox</name>
+    <message>
+        <source>none</source>
+        <translation>none</translation>
+    </message>
+</context>
+<context>
     <name>QObject</name>
     <message>
         <source>新建子任务</source>

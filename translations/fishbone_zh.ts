@@ -2893,6 +2893,13 @@ Do you want to save your changes?</source>
     </message>
 </context>
 <context>
+    <name>PriorityBox</name>
+    <message>
+        <source>none</source>
+        <translation>无</translation>
+    </message>
+</context>
+<context>
     <name>QObject</name>
     <message>
         <source>新建子任务</source>

@@ -4,6 +4,7 @@
 #include <app/panels/detailsform.h>
 
 #include <app/common/language.h>
+#include <app/panels/prioritybox.h>
 #include <app/panels/stringlisteditor.h>
 
 #include <fishbone/items/taskstatusinfo.h>
@@ -62,7 +63,7 @@ QVector<QSpinBox *> boxesOfNumbers(QWidget *form)
 {
     QVector<QSpinBox *> boxes;
     for (const NumberField &field : numberFields) {
-        auto *const box = new QSpinBox(form);
+        auto *const box = new PriorityBox(form);
         box->setObjectName(QLatin1String(field.name));
         allowAnyNumber(*box);
         boxes.append(box);

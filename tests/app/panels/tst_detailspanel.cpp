@@ -91,6 +91,7 @@ private Q_SLOTS:
     void shouldShowTheSelectedSubject();
     void shouldShowEveryAttributeThatDetailsHave_data();
     void shouldShowEveryAttributeThatDetailsHave();
+    void shouldShowNoPriorityAsAWord();
     void shouldShowNothingWithoutASelection();
     void shouldApplyWhatIsEntered();
     void shouldRevertWhatIsEntered();
@@ -173,6 +174,24 @@ void TestDetailsPanel::shouldShowEveryAttributeThatDetailsHave()
     panel->showSubject(index);
 
     QVERIFY(allThatIsShown(*panel) != before);
+}
+
+void TestDetailsPanel::shouldShowNoPriorityAsAWord()
+{
+    AppFixture app;
+    app.select("Machines");
+    auto *const priority = app.widget<QSpinBox>("detailsPriority");
+    QCOMPARE(priority->text(), QStringLiteral("none"));
+    priority->setFocus();
+    priority->selectAll();
+    QTest::keyClicks(priority, QStringLiteral("3"));
+    apply(app);
+    QCOMPARE(app.subject("Machines")->priority(), 3);
+    QCOMPARE(priority->text(), QStringLiteral("3"));
+    priority->selectAll();
+    QTest::keyClicks(priority, QStringLiteral("none"));
+    apply(app);
+    QCOMPARE(app.subject("Machines")->priority(), -1);
 }
 
 void TestDetailsPanel::shouldShowNothingWithoutASelection()
