@@ -114,8 +114,7 @@ bool CanvasGestures::eventFilter(QObject *watched, QEvent *event)
         if (!isOnSelection(pos))
             return QObject::eventFilter(watched, event);
         // Without the view, which selects the one under the mouse alone.
-        Q_EMIT m_editor->view()->rightClicked(
-            m_session->model()->getTreeItem(subjectAt(pos))->spear());
+        m_editor->onRightClicked(m_session->model()->getTreeItem(subjectAt(pos))->spear());
         return true;
     }
     if (event->type() == QEvent::MouseButtonPress) {
