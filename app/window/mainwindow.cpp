@@ -263,8 +263,9 @@ void MainWindow::connectGestures(DocumentTab *tab)
 {
     FishEditor *const editor = tab->editor();
     offerActionsInBoneMenu(*editor, *m_actions, m_marks->menu());
-    new MouseDrags(editor, [this] { m_actions->action(QStringLiteral("markHere"))->trigger(); },
-                   tab); // which owns it
+    new MouseDrags(
+        editor, [this] { m_actions->action(QStringLiteral("markHere"))->trigger(); },
+        tab); // which owns it
     auto *const typing = new TypedTitle(editor, tab);
     connect(typing, &TypedTitle::typed, this, [this, editor](const QString &text) {
         m_edits->rename(editor->firstSelectedSpearIndex(), text);
