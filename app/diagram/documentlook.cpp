@@ -6,12 +6,11 @@
 #include <app/common/busycursor.h>
 #include <app/common/canvastheme.h>
 #include <app/diagram/diagramsession.h>
-#include <app/diagram/subjectedit.h>
 
 #include <fishbone/editor/fisheditor.h>
 #include <fishbone/editor/graphicsview.h>
 #include <fishbone/model/fishmodel.h>
-#include <fishbone/model/treeitem.h>
+#include <fishbone/undo/editattributes.h>
 
 DocumentLook::DocumentLook(DiagramSession *session, CanvasTheme *theme, QObject *parent)
     : QObject(parent)
@@ -38,11 +37,12 @@ void DocumentLook::choose(const DiagramView &view, const UndoCommand::Name &name
     view.becomeUsual();
     QJsonObject fields = document->view();
     view.store(fields);
-    SubjectEdit::apply(*m_session, m_session->headOf(document), name, [&fields](TreeItem &head) {
-        QJsonObject others = head.otherFields();
-        others.insert(QStringLiteral("view"), fields);
-        head.setOtherFields(others);
-    });
+    auto command = std::make_unique<EditAttributes>(m_session->model());
+    if (!command->addView(*document, fields))
+        return;
+    command->setText(name);
+    m_session->editor()->run(std::move(command));
+    m_session->touch();
 }
 
 void DocumentLook::follow()

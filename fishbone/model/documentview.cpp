@@ -13,14 +13,17 @@ QJsonObject DocumentView::of(const TreeItem *head)
     return head ? head->otherFields().value(JsonNodes::viewKey).toObject() : QJsonObject();
 }
 
-void DocumentView::set(TreeItem &head, const QJsonObject &view)
+bool DocumentView::set(TreeItem *head, const QJsonObject &view)
 {
-    QJsonObject fields = head.otherFields();
+    if (!head)
+        return false;
+    QJsonObject fields = head->otherFields();
     if (view.isEmpty())
         fields.remove(JsonNodes::viewKey);
     else
         fields.insert(JsonNodes::viewKey, view);
-    head.setOtherFields(fields);
+    head->setOtherFields(fields);
+    return true;
 }
 
 void DocumentView::handOn(TreeItem &from, TreeItem &to)

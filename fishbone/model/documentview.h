@@ -11,8 +11,8 @@ namespace DocumentView {
 
 /** That of the document of @p head, which may be null. */
 QJsonObject of(const TreeItem *head);
-/** Replaces it; nothing is kept of an empty one. */
-void set(TreeItem &head, const QJsonObject &view);
+/** Replaces it; nothing is kept of an empty one. False when @p head is null. */
+bool set(TreeItem *head, const QJsonObject &view);
 /** Moves it from the former head to the new one, if there is any. */
 void handOn(TreeItem &from, TreeItem &to);
 

@@ -146,13 +146,9 @@ private:
     friend class FishModel;    // announces what changes the whole tree
     struct Private;
 
-    void tellLater();
-    void tellChanges();
     void rebuild(const std::function<void()> &change);
     void clearTree();
     void buildTree(const QJsonObject &root);
-    bool write(const QString &fileName, const QString &origin);
-    QString newAutoSaveFile() const;
 
     const std::unique_ptr<Private> m_d;
 };

@@ -5,6 +5,9 @@
 
 #include <fishbone/model/fishinfo.h>
 
+#include <fishbone/model/documentsaving.h>
+#include <fishbone/model/documentstate.h>
+#include <fishbone/model/recentsubjects.h>
 #include <fishbone/model/treeitem.h>
 
 #include <QPointer>
@@ -18,8 +21,8 @@ struct FISHBONE_NO_EXPORT FishInfo::Private
 
     explicit Private(FishInfo *info, const QString &name)
         : document(info)
-        , file(name)
-        , toldFile(name)
+        , state(name)
+        , saving(*info)
     {
         makeContainer();
     }
@@ -43,15 +46,10 @@ struct FISHBONE_NO_EXPORT FishInfo::Private
     int nodeCount = 0;
     int noParentNodeCount = 0;
 
-    QString file;
+    DocumentState state;
+    DocumentSaving saving;
     QString autoSaveFile;
-    QString saveError;
-    bool isUntitled = true;
-    bool isModified = false;
-    QString toldFile;             ///< as the signals have told it
-    bool wasToldModified = false; ///< likewise
-    bool willTell = false;
-    QStringList historys;
+    RecentSubjects history;
 
     QPointer<QAbstractItemModel> model;
     FishModel *owner = nullptr; ///< the model that lists the document; kept by its DocumentList

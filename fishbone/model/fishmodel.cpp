@@ -8,19 +8,12 @@
 #include <fishbone/model/jsonnodes.h>
 #include <fishbone/model/treeitem.h>
 
-#include <QBrush>
-#include <QIcon>
 #include <QSet>
 #include <QVector>
 
 #include <algorithm>
-#include <array>
 
 namespace {
-
-const std::array<QLatin1String, 5> headers = {QLatin1String("title"), QLatin1String("uuid"),
-                                              QLatin1String("showid"), QLatin1String("pid"),
-                                              QLatin1String("type")};
 
 /** Every model there is. */
 QVector<FishModel *> &livingModels()
@@ -78,15 +71,13 @@ int FishModel::rowCount(const QModelIndex &parent) const
 int FishModel::columnCount(const QModelIndex &parent) const
 {
     Q_UNUSED(parent)
-    return int(headers.size());
+    return Presentation::columns;
 }
 
 QVariant FishModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
-    if (orientation != Qt::Horizontal || role != Qt::DisplayRole || section < 0 ||
-        section >= int(headers.size()))
-        return QVariant();
-    return QString(headers[std::size_t(section)]);
+    const bool isTitle = orientation == Qt::Horizontal && role == Qt::DisplayRole;
+    return isTitle ? Presentation::header(section) : QVariant();
 }
 
 Qt::ItemFlags FishModel::flags(const QModelIndex &index) const
@@ -96,39 +87,7 @@ Qt::ItemFlags FishModel::flags(const QModelIndex &index) const
 
 QVariant FishModel::data(const QModelIndex &index, int role) const
 {
-    const TreeItem *const item = getTreeItem(index);
-    if (!item)
-        return QVariant();
-    const bool isHeadTitle = index.column() == 0 && item->isTopVaildItem();
-    switch (role) {
-    case Qt::DisplayRole:
-        if (isHeadTitle && m_d->type == FISH_MODEL_NORMAL)
-            return headText(item);
-        return item->data(index.column());
-    case Qt::DecorationRole:
-        if (!item->isHaveParentTask())
-            return QVariant();
-        if (m_d->noParentIcon.isNull()) // until the host's picture is there
-            m_d->noParentIcon = QIcon(QStringLiteral(":/fishboneDiagram/noparent.png"));
-        return m_d->noParentIcon;
-    case Qt::ToolTipRole:
-        return isHeadTitle ? QVariant() : item->toolTipString();
-    case Qt::ForegroundRole:
-        return item->spearItemIsMovable() ? QVariant() : QBrush(Qt::red);
-    default:
-        return QVariant();
-    }
-}
-
-/** A head's title with the counts, which are the first document's whichever head is asked about. */
-QString FishModel::headText(const TreeItem *head) const
-{
-    const FishInfo *const first = fishList().value(0, nullptr);
-    if (!first)
-        return head->title(); // asked about a document that has left the model
-    return head->title() + QLatin1Char('(') + QString::number(first->noParentNodeCount()) +
-           tr("个无父任务/共") + QString::number(first->nodeCount()) + tr("个任务") +
-           QLatin1Char(')');
+    return m_d->presentation.data(index, role);
 }
 
 bool FishModel::setData(const QModelIndex &index, const QVariant &value, int role)
@@ -143,17 +102,10 @@ bool FishModel::setData(const QModelIndex &index, const QVariant &value, int rol
 void FishModel::updateItem(const QModelIndex &index, TreeItem *source)
 {
     TreeItem *const item = getTreeItem(index);
-    if (!item || !source)
-        return;
-    item->setTitle(source->title());
-    item->setDetail(source->detail());
-    item->setManagerName(source->managerName());
-    item->setManagerId(source->managerId());
-    item->setFollowers(source->followers());
-    item->setPlanEndDate(source->planEndDate());
-    item->setPriority(source->priority());
-    item->setEditModified(true);
-    m_d->changes.noteSilentChange(fishOf(item));
+    if (item && source) {
+        Rows::copyAttributes(*source, *item);
+        m_d->changes.noteSilentChange(fishOf(item));
+    }
 }
 
 void FishModel::announceChange(const QModelIndex &index)
@@ -199,11 +151,7 @@ FishInfo *FishModel::fishOf(const TreeItem *item) const
 
 QModelIndex FishModel::findFish(const QString &fileName) const
 {
-    for (int row = 0; row < m_d->documents.count(); ++row) {
-        if (m_d->documents.at(row)->fileName() == fileName)
-            return index(row, 0);
-    }
-    return QModelIndex();
+    return m_d->lookup.documentNamed(fileName);
 }
 
 TreeItem *FishModel::getTreeItem(const QModelIndex &index) const
@@ -424,12 +372,12 @@ FishInfo *FishModel::fishOfTold(const QModelIndex &index) const
 
 FISH_MODEL_TYPE FishModel::modelType() const
 {
-    return m_d->type;
+    return m_d->presentation.type();
 }
 
 void FishModel::setModelType(FISH_MODEL_TYPE type)
 {
-    m_d->type = type;
+    m_d->presentation.setType(type);
 }
 
 FishInfo *FishModel::loadJsonFish(const QByteArray &json)

@@ -348,6 +348,7 @@ private:
     class Lookup;
     class Moves;
     class Part;
+    class Presentation;
     class Rows;
     struct Private;
 
@@ -357,7 +358,6 @@ private:
     int containerRow(const TreeItem *container) const;
     int rowOf(const TreeItem *item) const;
     QModelIndex rowIndex(const TreeItem *item) const;
-    QString headText(const TreeItem *head) const;
 
     const std::unique_ptr<Private> m_d;
 };

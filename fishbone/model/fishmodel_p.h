@@ -13,9 +13,8 @@
 #include <fishbone/model/fishmodelloading.h>
 #include <fishbone/model/fishmodellookup.h>
 #include <fishbone/model/fishmodelmoves.h>
+#include <fishbone/model/fishmodelpresentation.h>
 #include <fishbone/model/fishmodelrows.h>
-
-#include <QIcon>
 
 /** The state of a model, and the parts that carry out its operations. */
 struct FISHBONE_NO_EXPORT FishModel::Private
@@ -31,6 +30,7 @@ struct FISHBONE_NO_EXPORT FishModel::Private
         , heads(model)
         , loading(model)
         , lookup(model)
+        , presentation(model)
     {
     }
 
@@ -43,6 +43,5 @@ struct FISHBONE_NO_EXPORT FishModel::Private
     Heads heads;
     Loading loading;
     Lookup lookup;
-    FISH_MODEL_TYPE type = FISH_MODEL_NORMAL;
-    mutable QIcon noParentIcon;
+    Presentation presentation;
 };

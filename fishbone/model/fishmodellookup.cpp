@@ -4,6 +4,7 @@
 #include <fishbone/model/fishmodellookup.h>
 
 #include <fishbone/model/documentlist.h>
+#include <fishbone/model/fishinfo.h>
 #include <fishbone/model/subjectwalk.h>
 
 #include <QSet>
@@ -17,6 +18,15 @@ bool FishModel::Lookup::contains(const TreeItem *item) const
             return true;
     }
     return false;
+}
+
+QModelIndex FishModel::Lookup::documentNamed(const QString &fileName) const
+{
+    for (int row = 0; row < documents().count(); ++row) {
+        if (documents().at(row)->fileName() == fileName)
+            return m_model.index(row, 0);
+    }
+    return QModelIndex();
 }
 
 QModelIndex FishModel::Lookup::withUuid(const QString &uuid) const

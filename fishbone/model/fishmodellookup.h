@@ -17,6 +17,7 @@ public:
     }
 
     bool contains(const TreeItem *item) const;
+    QModelIndex documentNamed(const QString &fileName) const;
     QModelIndex withUuid(const QString &uuid) const;
     QModelIndexList withTitle(const QString &key) const;
     QModelIndexList ofRecords(const QVector<Record> &records) const;

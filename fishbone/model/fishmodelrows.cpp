@@ -177,3 +177,15 @@ void FishModel::Rows::graft(const QJsonObject &root, TreeItem *parent, int posit
         parent->appendChild(node.release(), row);
     }
 }
+
+void FishModel::Rows::copyAttributes(const TreeItem &source, TreeItem &target)
+{
+    target.setTitle(source.title());
+    target.setDetail(source.detail());
+    target.setManagerName(source.managerName());
+    target.setManagerId(source.managerId());
+    target.setFollowers(source.followers());
+    target.setPlanEndDate(source.planEndDate());
+    target.setPriority(source.priority());
+    target.setEditModified(true);
+}

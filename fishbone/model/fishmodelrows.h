@@ -22,6 +22,9 @@ public:
     /** Inserts the subtree of a node object, as FishModel::read() says. */
     void graft(const QJsonObject &root, TreeItem *parent, int position);
 
+    /** Gives @p target what FishModel::updateItem() copies of @p source. */
+    static void copyAttributes(const TreeItem &source, TreeItem &target);
+
 private:
     bool insertPending(int row, TreeItem *node, const QList<TreeItem *> &pending);
     static bool canEnterInTurn(const QList<TreeItem *> &items, const TreeItem *node);

@@ -5,6 +5,7 @@
 
 #include <fishbone/items/spearitem.h>
 #include <fishbone/items/textitem.h>
+#include <fishbone/model/documentview.h>
 #include <fishbone/model/fishmodel.h>
 #include <fishbone/model/jsonnodes.h>
 #include <fishbone/model/subjectattribute.h>
@@ -167,6 +168,17 @@ bool EditAttributes::add(const QModelIndex &index, const QJsonObject &before,
         return false;
     m_d->edits.push_back({keyFromIndex(index), std::move(changed), changedOthers, before, after});
     return true;
+}
+
+bool EditAttributes::addView(const FishInfo &document, const QJsonObject &view)
+{
+    TreeItem *const head = document.treeItem()->childAtIndex(0);
+    if (!m_d->model || !head)
+        return false;
+    const QJsonObject before = stateOf(*head);
+    TreeItem draft(before);
+    DocumentView::set(&draft, view);
+    return add(m_d->model->indexFromItem(head), before, stateOf(draft));
 }
 
 int EditAttributes::count() const

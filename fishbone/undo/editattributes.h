@@ -10,6 +10,7 @@
 
 #include <memory>
 
+class FishInfo;
 class FishModel;
 class QModelIndex;
 class TreeItem;
@@ -57,6 +58,11 @@ public:
      * of the model and when the states do not differ. To be called before redo().
      */
     bool add(const QModelIndex &index, const QJsonObject &before, const QJsonObject &after);
+    /**
+     * Will replace FishInfo::view() of @p document by @p view, so that it comes and goes with the
+     * history as attributes do. False as add() is, for a document without a head, too.
+     */
+    bool addView(const FishInfo &document, const QJsonObject &view);
     /** The number of subjects that change. */
     int count() const;
 

@@ -34,7 +34,7 @@ void TestDocumentView::shouldStandWithTheFieldsOfTheHead()
 {
     TreeItem head;
     head.setOtherFields(fields(R"({"votes": 3})"));
-    DocumentView::set(head, fields(R"({"look": "clear"})"));
+    QVERIFY(DocumentView::set(&head, fields(R"({"look": "clear"})")));
     QCOMPARE(DocumentView::of(&head), fields(R"({"look": "clear"})"));
     QCOMPARE(head.otherFields(), fields(R"({"votes": 3, "view": {"look": "clear"}})"));
 }
@@ -43,13 +43,14 @@ void TestDocumentView::shouldLeaveNothingOfAnEmptyOne()
 {
     TreeItem head;
     head.setOtherFields(fields(R"({"votes": 3, "view": {"look": "clear"}})"));
-    DocumentView::set(head, {});
+    DocumentView::set(&head, {});
     QCOMPARE(head.otherFields(), fields(R"({"votes": 3})"));
 }
 
 void TestDocumentView::shouldBeEmptyWithoutAHead()
 {
     QCOMPARE(DocumentView::of(nullptr), QJsonObject());
+    QVERIFY(!DocumentView::set(nullptr, fields(R"({"look": "clear"})")));
 }
 
 void TestDocumentView::shouldGoToANewHead()
