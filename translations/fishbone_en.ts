@@ -1954,10 +1954,6 @@ Do you want to save your changes?</translation>
 <context>
     <name>LookChoice</name>
     <message>
-        <source>Draw in the &lt;look&gt; clear, which is the default and has all texts level, or classic.</source>
-        <translation>Draw in the &lt;look&gt; clear, which is the default and has all texts level, or classic.</translation>
-    </message>
-    <message>
         <source>Arrange the drawing for &lt;page&gt;: 16:9, A4, A3, Letter, or a size such as 1920x1080 or 297x210mm. A PDF has a page of that size.</source>
         <translation>Arrange the drawing for &lt;page&gt;: 16:9, A4, A3, Letter, or a size such as 1920x1080 or 297x210mm. A PDF has a page of that size.</translation>
     </message>
@@ -1982,10 +1978,6 @@ Do you want to save your changes?</translation>
         <translation>--%1 takes %2, not &quot;%3&quot;</translation>
     </message>
     <message>
-        <source>clear or classic</source>
-        <translation>clear or classic</translation>
-    </message>
-    <message>
         <source>--%1 needs the clear look</source>
         <translation>--%1 needs the clear look</translation>
     </message>
@@ -2001,20 +1993,20 @@ Do you want to save your changes?</translation>
         <source>16:9, A4, A3, Letter or a size such as 1920x1080 or 297x210mm</source>
         <translation>16:9, A4, A3, Letter or a size such as 1920x1080 or 297x210mm</translation>
     </message>
+    <message>
+        <source>%1 or %2</source>
+        <translation>%1 or %2</translation>
+    </message>
+    <message>
+        <source>Draw in the &lt;look&gt; %1; the first one is the default.</source>
+        <translation>Draw in the &lt;look&gt; %1; the first one is the default.</translation>
+    </message>
 </context>
 <context>
     <name>LookCommands</name>
     <message>
         <source>Loo&amp;k</source>
         <translation>Loo&amp;k</translation>
-    </message>
-    <message>
-        <source>&amp;Clear</source>
-        <translation>&amp;Clear</translation>
-    </message>
-    <message>
-        <source>Cl&amp;assic</source>
-        <translation>Cl&amp;assic</translation>
     </message>
     <message>
         <source>&amp;Screen</source>
@@ -2075,6 +2067,17 @@ Do you want to save your changes?</translation>
     <message>
         <source>Look: %1</source>
         <translation>Look: %1</translation>
+    </message>
+</context>
+<context>
+    <name>LookInfo</name>
+    <message>
+        <source>&amp;Clear</source>
+        <translation>&amp;Clear</translation>
+    </message>
+    <message>
+        <source>Cl&amp;assic</source>
+        <translation>Cl&amp;assic</translation>
     </message>
 </context>
 <context>
@@ -2742,14 +2745,6 @@ Do you want to save your changes?</translation>
         <translation>Le&amp;gend</translation>
     </message>
     <message>
-        <source>Clear</source>
-        <translation>Clear</translation>
-    </message>
-    <message>
-        <source>Classic</source>
-        <translation>Classic</translation>
-    </message>
-    <message>
         <source>Loo&amp;k:</source>
         <translation>Loo&amp;k:</translation>
     </message>
@@ -2872,14 +2867,6 @@ Do you want to save your changes?</translation>
     <message>
         <source>Look</source>
         <translation>Look</translation>
-    </message>
-    <message>
-        <source>Clear</source>
-        <translation>Clear</translation>
-    </message>
-    <message>
-        <source>Classic</source>
-        <translation>Classic</translation>
     </message>
     <message>
         <source>Palette</source>

@@ -1947,10 +1947,6 @@ Do you want to save your changes?</source>
 <context>
     <name>LookChoice</name>
     <message>
-        <source>Draw in the &lt;look&gt; clear, which is the default and has all texts level, or classic.</source>
-        <translation>以 &lt;look&gt; 绘制：clear（默认，所有文字水平）或 classic。</translation>
-    </message>
-    <message>
         <source>Arrange the drawing for &lt;page&gt;: 16:9, A4, A3, Letter, or a size such as 1920x1080 or 297x210mm. A PDF has a page of that size.</source>
         <translation>按 &lt;page&gt; 排列：16:9、A4、A3、Letter，或如 1920x1080、297x210mm 的尺寸。PDF 的页面即为该尺寸。</translation>
     </message>
@@ -1975,10 +1971,6 @@ Do you want to save your changes?</source>
         <translation>--%1 需要%2，而不是“%3”</translation>
     </message>
     <message>
-        <source>clear or classic</source>
-        <translation>clear 或 classic</translation>
-    </message>
-    <message>
         <source>--%1 needs the clear look</source>
         <translation>--%1 需要清晰外观</translation>
     </message>
@@ -1994,20 +1986,20 @@ Do you want to save your changes?</source>
         <source>16:9, A4, A3, Letter or a size such as 1920x1080 or 297x210mm</source>
         <translation>16:9、A4、A3、Letter，或如 1920x1080、297x210mm 的尺寸</translation>
     </message>
+    <message>
+        <source>%1 or %2</source>
+        <translation>%1 或 %2</translation>
+    </message>
+    <message>
+        <source>Draw in the &lt;look&gt; %1; the first one is the default.</source>
+        <translation>以外观 &lt;look&gt; 绘制：%1；默认为第一个。</translation>
+    </message>
 </context>
 <context>
     <name>LookCommands</name>
     <message>
         <source>Loo&amp;k</source>
         <translation>外观(&amp;K)</translation>
-    </message>
-    <message>
-        <source>&amp;Clear</source>
-        <translation>清晰(&amp;C)</translation>
-    </message>
-    <message>
-        <source>Cl&amp;assic</source>
-        <translation>经典(&amp;A)</translation>
     </message>
     <message>
         <source>&amp;Screen</source>
@@ -2068,6 +2060,17 @@ Do you want to save your changes?</source>
     <message>
         <source>Look: %1</source>
         <translation>外观：%1</translation>
+    </message>
+</context>
+<context>
+    <name>LookInfo</name>
+    <message>
+        <source>&amp;Clear</source>
+        <translation>清晰(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Cl&amp;assic</source>
+        <translation>经典(&amp;A)</translation>
     </message>
 </context>
 <context>
@@ -2734,14 +2737,6 @@ Do you want to save your changes?</source>
         <translation>图例(&amp;G)</translation>
     </message>
     <message>
-        <source>Clear</source>
-        <translation>清晰</translation>
-    </message>
-    <message>
-        <source>Classic</source>
-        <translation>经典</translation>
-    </message>
-    <message>
         <source>Loo&amp;k:</source>
         <translation>外观(&amp;K)：</translation>
     </message>
@@ -2862,14 +2857,6 @@ Do you want to save your changes?</source>
     <message>
         <source>Look</source>
         <translation>外观</translation>
-    </message>
-    <message>
-        <source>Clear</source>
-        <translation>清晰</translation>
-    </message>
-    <message>
-        <source>Classic</source>
-        <translation>经典</translation>
     </message>
     <message>
         <source>Palette</source>

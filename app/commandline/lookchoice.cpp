@@ -3,7 +3,7 @@
 
 #include <app/commandline/lookchoice.h>
 
-#include <app/diagram/looklist.h>
+#include <fishbone/drawing/lookinfo.h>
 
 #include <QCommandLineParser>
 #include <QHash>
@@ -28,13 +28,22 @@ bool choose(const QHash<QString, Value> &names, const QString &text, Value &valu
     return true;
 }
 
+/** "one, two or three": the names of all looks. */
+QString lookNames()
+{
+    QStringList names;
+    for (const LookInfo &look : LookInfo::all())
+        names.append(look.name());
+    const QString last = names.takeLast();
+    return LookChoice::tr("%1 or %2").arg(names.join(QStringLiteral(", ")), last);
+}
+
 } // namespace
 
 QList<QCommandLineOption> LookChoice::commandLineOptions()
 {
     return {
-        {lookName,
-         tr("Draw in the <look> clear, which is the default and has all texts level, or classic."),
+        {lookName, tr("Draw in the <look> %1; the first one is the default.").arg(lookNames()),
          QStringLiteral("look")},
         {pageName,
          tr("Arrange the drawing for <page>: 16:9, A4, A3, Letter, or a size such as 1920x1080 or "
@@ -55,10 +64,10 @@ QString LookChoice::read(const QCommandLineParser &parser)
         return tr("--%1 takes %2, not \"%3\"").arg(name, what, parser.value(name));
     };
     if (parser.isSet(lookName)) {
-        const LookList::Entry *const look = LookList::find(parser.value(lookName).toLower());
+        const LookInfo *const look = LookInfo::find(parser.value(lookName).toLower());
         if (!look)
-            return wrong(lookName, tr("clear or classic"));
-        view.look = look->kind;
+            return wrong(lookName, lookNames());
+        view.look = look->kind();
     }
     for (const QString &name : {pageName, legendName, noLegendName, paletteName, headName}) {
         if (view.look != DiagramLook::Clear && parser.isSet(name))

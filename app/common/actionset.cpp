@@ -45,9 +45,14 @@ QString ActionSet::toolTip(const QAction &action)
 
 QString ActionSet::plainText(const QAction &action)
 {
+    return plainText(action.text());
+}
+
+QString ActionSet::plainText(const QString &text)
+{
     // In Chinese the mnemonic is a letter of its own, in brackets behind the text.
     static const QRegularExpression mnemonicInBrackets(QStringLiteral("\\(&[A-Z0-9]\\)"));
-    return action.text()
+    return QString(text)
         .remove(mnemonicInBrackets)
         .remove(QLatin1Char('&'))
         .remove(QStringLiteral("…"));

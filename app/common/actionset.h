@@ -48,6 +48,8 @@ public:
 
     /** The text of @p action without the mark of the menu key and without dots behind it. */
     static QString plainText(const QAction &action);
+    /** @p text likewise. */
+    static QString plainText(const QString &text);
 
     /** Makes the shortcuts of the scope @p scope count in @p widget and below it. */
     void addShortcuts(Scope scope, QWidget *widget) const;

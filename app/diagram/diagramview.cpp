@@ -3,7 +3,7 @@
 
 #include <app/diagram/diagramview.h>
 
-#include <app/diagram/looklist.h>
+#include <fishbone/drawing/lookinfo.h>
 
 #include <QJsonDocument>
 #include <QSettings>
@@ -22,10 +22,10 @@ QString usualKey()
 
 DiagramView DiagramView::of(const QJsonObject &fields, const DiagramView &usual)
 {
-    const LookList::Entry *const look = LookList::find(fields.value(lookKey).toString());
+    const LookInfo *const look = LookInfo::find(fields.value(lookKey).toString());
     if (!look)
         return usual;
-    return {look->kind, fields.value(pageKey).toString(), DiagramLook::Options::fromJson(fields)};
+    return {look->kind(), fields.value(pageKey).toString(), DiagramLook::Options::fromJson(fields)};
 }
 
 void DiagramView::store(QJsonObject &fields) const
@@ -33,7 +33,7 @@ void DiagramView::store(QJsonObject &fields) const
     const QJsonObject chosen = options.toJson();
     for (auto field = chosen.begin(); field != chosen.end(); ++field)
         fields.insert(field.key(), field.value());
-    fields.insert(lookKey, LookList::nameOf(look));
+    fields.insert(lookKey, LookInfo::of(look).name());
     if (page.isEmpty())
         fields.remove(pageKey);
     else

@@ -3,8 +3,9 @@
 
 #include <app/export/picturelookfields.h>
 
-#include <app/diagram/looklist.h>
+#include <app/common/actionset.h>
 #include <app/diagram/pagesize.h>
+#include <fishbone/drawing/lookinfo.h>
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -47,8 +48,8 @@ PictureLookFields::PictureLookFields(QFormLayout *layout, const DiagramView &sho
     , m_head(lookBox("head", parent))
     , m_legend(new QCheckBox(tr("Le&gend"), parent))
 {
-    for (const LookList::Entry &look : LookList::all())
-        m_look->addItem(tr(look.title), int(look.kind));
+    for (const LookInfo &look : LookInfo::all())
+        m_look->addItem(ActionSet::plainText(look.title()), int(look.kind()));
     chooseData(m_look, int(shown.look));
     layout->addRow(tr("Loo&k:"), m_look);
     addPages(layout);

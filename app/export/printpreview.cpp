@@ -3,12 +3,14 @@
 
 #include <app/export/printpreview.h>
 
+#include <app/common/actionset.h>
 #include <app/common/busycursor.h>
 #include <app/common/canvastheme.h>
 #include <app/common/updatesheld.h>
 #include <app/common/workprogress.h>
 #include <app/export/picturesource.h>
 
+#include <fishbone/drawing/lookinfo.h>
 #include <fishbone/editor/fishscene.h>
 
 #include <QAction>
@@ -121,8 +123,8 @@ QToolBar *PrintPreview::makeBar()
     bar->addWidget(m_pages);
     bar->addSeparator();
     m_look = addBox(bar, "look", tr("Look"));
-    m_look->addItem(tr("Clear"), int(DiagramLook::Clear));
-    m_look->addItem(tr("Classic"), int(DiagramLook::Classic));
+    for (const LookInfo &look : LookInfo::all())
+        m_look->addItem(ActionSet::plainText(look.title()), int(look.kind()));
     m_palette = addBox(bar, "palette", tr("Palette"));
     m_palette->addItem(tr("Colours"), int(DiagramLook::DistinctColors));
     m_palette->addItem(tr("Grey"), int(DiagramLook::GrayColors));

@@ -7,9 +7,9 @@
 #include <app/common/busycursor.h>
 #include <app/diagram/diagramsession.h>
 #include <app/diagram/documentlook.h>
-#include <app/diagram/looklist.h>
 #include <app/diagram/pagesize.h>
 
+#include <fishbone/drawing/lookinfo.h>
 #include <fishbone/editor/fisheditor.h>
 #include <fishbone/exchange/diagrampicture.h>
 #include <fishbone/model/fishmodel.h>
@@ -60,11 +60,13 @@ QAction *LookCommands::add(QMenu *menu, const char *name, const Language::Text &
 void LookCommands::addLooks()
 {
     QMenu *const menu = addMenu("look", QT_TR_NOOP("Loo&k"));
-    for (const LookList::Entry &look : LookList::all()) {
+    for (const LookInfo &look : LookInfo::all()) {
+        QByteArray name = look.name().data();
+        name[0] = char(name.at(0) - 'a' + 'A');
         m_looks.append(add(
-            menu, look.action, [text = look.menuText] { return tr(text); },
-            [kind = look.kind](DiagramView &view) { view.look = kind; },
-            [kind = look.kind](const DiagramView &view) { return view.look == kind; }));
+            menu, ("look" + name).constData(), [&look] { return look.title(); },
+            [kind = look.kind()](DiagramView &view) { view.look = kind; },
+            [kind = look.kind()](const DiagramView &view) { return view.look == kind; }));
     }
     menu->addSeparator();
     addPalettes(menu);

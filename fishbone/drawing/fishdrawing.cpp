@@ -7,8 +7,7 @@
 
 #include <QGraphicsScene>
 
-#include <fishbone/drawing/classiclook.h>
-#include <fishbone/drawing/clearlook.h>
+#include <fishbone/drawing/lookinfo.h>
 
 FishDrawing::FishDrawing()
 {
@@ -20,10 +19,7 @@ void FishDrawing::choose(DiagramLook::Kind kind, const DiagramLook::Options &opt
     m_layout.reset();
     m_kind = kind;
     m_options = options;
-    if (kind == DiagramLook::Clear)
-        m_look = std::make_shared<ClearLook>(options);
-    else
-        m_look = std::static_pointer_cast<const DrawingLook>(SpearLook::standard());
+    m_look = LookInfo::of(kind).m_make(options);
 }
 
 void FishDrawing::update(SpearItem *head)
