@@ -30,7 +30,7 @@ install(FILES ${FISHBONE_COMPILED_TRANSLATIONS}
 
 # A header is public when it exports something, or when such a header needs it; the others serve the sources
 # beside them.
-set(headers_without_exports guardedpointer.h prefetch.h spearpointer.h)
+set(headers_without_exports guardedpointer.h prefetch.h preorder.h spearpointer.h spearwalk.h subjectwalk.h)
 file(GLOB headers CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/fishbone/*/*.h")
 foreach(header IN LISTS headers)
     file(STRINGS "${header}" exports REGEX "FISHBONE_EXPORT")

@@ -3,14 +3,12 @@
 
 #include <app/common/busycursor.h>
 
-#include <fishbone/model/treeitem.h>
+#include <fishbone/model/subjectwalk.h>
 
 #include <QApplication>
 #include <QCursor>
 #include <QMainWindow>
 #include <QStatusBar>
-
-#include <vector>
 
 namespace {
 
@@ -19,17 +17,11 @@ constexpr int manySubjects = 5000; ///< below that a layout takes some tenths of
 /** Whether there is much below @p root; looks at no more than it takes to know. */
 bool isLarge(const TreeItem *root)
 {
-    std::vector<const TreeItem *> waiting;
-    if (root)
-        waiting.push_back(root);
-    for (int count = 0; !waiting.empty(); ++count) {
-        const QList<TreeItem *> &children = waiting.back()->childItems();
-        waiting.pop_back();
-        if (count + int(waiting.size()) + int(children.size()) > manySubjects)
-            return true;
-        waiting.insert(waiting.end(), children.cbegin(), children.cend());
-    }
-    return false;
+    int count = 0;
+    return !visitSubjects(root, [&count](const TreeItem *subject) {
+        count += subject->childCount();
+        return count <= manySubjects;
+    });
 }
 
 /** That of the window that the user works in, or null. */

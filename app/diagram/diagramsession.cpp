@@ -13,6 +13,7 @@
 #include <fishbone/items/spearitem.h>
 #include <fishbone/model/fishinfo.h>
 #include <fishbone/model/fishmodel.h>
+#include <fishbone/model/subjectwalk.h>
 #include <fishbone/model/systemhelper.h>
 #include <fishbone/undo/commandgroup.h>
 #include <fishbone/undo/editattributes.h>
@@ -183,16 +184,13 @@ void DiagramSession::showAsDiagram(const QModelIndex &index)
 /** The first subject of @p document with that uuid. */
 QModelIndex DiagramSession::indexInDocument(const FishInfo *document, const QString &uuid) const
 {
-    QList<const TreeItem *> waiting{document->treeItem()};
-    while (!waiting.isEmpty()) {
-        const TreeItem *const item = waiting.takeLast();
+    QModelIndex found;
+    visitSubjects(document->treeItem(), [&](const TreeItem *item) {
         if (item->uuid() == uuid)
-            return m_model->indexFromItem(item);
-        const QList<TreeItem *> &children = item->childItems();
-        for (auto child = children.crbegin(); child != children.crend(); ++child)
-            waiting.append(*child);
-    }
-    return {};
+            found = m_model->indexFromItem(item);
+        return !found.isValid();
+    });
+    return found;
 }
 
 QModelIndexList DiagramSession::visited() const

@@ -9,6 +9,7 @@
 #include <fishbone/editor/fishscene.h>
 #include <fishbone/editor/graphicsview.h>
 #include <fishbone/items/spearitem.h>
+#include <fishbone/items/spearwalk.h>
 #include <fishbone/items/textitem.h>
 #include <fishbone/model/treeitem.h>
 
@@ -36,16 +37,13 @@ DrawingState DrawingState::capture(const FishEditor &editor)
         return state;
     const QWidget *const viewport = editor.view()->viewport();
     state.m_center = editor.view()->mapToScene(viewport->rect().center());
-    QList<SpearItem *> waiting{head};
-    while (!waiting.isEmpty()) {
-        const SpearItem *const spear = waiting.takeLast();
+    visitSpears(head, [&](const SpearItem *spear) {
         if (spear->isSelected() || spear->textItem()->isSelected())
             state.m_selected.add(*spear);
-        const QList<SpearItem *> children = spear->childSpears();
-        if (spear != head && spear->isExpand() && !children.isEmpty())
+        if (spear != head && spear->isExpand() && !spear->childSpears().isEmpty())
             state.m_expanded.add(*spear);
-        waiting += children;
-    }
+        return true;
+    });
     return state;
 }
 
@@ -54,15 +52,13 @@ void DrawingState::restore(FishEditor &editor) const
     if (!editor.headSpear())
         return;
     QList<SpearItem *> selected;
-    QList<SpearItem *> waiting{editor.headSpear()};
-    while (!waiting.isEmpty()) {
-        SpearItem *const spear = waiting.takeLast();
+    visitSpears(editor.headSpear(), [&](SpearItem *spear) {
         if (m_selected.contain(*spear))
             selected.append(spear);
         if (spear != editor.headSpear() && m_expanded.contain(*spear))
             Expansion::setExpanded(editor, *spear, true);
-        waiting += spear->childSpears();
-    }
+        return true;
+    });
     editor.updateFish(false);
     editor.selectSpears(selected);
     editor.view()->centerOn(m_center);

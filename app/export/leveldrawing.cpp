@@ -5,6 +5,7 @@
 
 #include <app/diagram/expansion.h>
 
+#include <fishbone/base/preorder.h>
 #include <fishbone/editor/fishscene.h>
 #include <fishbone/items/expanditem.h>
 #include <fishbone/items/spearitem.h>
@@ -34,15 +35,18 @@ void LevelDrawing::expand(int levels)
 void LevelDrawing::expand(const QSet<const TreeItem *> &subjects)
 {
     m_editor.expandorContractAll(false);
-    QList<SpearItem *> waiting =
-        m_editor.headSpear() ? m_editor.headSpear()->childSpears() : QList<SpearItem *>();
-    while (!waiting.isEmpty()) {
-        SpearItem *const spear = waiting.takeLast();
-        if (!subjects.contains(spear->treeItem()))
-            continue;
-        Expansion::setExpanded(m_editor, *spear, true);
-        waiting += spear->childSpears();
-    }
+    SpearItem *const head = m_editor.headSpear();
+    const auto isWanted = [&](const SpearItem &spear) {
+        return &spear == head || subjects.contains(spear.treeItem());
+    };
+    const auto childrenOf = [&](const SpearItem &spear) {
+        return isWanted(spear) ? spear.childSpears() : QList<SpearItem *>();
+    };
+    visitPreOrder(head, childrenOf, [&](SpearItem *spear) {
+        if (spear != head && isWanted(*spear))
+            Expansion::setExpanded(m_editor, *spear, true);
+        return true;
+    });
     update();
 }
 

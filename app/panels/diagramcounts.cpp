@@ -8,9 +8,7 @@
 
 #include <fishbone/editor/fisheditor.h>
 #include <fishbone/model/fishinfo.h>
-#include <fishbone/model/treeitem.h>
-
-#include <vector>
+#include <fishbone/model/subjectwalk.h>
 
 namespace {
 
@@ -18,13 +16,10 @@ namespace {
 int subjectsBelow(const TreeItem &root)
 {
     int count = 0;
-    std::vector<const TreeItem *> waiting{&root};
-    while (!waiting.empty()) {
-        const QList<TreeItem *> &children = waiting.back()->childItems();
-        waiting.pop_back();
-        count += int(children.size());
-        waiting.insert(waiting.end(), children.cbegin(), children.cend());
-    }
+    visitSubjects(&root, [&count](const TreeItem *subject) {
+        count += subject->childCount();
+        return true;
+    });
     return count;
 }
 

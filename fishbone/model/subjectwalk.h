@@ -6,9 +6,9 @@
 #include <fishbone/base/preorder.h>
 #include <fishbone/model/treeitem.h>
 
-/** visitPreOrder() of subjects. */
-template <typename Visitor>
-bool visitSubjects(TreeItem *top, Visitor visit)
+/** visitPreOrder() of subjects, const or not. */
+template <typename Subject, typename Visitor>
+bool visitSubjects(Subject *top, Visitor visit)
 {
     const auto childrenOf = [](const TreeItem &subject) -> const QList<TreeItem *> & {
         return subject.childItems();
