@@ -81,32 +81,50 @@ QPolygonF sampleLine(const QSizeF &area)
 
 } // namespace
 
+/** The state of a dialog; it owns the widgets as their parent. */
+struct FISHBONE_NO_EXPORT PenSelect::Private
+{
+    Private(const QPen &edited, PenSelect *dialog)
+        : pen(edited)
+        , width(new QLineEdit(dialog))
+        , style(new QComboBox(dialog))
+        , capStyle(new QComboBox(dialog))
+        , joinStyle(new QComboBox(dialog))
+        , preview(new QLabel(dialog))
+    {
+    }
+
+    QPen pen;
+    QLineEdit *const width;
+    QComboBox *const style;
+    QComboBox *const capStyle;
+    QComboBox *const joinStyle;
+    QLabel *const preview;
+};
+
 PenSelect::PenSelect(const QPen &pen, QWidget *parent)
     : QDialog(parent)
-    , m_pen(pen)
-    , m_width(new QLineEdit(this))
-    , m_style(new QComboBox(this))
-    , m_capStyle(new QComboBox(this))
-    , m_joinStyle(new QComboBox(this))
-    , m_preview(new QLabel(this))
+    , m_d(std::make_unique<Private>(pen, this))
 {
     setModal(true);
-    m_width->setText(QStringLiteral("%1").arg(m_pen.widthF()));
-    m_width->setValidator(
-        new QRegularExpressionValidator(QRegularExpression(QStringLiteral("^[1-5]{1}$")), m_width));
-    m_width->selectAll();
-    connect(m_width, &QLineEdit::textChanged, this, &PenSelect::widthChanged);
+    m_d->width->setText(QStringLiteral("%1").arg(m_d->pen.widthF()));
+    m_d->width->setValidator(new QRegularExpressionValidator(
+        QRegularExpression(QStringLiteral("^[1-5]{1}$")), m_d->width));
+    m_d->width->selectAll();
+    connect(m_d->width, &QLineEdit::textChanged, this, &PenSelect::widthChanged);
 
-    fill(m_style, styles, m_pen.style());
-    fill(m_capStyle, capStyles, m_pen.capStyle());
-    fill(m_joinStyle, joinStyles, m_pen.joinStyle());
-    connectValue(m_style, this, &PenSelect::styleChanged);
-    connectValue(m_capStyle, this, &PenSelect::capStyleChanged);
-    connectValue(m_joinStyle, this, &PenSelect::joinStyleChanged);
+    fill(m_d->style, styles, m_d->pen.style());
+    fill(m_d->capStyle, capStyles, m_d->pen.capStyle());
+    fill(m_d->joinStyle, joinStyles, m_d->pen.joinStyle());
+    connectValue(m_d->style, this, &PenSelect::styleChanged);
+    connectValue(m_d->capStyle, this, &PenSelect::capStyleChanged);
+    connectValue(m_d->joinStyle, this, &PenSelect::joinStyleChanged);
 
     buildLayout();
     updatePreview();
 }
+
+PenSelect::~PenSelect() = default;
 
 void PenSelect::buildLayout()
 {
@@ -118,15 +136,15 @@ void PenSelect::buildLayout()
 
     auto *const form = new QFormLayout;
     layout->addLayout(form);
-    addNamedRow<PenSelect>(form, QT_TR_NOOP("PenWidth"), m_width);
-    addNamedRow<PenSelect>(form, QT_TR_NOOP("PenStyle"), m_style);
-    addNamedRow<PenSelect>(form, QT_TR_NOOP("PenCapStyle"), m_capStyle);
-    addNamedRow<PenSelect>(form, QT_TR_NOOP("PenJoinStyle"), m_joinStyle);
+    addNamedRow<PenSelect>(form, QT_TR_NOOP("PenWidth"), m_d->width);
+    addNamedRow<PenSelect>(form, QT_TR_NOOP("PenStyle"), m_d->style);
+    addNamedRow<PenSelect>(form, QT_TR_NOOP("PenCapStyle"), m_d->capStyle);
+    addNamedRow<PenSelect>(form, QT_TR_NOOP("PenJoinStyle"), m_d->joinStyle);
     addNamedRow<PenSelect>(form, QT_TR_NOOP("PenColor"), color);
 
-    m_preview->setAlignment(Qt::AlignCenter);
-    m_preview->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
-    layout->addWidget(m_preview);
+    m_d->preview->setAlignment(Qt::AlignCenter);
+    m_d->preview->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
+    layout->addWidget(m_d->preview);
 
     auto *const buttons = new QDialogButtonBox(this);
     QPushButton *const accept = buttons->addButton(QString(), QDialogButtonBox::AcceptRole);
@@ -145,7 +163,7 @@ void PenSelect::buildLayout()
 
 QPen PenSelect::selectedPen() const
 {
-    return m_pen;
+    return m_d->pen;
 }
 
 void PenSelect::widthChanged(const QString &text)
@@ -154,35 +172,35 @@ void PenSelect::widthChanged(const QString &text)
     const int width = text.toInt(&ok);
     if (!ok)
         return;
-    m_pen.setWidth(width);
+    m_d->pen.setWidth(width);
     updatePreview();
 }
 
 void PenSelect::styleChanged(int style)
 {
     const bool known = style >= Qt::NoPen && style <= Qt::CustomDashLine;
-    m_pen.setStyle(known ? static_cast<Qt::PenStyle>(style) : Qt::NoPen);
+    m_d->pen.setStyle(known ? static_cast<Qt::PenStyle>(style) : Qt::NoPen);
     updatePreview();
 }
 
 void PenSelect::capStyleChanged(int style)
 {
-    const bool known = m_capStyle->findData(style) >= 0;
-    m_pen.setCapStyle(known ? static_cast<Qt::PenCapStyle>(style) : Qt::FlatCap);
+    const bool known = m_d->capStyle->findData(style) >= 0;
+    m_d->pen.setCapStyle(known ? static_cast<Qt::PenCapStyle>(style) : Qt::FlatCap);
     updatePreview();
 }
 
 void PenSelect::joinStyleChanged(int style)
 {
-    const bool known = style == Qt::SvgMiterJoin || m_joinStyle->findData(style) >= 0;
-    m_pen.setJoinStyle(known ? static_cast<Qt::PenJoinStyle>(style) : Qt::MiterJoin);
+    const bool known = style == Qt::SvgMiterJoin || m_d->joinStyle->findData(style) >= 0;
+    m_d->pen.setJoinStyle(known ? static_cast<Qt::PenJoinStyle>(style) : Qt::MiterJoin);
     updatePreview();
 }
 
 void PenSelect::openColor()
 {
-    if (const std::optional<QColor> color = chooseColor(m_pen.color(), this)) {
-        m_pen.setColor(*color);
+    if (const std::optional<QColor> color = chooseColor(m_d->pen.color(), this)) {
+        m_d->pen.setColor(*color);
         updatePreview();
     }
 }
@@ -193,8 +211,8 @@ void PenSelect::updatePreview()
     QPixmap pixmap = previewPixmap(size, devicePixelRatioF());
     QPainter painter(&pixmap);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(m_pen);
+    painter.setPen(m_d->pen);
     painter.drawPolyline(sampleLine(size));
     painter.end();
-    m_preview->setPixmap(pixmap);
+    m_d->preview->setPixmap(pixmap);
 }

@@ -8,9 +8,7 @@
 #include <QDialog>
 #include <QPen>
 
-class QComboBox;
-class QLabel;
-class QLineEdit;
+#include <memory>
 
 /**
  * A modal dialog that edits one pen: width, line style, cap style, join style and colour, with a
@@ -27,6 +25,7 @@ class FISHBONE_EXPORT PenSelect : public QDialog
 public:
     /** Makes a dialog that starts on \a pen. */
     explicit PenSelect(const QPen &pen, QWidget *parent = nullptr);
+    ~PenSelect() override;
 
     /** The pen as edited so far. */
     QPen selectedPen() const;
@@ -53,12 +52,9 @@ public Q_SLOTS:
     void updatePreview();
 
 private:
+    struct Private;
+
     void buildLayout();
 
-    QPen m_pen;
-    QLineEdit *m_width;
-    QComboBox *m_style;
-    QComboBox *m_capStyle;
-    QComboBox *m_joinStyle;
-    QLabel *m_preview;
+    const std::unique_ptr<Private> m_d;
 };

@@ -18,6 +18,7 @@
 #include <QFormLayout>
 #include <QGridLayout>
 #include <QGroupBox>
+#include <QJsonObject>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPainter>
@@ -48,58 +49,77 @@ QFont resolved(QFont font)
 
 } // namespace
 
+/** The state of a dialog; it owns the widgets as their parent. */
+struct FISHBONE_NO_EXPORT SpearStyleDialog::Private
+{
+    Private(SpearStyle &edited, SpearStyleDialog *dialog)
+        : style(edited)
+        , textCount(new QLineEdit(dialog))
+        , inheritanceParent(new QCheckBox(dialog))
+        , state(new QComboBox(dialog))
+        , previewText(new QLineEdit(dialog))
+        , preview(new QLabel(dialog))
+    {
+    }
+
+    SpearStyle &style;
+    QJsonObject snapshot; ///< the values when the dialog was made
+    QLineEdit *const textCount;
+    QCheckBox *const inheritanceParent;
+    QComboBox *const state;
+    QLineEdit *const previewText;
+    QLabel *const preview;
+};
+
 SpearStyleDialog::SpearStyleDialog(SpearStyle &style, bool modal, QWidget *parent)
     : QDialog(parent)
-    , m_style(style)
-    , m_textCount(new QLineEdit(this))
-    , m_inheritanceParent(new QCheckBox(this))
-    , m_state(new QComboBox(this))
-    , m_previewText(new QLineEdit(this))
-    , m_preview(new QLabel(this))
+    , m_d(std::make_unique<Private>(style, this))
 {
     setModal(modal);
-    m_style.write(m_snapshot);
+    m_d->style.write(m_d->snapshot);
     buildFields();
     buildLayout();
     updatePreview();
 }
 
+SpearStyleDialog::~SpearStyleDialog() = default;
+
 void SpearStyleDialog::buildFields()
 {
-    m_textCount->setValidator(new QRegularExpressionValidator(
-        QRegularExpression(QStringLiteral("^[0-9]{1,2}$")), m_textCount));
-    m_textCount->setText(QStringLiteral("%1").arg(m_style.textCount()));
-    m_textCount->selectAll();
-    connect(m_textCount, &QLineEdit::textChanged, this, &SpearStyleDialog::textCountChanged);
+    m_d->textCount->setValidator(new QRegularExpressionValidator(
+        QRegularExpression(QStringLiteral("^[0-9]{1,2}$")), m_d->textCount));
+    m_d->textCount->setText(QStringLiteral("%1").arg(m_d->style.textCount()));
+    m_d->textCount->selectAll();
+    connect(m_d->textCount, &QLineEdit::textChanged, this, &SpearStyleDialog::textCountChanged);
 
-    m_inheritanceParent->setChecked(m_style.inheritanceParent());
-    connect(m_inheritanceParent, &QCheckBox::toggled, this,
+    m_d->inheritanceParent->setChecked(m_d->style.inheritanceParent());
+    connect(m_d->inheritanceParent, &QCheckBox::toggled, this,
             &SpearStyleDialog::inheritanceParentChanged);
 
-    m_state->setSizeAdjustPolicy(QComboBox::AdjustToContents);
-    m_previewText->setObjectName(QStringLiteral("PreviewText"));
-    connect(m_previewText, &QLineEdit::textChanged, this, &SpearStyleDialog::updatePreview);
+    m_d->state->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    m_d->previewText->setObjectName(QStringLiteral("PreviewText"));
+    connect(m_d->previewText, &QLineEdit::textChanged, this, &SpearStyleDialog::updatePreview);
     followLanguage(this, [this] { showTexts(); });
-    connect(m_state, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
+    connect(m_d->state, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
             &SpearStyleDialog::updatePreview);
 }
 
 void SpearStyleDialog::showTexts()
 {
     setWindowTitle(tr("Spear style"));
-    m_inheritanceParent->setText(tr("InheritanceParent"));
-    m_previewText->setAccessibleName(tr("Preview"));
-    setItemTexts(m_state, {tr("ssNormal"), tr("ssSelected"), tr("ssHovered"), tr("ssLinked")});
-    if (!m_previewText->isModified())
-        m_previewText->setText(tr("Preview 预览测试 ABC xyz"));
+    m_d->inheritanceParent->setText(tr("InheritanceParent"));
+    m_d->previewText->setAccessibleName(tr("Preview"));
+    setItemTexts(m_d->state, {tr("ssNormal"), tr("ssSelected"), tr("ssHovered"), tr("ssLinked")});
+    if (!m_d->previewText->isModified())
+        m_d->previewText->setText(tr("Preview 预览测试 ABC xyz"));
 }
 
 void SpearStyleDialog::buildLayout()
 {
     auto *const form = new QFormLayout;
-    addNamedRow<SpearStyleDialog>(form, QT_TR_NOOP("textCount"), m_textCount);
+    addNamedRow<SpearStyleDialog>(form, QT_TR_NOOP("textCount"), m_d->textCount);
     form->addRow(makeParentGroup());
-    addNamedRow<SpearStyleDialog>(form, QT_TR_NOOP("SpearState"), m_state);
+    addNamedRow<SpearStyleDialog>(form, QT_TR_NOOP("SpearState"), m_d->state);
 
     // The focusable widgets are made in this order as well, which makes it the tab order.
     auto *const layout = new QVBoxLayout(this);
@@ -125,7 +145,7 @@ QGroupBox *SpearStyleDialog::makeParentGroup()
     auto *const group = new QGroupBox(this);
     followLanguage(group, [group] { group->setTitle(tr("Parent")); });
     auto *const layout = new QVBoxLayout(group);
-    layout->addWidget(m_inheritanceParent);
+    layout->addWidget(m_d->inheritanceParent);
     return group;
 }
 
@@ -151,7 +171,7 @@ QGroupBox *SpearStyleDialog::makePreviewGroup()
 
     // Large fonts are scrolled to, so that the dialog keeps its size while one tries them.
     auto *const area = new QScrollArea(group);
-    area->setWidget(m_preview);
+    area->setWidget(m_d->preview);
     area->setWidgetResizable(true);
     area->setBackgroundRole(QPalette::Base);
     area->setMinimumSize(360, 120);
@@ -159,28 +179,28 @@ QGroupBox *SpearStyleDialog::makePreviewGroup()
         group->setTitle(tr("Preview"));
         area->setAccessibleName(group->title());
     });
-    m_preview->setAlignment(Qt::AlignCenter);
+    m_d->preview->setAlignment(Qt::AlignCenter);
 
     auto *const layout = new QVBoxLayout(group);
-    layout->addWidget(m_previewText);
+    layout->addWidget(m_d->previewText);
     layout->addWidget(area, 1);
     return group;
 }
 
 SpearStyle::SpearState SpearStyleDialog::currentState() const
 {
-    return static_cast<SpearStyle::SpearState>(m_state->currentIndex());
+    return static_cast<SpearStyle::SpearState>(m_d->state->currentIndex());
 }
 
 QFont SpearStyleDialog::currentFont() const
 {
-    const QFont *const font = m_style.textFont(currentState());
+    const QFont *const font = m_d->style.textFont(currentState());
     return font ? *font : QFont();
 }
 
 QPen SpearStyleDialog::currentPen() const
 {
-    const QPen *const pen = m_style.broderPen(currentState());
+    const QPen *const pen = m_d->style.broderPen(currentState());
     return pen ? *pen : QPen();
 }
 
@@ -191,14 +211,15 @@ void SpearStyleDialog::openTextFont()
     const std::optional<QFont> font = modalAnswer(dialog, &QFontDialog::selectedFont);
     if (!font || *font == shown)
         return;
-    m_style.setTextFont(currentState(), *font);
+    m_d->style.setTextFont(currentState(), *font);
     updatePreview();
 }
 
 void SpearStyleDialog::openTextColor()
 {
-    if (const std::optional<QColor> color = chooseColor(m_style.textColor(currentState()), this)) {
-        m_style.setTextColor(currentState(), *color);
+    if (const std::optional<QColor> color =
+            chooseColor(m_d->style.textColor(currentState()), this)) {
+        m_d->style.setTextColor(currentState(), *color);
         updatePreview();
     }
 }
@@ -206,8 +227,8 @@ void SpearStyleDialog::openTextColor()
 void SpearStyleDialog::openTextBkColor()
 {
     if (const std::optional<QColor> color =
-            chooseColor(m_style.textBkColor(currentState()), this)) {
-        m_style.setTextBkColor(currentState(), *color);
+            chooseColor(m_d->style.textBkColor(currentState()), this)) {
+        m_d->style.setTextBkColor(currentState(), *color);
         updatePreview();
     }
 }
@@ -216,7 +237,7 @@ void SpearStyleDialog::openBroderPen()
 {
     auto *const dialog = new PenSelect(currentPen(), this);
     if (const std::optional<QPen> pen = modalAnswer(dialog, &PenSelect::selectedPen)) {
-        m_style.setBroderPen(currentState(), *pen);
+        m_d->style.setBroderPen(currentState(), *pen);
         updatePreview();
     }
 }
@@ -227,27 +248,28 @@ void SpearStyleDialog::textCountChanged(const QString &text)
     const int count = text.toInt(&ok);
     if (!ok)
         return;
-    m_style.setTextCount(count);
+    m_d->style.setTextCount(count);
     updatePreview();
 }
 
 void SpearStyleDialog::inheritanceParentChanged(bool inherit)
 {
-    m_style.setInheritanceParent(inherit);
+    m_d->style.setInheritanceParent(inherit);
     updatePreview();
 }
 
 void SpearStyleDialog::updatePreview()
 {
-    m_preview->setPixmap(drawPreview(shortened(m_previewText->text(), m_style.textCount())));
+    m_d->preview->setPixmap(
+        drawPreview(shortened(m_d->previewText->text(), m_d->style.textCount())));
 }
 
 QPixmap SpearStyleDialog::drawPreview(const QString &text) const
 {
     const QFont font = currentFont();
     const QPen pen = currentPen();
-    const QColor textColor = m_style.textColor(currentState());
-    const QColor background = m_style.textBkColor(currentState());
+    const QColor textColor = m_d->style.textColor(currentState());
+    const QColor background = m_d->style.textBkColor(currentState());
 
     const int padding = 4;
     const int margin = padding;
@@ -269,6 +291,6 @@ QPixmap SpearStyleDialog::drawPreview(const QString &text) const
 
 void SpearStyleDialog::reject()
 {
-    m_style.read(m_snapshot);
+    m_d->style.read(m_d->snapshot);
     QDialog::reject();
 }

@@ -7,14 +7,11 @@
 #include <fishbone/style/spearstyle.h>
 
 #include <QDialog>
-#include <QJsonObject>
 
-class QCheckBox;
-class QComboBox;
+#include <memory>
+
 class QGroupBox;
-class QLabel;
 class QLayout;
-class QLineEdit;
 
 /**
  * A modal dialog that edits a style state by state and shows how a text looks in it.
@@ -34,6 +31,7 @@ public:
 
     /** A pointer would silently become the flag. */
     SpearStyleDialog(SpearStyle &style, QWidget *parent) = delete;
+    ~SpearStyleDialog() override;
 
 public Q_SLOTS:
     /** Lets the user choose the font of the chosen state. */
@@ -62,6 +60,8 @@ public Q_SLOTS:
     void reject() override;
 
 private:
+    struct Private;
+
     SpearStyle::SpearState currentState() const;
     QPen currentPen() const;
     QFont currentFont() const;
@@ -73,11 +73,5 @@ private:
     QLayout *makeSetters();
     QPixmap drawPreview(const QString &text) const;
 
-    SpearStyle &m_style;
-    QJsonObject m_snapshot;
-    QLineEdit *m_textCount;
-    QCheckBox *m_inheritanceParent;
-    QComboBox *m_state;
-    QLineEdit *m_previewText;
-    QLabel *m_preview;
+    const std::unique_ptr<Private> m_d;
 };
