@@ -101,11 +101,6 @@ void SvgItem::hoverEnterEvent(QGraphicsSceneHoverEvent *event)
     setCursor(Qt::ArrowCursor);
 }
 
-void SvgItem::hoverMoveEvent(QGraphicsSceneHoverEvent *event)
-{
-    QGraphicsSvgItem::hoverMoveEvent(event);
-}
-
 void SvgItem::hoverLeaveEvent(QGraphicsSceneHoverEvent *event)
 {
     Q_UNUSED(event)

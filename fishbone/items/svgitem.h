@@ -45,7 +45,6 @@ protected:
     /** The file whose picture is shown. */
     const QString &shownFile() const { return m_file; }
     void hoverEnterEvent(QGraphicsSceneHoverEvent *event) override;
-    void hoverMoveEvent(QGraphicsSceneHoverEvent *event) override;
     void hoverLeaveEvent(QGraphicsSceneHoverEvent *event) override;
 
 private:
