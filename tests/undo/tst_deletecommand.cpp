@@ -45,7 +45,7 @@ private Q_SLOTS:
     void shouldDeleteTheDocumentItStillHolds();
 
     void shouldDoNothingWithoutAModel();
-    void shouldOutliveTheModel();
+    void shouldOutliveTheModelUnderASanitizer();
     void shouldDeleteManySiblingsInReasonableTime();
 };
 
@@ -422,7 +422,7 @@ void TestDeleteCommand::shouldDoNothingWithoutAModel()
     QCOMPARE(f.text(), QStringLiteral("H[A]"));
 }
 
-void TestDeleteCommand::shouldOutliveTheModel()
+void TestDeleteCommand::shouldOutliveTheModelUnderASanitizer()
 {
     for (const char *title : {"A", "H"}) {
         for (int steps = 0; steps < 4; ++steps) {

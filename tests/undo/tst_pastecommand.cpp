@@ -47,7 +47,7 @@ private Q_SLOTS:
     void shouldMakeAllSpearsOfABoneThatWasNeverExpanded();
     void shouldMakeNoSpearsBelowATargetWithout();
 
-    void shouldOutliveTheModel();
+    void shouldOutliveTheModelUnderASanitizer();
     void shouldPasteManySubjectsInReasonableTime();
 };
 
@@ -428,7 +428,7 @@ void TestPasteCommand::shouldMakeNoSpearsBelowATargetWithout()
     QVERIFY(!f.node("b")->childAtIndex(0)->spear());
 }
 
-void TestPasteCommand::shouldOutliveTheModel()
+void TestPasteCommand::shouldOutliveTheModelUnderASanitizer()
 {
     for (int steps = 0; steps < 4; ++steps) {
         auto model = std::make_unique<FishModel>();

@@ -4,6 +4,7 @@
 #include <tests/app/appfixture.h>
 #include <tests/app/dialoganswers.h>
 
+#include <tests/app/documents/documenttabsparts.h>
 #include <tests/program/testprogram.h>
 #include <tests/support/modaldriver.h>
 
@@ -18,49 +19,9 @@
 #include <QTabBar>
 #include <QTabWidget>
 
-using DialogAnswers::enter;
+using namespace TestSupport;
+
 using DialogAnswers::press;
-using TestSupport::ModalDriver;
-
-namespace {
-
-/// The fixture with a second document "Other" with the bone "Bone", whose tab is shown.
-class TabsFixture : public AppFixture
-{
-public:
-    TabsFixture()
-    {
-        writeFile(otherPath(), R"({"title": "Other", "uuid": "{o}", "children": [
-            {"title": "Bone", "uuid": "{p}", "children": [{"title": "Marrow", "uuid": "{q}"}]}]})");
-        window.open({otherPath()});
-        settle();
-    }
-
-    QString otherPath() const { return path(QStringLiteral("other & more.json")); }
-    QTabWidget *tabWidget() const { return window.findChild<QTabWidget *>(QStringLiteral("tabs")); }
-    QTabBar *bar() const { return tabWidget()->tabBar(); }
-
-    void click(int tab, Qt::MouseButton button)
-    {
-        QTest::mouseClick(bar(), button, {}, bar()->tabRect(tab).center());
-        settle();
-    }
-
-    /// The entry of the context menu of a tab, once that is open.
-    QAction *menuEntry(int tab, const QString &text) const
-    {
-        Q_EMIT bar()->customContextMenuRequested(bar()->tabRect(tab).center());
-        const auto *const menu = window.findChild<QMenu *>(QStringLiteral("tabMenu"));
-        const QList<QAction *> actions = menu ? menu->actions() : QList<QAction *>();
-        for (QAction *action : actions) {
-            if (QString(action->text()).remove(QLatin1Char('&')) == text)
-                return action;
-        }
-        return nullptr;
-    }
-};
-
-} // namespace
 
 class TestDocumentTabs : public QObject
 {
@@ -89,11 +50,6 @@ private Q_SLOTS:
     void shouldOpenARecentFileFromThePage();
     void shouldPasteWithAllAttributesInAnotherTab();
     void shouldGiveADiagramThatComesInATabOfItsOwn();
-    void shouldSaveACopy();
-    void shouldRevert_data();
-    void shouldRevert();
-    void shouldLeaveTheDocumentWhenItsFileCannotBeReverted_data();
-    void shouldLeaveTheDocumentWhenItsFileCannotBeReverted();
 };
 
 void TestDocumentTabs::initTestCase()
@@ -428,75 +384,6 @@ void TestDocumentTabs::shouldGiveADiagramThatComesInATabOfItsOwn()
         app.trigger("undo"); // there is nothing left to take back here
     QCOMPARE(app.text(), QStringLiteral("Other[Bone[Marrow]]"));
     QCOMPARE(app.tabCount(), 4);
-}
-
-void TestDocumentTabs::shouldSaveACopy()
-{
-    TabsFixture app;
-    app.select("Marrow");
-    app.trigger("delete");
-    const QByteArray before = AppFixture::contentOf(app.otherPath());
-    const QString copy = app.path(QStringLiteral("copy.json"));
-    const ModalDriver<QFileDialog> driver(enter(copy));
-    app.trigger("saveCopy");
-    QVERIFY(driver.isDone());
-    QVERIFY(AppFixture::contentOf(copy).contains("Bone"));
-    QVERIFY(!AppFixture::contentOf(copy).contains("Marrow"));
-    QCOMPARE(AppFixture::contentOf(app.otherPath()), before);
-    QVERIFY(app.window.isWindowModified());
-    QCOMPARE(app.window.tabs()->current()->name(), QStringLiteral("other & more.json"));
-}
-
-void TestDocumentTabs::shouldRevert_data()
-{
-    QTest::addColumn<int>("answer");
-    QTest::addColumn<bool>("reverted");
-
-    QTest::newRow("yes") << int(QMessageBox::Yes) << true;
-    QTest::newRow("no") << int(QMessageBox::No) << false;
-}
-
-void TestDocumentTabs::shouldRevert()
-{
-    QFETCH(int, answer);
-    QFETCH(bool, reverted);
-    TabsFixture app;
-    app.showTab(0);
-    app.select("Illness");
-    app.window.editor()->renameItem(app.find("Machines"), QStringLiteral("Tools"));
-    AppFixture::settle();
-    const ModalDriver<QMessageBox> driver(press(QMessageBox::StandardButton(answer)));
-    app.trigger("revert");
-    QVERIFY(driver.isDone());
-    QCOMPARE(app.tabCount(), 2);
-    QCOMPARE(app.bar()->currentIndex(), 0);
-    QCOMPARE(app.find("Machines").isValid(), reverted);
-    QCOMPARE(app.window.isWindowModified(), !reverted);
-    QCOMPARE(app.action("undo")->isEnabled(), !reverted);
-    // What was expanded and selected is so still.
-    QCOMPARE(app.selectedInDrawing(), QStringList(QStringLiteral("Illness")));
-    QVERIFY(app.subject("Illness")->spear()->isVisible());
-    QVERIFY(!app.subject("Material")->spear()->isExpand());
-    QVERIFY(app.window.tree()->isVisible());
-}
-
-void TestDocumentTabs::shouldLeaveTheDocumentWhenItsFileCannotBeReverted_data()
-{
-    QTest::addColumn<QByteArray>("content");
-
-    QTest::newRow("no document") << QByteArray("{");
-    QTest::newRow("no diagram") << QByteArray("{}");
-}
-
-void TestDocumentTabs::shouldLeaveTheDocumentWhenItsFileCannotBeReverted()
-{
-    QFETCH(QByteArray, content);
-    TabsFixture app;
-    AppFixture::writeFile(app.otherPath(), content);
-    app.trigger("revert"); // not modified: there is nothing to ask
-    QCOMPARE(app.text(), QStringLiteral("Other[Bone[Marrow]]"));
-    QVERIFY(app.window.statusBar()->currentMessage().contains(app.otherPath()));
-    app.window.findChild<QMessageBox *>()->close();
 }
 
 FISHBONE_TEST(TestDocumentTabs)

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 
 #include <tests/app/appfixture.h>
+
+#include <app/common/actionset.h>
 #include <tests/program/testprogram.h>
 
 #include <QMenuBar>
@@ -127,31 +129,10 @@ void TestMainWindow::shouldOfferEveryActionInAMenu()
         for (const QAction *action : actions)
             offered.insert(action->objectName());
     }
-    for (const char *name : {"new",         "newExample",   "newFromTemplate",
-                             "open",        "url",          "recover",
-                             "save",        "saveAs",       "saveAll",
-                             "export",      "exportAs",     "import",
-                             "print",       "close",        "quit",
-                             "undo",        "redo",         "cut",
-                             "copy",        "paste",        "delete",
-                             "selectAll",   "find",         "child",
-                             "before",      "after",        "parent",
-                             "subTask",     "free",         "rename",
-                             "details",     "link",         "openLink",
-                             "unlink",      "style",        "removeStyle",
-                             "zoomin",      "zoomout",      "fullsize",
-                             "fit",         "fitselection", "rotateLeft",
-                             "rotateRight", "rotateReset",  "expand",
-                             "contract",    "expandall",    "contractall",
-                             "asDiagram",   "back",         "whole",
-                             "diagramMode", "taskMode",     "canvasStyle",
-                             "reopen",      "moveUp",       "moveDown",
-                             "promote",     "demote",       "goLeft",
-                             "goRight",     "goUp",         "goDown",
-                             "goParent",    "goChild",      "goPrevious",
-                             "goNext",      "nextTab",      "previousTab",
-                             "saveCopy",    "revert"})
-        QVERIFY2(offered.contains(QLatin1String(name)), name);
+    const QList<QAction *> actions = app.window.findChild<ActionSet *>()->actions();
+    QVERIFY(actions.size() > 50);
+    for (const QAction *action : actions)
+        QVERIFY2(offered.contains(action->objectName()), qPrintable(action->objectName()));
 }
 
 void TestMainWindow::shouldUseEveryShortcutOnce()
