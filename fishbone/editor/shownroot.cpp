@@ -91,7 +91,7 @@ void ShownRoot::takeOverFromOthers()
 /** Shows nothing any more, since another shows the document now. */
 void ShownRoot::yield()
 {
-    m_last = Remembered();
+    m_last.forget();
     const EditorCall call(m_calls);
     showNothing();
     m_shown.setIndex(QModelIndex());
@@ -143,7 +143,7 @@ void ShownRoot::update(bool rebuild)
     } else if (head && !head->treeItem()) {
         // The subject left in a way that nobody announced. If it died, so did what the index has.
         const FishModel *const model = m_shown.fishModel();
-        if (model && !model->contains(m_last.subject))
+        if (model && !m_last.subjectIn(*model))
             m_shown.setIndex(QModelIndex());
         showNothing();
     } else if (head) {
@@ -201,30 +201,15 @@ void ShownRoot::followData(const QObject *teller, const QModelIndex &index)
         document->setModified(true);
 }
 
-bool ShownRoot::isListed(const FishInfo *document) const
-{
-    const FishModel *const model = m_shown.fishModel();
-    return model && document && model->fishList().contains(const_cast<FishInfo *>(document));
-}
-
 void ShownRoot::remember()
 {
     m_isRemoved = false;
-    m_last.document = m_shown.document();
-    m_last.subject = m_shown.subjectOf(m_shown.index());
-    m_last.isHead = !m_shown.index().parent().isValid();
+    m_last.remember(m_shown);
 }
 
-/** Where the root that was shown last stands now; invalid when it is not in the model. */
 QModelIndex ShownRoot::rememberedRoot() const
 {
-    const FishModel *const model = m_shown.fishModel();
-    if (!isListed(m_last.document))
-        return {};
-    if (m_last.isHead)
-        return model->index(model->fishList().indexOf(m_last.document), 0);
-    // Compared only until it is known to be alive.
-    return model->contains(m_last.subject) ? model->indexFromItem(m_last.subject) : QModelIndex();
+    return m_last.indexIn(m_shown.fishModel());
 }
 
 void ShownRoot::forgetRemovedRoot(const QModelIndex &parent, int first, int last)
@@ -267,8 +252,9 @@ void ShownRoot::followReset()
     // A reset makes every index invalid, whether or not the subject is still there. One that is
     // keeps its spear; a document that was loaded anew has other subjects.
     const FishModel *const model = m_shown.fishModel();
-    if (model && model->contains(m_last.subject) && m_last.subject->spear() == m_drawing.head()) {
-        m_shown.setIndex(model->indexFromItem(m_last.subject));
+    const TreeItem *const subject = model ? m_last.subjectIn(*model) : nullptr;
+    if (subject && subject->spear() == m_drawing.head()) {
+        m_shown.setIndex(model->indexFromItem(subject));
         update(false);
     } else {
         showNothing();
@@ -277,10 +263,10 @@ void ShownRoot::followReset()
 
 void ShownRoot::followHead()
 {
-    if (sender() != m_shown.model() || !m_last.isHead)
+    if (sender() != m_shown.model() || !m_last.isHead())
         return;
     const QModelIndex head = rememberedRoot();
-    if (head.isValid() && m_shown.subjectOf(head) != m_last.subject)
+    if (head.isValid() && !m_last.isSubject(m_shown.subjectOf(head)))
         show(head);
 }
 
@@ -292,8 +278,8 @@ void ShownRoot::followToAnotherDocument()
         m_shown.setIndex(QModelIndex());
         m_isRemoved = true;
         showNothing();
-    } else if (!m_last.isHead) { // a head comes back as the head of its old document
-        m_last.document = m_shown.document();
+    } else if (!m_last.isHead()) { // a head comes back as the head of its old document
+        m_last.follow(m_shown.document());
     }
 }
 
@@ -301,11 +287,11 @@ void ShownRoot::followMove()
 {
     if (sender() != m_shown.model())
         return;
-    if (m_isRemoved && m_last.isHead) {
+    if (m_isRemoved && m_last.isHead()) {
         const QModelIndex head = rememberedRoot();
         if (head.isValid())
             show(head);
-    } else if (m_drawing.head() && m_shown.document() != m_last.document) {
+    } else if (m_drawing.head() && m_shown.document() != m_last.document()) {
         followToAnotherDocument();
     }
 }
@@ -314,6 +300,6 @@ void ShownRoot::forgetDestroyedModel()
 {
     if (m_shown.index().isValid())
         return; // another one, set earlier
-    m_last = Remembered();
+    m_last.forget();
     showNothing();
 }

@@ -6,7 +6,8 @@
 #include <memory>
 
 #include <QObject>
-#include <QPointer>
+
+#include <fishbone/editor/rememberedroot.h>
 
 class EditorCall;
 class EditorCalls;
@@ -14,7 +15,6 @@ class FishInfo;
 class ShownDrawing;
 class ShownSubject;
 class SpearItem;
-class TreeItem;
 class QAbstractItemModel;
 class QModelIndex;
 
@@ -52,21 +52,12 @@ public:
     void followData(const QObject *teller, const QModelIndex &index);
 
 private:
-    /** The root that was shown last, remembered across what makes its index invalid. */
-    struct Remembered
-    {
-        QPointer<FishInfo> document;
-        const TreeItem *subject = nullptr; ///< only compared: it may be gone
-        bool isHead = false;               ///< the document's head, whichever that is
-    };
-
     void showNothing();
     void unlinkSubjects() const;
     void takeOverFromOthers();
     void yield();
     bool isShownByAnother(const FishInfo *document) const;
     void remember();
-    bool isListed(const FishInfo *document) const;
     QModelIndex rememberedRoot() const;
     void updateHeadText();
     void forgetRemovedRoot(const QModelIndex &parent, int first, int last);
@@ -81,7 +72,7 @@ private:
     ShownSubject &m_shown;
     ShownDrawing &m_drawing;
     EditorCalls &m_calls;
-    Remembered m_last;
+    RememberedRoot m_last;
     bool m_isRemoved = false; ///< the shown root left the model; it may come back
     /** From the announcement that the shown root goes to its end. */
     std::unique_ptr<EditorCall> m_removal;
