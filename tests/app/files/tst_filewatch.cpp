@@ -16,6 +16,7 @@ class TestFileWatch : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase();
     void shouldNoticeAnotherContent();
     void shouldNoticeAFileThatIsReplacedOrGone();
     void shouldTakeTheSameContentForNoChange();
@@ -42,6 +43,11 @@ void writeFile(const QString &path, const QByteArray &text)
 }
 
 } // namespace
+
+void TestFileWatch::initTestCase()
+{
+    qRegisterMetaType<FileWatch::State>("FileWatch::State"); // for spies
+}
 
 void TestFileWatch::shouldNoticeAnotherContent()
 {

@@ -122,12 +122,12 @@ void TestMainWindow::shouldOfferEveryActionInAMenu()
 {
     const AppFixture app;
     QSet<QString> offered;
-    QList<QMenu *> menus = app.window.menuBar()->findChildren<QMenu *>();
-    QVERIFY(menus.size() >= 5);
-    for (const QMenu *menu : qAsConst(menus)) {
-        const QList<QAction *> actions = menu->actions();
-        for (const QAction *action : actions)
-            offered.insert(action->objectName());
+    QList<QAction *> entries = app.window.menuBar()->actions();
+    QVERIFY(entries.size() >= 5);
+    for (int i = 0; i < entries.size(); ++i) { // what comes behind is in menus of menus
+        offered.insert(entries.at(i)->objectName());
+        if (const QMenu *const menu = entries.at(i)->menu())
+            entries += menu->actions();
     }
     const QList<QAction *> actions = app.window.findChild<ActionSet *>()->actions();
     QVERIFY(actions.size() > 50);
