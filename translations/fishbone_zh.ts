@@ -390,13 +390,13 @@ Three commands need no display:
   info      say what is in a diagram, and what is off in it
   report    write what is sent round after a meeting
 &quot;fishbone convert --help&quot; tells more. A file of such a name is ./convert.</source>
-        <translation>编辑任务的鱼骨图。
+        <translation>编辑任务鱼骨图。
 
-三个命令不需要显示器：
-  convert   将图写成其他格式或图片
-  info      说明图中有什么，以及有什么问题
+有三个命令无需图形显示：
+  convert   将鱼骨图写成另一种格式或图片
+  info      说明鱼骨图的内容及其中的问题
   report    写出会后分发的报告
-“fishbone convert --help”有更多说明。同名的文件写作 ./convert。</translation>
+“fishbone convert --help”有更多说明。同名的文件请写作 ./convert。</translation>
     </message>
     <message>
         <source>Writes what is sent round after a meeting: the picture, the causes in the order of what was found out, what is to be done by whom, and a legend.
