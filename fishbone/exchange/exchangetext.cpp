@@ -170,7 +170,9 @@ QString Lines::raw() const
 QString Lines::rawFrom(int column) const
 {
     int position = m_begin;
-    for (int at = 0; at < column && position < m_position; ++position) {
+    // The last line may have no end, behind which m_position is nevertheless.
+    const int end = std::min(m_position, int(m_text.size()));
+    for (int at = 0; at < column && position < end; ++position) {
         const QChar c = m_text.at(position);
         if (c == QLatin1Char('\t'))
             at += tabWidth - at % tabWidth;

@@ -49,6 +49,7 @@ void TestDiagramExchangeOutlines::shouldReadTrees_data()
     row("md uneven indentation", Format::Markdown, "- a\n   - b\n     - c\n  - d", "a[b[c],d]");
     row("md paragraph first", Format::Markdown, "Why?\n\n- b\n- c", "Why?[b,c]");
     row("md rules", Format::Markdown, "---\n# a\n***\n- b\n- - -\n- c\n", "a[b,c]");
+    row("md code that ends in blanks", Format::Markdown, "# a\n- b\n  ```\n  x\n ", "a[b]");
     row("md code", Format::Markdown, "# a\n- b\n```sh\n# no\n- no\n```\n- c", "a[b,c]");
     row("md tildes", Format::Markdown, "# a\n~~~\n# no\n```\n~~~\n- c", "a[c]");
     row("md no heading", Format::Markdown, "# a\n- #b\n- #### \n", "a[#b,]");
