@@ -4,6 +4,7 @@
 #include <fishbone/exchange/meetingpage.h>
 
 #include <fishbone/drawing/clearcontent.h>
+#include <fishbone/exchange/linksafety.h>
 #include <fishbone/model/treeitem.h>
 
 #include <QLocale>
@@ -55,11 +56,9 @@ QString linkInMarkdown(const QString &text, const QString &url)
 }
 
 /** Whether a page that is mailed may lead there. */
-bool isHarmless(const QString &url)
+bool mayLeadTo(const QString &url)
 {
-    const QString scheme = QUrl(url).scheme();
-    return scheme == QLatin1String("https") || scheme == QLatin1String("http") ||
-           scheme == QLatin1String("mailto");
+    return !LinkSafety::webOrMail(url).isEmpty();
 }
 
 /** What is told of a verdict for whoever was not there. */
@@ -126,7 +125,7 @@ MeetingPage::Table MeetingPage::causesTable(const Markup &markup) const
         const QString title = text(subject.title());
         const QString above = cause.above.join(QStringLiteral(" › "));
         table.rows.append({QString::number(table.rows.size() + 1),
-                           (isHarmless(subject.url()) ? link(title, subject.url()) : title) +
+                           (mayLeadTo(subject.url()) ? link(title, subject.url()) : title) +
                                (above.isEmpty() ? QString() : text(QLatin1Char('\n') + above)),
                            text(ClearContent::meaningOf(cause.verdict)), bar(cause.votes),
                            text(subject.detail())});
@@ -160,7 +159,7 @@ MeetingPage::Table MeetingPage::actionsTable(const QString &person, const Markup
         const QString title = text(subject.title());
         const QString day = QLocale().toString(action.end, QLocale::ShortFormat);
         table.rows.append(
-            {isHarmless(subject.url()) ? link(title, subject.url()) : title,
+            {mayLeadTo(subject.url()) ? link(title, subject.url()) : title,
              text(ClearContent::meaningOf(subject.status())),
              subject.progress() > 0 ? QStringLiteral("%1 %").arg(subject.progress()) : QString(),
              action.isOverdue ? strong(MeetingReport::tr("%1, overdue").arg(day)) : day});
