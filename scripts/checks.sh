@@ -65,6 +65,13 @@ check_include_guards() {
     done | none
 }
 
+# A source that nobody reads to its end is several.
+check_lengths() {
+    local files most=500
+    mapfile -t files <<<"$(sources)"
+    wc -l "${files[@]}" | awk -v most="$most" '$2 != "total" && $1 > most { print $2 ": " $1 " lines, more than " most }' | none
+}
+
 # A class outside a namespace has a name of its own in library, program, examples and tests: they are linked
 # with each other, and of two classes with one name the linker takes the functions of either.
 check_class_names() {
@@ -120,6 +127,30 @@ check_tests_exist() {
         compgen -G "tests/*/$name.cpp" >/dev/null || compgen -G "tests/*/${name}_*.cpp" >/dev/null ||
             echo "$header: no tests/*/$name.cpp"
     done | none
+}
+
+# Each class of the program and of the two folders that everything stands on has a test program of its name, or a line in
+# scripts/untested.txt with the tests that run it.
+check_tests_named() {
+    local header line name known words=scripts/untested.txt
+    known=$(find tests -name 'tst_*.cpp' -printf '%f\n')
+    {
+        find app fishbone/base fishbone/drawing -name '*.h' | sort | while read -r header; do
+            line=$(search -F "$header: " "$words")
+            if grep -qE "^tst_$(basename "$header" .h)(_.*)?\.cpp\$" <<<"$known"; then
+                [[ -z $line ]] || echo "$header: has a test, and a line in $words"
+            elif [[ -z $line ]]; then
+                echo "$header: neither tst_$(basename "$header" .h).cpp nor a line in $words"
+            fi
+        done
+        sed -n 's/: .*//; /^[^#]/p' "$words" | while read -r header; do
+            [[ -f $header ]] || echo "$words: there is no $header"
+        done
+        search -oE '\btst_[a-z_]+' "$words" | sort -u | while read -r name; do
+            grep -qxF "$name.cpp" <<<"$known" || echo "$words: there is no $name"
+        done
+        search -nvE '^(#.*|[^:]+: tst_.*)?$' "$words"
+    } | none
 }
 
 # Each test program is one that ctest runs.
