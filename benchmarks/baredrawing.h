@@ -19,7 +19,7 @@ class QGraphicsSvgItem;
 class QGraphicsTextItem;
 class SpearItem;
 
-/// A picture of a bone.
+/** A picture of a bone. */
 struct IconPlan
 {
     QString file;
@@ -27,7 +27,7 @@ struct IconPlan
     bool isVisible;
 };
 
-/// What can be seen of a bone, and where it hangs.
+/** What can be seen of a bone, and where it hangs. */
 struct BonePlan
 {
     int parent; ///< position in the plan, before the bone's own; -1 for the head
@@ -43,16 +43,18 @@ struct BonePlan
     std::vector<IconPlan> icons;
 };
 
-/// Bones level by level, every parent before its children.
+/** Bones level by level, every parent before its children. */
 using DrawingPlan = std::vector<BonePlan>;
 
-/// What the spears from \a head down show.
+/** What the spears from @p head down show. */
 DrawingPlan planOf(SpearItem *head);
 
-/// The same drawing with the toolkit's items alone: for every bone a QGraphicsLineItem below that
-/// of its parent, with a QGraphicsTextItem and a QGraphicsSvgItem a picture as its children. Each
-/// picture file has one renderer. The scene uses no index, as that is the fastest with nested
-/// items.
+/**
+ * The same drawing with the toolkit's items alone: for every bone a QGraphicsLineItem below that
+ * of its parent, with a QGraphicsTextItem and a QGraphicsSvgItem a picture as its children. Each
+ * picture file has one renderer. The scene uses no index, as that is the fastest with nested
+ * items.
+ */
 class BareDrawing
 {
 public:
@@ -61,9 +63,9 @@ public:
     QGraphicsScene &scene() { return m_scene; }
     QGraphicsView &view() { return m_view; }
 
-    /// Makes all items of the plan; the scene is empty before.
+    /** Makes all items of the plan; the scene is empty before. */
     void build();
-    /// Gives the items the places of \a plan, which has the same bones.
+    /** Gives the items the places of @p plan, which has the same bones. */
     void place(const DrawingPlan &plan);
     void clear();
 

@@ -10,7 +10,7 @@
 #include <QJsonObject>
 #include <QStringList>
 
-/// What a host without the library would keep of a subject.
+/** What a host without the library would keep of a subject. */
 struct BareNode
 {
     QString title, uuid, showid, pid, detail, url;
@@ -23,16 +23,18 @@ struct BareNode
     std::vector<std::unique_ptr<BareNode>> children;
 };
 
-/// The tree that \a object, a document in the library's format, describes.
+/** The tree that @p object, a document in the library's format, describes. */
 std::unique_ptr<BareNode> bareTreeFrom(const QJsonObject &object, BareNode *parent = nullptr);
-/// The reverse.
+/** The reverse. */
 QJsonObject jsonOf(const BareNode &node);
-/// The last node in pre-order.
+/** The last node in pre-order. */
 BareNode *lastNode(BareNode *head);
-/// The first node in pre-order with that uuid, found by walking the pointers; null without one.
+/** The first node in pre-order with that uuid, found by walking the pointers; null without one. */
 BareNode *findByUuid(BareNode *head, const QString &uuid);
 
-/// An item model over such a tree, with the columns that the library's model has and nothing else.
+/**
+ * An item model over such a tree, with the columns that the library's model has and nothing else.
+ */
 class BareModel : public QAbstractItemModel
 {
 public:
@@ -48,7 +50,7 @@ public:
     int columnCount(const QModelIndex &parent) const override;
     QVariant data(const QModelIndex &index, int role) const override;
 
-    /// Only below the head.
+    /** Only below the head. */
     bool insertRows(int row, int count, const QModelIndex &parent) override;
     bool removeRows(int row, int count, const QModelIndex &parent) override;
 

@@ -13,7 +13,7 @@
 
 namespace {
 
-/// A document, expanded to the last bone, and the same drawing of bare items.
+/** A document, expanded to the last bone, and the same drawing of bare items. */
 class TwoDrawings
 {
 public:
@@ -33,7 +33,7 @@ protected:
     std::unique_ptr<BareDrawing> m_bare;
 };
 
-/// Showing a document with every bone, from nothing.
+/** Showing a document with every bone, from nothing. */
 class Building : TwoDrawings
 {
 public:
@@ -58,7 +58,7 @@ public:
     }
 };
 
-/// Showing a document with its main bones alone, against a walk over all its nodes.
+/** Showing a document with its main bones alone, against a walk over all its nodes. */
 class ShowingContracted
 {
 public:
@@ -94,7 +94,7 @@ private:
     ShownFish m_fish;
 };
 
-/// A relayout in which every bone moves.
+/** A relayout in which every bone moves. */
 class MovingAll : protected TwoDrawings
 {
 public:
@@ -139,7 +139,7 @@ private:
 
     TreeItem *bone(int row) const { return m_fish.head()->childAtIndex(row); }
 
-    /// The longer first bones push all behind them along, on both sides.
+    /** The longer first bones push all behind them along, on both sides. */
     void lengthen(bool longer)
     {
         for (int row = 0; row < 2; ++row)
@@ -152,7 +152,7 @@ private:
     bool m_bareMoved = false;
 };
 
-/// A relayout in which nothing changes, against moving everything.
+/** A relayout in which nothing changes, against moving everything. */
 class MovingNothing : public MovingAll
 {
 public:
@@ -166,7 +166,7 @@ public:
     }
 };
 
-/// Undo and redo in turns, which make the drawing anew, and expanding it again.
+/** Undo and redo in turns, which make the drawing anew, and expanding it again. */
 class Undoing : TwoDrawings
 {
 public:

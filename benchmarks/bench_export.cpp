@@ -21,7 +21,7 @@ namespace {
 
 const QSize pictureSize(1280, 800);
 
-/// The tree in the language of dot: a node with its title for each subject, and the edges.
+/** The tree in the language of dot: a node with its title for each subject, and the edges. */
 QByteArray dotOf(const TreeItem *head)
 {
     QByteArray text("digraph {\nnode [shape=box]\n");
@@ -47,7 +47,7 @@ void write(const QString &fileName, const QByteArray &content)
         qFatal("cannot write %s", qPrintable(fileName));
 }
 
-/// The time on the wall, as a user waits for it.
+/** The time on the wall, as a user waits for it. */
 double secondsOfProcess(const QString &program, const QStringList &arguments)
 {
     QProcess process;
@@ -84,7 +84,7 @@ public:
         return seconds;
     }
 
-    /// The layout stretched to the same size; dot would make a strip a few pixels high of it.
+    /** The layout stretched to the same size; dot would make a strip a few pixels high of it. */
     double dot() const
     {
         return secondsOfProcess(QStringLiteral("dot"),
@@ -106,7 +106,7 @@ void compareWithDot(benchmark::State &state, Synthetic::Shape shape, int size)
         state, [&subject] { return subject.ours(); }, [&subject] { return subject.dot(); });
 }
 
-/// Where dot would take minutes.
+/** Where dot would take minutes. */
 void exportOnly(benchmark::State &state, Synthetic::Shape shape, int size)
 {
     const Exporting subject(shape, size);

@@ -15,7 +15,7 @@
 
 namespace {
 
-/// A document in a file of a folder of its own.
+/** A document in a file of a folder of its own. */
 class DocumentFile
 {
 public:
@@ -38,7 +38,7 @@ private:
     QByteArray m_document;
 };
 
-/// A file into the model, against the file into a tree of plain structs.
+/** A file into the model, against the file into a tree of plain structs. */
 class Loading : DocumentFile
 {
 public:
@@ -61,7 +61,7 @@ public:
     }
 };
 
-/// The model into a file, against the structs into a file that is replaced in the same way.
+/** The model into a file, against the structs into a file that is replaced in the same way. */
 class Saving : DocumentFile
 {
 public:

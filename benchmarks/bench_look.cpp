@@ -12,7 +12,7 @@
 
 namespace {
 
-/// Two editors on documents that are alike, expanded to the last bone, each in a look.
+/** Two editors on documents that are alike, expanded to the last bone, each in a look. */
 class TwoLooks
 {
 public:
@@ -35,7 +35,7 @@ protected:
         return seconds;
     }
 
-    /// The longer first bones push all behind them along, on both sides.
+    /** The longer first bones push all behind them along, on both sides. */
     static void lengthen(ShownFish &fish)
     {
         for (int row = 0; row < 2; ++row) {
@@ -50,7 +50,7 @@ protected:
     ShownFish m_classic;
 };
 
-/// A relayout in which every bone moves.
+/** A relayout in which every bone moves. */
 class MovingAll : TwoLooks
 {
 public:
@@ -67,7 +67,7 @@ private:
     }
 };
 
-/// A title that is typed, letter by letter, into the last bone of all.
+/** A title that is typed, letter by letter, into the last bone of all. */
 class Typing : TwoLooks
 {
 public:
@@ -91,7 +91,7 @@ private:
     }
 };
 
-/// The best arrangement for a slide, against one relayout.
+/** The best arrangement for a slide, against one relayout. */
 class Arranging : TwoLooks
 {
 public:

@@ -21,7 +21,7 @@ double bytesInUse()
     return double(info.uordblks + info.hblkhd);
 }
 
-/// What \a work leaves on the heap.
+/** What @p work leaves on the heap. */
 template <typename Work>
 double bytesKeptBy(Work &&work)
 {
@@ -87,8 +87,10 @@ double bytesToShowContracted(Synthetic::Shape shape, int size)
     });
 }
 
-/// Of two fans that begin alike, the drawing of the larger one, contracted, takes as much: bones
-/// that were never shown take nothing.
+/**
+ * Of two fans that begin alike, the drawing of the larger one, contracted, takes as much: bones
+ * that were never shown take nothing.
+ */
 void neverExpandedBones(benchmark::State &state, Synthetic::Shape shape, int size)
 {
     for (auto _ : state) {

@@ -22,7 +22,7 @@
 
 namespace {
 
-/// So many calls make one measurement, since one alone is too short.
+/** So many calls make one measurement, since one alone is too short. */
 constexpr int calls = 20;
 
 TreeItem *lastNode(TreeItem *head)
@@ -32,7 +32,7 @@ TreeItem *lastNode(TreeItem *head)
     return head;
 }
 
-/// The first node in pre-order that \a wanted accepts, found by walking the pointers.
+/** The first node in pre-order that @p wanted accepts, found by walking the pointers. */
 template <typename Wanted>
 TreeItem *walkTo(TreeItem *head, Wanted &&wanted)
 {
@@ -49,7 +49,7 @@ TreeItem *walkTo(TreeItem *head, Wanted &&wanted)
     return nullptr;
 }
 
-/// The seconds that one of many calls takes.
+/** The seconds that one of many calls takes. */
 template <typename Call>
 double secondsOfEach(Call &&call)
 {
@@ -60,7 +60,7 @@ double secondsOfEach(Call &&call)
            calls;
 }
 
-/// Finding the last subject by its uuid as the commands do, against a walk to it.
+/** Finding the last subject by its uuid as the commands do, against a walk to it. */
 class FindingUuid : LoadedFish
 {
 public:
@@ -87,7 +87,9 @@ private:
     SubjectKey m_key;
 };
 
-/// The search of the find dialog for the title of the last subject, against a walk over all titles.
+/**
+ * The search of the find dialog for the title of the last subject, against a walk over all titles.
+ */
 class Searching : LoadedFish
 {
 public:
@@ -126,8 +128,10 @@ private:
     ReplaceFindDialog m_dialog;
 };
 
-/// A command at the last subject, against inserting a row beside it and removing that again in a
-/// model over plain structs, which finds the place by walking to the uuid as a command has to.
+/**
+ * A command at the last subject, against inserting a row beside it and removing that again in a
+ * model over plain structs, which finds the place by walking to the uuid as a command has to.
+ */
 class Editing : protected LoadedFish
 {
 public:
@@ -153,7 +157,9 @@ public:
 protected:
     QModelIndex last() const { return model.indexFromItem(lastNode(head())); }
 
-    /// The seconds that a command takes from its making to the end of its redo; it is undone again.
+    /**
+     * The seconds that a command takes from its making to the end of its redo; it is undone again.
+     */
     template <typename Make>
     double secondsOfCommand(Make &&make)
     {
@@ -206,7 +212,7 @@ public:
     }
 };
 
-/// The last subject to the front of the head.
+/** The last subject to the front of the head. */
 class Moving : public Editing
 {
 public:
@@ -226,7 +232,7 @@ public:
     }
 };
 
-/// A shown tree behind a filter that changes.
+/** A shown tree behind a filter that changes. */
 template <typename Proxy>
 class FilteredTree
 {
@@ -243,7 +249,7 @@ public:
         settle();
     }
 
-    /// The seconds until the tree shows what contains \a text.
+    /** The seconds until the tree shows what contains @p text. */
     double secondsOfFilter(const QString &text)
     {
         const double seconds = Paired::secondsOf([&] {

@@ -21,8 +21,10 @@ namespace {
 
 constexpr int fewBones = 200;
 
-/// A document on the screen, expanded to the last bone, and the same drawing of bare items in a
-/// view of the same size.
+/**
+ * A document on the screen, expanded to the last bone, and the same drawing of bare items in a
+ * view of the same size.
+ */
 class TwoViews
 {
 public:
@@ -48,7 +50,7 @@ public:
 protected:
     QGraphicsView &oursView() { return *m_fish.editor.view(); }
 
-    /// Shows the same part of the drawing in both views.
+    /** Shows the same part of the drawing in both views. */
     void lookAlike()
     {
         m_bare->scene().setSceneRect(oursView().sceneRect());
@@ -70,7 +72,7 @@ protected:
     std::unique_ptr<BareDrawing> m_bare;
 };
 
-/// The same, enlarged until about two hundred bones are in view.
+/** The same, enlarged until about two hundred bones are in view. */
 class TwoCloseViews : public TwoViews
 {
 public:
@@ -101,7 +103,7 @@ private:
     }
 };
 
-/// The mouse on its way across the drawing.
+/** The mouse on its way across the drawing. */
 class MovingMouse : TwoViews
 {
 public:
@@ -131,7 +133,7 @@ private:
     }
 };
 
-/// Counts the paint events of a view.
+/** Counts the paint events of a view. */
 class PaintCounter : public QObject
 {
 public:
@@ -147,8 +149,10 @@ public:
     }
 };
 
-/// What is painted after a relayout that changes nothing, and in half a second after one bone asked
-/// for it.
+/**
+ * What is painted after a relayout that changes nothing, and in half a second after one bone asked
+ * for it.
+ */
 class CountingPaints : TwoViews
 {
 public:
@@ -199,7 +203,7 @@ void collectPictures(const ShownFish &fish, QSet<QString> &files)
     }
 }
 
-/// How many picture files were parsed for the pictures that this process has shown.
+/** How many picture files were parsed for the pictures that this process has shown. */
 void countParses(benchmark::State &state, Synthetic::Shape shape, int size)
 {
     static QSet<QString> shown{QStringLiteral(":/fishboneDiagram/head.svg"),

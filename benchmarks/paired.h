@@ -12,8 +12,10 @@
 
 #include <benchmarks/synthetic.h>
 
-/// Our way of doing something beside the bare toolkit's, taken in turns in one process, so that
-/// both meet the same machine in the same state.
+/**
+ * Our way of doing something beside the bare toolkit's, taken in turns in one process, so that
+ * both meet the same machine in the same state.
+ */
 namespace Paired {
 
 constexpr int repetitions = 7;
@@ -21,8 +23,10 @@ constexpr int fewRepetitions = 3; ///< where only the growth is looked at
 constexpr int gateSizes[] = {1000, 10000};
 constexpr int largeSize = 100000; ///< run once
 
-/// The processor time that this process has taken, in seconds. The time on the wall would count
-/// whatever else the machine does.
+/**
+ * The processor time that this process has taken, in seconds. The time on the wall would count
+ * whatever else the machine does.
+ */
 inline double processorSeconds()
 {
     timespec time{};
@@ -30,7 +34,7 @@ inline double processorSeconds()
     return double(time.tv_sec) + double(time.tv_nsec) * 1e-9;
 }
 
-/// The processor time that \a work takes, in seconds.
+/** The processor time that @p work takes, in seconds. */
 template <typename Work>
 double secondsOf(Work &&work)
 {
@@ -46,8 +50,10 @@ inline double median(std::vector<double> values)
     return *middle;
 }
 
-/// Runs both in turns and reports the median of the ratios ours / bare. Each is a callable that
-/// returns the seconds to count, so that preparation and cleaning up can stay outside.
+/**
+ * Runs both in turns and reports the median of the ratios ours / bare. Each is a callable that
+ * returns the seconds to count, so that preparation and cleaning up can stay outside.
+ */
 template <typename Ours, typename Bare>
 void compare(benchmark::State &state, Ours &&ours, Bare &&bare)
 {
@@ -71,7 +77,7 @@ void compare(benchmark::State &state, Ours &&ours, Bare &&bare)
     state.counters["ratio"] = median(ratios);
 }
 
-/// Registers \a run for a document of that shape and size under "name/shape/size".
+/** Registers @p run for a document of that shape and size under "name/shape/size". */
 template <typename Run>
 benchmark::internal::Benchmark *add(const std::string &name, Synthetic::Shape shape, int size,
                                     Run &&run)
@@ -88,8 +94,10 @@ enum class Sizes {
     GatesOnly, ///< where the bare toolkit alone takes minutes for the large one
 };
 
-/// Registers a comparison for every shape and size that it is reported for. A \a Case is made of
-/// shape and size, which is not timed, and has ours() and bare(), which return seconds.
+/**
+ * Registers a comparison for every shape and size that it is reported for. A @p Case is made of
+ * shape and size, which is not timed, and has ours() and bare(), which return seconds.
+ */
 template <typename Case>
 void addRow(const std::string &name, Sizes sizes = Sizes::All)
 {

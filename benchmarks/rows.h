@@ -3,5 +3,5 @@
 
 #pragma once
 
-/// Registers the rows of a benchmark program. Each program defines it; main() calls it.
+/** Registers the rows of a benchmark program. Each program defines it; main() calls it. */
 void addRows();

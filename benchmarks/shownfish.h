@@ -14,7 +14,7 @@
 
 #include <benchmarks/synthetic.h>
 
-/// A model with one synthetic document.
+/** A model with one synthetic document. */
 class LoadedFish
 {
 public:
@@ -31,7 +31,7 @@ public:
     FishInfo *document;
 };
 
-/// An editor on such a model, showing nothing at first.
+/** An editor on such a model, showing nothing at first. */
 class ShownFish : public LoadedFish
 {
 public:
@@ -52,7 +52,7 @@ public:
     FishEditor editor;
 };
 
-/// Handles what is pending, so that nothing of it falls into the next measurement.
+/** Handles what is pending, so that nothing of it falls into the next measurement. */
 inline void settle()
 {
     for (int i = 0; i < 3; ++i)

@@ -14,7 +14,7 @@
 
 namespace {
 
-/// Keys of diagrams and styles.
+/** Keys of diagrams and styles. */
 const QStringList &keys()
 {
     static const QStringList all =
@@ -26,7 +26,7 @@ const QStringList &keys()
     return all;
 }
 
-/// Texts that somebody may take for something else.
+/** Texts that somebody may take for something else. */
 const QStringList &texts()
 {
     static const QStringList all = {

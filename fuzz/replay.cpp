@@ -48,7 +48,7 @@ QStringList filesBelow(const QString &path)
 
 const QByteArray *runningInput = nullptr;
 
-/// Keeps the input that brought the program down.
+/** Keeps the input that brought the program down. */
 void keepInput()
 {
     if (!runningInput)

@@ -162,12 +162,18 @@ check_tests_registered() {
     done | none
 }
 
-# Marks of unfinished work, of a merge and of one developer's machine, and tests that cannot fail. In outlines of
-# org-mode the first of these marks is a keyword.
+# One form of comments that Doxygen reads: /** … */ with @commands, and ///< behind a member.
+check_comment_form() {
+    search -rnE --include='*.h' --include='*.cpp' '^[[:space:]]*///([^<]|$)|(/\*\*|///<|^ +\*).*\\(a|b|c|e|p|brief|name|param|return) ' \
+        fishbone app tests benchmarks designer examples fuzz | none
+}
+
+# Marks of unfinished work, of a merge and of one developer's machine, and tests that cannot fail. In outlines
+# of org-mode and of programs like it the first of these marks is a keyword.
 check_words() {
     {
         search -rnIE --exclude-dir=build --exclude-dir=.git --exclude=checks.sh \
-            --exclude-dir=org --exclude='org*' --exclude=import.dict --exclude=formats.md \
+            --exclude-dir=org --exclude-dir=opml --exclude='org*' --exclude=import.dict --exclude=formats.md \
             '\b(TODO|FIXME|XXX|HACK)\b|^(<{7}|>{7}) |(^|[^A-Za-z0-9.])/(home|root|Users)/[a-z]' .
         search -rnE 'QVERIFY2?\((true|1)\b' tests
     } | none

@@ -9,8 +9,10 @@
 
 #include <cstring>
 
-/// Loads the template of the resources into a model, and succeeds when an editor shows it and the
-/// library is the one that the headers belong to.
+/**
+ * Loads the template of the resources into a model, and succeeds when an editor shows it and the
+ * library is the one that the headers belong to.
+ */
 int main(int argc, char *argv[])
 {
     QApplication application(argc, argv);

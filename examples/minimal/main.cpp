@@ -6,7 +6,7 @@
 
 #include <QApplication>
 
-/// Shows the diagram that is named on the command line, or the template when none is.
+/** Shows the diagram that is named on the command line, or the template when none is. */
 int main(int argc, char *argv[])
 {
     QApplication application(argc, argv);

@@ -13,8 +13,10 @@
 
 namespace {
 
-/// Prints what is below \a index as an outline. Depth is the caller's only by a list, not by the
-/// stack of calls, so that any diagram can be printed.
+/**
+ * Prints what is below @p index as an outline. Depth is the caller's only by a list, not by the
+ * stack of calls, so that any diagram can be printed.
+ */
 void print(const QAbstractItemModel &model, const QModelIndex &top, QTextStream &out)
 {
     struct Line
@@ -40,8 +42,10 @@ QJsonObject readObject(const QString &path)
 
 } // namespace
 
-/// Loads a diagram without any window, prints it as an outline, saves it under another name and
-/// compares what both files hold.
+/**
+ * Loads a diagram without any window, prints it as an outline, saves it under another name and
+ * compares what both files hold.
+ */
 int main(int argc, char *argv[])
 {
     QCoreApplication application(argc, argv);

@@ -11,8 +11,10 @@
 
 namespace {
 
-/// Goes once through what a user can do, the entries of the context menu as their signals, and says
-/// whether the host did what it should.
+/**
+ * Goes once through what a user can do, the entries of the context menu as their signals, and says
+ * whether the host did what it should.
+ */
 bool demonstrate(TaskHost &host)
 {
     FishEditor &editor = host.editor();
@@ -46,8 +48,10 @@ bool demonstrate(TaskHost &host)
 
 } // namespace
 
-/// Shows a diagram in a host that answers every signal. With --demo it plays through them instead,
-/// prints the host's journal and ends.
+/**
+ * Shows a diagram in a host that answers every signal. With --demo it plays through them instead,
+ * prints the host's journal and ends.
+ */
 int main(int argc, char *argv[])
 {
     QApplication application(argc, argv);

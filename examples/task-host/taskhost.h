@@ -14,11 +14,13 @@ class QPlainTextEdit;
 class QSlider;
 class QSpinBox;
 
-/// A window around the editor that answers each of its signals, and the model's.
-///
-/// The editor reports what concerns tasks, and changes nothing by itself then: opening a task,
-/// creating one, editing its details. The host does it, and edits the diagram through the editor's
-/// slots, so that it can be undone.
+/**
+ * A window around the editor that answers each of its signals, and the model's.
+ *
+ * The editor reports what concerns tasks, and changes nothing by itself then: opening a task,
+ * creating one, editing its details. The host does it, and edits the diagram through the editor's
+ * slots, so that it can be undone.
+ */
 class TaskHost : public QMainWindow
 {
     Q_OBJECT
@@ -30,7 +32,7 @@ public:
     FishEditor &editor() { return *m_editor; }
     FishModel &model() { return m_model; }
     const Tasks &tasks() const { return m_tasks; }
-    /// The answers so far, one a line.
+    /** The answers so far, one a line. */
     QString journal() const;
 
 private:

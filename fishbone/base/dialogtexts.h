@@ -10,7 +10,7 @@
 #include <QLabel>
 #include <QStringList>
 
-/// Gives the items of \a combo other texts, and makes those that are missing.
+/** Gives the items of @p combo other texts, and makes those that are missing. */
 inline void setItemTexts(QComboBox *combo, const QStringList &texts)
 {
     for (int row = 0; row < texts.size(); ++row) {
@@ -21,8 +21,10 @@ inline void setItemTexts(QComboBox *combo, const QStringList &texts)
     }
 }
 
-/// Adds \a field to \a form with \a name, a text of \a Dialog, on its label and for those who do
-/// not see the label.
+/**
+ * Adds @p field to @p form with @p name, a text of @p Dialog, on its label and for those who do
+ * not see the label.
+ */
 template <typename Dialog>
 void addNamedRow(QFormLayout *form, const char *name, QWidget *field)
 {

@@ -9,7 +9,9 @@
 #include <functional>
 #include <utility>
 
-/// Shows the texts of a widget anew when the widget hears of another language. Owned by the widget.
+/**
+ * Shows the texts of a widget anew when the widget hears of another language. Owned by the widget.
+ */
 class LanguageFollower : public QObject
 {
 public:
@@ -32,8 +34,10 @@ private:
     std::function<void()> m_show;
 };
 
-/// Calls \a show now, and again in each new language while \a widget lives. What it sets is that
-/// way said once, and nothing that is kept in \a widget has to know of it.
+/**
+ * Calls @p show now, and again in each new language while @p widget lives. What it sets is that
+ * way said once, and nothing that is kept in @p widget has to know of it.
+ */
 inline void followLanguage(QWidget *widget, std::function<void()> show)
 {
     show();

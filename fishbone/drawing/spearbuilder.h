@@ -17,29 +17,37 @@ class SpearItem;
 SpearItem *makeSpear(const QAbstractItemModel &model, const QModelIndex &index, int direction,
                      double spearSize);
 
-/// Makes the spears that show the subjects of a model. Every function leaves alone what has a spear
-/// already, needs no recursion and touches each subject once.
+/**
+ * Makes the spears that show the subjects of a model. Every function leaves alone what has a spear
+ * already, needs no recursion and touches each subject once.
+ */
 class SpearBuilder
 {
 public:
-    /// The extra height of every spear that is made from scratch.
+    /** The extra height of every spear that is made from scratch. */
     static constexpr double spearSize = 20.0;
 
     explicit SpearBuilder(const FishModel &model);
 
-    /// The direction of a new spear in \a row below \a parent: 0 on even levels, on level 1 (the
-    /// main bones) 1 and -1 in turn, deeper down that of the spear two levels up.
+    /**
+     * The direction of a new spear in @p row below @p parent: 0 on even levels, on level 1 (the
+     * main bones) 1 and -1 in turn, deeper down that of the spear two levels up.
+     */
     static int directionFor(const SpearItem *parent, int level, int row);
 
-    /// The head of the diagram under \a root with its main bones; null without a subject. The
-    /// caller adds it to a scene.
+    /**
+     * The head of the diagram under @p root with its main bones; null without a subject. The
+     * caller adds it to a scene.
+     */
     SpearItem *buildHead(const QModelIndex &root) const;
-    /// Makes the missing spears of the children of \a index, which must have one itself.
+    /** Makes the missing spears of the children of @p index, which must have one itself. */
     void buildChildren(const QModelIndex &index) const;
-    /// Makes the missing spears of all descendants of \a index, which must have one itself.
+    /** Makes the missing spears of all descendants of @p index, which must have one itself. */
     void buildDescendants(const QModelIndex &index) const;
-    /// Makes new spears for \a index, standing on \a level in \a row below \a parent, and for all
-    /// its descendants, all contracted. A link of the top subject goes to \a head.
+    /**
+     * Makes new spears for @p index, standing on @p level in @p row below @p parent, and for all
+     * its descendants, all contracted. A link of the top subject goes to @p head.
+     */
     SpearItem *buildSubtree(const QModelIndex &index, int level, int row, SpearItem *parent,
                             SpearItem *head) const;
 
@@ -50,5 +58,5 @@ private:
     const FishModel &m_model;
 };
 
-/// Gives \a spear the icon of its subject's link, or none; an icon that is right already stays.
+/** Gives @p spear the icon of its subject's link, or none; an icon that is right already stays. */
 void updateLinkItem(SpearItem *spear);

@@ -10,7 +10,7 @@
 class QObject;
 class QTimer;
 
-/// Saves every so often.
+/** Saves every so often. */
 class Autosave
 {
     Q_DISABLE_COPY(Autosave)
@@ -18,15 +18,17 @@ class Autosave
 public:
     static constexpr int defaultInterval = 30000; ///< milliseconds
 
-    /// Calls \a save, on a timer that is a child of \a owner and lives as long, once start() was
-    /// called.
+    /**
+     * Calls @p save, on a timer that is a child of @p owner and lives as long, once start() was
+     * called.
+     */
     Autosave(QObject *owner, const std::function<void()> &save);
 
-    /// Begins to wait, anew when it waits already; nothing while the interval is 0.
+    /** Begins to wait, anew when it waits already; nothing while the interval is 0. */
     void start();
-    /// Milliseconds; 0, and whatever is less, for none. Begins to wait anew.
+    /** Milliseconds; 0, and whatever is less, for none. Begins to wait anew. */
     void setInterval(int ms);
-    /// That number.
+    /** That number. */
     int interval() const { return m_interval; }
 
 private:

@@ -14,7 +14,7 @@
 #include <fishbone/items/textitem.h>
 
 namespace {
-/// Moves the spears among \a unordered to the front of the result, in pre-order below \a head.
+/** Moves the spears among @p unordered to the front of the result, in pre-order below @p head. */
 QList<QGraphicsItem *> inDocumentOrder(const QList<QGraphicsItem *> &unordered, SpearItem *head)
 {
     QList<QGraphicsItem *> ordered;

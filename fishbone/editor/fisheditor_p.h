@@ -17,17 +17,17 @@
 #include <fishbone/editor/subjectmoves.h>
 #include <fishbone/editor/viewframing.h>
 
-/// The parts of an editor, which knows nothing but them. Each is made of the ones before it.
+/** The parts of an editor, which knows nothing but them. Each is made of the ones before it. */
 struct FISHBONE_NO_EXPORT FishEditor::Private
 {
     Q_DISABLE_COPY(Private)
 
-    /// Makes the view, which the editor's layout takes over.
+    /** Makes the view, which the editor's layout takes over. */
     explicit Private(FishEditor &editor);
-    /// The editor ends: so do the calls under way, and the drawing is taken down, unheard.
+    /** The editor ends: so do the calls under way, and the drawing is taken down, unheard. */
     void end();
 
-    /// Has the editor send what the parts tell.
+    /** Has the editor send what the parts tell. */
     void tellThrough(FishEditor &editor);
 
     UndoStack *const undoStack; ///< a child of the editor, as the view is

@@ -11,29 +11,35 @@
 
 class OnePass;
 
-/// The scene that holds the drawing of one diagram: the head spear is its only top-level item, all
-/// others are below it.
+/**
+ * The scene that holds the drawing of one diagram: the head spear is its only top-level item, all
+ * others are below it.
+ */
 class FISHBONE_EXPORT FishScene : public QGraphicsScene
 {
     Q_OBJECT
 
 public:
-    /// A scene that shows nothing.
+    /** A scene that shows nothing. */
     explicit FishScene(QObject *parent = nullptr);
     ~FishScene() override;
 
-    /// The first view that shows the scene, or null.
+    /** The first view that shows the scene, or null. */
     QGraphicsView *currentGraphicsView() const { return views().value(0); }
 
 public Q_SLOTS:
-    /// Thins the selection out, with the scene's signals blocked: a single selected item is
-    /// remembered; of several, the first is deselected when it is the remembered one, else the
-    /// last. Nothing in the library connects this.
+    /**
+     * Thins the selection out, with the scene's signals blocked: a single selected item is
+     * remembered; of several, the first is deselected when it is the remembered one, else the
+     * last. Nothing in the library connects this.
+     */
     void handleSelectionChanged();
 
 protected:
-    /// A picture of the scene begins: whatever is missing, such as the file of the global style, is
-    /// looked for once until drawForeground(), however many bones ask for it.
+    /**
+     * A picture of the scene begins: whatever is missing, such as the file of the global style, is
+     * looked for once until drawForeground(), however many bones ask for it.
+     */
     void drawBackground(QPainter *painter, const QRectF &rect) override;
     void drawForeground(QPainter *painter, const QRectF &rect) override; ///< the picture is drawn
 

@@ -107,9 +107,11 @@ bool GraphicsView::event(QEvent *event)
     return isHandled;
 }
 
-/// Runs a part of an event, and tells of the selection when it is through: the toolkit goes on
-/// using its items meanwhile. False, with the event accepted, when a listener has ended the view
-/// then.
+/**
+ * Runs a part of an event, and tells of the selection when it is through: the toolkit goes on
+ * using its items meanwhile. False, with the event accepted, when a listener has ended the view
+ * then.
+ */
 template <typename Part>
 bool GraphicsView::handle(QEvent *event, Part part)
 {

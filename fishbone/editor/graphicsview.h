@@ -16,46 +16,56 @@ class FishScene;
 class QMimeData;
 class TreeItem;
 
-/// The editor's view. Besides scrolling by hand and selecting by click it moves subjects: a left
-/// press fades the selected spears, moving the mouse marks the spear under the cursor as the target
-/// together with the row at which they would land, and the release asks the editor, through
-/// moveSpear(), to carry out the move. Drags from other views are shown and reported the same way
-/// through dropTo(). The wheel scrolls sideways and zooms with Ctrl; two fingers on a touchpad
-/// scroll both ways, a pinch zooms. A right click asks for the context menu.
-///
-/// Spears that die or are rebuilt while a button is held are forgotten. A dialog that opens
-/// meanwhile ends the move as a release over nothing does.
+/**
+ * The editor's view. Besides scrolling by hand and selecting by click it moves subjects: a left
+ * press fades the selected spears, moving the mouse marks the spear under the cursor as the target
+ * together with the row at which they would land, and the release asks the editor, through
+ * moveSpear(), to carry out the move. Drags from other views are shown and reported the same way
+ * through dropTo(). The wheel scrolls sideways and zooms with Ctrl; two fingers on a touchpad
+ * scroll both ways, a pinch zooms. A right click asks for the context menu.
+ *
+ * Spears that die or are rebuilt while a button is held are forgotten. A dialog that opens
+ * meanwhile ends the move as a release over nothing does.
+ */
 class FISHBONE_EXPORT GraphicsView : public QGraphicsView
 {
     Q_OBJECT
 
 public:
-    /// A view without a parent widget, for \a editor, which must outlive it.
+    /** A view without a parent widget, for @p editor, which must outlive it. */
     explicit GraphicsView(FishEditor *editor);
     ~GraphicsView() override;
 
-    /// The spear shown as the target of a move or drop; null when there is none.
+    /** The spear shown as the target of a move or drop; null when there is none. */
     SpearItem *linkedSpear() const;
 
-    /// The row below linkedSpear() at which \a moving would be inserted when released at \a pos
-    /// (viewport coordinates). \a moving may be null. 0 without a linked spear.
+    /**
+     * The row below linkedSpear() at which @p moving would be inserted when released at @p pos
+     * (viewport coordinates). @p moving may be null. 0 without a linked spear.
+     */
     int insertRow(const QPoint &pos, SpearItem *moving) const;
 
-    /// Ends a move with the mouse whose release will not come here, or shall not count: what was
-    /// moved goes back. Emits moveSpear() without a target; nothing while no button is down.
+    /**
+     * Ends a move with the mouse whose release will not come here, or shall not count: what was
+     * moved goes back. Emits moveSpear() without a target; nothing while no button is down.
+     */
     void abandonMove();
 
 Q_SIGNALS:
-    /// The context menu is wanted for \a item, a SpearItem, or for the canvas (null).
+    /** The context menu is wanted for @p item, a SpearItem, or for the canvas (null). */
     void rightClicked(void *item);
-    /// Moving subjects with the mouse has ended over \a target (invalid: over none that may take
-    /// them), where they would be inserted at \a row.
+    /**
+     * Moving subjects with the mouse has ended over @p target (invalid: over none that may take
+     * them), where they would be inserted at @p row.
+     */
     void moveSpear(const QPoint &pos, const QList<QGraphicsItem *> &items,
                    const QModelIndex &target, int row);
-    /// \a data was dropped on \a target; it would be inserted at \a row. The data is a copy that
-    /// lives until receivers with a queued connection have been called as well.
+    /**
+     * @p data was dropped on @p target; it would be inserted at @p row. The data is a copy that
+     * lives until receivers with a queued connection have been called as well.
+     */
     void dropTo(const QMimeData *data, const QModelIndex &target, int row);
-    /// Declared for the host; the view never emits it.
+    /** Declared for the host; the view never emits it. */
     void spearItemClicked(SpearItem *spear);
 
 protected:

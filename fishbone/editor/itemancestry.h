@@ -6,7 +6,7 @@
 #include <QGraphicsItem>
 #include <QSet>
 
-/// Whether an item above \a item, which may be null, is among \a items.
+/** Whether an item above @p item, which may be null, is among @p items. */
 inline bool hasAncestorIn(const QGraphicsItem *item, const QSet<const QGraphicsItem *> &items)
 {
     const QGraphicsItem *above = item ? item->parentItem() : nullptr;

@@ -8,8 +8,10 @@
 class QGraphicsView;
 class QRectF;
 
-/// How a view frames its scene: zoom value and rotation, and the matrix that they make. Who hears
-/// of them may end the view.
+/**
+ * How a view frames its scene: zoom value and rotation, and the matrix that they make. Who hears
+ * of them may end the view.
+ */
 class ViewFraming : public QObject
 {
     Q_OBJECT
@@ -28,35 +30,39 @@ public:
     int rotation() const { return m_rotation; } ///< degrees
     void setZoom(int value) { m_zoom = value; }
     void setRotation(int degrees) { m_rotation = degrees; }
-    /// Adds to the zoom value, up to what an int can hold.
+    /** Adds to the zoom value, up to what an int can hold. */
     void addZoom(long long steps);
 
-    /// Adds to the zoom value and tells; the view stays as it is.
+    /** Adds to the zoom value and tells; the view stays as it is. */
     void stepZoom(long long steps);
-    /// Sets the zoom value and applies it; told when \a tells says so and the value is another.
+    /** Sets the zoom value and applies it; told when @p tells says so and the value is another. */
     void zoomTo(int value, bool tells);
-    /// Likewise the rotation.
+    /** Likewise the rotation. */
     void rotateTo(int degrees, bool tells);
-    /// 1:1, with the scene's origin in view; told before it is applied.
+    /** 1:1, with the scene's origin in view; told before it is applied. */
     void showUnscaled();
-    /// Fits \a rect (scene units) and the margins into the view, without rotation; both are told
-    /// before they are applied. Nothing when there is no scale for it.
+    /**
+     * Fits @p rect (scene units) and the margins into the view, without rotation; both are told
+     * before they are applied. Nothing when there is no scale for it.
+     */
     void fit(const QRectF &rect);
 
-    /// Gives the view the matrix of both; one that no inverse can be had of leaves it as it was.
+    /** Gives the view the matrix of both; one that no inverse can be had of leaves it as it was. */
     void apply() const;
-    /// The scale at which \a rect (scene units) and the margins fill the view; 0 when there is
-    /// none, for an empty rectangle or in a small viewport.
+    /**
+     * The scale at which @p rect (scene units) and the margins fill the view; 0 when there is
+     * none, for an empty rectangle or in a small viewport.
+     */
     double scaleFor(const QRectF &rect) const;
-    /// The zoom value of \a scale, rounded towards 0.
+    /** The zoom value of @p scale, rounded towards 0. */
     static int zoomFor(double scale);
-    /// Shows \a rect at exactly \a scale, without rotation.
+    /** Shows @p rect at exactly @p scale, without rotation. */
     void show(const QRectF &rect, double scale) const;
 
 Q_SIGNALS:
-    /// The zoom value is \a value.
+    /** The zoom value is @p value. */
     void zoomChanged(int value);
-    /// The rotation is \a degrees.
+    /** The rotation is @p degrees. */
     void rotationChanged(int degrees);
 
 private:

@@ -8,16 +8,20 @@
 class QGraphicsItem;
 class QPointF;
 
-/// Shows a pointing hand over the scene's first view when \a item is the topmost item at
-/// \a scenePos, an arrow otherwise. Does nothing outside a scene with a view.
+/**
+ * Shows a pointing hand over the scene's first view when @p item is the topmost item at
+ * @p scenePos, an arrow otherwise. Does nothing outside a scene with a view.
+ */
 void showHoverCursor(const QGraphicsItem &item, const QPointF &scenePos);
 
-/// Shows an arrow over the viewport of the scene's first view, if there is one.
+/** Shows an arrow over the viewport of the scene's first view, if there is one. */
 void showArrowCursor(const QGraphicsItem &item);
 
-/// Held by a view while it hands a mouse move on to a scene in which every item accepts hover
-/// events: an item that gets the event then has nothing above it there, and showHoverCursor()
-/// need not search the scene a second time.
+/**
+ * Held by a view while it hands a mouse move on to a scene in which every item accepts hover
+ * events: an item that gets the event then has nothing above it there, and showHoverCursor()
+ * need not search the scene a second time.
+ */
 class HoverDispatch
 {
     Q_DISABLE_COPY(HoverDispatch)

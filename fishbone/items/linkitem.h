@@ -9,7 +9,7 @@
 
 class QUrl;
 
-/// The icon of a subject's link; a left press opens the link.
+/** The icon of a subject's link; a left press opens the link. */
 class FISHBONE_EXPORT LinkItem : public SvgItem
 {
     Q_OBJECT
@@ -17,25 +17,27 @@ class FISHBONE_EXPORT LinkItem : public SvgItem
 public:
     enum { Type = UserType + 3 };
 
-    /// An icon for \a url, without a parent; a spear that is given the icon becomes its parent.
+    /** An icon for @p url, without a parent; a spear that is given the icon becomes its parent. */
     explicit LinkItem(const QString &url);
 
     int type() const override { return Type; }
 
-    /// The link target as it was given.
+    /** The link target as it was given. */
     const QString &url() const { return m_url; }
-    /// Whether that is \a url, and not empty; quick for the text that the icon was made with.
+    /** Whether that is @p url, and not empty; quick for the text that the icon was made with. */
     bool leadsTo(const QString &url) const
     {
         return m_leadsSomewhere && (m_url.isSharedWith(url) || m_url == url);
     }
-    /// Shows the picture of a link, whatever was set meanwhile.
+    /** Shows the picture of a link, whatever was set meanwhile. */
     void updateSvgIcon();
 
-    /// Sets what opens links in this process, here and wherever else the library follows a link.
-    /// An empty function restores the desktop's own way.
+    /**
+     * Sets what opens links in this process, here and wherever else the library follows a link.
+     * An empty function restores the desktop's own way.
+     */
     static void setOpener(std::function<void(const QUrl &)> opener);
-    /// Opens \a url, parsed tolerantly, with the opener that was set.
+    /** Opens @p url, parsed tolerantly, with the opener that was set. */
     static void open(const QString &url);
 
 protected:

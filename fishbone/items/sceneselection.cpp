@@ -20,7 +20,7 @@ public:
     }
     ~SelectionState() override { known().remove(m_scene); }
 
-    /** The one of \a scene, made when there is none. */
+    /** The one of @p scene, made when there is none. */
     static SelectionState *of(QGraphicsScene *scene)
     {
         SelectionState *const state = known().value(scene);

@@ -68,7 +68,7 @@ QModelIndex SpearItem::modelIndex() const
     return m_model && m_treeItem ? m_model->indexFromItem(m_treeItem) : QModelIndex();
 }
 
-/// Makes \a item the subject without touching the item's own link.
+/** Makes @p item the subject without touching the item's own link. */
 void SpearItem::attachTreeItem(TreeItem *item)
 {
     TreeItem *const previous = m_treeItem;
@@ -77,7 +77,7 @@ void SpearItem::attachTreeItem(TreeItem *item)
         previous->setSpear(nullptr, QModelIndex());
 }
 
-/// The subject is gone or has another spear.
+/** The subject is gone or has another spear. */
 void SpearItem::forgetTreeItem()
 {
     m_treeItem = nullptr;
@@ -146,8 +146,10 @@ int SpearItem::shownLength(const SpearStyle &style) const
 }
 
 namespace {
-/// The part of \a text before the first "(" that an ASCII digit follows: a head's title without
-/// the counts that the model appends.
+/**
+ * The part of @p text before the first "(" that an ASCII digit follows: a head's title without
+ * the counts that the model appends.
+ */
 QString withoutCounts(const QString &text)
 {
     for (int i = text.indexOf(QLatin1Char('(')); i >= 0;

@@ -17,8 +17,10 @@ void SpearItem::noteStandingOut()
     changeStandingOut(isOut ? 1 : -1);
 }
 
-/// One more or one less of this spear and its children stands out. Goes up only as far as that
-/// makes a difference, so that selecting all takes linear time.
+/**
+ * One more or one less of this spear and its children stands out. Goes up only as far as that
+ * makes a difference, so that selecting all takes linear time.
+ */
 void SpearItem::changeStandingOut(int by)
 {
     for (SpearItem *spear = this; spear; spear = spear->parentSpear()) {

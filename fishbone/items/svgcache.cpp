@@ -36,8 +36,10 @@ struct SvgCache
     QHash<PictureKey, QPixmap> pictures;
 };
 
-/// The cache of the running application; emptied when another application object took over, since
-/// the renderers went with the previous one.
+/**
+ * The cache of the running application; emptied when another application object took over, since
+ * the renderers went with the previous one.
+ */
 SvgCache &currentCache()
 {
     static SvgCache cache;

@@ -10,7 +10,7 @@ class QMenu;
 class QSignalMapper;
 class SpearItem;
 
-/// The icon of a subject's task status and progress.
+/** The icon of a subject's task status and progress. */
 class FISHBONE_EXPORT TaskStatusItem : public SvgItem
 {
     Q_OBJECT
@@ -20,25 +20,25 @@ public:
 
     int type() const override { return Type; }
 
-    /// An icon for \a status and \a progress (percent), a child of \a spear.
+    /** An icon for @p status and @p progress (percent), a child of @p spear. */
     TaskStatusItem(SpearItem *spear, TaskStatus status, int progress);
 
-    /// The status shown.
+    /** The status shown. */
     TaskStatus status() const { return m_info.status(); }
-    /// The progress shown, in percent.
+    /** The progress shown, in percent. */
     int progress() const { return m_info.progress(); }
 
-    /// Shows \a status; a value that is no status changes nothing.
+    /** Shows @p status; a value that is no status changes nothing. */
     void setStatus(TaskStatus status);
-    /// Shows \a progress; a value outside 0 to 100 changes nothing.
+    /** Shows @p progress; a value outside 0 to 100 changes nothing. */
     void setProgress(int progress);
-    /// Shows a subject's stored numbers as they are: a status that is none shows no icon.
+    /** Shows a subject's stored numbers as they are: a status that is none shows no icon. */
     void setTask(int status, int progress);
 
-    /// Brings the picture in line with status and progress; "unknown" shows none.
+    /** Brings the picture in line with status and progress; "unknown" shows none. */
     void updateStatusIcon();
 
-    /// An extension point: adds nothing to the menu.
+    /** An extension point: adds nothing to the menu. */
     void createPopMenu(QMenu *menu, QSignalMapper *mapper);
 
 protected:

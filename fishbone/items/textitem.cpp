@@ -172,7 +172,7 @@ void TextItem::paint(QPainter *painter, const QStyleOptionGraphicsItem *option, 
         paintStroke(painter);
 }
 
-/** Whether the text is high enough to be told from a line where \a painter draws it. */
+/** Whether the text is high enough to be told from a line where @p painter draws it. */
 bool TextItem::isReadable(const QPainter &painter) const
 {
     if (painter.paintEngine()->type() != QPaintEngine::Raster)
@@ -191,7 +191,7 @@ void TextItem::paintStroke(QPainter *painter) const
         QRectF(box.left(), box.top() + box.height() / 3, box.width(), box.height() / 3), color);
 }
 
-/// Applied before the next paint, which must find nothing to change.
+/** Applied before the next paint, which must find nothing to change. */
 void TextItem::followInteraction()
 {
     const SpearStyle::SpearState state = stateOf(m_hovered, isSelected());

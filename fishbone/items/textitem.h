@@ -14,8 +14,10 @@
 
 class SpearItem;
 
-/// The text box of a spear. It looks as its spear does: a selected, hovered or linked spear has its
-/// box filled and framed, otherwise only the text shows.
+/**
+ * The text box of a spear. It looks as its spear does: a selected, hovered or linked spear has its
+ * box filled and framed, otherwise only the text shows.
+ */
 class FISHBONE_EXPORT TextItem : public QGraphicsTextItem
 {
     Q_OBJECT
@@ -23,49 +25,55 @@ class FISHBONE_EXPORT TextItem : public QGraphicsTextItem
 public:
     enum { Type = UserType + 4 };
 
-    /// A box that shows \a text; the parent item, when it is a SpearItem, gives the looks.
+    /** A box that shows @p text; the parent item, when it is a SpearItem, gives the looks. */
     explicit TextItem(const QString &text, QGraphicsItem *parent = nullptr);
 
     int type() const override { return Type; }
 
-    /// Width of the laid-out text, margins included.
+    /** Width of the laid-out text, margins included. */
     qreal textWidth() const { return textSize().width(); }
-    /// Height of the laid-out text, margins included.
+    /** Height of the laid-out text, margins included. */
     qreal textHeight() const { return textSize().height(); }
-    /// Size of the laid-out text, margins included.
+    /** Size of the laid-out text, margins included. */
     QSizeF textSize() const { return m_isTouched ? document()->size() : m_size; }
 
-    /// Has the processor fetch what the toolkit keeps of the item.
+    /** Has the processor fetch what the toolkit keeps of the item. */
     void prefetchInsides() const { prefetch(QGraphicsItem::d_ptr.data(), 256); }
-    /// And what it keeps of those who hear of the position.
+    /** And what it keeps of those who hear of the position. */
     void prefetchListeners() const { prefetch(QObject::d_ptr.data(), 128); }
-    /// Whether showText() with the same arguments would change anything.
+    /** Whether showText() with the same arguments would change anything. */
     bool shows(const QFont &font, QStringView text) const;
-    /// The same, without a look at the letters of a text that is the one given last.
+    /** The same, without a look at the letters of a text that is the one given last. */
     bool shows(const QFont &font, const QString &text) const;
-    /// Shows \a text in \a font; what is shown already is not laid out again.
+    /** Shows @p text in @p font; what is shown already is not laid out again. */
     void showText(const QFont &font, const QString &text);
-    /// Shows what showText() was given last, when anybody has changed the document since.
+    /** Shows what showText() was given last, when anybody has changed the document since. */
     void restoreText();
-    /// Shows the text in \a color; the colour shown last schedules no repaint. Whatever other
-    /// colour the text was given is found when it is painted.
+    /**
+     * Shows the text in @p color; the colour shown last schedules no repaint. Whatever other
+     * colour the text was given is found when it is painted.
+     */
     void showColor(const QColor &color);
 
-    /// What the box itself gives cause for: ssHovered or ssSelected as it was at its last event or
-    /// paint, else ssNormal. The mouse may be over the box and not count as being over the spear.
+    /**
+     * What the box itself gives cause for: ssHovered or ssSelected as it was at its last event or
+     * paint, else ssNormal. The mouse may be over the box and not count as being over the spear.
+     */
     SpearStyle::SpearState ownState() const { return m_ownState; }
 
-    /// As the look of the parent spear has it.
+    /** As the look of the parent spear has it. */
     QRectF boundingRect() const override;
-    /// The same.
+    /** The same. */
     QPainterPath shape() const override;
-    /// Whether that holds \a point.
+    /** Whether that holds @p point. */
     bool contains(const QPointF &point) const override;
-    /// The box is about to become another one. For SpearItem.
+    /** The box is about to become another one. For SpearItem. */
     void boxChanges();
 
-    /// Paints the box of the parent spear's state or its own, the stronger one, then the text.
-    /// Schedules no repaint when font, colour and text are those of the state already.
+    /**
+     * Paints the box of the parent spear's state or its own, the stronger one, then the text.
+     * Schedules no repaint when font, colour and text are those of the state already.
+     */
     void paint(QPainter *painter, const QStyleOptionGraphicsItem *option,
                QWidget *widget = nullptr) override;
 

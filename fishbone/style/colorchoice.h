@@ -7,8 +7,10 @@
 
 #include <QColorDialog>
 
-/// Lets the user choose a colour, transparency included, starting on \a current; nothing when the
-/// dialog is cancelled.
+/**
+ * Lets the user choose a colour, transparency included, starting on @p current; nothing when the
+ * dialog is cancelled.
+ */
 inline std::optional<QColor> chooseColor(const QColor &current, QWidget *parent)
 {
     auto *const dialog = new QColorDialog(parent);

@@ -3,5 +3,5 @@
 
 #pragma once
 
-/// How often this process has tried to open the file of the global style.
+/** How often this process has tried to open the file of the global style. */
 int globalStyleLookupCount();

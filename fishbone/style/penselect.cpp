@@ -46,7 +46,7 @@ constexpr Choice joinStyles[] = {
     {QT_TRANSLATE_NOOP("PenSelect", "RoundJoin"), Qt::RoundJoin},
 };
 
-/// Fills a combo box and lets it start on a value, on no item when it does not offer the value.
+/** Fills a combo box and lets it start on a value, on no item when it does not offer the value. */
 template <std::size_t size>
 void fill(QComboBox *combo, const Choice (&choices)[size], int current)
 {
@@ -61,14 +61,16 @@ void fill(QComboBox *combo, const Choice (&choices)[size], int current)
     });
 }
 
-/// Hands the value of the chosen item to a slot of the dialog; its index would mean nothing there.
+/**
+ * Hands the value of the chosen item to a slot of the dialog; its index would mean nothing there.
+ */
 void connectValue(QComboBox *combo, PenSelect *dialog, void (PenSelect::*slot)(int))
 {
     QObject::connect(combo, QOverload<int>::of(&QComboBox::currentIndexChanged), dialog,
                      [combo, dialog, slot] { (dialog->*slot)(combo->currentData().toInt()); });
 }
 
-/// A line with corners, so that caps, joins and dashes can all be seen.
+/** A line with corners, so that caps, joins and dashes can all be seen. */
 QPolygonF sampleLine(const QSizeF &area)
 {
     const qreal middle = area.height() / 2;

@@ -23,7 +23,7 @@ class FISHBONE_EXPORT PenSelect : public QDialog
     Q_OBJECT
 
 public:
-    /** Makes a dialog that starts on \a pen. */
+    /** Makes a dialog that starts on @p pen. */
     explicit PenSelect(const QPen &pen, QWidget *parent = nullptr);
     ~PenSelect() override;
 
@@ -31,17 +31,17 @@ public:
     QPen selectedPen() const;
 
 public Q_SLOTS:
-    /** Sets the width, in pixels, to the integer that \a text holds; does nothing if it holds none.
+    /** Sets the width, in pixels, to the integer that @p text holds; does nothing if it holds none.
      */
     void widthChanged(const QString &text);
 
-    /** Sets the line style to the \c Qt::PenStyle value \a style; an unknown value is no pen. */
+    /** Sets the line style to the @c Qt::PenStyle value @p style; an unknown value is no pen. */
     void styleChanged(int style);
 
-    /** Sets the cap to the \c Qt::PenCapStyle value \a style; an unknown value is a flat cap. */
+    /** Sets the cap to the @c Qt::PenCapStyle value @p style; an unknown value is a flat cap. */
     void capStyleChanged(int style);
 
-    /** Sets the join to the \c Qt::PenJoinStyle value \a style; an unknown value is a miter join.
+    /** Sets the join to the @c Qt::PenJoinStyle value @p style; an unknown value is a miter join.
      */
     void joinStyleChanged(int style);
 

@@ -5,7 +5,7 @@
 
 #include <QPixmap>
 
-/// A white pixmap of \a size in device-independent pixels, sharp on a screen of that \a ratio.
+/** A white pixmap of @p size in device-independent pixels, sharp on a screen of that @p ratio. */
 inline QPixmap previewPixmap(const QSize &size, qreal ratio)
 {
     QPixmap pixmap(size * ratio);

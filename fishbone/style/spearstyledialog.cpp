@@ -29,8 +29,10 @@
 
 namespace {
 
-/// The preview text as a bone with that many characters would cut it, never through a surrogate
-/// pair, and marked as cut.
+/**
+ * The preview text as a bone with that many characters would cut it, never through a surrogate
+ * pair, and marked as cut.
+ */
 QString shortened(const QString &text, int count)
 {
     if (count < 1 || count >= text.length())
@@ -39,8 +41,10 @@ QString shortened(const QString &text, int count)
     return text.left(length) + QLatin1String("...");
 }
 
-/// The font with the family that it is really drawn with. A font dialog starts on any family at all
-/// when the one it is given is not installed, as generic ones are not.
+/**
+ * The font with the family that it is really drawn with. A font dialog starts on any family at all
+ * when the one it is given is not installed, as generic ones are not.
+ */
 QFont resolved(QFont font)
 {
     font.setFamily(QFontInfo(font).family());

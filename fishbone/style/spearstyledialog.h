@@ -26,7 +26,7 @@ class FISHBONE_EXPORT SpearStyleDialog : public QDialog
     Q_OBJECT
 
 public:
-    /** Makes a dialog for \a style; \a modal says whether it blocks other windows once shown. */
+    /** Makes a dialog for @p style; @p modal says whether it blocks other windows once shown. */
     explicit SpearStyleDialog(SpearStyle &style, bool modal = true, QWidget *parent = nullptr);
 
     /** A pointer would silently become the flag. */
@@ -46,7 +46,7 @@ public Q_SLOTS:
     /** Lets the user edit the border pen of the chosen state. */
     void openBroderPen();
 
-    /** Sets the number of characters to the decimal integer \a text; does nothing if it is none. */
+    /** Sets the number of characters to the decimal integer @p text; does nothing if it is none. */
     void textCountChanged(const QString &text);
 
     /** Sets the style's flag. */

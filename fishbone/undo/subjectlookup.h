@@ -70,7 +70,7 @@ QModelIndex indexFromUuid(const QAbstractItemModel *model, const QString &uuid, 
  * "children".
  */
 QVector<QJsonObject> snapshotSubjects(const QJsonObject &objects);
-/** Keys for the subjects of a snapshot, which are the first of \a subjects in their order. */
+/** Keys for the subjects of a snapshot, which are the first of @p subjects in their order. */
 QVector<SubjectKey> snapshotKeys(const QJsonObject &objects, const QList<TreeItem *> &subjects);
 
 /**

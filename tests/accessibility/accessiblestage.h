@@ -15,7 +15,7 @@ inline QString document()
     return QStringLiteral("Late[People[Few[Ill],New],Machines,Material[Rust]]");
 }
 
-/// The names of an interface and all below it, "Late[People,…]".
+/** The names of an interface and all below it, "Late[People,…]". */
 inline QString tree(const QAccessibleInterface &top)
 {
     QStringList children;
@@ -38,7 +38,7 @@ struct Fixture : EditorFixture
         return QAccessible::queryAccessibleInterface(editor.view());
     }
     QAccessibleInterface *head() const { return view()->child(0); }
-    /// The entry of the bone of that title, which has to be drawn.
+    /** The entry of the bone of that title, which has to be drawn. */
     QAccessibleInterface *bone(const char *title) const
     {
         return AccessibleDiagram::of(editor.view())->bone(spear(QLatin1String(title)));

@@ -18,14 +18,14 @@ const QString document = QStringLiteral("Late[People[Training],Machines]");
 const QString people = QStringLiteral("People");
 const QString machines = QStringLiteral("Machines");
 
-/// An entry that nobody but the test owns.
+/** An entry that nobody but the test owns. */
 class Bone : public AccessibleBone
 {
 public:
     using AccessibleBone::AccessibleBone;
 };
 
-/// An editor on the heap, which somebody may end.
+/** An editor on the heap, which somebody may end. */
 struct EndingEditor
 {
     EndingEditor()
@@ -40,7 +40,7 @@ struct EndingEditor
     {
         return AccessibleDiagram::of(editor->view())->bone(spear(title))->actionInterface();
     }
-    /// Ends it with the next change of the selection.
+    /** Ends it with the next change of the selection. */
     void endWithTheSelection()
     {
         QObject::connect(editor.data(), &FishEditor::copyAvailable, editor.data(),
@@ -52,7 +52,7 @@ struct EndingEditor
 };
 } // namespace
 
-/// The entry of one bone, when it is asked at unusual moments.
+/** The entry of one bone, when it is asked at unusual moments. */
 class TestAccessibleBone : public QObject
 {
     Q_OBJECT

@@ -16,7 +16,7 @@
 
 using namespace TestSupport;
 
-/// Entries of bones that come and go.
+/** Entries of bones that come and go. */
 class TestAccessibleDiagramEnding : public QObject
 {
     Q_OBJECT

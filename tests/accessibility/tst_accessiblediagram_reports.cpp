@@ -18,7 +18,7 @@ using namespace TestSupport;
 
 namespace {
 
-/// What was reported since the last take(): "Selection People".
+/** What was reported since the last take(): "Selection People". */
 class Events
 {
     Q_DISABLE_COPY(Events)
@@ -70,7 +70,7 @@ private:
     }
 };
 
-/// Asks for the interface of each view that gets a parent, as assistive technology does.
+/** Asks for the interface of each view that gets a parent, as assistive technology does. */
 class Asker : public QObject
 {
 public:
@@ -91,7 +91,7 @@ public:
 
 } // namespace
 
-/// What assistive technology is told.
+/** What assistive technology is told. */
 class TestAccessibleDiagramReports : public QObject
 {
     Q_OBJECT

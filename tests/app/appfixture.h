@@ -29,8 +29,10 @@
 #include <QTimer>
 #include <QtTest>
 
-/// The program's window with the small diagram "Late": bones "People" (with "Too few" (with
-/// "Illness") and "Too new"), "Machines" and "Material" (with "Rust").
+/**
+ * The program's window with the small diagram "Late": bones "People" (with "Too few" (with
+ * "Illness") and "Too new"), "Machines" and "Material" (with "Rust").
+ */
 class AppFixture
 {
     Q_DISABLE_COPY(AppFixture)
@@ -74,7 +76,7 @@ public:
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
 
-    /// Lets the window answer what has happened.
+    /** Lets the window answer what has happened. */
     static void settle()
     {
         for (int i = 0; i < 3; ++i) {
@@ -93,7 +95,7 @@ public:
         return window.findChild<QAction *>(QLatin1String(name));
     }
 
-    /// Triggers an enabled action.
+    /** Triggers an enabled action. */
     void trigger(const char *name)
     {
         QAction *const chosen = action(name);
@@ -103,7 +105,7 @@ public:
         settle();
     }
 
-    /// The widget of that name; of those that every tab has, the one of the current tab.
+    /** The widget of that name; of those that every tab has, the one of the current tab. */
     template <typename Widget>
     Widget *widget(const char *name) const
     {
@@ -119,17 +121,17 @@ public:
         return all.value(0);
     }
 
-    /// The number of open documents.
+    /** The number of open documents. */
     int tabCount() const { return window.tabs()->tabs().size(); }
 
-    /// Shows the document in the tab at \a position.
+    /** Shows the document in the tab at @p position. */
     void showTab(int position)
     {
         window.tabs()->setCurrent(window.tabs()->tabs().at(position));
         settle();
     }
 
-    /// The subject of that title; invalid when there is none.
+    /** The subject of that title; invalid when there is none. */
     QModelIndex find(const char *title) const
     {
         const QModelIndexList found = window.model()->searchModelIndexes(QString::fromUtf8(title));
@@ -150,7 +152,7 @@ public:
 
     FishInfo *document() const { return window.session()->document(); }
 
-    /// The shown document as text: "Late[People[Too few[Illness],Too new],…]".
+    /** The shown document as text: "Late[People[Too few[Illness],Too new],…]". */
     QString text() const { return textOf(document()->treeItem()->childAtIndex(0)); }
 
     static QString textOf(const TreeItem *item)
@@ -163,7 +165,7 @@ public:
                    : QStringLiteral("%1[%2]").arg(item->title(), children.join(QLatin1Char(',')));
     }
 
-    /// The titles of the selected spears, in document order.
+    /** The titles of the selected spears, in document order. */
     QStringList selectedInDrawing() const
     {
         QStringList titles;
@@ -185,7 +187,7 @@ public:
     }
 
 private:
-    /// Closes a dialog that nobody answers, so that a test fails instead of hanging.
+    /** Closes a dialog that nobody answers, so that a test fails instead of hanging. */
     void closeForgotten()
     {
         QWidget *const modal = QApplication::activeModalWidget();

@@ -10,10 +10,10 @@
 
 #include <functional>
 
-/// What a TestSupport::ModalDriver does with common dialogs.
+/** What a TestSupport::ModalDriver does with common dialogs. */
 namespace DialogAnswers {
 
-/// Chooses the file \a path.
+/** Chooses the file @p path. */
 inline std::function<void(QFileDialog &)> enter(const QString &path)
 {
     return [path](QFileDialog &dialog) {
@@ -22,7 +22,7 @@ inline std::function<void(QFileDialog &)> enter(const QString &path)
     };
 }
 
-/// Presses \a button.
+/** Presses @p button. */
 inline std::function<void(QMessageBox &)> press(QMessageBox::StandardButton button)
 {
     return [button](QMessageBox &box) { box.button(button)->click(); };

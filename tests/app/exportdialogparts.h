@@ -31,10 +31,10 @@
 
 #include <memory>
 
-/// What tests of the dialog that exports a picture do with it.
+/** What tests of the dialog that exports a picture do with it. */
 namespace ExportDialogParts {
 
-/// Begins each test with the classic look and nothing remembered.
+/** Begins each test with the classic look and nothing remembered. */
 inline void forget()
 {
     QDir(RecoveryStore::folder()).removeRecursively();
@@ -50,7 +50,7 @@ Field *field(const QDialog &dialog, const char *name)
     return dialog.findChild<Field *>(QLatin1String(name));
 }
 
-/// Makes the next keys go to \a field.
+/** Makes the next keys go to @p field. */
 inline void focus(QWidget *field)
 {
     field->window()->activateWindow();
@@ -58,7 +58,7 @@ inline void focus(QWidget *field)
     field->setFocus();
 }
 
-/// Enters \a text as a user does, and leaves the field.
+/** Enters @p text as a user does, and leaves the field. */
 inline void type(QAbstractSpinBox *box, const char *text)
 {
     focus(box);
@@ -75,7 +75,7 @@ inline void chooseEntry(QComboBox *box, int row)
         QTest::keyClick(box, Qt::Key_Down);
 }
 
-/// The titles of the bones that the window shows.
+/** The titles of the bones that the window shows. */
 inline QStringList visibleTitles(const AppFixture &app)
 {
     QStringList titles;
@@ -89,7 +89,7 @@ inline QStringList visibleTitles(const AppFixture &app)
     return titles;
 }
 
-/// What a picture of the classic drawing covers: all but the buttons.
+/** What a picture of the classic drawing covers: all but the buttons. */
 inline QRectF coveredBy(const AppFixture &app)
 {
     QRectF covered;

@@ -8,8 +8,10 @@
 
 #include <QPainter>
 
-/// What covers 460 x 160, which in the classic look makes a picture of 500 x 200 with its margin;
-/// twice as wide with all levels.
+/**
+ * What covers 460 x 160, which in the classic look makes a picture of 500 x 200 with its margin;
+ * twice as wide with all levels.
+ */
 inline ExportDialog::Subject pictureSubject(DiagramLook::Kind look = DiagramLook::Classic)
 {
     DiagramView view;

@@ -10,7 +10,7 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
-/// Runs the real program, with a bare environment and a time limit.
+/** Runs the real program, with a bare environment and a time limit. */
 namespace ProgramRunner {
 
 constexpr int timeLimit = 30000; ///< milliseconds that the program may take for anything
@@ -118,7 +118,9 @@ inline Outcome runBesideServer(const QStringList &arguments, const QProcessEnvir
     return outcome;
 }
 
-/// Fails the test unless a run was refused for its arguments, in one line that has all \a mentions.
+/**
+ * Fails the test unless a run was refused for its arguments, in one line that has all @p mentions.
+ */
 inline void verifyUsageError(const Outcome &outcome, const QStringList &mentions)
 {
     QCOMPARE(outcome.code, 2);
@@ -129,7 +131,7 @@ inline void verifyUsageError(const Outcome &outcome, const QStringList &mentions
         QVERIFY2(outcome.err.contains(mention), qPrintable(outcome.err));
 }
 
-/// A folder with a diagram in it, and room for a picture.
+/** A folder with a diagram in it, and room for a picture. */
 class Folder
 {
 public:

@@ -23,7 +23,7 @@ QByteArray contentOf(const QString &fileName)
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("unreadable");
 }
 
-/// No file of this process can grow beyond a size while this lives, as on a full disk.
+/** No file of this process can grow beyond a size while this lives, as on a full disk. */
 class FullDisk
 {
     Q_DISABLE_COPY(FullDisk)
@@ -43,8 +43,10 @@ private:
     rlimit m_before{};
 };
 
-/// Keeps this process from making files in a folder while it lives, but not from writing a file
-/// that is in there. The superuser, whom nothing keeps, becomes nobody meanwhile.
+/**
+ * Keeps this process from making files in a folder while it lives, but not from writing a file
+ * that is in there. The superuser, whom nothing keeps, becomes nobody meanwhile.
+ */
 class LockedFolder
 {
     Q_DISABLE_COPY(LockedFolder)

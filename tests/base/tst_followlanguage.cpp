@@ -8,7 +8,7 @@
 
 #include <memory>
 
-/// Widgets that hear of another language.
+/** Widgets that hear of another language. */
 class TestFollowLanguage : public QObject
 {
     Q_OBJECT

@@ -6,7 +6,7 @@
 
 #include <QtTest>
 
-/// Names that look like markup.
+/** Names that look like markup. */
 class TestLiteralText : public QObject
 {
     Q_OBJECT

@@ -6,7 +6,7 @@
 
 #include <QtTest>
 
-/// Passes in which what is missing is looked for once.
+/** Passes in which what is missing is looked for once. */
 class TestOnePass : public QObject
 {
     Q_OBJECT

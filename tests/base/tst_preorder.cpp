@@ -21,7 +21,7 @@ const std::vector<Node *> &childrenOf(const Node &node)
     return node.below;
 }
 
-/// a[b[c,d],e]
+/** a[b[c,d],e] */
 struct Tree
 {
     Node c{QStringLiteral("c"), {}};
@@ -33,7 +33,7 @@ struct Tree
 
 } // namespace
 
-/// The one walk over trees.
+/** The one walk over trees. */
 class TestPreorder : public QObject
 {
     Q_OBJECT

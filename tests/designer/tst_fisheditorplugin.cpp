@@ -13,7 +13,7 @@
 
 #include <memory>
 
-/// The plugin as Qt Designer meets it: a file that is loaded.
+/** The plugin as Qt Designer meets it: a file that is loaded. */
 class tst_FishEditorPlugin : public QObject
 {
     Q_OBJECT

@@ -11,16 +11,16 @@
 #include <QPushButton>
 #include <QStandardItemModel>
 
-/// The parts of the find dialog, and what it searches, as its tests use them.
+/** The parts of the find dialog, and what it searches, as its tests use them. */
 namespace ReplaceFindParts {
 
-/// A model that counts how often it is searched and notes which texts are read from it.
+/** A model that counts how often it is searched and notes which texts are read from it. */
 class RecordingModel : public QStandardItemModel
 {
 public:
     using QStandardItemModel::QStandardItemModel;
 
-    /// A search begins by asking how many documents there are.
+    /** A search begins by asking how many documents there are. */
     int rowCount(const QModelIndex &parent = QModelIndex()) const override
     {
         m_searches += parent.isValid() ? 0 : 1;
@@ -48,7 +48,7 @@ inline QList<QStandardItem *> row(const char *title, const char *uuid, const cha
     return items;
 }
 
-/// Two documents: Effect[Man[Training, man power], Machine] and Other[Manual].
+/** Two documents: Effect[Man[Training, man power], Machine] and Other[Manual]. */
 inline void fill(QStandardItemModel &model)
 {
     model.appendRow(row("Effect", "{head-01}", "100", ""));
@@ -112,7 +112,7 @@ inline QString titles(const QModelIndexList &indexes)
     return texts.join(QLatin1Char('|'));
 }
 
-/// Everything a model holds, to see that it has not changed.
+/** Everything a model holds, to see that it has not changed. */
 inline QString content(const QAbstractItemModel &model)
 {
     QStringList texts;

@@ -20,7 +20,7 @@ Q_DECLARE_METATYPE(Entry)
 
 namespace {
 
-/// The three ways in, each with its title and history file.
+/** The three ways in, each with its title and history file. */
 void addEntryPoints()
 {
     QTest::addColumn<Entry>("entry");

@@ -10,11 +10,13 @@
 #include <QFile>
 #include <QTemporaryDir>
 
-/// The parts of the URL dialog and of its history files, as its tests use them.
+/** The parts of the URL dialog and of its history files, as its tests use them. */
 namespace UrlDialogParts {
 
-/// A fresh working folder as long as it lives, since relative names of history files count from
-/// there.
+/**
+ * A fresh working folder as long as it lives, since relative names of history files count from
+ * there.
+ */
 class WorkingFolder
 {
     Q_DISABLE_COPY(WorkingFolder)
@@ -29,7 +31,7 @@ public:
     }
     QString filePath(const QString &fileName) const { return m_folder.filePath(fileName); }
 
-    /// Everything there is in it.
+    /** Everything there is in it. */
     QStringList entries() const
     {
         return QDir(m_folder.path())
@@ -46,7 +48,7 @@ inline QComboBox *combo(const URLDialog &dialog)
     return dialog.findChild<QComboBox *>();
 }
 
-/// The remembered URLs, separated by "|".
+/** The remembered URLs, separated by "|". */
 inline QString entries(const URLDialog &dialog)
 {
     QStringList texts;

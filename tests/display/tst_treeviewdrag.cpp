@@ -19,7 +19,7 @@ using namespace TestSupport;
 
 namespace {
 
-/// Lets a view drag subjects, as the model itself does not.
+/** Lets a view drag subjects, as the model itself does not. */
 class DraggableProxy : public QIdentityProxyModel
 {
 public:
@@ -29,7 +29,7 @@ public:
     }
 };
 
-/// A model whose subjects may be dragged.
+/** A model whose subjects may be dragged. */
 class DraggableModel : public FishModel
 {
 public:
@@ -45,7 +45,7 @@ public:
     bool m_offersMoves = false;
 };
 
-/// A tree view beside an editor, in a window on the screen.
+/** A tree view beside an editor, in a window on the screen. */
 class Window : public QWidget
 {
 public:
@@ -76,7 +76,7 @@ public:
         return true;
     }
 
-    /// Where the row of that title is on the screen.
+    /** Where the row of that title is on the screen. */
     QPoint inTree(const QString &title) const
     {
         const QModelIndexList found =
@@ -84,7 +84,7 @@ public:
                                   Qt::MatchExactly | Qt::MatchRecursive);
         return m_tree.viewport()->mapToGlobal(m_tree.visualRect(found.value(0)).center());
     }
-    /// Where its bone is, in the outer half, where only that bone is.
+    /** Where its bone is, in the outer half, where only that bone is. */
     QPoint inEditor(const QString &title) const
     {
         const SpearItem *const spear = nodeTitled(m_model, title)->spear();
@@ -104,8 +104,10 @@ public:
     FishEditor m_editor;
 };
 
-/// Presses at one point of the screen and releases at another one, with a key held down; as an
-/// X server tells its clients, step by step.
+/**
+ * Presses at one point of the screen and releases at another one, with a key held down; as an
+ * X server tells its clients, step by step.
+ */
 bool drag(const QPoint &from, const QPoint &to, const QString &key)
 {
     QStringList steps;
@@ -132,7 +134,7 @@ bool drag(const QPoint &from, const QPoint &to, const QString &key)
 
 } // namespace
 
-/// Drags from a plain tree view into the drawing, with real events of a real display.
+/** Drags from a plain tree view into the drawing, with real events of a real display. */
 class TestTreeViewDrag : public QObject
 {
     Q_OBJECT
@@ -184,7 +186,7 @@ void TestTreeViewDrag::shouldLoseNothing()
     QCOMPARE(removed.count(), 0);
 }
 
-/// What the drags above are safe from: so they would show it.
+/** What the drags above are safe from: so they would show it. */
 void TestTreeViewDrag::shouldLoseRowsThatTheModelOffersToMove()
 {
     Window window;

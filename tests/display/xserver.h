@@ -7,7 +7,7 @@
 #include <QProcess>
 #include <QtTest>
 
-/// An X server without a screen of its own, for one test program. It ends with this.
+/** An X server without a screen of its own, for one test program. It ends with this. */
 class XServer
 {
     Q_DISABLE_COPY(XServer)
@@ -34,7 +34,7 @@ public:
         m_server.waitForFinished();
     }
 
-    /// What the server's clients call it; empty when it does not run.
+    /** What the server's clients call it; empty when it does not run. */
     QByteArray display() const { return m_display.isEmpty() ? m_display : ':' + m_display; }
 
 private:
@@ -42,7 +42,7 @@ private:
     QByteArray m_display;
 };
 
-/// Runs the test of a class on an X server of its own.
+/** Runs the test of a class on an X server of its own. */
 template <typename Test>
 int runOnXServer(int argc, char **argv)
 {

@@ -15,7 +15,7 @@
 #include <tests/support/editorfixture.h>
 #include <tests/support/pictures.h>
 
-/// An editor in the clear look.
+/** An editor in the clear look. */
 namespace ClearFishes {
 using namespace TestSupport;
 

@@ -15,7 +15,7 @@
 #include <map>
 #include <vector>
 
-/// Finds what is wrong in a layout, on its geometry alone.
+/** Finds what is wrong in a layout, on its geometry alone. */
 class ClearGeometry
 {
 public:
@@ -27,7 +27,7 @@ public:
             collect(index);
     }
 
-    /// What is wrong, a line each; none when all is well.
+    /** What is wrong, a line each; none when all is well. */
     QStringList faults()
     {
         checkPairs();
@@ -38,7 +38,7 @@ public:
         return m_faults;
     }
 
-    /// Whether @p line passes through @p rect, touching left out.
+    /** Whether @p line passes through @p rect, touching left out. */
     static bool crosses(const QLineF &line, const QRectF &rect)
     {
         const QRectF inner = rect.adjusted(0.01, 0.01, -0.01, -0.01);
@@ -105,7 +105,7 @@ private:
             put(bone.box, "box");
     }
 
-    /// The parts in squares of the plane, so that only neighbours are compared.
+    /** The parts in squares of the plane, so that only neighbours are compared. */
     template <typename Visit>
     void forEachNear(const QRectF &rect, Visit visit)
     {
@@ -169,7 +169,7 @@ private:
                       .arg(name(index), QLatin1String(part.what), name(part.owner)));
     }
 
-    /// Lines meet where one branches off the other, and nowhere else.
+    /** Lines meet where one branches off the other, and nowhere else. */
     void checkLines()
     {
         constexpr qreal square = 128;
@@ -239,7 +239,7 @@ private:
         }
     }
 
-    /// On each side the children come in row order, from the parent's joint outwards.
+    /** On each side the children come in row order, from the parent's joint outwards. */
     void checkOrder()
     {
         for (int index = 0; index < m_tree.size(); ++index) {
@@ -257,7 +257,7 @@ private:
         }
     }
 
-    /// The lines of the title lie inside the outline with 8 to spare, and nothing else does.
+    /** The lines of the title lie inside the outline with 8 to spare, and nothing else does. */
     void checkHead()
     {
         for (const Part &part : m_parts) {

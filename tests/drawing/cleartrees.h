@@ -16,7 +16,7 @@
 #include <set>
 #include <vector>
 
-/// What tests lay out: trees from files and random ones.
+/** What tests lay out: trees from files and random ones. */
 namespace ClearTrees {
 
 struct Loaded
@@ -41,7 +41,7 @@ inline void append(Loaded &out, const QJsonObject &node, int parent)
         append(out, child.toObject(), index);
 }
 
-/// The tree of the document @p path, which is no deeper than documents are.
+/** The tree of the document @p path, which is no deeper than documents are. */
 inline Loaded load(const QString &path)
 {
     Loaded out;
@@ -57,7 +57,7 @@ inline QString fixture(const char *name)
         .arg(QLatin1String(name));
 }
 
-/// The names of the statuses that are in use.
+/** The names of the statuses that are in use. */
 inline std::vector<QString> legend(const Loaded &tree)
 {
     static const QStringList names{QStringLiteral("unknown"),   QStringLiteral("cancelled"),
@@ -117,7 +117,7 @@ inline QString randomTitle(QRandomGenerator &random)
     return title;
 }
 
-/// A tree made with @p seed.
+/** A tree made with @p seed. */
 inline std::vector<ClearSubject> random(quint32 seed, const Kind &kind)
 {
     QRandomGenerator random(seed);

@@ -31,7 +31,7 @@ QImage picture(const EditorFixture &fish)
     return image;
 }
 
-/// How many pixels are more red than anything else.
+/** How many pixels are more red than anything else. */
 int redIn(const QImage &image)
 {
     int count = 0;
@@ -46,7 +46,7 @@ int redIn(const QImage &image)
 
 } // namespace
 
-/// What the classic look shows of marks.
+/** What the classic look shows of marks. */
 class TestClassicMarks : public QObject
 {
     Q_OBJECT
@@ -87,7 +87,7 @@ void TestClassicMarks::shouldStayWithinTheTitle_data()
     }
 }
 
-/// So that a partial repaint shows what a full one does.
+/** So that a partial repaint shows what a full one does. */
 void TestClassicMarks::shouldStayWithinTheTitle()
 {
     QFETCH(Verdict, verdict);

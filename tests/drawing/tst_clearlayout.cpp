@@ -22,7 +22,7 @@ ClearFonts fonts()
     return ClearFonts(QFont(QStringLiteral("Noto Sans CJK SC")));
 }
 
-/// Pictures of what was laid out, for whoever wants to look at them.
+/** Pictures of what was laid out, for whoever wants to look at them. */
 void show(const ClearLayout &layout, const QString &name, const std::vector<ClearSubject> &subjects,
           const std::vector<int> &statuses = {})
 {
@@ -35,7 +35,7 @@ void show(const ClearLayout &layout, const QString &name, const std::vector<Clea
                 .save(QString::fromLocal8Bit(folder) + u'/' + name + QStringLiteral(".png")));
 }
 
-/// A chain of @p count subjects.
+/** A chain of @p count subjects. */
 std::vector<ClearSubject> chain(int count)
 {
     std::vector<ClearSubject> out;
@@ -48,7 +48,7 @@ std::vector<ClearSubject> chain(int count)
     return out;
 }
 
-/// A category with causes one below the other, each with one more below it, down to the last.
+/** A category with causes one below the other, each with one more below it, down to the last. */
 std::vector<ClearSubject> ladder(int count)
 {
     std::vector<ClearSubject> out = chain(2);

@@ -21,7 +21,7 @@
 using namespace TestSupport;
 using namespace ClearFishes;
 
-/// The clear look on the items of an editor.
+/** The clear look on the items of an editor. */
 class TestClearLook : public QObject
 {
     Q_OBJECT

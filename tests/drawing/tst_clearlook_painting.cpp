@@ -19,7 +19,7 @@
 
 using namespace ClearFishes;
 
-/// What is painted in the clear look, and with which colours.
+/** What is painted in the clear look, and with which colours. */
 class TestClearLookPainting : public QObject
 {
     Q_OBJECT
@@ -53,7 +53,7 @@ QImage painted(ClearFish &fish, int scale = 1)
                          QPainter::Antialiasing);
 }
 
-/// The picture of the same diagram as a file has it.
+/** The picture of the same diagram as a file has it. */
 QImage pictureOf(const ClearFish &fish, const DiagramLook::Options &options)
 {
     const ClearPictureContent content =
@@ -71,7 +71,7 @@ QImage pictureOf(const ClearFish &fish, const DiagramLook::Options &options)
     return image;
 }
 
-/// A mark of the subject of that title.
+/** A mark of the subject of that title. */
 void mark(const ClearFish &fish, const QString &title, const char *key, const QJsonValue &value)
 {
     QJsonObject fields = fish.subject(title)->otherFields();

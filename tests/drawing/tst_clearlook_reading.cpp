@@ -18,7 +18,7 @@
 
 using namespace ClearFishes;
 
-/// That everybody can read the clear look: on any screen, in any script, with any aid.
+/** That everybody can read the clear look: on any screen, in any script, with any aid. */
 class TestClearLookReading : public QObject
 {
     Q_OBJECT

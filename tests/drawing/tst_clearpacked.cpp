@@ -11,7 +11,7 @@
 
 #include <algorithm>
 
-/// That categories which are not packed again stand as if they were.
+/** That categories which are not packed again stand as if they were. */
 class TestClearPacked : public QObject
 {
     Q_OBJECT
@@ -28,7 +28,7 @@ ClearFonts fonts()
     return ClearFonts(QFont());
 }
 
-/// How two layouts of the same tree differ; empty when they do not.
+/** How two layouts of the same tree differ; empty when they do not. */
 QString difference(const ClearLayout &actual, const ClearLayout &expected)
 {
     if (actual.bounds() != expected.bounds())
@@ -46,7 +46,7 @@ QString difference(const ClearLayout &actual, const ClearLayout &expected)
 
 using Subjects = std::vector<ClearSubject>;
 
-/// Removes the last subject, which has nothing below it.
+/** Removes the last subject, which has nothing below it. */
 void removeLast(Subjects &subjects)
 {
     subjects.pop_back();

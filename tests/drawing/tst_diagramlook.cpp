@@ -14,7 +14,7 @@
 
 using Options = DiagramLook::Options;
 
-/// That the options of a look are one value.
+/** That the options of a look are one value. */
 class TestDiagramLook : public QObject
 {
     Q_OBJECT

@@ -16,7 +16,9 @@
 
 using namespace TestSupport;
 
-/// That a drawing follows whatever look it is given, and nobody else needs to know which one it is.
+/**
+ * That a drawing follows whatever look it is given, and nobody else needs to know which one it is.
+ */
 class TestDrawingLook : public QObject
 {
     Q_OBJECT
@@ -34,7 +36,7 @@ private Q_SLOTS:
 namespace {
 const QString document = QStringLiteral("Effect[Man[Training[Course],Shift],Machine[Wear]]");
 
-/// All bones and all texts are level, one below the other.
+/** All bones and all texts are level, one below the other. */
 class LadderLook : public ClassicLook
 {
 public:
@@ -114,7 +116,7 @@ void TestDrawingLook::shouldGoBack()
 
 void TestDrawingLook::shouldLayOutOnlyWhatIsNotSettled()
 {
-    /// Counts its layouts.
+    /** Counts its layouts. */
     class CountingLook : public ClassicLook
     {
     public:

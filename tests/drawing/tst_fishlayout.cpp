@@ -13,7 +13,7 @@
 
 using namespace TestSupport;
 
-/// The three passes on spears without subjects.
+/** The three passes on spears without subjects. */
 class TestFishLayout : public QObject
 {
     Q_OBJECT
@@ -36,7 +36,7 @@ private Q_SLOTS:
 };
 
 namespace {
-/// A tree of spears in a scene, by name. Expanded unless said otherwise.
+/** A tree of spears in a scene, by name. Expanded unless said otherwise. */
 class PlainSpears
 {
 public:

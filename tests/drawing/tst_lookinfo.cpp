@@ -12,7 +12,7 @@
 
 using namespace TestSupport;
 
-/// The list of looks.
+/** The list of looks. */
 class TestLookInfo : public QObject
 {
     Q_OBJECT

@@ -36,7 +36,7 @@ private Q_SLOTS:
 };
 
 namespace {
-/// A model with a document, and a builder on it. Spears without a scene are deleted at the end.
+/** A model with a document, and a builder on it. Spears without a scene are deleted at the end. */
 class BuilderFixture
 {
 public:

@@ -21,14 +21,16 @@
 
 namespace TestSupport {
 
-/// The parts of an editor without one, in a view that is no more than that: a model with one
-/// document, which is shown. Heads show their plain title.
+/**
+ * The parts of an editor without one, in a view that is no more than that: a model with one
+ * document, which is shown. Heads show their plain title.
+ */
 class EditorParts
 {
     Q_DISABLE_COPY(EditorParts)
 
 public:
-    /// The document is written as documentFromText() reads it.
+    /** The document is written as documentFromText() reads it. */
     explicit EditorParts(FishModel &shownModel, const QString &document)
         : model(shownModel)
     {
@@ -55,13 +57,13 @@ public:
         drawing.scene()->clearSelection();
         spear(title)->setSelected(true);
     }
-    /// The tree of the shown document; "+" is a new subject.
+    /** The tree of the shown document; "+" is a new subject. */
     QString text() const
     {
         return treeToText(*info->treeItem()->childAtIndex(0))
             .replace(QStringLiteral("子主题"), QStringLiteral("+"));
     }
-    /// The titles in the drawing, in the form of text().
+    /** The titles in the drawing, in the form of text(). */
     QString drawn() const { return drawing.head() ? textOf(*drawing.head()) : QString(); }
 
     FishModel &model;
@@ -91,7 +93,7 @@ private:
     }
 };
 
-/// A model of its own with its parts.
+/** A model of its own with its parts. */
 class OwnEditorParts
 {
 public:

@@ -8,8 +8,10 @@
 
 namespace TestSupport {
 
-/// An expanded diagram on the screen. What the view asks of the editor after a move is written down
-/// and, unless \a connected, not carried out.
+/**
+ * An expanded diagram on the screen. What the view asks of the editor after a move is written down
+ * and, unless @p connected, not carried out.
+ */
 class MovingStage : public EditorFixture
 {
 public:
@@ -46,10 +48,10 @@ public:
     QPoint tip(const char *title) const { return tipOf(view, spear(QString::fromLatin1(title))); }
     SpearItem *spear(const QString &title) const { return EditorFixture::spear(title); }
     SpearItem *spear(const char *title) const { return spear(QString::fromLatin1(title)); }
-    /// A point of the viewport with nothing around.
+    /** A point of the viewport with nothing around. */
     QPoint nowhere() const { return {8, 8}; }
 
-    /// "Man Wear": the titles of all faded spears.
+    /** "Man Wear": the titles of all faded spears. */
     QString faded() const
     {
         QStringList titles;
@@ -63,7 +65,7 @@ public:
         return titles.join(QLatin1Char(' '));
     }
 
-    /// "Method 0": the target with the row shown at it.
+    /** "Method 0": the target with the row shown at it. */
     QString linked() const
     {
         QStringList titles;

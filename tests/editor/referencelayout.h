@@ -21,8 +21,10 @@
 #include <fishbone/model/fishmodel.h>
 #include <fishbone/model/treeitem.h>
 
-/// Where every bone of a diagram has to be, computed from the tree of subjects and the formulas
-/// alone: nothing is asked of a spear. The global style has to be a fresh one.
+/**
+ * Where every bone of a diagram has to be, computed from the tree of subjects and the formulas
+ * alone: nothing is asked of a spear. The global style has to be a fresh one.
+ */
 class ReferenceLayout
 {
 public:
@@ -42,8 +44,10 @@ public:
         QLineF line;
     };
 
-    /// \a shown are the subjects below \a root that have a spear; \a expanded those whose children
-    /// are visible. The root counts as both.
+    /**
+     * @p shown are the subjects below @p root that have a spear; @p expanded those whose children
+     * are visible. The root counts as both.
+     */
     ReferenceLayout(const FishModel &model, const TreeItem *root,
                     const QSet<const TreeItem *> &shown, const QSet<const TreeItem *> &expanded)
     {
@@ -56,7 +60,7 @@ public:
 
     const std::vector<Bone> &bones() const { return m_bones; }
 
-    /// The first thing that the drawing has different; empty when there is none.
+    /** The first thing that the drawing has different; empty when there is none. */
     QString differenceTo(const SpearItem *head) const
     {
         if (m_bones.front().subject->spear() != head)

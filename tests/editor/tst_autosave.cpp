@@ -7,7 +7,7 @@
 #include <fishbone/editor/autosave.h>
 #include <tests/program/testprogram.h>
 
-/// When it is time to save.
+/** When it is time to save. */
 class TestAutosave : public QObject
 {
     Q_OBJECT

@@ -8,7 +8,7 @@
 
 using namespace TestSupport;
 
-/// Expanding and contracting bones.
+/** Expanding and contracting bones. */
 class TestBoneExpansion : public QObject
 {
     Q_OBJECT

@@ -10,7 +10,7 @@
 
 using namespace TestSupport;
 
-/// What is selected, and what of it counts.
+/** What is selected, and what of it counts. */
 class TestBoneSelection : public QObject
 {
     Q_OBJECT

@@ -11,7 +11,7 @@
 
 using namespace TestSupport;
 
-/// The way from a command to the screen.
+/** The way from a command to the screen. */
 class TestCommandRunner : public QObject
 {
     Q_OBJECT
@@ -65,7 +65,7 @@ void TestCommandRunner::shouldSayWhenACommandDidNothing()
 
 void TestCommandRunner::shouldMarkTheShownDocumentWhateverTheCommandTold()
 {
-    /// Changes nothing that a model could tell of.
+    /** Changes nothing that a model could tell of. */
     class Silent : public UndoCommand
     {
     public:

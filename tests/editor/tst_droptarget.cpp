@@ -29,7 +29,7 @@ TreeItem *subject(const char *title)
 
 } // namespace
 
-/// The bone that would take what is moved over it.
+/** The bone that would take what is moved over it. */
 class TestDropTarget : public QObject
 {
     Q_OBJECT

@@ -8,7 +8,7 @@
 
 using namespace TestSupport;
 
-/// One call into an editor: what it marks at its end.
+/** One call into an editor: what it marks at its end. */
 class TestEditorCall : public QObject
 {
     Q_OBJECT

@@ -9,7 +9,7 @@
 #include <fishbone/editor/shownsubject.h>
 #include <tests/program/testprogram.h>
 
-/// What is under way in an editor.
+/** What is under way in an editor. */
 class TestEditorCalls : public QObject
 {
     Q_OBJECT

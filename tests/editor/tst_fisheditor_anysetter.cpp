@@ -32,8 +32,10 @@ private Q_SLOTS:
 
 namespace {
 
-/// How many pixels at the end of a line may be another when it was painted in pieces: Qt computes
-/// smoothed edges anew from where the clip begins.
+/**
+ * How many pixels at the end of a line may be another when it was painted in pieces: Qt computes
+ * smoothed edges anew from where the clip begins.
+ */
 constexpr int clippedEdges = 3;
 
 int differingPixels(const QImage &picture, const QImage &expected)
@@ -52,8 +54,10 @@ int differingPixels(const QImage &picture, const QImage &expected)
     return count;
 }
 
-/// Two editors on documents that are alike. One brings its drawing up to date, in the other the
-/// three passes run and everything is painted.
+/**
+ * Two editors on documents that are alike. One brings its drawing up to date, in the other the
+ * three passes run and everything is painted.
+ */
 class Twins
 {
 public:
@@ -70,7 +74,7 @@ public:
 
     bool show() { return m_updated.show() && m_passed.show() && paintBoth(); }
 
-    /// Brings the whole drawing into view.
+    /** Brings the whole drawing into view. */
     bool fit()
     {
         m_updated.editor.equalRatio(m_updated.editor.scene()->itemsBoundingRect());
@@ -96,7 +100,7 @@ public:
         }
     }
 
-    /// What the two show differently after a layout; empty when nothing does.
+    /** What the two show differently after a layout; empty when nothing does. */
     QString difference()
     {
         m_updated.editor.updateFish(false);
@@ -132,7 +136,7 @@ private:
     EditorFixture m_passed;
 };
 
-/// How the looks are called in the tables.
+/** How the looks are called in the tables. */
 struct NamedLook
 {
     const char *name;

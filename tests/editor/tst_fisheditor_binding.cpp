@@ -13,7 +13,7 @@
 
 using namespace TestSupport;
 
-/// Which models and documents an editor works on.
+/** Which models and documents an editor works on. */
 class TestFishEditorBinding : public QObject
 {
     Q_OBJECT
@@ -36,7 +36,7 @@ private Q_SLOTS:
 };
 
 namespace {
-/// A model that tells how many receivers a signal has.
+/** A model that tells how many receivers a signal has. */
 class CountingModel : public FishModel
 {
 public:
@@ -61,7 +61,7 @@ QString effect()
     return QStringLiteral("Effect[Man[Training],Machine]");
 }
 
-/// Everything that needs a diagram, on an editor that has none.
+/** Everything that needs a diagram, on an editor that has none. */
 void useEverything(FishEditor &editor, const QModelIndex &index)
 {
     editor.setRootIndex(index);

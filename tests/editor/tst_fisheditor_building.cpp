@@ -11,7 +11,7 @@
 
 using namespace TestSupport;
 
-/// Which spears there are: showing a diagram and making spears on demand.
+/** Which spears there are: showing a diagram and making spears on demand. */
 class TestFishEditorBuilding : public QObject
 {
     Q_OBJECT

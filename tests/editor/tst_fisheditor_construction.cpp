@@ -48,7 +48,7 @@ private Q_SLOTS:
 };
 
 namespace {
-/// A payload as a tree view of the model drags it.
+/** A payload as a tree view of the model drags it. */
 std::unique_ptr<QMimeData> dragged(const FishModel &model, const QModelIndex &index)
 {
     return std::unique_ptr<QMimeData>(model.mimeData({index}));

@@ -13,7 +13,7 @@
 
 using namespace TestSupport;
 
-/// What happens to the drawing when documents and models come and go underneath it.
+/** What happens to the drawing when documents and models come and go underneath it. */
 class TestFishEditorDocuments : public QObject
 {
     Q_OBJECT
@@ -55,7 +55,7 @@ void expectNothing(const FishEditor &editor)
     QVERIFY(!editor.isModified());
 }
 
-/// Everything a host may still call.
+/** Everything a host may still call. */
 void useEverything(FishEditor &editor)
 {
     editor.updateFish(false);

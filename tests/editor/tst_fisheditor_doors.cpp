@@ -23,8 +23,10 @@ QStringList textsOf(const QMenu &menu)
     return texts;
 }
 
-/// The text of the last entry of the context menu of a spear, which is chosen; nothing when no menu
-/// comes up.
+/**
+ * The text of the last entry of the context menu of a spear, which is chosen; nothing when no menu
+ * comes up.
+ */
 QString chooseLastEntry(FishEditor &editor, SpearItem *spear)
 {
     QString text;
@@ -49,7 +51,7 @@ QString document()
 
 } // namespace
 
-/// What a host sets and asks beside the slots.
+/** What a host sets and asks beside the slots. */
 class TestFishEditorDoors : public QObject
 {
     Q_OBJECT

@@ -20,7 +20,7 @@ namespace {
 
 const QString document = QStringLiteral("Head[A[A1,A2],B[B1],C]");
 
-/// The tree of the first document, with "+" for a new subject and "*" for a new head.
+/** The tree of the first document, with "+" for a new subject and "*" for a new head. */
 QString treeOf(const EditorFixture &fixture)
 {
     return treeToText(*fixture.model.fishList().at(0)->treeItem()->childAtIndex(0))

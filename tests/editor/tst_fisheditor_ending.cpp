@@ -13,7 +13,7 @@ using namespace TestSupport;
 
 namespace {
 
-/// A model and an editor that a listener may end at any time.
+/** A model and an editor that a listener may end at any time. */
 struct Stage
 {
     Stage()
@@ -36,7 +36,7 @@ struct Stage
 
 using Step = std::function<void(Stage &)>;
 
-/// Ends the editor as soon as \a sender sends \a signal.
+/** Ends the editor as soon as @p sender sends @p signal. */
 template <typename Sender, typename Signal>
 Step endedBy(Sender sender, Signal signal)
 {
@@ -76,8 +76,10 @@ void editMachine(Stage &stage)
 } // namespace
 Q_DECLARE_METATYPE(Step)
 
-/// The end of the editor in the middle of what it does, by a host that closes it when a document
-/// leaves, say.
+/**
+ * The end of the editor in the middle of what it does, by a host that closes it when a document
+ * leaves, say.
+ */
 class TestFishEditorEnding : public QObject
 {
     Q_OBJECT

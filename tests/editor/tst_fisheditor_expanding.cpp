@@ -10,7 +10,7 @@
 
 using namespace TestSupport;
 
-/// Expanding and contracting, and the filters of selections.
+/** Expanding and contracting, and the filters of selections. */
 class TestFishEditorExpanding : public QObject
 {
     Q_OBJECT

@@ -12,7 +12,7 @@
 
 using namespace TestSupport;
 
-/// Which part of the drawing the view shows.
+/** Which part of the drawing the view shows. */
 class TestFishEditorFitting : public QObject
 {
     Q_OBJECT
@@ -44,7 +44,7 @@ QString effect()
     return QStringLiteral("Effect[Man[Train],Machine]");
 }
 
-/// Where the view looks: its scale and the scene point in its middle.
+/** Where the view looks: its scale and the scene point in its middle. */
 QString look(const FishEditor &editor)
 {
     const QTransform &matrix = editor.view()->transform();
@@ -58,7 +58,7 @@ QString look(const FishEditor &editor)
         .arg(middle.y());
 }
 
-/// Whether \a rect is wholly in view with 50 pixels around it, give or take a pixel.
+/** Whether @p rect is wholly in view with 50 pixels around it, give or take a pixel. */
 bool isInView(const FishEditor &editor, const QRectF &rect)
 {
     const QRect shown = editor.view()->mapFromScene(rect).boundingRect();

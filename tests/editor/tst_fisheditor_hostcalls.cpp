@@ -20,7 +20,7 @@ const QString head = QStringLiteral("Head");
 const QString a = QStringLiteral("A");
 const QString b = QStringLiteral("B");
 
-/// An editor whose head has lost its subject in a way that nobody announced.
+/** An editor whose head has lost its subject in a way that nobody announced. */
 struct Orphaned
 {
     Orphaned()
@@ -35,7 +35,7 @@ struct Orphaned
 };
 } // namespace
 
-/// What a host may ask of an editor at an unusual moment, or with what is not the editor's.
+/** What a host may ask of an editor at an unusual moment, or with what is not the editor's. */
 class TestFishEditorHostCalls : public QObject
 {
     Q_OBJECT

@@ -31,7 +31,7 @@ private Q_SLOTS:
 };
 
 namespace {
-/// "zoomIn(int level)": the types and names of the parameters as declared.
+/** "zoomIn(int level)": the types and names of the parameters as declared. */
 QString declarationOf(const QMetaMethod &method)
 {
     const QList<QByteArray> types = method.parameterTypes();

@@ -14,7 +14,9 @@ using namespace TestSupport;
 using Tree = std::function<std::unique_ptr<TreeItem>(int)>;
 Q_DECLARE_METATYPE(Tree)
 
-/// Diagrams that are very deep or very wide: nothing overflows, and nothing takes quadratic time.
+/**
+ * Diagrams that are very deep or very wide: nothing overflows, and nothing takes quadratic time.
+ */
 class TestFishEditorLargeDiagrams : public QObject
 {
     Q_OBJECT
@@ -30,7 +32,7 @@ private Q_SLOTS:
 };
 
 namespace {
-/// A main bone with \a width children.
+/** A main bone with @p width children. */
 std::unique_ptr<TreeItem> makeBranch(int width)
 {
     auto head = std::make_unique<TreeItem>();
@@ -46,7 +48,7 @@ double processorSeconds(const std::function<void()> &action)
     return double(std::clock() - start) / CLOCKS_PER_SEC;
 }
 
-/// Everything that touches every spear.
+/** Everything that touches every spear. */
 void use(FishEditor &editor)
 {
     editor.expandAll();

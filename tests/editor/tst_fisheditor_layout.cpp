@@ -34,13 +34,13 @@ private Q_SLOTS:
 namespace {
 const double cos70 = std::cos(qDegreesToRadians(70.0));
 
-/// The width that a slanted bone without children takes up.
+/** The width that a slanted bone without children takes up. */
 double slantedWidth(const SpearItem *spear)
 {
     return spear->textHeight() + spear->textWidth() * cos70;
 }
 
-/// "A 30, B 60": what the layout added up along the parent.
+/** "A 30, B 60": what the layout added up along the parent. */
 QString offsets(const QList<SpearItem *> &spears)
 {
     QStringList texts;

@@ -13,7 +13,7 @@
 using namespace TestSupport;
 using UrlDialogParts::WorkingFolder;
 
-/// Linking the selected subject to a URL that the user is asked for.
+/** Linking the selected subject to a URL that the user is asked for. */
 class TestFishEditorLinking : public QObject
 {
     Q_OBJECT
@@ -43,7 +43,7 @@ QString effect()
     return QStringLiteral("Effect[Man[Training],Machine]");
 }
 
-/// Enters a URL like a user.
+/** Enters a URL like a user. */
 ModalDriver<URLDialog>::Action enter(const QString &url)
 {
     return [url](URLDialog &dialog) {

@@ -20,7 +20,7 @@ using namespace TestSupport;
 
 namespace {
 
-/// An editor on the first of two documents.
+/** An editor on the first of two documents. */
 class Fixture : public EditorFixture
 {
 public:
@@ -38,7 +38,7 @@ public:
         const std::unique_ptr<QMimeData> data(model.mimeData({index(QString::fromLatin1(title))}));
         editor.onDropTo(data.get(), index(QString::fromLatin1(target)), row);
     }
-    /// Whether each document is marked.
+    /** Whether each document is marked. */
     QString marks() const
     {
         return QString(info->modified() ? QStringLiteral("first ") : QString()) +
@@ -50,7 +50,7 @@ public:
 
 } // namespace
 
-/// Whoever hears of the editor, and what it makes of what happens elsewhere.
+/** Whoever hears of the editor, and what it makes of what happens elsewhere. */
 class TestFishEditorListeners : public QObject
 {
     Q_OBJECT

@@ -15,7 +15,7 @@
 
 using namespace TestSupport;
 
-/// What comes out of the printer, read back from a page printed to a file.
+/** What comes out of the printer, read back from a page printed to a file. */
 class TestFishEditorPrinting : public QObject
 {
     Q_OBJECT
@@ -31,7 +31,7 @@ private Q_SLOTS:
 
 namespace {
 
-/// Answers the dialog like a user who prints to a file; the file stays empty until then.
+/** Answers the dialog like a user who prints to a file; the file stays empty until then. */
 void printTo(const QString &path, FishEditor &editor,
              QPageLayout::Orientation orientation = QPageLayout::Portrait)
 {
@@ -44,7 +44,7 @@ void printTo(const QString &path, FishEditor &editor,
     QVERIFY(user.isDone());
 }
 
-/// What a program of the system writes when run with \a arguments; nothing when it fails.
+/** What a program of the system writes when run with @p arguments; nothing when it fails. */
 QByteArray outputOf(const QString &program, const QStringList &arguments)
 {
     QProcess process;
@@ -68,7 +68,7 @@ QImage pageOf(const QString &path)
         "PNG");
 }
 
-/// The rectangle around everything that is not white.
+/** The rectangle around everything that is not white. */
 QRect inkOf(const QImage &picture)
 {
     QRect ink;

@@ -21,13 +21,13 @@ namespace {
 constexpr int operationsASequence = 60;
 constexpr int largestDocument = 60;
 
-/// Every sequence in the long form, a tenth of them otherwise.
+/** Every sequence in the long form, a tenth of them otherwise. */
 int sequences()
 {
     return qEnvironmentVariableIsSet("FISHBONE_LONG_TESTS") ? 300 : 30;
 }
 
-/// Uses an editor as a host and its user would.
+/** Uses an editor as a host and its user would. */
 class RandomUser
 {
 public:
@@ -37,7 +37,7 @@ public:
     {
     }
 
-    /// Something that the history takes back, or that changes no subject. Its name.
+    /** Something that the history takes back, or that changes no subject. Its name. */
     QString editUndoably()
     {
         FishEditor &editor = m_fixture.editor;
@@ -92,7 +92,7 @@ public:
         }
     }
 
-    /// Anything at all, what the history does not take back included. Its name.
+    /** Anything at all, what the history does not take back included. Its name. */
     QString edit()
     {
         FishEditor &editor = m_fixture.editor;
@@ -217,7 +217,7 @@ QString placeOf(const SpearItem &spear)
              spear.linkItem() ? QStringLiteral(" link") : QString());
 }
 
-/// Where the drawing differs from one that is built anew with the same branches expanded.
+/** Where the drawing differs from one that is built anew with the same branches expanded. */
 QString rebuildFault(const EditorFixture &fixture)
 {
     if (!fixture.editor.headSpear())

@@ -11,7 +11,7 @@
 
 using namespace TestSupport;
 
-/// The layout of many random diagrams against one computed from the formulas.
+/** The layout of many random diagrams against one computed from the formulas. */
 class TestFishEditorRandomLayout : public QObject
 {
     Q_OBJECT
@@ -40,8 +40,10 @@ private:
 };
 
 namespace {
-/// An editor on a random document, whose bones are expanded at random. Keeps its own account of
-/// which subjects have to have a spear and which are expanded.
+/**
+ * An editor on a random document, whose bones are expanded at random. Keeps its own account of
+ * which subjects have to have a spear and which are expanded.
+ */
 class RandomDiagram : public EditorFixture
 {
 public:
@@ -53,7 +55,7 @@ public:
         reset();
     }
 
-    /// Main bones only, all contracted.
+    /** Main bones only, all contracted. */
     void reset()
     {
         m_shown = {root};
@@ -63,7 +65,7 @@ public:
             m_shown.insert(subject);
     }
 
-    /// Every subject below the root in pre-order.
+    /** Every subject below the root in pre-order. */
     QList<TreeItem *> subjects() const
     {
         QList<TreeItem *> found;
@@ -79,7 +81,7 @@ public:
         return found;
     }
 
-    /// What the expand button does.
+    /** What the expand button does. */
     void toggle(TreeItem *subject)
     {
         bool made = false;
@@ -122,7 +124,7 @@ public:
         m_expanded.clear();
     }
 
-    /// Rebuilds the drawing, then expands again what was expanded.
+    /** Rebuilds the drawing, then expands again what was expanded. */
     void rebuildWithTheSameExpansion()
     {
         const QSet<const TreeItem *> expanded = m_expanded;
@@ -136,7 +138,9 @@ public:
         editor.updateFish(false);
     }
 
-    /// Takes over what has a spear and is expanded now. For after edits, whose own tests say that.
+    /**
+     * Takes over what has a spear and is expanded now. For after edits, whose own tests say that.
+     */
     void acceptSpears()
     {
         m_shown = {root};
@@ -151,7 +155,7 @@ public:
         }
     }
 
-    /// The first subject with spears for some of its children only; empty when there is none.
+    /** The first subject with spears for some of its children only; empty when there is none. */
     QString halfShown() const
     {
         QList<TreeItem *> all = subjects();
@@ -260,7 +264,7 @@ void TestFishEditorRandomLayout::shouldGiveTheSamePixelsAfterARebuild()
 }
 
 namespace {
-/// One random edit of one or more random spears.
+/** One random edit of one or more random spears. */
 void editAtRandom(RandomDiagram &fish)
 {
     QList<SpearItem *> spears;

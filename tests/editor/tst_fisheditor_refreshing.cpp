@@ -13,7 +13,7 @@
 
 using namespace TestSupport;
 
-/// What a relayout brings up to date, and what it leaves alone.
+/** What a relayout brings up to date, and what it leaves alone. */
 class TestFishEditorRefreshing : public QObject
 {
     Q_OBJECT

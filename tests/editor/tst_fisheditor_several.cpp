@@ -14,7 +14,7 @@
 
 using namespace TestSupport;
 
-/// Several editors side by side, on one model or on several.
+/** Several editors side by side, on one model or on several. */
 class TestSeveralFishEditors : public QObject
 {
     Q_OBJECT
@@ -43,7 +43,7 @@ private Q_SLOTS:
 };
 
 namespace {
-/// One model with two documents and two editors, each on its own.
+/** One model with two documents and two editors, each on its own. */
 class Pair : public EditorFixture
 {
 public:
@@ -71,7 +71,7 @@ void expectNothing(const FishEditor &editor)
     QVERIFY(!editor.currentFishInfo());
 }
 
-/// Clicks the middle of an item with the left button.
+/** Clicks the middle of an item with the left button. */
 void click(const FishEditor &editor, const QGraphicsItem *item)
 {
     const QPoint at = editor.view()->mapFromScene(item->sceneBoundingRect().center());

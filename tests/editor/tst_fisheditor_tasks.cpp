@@ -16,7 +16,7 @@ namespace {
 
 const QString document = QStringLiteral("Head[A[A1,A2],B[B1],C]");
 
-/// Waits for a context menu, lets \a act have it and closes it; gives up after a while.
+/** Waits for a context menu, lets @p act have it and closes it; gives up after a while. */
 class MenuUser
 {
 public:

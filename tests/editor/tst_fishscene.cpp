@@ -29,7 +29,7 @@ private Q_SLOTS:
 };
 
 namespace {
-/// A scene with selectable items and the handling under test.
+/** A scene with selectable items and the handling under test. */
 class SelectionFixture
 {
 public:
@@ -42,14 +42,14 @@ public:
         }
     }
 
-    /// Adds to the selection, without any order of our own.
+    /** Adds to the selection, without any order of our own. */
     void select(const QList<int> &numbers)
     {
         for (int number : numbers)
             items.at(number)->setSelected(true);
     }
 
-    /// The scene's own list, as item numbers.
+    /** The scene's own list, as item numbers. */
     QList<int> selection() const
     {
         QList<int> numbers;

@@ -11,7 +11,7 @@
 
 using namespace TestSupport;
 
-/// The view's construction, and pressing and releasing its buttons.
+/** The view's construction, and pressing and releasing its buttons. */
 class TestGraphicsView : public QObject
 {
     Q_OBJECT

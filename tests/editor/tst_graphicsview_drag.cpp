@@ -24,21 +24,21 @@ QString treeOf(const EditorFixture &fixture)
     return treeToText(*fixture.model.fishList().at(0)->treeItem()->childAtIndex(0));
 }
 
-/// A point of the viewport in the middle of a bone's outer half, where only that bone is.
+/** A point of the viewport in the middle of a bone's outer half, where only that bone is. */
 QPoint onBone(const EditorFixture &fixture, const QString &title)
 {
     const SpearItem *const spear = fixture.spear(title);
     return fixture.editor.view()->mapFromScene(spear->mapToScene(spear->line().pointAt(0.8)));
 }
 
-/// A point of the viewport with nothing near it.
+/** A point of the viewport with nothing near it. */
 QPoint onCanvas(const EditorFixture &fixture)
 {
     const QRectF drawing = fixture.editor.scene()->itemsBoundingRect();
     return fixture.editor.view()->mapFromScene(drawing.topLeft() - QPointF(20, 20));
 }
 
-/// A drag over an editor's view, with the events that the toolkit sends for one.
+/** A drag over an editor's view, with the events that the toolkit sends for one. */
 class Drag
 {
 public:
@@ -69,7 +69,7 @@ public:
         QDragLeaveEvent event;
         QCoreApplication::sendEvent(&m_viewport, &event);
     }
-    /// The payload is gone when the event has been handled, as with a drag from elsewhere.
+    /** The payload is gone when the event has been handled, as with a drag from elsewhere. */
     bool drop(const QPoint &pos)
     {
         QDropEvent event(pos, Qt::CopyAction | Qt::MoveAction, m_data.get(), Qt::LeftButton,
@@ -92,7 +92,7 @@ private:
     std::unique_ptr<QMimeData> m_data;
 };
 
-/// Lets rows be dragged, as hosts do.
+/** Lets rows be dragged, as hosts do. */
 class DraggableProxy : public QSortFilterProxyModel
 {
 public:
@@ -102,7 +102,7 @@ public:
     }
 };
 
-/// A tree view that hands over what it drags instead of taking the mouse.
+/** A tree view that hands over what it drags instead of taking the mouse. */
 class DragSource : public QTreeView
 {
 public:

@@ -15,7 +15,7 @@
 
 using namespace TestSupport;
 
-/// The row of a move, the wheel, double clicks, context menus and the expand button.
+/** The row of a move, the wheel, double clicks, context menus and the expand button. */
 class TestGraphicsViewEvents : public QObject
 {
     Q_OBJECT
@@ -44,7 +44,7 @@ private Q_SLOTS:
 };
 
 namespace {
-/// An expanded diagram on the screen.
+/** An expanded diagram on the screen. */
 class Stage : public EditorFixture
 {
 public:
@@ -61,7 +61,7 @@ public:
             qFatal("The editor does not show.");
     }
 
-    /// Marks \a target by moving \a moved over its outer end, without carrying anything out.
+    /** Marks @p target by moving @p moved over its outer end, without carrying anything out. */
     void mark(const QString &moved, const QString &target)
     {
         QObject::disconnect(&view, &GraphicsView::moveSpear, &editor, nullptr);
@@ -74,7 +74,7 @@ public:
     ViewMouse mouse;
 };
 
-/// Writes down whose context menu the view asks for, and keeps the editor from showing it.
+/** Writes down whose context menu the view asks for, and keeps the editor from showing it. */
 class MenuRequests
 {
 public:

@@ -16,7 +16,7 @@ namespace {
 const QString document = QStringLiteral("Head[A[a],B]");
 const QString bone = QStringLiteral("A");
 
-/// A shown editor on the heap, which somebody may end.
+/** A shown editor on the heap, which somebody may end. */
 struct EndingEditor
 {
     EndingEditor()
@@ -37,7 +37,9 @@ struct EndingEditor
 
 } // namespace
 
-/// A view with items of the host's in its scene, without a scene, and whose editor the host ends.
+/**
+ * A view with items of the host's in its scene, without a scene, and whose editor the host ends.
+ */
 class TestGraphicsViewHost : public QObject
 {
     Q_OBJECT

@@ -11,7 +11,7 @@
 
 using namespace TestSupport;
 
-/// Spears that are moved with the left button held.
+/** Spears that are moved with the left button held. */
 class TestGraphicsViewMoving : public QObject
 {
     Q_OBJECT

@@ -21,7 +21,7 @@ using namespace TestSupport;
 
 namespace {
 
-/// A shown editor zoomed in so far that it can be scrolled both ways.
+/** A shown editor zoomed in so far that it can be scrolled both ways. */
 class ZoomedEditor : public EditorFixture
 {
 public:
@@ -61,7 +61,7 @@ private:
     QPoint m_start;
 };
 
-/// A gesture of two fingers on a touchpad.
+/** A gesture of two fingers on a touchpad. */
 QNativeGestureEvent touchpadGesture(Qt::NativeGestureType type, double value)
 {
     const QPointF pos(50, 50);

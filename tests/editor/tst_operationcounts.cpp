@@ -23,8 +23,10 @@ using Operation = std::function<void(LargeFish &)>;
 Q_DECLARE_METATYPE(Tree)
 Q_DECLARE_METATYPE(Operation)
 
-/// What an operation does grows with the diagram as fast as the diagram, not faster. Operations are
-/// counted, at one size and at ten times that size; the machine's speed does not matter.
+/**
+ * What an operation does grows with the diagram as fast as the diagram, not faster. Operations are
+ * counted, at one size and at ten times that size; the machine's speed does not matter.
+ */
 class TestOperationCounts : public QObject
 {
     Q_OBJECT
@@ -45,7 +47,7 @@ constexpr int small = 100;
 constexpr int large = 10 * small;
 constexpr int tolerated = 20; ///< times as often: 10 is linear, 100 quadratic
 
-/// Half of the nodes below the head, each with a child.
+/** Half of the nodes below the head, each with a child. */
 std::unique_ptr<TreeItem> makePairs(int nodes)
 {
     auto head = makeFan(nodes / 2);
@@ -146,7 +148,7 @@ QByteArray counts(int few, int many)
     return QStringLiteral("%1, then %2").arg(few).arg(many).toLatin1();
 }
 
-/// A shown diagram with every bone in view.
+/** A shown diagram with every bone in view. */
 class ShownFish : public LargeFish
 {
 public:

@@ -10,7 +10,7 @@
 
 using namespace TestSupport;
 
-/// The root that was shown last, whatever became of it.
+/** The root that was shown last, whatever became of it. */
 class TestRememberedRoot : public QObject
 {
     Q_OBJECT

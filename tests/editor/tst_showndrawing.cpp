@@ -10,7 +10,7 @@
 
 using namespace TestSupport;
 
-/// The drawing in the scene of a view.
+/** The drawing in the scene of a view. */
 class TestShownDrawing : public QObject
 {
     Q_OBJECT

@@ -8,7 +8,7 @@
 
 using namespace TestSupport;
 
-/// The root that is shown, and what happens to it.
+/** The root that is shown, and what happens to it. */
 class TestShownRoot : public QObject
 {
     Q_OBJECT

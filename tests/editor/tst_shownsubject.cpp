@@ -11,7 +11,7 @@
 
 using namespace TestSupport;
 
-/// Which subject of which model is shown.
+/** Which subject of which model is shown. */
 class TestShownSubject : public QObject
 {
     Q_OBJECT

@@ -35,7 +35,7 @@ struct Moved : Drawing
 
 } // namespace
 
-/// The spears that are moved with the mouse.
+/** The spears that are moved with the mouse. */
 class TestSpearMove : public QObject
 {
     Q_OBJECT

@@ -9,7 +9,7 @@
 
 using namespace TestSupport;
 
-/// What is inserted, copied, pasted, deleted and changed.
+/** What is inserted, copied, pasted, deleted and changed. */
 class TestSubjectEdits : public QObject
 {
     Q_OBJECT

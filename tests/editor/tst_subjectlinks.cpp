@@ -14,7 +14,7 @@
 
 using namespace TestSupport;
 
-/// The link of the selected subject.
+/** The link of the selected subject. */
 class TestSubjectLinks : public QObject
 {
     Q_OBJECT

@@ -10,7 +10,7 @@
 
 using namespace TestSupport;
 
-/// Moves of subjects, with the mouse and by drops.
+/** Moves of subjects, with the mouse and by drops. */
 class TestSubjectMoves : public QObject
 {
     Q_OBJECT

@@ -24,7 +24,7 @@ QJsonArray childrenOf(const QJsonValue &node)
 
 } // namespace
 
-/// Subjects as the copy buffer and the commands have them.
+/** Subjects as the copy buffer and the commands have them. */
 class TestSubjectSnapshot : public QObject
 {
     Q_OBJECT

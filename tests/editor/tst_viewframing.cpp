@@ -12,7 +12,7 @@
 
 namespace {
 
-/// A view whose viewport has 300 × 200 pixels.
+/** A view whose viewport has 300 × 200 pixels. */
 struct Stage
 {
     Stage()
@@ -31,7 +31,7 @@ struct Stage
 
 } // namespace
 
-/// Zoom value, rotation and the matrix that they make.
+/** Zoom value, rotation and the matrix that they make. */
 class TestViewFraming : public QObject
 {
     Q_OBJECT

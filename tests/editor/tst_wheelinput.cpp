@@ -17,7 +17,7 @@
 
 namespace {
 
-/// A view of something large, and how it was asked to zoom.
+/** A view of something large, and how it was asked to zoom. */
 class ScrolledView
 {
 public:
@@ -65,7 +65,7 @@ QNativeGestureEvent touchpadGesture(Qt::NativeGestureType type, double value)
 
 } // namespace
 
-/// What wheels and fingers ask of a view.
+/** What wheels and fingers ask of a view. */
 class TestWheelInput : public QObject
 {
     Q_OBJECT

@@ -14,18 +14,18 @@
 
 Q_DECLARE_METATYPE(DiagramExchange::Format)
 
-/// Diagrams to and from bytes, for the tests of the formats.
+/** Diagrams to and from bytes, for the tests of the formats. */
 namespace ExchangeFixture {
 
 using Format = DiagramExchange::Format;
 
-/// The outcome of reading: a tree, or an error.
+/** The outcome of reading: a tree, or an error. */
 struct Imported
 {
     std::unique_ptr<TreeItem> head;
     QString error;
 
-    /// The titles of the tree, "Effect[Man[Training],Machine]"; the error when there is none.
+    /** The titles of the tree, "Effect[Man[Training],Machine]"; the error when there is none. */
     QString text() const { return head ? TestSupport::treeToText(*head) : error; }
 };
 
@@ -39,7 +39,7 @@ inline Imported imported(const QByteArray &bytes, Format format)
     return result;
 }
 
-/// The bytes of a diagram; null when writing fails.
+/** The bytes of a diagram; null when writing fails. */
 inline QByteArray exported(const TreeItem &head, Format format, QString *error = nullptr)
 {
     QByteArray bytes;
@@ -53,7 +53,7 @@ inline Imported carriedThrough(const TreeItem &head, Format format)
     return imported(exported(head, format), format);
 }
 
-/// The tree that "Effect[Man[Training],Machine]" stands for.
+/** The tree that "Effect[Man[Training],Machine]" stands for. */
 inline std::unique_ptr<TreeItem> treeFrom(const char *text)
 {
     FishModel model;
@@ -63,7 +63,7 @@ inline std::unique_ptr<TreeItem> treeFrom(const char *text)
     return head;
 }
 
-/// The formats that are both read and written.
+/** The formats that are both read and written. */
 inline QList<Format> wholeFormats()
 {
     QList<Format> whole;
@@ -75,7 +75,7 @@ inline QList<Format> wholeFormats()
     return whole;
 }
 
-/// A row of test data for each of them.
+/** A row of test data for each of them. */
 inline void addFormats()
 {
     QTest::addColumn<Format>("format");

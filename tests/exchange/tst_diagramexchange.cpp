@@ -17,7 +17,7 @@
 
 using namespace ExchangeFixture;
 
-/// What all formats share: names, files, limits.
+/** What all formats share: names, files, limits. */
 class TestDiagramExchange : public QObject
 {
     Q_OBJECT

@@ -10,7 +10,7 @@
 
 using namespace ExchangeFixture;
 
-/// The table of tasks, as this program and as spreadsheets write it.
+/** The table of tasks, as this program and as spreadsheets write it. */
 class TestDiagramExchangeCsv : public QObject
 {
     Q_OBJECT

@@ -17,7 +17,7 @@
 
 using namespace ExchangeFixture;
 
-/// Files and texts as they come.
+/** Files and texts as they come. */
 class TestDiagramExchangeFiles : public QObject
 {
     Q_OBJECT

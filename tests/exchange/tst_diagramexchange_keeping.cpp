@@ -18,7 +18,7 @@ using namespace ExchangeFixture;
 
 namespace {
 
-/// What docs/formats.md says: for each attribute, the ids of the formats that keep it.
+/** What docs/formats.md says: for each attribute, the ids of the formats that keep it. */
 QMap<QString, QStringList> documentedTable()
 {
     QFile file(TestSupport::sourceFile(QStringLiteral("docs/formats.md")));
@@ -47,7 +47,7 @@ QMap<QString, QStringList> documentedTable()
     return table;
 }
 
-/// A value of each attribute that no new subject has.
+/** A value of each attribute that no new subject has. */
 QJsonObject unusualValues()
 {
     SpearStyle style;
@@ -88,7 +88,7 @@ QJsonObject objectOf(const TreeItem &subject)
 
 } // namespace
 
-/// The table of docs/formats.md against the readers and writers.
+/** The table of docs/formats.md against the readers and writers. */
 class TestDiagramExchangeKeeping : public QObject
 {
     Q_OBJECT
@@ -170,7 +170,7 @@ void TestDiagramExchangeKeeping::shouldTellProgramsWhatTheTableTellsPeople()
     }
 }
 
-/// What is named is what has another value after writing and reading, and nothing else.
+/** What is named is what has another value after writing and reading, and nothing else. */
 void TestDiagramExchangeKeeping::shouldNameWhatIsLeftOutInWriting()
 {
     QFETCH(Format, format);

@@ -8,7 +8,7 @@
 
 using namespace ExchangeFixture;
 
-/// The text formats as other programs and people write them: Markdown, indented text, Mermaid.
+/** The text formats as other programs and people write them: Markdown, indented text, Mermaid. */
 class TestDiagramExchangeOutlines : public QObject
 {
     Q_OBJECT

@@ -17,7 +17,7 @@ bool isXml(Format format)
     return format == Format::Opml || format == Format::FreeMind;
 }
 
-/// What becomes of a text in XML, which has no room for these characters.
+/** What becomes of a text in XML, which has no room for these characters. */
 QString withoutControls(QString text)
 {
     for (QChar &c : text) {
@@ -37,7 +37,7 @@ QString expectedIn(Format format, const QString &text)
 
 } // namespace
 
-/// Titles and details that mean something in one format or another.
+/** Titles and details that mean something in one format or another. */
 class TestDiagramExchangeTitles : public QObject
 {
     Q_OBJECT

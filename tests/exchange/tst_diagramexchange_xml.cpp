@@ -10,7 +10,7 @@
 
 using namespace ExchangeFixture;
 
-/// The XML formats as other programs write them, and as attackers do.
+/** The XML formats as other programs write them, and as attackers do. */
 class TestDiagramExchangeXml : public QObject
 {
     Q_OBJECT

@@ -33,7 +33,7 @@ QByteArray contentOf(const QString &fileName)
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-/// What of its uuid names a subject in a file.
+/** What of its uuid names a subject in a file. */
 QByteArray idOf(const TreeItem &subject)
 {
     return subject.uuid().mid(1, 36).toUtf8();
@@ -66,7 +66,7 @@ private Q_SLOTS:
     void shouldEndPaintingWhenCancelled();
 
 private:
-    /// Writes the sample, with \a isPage as a page of paper.
+    /** Writes the sample, with @p isPage as a page of paper. */
     PictureExport::Result write(const QString &path, bool isPage,
                                 const PictureOptions &options) const
     {
@@ -327,7 +327,7 @@ void TestDiagramPicture::shouldKeepTheOldFileWhenCancelled_data()
     shouldReportWhatIsDone_data();
 }
 
-/// Whenever it is cancelled: at each report that there is.
+/** Whenever it is cancelled: at each report that there is. */
 void TestDiagramPicture::shouldKeepTheOldFileWhenCancelled()
 {
     QFETCH(QString, name);

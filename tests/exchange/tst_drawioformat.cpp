@@ -13,7 +13,7 @@ using namespace ExchangeFixture;
 
 namespace {
 
-/// A box of a drawing as the file has it.
+/** A box of a drawing as the file has it. */
 struct Shape
 {
     QString label;
@@ -23,7 +23,7 @@ struct Shape
     QString parent; ///< the id of the box that a line leads to it from
 };
 
-/// What a drawing shows, its boxes by their ids.
+/** What a drawing shows, its boxes by their ids. */
 struct Drawing
 {
     QHash<QString, Shape> shapes;
@@ -39,7 +39,7 @@ struct Drawing
         }
         return none;
     }
-    /// The title of the box above.
+    /** The title of the box above. */
     QString above(const QString &label) const { return shapes.value(titled(label).parent).label; }
 };
 
@@ -77,7 +77,7 @@ Drawing drawingOf(const TreeItem &head)
 
 } // namespace
 
-/// Drawings for draw.io: boxes and lines that can be moved there.
+/** Drawings for draw.io: boxes and lines that can be moved there. */
 class TestDrawIoFormat : public QObject
 {
     Q_OBJECT

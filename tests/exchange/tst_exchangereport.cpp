@@ -10,7 +10,7 @@
 
 using Kind = ExchangeReport::Kind;
 
-/// What became of the things that no field holds.
+/** What became of the things that no field holds. */
 class TestExchangeReport : public QObject
 {
     Q_OBJECT

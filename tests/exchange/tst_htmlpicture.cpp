@@ -20,7 +20,7 @@ const QString hostile =
     QStringLiteral("</script></svg><script>document.title='owned'</script>"
                    "<img src=x onerror=\"document.title='owned'\">\" onfocus=\"x\" '<!--");
 
-/// A head, three categories and causes below them.
+/** A head, three categories and causes below them. */
 ClearPictureContent content(int subjects)
 {
     std::vector<ClearSubject> all;

@@ -33,7 +33,7 @@ QString inOneLine(QString text)
     return text.replace(QLatin1Char('\n'), QLatin1String("\\n"));
 }
 
-/// The value of an attribute as the expectations have it: dates can be read.
+/** The value of an attribute as the expectations have it: dates can be read. */
 QString valueOf(const SubjectAttributes::Attribute &attribute, const TreeItem &subject)
 {
     const QString text = attribute.text(subject);
@@ -44,7 +44,7 @@ QString valueOf(const SubjectAttributes::Attribute &attribute, const TreeItem &s
     return QDateTime::fromMSecsSinceEpoch(text.toLongLong(), Qt::UTC).toString(Qt::ISODateWithMs);
 }
 
-/// The fields of a subject that are set, a line each, in the order of their keys.
+/** The fields of a subject that are set, a line each, in the order of their keys. */
 QStringList fieldsOf(const TreeItem &subject, const QString &indentation)
 {
     QStringList fields;
@@ -73,7 +73,7 @@ void describe(const TreeItem &subject, int level, QStringList &lines)
         describe(*child, level + 1, lines);
 }
 
-/// An expectation with the fields of each subject in the order of their keys.
+/** An expectation with the fields of each subject in the order of their keys. */
 QStringList sortedFields(const QStringList &lines)
 {
     QStringList sorted;
@@ -108,7 +108,9 @@ QString joined(QStringList lines)
 
 } // namespace
 
-/// Files in the manner of the programs that write each format, with what has to be read from them.
+/**
+ * Files in the manner of the programs that write each format, with what has to be read from them.
+ */
 class TestImportFixtures : public QObject
 {
     Q_OBJECT
@@ -128,7 +130,7 @@ private:
     static QByteArray archiveOf(const QString &path);
 };
 
-/// The names of the files, and of the folders that hold the parts of one, without expectations.
+/** The names of the files, and of the folders that hold the parts of one, without expectations. */
 QStringList TestImportFixtures::fixturesOf(Format format)
 {
     QStringList names = folderOf(format).entryList(QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot);
@@ -146,7 +148,7 @@ QByteArray TestImportFixtures::bytesOf(const QString &path)
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-/// The files of a folder as the archive that they stand for.
+/** The files of a folder as the archive that they stand for. */
 QByteArray TestImportFixtures::archiveOf(const QString &path)
 {
     std::vector<ZipWriter::File> files;

@@ -8,7 +8,7 @@
 #include <QJsonDocument>
 #include <QtTest>
 
-/// Diagrams, and what else is kept as JSON.
+/** Diagrams, and what else is kept as JSON. */
 class TestJsonDiagram : public QObject
 {
     Q_OBJECT

@@ -19,7 +19,7 @@
 
 using TestSupport::EditorFixture;
 
-/// Which links files lead to.
+/** Which links files lead to. */
 class TestLinkSafety : public QObject
 {
     Q_OBJECT
@@ -32,7 +32,7 @@ private Q_SLOTS:
     void shouldLeadToTheWebFromEveryFile();
 
 private:
-    /// All links of the files that are made of a diagram whose one cause has the link \a link.
+    /** All links of the files that are made of a diagram whose one cause has the link @p link. */
     static QStringList linksOfFiles(const QString &link);
 };
 

@@ -19,7 +19,7 @@ namespace {
 
 const QDate today(2024, 1, 31);
 
-/// "Late" with causes about which something was found out, and what is to be done.
+/** "Late" with causes about which something was found out, and what is to be done. */
 std::unique_ptr<TreeItem> reviewed()
 {
     auto head = treeFrom("Late[People[Few[Ill],New],Machines[Belt,Gear],Money]");
@@ -53,7 +53,7 @@ QByteArray contentOf(const QString &path)
 
 } // namespace
 
-/// What is mailed after the meeting.
+/** What is mailed after the meeting. */
 class TestMeetingReport : public QObject
 {
     Q_OBJECT

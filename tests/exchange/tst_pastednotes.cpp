@@ -16,7 +16,7 @@ namespace {
 
 using Kind = PastedNotes::Kind;
 
-/// The trees that a text makes, "a[b] c"; the error when it makes none.
+/** The trees that a text makes, "a[b] c"; the error when it makes none. */
 QString treesOf(const QString &text)
 {
     QString error;
@@ -29,7 +29,7 @@ QString treesOf(const QString &text)
     return trees.join(QLatin1Char(' '));
 }
 
-/// All words of all fields of a tree.
+/** All words of all fields of a tree. */
 QString allTextOf(const TreeItem &subject)
 {
     QString text = subject.title() + QLatin1Char(' ') + subject.detail() + QLatin1Char(' ') +
@@ -42,7 +42,7 @@ QString allTextOf(const TreeItem &subject)
 
 } // namespace
 
-/// What people copy out of other programs.
+/** What people copy out of other programs. */
 class TestPastedNotes : public QObject
 {
     Q_OBJECT
@@ -149,7 +149,7 @@ void TestPastedNotes::shouldTakeBoxesAndLinks()
     QCOMPARE(branches->childAtIndex(1)->status(), 6);
 }
 
-/// Random notes of words with all marks: each word is somewhere afterwards.
+/** Random notes of words with all marks: each word is somewhere afterwards. */
 void TestPastedNotes::shouldKeepEveryWord()
 {
     const QStringList marks{QStringLiteral("- "),   QStringLiteral("* "),     QStringLiteral("1. "),

@@ -24,7 +24,7 @@ namespace {
 const QString diagram =
     QStringLiteral("Effect[Man[Training[Once a year,Never],Two shifts],Machine[Worn pump]]");
 
-/// An editor that shows all of the diagram in the clear look.
+/** An editor that shows all of the diagram in the clear look. */
 std::unique_ptr<EditorFixture> clearEditor(bool isExpanded = true)
 {
     auto fish = std::make_unique<EditorFixture>(diagram);
@@ -43,7 +43,7 @@ std::unique_ptr<EditorFixture> clearEditor(bool isExpanded = true)
     return fish;
 }
 
-/// The texts of all elements of that name; the error when it is no XML.
+/** The texts of all elements of that name; the error when it is no XML. */
 QStringList textsIn(const QByteArray &svg, const char *element)
 {
     QStringList texts;
@@ -63,7 +63,7 @@ bool isByTheToolkit(const QByteArray &svg)
 
 } // namespace
 
-/// Pictures of scenes that show the clear look.
+/** Pictures of scenes that show the clear look. */
 class TestPictureExportClear : public QObject
 {
     Q_OBJECT
@@ -111,7 +111,7 @@ void TestPictureExportClear::shouldWriteWhatTheSceneShows_data()
     QTest::newRow("a category selected") << QStringLiteral("Machine");
 }
 
-/// The SVG looks as the pixels of the same scene do.
+/** The SVG looks as the pixels of the same scene do. */
 void TestPictureExportClear::shouldWriteWhatTheSceneShows()
 {
     QFETCH(QString, selected);

@@ -29,7 +29,7 @@ namespace {
 
 constexpr int manyItems = 500;
 
-/// An item that takes 20 kB of an SVG.
+/** An item that takes 20 kB of an SVG. */
 class Zigzag : public QGraphicsItem
 {
 public:
@@ -54,7 +54,7 @@ void addSquares(QGraphicsScene &scene, int count)
         scene.addRect(QRectF(i % 20 * 12, i / 20 * 12, 10, 10), QPen(Qt::black), Qt::red);
 }
 
-/// Items one over the other in every way that a scene knows.
+/** Items one over the other in every way that a scene knows. */
 void addPile(QGraphicsScene &scene)
 {
     QGraphicsItem *const lower = scene.addRect(QRectF(0, 0, 60, 40), QPen(Qt::NoPen), Qt::red);
@@ -75,7 +75,7 @@ void addPile(QGraphicsScene &scene)
     scene.addText(QStringLiteral("Fish"))->setPos(5, 5);
 }
 
-/// What the scene itself paints of \a part, a pixel for each unit.
+/** What the scene itself paints of @p part, a pixel for each unit. */
 QImage paintedBy(QGraphicsScene &scene, const QRectF &part)
 {
     const QSizeF size(std::ceil(part.width()), std::ceil(part.height()));

@@ -24,7 +24,7 @@ namespace {
 
 const QString slidePart = QStringLiteral("ppt/slides/slide1.xml");
 
-/// A part of a presentation, empty when there is none.
+/** A part of a presentation, empty when there is none. */
 QByteArray partOf(const QByteArray &presentation, const QString &name)
 {
     ImportedTree tree;
@@ -32,7 +32,7 @@ QByteArray partOf(const QByteArray &presentation, const QString &name)
     return archive.file(name).value_or(QByteArray());
 }
 
-/// How many elements of that name there are.
+/** How many elements of that name there are. */
 int countOf(const QByteArray &xml, const char *element)
 {
     QXmlStreamReader reader(xml);
@@ -44,7 +44,7 @@ int countOf(const QByteArray &xml, const char *element)
     return reader.hasError() ? -1 : count;
 }
 
-/// The numbers of the frame around the first shape of that kind: left, top, width, height.
+/** The numbers of the frame around the first shape of that kind: left, top, width, height. */
 QList<double> frameOf(const QByteArray &slide, const char *kind)
 {
     const QString text = QString::fromUtf8(slide);
@@ -61,7 +61,7 @@ QList<double> frameOf(const QByteArray &slide, const char *kind)
 
 } // namespace
 
-/// Slides of presentations.
+/** Slides of presentations. */
 class TestSlideExport : public QObject
 {
     Q_OBJECT
@@ -92,7 +92,7 @@ private:
     std::unique_ptr<TreeItem> m_head;
 };
 
-/// A bone, a box and a title, 400 x 100 units large.
+/** A bone, a box and a title, 400 x 100 units large. */
 void TestSlideExport::init()
 {
     m_scene.reset(new QGraphicsScene);
@@ -135,7 +135,7 @@ void TestSlideExport::shouldHaveAllPartsOfAPresentation()
     }
 }
 
-/// Each relation leads to a part, and each part has a type.
+/** Each relation leads to a part, and each part has a type. */
 void TestSlideExport::shouldNameOnlyPartsThatThereAre()
 {
     const QByteArray bytes = SlideExport::presentation(*m_scene, *m_head);
@@ -213,7 +213,7 @@ void TestSlideExport::shouldKeepLinks_data()
     QTest::newRow("classic") << int(DiagramLook::Classic);
 }
 
-/// Every line of a title, and nothing else, leads to where its subject does.
+/** Every line of a title, and nothing else, leads to where its subject does. */
 void TestSlideExport::shouldKeepLinks()
 {
     QFETCH(int, look);

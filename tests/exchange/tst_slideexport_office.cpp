@@ -23,7 +23,7 @@ namespace {
 constexpr int timeLimit = 200000; ///< milliseconds; an office takes long to start
 const QSize slide(960, 540);
 
-/// Runs a program; whether it went well.
+/** Runs a program; whether it went well. */
 bool run(const QString &program, const QStringList &arguments)
 {
     QProcess process;
@@ -39,7 +39,7 @@ QByteArray contentOf(const QString &path)
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-/// A slide as it should look: the drawing in the middle, on 94 percent of the page.
+/** A slide as it should look: the drawing in the middle, on 94 percent of the page. */
 QImage expectedPage(QGraphicsScene &scene)
 {
     const QRectF drawing = PictureExport::visibleRect(scene);
@@ -55,7 +55,7 @@ QImage expectedPage(QGraphicsScene &scene)
     return page;
 }
 
-/// How far two pages are apart on average, from 0 to 255, seen from a distance.
+/** How far two pages are apart on average, from 0 to 255, seen from a distance. */
 double differenceOf(const QImage &a, const QImage &b)
 {
     const QSize far(96, 54);
@@ -75,7 +75,7 @@ double differenceOf(const QImage &a, const QImage &b)
 
 } // namespace
 
-/// Slides as an office shows them, where there is one.
+/** Slides as an office shows them, where there is one. */
 class TestSlideExportOffice : public QObject
 {
     Q_OBJECT

@@ -32,7 +32,7 @@ ClearFonts fonts()
     return ClearFonts(QFont(QStringLiteral("Noto Sans CJK SC")));
 }
 
-/// A picture with all that it needs.
+/** A picture with all that it needs. */
 struct Made
 {
     explicit Made(ClearPictureContent made, const ClearOptions &options = {})
@@ -67,7 +67,7 @@ ClearPictureContent sample(const QString &name)
     return root.childCount() ? ClearContent::of(root.childAtIndex(0)) : ClearPictureContent();
 }
 
-/// A head, a category and causes with these titles, each with that link.
+/** A head, a category and causes with these titles, each with that link. */
 ClearPictureContent contentWith(const QStringList &titles, const QString &link = {})
 {
     std::vector<ClearSubject> subjects(2);
@@ -87,7 +87,7 @@ ClearPictureContent contentWith(const QStringList &titles, const QString &link =
     return content;
 }
 
-/// All texts, a line each, in order.
+/** All texts, a line each, in order. */
 QStringList textsOf(const QByteArray &svg)
 {
     QStringList texts;
@@ -99,7 +99,7 @@ QStringList textsOf(const QByteArray &svg)
     return xml.hasError() ? QStringList{xml.errorString()} : texts;
 }
 
-/// The names of all elements and attributes.
+/** The names of all elements and attributes. */
 QSet<QString> namesIn(const QByteArray &svg)
 {
     QSet<QString> names;

@@ -17,7 +17,7 @@ using Format = DiagramExchange::Format;
 
 namespace {
 
-/// The roles of columns that are called so, separated by bars.
+/** The roles of columns that are called so, separated by bars. */
 QVector<Role> rolesOf(const char *headings)
 {
     return TableMapping::guessed(QString::fromUtf8(headings).split(QLatin1Char('|')));
@@ -25,7 +25,7 @@ QVector<Role> rolesOf(const char *headings)
 
 } // namespace
 
-/// What the columns of tables stand for.
+/** What the columns of tables stand for. */
 class TestTableMapping : public QObject
 {
     Q_OBJECT

@@ -23,7 +23,7 @@ QByteArray archiveWith(const QByteArray &content)
 
 } // namespace
 
-/// Archives as they come from anywhere.
+/** Archives as they come from anywhere. */
 class TestZipArchive : public QObject
 {
     Q_OBJECT

@@ -15,7 +15,7 @@ const double cos70 = std::cos(70 * degree);
 const double sin70 = std::sin(70 * degree);
 constexpr double widestBackboneAngle = 0.002181661564992912;
 
-/// Whether two lengths agree to a billionth of a unit.
+/** Whether two lengths agree to a billionth of a unit. */
 inline bool alike(double a, double b)
 {
     return std::abs(a - b) < 1e-9;
@@ -26,8 +26,10 @@ inline bool alike(const QPointF &a, const QPointF &b)
     return alike(a.x(), b.x()) && alike(a.y(), b.y());
 }
 
-/// A spear directly below a header; their lines are the test's business. No subjects, so the global
-/// style.
+/**
+ * A spear directly below a header; their lines are the test's business. No subjects, so the global
+ * style.
+ */
 struct MainBone
 {
     explicit MainBone(int direction, const QString &text = QStringLiteral("Cause"))
@@ -41,7 +43,7 @@ struct MainBone
     SpearItem *spear = nullptr;
 };
 
-/// A spear below a spear of some direction below a header.
+/** A spear below a spear of some direction below a header. */
 struct DeeperBone
 {
     explicit DeeperBone(int parentDirection, int direction)

@@ -9,7 +9,7 @@
 #include <fishbone/items/textitem.h>
 #include <tests/support/documents.h>
 
-/// A document to look at and what a view does to its spears.
+/** A document to look at and what a view does to its spears. */
 namespace ShownBones {
 
 using TestSupport::documentFromText;
@@ -33,13 +33,13 @@ inline QJsonObject sampleDocument(const QJsonObject &style)
     return QJsonDocument::fromJson(text).object();
 }
 
-/// The middle of a spear's text box in the scene.
+/** The middle of a spear's text box in the scene. */
 inline QPointF onText(const SpearItem *spear)
 {
     return spear->textItem()->mapToScene(spear->textItem()->boundingRect().center());
 }
 
-/// A point of a spear's line in the scene.
+/** A point of a spear's line in the scene. */
 inline QPointF onBone(const SpearItem *spear)
 {
     return spear->mapToScene(spear->line().pointAt(0.93));

@@ -72,8 +72,8 @@ ExpandItem *buttonOf(const SpearItem *spear)
     return qgraphicsitem_cast<ExpandItem *>(spear->expandBuddy());
 }
 
-/// A spear of the subject "Man", which has children without spears, in a scene that no editor
-/// shows.
+/** A spear of the subject "Man", which has children without spears, in a scene that no editor
+ * shows. */
 struct LonelySpear
 {
     LonelySpear()

@@ -25,7 +25,7 @@ private Q_SLOTS:
 };
 
 namespace {
-/// A square of 10 units in a scene with a view.
+/** A square of 10 units in a scene with a view. */
 struct Scenery
 {
     QGraphicsScene scene;

@@ -11,7 +11,7 @@
 
 namespace {
 
-/// A scene with three selectable items.
+/** A scene with three selectable items. */
 struct Stage
 {
     Stage()
@@ -29,7 +29,7 @@ struct Stage
 
 } // namespace
 
-/// What scenes tell of their selection while the library works on them.
+/** What scenes tell of their selection while the library works on them. */
 class TestSceneSelection : public QObject
 {
     Q_OBJECT

@@ -12,7 +12,7 @@
 #include <memory>
 #include <vector>
 
-/// That bones know whether they lead to one that is selected, hovered or linked.
+/** That bones know whether they lead to one that is selected, hovered or linked. */
 class TestSpearItemChain : public QObject
 {
     Q_OBJECT
@@ -28,7 +28,7 @@ private Q_SLOTS:
 };
 
 namespace {
-/// A header with two bones, each with a cause.
+/** A header with two bones, each with a cause. */
 struct Fish
 {
     QGraphicsScene scene;
@@ -47,7 +47,7 @@ struct Fish
         return spear;
     }
 
-    /// Those that stand out, in order.
+    /** Those that stand out, in order. */
     QString out() const
     {
         QString names;

@@ -16,7 +16,7 @@ std::unique_ptr<SpearItem> newSpear()
     return std::make_unique<SpearItem>(QStringLiteral("Cause"), 0, 20.0);
 }
 
-/// An item that counts how many of its kind are deleted.
+/** An item that counts how many of its kind are deleted. */
 class CountedItem : public QGraphicsRectItem
 {
 public:
@@ -31,14 +31,14 @@ private:
     int *m_deletions;
 };
 
-/// A kind of companion: how it is given to a spear and asked for.
+/** A kind of companion: how it is given to a spear and asked for. */
 struct Companion
 {
     void (SpearItem::*set)(QGraphicsItem *);
     QGraphicsItem *(SpearItem::*get)() const;
 };
 
-/// A spear, in a scene or not, with a companion of one kind.
+/** A spear, in a scene or not, with a companion of one kind. */
 struct Owner
 {
     Owner(const Companion &kind, bool inScene)

@@ -20,7 +20,7 @@ using namespace ShownBones;
 using namespace TestSupport;
 
 namespace {
-/// Brings a shown drawing into a state.
+/** Brings a shown drawing into a state. */
 using Preparation = std::function<void(EditorFixture &)>;
 } // namespace
 

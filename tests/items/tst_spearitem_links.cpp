@@ -24,7 +24,7 @@ std::unique_ptr<SpearItem> newSpear()
     return std::make_unique<SpearItem>(QStringLiteral("Cause"), 0, 20.0);
 }
 
-/// Ways to let the spear or the node of "Man" die.
+/** Ways to let the spear or the node of "Man" die. */
 enum class Death {
     DeleteSpear,
     DeleteParentSpear,

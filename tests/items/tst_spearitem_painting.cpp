@@ -51,7 +51,7 @@ const QString man = QStringLiteral("Man");
 const QColor backbone(60, 184, 121);
 constexpr int scale = 4;
 
-/// A horizontal bone of 200 units from (0, 0) to the left, of the tests' style.
+/** A horizontal bone of 200 units from (0, 0) to the left, of the tests' style. */
 struct FlatBone
 {
     FlatBone()
@@ -66,7 +66,7 @@ struct FlatBone
     {
         return paintedItem(*spear, canvas, state);
     }
-    /// How many units the line measures across in its middle, in exactly that colour.
+    /** How many units the line measures across in its middle, in exactly that colour. */
     double thickness(const QImage &picture, const QColor &color) const
     {
         return double(areaOf(picture.copy(canvas.pixelAt(QPointF(-100, 0)).x(), 0, 1,
@@ -82,14 +82,14 @@ struct FlatBone
     Canvas canvas{{-230, -30, 260, 60}, scale};
 };
 
-/// Where exactly that colour is in a canvas, in units.
+/** Where exactly that colour is in a canvas, in units. */
 QRectF unitsOf(const QImage &picture, const Canvas &canvas, const QColor &color)
 {
     const QRectF pixels = areaOf(picture, color);
     return {pixels.topLeft() / canvas.scale + canvas.area.topLeft(), pixels.size() / canvas.scale};
 }
 
-/// Lets a rectangle differ from another by what one pixel makes out on either side.
+/** Lets a rectangle differ from another by what one pixel makes out on either side. */
 bool isAbout(const QRectF &actual, const QRectF &expected)
 {
     const QRectF difference(actual.topLeft() - expected.topLeft(),

@@ -42,14 +42,14 @@ void expand(EditorFixture &shown, const QString &title, bool expanded)
     shown.editor.updateFish(false);
 }
 
-/// Something that happens to a shown drawing.
+/** Something that happens to a shown drawing. */
 struct Change
 {
     const char *name;
     std::function<void(EditorFixture &)> happen;
 };
 
-/// One after the other, so that every state follows another one.
+/** One after the other, so that every state follows another one. */
 const QVector<Change> &changes()
 {
     static const QVector<Change> all{

@@ -18,7 +18,7 @@
 
 using namespace TestSupport;
 
-/// How siblings are brought into an order, and what it costs.
+/** How siblings are brought into an order, and what it costs. */
 class TestStackOrder : public QObject
 {
     Q_OBJECT
@@ -72,7 +72,7 @@ void TestStackOrder::shouldStackInTheOrderOfTheList()
     QCOMPARE(stacked, wanted);
 }
 
-/// Every second child has a spear already; the builder makes the others behind them.
+/** Every second child has a spear already; the builder makes the others behind them. */
 void TestStackOrder::shouldPassLinearlyManySiblings()
 {
     constexpr int size = 1000;

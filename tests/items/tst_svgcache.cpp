@@ -12,7 +12,7 @@
 #include <QtTest>
 
 namespace {
-/// What the first of the two application objects of this program saw.
+/** What the first of the two application objects of this program saw. */
 struct FirstApplication
 {
     bool parsed = false;

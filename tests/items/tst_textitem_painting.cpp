@@ -16,7 +16,7 @@
 using namespace TestSupport;
 
 namespace {
-/// Which looks and flags a spear is given before its text box is painted.
+/** Which looks and flags a spear is given before its text box is painted. */
 enum class SpearIs { Untouched, Selected, Hovered, Linked };
 
 QColor nothing()

@@ -24,7 +24,7 @@
 
 using namespace TestSupport;
 
-/// What is saved, compared with the schema of docs/fishbone.schema.json.
+/** What is saved, compared with the schema of docs/fishbone.schema.json. */
 class tst_DocumentSchema : public QObject
 {
     Q_OBJECT
@@ -47,7 +47,7 @@ private:
 
 namespace {
 
-/// What the validator says about the files; empty when it finds nothing wrong.
+/** What the validator says about the files; empty when it finds nothing wrong. */
 QString mistakes(const QStringList &files)
 {
     QProcess validator;

@@ -19,7 +19,7 @@
 
 using namespace TestSupport;
 
-/// What the library leaves alone in the program that embeds it.
+/** What the library leaves alone in the program that embeds it. */
 class tst_HostEffects : public QObject
 {
     Q_OBJECT
@@ -35,7 +35,7 @@ namespace {
 
 const QString diagram = QStringLiteral("Effect[Man[Training],Machine]");
 
-/// What a program can be told apart by, one a line.
+/** What a program can be told apart by, one a line. */
 QString applicationState()
 {
     const QStringList lines{
@@ -70,7 +70,7 @@ QStringList filesBelow(const QString &folder)
     return files;
 }
 
-/// Shows a diagram and works on it with everything that needs no answer from a user.
+/** Shows a diagram and works on it with everything that needs no answer from a user. */
 void edit(EditorFixture &fixture)
 {
     fixture.select({QStringLiteral("Man")});

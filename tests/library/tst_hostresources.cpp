@@ -24,7 +24,7 @@ static void takeHostResourcesAway()
 }
 
 namespace {
-/// A header of 300 pixels as it is drawn, from its head in the middle of the left edge.
+/** A header of 300 pixels as it is drawn, from its head in the middle of the left edge. */
 QImage drawnHeader()
 {
     SpearItem header(QStringLiteral("Head"), 0, 20.0);
@@ -38,7 +38,7 @@ QImage drawnHeader()
 }
 } // namespace
 
-/// A host that brings its own pictures and template, or none.
+/** A host that brings its own pictures and template, or none. */
 class TestHostResources : public QObject
 {
     Q_OBJECT

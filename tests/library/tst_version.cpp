@@ -10,7 +10,7 @@
 #include <QVersionNumber>
 #include <QtTest>
 
-/// The version that headers and library tell, which is the one that the build declares.
+/** The version that headers and library tell, which is the one that the build declares. */
 class tst_Version : public QObject
 {
     Q_OBJECT

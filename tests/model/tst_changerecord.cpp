@@ -9,7 +9,7 @@
 
 #include <memory>
 
-/// What a model has told of its changes.
+/** What a model has told of its changes. */
 class TestChangeRecord : public QObject
 {
     Q_OBJECT

@@ -13,7 +13,7 @@
 
 namespace {
 
-/// The names of the documents, each of which has to stand in its row.
+/** The names of the documents, each of which has to stand in its row. */
 QString names(const DocumentList &list)
 {
     QStringList texts;
@@ -40,7 +40,7 @@ void fill(DocumentList &list, const QString &text)
 
 } // namespace
 
-/// The documents of a model, and the rows that they know.
+/** The documents of a model, and the rows that they know. */
 class TestDocumentList : public QObject
 {
     Q_OBJECT

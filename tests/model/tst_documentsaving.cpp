@@ -14,7 +14,7 @@
 
 using namespace TestSupport;
 
-/// How a document is written, and what is asked about that.
+/** How a document is written, and what is asked about that. */
 class TestDocumentSaving : public QObject
 {
     Q_OBJECT

@@ -7,7 +7,7 @@
 #include <fishbone/model/documentstate.h>
 #include <tests/program/testprogram.h>
 
-/// The name of a document and whether it has unsaved changes.
+/** The name of a document and whether it has unsaved changes. */
 class TestDocumentState : public QObject
 {
     Q_OBJECT

@@ -17,7 +17,7 @@ QJsonObject fields(const char *json)
 
 } // namespace
 
-/// What a document keeps beside its tree.
+/** What a document keeps beside its tree. */
 class TestDocumentView : public QObject
 {
     Q_OBJECT

@@ -23,7 +23,7 @@
 
 using namespace TestSupport;
 
-/// Changing what the columns show.
+/** Changing what the columns show. */
 class TestFishModelEditing : public QObject
 {
     Q_OBJECT

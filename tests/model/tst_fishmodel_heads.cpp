@@ -11,7 +11,7 @@
 
 using namespace TestSupport;
 
-/// Putting a node back with FishModel::putRow(), and exchanging the head of a document.
+/** Putting a node back with FishModel::putRow(), and exchanging the head of a document. */
 class TestFishModelHeads : public QObject
 {
     Q_OBJECT

@@ -22,7 +22,7 @@ QByteArray oneBone()
     return QJsonDocument(documentFromText(QStringLiteral("Late[Bone]"))).toJson();
 }
 
-/// What listeners of the model's own announcements try to change.
+/** What listeners of the model's own announcements try to change. */
 const std::vector<std::pair<const char *, std::function<bool(CommandFixture &)>>> refused = {
     {"insertRows", [](CommandFixture &f) { return f.model->insertRows(0, 1, f.index("A")); }},
     {"insertExistItemRows",
@@ -67,7 +67,7 @@ const std::vector<std::pair<const char *, std::function<bool(CommandFixture &)>>
 } // namespace
 Q_DECLARE_METATYPE(Change)
 
-/// Listeners that change the model themselves, and nodes that are not the model's own.
+/** Listeners that change the model themselves, and nodes that are not the model's own. */
 class TestFishModelListeners : public QObject
 {
     Q_OBJECT

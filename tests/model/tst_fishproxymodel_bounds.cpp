@@ -23,7 +23,7 @@
 using namespace TestSupport;
 
 /** The filter that keeps ancestors. */
-/// Any changes of any tree, and what they may cost.
+/** Any changes of any tree, and what they may cost. */
 class TestFishProxyModelBounds : public QObject
 {
     Q_OBJECT

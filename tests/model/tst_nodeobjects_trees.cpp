@@ -22,7 +22,7 @@
 using namespace TestSupport;
 
 /** Node objects of the diagram format: nodes and trees from them and to them. */
-/// Whole trees that are loaded and inserted.
+/** Whole trees that are loaded and inserted. */
 class TestNodeObjectsTrees : public QObject
 {
     Q_OBJECT

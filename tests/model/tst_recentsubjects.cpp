@@ -6,7 +6,7 @@
 #include <fishbone/model/recentsubjects.h>
 #include <tests/program/testprogram.h>
 
-/// The subjects that were shown last.
+/** The subjects that were shown last. */
 class TestRecentSubjects : public QObject
 {
     Q_OBJECT

@@ -24,7 +24,7 @@ using namespace TestSupport;
 
 namespace {
 
-/// A value that no new subject has, another one for each attribute.
+/** A value that no new subject has, another one for each attribute. */
 QVariant unusual(const SubjectAttribute &attribute)
 {
     const QString key = attribute.key();
@@ -68,7 +68,7 @@ const SubjectAttribute &attributeOf(const QString &key)
 
 } // namespace
 
-/// The one list of a subject's attributes, and all lists that follow it.
+/** The one list of a subject's attributes, and all lists that follow it. */
 class TestSubjectAttribute : public QObject
 {
     Q_OBJECT

@@ -29,7 +29,7 @@ QJsonObject styleShowing(int characters)
 } // namespace
 
 /** The attributes of a node and its links to a spear and a style. */
-/// The spear of a node, and its own style.
+/** The spear of a node, and its own style. */
 class TestTreeItemSpear : public QObject
 {
     Q_OBJECT

@@ -15,7 +15,7 @@
 using namespace TestSupport;
 
 /** The operations on a tree of nodes. */
-/// Taking nodes out, and trees of any shape.
+/** Taking nodes out, and trees of any shape. */
 class TestTreeItemTreeRemoving : public QObject
 {
     Q_OBJECT

@@ -11,7 +11,7 @@
 namespace {
 using Programs = QMap<QString, TestSupport::TestProgram::Main>;
 
-/// Made by whichever source is initialized first.
+/** Made by whichever source is initialized first. */
 Programs &programs()
 {
     static Programs all;

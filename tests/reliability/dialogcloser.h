@@ -10,8 +10,10 @@
 #include <QRandomGenerator>
 #include <QTimer>
 
-/// Answers every dialog and menu that comes up, as a user in a hurry: accepts, rejects or closes
-/// it.
+/**
+ * Answers every dialog and menu that comes up, as a user in a hurry: accepts, rejects or closes
+ * it.
+ */
 class DialogCloser
 {
     Q_DISABLE_COPY(DialogCloser)

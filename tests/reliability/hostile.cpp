@@ -35,7 +35,7 @@
 
 namespace {
 
-/// Answers dialogs and menus as a user who wants what they offer.
+/** Answers dialogs and menus as a user who wants what they offer. */
 class Answerer
 {
 public:
@@ -87,7 +87,7 @@ void printProblems(QtMsgType type, const QMessageLogContext &, const QString &te
         std::fprintf(stderr, "%s\n", qPrintable(text));
 }
 
-/// Prints which signals come in an operation, a line each.
+/** Prints which signals come in an operation, a line each. */
 int printSignals(HostileStage &stage, const HostileAct &operation)
 {
     const Answerer answerer(stage);
@@ -107,7 +107,7 @@ int printSignals(HostileStage &stage, const HostileAct &operation)
     return 0;
 }
 
-/// Undoes and redoes all there is, and looks at what there is left then.
+/** Undoes and redoes all there is, and looks at what there is left then. */
 QString historyFault(HostileStage &stage)
 {
     stage.giveUp({"Age"}); // which the first step of the history renames
@@ -135,7 +135,7 @@ struct Combination
         return operation->name + QStringLiteral(" / ") + signal + QStringLiteral(" / ") +
                reaction->name;
     }
-    /// Between the announcement of a change and the change.
+    /** Between the announcement of a change and the change. */
     bool isWithinChange() const { return signal.contains(QLatin1String("AboutToBe")); }
 };
 
@@ -177,7 +177,7 @@ public:
     {
     }
 
-    /// All combinations that there are; false when an operation fails by itself.
+    /** All combinations that there are; false when an operation fails by itself. */
     bool find()
     {
         bool isWell = true;

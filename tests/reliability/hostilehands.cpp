@@ -23,7 +23,7 @@ namespace {
 
 using Run = std::function<void(HostileStage &)>;
 
-/// A mouse above the first editor, as long as there is one.
+/** A mouse above the first editor, as long as there is one. */
 class Hand
 {
 public:

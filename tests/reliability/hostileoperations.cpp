@@ -22,7 +22,7 @@ Run selecting(const QList<const char *> &titles)
     return [titles](HostileStage &stage) { stage.select(titles); };
 }
 
-/// A slot of the editor without arguments, with bones selected before.
+/** A slot of the editor without arguments, with bones selected before. */
 HostileAct slot(const char *name, const QList<const char *> &selected,
                 const QList<const char *> &concerned)
 {
@@ -37,7 +37,7 @@ HostileAct call(const QString &name, const Run &run, const QList<const char *> &
     return {name, run, concerned, selecting({"Man"})};
 }
 
-/// Copies a bone into the buffer and selects where it shall be pasted.
+/** Copies a bone into the buffer and selects where it shall be pasted. */
 void preparePaste(HostileStage &stage)
 {
     stage.select({"Training"});
@@ -53,7 +53,7 @@ TreeItem *freshSubject()
     return item;
 }
 
-/// The edits that the history knows.
+/** The edits that the history knows. */
 std::vector<HostileAct> edits()
 {
     std::vector<HostileAct> acts = {
@@ -121,7 +121,7 @@ std::vector<HostileAct> edits()
     return acts;
 }
 
-/// Each edit, taken back and carried out again.
+/** Each edit, taken back and carried out again. */
 void addSteps(std::vector<HostileAct> &acts)
 {
     const std::vector<HostileAct> all = edits();
@@ -143,7 +143,7 @@ void addSteps(std::vector<HostileAct> &acts)
     }
 }
 
-/// The other slots, by their arguments.
+/** The other slots, by their arguments. */
 void addSlots(std::vector<HostileAct> &acts)
 {
     for (const char *name :

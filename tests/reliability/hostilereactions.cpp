@@ -19,7 +19,7 @@ namespace {
 using Run = std::function<void(HostileStage &)>;
 using Titles = QList<const char *>;
 
-/// Does something to the first editor, when there still is one.
+/** Does something to the first editor, when there still is one. */
 Run withEditor(const std::function<void(FishEditor &, HostileStage &)> &run)
 {
     return [run](HostileStage &stage) {
@@ -28,7 +28,7 @@ Run withEditor(const std::function<void(FishEditor &, HostileStage &)> &run)
     };
 }
 
-/// Does something to the model, when there still is one.
+/** Does something to the model, when there still is one. */
 Run withModel(const std::function<void(FishModel &, HostileStage &)> &run)
 {
     return [run](HostileStage &stage) {

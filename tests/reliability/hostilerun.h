@@ -9,11 +9,11 @@
 #include <functional>
 #include <map>
 
-/// Runs functions in processes of their own, forked from this one, so many at a time.
+/** Runs functions in processes of their own, forked from this one, so many at a time. */
 class ForkedRuns
 {
 public:
-    /// What came of one: nothing printed and an end by itself is well.
+    /** What came of one: nothing printed and an end by itself is well. */
     struct Outcome
     {
         bool isWell = false;
@@ -27,9 +27,9 @@ public:
     }
     ~ForkedRuns() { finish(); }
 
-    /// Starts \a body, whose result is the exit code, when there is room; \a report comes later.
+    /** Starts @p body, whose result is the exit code, when there is room; @p report comes later. */
     void start(const std::function<int()> &body, const Report &report);
-    /// Waits for all that were started.
+    /** Waits for all that were started. */
     void finish();
 
 private:

@@ -17,8 +17,10 @@ using namespace TestSupport;
 
 namespace {
 
-/// Signals that the toolkit sends from its own event handling, in which it does not expect its
-/// objects to go, and those that all QObjects have.
+/**
+ * Signals that the toolkit sends from its own event handling, in which it does not expect its
+ * objects to go, and those that all QObjects have.
+ */
 bool isToolkits(const QByteArray &signal)
 {
     static const QByteArrayList names = {"changed", "sceneRectChanged", "focusItemChanged",
@@ -33,7 +35,7 @@ QModelIndex shownIndex(const FishEditor &editor)
 
 } // namespace
 
-/// Hears one signal of one object.
+/** Hears one signal of one object. */
 class HostileStage::Ear : public QObject
 {
 public:

@@ -17,8 +17,10 @@
 #include <fishbone/model/fishmodel.h>
 #include <fishbone/undo/undostack.h>
 
-/// What a listener does harm to: a model of two documents, an editor for each and one more model
-/// with its editor. Nothing of it is destroyed at the end, as the process ends.
+/**
+ * What a listener does harm to: a model of two documents, an editor for each and one more model
+ * with its editor. Nothing of it is destroyed at the end, as the process ends.
+ */
 class HostileStage
 {
     Q_DISABLE_COPY(HostileStage)
@@ -30,27 +32,27 @@ public:
     QModelIndex index(const char *title) const; ///< of the same
     SpearItem *spear(const char *title) const;  ///< of the same
     void select(const QList<const char *> &titles) const;
-    /// The first subject of the first model that was not there at the beginning; null for none.
+    /** The first subject of the first model that was not there at the beginning; null for none. */
     TreeItem *newNode() const;
-    /// The document that the first editor shows at the beginning, as long as it is listed.
+    /** The document that the first editor shows at the beginning, as long as it is listed. */
     FishInfo *shownDocument() const;
-    /// Nobody asks for that document any more: it is about to die, and nothing dies twice.
+    /** Nobody asks for that document any more: it is about to die, and nothing dies twice. */
     void forgetDocument() { m_shown.clear(); }
-    /// A file with a document of its own.
+    /** A file with a document of its own. */
     QString file() const { return m_folder.filePath(QStringLiteral("diagram.json")); }
 
-    /// Calls \a listener at each of the signal's emissions.
+    /** Calls @p listener at each of the signal's emissions. */
     void listen(const QString &signal, const std::function<void()> &listener);
-    /// The names of all signals that listen() takes.
+    /** The names of all signals that listen() takes. */
     QStringList signalNames() const;
-    /// A dialog has come up; its signals can be listened to from now on.
+    /** A dialog has come up; its signals can be listened to from now on. */
     void watchDialog(QObject *dialog);
 
-    /// Allows a subject to change or vanish, with all below it; "*" all of the first document.
+    /** Allows a subject to change or vanish, with all below it; "*" all of the first document. */
     void giveUp(const QList<const char *> &titles);
-    /// What is wrong with anything that was not given up; empty when nothing is.
+    /** What is wrong with anything that was not given up; empty when nothing is. */
     QString fault() const;
-    /// The tree of the first model as text, to be compared.
+    /** The tree of the first model as text, to be compared. */
     QString treeText() const;
 
     QPointer<FishModel> model;

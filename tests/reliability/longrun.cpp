@@ -32,7 +32,7 @@ namespace {
 
 constexpr int checkEvery = 50;
 constexpr int closeEvery = 5000;
-/// What caches of the toolkit may take on top of what they had after the first closing.
+/** What caches of the toolkit may take on top of what they had after the first closing. */
 constexpr qint64 cacheGrowth = 64 << 20;
 
 std::deque<QString> lastOperations;
@@ -78,7 +78,7 @@ int numberOf(const QCommandLineParser &parser, const char *option)
     return number;
 }
 
-/// Prints now and then how far the run has come.
+/** Prints now and then how far the run has come. */
 class Progress
 {
 public:

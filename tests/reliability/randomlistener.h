@@ -11,8 +11,10 @@
 class FishEditor;
 class RandomWorld;
 
-/// Listens to an editor and its model during one call of the library, and at the first signal that
-/// it takes does anything that a host may do.
+/**
+ * Listens to an editor and its model during one call of the library, and at the first signal that
+ * it takes does anything that a host may do.
+ */
 class RandomListener
 {
     Q_DISABLE_COPY(RandomListener)
@@ -21,13 +23,13 @@ public:
     RandomListener(RandomWorld &world, QRandomGenerator &random);
     ~RandomListener();
 
-    /// From now on, until disarm().
+    /** From now on, until disarm(). */
     void arm(FishEditor &editor);
-    /// Whether it has done something since arm().
+    /** Whether it has done something since arm(). */
     bool disarm();
 
 private:
-    /// Where a signal comes: between the announcement of a change and the change, or not.
+    /** Where a signal comes: between the announcement of a change and the change, or not. */
     enum class When { Within, Outside };
 
     template <typename Sender, typename Signal>

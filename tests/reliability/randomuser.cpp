@@ -28,7 +28,7 @@ Qt::KeyboardModifiers anyModifiers(QRandomGenerator &random)
     return all[random.bounded(6) < 3 ? 0 : random.bounded(4)];
 }
 
-/// The slots that the editor itself declares public.
+/** The slots that the editor itself declares public. */
 QVector<QMetaMethod> editorSlots()
 {
     QVector<QMetaMethod> found;
@@ -97,7 +97,7 @@ QString RandomUser::callSlot()
     return name + QStringLiteral(" with a listener");
 }
 
-/// Calls a slot with arguments of its types; false when there is none to be had.
+/** Calls a slot with arguments of its types; false when there is none to be had. */
 bool RandomUser::call(FishEditor &editor, const QMetaMethod &slot)
 {
     const QByteArray signature = slot.methodSignature();
@@ -392,7 +392,7 @@ void RandomUser::selectSome(FishEditor &editor)
     }
 }
 
-/// Mostly on a bone, which a point of the view alone seldom hits.
+/** Mostly on a bone, which a point of the view alone seldom hits. */
 QPoint RandomUser::anyPoint(FishEditor &editor)
 {
     const SpearItem *const spear = m_random.bounded(4) == 0 ? nullptr : m_world.anySpear(&editor);

@@ -12,7 +12,7 @@
 #include <tests/reliability/randomlistener.h>
 #include <tests/reliability/randomworld.h>
 
-/// Does at random whatever a host and its user can do.
+/** Does at random whatever a host and its user can do. */
 class RandomUser
 {
     Q_DISABLE_COPY(RandomUser)
@@ -20,16 +20,20 @@ class RandomUser
 public:
     RandomUser(RandomWorld &world, QRandomGenerator &random);
 
-    /// Does one thing; its name.
+    /** Does one thing; its name. */
     QString act();
 
-    /// Does one thing that the history takes back, and takes it back. What differs then; empty when
-    /// nothing does.
+    /**
+     * Does one thing that the history takes back, and takes it back. What differs then; empty when
+     * nothing does.
+     */
     QString undoFault();
 
-    /// How often each public slot of the editor was called; for the proof that none was left out.
+    /**
+     * How often each public slot of the editor was called; for the proof that none was left out.
+     */
     const QHash<QByteArray, int> &calledSlots() const { return m_calls; }
-    /// How often a listener did something while a slot ran.
+    /** How often a listener did something while a slot ran. */
     int reactions() const { return m_reactions; }
 
 private:

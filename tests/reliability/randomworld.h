@@ -15,21 +15,25 @@
 
 class SpearItem;
 
-/// Some models and some editors that show their documents: what a random user works on, and whether
-/// it still fits together.
+/**
+ * Some models and some editors that show their documents: what a random user works on, and whether
+ * it still fits together.
+ */
 class RandomWorld
 {
     Q_DISABLE_COPY(RandomWorld)
 
 public:
-    /// The first document of each model has \a subjects subjects, when that is not 0; all others
-    /// have a few.
+    /**
+     * The first document of each model has @p subjects subjects, when that is not 0; all others
+     * have a few.
+     */
     explicit RandomWorld(QRandomGenerator &random, int subjects = 0);
     ~RandomWorld();
 
-    /// Lets go of everything, in random order.
+    /** Lets go of everything, in random order. */
     void clear();
-    /// Makes what there has to be at least, and takes away what is too much.
+    /** Makes what there has to be at least, and takes away what is too much. */
     void keepInBounds();
 
     FishModel *anyModel();             ///< null when there is none
@@ -47,15 +51,15 @@ public:
     void reloadDocument(FishModel *model);
     void saveDocument(FishModel *model);
     void showSomething(FishEditor *editor);
-    /// Gives an editor any model, and shows the first document, as the drawing stays otherwise.
+    /** Gives an editor any model, and shows the first document, as the drawing stays otherwise. */
     void setModel(FishEditor *editor);
-    /// What a host does after it has changed rows by itself.
+    /** What a host does after it has changed rows by itself. */
     void redraw(FishModel *model);
     void redrawAll();
 
-    /// What is wrong and can be seen at once; empty when nothing is.
+    /** What is wrong and can be seen at once; empty when nothing is. */
     QString quickFault() const;
-    /// What is wrong anywhere; looks at everything.
+    /** What is wrong anywhere; looks at everything. */
     QString fault() const;
 
 private:

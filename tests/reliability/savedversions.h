@@ -11,12 +11,14 @@
 
 #include <tests/support/documents.h>
 
-/// The two versions of a document that saving.cpp writes in turn and its tests look for.
+/** The two versions of a document that saving.cpp writes in turn and its tests look for. */
 namespace SavedVersions {
 
 constexpr int count = 2;
 
-/// Version 0 or 1 of the document, loaded into \a model. They differ in size and in every subject.
+/**
+ * Version 0 or 1 of the document, loaded into @p model. They differ in size and in every subject.
+ */
 inline FishInfo *load(FishModel &model, int version, int nodes)
 {
     const QString head = QStringLiteral("version %1").arg(version);
@@ -29,7 +31,7 @@ inline FishInfo *load(FishModel &model, int version, int nodes)
     return TestSupport::loadDocument(model, object);
 }
 
-/// The bytes that a file with that version has.
+/** The bytes that a file with that version has. */
 inline QByteArray bytes(int version, int nodes)
 {
     FishModel model;

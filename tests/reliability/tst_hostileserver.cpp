@@ -41,7 +41,7 @@ QByteArray redirect(const QByteArray &location)
     return "HTTP/1.1 302 Found\r\nLocation: " + location + "\r\nContent-Length: 0\r\n\r\n";
 }
 
-/// Does with each visitor what it was told for the path.
+/** Does with each visitor what it was told for the path. */
 class HostileServer : public QTcpServer
 {
 public:
@@ -77,7 +77,7 @@ private:
     Behaviour m_behaviour;
 };
 
-/// Sends bytes and closes the connection.
+/** Sends bytes and closes the connection. */
 HostileServer::Behaviour sends(const QByteArray &bytes)
 {
     return [bytes](QTcpSocket *socket) {
@@ -86,7 +86,7 @@ HostileServer::Behaviour sends(const QByteArray &bytes)
     };
 }
 
-/// Sends bytes, then \a part again and again, as fast as it is read with \a pause 0.
+/** Sends bytes, then @p part again and again, as fast as it is read with @p pause 0. */
 HostileServer::Behaviour repeats(const QByteArray &bytes, const QByteArray &part, int pause)
 {
     return [bytes, part, pause](QTcpSocket *socket) {
@@ -100,7 +100,7 @@ HostileServer::Behaviour repeats(const QByteArray &bytes, const QByteArray &part
     };
 }
 
-/// A size in KiB out of what the system knows of this process; 0 when it does not tell.
+/** A size in KiB out of what the system knows of this process; 0 when it does not tell. */
 qint64 processSize(const char *name)
 {
     QFile status(QStringLiteral("/proc/self/status"));
@@ -114,7 +114,7 @@ qint64 processSize(const char *name)
     return 0;
 }
 
-/// How much larger than at its beginning the process has become since then, in KiB.
+/** How much larger than at its beginning the process has become since then, in KiB. */
 class PeakGrowth
 {
 public:
@@ -132,7 +132,7 @@ private:
     qint64 m_before = 0;
 };
 
-/// 512 MiB of blanks before a document, packed to a thousandth as "deflate".
+/** 512 MiB of blanks before a document, packed to a thousandth as "deflate". */
 QByteArray bomb()
 {
     return qCompress(QByteArray(512 << 20, ' ') + document, 9).mid(4);
@@ -160,7 +160,7 @@ private Q_SLOTS:
     void shouldFreeLoadsThatFailTogether();
 
 private:
-    /// Loads \a url: the errors that were signalled until all of the load was freed.
+    /** Loads @p url: the errors that were signalled until all of the load was freed. */
     QString load(const QUrl &url);
 
     std::unique_ptr<HostileServer> m_server;
@@ -251,7 +251,7 @@ void tst_HostileServer::shouldFailOnceOn()
     QCOMPARE(m_fixture->model->rowCount(), 1);
 }
 
-/// A file of this machine is nothing that a server may have loaded.
+/** A file of this machine is nothing that a server may have loaded. */
 void tst_HostileServer::shouldNotFollowARedirectToAFile()
 {
     const QTemporaryDir folder;

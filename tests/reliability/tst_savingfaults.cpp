@@ -49,7 +49,7 @@ bool writeFile(const QString &path, const QByteArray &content)
     return file.open(QIODevice::WriteOnly) && file.write(content) == content.size();
 }
 
-/// The exit code of one save of the second version; -1 when the program did not end well.
+/** The exit code of one save of the second version; -1 when the program did not end well. */
 int saveOnce(const QStringList &arguments)
 {
     QProcess program;
@@ -58,7 +58,7 @@ int saveOnce(const QStringList &arguments)
     return isEnded && program.exitStatus() == QProcess::NormalExit ? program.exitCode() : -1;
 }
 
-/// Programs that are started meanwhile cannot make a file larger than this.
+/** Programs that are started meanwhile cannot make a file larger than this. */
 class SizeLimit
 {
     Q_DISABLE_COPY(SizeLimit)
@@ -77,7 +77,7 @@ private:
     rlimit m_before{};
 };
 
-/// A file system of 64 KiB as long as it lives, where the system lets us make one.
+/** A file system of 64 KiB as long as it lives, where the system lets us make one. */
 class SmallDisk
 {
     Q_DISABLE_COPY(SmallDisk)

@@ -40,7 +40,7 @@ QByteArray contentOf(const QString &path)
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("unreadable");
 }
 
-/// A tree of \a count subjects in which each has \a width children at most.
+/** A tree of @p count subjects in which each has @p width children at most. */
 std::unique_ptr<TreeItem> makeBush(int count, int width)
 {
     auto top = std::make_unique<TreeItem>();
@@ -65,7 +65,7 @@ const TreeItem *lastBelow(const TreeItem *node)
     return node;
 }
 
-/// The most memory that this process has had so far, in MiB.
+/** The most memory that this process has had so far, in MiB. */
 long mostMemory()
 {
     rusage usage{};
@@ -73,9 +73,11 @@ long mostMemory()
     return usage.ru_maxrss / 1024;
 }
 
-/// Lets events through after each step, as between those of a user, and tells how long it took and
-/// what it needed, when asked for the long form. Qt keeps a list of the items that had no events
-/// yet, and looks through all of it for each one that goes.
+/**
+ * Lets events through after each step, as between those of a user, and tells how long it took and
+ * what it needed, when asked for the long form. Qt keeps a list of the items that had no events
+ * yet, and looks through all of it for each one that goes.
+ */
 class Steps
 {
 public:
@@ -110,7 +112,7 @@ private Q_SLOTS:
 
 private:
     QString path() const { return m_folder.filePath(QStringLiteral("document.json")); }
-    /// Saves the first document, reads it and saves that: what is wrong with it, if anything.
+    /** Saves the first document, reads it and saves that: what is wrong with it, if anything. */
     QString savingFault(const FishModel &model);
 
     QTemporaryDir m_folder;

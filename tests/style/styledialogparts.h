@@ -14,7 +14,7 @@
 #include <QLineEdit>
 #include <QPen>
 
-/// The parts of the style and pen dialogs, and styles to edit, as their tests use them.
+/** The parts of the style and pen dialogs, and styles to edit, as their tests use them. */
 namespace StyleDialogParts {
 
 inline constexpr int styleCombo = 0;
@@ -59,7 +59,7 @@ inline QJsonObject written(const SpearStyle &style)
     return object;
 }
 
-/// A style with everything set in every state, each state another way.
+/** A style with everything set in every state, each state another way. */
 inline void fillStyle(SpearStyle &style)
 {
     for (int i = 0; i < 4; ++i) {

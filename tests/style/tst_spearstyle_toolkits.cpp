@@ -17,8 +17,10 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
-/// Styles and documents that were written with either version of the toolkit. The files in the
-/// folder "toolkits" come from a build with the version that their name begins with.
+/**
+ * Styles and documents that were written with either version of the toolkit. The files in the
+ * folder "toolkits" come from a build with the version that their name begins with.
+ */
 class tst_SpearStyleToolkits : public QObject
 {
     Q_OBJECT
@@ -45,7 +47,7 @@ QByteArray fixture(const QString &name)
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-/// The style that the files hold: something in each field, different in each state.
+/** The style that the files hold: something in each field, different in each state. */
 void fill(SpearStyle &style)
 {
     QFont plain(QStringLiteral("DejaVu Sans"), 11, QFont::Light);

@@ -16,7 +16,7 @@ using TestSupport::shownPixmap;
 
 namespace {
 
-/// The preview of a text that is not cut, in an otherwise fresh style.
+/** The preview of a text that is not cut, in an otherwise fresh style. */
 QImage uncutPreview(const QString &text)
 {
     SpearStyle style;

@@ -92,7 +92,7 @@ QJsonObject style(const Choice &choice)
     return object;
 }
 
-/// The style that a spear is drawn with: its own one or that of all.
+/** The style that a spear is drawn with: its own one or that of all. */
 SpearStyle &styleOf(const SpearItem &spear)
 {
     return *spear.style();

@@ -12,11 +12,13 @@
 class SpearItem;
 class TreeItem;
 
-/// Every public way to change what a drawing is made from, by name: subjects, styles, spears and
-/// companions. None of them lays out.
+/**
+ * Every public way to change what a drawing is made from, by name: subjects, styles, spears and
+ * companions. None of them lays out.
+ */
 namespace AnySetter {
 
-/// What a setter is given. The same values change two drawings alike.
+/** What a setter is given. The same values change two drawings alike. */
 struct Choice
 {
     quint32 number = 0;  ///< the setter picks its values by it
@@ -31,7 +33,7 @@ struct Setter
 
 const std::vector<Setter> &all();
 
-/// Undoes what the setters do to what all drawings share.
+/** Undoes what the setters do to what all drawings share. */
 void restoreShared();
 
 } // namespace AnySetter

@@ -12,10 +12,10 @@
 
 #include <vector>
 
-/// Pictures of layouts, to look at and to compare.
+/** Pictures of layouts, to look at and to compare. */
 namespace ClearPictures {
 
-/// What a picture of \a subjects needs; \a statuses may be shorter.
+/** What a picture of @p subjects needs; @p statuses may be shorter. */
 inline ClearPictureContent contentOf(const std::vector<ClearSubject> &subjects,
                                      const std::vector<int> &statuses = {})
 {
@@ -49,8 +49,10 @@ inline QImage paint(const ClearPicture &picture, qreal scale)
     return image;
 }
 
-/// How alike two pictures are: the share of pixels that differ by no more than a little, after both
-/// are made small, so that the renderers' edges do not count.
+/**
+ * How alike two pictures are: the share of pixels that differ by no more than a little, after both
+ * are made small, so that the renderers' edges do not count.
+ */
 inline qreal likeness(const QImage &one, const QImage &other)
 {
     const QSize size(one.width() / 4, one.height() / 4);

@@ -21,7 +21,7 @@
 
 namespace TestSupport {
 
-/// All nodes of a model, heads first and in the order of the documents.
+/** All nodes of a model, heads first and in the order of the documents. */
 inline std::vector<TreeItem *> allNodes(const FishModel &model)
 {
     std::vector<TreeItem *> nodes;
@@ -37,7 +37,7 @@ inline std::vector<TreeItem *> allNodes(const FishModel &model)
     return nodes;
 }
 
-/// Everything there is in a model: what its documents would be saved as, and what no file tells.
+/** Everything there is in a model: what its documents would be saved as, and what no file tells. */
 inline QString modelText(const FishModel &model)
 {
     QStringList parts;
@@ -55,8 +55,10 @@ inline QString modelText(const FishModel &model)
     return parts.join(QLatin1Char('\n'));
 }
 
-/// What is wrong with the spears; empty when each hangs below the one of its subject's parent, in
-/// the order of the rows, and when a subject shows either all of its children or none.
+/**
+ * What is wrong with the spears; empty when each hangs below the one of its subject's parent, in
+ * the order of the rows, and when a subject shows either all of its children or none.
+ */
 inline QString spearFault(const FishModel &model)
 {
     for (const TreeItem *node : allNodes(model)) {
@@ -82,14 +84,16 @@ inline QString spearFault(const FishModel &model)
     return QString();
 }
 
-/// A model, its history and, once draw() was called, a scene with all spears for each document.
+/** A model, its history and, once draw() was called, a scene with all spears for each document. */
 class CommandFixture
 {
     Q_DISABLE_COPY(CommandFixture)
 
 public:
-    /// The documents are written as documentFromText() reads them, with ";" between them. Heads
-    /// show their plain title: the counts of the first document change what the other rows show.
+    /**
+     * The documents are written as documentFromText() reads them, with ";" between them. Heads
+     * show their plain title: the counts of the first document change what the other rows show.
+     */
     explicit CommandFixture(const QString &documents = QString())
     {
         model->setModelType(FISH_MODEL_DIAGRAM);
@@ -104,7 +108,7 @@ public:
         model.reset();
     }
 
-    /// Makes all spears that there are not, each document in a scene of its own.
+    /** Makes all spears that there are not, each document in a scene of its own. */
     void draw()
     {
         const SpearBuilder builder(*model);
@@ -123,7 +127,7 @@ public:
     SpearItem *spear(const char *title) const { return node(title)->spear(); }
     FishInfo *document(int row) const { return model->fishList().at(row); }
 
-    /// The snapshot of the subjects of these titles, as an editor takes it.
+    /** The snapshot of the subjects of these titles, as an editor takes it. */
     QJsonObject snapshot(const QStringList &titles) const
     {
         QJsonArray objects;
@@ -137,7 +141,7 @@ public:
         return {{QStringLiteral("children"), objects}};
     }
 
-    /// The trees of all documents with ";" between them; "+" is a new subject, "*" a new head.
+    /** The trees of all documents with ";" between them; "+" is a new subject, "*" a new head. */
     QString text() const
     {
         QStringList texts;
@@ -151,8 +155,10 @@ public:
             .replace(QStringLiteral("自由主题"), QStringLiteral("*"));
     }
 
-    /// Pushes a command and takes it back and carries it out again, twice. What is wrong with the
-    /// bytes or the spears in between; empty when nothing is.
+    /**
+     * Pushes a command and takes it back and carries it out again, twice. What is wrong with the
+     * bytes or the spears in between; empty when nothing is.
+     */
     QString roundTripFault(UndoCommand *command)
     {
         const QString before = modelText(*model);
@@ -179,7 +185,7 @@ public:
     std::unique_ptr<UndoStack> stack = std::make_unique<UndoStack>();
 
 private:
-    /// The first line in which the model differs from what was expected.
+    /** The first line in which the model differs from what was expected. */
     QString difference(const QString &expected) const
     {
         const QStringList lines = modelText(*model).split(QLatin1Char('\n'));

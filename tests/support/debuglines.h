@@ -8,7 +8,7 @@
 
 namespace TestSupport {
 
-/// Collects debug lines with their category as long as it lives.
+/** Collects debug lines with their category as long as it lives. */
 class DebugLines
 {
     Q_DISABLE_COPY(DebugLines)

@@ -17,7 +17,7 @@
 
 namespace TestSupport {
 
-/// The button with exactly that text; null when there is none.
+/** The button with exactly that text; null when there is none. */
 template <typename Button = QAbstractButton>
 Button *buttonWithText(const QWidget &window, const QString &text)
 {
@@ -29,7 +29,7 @@ Button *buttonWithText(const QWidget &window, const QString &text)
     return nullptr;
 }
 
-/// What a screen reader calls a widget.
+/** What a screen reader calls a widget. */
 inline QString accessibleName(QWidget *widget)
 {
     // On some platforms Qt names a combo box after its current item and leaves the rest to
@@ -40,8 +40,10 @@ inline QString accessibleName(QWidget *widget)
     return interface ? interface->text(QAccessible::Name) : QString();
 }
 
-/// The classes of the controls, shown and able to take the focus, that have no name for those who
-/// do not see what stands beside them.
+/**
+ * The classes of the controls, shown and able to take the focus, that have no name for those who
+ * do not see what stands beside them.
+ */
 inline QStringList namelessControls(const QWidget &window)
 {
     QStringList classes;
@@ -62,8 +64,10 @@ inline QStringList namelessControls(const QWidget &window)
     return classes;
 }
 
-/// The accessible names of the widgets that Tab visits, from the one that has the focus when the
-/// window opens. Shows the window.
+/**
+ * The accessible names of the widgets that Tab visits, from the one that has the focus when the
+ * window opens. Shows the window.
+ */
 inline QStringList tabOrder(QWidget &window)
 {
     window.show();
@@ -78,7 +82,7 @@ inline QStringList tabOrder(QWidget &window)
     return names;
 }
 
-/// The texts that stand beside no control, so that they lead nobody to one.
+/** The texts that stand beside no control, so that they lead nobody to one. */
 inline QStringList strayLabels(const QWidget &window)
 {
     QStringList texts;
@@ -90,8 +94,10 @@ inline QStringList strayLabels(const QWidget &window)
     return texts;
 }
 
-/// Every text of a window that was written by its programmer: title, labels, buttons, groups and
-/// the items of combo boxes.
+/**
+ * Every text of a window that was written by its programmer: title, labels, buttons, groups and
+ * the items of combo boxes.
+ */
 inline QStringList writtenTexts(const QWidget &window)
 {
     QStringList texts{window.windowTitle()};
@@ -113,7 +119,7 @@ inline QStringList writtenTexts(const QWidget &window)
     return texts;
 }
 
-/// Puts every text of one translation context in brackets as long as it lives.
+/** Puts every text of one translation context in brackets as long as it lives. */
 class BracketTranslator : public QTranslator
 {
 public:

@@ -20,7 +20,7 @@
 
 namespace TestSupport {
 
-/// One node object of the diagram format, its children left aside.
+/** One node object of the diagram format, its children left aside. */
 inline QJsonObject nodeObject(const QString &title, const QString &uuid, const QString &pid)
 {
     return {{QStringLiteral("title"), title},
@@ -29,9 +29,11 @@ inline QJsonObject nodeObject(const QString &title, const QString &uuid, const Q
             {QStringLiteral("children"), QJsonArray()}};
 }
 
-/// The document that "Effect[Man[Training],Machine]" stands for: the head Effect with two main
-/// bones, the first of which has a child. A uuid is the title with "u-" in front, a pid the uuid of
-/// the parent; the head's is "-1".
+/**
+ * The document that "Effect[Man[Training],Machine]" stands for: the head Effect with two main
+ * bones, the first of which has a child. A uuid is the title with "u-" in front, a pid the uuid of
+ * the parent; the head's is "-1".
+ */
 inline QJsonObject documentFromText(const QString &text)
 {
     struct Open
@@ -67,7 +69,7 @@ inline QJsonObject documentFromText(const QString &text)
     return open.last().children.first().toObject();
 }
 
-/// The titles of a node and all below it, "Effect[Man[Training],Machine]".
+/** The titles of a node and all below it, "Effect[Man[Training],Machine]". */
 inline QString treeToText(const TreeItem &top)
 {
     QString text;
@@ -94,8 +96,10 @@ inline QString treeToText(const TreeItem &top)
     return text;
 }
 
-/// The same for what any model shows at and below \a index: the texts of \a column. For shallow
-/// trees.
+/**
+ * The same for what any model shows at and below @p index: the texts of @p column. For shallow
+ * trees.
+ */
 inline QString treeToText(const QAbstractItemModel &model, const QModelIndex &index, int column = 0)
 {
     QString text = index.siblingAtColumn(column).data().toString();
@@ -107,19 +111,19 @@ inline QString treeToText(const QAbstractItemModel &model, const QModelIndex &in
     return rows > 0 ? text + QLatin1Char(']') : text;
 }
 
-/// Loads a document into a model, as from a file. A document nests 511 subjects at most.
+/** Loads a document into a model, as from a file. A document nests 511 subjects at most. */
 inline FishInfo *loadDocument(FishModel &model, const QJsonObject &document)
 {
     return model.loadJsonFish(QJsonDocument(document).toJson(QJsonDocument::Compact));
 }
 
-/// Loads the document that documentFromText() reads.
+/** Loads the document that documentFromText() reads. */
 inline FishInfo *loadDocument(FishModel &model, const QString &text)
 {
     return loadDocument(model, documentFromText(text));
 }
 
-/// The node of that title in a model of any number of documents; null when there is none.
+/** The node of that title in a model of any number of documents; null when there is none. */
 inline TreeItem *nodeTitled(const FishModel &model, const QString &title)
 {
     std::vector<TreeItem *> waiting;
@@ -137,13 +141,13 @@ inline TreeItem *nodeTitled(const FishModel &model, const QString &title)
     return nullptr;
 }
 
-/// The index of nodeTitled().
+/** The index of nodeTitled(). */
 inline QModelIndex indexTitled(const FishModel &model, const QString &title)
 {
     return model.indexFromItem(nodeTitled(model, title));
 }
 
-/// What a random document looks like.
+/** What a random document looks like. */
 struct RandomShape
 {
     int nodes = 20;        ///< the head included
@@ -152,8 +156,10 @@ struct RandomShape
     int linkPercent = 20;  ///< nodes with a url
 };
 
-/// A random document, the same for the same seed everywhere. Titles start with the number of the
-/// node, so that they differ; uuids have one length.
+/**
+ * A random document, the same for the same seed everywhere. Titles start with the number of the
+ * node, so that they differ; uuids have one length.
+ */
 inline QJsonObject randomDocument(quint32 seed, const RandomShape &shape = {})
 {
     QRandomGenerator random(seed);
@@ -201,7 +207,7 @@ inline QJsonObject randomDocument(quint32 seed, const RandomShape &shape = {})
     return nodes.front().object;
 }
 
-/// A node with a child with a child and so on, \a depth nodes titled by their depth from 0 on.
+/** A node with a child with a child and so on, @p depth nodes titled by their depth from 0 on. */
 inline std::unique_ptr<TreeItem> makeChain(int depth)
 {
     auto top = std::make_unique<TreeItem>();
@@ -218,7 +224,7 @@ inline std::unique_ptr<TreeItem> makeChain(int depth)
     return top;
 }
 
-/// A node with \a width children titled by their row.
+/** A node with @p width children titled by their row. */
 inline std::unique_ptr<TreeItem> makeFan(int width)
 {
     auto top = std::make_unique<TreeItem>();
@@ -233,7 +239,7 @@ inline std::unique_ptr<TreeItem> makeFan(int width)
     return top;
 }
 
-/// Takes a tree over as the last document of a model, announced, and returns its head.
+/** Takes a tree over as the last document of a model, announced, and returns its head. */
 inline TreeItem *addDocument(FishModel &model, std::unique_ptr<TreeItem> head)
 {
     TreeItem *const added = head.release();

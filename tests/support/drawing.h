@@ -18,14 +18,18 @@
 
 namespace TestSupport {
 
-/// A model with one document and a scene with all its spears, expanded and laid out; no editor and
-/// no view. Heads show their plain title.
+/**
+ * A model with one document and a scene with all its spears, expanded and laid out; no editor and
+ * no view. Heads show their plain title.
+ */
 class Drawing
 {
     Q_DISABLE_COPY(Drawing)
 
 public:
-    /// The document is written as documentFromText() reads it. A \a style becomes every node's own.
+    /**
+     * The document is written as documentFromText() reads it. A @p style becomes every node's own.
+     */
     explicit Drawing(const QString &document, const QJsonObject &style = {})
     {
         model.setModelType(FISH_MODEL_DIAGRAM);
@@ -64,7 +68,7 @@ private:
                                       QAbstractItemModelTester::FailureReportingMode::Fatal};
 };
 
-/// Lets an item have a hover event at a point of its own, without a mouse.
+/** Lets an item have a hover event at a point of its own, without a mouse. */
 inline void sendHover(QGraphicsItem &item, QEvent::Type type, const QPointF &pos = {})
 {
     QGraphicsSceneHoverEvent event(type);
@@ -73,7 +77,7 @@ inline void sendHover(QGraphicsItem &item, QEvent::Type type, const QPointF &pos
     item.scene()->sendEvent(&item, &event);
 }
 
-/// Lets an item have a press; true when the item kept it.
+/** Lets an item have a press; true when the item kept it. */
 inline bool sendPress(QGraphicsItem &item, Qt::MouseButton button)
 {
     QGraphicsSceneMouseEvent event(QEvent::GraphicsSceneMousePress);
@@ -84,7 +88,7 @@ inline bool sendPress(QGraphicsItem &item, Qt::MouseButton button)
     return event.isAccepted();
 }
 
-/// Moves the mouse over a view without a button.
+/** Moves the mouse over a view without a button. */
 inline void moveMouse(QGraphicsView &view, const QPointF &scenePos)
 {
     const QPoint pos = view.mapFromScene(scenePos);
@@ -93,7 +97,7 @@ inline void moveMouse(QGraphicsView &view, const QPointF &scenePos)
     QCoreApplication::sendEvent(view.viewport(), &event);
 }
 
-/// Takes the mouse off a view.
+/** Takes the mouse off a view. */
 inline void leaveView(QGraphicsView &view)
 {
     QEvent event(QEvent::Leave);

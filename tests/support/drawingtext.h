@@ -19,7 +19,9 @@
 
 namespace TestSupport {
 
-/// All spears below and at \a head, parents before children and siblings in their stacking order.
+/**
+ * All spears below and at @p head, parents before children and siblings in their stacking order.
+ */
 inline std::vector<SpearItem *> spearsInOrder(SpearItem *head)
 {
     std::vector<SpearItem *> spears;
@@ -36,7 +38,7 @@ inline std::vector<SpearItem *> spearsInOrder(SpearItem *head)
     return spears;
 }
 
-/// The tree of spears by the titles of their subjects, "Effect[Man[Training],Machine]".
+/** The tree of spears by the titles of their subjects, "Effect[Man[Training],Machine]". */
 inline QString spearTreeText(SpearItem *head)
 {
     const std::vector<SpearItem *> spears = spearsInOrder(head);
@@ -54,7 +56,7 @@ inline QString spearTreeText(SpearItem *head)
     return head ? text + QString(depth - head->depth(), QLatin1Char(']')) : text;
 }
 
-/// "Effect+ Man- Machine-": all spears with their expand flags.
+/** "Effect+ Man- Machine-": all spears with their expand flags. */
 inline QString expansionText(SpearItem *head)
 {
     QStringList texts;
@@ -85,7 +87,7 @@ inline QString companionText(const QGraphicsItem *item)
            pointText(item->pos());
 }
 
-/// Everything that a spear shows and where, in one line.
+/** Everything that a spear shows and where, in one line. */
 inline QString spearText(SpearItem *spear)
 {
     const auto *const link = dynamic_cast<const LinkItem *>(spear->linkItem());
@@ -112,7 +114,7 @@ inline QString spearText(SpearItem *spear)
         .join(QLatin1String(" | "));
 }
 
-/// The drawing, a line for each visible spear.
+/** The drawing, a line for each visible spear. */
 inline QStringList drawingText(SpearItem *head)
 {
     QStringList lines;
@@ -124,7 +126,7 @@ inline QStringList drawingText(SpearItem *head)
     return lines;
 }
 
-/// The rectangle of everything that a scene shows.
+/** The rectangle of everything that a scene shows. */
 inline QRectF visibleRect(const QGraphicsScene &scene)
 {
     QRectF rect;
@@ -136,7 +138,7 @@ inline QRectF visibleRect(const QGraphicsScene &scene)
     return rect;
 }
 
-/// The pixels of what a scene shows, on white, one per unit.
+/** The pixels of what a scene shows, on white, one per unit. */
 inline QImage rendered(QGraphicsScene &scene)
 {
     const QRectF rect = visibleRect(scene);

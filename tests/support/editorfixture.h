@@ -18,14 +18,16 @@
 
 namespace TestSupport {
 
-/// A model with one document and an editor that shows it. Heads show their plain title, unless the
-/// model's type is set back to FISH_MODEL_NORMAL before show() is called.
+/**
+ * A model with one document and an editor that shows it. Heads show their plain title, unless the
+ * model's type is set back to FISH_MODEL_NORMAL before show() is called.
+ */
 class EditorFixture
 {
     Q_DISABLE_COPY(EditorFixture)
 
 public:
-    /// The document is written as documentFromText() reads it.
+    /** The document is written as documentFromText() reads it. */
     explicit EditorFixture(const QString &document)
         : EditorFixture(documentFromText(document))
     {
@@ -41,7 +43,7 @@ public:
 
     QModelIndex index(const QString &title) const { return indexTitled(model, title); }
     TreeItem *subject(const QString &title) const { return nodeTitled(model, title); }
-    /// The spear of the subject of that title; null when it has none.
+    /** The spear of the subject of that title; null when it has none. */
     SpearItem *spear(const QString &title) const
     {
         const TreeItem *const node = subject(title);
@@ -55,7 +57,9 @@ public:
             spear(title)->setSelected(true);
     }
 
-    /// Puts the editor on the screen with the whole drawing in view, at 1:1 when \a fit is false.
+    /**
+     * Puts the editor on the screen with the whole drawing in view, at 1:1 when @p fit is false.
+     */
     bool show(bool fit = true)
     {
         editor.show();
@@ -71,7 +75,7 @@ public:
     FishEditor editor;
 
 private:
-    /// Whether a screen that shall have so many device pixels a pixel has them.
+    /** Whether a screen that shall have so many device pixels a pixel has them. */
     bool isAtTheRequestedRatio() const
     {
         const QByteArray ratio = qgetenv("QT_SCALE_FACTOR");
@@ -82,7 +86,7 @@ private:
                                       QAbstractItemModelTester::FailureReportingMode::QtTest};
 };
 
-/// Counts the events of one type that an object receives.
+/** Counts the events of one type that an object receives. */
 class EventCounter : public QObject
 {
 public:
@@ -106,7 +110,7 @@ private:
     QEvent::Type m_type;
 };
 
-/// Handles events until no more come, so that what was scheduled is painted.
+/** Handles events until no more come, so that what was scheduled is painted. */
 inline void settle()
 {
     for (int i = 0; i < 5; ++i)

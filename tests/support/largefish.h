@@ -10,7 +10,7 @@
 
 namespace TestSupport {
 
-/// A model that counts what it is asked.
+/** A model that counts what it is asked. */
 class AskedModel : public FishModel
 {
 public:
@@ -38,7 +38,7 @@ public:
     mutable int questions = 0;
 };
 
-/// An editor on a document that was never a file.
+/** An editor on a document that was never a file. */
 template <typename Model>
 class LargeFixture
 {
@@ -58,7 +58,7 @@ public:
     QModelIndex top;
 };
 
-/// Three children everywhere.
+/** Three children everywhere. */
 inline std::unique_ptr<TreeItem> makeBushy(int nodes)
 {
     auto head = std::make_unique<TreeItem>();

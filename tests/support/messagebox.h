@@ -10,7 +10,7 @@
 
 namespace TestSupport {
 
-/// What a message box looked like.
+/** What a message box looked like. */
 struct Message
 {
     QString title;
@@ -19,7 +19,7 @@ struct Message
     QMessageBox::StandardButtons buttons = QMessageBox::NoButton;
 };
 
-/// Answers the next message box and keeps what it looked like.
+/** Answers the next message box and keeps what it looked like. */
 inline ModalDriver<QMessageBox>::Action keepMessage(Message &message)
 {
     return [&message](QMessageBox &box) {

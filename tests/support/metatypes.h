@@ -9,7 +9,7 @@
 
 namespace TestSupport {
 
-/// Whether a type is registered under \a name, so that it can be queued and recorded.
+/** Whether a type is registered under @p name, so that it can be queued and recorded. */
 inline bool isRegisteredType(const QByteArray &name)
 {
 #if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
@@ -19,7 +19,7 @@ inline bool isRegisteredType(const QByteArray &name)
 #endif
 }
 
-/// A copy of the \a value of a type that has the number \a type.
+/** A copy of the @p value of a type that has the number @p type. */
 inline QVariant variantOf(int type, const void *value)
 {
 #if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)

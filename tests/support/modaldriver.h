@@ -13,11 +13,13 @@
 
 namespace TestSupport {
 
-/// Plays the user of a modal dialog: waits for the next one of a type and runs an action on it,
-/// which has to close it. Once the time limit is over it closes whatever is modal, so that a dialog
-/// that never comes, or never goes, fails a test instead of hanging it.
-///
-/// Make it before the call that shows the dialog and check isDone() after it.
+/**
+ * Plays the user of a modal dialog: waits for the next one of a type and runs an action on it,
+ * which has to close it. Once the time limit is over it closes whatever is modal, so that a dialog
+ * that never comes, or never goes, fails a test instead of hanging it.
+ *
+ * Make it before the call that shows the dialog and check isDone() after it.
+ */
 template <typename Dialog>
 class ModalDriver
 {
@@ -35,7 +37,7 @@ public:
         m_timer.start(2);
     }
 
-    /// Whether the dialog came and the action closed it in time.
+    /** Whether the dialog came and the action closed it in time. */
     bool isDone() const { return m_isDone && !m_isExpired; }
 
 private:

@@ -13,8 +13,10 @@
 
 namespace TestSupport {
 
-/// Keeps a copy of what a model shows in one column, going by the model's announcements alone, as a
-/// view does. When copy and model differ, the model did something else than it announced.
+/**
+ * Keeps a copy of what a model shows in one column, going by the model's announcements alone, as a
+ * view does. When copy and model differ, the model did something else than it announced.
+ */
 class ModelFollower : public QObject
 {
 public:
@@ -33,10 +35,10 @@ public:
         connect(&model, &Model::dataChanged, this, &ModelFollower::changeData);
     }
 
-    /// The copy as text, "Effect[Man[Training],Machine];Cause".
+    /** The copy as text, "Effect[Man[Training],Machine];Cause". */
     QString text() const { return textBelow(m_top, QLatin1Char(';')); }
 
-    /// The model as text, in the same form.
+    /** The model as text, in the same form. */
     QString modelText() const
     {
         Node top;

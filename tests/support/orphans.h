@@ -10,7 +10,7 @@
 
 namespace TestSupport {
 
-/// What in the scene belongs to no subject; empty when nothing does.
+/** What in the scene belongs to no subject; empty when nothing does. */
 inline QString orphanFault(const FishEditor &editor)
 {
     const QList<QGraphicsItem *> items = editor.scene()->items();

@@ -26,12 +26,16 @@ inline QImage whitePicture(const QSize &size)
     return picture;
 }
 
-/// What Qt's raster engine may make out: it computes the edge of a slanted line wider than a pixel,
-/// and of a turned rectangle, anew from where the clip begins, and rounds a little differently.
+/**
+ * What Qt's raster engine may make out: it computes the edge of a slanted line wider than a pixel,
+ * and of a turned rectangle, anew from where the clip begins, and rounds a little differently.
+ */
 constexpr int clipRounding = 8;
 
-/// Says how two pictures of 32 bits a pixel differ; empty when no colour component of any pixel
-/// differs by more than \a tolerance of its 255 levels.
+/**
+ * Says how two pictures of 32 bits a pixel differ; empty when no colour component of any pixel
+ * differs by more than @p tolerance of its 255 levels.
+ */
 inline QString difference(const QImage &actual, const QImage &expected, int tolerance = 0)
 {
     if (actual.size() != expected.size())
@@ -72,7 +76,7 @@ inline QString difference(const QImage &actual, const QImage &expected, int tole
         .arg(area.height());
 }
 
-/// How many pixels of a picture of 32 bits a pixel have exactly that colour.
+/** How many pixels of a picture of 32 bits a pixel have exactly that colour. */
 inline int pixelsOf(const QImage &picture, const QColor &color)
 {
     int count = 0;
@@ -84,13 +88,13 @@ inline int pixelsOf(const QImage &picture, const QColor &color)
     return count;
 }
 
-/// How many pixels are not white.
+/** How many pixels are not white. */
 inline int inkedPixels(const QImage &picture)
 {
     return picture.width() * picture.height() - pixelsOf(picture, Qt::white);
 }
 
-/// The smallest rectangle with all pixels of exactly that colour.
+/** The smallest rectangle with all pixels of exactly that colour. */
 inline QRect areaOf(const QImage &picture, const QColor &color)
 {
     QRect area;
@@ -103,8 +107,10 @@ inline QRect areaOf(const QImage &picture, const QColor &color)
     return area;
 }
 
-/// The part of a coordinate system that a test paints, \a scale pixels for each unit, and where its
-/// points are in the picture.
+/**
+ * The part of a coordinate system that a test paints, @p scale pixels for each unit, and where its
+ * points are in the picture.
+ */
 struct Canvas
 {
     QRect area;
@@ -128,7 +134,7 @@ struct Canvas
     }
 };
 
-/// What an item alone paints, in its own coordinates, when it is given \a state.
+/** What an item alone paints, in its own coordinates, when it is given @p state. */
 inline QImage paintedItem(QGraphicsItem &item, const Canvas &canvas,
                           QStyle::State state = QStyle::State_None)
 {
@@ -143,7 +149,7 @@ inline QImage paintedItem(QGraphicsItem &item, const Canvas &canvas,
     return picture;
 }
 
-/// A part of a scene painted in one go.
+/** A part of a scene painted in one go. */
 inline QImage paintedAtOnce(QGraphicsScene &scene, const Canvas &canvas,
                             QPainter::RenderHints hints = {})
 {
@@ -154,8 +160,10 @@ inline QImage paintedAtOnce(QGraphicsScene &scene, const Canvas &canvas,
     return picture;
 }
 
-/// The same part of the scene painted in squares, each of which exposes its own items only and is
-/// clipped.
+/**
+ * The same part of the scene painted in squares, each of which exposes its own items only and is
+ * clipped.
+ */
 inline QImage paintedInPieces(QGraphicsScene &scene, const Canvas &canvas, int pieceUnits,
                               QPainter::RenderHints hints = {})
 {
@@ -172,7 +180,7 @@ inline QImage paintedInPieces(QGraphicsScene &scene, const Canvas &canvas, int p
     return picture;
 }
 
-/// Counts how often a widget is painted.
+/** Counts how often a widget is painted. */
 class PaintCounter : public QObject
 {
 public:
@@ -188,7 +196,7 @@ public:
     }
 };
 
-/// Waits until everything that was scheduled so far is painted. False when no paint comes.
+/** Waits until everything that was scheduled so far is painted. False when no paint comes. */
 inline bool paintScheduled(QGraphicsView &view)
 {
     // The scene first turns changes of its items into updates of its views, which are collected
@@ -199,14 +207,14 @@ inline bool paintScheduled(QGraphicsView &view)
     return QTest::qWaitFor([&painted] { return painted.count > 0; });
 }
 
-/// Paints the whole view anew. False when no paint comes.
+/** Paints the whole view anew. False when no paint comes. */
 inline bool paintEverything(QGraphicsView &view)
 {
     view.viewport()->update();
     return paintScheduled(view);
 }
 
-/// What the view's viewport shows on the screen, as it has been painted so far.
+/** What the view's viewport shows on the screen, as it has been painted so far. */
 inline QImage shownPicture(QGraphicsView &view)
 {
     QWidget *const window = view.window();

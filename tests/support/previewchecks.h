@@ -10,7 +10,7 @@
 
 namespace TestSupport {
 
-/// The picture that a label of the window shows.
+/** The picture that a label of the window shows. */
 inline QPixmap shownPixmap(const QWidget &window)
 {
     const auto labels = window.findChildren<QLabel *>();
@@ -22,7 +22,7 @@ inline QPixmap shownPixmap(const QWidget &window)
     return {};
 }
 
-/// How many pixels of a picture have exactly that colour.
+/** How many pixels of a picture have exactly that colour. */
 inline int pixelsOf(const QPixmap &pixmap, const QColor &color)
 {
     const QImage image = pixmap.toImage();
@@ -34,13 +34,13 @@ inline int pixelsOf(const QPixmap &pixmap, const QColor &color)
     return count;
 }
 
-/// How many pixels of a picture are not the colour of the paper.
+/** How many pixels of a picture are not the colour of the paper. */
 inline int inkedPixels(const QPixmap &pixmap)
 {
     return pixmap.width() * pixmap.height() - pixelsOf(pixmap, Qt::white);
 }
 
-/// A window on a screen with twice as many pixels in each direction.
+/** A window on a screen with twice as many pixels in each direction. */
 template <typename Window>
 class OnDenseScreen : public Window
 {

@@ -13,7 +13,7 @@
 
 namespace TestSupport {
 
-/// The class and the name of \a object and of those above it.
+/** The class and the name of @p object and of those above it. */
 inline QString placeOf(const QObject *object)
 {
     QStringList names;
@@ -25,7 +25,7 @@ inline QString placeOf(const QObject *object)
     return names.join(QLatin1Char('/'));
 }
 
-/// What the properties of \a object that are texts or locales say.
+/** What the properties of @p object that are texts or locales say. */
 inline QStringList propertyValues(const QObject &object)
 {
     QStringList values;
@@ -42,7 +42,7 @@ inline QStringList propertyValues(const QObject &object)
     return values;
 }
 
-/// The texts and tool tips of all items of \a model.
+/** The texts and tool tips of all items of @p model. */
 inline QStringList itemValues(const QAbstractItemModel &model, const QModelIndex &parent = {})
 {
     QStringList values;
@@ -57,7 +57,7 @@ inline QStringList itemValues(const QAbstractItemModel &model, const QModelIndex
     return values;
 }
 
-/// What \a object shows beside its properties.
+/** What @p object shows beside its properties. */
 inline QStringList contentValues(const QObject &object)
 {
     QStringList values;
@@ -76,8 +76,10 @@ inline QStringList contentValues(const QObject &object)
     return values;
 }
 
-/// Everything that a user reads or hears in \a window and what belongs to it, shown or not, each
-/// with its place.
+/**
+ * Everything that a user reads or hears in @p window and what belongs to it, shown or not, each
+ * with its place.
+ */
 inline QStringList shownValues(const QWidget &window)
 {
     QStringList values;

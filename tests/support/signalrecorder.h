@@ -13,13 +13,17 @@
 
 namespace TestSupport {
 
-/// Writes down the signals of an object, in the order in which they come and with their arguments:
-/// "zoomValueChanged(260), rotateValueChanged(0)". An index is written as its display text, a
-/// pointer as "null" or "object", a list of texts in brackets. Signals of QObject are left out.
+/**
+ * Writes down the signals of an object, in the order in which they come and with their arguments:
+ * "zoomValueChanged(260), rotateValueChanged(0)". An index is written as its display text, a
+ * pointer as "null" or "object", a list of texts in brackets. Signals of QObject are left out.
+ */
 class SignalRecorder : public QObject
 {
 public:
-    /// Records all signals that the object's class and its bases declare, or only the named ones.
+    /**
+     * Records all signals that the object's class and its bases declare, or only the named ones.
+     */
     explicit SignalRecorder(const QObject &sender, const QStringList &names = {})
     {
         const QMetaObject &type = *sender.metaObject();
@@ -35,7 +39,7 @@ public:
         }
     }
 
-    /// Returns what came since the last time.
+    /** Returns what came since the last time. */
     QString take()
     {
         const QString text = m_entries.join(QLatin1String(", "));

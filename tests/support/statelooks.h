@@ -13,7 +13,7 @@
 
 namespace TestSupport {
 
-/// How one state of the tests' style looks. No two states share a value.
+/** How one state of the tests' style looks. No two states share a value. */
 struct StateLook
 {
     QColor text;
@@ -43,7 +43,7 @@ inline StateLook lookOf(SpearStyle::SpearState state)
     return {{40, 40, 40}, {255, 200, 255}, {QColor(150, 0, 150), 3}, font(14, false)};
 }
 
-/// Gives \a style the four looks; titles are shown up to \a textCount characters.
+/** Gives @p style the four looks; titles are shown up to @p textCount characters. */
 inline void setLooks(SpearStyle &style, int textCount = 0)
 {
     style.setTextCount(textCount);
@@ -57,7 +57,7 @@ inline void setLooks(SpearStyle &style, int textCount = 0)
     }
 }
 
-/// The same as a node's own style in the diagram format.
+/** The same as a node's own style in the diagram format. */
 inline QJsonObject styleWithLooks(int textCount = 0)
 {
     SpearStyle style;

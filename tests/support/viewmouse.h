@@ -13,7 +13,7 @@
 
 namespace TestSupport {
 
-/// A mouse above the viewport of a view. Events go to the viewport as the window system's would.
+/** A mouse above the viewport of a view. Events go to the viewport as the window system's would. */
 class ViewMouse
 {
 public:
@@ -39,13 +39,13 @@ public:
         press(at, button);
         release(at, button);
     }
-    /// The second press of a double click; whether the view took it.
+    /** The second press of a double click; whether the view took it. */
     bool doubleClick(const QPoint &at, Qt::MouseButton button = Qt::LeftButton)
     {
         m_buttons |= button;
         return send(QEvent::MouseButtonDblClick, at, button, Qt::NoModifier);
     }
-    /// Turns the wheel; whether the view took it.
+    /** Turns the wheel; whether the view took it. */
     bool wheel(const QPoint &at, const QPoint &angle, Qt::KeyboardModifiers modifiers)
     {
         QWidget *const viewport = m_view.viewport();
@@ -75,19 +75,19 @@ private:
     Qt::MouseButtons m_buttons;
 };
 
-/// Where the outer end of a bone is in a view.
+/** Where the outer end of a bone is in a view. */
 inline QPoint tipOf(const QGraphicsView &view, const SpearItem *spear)
 {
     return view.mapFromScene(spear->mapToScene(spear->line().p2()));
 }
 
-/// Where the inner end of a bone, on its parent's bone, is in a view.
+/** Where the inner end of a bone, on its parent's bone, is in a view. */
 inline QPoint startOf(const QGraphicsView &view, const SpearItem *spear)
 {
     return view.mapFromScene(spear->mapToScene(spear->line().p1()));
 }
 
-/// Where the middle of an item is in a view.
+/** Where the middle of an item is in a view. */
 inline QPoint middleOf(const QGraphicsView &view, const QGraphicsItem *item)
 {
     return view.mapFromScene(item->mapToScene(item->boundingRect().center()));

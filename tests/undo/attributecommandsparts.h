@@ -7,7 +7,7 @@
 
 namespace TestSupport {
 
-/// A record for EditModify, which does not own it.
+/** A record for EditModify, which does not own it. */
 inline TreeItem *record()
 {
     static TreeItem item;

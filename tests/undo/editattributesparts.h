@@ -18,7 +18,7 @@ Q_DECLARE_METATYPE(Change)
 
 namespace TestSupport {
 
-/// The state that \a subject would have after \a change.
+/** The state that @p subject would have after @p change. */
 inline QJsonObject changed(const TreeItem &subject, const Change &change)
 {
     TreeItem draft(EditAttributes::stateOf(subject));

@@ -21,7 +21,7 @@ Q_DECLARE_METATYPE(MakeCommand)
 
 namespace {
 
-/// Title and link of a node.
+/** Title and link of a node. */
 QString attributes(const TreeItem *node)
 {
     return node->title() + QLatin1Char('|') + node->url();

@@ -18,7 +18,7 @@ using namespace TestSupport;
 
 namespace {
 
-/// A model that takes no titles.
+/** A model that takes no titles. */
 class ReadOnlyModel : public FishModel
 {
 public:
@@ -27,7 +27,7 @@ public:
 
 } // namespace
 
-/// What one of the commands does and the others do not.
+/** What one of the commands does and the others do not. */
 class TestAttributeCommandsEach : public QObject
 {
     Q_OBJECT

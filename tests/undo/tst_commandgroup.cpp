@@ -19,7 +19,7 @@ std::unique_ptr<RecordingCommand> recording(const char *name, UndoLog &log)
     return std::make_unique<RecordingCommand>(QLatin1String(name), &log);
 }
 
-/// A group named "group" with a recording command for each letter of \a names.
+/** A group named "group" with a recording command for each letter of @p names. */
 std::unique_ptr<CommandGroup> groupOf(const char *names, UndoLog &log)
 {
     auto group = std::make_unique<CommandGroup>(QStringLiteral("group"));

@@ -10,7 +10,7 @@
 
 using namespace TestSupport;
 
-/// Which subjects EditDelete takes, and what it does to the drawing.
+/** Which subjects EditDelete takes, and what it does to the drawing. */
 class TestDeleteCommandLookup : public QObject
 {
     Q_OBJECT

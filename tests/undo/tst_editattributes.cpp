@@ -28,7 +28,7 @@ QString plain(const TreeItem &item)
     return QString::fromUtf8(QJsonDocument(EditAttributes::stateOf(item)).toJson());
 }
 
-/// Everything set to something.
+/** Everything set to something. */
 void fill(TreeItem &item)
 {
     item.setDetail(QStringLiteral("detail"));

@@ -21,7 +21,7 @@
 
 using namespace TestSupport;
 
-/// Who is told of changed attributes, and what shows them.
+/** Who is told of changed attributes, and what shows them. */
 class TestEditAttributesTelling : public QObject
 {
     Q_OBJECT

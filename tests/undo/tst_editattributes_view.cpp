@@ -9,7 +9,7 @@
 
 using namespace TestSupport;
 
-/// What a document keeps beside its tree, changed with undo.
+/** What a document keeps beside its tree, changed with undo. */
 class TestEditAttributesView : public QObject
 {
     Q_OBJECT
@@ -27,7 +27,7 @@ const QJsonObject wide{{QStringLiteral("look"), QStringLiteral("clear")},
                        {QStringLiteral("lines"), 3}};
 const QJsonObject narrow{{QStringLiteral("look"), QStringLiteral("classic")}};
 
-/// A command that replaces the view of the first document.
+/** A command that replaces the view of the first document. */
 std::unique_ptr<EditAttributes> viewCommand(const CommandFixture &fixture, const QJsonObject &view)
 {
     auto command = std::make_unique<EditAttributes>(fixture.model.get());

@@ -15,7 +15,7 @@
 
 using namespace TestSupport;
 
-/// Insertions after which something has gone, moved or come.
+/** Insertions after which something has gone, moved or come. */
 class TestInsertCommandsGone : public QObject
 {
     Q_OBJECT

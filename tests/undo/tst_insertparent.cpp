@@ -13,7 +13,7 @@
 
 using namespace TestSupport;
 
-/// What InsertParent does beyond the other insertions, above heads in particular.
+/** What InsertParent does beyond the other insertions, above heads in particular. */
 class TestInsertParent : public QObject
 {
     Q_OBJECT

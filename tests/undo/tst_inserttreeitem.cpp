@@ -19,8 +19,10 @@ std::unique_ptr<TreeItem> makeItem(const char *title = "item")
     return item;
 }
 
-/// Tells whether a node still lives: a spear forgets its node when the node dies. A node that is
-/// taken out of a model loses its spear and has to be watched anew.
+/**
+ * Tells whether a node still lives: a spear forgets its node when the node dies. A node that is
+ * taken out of a model loses its spear and has to be watched anew.
+ */
 class LifeWatch
 {
     Q_DISABLE_COPY(LifeWatch)
@@ -43,7 +45,7 @@ private:
 };
 } // namespace
 
-/// InsertChild with an item of the caller's.
+/** InsertChild with an item of the caller's. */
 class TestInsertTreeItem : public QObject
 {
     Q_OBJECT

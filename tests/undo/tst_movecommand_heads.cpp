@@ -11,7 +11,7 @@
 
 using namespace TestSupport;
 
-/// Heads that are moved, and subjects that become heads.
+/** Heads that are moved, and subjects that become heads. */
 class TestMoveCommandHeads : public QObject
 {
     Q_OBJECT

@@ -11,7 +11,7 @@
 
 using namespace TestSupport;
 
-/// What EditMove does to the drawing.
+/** What EditMove does to the drawing. */
 class TestMoveCommandSpears : public QObject
 {
     Q_OBJECT

@@ -15,7 +15,7 @@ using namespace TestSupport;
 namespace {
 using MakeCommand = std::function<UndoCommand *(CommandFixture &)>;
 
-/// Ends the model of a fixture when it has announced so many changes.
+/** Ends the model of a fixture when it has announced so many changes. */
 class ModelEnder : public QObject
 {
     Q_OBJECT
@@ -44,8 +44,10 @@ private:
     int m_left;
 };
 
-/// How often a step can end the model: with each announcement that \a step makes, once. -1 when it
-/// does so without any.
+/**
+ * How often a step can end the model: with each announcement that @p step makes, once. -1 when it
+ * does so without any.
+ */
 int endings(const MakeCommand &make, const std::function<void(UndoCommand &)> &prepare,
             const std::function<void(UndoCommand &)> &step)
 {
@@ -69,8 +71,10 @@ int endings(const MakeCommand &make, const std::function<void(UndoCommand &)> &p
 
 Q_DECLARE_METATYPE(MakeCommand)
 
-/// The commands that change the shape of a tree, while somebody who hears of a change ends the
-/// model.
+/**
+ * The commands that change the shape of a tree, while somebody who hears of a change ends the
+ * model.
+ */
 class TestStructuralCommandsEnding : public QObject
 {
     Q_OBJECT

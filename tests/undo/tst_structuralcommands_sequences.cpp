@@ -12,7 +12,7 @@
 using namespace TestSupport;
 
 namespace {
-/// Makes commands for anything in a model, heads included, reproducibly.
+/** Makes commands for anything in a model, heads included, reproducibly. */
 class CommandSource
 {
 public:
@@ -113,7 +113,7 @@ private:
 };
 } // namespace
 
-/// Random histories over several documents.
+/** Random histories over several documents. */
 class TestCommandSequences : public QObject
 {
     Q_OBJECT
@@ -133,7 +133,7 @@ void addSeeds(int count)
         QTest::addRow("seed %d", seed) << seed;
 }
 
-/// Documents with equal uuids, wrong pids, uuids that end alike and some that are missing.
+/** Documents with equal uuids, wrong pids, uuids that end alike and some that are missing. */
 QString difficultDocuments(CommandFixture &f, int seed)
 {
     for (int i = 0; i < 2; ++i)

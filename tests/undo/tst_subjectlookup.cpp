@@ -14,7 +14,7 @@
 using namespace TestSupport;
 
 namespace {
-/// A model that tells when it is searched in the slow way.
+/** A model that tells when it is searched in the slow way. */
 class MatchCounter : public FishModel
 {
 public:

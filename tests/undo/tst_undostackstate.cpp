@@ -11,7 +11,7 @@
 
 namespace {
 
-/// A command that runs a function.
+/** A command that runs a function. */
 class Step : public UndoCommand
 {
 public:
@@ -47,7 +47,7 @@ void push(UndoStack &stack, const char *text)
 
 } // namespace
 
-/// What a history tells of itself, and who is told of its calls.
+/** What a history tells of itself, and who is told of its calls. */
 class TestUndoStackState : public QObject
 {
     Q_OBJECT

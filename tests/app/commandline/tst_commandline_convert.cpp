@@ -9,7 +9,7 @@
 
 using namespace ProgramRunner;
 
-/// "fishbone convert" as it is typed.
+/** "fishbone convert" as it is typed. */
 class TestCommandLineConvert : public QObject
 {
     Q_OBJECT
@@ -51,7 +51,7 @@ void TestCommandLineConvert::init()
     m_folder.reset(new Folder);
 }
 
-/// The titles of a diagram in any format, indented.
+/** The titles of a diagram in any format, indented. */
 QString TestCommandLineConvert::titlesIn(const QString &file) const
 {
     const QString titles = path(QStringLiteral("titles.txt"));

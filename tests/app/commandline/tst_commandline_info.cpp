@@ -7,7 +7,7 @@
 
 using namespace ProgramRunner;
 
-/// "fishbone info" as it is typed.
+/** "fishbone info" as it is typed. */
 class TestCommandLineInfo : public QObject
 {
     Q_OBJECT

@@ -6,7 +6,7 @@
 
 using namespace ProgramRunner;
 
-/// "fishbone report" as it is typed.
+/** "fishbone report" as it is typed. */
 class TestCommandLineReport : public QObject
 {
     Q_OBJECT

@@ -30,7 +30,7 @@ QPalette palette(bool dark)
     return QPalette(dark ? QColor(30, 30, 30) : QColor(230, 230, 230));
 }
 
-/// Sets how many characters of a title every bone shows, and answers with \a answer.
+/** Sets how many characters of a title every bone shows, and answers with @p answer. */
 void edit(CanvasTheme &theme, int textCount, void (QDialog::*answer)())
 {
     const ModalDriver<SpearStyleDialog> user([=](SpearStyleDialog &dialog) {
@@ -47,7 +47,7 @@ void edit(CanvasTheme &theme, int textCount, void (QDialog::*answer)())
 
 } // namespace
 
-/// The styles of all bones, kept for the user, in a light and in a dark palette.
+/** The styles of all bones, kept for the user, in a light and in a dark palette. */
 class TestCanvasTheme : public QObject
 {
     Q_OBJECT

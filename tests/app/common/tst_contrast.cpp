@@ -23,7 +23,7 @@ constexpr double forText = 4.5;    ///< WCAG 2.1, 1.4.3
 constexpr double forShapes = 3.0;  ///< WCAG 2.1, 1.4.11
 constexpr int hardlyAnything = 20; ///< pixels of a picture
 
-/// The relative luminance of WCAG 2.1.
+/** The relative luminance of WCAG 2.1. */
 double luminanceOf(const QColor &color)
 {
     const auto linear = [](double value) {
@@ -40,8 +40,10 @@ double contrastOf(const QColor &one, const QColor &other)
     return std::max(first, second) / std::min(first, second);
 }
 
-/// How many pixels of \a picture are drawn through and through, and how many of them stand out from
-/// \a background.
+/**
+ * How many pixels of @p picture are drawn through and through, and how many of them stand out from
+ * @p background.
+ */
 struct Pixels
 {
     Pixels(const QImage &picture, const QColor &background)
@@ -95,7 +97,7 @@ QPalette darkPalette()
 
 } // namespace
 
-/// What is drawn can be told from what it is drawn on, on a light desktop and on a dark one.
+/** What is drawn can be told from what it is drawn on, on a light desktop and on a dark one. */
 class TestContrast : public QObject
 {
     Q_OBJECT
@@ -121,7 +123,7 @@ private:
         QTest::newRow("dark") << darkPalette();
     }
 
-    /// Shows the canvas of the current row's palette.
+    /** Shows the canvas of the current row's palette. */
     void follow()
     {
         QFETCH(QPalette, palette);

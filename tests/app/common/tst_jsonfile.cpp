@@ -9,7 +9,7 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
-/// Small files of the program's own.
+/** Small files of the program's own. */
 class TestJsonFile : public QObject
 {
     Q_OBJECT

@@ -32,7 +32,7 @@ Q_DECLARE_METATYPE(QLocale)
 
 namespace {
 
-/// A model with the document that the text stands for, whose head is to show 2 of 79 tasks.
+/** A model with the document that the text stands for, whose head is to show 2 of 79 tasks. */
 struct Counted
 {
     explicit Counted(const QString &text)
@@ -46,7 +46,7 @@ struct Counted
     QAbstractItemModelTester tester{&model, QAbstractItemModelTester::FailureReportingMode::QtTest};
 };
 
-/// The entries of the menu that the editor shows for a bone, in the model's mode.
+/** The entries of the menu that the editor shows for a bone, in the model's mode. */
 QStringList menuEntries(FISH_MODEL_TYPE type)
 {
     Counted counted(QStringLiteral("T[A]"));
@@ -63,7 +63,7 @@ QStringList menuEntries(FISH_MODEL_TYPE type)
     return entries;
 }
 
-/// A new child of the head of a new document, as it is written to a file, without its own uuid.
+/** A new child of the head of a new document, as it is written to a file, without its own uuid. */
 QJsonObject writtenNewChild()
 {
     FishModel model;
@@ -78,7 +78,7 @@ QJsonObject writtenNewChild()
 
 } // namespace
 
-/// Which language is shown, and what the library shows in it.
+/** Which language is shown, and what the library shows in it. */
 class TestLanguage : public QObject
 {
     Q_OBJECT
@@ -114,7 +114,7 @@ private Q_SLOTS:
     void shouldBeTheLanguageOfTheProgram();
 
 private:
-    /// Installs the current row's language, none when it is empty.
+    /** Installs the current row's language, none when it is empty. */
     static void useLanguage()
     {
         QFETCH(QString, language);
@@ -125,7 +125,7 @@ private:
     QLocale m_locale; ///< the default before anything changed it
 };
 
-/// Takes out what a test has installed.
+/** Takes out what a test has installed. */
 void TestLanguage::cleanup()
 {
     Language::install(QString());

@@ -18,7 +18,7 @@
 
 using TestSupport::ModalDriver;
 
-/// Takes the place of the desktop.
+/** Takes the place of the desktop. */
 class Desktop : public QObject
 {
     Q_OBJECT

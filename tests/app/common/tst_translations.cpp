@@ -14,7 +14,7 @@
 
 namespace {
 
-/// One text of a translation file.
+/** One text of a translation file. */
 struct Text
 {
     QString context;
@@ -23,7 +23,7 @@ struct Text
     bool isNumerus = false;
     bool isFinished = false;
 
-    /// What names the text in a message.
+    /** What names the text in a message. */
     QString name() const { return context + QLatin1String(": ") + source; }
 };
 
@@ -48,7 +48,7 @@ Text readMessage(QXmlStreamReader &xml, const QString &context)
     return text;
 }
 
-/// The texts of translations/fishbone_<language>.ts.
+/** The texts of translations/fishbone_<language>.ts. */
 QVector<Text> readTexts(const QString &language)
 {
     QFile file(
@@ -75,8 +75,10 @@ bool hasChinese(const QString &text)
     return text.contains(sign);
 }
 
-/// Names, which are the same in Chinese: of the program, and of new files, because some systems
-/// cannot write a Chinese one.
+/**
+ * Names, which are the same in Chinese: of the program, and of new files, because some systems
+ * cannot write a Chinese one.
+ */
 bool isName(const Text &text)
 {
     static const QStringList names{QStringLiteral("Fishbone"), QStringLiteral("%1[*] – Fishbone"),
@@ -84,7 +86,7 @@ bool isName(const Text &text)
     return names.contains(text.source);
 }
 
-/// What the program replaces or looks for in a text, sorted.
+/** What the program replaces or looks for in a text, sorted. */
 QStringList marksOf(const QString &text)
 {
     static const QRegularExpression mark(
@@ -104,7 +106,7 @@ int mnemonicsIn(const QString &text)
 
 } // namespace
 
-/// The files in translations/ and what is built of them.
+/** The files in translations/ and what is built of them. */
 class TestTranslations : public QObject
 {
     Q_OBJECT
@@ -129,7 +131,7 @@ private:
         QTest::newRow("English") << QStringLiteral("en");
     }
 
-    /// The texts in the current row's language.
+    /** The texts in the current row's language. */
     static QVector<Text> texts()
     {
         QFETCH(QString, language);

@@ -8,7 +8,7 @@
 #include <QStandardPaths>
 #include <QtTest>
 
-/// How a document is shown.
+/** How a document is shown. */
 class TestDiagramView : public QObject
 {
     Q_OBJECT

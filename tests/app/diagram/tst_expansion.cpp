@@ -9,7 +9,7 @@
 
 using namespace TestSupport;
 
-/// How far bones are expanded.
+/** How far bones are expanded. */
 class TestExpansion : public QObject
 {
     Q_OBJECT
@@ -23,7 +23,7 @@ private Q_SLOTS:
 
 namespace {
 
-/// The titles of the bones that show.
+/** The titles of the bones that show. */
 QString visibleBones(const EditorFixture &stage)
 {
     QStringList titles;

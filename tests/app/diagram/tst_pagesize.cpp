@@ -6,7 +6,7 @@
 
 #include <QtTest>
 
-/// Pages and screens that a drawing is arranged for.
+/** Pages and screens that a drawing is arranged for. */
 class TestPageSize : public QObject
 {
     Q_OBJECT

@@ -12,7 +12,7 @@
 
 namespace TestSupport {
 
-/// The fixture with a second document "Other" with the bone "Bone", whose tab is shown.
+/** The fixture with a second document "Other" with the bone "Bone", whose tab is shown. */
 class TabsFixture : public AppFixture
 {
 public:
@@ -34,7 +34,7 @@ public:
         settle();
     }
 
-    /// The entry of the context menu of a tab, once that is open.
+    /** The entry of the context menu of a tab, once that is open. */
     QAction *menuEntry(int tab, const QString &text) const
     {
         Q_EMIT bar()->customContextMenuRequested(bar()->tabRect(tab).center());

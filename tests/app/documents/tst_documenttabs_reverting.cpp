@@ -23,7 +23,7 @@ using DialogAnswers::enter;
 using DialogAnswers::press;
 using namespace TestSupport;
 
-/// Copies that are saved, and documents that are reverted.
+/** Copies that are saved, and documents that are reverted. */
 class TestDocumentTabsReverting : public QObject
 {
     Q_OBJECT

@@ -27,7 +27,7 @@ using TestSupport::ModalDriver;
 
 namespace {
 
-/// Types a title over that of the selected bone, as a user does.
+/** Types a title over that of the selected bone, as a user does. */
 void typeTitle(const AppFixture &app, const QString &title)
 {
     QTest::keyClicks(app.window.editor()->view(), title.left(1));
@@ -293,7 +293,7 @@ void TestFileCommands::shouldBeUnmodifiedWhereUndoLeadsBackToTheFile()
     QCOMPARE(app.tabCount(), 0);
 }
 
-/// What undo does not take back stays a change.
+/** What undo does not take back stays a change. */
 void TestFileCommands::shouldStayModifiedByWhatTheHistoryDoesNotKnow()
 {
     AppFixture app;

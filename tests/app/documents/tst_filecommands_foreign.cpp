@@ -17,7 +17,7 @@ using DialogAnswers::enter;
 using DialogAnswers::press;
 using TestSupport::ModalDriver;
 
-/// Files of other programs that are opened and imported.
+/** Files of other programs that are opened and imported. */
 class TestFileCommandsForeign : public QObject
 {
     Q_OBJECT

@@ -35,7 +35,7 @@ void replace(const QString &path, const QByteArray &content)
     QVERIFY(file.commit());
 }
 
-/// The fixture, with what the bar of the current tab shows.
+/** The fixture, with what the bar of the current tab shows. */
 class ConflictFixture : public AppFixture
 {
 public:
@@ -59,7 +59,7 @@ public:
 
 } // namespace
 
-/// Files that somebody else changes while they are open.
+/** Files that somebody else changes while they are open. */
 class TestFileConflict : public QObject
 {
     Q_OBJECT

@@ -31,7 +31,7 @@ void useTestFolders()
     QCoreApplication::setApplicationName(QStringLiteral("tst_recoverycommands"));
 }
 
-/// A copy as a run that is gone has left it.
+/** A copy as a run that is gone has left it. */
 QString leaveCopy(const QString &original, const QByteArray &content)
 {
     const QString name = QFileInfo(original).fileName();
@@ -46,7 +46,9 @@ QTreeView *list(const RecoveryDialog &dialog)
     return dialog.findChild<QTreeView *>();
 }
 
-/// The run that does not end well: opens \a path, deletes a bone, and says when that is autosaved.
+/**
+ * The run that does not end well: opens @p path, deletes a bone, and says when that is autosaved.
+ */
 int runUntilKilled(const QString &path)
 {
     MainWindow window;

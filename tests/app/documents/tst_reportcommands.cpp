@@ -16,7 +16,7 @@
 
 using TestSupport::ModalDriver;
 
-/// What is mailed after the meeting, from the window.
+/** What is mailed after the meeting, from the window. */
 class TestReportCommands : public QObject
 {
     Q_OBJECT

@@ -49,7 +49,7 @@ int coloursOf(const QImage &picture)
     return int(colours.size());
 }
 
-/// A tree without its titles, "[[]]".
+/** A tree without its titles, "[[]]". */
 QString shapeOf(const TreeItem &subject)
 {
     QString shape;
@@ -60,7 +60,7 @@ QString shapeOf(const TreeItem &subject)
 
 } // namespace
 
-/// New diagrams from templates, and templates from diagrams.
+/** New diagrams from templates, and templates from diagrams. */
 class TestTemplateCommands : public QObject
 {
     Q_OBJECT

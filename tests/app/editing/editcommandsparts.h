@@ -9,7 +9,7 @@
 
 namespace TestSupport {
 
-/// The field over the drawing in which a title is changed; null when none is open.
+/** The field over the drawing in which a title is changed; null when none is open. */
 inline TitleEditor *titleField(const AppFixture &app)
 {
     const QList<TitleEditor *> fields =

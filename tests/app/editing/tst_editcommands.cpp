@@ -218,7 +218,7 @@ void TestEditCommands::shouldTakeANewBoneAwayOnEscape()
     QVERIFY(!app.window.isWindowModified());
 }
 
-/// Return without a word keeps the bone with the title that it began with.
+/** Return without a word keeps the bone with the title that it began with. */
 void TestEditCommands::shouldKeepTheDefaultTitleOnReturn()
 {
     AppFixture app;

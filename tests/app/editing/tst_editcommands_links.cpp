@@ -21,7 +21,7 @@
 
 using namespace TestSupport;
 
-/// Links, styles and tasks of a subject, and what the menu of a bone pastes.
+/** Links, styles and tasks of a subject, and what the menu of a bone pastes. */
 class TestEditCommandsLinks : public QObject
 {
     Q_OBJECT

@@ -26,14 +26,14 @@ using TestSupport::ModalDriver;
 
 namespace {
 
-/// Where the title of a bone is seen on the canvas.
+/** Where the title of a bone is seen on the canvas. */
 QPoint seen(const AppFixture &app, const char *title)
 {
     const TextItem *const text = app.subject(title)->spear()->textItem();
     return app.window.editor()->view()->mapFromScene(text->sceneBoundingRect().center());
 }
 
-/// What is marked in a subject: "rootcause 3 #ff0000, status 3, priority 1, Ada/7".
+/** What is marked in a subject: "rootcause 3 #ff0000, status 3, priority 1, Ada/7". */
 QString marksOf(const TreeItem &subject)
 {
     const QJsonObject fields = subject.otherFields();
@@ -73,7 +73,7 @@ private Q_SLOTS:
     void shouldSaveTheMarks();
 
 private:
-    /// Selects both with the mouse.
+    /** Selects both with the mouse. */
     static void click(AppFixture &app, const char *first, const char *second)
     {
         QWidget *const canvas = app.window.editor()->view()->viewport();
@@ -84,7 +84,7 @@ private:
         QCOMPARE(app.selectedInDrawing(),
                  (QStringList{QString::fromUtf8(first), QString::fromUtf8(second)}));
     }
-    /// Clicks with the right button at \a pos, and does \a act in the menu that comes.
+    /** Clicks with the right button at @p pos, and does @p act in the menu that comes. */
     static bool rightClick(AppFixture &app, const QPoint &pos,
                            const std::function<void(QMenu &)> &act)
     {
@@ -198,7 +198,7 @@ void TestMarkCommands::shouldOpenAtTheBone_data()
     QTest::newRow("colour") << QStringLiteral("ur") << QStringLiteral(" 0 #b3261e, -1, -1, /");
 }
 
-/// The space bar opens a palette that takes letters.
+/** The space bar opens a palette that takes letters. */
 void TestMarkCommands::shouldOpenAtTheBone()
 {
     QFETCH(QString, letters);

@@ -28,7 +28,7 @@ private Q_SLOTS:
 };
 
 namespace {
-/// The canvas of a window, larger than the window shows of it.
+/** The canvas of a window, larger than the window shows of it. */
 class Canvas
 {
 public:

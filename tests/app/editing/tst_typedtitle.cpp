@@ -10,7 +10,7 @@
 
 namespace {
 
-/// The field over the drawing; null when none is open.
+/** The field over the drawing; null when none is open. */
 TitleEditor *titleField(const AppFixture &app)
 {
     const QList<TitleEditor *> fields =

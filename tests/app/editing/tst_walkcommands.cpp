@@ -15,7 +15,7 @@ namespace {
 
 const QList<int> directionKeys{Qt::Key_Left, Qt::Key_Right, Qt::Key_Up, Qt::Key_Down};
 
-/// Where the title of the subject \a title is seen.
+/** Where the title of the subject @p title is seen. */
 QPointF seen(const AppFixture &app, const QString &title)
 {
     const TextItem *const text = app.subject(title.toUtf8().constData())->spear()->textItem();
@@ -35,7 +35,7 @@ class TestWalkCommands : public QObject
     Q_OBJECT
 
 private:
-    /// Shows the document in the look of the row of the test.
+    /** Shows the document in the look of the row of the test. */
     static void showIn(AppFixture &app)
     {
         QFETCH(bool, isClear);

@@ -26,8 +26,10 @@ using Fit = DrawingPrinter::Fit;
 
 Q_DECLARE_METATYPE(DrawingPrinter::Fit)
 
-/// Pages of 10 x 5 inches without margins, which are 960 x 480 scene units at their size on the
-/// screen.
+/**
+ * Pages of 10 x 5 inches without margins, which are 960 x 480 scene units at their size on the
+ * screen.
+ */
 class TestDrawingPrinter : public QObject
 {
     Q_OBJECT
@@ -58,7 +60,7 @@ private:
         printer.setPageOrientation(QPageLayout::Landscape);
         printer.setPageMargins(QMarginsF(), QPageLayout::Inch);
     }
-    /// The number of pages that the PDF file has.
+    /** The number of pages that the PDF file has. */
     static int pagesIn(const QString &file)
     {
         QFile pdf(file);
@@ -67,7 +69,7 @@ private:
         return int(pdf.readAll().count("/Type /Page\n"));
     }
 
-    /// The pages of the PDF file at 96 dots per inch.
+    /** The pages of the PDF file at 96 dots per inch. */
     QList<QImage> imagesOf(const QString &file) const
     {
         QProcess painter;
@@ -84,7 +86,7 @@ private:
             images.append(QImage(m_folder.filePath(name)));
         return images;
     }
-    /// Whether there is a mark within a pixel or two.
+    /** Whether there is a mark within a pixel or two. */
     static bool isDark(const QImage &page, const QPointF &at)
     {
         for (int x = -2; x <= 2; ++x) {
@@ -96,7 +98,7 @@ private:
         }
         return false;
     }
-    /// Eight categories with ten causes each, "word0 …" to "word79 …".
+    /** Eight categories with ten causes each, "word0 …" to "word79 …". */
     static std::unique_ptr<TreeItem> diagram()
     {
         auto head = std::make_unique<TreeItem>();
@@ -301,7 +303,7 @@ void TestDrawingPrinter::largeTitlesMakeItSmaller_data()
     QTest::newRow("fitting the width") << QSizeF(20, 900) << Fit::Width << 1.0 << true;
 }
 
-/// Whatever its size, each title is whole on one of the pages.
+/** Whatever its size, each title is whole on one of the pages. */
 void TestDrawingPrinter::largeTitlesMakeItSmaller()
 {
     QFETCH(QSizeF, title);

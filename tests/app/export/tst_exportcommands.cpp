@@ -20,7 +20,7 @@ using TestSupport::ModalDriver;
 
 namespace {
 
-/// The name filter of \a format in the dialog.
+/** The name filter of @p format in the dialog. */
 QString filterOf(const QFileDialog &dialog, DiagramExchange::Format format)
 {
     return dialog.nameFilters().filter(DiagramExchange::name(format)).value(0);

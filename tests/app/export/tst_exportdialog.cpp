@@ -8,7 +8,7 @@ using namespace ExportDialogParts;
 using DialogAnswers::press;
 using TestSupport::ModalDriver;
 
-/// The dialog that asks for the file and the size of a picture.
+/** The dialog that asks for the file and the size of a picture. */
 class TestExportDialog : public QObject
 {
     Q_OBJECT

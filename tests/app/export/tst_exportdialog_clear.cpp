@@ -7,7 +7,7 @@
 using namespace ExportDialogParts;
 using TestSupport::ModalDriver;
 
-/// What the dialog that exports a picture offers of the clear look.
+/** What the dialog that exports a picture offers of the clear look. */
 class TestExportDialogClear : public QObject
 {
     Q_OBJECT

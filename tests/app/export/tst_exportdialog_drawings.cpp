@@ -7,7 +7,7 @@
 using namespace ExportDialogParts;
 using TestSupport::ModalDriver;
 
-/// What of a diagram is in an exported picture.
+/** What of a diagram is in an exported picture. */
 class TestExportDialogDrawings : public QObject
 {
     Q_OBJECT

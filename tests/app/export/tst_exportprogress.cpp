@@ -25,7 +25,7 @@ using TestSupport::ModalDriver;
 
 namespace {
 
-/// A diagram of some thousand bones on two levels.
+/** A diagram of some thousand bones on two levels. */
 QByteArray largeDiagram()
 {
     QByteArray bones;
@@ -41,7 +41,7 @@ QByteArray largeDiagram()
 
 } // namespace
 
-/// What a user sees of an export that takes its time.
+/** What a user sees of an export that takes its time. */
 class TestExportProgress : public QObject
 {
     Q_OBJECT
@@ -58,7 +58,7 @@ private Q_SLOTS:
     void shouldEndOnEscape();
 
 private:
-    /// Exports all levels of \a app into a large PNG, while \a watch sees the progress.
+    /** Exports all levels of @p app into a large PNG, while @p watch sees the progress. */
     bool exportSlowly(AppFixture &app, const QString &path,
                       const std::function<void(QProgressDialog &)> &watch);
 };

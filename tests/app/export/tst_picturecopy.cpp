@@ -29,7 +29,7 @@ private Q_SLOTS:
     void shouldChangeNothing();
 
 private:
-    /// The SVG on the clipboard after the keys for a copy.
+    /** The SVG on the clipboard after the keys for a copy. */
     static QByteArray copied(AppFixture &app)
     {
         QGuiApplication::clipboard()->clear();
@@ -42,7 +42,7 @@ private:
         const QMimeData *const data = QGuiApplication::clipboard()->mimeData();
         return QImage::fromData(data->data(QStringLiteral("image/png")));
     }
-    /// Which of the titles stand in \a svg.
+    /** Which of the titles stand in @p svg. */
     static QString titlesIn(const QByteArray &svg)
     {
         QStringList titles;

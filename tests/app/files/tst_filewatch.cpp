@@ -10,7 +10,7 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
-/// Files that somebody else may change.
+/** Files that somebody else may change. */
 class TestFileWatch : public QObject
 {
     Q_OBJECT

@@ -40,7 +40,7 @@ QPushButton *okOf(QDialog &dialog)
 
 } // namespace
 
-/// What the user sees and decides when something comes from another program.
+/** What the user sees and decides when something comes from another program. */
 class TestImportDialogs : public QObject
 {
     Q_OBJECT

@@ -13,7 +13,7 @@
 #include <QSettings>
 #include <QTcpServer>
 
-/// What one run of the program leaves for the next one.
+/** What one run of the program leaves for the next one. */
 class TestLastDocuments : public QObject
 {
     Q_OBJECT
@@ -108,7 +108,7 @@ void TestLastDocuments::shouldReopenNothingUnlessWanted()
     QVERIFY(next.session()->document()->isUntitled());
 }
 
-/// A run that does not end well leaves what was open, too.
+/** A run that does not end well leaves what was open, too. */
 void TestLastDocuments::shouldRememberWhatIsOpenAllTheTime()
 {
     AppFixture app;
@@ -123,7 +123,7 @@ void TestLastDocuments::shouldRememberWhatIsOpenAllTheTime()
     QTRY_COMPARE(LastDocuments::files(), QStringList(first));
 }
 
-/// A file that ends the program while it is loaded does not do so at every start.
+/** A file that ends the program while it is loaded does not do so at every start. */
 void TestLastDocuments::shouldForgetWhatIsBeingLoaded()
 {
     QTcpServer server; // which never answers

@@ -15,7 +15,7 @@
 
 namespace {
 
-/// A web server that sends of its reply what it is told to.
+/** A web server that sends of its reply what it is told to. */
 class SlowServer
 {
 public:
@@ -46,7 +46,7 @@ private:
     bool m_isAsked = false;
 };
 
-/// A reply of 1000 bytes, in two halves.
+/** A reply of 1000 bytes, in two halves. */
 QByteArray header()
 {
     return "HTTP/1.1 200 OK\r\nContent-Length: 1000\r\n\r\n";
@@ -58,7 +58,7 @@ QByteArray body()
     return text + QByteArray(1000 - text.size(), ' ');
 }
 
-/// A document of more bytes than are read at once.
+/** A document of more bytes than are read at once. */
 QByteArray largeDocument()
 {
     return R"({"title": "Large", "children": [{"title": "Bone"}], "detail": ")" +

@@ -16,7 +16,7 @@ using TestSupport::ModalDriver;
 
 namespace {
 
-/// Opens the menu as the user does and returns its entries.
+/** Opens the menu as the user does and returns its entries. */
 QStringList entries(QMenu *menu)
 {
     menu->popup(QPoint());

@@ -8,7 +8,7 @@
 
 #include <QSettings>
 
-/// The diagram that greets a new user.
+/** The diagram that greets a new user. */
 class TestWelcome : public QObject
 {
     Q_OBJECT

@@ -36,7 +36,7 @@ QString original()
     return QStringLiteral("Late[People[Too few[Illness],Too new],Machines,Material[Rust]]");
 }
 
-/// The followers as they are listed.
+/** The followers as they are listed. */
 QStringList listed(const AppFixture &app)
 {
     const auto *const list = app.widget<QWidget>("detailsFollowers")->findChild<QListWidget *>();
@@ -55,7 +55,7 @@ void addFollower(const AppFixture &app, const QString &name)
     QTest::keyClick(field, Qt::Key_Return);
 }
 
-/// The texts and values of all fields.
+/** The texts and values of all fields. */
 QString allThatIsShown(const QWidget &panel)
 {
     QStringList shown;

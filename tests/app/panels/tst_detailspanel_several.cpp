@@ -31,7 +31,7 @@ qint64 dateOf(int day)
 
 } // namespace
 
-/// The details of several subjects at once: "People" and "Machines", which are alike in some.
+/** The details of several subjects at once: "People" and "Machines", which are alike in some. */
 class TestDetailsPanelSeveral : public QObject
 {
     Q_OBJECT

@@ -6,7 +6,7 @@
 #include <tests/app/appfixture.h>
 #include <tests/program/testprogram.h>
 
-/// The label in the status bar, in a window with the diagram of eight subjects.
+/** The label in the status bar, in a window with the diagram of eight subjects. */
 class TestDiagramCounts : public QObject
 {
     Q_OBJECT

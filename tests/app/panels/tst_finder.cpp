@@ -46,7 +46,7 @@ private Q_SLOTS:
 
 namespace {
 
-/// The window with its find dialog.
+/** The window with its find dialog. */
 struct FinderFixture : AppFixture
 {
     FinderFixture()
@@ -70,7 +70,7 @@ struct FinderFixture : AppFixture
     }
 
     QTreeWidget *hits() const { return dialog->findChild<QTreeWidget *>(QStringLiteral("hits")); }
-    /// The listed hits: "[x]" for a checked box, then the columns.
+    /** The listed hits: "[x]" for a checked box, then the columns. */
     QStringList rows() const
     {
         QStringList texts;

@@ -8,7 +8,7 @@
 
 #include <QScrollBar>
 
-/// The overview in the window, whose view shows only a part of an enlarged drawing.
+/** The overview in the window, whose view shows only a part of an enlarged drawing. */
 class TestMinimap : public QObject
 {
     Q_OBJECT
@@ -42,7 +42,7 @@ private:
         const GraphicsView *const view = app.window.editor()->view();
         return view->mapToScene(view->viewport()->rect().center());
     }
-    /// The pixels of @p image that are not like its corner.
+    /** The pixels of @p image that are not like its corner. */
     static QRect inkOf(const QImage &image)
     {
         QRect ink;

@@ -16,7 +16,7 @@ namespace {
 
 const QStringList two{QStringLiteral("a"), QStringLiteral("b, c")};
 
-/// The editor with two texts, on the screen.
+/** The editor with two texts, on the screen. */
 struct Fixture
 {
     Fixture()

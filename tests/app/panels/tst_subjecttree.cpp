@@ -8,7 +8,7 @@
 
 namespace {
 
-/// How many pixels of \a color there are in front of the title of \a index.
+/** How many pixels of @p color there are in front of the title of @p index. */
 int pixelsOfIcon(QTreeView &view, const QModelIndex &index, const QColor &color)
 {
     const QImage shown = view.viewport()->grab(view.visualRect(index)).toImage();

@@ -65,7 +65,7 @@ bool isBoneExpanded(const AppFixture &app, const char *title)
     return spear && spear->isExpand() && !spear->childSpears().isEmpty();
 }
 
-/// Chooses a row as a click does.
+/** Chooses a row as a click does. */
 void choose(AppFixture &app, const char *title,
             QItemSelectionModel::SelectionFlags how = QItemSelectionModel::ClearAndSelect)
 {
@@ -74,7 +74,7 @@ void choose(AppFixture &app, const char *title,
     AppFixture::settle();
 }
 
-/// The titles of all rows that the tree's model has, parents first.
+/** The titles of all rows that the tree's model has, parents first. */
 QStringList filteredTitles(const QAbstractItemModel &model, const QModelIndex &parent = {})
 {
     QStringList titles;

@@ -8,7 +8,7 @@
 
 #include <QSettings>
 
-/// The small picture of a document that was recovered.
+/** The small picture of a document that was recovered. */
 class TestDocumentPicture : public QObject
 {
     Q_OBJECT

@@ -21,7 +21,7 @@ void writeFile(const QString &path, const QByteArray &content)
     QCOMPARE(file.write(content), qint64(content.size()));
 }
 
-/// A copy as a run that is gone has left it.
+/** A copy as a run that is gone has left it. */
 QString leaveCopy(const QString &name, const QString &original, const QByteArray &content)
 {
     const QString copy = RecoveryStore::newCopy(name);

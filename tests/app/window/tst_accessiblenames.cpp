@@ -21,7 +21,7 @@
 using MakeDialog = std::function<std::unique_ptr<QDialog>()>;
 Q_DECLARE_METATYPE(MakeDialog)
 
-/// Whoever does not see the window knows what each control is for.
+/** Whoever does not see the window knows what each control is for. */
 class TestAccessibleNames : public QObject
 {
     Q_OBJECT

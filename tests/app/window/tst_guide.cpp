@@ -24,8 +24,10 @@
 using DialogAnswers::enter;
 using TestSupport::ModalDriver;
 
-/// Does what the guide for new users describes, by keyboard alone, and takes the guide's pictures
-/// of it: into the folder FISHBONE_GUIDE_PICTURES, if that is set, otherwise to be looked at once.
+/**
+ * Does what the guide for new users describes, by keyboard alone, and takes the guide's pictures
+ * of it: into the folder FISHBONE_GUIDE_PICTURES, if that is set, otherwise to be looked at once.
+ */
 class TestGuide : public QObject
 {
     Q_OBJECT
@@ -47,7 +49,7 @@ private:
         return QApplication::focusWidget() ? QApplication::focusWidget()
                                            : QApplication::activeWindow();
     }
-    /// Types \a text wherever the focus goes meanwhile.
+    /** Types @p text wherever the focus goes meanwhile. */
     static void type(const char *text)
     {
         const QString characters = QString::fromUtf8(text);
@@ -59,14 +61,14 @@ private:
         QTest::keyClick(focus(), key, modifiers);
         AppFixture::settle();
     }
-    /// Inserts with \a key and gives the title.
+    /** Inserts with @p key and gives the title. */
     static void insert(Qt::Key key, const char *title)
     {
         press(key);
         type(title);
         press(Qt::Key_Return);
     }
-    /// Opens the menu of the menu bar by its key and walks to an entry.
+    /** Opens the menu of the menu bar by its key and walks to an entry. */
     static void chooseFromMenu(MainWindow &window, Qt::Key key, const char *entry)
     {
         QTest::keyClick(window.menuBar(), key, Qt::AltModifier);
@@ -83,7 +85,7 @@ private:
         QTest::keyClick(menu, Qt::Key_Return);
         AppFixture::settle();
     }
-    /// Goes on in \a window when a dialog is gone: there is no desktop that would activate it.
+    /** Goes on in @p window when a dialog is gone: there is no desktop that would activate it. */
     static void returnTo(MainWindow &window)
     {
         window.activateWindow();

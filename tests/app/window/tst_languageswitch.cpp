@@ -37,8 +37,10 @@ Q_DECLARE_METATYPE(MakeDialog)
 
 namespace {
 
-/// The window with as much shown as there can be: a document with a change, the details of a bone,
-/// the find dialog with what it has found, and a question about the file.
+/**
+ * The window with as much shown as there can be: a document with a change, the details of a bone,
+ * the find dialog with what it has found, and a question about the file.
+ */
 class FullWindow : public AppFixture
 {
 public:
@@ -58,7 +60,7 @@ public:
         settle();
     }
 
-    /// Everything that a user reads or hears in the window and its dialogs.
+    /** Everything that a user reads or hears in the window and its dialogs. */
     QStringList values() const
     {
         QStringList values = TestSupport::shownValues(window);
@@ -67,7 +69,7 @@ public:
     }
 };
 
-/// Those of \a left that are not in \a right.
+/** Those of @p left that are not in @p right. */
 QString missing(const QStringList &left, QStringList right)
 {
     QStringList lines;
@@ -86,7 +88,7 @@ void verifySame(const QStringList &actual, const QStringList &expected)
 
 } // namespace
 
-/// Another language while the program runs.
+/** Another language while the program runs. */
 class TestLanguageSwitch : public QObject
 {
     Q_OBJECT

@@ -35,7 +35,7 @@ namespace {
 
 using DialogMaker = std::function<std::unique_ptr<QWidget>()>;
 
-/// Adds the mnemonic of \a text to \a taken; false when it is there already.
+/** Adds the mnemonic of @p text to @p taken; false when it is there already. */
 bool take(QList<QKeySequence> &taken, const QString &text)
 {
     const QKeySequence mnemonic = QKeySequence::mnemonic(text);
@@ -47,7 +47,7 @@ bool take(QList<QKeySequence> &taken, const QString &text)
     return true;
 }
 
-/// The texts of the labels and buttons in \a widget that are shown.
+/** The texts of the labels and buttons in @p widget that are shown. */
 QStringList shownTexts(const QWidget &widget)
 {
     QStringList texts;
@@ -62,7 +62,7 @@ QStringList shownTexts(const QWidget &widget)
     return texts;
 }
 
-/// A text that is shown, the width that it has and the width that it needs.
+/** A text that is shown, the width that it has and the width that it needs. */
 struct Fit
 {
     QString text;
@@ -70,7 +70,7 @@ struct Fit
     int needed;
 };
 
-/// Of the item of \a combo that needs most.
+/** Of the item of @p combo that needs most. */
 Fit fitOf(const QComboBox &combo)
 {
     QStyleOptionComboBox option;
@@ -116,7 +116,7 @@ Fit fitOf(const QWidget &widget)
     return {QString(), 0, 0};
 }
 
-/// The texts in \a widget that are shown and find no room.
+/** The texts in @p widget that are shown and find no room. */
 QStringList cutTexts(const QWidget &widget)
 {
     QStringList cut;
@@ -133,7 +133,7 @@ QStringList cutTexts(const QWidget &widget)
 
 Q_DECLARE_METATYPE(DialogMaker)
 
-/// The window and the dialogs in each language.
+/** The window and the dialogs in each language. */
 class TestLanguageWindow : public QObject
 {
     Q_OBJECT
@@ -171,14 +171,14 @@ private:
         QTest::newRow("English") << QStringLiteral("en");
     }
 
-    /// Installs the current row's language.
+    /** Installs the current row's language. */
     static void useLanguage()
     {
         QFETCH(QString, language);
         Language::install(language);
     }
 
-    /// The current row's dialog, shown in its language.
+    /** The current row's dialog, shown in its language. */
     static std::unique_ptr<QWidget> shownDialog()
     {
         useLanguage();
@@ -192,7 +192,7 @@ private:
     QLocale m_locale; ///< the default before anything changed it
 };
 
-/// Takes out what a test has installed.
+/** Takes out what a test has installed. */
 void TestLanguageWindow::cleanup()
 {
     Language::install(QString());
