@@ -13,6 +13,8 @@ class ClearColors
 public:
     explicit ClearColors(DiagramLook::Palette palette);
 
+    DiagramLook::Palette palette() const { return m_palette; }
+
     /** The colour of the category in row @p category: its box and all its lines. */
     QColor category(int category) const;
     /** The colour of a text of @p level, which in a category stands on category(). */

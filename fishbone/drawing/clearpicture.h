@@ -35,6 +35,12 @@ public:
     const ClearColors &colors() const { return m_colors; }
     const ClearPictureContent &content() const { return m_content; }
 
+    /** The same picture in other colours, which nobody follows. */
+    ClearPicture inColors(const ClearColors &colors) const
+    {
+        return {m_content, m_layout, m_fonts, colors};
+    }
+
     QRectF bounds() const override { return m_layout.bounds(); }
     QString family() const override;
     QStringList icons() const override;

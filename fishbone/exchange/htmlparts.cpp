@@ -30,8 +30,7 @@ aside p { margin: .3em 0; white-space: pre-line; overflow-wrap: anywhere; }
 aside .close { position: absolute; right: .6em; top: .6em; }
 .muted { opacity: .75; }
 @media (prefers-color-scheme: dark) {
-  :root { --paper: #15181c; --ink: #e8edf2; --line: #3a424c; --bar: #1e2227; }
-  main > svg { filter: invert(.91) hue-rotate(180deg); }
+  :root { --paper: #1e2126; --ink: #e8edf2; --line: #424a55; --bar: #282c33; }
 }
 @media print { header, aside { display: none; } }
 )css";
@@ -69,6 +68,7 @@ const char HtmlParts::script[] = R"js(
           count.setAttribute("x", box.x + box.width + 4);
           count.setAttribute("y", last.getAttribute("y"));
           count.setAttribute("fill", last.getAttribute("fill"));
+          count.classList.add(...last.classList);
         }
         count.textContent = "+" + below[i];
         g.append(count);

@@ -4,6 +4,7 @@
 #include <fishbone/exchange/htmlpicture.h>
 
 #include <fishbone/drawing/clearpicture.h>
+#include <fishbone/exchange/darkcolors.h>
 #include <fishbone/exchange/htmlparts.h>
 #include <fishbone/exchange/linksafety.h>
 #include <fishbone/exchange/svgpicture.h>
@@ -30,19 +31,33 @@ QByteArray button(const char *id, const QString &text, const QString &hint)
            "</button>";
 }
 
+/** The palette in the dark: who chose shades of grey gets no others. */
+DiagramLook::Palette darkPalette(const ClearColors &colors)
+{
+    return colors.palette() == DiagramLook::GrayColors ? DiagramLook::GrayColors
+                                                       : DiagramLook::DarkColors;
+}
+
+/** What puts a drawing in grey, which is made for white paper, on such a paper in the dark. */
+QByteArray paperFor(const ClearColors &colors)
+{
+    if (darkPalette(colors) == DiagramLook::DarkColors)
+        return {};
+    return "main > svg { background: " + colors.paper().name().toLatin1() + "; }\n";
+}
+
 } // namespace
 
-QByteArray HtmlPicture::head(const QString &title, const QString &language)
+QByteArray HtmlPicture::head(const QString &title, const QString &language, const QByteArray &style)
 {
     return "<!DOCTYPE html>\n<html lang=\"" + SvgPicture::escaped(language) +
            "\">\n<head>\n<meta charset=\"utf-8\">\n"
            "<meta http-equiv=\"Content-Security-Policy\" content=\"default-src 'none'; "
            "base-uri 'none'; form-action 'none'; style-src " +
-           digestOf(HtmlParts::style) + "; script-src " + digestOf(HtmlParts::script) +
+           digestOf(style) + "; script-src " + digestOf(HtmlParts::script) +
            "\">\n<meta name=\"referrer\" content=\"no-referrer\">\n"
            "<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n<title>" +
-           SvgPicture::escaped(title) + "</title>\n<style>" + HtmlParts::style +
-           "</style>\n</head>\n<body>\n";
+           SvgPicture::escaped(title) + "</title>\n<style>" + style + "</style>\n</head>\n<body>\n";
 }
 
 QByteArray HtmlPicture::bar(const QString &title)
@@ -95,11 +110,17 @@ bool HtmlPicture::write(const ClearPicture &picture, const QString &title, const
                         QIODevice &device)
 {
     const auto put = [&](const QByteArray &bytes) { return device.write(bytes) == bytes.size(); };
+    const DarkColors colors(picture.inColors(picture.colors()),
+                            picture.inColors(ClearColors(darkPalette(picture.colors()))));
+    const QByteArray style = HtmlParts::style +
+                             QByteArray("@media (prefers-color-scheme: dark) {\n") +
+                             paperFor(picture.colors()) + colors.rules() + "}\n";
     SvgPictureOptions options;
     options.isPart = true;
+    options.dark = &colors;
     options.description =
         tr("Fishbone diagram. Arrow keys move, Return shows details, the space bar folds.");
-    return put(head(title, language)) && put(bar(title)) && put("<main>\n") &&
+    return put(head(title, language, style)) && put(bar(title)) && put("<main>\n") &&
            SvgPicture::write(picture, options, device) && put(details()) &&
            put("</main>\n<script type=\"application/json\" id=\"data\">") && put(data(picture)) &&
            put("</script>\n<script>") && put(HtmlParts::script) &&

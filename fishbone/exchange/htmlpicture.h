@@ -28,7 +28,7 @@ public:
                       QIODevice &device);
 
 private:
-    static QByteArray head(const QString &title, const QString &language);
+    static QByteArray head(const QString &title, const QString &language, const QByteArray &style);
     static QByteArray bar(const QString &title);
     static QByteArray details();
     static QByteArray data(const ClearPicture &picture);

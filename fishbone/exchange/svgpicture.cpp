@@ -4,6 +4,7 @@
 #include <fishbone/exchange/svgpicture.h>
 
 #include <fishbone/drawing/describedpicture.h>
+#include <fishbone/exchange/darkcolors.h>
 #include <fishbone/exchange/linksafety.h>
 #include <fishbone/exchange/svgsymbol.h>
 
@@ -132,6 +133,7 @@ bool SvgPicture::write(const DescribedPicture &picture, const SvgPictureOptions 
 void SvgPicture::begin(const DescribedPicture &picture, const SvgPictureOptions &options)
 {
     m_isPart = options.isPart;
+    m_dark = options.dark;
     const qreal m = options.margin;
     const QRectF rect = picture.bounds().adjusted(-m, -m, m, m);
     const QSizeF size = options.size.isEmpty() ? rect.size() : options.size;
@@ -238,12 +240,21 @@ void SvgPicture::openLink()
     m_hasOpenLink = true;
 }
 
+/** The class of the next element that is drawn. */
+QByteArray SvgPicture::elementClass()
+{
+    const QByteArray name = m_dark ? m_dark->classOf(m_elements) : QByteArray();
+    ++m_elements;
+    return name.isEmpty() ? QByteArray() : " class=\"" + name + '"';
+}
+
 void SvgPicture::line(const QLineF &line, const QPen &pen)
 {
+    const QByteArray look = elementClass();
     if (pen.style() == Qt::NoPen)
         return;
     const qreal width = std::max(pen.widthF(), 1.0);
-    put("<path d=\"M" + point(line.p1()) + 'L' + point(line.p2()) + '"' +
+    put("<path d=\"M" + point(line.p1()) + 'L' + point(line.p2()) + '"' + look +
         paint("stroke", pen.color()) + " stroke-width=\"" + number(width) + '"' + dashes(pen) +
         "/>");
 }
@@ -251,7 +262,7 @@ void SvgPicture::line(const QLineF &line, const QPen &pen)
 void SvgPicture::shape(const QPainterPath &path, const QColor &fill, const QColor &outline,
                        qreal width)
 {
-    QByteArray out = "<path d=\"" + pathData(path) + '"' + paint("fill", fill);
+    QByteArray out = "<path d=\"" + pathData(path) + '"' + elementClass() + paint("fill", fill);
     if (width > 0)
         out += paint("stroke", outline) + " stroke-width=\"" + number(width) + '"';
     put(out + "/>\n");
@@ -261,7 +272,7 @@ void SvgPicture::box(const QRectF &rect, qreal radius, const QColor &fill)
 {
     put("<rect x=\"" + number(rect.x()) + "\" y=\"" + number(rect.y()) + "\" width=\"" +
         number(rect.width()) + "\" height=\"" + number(rect.height()) + "\" rx=\"" +
-        number(radius) + '"' + paint("fill", fill) + "/>");
+        number(radius) + '"' + elementClass() + paint("fill", fill) + "/>");
 }
 
 void SvgPicture::text(const ClearText &text, const QRectF &rect, ClearLabel::Side side,
@@ -273,7 +284,7 @@ void SvgPicture::text(const ClearText &text, const QRectF &rect, ClearLabel::Sid
     const char *anchor = side == ClearLabel::Side::Center                  ? "middle"
                          : (side == ClearLabel::Side::Right) != isReversed ? "end"
                                                                            : nullptr;
-    QByteArray attributes = fontOf(text.font()) + paint("fill", color);
+    QByteArray attributes = elementClass() + fontOf(text.font()) + paint("fill", color);
     if (anchor)
         attributes += QByteArray(" text-anchor=\"") + anchor + '"';
     if (isReversed)

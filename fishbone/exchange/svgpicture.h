@@ -11,6 +11,7 @@
 #include <QSet>
 #include <QSizeF>
 
+class DarkColors;
 class DescribedPicture;
 class QIODevice;
 
@@ -25,6 +26,8 @@ struct SvgPictureOptions
     /** Whether it becomes part of a page: then it needs no XML declaration, and says of each
      * subject what a script and assistive technology want to know. */
     bool isPart = false;
+    /** Gives elements the classes that look otherwise in the dark; null for a file without. */
+    const DarkColors *dark = nullptr;
 };
 
 /**
@@ -68,13 +71,16 @@ private:
     void flush();
     QByteArray idOf(int index, const QString &wanted);
     void openLink();
+    QByteArray elementClass();
     static QByteArray roleOf(const PictureSubject &subject);
 
     QIODevice &m_device;
     QByteArray m_buffer;
     QHash<QString, QByteArray> m_icons; ///< the ids of their symbols
     QSet<QByteArray> m_ids;
-    QString m_link; ///< of the subject, until its text begins
+    const DarkColors *m_dark = nullptr;
+    int m_elements = 0; ///< so many were described that have a colour
+    QString m_link;     ///< of the subject, until its text begins
     bool m_hasOpenLink = false;
     bool m_isPart = false;
     bool m_isGood = true;

@@ -45,13 +45,14 @@ ClearPictureContent content(int subjects)
     return made;
 }
 
-QByteArray pageOf(const ClearPictureContent &content)
+QByteArray pageOf(const ClearPictureContent &content,
+                  DiagramLook::Palette palette = DiagramLook::DistinctColors)
 {
     const ClearFonts fonts(QFont(QStringLiteral("Noto Sans CJK SC")));
     const ClearTree tree(content.subjects);
     ClearTextCache cache;
     const ClearLayout layout(tree, fonts, {}, cache);
-    const ClearPicture picture(content, layout, fonts, ClearColors(DiagramLook::DistinctColors));
+    const ClearPicture picture(content, layout, fonts, ClearColors(palette));
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
     const bool isWritten =
@@ -68,6 +69,8 @@ class TestHtmlPicture : public QObject
 private Q_SLOTS:
     void shouldStaySmall();
     void shouldNeedNothingElse();
+    void shouldStayReadableInTheDark();
+    void shouldLeaveGreyOnPaper();
     void shouldWorkInABrowser_data();
     void shouldWorkInABrowser();
 };
@@ -93,6 +96,52 @@ void TestHtmlPicture::shouldNeedNothingElse()
     const QRegularExpression loads(QStringLiteral("(src|srcset|action)\\s*=|@import|url\\("));
     const QString text = QString::fromUtf8(page).remove(hostile);
     QVERIFY(!text.left(text.indexOf(QLatin1String("<svg"))).contains(loads));
+}
+
+/** Also where subjects have colours of their own, which no palette knows. */
+void TestHtmlPicture::shouldStayReadableInTheDark()
+{
+    ClearPictureContent made = content(41);
+    made.looks[1].colour = QColor(0x8a8f3c);
+    made.looks[21].colour = QColor(0xf2e85c);
+    made.looks[4].colour = QColor(0x202020);
+    const QString page = QString::fromUtf8(pageOf(made));
+    QHash<QString, QColor> dark;
+    const QRegularExpression rule(QStringLiteral("\\.(k\\d+)\\{fill:(#[0-9a-f]{6});"));
+    for (auto it = rule.globalMatch(page); it.hasNext();) {
+        const QRegularExpressionMatch match = it.next();
+        dark.insert(match.captured(1), QColor(match.captured(2)));
+    }
+    QVERIFY(dark.size() >= 4);
+    const QColor paper = ClearColors(DiagramLook::DarkColors).paper();
+    QVERIFY(page.contains(QStringLiteral("--paper: ") + paper.name()));
+    const QRegularExpression element(QStringLiteral(
+        "<(g|rect|text) [^>]*?(?: class=\"(k\\d+)\"[^>]*?)?(?: fill=\"(#[0-9a-f]+)\"[^>]*)?>"));
+    QColor below = paper;
+    int texts = 0;
+    for (auto it = element.globalMatch(page); it.hasNext();) {
+        const QRegularExpressionMatch match = it.next();
+        const QString name = match.captured(2);
+        QVERIFY(name.isEmpty() || match.captured(1) == QLatin1String("g") || dark.contains(name));
+        const QColor fill = name.isEmpty() ? QColor(match.captured(3)) : dark.value(name);
+        if (match.captured(1) == QLatin1String("g")) {
+            below = paper;
+        } else if (match.captured(1) == QLatin1String("rect")) {
+            below = fill;
+        } else {
+            QVERIFY2(ClearColors::contrast(fill, below) >= ClearColors::enoughForText,
+                     qPrintable(match.captured() + fill.name() + below.name()));
+            ++texts;
+        }
+    }
+    QVERIFY(texts >= 41);
+}
+
+void TestHtmlPicture::shouldLeaveGreyOnPaper()
+{
+    const QByteArray page = pageOf(content(5), DiagramLook::GrayColors);
+    QVERIFY(page.contains("main > svg { background: #ffffff; }"));
+    QVERIFY(!page.contains(".k0{"));
 }
 
 void TestHtmlPicture::shouldWorkInABrowser_data()
