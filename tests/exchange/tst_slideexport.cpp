@@ -4,15 +4,19 @@
 #include <tests/exchange/exchangefixture.h>
 #include <tests/program/testprogram.h>
 #include <tests/support/editorfixture.h>
+#include <tests/support/sourcefolder.h>
 
 #include <fishbone/exchange/importedtree.h>
 #include <fishbone/exchange/slideexport.h>
 #include <fishbone/exchange/ziparchive.h>
+#include <fishbone/items/taskstatusinfo.h>
+#include <fishbone/model/subjectmarks.h>
 
 #include <QGraphicsLineItem>
 #include <QGraphicsRectItem>
 #include <QGraphicsScene>
 #include <QGraphicsSimpleTextItem>
+#include <QProcess>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QXmlStreamReader>
@@ -76,6 +80,8 @@ private Q_SLOTS:
     void shouldPlaceTheDrawingInTheMiddle_data();
     void shouldPlaceTheDrawingInTheMiddle();
     void shouldTurnTextsAsTheyAreDrawn();
+    void shouldKeepToTheSchema_data();
+    void shouldKeepToTheSchema();
     void shouldKeepLinks_data();
     void shouldKeepLinks();
     void shouldSuitThePage_data();
@@ -204,6 +210,59 @@ void TestSlideExport::shouldTurnTextsAsTheyAreDrawn()
     m_scene->items().constFirst()->setRotation(30); // the text is the topmost
     const QByteArray slide = partOf(SlideExport::presentation(*m_scene, *m_head), slidePart);
     QVERIFY2(slide.contains("rot=\"1800000\""), slide.constData());
+}
+
+void TestSlideExport::shouldKeepToTheSchema_data()
+{
+    QTest::addColumn<int>("look");
+    QTest::newRow("clear") << int(DiagramLook::Clear);
+    QTest::newRow("classic") << int(DiagramLook::Classic);
+}
+
+/** Programs that open slides take an element in the wrong place for damage. */
+void TestSlideExport::shouldKeepToTheSchema()
+{
+    QFETCH(int, look);
+    TestSupport::EditorFixture fish(
+        QStringLiteral("Effect[Man[Twin,Tired[Shift]],Machine[Worn],Method]"));
+    TreeItem *const twin = fish.subject(QStringLiteral("Twin"));
+    twin->setUrl(QStringLiteral("https://example.org/?a=1&b=2"));
+    twin->setStatus(tsRunning);
+    twin->setProgress(40);
+    SubjectMarks::setVerdict(*fish.subject(QStringLiteral("Worn")), Verdict::RootCause);
+    SubjectMarks::setVerdict(*fish.subject(QStringLiteral("Shift")), Verdict::RuledOut);
+    SubjectMarks::setVotes(*fish.subject(QStringLiteral("Tired")), 3);
+    twin->setTitle(QStringLiteral("Two <lines>\nof \"text\" & more"));
+    fish.subject(QStringLiteral("Method"))
+        ->setTitle(QStringLiteral("\u0637\u0631\u064a\u0642\u0629"));
+    DiagramLook::Options options;
+    options.hasLegend = true;
+    fish.editor.setLookOptions(options);
+    fish.editor.setLook(DiagramLook::Kind(look));
+    fish.editor.updateFish(true);
+    fish.editor.expandAll();
+    const QByteArray bytes =
+        SlideExport::presentation(*fish.editor.scene(), *fish.subject(QStringLiteral("Effect")));
+
+    const QTemporaryDir folder;
+    for (const char *part : {"presentation.xml", "slides/slide1.xml", "notesSlides/notesSlide1.xml",
+                             "slideMasters/slideMaster1.xml", "slideLayouts/slideLayout1.xml",
+                             "notesMasters/notesMaster1.xml"}) {
+        const QByteArray xml = partOf(bytes, QStringLiteral("ppt/") + QLatin1String(part));
+        QVERIFY2(!xml.isEmpty(), part);
+        QFile file(folder.filePath(QStringLiteral("part.xml")));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QCOMPARE(file.write(xml), qint64(xml.size()));
+        file.close();
+        QProcess lint;
+        lint.setProcessChannelMode(QProcess::MergedChannels);
+        lint.start(QStringLiteral("xmllint"),
+                   {QStringLiteral("--noout"), QStringLiteral("--relaxng"),
+                    TestSupport::sourceFile(QStringLiteral("tests/exchange/pptx/slide.rng")),
+                    file.fileName()});
+        QVERIFY(lint.waitForFinished());
+        QVERIFY2(lint.exitCode() == 0, part + lint.readAll());
+    }
 }
 
 void TestSlideExport::shouldKeepLinks_data()
