@@ -71,6 +71,14 @@ public:
         AppFixture::settle();
     }
 
+    /** Presses at @p from and drags to @p to, without letting go. */
+    void drag(const QPoint &from, const QPoint &to) const
+    {
+        press(from);
+        move(from + QPoint(15, 0), Qt::LeftButton);
+        move(to, Qt::LeftButton);
+    }
+
     AppFixture app;
 };
 
@@ -145,9 +153,7 @@ void TestMouseDrags::shouldDropABoneOnAnother()
     AppFixture::settle();
     const QPoint from = canvas.seen("Machines");
     const QPoint target = canvas.seen("Material");
-    canvas.press(from);
-    canvas.move(from + QPoint(15, 0), Qt::LeftButton);
-    canvas.move(target, Qt::LeftButton);
+    canvas.drag(from, target);
     canvas.release(target);
     QCOMPARE(canvas.app.subject("Machines")->parent(), canvas.app.subject("Material"));
 }
@@ -160,9 +166,7 @@ void TestMouseDrags::shouldGoBackWithEscape()
     const QString text = canvas.app.text();
     const QPoint from = canvas.seen("Machines");
     const QPoint target = canvas.seen("Material");
-    canvas.press(from);
-    canvas.move(from + QPoint(15, 0), Qt::LeftButton);
-    canvas.move(target, Qt::LeftButton);
+    canvas.drag(from, target);
     QVERIFY(canvas.spear("Machines")->pos() != QPointF());
     QVERIFY(canvas.view()->linkedSpear());
 
@@ -188,9 +192,7 @@ void TestMouseDrags::shouldGoOnAfterEscape()
     QTest::keyClick(canvas.view(), Qt::Key_Escape);
     canvas.release(from);
     const QPoint target = canvas.seen("Material");
-    canvas.press(from);
-    canvas.move(from + QPoint(15, 0), Qt::LeftButton);
-    canvas.move(target, Qt::LeftButton);
+    canvas.drag(from, target);
     canvas.release(target);
     QCOMPARE(canvas.app.subject("Machines")->parent(), canvas.app.subject("Material"));
 }
