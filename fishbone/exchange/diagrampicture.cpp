@@ -108,7 +108,7 @@ Result Writing::png(QByteArray &bytes) const
         return progress.outcome(false);
     image.setText(QStringLiteral("Title"), options.title);
     PictureBytes buffer(&bytes, progress);
-    return progress.outcome(image.save(&buffer, "PNG"));
+    return progress.outcome(buffer.savePng(image));
 }
 
 Result Writing::pdf(const QSizeF &millimetres, QByteArray &bytes) const

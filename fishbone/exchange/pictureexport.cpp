@@ -26,7 +26,6 @@ namespace {
 
 constexpr double pointsAnInch = 72;
 constexpr double inchesPerMetre = 1 / 0.0254;
-constexpr int pngQuality = 89; ///< the lightest compression: a drawing is small, and this is fast
 /** The longest side of any picture, in picture units: painters do not count further. */
 constexpr double maximalUnits = 1000000;
 
@@ -194,7 +193,7 @@ Result drawPng(Drawing &drawing, QByteArray &picture)
     if (!options.title.isEmpty())
         image.setText(QStringLiteral("Title"), options.title);
     PictureBytes bytes(&picture, drawing.progress());
-    return drawing.progress().outcome(image.save(&bytes, "PNG", pngQuality));
+    return drawing.progress().outcome(bytes.savePng(image));
 }
 
 /** Makes @p generator write what @p drawing shows to @p device. */

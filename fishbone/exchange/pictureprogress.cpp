@@ -5,6 +5,8 @@
 
 #include <algorithm>
 
+#include <QImage>
+
 bool PictureProgress::goesOn(int done)
 {
     m_done = std::max(m_done, done);
@@ -27,4 +29,10 @@ PictureExport::Result PictureProgress::finish()
 {
     goesOn(m_steps);
     return outcome(true);
+}
+
+bool PictureBytes::savePng(const QImage &image)
+{
+    constexpr int quality = 89; // the lightest compression: a drawing is small, and this is fast
+    return image.save(this, "PNG", quality);
 }

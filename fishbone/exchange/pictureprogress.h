@@ -7,6 +7,8 @@
 
 #include <QBuffer>
 
+class QImage;
+
 /** Tells whoever waits for a picture how far it is, and hears whether it is still wanted. */
 class PictureProgress
 {
@@ -36,7 +38,10 @@ private:
     bool m_isCancelled = false;
 };
 
-/** Takes the bytes of a picture as long as it is wanted. */
+/**
+ * Takes the bytes of a picture, and drops them when it is not wanted any more. Refused they are
+ * not: the toolkit's encoders would lose what they hold.
+ */
 class PictureBytes : public QBuffer
 {
 public:
@@ -48,10 +53,13 @@ public:
         open(QIODevice::WriteOnly);
     }
 
+    /** Encodes @p image. False when that was not possible. */
+    bool savePng(const QImage &image);
+
 protected:
     qint64 writeData(const char *data, qint64 size) override
     {
-        return m_progress.goesOn() ? QBuffer::writeData(data, size) : -1;
+        return m_progress.goesOn() ? QBuffer::writeData(data, size) : size;
     }
 
 private:

@@ -22,6 +22,8 @@ class TestInsertCommands : public QObject
 private Q_SLOTS:
     void shouldInsertAndTakeBack_data();
     void shouldInsertAndTakeBack();
+    void shouldKeepIndexesThatAreHeld_data() { shouldInsertAndTakeBack_data(); }
+    void shouldKeepIndexesThatAreHeld();
     void shouldNameThemselvesInTheirOwnContext();
     void shouldKnowTheUuidOfTheReference();
     void shouldDrawOneUuidForAllTimes();
@@ -86,6 +88,42 @@ void TestInsertCommands::shouldInsertAndTakeBack()
     QCOMPARE(f.text(), expected);
     f.stack->undo();
     QCOMPARE(f.text(), document);
+}
+
+void TestInsertCommands::shouldKeepIndexesThatAreHeld()
+{
+    QFETCH(MakeCommand, command);
+    QFETCH(QString, document);
+    QFETCH(QByteArray, reference);
+    CommandFixture f(document);
+    f.draw();
+    FishModel &model = *f.model;
+    std::vector<std::pair<TreeItem *, QPersistentModelIndex>> held;
+    const auto holdAll = [&] {
+        held.clear();
+        for (TreeItem *node : allNodes(model)) {
+            const QModelIndex index = model.indexFromItem(node);
+            for (int column = 0; column < model.columnCount(); ++column)
+                held.emplace_back(node, index.sibling(index.row(), column));
+        }
+    };
+    const auto strays = [&] {
+        QStringList titles;
+        for (const auto &[node, index] : held) {
+            if (model.contains(node) && index.sibling(index.row(), 0) != model.indexFromItem(node))
+                titles.append(node->title());
+        }
+        return titles;
+    };
+    holdAll();
+    f.stack->push(command(&model, f.index(reference)));
+    QCOMPARE(strays(), QStringList());
+    holdAll();
+    f.stack->undo();
+    QCOMPARE(strays(), QStringList());
+    holdAll();
+    f.stack->redo();
+    QCOMPARE(strays(), QStringList());
 }
 
 void TestInsertCommands::shouldNameThemselvesInTheirOwnContext()
