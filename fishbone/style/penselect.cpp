@@ -86,6 +86,8 @@ QPolygonF sampleLine(const QSizeF &area)
 /** The state of a dialog; it owns the widgets as their parent. */
 struct FISHBONE_NO_EXPORT PenSelect::Private
 {
+    Q_DISABLE_COPY(Private)
+
     Private(const QPen &edited, PenSelect *dialog)
         : pen(edited)
         , width(new QLineEdit(dialog))

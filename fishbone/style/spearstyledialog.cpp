@@ -56,6 +56,8 @@ QFont resolved(QFont font)
 /** The state of a dialog; it owns the widgets as their parent. */
 struct FISHBONE_NO_EXPORT SpearStyleDialog::Private
 {
+    Q_DISABLE_COPY(Private)
+
     Private(SpearStyle &edited, SpearStyleDialog *dialog)
         : style(edited)
         , textCount(new QLineEdit(dialog))
