@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include <QGraphicsScene>
+#include <QModelIndex>
 #include <QSet>
 
 #include <fishbone/editor/itemancestry.h>

@@ -4,6 +4,7 @@
 #include <fishbone/editor/showndrawing.h>
 
 #include <QGraphicsView>
+#include <QModelIndex>
 #include <QPointer>
 
 #include <fishbone/drawing/drawingaudience.h>
