@@ -114,7 +114,7 @@ void TestFishEditorLargeDiagrams::shouldShowEveryLevel()
 
 void TestFishEditorLargeDiagrams::shouldShowEveryRow()
 {
-    constexpr int width = 20000;
+    constexpr int width = 10000;
     LargeFixture<FishModel> fish(makeFan(width));
     const QAbstractItemModelTester tester(&fish.model,
                                           QAbstractItemModelTester::FailureReportingMode::QtTest);
@@ -137,7 +137,7 @@ void TestFishEditorLargeDiagrams::shouldShowEveryRow()
 
 void TestFishEditorLargeDiagrams::shouldShowWideBranchesOfOneBone()
 {
-    constexpr int width = 20000;
+    constexpr int width = 10000;
     LargeFixture<FishModel> fish(makeBranch(width));
     fish.editor.generateSpear(&fish.model, fish.model.index(0, 0, fish.top));
     fish.editor.expandorContractAll(true);
@@ -177,8 +177,8 @@ void TestFishEditorLargeDiagrams::shouldTakeLinearTime()
     QFETCH(Tree, tree);
     secondsToUse(tree(100)); // pictures and fonts are loaded now
 
-    const double small = secondsToUse(tree(3000));
-    const double large = secondsToUse(tree(12000));
+    const double small = secondsToUse(tree(2000));
+    const double large = secondsToUse(tree(8000));
 
     // Four times the nodes: 4 for linear time, 16 for quadratic time.
     QVERIFY2(large < 8 * small,
