@@ -157,6 +157,9 @@ void ClearLook::place(const SpearTree &tree) const
             place->frame = frameOf(layout, symbols);
         give(shown.spears[i], std::move(place));
     }
-    for (const SpearTree::Entry &entry : tree.entries())
-        SpearPasses::place(*entry.spear, entry.spear->parentSpear());
+    for (std::size_t place = 0; place < tree.entries().size(); ++place) {
+        tree.prefetchMovedAfter(place);
+        SpearItem *const spear = tree.entries()[place].spear;
+        SpearPasses::place(*spear, spear->parentSpear());
+    }
 }
