@@ -48,7 +48,7 @@ private:
     std::vector<Element> m_all;
 };
 
-QByteArray declaration(const char *property, const QColor &color)
+QByteArray dressed(const char *property, const QColor &color)
 {
     if (!color.isValid())
         return {};
@@ -71,8 +71,7 @@ DarkColors::DarkColors(const ClearPicture &light, const ClearPicture &dark)
             m_places.push_back(-1);
             continue;
         }
-        const QByteArray rule =
-            declaration("fill", after[i].fill) + declaration("stroke", after[i].stroke);
+        const QByteArray rule = dressed("fill", after[i].fill) + dressed("stroke", after[i].stroke);
         auto place = known.constFind(rule);
         if (place == known.constEnd()) {
             place = known.insert(rule, m_classes.size());
