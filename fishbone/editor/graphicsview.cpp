@@ -248,14 +248,14 @@ void GraphicsView::contextMenuEvent(QContextMenuEvent *event)
     });
     if (!isAlive)
         return;
-    if (spear.get()) {
-        Q_EMIT rightClicked(spear.get());
-        return;
-    }
-    if (isOnSpear)
+    if (isOnSpear && !spear.get())
         return; // on one that a listener has ended
-    QGraphicsView::contextMenuEvent(event);
-    Q_EMIT rightClicked(nullptr);
+    if (!isOnSpear)
+        QGraphicsView::contextMenuEvent(event);
+    const QPointer<GraphicsView> alive(this);
+    Q_EMIT rightClicked(spear.get());
+    if (!alive)
+        event->accept(); // as handle() does
 }
 
 #if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)

@@ -49,6 +49,8 @@ private Q_SLOTS:
     void shouldShowTheArrowWhereTheHostsItemsCoverABone();
     void shouldTakeTheMouseWithoutAScene();
     void shouldSurviveItsEndByAMove();
+    void shouldSurviveItsEndByARightClick_data();
+    void shouldSurviveItsEndByARightClick();
     void shouldRunNoEntryThatTheHostAdds();
 };
 
@@ -123,6 +125,31 @@ void TestGraphicsViewHost::shouldSurviveItsEndByAMove()
 
     ViewMouse(view).click(tipOf(view, ending.spear()));
     QVERIFY(!ending.editor);
+}
+
+void TestGraphicsViewHost::shouldSurviveItsEndByARightClick_data()
+{
+    QTest::addColumn<bool>("isOnBone");
+    QTest::newRow("on a bone") << true;
+    QTest::newRow("on nothing") << false;
+}
+
+/** The toolkit asks the parent of a view that has no use for the event, dead or not. */
+void TestGraphicsViewHost::shouldSurviveItsEndByARightClick()
+{
+    QFETCH(bool, isOnBone);
+    EndingEditor ending;
+    QVERIFY(QTest::qWaitForWindowExposed(ending.editor));
+    ending.editor->equalRatio(ending.editor->scene()->itemsBoundingRect());
+    GraphicsView &view = *ending.editor->view();
+    connect(&view, &GraphicsView::rightClicked, this, [&ending] { delete ending.editor.data(); });
+    const QPoint at = isOnBone ? tipOf(view, ending.spear()) : QPoint(2, 2);
+    QContextMenuEvent event(QContextMenuEvent::Mouse, at, view.viewport()->mapToGlobal(at));
+
+    QCoreApplication::sendEvent(view.viewport(), &event);
+
+    QVERIFY(!ending.editor);
+    QVERIFY(event.isAccepted());
 }
 
 void TestGraphicsViewHost::shouldRunNoEntryThatTheHostAdds()
