@@ -6,6 +6,7 @@
 #include <app/common/actionset.h>
 #include <app/common/busycursor.h>
 #include <app/common/plainbox.h>
+#include <app/common/savedialog.h>
 #include <app/diagram/diagramsession.h>
 #include <app/documents/documenttab.h>
 #include <app/documents/documenttabs.h>
@@ -17,7 +18,6 @@
 
 #include <QAction>
 #include <QDir>
-#include <QFileDialog>
 #include <QPointer>
 
 ReportCommands::ReportCommands(DocumentTabs *tabs, ActionSet *actions, QWidget *window)
@@ -43,19 +43,12 @@ QString ReportCommands::chosenFile() const
     QString name = tab.name();
     if (name.endsWith(QLatin1String(".json")))
         name.chop(5);
-    QFileDialog dialog(m_window, tr("Meeting report"), tab.session()->folder());
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setNameFilters({tr("Page for the browser (*.html)"), QStringLiteral("PDF (*.pdf)"),
-                           tr("Markdown and a picture (*.md)")});
-    dialog.setDefaultSuffix(QStringLiteral("html"));
-    dialog.selectFile(name + QStringLiteral(".html"));
-    connect(&dialog, &QFileDialog::filterSelected, &dialog, [&dialog](const QString &filter) {
-        const QString suffix = filter.section(QLatin1String("*."), 1).chopped(1);
-        dialog.setDefaultSuffix(suffix);
-        const QFileInfo entered(dialog.selectedFiles().value(0));
-        dialog.selectFile(entered.completeBaseName() + QLatin1Char('.') + suffix);
-    });
-    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+    return SaveDialog::chosenFile(
+        m_window, tr("Meeting report"),
+        QStringLiteral("%1/%2.html").arg(tab.session()->folder(), name),
+        {tr("Page for the browser (*.html)"), QStringLiteral("PDF (*.pdf)"),
+         tr("Markdown and a picture (*.md)")},
+        {QStringLiteral("html"), QStringLiteral("pdf"), QStringLiteral("md")});
 }
 
 void ReportCommands::write()

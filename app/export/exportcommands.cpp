@@ -7,6 +7,7 @@
 #include <app/common/busycursor.h>
 #include <app/common/canvastheme.h>
 #include <app/common/plainbox.h>
+#include <app/common/savedialog.h>
 #include <app/common/updatesheld.h>
 #include <app/common/workprogress.h>
 #include <app/diagram/diagramsession.h>
@@ -28,7 +29,6 @@
 
 #include <QAction>
 #include <QClipboard>
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QMimeData>
@@ -189,17 +189,8 @@ QString ExportCommands::targetOfExport() const
     const QStringList filters = DiagramExchange::exportFilter().split(QStringLiteral(";;")) +
                                 QStringList(tr("PowerPoint slide (*.%1)").arg(slide));
     const QStringList suffixes = foreignSuffixes() + QStringList(slide);
-    QFileDialog dialog(m_window, tr("Export as"), proposedName(suffixes.constFirst()));
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setNameFilters(filters);
-    dialog.setDefaultSuffix(suffixes.constFirst());
-    connect(&dialog, &QFileDialog::filterSelected, &dialog, [&](const QString &filter) {
-        const QString suffix = suffixes.value(filters.indexOf(filter));
-        dialog.setDefaultSuffix(suffix);
-        const QFileInfo entered(dialog.selectedFiles().value(0));
-        dialog.selectFile(entered.completeBaseName() + QLatin1Char('.') + suffix);
-    });
-    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+    return SaveDialog::chosenFile(m_window, tr("Export as"), proposedName(suffixes.constFirst()),
+                                  filters, suffixes);
 }
 
 /** Writes @p document in the format that the ending of @p path tells. Returns what went wrong,
