@@ -115,17 +115,22 @@ QString MeetingReport::markdown(const QString &pictureName) const
     return MeetingPage(*m_head, m_causes, m_actions).markdown(pictureName);
 }
 
-/** The picture as an SVG element; empty when it cannot be drawn. */
-QByteArray MeetingReport::picture() const
+std::unique_ptr<DiagramPicture> MeetingReport::arranged() const
 {
     DiagramLook::Options options = m_look;
     options.hasLegend = true;
-    DiagramPicture drawn(m_head, options);
-    drawn.arrangeFor(slideProportions);
+    auto drawn = std::make_unique<DiagramPicture>(m_head, options);
+    drawn->arrangeFor(slideProportions);
+    return drawn;
+}
+
+/** The picture as an SVG element; empty when it cannot be drawn. */
+QByteArray MeetingReport::picture() const
+{
     PictureOptions wanted;
     wanted.title = m_head->title();
     QByteArray bytes;
-    drawn.render(PictureExport::Format::Svg, wanted, bytes);
+    arranged()->render(PictureExport::Format::Svg, wanted, bytes);
     return bytes.mid(qMax(0, int(bytes.indexOf("<svg"))));
 }
 
@@ -165,16 +170,13 @@ bool MeetingReport::writePdf(const QString &fileName, QString *error) const
     writer.setResolution(resolution * sharpness);
     const int width = writer.width() / sharpness;
 
-    DiagramLook::Options options = m_look;
-    options.hasLegend = true;
-    DiagramPicture drawn(m_head, options);
-    drawn.arrangeFor(slideProportions);
-    const QSize shown = drawn.size().scaled(width, width, Qt::KeepAspectRatio).toSize();
+    const std::unique_ptr<DiagramPicture> drawn = arranged();
+    const QSize shown = drawn->size().scaled(width, width, Qt::KeepAspectRatio).toSize();
     QImage image(shown * sharpness, QImage::Format_RGB32);
     image.fill(Qt::white);
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
-    drawn.paint(painter, image.rect());
+    drawn->paint(painter, image.rect());
     painter.end();
 
     QTextDocument document;

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include <memory>
+
 #include <fishbone/drawing/diagramlook.h>
 #include <fishbone/fishbone_export.h>
 #include <fishbone/model/subjectmarks.h>
@@ -13,6 +15,7 @@
 #include <QStringList>
 #include <QVector>
 
+class DiagramPicture;
 class TreeItem;
 
 /**
@@ -72,6 +75,7 @@ public:
     QString markdown(const QString &pictureName) const;
 
 private:
+    std::unique_ptr<DiagramPicture> arranged() const;
     QByteArray picture() const;
     bool writePdf(const QString &fileName, QString *error) const;
 
