@@ -20,7 +20,7 @@
 #include <fishbone/undo/attributecommands.h>
 #include <fishbone/undo/structuralcommands.h>
 
-SubjectEdits::SubjectEdits(const Stage &stage)
+SubjectEdits::SubjectEdits(const EditingStage &stage)
     : m_stage(stage)
 {
 }

@@ -10,12 +10,9 @@
 #include <QModelIndex>
 #include <QObject>
 
-class CommandRunner;
-class EditorCalls;
+#include <fishbone/editor/editingstage.h>
+
 class QGraphicsItem;
-class ShownDrawing;
-class ShownRoot;
-class ShownSubject;
 class TreeItem;
 
 /**
@@ -27,17 +24,7 @@ class SubjectEdits : public QObject
     Q_OBJECT
 
 public:
-    /** What the edits work with; all must live as long. */
-    struct Stage
-    {
-        const ShownSubject &shown;
-        ShownDrawing &drawing;
-        ShownRoot &root;
-        EditorCalls &calls;
-        CommandRunner &runner;
-    };
-
-    explicit SubjectEdits(const Stage &stage);
+    explicit SubjectEdits(const EditingStage &stage);
 
     void insertBefore(); ///< a new subject
     void insertAfter();  ///< a new subject
@@ -86,7 +73,7 @@ private:
     void store(const QJsonObject &snapshot);
     void removeSubjects(const QJsonObject &snapshot, const QList<TreeItem *> &subjects);
 
-    Stage m_stage;
+    EditingStage m_stage;
     QJsonObject m_copy;
     bool m_pasteAsNew = false;
 };

@@ -22,8 +22,9 @@ namespace {
 constexpr int linkColumn = 2; ///< the column whose text counts as a subject's link
 } // namespace
 
-SubjectLinks::SubjectLinks(const Stage &stage)
+SubjectLinks::SubjectLinks(const EditingStage &stage, QWidget &window)
     : m_stage(stage)
+    , m_window(window)
 {
 }
 
@@ -49,8 +50,8 @@ void SubjectLinks::ask()
     if (!index.isValid())
         return;
     // The dialog runs an event loop, in which the host may edit, unload or destroy what is shown.
-    const QPointer<QWidget> alive(&m_stage.window);
-    const QUrl chosen = URLDialog::linkToUrlDialog(url(), &m_stage.window);
+    const QPointer<QWidget> alive(&m_window);
+    const QUrl chosen = URLDialog::linkToUrlDialog(url(), &m_window);
     if (alive && chosen.isValid() && m_stage.shown.ownIndex(index).isValid())
         change(std::make_unique<ModifyLinkTo>(m_stage.shown.model(), index, chosen.toString()),
                index);

@@ -7,31 +7,18 @@
 
 #include <QString>
 
-class CommandRunner;
-class EditorCalls;
+#include <fishbone/editor/editingstage.h>
+
 class QPersistentModelIndex;
 class QWidget;
-class ShownDrawing;
-class ShownRoot;
-class ShownSubject;
 class UndoCommand;
 
 /** The link of the selected subject. Nothing is done without one. */
 class SubjectLinks
 {
 public:
-    /** What links are edited with; all must live as long. */
-    struct Stage
-    {
-        QWidget &window; ///< over which the user is asked
-        const ShownSubject &shown;
-        ShownDrawing &drawing;
-        ShownRoot &root;
-        EditorCalls &calls;
-        CommandRunner &runner;
-    };
-
-    explicit SubjectLinks(const Stage &stage);
+    /** On @p stage; the user is asked over @p window, which must live as long. */
+    SubjectLinks(const EditingStage &stage, QWidget &window);
 
     /** The display text of column 2 in the subject's row. */
     QString url() const;
@@ -45,5 +32,6 @@ public:
 private:
     void change(std::unique_ptr<UndoCommand> command, const QPersistentModelIndex &index);
 
-    Stage m_stage;
+    EditingStage m_stage;
+    QWidget &m_window;
 };

@@ -20,7 +20,7 @@
 #include <fishbone/model/treeitem.h>
 #include <fishbone/undo/structuralcommands.h>
 
-SubjectMoves::SubjectMoves(const Stage &stage)
+SubjectMoves::SubjectMoves(const EditingStage &stage)
     : m_stage(stage)
 {
 }

@@ -8,12 +8,10 @@
 #include <QObject>
 #include <QStringList>
 
-class CommandRunner;
-class EditorCalls;
+#include <fishbone/editor/editingstage.h>
+
 class QGraphicsItem;
 class QMimeData;
-class ShownRoot;
-class ShownSubject;
 class TreeItem;
 
 /** Moves subjects to another place: with the mouse, and by drops. */
@@ -25,16 +23,7 @@ public:
     /** How a drop gets here. */
     enum class Came { AtOnce, Queued };
 
-    /** What the moves work with; all must live as long. */
-    struct Stage
-    {
-        const ShownSubject &shown;
-        ShownRoot &root;
-        EditorCalls &calls;
-        CommandRunner &runner;
-    };
-
-    explicit SubjectMoves(const Stage &stage);
+    explicit SubjectMoves(const EditingStage &stage);
 
     /** Moves the subjects of @p items to @p row below @p target; a refusal puts the items back. */
     void move(const QList<QGraphicsItem *> &items, const QModelIndex &target, int row);
@@ -57,5 +46,5 @@ private:
     void report(void (SubjectMoves::*tell)(const QStringList &, const QString &),
                 const QStringList &uuids, const QModelIndex &parent);
 
-    Stage m_stage;
+    EditingStage m_stage;
 };

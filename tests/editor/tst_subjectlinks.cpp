@@ -36,7 +36,7 @@ struct LinkStage
 {
     explicit LinkStage(const char *document)
         : parts(document)
-        , links({window, parts->shown, parts->drawing, parts->root, parts->calls, parts->runner})
+        , links({parts->shown, parts->drawing, parts->root, parts->calls, parts->runner}, window)
     {
     }
 

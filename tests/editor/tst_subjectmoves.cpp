@@ -33,7 +33,7 @@ struct MoveStage
     explicit MoveStage(const char *document)
         : model(std::make_unique<FishModel>())
         , parts(std::make_unique<EditorParts>(*model, QString::fromLatin1(document)))
-        , moves({parts->shown, parts->root, parts->calls, parts->runner})
+        , moves({parts->shown, parts->drawing, parts->root, parts->calls, parts->runner})
         , moved(&moves, &SubjectMoves::moved)
         , dropped(&moves, &SubjectMoves::dropped)
     {
