@@ -430,42 +430,6 @@ The ending .html, .pdf or .md tells the format; .md has its picture in a file be
         <translation>Priority:</translation>
     </message>
     <message>
-        <source>none</source>
-        <translation>none</translation>
-    </message>
-    <message>
-        <source>unknown</source>
-        <translation>unknown</translation>
-    </message>
-    <message>
-        <source>cancelled</source>
-        <translation>cancelled</translation>
-    </message>
-    <message>
-        <source>finished</source>
-        <translation>finished</translation>
-    </message>
-    <message>
-        <source>finished late</source>
-        <translation>finished late</translation>
-    </message>
-    <message>
-        <source>postponed</source>
-        <translation>postponed</translation>
-    </message>
-    <message>
-        <source>under way</source>
-        <translation>under way</translation>
-    </message>
-    <message>
-        <source>waiting</source>
-        <translation>waiting</translation>
-    </message>
-    <message>
-        <source>waiting for approval</source>
-        <translation>waiting for approval</translation>
-    </message>
-    <message>
         <source>Open</source>
         <translation>Open</translation>
     </message>
@@ -559,26 +523,6 @@ The ending .html, .pdf or .md tells the format; .md has its picture in a file be
     <message>
         <source>Style:</source>
         <translation>Style:</translation>
-    </message>
-    <message>
-        <source>suspected</source>
-        <translation>suspected</translation>
-    </message>
-    <message>
-        <source>being checked</source>
-        <translation>being checked</translation>
-    </message>
-    <message>
-        <source>confirmed</source>
-        <translation>confirmed</translation>
-    </message>
-    <message>
-        <source>ruled out</source>
-        <translation>ruled out</translation>
-    </message>
-    <message>
-        <source>root cause</source>
-        <translation>root cause</translation>
     </message>
     <message>
         <source>Verdict:</source>
@@ -1650,6 +1594,80 @@ The ending .html, .pdf or .md tells the format; .md has its picture in a file be
     </message>
 </context>
 <context>
+    <name>FilterBar</name>
+    <message>
+        <source>Any status</source>
+        <translation>Any status</translation>
+    </message>
+    <message>
+        <source>Any verdict</source>
+        <translation>Any verdict</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Any votes</source>
+        <translation>Any votes</translation>
+    </message>
+    <message>
+        <source>Votes ≥ </source>
+        <translation>Votes ≥ </translation>
+    </message>
+    <message>
+        <source>Overdue</source>
+        <translation>Overdue</translation>
+    </message>
+    <message>
+        <source>Fold the others</source>
+        <translation>Fold the others</translation>
+    </message>
+    <message>
+        <source>Close the filter</source>
+        <translation>Close the filter</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filter</translation>
+    </message>
+    <message>
+        <source>Text in title, number or details</source>
+        <translation>Text in title, number or details</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Status</translation>
+    </message>
+    <message>
+        <source>Verdict</source>
+        <translation>Verdict</translation>
+    </message>
+    <message>
+        <source>Responsible</source>
+        <translation>Responsible</translation>
+    </message>
+    <message>
+        <source>Least number of votes</source>
+        <translation>Least number of votes</translation>
+    </message>
+    <message>
+        <source>Anybody</source>
+        <translation>Anybody</translation>
+    </message>
+    <message>
+        <source>Nobody</source>
+        <translation>Nobody</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n found</source>
+        <translation>
+            <numerusform>%n found</numerusform>
+            <numerusform>%n found</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>Finder</name>
     <message>
         <source>Match %1 of %2</source>
@@ -2149,6 +2167,10 @@ Do you want to save your changes?</translation>
         <source>Closes the panel</source>
         <translation>Closes the panel</translation>
     </message>
+    <message>
+        <source>Filt&amp;er…</source>
+        <translation>Filt&amp;er…</translation>
+    </message>
 </context>
 <context>
     <name>MappingDialog</name>
@@ -2370,6 +2392,65 @@ Do you want to save your changes?</translation>
     <message>
         <source>Mark at the bo&amp;ne</source>
         <translation>Mark at the bo&amp;ne</translation>
+    </message>
+</context>
+<context>
+    <name>MarkNames</name>
+    <message>
+        <source>none</source>
+        <translation>none</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>unknown</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>cancelled</translation>
+    </message>
+    <message>
+        <source>finished</source>
+        <translation>finished</translation>
+    </message>
+    <message>
+        <source>finished late</source>
+        <translation>finished late</translation>
+    </message>
+    <message>
+        <source>postponed</source>
+        <translation>postponed</translation>
+    </message>
+    <message>
+        <source>under way</source>
+        <translation>under way</translation>
+    </message>
+    <message>
+        <source>waiting</source>
+        <translation>waiting</translation>
+    </message>
+    <message>
+        <source>waiting for approval</source>
+        <translation>waiting for approval</translation>
+    </message>
+    <message>
+        <source>suspected</source>
+        <translation>suspected</translation>
+    </message>
+    <message>
+        <source>being checked</source>
+        <translation>being checked</translation>
+    </message>
+    <message>
+        <source>confirmed</source>
+        <translation>confirmed</translation>
+    </message>
+    <message>
+        <source>ruled out</source>
+        <translation>ruled out</translation>
+    </message>
+    <message>
+        <source>root cause</source>
+        <translation>root cause</translation>
     </message>
 </context>
 <context>

@@ -428,42 +428,6 @@ The ending .html, .pdf or .md tells the format; .md has its picture in a file be
         <translation>优先级：</translation>
     </message>
     <message>
-        <source>none</source>
-        <translation>无</translation>
-    </message>
-    <message>
-        <source>unknown</source>
-        <translation>未知</translation>
-    </message>
-    <message>
-        <source>cancelled</source>
-        <translation>已取消</translation>
-    </message>
-    <message>
-        <source>finished</source>
-        <translation>已完成</translation>
-    </message>
-    <message>
-        <source>finished late</source>
-        <translation>逾期完成</translation>
-    </message>
-    <message>
-        <source>postponed</source>
-        <translation>已推迟</translation>
-    </message>
-    <message>
-        <source>under way</source>
-        <translation>进行中</translation>
-    </message>
-    <message>
-        <source>waiting</source>
-        <translation>等待中</translation>
-    </message>
-    <message>
-        <source>waiting for approval</source>
-        <translation>等待审批</translation>
-    </message>
-    <message>
         <source>Open</source>
         <translation>确定</translation>
     </message>
@@ -556,26 +520,6 @@ The ending .html, .pdf or .md tells the format; .md has its picture in a file be
     <message>
         <source>Style:</source>
         <translation>样式：</translation>
-    </message>
-    <message>
-        <source>suspected</source>
-        <translation>怀疑</translation>
-    </message>
-    <message>
-        <source>being checked</source>
-        <translation>核查中</translation>
-    </message>
-    <message>
-        <source>confirmed</source>
-        <translation>已确认</translation>
-    </message>
-    <message>
-        <source>ruled out</source>
-        <translation>已排除</translation>
-    </message>
-    <message>
-        <source>root cause</source>
-        <translation>根本原因</translation>
     </message>
     <message>
         <source>Verdict:</source>
@@ -1645,6 +1589,79 @@ The ending .html, .pdf or .md tells the format; .md has its picture in a file be
     </message>
 </context>
 <context>
+    <name>FilterBar</name>
+    <message>
+        <source>Any status</source>
+        <translation>任意状态</translation>
+    </message>
+    <message>
+        <source>Any verdict</source>
+        <translation>任意结论</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>文本</translation>
+    </message>
+    <message>
+        <source>Any votes</source>
+        <translation>任意票数</translation>
+    </message>
+    <message>
+        <source>Votes ≥ </source>
+        <translation>票数 ≥ </translation>
+    </message>
+    <message>
+        <source>Overdue</source>
+        <translation>已逾期</translation>
+    </message>
+    <message>
+        <source>Fold the others</source>
+        <translation>收起其他</translation>
+    </message>
+    <message>
+        <source>Close the filter</source>
+        <translation>关闭筛选</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>筛选</translation>
+    </message>
+    <message>
+        <source>Text in title, number or details</source>
+        <translation>标题、编号或详情中的文本</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>状态</translation>
+    </message>
+    <message>
+        <source>Verdict</source>
+        <translation>结论</translation>
+    </message>
+    <message>
+        <source>Responsible</source>
+        <translation>负责人</translation>
+    </message>
+    <message>
+        <source>Least number of votes</source>
+        <translation>最少票数</translation>
+    </message>
+    <message>
+        <source>Anybody</source>
+        <translation>任何人</translation>
+    </message>
+    <message>
+        <source>Nobody</source>
+        <translation>无人</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n found</source>
+        <translation>
+            <numerusform>找到 %n 个</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>Finder</name>
     <message>
         <source>Match %1 of %2</source>
@@ -2141,6 +2158,10 @@ Do you want to save your changes?</source>
         <source>Closes the panel</source>
         <translation>关闭面板</translation>
     </message>
+    <message>
+        <source>Filt&amp;er…</source>
+        <translation>筛选(&amp;E)…</translation>
+    </message>
 </context>
 <context>
     <name>MappingDialog</name>
@@ -2362,6 +2383,65 @@ Do you want to save your changes?</source>
     <message>
         <source>Mark at the bo&amp;ne</source>
         <translation>在鱼骨处标记(&amp;N)</translation>
+    </message>
+</context>
+<context>
+    <name>MarkNames</name>
+    <message>
+        <source>none</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>未知</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>已取消</translation>
+    </message>
+    <message>
+        <source>finished</source>
+        <translation>已完成</translation>
+    </message>
+    <message>
+        <source>finished late</source>
+        <translation>逾期完成</translation>
+    </message>
+    <message>
+        <source>postponed</source>
+        <translation>已推迟</translation>
+    </message>
+    <message>
+        <source>under way</source>
+        <translation>进行中</translation>
+    </message>
+    <message>
+        <source>waiting</source>
+        <translation>等待中</translation>
+    </message>
+    <message>
+        <source>waiting for approval</source>
+        <translation>等待审批</translation>
+    </message>
+    <message>
+        <source>suspected</source>
+        <translation>怀疑</translation>
+    </message>
+    <message>
+        <source>being checked</source>
+        <translation>核查中</translation>
+    </message>
+    <message>
+        <source>confirmed</source>
+        <translation>已确认</translation>
+    </message>
+    <message>
+        <source>ruled out</source>
+        <translation>已排除</translation>
+    </message>
+    <message>
+        <source>root cause</source>
+        <translation>根本原因</translation>
     </message>
 </context>
 <context>

@@ -63,3 +63,17 @@ void DrawingState::restore(FishEditor &editor) const
     editor.selectSpears(selected);
     editor.view()->centerOn(m_center);
 }
+
+DrawingState DrawingState::expanding(const QSet<const TreeItem *> &subjects) const
+{
+    DrawingState state = *this;
+    state.m_expanded = {subjects, {}};
+    return state;
+}
+
+DrawingState DrawingState::expandedAs(const DrawingState &other) const
+{
+    DrawingState state = *this;
+    state.m_expanded = other.m_expanded;
+    return state;
+}

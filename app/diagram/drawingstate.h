@@ -28,6 +28,11 @@ public:
     /** Gives the drawing that @p editor shows this state, as far as its subjects are known. */
     void restore(FishEditor &editor) const;
 
+    /** This state, but with the bones of @p subjects expanded and no others. */
+    DrawingState expanding(const QSet<const TreeItem *> &subjects) const;
+    /** This state, but with the bones expanded that are so in @p other. */
+    DrawingState expandedAs(const DrawingState &other) const;
+
 private:
     struct Subjects
     {

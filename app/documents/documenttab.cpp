@@ -8,12 +8,14 @@
 #include <app/common/messagebar.h>
 #include <app/diagram/diagramsession.h>
 #include <app/diagram/documentlook.h>
+#include <app/diagram/drawingfilter.h>
 #include <app/diagram/drawingstate.h>
 #include <app/documents/fileconflict.h>
 #include <app/editing/canvasgestures.h>
 #include <app/editing/titleeditor.h>
 #include <app/files/safename.h>
 #include <app/panels/detailspanel.h>
+#include <app/panels/filterbar.h>
 #include <app/panels/historypanel.h>
 #include <app/panels/subjecttree.h>
 #include <app/panels/treesync.h>
@@ -28,6 +30,8 @@
 
 #include <QRegularExpression>
 #include <QVBoxLayout>
+
+#include <optional>
 
 namespace {
 const QLatin1String ending(".json");
@@ -63,15 +67,29 @@ DocumentTab::DocumentTab(CanvasTheme *theme, QWidget *parent)
     auto *const bar = new MessageBar(this);
     m_conflict = new FileConflict(bar, this);
     layout->addWidget(bar);
+    addFilter();
+    layout->addWidget(m_filterBar);
     layout->addWidget(m_editor, 1);
     connect(m_session, &DiagramSession::stateChanged, this, &DocumentTab::followState);
     // The counts of a head are in the language of the moment.
     Language::bind(this, [this] { m_tree->view()->viewport()->update(); });
 }
 
+/** Makes what shows some of the subjects, on the drawing and in the tree. */
+void DocumentTab::addFilter()
+{
+    auto *const filter = new DrawingFilter(m_session, m_session); // which owns it
+    m_filterBar = new FilterBar(m_session, filter, this);
+    connect(filter, &DrawingFilter::changed, m_tree, [this, filter] {
+        m_tree->setShown(filter->isActive() ? std::make_optional(filter->shown()) : std::nullopt);
+    });
+    connect(m_filterBar, &FilterBar::closed, this, [this] { m_editor->view()->setFocus(); });
+}
+
 DocumentTab::~DocumentTab()
 {
     // What listens to the drawing goes before it, and what edits the model before that.
+    delete m_filterBar;
     delete m_sync;
     delete m_tree;
     delete m_details;

@@ -11,6 +11,7 @@ class DetailsPanel;
 class DiagramSession;
 class DocumentLook;
 class FileConflict;
+class FilterBar;
 class FishEditor;
 class FishInfo;
 class FishModel;
@@ -44,6 +45,7 @@ public:
     DocumentLook *look() const { return m_look; }
     RecoveryCopy *recovery() const { return m_recovery; }
     FileConflict *conflict() const { return m_conflict; }
+    FilterBar *filterBar() const { return m_filterBar; }
     SubjectTree *tree() const;
     DetailsPanel *details() const;
     HistoryPanel *history() const;
@@ -63,6 +65,7 @@ Q_SIGNALS:
     void documentCame(FishInfo *document);
 
 private:
+    void addFilter();
     void followState();
     void followHead();
 
@@ -72,6 +75,7 @@ private:
     DocumentLook *m_look = nullptr;
     RecoveryCopy *m_recovery;
     FileConflict *m_conflict = nullptr;
+    FilterBar *m_filterBar = nullptr;
     QPointer<SubjectTree> m_tree;
     QPointer<TreeSync> m_sync;
     QPointer<DetailsPanel> m_details;

@@ -4,6 +4,7 @@
 #include <app/panels/detailsform.h>
 
 #include <app/common/language.h>
+#include <app/diagram/marknames.h>
 #include <app/panels/prioritybox.h>
 #include <app/panels/stringlisteditor.h>
 
@@ -47,7 +48,6 @@ const NumberField numberFields[] = {
     {"priority", "detailsPriority", QT_TRANSLATE_NOOP("DetailsForm", "Priority:")},
 };
 
-constexpr int noStatus = -1;
 constexpr int iconSize = 20;
 
 /** Any number that a document may hold, with room for those that are usual. */
@@ -131,13 +131,10 @@ void DetailsForm::nameFields()
 /** The texts but for those of the labels. */
 void DetailsForm::showTexts()
 {
-    const QStringList statuses{tr("none"),      tr("unknown"),       tr("cancelled"),
-                               tr("finished"),  tr("finished late"), tr("postponed"),
-                               tr("under way"), tr("waiting"),       tr("waiting for approval")};
+    const QStringList statuses = MarkNames::statuses();
     for (int row = 0; row < statuses.size(); ++row)
         m_status->setItemText(row, statuses.at(row));
-    const QStringList verdicts{tr("none"),      tr("suspected"), tr("being checked"),
-                               tr("confirmed"), tr("ruled out"), tr("root cause")};
+    const QStringList verdicts = MarkNames::verdicts();
     for (int row = 0; row < verdicts.size(); ++row)
         m_verdict->setItemText(row, verdicts.at(row));
     m_verdict->setMinimumWidth(m_verdict->sizeHint().width());
@@ -165,7 +162,7 @@ void DetailsForm::showTexts()
 
 void DetailsForm::setUpFields()
 {
-    m_status->addItem(QString(), noStatus);
+    m_status->addItem(QString(), MarkNames::noStatus);
     for (int status = tsUnknown; status <= tsWaittingAgree; ++status) {
         const TaskStatusInfo info{TaskStatus(status), 0};
         m_status->addItem(QIcon(info.iconPath()), QString(), status);
@@ -298,7 +295,7 @@ QString DetailsForm::link() const
 void DetailsForm::showStatusIcon()
 {
     const QVariant status = m_status->currentData();
-    const TaskStatusInfo info{TaskStatus(status.isValid() ? status.toInt() : noStatus),
+    const TaskStatusInfo info{TaskStatus(status.isValid() ? status.toInt() : MarkNames::noStatus),
                               m_progress->value()};
     const QIcon icon(info.iconPath());
     m_statusIcon->setPixmap(icon.pixmap(iconSize, iconSize));

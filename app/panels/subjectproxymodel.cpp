@@ -20,3 +20,18 @@ Qt::ItemFlags SubjectProxyModel::flags(const QModelIndex &index) const
     const bool draggable = subject && !subject->isTopVaildItem() && subject->spearItemIsMovable();
     return draggable ? base | Qt::ItemIsDragEnabled : base;
 }
+
+void SubjectProxyModel::setShown(const std::optional<QSet<const TreeItem *>> &subjects)
+{
+    m_shown = subjects;
+    invalidateFilter();
+}
+
+bool SubjectProxyModel::filterAcceptsRow(int sourceRow, const QModelIndex &sourceParent) const
+{
+    const auto *const model = qobject_cast<const FishModel *>(sourceModel());
+    if (m_shown && model && sourceParent.isValid() &&
+        !m_shown->contains(model->getTreeItem(model->index(sourceRow, 0, sourceParent))))
+        return false;
+    return FishProxyModel::filterAcceptsRow(sourceRow, sourceParent);
+}

@@ -5,8 +5,14 @@
 
 #include <fishbone/model/fishproxymodel.h>
 
-/** The documents as the tree shows them: filtered by title, and with subjects that can be dragged.
- */
+#include <QSet>
+
+#include <optional>
+
+class TreeItem;
+
+/** The documents as the tree shows them: filtered by title and by what else is wanted, and with
+ * subjects that can be dragged. */
 class SubjectProxyModel : public FishProxyModel
 {
     Q_OBJECT
@@ -19,4 +25,15 @@ public:
      * is not undone, and would take the document with it.
      */
     Qt::ItemFlags flags(const QModelIndex &index) const override;
+
+    /** Shows of the subjects below heads none but @p subjects, which are only compared; nothing for
+     * all. */
+    void setShown(const std::optional<QSet<const TreeItem *>> &subjects);
+    /** Whether only some subjects are shown. */
+    bool isRestricted() const { return m_shown.has_value(); }
+
+    bool filterAcceptsRow(int sourceRow, const QModelIndex &sourceParent) const override;
+
+private:
+    std::optional<QSet<const TreeItem *>> m_shown;
 };

@@ -111,18 +111,26 @@ SubjectTree::SubjectTree(FishModel *model, QWidget *parent)
     layout->setContentsMargins(4, 4, 4, 4);
     layout->addWidget(m_filter);
     layout->addWidget(m_view);
-    connect(m_filter, &QLineEdit::textChanged, this, &SubjectTree::setFilter);
+    connect(m_filter, &QLineEdit::textChanged, this, [this](const QString &text) {
+        refilter([this, &text] { m_proxy->setFilterFixedString(text); });
+    });
 }
 
 bool SubjectTree::isFiltered() const
 {
-    return !m_filter->text().isEmpty();
+    return !m_filter->text().isEmpty() || m_proxy->isRestricted();
 }
 
-void SubjectTree::setFilter(const QString &text)
+void SubjectTree::setShown(const std::optional<QSet<const TreeItem *>> &subjects)
+{
+    refilter([this, &subjects] { m_proxy->setShown(subjects); });
+}
+
+/** Has @p change, which sets a filter, hide and show rows. */
+void SubjectTree::refilter(const std::function<void()> &change)
 {
     Q_EMIT filterAboutToChange();
-    m_proxy->setFilterFixedString(text);
+    change();
     if (isFiltered())
         m_view->expandAll();
     Q_EMIT filterChanged();

@@ -4,12 +4,17 @@
 #pragma once
 
 #include <QModelIndexList>
+#include <QSet>
 #include <QTreeView>
 #include <QWidget>
+
+#include <functional>
+#include <optional>
 
 class FishModel;
 class QLineEdit;
 class SubjectProxyModel;
+class TreeItem;
 
 /** A tree view whose drags move what is dragged and leave it to the receiver to carry that out. */
 class SubjectTreeView : public QTreeView
@@ -45,6 +50,9 @@ public:
 
     /** Whether a filter is set. Everything that matches is shown expanded then. */
     bool isFiltered() const;
+    /** Shows of what the field lets through only @p subjects, which are only compared; nothing for
+     * all. */
+    void setShown(const std::optional<QSet<const TreeItem *>> &subjects);
 
     /** The selected subjects as indexes of the documents' model, in the order of the tree. */
     QModelIndexList selectedSubjects() const;
@@ -58,7 +66,7 @@ Q_SIGNALS:
     void filterChanged();
 
 private:
-    void setFilter(const QString &text);
+    void refilter(const std::function<void()> &change);
 
     SubjectProxyModel *m_proxy;
     QLineEdit *m_filter;

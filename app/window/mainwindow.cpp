@@ -28,6 +28,7 @@
 #include <app/files/recentfiles.h>
 #include <app/panels/detailspanel.h>
 #include <app/panels/diagramcounts.h>
+#include <app/panels/filterbar.h>
 #include <app/panels/historypanel.h>
 #include <app/panels/minimap.h>
 #include <app/panels/subjecttree.h>
@@ -166,6 +167,10 @@ void MainWindow::addCommands()
     m_actions->add(
         QStringLiteral("details"), [] { return tr("&Details"); }, {Qt::Key_F4},
         ActionSet::Scope::Selection, [this] { showDetails(); });
+    m_actions->add(
+        QStringLiteral("filter"), [] { return tr("Filt&er…"); },
+        {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_L)}, ActionSet::Scope::Window,
+        [this] { m_tabs->current()->filterBar()->open(); });
 }
 
 QDockWidget *MainWindow::addDock(const char *name, const char *title, Qt::DockWidgetArea area,
@@ -355,6 +360,7 @@ void MainWindow::updateState()
     const FishInfo *const document = tab->document();
     setWindowTitle(document ? tr("%1[*] – Fishbone").arg(tab->name()) : tr("Fishbone"));
     setWindowModified(document && document->modified());
+    m_actions->action(QStringLiteral("filter"))->setEnabled(document);
     m_files->updateActions();
     m_reports->updateActions();
     m_templates->updateActions();

@@ -29,7 +29,7 @@ constexpr Bar menus[] = {
      "quit"},
     {"editMenu", QT_TRANSLATE_NOOP("Menus", "&Edit"),
      "undo redo | cut copy copyPicture paste delete | selectAll selectBranch selectSiblings | "
-     "find"},
+     "find filter"},
     {"subjectMenu", QT_TRANSLATE_NOOP("Menus", "&Subject"),
      "child before after parent subTask free | rename details | moveUp moveDown promote demote | "
      "mark markHere | "

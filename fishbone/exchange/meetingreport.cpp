@@ -51,6 +51,13 @@ bool isEnded(const TreeItem &subject)
     return subject.status() >= cancelled && subject.status() <= finishedLate;
 }
 
+/** The day on which @p subject is to be done; invalid for none. */
+QDate endOf(const TreeItem &subject)
+{
+    const qint64 planned = subject.planEndDate();
+    return planned == 0 ? QDate() : QDateTime::fromMSecsSinceEpoch(planned).date();
+}
+
 void say(QString *error, const QString &reason)
 {
     if (error)
@@ -75,11 +82,9 @@ MeetingReport::MeetingReport(const TreeItem *head, const QDate &today)
         const int votes = SubjectMarks::votes(subject);
         if (verdict != Verdict::None || votes > 0)
             m_causes.append({&subject, path.mid(1), verdict, votes});
-        const qint64 planned = subject.planEndDate();
-        const QDate end = planned == 0 ? QDate() : QDateTime::fromMSecsSinceEpoch(planned).date();
+        const QDate end = endOf(subject);
         if (level > 0 && (end.isValid() || !subject.managerName().isEmpty()))
-            m_actions.append({&subject, subject.managerName(), end,
-                              end.isValid() && end < m_today && !isEnded(subject)});
+            m_actions.append({&subject, subject.managerName(), end, isOverdue(subject, m_today)});
         path.append(subject.title());
     });
     std::stable_sort(m_causes.begin(), m_causes.end(), [](const Cause &a, const Cause &b) {
@@ -98,6 +103,12 @@ MeetingReport::MeetingReport(const TreeItem *head, const QDate &today)
 void MeetingReport::setLook(const DiagramLook::Options &options)
 {
     m_look = options;
+}
+
+bool MeetingReport::isOverdue(const TreeItem &subject, const QDate &today)
+{
+    const QDate end = endOf(subject);
+    return end.isValid() && end < today && !isEnded(subject);
 }
 
 bool MeetingReport::canWrite(const QString &fileName)

@@ -62,6 +62,9 @@ public:
     /** By person, nobody last, and for each by date. */
     const QVector<Action> &actions() const { return m_actions; }
 
+    /** Whether the planned end of @p subject is before @p today, and it is not done. */
+    static bool isOverdue(const TreeItem &subject, const QDate &today);
+
     /** Whether the ending of @p fileName is one that can be written: .html, .pdf or .md. */
     static bool canWrite(const QString &fileName);
 

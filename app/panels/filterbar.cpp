@@ -1,0 +1,228 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#include <app/panels/filterbar.h>
+
+#include <app/common/language.h>
+#include <app/diagram/diagramsession.h>
+#include <app/diagram/drawingfilter.h>
+#include <app/diagram/marknames.h>
+#include <app/diagram/people.h>
+
+#include <fishbone/items/taskstatusinfo.h>
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QSignalBlocker>
+#include <QSpinBox>
+#include <QStyle>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+namespace {
+
+/** Fills @p box with @p any, which is no choice, and @p names, whose data counts up from @p first.
+ * What is chosen stays. */
+void fillWithNames(QComboBox &box, const QString &any, const QStringList &names, int first)
+{
+    const QSignalBlocker blocker(&box);
+    const int chosen = box.currentIndex();
+    box.clear();
+    box.addItem(any);
+    for (int i = 0; i < int(names.size()); ++i)
+        box.addItem(names.at(i), first + i);
+    box.setCurrentIndex(qMax(0, chosen));
+}
+
+} // namespace
+
+FilterBar::FilterBar(DiagramSession *session, DrawingFilter *filter, QWidget *parent)
+    : QFrame(parent)
+    , m_session(session)
+    , m_filter(filter)
+    , m_text(new QLineEdit(this))
+    , m_status(new QComboBox(this))
+    , m_verdict(new QComboBox(this))
+    , m_person(new QComboBox(this))
+    , m_votes(new QSpinBox(this))
+    , m_overdue(new QCheckBox(this))
+    , m_fold(new QCheckBox(this))
+    , m_count(new QLabel(this))
+    , m_close(new QToolButton(this))
+{
+    setFrameShape(QFrame::StyledPanel);
+    nameFields();
+    buildLayout();
+    connectFields();
+    hide();
+    Language::bind(this, [this] { showTexts(); });
+}
+
+void FilterBar::nameFields()
+{
+    setObjectName(QStringLiteral("filterBar"));
+    m_text->setObjectName(QStringLiteral("filterText"));
+    m_status->setObjectName(QStringLiteral("filterStatus"));
+    m_verdict->setObjectName(QStringLiteral("filterVerdict"));
+    m_person->setObjectName(QStringLiteral("filterPerson"));
+    m_votes->setObjectName(QStringLiteral("filterVotes"));
+    m_overdue->setObjectName(QStringLiteral("filterOverdue"));
+    m_fold->setObjectName(QStringLiteral("filterFold"));
+    m_count->setObjectName(QStringLiteral("filterCount"));
+    m_close->setObjectName(QStringLiteral("filterClose"));
+}
+
+/** In two rows, so that it fits above the drawing of a small window. */
+void FilterBar::buildLayout()
+{
+    m_text->setClearButtonEnabled(true);
+    m_votes->setMaximum(9999);
+    m_close->setIcon(style()->standardIcon(QStyle::SP_TitleBarCloseButton));
+    m_close->setAutoRaise(true);
+    constexpr int letters = 8; // of the chosen entry; the list shows them whole
+    for (QComboBox *box : {m_status, m_verdict, m_person}) {
+        box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+        box->setMinimumContentsLength(letters);
+    }
+    auto *const first = new QHBoxLayout;
+    first->addWidget(m_text, 1);
+    first->addWidget(m_overdue);
+    first->addWidget(m_fold);
+    first->addWidget(m_count);
+    first->addWidget(m_close);
+    auto *const second = new QHBoxLayout;
+    for (QWidget *field : QList<QWidget *>{m_status, m_verdict, m_person, m_votes})
+        second->addWidget(field, 1);
+    auto *const layout = new QVBoxLayout(this);
+    layout->setContentsMargins(6, 4, 6, 4);
+    layout->setSpacing(4);
+    layout->addLayout(first);
+    layout->addLayout(second);
+    QWidget *before = m_text;
+    for (QWidget *field : QList<QWidget *>{m_overdue, m_fold, m_close, m_status, m_verdict,
+                                           m_person, m_votes}) { // as the eye goes
+        setTabOrder(before, field);
+        before = field;
+    }
+}
+
+void FilterBar::connectFields()
+{
+    const auto set = [this] { m_filter->setFilter(entered()); };
+    connect(m_text, &QLineEdit::textChanged, this, set);
+    for (const QComboBox *box : {m_status, m_verdict, m_person})
+        connect(box, QOverload<int>::of(&QComboBox::currentIndexChanged), this, set);
+    connect(m_votes, QOverload<int>::of(&QSpinBox::valueChanged), this, set);
+    connect(m_overdue, &QCheckBox::toggled, this, set);
+    connect(m_fold, &QCheckBox::toggled, m_filter, &DrawingFilter::setFolding);
+    connect(m_close, &QToolButton::clicked, this, &FilterBar::leave);
+    connect(m_filter, &DrawingFilter::changed, this, &FilterBar::showCount);
+    connect(m_session, &DiagramSession::stateChanged, this, &FilterBar::listPeople);
+}
+
+void FilterBar::showTexts()
+{
+    fillWithNames(*m_status, tr("Any status"), MarkNames::statuses(), MarkNames::noStatus);
+    for (int row = 2; row < m_status->count(); ++row) { // behind none
+        const TaskStatusInfo info{TaskStatus(m_status->itemData(row).toInt()), 0};
+        m_status->setItemIcon(row, QIcon(info.iconPath()));
+    }
+    fillWithNames(*m_verdict, tr("Any verdict"), MarkNames::verdicts(), int(Verdict::None));
+    m_text->setPlaceholderText(tr("Text"));
+    m_votes->setSpecialValueText(tr("Any votes"));
+    m_votes->setPrefix(tr("Votes ≥ "));
+    m_overdue->setText(tr("Overdue"));
+    m_fold->setText(tr("Fold the others"));
+    m_close->setToolTip(tr("Close the filter"));
+    setAccessibleName(tr("Filter"));
+    m_text->setAccessibleName(tr("Text in title, number or details"));
+    m_status->setAccessibleName(tr("Status"));
+    m_verdict->setAccessibleName(tr("Verdict"));
+    m_person->setAccessibleName(tr("Responsible"));
+    m_votes->setAccessibleName(tr("Least number of votes"));
+    m_close->setAccessibleName(m_close->toolTip());
+    m_person->clear();
+    listPeople();
+    showCount();
+}
+
+/** Offers those that the document names by now. What is chosen stays. */
+void FilterBar::listPeople()
+{
+    if (!isVisible())
+        return;
+    const QStringList names = People::in(m_session->container()).names();
+    QStringList listed;
+    for (int row = 2; row < m_person->count(); ++row)
+        listed.append(m_person->itemData(row).toString());
+    const std::optional<QString> chosen = entered().person;
+    if (m_person->count() > 0 && listed == names)
+        return;
+    {
+        const QSignalBlocker blocker(m_person);
+        m_person->clear();
+        m_person->addItem(tr("Anybody"));
+        m_person->addItem(tr("Nobody"), QString());
+        for (const QString &name : names)
+            m_person->addItem(name, name);
+        m_person->setCurrentIndex(chosen ? qMax(0, m_person->findData(*chosen)) : 0);
+    }
+    m_filter->setFilter(entered()); // somebody who was chosen may be gone
+}
+
+SubjectFilter FilterBar::entered() const
+{
+    SubjectFilter filter;
+    filter.text = m_text->text().trimmed();
+    if (const QVariant status = m_status->currentData(); status.isValid())
+        filter.status = status.toInt();
+    if (const QVariant verdict = m_verdict->currentData(); verdict.isValid())
+        filter.verdict = Verdict(verdict.toInt());
+    if (const QVariant person = m_person->currentData(); person.isValid())
+        filter.person = person.toString();
+    filter.isOverdue = m_overdue->isChecked();
+    filter.votes = m_votes->value();
+    return filter;
+}
+
+void FilterBar::showCount()
+{
+    m_count->setText(m_filter->isActive() ? tr("%n found", nullptr, m_filter->count()) : QString());
+}
+
+void FilterBar::open()
+{
+    show();
+    listPeople();
+    m_text->setFocus();
+    m_text->selectAll();
+}
+
+/** Empties all fields. */
+void FilterBar::clear()
+{
+    m_text->clear();
+    for (QComboBox *box : {m_status, m_verdict, m_person})
+        box->setCurrentIndex(0);
+    m_votes->setValue(0);
+    m_overdue->setChecked(false);
+}
+
+void FilterBar::leave()
+{
+    clear();
+    hide();
+    Q_EMIT closed();
+}
+
+void FilterBar::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Escape)
+        leave();
+    else
+        QFrame::keyPressEvent(event);
+}
