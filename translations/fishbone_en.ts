@@ -926,22 +926,6 @@ The ending .html, .pdf or .md tells the format; .md has its picture in a file be
 <context>
     <name>DocumentLoader</name>
     <message>
-        <source>it is empty</source>
-        <translation>it is empty</translation>
-    </message>
-    <message>
-        <source>it is not a JSON document</source>
-        <translation>it is not a JSON document</translation>
-    </message>
-    <message>
-        <source>it is not a JSON document (line %1: %2)</source>
-        <translation>it is not a JSON document (line %1: %2)</translation>
-    </message>
-    <message>
-        <source>it is a folder</source>
-        <translation>it is a folder</translation>
-    </message>
-    <message>
         <source>there is no such file</source>
         <translation>there is no such file</translation>
     </message>
@@ -952,10 +936,6 @@ The ending .html, .pdf or .md tells the format; .md has its picture in a file be
     <message>
         <source>it holds no diagram</source>
         <translation>it holds no diagram</translation>
-    </message>
-    <message>
-        <source>its ending is none of those that can be read: %1</source>
-        <translation>its ending is none of those that can be read: %1</translation>
     </message>
 </context>
 <context>
@@ -1408,36 +1388,12 @@ The ending .html, .pdf or .md tells the format; .md has its picture in a file be
         <translation>B&amp;rowse…</translation>
     </message>
     <message>
-        <source>As shown</source>
-        <translation>As shown</translation>
-    </message>
-    <message>
-        <source>All levels</source>
-        <translation>All levels</translation>
-    </message>
-    <message>
-        <source>Levels below the main bones:</source>
-        <translation>Levels below the main bones:</translation>
-    </message>
-    <message>
-        <source>Levels below the main bones</source>
-        <translation>Levels below the main bones</translation>
-    </message>
-    <message>
-        <source>&amp;Expanded:</source>
-        <translation>&amp;Expanded:</translation>
-    </message>
-    <message>
         <source>As on the screen</source>
         <translation>As on the screen</translation>
     </message>
     <message>
         <source>This cannot be exported: %1.</source>
         <translation>This cannot be exported: %1.</translation>
-    </message>
-    <message>
-        <source>Preview</source>
-        <translation>Preview</translation>
     </message>
     <message>
         <source>Dark</source>
@@ -1511,20 +1467,8 @@ The ending .html, .pdf or .md tells the format; .md has its picture in a file be
         <translation>Open</translation>
     </message>
     <message>
-        <source>Loading %1…</source>
-        <translation>Loading %1…</translation>
-    </message>
-    <message>
-        <source>Fishbone diagrams (*.json);;%1;;All files (*)</source>
-        <translation>Fishbone diagrams (*.json);;%1;;All files (*)</translation>
-    </message>
-    <message>
         <source>&amp;Import…</source>
         <translation>&amp;Import…</translation>
-    </message>
-    <message>
-        <source>Import</source>
-        <translation>Import</translation>
     </message>
     <message>
         <source>Reopen &amp;documents at the start</source>
@@ -1952,6 +1896,33 @@ Do you want to save your changes?</translation>
     <message>
         <source>This link is neither a web page nor a mail address. Open it?</source>
         <translation>This link is neither a web page nor a mail address. Open it?</translation>
+    </message>
+</context>
+<context>
+    <name>LoadFailure</name>
+    <message>
+        <source>it is a folder</source>
+        <translation>it is a folder</translation>
+    </message>
+    <message>
+        <source>there is no such file</source>
+        <translation>there is no such file</translation>
+    </message>
+    <message>
+        <source>its ending is none of those that can be read: %1</source>
+        <translation>its ending is none of those that can be read: %1</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>it is empty</translation>
+    </message>
+    <message>
+        <source>it is not a JSON document</source>
+        <translation>it is not a JSON document</translation>
+    </message>
+    <message>
+        <source>it is not a JSON document (line %1: %2)</source>
+        <translation>it is not a JSON document (line %1: %2)</translation>
     </message>
 </context>
 <context>
@@ -2820,6 +2791,29 @@ Do you want to save your changes?</translation>
     </message>
 </context>
 <context>
+    <name>PictureLevelFields</name>
+    <message>
+        <source>As shown</source>
+        <translation>As shown</translation>
+    </message>
+    <message>
+        <source>All levels</source>
+        <translation>All levels</translation>
+    </message>
+    <message>
+        <source>Levels below the main bones:</source>
+        <translation>Levels below the main bones:</translation>
+    </message>
+    <message>
+        <source>Levels below the main bones</source>
+        <translation>Levels below the main bones</translation>
+    </message>
+    <message>
+        <source>&amp;Expanded:</source>
+        <translation>&amp;Expanded:</translation>
+    </message>
+</context>
+<context>
     <name>PictureLookFields</name>
     <message>
         <source>Le&amp;gend</source>
@@ -2864,6 +2858,13 @@ Do you want to save your changes?</translation>
     <message>
         <source>Hea&amp;d:</source>
         <translation>Hea&amp;d:</translation>
+    </message>
+</context>
+<context>
+    <name>PicturePreview</name>
+    <message>
+        <source>Preview</source>
+        <translation>Preview</translation>
     </message>
 </context>
 <context>
@@ -3198,6 +3199,25 @@ Do you want to save your changes?</translation>
     <message>
         <source>there is nothing to draw</source>
         <translation>there is nothing to draw</translation>
+    </message>
+</context>
+<context>
+    <name>SourceDialogs</name>
+    <message>
+        <source>Fishbone diagrams (*.json);;%1;;All files (*)</source>
+        <translation>Fishbone diagrams (*.json);;%1;;All files (*)</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Open</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Import</translation>
+    </message>
+    <message>
+        <source>Loading %1…</source>
+        <translation>Loading %1…</translation>
     </message>
 </context>
 <context>

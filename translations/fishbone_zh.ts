@@ -921,22 +921,6 @@ The ending .html, .pdf or .md tells the format; .md has its picture in a file be
 <context>
     <name>DocumentLoader</name>
     <message>
-        <source>it is empty</source>
-        <translation>内容为空</translation>
-    </message>
-    <message>
-        <source>it is not a JSON document</source>
-        <translation>不是 JSON 文档</translation>
-    </message>
-    <message>
-        <source>it is not a JSON document (line %1: %2)</source>
-        <translation>不是 JSON 文档（第 %1 行：%2）</translation>
-    </message>
-    <message>
-        <source>it is a folder</source>
-        <translation>这是一个文件夹</translation>
-    </message>
-    <message>
         <source>there is no such file</source>
         <translation>文件不存在</translation>
     </message>
@@ -947,10 +931,6 @@ The ending .html, .pdf or .md tells the format; .md has its picture in a file be
     <message>
         <source>it holds no diagram</source>
         <translation>其中没有鱼骨图</translation>
-    </message>
-    <message>
-        <source>its ending is none of those that can be read: %1</source>
-        <translation>其扩展名不在可读取的扩展名之列：%1</translation>
     </message>
 </context>
 <context>
@@ -1403,36 +1383,12 @@ The ending .html, .pdf or .md tells the format; .md has its picture in a file be
         <translation>浏览(&amp;R)…</translation>
     </message>
     <message>
-        <source>As shown</source>
-        <translation>与显示相同</translation>
-    </message>
-    <message>
-        <source>All levels</source>
-        <translation>所有层级</translation>
-    </message>
-    <message>
-        <source>Levels below the main bones:</source>
-        <translation>大骨以下的层数：</translation>
-    </message>
-    <message>
-        <source>Levels below the main bones</source>
-        <translation>大骨以下的层数</translation>
-    </message>
-    <message>
-        <source>&amp;Expanded:</source>
-        <translation>展开(&amp;E)：</translation>
-    </message>
-    <message>
         <source>As on the screen</source>
         <translation>与屏幕相同</translation>
     </message>
     <message>
         <source>This cannot be exported: %1.</source>
         <translation>无法导出：%1。</translation>
-    </message>
-    <message>
-        <source>Preview</source>
-        <translation>预览</translation>
     </message>
     <message>
         <source>Dark</source>
@@ -1506,20 +1462,8 @@ The ending .html, .pdf or .md tells the format; .md has its picture in a file be
         <translation>打开</translation>
     </message>
     <message>
-        <source>Loading %1…</source>
-        <translation>正在加载 %1…</translation>
-    </message>
-    <message>
-        <source>Fishbone diagrams (*.json);;%1;;All files (*)</source>
-        <translation>鱼骨图 (*.json);;%1;;所有文件 (*)</translation>
-    </message>
-    <message>
         <source>&amp;Import…</source>
         <translation>导入(&amp;I)…</translation>
-    </message>
-    <message>
-        <source>Import</source>
-        <translation>导入</translation>
     </message>
     <message>
         <source>Reopen &amp;documents at the start</source>
@@ -1944,6 +1888,33 @@ Do you want to save your changes?</source>
     <message>
         <source>This link is neither a web page nor a mail address. Open it?</source>
         <translation>此链接既不是网页，也不是邮件地址。要打开它吗？</translation>
+    </message>
+</context>
+<context>
+    <name>LoadFailure</name>
+    <message>
+        <source>it is a folder</source>
+        <translation>这是一个文件夹</translation>
+    </message>
+    <message>
+        <source>there is no such file</source>
+        <translation>文件不存在</translation>
+    </message>
+    <message>
+        <source>its ending is none of those that can be read: %1</source>
+        <translation>其扩展名不在可读取的扩展名之列：%1</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>内容为空</translation>
+    </message>
+    <message>
+        <source>it is not a JSON document</source>
+        <translation>不是 JSON 文档</translation>
+    </message>
+    <message>
+        <source>it is not a JSON document (line %1: %2)</source>
+        <translation>不是 JSON 文档（第 %1 行：%2）</translation>
     </message>
 </context>
 <context>
@@ -2811,6 +2782,29 @@ Do you want to save your changes?</source>
     </message>
 </context>
 <context>
+    <name>PictureLevelFields</name>
+    <message>
+        <source>As shown</source>
+        <translation>与显示相同</translation>
+    </message>
+    <message>
+        <source>All levels</source>
+        <translation>所有层级</translation>
+    </message>
+    <message>
+        <source>Levels below the main bones:</source>
+        <translation>大骨以下的层数：</translation>
+    </message>
+    <message>
+        <source>Levels below the main bones</source>
+        <translation>大骨以下的层数</translation>
+    </message>
+    <message>
+        <source>&amp;Expanded:</source>
+        <translation>展开(&amp;E)：</translation>
+    </message>
+</context>
+<context>
     <name>PictureLookFields</name>
     <message>
         <source>Le&amp;gend</source>
@@ -2855,6 +2849,13 @@ Do you want to save your changes?</source>
     <message>
         <source>Hea&amp;d:</source>
         <translation>鱼头(&amp;D)：</translation>
+    </message>
+</context>
+<context>
+    <name>PicturePreview</name>
+    <message>
+        <source>Preview</source>
+        <translation>预览</translation>
     </message>
 </context>
 <context>
@@ -3186,6 +3187,25 @@ Do you want to save your changes?</source>
     <message>
         <source>there is nothing to draw</source>
         <translation>没有可绘制的内容</translation>
+    </message>
+</context>
+<context>
+    <name>SourceDialogs</name>
+    <message>
+        <source>Fishbone diagrams (*.json);;%1;;All files (*)</source>
+        <translation>鱼骨图 (*.json);;%1;;所有文件 (*)</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>打开</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>导入</translation>
+    </message>
+    <message>
+        <source>Loading %1…</source>
+        <translation>正在加载 %1…</translation>
     </message>
 </context>
 <context>

@@ -3,6 +3,9 @@
 
 #include <app/commandline/commandline.h>
 
+#include <app/commandline/commandoptions.h>
+#include <app/common/formatnames.h>
+
 #include <fishbone/exchange/diagrampicture.h>
 #include <fishbone/exchange/meetingreport.h>
 #include <fishbone/exchange/slideexport.h>
@@ -16,184 +19,10 @@
 
 namespace {
 
-QCommandLineOption helpOption()
-{
-    return {{QStringLiteral("h"), QStringLiteral("help")},
-            CommandLine::tr("Show this help and quit.")};
-}
-
-QCommandLineOption versionOption()
-{
-    return {{QStringLiteral("v"), QStringLiteral("version")},
-            CommandLine::tr("Show the version and quit.")};
-}
-
-QCommandLineOption languageOption()
-{
-    return {QStringLiteral("language"),
-            CommandLine::tr("Show texts in <language>, zh or en, instead of the system's."),
-            QStringLiteral("language")};
-}
-
-QCommandLineOption exportOption()
-{
-    return {QStringLiteral("export"),
-            CommandLine::tr("Draw the diagram into the picture <file> and quit. The ending .png, "
-                            ".svg, .pdf, .html or, for a slide, .pptx tells the format. Needs no "
-                            "display."),
-            QStringLiteral("file")};
-}
-
-/** The options that go with --export, in the order of the help text. */
-QList<QCommandLineOption> pictureOptions()
-{
-    QList<QCommandLineOption> options{
-        {QStringLiteral("expand"),
-         CommandLine::tr("How far to expand the bones of the picture: all (the default), none, or "
-                         "a number of levels below the main bones."),
-         QStringLiteral("levels")},
-        {QStringLiteral("size"),
-         CommandLine::tr("Make the picture <width>x<height> in size and fit the drawing in."),
-         QStringLiteral("widthxheight")},
-        {QStringLiteral("scale"),
-         CommandLine::tr("Draw <factor> times as large as on the screen at 100 %."),
-         QStringLiteral("factor")},
-        {QStringLiteral("background"),
-         CommandLine::tr("Fill the picture with <colour>, a name or #rrggbb, or leave it "
-                         "transparent. White is the default."),
-         QStringLiteral("colour")},
-    };
-    options += LookChoice::commandLineOptions();
-    return options;
-}
-
-QCommandLineOption fromOption()
-{
-    return {QStringLiteral("from"),
-            CommandLine::tr("Read the file as <format>, whatever its ending."),
-            QStringLiteral("format")};
-}
-
-QCommandLineOption toOption()
-{
-    return {QStringLiteral("to"), CommandLine::tr("Write <format>, whatever the ending."),
-            QStringLiteral("format")};
-}
-
-QCommandLineOption strictOption()
-{
-    return {QStringLiteral("strict"),
-            CommandLine::tr("Write nothing when that would leave content out.")};
-}
-
-/** The names of the formats that @p can says yes to, "json, md, …". */
-QString formatIds(bool (*can)(DiagramExchange::Format))
-{
-    QStringList ids;
-    const QList<DiagramExchange::Format> formats = DiagramExchange::formats();
-    for (const DiagramExchange::Format format : formats) {
-        if (can(format))
-            ids.append(DiagramExchange::id(format));
-    }
-    return ids.join(QLatin1String(", "));
-}
-
-/** The endings that tell the formats that @p can says yes to, ".json, .md, …". */
-QString endings(bool (*can)(DiagramExchange::Format))
-{
-    QStringList endings;
-    const QList<DiagramExchange::Format> formats = DiagramExchange::formats();
-    for (const DiagramExchange::Format format : formats) {
-        const QStringList suffixes =
-            can(format) ? DiagramExchange::suffixes(format) : QStringList();
-        for (const QString &suffix : suffixes)
-            endings.append(QLatin1Char('.') + suffix);
-    }
-    return endings.join(QLatin1String(", "));
-}
-
 /** Whether the ending of @p fileName is that of a picture or slide. */
 bool isPicture(const QString &fileName)
 {
     return DiagramPicture::canWrite(fileName) || SlideExport::isSlide(fileName);
-}
-
-void describeWindow(QCommandLineParser &parser)
-{
-    parser.setApplicationDescription(CommandLine::tr(
-        "Edits fishbone diagrams of tasks.\n\n"
-        "Three commands need no display:\n"
-        "  convert   write a diagram in another format, or as a picture\n"
-        "  info      say what is in a diagram, and what is off in it\n"
-        "  report    write what is sent round after a meeting\n"
-        "\"fishbone convert --help\" tells more. A file of such a name is ./convert."));
-    parser.addOptions({helpOption(), versionOption(), languageOption(), exportOption()});
-    parser.addOptions(pictureOptions());
-    parser.addPositionalArgument(QStringLiteral("documents"),
-                                 CommandLine::tr("Diagrams to open: files, or http and https URLs. "
-                                                 "Without one, a new diagram."),
-                                 QStringLiteral("[document...]"));
-}
-
-void describeConvert(QCommandLineParser &parser)
-{
-    parser.setApplicationDescription(
-        CommandLine::tr("Writes a diagram in another format, or as a picture.\n"
-                        "The endings tell the formats. Read: %1.\n"
-                        "Written: %2, and png, svg, pdf and pptx for pictures.\n"
-                        "What is left out, or put where it can be kept, is listed on the error "
-                        "output.")
-            .arg(formatIds(DiagramExchange::canRead), formatIds(DiagramExchange::canWrite)));
-    parser.addOptions({helpOption(), languageOption(), fromOption(), toOption(), strictOption()});
-    parser.addOptions(pictureOptions());
-    parser.addPositionalArgument(QStringLiteral("convert"), CommandLine::tr("The command."),
-                                 QStringLiteral("convert"));
-    parser.addPositionalArgument(QStringLiteral("in"), CommandLine::tr("The file to read."),
-                                 QStringLiteral("in"));
-    parser.addPositionalArgument(QStringLiteral("out"), CommandLine::tr("The file to write."),
-                                 QStringLiteral("out"));
-}
-
-void describeInfo(QCommandLineParser &parser)
-{
-    parser.setApplicationDescription(
-        CommandLine::tr("Counts what is in a diagram and lists what is off in it.\n"
-                        "The exit code is 3 when anything is."));
-    parser.addOptions({helpOption(), languageOption(), fromOption()});
-    parser.addPositionalArgument(QStringLiteral("info"), CommandLine::tr("The command."),
-                                 QStringLiteral("info"));
-    parser.addPositionalArgument(QStringLiteral("file"), CommandLine::tr("The file to read."),
-                                 QStringLiteral("file"));
-}
-
-void describeReport(QCommandLineParser &parser)
-{
-    parser.setApplicationDescription(
-        CommandLine::tr("Writes what is sent round after a meeting: the picture, the causes in the "
-                        "order of what was found out, what is to be done by whom, and a legend.\n"
-                        "The ending .html, .pdf or .md tells the format; .md has its picture in a "
-                        "file beside it."));
-    parser.addOptions({helpOption(), languageOption(), fromOption()});
-    parser.addPositionalArgument(QStringLiteral("report"), CommandLine::tr("The command."),
-                                 QStringLiteral("report"));
-    parser.addPositionalArgument(QStringLiteral("file"), CommandLine::tr("The file to read."),
-                                 QStringLiteral("file"));
-    parser.addPositionalArgument(QStringLiteral("out"), CommandLine::tr("The file to write."),
-                                 QStringLiteral("out"));
-}
-
-void describe(QCommandLineParser &parser, CommandLine::Command command)
-{
-    switch (command) {
-    case CommandLine::Command::None:
-        return describeWindow(parser);
-    case CommandLine::Command::Convert:
-        return describeConvert(parser);
-    case CommandLine::Command::Info:
-        return describeInfo(parser);
-    case CommandLine::Command::Report:
-        return describeReport(parser);
-    }
 }
 
 CommandLine::Command commandFrom(const QString &text)
@@ -259,8 +88,7 @@ CommandLine CommandLine::parse(const QStringList &arguments)
     CommandLine line;
     QCommandLineParser parser;
     // All options of all commands: only behind them it shows which command there is.
-    describeWindow(parser);
-    parser.addOptions({fromOption(), toOption(), strictOption()});
+    CommandOptions::describeAll(parser);
     const bool wellFormed = parser.parse(arguments);
     line.language = parser.value(QStringLiteral("language"));
     line.documents = parser.positionalArguments();
@@ -287,9 +115,9 @@ bool CommandLine::readCommand(const QCommandLineParser &parser)
 {
     switch (command) {
     case Command::None:
-        return refuseOptions(parser, {fromOption(), toOption()},
+        return refuseOptions(parser, {CommandOptions::forFrom(), CommandOptions::forTo()},
                              tr("--%1 needs convert, info or report")) &&
-               refuseOptions(parser, {strictOption()}, tr("--%1 needs convert")) &&
+               refuseOptions(parser, {CommandOptions::forStrict()}, tr("--%1 needs convert")) &&
                readExport(parser);
     case Command::Convert:
         return readConvert(parser);
@@ -305,7 +133,7 @@ bool CommandLine::readCommand(const QCommandLineParser &parser)
 bool CommandLine::readExport(const QCommandLineParser &parser)
 {
     if (!parser.isSet(QStringLiteral("export")))
-        return refuseOptions(parser, pictureOptions(), tr("--%1 needs --export"));
+        return refuseOptions(parser, CommandOptions::forPictures(), tr("--%1 needs --export"));
     action = Action::Export;
     target = parser.value(QStringLiteral("export"));
     if (!isPicture(target))
@@ -322,17 +150,18 @@ bool CommandLine::readExport(const QCommandLineParser &parser)
 bool CommandLine::readConvert(const QCommandLineParser &parser)
 {
     action = Action::Convert;
-    if (!refuseOptions(parser, {exportOption()}, tr("--%1 does not go with convert")))
+    if (!refuseOptions(parser, {CommandOptions::forExport()}, tr("--%1 does not go with convert")))
         return false;
     if (documents.size() != 2)
         return refuse(tr("convert takes a file to read and a file to write"));
     target = documents.takeLast();
-    isStrict = parser.isSet(strictOption());
+    isStrict = parser.isSet(CommandOptions::forStrict());
     if (!readFormat(parser, QStringLiteral("from"), documents.constFirst(), from))
         return false;
     if (!parser.isSet(QStringLiteral("to")) && isPicture(target))
         return readPicture(parser);
-    return refuseOptions(parser, pictureOptions(), tr("--%1 needs a picture to write")) &&
+    return refuseOptions(parser, CommandOptions::forPictures(),
+                         tr("--%1 needs a picture to write")) &&
            readFormat(parser, QStringLiteral("to"), target, to);
 }
 
@@ -365,8 +194,8 @@ bool CommandLine::readReport(const QCommandLineParser &parser)
 /** Refuses all options but the format to read, for @p reason; true when there are no others. */
 bool CommandLine::refuseAllBut(const QCommandLineParser &parser, const QString &reason)
 {
-    QList<QCommandLineOption> others = pictureOptions();
-    others += {exportOption(), toOption(), strictOption()};
+    QList<QCommandLineOption> others = CommandOptions::forPictures();
+    others += {CommandOptions::forExport(), CommandOptions::forTo(), CommandOptions::forStrict()};
     return refuseOptions(parser, others, reason);
 }
 
@@ -387,14 +216,14 @@ bool CommandLine::readFormat(const QCommandLineParser &parser, const QString &na
     if (format)
         return refuse(tr("%1 can only be read").arg(DiagramExchange::name(*format)));
     if (isSet)
-        return refuse(expected(name, value, tr("one of %1").arg(formatIds(can))));
+        return refuse(expected(name, value, tr("one of %1").arg(FormatNames::ids(can))));
     if (reads)
         return refuse(tr("the format of \"%1\" is unknown: the name must end in one of %2, or "
                          "--from tell one of %3")
-                          .arg(fileName, endings(can), formatIds(can)));
+                          .arg(fileName, FormatNames::endings(can), FormatNames::ids(can)));
     return refuse(tr("the format of \"%1\" is unknown: the name must end in one of %2, or in "
                      ".png, .svg, .pdf, .html or .pptx for a picture, or --to tell one of %3")
-                      .arg(fileName, endings(can), formatIds(can)));
+                      .arg(fileName, FormatNames::endings(can), FormatNames::ids(can)));
 }
 
 /** Reads how a picture shall look. */
@@ -446,7 +275,7 @@ bool CommandLine::readOption(const QCommandLineParser &parser, const QString &na
 QString CommandLine::helpText(Command command)
 {
     QCommandLineParser parser;
-    describe(parser, command);
+    CommandOptions::describe(parser, command);
     return parser.helpText();
 }
 

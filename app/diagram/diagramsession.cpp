@@ -6,66 +6,29 @@
 #include <app/common/busycursor.h>
 #include <app/diagram/drawingstate.h>
 #include <app/diagram/expansion.h>
-#include <app/diagram/modifiedtracker.h>
+#include <app/diagram/modelchanges.h>
+#include <app/diagram/pastestep.h>
 
-#include <fishbone/editor/fisheditor.h>
-#include <fishbone/editor/fishscene.h>
-#include <fishbone/items/spearitem.h>
-#include <fishbone/model/fishinfo.h>
-#include <fishbone/model/fishmodel.h>
-#include <fishbone/model/subjectwalk.h>
 #include <fishbone/model/systemhelper.h>
-#include <fishbone/undo/commandgroup.h>
-#include <fishbone/undo/editattributes.h>
-#include <fishbone/undo/structuralcommands.h>
+#include <fishbone/undo/undocommand.h>
 #include <fishbone/undo/undostack.h>
 
 #include <QFileInfo>
-#include <QJsonArray>
 #include <QJsonObject>
-
-#include <memory>
-
-namespace {
-
-const QLatin1String childrenKey("children"); // of the diagram format, as the next ones
-const QLatin1String uuidKey("uuid");
-const QLatin1String pidKey("pid");
-
-std::unique_ptr<EditPaste> pastedBelow(FishModel *model, const QModelIndex &target,
-                                       const QJsonObject &subjects)
-{
-    auto command = std::make_unique<EditPaste>(model, target, subjects);
-    command->setPasteAsNew(true);
-    return command;
-}
-
-} // namespace
 
 DiagramSession::DiagramSession(FishModel *model, FishEditor *editor, QObject *parent)
     : QObject(parent)
     , m_model(model)
     , m_editor(editor)
+    , m_changes(new ModelChanges(model, this))
+    , m_saved(std::make_unique<SavedState>(editor))
+    , m_visits(std::make_unique<DiagramVisits>(model, editor))
 {
     m_settle.setSingleShot(true);
     connect(&m_settle, &QTimer::timeout, this, &DiagramSession::settle);
 
-    auto *const tracker = new ModifiedTracker(model, this);
-    connect(tracker, &ModifiedTracker::changed, this, [this](FishInfo *document) {
-        m_changed = document;
-        m_sawChange = true;
-        touch();
-    });
-    connect(model, &FishModel::rowsInserted, this,
-            [this](const QModelIndex &parentIndex, int first) {
-                m_inserted = m_model->index(first, 0, parentIndex);
-                touch();
-            });
-    connect(model, &FishModel::rowsRemoved, this, [this](const QModelIndex &parentIndex) {
-        m_removedFrom = parentIndex;
-        touch();
-    });
-    connect(model, &FishModel::modelReset, this, &DiagramSession::touch);
+    connect(m_changes, &ModelChanges::happened, this, &DiagramSession::touch);
+    connect(m_changes, &ModelChanges::documentChanged, this, [this] { m_saved->noteChange(); });
     connect(editor, &FishEditor::copyAvailable, this, &DiagramSession::touch);
     connect(editor, &FishEditor::clipBoardAvailable, this, &DiagramSession::touch);
     connect(editor, &FishEditor::onExpand, this, &DiagramSession::touch);
@@ -105,29 +68,14 @@ void DiagramSession::touch()
     m_settle.start(0);
 }
 
-/** Notes whether the document was changed by what the history does not know. */
-void DiagramSession::noteOtherChanges()
-{
-    const UndoStack &stack = *m_editor->undoStack();
-    const std::pair<int, int> place(stack.currentIndex(), stack.count());
-    const FishInfo *const shown = document();
-    const bool isElsewhere = m_sawChange && place == m_place;
-    if (isElsewhere || (shown && shown->modified() && stack.isClean()))
-        m_isApart = true;
-    m_sawChange = false;
-    m_place = place;
-}
-
 void DiagramSession::markSaved()
 {
-    m_editor->undoStack()->setClean();
-    m_isApart = false;
-    noteOtherChanges();
+    m_saved->markSaved(document());
 }
 
 void DiagramSession::markApart()
 {
-    m_isApart = true;
+    m_saved->markApart();
     if (FishInfo *const shown = document())
         shown->setModified(true);
     touch();
@@ -136,28 +84,17 @@ void DiagramSession::markApart()
 /** What has to wait until the change that is under way is complete. */
 void DiagramSession::settle()
 {
-    noteOtherChanges();
+    m_saved->look(document());
     // The document that was shown is gone.
     if (!m_editor->headSpear() && !m_model->fishList().isEmpty())
         showDocument(m_model->fishList().constLast());
     Q_EMIT stateChanged();
 }
 
-/** The uuid of what is shown as a diagram. */
-QString DiagramSession::shownUuid() const
-{
-    const TreeItem *const root = m_model->getTreeItem(m_editor->rootIndex());
-    return root ? root->uuid() : QString();
-}
-
 /** Shows the diagram below @p root as it was left. */
 void DiagramSession::showRoot(const QModelIndex &root)
 {
-    if (m_editor->headSpear())
-        m_left.insert(shownUuid(), DrawingState::capture(*m_editor));
-    m_editor->setRootIndex(root);
-    if (const auto left = m_left.constFind(shownUuid()); left != m_left.constEnd())
-        left->restore(*m_editor);
+    m_visits->show(root);
     touch();
     Q_EMIT drawingRebuilt();
 }
@@ -179,30 +116,6 @@ void DiagramSession::showAsDiagram(const QModelIndex &index)
     showDocument(owner);
     owner->addFishToHistory(index);
     showRoot(index);
-}
-
-/** The first subject of @p document with that uuid. */
-QModelIndex DiagramSession::indexInDocument(const FishInfo *document, const QString &uuid) const
-{
-    QModelIndex found;
-    visitSubjects(document->treeItem(), [&](const TreeItem *item) {
-        if (item->uuid() == uuid)
-            found = m_model->indexFromItem(item);
-        return !found.isValid();
-    });
-    return found;
-}
-
-QModelIndexList DiagramSession::visited() const
-{
-    QModelIndexList indexes;
-    const FishInfo *const shown = document();
-    const QStringList uuids = shown ? shown->fishHistorys() : QStringList();
-    for (const QString &uuid : uuids) {
-        if (const QModelIndex index = indexInDocument(shown, uuid); index.isValid())
-            indexes.append(index);
-    }
-    return indexes;
 }
 
 bool DiagramSession::canGoBack() const
@@ -237,40 +150,11 @@ bool DiagramSession::reveal(const QModelIndex &index)
     if (root != subject && !root->isAncestorOf(subject))
         showWhole();
 
-    QList<const TreeItem *> above; // the nearest first
-    for (const TreeItem *item = subject->parent(); item && item->spear() != m_editor->headSpear();
-         item = item->parent())
-        above.append(item);
-    bool expanded = false;
-    while (!above.isEmpty()) {
-        SpearItem *const spear = above.takeLast()->spear();
-        if (spear && !spear->isExpand()) {
-            Expansion::setExpanded(*m_editor, *spear, true);
-            expanded = true;
-        }
-    }
-    if (expanded) {
+    if (Expansion::expandAbove(*m_editor, *subject)) {
         m_editor->updateFish(false);
         Q_EMIT drawingRebuilt();
     }
     return subject->spear() != nullptr;
-}
-
-QModelIndexList DiagramSession::selected() const
-{
-    QModelIndexList indexes;
-    const QList<QGraphicsItem *> items = m_editor->selectedItems();
-    for (QGraphicsItem *item : items) {
-        const auto *const spear = qgraphicsitem_cast<const SpearItem *>(item);
-        if (spear && spear->treeItem())
-            indexes.append(spear->modelIndex());
-    }
-    return indexes;
-}
-
-void DiagramSession::select(const QModelIndex &index)
-{
-    select(QModelIndexList{index});
 }
 
 void DiagramSession::select(const QModelIndexList &indexes)
@@ -280,12 +164,7 @@ void DiagramSession::select(const QModelIndexList &indexes)
         if (reveal(index))
             shown.append(index);
     }
-    QList<SpearItem *> spears;
-    for (const QPersistentModelIndex &index : qAsConst(shown)) {
-        if (SpearItem *const spear = m_model->getTreeItem(index)->spear())
-            spears.append(spear);
-    }
-    m_editor->selectSpears(spears);
+    SelectedSubjects::select(*m_editor, *m_model, shown);
     touch();
     if (!shown.isEmpty())
         m_editor->ensureVisible(shown.constLast());
@@ -301,9 +180,9 @@ void DiagramSession::restore(const DrawingState &state)
 
 QModelIndex DiagramSession::insert(const std::function<void()> &edit)
 {
-    m_inserted = QModelIndex();
+    m_changes->forget();
     edit();
-    const QPersistentModelIndex inserted = m_inserted;
+    const QPersistentModelIndex inserted = m_changes->inserted();
     if (inserted.isValid())
         select(inserted);
     return inserted;
@@ -333,18 +212,17 @@ void DiagramSession::preserve(const std::function<void()> &change)
     const BusyCursor busy(container());
     const DrawingState state = DrawingState::capture(*m_editor);
     const bool hadSelection = m_editor->hasSelection();
-    m_changed.clear();
-    m_inserted = QModelIndex();
-    m_removedFrom = QModelIndex();
+    m_changes->forget();
     change();
-    if (m_changed && m_changed != document())
-        showDocument(m_changed);
+    FishInfo *const changed = m_changes->document();
+    if (changed && changed != document())
+        showDocument(changed);
     else
         state.restore(*m_editor);
     touch();
     Q_EMIT drawingRebuilt();
     if (hadSelection && !m_editor->hasSelection())
-        select(m_inserted.isValid() ? m_inserted : m_removedFrom);
+        select(m_changes->inserted().isValid() ? m_changes->inserted() : m_changes->removedFrom());
 }
 
 void DiagramSession::paste()
@@ -357,56 +235,22 @@ void DiagramSession::paste(const QJsonObject &subjects)
     const QModelIndex target = m_editor->firstSelectedSpearIndex();
     if (!target.isValid())
         return;
-    const QJsonArray pasted = subjects.value(childrenKey).toArray();
-    const bool isHead = pasted.size() == 1 && isUntouched();
+    const FishInfo *const shown = document();
+    const bool isHead = PasteStep::replacesHead(shown, subjects);
     pasteBy([&] {
-        std::unique_ptr<UndoCommand> command;
-        if (isHead)
-            command = headFrom(pasted.at(0).toObject());
-        else
-            command = pastedBelow(m_model, target, subjects);
-        if (m_editor->run(std::move(command)))
+        if (m_editor->run(isHead ? PasteStep::ofHead(m_model, headOf(shown), subjects)
+                                 : PasteStep::below(m_model, target, subjects)))
             m_editor->updateFish(true);
     });
     if (isHead)
         select(headOf(document()));
 }
 
-/** Whether there is nothing in the document yet but the head that it began with. */
-bool DiagramSession::isUntouched() const
-{
-    const FishInfo *const shown = document();
-    const TreeItem *const head = shown ? shown->treeItem()->childAtIndex(0) : nullptr;
-    return head && head->childCount() == 0 && shown->isUntitled() && !shown->modified();
-}
-
-/** A step that makes @p subject the head, and what is below it that of the head. */
-std::unique_ptr<UndoCommand> DiagramSession::headFrom(QJsonObject subject) const
-{
-    const QModelIndex head = headOf(document());
-    TreeItem &item = *m_model->getTreeItem(head);
-    item.ensureUuid();
-    QJsonArray below = subject.value(childrenKey).toArray();
-    for (QJsonValueRef child : below) {
-        QJsonObject object = child.toObject();
-        object.insert(pidKey, item.uuid());
-        child = object;
-    }
-    for (const QLatin1String key : {childrenKey, uuidKey, pidKey})
-        subject.remove(key);
-    auto paste = pastedBelow(m_model, head, {{childrenKey, below}});
-    auto step = std::make_unique<CommandGroup>(paste->name());
-    step->add(
-        std::make_unique<EditAttributes>(m_model, head, EditAttributes::stateOf(item), subject));
-    step->add(std::move(paste));
-    return step;
-}
-
 /** Runs @p change, which pastes, and selects what was pasted. */
 void DiagramSession::pasteBy(const std::function<void()> &change)
 {
     preserve(change);
-    if (const QPersistentModelIndex pasted = m_inserted; pasted.isValid())
+    if (const QPersistentModelIndex pasted = m_changes->inserted(); pasted.isValid())
         select(pasted);
 }
 
@@ -422,15 +266,15 @@ void DiagramSession::redo()
 
 void DiagramSession::jumpTo(int index)
 {
-    noteOtherChanges();
+    m_saved->look(document());
     preserve([this, index] {
         if (!m_editor->undoStack()->setCurrentIndex(index))
             return;
         m_editor->updateFish(true);
-        if (!m_changed) // a link, say, of which the model tells nobody
+        if (!m_changes->document()) // a link, say, of which the model tells nobody
             m_editor->setModified(true);
     });
     FishInfo *const shown = document();
-    if (shown && !m_isApart && m_editor->undoStack()->isClean())
+    if (shown && m_saved->isSaved())
         shown->setModified(false);
 }

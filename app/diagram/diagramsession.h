@@ -3,25 +3,24 @@
 
 #pragma once
 
-#include <app/diagram/drawingstate.h>
+#include <app/diagram/diagramvisits.h>
+#include <app/diagram/savedstate.h>
+#include <app/diagram/selectedsubjects.h>
 
 #include <fishbone/editor/fisheditor.h>
 #include <fishbone/model/fishinfo.h>
 #include <fishbone/model/fishmodel.h>
 
-#include <QHash>
 #include <QModelIndexList>
 #include <QObject>
-#include <QPersistentModelIndex>
 #include <QPointer>
 #include <QTimer>
 
 #include <functional>
 #include <memory>
-#include <utility>
 
-class ModifiedTracker;
-class UndoCommand;
+class DrawingState;
+class ModelChanges;
 
 /**
  * A document and what is shown of it. Knows how to get from one drawing of it to another, and how
@@ -52,7 +51,7 @@ public:
     /** Shows the subject at @p index as a diagram of its own; its document remembers the visit. */
     void showAsDiagram(const QModelIndex &index);
     /** The subjects of the shown document that were shown as diagrams, the oldest first. */
-    QModelIndexList visited() const;
+    QModelIndexList visited() const { return m_visits->subjectsOf(document()); }
     /** Whether less than the whole diagram is shown. */
     bool canGoBack() const;
     /** Shows what was visited before, at the latest the whole diagram. */
@@ -61,10 +60,10 @@ public:
     void showWhole();
 
     /** The selected subjects, in document order. */
-    QModelIndexList selected() const;
+    QModelIndexList selected() const { return SelectedSubjects::of(*m_editor); }
     /** Selects the subject at @p index alone and brings it into view: shows its document and
      * expands what is above it. */
-    void select(const QModelIndex &index);
+    void select(const QModelIndex &index) { select(QModelIndexList{index}); }
     /** Selects the subjects at @p indexes, which are brought into view as by select(). */
     void select(const QModelIndexList &indexes);
 
@@ -104,24 +103,15 @@ Q_SIGNALS:
 
 private:
     void showRoot(const QModelIndex &root);
-    void noteOtherChanges();
-    QString shownUuid() const;
     bool reveal(const QModelIndex &index);
-    QModelIndex indexInDocument(const FishInfo *document, const QString &uuid) const;
     void preserve(const std::function<void()> &change);
-    bool isUntouched() const;
-    std::unique_ptr<UndoCommand> headFrom(QJsonObject subject) const;
     void pasteBy(const std::function<void()> &change);
     void settle();
 
     QPointer<FishModel> m_model;
     QPointer<FishEditor> m_editor;
     QTimer m_settle;
-    QPersistentModelIndex m_inserted;    ///< the newest row
-    QPersistentModelIndex m_removedFrom; ///< where a row was removed last
-    QPointer<FishInfo> m_changed;        ///< the document that changed last
-    QHash<QString, DrawingState> m_left; ///< how the drawings were, by the uuids of their roots
-    std::pair<int, int> m_place;         ///< in the history, at the last look
-    bool m_sawChange = false;            ///< since that look
-    bool m_isApart = true;               ///< whether something differs that no undo takes back
+    ModelChanges *m_changes;
+    std::unique_ptr<SavedState> m_saved;
+    std::unique_ptr<DiagramVisits> m_visits;
 };

@@ -5,6 +5,7 @@
 
 #include <fishbone/editor/fisheditor.h>
 #include <fishbone/items/spearitem.h>
+#include <fishbone/model/treeitem.h>
 
 namespace Expansion {
 
@@ -32,6 +33,23 @@ void expandLevels(FishEditor &editor, int levels)
         level = next;
     }
     editor.updateFish(false);
+}
+
+bool expandAbove(FishEditor &editor, const TreeItem &subject)
+{
+    QList<const TreeItem *> above; // the nearest first
+    for (const TreeItem *item = subject.parent(); item && item->spear() != editor.headSpear();
+         item = item->parent())
+        above.append(item);
+    bool expanded = false;
+    while (!above.isEmpty()) {
+        SpearItem *const spear = above.takeLast()->spear();
+        if (spear && !spear->isExpand()) {
+            setExpanded(editor, *spear, true);
+            expanded = true;
+        }
+    }
+    return expanded;
 }
 
 } // namespace Expansion

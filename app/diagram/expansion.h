@@ -5,6 +5,7 @@
 
 class FishEditor;
 class SpearItem;
+class TreeItem;
 
 /** How far the bones of a drawing are expanded. */
 namespace Expansion {
@@ -24,5 +25,11 @@ void expandLevels(FishEditor &editor, int levels);
  * out: one FishEditor::updateFish() follows any number of these.
  */
 void setExpanded(FishEditor &editor, SpearItem &spear, bool expanded);
+
+/**
+ * Expands what is above @p subject, so that it has a visible spear, as setExpanded() does; whether
+ * anything had to be.
+ */
+bool expandAbove(FishEditor &editor, const TreeItem &subject);
 
 } // namespace Expansion

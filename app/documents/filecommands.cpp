@@ -7,55 +7,32 @@
 #include <app/common/busycursor.h>
 #include <app/common/plainbox.h>
 #include <app/diagram/diagramsession.h>
-#include <app/documents/closequestion.h>
+#include <app/documents/documentcloser.h>
 #include <app/documents/documentsaver.h>
 #include <app/documents/documenttab.h>
 #include <app/documents/documenttabs.h>
 #include <app/documents/fileconflict.h>
+#include <app/documents/openfilesnote.h>
+#include <app/documents/sourcedialogs.h>
 #include <app/files/documentloader.h>
 #include <app/files/importsummary.h>
 #include <app/files/lastdocuments.h>
-#include <app/files/mappingdialog.h>
+#include <app/files/loadfailure.h>
 #include <app/files/recentfiles.h>
 #include <app/files/welcome.h>
 #include <app/recovery/recoverycopy.h>
 
-#include <fishbone/dialogs/urldialog.h>
 #include <fishbone/editor/fisheditor.h>
-#include <fishbone/exchange/diagramexchange.h>
 #include <fishbone/model/fishinfo.h>
 #include <fishbone/model/fishmodel.h>
 #include <fishbone/model/treeitem.h>
 
 #include <QAction>
-#include <QFileDialog>
-#include <QFileInfo>
 #include <QMessageBox>
 #include <QPointer>
-#include <QUrl>
 
-#include <algorithm>
 #include <cstdio>
 #include <functional>
-#include <iterator>
-#include <optional>
-
-namespace {
-
-QString anyFilter()
-{
-    return FileCommands::tr("Fishbone diagrams (*.json);;%1;;All files (*)")
-        .arg(DiagramExchange::importFilter());
-}
-
-/** Whether there is anything to save in @p tab, with what is typed into its fields. */
-bool hasChanges(DocumentTab &tab)
-{
-    tab.takeTyped();
-    return tab.document() && tab.document()->modified();
-}
-
-} // namespace
 
 FileCommands::FileCommands(DocumentTabs *tabs, RecentFiles *recent, ActionSet *actions,
                            QWidget *window)
@@ -67,6 +44,9 @@ FileCommands::FileCommands(DocumentTabs *tabs, RecentFiles *recent, ActionSet *a
     , m_arrivals(new FishModel(this))
     , m_loader(new DocumentLoader(m_arrivals, this))
     , m_saver(new DocumentSaver(recent, window))
+    , m_closer(new DocumentCloser(tabs, m_saver, window))
+    , m_sources(new SourceDialogs(m_loader, tabs, window))
+    , m_remembered(new OpenFilesNote(tabs, this))
 {
     m_loader->setOpenDocuments([tabs] { return tabs->documents(); });
     connect(m_loader, &DocumentLoader::loaded, this, &FileCommands::showLoaded);
@@ -77,8 +57,9 @@ FileCommands::FileCommands(DocumentTabs *tabs, RecentFiles *recent, ActionSet *a
     connect(m_loader, &DocumentLoader::idle, this, &FileCommands::endLoading, Qt::QueuedConnection);
     connect(m_recent, &RecentFiles::chosen, m_loader, &DocumentLoader::load);
     connect(m_saver, &DocumentSaver::message, this, &FileCommands::message);
+    connect(m_sources, &SourceDialogs::message, this, &FileCommands::message);
     connect(m_tabs, &DocumentTabs::added, this, &FileCommands::answerConflicts);
-    connect(m_tabs, &DocumentTabs::closeRequested, this, &FileCommands::closeTabs);
+    connect(m_tabs, &DocumentTabs::closeRequested, m_closer, &DocumentCloser::close);
     addOpenActions();
     addSaveActions();
     addCloseActions();
@@ -94,15 +75,21 @@ void FileCommands::add(const char *name, const char *text, const QKeySequence &s
 
 void FileCommands::addOpenActions()
 {
+    const auto addDialog = [this](const char *name, const char *text, const QKeySequence &shortcut,
+                                  void (SourceDialogs::*run)()) {
+        m_actions->add(
+            QLatin1String(name), [text] { return tr(text); }, {shortcut}, ActionSet::Scope::Window,
+            [this, run] { (m_sources->*run)(); });
+    };
     add("new", QT_TR_NOOP("&New"), QKeySequence::New, &FileCommands::newDocument);
     add("newExample", QT_TR_NOOP("New from the &example"), {},
         &FileCommands::newFromBuiltInTemplate);
     add("welcome", QT_TR_NOOP("&Welcome diagram"), {}, &FileCommands::newWelcome);
-    add("open", QT_TR_NOOP("&Open…"), QKeySequence::Open, &FileCommands::openFiles);
-    add("import", QT_TR_NOOP("&Import…"), QKeySequence(Qt::CTRL | Qt::Key_I),
-        &FileCommands::importFiles);
-    add("url", QT_TR_NOOP("Open &URL…"), QKeySequence(Qt::CTRL | Qt::Key_U),
-        &FileCommands::openUrl);
+    addDialog("open", QT_TR_NOOP("&Open…"), QKeySequence::Open, &SourceDialogs::openFiles);
+    addDialog("import", QT_TR_NOOP("&Import…"), QKeySequence(Qt::CTRL | Qt::Key_I),
+              &SourceDialogs::importFiles);
+    addDialog("url", QT_TR_NOOP("Open &URL…"), QKeySequence(Qt::CTRL | Qt::Key_U),
+              &SourceDialogs::openUrl);
 }
 
 void FileCommands::addSaveActions()
@@ -121,7 +108,9 @@ void FileCommands::addSaveActions()
               [this](DocumentTab *tab) { m_saver->saveCopy(tab); });
     addForTab("revert", QT_TR_NOOP("Revert to &file"), {},
               [this](DocumentTab *tab) { revert(tab); });
-    add("saveAll", QT_TR_NOOP("Save a&ll"), {}, &FileCommands::saveAll);
+    m_actions->add(
+        QStringLiteral("saveAll"), [] { return tr("Save a&ll"); }, {}, ActionSet::Scope::Window,
+        [this] { m_closer->saveAll(); });
 }
 
 void FileCommands::addCloseActions()
@@ -143,7 +132,7 @@ void FileCommands::addCloseActions()
 
 void FileCommands::updateActions()
 {
-    rememberOpen(Remembering::GoOn);
+    m_remembered->update();
     const DocumentTab *const tab = m_tabs->current();
     for (const char *name : {"save", "saveAs", "saveCopy", "saveAll", "close"})
         m_actions->action(QLatin1String(name))->setEnabled(tab->document());
@@ -157,7 +146,7 @@ void FileCommands::open(const QStringList &sources)
         m_shownAtLast = LastDocuments::shownFile();
     // A document that ends the program while it is loaded is not opened again at the next start.
     if (!wanted.isEmpty())
-        rememberOpen(Remembering::Begin);
+        m_remembered->begin();
     if (wanted.isEmpty() && m_tabs->tabs().isEmpty()) {
         if (Welcome::isFirstStart())
             newWelcome();
@@ -210,7 +199,7 @@ void FileCommands::endLoading()
     if (DocumentTab *const tab = m_tabs->tabOfFile(m_shownAtLast))
         m_tabs->setCurrent(tab);
     m_shownAtLast.clear();
-    rememberOpen(Remembering::Begin);
+    m_remembered->begin();
     showFailures();
 }
 
@@ -260,65 +249,10 @@ FishInfo *FileCommands::arrival(int error, const QString &path)
     if (document && document->treeItem()->childCount() > 0)
         return document;
     reportFailure(path, document ? DocumentLoader::tr("it holds no diagram")
-                                 : DocumentLoader::reasonOf(path));
+                                 : LoadFailure::reasonOf(path));
     m_arrivals->unloadFish(document);
     showFailures();
     return nullptr;
-}
-
-void FileCommands::openFiles()
-{
-    const QStringList paths = chosenFiles(tr("Open"), anyFilter());
-    for (const QString &path : paths)
-        m_loader->load(path);
-}
-
-void FileCommands::importFiles()
-{
-    const QStringList paths = chosenFiles(tr("Import"), DiagramExchange::importFilter());
-    for (const QString &path : paths)
-        importFile(path);
-}
-
-/** Imports the file @p path; the user looks first at what the columns of a table stand for. */
-void FileCommands::importFile(const QString &path)
-{
-    const auto format = DocumentLoader::foreignFormat(path);
-    const auto mapping =
-        format ? DiagramExchange::tableMapping(path, *format) : std::optional<TableMapping>();
-    if (!mapping) { // what is wrong is told when it is loaded
-        m_loader->load(path);
-        return;
-    }
-    MappingDialog dialog(QFileInfo(path).fileName(), *mapping, m_window);
-    if (dialog.exec() == QDialog::Accepted)
-        m_loader->loadTable(path, dialog.mapping());
-}
-
-/** What the user chooses among the files that @p filter lets through. */
-QStringList FileCommands::chosenFiles(const QString &title, const QString &filter) const
-{
-    return QFileDialog::getOpenFileNames(m_window, title, m_tabs->current()->session()->folder(),
-                                         filter);
-}
-
-void FileCommands::openUrl()
-{
-    const QUrl url = URLDialog::openUrlDialog(m_window);
-    if (url.isEmpty())
-        return;
-    m_loader->load(url.toString());
-    if (!m_loader->isIdle())
-        Q_EMIT message(tr("Loading %1…").arg(url.toDisplayString()));
-}
-
-void FileCommands::saveAll()
-{
-    const QList<QPointer<DocumentTab>> tabs = openAmong(m_tabs->tabs());
-    for (const QPointer<DocumentTab> &tab : tabs) {
-        if (tab && hasChanges(*tab) && !m_saver->save(tab))
-            return;
-    }
 }
 
 /** Does what the user decides when somebody else has changed the file of @p tab. */
@@ -359,102 +293,18 @@ void FileCommands::revert(DocumentTab *tab)
 void FileCommands::closeCurrent()
 {
     if (m_tabs->current()->document())
-        closeTabs({m_tabs->current()});
-}
-
-/** Closes @p tabs up to the first one that the user wants to keep. */
-void FileCommands::closeTabs(const QList<DocumentTab *> &tabs)
-{
-    const QList<QPointer<DocumentTab>> open = openAmong(tabs);
-    const bool areMany = changedAmong(open).size() > 1;
-    if (areMany && !mayCloseMany(open))
-        return;
-    for (const QPointer<DocumentTab> &tab : open) {
-        if (tab && !areMany && !mayClose(tab))
-            return;
-        if (!tab)
-            continue;
-        tab->recovery()->discard();
-        m_tabs->remove(tab);
-    }
-}
-
-/** Those of @p tabs that are open, guarded: each question runs an event loop. */
-QList<QPointer<DocumentTab>> FileCommands::openAmong(const QList<DocumentTab *> &tabs) const
-{
-    QList<QPointer<DocumentTab>> found;
-    const QList<DocumentTab *> open = m_tabs->tabs();
-    for (DocumentTab *tab : tabs) {
-        if (open.contains(tab))
-            found.append(tab);
-    }
-    return found;
-}
-
-bool FileCommands::mayClose(DocumentTab *tab)
-{
-    if (hasChanges(*tab))
-        m_tabs->setCurrent(tab); // so that the user sees what the question is about
-    return m_saver->mayClose(tab);
+        m_closer->close({m_tabs->current()});
 }
 
 bool FileCommands::mayCloseAll()
 {
-    const QList<QPointer<DocumentTab>> tabs = openAmong(m_tabs->tabs());
-    if (changedAmong(tabs).size() > 1)
-        return mayCloseMany(tabs);
-    for (const QPointer<DocumentTab> &tab : tabs) {
-        if (tab && !mayClose(tab))
-            return false;
-    }
-    return true;
-}
-
-/** Those of @p tabs that have something to save, with what is typed into their fields. */
-QList<QPointer<DocumentTab>>
-FileCommands::changedAmong(const QList<QPointer<DocumentTab>> &tabs) const
-{
-    QList<QPointer<DocumentTab>> changed;
-    std::copy_if(tabs.cbegin(), tabs.cend(), std::back_inserter(changed),
-                 [](const QPointer<DocumentTab> &tab) { return tab && hasChanges(*tab); });
-    return changed;
-}
-
-/** Asks one question for all changed ones of @p tabs; false when the user wants to go on working.
- */
-bool FileCommands::mayCloseMany(const QList<QPointer<DocumentTab>> &tabs)
-{
-    CloseQuestion question(changedAmong(tabs), m_window);
-    if (question.exec() != QDialog::Accepted)
-        return false;
-    const QList<QPointer<DocumentTab>> wanted = question.toSave();
-    return std::all_of(wanted.cbegin(), wanted.cend(), [this](const QPointer<DocumentTab> &tab) {
-        return !tab || m_saver->save(tab);
-    });
+    return m_closer->mayCloseAll();
 }
 
 void FileCommands::end()
 {
-    rememberOpen(Remembering::Begin);
-    m_isRemembering = false; // the tabs are about to go
+    m_remembered->end();
     const QList<DocumentTab *> tabs = m_tabs->tabs();
     for (const DocumentTab *tab : tabs)
         tab->recovery()->discard();
-}
-
-/** Notes which files are open, for the case that this run does not end well. */
-void FileCommands::rememberOpen(Remembering remembering)
-{
-    m_isRemembering = m_isRemembering || remembering == Remembering::Begin;
-    QStringList paths;
-    const QList<DocumentTab *> tabs = m_tabs->tabs();
-    for (const DocumentTab *tab : tabs) {
-        if (!tab->path().isEmpty())
-            paths.append(tab->path());
-    }
-    const QStringList open = paths + QStringList(m_tabs->current()->path());
-    if (!m_isRemembering || (open == m_remembered && remembering == Remembering::GoOn))
-        return;
-    m_remembered = open;
-    LastDocuments::remember(paths, m_tabs->current()->path());
 }

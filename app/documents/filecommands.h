@@ -4,20 +4,21 @@
 #pragma once
 
 #include <QKeySequence>
-#include <QList>
 #include <QObject>
-#include <QPointer>
 #include <QStringList>
 
 class ActionSet;
+class DocumentCloser;
 class DocumentLoader;
 class DocumentSaver;
 class DocumentTab;
 class DocumentTabs;
 class FishInfo;
 class FishModel;
+class OpenFilesNote;
 class QWidget;
 class RecentFiles;
+class SourceDialogs;
 
 /** The commands on whole documents: new, open, import, save, close. */
 class FileCommands : public QObject
@@ -66,24 +67,11 @@ private:
     FishInfo *arrival(int error, const QString &path);
     void newFromBuiltInTemplate();
     void newWelcome();
-    void openFiles();
-    void importFiles();
-    void importFile(const QString &path);
-    QStringList chosenFiles(const QString &title, const QString &filter) const;
-    void openUrl();
-    void saveAll();
     void answerConflicts(DocumentTab *tab);
     int loadAgain(const FishInfo *document, const QString &path);
     void revert(DocumentTab *tab);
     void closeCurrent();
-    void closeTabs(const QList<DocumentTab *> &tabs);
-    bool mayClose(DocumentTab *tab);
-    QList<QPointer<DocumentTab>> openAmong(const QList<DocumentTab *> &tabs) const;
     void endLoading();
-    QList<QPointer<DocumentTab>> changedAmong(const QList<QPointer<DocumentTab>> &tabs) const;
-    bool mayCloseMany(const QList<QPointer<DocumentTab>> &tabs);
-    enum class Remembering { Begin, GoOn };
-    void rememberOpen(Remembering remembering);
 
     DocumentTabs *m_tabs;
     RecentFiles *m_recent;
@@ -92,8 +80,9 @@ private:
     FishModel *m_arrivals; ///< documents are loaded into it, and leave it for a tab
     DocumentLoader *m_loader;
     DocumentSaver *m_saver;
-    QStringList m_failures;       ///< what could not be opened and was not shown in a box yet
-    QString m_shownAtLast;        ///< the file to be shown when all that was asked for is loaded
-    QStringList m_remembered;     ///< the open files, and that of the shown document, as noted last
-    bool m_isRemembering = false; ///< not before the files of the last run are known
+    DocumentCloser *m_closer;
+    SourceDialogs *m_sources;
+    OpenFilesNote *m_remembered;
+    QStringList m_failures; ///< what could not be opened and was not shown in a box yet
+    QString m_shownAtLast;  ///< the file to be shown when all that was asked for is loaded
 };

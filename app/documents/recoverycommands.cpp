@@ -8,6 +8,7 @@
 #include <app/documents/documenttab.h>
 #include <app/documents/documenttabs.h>
 #include <app/files/documentloader.h>
+#include <app/files/loadfailure.h>
 #include <app/recovery/recoverycopy.h>
 #include <app/recovery/recoverydialog.h>
 #include <app/recovery/recoverystore.h>
@@ -74,7 +75,7 @@ FishInfo *RecoveryCommands::load(const LeftCopy &copy)
     if (m_arrivals->loadFishFromTemplate(copy.copy) != MODEL_NO_ERROR ||
         m_arrivals->fishList().constLast()->treeItem()->childCount() == 0) {
         const QString reason = m_arrivals->fishList().isEmpty()
-                                   ? DocumentLoader::reasonOf(copy.copy)
+                                   ? LoadFailure::reasonOf(copy.copy)
                                    : DocumentLoader::tr("it holds no diagram");
         m_arrivals->unloadFish(m_arrivals->fishList().value(0));
         PlainBox::warning(

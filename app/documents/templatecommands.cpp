@@ -10,6 +10,7 @@
 #include <app/documents/documenttab.h>
 #include <app/documents/documenttabs.h>
 #include <app/files/documentloader.h>
+#include <app/files/loadfailure.h>
 #include <app/files/templategallery.h>
 
 #include <fishbone/editor/fisheditor.h>
@@ -89,7 +90,7 @@ FishInfo *TemplateCommands::load(const QString &path)
     if (document && document->treeItem()->childCount() > 0)
         return document;
     const QString reason =
-        document ? DocumentLoader::tr("it holds no diagram") : DocumentLoader::reasonOf(path);
+        document ? DocumentLoader::tr("it holds no diagram") : LoadFailure::reasonOf(path);
     m_arrivals->unloadFish(document);
     PlainBox::warning(m_window, tr("New from template"),
                       tr("%1 is no template: %2.").arg(path, reason));

@@ -4,9 +4,10 @@
 #include <app/export/exportdialog.h>
 
 #include <app/common/plainbox.h>
-#include <app/diagram/expansion.h>
 #include <app/export/clearexport.h>
+#include <app/export/picturelevelfields.h>
 #include <app/export/picturelookfields.h>
+#include <app/export/picturepreview.h>
 #include <app/export/picturesizefields.h>
 
 #include <fishbone/exchange/diagrampicture.h>
@@ -18,41 +19,19 @@
 #include <QFileInfo>
 #include <QFormLayout>
 #include <QHBoxLayout>
-#include <QLabel>
 #include <QLineEdit>
-#include <QPainter>
 #include <QPushButton>
 #include <QSettings>
-#include <QSpinBox>
 
 #include <utility>
 
 namespace {
-
-/** What the bones are expanded to. */
-enum class Expanded {
-    AsShown,
-    All,
-    Levels,
-};
 
 enum class Background {
     White,
     Transparent,
     Canvas,
 };
-
-constexpr QSize previewSize(400, 300);
-
-QString expandedKey()
-{
-    return QStringLiteral("export/expanded");
-}
-
-QString levelsKey()
-{
-    return QStringLiteral("export/levels");
-}
 
 QString lightKey()
 {
@@ -76,16 +55,11 @@ ExportDialog::ExportDialog(const QString &path, Subject subject, QWidget *parent
     : QDialog(parent)
     , m_subject(std::move(subject))
     , m_file(new QLineEdit(path, this))
-    , m_expansion(new QComboBox(this))
-    , m_levels(new QSpinBox(this))
     , m_light(new QCheckBox(tr("&Light, as on paper"), this))
     , m_background(new QComboBox(this))
-    , m_preview(new QLabel(this))
+    , m_preview(new PicturePreview(this))
 {
     setWindowTitle(tr("Export picture"));
-    m_preview->setObjectName(QStringLiteral("preview"));
-    m_preview->setAccessibleName(tr("Preview"));
-    m_preview->setFixedSize(previewSize);
     auto *const beside = new QHBoxLayout;
     beside->addWidget(makeFields(), 1);
     beside->addWidget(m_preview);
@@ -100,9 +74,9 @@ ExportDialog::ExportDialog(const QString &path, Subject subject, QWidget *parent
     m_measuring.setSingleShot(true);
     m_measuring.setInterval(300);
     connect(&m_measuring, &QTimer::timeout, this, &ExportDialog::measure);
+    m_measuring.start(); // there is nothing to show yet
     restore();
     followLook();
-    followLevels();
     measure();
 }
 
@@ -115,7 +89,8 @@ QWidget *ExportDialog::makeFields()
     m_look = new PictureLookFields(layout, m_subject.view, this);
     connect(m_look, &PictureLookFields::changed, this, &ExportDialog::followLook);
     m_size = new PictureSizeFields(layout, this);
-    addLevels(layout);
+    m_levels = new PictureLevelFields(layout, m_subject.depth, this);
+    connect(m_levels, &PictureLevelFields::changed, this, [this] { m_measuring.start(); });
     addColours(layout);
     return fields;
 }
@@ -135,27 +110,6 @@ void ExportDialog::addFile(QFormLayout *layout)
     layout->addRow(label, file);
 }
 
-void ExportDialog::addLevels(QFormLayout *layout)
-{
-    m_expansion->setObjectName(QStringLiteral("expansion"));
-    m_expansion->addItem(tr("As shown"), int(Expanded::AsShown));
-    m_expansion->addItem(tr("All levels"), int(Expanded::All));
-    m_expansion->addItem(tr("Levels below the main bones:"), int(Expanded::Levels));
-    m_levels->setObjectName(QStringLiteral("levels"));
-    m_levels->setAccessibleName(tr("Levels below the main bones"));
-    m_levels->setRange(0, m_subject.depth);
-    connect(m_expansion, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
-            &ExportDialog::followLevels);
-    connect(m_levels, QOverload<int>::of(&QSpinBox::valueChanged), this,
-            &ExportDialog::followLevels);
-    auto *const row = new QHBoxLayout;
-    row->addWidget(m_expansion, 1);
-    row->addWidget(m_levels);
-    auto *const label = new QLabel(tr("&Expanded:"), this);
-    label->setBuddy(m_expansion);
-    layout->addRow(label, row);
-}
-
 void ExportDialog::addColours(QFormLayout *layout)
 {
     m_light->setObjectName(QStringLiteral("light"));
@@ -171,8 +125,6 @@ void ExportDialog::addColours(QFormLayout *layout)
 void ExportDialog::restore()
 {
     const QSettings settings;
-    choose(m_expansion, settings.value(expandedKey(), int(Expanded::AsShown)));
-    m_levels->setValue(settings.value(levelsKey(), 1).toInt());
     m_light->setChecked(settings.value(lightKey(), true).toBool());
     followLight();
     choose(m_background, settings.value(backgroundKey(), int(Background::White)));
@@ -181,31 +133,21 @@ void ExportDialog::restore()
 void ExportDialog::remember() const
 {
     QSettings settings;
-    settings.setValue(expandedKey(), m_expansion->currentData());
-    if (m_levels->isEnabled())
-        settings.setValue(levelsKey(), m_levels->value());
     settings.setValue(lightKey(), m_light->isChecked());
     settings.setValue(backgroundKey(), m_background->currentData());
     m_look->remember();
+    m_levels->remember();
     m_size->remember();
+}
+
+std::optional<int> ExportDialog::levels() const
+{
+    return m_levels->levels();
 }
 
 QString ExportDialog::fileName() const
 {
     return m_file->text();
-}
-
-std::optional<int> ExportDialog::levels() const
-{
-    switch (Expanded(m_expansion->currentData().toInt())) {
-    case Expanded::AsShown:
-        break;
-    case Expanded::All:
-        return Expansion::allLevels;
-    case Expanded::Levels:
-        return m_levels->value();
-    }
-    return std::nullopt;
 }
 
 PictureWish ExportDialog::wish() const
@@ -261,12 +203,6 @@ void ExportDialog::followLook()
     followLight();
 }
 
-void ExportDialog::followLevels()
-{
-    m_levels->setEnabled(m_expansion->currentData() == int(Expanded::Levels));
-    m_measuring.start();
-}
-
 /** Offers the backgrounds that go with the look of the bones. */
 void ExportDialog::followLight()
 {
@@ -296,26 +232,11 @@ void ExportDialog::showPreview()
 {
     if (m_measuring.isActive())
         return; // it comes with what is measured
-    constexpr double marginOfPage = 0.03;
-    const double dots = devicePixelRatioF();
-    QPixmap pixmap((QSizeF(previewSize) * dots).toSize());
-    pixmap.setDevicePixelRatio(dots);
-    pixmap.fill(palette().color(QPalette::Window));
-    const QSizeF whole = page() ? page()->size : m_size->size();
-    if (!whole.isEmpty()) {
-        QRectF paper(QPointF(0, 0), whole.scaled(previewSize, Qt::KeepAspectRatio));
-        paper.moveCenter(QRectF(QPointF(0, 0), previewSize).center());
-        const QColor background = options().background;
-        QPainter painter(&pixmap);
-        painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-        if (background.alpha() > 0)
-            painter.fillRect(paper, background);
-        else
-            painter.fillRect(paper, QBrush(Qt::lightGray, Qt::Dense6Pattern));
-        const double margin = marginOfPage * qMin(paper.width(), paper.height());
-        m_subject.paint(painter, paper.adjusted(margin, margin, -margin, -margin), isLight());
-    }
-    m_preview->setPixmap(pixmap);
+    const bool lightly = isLight();
+    m_preview->draw(page() ? page()->size : m_size->size(), options().background,
+                    [this, lightly](QPainter &painter, const QRectF &target) {
+                        m_subject.paint(painter, target, lightly);
+                    });
 }
 
 void ExportDialog::browse()

@@ -14,14 +14,14 @@
 #include <functional>
 #include <optional>
 
+class PictureLevelFields;
 class PictureLookFields;
+class PicturePreview;
 class PictureSizeFields;
 class QCheckBox;
 class QComboBox;
 class QFormLayout;
-class QLabel;
 class QLineEdit;
-class QSpinBox;
 
 /** Asks for the file and the looks of a picture, and shows what becomes of it. What was chosen last
  * is chosen the next time. */
@@ -66,13 +66,11 @@ public Q_SLOTS:
 private:
     QWidget *makeFields();
     void addFile(QFormLayout *layout);
-    void addLevels(QFormLayout *layout);
     void addColours(QFormLayout *layout);
     void restore();
     void remember() const;
     void browse();
     void followFile();
-    void followLevels();
     void followLook();
     void followLight();
     void measure();
@@ -83,10 +81,9 @@ private:
     QLineEdit *m_file;
     PictureLookFields *m_look = nullptr;
     PictureSizeFields *m_size = nullptr;
-    QComboBox *m_expansion;
-    QSpinBox *m_levels;
+    PictureLevelFields *m_levels = nullptr;
     QCheckBox *m_light;
     QComboBox *m_background;
-    QLabel *m_preview;
+    PicturePreview *m_preview;
     QTimer m_measuring; ///< so that it is measured once for several steps of a field
 };

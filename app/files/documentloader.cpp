@@ -4,6 +4,8 @@
 #include <app/files/documentloader.h>
 
 #include <app/common/busycursor.h>
+#include <app/files/largefilereader.h>
+#include <app/files/loadfailure.h>
 
 #include <fishbone/exchange/jsondiagram.h>
 #include <fishbone/model/fishinfo.h>
@@ -26,47 +28,16 @@ bool isNetworkUrl(const QUrl &url)
     return url.scheme() == QLatin1String("http") || url.scheme() == QLatin1String("https");
 }
 
-/** The endings of all formats that are read, ".json, .md, …". */
-QString readableEndings()
-{
-    QStringList endings;
-    const QList<DiagramExchange::Format> formats = DiagramExchange::formats();
-    for (const DiagramExchange::Format format : formats) {
-        const QStringList suffixes =
-            DiagramExchange::canRead(format) ? DiagramExchange::suffixes(format) : QStringList();
-        for (const QString &suffix : suffixes)
-            endings.append(QLatin1Char('.') + suffix);
-    }
-    return endings.join(QLatin1String(", "));
-}
-
-bool hasUnknownEnding(const QString &path)
-{
-    return !QFileInfo(path).suffix().isEmpty() && !DiagramExchange::formatOf(path);
-}
-
-/** What keeps @p json, which was parsed with @p error, from being read as a document. */
-QString reasonOfText(const QByteArray &json, const QJsonParseError &error)
-{
-    if (json.isEmpty())
-        return DocumentLoader::tr("it is empty");
-    const QString foreign = JsonDiagram::reasonAgainst(QJsonDocument::fromJson(json));
-    if (error.error == QJsonParseError::NoError && !foreign.isEmpty())
-        return foreign;
-    if (error.error == QJsonParseError::NoError)
-        return DocumentLoader::tr("it is not a JSON document");
-    return DocumentLoader::tr("it is not a JSON document (line %1: %2)")
-        .arg(json.left(error.offset).count('\n') + 1)
-        .arg(error.errorString());
-}
-
 } // namespace
 
 DocumentLoader::DocumentLoader(FishModel *model, QObject *parent)
     : QObject(parent)
     , m_model(model)
     , m_openDocuments([this] { return m_model->fishList(); })
+    , m_reader(new LargeFileReader(this))
 {
+    connect(m_reader, &LargeFileReader::ended, this, &DocumentLoader::endReading);
+    connect(model, &FishModel::fishLoaded, this, &DocumentLoader::endFetch);
     connect(model, &FishModel::loadProgress, this,
             [this](const QUrl &, qint64 received, qint64 total) {
                 Q_EMIT fetchProgress(received, total);
@@ -102,23 +73,6 @@ std::optional<DiagramExchange::Format> DocumentLoader::foreignFormat(const QStri
 {
     const auto format = DiagramExchange::formatOf(path);
     return format == DiagramExchange::Format::Json ? std::nullopt : format;
-}
-
-QString DocumentLoader::reasonOf(const QString &path)
-{
-    const QFileInfo info(path);
-    if (info.isDir())
-        return tr("it is a folder");
-    if (!info.exists())
-        return tr("there is no such file");
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return file.errorString();
-    const QByteArray content = file.readAll();
-    QJsonParseError error;
-    if (QJsonDocument::fromJson(content, &error).isNull() && hasUnknownEnding(path))
-        return tr("its ending is none of those that can be read: %1").arg(readableEndings());
-    return reasonOfText(content, error);
 }
 
 void DocumentLoader::load(const QString &source)
@@ -162,7 +116,7 @@ void DocumentLoader::loadFile(const QString &path)
         return;
     }
     if (m_model->loadFishFromFile(path) != MODEL_NO_ERROR) {
-        finish(nullptr, reasonOf(path));
+        finish(nullptr, LoadFailure::reasonOf(path));
         return;
     }
     if (const QString foreign = reasonAgainstLoaded(path); !foreign.isEmpty()) {
@@ -189,44 +143,25 @@ QString DocumentLoader::reasonAgainstLoaded(const QString &path) const
                : QString();
 }
 
-/** Reads and parses a file beside this thread. */
+/** Reads and parses a file while the program goes on. */
 void DocumentLoader::readLarge(const QString &path)
 {
-    m_isReading = true;
-    const int reading = ++m_reading;
     Q_EMIT fetchStarted(QUrl::fromLocalFile(path));
-    m_readers.start([this, path, reading] {
-        Parsed parsed;
-        QFile file(path);
-        if (file.open(QIODevice::ReadOnly)) {
-            const QByteArray content = file.readAll();
-            QJsonParseError error;
-            parsed.json = QJsonDocument::fromJson(content, &error);
-            parsed.reason = JsonDiagram::reasonAgainst(parsed.json);
-            if (parsed.json.isNull())
-                parsed.reason = reasonOfText(content, error);
-        } else {
-            parsed.reason = file.errorString();
-        }
-        QMetaObject::invokeMethod(this, [this, path, reading, parsed] {
-            if (m_isReading && reading == m_reading) // otherwise nobody wants it any more
-                endReading(path, parsed);
-        });
-    });
+    m_reader->read(path);
 }
 
 /** Makes a document of what was read from @p path. */
-void DocumentLoader::endReading(const QString &path, const Parsed &parsed)
+void DocumentLoader::endReading(const QString &path, const QJsonDocument &json,
+                                const QString &reason)
 {
-    m_isReading = false;
     Q_EMIT fetchEnded();
-    if (!m_model || !parsed.reason.isEmpty()) {
-        finish(nullptr, m_model ? parsed.reason : tr("the program is closing"));
+    if (!m_model || !reason.isEmpty()) {
+        finish(nullptr, m_model ? reason : tr("the program is closing"));
         return;
     }
     const BusyCursor busy; // the tree can only be made here
     auto document = std::make_unique<FishInfo>();
-    document->loadFish(parsed.json.object(), m_model);
+    document->loadFish(json.object(), m_model);
     FishInfo *const loadedDocument = document.release();
     m_model->insertFish(m_model->fishList().size(), loadedDocument); // which takes it over
     loadedDocument->setCurrentFile(path);
@@ -273,7 +208,7 @@ QString DocumentLoader::freeName(const QString &baseName) const
 
 void DocumentLoader::fetch(const QUrl &url)
 {
-    m_fetched = connect(m_model, &FishModel::fishLoaded, this, &DocumentLoader::endFetch);
+    m_isFetching = true;
     m_isCancelled = false;
     m_model->loadFishFromUrl(url);
     Q_EMIT fetchStarted(url);
@@ -281,8 +216,8 @@ void DocumentLoader::fetch(const QUrl &url)
 
 void DocumentLoader::cancel()
 {
-    if (m_isReading) {
-        m_isReading = false; // what is being read is dropped when it comes
+    if (m_reader->isReading()) {
+        m_reader->drop();
         Q_EMIT fetchEnded();
         Q_EMIT cancelled(m_waiting.constFirst());
         leave();
@@ -297,9 +232,9 @@ void DocumentLoader::cancel()
 void DocumentLoader::endFetch(const QModelIndex &index, MODEL_ERROR error)
 {
     Q_UNUSED(index) // invalid for a document without a head
-    if (m_model->isLoading())
+    if (!m_isFetching || m_model->isLoading())
         return; // somebody else loaded a file meanwhile
-    disconnect(m_fetched);
+    m_isFetching = false;
     Q_EMIT fetchEnded();
     if (error == MODEL_NO_ERROR) {
         finish(m_model->fishList().constLast(), QString());

@@ -9,16 +9,16 @@
 #include <fishbone/model/fishmodel.h>
 
 #include <QHash>
-#include <QJsonDocument>
 #include <QObject>
 #include <QPointer>
 #include <QStringList>
-#include <QThreadPool>
 
 #include <functional>
 #include <optional>
 
 class FishInfo;
+class LargeFileReader;
+class QJsonDocument;
 class QUrl;
 
 /**
@@ -56,9 +56,6 @@ public:
     /** Whether nothing waits behind the load that is being reported. */
     bool isLast() const { return m_waiting.size() <= 1; }
 
-    /** Why the file @p path cannot be loaded. */
-    static QString reasonOf(const QString &path);
-
     /** The format of another program that the ending of @p path tells, if it tells one. */
     static std::optional<DiagramExchange::Format> foreignFormat(const QString &path);
 
@@ -86,18 +83,11 @@ Q_SIGNALS:
     void idle();
 
 private:
-    /** What was read from a large file. */
-    struct Parsed
-    {
-        QJsonDocument json; ///< null when it is none
-        QString reason;     ///< why it is none
-    };
-
     void loadNext();
     void loadFile(const QString &path);
     QString reasonAgainstLoaded(const QString &path) const;
     void readLarge(const QString &path);
-    void endReading(const QString &path, const Parsed &parsed);
+    void endReading(const QString &path, const QJsonDocument &json, const QString &reason);
     void importFile(const QString &path, DiagramExchange::Format format);
     QString freeName(const QString &baseName) const;
     void fetch(const QUrl &url);
@@ -110,9 +100,7 @@ private:
     std::function<QList<FishInfo *>()> m_openDocuments;
     QHash<QString, TableMapping> m_mappings; ///< of the tables that wait
     QStringList m_waiting;                   ///< the first one is being loaded
-    QMetaObject::Connection m_fetched;
+    LargeFileReader *m_reader;
+    bool m_isFetching = false; ///< from the network
     bool m_isCancelled = false;
-    int m_reading = 0; ///< the number of the last reading
-    bool m_isReading = false;
-    QThreadPool m_readers; ///< waits for its work before anything of this goes
 };

@@ -18,6 +18,7 @@ private Q_SLOTS:
     void shouldExpandSoManyLevels_data();
     void shouldExpandSoManyLevels();
     void shouldExpandOneBone();
+    void shouldExpandWhatIsAboveASubject();
     void shouldDoNothingWithoutADiagram();
 };
 
@@ -73,6 +74,16 @@ void TestExpansion::shouldExpandOneBone()
     Expansion::setExpanded(stage.editor, bone, false);
     stage.editor.updateFish(false);
     QCOMPARE(visibleBones(stage), QStringLiteral("AD"));
+}
+
+void TestExpansion::shouldExpandWhatIsAboveASubject()
+{
+    EditorFixture stage(diagram);
+    const TreeItem &deepest = *stage.subject(QStringLiteral("C"));
+    QVERIFY(Expansion::expandAbove(stage.editor, deepest));
+    stage.editor.updateFish(false);
+    QCOMPARE(visibleBones(stage), QStringLiteral("ABCD"));
+    QVERIFY(!Expansion::expandAbove(stage.editor, deepest)); // there is nothing left to do
 }
 
 void TestExpansion::shouldDoNothingWithoutADiagram()

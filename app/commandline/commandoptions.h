@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <app/commandline/commandline.h>
+
+#include <QCommandLineOption>
+#include <QList>
+
+/** The options of the program, and what its help says of them and of its commands. */
+namespace CommandOptions {
+
+QCommandLineOption forExport();
+/** The options for pictures, in the order of the help text. */
+QList<QCommandLineOption> forPictures();
+/** The format of the file that is read. */
+QCommandLineOption forFrom();
+/** The format of the file that is written. */
+QCommandLineOption forTo();
+QCommandLineOption forStrict();
+
+/** Gives @p parser the options, arguments and description of @p command. */
+void describe(QCommandLineParser &parser, CommandLine::Command command);
+/** Gives @p parser the options of all commands: only behind them it shows which command there is.
+ */
+void describeAll(QCommandLineParser &parser);
+
+} // namespace CommandOptions

@@ -1,0 +1,96 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#include <app/commandline/commandoptions.h>
+#include <tests/program/testprogram.h>
+
+#include <QCommandLineParser>
+#include <QtTest>
+
+Q_DECLARE_METATYPE(CommandLine::Command)
+
+/** The options of the program's commands. */
+class TestCommandOptions : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void shouldDescribeWhatACommandTakes_data();
+    void shouldDescribeWhatACommandTakes();
+    void shouldKnowTheOptionsOfAllCommands();
+    void shouldNameTheFormatsThatAreConverted();
+};
+
+namespace {
+
+const QStringList pictureNames{QStringLiteral("expand"), QStringLiteral("size"),
+                               QStringLiteral("scale"), QStringLiteral("background"),
+                               QStringLiteral("look")};
+
+bool takes(const QCommandLineParser &parser, const QString &option)
+{
+    return parser.helpText().contains(QStringLiteral("--") + option);
+}
+
+} // namespace
+
+void TestCommandOptions::shouldDescribeWhatACommandTakes_data()
+{
+    QTest::addColumn<CommandLine::Command>("command");
+    QTest::addColumn<QStringList>("taken");
+    QTest::addColumn<QStringList>("refused");
+    const QString exporting = QStringLiteral("export");
+    const QString from = QStringLiteral("from");
+    const QString to = QStringLiteral("to ");
+    const QString strict = QStringLiteral("strict");
+    QTest::newRow("window") << CommandLine::Command::None << pictureNames + QStringList(exporting)
+                            << QStringList{from, to, strict};
+    QTest::newRow("convert") << CommandLine::Command::Convert
+                             << pictureNames + QStringList{from, to, strict}
+                             << QStringList(exporting);
+    QTest::newRow("info") << CommandLine::Command::Info << QStringList(from)
+                          << pictureNames + QStringList{exporting, to, strict};
+    QTest::newRow("report") << CommandLine::Command::Report << QStringList(from)
+                            << pictureNames + QStringList{exporting, to, strict};
+}
+
+void TestCommandOptions::shouldDescribeWhatACommandTakes()
+{
+    QFETCH(CommandLine::Command, command);
+    QFETCH(QStringList, taken);
+    QFETCH(QStringList, refused);
+    QCommandLineParser parser;
+    CommandOptions::describe(parser, command);
+    QVERIFY(!parser.applicationDescription().isEmpty());
+    taken += {QStringLiteral("help"), QStringLiteral("language")};
+    for (const QString &option : qAsConst(taken))
+        QVERIFY2(takes(parser, option), qPrintable(option));
+    for (const QString &option : qAsConst(refused))
+        QVERIFY2(!takes(parser, option), qPrintable(option));
+}
+
+void TestCommandOptions::shouldKnowTheOptionsOfAllCommands()
+{
+    QCommandLineParser parser;
+    CommandOptions::describeAll(parser);
+    QVERIFY(parser.parse({QStringLiteral("fishbone"), QStringLiteral("--from=md"),
+                          QStringLiteral("--to=json"), QStringLiteral("--strict"),
+                          QStringLiteral("--export=a.png"), QStringLiteral("--scale=2")}));
+    QVERIFY(parser.isSet(CommandOptions::forStrict()));
+    QCOMPARE(parser.value(CommandOptions::forFrom()), QStringLiteral("md"));
+    QCOMPARE(parser.value(CommandOptions::forTo()), QStringLiteral("json"));
+    QCOMPARE(parser.value(CommandOptions::forExport()), QStringLiteral("a.png"));
+    QCOMPARE(parser.value(CommandOptions::forPictures().at(2)), QStringLiteral("2"));
+}
+
+void TestCommandOptions::shouldNameTheFormatsThatAreConverted()
+{
+    QCommandLineParser parser;
+    CommandOptions::describe(parser, CommandLine::Command::Convert);
+    const QList<DiagramExchange::Format> formats = DiagramExchange::formats();
+    for (const DiagramExchange::Format format : formats)
+        QVERIFY(parser.applicationDescription().contains(DiagramExchange::id(format)));
+}
+
+FISHBONE_GUILESS_TEST(TestCommandOptions)
+#include "tst_commandoptions.moc"
