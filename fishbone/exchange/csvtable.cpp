@@ -33,11 +33,13 @@ QChar namedSeparator(const QString &text)
     return isNamed ? text.at(length - 1) : QChar();
 }
 
-/** The separator that the first line has most of outside of quotes. */
+/** The separator that the first line has most of outside of quotes: the usual ones, and those that
+ * a tracker offers beside them. */
 QChar separatorOf(const QString &text)
 {
-    const std::array<QChar, 3> separators{QLatin1Char(','), QLatin1Char(';'), QLatin1Char('\t')};
-    std::array<int, 3> counts{};
+    const std::array<QChar, 5> separators{QLatin1Char(','), QLatin1Char(';'), QLatin1Char('\t'),
+                                          QLatin1Char('|'), QLatin1Char('^')};
+    std::array<int, 5> counts{};
     bool isQuoted = false;
     for (const QChar c : text) {
         if (isLineEnd(c) && !isQuoted)

@@ -78,7 +78,7 @@ const RoleEntry entries[] = {
     {Role::Followers, QT_TRANSLATE_NOOP("TableMapping", "Followers"),
      "followers|watchers|collaborators|members|participants|subscribers|cc|cc list|关注者|关注人|"
      "参与人|参与者|协作者|成员|抄送|抄送给",
-     true},
+     false},
     {Role::Created, QT_TRANSLATE_NOOP("TableMapping", "Created"),
      "created|created at|created on|creation date|date created|created date|created time|opened at|"
      "opened|date raised|创建时间|创建日期|创建于|创建|提出时间|提出日期|提交时间",

@@ -98,8 +98,13 @@ QList<int> TaskCells::columnsOf(Role role) const
 
 QString TaskCells::text(const TaskTable::Row &row, int column) const
 {
-    const QString cell = row.cells.value(column);
-    return m_texts == TaskTable::Texts::Guarded ? CsvTable::unguarded(cell) : cell;
+    QString cell = row.cells.value(column);
+    if (m_texts != TaskTable::Texts::Guarded)
+        return cell;
+    if (!m_isOwn) // the line ends of a system are no part of what was written
+        cell.replace(QLatin1String("\r\n"), QLatin1String("\n"))
+            .replace(QLatin1Char('\r'), QLatin1Char('\n'));
+    return CsvTable::unguarded(cell);
 }
 
 /** Finds out whether dates such as 3/4/2024 begin with the day or with the month: all dates of a
@@ -180,9 +185,10 @@ bool TaskCells::applyCell(Role role, const QString &value, TreeItem &subject,
     if (role == Role::Followers) {
         const bool isForeign =
             heading != QLatin1String("followers") && !value.contains(QLatin1Char(';'));
-        static const QRegularExpression commas(QStringLiteral("\\s*,\\s*"));
-        subject.setFollowers(isForeign ? peopleIn(value).split(commas, Qt::SkipEmptyParts)
-                                       : SubjectAttributes::separated(value));
+        static const QRegularExpression ends(QStringLiteral("\\s*[,\n]\\s*"));
+        subject.setFollowers(subject.followers() +
+                             (isForeign ? peopleIn(value).split(ends, Qt::SkipEmptyParts)
+                                        : SubjectAttributes::separated(value)));
         return true;
     }
     if (textKey(role).size() == 0)

@@ -145,6 +145,10 @@ private:
     void readExtension(const QJsonObject &extension)
     {
         const QString provider = text(extension, "provider");
+        if (provider.startsWith(XmindNames::lookProvider)) {
+            m_tree.note(Kind::Appearance, provider);
+            return;
+        }
         const QJsonValue content = extension.value(QLatin1String("content"));
         const QJsonObject values = content.toObject();
         for (auto value = values.begin(); value != values.end(); ++value) {

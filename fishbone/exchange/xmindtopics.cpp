@@ -86,6 +86,12 @@ void XmindTopics::setNote(const QString &note)
         m_open.back().subject->setDetail(note);
 }
 
+void XmindTopics::setNoteIfNone(const QString &note)
+{
+    if (m_open.back().subject->detail().isEmpty())
+        setNote(note);
+}
+
 void XmindTopics::addMarker(const QString &marker)
 {
     if (!marker.isEmpty() && !applyMarker(marker))

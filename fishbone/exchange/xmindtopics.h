@@ -33,6 +33,7 @@ public:
     void setTitle(const QString &title);
     void setLink(const QString &link);
     void setNote(const QString &note);
+    void setNoteIfNone(const QString &note);
     void addMarker(const QString &marker);
     void addLabel(const QString &label);
     void addImage(const QString &source);
@@ -77,6 +78,8 @@ namespace XmindNames {
 
 /** Who keeps the fields of a subject in a topic. */
 inline const QLatin1String provider("fishbone");
+/** What keeps how many topics stand on which side. */
+inline const QLatin1String lookProvider("org.xmind.ui.map.");
 /** What the ids of topics begin with that stand for no uuid. */
 inline const QLatin1String noUuid("fishbone-");
 

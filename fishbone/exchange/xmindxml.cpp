@@ -4,6 +4,7 @@
 #include <fishbone/exchange/diagramexchange.h>
 #include <fishbone/exchange/importedtree.h>
 #include <fishbone/exchange/outlinewalk.h>
+#include <fishbone/exchange/richtext.h>
 #include <fishbone/exchange/subjectattributes.h>
 #include <fishbone/exchange/xmindparts.h>
 #include <fishbone/exchange/xmindtopics.h>
@@ -35,9 +36,8 @@ public:
             if (token == QXmlStreamReader::StartElement) {
                 if (!readElement())
                     return false;
-            } else if (token == QXmlStreamReader::EndElement &&
-                       m_xml.name() == QLatin1String("topic") && m_topics.depth() > 0) {
-                m_topics.close();
+            } else if (token == QXmlStreamReader::EndElement) {
+                endElement();
             }
         }
         m_topics.finish();
@@ -50,6 +50,24 @@ private:
         return m_xml.attributes().value(QLatin1String(name)).toString();
     }
 
+    void endElement()
+    {
+        if (m_xml.name() == QLatin1String("topic") && m_topics.depth() > 0)
+            m_topics.close();
+        if (m_xml.name() == QLatin1String("sheet"))
+            nameSheet();
+    }
+
+    /** Keeps the name of a sheet, which comes behind its topics, unless the first one says it. */
+    void nameSheet()
+    {
+        if (m_root && !m_sheetName.isEmpty() && m_sheetName != m_root->title())
+            m_tree.addNamedDetail(*m_root, DiagramExchange::tr("Sheet"), m_sheetName,
+                                  m_xml.lineNumber());
+        m_root = nullptr;
+        m_sheetName.clear();
+    }
+
     QString elementText() { return m_xml.readElementText(QXmlStreamReader::IncludeChildElements); }
 
     bool readElement()
@@ -59,6 +77,8 @@ private:
             return openTopic();
         if (name == QLatin1String("relationship"))
             readArrow();
+        else if (m_topics.depth() == 0 && name == QLatin1String("title"))
+            m_sheetName = elementText();
         else if (m_topics.depth() == 0)
             return true; // what holds the topics
         else
@@ -69,8 +89,11 @@ private:
     bool openTopic()
     {
         const QXmlStreamAttributes values = m_xml.attributes();
+        const bool isRoot = m_topics.depth() == 0;
         if (!m_topics.open(value("id"), m_xml.lineNumber()))
             return false;
+        if (isRoot)
+            m_root = m_tree.last();
         for (const QXmlStreamAttribute &attribute : values) {
             if (attribute.name() == QLatin1String("href"))
                 m_topics.setLink(attribute.value().toString());
@@ -111,6 +134,8 @@ private:
             m_topics.setTitle(elementText());
         else if (name == QLatin1String("plain"))
             m_topics.setNote(elementText());
+        else if (name == QLatin1String("html"))
+            readFormattedNote();
         else if (name == QLatin1String("label"))
             m_topics.addLabel(elementText());
         else if (name == QLatin1String("marker-ref"))
@@ -123,11 +148,22 @@ private:
             readExtension();
         else if (name == QLatin1String("extensions") || name == QLatin1String("boundaries"))
             return;
-        else if (name == QLatin1String("html") || name == QLatin1String("position") ||
-                 name == QLatin1String("summaries") || name == QLatin1String("numbering"))
-            leaveOut(Kind::Appearance); // a note is there as plain text too
+        else if (name == QLatin1String("position") || name == QLatin1String("summaries") ||
+                 name == QLatin1String("numbering"))
+            leaveOut(Kind::Appearance);
         else
             leaveOut(Kind::LeftOut);
+    }
+
+    /** A note is mostly there as plain text too, which counts. */
+    void readFormattedNote()
+    {
+        const RichText::Content content = RichText::read(m_xml);
+        m_topics.setNoteIfNone(content.text);
+        for (const QString &link : content.links)
+            m_topics.addDetail(DiagramExchange::tr("Link"), link);
+        for (const QString &image : content.images)
+            m_topics.addImage(image);
     }
 
     void addMarker()
@@ -157,13 +193,21 @@ private:
     void readExtension()
     {
         const bool isOwn = value("provider") == XmindNames::provider;
+        if (value("provider").startsWith(XmindNames::lookProvider)) {
+            leaveOut(Kind::Appearance);
+            return;
+        }
+        QString element;
         int depth = 1;
         while (depth > 0 && !m_xml.atEnd()) {
             const QXmlStreamReader::TokenType token = m_xml.readNext();
             depth += token == QXmlStreamReader::StartElement ? 1 : 0;
             depth -= token == QXmlStreamReader::EndElement ? 1 : 0;
+            if (token == QXmlStreamReader::Characters && !m_xml.isWhitespace())
+                m_topics.setTaskValue(element, m_xml.text().toString().trimmed());
             if (token != QXmlStreamReader::StartElement)
                 continue;
+            element = m_xml.name().toString();
             if (isOwn && m_xml.name() == QLatin1String("field")) {
                 const QString key = value("name");
                 m_topics.setOwn(key, elementText());
@@ -179,6 +223,8 @@ private:
     QXmlStreamReader &m_xml;
     ImportedTree &m_tree;
     XmindTopics m_topics;
+    const TreeItem *m_root = nullptr; ///< of the sheet
+    QString m_sheetName;
 };
 
 /** Writes a text; a carriage return has to be spelt out, or a reader would take it for a line feed.

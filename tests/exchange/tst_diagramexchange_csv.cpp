@@ -50,7 +50,8 @@ void TestDiagramExchangeCsv::shouldReadTrees_data()
     row("children first", "uuid,parent,title\n3,2,c\n2,1,b\n4,1,d\n1,,a\n", "a[b[c],d]");
     row("no parent is -1", "uuid,parent,title\n1,-1,a\n2,1,b\n", "a[b]");
     row("quotes", "title\n\"a \"\"b\"\", c\nd\"\n", "a \"b\", c\nd");
-    row("CRLF in quotes", "title\r\n\"a\r\nb\"\r\n", "a\r\nb");
+    row("CRLF in quotes", "uuid,parent,title\r\n1,,\"a\r\nb\"\r\n", "a\r\nb");
+    row("CRLF in quotes of others", "title\r\n\"a\r\nb\"\r\n", "a\nb");
     row("quotes within", "title\na\"b\n", "a\"b");
     row("capitals and blanks", " UUID , Parent,TITLE\n1,,a\n2,1,b", "a[b]");
     row("unknown columns", "x,title,uuid,y\n9,a,1,9\n", "a");

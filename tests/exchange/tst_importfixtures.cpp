@@ -118,6 +118,8 @@ class TestImportFixtures : public QObject
 private Q_SLOTS:
     void initTestCase();
     void shouldHaveTenFilesOfEachForeignFormat();
+    void shouldHaveTenFilesOfEachProgram_data();
+    void shouldHaveTenFilesOfEachProgram();
     void shouldExpectSomethingOfEachFile();
     void shouldReadWhatProgramsWrite_data();
     void shouldReadWhatProgramsWrite();
@@ -174,6 +176,36 @@ void TestImportFixtures::shouldHaveTenFilesOfEachForeignFormat()
         if (format != Format::Json && DiagramExchange::canRead(format))
             QVERIFY2(fixturesOf(format).size() >= 10, qPrintable(DiagramExchange::id(format)));
     }
+}
+
+/** The programs of which files come most; the names of their files begin with theirs. */
+void TestImportFixtures::shouldHaveTenFilesOfEachProgram_data()
+{
+    QTest::addColumn<Format>("format");
+    QTest::addColumn<QString>("program");
+    const std::pair<Format, const char *> programs[] = {
+        {Format::Csv, "asana excel github gitlab jira linear pivotal redmine trello"},
+        {Format::FreeMind, "freemind freeplane"},
+        {Format::Xmind, "xmind-8 zen"},
+    };
+    for (const auto &[format, names] : programs) {
+        const QStringList list = QString::fromLatin1(names).split(QLatin1Char(' '));
+        for (const QString &program : list)
+            QTest::newRow(qPrintable(DiagramExchange::id(format) + QLatin1Char(' ') + program))
+                << format << program;
+    }
+}
+
+void TestImportFixtures::shouldHaveTenFilesOfEachProgram()
+{
+    QFETCH(Format, format);
+    QFETCH(QString, program);
+    const QStringList files = fixturesOf(format);
+    const auto count = std::count_if(files.cbegin(), files.cend(), [&](const QString &name) {
+        return name.startsWith(program + QLatin1Char('-')) ||
+               name.startsWith(program + QLatin1Char('.'));
+    });
+    QVERIFY2(count >= 10, qPrintable(QString::number(count)));
 }
 
 void TestImportFixtures::shouldExpectSomethingOfEachFile()
