@@ -88,6 +88,7 @@ void ClearLayout::makeLabels(const ClearTree &tree, const ClearFonts &fonts, Cle
     ofHead.widens = true;
     ofHead.widest = headWidest;
     m_labels.reserve(std::size_t(tree.size()));
+    cache.beginLayout();
     for (int index = 0; index < tree.size(); ++index) {
         const ClearSubject &subject = tree.at(index);
         const int level = tree.level(index);

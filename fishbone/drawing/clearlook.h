@@ -13,7 +13,7 @@
 
 struct ClearSpear;
 struct ClearInk;
-class ClearSymbols;
+struct ClearSubjectLook;
 class ClearTree;
 class PictureSink;
 
@@ -70,8 +70,8 @@ public:
     bool isSettled() const override { return false; }
 
 private:
-    std::vector<ClearInk> inksOf(const ClearTree &tree, const std::vector<SpearItem *> &spears,
-                                 ClearSymbols &symbols) const;
+    std::vector<ClearInk> inksOf(const ClearTree &tree,
+                                 const std::vector<ClearSubjectLook> &looks) const;
     void paintHeader(QPainter &painter, const SpearItem &spear) const;
     void describeHead(PictureSink &sink, const SpearItem &spear, const ClearSpear &header) const;
     void describeTitle(PictureSink &sink, const SpearItem &spear, const ClearSpear &place) const;

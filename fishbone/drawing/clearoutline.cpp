@@ -130,39 +130,109 @@ qreal ClearSteps::clearance(const ClearSteps &upper, const ClearSteps &lower, qr
     return most;
 }
 
+/** A box as it is seen from one side. */
+struct ClearOutline::Seen
+{
+    qreal value; ///< how far it comes towards that side
+    qreal from;
+    qreal to;
+};
+
+namespace {
+/**
+ * What is seen at least of boxes, in cells of a line: how far those come that cover a whole cell.
+ * Most boxes are behind others everywhere, which this finds without sorting them.
+ */
+class SeenCells
+{
+public:
+    SeenCells(qreal from, qreal to, std::size_t boxes)
+        : m_from(from)
+        , m_width(std::max(narrowest, (to - from) / qreal(boxes)))
+        , m_cells(std::size_t((to - from) / m_width) + 2, -1e300)
+    {
+    }
+
+    /** Notes a box, but for one over many cells: those are few, and looking at them all is not. */
+    void add(qreal value, qreal from, qreal to)
+    {
+        const std::size_t last = at(to);
+        if (last - at(from) > mostCells)
+            return;
+        for (std::size_t cell = at(from) + 1; cell < last; ++cell)
+            m_cells[cell] = std::max(m_cells[cell], value);
+    }
+
+    /** Whether nothing is seen of a box, for certain. */
+    bool hides(qreal value, qreal from, qreal to) const
+    {
+        const std::size_t last = at(to);
+        if (last - at(from) > mostCells)
+            return false;
+        return std::all_of(m_cells.begin() + std::ptrdiff_t(at(from)),
+                           m_cells.begin() + std::ptrdiff_t(last) + 1,
+                           [value](qreal seen) { return seen > value; });
+    }
+
+private:
+    static constexpr qreal narrowest = 3;
+    static constexpr std::size_t mostCells = 32;
+
+    std::size_t at(qreal place) const { return std::size_t((place - m_from) / m_width); }
+
+    qreal m_from;
+    qreal m_width;
+    std::vector<qreal> m_cells;
+};
+} // namespace
+
+/** Gives @p steps what is seen of @p boxes, with -1 for @p sign from below. */
+void ClearOutline::see(std::vector<Seen> boxes, qreal sign, ClearSteps &steps)
+{
+    const auto begins = [](const Seen &a, const Seen &b) { return a.from < b.from; };
+    const auto ends = [](const Seen &a, const Seen &b) { return a.to < b.to; };
+    SeenCells cells(std::min_element(boxes.begin(), boxes.end(), begins)->from,
+                    std::max_element(boxes.begin(), boxes.end(), ends)->to, boxes.size());
+    for (const Seen &box : boxes)
+        cells.add(box.value, box.from, box.to);
+    m_work += boxes.size();
+    boxes.erase(std::remove_if(boxes.begin(), boxes.end(),
+                               [&](const Seen &b) { return cells.hides(b.value, b.from, b.to); }),
+                boxes.end());
+    std::sort(boxes.begin(), boxes.end(),
+              [](const Seen &a, const Seen &b) { return a.value > b.value; });
+    ClearSteps taken;
+    std::vector<std::pair<qreal, qreal>> free;
+    for (const Seen &box : boxes) {
+        free.clear();
+        taken.forEachGap(box.from, box.to,
+                         [&](qreal from, qreal to) { free.emplace_back(from, to); });
+        m_work += free.size() + 1;
+        for (const auto &[from, to] : free)
+            steps.insert(from, to, sign * box.value);
+        if (!free.empty())
+            taken.join(box.from, box.to);
+    }
+    m_covered = std::move(taken);
+}
+
 ClearOutline ClearOutline::ofBoxes(const std::vector<ClearBox> &boxes, qreal margin)
 {
-    // In the order in which the boxes show, each only gets what is not taken yet.
     ClearOutline outline;
-    std::vector<const ClearBox *> order;
-    order.reserve(boxes.size());
-    for (const ClearBox &box : boxes)
-        order.push_back(&box);
-    const auto fill = [&](ClearSteps &steps, auto value) {
-        ClearSteps taken;
-        std::vector<std::pair<qreal, qreal>> free;
-        for (const ClearBox *box : order) {
-            free.clear();
-            taken.forEachGap(box->from - margin, box->to + margin,
-                             [&](qreal from, qreal to) { free.emplace_back(from, to); });
-            outline.m_work += free.size() + 1;
-            for (const auto &[from, to] : free)
-                steps.insert(from, to, value(*box));
-            if (!free.empty())
-                taken.join(box->from - margin, box->to + margin);
-        }
-        outline.m_covered = std::move(taken);
-    };
-    std::sort(order.begin(), order.end(),
-              [](const ClearBox *a, const ClearBox *b) { return a->high > b->high; });
-    fill(outline.m_upper, [](const ClearBox &box) { return box.high; });
-    std::sort(order.begin(), order.end(),
-              [](const ClearBox *a, const ClearBox *b) { return a->low < b->low; });
-    fill(outline.m_lower, [](const ClearBox &box) { return box.low; });
+    if (boxes.empty())
+        return outline;
+    std::vector<Seen> above;
+    std::vector<Seen> below;
+    above.reserve(boxes.size());
+    below.reserve(boxes.size());
     for (const ClearBox &box : boxes) {
+        above.push_back({box.high, box.from - margin, box.to + margin});
+        below.push_back({-box.low, box.from - margin, box.to + margin});
         outline.m_start = std::min(outline.m_start, box.from);
         outline.m_bottom = std::min(outline.m_bottom, box.low);
     }
+    outline.see(std::move(above), 1, outline.m_upper);
+    outline.see(std::move(below), -1, outline.m_lower);
     return outline;
 }
 

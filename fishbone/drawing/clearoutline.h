@@ -143,6 +143,9 @@ public:
     quint64 work() const { return m_work; }
 
 private:
+    struct Seen;
+
+    void see(std::vector<Seen> boxes, qreal sign, ClearSteps &steps);
     void moveAll(qreal along, qreal across);
     void stackSmall(const ClearOutline &shape);
     void slipUnder(const ClearOutline &shape);

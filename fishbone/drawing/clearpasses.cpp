@@ -5,10 +5,9 @@
 
 #include <fishbone/drawing/clearlook.h>
 
-#include <unordered_set>
-
 #include <QApplication>
 
+#include <fishbone/base/prefetch.h>
 #include <fishbone/drawing/clearcontent.h>
 #include <fishbone/drawing/clearspear.h>
 #include <fishbone/drawing/speartree.h>
@@ -47,29 +46,78 @@ ClearSubject subjectOf(const SpearItem &spear, int parent)
     return subject;
 }
 
+ClearSubjectLook lookOf(const SpearItem &spear)
+{
+    return spear.treeItem() ? ClearSubjectLook::of(*spear.treeItem()) : ClearSubjectLook();
+}
+
 /** The spears that are shown, in document order, and what the layout has to know of them. */
 struct Shown
 {
     std::vector<SpearItem *> spears;
     std::vector<ClearSubject> subjects;
+    std::vector<ClearSubjectLook> looks;
+    std::vector<SpearItem *> hidden; ///< those that are not shown, parents first
 
-    explicit Shown(SpearItem *head)
+    explicit Shown(const SpearTree &tree)
     {
-        std::vector<std::pair<SpearItem *, int>> pending{{head, -1}};
-        while (!pending.empty()) {
-            const auto [spear, parent] = pending.back();
-            pending.pop_back();
-            const int index = int(spears.size());
-            spears.push_back(spear);
-            subjects.push_back(subjectOf(*spear, parent));
-            if (!spear->isExpand())
-                continue;
-            const QList<SpearItem *> &children = spear->knownChildSpears();
-            for (auto child = children.crbegin(); child != children.crend(); ++child)
-                pending.emplace_back(*child, index);
+        const std::vector<int> parents = order(tree);
+        subjects.reserve(spears.size());
+        looks.reserve(spears.size());
+        for (std::size_t i = 0; i < spears.size(); ++i) {
+            SpearTree::prefetchMovedAfter(spears, i);
+            subjects.push_back(subjectOf(*spears[i], parents[i]));
+            looks.push_back(lookOf(*spears[i]));
         }
     }
+
+private:
+    /** Fills in the spears and returns the places of their parents. */
+    std::vector<int> order(const SpearTree &tree)
+    {
+        const std::vector<SpearTree::Entry> &entries = tree.entries();
+        std::vector<int> parents;
+        std::vector<bool> isShown(entries.size());
+        std::vector<std::pair<int, int>> pending{{0, -1}};
+        spears.reserve(entries.size());
+        parents.reserve(entries.size());
+        while (!pending.empty()) {
+            const auto [place, parent] = pending.back();
+            pending.pop_back();
+            const SpearTree::Entry &entry = entries[std::size_t(place)];
+            const int index = int(spears.size());
+            spears.push_back(entry.spear);
+            parents.push_back(parent);
+            isShown[std::size_t(place)] = true;
+            if (!entry.spear->isExpand())
+                continue;
+            for (int row = entry.childCount - 1; row >= 0; --row) {
+                pending.emplace_back(entry.firstChild + row, index);
+                prefetch(tree.child(entry, row).spear, int(sizeof(SpearItem)));
+            }
+        }
+        for (std::size_t place = 0; place < entries.size(); ++place) {
+            if (!isShown[place])
+                hidden.push_back(entries[place].spear);
+        }
+        return parents;
+    }
 };
+
+/** The symbols that the bones of @p tree show. */
+std::vector<ClearMeaning> symbolsOf(const Shown &shown, const ClearTree &tree)
+{
+    ClearSymbols symbols;
+    for (int index = 0; index < tree.size(); ++index) {
+        const TreeItem *const subject = shown.spears[std::size_t(index)]->treeItem();
+        if (!subject)
+            continue;
+        ClearSubjectLook look = shown.looks[std::size_t(index)];
+        look.icon = ClearSubjectLook::iconOf(*subject);
+        symbols.add(*subject, look, tree.level(index));
+    }
+    return symbols.all();
+}
 
 std::unique_ptr<const ClearFrame> frameOf(const ClearLayout &layout,
                                           std::vector<ClearMeaning> symbols)
@@ -83,12 +131,13 @@ std::unique_ptr<const ClearFrame> frameOf(const ClearLayout &layout,
     return frame;
 }
 
-/** Gives @p spear its place; one that stands there already is not touched. */
+/** Gives @p spear its place, null for none; one that stands there already is not touched. */
 void give(SpearItem *spear, std::unique_ptr<const ClearSpear> place)
 {
     const ClearSpear *const former = ClearSpear::of(*spear);
-    if (!former || !(*former == *place))
+    if (!former || !place || !(*former == *place))
         spear->setLookData(std::move(place));
+    SpearPasses::place(*spear, spear->parentSpear());
 }
 
 std::vector<QString> textsOf(const std::vector<ClearMeaning> &symbols)
@@ -105,61 +154,48 @@ void ClearLook::size(const SpearTree &tree) const
     Q_UNUSED(tree) // the texts are measured where they are packed
 }
 
-/** The colours of the bones of @p tree, and the symbols that they show. */
+/** The colours of the bones of @p tree. */
 std::vector<ClearInk> ClearLook::inksOf(const ClearTree &tree,
-                                        const std::vector<SpearItem *> &spears,
-                                        ClearSymbols &symbols) const
+                                        const std::vector<ClearSubjectLook> &looks) const
 {
     std::vector<ClearInk> inks;
-    inks.reserve(spears.size());
+    inks.reserve(looks.size());
     int category = -1;
     for (int index = 0; index < tree.size(); ++index) {
-        const TreeItem *const subject = spears[std::size_t(index)]->treeItem();
-        ClearSubjectLook look = subject ? ClearSubjectLook::of(*subject) : ClearSubjectLook();
-        if (subject && m_options.hasLegend)
-            look.icon = ClearSubjectLook::iconOf(*subject);
         const int level = tree.level(index);
         category += level == 1 ? 1 : 0;
         const int parent = tree.at(index).parent;
-        inks.push_back(ClearInk::of(look, level, category,
+        inks.push_back(ClearInk::of(looks[std::size_t(index)], level, category,
                                     parent < 0 ? QColor() : inks[std::size_t(parent)].colour,
                                     m_colors));
-        if (subject && m_options.hasLegend)
-            symbols.add(*subject, look, level);
     }
     return inks;
 }
 
 void ClearLook::place(const SpearTree &tree) const
 {
-    const Shown shown(tree.head().spear);
-    const ClearTree subjects(shown.subjects);
-    ClearSymbols used;
-    const std::vector<ClearInk> inks = inksOf(subjects, shown.spears, used);
+    Shown shown(tree);
+    const ClearTree subjects(std::move(shown.subjects));
+    const std::vector<ClearInk> inks = inksOf(subjects, shown.looks);
     std::vector<ClearMeaning> symbols;
     if (m_options.hasLegend)
-        symbols = used.all();
+        symbols = symbolsOf(shown, subjects);
     const ClearLayout layout(subjects, ClearFonts::ofTheUser(), ClearOptions::of(m_options),
                              m_texts, textsOf(symbols), m_packed);
     m_texts.forgetUnused();
-    const std::unordered_set<const SpearItem *> seen(shown.spears.cbegin(), shown.spears.cend());
-    for (const SpearTree::Entry &entry : tree.entries()) {
-        if (seen.count(entry.spear) == 0)
-            entry.spear->setLookData(nullptr);
-    }
     for (std::size_t i = 0; i < shown.spears.size(); ++i) {
+        SpearTree::prefetchMovedAfter(shown.spears, i);
         auto place = std::make_unique<ClearSpear>();
         place->bone = layout.bone(int(i));
         place->ink = inks[i];
         place->extent = i == 0 ? layout.bounds() : layout.extent(int(i));
-        place->hidden = shown.subjects[i].hidden;
+        place->hidden = subjects.at(int(i)).hidden;
         if (i == 0)
             place->frame = frameOf(layout, symbols);
         give(shown.spears[i], std::move(place));
     }
-    for (std::size_t place = 0; place < tree.entries().size(); ++place) {
-        tree.prefetchMovedAfter(place);
-        SpearItem *const spear = tree.entries()[place].spear;
-        SpearPasses::place(*spear, spear->parentSpear());
+    for (std::size_t i = 0; i < shown.hidden.size(); ++i) {
+        SpearTree::prefetchMovedAfter(shown.hidden, i);
+        give(shown.hidden[i], nullptr);
     }
 }

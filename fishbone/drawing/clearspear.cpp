@@ -3,6 +3,8 @@
 
 #include <fishbone/drawing/clearspear.h>
 
+#include <typeinfo>
+
 #include <fishbone/items/spearitem.h>
 
 namespace {
@@ -16,7 +18,10 @@ bool isSame(const std::unique_ptr<const ClearFrame> &a, const std::unique_ptr<co
 
 const ClearSpear *ClearSpear::of(const SpearItem &spear)
 {
-    return dynamic_cast<const ClearSpear *>(spear.lookData());
+    // Asked several times a bone: comparing types is all that is needed of a last class.
+    const SpearLookData *const data = spear.lookData();
+    return data && typeid(*data) == typeid(ClearSpear) ? static_cast<const ClearSpear *>(data)
+                                                       : nullptr;
 }
 
 bool ClearSpear::operator==(const ClearSpear &other) const

@@ -30,7 +30,7 @@ struct ClearFrame
 };
 
 /** Where a spear and its companions stand in the clear look. */
-struct ClearSpear : SpearLookData
+struct ClearSpear final : SpearLookData
 {
     ClearLayout::Bone bone;
     ClearInk ink;                            ///< of its normal state

@@ -109,12 +109,26 @@ int ClearTextCache::indexOf(const ClearFont &font)
     return int(m_fonts.size()) - 1;
 }
 
+ClearTextCache::Texts::value_type &ClearTextCache::find(const QString &title, int font,
+                                                        const ClearWrap &wrap)
+{
+    if (m_next < m_before.size() && m_before[m_next]->first.isOf(title, font, wrap))
+        return *m_before[m_next++];
+    const auto [found, isNew] = m_texts.try_emplace(Key{title, font, wrap});
+    if (!isNew) // those behind it are likely to follow it again
+        m_next = found->second.place + 1;
+    return *found;
+}
+
 std::shared_ptr<const ClearText> ClearTextCache::text(const QString &title, const ClearFont &font,
                                                       const ClearWrap &wrap)
 {
     const int index = indexOf(font);
-    Entry &entry = m_texts[Key{title, index, wrap}];
+    Texts::value_type &found = find(title, index, wrap);
+    Entry &entry = found.second;
     entry.lastUse = m_use;
+    entry.place = m_now.size();
+    m_now.push_back(&found);
     if (!entry.text) {
         QHash<QString, qreal> &widths = m_fonts[std::size_t(index)].widths;
         if (widths.size() > widthsKept)
@@ -125,11 +139,21 @@ std::shared_ptr<const ClearText> ClearTextCache::text(const QString &title, cons
     return entry.text;
 }
 
+void ClearTextCache::beginLayout()
+{
+    m_before.swap(m_now);
+    m_now.clear();
+    m_next = 0;
+}
+
 void ClearTextCache::forgetUnused()
 {
     ++m_use;
-    if (m_texts.size() < textsKept)
+    // What this layout asked for is kept: looking for the rest pays where there may be much of it.
+    if (m_texts.size() < textsKept || m_texts.size() < 2 * m_now.size())
         return;
+    m_before.clear();
+    m_now.clear();
     for (auto each = m_texts.begin(); each != m_texts.end();)
         each = each->second.lastUse < m_use - 1 ? m_texts.erase(each) : std::next(each);
 }

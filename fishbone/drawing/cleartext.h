@@ -113,7 +113,13 @@ public:
     std::shared_ptr<const ClearText> text(const QString &title, const ClearFont &font,
                                           const ClearWrap &wrap);
 
-    /** Forgets what was not asked for since the last call but one, once there is much of it. */
+    /**
+     * Begins a layout. Texts that it asks for in the order of the one before are found at once,
+     * without a look at their letters.
+     */
+    void beginLayout();
+    /** Forgets what was not asked for since the last call but one, once that may be more than half
+     * of much. */
     void forgetUnused();
 
     /** How many texts were broken into lines so far. */
@@ -126,10 +132,11 @@ private:
         int font;
         ClearWrap wrap;
 
-        bool operator==(const Key &o) const
+        bool isOf(const QString &itsTitle, int itsFont, const ClearWrap &itsWrap) const
         {
-            return font == o.font && wrap == o.wrap && title == o.title;
+            return font == itsFont && wrap == itsWrap && title == itsTitle;
         }
+        bool operator==(const Key &o) const { return isOf(o.title, o.font, o.wrap); }
     };
     struct KeyHash
     {
@@ -142,6 +149,7 @@ private:
     struct Entry
     {
         std::shared_ptr<const ClearText> text;
+        std::size_t place = 0; ///< in the order of the layout that asked for it last
         int lastUse = 0;
     };
     struct FontWidths
@@ -150,10 +158,16 @@ private:
         QHash<QString, qreal> widths;
     };
 
+    using Texts = std::unordered_map<Key, Entry, KeyHash>;
+
     int indexOf(const ClearFont &font);
+    Texts::value_type &find(const QString &title, int font, const ClearWrap &wrap);
 
     std::vector<FontWidths> m_fonts;
-    std::unordered_map<Key, Entry, KeyHash> m_texts;
+    Texts m_texts;
+    std::vector<Texts::value_type *> m_before; ///< as the layout before asked for them
+    std::vector<Texts::value_type *> m_now;    ///< and this one so far
+    std::size_t m_next = 0;                    ///< where in the former the next one is expected
     int m_use = 0;
     int m_layouts = 0;
 };

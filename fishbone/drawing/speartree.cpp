@@ -10,6 +10,18 @@
 namespace {
 constexpr std::size_t ahead = 8; ///< spears that are fetched while others are looked at
 constexpr std::size_t step = 4;  ///< between a spear, its parts and what is behind these
+
+/** Fetches what is looked at after @p place of @p count spears, which @p spearAt has. */
+template <typename SpearAt>
+void fetchAfter(std::size_t place, std::size_t count, SpearAt spearAt)
+{
+    if (place + 3 * step < count)
+        prefetch(&spearAt(place + 3 * step), int(sizeof(SpearItem)));
+    if (place + 2 * step < count)
+        SpearPasses::prefetchParts(spearAt(place + 2 * step));
+    if (place + step < count)
+        SpearPasses::prefetchInsides(spearAt(place + step));
+}
 } // namespace
 
 SpearTree::SpearTree(SpearItem *head)
@@ -29,12 +41,8 @@ SpearTree::SpearTree(SpearItem *head)
 
 void SpearTree::prefetchAfter(std::size_t place) const
 {
-    if (place + 3 * step < m_entries.size())
-        prefetch(m_entries[place + 3 * step].spear, int(sizeof(SpearItem)));
-    if (place + 2 * step < m_entries.size())
-        SpearPasses::prefetchParts(*m_entries[place + 2 * step].spear);
-    if (place + step < m_entries.size())
-        SpearPasses::prefetchInsides(*m_entries[place + step].spear);
+    fetchAfter(place, m_entries.size(),
+               [this](std::size_t at) -> SpearItem & { return *m_entries[at].spear; });
 }
 
 void SpearTree::prefetchMovedAfter(std::size_t place) const
@@ -42,6 +50,14 @@ void SpearTree::prefetchMovedAfter(std::size_t place) const
     prefetchAfter(place);
     if (place + step < m_entries.size())
         SpearPasses::prefetchListeners(*m_entries[place + step].spear);
+}
+
+void SpearTree::prefetchMovedAfter(const std::vector<SpearItem *> &spears, std::size_t place)
+{
+    fetchAfter(place, spears.size(),
+               [&spears](std::size_t at) -> SpearItem & { return *spears[at]; });
+    if (place + step < spears.size())
+        SpearPasses::prefetchListeners(*spears[place + step]);
 }
 
 void SpearTree::prefetchTextsAround(std::size_t place) const

@@ -35,6 +35,8 @@ public:
     void prefetchAfter(std::size_t place) const;
     /** The same where spears and companions are moved, which those are told who listen. */
     void prefetchMovedAfter(std::size_t place) const;
+    /** The same for a pass through @p spears, which are some of the tree in another order. */
+    static void prefetchMovedAfter(const std::vector<SpearItem *> &spears, std::size_t place);
     /** The same on both sides of @p place where spears and text boxes alone are looked at. */
     void prefetchTextsAround(std::size_t place) const;
 

@@ -17,6 +17,7 @@
 
 namespace {
 constexpr int itemPrivateSize = 320; ///< what the toolkit keeps of a line, about
+constexpr int lookDataSize = 512;    ///< what a look keeps of a spear, about
 } // namespace
 
 void SpearItem::setLine(const QLineF &line)
@@ -54,6 +55,7 @@ void SpearItem::prefetchParts() const
     prefetch(m_statusItem, int(sizeof(TaskStatusItem)));
     prefetch(m_linkItem, int(sizeof(LinkItem)));
     prefetch(m_expandBuddy, int(sizeof(ExpandItem)));
+    prefetch(m_lookData.get(), lookDataSize);
 }
 
 void SpearItem::prefetchInsides() const
