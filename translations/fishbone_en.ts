@@ -76,6 +76,92 @@
     </message>
 </context>
 <context>
+    <name>ActionList</name>
+    <message>
+        <source>no date</source>
+        <translation>no date</translation>
+    </message>
+    <message>
+        <source>Change who is responsible</source>
+        <translation>Change who is responsible</translation>
+    </message>
+    <message>
+        <source>Change planned end</source>
+        <translation>Change planned end</translation>
+    </message>
+    <message>
+        <source>Change status</source>
+        <translation>Change status</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Rename</translation>
+    </message>
+    <message>
+        <source>Actions</source>
+        <translation>Actions</translation>
+    </message>
+    <message>
+        <source>Cause</source>
+        <translation>Cause</translation>
+    </message>
+    <message>
+        <source>Responsible</source>
+        <translation>Responsible</translation>
+    </message>
+    <message>
+        <source>Until</source>
+        <translation>Until</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Status</translation>
+    </message>
+    <message>
+        <source>%1, overdue</source>
+        <translation>%1, overdue</translation>
+    </message>
+    <message>
+        <source>Nobody yet</source>
+        <translation>Nobody yet</translation>
+    </message>
+    <message>
+        <source>No status</source>
+        <translation>No status</translation>
+    </message>
+</context>
+<context>
+    <name>ActionsPanel</name>
+    <message>
+        <source>Write to a file…</source>
+        <translation>Write to a file…</translation>
+    </message>
+    <message>
+        <source>Actions</source>
+        <translation>Actions</translation>
+    </message>
+    <message>
+        <source>Ranked causes</source>
+        <translation>Ranked causes</translation>
+    </message>
+    <message>
+        <source>Grouped by</source>
+        <translation>Grouped by</translation>
+    </message>
+    <message>
+        <source>In one list</source>
+        <translation>In one list</translation>
+    </message>
+    <message>
+        <source>By person</source>
+        <translation>By person</translation>
+    </message>
+    <message>
+        <source>By status</source>
+        <translation>By status</translation>
+    </message>
+</context>
+<context>
     <name>AutosaveStatus</name>
     <message>
         <source>Autosaved at %1</source>
@@ -1077,14 +1163,6 @@ The ending .html, .pdf or .md tells the format; .md has its picture in a file be
     <message>
         <source>Copy &amp;path</source>
         <translation>Copy &amp;path</translation>
-    </message>
-    <message>
-        <source>Scroll left</source>
-        <translation>Scroll left</translation>
-    </message>
-    <message>
-        <source>Scroll right</source>
-        <translation>Scroll right</translation>
     </message>
     <message>
         <source>Close</source>
@@ -2142,6 +2220,10 @@ Do you want to save your changes?</translation>
         <source>Filt&amp;er…</source>
         <translation>Filt&amp;er…</translation>
     </message>
+    <message>
+        <source>Actions</source>
+        <translation>Actions</translation>
+    </message>
 </context>
 <context>
     <name>MappingDialog</name>
@@ -2513,6 +2595,26 @@ Do you want to save your changes?</translation>
     <message>
         <source>its name must end in .html, .pdf or .md</source>
         <translation>its name must end in .html, .pdf or .md</translation>
+    </message>
+    <message>
+        <source>In</source>
+        <translation>In</translation>
+    </message>
+    <message>
+        <source>Responsible</source>
+        <translation>Responsible</translation>
+    </message>
+    <message>
+        <source>Overdue</source>
+        <translation>Overdue</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>yes</translation>
+    </message>
+    <message>
+        <source>its name must end in .csv or .md</source>
+        <translation>its name must end in .csv or .md</translation>
     </message>
 </context>
 <context>
@@ -3006,6 +3108,29 @@ Do you want to save your changes?</translation>
     </message>
 </context>
 <context>
+    <name>RankedList</name>
+    <message>
+        <source>Ranked causes</source>
+        <translation>Ranked causes</translation>
+    </message>
+    <message>
+        <source>Votes</source>
+        <translation>Votes</translation>
+    </message>
+    <message>
+        <source>Cause</source>
+        <translation>Cause</translation>
+    </message>
+    <message>
+        <source>Verdict</source>
+        <translation>Verdict</translation>
+    </message>
+    <message>
+        <source>In</source>
+        <translation>In</translation>
+    </message>
+</context>
+<context>
     <name>RecentFiles</name>
     <message>
         <source>&amp;Recent files</source>
@@ -3185,6 +3310,22 @@ Do you want to save your changes?</translation>
         <source>%1 cannot be written: %2.</source>
         <translation>%1 cannot be written: %2.</translation>
     </message>
+    <message>
+        <source>Actions</source>
+        <translation>Actions</translation>
+    </message>
+    <message>
+        <source>actions</source>
+        <translation>actions</translation>
+    </message>
+    <message>
+        <source>Table for spreadsheets (*.csv)</source>
+        <translation>Table for spreadsheets (*.csv)</translation>
+    </message>
+    <message>
+        <source>Ta&amp;ble of actions…</source>
+        <translation>Ta&amp;ble of actions…</translation>
+    </message>
 </context>
 <context>
     <name>SlideExport</name>
@@ -3329,6 +3470,17 @@ Do you want to save your changes?</translation>
     <message>
         <source>Documents</source>
         <translation>Documents</translation>
+    </message>
+</context>
+<context>
+    <name>TabButtons</name>
+    <message>
+        <source>Scroll left</source>
+        <translation>Scroll left</translation>
+    </message>
+    <message>
+        <source>Scroll right</source>
+        <translation>Scroll right</translation>
     </message>
 </context>
 <context>

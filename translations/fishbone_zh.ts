@@ -76,6 +76,92 @@
     </message>
 </context>
 <context>
+    <name>ActionList</name>
+    <message>
+        <source>no date</source>
+        <translation>无日期</translation>
+    </message>
+    <message>
+        <source>Change who is responsible</source>
+        <translation>更改负责人</translation>
+    </message>
+    <message>
+        <source>Change planned end</source>
+        <translation>更改计划完成日期</translation>
+    </message>
+    <message>
+        <source>Change status</source>
+        <translation>更改状态</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>重命名</translation>
+    </message>
+    <message>
+        <source>Actions</source>
+        <translation>待办事项</translation>
+    </message>
+    <message>
+        <source>Cause</source>
+        <translation>原因</translation>
+    </message>
+    <message>
+        <source>Responsible</source>
+        <translation>负责人</translation>
+    </message>
+    <message>
+        <source>Until</source>
+        <translation>截止</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>状态</translation>
+    </message>
+    <message>
+        <source>%1, overdue</source>
+        <translation>%1,已逾期</translation>
+    </message>
+    <message>
+        <source>Nobody yet</source>
+        <translation>尚无人负责</translation>
+    </message>
+    <message>
+        <source>No status</source>
+        <translation>无状态</translation>
+    </message>
+</context>
+<context>
+    <name>ActionsPanel</name>
+    <message>
+        <source>Write to a file…</source>
+        <translation>写入文件…</translation>
+    </message>
+    <message>
+        <source>Actions</source>
+        <translation>待办事项</translation>
+    </message>
+    <message>
+        <source>Ranked causes</source>
+        <translation>原因排名</translation>
+    </message>
+    <message>
+        <source>Grouped by</source>
+        <translation>分组方式</translation>
+    </message>
+    <message>
+        <source>In one list</source>
+        <translation>不分组</translation>
+    </message>
+    <message>
+        <source>By person</source>
+        <translation>按人员</translation>
+    </message>
+    <message>
+        <source>By status</source>
+        <translation>按状态</translation>
+    </message>
+</context>
+<context>
     <name>AutosaveStatus</name>
     <message>
         <source>Autosaved at %1</source>
@@ -1072,14 +1158,6 @@ The ending .html, .pdf or .md tells the format; .md has its picture in a file be
     <message>
         <source>Copy &amp;path</source>
         <translation>复制路径(&amp;P)</translation>
-    </message>
-    <message>
-        <source>Scroll left</source>
-        <translation>向左滚动</translation>
-    </message>
-    <message>
-        <source>Scroll right</source>
-        <translation>向右滚动</translation>
     </message>
     <message>
         <source>Close</source>
@@ -2133,6 +2211,10 @@ Do you want to save your changes?</source>
         <source>Filt&amp;er…</source>
         <translation>筛选(&amp;E)…</translation>
     </message>
+    <message>
+        <source>Actions</source>
+        <translation>待办事项</translation>
+    </message>
 </context>
 <context>
     <name>MappingDialog</name>
@@ -2504,6 +2586,26 @@ Do you want to save your changes?</source>
     <message>
         <source>its name must end in .html, .pdf or .md</source>
         <translation>名称必须以 .html、.pdf 或 .md 结尾</translation>
+    </message>
+    <message>
+        <source>In</source>
+        <translation>所在</translation>
+    </message>
+    <message>
+        <source>Responsible</source>
+        <translation>负责人</translation>
+    </message>
+    <message>
+        <source>Overdue</source>
+        <translation>逾期</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>是</translation>
+    </message>
+    <message>
+        <source>its name must end in .csv or .md</source>
+        <translation>文件名必须以 .csv 或 .md 结尾</translation>
     </message>
 </context>
 <context>
@@ -2995,6 +3097,29 @@ Do you want to save your changes?</source>
     </message>
 </context>
 <context>
+    <name>RankedList</name>
+    <message>
+        <source>Ranked causes</source>
+        <translation>原因排名</translation>
+    </message>
+    <message>
+        <source>Votes</source>
+        <translation>票数</translation>
+    </message>
+    <message>
+        <source>Cause</source>
+        <translation>原因</translation>
+    </message>
+    <message>
+        <source>Verdict</source>
+        <translation>结论</translation>
+    </message>
+    <message>
+        <source>In</source>
+        <translation>所在</translation>
+    </message>
+</context>
+<context>
     <name>RecentFiles</name>
     <message>
         <source>&amp;Recent files</source>
@@ -3173,6 +3298,22 @@ Do you want to save your changes?</source>
         <source>%1 cannot be written: %2.</source>
         <translation>无法写入 %1：%2。</translation>
     </message>
+    <message>
+        <source>Actions</source>
+        <translation>待办事项</translation>
+    </message>
+    <message>
+        <source>actions</source>
+        <translation>待办</translation>
+    </message>
+    <message>
+        <source>Table for spreadsheets (*.csv)</source>
+        <translation>电子表格 (*.csv)</translation>
+    </message>
+    <message>
+        <source>Ta&amp;ble of actions…</source>
+        <translation>待办事项表(&amp;B)…</translation>
+    </message>
 </context>
 <context>
     <name>SlideExport</name>
@@ -3317,6 +3458,17 @@ Do you want to save your changes?</source>
     <message>
         <source>Documents</source>
         <translation>文档</translation>
+    </message>
+</context>
+<context>
+    <name>TabButtons</name>
+    <message>
+        <source>Scroll left</source>
+        <translation>向左滚动</translation>
+    </message>
+    <message>
+        <source>Scroll right</source>
+        <translation>向右滚动</translation>
     </message>
 </context>
 <context>

@@ -47,3 +47,12 @@ QString People::spelled(const QString &typed) const
     });
     return same != known.cend() ? *same : typed;
 }
+
+void People::makeResponsible(TreeItem &subject, const QString &typed) const
+{
+    const QString name = spelled(typed.trimmed());
+    if (subject.managerName() == name)
+        return; // whose id may be another than the one that is known of that name
+    subject.setManagerName(name);
+    subject.setManagerId(idOf(name));
+}

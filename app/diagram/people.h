@@ -25,6 +25,9 @@ public:
     /** The id that goes with @p name; empty when none is known. */
     QString idOf(const QString &name) const { return m_ids.value(name); }
 
+    /** Makes the one whom @p typed names responsible for @p subject; nobody when it is empty. */
+    void makeResponsible(TreeItem &subject, const QString &typed) const;
+
 private:
     void add(const QString &name, const QString &id = QString());
 

@@ -4,6 +4,7 @@
 #include <app/documents/documenttabs.h>
 
 #include <app/common/language.h>
+#include <app/common/tabbuttons.h>
 #include <app/diagram/diagramsession.h>
 #include <app/documents/documenttab.h>
 
@@ -20,7 +21,6 @@
 #include <QStyle>
 #include <QTabBar>
 #include <QTabWidget>
-#include <QToolButton>
 
 DocumentTabs::DocumentTabs(CanvasTheme *theme, QWidget *parent)
     : QStackedWidget(parent)
@@ -46,7 +46,7 @@ DocumentTabs::DocumentTabs(CanvasTheme *theme, QWidget *parent)
             [this](int position) { Q_EMIT closeRequested({tabAt(position)}); });
     connect(m_tabs, &QTabWidget::currentChanged, this, &DocumentTabs::follow);
     Language::bind(this, [this] {
-        nameScrollButtons();
+        TabButtons::name(*m_tabs);
         refresh();
     });
 }
@@ -172,17 +172,6 @@ void DocumentTabs::follow()
         return;
     m_shown = tab;
     Q_EMIT currentChanged(tab);
-}
-
-/** The toolkit names these once and for all, as it does the buttons that close tabs. */
-void DocumentTabs::nameScrollButtons()
-{
-    const auto name = [this](const char *button, const QString &text) {
-        if (auto *const found = m_tabs->findChild<QToolButton *>(QLatin1String(button)))
-            found->setAccessibleName(text);
-    };
-    name("ScrollLeftButton", tr("Scroll left"));
-    name("ScrollRightButton", tr("Scroll right"));
 }
 
 void DocumentTabs::refresh()

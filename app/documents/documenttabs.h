@@ -63,7 +63,6 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    void nameScrollButtons();
     DocumentTab *insert(int position, FishInfo *document);
     DocumentTab *tabAt(int position) const;
     void showContextMenu(const QPoint &pos);

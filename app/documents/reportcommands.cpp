@@ -28,33 +28,59 @@ ReportCommands::ReportCommands(DocumentTabs *tabs, ActionSet *actions, QWidget *
 {
     actions->add(
         QStringLiteral("report"), [] { return tr("Meetin&g report…"); }, {},
-        ActionSet::Scope::Window, [this] { write(); });
+        ActionSet::Scope::Window,
+        [this] {
+            write(tr("Meeting report"), &ReportCommands::chosenReport, &MeetingReport::write);
+        });
+    actions->add(
+        QStringLiteral("exportActions"), [] { return tr("Ta&ble of actions…"); }, {},
+        ActionSet::Scope::Window,
+        [this] {
+            write(tr("Actions"), &ReportCommands::chosenList, &MeetingReport::writeActions);
+        });
 }
 
 void ReportCommands::updateActions()
 {
-    m_actions->action(QStringLiteral("report"))->setEnabled(m_tabs->current()->document());
+    for (const char *name : {"report", "exportActions"})
+        m_actions->action(QLatin1String(name))->setEnabled(m_tabs->current()->document());
 }
 
-/** A file that the user chooses, beside that of the document to begin with; empty for none. */
-QString ReportCommands::chosenFile() const
+/** A file beside that of the document, whose name ends in @p ending. */
+QString ReportCommands::proposed(const QString &ending) const
 {
     const DocumentTab &tab = *m_tabs->current();
     QString name = tab.name();
     if (name.endsWith(QLatin1String(".json")))
         name.chop(5);
+    return QStringLiteral("%1/%2%3").arg(tab.session()->folder(), name, ending);
+}
+
+/** The file that the user chooses for the report; empty for none. */
+QString ReportCommands::chosenReport() const
+{
     return SaveDialog::chosenFile(
-        m_window, tr("Meeting report"),
-        QStringLiteral("%1/%2.html").arg(tab.session()->folder(), name),
+        m_window, tr("Meeting report"), proposed(QStringLiteral(".html")),
         {tr("Page for the browser (*.html)"), QStringLiteral("PDF (*.pdf)"),
          tr("Markdown and a picture (*.md)")},
         {QStringLiteral("html"), QStringLiteral("pdf"), QStringLiteral("md")});
 }
 
-void ReportCommands::write()
+/** The file that the user chooses for the actions; empty for none. */
+QString ReportCommands::chosenList() const
+{
+    return SaveDialog::chosenFile(
+        m_window, tr("Actions"), proposed(QStringLiteral("-%1.csv").arg(tr("actions"))),
+        {tr("Table for spreadsheets (*.csv)"), QStringLiteral("Markdown (*.md)")},
+        {QStringLiteral("csv"), QStringLiteral("md")});
+}
+
+/** Asks by @p choose for a file, in a dialog called @p title, and has @p write write it. */
+void ReportCommands::write(const QString &title, QString (ReportCommands::*choose)() const,
+                           const Write &write)
 {
     const QPointer<DocumentTab> tab = m_tabs->current(); // the dialog runs an event loop
-    const QString path = chosenFile();
+    const QString path = (this->*choose)();
     if (path.isEmpty() || !tab || !tab->document())
         return;
     tab->takeTyped();
@@ -64,11 +90,10 @@ void ReportCommands::write()
         const BusyCursor busy(tab->document()->treeItem());
         MeetingReport report(tab->document()->treeItem()->childAtIndex(0));
         report.setLook(tab->editor()->lookOptions());
-        isWritten = report.write(path, &reason);
+        isWritten = write(report, path, &reason);
     }
     if (isWritten)
         Q_EMIT message(tr("%1 written").arg(QDir::toNativeSeparators(path)));
     else
-        PlainBox::warning(m_window, tr("Meeting report"),
-                          tr("%1 cannot be written: %2.").arg(path, reason));
+        PlainBox::warning(m_window, title, tr("%1 cannot be written: %2.").arg(path, reason));
 }

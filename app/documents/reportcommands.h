@@ -5,8 +5,11 @@
 
 #include <QObject>
 
+#include <functional>
+
 class ActionSet;
 class DocumentTabs;
+class MeetingReport;
 class QWidget;
 
 /** Writes what is sent round after a meeting about the document that is shown. */
@@ -26,8 +29,13 @@ Q_SIGNALS:
     void message(const QString &text);
 
 private:
-    QString chosenFile() const;
-    void write();
+    using Write =
+        std::function<bool(const MeetingReport &report, const QString &path, QString *reason)>;
+
+    QString proposed(const QString &ending) const;
+    QString chosenReport() const;
+    QString chosenList() const;
+    void write(const QString &title, QString (ReportCommands::*choose)() const, const Write &write);
 
     DocumentTabs *m_tabs;
     ActionSet *m_actions;

@@ -273,13 +273,9 @@ void MarkCommands::chooseManager()
     dialog.setTextValue(first->managerName());
     if (dialog.exec() != QDialog::Accepted)
         return;
-    const QString name = people.spelled(dialog.textValue().trimmed());
     mark(stepName(QT_TR_NOOP("Change who is responsible")),
-         [name, id = people.idOf(name)](TreeItem &subject) {
-             if (subject.managerName() == name)
-                 return;
-             subject.setManagerName(name);
-             subject.setManagerId(id);
+         [&people, typed = dialog.textValue()](TreeItem &subject) {
+             people.makeResponsible(subject, typed);
          });
 }
 

@@ -26,6 +26,7 @@
 #include <app/files/filedrop.h>
 #include <app/files/loadprogress.h>
 #include <app/files/recentfiles.h>
+#include <app/panels/actionspanel.h>
 #include <app/panels/detailspanel.h>
 #include <app/panels/diagramcounts.h>
 #include <app/panels/filterbar.h>
@@ -193,6 +194,7 @@ void MainWindow::addDocks()
     for (QStackedWidget **contents : {&m_trees, &m_details, &m_histories})
         *contents = new QStackedWidget(this);
     m_overview = new Minimap(this);
+    m_actionsPanel = new ActionsPanel(m_actions->action(QStringLiteral("exportActions")), this);
     QDockWidget *const trees =
         addDock("documentsDock", QT_TR_NOOP("Subjects"), Qt::LeftDockWidgetArea, m_trees);
     QDockWidget *const details =
@@ -201,10 +203,13 @@ void MainWindow::addDocks()
         addDock("historyDock", QT_TR_NOOP("History"), Qt::RightDockWidgetArea, m_histories);
     QDockWidget *const overview =
         addDock("overviewDock", QT_TR_NOOP("Overview"), Qt::LeftDockWidgetArea, m_overview);
+    QDockWidget *const actions =
+        addDock("actionsDock", QT_TR_NOOP("Actions"), Qt::BottomDockWidgetArea, m_actionsPanel);
+    actions->hide(); // until somebody wants it
     resizeDocks({trees, details}, {240, 300}, Qt::Horizontal);
     resizeDocks({details, histories}, {500, 160}, Qt::Vertical);
     resizeDocks({trees, overview}, {500, 160}, Qt::Vertical);
-    m_layout = new WindowLayout(this, {histories, details, overview, trees});
+    m_layout = new WindowLayout(this, {actions, histories, details, overview, trees});
     m_views->offerFocus(m_layout);
 }
 
@@ -303,6 +308,7 @@ void MainWindow::showTab(DocumentTab *tab)
     m_histories->setCurrentWidget(tab->history());
     m_controls->setEditor(tab->editor());
     m_overview->setSession(tab->session());
+    m_actionsPanel->setSession(tab->session());
     m_layout->setDrawing(tab->editor()->view());
     m_counts->setSession(tab->session());
     m_autosave->setCopy(tab->recovery());

@@ -7,6 +7,7 @@
 #include <QMainWindow>
 
 class ActionSet;
+class ActionsPanel;
 class AutosaveStatus;
 class CanvasTheme;
 class DiagramCommands;
@@ -107,5 +108,6 @@ private:
     QStackedWidget *m_details = nullptr;
     QStackedWidget *m_histories = nullptr;
     Minimap *m_overview = nullptr;
+    ActionsPanel *m_actionsPanel = nullptr;
     DiagramCounts *m_counts = nullptr;
 };

@@ -25,7 +25,8 @@ struct Bar
 constexpr Bar menus[] = {
     {"fileMenu", QT_TRANSLATE_NOOP("Menus", "&File"),
      "new newFromTemplate newExample | open recent import url recover | save saveAs saveCopy "
-     "saveAsTemplate saveAll revert | export exportAs report print printPreview | close | reopen "
+     "saveAsTemplate saveAll revert | export exportAs report exportActions print printPreview | "
+     "close | reopen "
      "quit"},
     {"editMenu", QT_TRANSLATE_NOOP("Menus", "&Edit"),
      "undo redo | cut copy copyPicture paste delete | selectAll selectBranch selectSiblings | "

@@ -4,6 +4,7 @@
 #include <fishbone/exchange/meetingpage.h>
 
 #include <fishbone/drawing/clearcontent.h>
+#include <fishbone/exchange/csvtable.h>
 #include <fishbone/exchange/linksafety.h>
 #include <fishbone/model/treeitem.h>
 
@@ -35,7 +36,7 @@ QString strongInMarkdown(const QString &text)
 }
 
 /** @p text so that it is no markup, in one line. */
-QString inMarkdown(const QString &text)
+QString textInMarkdown(const QString &text)
 {
     QString plain;
     for (const QChar c : text) {
@@ -184,17 +185,22 @@ MeetingPage::Table MeetingPage::legend() const
     return table;
 }
 
-/** All tables but those of people, which stand below the heading of the actions. */
-QVector<MeetingPage::Table> MeetingPage::tables(const Markup &markup) const
+/** A heading, and below it a table for each person. */
+QVector<MeetingPage::Table> MeetingPage::actionsTables(const Markup &markup) const
 {
-    QVector<Table> all{causesTable(markup)};
-    all.append(
-        {MeetingReport::tr("Actions"), {}, {}, MeetingReport::tr("Nobody is to do anything.")});
+    QVector<Table> all{
+        {MeetingReport::tr("Actions"), {}, {}, MeetingReport::tr("Nobody is to do anything.")}};
     const QStringList everybody = people();
     if (!everybody.isEmpty())
         all.last().remark.clear();
     for (const QString &person : everybody)
         all.append(actionsTable(person, markup));
+    return all;
+}
+
+QVector<MeetingPage::Table> MeetingPage::tables(const Markup &markup) const
+{
+    QVector<Table> all = QVector<Table>{causesTable(markup)} + actionsTables(markup);
     if (const Table last = legend(); !last.rows.isEmpty())
         all.append(last);
     return all;
@@ -226,13 +232,10 @@ QString MeetingPage::html(const QString &picture) const
     return page + QLatin1String("</body>\n</html>\n");
 }
 
-QString MeetingPage::markdown(const QString &pictureName) const
+QString MeetingPage::inMarkdown(const QVector<Table> &tables)
 {
-    const QString title = inMarkdown(m_head.title());
-    QString page = QStringLiteral("# %1\n\n").arg(title) + QLatin1Char('!') +
-                   linkInMarkdown(title, pictureName) + QLatin1Char('\n');
-    const QVector<Table> all = tables({inMarkdown, linkInMarkdown, strongInMarkdown});
-    for (const Table &table : all) {
+    QString page;
+    for (const Table &table : tables) {
         page += QLatin1Char('\n') + QString(table.level, QLatin1Char('#')) + QLatin1Char(' ') +
                 table.heading + QLatin1Char('\n');
         if (table.rows.isEmpty()) {
@@ -247,4 +250,38 @@ QString MeetingPage::markdown(const QString &pictureName) const
             page += QStringLiteral("| %1 |\n").arg(row.join(QLatin1String(" | ")));
     }
     return page;
+}
+
+QString MeetingPage::markdown(const QString &pictureName) const
+{
+    const QString title = textInMarkdown(m_head.title());
+    return QStringLiteral("# %1\n\n").arg(title) + QLatin1Char('!') +
+           linkInMarkdown(title, pictureName) + QLatin1Char('\n') +
+           inMarkdown(tables({textInMarkdown, linkInMarkdown, strongInMarkdown}));
+}
+
+QString MeetingPage::actionsMarkdown() const
+{
+    return QStringLiteral("# %1\n").arg(textInMarkdown(m_head.title())) +
+           inMarkdown(actionsTables({textInMarkdown, linkInMarkdown, strongInMarkdown}));
+}
+
+QByteArray MeetingPage::actionsCsv() const
+{
+    // The mark in front tells spreadsheets that it is UTF-8.
+    QByteArray bytes = "\xef\xbb\xbf" +
+                       CsvTable::line({MeetingReport::tr("Action"), MeetingReport::tr("In"),
+                                       MeetingReport::tr("Responsible"), MeetingReport::tr("Until"),
+                                       MeetingReport::tr("Status"), MeetingReport::tr("Progress"),
+                                       MeetingReport::tr("Overdue")});
+    for (const MeetingReport::Action &action : m_actions) {
+        const TreeItem &subject = *action.subject;
+        bytes += CsvTable::line({CsvTable::guarded(subject.title()),
+                                 CsvTable::guarded(subject.parent()->title()),
+                                 CsvTable::guarded(action.person), action.end.toString(Qt::ISODate),
+                                 ClearContent::meaningOf(subject.status()),
+                                 QString::number(std::max(0, subject.progress())),
+                                 action.isOverdue ? MeetingReport::tr("yes") : QString()});
+    }
+    return bytes;
 }

@@ -14,6 +14,10 @@ public:
 
     QString html(const QString &picture) const;
     QString markdown(const QString &pictureName) const;
+    /** The actions alone, for spreadsheets. */
+    QByteArray actionsCsv() const;
+    /** The actions alone, with the title of the diagram above them. */
+    QString actionsMarkdown() const;
 
 private:
     /** A table with a heading above it; without rows the remark stands in its place. */
@@ -35,6 +39,8 @@ private:
     };
 
     QVector<Table> tables(const Markup &markup) const;
+    QVector<Table> actionsTables(const Markup &markup) const;
+    static QString inMarkdown(const QVector<Table> &tables);
     Table causesTable(const Markup &markup) const;
     Table actionsTable(const QString &person, const Markup &markup) const;
     Table legend() const;

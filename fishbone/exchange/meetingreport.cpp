@@ -166,6 +166,24 @@ bool MeetingReport::write(const QString &fileName, QString *error) const
     return reason.isEmpty();
 }
 
+bool MeetingReport::canWriteActions(const QString &fileName)
+{
+    return isKind(fileName, "csv") || isKind(fileName, "md");
+}
+
+bool MeetingReport::writeActions(const QString &fileName, QString *error) const
+{
+    if (!canWriteActions(fileName)) {
+        say(error, tr("its name must end in .csv or .md"));
+        return false;
+    }
+    const MeetingPage page(*m_head, m_causes, m_actions);
+    const QString reason = replaceFile(
+        fileName, isKind(fileName, "csv") ? page.actionsCsv() : page.actionsMarkdown().toUtf8());
+    say(error, reason);
+    return reason.isEmpty();
+}
+
 bool MeetingReport::writePdf(const QString &fileName, QString *error) const
 {
     constexpr int resolution = 96; // dots per inch of a page

@@ -72,6 +72,11 @@ public:
      * @p error, when that fails. */
     bool write(const QString &fileName, QString *error = nullptr) const;
 
+    /** Whether writeActions() can write a file with the ending of @p fileName: .csv or .md. */
+    static bool canWriteActions(const QString &fileName);
+    /** Writes the actions alone, as a table for spreadsheets or as Markdown, as write() does. */
+    bool writeActions(const QString &fileName, QString *error = nullptr) const;
+
     /** The page for the browser, with the SVG @p picture in it. */
     QString html(const QString &picture) const;
     /** The report as Markdown, with a link to the picture @p pictureName. */

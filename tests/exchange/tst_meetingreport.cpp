@@ -67,6 +67,7 @@ private Q_SLOTS:
     void shouldLetNoTextBecomeMarkup();
     void shouldLinkNowhereHarmful();
     void shouldWritePages();
+    void shouldWriteTheActionsAlone();
     void shouldSayWhyNothingIsWritten();
     void shouldSayThatThereIsNothing();
 };
@@ -208,6 +209,35 @@ void TestMeetingReport::shouldWritePages()
         QVERIFY2(words.contains(word), words.constData());
     if (const QString target = qEnvironmentVariable("FISHBONE_REPORT"); !target.isEmpty())
         QFile::copy(folder.filePath(QStringLiteral("a.pdf")), target);
+}
+
+void TestMeetingReport::shouldWriteTheActionsAlone()
+{
+    const auto head = reviewed();
+    head->childAtIndex(2)->setTitle(QStringLiteral("=1+1")); // no formula
+    const QTemporaryDir folder;
+    const MeetingReport report(head.get(), today);
+    QVERIFY(!MeetingReport::canWriteActions(QStringLiteral("a.html")));
+    for (const char *name : {"a.csv", "a.md"}) {
+        QString error;
+        QVERIFY(MeetingReport::canWriteActions(QLatin1String(name)));
+        QVERIFY2(report.writeActions(folder.filePath(QLatin1String(name)), &error),
+                 qPrintable(error));
+    }
+    QCOMPARE(contentOf(folder.filePath(QStringLiteral("a.csv"))),
+             QByteArray("\xef\xbb\xbf"
+                        "Action,In,Responsible,Until,Status,Progress,Overdue\r\n"
+                        "New,People,Bo,,,0,\r\n"
+                        "Ill,Few,Li,2024-01-02,finished,0,\r\n"
+                        "Belt,Machines,Li,2024-01-30,under way,40,yes\r\n"
+                        "'=1+1,Late,,2024-01-31,,0,\r\n"));
+    const QByteArray text = contentOf(folder.filePath(QStringLiteral("a.md")));
+    QVERIFY2(text.startsWith("# Late\n\n## Actions\n\n### Bo\n"), text.constData());
+    QVERIFY(text.contains("| Belt | under way | 40 % | **"));
+    QString error;
+    QVERIFY(!report.writeActions(QStringLiteral("a.html"), &error));
+    QVERIFY(!error.isEmpty());
+    QVERIFY(!report.writeActions(QStringLiteral("/nowhere/a.csv"), &error));
 }
 
 void TestMeetingReport::shouldSayWhyNothingIsWritten()
