@@ -16,7 +16,7 @@ QPoint cellOf(const QPointF &point)
     return {int(std::floor(point.x() / cellSize)), int(std::floor(point.y() / cellSize))};
 }
 
-QLineF lineOf(const SlideShape &shape)
+QLineF straightOf(const SlideShape &shape)
 {
     return {QPointF(shape.path.elementAt(0)), QPointF(shape.path.elementAt(1))};
 }
@@ -64,7 +64,7 @@ SlideConnections::SlideConnections(const std::vector<SlideShape> &shapes)
     for (int i = 0; i < int(shapes.size()); ++i) {
         if (!isLine(shapes[size_t(i)]))
             continue;
-        const QLineF line = lineOf(shapes[size_t(i)]);
+        const QLineF line = straightOf(shapes[size_t(i)]);
         const End start = attached(i, line.p1(), line.p2());
         if (start.isAttached())
             m_starts.insert(i, start);
@@ -108,7 +108,7 @@ void SlideConnections::enterFreeform(int shape)
 /** A slanted line is in far fewer cells than its frame. */
 void SlideConnections::enterLine(int shape)
 {
-    const QLineF line = lineOf(m_shapes[size_t(shape)]);
+    const QLineF line = straightOf(m_shapes[size_t(shape)]);
     const int steps = qMax(1, int(std::ceil(line.length() / cellSize)));
     for (int i = 0; i < steps; ++i) {
         const QRectF part = QRectF(line.pointAt(double(i) / steps), line.pointAt((i + 1.0) / steps))
@@ -145,7 +145,7 @@ SlideConnections::End SlideConnections::attached(int line, const QPointF &point,
     }
     for (const int shape : candidates) {
         const SlideShape &candidate = m_shapes[size_t(shape)];
-        if (shape == line || !isLine(candidate) || !touchesLine(lineOf(candidate), point))
+        if (shape == line || !isLine(candidate) || !touchesLine(straightOf(candidate), point))
             continue;
         constexpr int fineness = 16; // what is nearer is the same place
         const QPoint place = (point * fineness).toPoint();
