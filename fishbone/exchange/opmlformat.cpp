@@ -107,7 +107,9 @@ void takeAttributes(const QXmlStreamAttributes &values, qint64 line, TreeItem &s
         const QString name = entry.qualifiedName().toString();
         const QString value = entry.value().toString();
         const bool isText =
-            name == textName || (name == QLatin1String("title") && value == subject.title());
+            name == textName ||
+            (name == QLatin1String("title") &&
+             (value == subject.title() || value == values.value(textName).toString()));
         if (value.isEmpty() || isText || name == QLatin1String("url"))
             continue;
         const SubjectAttributes::Attribute *const attribute = attributeNamed(name);

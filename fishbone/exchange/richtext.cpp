@@ -261,7 +261,8 @@ bool hasTags(const QString &text)
     static const QRegularExpression tag(
         QStringLiteral(
             "</?(?:html|body|a|b|i|u|s|p|br|strong|em|span|font|code|div|mark|strike|del|"
-            "ul|ol|li|img|pre|sub|sup|table|tr|td|th|h[1-6]|time)(?:\\s[^<>]*)?/?>"),
+            "ul|ol|li|pre|sub|sup|table|tr|td|th|h[1-6]|time)(?:\\s[^<>]*)?/?>|"
+            "<img\\s[^<>]*>"), // one without a file shows nothing
         QRegularExpression::CaseInsensitiveOption);
     return text.contains(QLatin1Char('<')) && text.contains(tag);
 }
