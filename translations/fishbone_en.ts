@@ -1713,6 +1713,10 @@ The ending .html, .pdf or .md tells the format; .md has its picture in a file be
             <numerusform>%n texts replaced</numerusform>
         </translation>
     </message>
+    <message>
+        <source>No match</source>
+        <translation>No match</translation>
+    </message>
 </context>
 <context>
     <name>FishInfo</name>

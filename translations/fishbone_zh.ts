@@ -1705,6 +1705,10 @@ The ending .html, .pdf or .md tells the format; .md has its picture in a file be
             <numerusform>已替换 %n 处文本</numerusform>
         </translation>
     </message>
+    <message>
+        <source>No match</source>
+        <translation>没有匹配项</translation>
+    </message>
 </context>
 <context>
     <name>FishInfo</name>

@@ -27,6 +27,7 @@ bool isSpace(const QKeyEvent &event)
 MouseDrags::MouseDrags(FishEditor *editor, std::function<void()> tapped, QObject *parent)
     : QObject(parent)
     , m_view(editor->view())
+    , m_band(editor)
     , m_tapped(std::move(tapped))
 {
     m_view->installEventFilter(this);
@@ -78,6 +79,10 @@ bool MouseDrags::press(const QMouseEvent &event)
     if (isLeft && event.type() == QEvent::MouseButtonPress) {
         m_drag = Drag::Waiting;
         m_from = event.pos();
+        m_isOnNothing = !m_view->itemAt(m_from);
+        // Now, before the press deselects everything.
+        if (m_isOnNothing)
+            m_band.begin(m_from, event.modifiers() & (Qt::ControlModifier | Qt::ShiftModifier));
     }
     return false;
 }
@@ -91,8 +96,15 @@ bool MouseDrags::move(const QMouseEvent &event)
     case Drag::Waiting:
         if ((event.pos() - m_from).manhattanLength() < QApplication::startDragDistance())
             return true;
-        m_drag = Drag::Moving;
-        return false;
+        m_drag = m_isOnNothing ? Drag::Selecting : Drag::Moving;
+        if (!m_isOnNothing)
+            return false;
+        m_view->abandonMove(); // it hears nothing more of this press
+        m_band.reach(event.pos());
+        return true;
+    case Drag::Selecting:
+        m_band.reach(event.pos());
+        return true;
     case Drag::Cancelled:
         return true;
     case Drag::Moving:
@@ -111,9 +123,13 @@ bool MouseDrags::release(const QMouseEvent &event)
         }
         return true;
     }
-    if (event.button() == Qt::LeftButton)
-        m_drag = Drag::None;
-    return false;
+    if (event.button() != Qt::LeftButton)
+        return false;
+    const Drag ended = std::exchange(m_drag, Drag::None);
+    const bool wasFrame = ended == Drag::Selecting || (ended == Drag::Cancelled && m_isOnNothing);
+    if (wasFrame)
+        m_band.end();
+    return wasFrame; // the view would deselect everything, as after a click
 }
 
 bool MouseDrags::pressKey(const QKeyEvent &event)
@@ -127,7 +143,9 @@ bool MouseDrags::pressKey(const QKeyEvent &event)
         return true;
     }
     m_isTap = false;
-    if (event.key() != Qt::Key_Escape || (m_drag != Drag::Waiting && m_drag != Drag::Moving))
+    const bool isUnderWay =
+        m_drag == Drag::Waiting || m_drag == Drag::Moving || m_drag == Drag::Selecting;
+    if (event.key() != Qt::Key_Escape || !isUnderWay)
         return false;
     cancel();
     return true;
@@ -149,7 +167,8 @@ bool MouseDrags::releaseKey(const QKeyEvent &event)
 /** Has the bones go back to where they were; the button may stay down as long as it likes. */
 void MouseDrags::cancel()
 {
-    m_drag = Drag::Cancelled;
+    if (std::exchange(m_drag, Drag::Cancelled) == Drag::Selecting)
+        m_band.cancel();
     if (QGraphicsItem *const held = m_view->scene() ? m_view->scene()->mouseGrabberItem() : nullptr)
         held->ungrabMouse();
     m_view->abandonMove();

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include <app/editing/rubberband.h>
+
 #include <functional>
 
 #include <QObject>
@@ -15,8 +17,9 @@ class QMouseEvent;
 
 /**
  * How the mouse drags on the canvas: the middle button, or the left one while Space is down, drags
- * the canvas itself. A bone moves only once the mouse has gone a little way, and goes back when
- * Escape is pressed before the button is let go.
+ * the canvas itself. Where there is nothing, the left button draws a frame that selects bones, with
+ * Ctrl or Shift beside those that are selected. A bone moves only once the mouse has gone a little
+ * way, and goes back when Escape is pressed before the button is let go.
  */
 class MouseDrags : public QObject
 {
@@ -34,6 +37,7 @@ private:
         None,
         Waiting,   ///< the button is down, the mouse has hardly moved
         Moving,    ///< of bones, by the view
+        Selecting, ///< of what is in a frame
         Cancelled, ///< the button is still down
         Panning,
     };
@@ -48,10 +52,12 @@ private:
     void showCursor();
 
     GraphicsView *m_view;
+    RubberBand m_band;
     std::function<void()> m_tapped;
     Drag m_drag = Drag::None;
     Qt::MouseButton m_button = Qt::NoButton; ///< that pans
     QPoint m_from;                           ///< of a press, or where panning has come to
     bool m_isSpaceDown = false;
-    bool m_isTap = false; ///< nothing else happened since Space went down
+    bool m_isOnNothing = false; ///< the last press of the left button
+    bool m_isTap = false;       ///< nothing else happened since Space went down
 };

@@ -4,10 +4,14 @@
 #include <app/panels/finder.h>
 
 #include <app/common/busycursor.h>
+#include <app/common/keepclear.h>
 #include <app/diagram/diagramsession.h>
 #include <app/panels/hitlist.h>
 
 #include <fishbone/dialogs/replacefinddialog.h>
+#include <fishbone/editor/graphicsview.h>
+#include <fishbone/items/spearitem.h>
+#include <fishbone/items/textitem.h>
 #include <fishbone/model/treeitem.h>
 #include <fishbone/undo/editattributes.h>
 
@@ -17,6 +21,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScrollBar>
 
 #include <memory>
 
@@ -40,6 +45,12 @@ Finder::Finder(DiagramSession *session, QWidget *window)
     m_hits->setObjectName(QStringLiteral("hits"));
     m_dialog->setResultsArea(m_hits);
     m_dialog->resize(560, 420);
+    constexpr int pause = 150; // milliseconds, after which somebody looks up
+    m_typing.setSingleShot(true);
+    m_typing.setInterval(pause);
+    m_aside.setSingleShot(true);
+    connect(&m_aside, &QTimer::timeout, this, &Finder::keepClear);
+    followView();
     connectControls();
 }
 
@@ -47,7 +58,13 @@ Finder::Finder(DiagramSession *session, QWidget *window)
 void Finder::connectControls()
 {
     connect(m_search, &QLineEdit::returnPressed, this, &Finder::showNext);
-    connect(m_search, &QLineEdit::textChanged, this, &Finder::forgetHits);
+    connect(m_search, &QLineEdit::textChanged, this, &Finder::findSoon);
+    connect(&m_typing, &QTimer::timeout, this, [this] {
+        if (m_dialog->search())
+            showNext();
+        else
+            Q_EMIT message(tr("No match"));
+    });
     connect(m_dialog->findButton(), &QPushButton::clicked, this, &Finder::showNext);
     connect(m_replacement, &QLineEdit::returnPressed, this, &Finder::replaceCurrent);
     connect(m_replacement, &QLineEdit::textChanged, this, &Finder::preview);
@@ -65,8 +82,23 @@ void Finder::setSession(DiagramSession *session)
     m_session = session;
     m_dialog->setModel(session->model());
     m_hits->setSource(session->model());
+    followView();
     rememberLook();
     forgetHits();
+}
+
+/** Has the dialog step aside again when the canvas is scrolled or gets another size. */
+void Finder::followView()
+{
+    for (const QMetaObject::Connection &connection : qAsConst(m_connections))
+        disconnect(connection);
+    m_connections.clear();
+    const auto start = QOverload<>::of(&QTimer::start);
+    const GraphicsView *const view = m_session->editor()->view();
+    for (const QScrollBar *bar : {view->horizontalScrollBar(), view->verticalScrollBar()}) {
+        m_connections.append(connect(bar, &QScrollBar::valueChanged, &m_aside, start));
+        m_connections.append(connect(bar, &QScrollBar::rangeChanged, &m_aside, start));
+    }
 }
 
 /** Keeps what Esc brings back. */
@@ -137,8 +169,18 @@ void Finder::preview()
     });
 }
 
+void Finder::findSoon()
+{
+    forgetHits();
+    if (m_search->text().isEmpty())
+        m_typing.stop();
+    else if (m_dialog->isVisible())
+        m_typing.start();
+}
+
 void Finder::showNext()
 {
+    m_typing.stop();
     listHits();
     if (!m_matches.isEmpty()) // otherwise the dialog has said so
         showHit((m_current + 1) % m_matches.size());
@@ -156,7 +198,25 @@ void Finder::showHit(int row)
     m_current = row;
     m_hits->setCurrentHit(row);
     m_session->select(matches.at(row).siblingAtColumn(titleColumn));
+    m_aside.start();
     Q_EMIT message(tr("Match %1 of %2").arg(row + 1).arg(matches.size()));
+}
+
+/** Has the dialog step aside from the title of the current hit. */
+void Finder::keepClear()
+{
+    const QModelIndex hit = m_dialog->matches().value(m_current);
+    const TreeItem *const subject = m_session->model()->getTreeItem(hit);
+    const SpearItem *const spear = subject ? subject->spear() : nullptr;
+    if (!spear || !m_dialog->isVisible())
+        return;
+    constexpr int margin = 12;
+    const GraphicsView *const view = m_session->editor()->view();
+    const QRect title = view->mapFromScene(spear->textItem()->sceneBoundingRect()).boundingRect() &
+                        view->viewport()->rect();
+    KeepClear::of(QRect(view->viewport()->mapToGlobal(title.topLeft()), title.size())
+                      .adjusted(-margin, -margin, margin, margin),
+                  *m_dialog);
 }
 
 /** Replaces in the texts that were found at @p hits, in one step; how many have changed. */

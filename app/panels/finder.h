@@ -8,6 +8,7 @@
 #include <QModelIndexList>
 #include <QObject>
 #include <QPersistentModelIndex>
+#include <QTimer>
 
 class DiagramSession;
 class HitList;
@@ -16,7 +17,8 @@ class ReplaceFindDialog;
 
 /**
  * Makes the library's find dialog useful. What was found is listed in it, with what a replacement
- * would make of it; every search goes on to the next hit, and the list leads to any of them.
+ * would make of it, as one types; the first hit is shown at once, and the window steps aside from
+ * it. Every search goes on to the next hit, and the list leads to any of them.
  * Replacing is a step of the undo history, one step for all of them. Esc ends the search and gives
  * the drawing the look that it had before.
  */
@@ -43,8 +45,11 @@ private:
     void connectControls();
     void forgetHits();
     void listHits();
+    void findSoon();
     void showNext();
     void showHit(int row);
+    void keepClear();
+    void followView();
     void replaceCurrent();
     void replaceAll();
     int replaceIn(const QModelIndexList &hits);
@@ -60,8 +65,11 @@ private:
     HitList *m_hits;
     QLineEdit *m_search;
     QLineEdit *m_replacement;
-    QModelIndexList m_matches;            ///< that are listed, only to be compared
-    int m_current = -1;                   ///< the match that is selected
-    DrawingState m_look;                  ///< of the drawing before the search
-    QPersistentModelIndex m_searchedFrom; ///< the head of the drawing then
+    QTimer m_aside;                               ///< runs when the dialog may cover the hit
+    QList<QMetaObject::Connection> m_connections; ///< to the view
+    QTimer m_typing;                              ///< runs until the user pauses
+    QModelIndexList m_matches;                    ///< that are listed, only to be compared
+    int m_current = -1;                           ///< the match that is selected
+    DrawingState m_look;                          ///< of the drawing before the search
+    QPersistentModelIndex m_searchedFrom;         ///< the head of the drawing then
 };

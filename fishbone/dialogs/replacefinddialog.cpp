@@ -234,10 +234,10 @@ void ReplaceFindDialog::enableCtrl(int index)
     m_d->replaceAllButton->setEnabled(replaceable);
 }
 
-void ReplaceFindDialog::find()
+bool ReplaceFindDialog::search()
 {
     if (!m_d->model)
-        return;
+        return false;
     const QString text = m_d->searchField->text();
     const bool caseSensitive = m_d->caseBox->isChecked();
     const bool known =
@@ -248,8 +248,15 @@ void ReplaceFindDialog::find()
         m_d->column = m_d->columnBox->currentIndex();
         m_d->matches = m_d->search(text, caseSensitive ? Qt::CaseSensitive : Qt::CaseInsensitive);
     }
-    if (m_d->matches.isEmpty())
-        showWarning(tr("Finder"), literalText(tr("Not found key word %1.").arg(text)), this);
+    return !m_d->matches.isEmpty();
+}
+
+void ReplaceFindDialog::find()
+{
+    if (!m_d->model || search())
+        return;
+    const QString text = m_d->searchField->text();
+    showWarning(tr("Finder"), literalText(tr("Not found key word %1.").arg(text)), this);
 }
 
 /** All rows that match, parents before children. A document without a head has no index. */

@@ -64,6 +64,9 @@ public:
     QPushButton *replaceAllButton() const; /**< calls replaceAll() */
     /** @} */
 
+    /** As find(), but without a warning: whether there are matches. */
+    bool search();
+
 public Q_SLOTS:
     /**
      * Searches the chosen column, on all levels, unless the matches of the same search are still

@@ -8,12 +8,14 @@
 #include <tests/support/modaldriver.h>
 
 #include <fishbone/dialogs/replacefinddialog.h>
+#include <fishbone/items/textitem.h>
 
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
 #include <QStatusBar>
 #include <QTreeWidget>
 
@@ -41,6 +43,9 @@ private Q_SLOTS:
     void shouldFollowSubjectsThatGo();
     void shouldRestoreTheLookOnEscape();
     void shouldStayWhereAChosenHitIs();
+    void shouldFindAsOneTypes();
+    void shouldNeverCoverTheHit_data();
+    void shouldNeverCoverTheHit();
     void shouldNameEveryControl();
 };
 
@@ -332,6 +337,53 @@ void TestFinder::shouldStayWhereAChosenHitIs()
     QVERIFY(!app.dialog->isVisible());
     QCOMPARE(app.selectedInDrawing(), QStringList(QStringLiteral("Illness")));
     QVERIFY(app.subject("Illness")->spear()->isVisible());
+}
+
+void TestFinder::shouldFindAsOneTypes()
+{
+    FinderFixture app;
+    QLineEdit *const field = app.dialog->searchField();
+    QTest::keyClicks(field, QStringLiteral("ill"));
+    QTRY_COMPARE(app.selectedInDrawing(), QStringList(QStringLiteral("Illness")));
+    QCOMPARE(app.rows(), QStringList(QStringLiteral("[x]Illness|ness|Late › People › Too few")));
+    QVERIFY(app.subject("Illness")->spear()->isVisible());
+    QVERIFY(app.dialog->isVisible());
+    QTest::keyClicks(field, QStringLiteral("x")); // nobody is interrupted by a warning
+    QTRY_COMPARE(app.window.statusBar()->currentMessage(), QStringLiteral("No match"));
+    QCOMPARE(app.rows(), QStringList());
+    field->clear();
+    QTest::keyClicks(field, QStringLiteral("too"));
+    QTRY_COMPARE(app.selectedInDrawing(), QStringList(QStringLiteral("Too few")));
+    QTest::keyClick(field, Qt::Key_Return); // goes on from there
+    AppFixture::settle();
+    QCOMPARE(app.selectedInDrawing(), QStringList(QStringLiteral("Too new")));
+}
+
+void TestFinder::shouldNeverCoverTheHit_data()
+{
+    QTest::addColumn<QString>("title");
+    for (const char *title : {"Late", "People", "Too new", "Illness", "Machines", "Material"})
+        QTest::newRow(title) << QString::fromLatin1(title);
+}
+
+void TestFinder::shouldNeverCoverTheHit()
+{
+    QFETCH(QString, title);
+    FinderFixture app;
+    app.window.resize(700, 560);
+    const QWidget *const viewport = app.window.editor()->view()->viewport();
+    // Right where the drawing is.
+    app.dialog->move(viewport->mapToGlobal(QPoint(0, 0)));
+    AppFixture::settle();
+    app.search(title);
+    QCOMPARE(app.selectedInDrawing(), QStringList(title));
+    const SpearItem *const spear = app.subject(qPrintable(title))->spear();
+    const GraphicsView &view = *app.window.editor()->view();
+    const QRect shown = view.mapFromScene(spear->textItem()->sceneBoundingRect()).boundingRect();
+    const QRect hit(viewport->mapToGlobal(shown.topLeft()), shown.size());
+    QVERIFY(viewport->rect().intersects(shown));
+    QVERIFY(!app.dialog->frameGeometry().intersects(hit));
+    QVERIFY(app.dialog->screen()->availableGeometry().contains(app.dialog->frameGeometry()));
 }
 
 void TestFinder::shouldNameEveryControl()
