@@ -94,7 +94,8 @@ check_lengths() {
 }
 
 # A class outside a namespace has a name of its own in library, program, examples and tests: they are linked
-# with each other, and of two classes with one name the linker takes the functions of either.
+# with each other, and of two classes with one name the linker takes the functions of either. And what the page on
+# architecture names is there.
 check_class_names() {
     local headers
     mapfile -t headers <<<"$(sources h)"
@@ -110,7 +111,7 @@ check_class_names() {
              if ($0 in seen)
                  print FILENAME ": " $0 " is in " seen[$0] ", too"
              seen[$0] = FILENAME
-         }' "${headers[@]}" | none
+         }' "${headers[@]}" | none && check_architecture
 }
 
 # There is one spelling of an include, from the top folder; only moc output is included as a neighbour.
@@ -127,17 +128,36 @@ check_layers() {
 }
 
 # The program reaches into the library, and its tests and the benchmarks into both, by public functions: they look for
-# no timers, no controls of dialogs and no texts of theirs, emit no signal of another object, leave the working folder
-# of the process alone and run their commands through the editor.
+# no timers, no network replies, no controls of dialogs and no texts of theirs, emit no signal of another object, leave
+# the working folder of the process alone, run their commands through the editor, and take no connection apart again
+# from within what it calls.
 check_back_doors() {
     {
-        search -rnE 'findChild(ren)?<(const )?QTimer' app benchmarks tests/app
+        search -rnE 'findChild(ren)?<(const )?(QTimer|QNetwork)' app benchmarks tests/app
         search -rnE '[iI]alog(\.|->)findChild(ren)?<(const )?(QCheckBox|QComboBox|QLineEdit)' app benchmarks
         search -rnE '\b(ReplaceFindDialog|URLDialog|SpearStyleDialog|PenSelect|FishEditor)::tr\(' app benchmarks tests/app
         search -rnE 'Q_EMIT [A-Za-z_]+(\(\))?(->|\.)' app benchmarks | search -vF 'Q_EMIT self.'
-        search -rnE 'QDir::setCurrent' app benchmarks
-        search -rn 'undoStack()->push' app
+        search -rnE 'Q_EMIT .*\bmodel(\(\))?(->|\.)' tests/app
+        search -rnE 'QMetaObject::Connection \*?[A-Za-z_]+( =|;|\{)' app benchmarks tests/app
+        search -rnE 'QDir::setCurrent' app benchmarks tests/app
+        search -rn 'undoStack()->push' app tests/app
     } | none
+}
+
+# The files and classes that the page on architecture names are there: `name.h`, `folder/name.cpp`, `folder/` of the
+# project, the library or the program, `SomeClass`, `function()`.
+check_architecture() {
+    local name page=docs/architecture.md
+    # shellcheck disable=SC2016 # these are the quotes of the page
+    search -oE '`[^`]+`' "$page" | tr -d '\`' | sort -u | while read -r name; do
+        if [[ $name =~ ^[A-Za-z_/]+(\.[a-z]+|/)$ ]]; then
+            [[ -e $name || -n $(find fishbone app -path "*/${name%/}" -print -quit) ]] ||
+                echo "$page: there is no $name"
+        elif [[ $name =~ ^[A-Z][A-Za-z]+(::[A-Za-z]+)?(\(.*\))?$|^[a-z][A-Za-z]+\(.*\)$ ]]; then
+            name=${name%%(*}
+            grep -rqwF "${name##*::}" fishbone app || echo "$page: there is no $name"
+        fi
+    done | none
 }
 
 # Each public header, which is one that exports something, has test programs of its name.

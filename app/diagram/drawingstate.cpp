@@ -19,7 +19,7 @@ void DrawingState::Subjects::add(const SpearItem &spear)
     if (!item)
         return;
     items.insert(item);
-    if (!item->uuid().isEmpty() && item->uuid() != QLatin1String("-1"))
+    if (TreeItem::isIdentity(item->uuid()))
         uuids.insert(item->uuid());
 }
 

@@ -3,28 +3,28 @@
 
 #include <app/diagram/people.h>
 
+#include <fishbone/base/preorder.h>
 #include <fishbone/model/treeitem.h>
 
 #include <algorithm>
-#include <vector>
 
 People People::in(const TreeItem *root)
 {
     People people;
-    std::vector<const TreeItem *> waiting;
-    if (root)
-        waiting.push_back(root);
-    while (!waiting.empty()) {
-        const TreeItem *const subject = waiting.back();
-        waiting.pop_back();
+    // Backwards: of people of one name the id of the one who comes last among siblings counts.
+    const auto childrenOf = [](const TreeItem &subject) {
+        QList<TreeItem *> children = subject.children();
+        std::reverse(children.begin(), children.end());
+        return children;
+    };
+    visitPreOrder(root, childrenOf, [&people](const TreeItem *subject) {
         people.add(subject->managerName(), subject->managerId());
         people.add(subject->creatorName(), subject->creatorId());
         const QStringList followers = subject->followers();
         for (const QString &follower : followers)
             people.add(follower);
-        const QList<TreeItem *> &children = subject->childItems();
-        waiting.insert(waiting.end(), children.cbegin(), children.cend());
-    }
+        return true;
+    });
     return people;
 }
 

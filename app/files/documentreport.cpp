@@ -14,13 +14,13 @@ namespace {
 
 bool hasUuid(const TreeItem &subject)
 {
-    return !subject.uuid().isEmpty() && subject.uuid() != QLatin1String("-1");
+    return TreeItem::isIdentity(subject.uuid());
 }
 
-/** Whether @p status is a known one, or -1 for none. */
+/** Whether @p status is a known one, or none. */
 bool isStatus(int status)
 {
-    return status == -1 || TaskStatusInfo(TaskStatus(status), 0).isStatusVaild();
+    return status == TreeItem::none || TaskStatusInfo(TaskStatus(status), 0).isStatusVaild();
 }
 
 /** @p title in one short line. */

@@ -18,25 +18,13 @@
 #include <fishbone/editor/boneselection.h>
 #include <fishbone/editor/droptarget.h>
 #include <fishbone/editor/fisheditor.h>
+#include <fishbone/editor/payloadcopy.h>
 #include <fishbone/editor/spearmove.h>
 #include <fishbone/editor/speartools.h>
 #include <fishbone/editor/wheelinput.h>
 #include <fishbone/items/hovercursor.h>
 #include <fishbone/items/sceneselection.h>
 #include <fishbone/items/spearitem.h>
-
-namespace {
-
-std::unique_ptr<QMimeData> copyOf(const QMimeData &data)
-{
-    auto copy = std::make_unique<QMimeData>();
-    const QStringList formats = data.formats();
-    for (const QString &format : formats)
-        copy->setData(format, data.data(format));
-    return copy;
-}
-
-} // namespace
 
 /** The state of a view. */
 struct FISHBONE_NO_EXPORT GraphicsView::Private
@@ -298,7 +286,7 @@ void GraphicsView::dropEvent(QDropEvent *event)
         return;
     const int row = m_d->target.row();
     m_d->target.clear();
-    QMimeData *const payload = copyOf(*event->mimeData()).release();
+    QMimeData *const payload = payloadCopy(*event->mimeData()).release();
     Q_EMIT dropTo(payload, m_d->editor->spearIndex(target), row);
     // Posted behind the calls of queued receivers, so that they find it alive; also when somebody
     // who waits has all deletions carried out before anything else, as the end of a drag may.

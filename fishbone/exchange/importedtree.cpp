@@ -29,7 +29,7 @@ void ImportedTree::complete(TreeItem &head)
         if (taken.contains(subject->uuid()))
             subject->setUuid(SystemHelper::randomUuid());
         taken.insert(subject->uuid());
-        subject->setPid(subject->parent() ? subject->parent()->uuid() : QStringLiteral("-1"));
+        subject->setPid(subject->parent() ? subject->parent()->uuid() : TreeItem::noIdentity());
         QStringList details = m_details.take(subject);
         if (!details.isEmpty() && !subject->detail().isEmpty())
             details.prepend(subject->detail());

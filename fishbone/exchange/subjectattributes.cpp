@@ -70,7 +70,7 @@ QString Attribute::text(const TreeItem &subject) const
     default:
         break;
     }
-    const bool isNone = key == JsonNodes::uuidKey && value.toString() == QLatin1String("-1");
+    const bool isNone = key == JsonNodes::uuidKey && value.toString() == TreeItem::noIdentity();
     return isNone ? QString() : value.toString();
 }
 

@@ -280,7 +280,7 @@ bool TaskCells::applyRelated(Role role, const QString &value, TreeItem &subject,
     std::optional<int> number;
     if (isProgress && subject.progress() <= 0)
         number = TaskValues::progress(value);
-    else if (role == Role::Progress && subject.status() == -1)
+    else if (role == Role::Progress && subject.status() == TreeItem::none)
         number = TaskValues::status(value);
     if (!number)
         return false;
@@ -305,7 +305,7 @@ bool TaskCells::applyDate(Role role, const QString &value, TreeItem &subject)
         subject.setCreateDate(*date);
     else if (role == Role::PlannedEnd)
         subject.setPlanEndDate(*date);
-    else if (subject.status() == -1)
+    else if (subject.status() == TreeItem::none)
         subject.setStatus(finished);
     return role != Role::CompletedAt; // no field takes that date
 }

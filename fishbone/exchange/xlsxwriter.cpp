@@ -222,7 +222,8 @@ QByteArray outline(const TreeItem &head)
 
 bool isAction(const TreeItem &subject)
 {
-    return subject.status() != -1 || !subject.managerName().isEmpty() || subject.planEndDate() != 0;
+    return subject.status() != TreeItem::none || !subject.managerName().isEmpty() ||
+           subject.planEndDate() != 0;
 }
 
 /** The day of a date as spreadsheets count it. */

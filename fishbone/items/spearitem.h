@@ -93,7 +93,7 @@ public:
     void updateMovableFlag();
     /** Stores @p status in the subject, shows it and places the companions anew. */
     void setTaskStatus(int status);
-    /** Brings the status icon in line with the subject; a subject of status -1 shows none. */
+    /** Brings the status icon in line with the subject; a subject without one shows none. */
     void updateTaskStatus();
     /** Sets the tool tip to the subject's. */
     void updateToolTip();

@@ -342,16 +342,7 @@ quint64 FishModel::changeStamp()
 
 QList<QPointer<FishInfo>> FishModel::fishChangedSince(quint64 stamp)
 {
-    QList<QPointer<FishInfo>> changed;
-    for (const FishModel *model : qAsConst(livingModels())) {
-        if (!model->m_d->changes.isChangedSince(stamp))
-            continue;
-        for (FishInfo *document : model->m_d->documents.all()) {
-            if (ChangeRecord::stampOf(*document) > stamp)
-                changed.append(document);
-        }
-    }
-    return changed;
+    return Lookup::changedSince(livingModels(), stamp);
 }
 
 bool FishModel::isListChangedSince(quint64 stamp) const
@@ -361,13 +352,7 @@ bool FishModel::isListChangedSince(quint64 stamp) const
 
 FishInfo *FishModel::fishOfTold(const QModelIndex &index) const
 {
-    const TreeItem *const item = getTreeItem(index);
-    if (!item)
-        return nullptr;
-    const bool isTold = m_d->changes.isTold(item);
-    if ((isTold && m_d->changes.isTreeAsTold()) || contains(item))
-        return fishOf(item);
-    return isTold ? m_d->changes.toldDocument() : nullptr;
+    return m_d->lookup.documentOfTold(getTreeItem(index));
 }
 
 FISH_MODEL_TYPE FishModel::modelType() const

@@ -3,8 +3,8 @@
 
 #include <fishbone/model/fishmodellookup.h>
 
-#include <fishbone/model/documentlist.h>
 #include <fishbone/model/fishinfo.h>
+#include <fishbone/model/fishmodel_p.h>
 #include <fishbone/model/subjectwalk.h>
 
 #include <QSet>
@@ -58,6 +58,32 @@ QModelIndexList FishModel::Lookup::withTitle(const QString &key) const
             visitSubjects(head, collect);
     }
     return found;
+}
+
+FishInfo *FishModel::Lookup::documentOfTold(const TreeItem *item) const
+{
+    if (!item)
+        return nullptr;
+    const ChangeRecord &changes = m_model.m_d->changes;
+    const bool isTold = changes.isTold(item);
+    if ((isTold && changes.isTreeAsTold()) || contains(item))
+        return m_model.fishOf(item);
+    return isTold ? changes.toldDocument() : nullptr;
+}
+
+QList<QPointer<FishInfo>> FishModel::Lookup::changedSince(const QVector<FishModel *> &models,
+                                                          quint64 stamp)
+{
+    QList<QPointer<FishInfo>> changed;
+    for (const FishModel *model : models) {
+        if (!model->m_d->changes.isChangedSince(stamp))
+            continue;
+        for (FishInfo *document : model->m_d->documents.all()) {
+            if (ChangeRecord::stampOf(*document) > stamp)
+                changed.append(document);
+        }
+    }
+    return changed;
 }
 
 QModelIndexList FishModel::Lookup::ofRecords(const QVector<Record> &records) const

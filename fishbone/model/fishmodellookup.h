@@ -6,6 +6,8 @@
 #include <fishbone/model/fishmodelpart.h>
 
 #include <QModelIndexList>
+#include <QPointer>
+#include <QVector>
 
 /** Finds nodes of a FishModel by what they hold, in pre-order; each takes a walk over the trees. */
 class FISHBONE_NO_EXPORT FishModel::Lookup : Part
@@ -21,4 +23,9 @@ public:
     QModelIndex withUuid(const QString &uuid) const;
     QModelIndexList withTitle(const QString &key) const;
     QModelIndexList ofRecords(const QVector<Record> &records) const;
+    /** The document of @p item, null for none, of which views are being told; see fishOfTold(). */
+    FishInfo *documentOfTold(const TreeItem *item) const;
+    /** The documents of @p models that have changed since @p stamp. */
+    static QList<QPointer<FishInfo>> changedSince(const QVector<FishModel *> &models,
+                                                  quint64 stamp);
 };

@@ -134,7 +134,7 @@ void FishModel::Moves::moveToTop(TreeItem *source, int sourceRow, int row, FishI
     const Change step =
         announcer().moving(m_model.rowIndex(source), sourceRow, 1, QModelIndex(), row);
     FishInfo *const entering = alive ? document : new FishInfo; // as in insertFish()
-    // The container's own uuid is "-1", which as a pid says that there is no parent task.
+    // The container has no identity, which as a pid says that there is no parent task.
     entering->treeItem()->insertChildAtPosition(0, source->childAtIndex(sourceRow));
     documents().insert(row, entering);
 }

@@ -41,7 +41,8 @@ QJsonObject nodeObject(const TreeItem &node, const QJsonArray &children)
     return object;
 }
 
-/** A children array whose nodes are still to be made. */
+/** A children array whose nodes are still to be made: there is nothing yet that could be visited.
+ */
 struct Pending
 {
     QJsonArray objects;

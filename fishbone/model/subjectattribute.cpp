@@ -3,44 +3,14 @@
 
 #include <fishbone/model/subjectattribute.h>
 
+#include <fishbone/model/attributevalues.h>
 #include <fishbone/model/jsonnodes.h>
 #include <fishbone/model/treeitem.h>
-#include <fishbone/style/spearstyle.h>
 
 #include <QJsonArray>
 #include <QJsonObject>
 
 #include <algorithm>
-#include <cmath>
-
-namespace {
-
-/** An instant as a file holds it; one that 64 bits cannot hold counts as unset. */
-qint64 dateFrom(const QJsonValue &value)
-{
-    constexpr double limit = 9223372036854775808.0; // 2^63
-    const double msecs = value.toDouble();
-    return msecs > -limit && msecs < limit ? std::llround(msecs) : 0;
-}
-
-QJsonObject styleOf(const TreeItem &subject)
-{
-    QJsonObject style;
-    if (subject.spearStyle())
-        subject.spearStyle()->write(style);
-    return style;
-}
-
-QStringList textsFrom(const QJsonValue &value)
-{
-    QStringList texts;
-    const QJsonArray elements = value.toArray();
-    for (const QJsonValue &element : elements)
-        texts.append(element.toString());
-    return texts;
-}
-
-} // namespace
 
 QVector<SubjectAttribute> SubjectAttribute::makeAll()
 {
@@ -48,7 +18,6 @@ QVector<SubjectAttribute> SubjectAttribute::makeAll()
     using T = TreeItem;
     const Uses exchanged = Edited | Exchanged;
     const Uses shown = exchanged | Detailed;
-    constexpr int none = -1;
     using Row = SubjectAttribute;
     return {
         Row(titleKey, &T::title, &T::setTitle, Edited | Detailed | Searched).inEveryFile(),
@@ -56,9 +25,9 @@ QVector<SubjectAttribute> SubjectAttribute::makeAll()
         Row(showidKey, &T::showid, &T::setShowid, shown | Searched).inEveryFile(),
         Row(pidKey, &T::pid, &T::setPid, Searched),
         Row(typeKey, &T::type, &T::setType, exchanged),
-        Row(statusKey, &T::status, &T::setStatus, shown).unset(none),
+        Row(statusKey, &T::status, &T::setStatus, shown).unset(T::none),
         Row(progressKey, &T::progress, &T::setProgress, shown),
-        Row(priorityKey, &T::priority, &T::setPriority, shown).unset(none),
+        Row(priorityKey, &T::priority, &T::setPriority, shown).unset(T::none),
         Row(managerNameKey, &T::managerName, &T::setManagerName, shown, UnlessNull),
         Row(managerIdKey, &T::managerId, &T::setManagerId, shown, UnlessNull),
         Row(creatorNameKey, &T::creatorName, &T::setCreatorName, shown, UnlessNull),
@@ -185,7 +154,7 @@ QJsonValue SubjectAttribute::value(const TreeItem &subject) const
     case Flag:
         return (subject.*m_getFlag)();
     case Style:
-        return styleOf(subject);
+        return AttributeValues::styleOf(subject);
     }
     return QJsonValue();
 }
@@ -221,10 +190,10 @@ void SubjectAttribute::read(TreeItem &subject, const QJsonValue &value) const
         (subject.*m_setNumber)(value.toInt(0));
         break;
     case Date:
-        (subject.*m_setDate)(dateFrom(value));
+        (subject.*m_setDate)(AttributeValues::dateFrom(value));
         break;
     case Texts:
-        (subject.*m_setTexts)(textsFrom(value));
+        (subject.*m_setTexts)(AttributeValues::textsFrom(value));
         break;
     case Flag:
         (subject.*m_setFlag)(value.toBool(false));
@@ -239,7 +208,7 @@ void SubjectAttribute::read(TreeItem &subject, const QJsonValue &value) const
 void SubjectAttribute::copy(TreeItem &to, const TreeItem &from) const
 {
     // Dialogs may be working on the style.
-    if (m_kind != Style || styleOf(to) != styleOf(from))
+    if (m_kind != Style || AttributeValues::styleOf(to) != AttributeValues::styleOf(from))
         set(to, get(from));
 }
 
@@ -257,7 +226,7 @@ QVariant SubjectAttribute::get(const TreeItem &subject) const
     case Flag:
         return (subject.*m_getFlag)();
     case Style:
-        return styleOf(subject);
+        return AttributeValues::styleOf(subject);
     }
     return QVariant();
 }

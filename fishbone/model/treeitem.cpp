@@ -16,23 +16,11 @@
 
 namespace {
 
-/** The text that stands for "no task" wherever an identity is stored. */
-const QString &noTask()
-{
-    static const QString text = QStringLiteral("-1");
-    return text;
-}
-
 /** Empty but not null, since the file writer leaves out null strings. */
 const QString &emptyText()
 {
     static const QString text = QStringLiteral("");
     return text;
-}
-
-bool namesTask(const QString &identity)
-{
-    return !identity.isEmpty() && identity != noTask();
 }
 
 } // namespace
@@ -42,6 +30,17 @@ struct TreeItem::Extra
     QJsonObject otherFields;
     FishInfo *document = nullptr; // whose container the node is
 };
+
+const QString &TreeItem::noIdentity()
+{
+    static const QString text = QString::number(none); // which all nodes share
+    return text;
+}
+
+bool TreeItem::isIdentity(const QString &text)
+{
+    return !text.isEmpty() && text != noIdentity();
+}
 
 TreeItem::TreeItem()
 {
@@ -97,9 +96,9 @@ void TreeItem::initData()
 {
     // All nodes share these texts.
     m_title = emptyText();
-    m_uuid = noTask();
+    m_uuid = noIdentity();
     m_showid = emptyText();
-    m_pid = noTask();
+    m_pid = noIdentity();
     m_detail = emptyText();
     m_url = emptyText();
     m_managerName = emptyText();
@@ -164,7 +163,7 @@ void TreeItem::setTitle(const QString &title)
 
 bool TreeItem::ensureUuid()
 {
-    if (namesTask(m_uuid))
+    if (isIdentity(m_uuid))
         return false;
     m_uuid = SystemHelper::randomUuid();
     return true;
@@ -244,7 +243,7 @@ void TreeItem::delSpearStyle()
 
 bool TreeItem::isHaveParentTask() const
 {
-    return namesTask(m_pid);
+    return isIdentity(m_pid);
 }
 
 QString TreeItem::toolTipString() const

@@ -43,7 +43,14 @@ class FISHBONE_EXPORT TreeItem
     Q_DISABLE_COPY(TreeItem)
 
 public:
-    /** A node with default attributes: no title, uuid and pid "-1", status and priority -1. */
+    /** Stands for none where a number is a status or a priority. */
+    static constexpr int none = -1;
+    /** Stands for none where a text is an identity, a uuid or pid: the number none as a text. */
+    static const QString &noIdentity();
+    /** Whether @p text is an identity: neither empty nor noIdentity(). */
+    static bool isIdentity(const QString &text);
+
+    /** A node with default attributes: no title, identity, status or priority. */
     TreeItem();
 
     /** A node with these attributes. It names @p parent but is not added to its children. */
@@ -146,7 +153,7 @@ public:
     const QString &title() const { return m_title; }
     /** Stores the title; a linked spear shows it at once. */
     void setTitle(const QString &title);
-    /** Identity of the subject; empty or "-1" counts as none. */
+    /** Identity of the subject, see isIdentity(). */
     const QString &uuid() const { return m_uuid; }
     /** Stores the identity; the pids of the children stay. */
     void setUuid(const QString &uuid) { m_uuid = uuid; }
@@ -156,7 +163,7 @@ public:
     const QString &showid() const { return m_showid; }
     /** Stores the short identifier. */
     void setShowid(const QString &showid) { m_showid = showid; }
-    /** Uuid of the parent task; empty or "-1" means none. */
+    /** Uuid of the parent task, see isIdentity(). */
     const QString &pid() const { return m_pid; }
     /** Stores the uuid of the parent task; the node stays where it is. */
     void setPid(const QString &pid) { m_pid = pid; }
@@ -172,7 +179,7 @@ public:
     int type() const { return m_type; }
     /** Stores the kind of task. */
     void setType(int type) { m_type = type; }
-    /** The status of the task, a TaskStatus; -1 for none. */
+    /** The status of the task, a TaskStatus, or none. */
     int status() const { return m_status; }
     /** Stores the status. */
     void setStatus(int status);
@@ -180,7 +187,7 @@ public:
     int progress() const { return m_progress; }
     /** Stores the progress. */
     void setProgress(int progress);
-    /** The priority, a number of the host's; -1 for none. */
+    /** The priority, a number of the host's, or none. */
     int priority() const { return m_priority; }
     /** Stores the priority. */
     void setPriority(int priority) { m_priority = priority; }
@@ -270,7 +277,7 @@ public:
 
     /** True for the head of a diagram: it has a parent, and that parent has none. */
     bool isTopVaildItem() const { return m_parent && !m_parent->m_parent; }
-    /** True when the pid names a task: neither empty nor "-1". */
+    /** True when the pid names a task. */
     bool isHaveParentTask() const;
     /** The text for the bone's tooltip. */
     QString toolTipString() const;
@@ -309,9 +316,9 @@ private:
     QString m_pid;
     QString m_detail;
     int m_type = 0;
-    int m_status = -1;
+    int m_status = none;
     int m_progress = 0;
-    int m_priority = -1;
+    int m_priority = none;
     QString m_url;
     QString m_managerName;
     QString m_managerId;

@@ -29,7 +29,7 @@ class FISHBONE_EXPORT AttributeCommand : public UndoCommand
 public:
     ~AttributeCommand() override;
 
-    /** The subject's uuid; "-1" when the command was made for no subject. */
+    /** The subject's uuid; TreeItem::noIdentity() when the command was made for none. */
     QString uuid() const;
 
 protected:

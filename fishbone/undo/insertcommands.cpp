@@ -46,7 +46,8 @@ struct InsertCommand::Private
 /** A new subject with the uuid that the first one drew. */
 TreeItem *InsertCommand::Private::makeSubject(const QString &title, const QString &pid) const
 {
-    const QString uuid = namesSubject(inserted.uuid) ? inserted.uuid : SystemHelper::randomUuid();
+    const QString uuid =
+        TreeItem::isIdentity(inserted.uuid) ? inserted.uuid : SystemHelper::randomUuid();
     return new TreeItem(title, uuid, QStringLiteral(""), pid, 0);
 }
 
@@ -67,8 +68,8 @@ bool InsertCommand::Private::insertRow(const Place &place)
         return false;
     const QPersistentModelIndex index = model->index(place.row, 0, parent);
     const QString drawn = uuidFromIndex(index);
-    if (!namesSubject(inserted.uuid))
-        inserted.uuid = namesSubject(drawn) ? drawn : SystemHelper::randomUuid();
+    if (!TreeItem::isIdentity(inserted.uuid))
+        inserted.uuid = TreeItem::isIdentity(drawn) ? drawn : SystemHelper::randomUuid();
     if (inserted.uuid != drawn)
         model->setData(index.sibling(index.row(), uuidColumn), inserted.uuid, Qt::EditRole);
     return true;
@@ -106,7 +107,7 @@ QString InsertCommand::uuid() const
 
 QString InsertCommand::newUuid() const
 {
-    return namesSubject(m_d->inserted.uuid) ? m_d->inserted.uuid : QString();
+    return TreeItem::isIdentity(m_d->inserted.uuid) ? m_d->inserted.uuid : QString();
 }
 
 void InsertCommand::redo()

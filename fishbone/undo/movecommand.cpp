@@ -10,6 +10,7 @@
 #include <fishbone/model/fishmodel.h>
 #include <fishbone/model/treeitem.h>
 #include <fishbone/undo/stepgate.h>
+#include <fishbone/undo/subjectfinder.h>
 #include <fishbone/undo/subjectlookup.h>
 #include <fishbone/undo/subjectmove.h>
 #include <fishbone/undo/subjectspears.h>

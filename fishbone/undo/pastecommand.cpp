@@ -13,6 +13,7 @@
 #include <fishbone/model/treeitem.h>
 #include <fishbone/undo/heldsubject.h>
 #include <fishbone/undo/stepgate.h>
+#include <fishbone/undo/subjectfinder.h>
 #include <fishbone/undo/subjectlookup.h>
 #include <fishbone/undo/subjectspears.h>
 
@@ -53,7 +54,7 @@ void renewUuids(TreeItem *top, QSet<QString> &used)
 {
     visitSubjects(top, [&used](TreeItem *subject) {
         const QString uuid = subject->uuid();
-        if (namesSubject(uuid) && used.contains(uuid)) {
+        if (TreeItem::isIdentity(uuid) && used.contains(uuid)) {
             subject->setUuid(SystemHelper::randomUuid());
             for (TreeItem *child : subject->childItems()) {
                 if (child->pid() == uuid)

@@ -48,7 +48,7 @@ public:
     void undo() override;
     void redo() override;
 
-    /** The uuid of the subject that the place is told by; "-1" when there is none. */
+    /** The uuid of the subject that the place is told by; TreeItem::noIdentity() for none. */
     QString uuid() const;
     /** The uuid of the new subject, the same in every redo(); empty before the first one. */
     QString newUuid() const;
@@ -242,7 +242,7 @@ public:
 
     /** The snapshot. */
     QJsonObject objects() const;
-    /** The uuid of the subject that the copies go below; "-1" when there is none. */
+    /** The uuid of the subject that the copies go below; TreeItem::noIdentity() for none. */
     QString targetUuid() const;
     /** The uuids of the copies that the last redo() added, the newest first. */
     QStringList pastedUuids() const;
@@ -285,7 +285,7 @@ public:
 
     /** The snapshot. */
     QJsonObject objects() const;
-    /** The uuid of the new parent; "-1" when there is none. */
+    /** The uuid of the new parent; TreeItem::noIdentity() for none. */
     QString targetUuid() const;
     /** The row that the subjects move to. */
     int row() const;

@@ -3,43 +3,22 @@
 
 #pragma once
 
-#include <QHash>
-#include <QPointer>
-#include <QSet>
 #include <QString>
 #include <QVector>
 
-#include <fishbone/base/guardedpointer.h>
-#include <fishbone/model/fishinfo.h>
-#include <fishbone/model/treeitem.h>
+#include <fishbone/undo/subjectkey.h>
 
 class FishModel;
 class QAbstractItemModel;
 class QJsonObject;
 class QModelIndex;
+class TreeItem;
 
 constexpr int uuidColumn = 1; ///< of FishModel
 
-/**
- * How a command knows a subject, whose index and node may come and go between redo() and undo().
- *
- * Uuids tell subjects apart as a rule, but the same file may be open twice, and copies may share
- * the uuid of their original. So the document and the node serve as hints: among subjects of the
- * same uuid the very node is meant, then one of that document.
- */
-struct SubjectKey
-{
-    QString uuid = QStringLiteral("-1");
-    QPointer<FishInfo> document;
-    GuardedPointer<TreeItem> node;
-};
-
-/** Whether @p uuid is one: "" and "-1" stand for none. */
-bool namesSubject(const QString &uuid);
-
 /** The node behind @p index; null for none, also in a model without nodes. */
 TreeItem *itemFromIndex(const QModelIndex &index);
-/** The uuid of the subject at @p index, "-1" for an invalid index. */
+/** The uuid of the subject at @p index, TreeItem::noIdentity() for an invalid index. */
 QString uuidFromIndex(const QModelIndex &index);
 /** Gives @p subject and its parent a uuid when they have none; nobody is told. */
 void ensureUuids(TreeItem *subject);
@@ -85,44 +64,3 @@ QVector<SubjectKey> resolveNames(const FishModel &model, const QVector<SubjectKe
  * for one below another of them, which goes with that one.
  */
 QVector<TreeItem *> findTopSubjects(const FishModel &model, const QVector<SubjectKey> &keys);
-
-/**
- * Finds many subjects in one walk over the nodes.
- *
- * It looks at a document the first time it needs it, and holds for as long as subjects only move
- * within their document or leave it, deleted or not; add() tells it of others.
- */
-class SubjectFinder
-{
-public:
-    SubjectFinder(const FishModel &model, const QVector<SubjectKey> &keys);
-
-    /**
-     * The subject that @p key, one of those given, means, none of @p except; null when it is not in
-     * the model.
-     */
-    TreeItem *find(const SubjectKey &key, const QSet<const TreeItem *> &except = {});
-    /**
-     * As find(), for a name from outside: when no subject at all has that uuid, one whose uuid ends
-     * with it, in any case.
-     */
-    TreeItem *findNamed(const SubjectKey &key, const QSet<const TreeItem *> &except);
-    /** Looks at @p subject and what is below it, which has come into its document. */
-    void add(TreeItem *subject);
-
-private:
-    /** The subjects that may be meant by each uuid, in pre-order. */
-    using Candidates = QHash<QString, QVector<GuardedPointer<TreeItem>>>;
-    enum class Match { Exact, Ending };
-
-    void collect(TreeItem *top, Match match, Candidates &candidates) const;
-    const Candidates &candidates(const FishInfo *document, Match match);
-    TreeItem *pick(const SubjectKey &key, Match match, const QSet<const TreeItem *> &except);
-
-    const FishModel &m_model;
-    QSet<QString> m_uuids;
-    QSet<QString> m_endings; ///< the same, without regard to case
-    QSet<int> m_lengths;     ///< of the endings
-    QHash<const FishInfo *, Candidates> m_exact;
-    QHash<const FishInfo *, Candidates> m_ending;
-};

@@ -103,7 +103,7 @@ void generateMissingSpears(const FishModel &model, TreeItem *parent, const QList
     queue.append(generateChildSpears(model, *parent));
     if (queue.size() < parent->childCount())
         orderSpears(*parent, queue + moved);
-    while (!queue.isEmpty())
+    while (!queue.isEmpty()) // not visitSubjects(): it goes on only below what was made
         queue.append(generateChildSpears(model, *queue.dequeue()));
 }
 

@@ -3,28 +3,21 @@
 
 #include <fishbone/undo/undostack.h>
 
+#include <fishbone/undo/commandhistory.h>
 #include <fishbone/undo/undocommand.h>
 #include <fishbone/undo/undostackowner.h>
 
-#include <QList>
 #include <QPointer>
 
 #include <utility>
 
 struct FISHBONE_NO_EXPORT UndoStack::Private
 {
-    using Command =
-        std::shared_ptr<UndoCommand>; // a running command outlives its place in the list
-    enum class CleanState { Beginning, Command, Gone };
-
-    int index = -1;
-    QList<Command> commands;
+    CommandHistory history;
     int running = 0;     // how many commands are within their undo() or redo()
     int pendingStep = 0; // what the command that runs adds to the index when it is through
     bool isRolling = false;
     int runs = 0; // of commands, so far
-    CleanState cleanState = CleanState::Beginning;
-    std::weak_ptr<UndoCommand> cleanCommand; // the current one when setClean() was called
     UndoStackOwner *owner = nullptr;
 };
 
@@ -60,9 +53,7 @@ UndoStack::UndoStack(QObject *parent)
 
 UndoStack::~UndoStack()
 {
-    // Each command is out of the list before it dies, so that nobody finds it there.
-    while (!m_d->commands.isEmpty())
-        m_d->commands.takeFirst();
+    m_d->history.removeAll();
 }
 
 void UndoStack::push(UndoCommand *command)
@@ -72,13 +63,13 @@ void UndoStack::push(UndoCommand *command)
     command->setParent(nullptr); // or two would own it
 
     const Call call(this);
-    const Private::Command pushed(command);
+    const CommandHistory::Command pushed(command);
     settle();
     if (!discardRedoTail())
         return;
-    m_d->commands.append(pushed);
+    m_d->history.append(pushed);
     m_d->pendingStep = 1;
-    if (!run(m_d->commands.count() - 1, &UndoCommand::redo))
+    if (!run(count() - 1, &UndoCommand::redo))
         return;
     settle();
     const QPointer<UndoStack> self(this);
@@ -89,12 +80,12 @@ void UndoStack::push(UndoCommand *command)
 
 int UndoStack::currentIndex() const
 {
-    return m_d->index;
+    return m_d->history.index();
 }
 
 int UndoStack::count() const
 {
-    return m_d->commands.count();
+    return m_d->history.count();
 }
 
 void UndoStack::setRolling(bool rolling)
@@ -109,68 +100,55 @@ void UndoStack::setOwner(UndoStackOwner *owner)
 
 bool UndoStack::canUndo() const
 {
-    return m_d->index >= 0 && m_d->index < m_d->commands.count();
+    return m_d->history.canUndo();
 }
 
 bool UndoStack::canRedo() const
 {
-    return m_d->index >= -1 && m_d->index < m_d->commands.count() - 1;
+    return m_d->history.canRedo();
 }
 
 QString UndoStack::undoText() const
 {
-    return canUndo() ? m_d->commands.at(m_d->index)->text() : QString();
+    return canUndo() ? m_d->history.current()->text() : QString();
 }
 
 QString UndoStack::redoText() const
 {
-    return canRedo() ? m_d->commands.at(m_d->index + 1)->text() : QString();
+    return canRedo() ? m_d->history.next()->text() : QString();
 }
 
 void UndoStack::clear()
 {
     const QPointer<UndoStack> self(this);
-    m_d->cleanState = isClean() ? Private::CleanState::Beginning : Private::CleanState::Gone;
-    m_d->index = -1;
     m_d->pendingStep = 0;
-    while (self && !m_d->commands.isEmpty())
-        m_d->commands.takeFirst();
+    m_d->history.clear();
     if (self)
         emitChange();
 }
 
 void UndoStack::setClean()
 {
-    m_d->cleanCommand.reset();
-    if (m_d->index < 0) {
-        m_d->cleanState = Private::CleanState::Beginning;
-    } else if (canUndo()) {
-        m_d->cleanState = Private::CleanState::Command;
-        m_d->cleanCommand = m_d->commands.at(m_d->index);
-    } else {
-        m_d->cleanState = Private::CleanState::Gone; // past the last command, and so nowhere
-    }
+    m_d->history.setClean();
 }
 
 bool UndoStack::isClean() const
 {
-    return (m_d->cleanState == Private::CleanState::Beginning && m_d->index == -1) ||
-           (m_d->cleanState == Private::CleanState::Command && canUndo() &&
-            m_d->cleanCommand.lock() == m_d->commands.at(m_d->index));
+    return m_d->history.isClean();
 }
 
 bool UndoStack::setCurrentIndex(int index)
 {
-    if (index < -1 || index >= m_d->commands.count() || index == m_d->index)
+    if (index < -1 || index >= count() || index == currentIndex())
         return false;
 
     const Call call(this);
     const QPointer<UndoStack> self(this);
-    const bool isUndo = index < m_d->index;
-    while (m_d->index != index) {
-        const int before = m_d->index;
+    const bool isUndo = index < currentIndex();
+    while (currentIndex() != index) {
+        const int before = currentIndex();
         step(isUndo);
-        if (!self || m_d->index == before)
+        if (!self || currentIndex() == before)
             return false;
     }
     return true;
@@ -178,11 +156,7 @@ bool UndoStack::setCurrentIndex(int index)
 
 QStringList UndoStack::commandNames() const
 {
-    QStringList names;
-    names.reserve(m_d->commands.count());
-    for (const Private::Command &command : m_d->commands)
-        names.append(command->text());
-    return names;
+    return m_d->history.names();
 }
 
 void UndoStack::redo()
@@ -203,13 +177,13 @@ void UndoStack::step(bool isUndo)
     if (m_d->running == 0 && (isUndo ? canUndo() : canRedo())) {
         m_d->pendingStep = isUndo ? -1 : 0;
         if (!isUndo)
-            ++m_d->index;
-        if (!run(m_d->index, isUndo ? &UndoCommand::undo : &UndoCommand::redo))
+            m_d->history.moveIndex(1);
+        if (!run(currentIndex(), isUndo ? &UndoCommand::undo : &UndoCommand::redo))
             return;
         settle();
     }
     if (emitAvailability())
-        Q_EMIT currentChanged(m_d->index);
+        Q_EMIT currentChanged(currentIndex());
 }
 
 /** Runs one side of a command, which is kept alive meanwhile. False when the stack did not survive
@@ -217,7 +191,7 @@ void UndoStack::step(bool isUndo)
 bool UndoStack::run(int index, void (UndoCommand::*side)())
 {
     const QPointer<UndoStack> self(this);
-    const Private::Command kept = m_d->commands.at(index);
+    const CommandHistory::Command kept = m_d->history.at(index);
     ++m_d->running;
     ++m_d->runs;
     (kept.get()->*side)();
@@ -233,30 +207,21 @@ bool UndoStack::run(int index, void (UndoCommand::*side)())
  */
 void UndoStack::settle()
 {
-    m_d->index += std::exchange(m_d->pendingStep, 0);
+    m_d->history.moveIndex(std::exchange(m_d->pendingStep, 0));
 }
 
 /** Deletes what could be redone, the newest first. False when the stack did not survive it. */
 bool UndoStack::discardRedoTail()
 {
     const QPointer<UndoStack> self(this);
-    while (self && m_d->index < m_d->commands.count() - 1)
-        m_d->commands.takeLast();
+    m_d->history.discardRedoTail();
     return self;
 }
 
 void UndoStack::boundHistory()
 {
-    if (m_d->commands.count() < m_limit)
-        return;
-    const Private::Command oldest = m_d->commands.takeFirst();
-    if (m_d->cleanState == Private::CleanState::Beginning)
-        m_d->cleanState = Private::CleanState::Gone;
-    if (!m_d->isRolling)
-        return;
-    m_d->index = m_d->commands.count() - 1;
-    if (m_d->cleanState == Private::CleanState::Command && m_d->cleanCommand.lock() == oldest)
-        m_d->cleanState = Private::CleanState::Beginning; // which is behind that one from now on
+    if (count() >= m_limit)
+        m_d->history.dropOldest(m_d->isRolling);
 }
 
 /** False when the stack did not survive it. */
@@ -272,5 +237,5 @@ bool UndoStack::emitAvailability()
 void UndoStack::emitChange()
 {
     if (emitAvailability())
-        Q_EMIT stackChanged(this, m_d->index);
+        Q_EMIT stackChanged(this, currentIndex());
 }

@@ -5,6 +5,7 @@
 #include <QStandardItemModel>
 #include <QtTest>
 
+#include <fishbone/undo/subjectfinder.h>
 #include <fishbone/undo/subjectlookup.h>
 #include <fishbone/undo/subjectspears.h>
 #include <tests/program/testprogram.h>
@@ -72,11 +73,11 @@ private Q_SLOTS:
 
 void TestSubjectLookup::shouldKnowWhatNamesNoSubject()
 {
-    QVERIFY(!namesSubject(QString()));
-    QVERIFY(!namesSubject(QStringLiteral("")));
-    QVERIFY(!namesSubject(QStringLiteral("-1")));
-    QVERIFY(namesSubject(QStringLiteral("1")));
-    QVERIFY(namesSubject(QStringLiteral("-11")));
+    QVERIFY(!TreeItem::isIdentity(QString()));
+    QVERIFY(!TreeItem::isIdentity(QStringLiteral("")));
+    QVERIFY(!TreeItem::isIdentity(QStringLiteral("-1")));
+    QVERIFY(TreeItem::isIdentity(QStringLiteral("1")));
+    QVERIFY(TreeItem::isIdentity(QStringLiteral("-11")));
 }
 
 void TestSubjectLookup::shouldGiveTheUuidOfAnIndex()
@@ -166,7 +167,7 @@ void TestSubjectLookup::shouldFindByUuid()
     QCOMPARE(found.data().toString(), title);
     // What Qt's own search would find by the ending agrees where nothing matches exactly.
     const auto *const exact = f.model->getTreeItem(f.model->modelIndexByUuid(uuid));
-    if (!exact && namesSubject(uuid)) {
+    if (!exact && TreeItem::isIdentity(uuid)) {
         const QModelIndexList hits = f.model->match(f.model->index(0, 1), Qt::DisplayRole, uuid, 1,
                                                     Qt::MatchRecursive | Qt::MatchEndsWith);
         QCOMPARE(found, hits.value(0).siblingAtColumn(0));

@@ -300,7 +300,7 @@ void TestFileCommands::shouldStayModifiedByWhatTheHistoryDoesNotKnow()
     app.select("Machines");
     app.trigger("delete");
     app.subject("Rust")->setTitle(QStringLiteral("Dust"));
-    Q_EMIT app.window.model()->dataChanged(app.find("Dust"), app.find("Dust"));
+    app.window.model()->announceChange(app.find("Dust"));
     AppFixture::settle();
     app.trigger("undo");
     QVERIFY(app.window.isWindowModified());
