@@ -5,11 +5,10 @@
 
 #include <fishbone/exchange/diagramexchange.h>
 #include <fishbone/exchange/importedtree.h>
+#include <fishbone/exchange/markdownfrontmatter.h>
 #include <fishbone/exchange/markdowninline.h>
 #include <fishbone/exchange/markdownmarks.h>
 #include <fishbone/exchange/mermaidreader.h>
-
-#include <QRegularExpression>
 
 #include <utility>
 
@@ -24,19 +23,12 @@ constexpr int itemRank = 10;
 constexpr int diagramRank = 1000000;
 constexpr int codeIndentation = 4;
 
-/** Where a line of the front matter divides into a name and a value; -1 when it does not. */
-int colonOf(const QString &line)
+/** Whether a line is one of those that a program puts in for itself: a table of contents, the fence
+ * of a quotation. */
+bool isForProgram(const QString &text)
 {
-    static const QRegularExpression entry(QStringLiteral("^[A-Za-z_][\\w -]*:(?=\\s|$)"));
-    const auto match = entry.match(line);
-    return match.hasMatch() ? int(match.capturedLength()) - 1 : -1;
-}
-
-/** Whether a line can stand in front matter. */
-bool isFrontMatter(const QString &line)
-{
-    return line.isEmpty() || colonOf(line) >= 0 || line.startsWith(QLatin1Char('#')) ||
-           line.startsWith(QLatin1String("- ")) || line.at(0).isSpace();
+    return text == QLatin1String("[[_TOC_]]") || text == QLatin1String("[TOC]") ||
+           text == QLatin1String(">>>");
 }
 
 } // namespace
@@ -44,15 +36,15 @@ bool isFrontMatter(const QString &line)
 MarkdownReader::MarkdownReader(const QString &text, ImportedTree &tree)
     : m_lines(text)
     , m_tree(tree)
+    , m_links(text)
 {
-    findDefinitions(text);
 }
 
 bool MarkdownReader::read()
 {
-    const bool hasFrontMatter = readFrontMatter();
+    const MarkdownFrontMatter frontMatter(m_lines);
     while (m_lines.next()) {
-        if (hasFrontMatter && m_lines.number() < m_firstLine)
+        if (m_lines.number() < frontMatter.firstLine())
             continue;
         if (!take())
             return false;
@@ -61,62 +53,9 @@ bool MarkdownReader::read()
     if (!isWhole || !flush())
         return false;
     finishSubject();
-    keepFrontMatter();
+    frontMatter.keep(m_tree);
+    m_links.keepUnused(m_tree);
     return true;
-}
-
-/** Looks for front matter: names and values between two lines of dashes at the very beginning. */
-bool MarkdownReader::readFrontMatter()
-{
-    ExchangeText::Lines ahead = m_lines;
-    if (!ahead.next() || ahead.raw() != QLatin1String("---"))
-        return false;
-    QStringList entries;
-    while (ahead.next()) {
-        const QString line = ahead.raw();
-        if (line == QLatin1String("---") || line == QLatin1String("...")) {
-            m_frontMatter = entries;
-            m_firstLine = ahead.number() + 1;
-            return !entries.isEmpty();
-        }
-        if (!isFrontMatter(line))
-            return false;
-        entries.append(line);
-    }
-    return false;
-}
-
-void MarkdownReader::keepFrontMatter()
-{
-    const bool isSingle = m_tree.container().childCount() == 1;
-    const TreeItem &head = isSingle ? *m_tree.container().childAtIndex(0) : m_tree.container();
-    for (const QString &line : qAsConst(m_frontMatter)) {
-        const int colon = colonOf(line);
-        QString value = colon < 0 ? line.trimmed() : line.mid(colon + 1).trimmed();
-        if (value.size() > 1 && value.at(0) == value.back() &&
-            QStringLiteral("\"'").contains(value.at(0)))
-            value = value.mid(1, value.size() - 2);
-        const bool isTitle = colon >= 0 && line.left(colon) == QLatin1String("title");
-        if (isTitle)
-            m_tree.setCommonTitle(value);
-        if (isTitle && (!isSingle || value == head.title()))
-            continue;
-        m_tree.addDetail(head, line.trimmed(), DiagramExchange::tr("the front matter"));
-    }
-}
-
-/** Finds the links that are defined in lines of their own. */
-void MarkdownReader::findDefinitions(const QString &text)
-{
-    static const QRegularExpression form(
-        QStringLiteral("^ {0,3}\\[([^\\]\\n]{1,200})\\]:[ \\t]*<?([^\\s>]+)>?[^\\n]*$"),
-        QRegularExpression::MultilineOption);
-    if (!text.contains(QLatin1String("]:")))
-        return;
-    for (auto matches = form.globalMatch(text); matches.hasNext();) {
-        const auto match = matches.next();
-        m_definitions.insert(match.captured(1).toLower(), match.captured(2));
-    }
 }
 
 bool MarkdownReader::take()
@@ -129,10 +68,13 @@ bool MarkdownReader::take()
         return true;
     if (beginsCode())
         return flush();
-    if (text.isEmpty() || MarkdownMarks::fenceLength(text) > 0) {
-        m_followsBlank = true;
+    if (text.isEmpty() || MarkdownMarks::fenceLength(text) > 0 || isForProgram(text)) {
+        if (isForProgram(text))
+            m_tree.note(Report::Appearance, text, m_lines.number());
         m_titleMayGoOn = false;
-        return flush();
+        const bool isFlushed = flush();
+        m_followsBlank = true;
+        return isFlushed;
     }
     if (!m_pending.empty() && MarkdownMarks::underlineLevel(text) > 0)
         return takeUnderline();
@@ -299,10 +241,10 @@ bool MarkdownReader::flush()
             title.append(pending.text);
         return addSubject(0, title.join(QLatin1Char(' ')), lines.front().line);
     }
-    static const QRegularExpression definition(QStringLiteral("^\\[([^\\]]{1,200})\\]:\\s*\\S"));
     for (const Pending &pending : lines) {
-        if (!definition.match(pending.text).hasMatch())
-            addDetail(readDetail(pending.text));
+        const bool isTable = pending.text.startsWith(QLatin1Char('|')); // whose bars stay apart
+        if (!MarkdownLinks::isDefinition(pending.text))
+            addDetail(isTable ? pending.text : readDetail(pending.text));
     }
     return true;
 }
@@ -325,8 +267,9 @@ void MarkdownReader::finishSubject()
     if (subject && m_status >= 0)
         takeIssue(*subject);
     if (subject && !m_title.isEmpty()) {
-        const MarkdownInline::Content title =
-            MarkdownInline::read(m_title.join(QLatin1Char(' ')), InlineKind::Title, m_definitions);
+        const MarkdownInline::Content title = MarkdownInline::read(
+            m_title.join(QLatin1Char(' ')), InlineKind::Title, m_links.targets());
+        m_links.noteUsed(title.links);
         subject->setTitle(title.text);
         m_tree.addContent(*subject, title.links, title.images, m_titleLine);
         if (m_status >= 0)

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <fishbone/exchange/exchangetext.h>
+#include <fishbone/exchange/markdownlinks.h>
 
 #include <QHash>
 #include <QString>
@@ -29,9 +30,6 @@ private:
         qint64 line;
     };
 
-    bool readFrontMatter();
-    void keepFrontMatter();
-    void findDefinitions(const QString &text);
     bool take();
     bool takeCode();
     bool isTaskListFence(const QString &text, int length);
@@ -51,13 +49,11 @@ private:
 
     ExchangeText::Lines m_lines;
     ImportedTree &m_tree;
-    QStringList m_frontMatter;
-    qint64 m_firstLine = 0;                ///< of what follows the front matter
-    QHash<QString, QString> m_definitions; ///< of links, by their names
-    QString m_text;                        ///< of the line, without comments
-    QStringList m_title;                   ///< the lines of the last subject's title
-    qint64 m_titleLine = 0;                ///< the first of them
-    QStringList m_detail;                  ///< the lines of the last subject's detail
+    MarkdownLinks m_links;
+    QString m_text;         ///< of the line, without comments
+    QStringList m_title;    ///< the lines of the last subject's title
+    qint64 m_titleLine = 0; ///< the first of them
+    QStringList m_detail;   ///< the lines of the last subject's detail
     std::vector<Pending> m_pending;
     QString m_fence;             ///< what ends the block of code that has begun
     QString m_language;          ///< of that block

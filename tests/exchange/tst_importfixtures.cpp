@@ -186,6 +186,7 @@ void TestImportFixtures::shouldHaveTenFilesOfEachProgram_data()
     const std::pair<Format, const char *> programs[] = {
         {Format::Csv, "asana excel github gitlab jira linear pivotal redmine trello"},
         {Format::FreeMind, "freemind freeplane"},
+        {Format::Markdown, "github gitlab notion obsidian"},
         {Format::Opml, "checkvist dynalist feedly logseq mindjet omnioutliner scrivener workflowy"},
         {Format::Xmind, "xmind-8 zen"},
     };
