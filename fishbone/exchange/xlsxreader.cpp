@@ -194,6 +194,7 @@ bool XlsxReader::read(int sheet, std::vector<TaskTable::Row> &rows)
 {
     m_rows = &rows;
     m_linkIds.clear();
+    m_links.clear();
     m_cells = 0;
     m_sheetRelations = relationsOf(m_paths.at(sheet));
     if (!m_tree.error().isEmpty() ||
@@ -248,6 +249,8 @@ bool XlsxReader::readCell(QXmlStreamReader &xml, TaskTable::Row &row)
             text = cellText(type, style, xml.readElementText());
         else if (xml.name() == QLatin1String("is"))
             text = runs(xml);
+        else if (xml.name() == QLatin1String("f"))
+            takeFormula(xml.readElementText(), row.line, column);
         else
             xml.skipCurrentElement();
     }
@@ -301,29 +304,49 @@ QString XlsxReader::numberText(const QString &value, Form form) const
                : date + QLatin1Char('T') + time.toString(Qt::ISODateWithMs);
 }
 
-/** Adds the links of cells as a column of their own. */
+/** Takes the link that a formula makes; of all others the result counts. */
+void XlsxReader::takeFormula(const QString &formula, qint64 line, int column)
+{
+    static const QRegularExpression form(QStringLiteral("^\\s*HYPERLINK\\(\\s*\"([^\"]++)\""),
+                                         QRegularExpression::CaseInsensitiveOption);
+    if (const auto match = form.match(formula); match.hasMatch())
+        addLink(match.captured(1), line, column);
+}
+
+void XlsxReader::addLink(const QString &target, qint64 line, int column)
+{
+    if (target.isEmpty() || target.startsWith(QLatin1Char('#')))
+        m_tree.note(Kind::LeftOut, DiagramExchange::tr("a link within the workbook"), line);
+    else
+        m_links[line].insert(column, target);
+}
+
+/** Adds the links of cells as a column of their own, those of a row in the order of the cells. */
 void XlsxReader::addLinks()
 {
     const int header = TaskTable::headerOf(*m_rows);
-    if (m_linkIds.isEmpty() || header < 0)
+    if (header < 0)
+        return;
+    for (auto link = m_linkIds.cbegin(); link != m_linkIds.cend(); ++link) {
+        static const QRegularExpression digits(QStringLiteral("\\d+"));
+        const qint64 line = digits.match(link.key()).captured().toLongLong();
+        addLink(m_sheetRelations.value(link.value()), line, columnOf(link.key()));
+    }
+    if (m_links.isEmpty())
         return;
     int width = 0;
     for (const TaskTable::Row &row : *m_rows)
         width = qMax(width, int(row.cells.size()));
-    QHash<qint64, QString> links; ///< by the rows
-    for (auto link = m_linkIds.cbegin(); link != m_linkIds.cend(); ++link) {
-        static const QRegularExpression digits(QStringLiteral("\\d+"));
-        const qint64 line = digits.match(link.key()).captured().toLongLong();
-        const QString target = m_sheetRelations.value(link.value());
-        if (target.isEmpty())
-            m_tree.note(Kind::LeftOut, DiagramExchange::tr("a link within the workbook"), line);
-        else
-            links.insert(line, target);
-    }
     for (std::size_t i = 0; i < m_rows->size(); ++i) {
         TaskTable::Row &row = (*m_rows)[i];
-        const QString text = int(i) == header ? QStringLiteral("Link") : links.value(row.line);
-        if (text.isEmpty() || row.cells.contains(text))
+        QStringList links;
+        for (const QString &link : m_links.value(row.line)) {
+            if (!row.cells.contains(link) && !links.contains(link))
+                links.append(link);
+        }
+        const QString text =
+            int(i) == header ? QStringLiteral("Link") : links.join(QLatin1Char(' '));
+        if (text.isEmpty())
             continue;
         while (row.cells.size() < width)
             row.cells.append(QString());

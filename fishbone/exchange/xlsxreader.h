@@ -6,6 +6,7 @@
 #include <fishbone/exchange/tasktable.h>
 
 #include <QHash>
+#include <QMap>
 #include <QString>
 #include <QStringList>
 #include <QVector>
@@ -54,6 +55,8 @@ private:
     bool readCell(QXmlStreamReader &xml, TaskTable::Row &row);
     QString cellText(const QString &type, int style, const QString &value) const;
     QString numberText(const QString &value, Form form) const;
+    void takeFormula(const QString &formula, qint64 line, int column);
+    void addLink(const QString &target, qint64 line, int column);
     void addLinks();
 
     ZipReader &m_archive;
@@ -67,7 +70,8 @@ private:
     bool m_isSince1904 = false;
     bool m_areCellStyles = false; ///< what is being read of the styles
     std::vector<TaskTable::Row> *m_rows = nullptr;
-    QHash<QString, QString> m_linkIds; ///< of cells
+    QHash<QString, QString> m_linkIds;         ///< of cells
+    QHash<qint64, QMap<int, QString>> m_links; ///< of rows, by the columns
     QHash<QString, QString> m_sheetRelations;
     qint64 m_cells = 0;
 };

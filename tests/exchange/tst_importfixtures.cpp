@@ -189,6 +189,7 @@ void TestImportFixtures::shouldHaveTenFilesOfEachProgram_data()
         {Format::Markdown, "github gitlab notion obsidian"},
         {Format::Opml, "checkvist dynalist feedly logseq mindjet omnioutliner scrivener workflowy"},
         {Format::Xmind, "xmind-8 zen"},
+        {Format::Xlsx, "excel google-sheets"},
     };
     for (const auto &[format, names] : programs) {
         const QStringList list = QString::fromLatin1(names).split(QLatin1Char(' '));
