@@ -33,8 +33,8 @@ double paintMap(QPainter *painter, const PageGrid &grid, int number, const QRect
                              room.width() / 3 / grid.columns()); // leaves room for text
     const QRectF first(room.left(), room.bottom() - cell * grid.rows(), cell, cell);
     for (int page = 0; page < grid.count(); ++page) {
-        const QRectF square =
-            first.translated(page % grid.columns() * cell, page / grid.columns() * cell);
+        const int row = page / grid.columns();
+        const QRectF square = first.translated(page % grid.columns() * cell, row * cell);
         painter->setBrush(page == number ? QBrush(Qt::darkGray) : QBrush(Qt::NoBrush));
         painter->drawRect(square);
     }

@@ -6,6 +6,7 @@
 #include <ctime>
 #include <functional>
 
+#include <tests/program/sanitized.h>
 #include <tests/program/testprogram.h>
 #include <tests/support/largefish.h>
 
@@ -114,7 +115,7 @@ void TestFishEditorLargeDiagrams::shouldShowEveryLevel()
 
 void TestFishEditorLargeDiagrams::shouldShowEveryRow()
 {
-    constexpr int width = 10000;
+    constexpr int width = unlessSanitized(10000, 3000);
     LargeFixture<FishModel> fish(makeFan(width));
     const QAbstractItemModelTester tester(&fish.model,
                                           QAbstractItemModelTester::FailureReportingMode::QtTest);
@@ -137,7 +138,7 @@ void TestFishEditorLargeDiagrams::shouldShowEveryRow()
 
 void TestFishEditorLargeDiagrams::shouldShowWideBranchesOfOneBone()
 {
-    constexpr int width = 10000;
+    constexpr int width = unlessSanitized(10000, 3000);
     LargeFixture<FishModel> fish(makeBranch(width));
     fish.editor.generateSpear(&fish.model, fish.model.index(0, 0, fish.top));
     fish.editor.expandorContractAll(true);
@@ -177,8 +178,9 @@ void TestFishEditorLargeDiagrams::shouldTakeLinearTime()
     QFETCH(Tree, tree);
     secondsToUse(tree(100)); // pictures and fonts are loaded now
 
-    const double small = secondsToUse(tree(2000));
-    const double large = secondsToUse(tree(8000));
+    constexpr int count = unlessSanitized(2000, 600);
+    const double small = secondsToUse(tree(count));
+    const double large = secondsToUse(tree(4 * count));
 
     // Four times the nodes: 4 for linear time, 16 for quadratic time.
     QVERIFY2(large < 8 * small,
