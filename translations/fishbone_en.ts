@@ -3437,6 +3437,16 @@ Do you want to save your changes?</translation>
     </message>
 </context>
 <context>
+    <name>StepNames</name>
+    <message numerus="yes">
+        <source>%1 “%2” and %n more</source>
+        <translation>
+            <numerusform>%1 “%2” and %n more</numerusform>
+            <numerusform>%1 “%2” and %n more</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>StringListEditor</name>
     <message>
         <source>Add</source>

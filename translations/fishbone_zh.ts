@@ -3425,6 +3425,15 @@ Do you want to save your changes?</source>
     </message>
 </context>
 <context>
+    <name>StepNames</name>
+    <message numerus="yes">
+        <source>%1 “%2” and %n more</source>
+        <translation>
+            <numerusform>%1“%2”等 %n 个其他主题</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>StringListEditor</name>
     <message>
         <source>Add</source>

@@ -5,6 +5,7 @@
 
 #include <app/common/actionset.h>
 #include <app/diagram/diagramsession.h>
+#include <app/diagram/stepnames.h>
 #include <app/diagram/subjectedit.h>
 #include <app/editing/subjectclipboard.h>
 #include <app/editing/titleeditor.h>
@@ -229,10 +230,25 @@ void EditCommands::setSession(DiagramSession *session)
     m_clipboard->setSession(session);
 }
 
+/** The entries of the menu say what they would take back or repeat. */
+void EditCommands::nameHistoryActions()
+{
+    const UndoStack &stack = *m_editor->undoStack();
+    const QStringList steps = StepNames::of(stack);
+    const auto name = [this, &steps](const char *action, QString text, int step, bool isPossible) {
+        if (isPossible && step >= 0 && step < int(steps.size()))
+            text +=
+                QLatin1String(": ") + QString(steps.at(step)).replace(u'&', QLatin1String("&&"));
+        m_actions->action(QLatin1String(action))->setText(text);
+        m_actions->action(QLatin1String(action))->setEnabled(isPossible);
+    };
+    name("undo", tr("&Undo"), stack.currentIndex(), m_editor->canUndo());
+    name("redo", tr("&Redo"), stack.currentIndex() + 1, m_editor->canRedo());
+}
+
 void EditCommands::updateActions()
 {
-    m_actions->action(QStringLiteral("undo"))->setEnabled(m_editor->canUndo());
-    m_actions->action(QStringLiteral("redo"))->setEnabled(m_editor->canRedo());
+    nameHistoryActions();
     const SpearItem *const spear = m_editor->firstSelectedSpear();
     const TreeItem *const subject = spear ? spear->treeItem() : nullptr;
     const bool isBone = subject && !spear->isHeader();

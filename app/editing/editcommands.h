@@ -42,6 +42,7 @@ Q_SIGNALS:
 
 private:
     void addHistoryActions();
+    void nameHistoryActions();
     void addClipboardActions();
     void addInsertActions();
     void addSubjectActions();

@@ -5,6 +5,7 @@
 
 #include <app/common/language.h>
 #include <app/diagram/diagramsession.h>
+#include <app/diagram/stepnames.h>
 
 #include <fishbone/editor/fisheditor.h>
 #include <fishbone/undo/undostack.h>
@@ -21,6 +22,8 @@ HistoryPanel::HistoryPanel(DiagramSession *session, QWidget *parent)
     const UndoStack *const stack = session->editor()->undoStack();
     connect(stack, &UndoStack::stackChanged, this, &HistoryPanel::refresh);
     connect(stack, &UndoStack::currentChanged, this, &HistoryPanel::refresh);
+    // A new subject gets its title within the step that inserted it.
+    connect(session, &DiagramSession::stateChanged, this, &HistoryPanel::refresh);
     connect(this, &QListWidget::currentRowChanged, m_session,
             [this](int row) { m_session->jumpTo(row - 1); });
     Language::bind(this, [this] { refresh(); });
@@ -30,7 +33,7 @@ void HistoryPanel::refresh()
 {
     const QSignalBlocker blocker(this);
     const UndoStack *const stack = m_session->editor()->undoStack();
-    const QStringList rows = QStringList(tr("(beginning)")) + stack->commandNames();
+    const QStringList rows = QStringList(tr("(beginning)")) + StepNames::of(*stack);
     while (count() > rows.size())
         delete takeItem(count() - 1);
     while (count() < rows.size())

@@ -20,6 +20,8 @@ AttributeCommand::AttributeCommand(const Name &name, QAbstractItemModel *model,
 {
     m_d->model = model;
     m_d->subject = keyFromIndex(index);
+    if (const TreeItem *const item = itemFromIndex(index))
+        setSubjectTitles({item->title()});
 }
 
 AttributeCommand::~AttributeCommand() = default;
@@ -56,6 +58,7 @@ ModifyName::ModifyName(QAbstractItemModel *model, const QModelIndex &index, cons
     : AttributeCommand([] { return tr("Modify subject name"); }, model, index)
     , m_newName(name)
 {
+    setSubjectTitles({name});
 }
 
 void ModifyName::redo()

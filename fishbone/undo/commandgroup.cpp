@@ -12,10 +12,14 @@ struct CommandGroup::Private
     bool isInEffect = false;
 
     /** Looks at the list anew for each: a member may have others added while it runs. */
-    void runPending()
+    void runPending(CommandGroup &group)
     {
-        while (done < members.size())
-            members[done++]->redo();
+        while (done < members.size()) {
+            UndoCommand &member = *members[done++];
+            member.redo();
+            if (!member.subjectTitles().isEmpty())
+                group.setSubjectTitles(member.subjectTitles());
+        }
     }
 };
 
@@ -39,7 +43,7 @@ void CommandGroup::add(std::unique_ptr<UndoCommand> command)
     command->setParent(nullptr); // or two would own it
     m_d->members.push_back(std::move(command));
     if (m_d->isInEffect)
-        m_d->runPending();
+        m_d->runPending(*this);
 }
 
 int CommandGroup::count() const
@@ -49,7 +53,7 @@ int CommandGroup::count() const
 
 void CommandGroup::redo()
 {
-    m_d->runPending();
+    m_d->runPending(*this);
     m_d->isInEffect = true;
 }
 

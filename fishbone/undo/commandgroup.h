@@ -14,6 +14,8 @@
  * redo() carries the members out in the order in which they were added, undo() takes them back in
  * reverse. A member that finds nothing to do holds up none of the others.
  *
+ * Its subjects are those of the last member that is about any.
+ *
  * What belongs to the step but is known only later (the title that a user types for a new subject,
  * say) can be added while the group is in effect, also on a stack.
  */

@@ -92,6 +92,7 @@ EditDelete::EditDelete(FishModel *model, const QJsonObject &objects,
     , m_d(std::make_unique<Private>())
 {
     m_d->set(model, objects, subjects);
+    setSubjectTitles(snapshotTitles(objects));
 }
 
 EditDelete::EditDelete(FishModel *model, const QModelIndex &index)
@@ -104,6 +105,7 @@ EditDelete::EditDelete(FishModel *model, const QModelIndex &index)
         return;
     m_d->setNames({keyFromIndex(index)});
     FishModel::write(m_d->objects, subject, true);
+    setSubjectTitles({subject->title()});
 }
 
 EditDelete::~EditDelete() = default;
@@ -111,6 +113,7 @@ EditDelete::~EditDelete() = default;
 void EditDelete::init(FishModel *model, const QJsonObject &objects)
 {
     m_d->set(model, objects, {});
+    setSubjectTitles(snapshotTitles(objects));
 }
 
 void EditDelete::setDocument(FishInfo *document)

@@ -167,6 +167,7 @@ bool EditAttributes::add(const QModelIndex &index, const QJsonObject &before,
         !m_d->model->getTreeItem(index))
         return false;
     m_d->edits.push_back({keyFromIndex(index), std::move(changed), changedOthers, before, after});
+    addSubjectTitle(m_d->model->getTreeItem(index)->title());
     return true;
 }
 

@@ -141,6 +141,7 @@ void InsertCommand::insert()
     if (!subject)
         return; // a listener has removed it again, or there are no nodes
     m_d->inserted = keyFromItem(*subjects, subject);
+    setSubjectTitles({subject->title()});
     generateMissingSpears(*subjects, subject->parent());
 }
 

@@ -161,6 +161,7 @@ EditMove::EditMove(FishModel *model, const QModelIndex &target, int row, const Q
     m_d->target = keyFromIndex(target);
     m_d->row = row;
     m_d->names = snapshotKeys(objects, subjects);
+    setSubjectTitles(snapshotTitles(objects));
     setDocument(m_d->target.document);
 }
 

@@ -141,6 +141,7 @@ EditPaste::EditPaste(FishModel *model, const QModelIndex &target, const QJsonObj
     const QVector<QJsonObject> subjects = snapshotSubjects(objects);
     for (const QJsonObject &subject : subjects)
         m_d->copies.push_back({subject});
+    setSubjectTitles(snapshotTitles(objects));
 }
 
 EditPaste::~EditPaste() = default;

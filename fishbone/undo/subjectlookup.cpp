@@ -153,6 +153,15 @@ QVector<QJsonObject> snapshotSubjects(const QJsonObject &objects)
     return subjects;
 }
 
+QStringList snapshotTitles(const QJsonObject &objects)
+{
+    QStringList titles;
+    const QVector<QJsonObject> subjects = snapshotSubjects(objects);
+    for (const QJsonObject &subject : subjects)
+        titles.append(subject.value(QLatin1String("title")).toString());
+    return titles;
+}
+
 QVector<SubjectKey> snapshotKeys(const QJsonObject &objects, const QList<TreeItem *> &subjects)
 {
     QVector<SubjectKey> keys;

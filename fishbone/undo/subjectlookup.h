@@ -49,6 +49,8 @@ QModelIndex indexFromUuid(const QAbstractItemModel *model, const QString &uuid, 
  * "children".
  */
 QVector<QJsonObject> snapshotSubjects(const QJsonObject &objects);
+/** The titles of the subjects of a snapshot. */
+QStringList snapshotTitles(const QJsonObject &objects);
 /** Keys for the subjects of a snapshot, which are the first of @p subjects in their order. */
 QVector<SubjectKey> snapshotKeys(const QJsonObject &objects, const QList<TreeItem *> &subjects);
 

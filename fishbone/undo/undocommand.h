@@ -7,6 +7,7 @@
 
 #include <QObject>
 #include <QString>
+#include <QStringList>
 
 #include <functional>
 
@@ -47,6 +48,15 @@ public:
     /** Replaces the name that a user reads by one that follows the language. */
     void setText(const Name &name) { m_name = name; }
 
+    /** Returns the titles of the subjects that the command is about, as they were or have become
+     * by it; empty when it is about none. */
+    QStringList subjectTitles() const { return m_subjectTitles; }
+    /** Replaces those titles, which are there for whoever lists steps. */
+    void setSubjectTitles(const QStringList &titles) { m_subjectTitles = titles; }
+    /** Adds @p title to those titles. */
+    void addSubjectTitle(const QString &title) { m_subjectTitles.append(title); }
+
 private:
     Name m_name;
+    QStringList m_subjectTitles;
 };

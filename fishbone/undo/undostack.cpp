@@ -159,6 +159,15 @@ QStringList UndoStack::commandNames() const
     return m_d->history.names();
 }
 
+QVector<QStringList> UndoStack::commandSubjects() const
+{
+    QVector<QStringList> subjects;
+    subjects.reserve(int(m_d->commands.count()));
+    for (const Private::Command &command : m_d->commands)
+        subjects.append(command->subjectTitles());
+    return subjects;
+}
+
 void UndoStack::redo()
 {
     const Call call(this);

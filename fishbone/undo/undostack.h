@@ -7,6 +7,7 @@
 
 #include <QObject>
 #include <QStringList>
+#include <QVector>
 
 #include <memory>
 
@@ -95,6 +96,9 @@ public:
     /** Returns the names of all commands, the oldest one first, those that can be redone included.
      */
     QStringList commandNames() const;
+
+    /** Returns for each of these commands the titles of the subjects that it is about. */
+    QVector<QStringList> commandSubjects() const;
 
     /**
      * Sets whether the index follows the commands that fall off at the bound; it does not at first.

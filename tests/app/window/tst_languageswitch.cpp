@@ -329,13 +329,14 @@ void TestLanguageSwitch::shouldNameTheHistory()
             texts.append(app.window.tabs()->current()->history()->item(row)->text());
         return texts;
     };
-    QCOMPARE(rows(),
-             QStringList({QStringLiteral("(beginning)"), QStringLiteral("Insert child subject"),
-                          QStringLiteral("Delete subjects")}));
+    QCOMPARE(rows(), QStringList({QStringLiteral("(beginning)"),
+                                  QStringLiteral("Insert child subject “Subtopic”"),
+                                  QStringLiteral("Delete subjects “Material”")}));
     Language::choose(QStringLiteral("zh"));
     AppFixture::settle();
-    QCOMPARE(rows(), QStringList({QStringLiteral("（初始状态）"), QStringLiteral("插入子主题"),
-                                  QStringLiteral("删除所选主题")}));
+    QCOMPARE(rows(),
+             QStringList({QStringLiteral("（初始状态）"), QStringLiteral("插入子主题 “Subtopic”"),
+                          QStringLiteral("删除所选主题 “Material”")}));
 }
 
 void TestLanguageSwitch::shouldShowTheCountsOfTheHead()
