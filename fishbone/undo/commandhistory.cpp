@@ -29,6 +29,15 @@ QStringList CommandHistory::names() const
     return names;
 }
 
+QVector<QStringList> CommandHistory::subjects() const
+{
+    QVector<QStringList> subjects;
+    subjects.reserve(count());
+    for (const Command &command : m_commands)
+        subjects.append(command->subjectTitles());
+    return subjects;
+}
+
 void CommandHistory::discardRedoTail()
 {
     const std::shared_ptr<bool> isAlive = m_isAlive;

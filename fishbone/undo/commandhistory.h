@@ -5,6 +5,7 @@
 
 #include <QList>
 #include <QStringList>
+#include <QVector>
 
 #include <memory>
 
@@ -41,6 +42,8 @@ public:
     const Command &next() const { return m_commands.at(m_index + 1); }
     /** The names of all commands, the oldest one first. */
     QStringList names() const;
+    /** The titles of what each of them was done to, the oldest one first. */
+    QVector<QStringList> subjects() const;
 
     /** Makes @p command the newest one; the position stays. */
     void append(const Command &command) { m_commands.append(command); }

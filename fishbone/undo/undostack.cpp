@@ -161,11 +161,7 @@ QStringList UndoStack::commandNames() const
 
 QVector<QStringList> UndoStack::commandSubjects() const
 {
-    QVector<QStringList> subjects;
-    subjects.reserve(int(m_d->commands.count()));
-    for (const Private::Command &command : m_d->commands)
-        subjects.append(command->subjectTitles());
-    return subjects;
+    return m_d->history.subjects();
 }
 
 void UndoStack::redo()
