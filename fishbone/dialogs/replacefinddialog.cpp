@@ -6,6 +6,7 @@
 #include <fishbone/base/dialogtexts.h>
 #include <fishbone/base/literaltext.h>
 #include <fishbone/base/warningbox.h>
+#include <fishbone/dialogs/cellsearch.h>
 
 #include <QAbstractItemModel>
 #include <QCheckBox>
@@ -18,8 +19,6 @@
 #include <QPersistentModelIndex>
 #include <QPointer>
 #include <QPushButton>
-
-#include <vector>
 
 namespace {
 
@@ -37,7 +36,6 @@ struct FISHBONE_NO_EXPORT ReplaceFindDialog::Private
     void showTexts();
     void buildLayout();
     void connectControls();
-    QList<QPersistentModelIndex> search(const QString &text, Qt::CaseSensitivity sensitivity) const;
 
     ReplaceFindDialog *const dialog;
     QLabel *const findLabel;
@@ -246,7 +244,8 @@ bool ReplaceFindDialog::search()
         m_d->wasCaseSensitive = caseSensitive;
         m_d->lastText = text;
         m_d->column = m_d->columnBox->currentIndex();
-        m_d->matches = m_d->search(text, caseSensitive ? Qt::CaseSensitive : Qt::CaseInsensitive);
+        m_d->matches = cellsWith(*m_d->model, m_d->column, text, m_d->matchFlags,
+                                 caseSensitive ? Qt::CaseSensitive : Qt::CaseInsensitive);
     }
     return !m_d->matches.isEmpty();
 }
@@ -257,39 +256,6 @@ void ReplaceFindDialog::find()
         return;
     const QString text = m_d->searchField->text();
     showWarning(tr("Finder"), literalText(tr("Not found key word %1.").arg(text)), this);
-}
-
-/** All rows that match, parents before children. A document without a head has no index. */
-QList<QPersistentModelIndex>
-ReplaceFindDialog::Private::search(const QString &text, Qt::CaseSensitivity sensitivity) const
-{
-    struct Step
-    {
-        QModelIndex parent;
-        int next;
-        int rows;
-    };
-    QList<QPersistentModelIndex> found;
-    std::vector<Step> path{{QModelIndex(), 0, model->rowCount()}};
-    while (!path.empty()) {
-        Step &step = path.back();
-        if (step.next == step.rows) {
-            path.pop_back();
-            continue;
-        }
-        const int row = step.next++;
-        const QModelIndex first = model->index(row, 0, step.parent);
-        const QModelIndex index = model->index(row, column, step.parent);
-        const QString shown = index.data(Qt::DisplayRole).toString();
-        const bool isHit = matchFlags.testFlag(Qt::MatchEndsWith)
-                               ? shown.endsWith(text, sensitivity)
-                               : shown.contains(text, sensitivity);
-        if (index.isValid() && isHit)
-            found.append(index);
-        if (const int rows = first.isValid() ? model->rowCount(first) : 0)
-            path.push_back({first, 0, rows});
-    }
-    return found;
 }
 
 void ReplaceFindDialog::replace()

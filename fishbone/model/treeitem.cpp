@@ -4,9 +4,12 @@
 #include <fishbone/model/treeitem.h>
 
 #include <fishbone/model/jsonnodes.h>
+#include <fishbone/model/rownumbers.h>
 #include <fishbone/model/stylesession.h>
 #include <fishbone/model/subjectattribute.h>
+#include <fishbone/model/subjecttooltip.h>
 #include <fishbone/model/systemhelper.h>
+#include <fishbone/model/treeitemplace.h>
 #include <fishbone/style/spearstyle.h>
 
 #include <QJsonObject>
@@ -105,6 +108,89 @@ void TreeItem::initData()
     m_managerId = emptyText();
     m_creatorName = emptyText();
     m_creatorId = emptyText();
+}
+
+void TreeItem::setParent(TreeItem *parent)
+{
+    if (parent != this && (!parent || m_children.isEmpty() || !isAncestorOf(parent)))
+        m_parent = parent;
+}
+
+int TreeItem::index() const
+{
+    if (!m_parent)
+        return 0;
+    return m_lister == m_parent ? rowInList() : -1;
+}
+
+/** The row in the list that holds this node; there must be one. */
+int TreeItem::rowInList() const
+{
+    const QList<TreeItem *> &siblings = m_lister->m_children;
+    return RowNumbers::find(
+        m_lister->m_firstNumber, m_rowNumber, siblings.size(),
+        [this, &siblings](int row) { return siblings.at(row) == this; },
+        [&siblings](int row, int number) { siblings.at(row)->m_rowNumber = number; });
+}
+
+bool TreeItem::isAncestorOf(const TreeItem *node) const
+{
+    while (node) {
+        node = node->m_lister;
+        if (node == this)
+            return true;
+    }
+    return false;
+}
+
+int TreeItem::branchOf(const TreeItem *node) const
+{
+    while (node && node->m_lister != this)
+        node = node->m_lister;
+    return node ? node->rowInList() : -1;
+}
+
+const TreeItem *TreeItem::root() const
+{
+    const TreeItem *top = this;
+    while (top->m_lister)
+        top = top->m_lister;
+    return top;
+}
+
+void TreeItem::appendChild(TreeItem *child, int position)
+{
+    const bool inside = position >= 0 && position < childCount();
+    Place(*this).insert(child, inside ? position : childCount());
+}
+
+bool TreeItem::insertChildAtPosition(int position, TreeItem *child)
+{
+    if (!Place(*this).insert(child, position))
+        return false;
+    child->m_pid = m_uuid;
+    return true;
+}
+
+bool TreeItem::insertChildren(int position, int count, const QString &pid)
+{
+    Q_UNUSED(pid) // the identity of this node is what counts
+    return Place(*this).insertNew(position, count);
+}
+
+bool TreeItem::moveChildren(int source, int count, TreeItem *destination, int destinationChild)
+{
+    return Place(*this).move(source, count, destination, destinationChild);
+}
+
+TreeItem *TreeItem::takeAt(int i)
+{
+    return Place(*this).take(i);
+}
+
+bool TreeItem::removeChildren(int position, int count)
+{
+    return Place(*this).remove(position, count);
 }
 
 int TreeItem::columnCount() const
@@ -248,18 +334,5 @@ bool TreeItem::isHaveParentTask() const
 
 QString TreeItem::toolTipString() const
 {
-    QString text;
-    if (!m_showid.isEmpty())
-        text += m_showid + QLatin1Char(' ');
-    text += m_title;
-    const auto addLine = [&text](const QString &label, const QString &value) {
-        text += QLatin1String("\n ") + label + value;
-    };
-    if (!m_managerName.isEmpty())
-        addLine(tr("负责人:"), m_managerName);
-    if (m_createDate != 0)
-        addLine(tr("创建时间:"), SystemHelper::stringFromDateTimeMsecs(m_createDate));
-    if (m_planEndDate != 0)
-        addLine(tr("截止时间:"), SystemHelper::stringFromDateTimeMsecs(m_planEndDate));
-    return text;
+    return subjectToolTip(*this);
 }

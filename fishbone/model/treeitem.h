@@ -290,6 +290,7 @@ private:
     friend class FishModel; // keeps the rows of documents in their containers
 
     struct Extra; // what few nodes have
+    class Place;  // in a list of children
 
     void initData();
     // What concerns the spear is defined beside it, in items/subjectspear.cpp.
@@ -298,14 +299,7 @@ private:
     Extra &extra();
     FishInfo *document() const;
     void setDocument(FishInfo *document);
-    bool accepts(const TreeItem *child) const;
-    void place(TreeItem *child, int position);
-    void placeAll(const QList<TreeItem *> &children, int position);
-    void own(TreeItem *child, int row);
-    QList<TreeItem *> takeAll(int position, int count);
-    void leaveList();
     int rowInList() const;
-    void numberRows(int first, int last);
 
     QList<TreeItem *> m_children;
     TreeItem *m_parent = nullptr;
