@@ -6,6 +6,7 @@
 #include <app/diagram/diagramsession.h>
 #include <app/panels/treesync.h>
 
+#include <fishbone/base/preorder.h>
 #include <fishbone/editor/fisheditor.h>
 #include <fishbone/editor/fishscene.h>
 #include <fishbone/editor/graphicsview.h>
@@ -17,8 +18,6 @@
 #include <QContextMenuEvent>
 #include <QMouseEvent>
 
-#include <algorithm>
-#include <iterator>
 #include <utility>
 
 CanvasGestures::CanvasGestures(DiagramSession *session, TreeSync *sync, QObject *parent)
@@ -67,17 +66,14 @@ SpearItem *CanvasGestures::boneAt(const QPoint &pos) const
 QList<SpearItem *> CanvasGestures::shownBones() const
 {
     QList<SpearItem *> bones;
-    QList<SpearItem *> waiting;
-    if (SpearItem *const head = m_editor->headSpear())
-        waiting.append(head);
-    while (!waiting.isEmpty()) {
-        SpearItem *const bone = waiting.takeLast();
-        if (!bone->isVisible())
-            continue;
-        bones.append(bone);
-        const QList<SpearItem *> children = bone->childSpears();
-        std::copy(children.crbegin(), children.crend(), std::back_inserter(waiting));
-    }
+    const auto childrenOf = [](const SpearItem &bone) {
+        return bone.isVisible() ? bone.childSpears() : QList<SpearItem *>();
+    };
+    visitPreOrder(m_editor->headSpear(), childrenOf, [&bones](SpearItem *bone) {
+        if (bone->isVisible())
+            bones.append(bone);
+        return true;
+    });
     return bones;
 }
 

@@ -3,6 +3,7 @@
 
 #include <app/files/documentreport.h>
 
+#include <fishbone/exchange/outlinewalk.h>
 #include <fishbone/items/taskstatusinfo.h>
 #include <fishbone/model/treeitem.h>
 
@@ -36,27 +37,12 @@ QString shortened(const QString &title)
 DocumentReport::DocumentReport(const TreeItem &head)
     : m_title(head.title())
 {
-    struct Open
-    {
-        const TreeItem *subject;
-        int next; ///< the child that comes next
-    };
-    std::vector<Open> open{{&head, 0}};
-    visit(head, nullptr);
-    while (!open.empty()) {
-        const TreeItem *const parent = open.back().subject;
-        const int row = open.back().next++;
-        if (row == parent->childCount()) {
-            open.pop_back();
-            if (!m_path.empty())
-                m_path.pop_back();
-            continue;
-        }
-        const TreeItem *const child = parent->childItems().at(row);
-        m_path.push_back(row + 1);
-        visit(*child, parent);
-        open.push_back({child, 0});
-    }
+    OutlineWalk::walk(head, [this](const TreeItem &subject, int level) {
+        m_path.resize(std::size_t(level));
+        if (level > 0)
+            m_path.back() = subject.index() + 1;
+        visit(subject, level > 0 ? subject.parent() : nullptr);
+    });
 }
 
 void DocumentReport::visit(const TreeItem &subject, const TreeItem *parent)

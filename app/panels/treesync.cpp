@@ -11,7 +11,7 @@
 #include <fishbone/editor/fisheditor.h>
 #include <fishbone/items/spearitem.h>
 #include <fishbone/model/fishmodel.h>
-#include <fishbone/model/treeitem.h>
+#include <fishbone/model/subjectwalk.h>
 
 #include <QScopedValueRollback>
 
@@ -83,18 +83,14 @@ void TreeSync::followExpansion()
     // The rows above the head, too, when a part of a diagram is shown as a diagram of its own.
     for (QModelIndex index = head->modelIndex(); index.isValid(); index = index.parent())
         m_tree->view()->expand(m_tree->proxy()->mapFromSource(index));
-    QList<const TreeItem *> waiting{head->treeItem()};
-    while (!waiting.isEmpty()) {
-        const TreeItem *const subject = waiting.takeLast();
-        for (const TreeItem *child : subject->childItems()) {
-            if (child->childCount() == 0)
-                continue;
-            const QModelIndex row =
-                m_tree->proxy()->mapFromSource(m_session->model()->indexFromItem(child));
-            m_tree->view()->setExpanded(row, child->spear() && child->spear()->isExpand());
-            waiting.append(child);
-        }
-    }
+    visitSubjects(head->treeItem(), [this, head](const TreeItem *subject) {
+        if (subject == head->treeItem() || subject->childCount() == 0)
+            return true;
+        const QModelIndex row =
+            m_tree->proxy()->mapFromSource(m_session->model()->indexFromItem(subject));
+        m_tree->view()->setExpanded(row, subject->spear() && subject->spear()->isExpand());
+        return true;
+    });
 }
 
 /** Undoes what the filter has expanded. */
