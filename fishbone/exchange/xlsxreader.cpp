@@ -9,12 +9,10 @@
 #include <fishbone/exchange/xmlsupport.h>
 #include <fishbone/exchange/ziparchive.h>
 
-#include <QDateTime>
 #include <QRegularExpression>
 #include <QXmlStreamReader>
 
 #include <algorithm>
-#include <cmath>
 
 namespace {
 
@@ -73,24 +71,6 @@ QString runs(QXmlStreamReader &xml)
         }
     }
     return XlsxText::unescaped(text);
-}
-
-/** Whether a form of numbers shows a date: it has one of the letters of dates outside of quotes. */
-bool showsDate(const QString &form)
-{
-    static const QRegularExpression fixed(
-        QStringLiteral("\"[^\"]*\"|\\\\.|_.|\\[[^\\]]*\\]|General"));
-    QString letters = form;
-    letters.remove(fixed);
-    return letters.contains(
-        QRegularExpression(QStringLiteral("[ymdhs]"), QRegularExpression::CaseInsensitiveOption));
-}
-
-/** Whether one of the forms that every program knows shows a date. */
-bool isDateForm(int number)
-{
-    return (number >= 14 && number <= 22) || (number >= 27 && number <= 36) ||
-           (number >= 45 && number <= 47) || (number >= 50 && number <= 58);
 }
 
 } // namespace
@@ -156,7 +136,7 @@ bool XlsxReader::readWorkbookElement(QXmlStreamReader &xml)
 {
     if (xml.name() == QLatin1String("workbookPr")) {
         const QString value = valueOf(xml, "date1904");
-        m_isSince1904 = value == QLatin1String("1") || value == QLatin1String("true");
+        m_numbers.setSince1904(value == QLatin1String("1") || value == QLatin1String("true"));
     } else if (xml.name() == QLatin1String("sheet")) {
         m_names.append(valueOf(xml, "name"));
         m_paths.append(m_workbookRelations.value(localValueOf(xml, "id")));
@@ -174,18 +154,12 @@ bool XlsxReader::readSharedString(QXmlStreamReader &xml)
 bool XlsxReader::readStyle(QXmlStreamReader &xml)
 {
     if (xml.name() == QLatin1String("numFmt")) {
-        m_numberForms.insert(valueOf(xml, "numFmtId").toInt(), valueOf(xml, "formatCode"));
+        m_numbers.addForm(valueOf(xml, "numFmtId").toInt(), valueOf(xml, "formatCode"));
     } else if (xml.name() == QLatin1String("cellXfs") ||
                xml.name() == QLatin1String("cellStyleXfs")) {
         m_areCellStyles = xml.name() == QLatin1String("cellXfs");
     } else if (xml.name() == QLatin1String("xf") && m_areCellStyles) {
-        const int number = valueOf(xml, "numFmtId").toInt();
-        const QString form = m_numberForms.value(number);
-        constexpr int percent = 9; // and the next one, with places behind the point
-        const bool isDate = form.isEmpty() ? isDateForm(number) : showsDate(form);
-        const bool isPercent = form.isEmpty() ? number == percent || number == percent + 1
-                                              : form.contains(QLatin1Char('%'));
-        m_styles.append(isDate ? Form::Date : isPercent ? Form::Percent : Form::Plain);
+        m_numbers.addStyle(valueOf(xml, "numFmtId").toInt());
     }
     return true;
 }
@@ -278,30 +252,7 @@ QString XlsxReader::cellText(const QString &type, int style, const QString &valu
         return value == QLatin1String("1") ? QStringLiteral("true") : QStringLiteral("false");
     if (type == QLatin1String("str") || type == QLatin1String("e") || type == QLatin1String("d"))
         return XlsxText::unescaped(value);
-    return numberText(value, m_styles.value(style, Form::Plain));
-}
-
-/** A number as it is shown: a date in the form of ISO, a percentage with its sign. */
-QString XlsxReader::numberText(const QString &value, Form form) const
-{
-    bool isNumber = false;
-    const double number = value.toDouble(&isNumber);
-    constexpr double farthest = 3000000; // days; some thousand years
-    if (!isNumber || form == Form::Plain)
-        return value;
-    if (form == Form::Percent)
-        return QString::number(number * 100, 'g', 12) + QLatin1Char('%');
-    if (number < 0 || number > farthest)
-        return value;
-    constexpr qint64 millisecondsOfDay = 86400000;
-    const QDate epoch = m_isSince1904 ? QDate(1904, 1, 1) : QDate(1899, 12, 30);
-    const qint64 milliseconds = std::llround(number * double(millisecondsOfDay));
-    const QDate day = epoch.addDays(milliseconds / millisecondsOfDay);
-    const QTime time = QTime::fromMSecsSinceStartOfDay(int(milliseconds % millisecondsOfDay));
-    const QString date = day.toString(Qt::ISODate);
-    return time.msecsSinceStartOfDay() == 0
-               ? date
-               : date + QLatin1Char('T') + time.toString(Qt::ISODateWithMs);
+    return m_numbers.text(value, style);
 }
 
 /** Takes the link that a formula makes; of all others the result counts. */

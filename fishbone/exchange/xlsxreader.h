@@ -4,6 +4,7 @@
 #pragma once
 
 #include <fishbone/exchange/tasktable.h>
+#include <fishbone/exchange/xlsxnumbers.h>
 
 #include <QHash>
 #include <QMap>
@@ -40,9 +41,6 @@ public:
     bool read(int sheet, std::vector<TaskTable::Row> &rows);
 
 private:
-    /** How the number in a cell is shown. */
-    enum class Form { Plain, Date, Percent };
-
     /** The targets of the relations that a part of the workbook has, by their ids. */
     QHash<QString, QString> relationsOf(const QString &part);
     bool readPart(const QString &name, const QString &root,
@@ -54,7 +52,6 @@ private:
     bool readRow(QXmlStreamReader &xml);
     bool readCell(QXmlStreamReader &xml, TaskTable::Row &row);
     QString cellText(const QString &type, int style, const QString &value) const;
-    QString numberText(const QString &value, Form form) const;
     void takeFormula(const QString &formula, qint64 line, int column);
     void addLink(const QString &target, qint64 line, int column);
     void addLinks();
@@ -65,9 +62,7 @@ private:
     QStringList m_paths; ///< of the sheets, in the archive
     QHash<QString, QString> m_workbookRelations;
     QStringList m_sharedStrings;
-    QHash<int, QString> m_numberForms; ///< that the workbook defines
-    QVector<Form> m_styles;
-    bool m_isSince1904 = false;
+    XlsxNumbers m_numbers;
     bool m_areCellStyles = false; ///< what is being read of the styles
     std::vector<TaskTable::Row> *m_rows = nullptr;
     QHash<QString, QString> m_linkIds;         ///< of cells
