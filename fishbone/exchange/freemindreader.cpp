@@ -4,6 +4,7 @@
 #include <fishbone/exchange/freemindreader.h>
 
 #include <fishbone/exchange/diagramexchange.h>
+#include <fishbone/exchange/freemindicons.h>
 #include <fishbone/exchange/freemindnames.h>
 #include <fishbone/exchange/importedtree.h>
 #include <fishbone/exchange/richtext.h>
@@ -22,37 +23,6 @@ QString quoted(const QString &text)
 {
     return QLatin1Char('"') + text + QLatin1Char('"');
 }
-
-/** What an icon says about a task. */
-struct IconMeaning
-{
-    QLatin1String name;
-    void (TreeItem::*set)(int);
-    int value;
-};
-
-const IconMeaning iconMeanings[] = {
-    {QLatin1String("full-0"), &TreeItem::setPriority, 0},
-    {QLatin1String("full-1"), &TreeItem::setPriority, 1},
-    {QLatin1String("full-2"), &TreeItem::setPriority, 2},
-    {QLatin1String("full-3"), &TreeItem::setPriority, 3},
-    {QLatin1String("full-4"), &TreeItem::setPriority, 4},
-    {QLatin1String("full-5"), &TreeItem::setPriority, 5},
-    {QLatin1String("full-6"), &TreeItem::setPriority, 6},
-    {QLatin1String("full-7"), &TreeItem::setPriority, 7},
-    {QLatin1String("full-8"), &TreeItem::setPriority, 8},
-    {QLatin1String("full-9"), &TreeItem::setPriority, 9},
-    {QLatin1String("button_cancel"), &TreeItem::setStatus, 1},
-    {QLatin1String("button_ok"), &TreeItem::setStatus, 2},
-    {QLatin1String("checked"), &TreeItem::setStatus, 2},
-    {QLatin1String("unchecked"), &TreeItem::setStatus, 6},
-    {QLatin1String("hourglass"), &TreeItem::setStatus, 6},
-    {QLatin1String("0%"), &TreeItem::setProgress, 0},
-    {QLatin1String("25%"), &TreeItem::setProgress, 25},
-    {QLatin1String("50%"), &TreeItem::setProgress, 50},
-    {QLatin1String("75%"), &TreeItem::setProgress, 75},
-    {QLatin1String("100%"), &TreeItem::setProgress, 100},
-};
 
 /** The attributes of a node that only say how it is drawn, or what its program did with it. */
 bool isLook(const QString &name)
@@ -253,13 +223,9 @@ void FreeMindReader::readIcon()
     const qint64 line = m_xml.lineNumber();
     Node &node = m_open.back();
     m_xml.skipCurrentElement();
-    for (const IconMeaning &meaning : iconMeanings) {
-        if (name != meaning.name)
-            continue;
-        (node.subject->*meaning.set)(meaning.value);
+    if (const std::optional<int> value = FreeMindIcons::apply(name, *node.subject)) {
         m_tree.note(Kind::ReadAs,
-                    DiagramExchange::tr("the icon \"%1\" as %2").arg(name).arg(meaning.value),
-                    line);
+                    DiagramExchange::tr("the icon \"%1\" as %2").arg(name).arg(*value), line);
         return;
     }
     if (!name.isEmpty())

@@ -3,6 +3,8 @@
 
 #include <fishbone/exchange/markdownmarks.h>
 
+#include <fishbone/exchange/taskstatuses.h>
+
 #include <QRegularExpression>
 
 namespace {
@@ -17,7 +19,9 @@ struct TaskBox
     int status;
 };
 
-constexpr TaskBox boxes[] = {{u'x', 2}, {u' ', 6}, {u'/', 5}, {u'-', 1}, {u'~', 1}, {u'>', 4}};
+constexpr TaskBox boxes[] = {{u'x', TaskStatuses::finished},  {u' ', TaskStatuses::waiting},
+                             {u'/', TaskStatuses::running},   {u'-', TaskStatuses::cancelled},
+                             {u'~', TaskStatuses::cancelled}, {u'>', TaskStatuses::postponed}};
 
 } // namespace
 

@@ -7,6 +7,7 @@
 #include <fishbone/exchange/diagrampicture.h>
 #include <fishbone/exchange/meetingpage.h>
 #include <fishbone/exchange/outlinewalk.h>
+#include <fishbone/exchange/taskstatuses.h>
 #include <fishbone/model/treeitem.h>
 
 #include <QBuffer>
@@ -41,14 +42,6 @@ int rankOf(Verdict verdict)
     default:
         return 3;
     }
-}
-
-/** Whether nobody has to do anything about @p subject any more. */
-bool isEnded(const TreeItem &subject)
-{
-    constexpr int cancelled = 1;
-    constexpr int finishedLate = 3; // with finished in between
-    return subject.status() >= cancelled && subject.status() <= finishedLate;
 }
 
 /** The day on which @p subject is to be done; invalid for none. */
@@ -108,7 +101,7 @@ void MeetingReport::setLook(const DiagramLook::Options &options)
 bool MeetingReport::isOverdue(const TreeItem &subject, const QDate &today)
 {
     const QDate end = endOf(subject);
-    return end.isValid() && end < today && !isEnded(subject);
+    return end.isValid() && end < today && !TaskStatuses::isEnded(subject.status());
 }
 
 bool MeetingReport::canWrite(const QString &fileName)

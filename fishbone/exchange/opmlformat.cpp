@@ -7,6 +7,7 @@
 #include <fishbone/exchange/outlinewalk.h>
 #include <fishbone/exchange/richtext.h>
 #include <fishbone/exchange/subjectattributes.h>
+#include <fishbone/exchange/taskstatuses.h>
 #include <fishbone/exchange/taskvalues.h>
 #include <fishbone/exchange/xmlsupport.h>
 #include <fishbone/model/jsonnodes.h>
@@ -68,8 +69,8 @@ const SubjectAttributes::Attribute *attributeNamed(const QString &name)
 /** Takes what other outliners say of a task or a feed; false when @p name is something else. */
 bool takeForeign(const QString &name, const QString &value, TreeItem &subject)
 {
-    constexpr int finished = 2;
-    constexpr int waiting = 6;
+    using TaskStatuses::finished;
+    using TaskStatuses::waiting;
     const bool isTrue = value == QLatin1String("true") || value == QLatin1String("1");
     if (name == QLatin1String("created")) {
         const std::optional<qint64> date = TaskValues::date(value);

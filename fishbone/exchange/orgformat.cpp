@@ -3,6 +3,7 @@
 
 #include <fishbone/exchange/exchangeformat.h>
 #include <fishbone/exchange/exchangetext.h>
+#include <fishbone/exchange/orgkeywords.h>
 #include <fishbone/exchange/orgreader.h>
 #include <fishbone/exchange/orgtext.h>
 #include <fishbone/exchange/outlinewalk.h>

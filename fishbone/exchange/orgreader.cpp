@@ -5,8 +5,10 @@
 
 #include <fishbone/exchange/diagramexchange.h>
 #include <fishbone/exchange/importedtree.h>
+#include <fishbone/exchange/orgkeywords.h>
 #include <fishbone/exchange/orgtext.h>
 #include <fishbone/exchange/subjectattributes.h>
+#include <fishbone/exchange/taskstatuses.h>
 #include <fishbone/exchange/taskvalues.h>
 #include <fishbone/model/jsonnodes.h>
 
@@ -15,24 +17,6 @@
 namespace {
 
 using Kind = ExchangeReport::Kind;
-
-struct Keyword
-{
-    QLatin1String word;
-    int status;
-};
-
-/** The first word of a status is the one that is written. */
-const Keyword keywords[] = {
-    {QLatin1String("TODO"), 6},        {QLatin1String("DONE"), 2},
-    {QLatin1String("STARTED"), 5},     {QLatin1String("CANCELLED"), 1},
-    {QLatin1String("HOLD"), 4},        {QLatin1String("REVIEW"), 7},
-    {QLatin1String("CANCELED"), 1},    {QLatin1String("NEXT"), 6},
-    {QLatin1String("WAITING"), 6},     {QLatin1String("WAIT"), 6},
-    {QLatin1String("DOING"), 5},       {QLatin1String("INPROGRESS"), 5},
-    {QLatin1String("IN-PROGRESS"), 5}, {QLatin1String("STRT"), 5},
-    {QLatin1String("KILL"), 1},        {QLatin1String("DEFERRED"), 4},
-};
 
 /** The number of stars in front of a heading, 0 when the line is none. */
 int levelOf(const QString &line)
@@ -53,24 +37,6 @@ QString lastWordOf(const QString &title)
 }
 
 } // namespace
-
-QString OrgKeywords::wordOf(int status)
-{
-    for (const Keyword &keyword : keywords) {
-        if (keyword.status == status)
-            return keyword.word;
-    }
-    return QString();
-}
-
-int OrgKeywords::statusOf(const QString &word)
-{
-    for (const Keyword &keyword : keywords) {
-        if (word == keyword.word)
-            return keyword.status;
-    }
-    return -1;
-}
 
 bool OrgReader::read()
 {
@@ -336,13 +302,10 @@ bool OrgReader::takeListItem(const QString &line)
     m_isList = true;
     m_subject = m_tree.add(m_lines.indentation(), match.captured(2).trimmed(), m_lines.number());
     const QString box = match.captured(1).trimmed().mid(1, 1).toUpper();
-    constexpr int finished = 2;
-    constexpr int running = 5;
-    constexpr int waiting = 6;
     if (m_subject && !box.isEmpty())
-        m_subject->setStatus(box == QLatin1String("X")   ? finished
-                             : box == QLatin1String("-") ? running
-                                                         : waiting);
+        m_subject->setStatus(box == QLatin1String("X")   ? TaskStatuses::finished
+                             : box == QLatin1String("-") ? TaskStatuses::running
+                                                         : TaskStatuses::waiting);
     return true;
 }
 

@@ -8,6 +8,7 @@
 #include <fishbone/exchange/importedtree.h>
 #include <fishbone/exchange/owntable.h>
 #include <fishbone/exchange/subjectattributes.h>
+#include <fishbone/exchange/taskstatuses.h>
 #include <fishbone/exchange/taskvalues.h>
 #include <fishbone/model/jsonnodes.h>
 #include <fishbone/model/subjectmarks.h>
@@ -21,8 +22,6 @@ namespace {
 
 using Role = TableMapping::Role;
 using Kind = ExchangeReport::Kind;
-
-constexpr int finished = 2; ///< the status of a task that has a date of completion
 
 bool isDate(Role role)
 {
@@ -306,8 +305,8 @@ bool TaskCells::applyDate(Role role, const QString &value, TreeItem &subject)
     else if (role == Role::PlannedEnd)
         subject.setPlanEndDate(*date);
     else if (subject.status() == TreeItem::none)
-        subject.setStatus(finished);
-    return role != Role::CompletedAt; // no field takes that date
+        subject.setStatus(TaskStatuses::finished); // it has a date of completion
+    return role != Role::CompletedAt;              // no field takes that date
 }
 
 /** Takes the first of several links, and keeps the others. */

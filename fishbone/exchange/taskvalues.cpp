@@ -3,6 +3,8 @@
 
 #include <fishbone/exchange/taskvalues.h>
 
+#include <fishbone/exchange/taskstatuses.h>
+
 #include <QDateTime>
 #include <QHash>
 #include <QRegularExpression>
@@ -61,31 +63,38 @@ std::optional<int> numberBeforeAWord(const QString &text)
 }
 
 const Words statusWords[] = {
-    {0, "unknown|no status|未知"},
-    {1, "cancelled|canceled|cancel|rejected|declined|abandoned|aborted|duplicate|invalid|wontfix|"
-        "wont fix|wont do|not planned|discarded|dropped|removed|cannot reproduce|not a bug|"
-        "works for me|worksforme|取消|已取消|已拒绝|拒绝|作废|废弃|不予处理|无效|无法重现"},
-    {2, "done|finish|finished|complete|completed|closed|close|resolved|fixed|accepted|merged|"
-        "delivered|released|shipped|deployed|live|verified|yes|x|true|✓|✔|✅|☑|完成|已完成|关闭|"
-        "已关闭|已解决|解决|已发布|已实现|已修复|已验证|已验收|已上线"},
-    {3, "finish delay|finished late|done late|completed late|延期完成|逾期完成|已延期完成"},
-    {4, "postponed|postpone|on hold|hold|deferred|blocked|stuck|parked|paused|suspended|icebox|"
-        "later|someday|"
-        "延期|已延期|推迟|已推迟|挂起|暂停|已暂停|搁置|阻塞|受阻"},
-    {5, "in progress|progress|doing|started|running|active|under way|underway|wip|working|ongoing|"
-        "in development|in work|working on it|assigned|implementing|committed|on track|at risk|"
-        "off track|进行中|处理中|正在进行|开发中|执行中|实施中|实现中|修复中|已开始|已分配"},
-    {6, "to do|todo|open|opened|new|backlog|waiting|waitting|planned|not started|unstarted|"
-        "unscheduled|scheduled|pending|ready|reopened|triage|selected for development|next|queued|"
-        "proposed|draft|not "
-        "done|incomplete|confirmed|unconfirmed|no|false|☐|规划中|激活|未处理|待办|未开始|新建|新的|"
-        "打开|等待|待处理|未完成|未解决|计划中|待开始|"
-        "重新打开"},
-    {7, "waiting for approval|waitting agree|in review|review|reviewing|under review|code review|"
-        "awaiting approval|pending approval|needs review|ready for review|approval|qa|in qa|"
-        "testing|in testing|in test|ready for test|"
-        "feedback|verify|to verify|verification|待审批|审核中|待审核|评审中|待评审|待确认|等待审批|"
-        "测试中|待验收"},
+    {TaskStatuses::unknown, "unknown|no status|未知"},
+    {TaskStatuses::cancelled,
+     "cancelled|canceled|cancel|rejected|declined|abandoned|aborted|duplicate|invalid|wontfix|"
+     "wont fix|wont do|not planned|discarded|dropped|removed|cannot reproduce|not a bug|"
+     "works for me|worksforme|取消|已取消|已拒绝|拒绝|作废|废弃|不予处理|无效|无法重现"},
+    {TaskStatuses::finished,
+     "done|finish|finished|complete|completed|closed|close|resolved|fixed|accepted|merged|"
+     "delivered|released|shipped|deployed|live|verified|yes|x|true|✓|✔|✅|☑|完成|已完成|关闭|"
+     "已关闭|已解决|解决|已发布|已实现|已修复|已验证|已验收|已上线"},
+    {TaskStatuses::finishedLate,
+     "finish delay|finished late|done late|completed late|延期完成|逾期完成|已延期完成"},
+    {TaskStatuses::postponed,
+     "postponed|postpone|on hold|hold|deferred|blocked|stuck|parked|paused|suspended|icebox|"
+     "later|someday|"
+     "延期|已延期|推迟|已推迟|挂起|暂停|已暂停|搁置|阻塞|受阻"},
+    {TaskStatuses::running,
+     "in progress|progress|doing|started|running|active|under way|underway|wip|working|ongoing|"
+     "in development|in work|working on it|assigned|implementing|committed|on track|at risk|"
+     "off track|进行中|处理中|正在进行|开发中|执行中|实施中|实现中|修复中|已开始|已分配"},
+    {TaskStatuses::waiting,
+     "to do|todo|open|opened|new|backlog|waiting|waitting|planned|not started|unstarted|"
+     "unscheduled|scheduled|pending|ready|reopened|triage|selected for development|next|queued|"
+     "proposed|draft|not "
+     "done|incomplete|confirmed|unconfirmed|no|false|☐|规划中|激活|未处理|待办|未开始|新建|新的|"
+     "打开|等待|待处理|未完成|未解决|计划中|待开始|"
+     "重新打开"},
+    {TaskStatuses::approval,
+     "waiting for approval|waitting agree|in review|review|reviewing|under review|code review|"
+     "awaiting approval|pending approval|needs review|ready for review|approval|qa|in qa|"
+     "testing|in testing|in test|ready for test|"
+     "feedback|verify|to verify|verification|待审批|审核中|待审核|评审中|待评审|待确认|等待审批|"
+     "测试中|待验收"},
 };
 
 const Words priorityWords[] = {

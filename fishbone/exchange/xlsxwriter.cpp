@@ -5,6 +5,7 @@
 
 #include <fishbone/exchange/outlinewalk.h>
 #include <fishbone/exchange/owntable.h>
+#include <fishbone/exchange/taskstatuses.h>
 #include <fishbone/exchange/xlsxtext.h>
 #include <fishbone/exchange/ziparchive.h>
 
@@ -235,7 +236,8 @@ double dayNumber(qint64 milliseconds)
 
 void addAction(Sheet &sheet, const TreeItem &subject)
 {
-    const bool isKnown = subject.status() >= 0 && subject.status() <= 7;
+    const bool isKnown =
+        subject.status() >= TaskStatuses::unknown && subject.status() <= TaskStatuses::approval;
     constexpr double whole = 100;
     sheet.beginRow(0);
     sheet.addText(subject.title());

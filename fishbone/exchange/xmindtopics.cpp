@@ -6,6 +6,7 @@
 #include <fishbone/exchange/diagramexchange.h>
 #include <fishbone/exchange/importedtree.h>
 #include <fishbone/exchange/subjectattributes.h>
+#include <fishbone/exchange/taskstatuses.h>
 #include <fishbone/exchange/taskvalues.h>
 
 #include <QFileInfo>
@@ -27,11 +28,16 @@ struct TaskMarker
 };
 
 const TaskMarker taskMarkers[] = {
-    {QLatin1String("task-start"), 6, 0},    {QLatin1String("task-oct"), 5, 12},
-    {QLatin1String("task-quarter"), 5, 25}, {QLatin1String("task-3oct"), 5, 37},
-    {QLatin1String("task-half"), 5, 50},    {QLatin1String("task-5oct"), 5, 62},
-    {QLatin1String("task-3quar"), 5, 75},   {QLatin1String("task-7oct"), 5, 87},
-    {QLatin1String("task-done"), 2, 100},   {QLatin1String("task-pause"), 4, -1},
+    {QLatin1String("task-start"), TaskStatuses::waiting, 0},
+    {QLatin1String("task-oct"), TaskStatuses::running, 12},
+    {QLatin1String("task-quarter"), TaskStatuses::running, 25},
+    {QLatin1String("task-3oct"), TaskStatuses::running, 37},
+    {QLatin1String("task-half"), TaskStatuses::running, 50},
+    {QLatin1String("task-5oct"), TaskStatuses::running, 62},
+    {QLatin1String("task-3quar"), TaskStatuses::running, 75},
+    {QLatin1String("task-7oct"), TaskStatuses::running, 87},
+    {QLatin1String("task-done"), TaskStatuses::finished, 100},
+    {QLatin1String("task-pause"), TaskStatuses::postponed, -1},
 };
 
 } // namespace
