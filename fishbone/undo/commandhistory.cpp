@@ -5,6 +5,8 @@
 
 #include <fishbone/undo/undocommand.h>
 
+#include <utility>
+
 CommandHistory::~CommandHistory()
 {
     *m_isAlive = false;
@@ -18,6 +20,11 @@ bool CommandHistory::canUndo() const
 bool CommandHistory::canRedo() const
 {
     return m_index >= -1 && m_index < count() - 1;
+}
+
+void CommandHistory::settle()
+{
+    m_index += std::exchange(m_pendingStep, 0);
 }
 
 QStringList CommandHistory::names() const
@@ -45,12 +52,12 @@ void CommandHistory::discardRedoTail()
         m_commands.takeLast();
 }
 
-void CommandHistory::dropOldest(bool isRolling)
+void CommandHistory::dropOldest()
 {
     const Command oldest = m_commands.takeFirst();
     if (m_cleanState == CleanState::Beginning)
         m_cleanState = CleanState::Gone;
-    if (!isRolling)
+    if (!m_isRolling)
         return;
     m_index = count() - 1;
     if (m_cleanState == CleanState::Command && m_cleanCommand.lock() == oldest)
@@ -61,6 +68,7 @@ void CommandHistory::clear()
 {
     m_cleanState = isClean() ? CleanState::Beginning : CleanState::Gone;
     m_index = -1;
+    m_pendingStep = 0;
     removeAll();
 }
 

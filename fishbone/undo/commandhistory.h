@@ -31,6 +31,10 @@ public:
     int index() const { return m_index; }
     /** Adds @p by to the position. */
     void moveIndex(int by) { m_index += by; }
+    /** What the command that runs adds to the position when it is through. */
+    void setPendingStep(int by) { m_pendingStep = by; }
+    /** Adds that, once. */
+    void settle();
     int count() const { return m_commands.count(); }
     bool canUndo() const;
     bool canRedo() const;
@@ -49,8 +53,11 @@ public:
     void append(const Command &command) { m_commands.append(command); }
     /** Deletes what could be redone, the newest first. */
     void discardRedoTail();
-    /** Deletes the oldest command. The position follows the commands if @p isRolling, or stays. */
-    void dropOldest(bool isRolling);
+    /** Whether the position follows the commands when the oldest one is dropped; it does not at
+     * first. */
+    void setRolling(bool rolling) { m_isRolling = rolling; }
+    /** Deletes the oldest command. */
+    void dropOldest();
     /** Deletes all commands, the oldest one first. It is as clean as it was. */
     void clear();
     /** Deletes all commands, the oldest one first, and nothing else. */
@@ -68,6 +75,8 @@ private:
     enum class CleanState { Beginning, Command, Gone };
 
     int m_index = -1;
+    int m_pendingStep = 0;
+    bool m_isRolling = false;
     QList<Command> m_commands;
     CleanState m_cleanState = CleanState::Beginning;
     std::weak_ptr<UndoCommand> m_cleanCommand; ///< the current one when setClean() was called

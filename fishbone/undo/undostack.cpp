@@ -9,15 +9,11 @@
 
 #include <QPointer>
 
-#include <utility>
-
 struct FISHBONE_NO_EXPORT UndoStack::Private
 {
     CommandHistory history;
-    int running = 0;     // how many commands are within their undo() or redo()
-    int pendingStep = 0; // what the command that runs adds to the index when it is through
-    bool isRolling = false;
-    int runs = 0; // of commands, so far
+    int running = 0; // how many commands are within their undo() or redo()
+    int runs = 0;    // of commands, so far
     UndoStackOwner *owner = nullptr;
 };
 
@@ -68,7 +64,7 @@ void UndoStack::push(UndoCommand *command)
     if (!discardRedoTail())
         return;
     m_d->history.append(pushed);
-    m_d->pendingStep = 1;
+    m_d->history.setPendingStep(1);
     if (!run(count() - 1, &UndoCommand::redo))
         return;
     settle();
@@ -90,7 +86,7 @@ int UndoStack::count() const
 
 void UndoStack::setRolling(bool rolling)
 {
-    m_d->isRolling = rolling;
+    m_d->history.setRolling(rolling);
 }
 
 void UndoStack::setOwner(UndoStackOwner *owner)
@@ -121,7 +117,6 @@ QString UndoStack::redoText() const
 void UndoStack::clear()
 {
     const QPointer<UndoStack> self(this);
-    m_d->pendingStep = 0;
     m_d->history.clear();
     if (self)
         emitChange();
@@ -180,7 +175,7 @@ void UndoStack::undo()
 void UndoStack::step(bool isUndo)
 {
     if (m_d->running == 0 && (isUndo ? canUndo() : canRedo())) {
-        m_d->pendingStep = isUndo ? -1 : 0;
+        m_d->history.setPendingStep(isUndo ? -1 : 0);
         if (!isUndo)
             m_d->history.moveIndex(1);
         if (!run(currentIndex(), isUndo ? &UndoCommand::undo : &UndoCommand::redo))
@@ -212,7 +207,7 @@ bool UndoStack::run(int index, void (UndoCommand::*side)())
  */
 void UndoStack::settle()
 {
-    m_d->history.moveIndex(std::exchange(m_d->pendingStep, 0));
+    m_d->history.settle();
 }
 
 /** Deletes what could be redone, the newest first. False when the stack did not survive it. */
@@ -226,7 +221,7 @@ bool UndoStack::discardRedoTail()
 void UndoStack::boundHistory()
 {
     if (count() >= m_limit)
-        m_d->history.dropOldest(m_d->isRolling);
+        m_d->history.dropOldest();
 }
 
 /** False when the stack did not survive it. */

@@ -16,6 +16,7 @@ class TestCommandHistory : public QObject
 
 private Q_SLOTS:
     void shouldKnowWhatCanBeUndoneAndRedone();
+    void shouldCountTheCommandThatRunsOnce();
     void shouldDiscardWhatCouldBeRedoneTheNewestFirst();
     void shouldDropTheOldestCommand_data();
     void shouldDropTheOldestCommand();
@@ -84,6 +85,16 @@ void TestCommandHistory::shouldKnowWhatCanBeUndoneAndRedone()
     QVERIFY(!recorded.history.canRedo());
 }
 
+void TestCommandHistory::shouldCountTheCommandThatRunsOnce()
+{
+    Recorded recorded(2);
+    recorded.history.setPendingStep(-1);
+    QCOMPARE(recorded.history.index(), 1);
+    recorded.history.settle();
+    recorded.history.settle();
+    QCOMPARE(recorded.history.index(), 0);
+}
+
 void TestCommandHistory::shouldDiscardWhatCouldBeRedoneTheNewestFirst()
 {
     Recorded recorded(4);
@@ -105,7 +116,8 @@ void TestCommandHistory::shouldDropTheOldestCommand()
 {
     QFETCH(bool, isRolling);
     Recorded recorded(3);
-    recorded.history.dropOldest(isRolling);
+    recorded.history.setRolling(isRolling);
+    recorded.history.dropOldest();
     QCOMPARE(recorded.ends, QStringLiteral("a"));
     QTEST(recorded.history.index(), "index");
     QCOMPARE(recorded.history.count(), 2);
