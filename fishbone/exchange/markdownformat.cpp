@@ -3,7 +3,7 @@
 
 #include <fishbone/exchange/exchangeformat.h>
 #include <fishbone/exchange/exchangetext.h>
-#include <fishbone/exchange/markdowninline.h>
+#include <fishbone/exchange/markdownescapes.h>
 #include <fishbone/exchange/markdownmarks.h>
 #include <fishbone/exchange/markdownreader.h>
 #include <fishbone/exchange/outlinewalk.h>
@@ -27,10 +27,10 @@ bool hasIssue(const TreeItem &subject)
 QString contentOf(const TreeItem &subject)
 {
     if (!subject.url().isEmpty())
-        return MarkdownInline::link(subject.title(), subject.url());
+        return MarkdownEscapes::link(subject.title(), subject.url());
     if (subject.title().isEmpty())
         return emptyTitle;
-    const QString text = MarkdownInline::escaped(subject.title());
+    const QString text = MarkdownEscapes::escaped(subject.title());
     if (MarkdownMarks::issueLength(text) == 0)
         return text;
     // The beginning of the title would be taken for the number of an issue.
@@ -60,7 +60,7 @@ QString quotation(const TreeItem &subject, const QString &indentation)
         return text;
     const QStringList lines = subject.detail().split(QLatin1Char('\n'));
     for (const QString &content : lines)
-        text.append(line(indentation + QLatin1Char('>'), MarkdownInline::escaped(content)));
+        text.append(line(indentation + QLatin1Char('>'), MarkdownEscapes::escaped(content)));
     return text;
 }
 

@@ -25,11 +25,6 @@ enum class Kind {
     Target, ///< where a link leads: nothing but escapes has a meaning
 };
 
-/** @p text as a piece of Markdown that shows exactly it, all in one line. */
-QString escaped(const QString &text);
-/** A link to @p url that shows @p text. */
-QString link(const QString &text, const QString &url);
-
 /** What @p markdown shows: without escapes, emphasis and links. @p definitions has where links lead
  * that are called by a name, in lower case. Linear in its length. */
 Content read(const QString &markdown, Kind kind, const QHash<QString, QString> &definitions = {});
