@@ -15,7 +15,7 @@ namespace {
 
 using TaskTable::Row;
 
-constexpr QLatin1Char quote('"');
+constexpr QLatin1Char quoteMark('"');
 constexpr QLatin1Char apostrophe('\'');
 
 bool isLineEnd(QChar c)
@@ -44,7 +44,7 @@ QChar separatorOf(const QString &text)
     for (const QChar c : text) {
         if (isLineEnd(c) && !isQuoted)
             break;
-        isQuoted = isQuoted != (c == quote);
+        isQuoted = isQuoted != (c == quoteMark);
         const auto found = std::find(separators.cbegin(), separators.cend(), c);
         if (found != separators.cend() && !isQuoted)
             ++counts[std::size_t(found - separators.cbegin())];
@@ -101,7 +101,7 @@ private:
 
     bool readCell(QString &cell)
     {
-        if (current() == quote)
+        if (current() == quoteMark)
             return readQuoted(cell);
         const int begin = m_position;
         while (!atEnd() && current() != m_separator && !isLineEnd(current()))
@@ -123,8 +123,8 @@ private:
                 cell.append(QStringView(m_text).mid(begin, m_position - begin).toString());
                 continue;
             }
-            const bool isQuote = current() == quote;
-            if (isQuote && !QStringView(m_text).mid(m_position + 1).startsWith(quote))
+            const bool isQuote = current() == quoteMark;
+            if (isQuote && !QStringView(m_text).mid(m_position + 1).startsWith(quoteMark))
                 break;
             cell.append(current());
             m_position += isQuote ? 2 : 1;
@@ -170,7 +170,7 @@ Beginning beginningOf(const QString &text)
 bool needsQuotes(const QString &cell)
 {
     return cell != cell.trimmed() || std::any_of(cell.cbegin(), cell.cend(), [](QChar c) {
-               return c == QLatin1Char(',') || c == quote || isLineEnd(c);
+               return c == QLatin1Char(',') || c == quoteMark || isLineEnd(c);
            });
 }
 
@@ -202,7 +202,7 @@ QByteArray line(const QStringList &cells)
             text.append(QLatin1Char(','));
         QString content = cell;
         if (needsQuotes(cell))
-            content = quote + content.replace(quote, QLatin1String("\"\"")) + quote;
+            content = quoteMark + content.replace(quoteMark, QLatin1String("\"\"")) + quoteMark;
         text.append(content);
     }
     return text.toUtf8() + "\r\n";

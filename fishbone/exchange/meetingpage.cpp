@@ -83,7 +83,7 @@ QString explained(Verdict verdict)
 }
 
 // The margins of a window are in properties that the toolkit, which prints the page, does not know.
-constexpr char style[] =
+constexpr char pageStyle[] =
     "body{font-family:sans-serif;margin-inline:auto;max-width:70em;padding-inline:1em;color:#222;"
     "background:#fff}svg,img{max-width:100%;height:auto}table{border-collapse:collapse;width:100%}"
     "th,td{border:1px solid #bbb;padding:.3em .5em;text-align:left;vertical-align:top}"
@@ -212,7 +212,7 @@ QString MeetingPage::html(const QString &picture) const
     QString page = QStringLiteral("<!DOCTYPE html>\n<html lang=\"%1\">\n<head>\n"
                                   "<meta charset=\"utf-8\">\n<title>%2</title>\n"
                                   "<style>%3</style>\n</head>\n<body>\n<h1>%2</h1>\n")
-                       .arg(QLocale().bcp47Name(), title, QLatin1String(style));
+                       .arg(QLocale().bcp47Name(), title, QLatin1String(pageStyle));
     page += QStringLiteral("<div>%1</div>\n").arg(picture);
     const QVector<Table> all = tables({inHtml, linkInHtml, strongInHtml});
     for (const Table &table : all) {

@@ -36,7 +36,7 @@ struct Shape
     QLatin1String close;
 };
 
-const Shape shapes[] = {
+const Shape nodeShapes[] = {
     {QLatin1String("(("), QLatin1String("))")}, {QLatin1String("))"), QLatin1String("((")},
     {QLatin1String("{{"), QLatin1String("}}")}, {QLatin1String("["), QLatin1String("]")},
     {QLatin1String("("), QLatin1String(")")},   {QLatin1String(")"), QLatin1String("(")},
@@ -47,7 +47,7 @@ QString withoutShape(const QString &line)
 {
     static const QRegularExpression name(QStringLiteral("^[^\\s\\[\\](){}\"]*"));
     const int begin = int(name.match(line).capturedLength());
-    for (const Shape &shape : shapes) {
+    for (const Shape &shape : nodeShapes) {
         const bool isShape = line.mid(begin).startsWith(shape.open) && line.endsWith(shape.close) &&
                              line.size() >= begin + shape.open.size() + shape.close.size();
         if (isShape)

@@ -17,11 +17,10 @@ bool PictureProgress::goesOn(int done)
 
 PictureExport::Result PictureProgress::outcome(bool isComplete) const
 {
-    using Error = PictureExport::Error;
     if (m_isCancelled)
-        return {Error::Cancelled, PictureExport::tr("it was cancelled")};
+        return {PictureExport::Error::Cancelled, PictureExport::tr("it was cancelled")};
     return isComplete ? PictureExport::Result()
-                      : PictureExport::Result{Error::CannotWrite,
+                      : PictureExport::Result{PictureExport::Error::CannotWrite,
                                               PictureExport::tr("the drawing cannot be encoded")};
 }
 

@@ -10,7 +10,7 @@
 #include <QXmlStreamReader>
 
 namespace {
-constexpr int deepest = 16;
+constexpr int deepestGroup = 16;
 
 bool isShape(const QString &name)
 {
@@ -92,7 +92,7 @@ SvgSymbol::SvgSymbol(const QString &file)
         while (!xml.atEnd()) {
             const QXmlStreamReader::TokenType token = xml.readNext();
             if (token == QXmlStreamReader::StartElement) {
-                if (depth < deepest && isShape(xml.name().toString())) {
+                if (depth < deepestGroup && isShape(xml.name().toString())) {
                     shapes += startTag(xml);
                     ++depth;
                 } else {
