@@ -6,6 +6,7 @@
 #include <fishbone/exchange/diagramexchange.h>
 #include <fishbone/exchange/importedtree.h>
 #include <fishbone/exchange/taskcells.h>
+#include <fishbone/exchange/taskrownames.h>
 
 #include <QHash>
 #include <QRegularExpression>
@@ -30,29 +31,6 @@ struct Node
     int parent = noParent; ///< another node
     bool isWhole = true;   ///< whether the cells of the row are its own
 };
-
-/** A name by which rows are found: without blanks and the sign of a number. */
-QString plainName(const QString &text)
-{
-    const QString name = text.trimmed();
-    return name.startsWith(QLatin1Char('#')) ? name.mid(1).trimmed() : name;
-}
-
-/** The names that a reference to another row may hold, the surest first: "12", "Bug #12: Title",
- * "[KEY-1] Title", the end of a link, a title with a link behind it. */
-QStringList namesIn(const QString &reference)
-{
-    static const QRegularExpression number(QStringLiteral("#(\\d+)\\b"));
-    static const QRegularExpression key(QStringLiteral("^\\[?([A-Za-z][A-Za-z0-9_]*-\\d+)\\b"));
-    static const QRegularExpression end(QStringLiteral("^\\w+://\\S*/([^/\\s]+)/?$"));
-    static const QRegularExpression linked(QStringLiteral("^(.+) \\(\\w+://[^\\s()]*\\)$"));
-    QStringList names{reference, plainName(reference)};
-    for (const QRegularExpression &form : {number, key, end, linked}) {
-        if (const auto match = form.match(reference); match.hasMatch())
-            names.append(match.captured(1));
-    }
-    return names;
-}
 
 /** Makes subjects of the rows of a table. */
 class TableReader
@@ -236,22 +214,13 @@ private:
         }
     }
 
-    /** Notes what a row is called; the first of that name counts. */
-    void noteName(const QString &name, int node)
-    {
-        if (!name.isEmpty() && !m_nodeOf.contains(name))
-            m_nodeOf.insert(name, node);
-    }
-
     void linkByParents()
     {
         for (const Role role : {Role::Uuid, Role::Id, Role::ShortId, Role::Title}) {
             const QList<int> columns = m_cells.columnsOf(role);
             for (std::size_t i = 0; i < m_nodes.size(); ++i) {
                 for (const int column : columns) {
-                    const QString name = cell(m_nodes[i].row, column);
-                    noteName(name, int(i));
-                    noteName(plainName(name), int(i));
+                    m_names.add(cell(m_nodes[i].row, column), int(i));
                 }
             }
         }
@@ -267,15 +236,11 @@ private:
             const QString reference = cell(node.row, column);
             if (reference.trimmed().isEmpty() || reference == QLatin1String("-1"))
                 continue;
-            const QStringList names = namesIn(reference);
-            // A task may be called like the one it belongs to.
-            const auto name = std::find_if(names.cbegin(), names.cend(), [&](const QString &n) {
-                return m_nodeOf.contains(n) && (m_nodeOf.value(n) != index || n != node.title);
-            });
-            if (name != names.cend() && node.parent == noParent)
-                node.parent = m_nodeOf.value(*name);
-            else if (name == names.cend())
-                m_unknownParents[node.row].append(column);
+            const int parent = m_names.find(reference, index, node.title);
+            if (parent >= 0 && node.parent == noParent)
+                node.parent = parent;
+            else if (parent != node.parent || parent < 0)
+                m_otherParents[node.row].append(column);
         }
     }
 
@@ -323,8 +288,8 @@ private:
         if (!node.isWhole)
             return true;
         m_cells.apply(row, *subject);
-        const QList<int> unknown = m_unknownParents.value(node.row);
-        for (const int column : unknown)
+        const QList<int> others = m_otherParents.value(node.row);
+        for (const int column : others)
             m_tree.addNamedDetail(*subject, m_mapping.headings.value(column),
                                   cell(node.row, column), row.line);
         return true;
@@ -336,8 +301,8 @@ private:
     ImportedTree &m_tree;
     TaskCells m_cells;
     std::vector<Node> m_nodes;
-    QHash<QString, int> m_nodeOf;                    ///< by what the rows are called
-    QHash<std::size_t, QList<int>> m_unknownParents; ///< of rows, the columns
+    TaskRowNames m_names;
+    QHash<std::size_t, QList<int>> m_otherParents; ///< of rows, the columns that make no parent
 };
 
 /** The headings of a table in quotes, as many as a message takes. */
