@@ -18,6 +18,7 @@
 #include <app/panels/filterbar.h>
 #include <app/panels/historypanel.h>
 #include <app/panels/subjecttree.h>
+#include <app/panels/treedrops.h>
 #include <app/panels/treesync.h>
 #include <app/recovery/recoverycopy.h>
 
@@ -57,6 +58,12 @@ DocumentTab::DocumentTab(CanvasTheme *theme, QWidget *parent)
     theme->add(m_editor);
     m_look = new DocumentLook(m_session, theme, this);
     new CanvasGestures(m_session, m_sync, this); // which owns it
+    new TreeDrops(m_session, m_tree, m_tree);    // which owns it
+    connect(m_tree, &SubjectTree::renameWanted, m_editor,
+            [this](const QModelIndex &index, const QString &title) {
+                m_editor->renameItem(index, title);
+                m_session->touch();
+            });
     for (QWidget *panel : QList<QWidget *>{m_tree, m_details, m_history})
         panel->hide(); // until a dock shows it
     setFocusProxy(m_editor->view());

@@ -3,6 +3,7 @@
 
 #include <app/panels/subjectproxymodel.h>
 
+#include <fishbone/items/taskstatusinfo.h>
 #include <fishbone/model/fishmodel.h>
 #include <fishbone/model/treeitem.h>
 
@@ -12,11 +13,35 @@ SubjectProxyModel::SubjectProxyModel(QObject *parent)
     setFilterCaseSensitivity(Qt::CaseInsensitive);
 }
 
+const TreeItem *SubjectProxyModel::subjectAt(const QModelIndex &index) const
+{
+    const auto *const model = qobject_cast<const FishModel *>(sourceModel());
+    return model ? model->getTreeItem(mapToSource(index)) : nullptr;
+}
+
+QString SubjectProxyModel::statusIcon(const QModelIndex &index) const
+{
+    const TreeItem *const subject = subjectAt(index);
+    if (!subject || subject->isTopVaildItem())
+        return QString();
+    return TaskStatusInfo(TaskStatus(subject->status()), subject->progress()).iconPath();
+}
+
+QVariant SubjectProxyModel::data(const QModelIndex &index, int role) const
+{
+    const QString path = role == Qt::DecorationRole ? statusIcon(index) : QString();
+    if (path.isEmpty())
+        return FishProxyModel::data(index, role);
+    QIcon &icon = m_icons[path];
+    if (icon.isNull())
+        icon = QIcon(path);
+    return icon;
+}
+
 Qt::ItemFlags SubjectProxyModel::flags(const QModelIndex &index) const
 {
-    const Qt::ItemFlags base = FishProxyModel::flags(index);
-    const auto *const model = qobject_cast<const FishModel *>(sourceModel());
-    const TreeItem *const subject = model ? model->getTreeItem(mapToSource(index)) : nullptr;
+    const Qt::ItemFlags base = FishProxyModel::flags(index) | Qt::ItemIsEditable;
+    const TreeItem *const subject = subjectAt(index);
     const bool draggable = subject && !subject->isTopVaildItem() && subject->spearItemIsMovable();
     return draggable ? base | Qt::ItemIsDragEnabled : base;
 }

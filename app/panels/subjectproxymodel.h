@@ -5,6 +5,8 @@
 
 #include <fishbone/model/fishproxymodel.h>
 
+#include <QHash>
+#include <QIcon>
 #include <QSet>
 
 #include <optional>
@@ -20,11 +22,16 @@ class SubjectProxyModel : public FishProxyModel
 public:
     explicit SubjectProxyModel(QObject *parent = nullptr);
 
+    /** As the source's, but the icon of a subject with a status is that of the status. */
+    QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
     /**
-     * As the source's, and draggable when the subject may be moved. Heads cannot be dragged: a drop
-     * is not undone, and would take the document with it.
+     * As the source's, editable, and draggable when the subject may be moved. Heads cannot be
+     * dragged: a drop is not undone, and would take the document with it.
      */
     Qt::ItemFlags flags(const QModelIndex &index) const override;
+
+    /** The path of the icon for the status of the subject at @p index; empty for none. */
+    QString statusIcon(const QModelIndex &index) const;
 
     /** Shows of the subjects below heads none but @p subjects, which are only compared; nothing for
      * all. */
@@ -35,5 +42,8 @@ public:
     bool filterAcceptsRow(int sourceRow, const QModelIndex &sourceParent) const override;
 
 private:
+    const TreeItem *subjectAt(const QModelIndex &index) const;
+
+    mutable QHash<QString, QIcon> m_icons; ///< by their paths
     std::optional<QSet<const TreeItem *>> m_shown;
 };

@@ -7,9 +7,11 @@
 #include <app/panels/subjectproxymodel.h>
 
 #include <fishbone/model/fishmodel.h>
+#include <fishbone/model/treeitem.h>
 
 #include <QDrag>
 #include <QItemSelectionModel>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QMimeData>
 #include <QPainter>
@@ -18,17 +20,50 @@
 
 namespace {
 
-/** Shows the icon of a selected row in the colour of its text; it is as blue as the selection. */
+/** Shows the icon of a selected row in the colour of its text; it is as blue as the selection.
+ * Edits the plain title: what is shown of a head has counts behind it. */
 class SubjectDelegate : public QStyledItemDelegate
 {
 public:
-    using QStyledItemDelegate::QStyledItemDelegate;
+    SubjectDelegate(SubjectTree *tree, QObject *parent)
+        : QStyledItemDelegate(parent)
+        , m_tree(tree)
+    {
+    }
+
+    void setEditorData(QWidget *editor, const QModelIndex &index) const override
+    {
+        const auto *const model = qobject_cast<const FishModel *>(m_tree->proxy()->sourceModel());
+        const TreeItem *const subject = model->getTreeItem(m_tree->proxy()->mapToSource(index));
+        if (auto *const field = qobject_cast<QLineEdit *>(editor); field && subject)
+            field->setText(subject->title());
+    }
+
+    void setModelData(QWidget *editor, QAbstractItemModel *model,
+                      const QModelIndex &index) const override
+    {
+        Q_UNUSED(model) // hears of it by the step of the history
+        const auto *const field = qobject_cast<const QLineEdit *>(editor);
+        if (field && field->isModified() && !field->text().trimmed().isEmpty())
+            Q_EMIT m_tree->renameWanted(m_tree->proxy()->mapToSource(index), field->text());
+    }
 
 protected:
+    bool eventFilter(QObject *editor, QEvent *event) override
+    {
+        // Every key is for the field, also those that are shortcuts of the tree.
+        if (event->type() == QEvent::ShortcutOverride) {
+            event->accept();
+            return true;
+        }
+        return QStyledItemDelegate::eventFilter(editor, event);
+    }
+
     void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override
     {
         QStyledItemDelegate::initStyleOption(option, index);
-        if (!option->state.testFlag(QStyle::State_Selected) || option->icon.isNull())
+        if (!option->state.testFlag(QStyle::State_Selected) || option->icon.isNull() ||
+            !m_tree->proxy()->statusIcon(index).isEmpty()) // whose colours mean something
             return;
         QPixmap picture = option->icon.pixmap(option->decorationSize);
         QPainter painter(&picture);
@@ -37,6 +72,9 @@ protected:
         painter.end();
         option->icon.addPixmap(picture, QIcon::Selected);
     }
+
+private:
+    SubjectTree *m_tree;
 };
 
 } // namespace
@@ -47,11 +85,21 @@ SubjectTreeView::SubjectTreeView(QWidget *parent)
     setHeaderHidden(true);
     setUniformRowHeights(true);
     setSelectionMode(ExtendedSelection);
-    setEditTriggers(NoEditTriggers);
+    setEditTriggers(EditKeyPressed);
     setDragEnabled(true);
     setDragDropMode(DragOnly);
     setExpandsOnDoubleClick(false);
-    setItemDelegate(new SubjectDelegate(this));
+}
+
+bool SubjectTreeView::event(QEvent *event)
+{
+    // F2 edits the row, and not the title of the bone.
+    if (event->type() == QEvent::ShortcutOverride &&
+        static_cast<QKeyEvent *>(event)->key() == Qt::Key_F2 && currentIndex().isValid()) {
+        event->accept();
+        return true;
+    }
+    return QTreeView::event(event);
 }
 
 void SubjectTreeView::setModel(QAbstractItemModel *model)
@@ -101,6 +149,7 @@ SubjectTree::SubjectTree(FishModel *model, QWidget *parent)
     Language::bind(m_filter, &QWidget::setAccessibleName, filterName);
     m_filter->setClearButtonEnabled(true);
     m_view->setObjectName(QStringLiteral("documents"));
+    m_view->setItemDelegate(new SubjectDelegate(this, m_view));
     Language::bind(m_view, &QWidget::setAccessibleName, [] { return tr("Documents"); });
     m_proxy->setSourceModel(model);
     m_view->setModel(m_proxy);

@@ -30,6 +30,7 @@ public:
     void setModel(QAbstractItemModel *model) override;
 
 protected:
+    bool event(QEvent *event) override;
     void startDrag(Qt::DropActions supportedActions) override;
     void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
 
@@ -60,6 +61,8 @@ public:
     void selectSubjects(const QModelIndexList &indexes);
 
 Q_SIGNALS:
+    /** The user has typed @p title for the subject at @p index of the documents' model. */
+    void renameWanted(const QModelIndex &index, const QString &title);
     /** The filter is about to hide and show rows. */
     void filterAboutToChange();
     /** The filter has hidden and shown rows. */
