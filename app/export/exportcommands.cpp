@@ -17,6 +17,7 @@
 #include <app/export/picturecopy.h>
 #include <app/export/picturesource.h>
 #include <app/export/printpreview.h>
+#include <app/export/printtarget.h>
 
 #include <fishbone/editor/fisheditor.h>
 #include <fishbone/editor/fishscene.h>
@@ -246,7 +247,9 @@ void ExportCommands::previewPrint()
     if (!m_session->document())
         return;
     PictureSource source(m_editor);
-    PrintPreview(&source, shownView(), m_theme, m_window).exec();
+    PrintPreview preview(&source, shownView(), m_theme, m_window);
+    preview.setTarget(proposedName(QStringLiteral("pdf")));
+    preview.exec();
 }
 
 /** Prints as the preview was last left, which need not have been seen. */
@@ -259,6 +262,7 @@ void ExportCommands::print()
     printer.setPageOrientation(QPageLayout::Landscape); // as wide as most fishbones are
     printer.setDocName(source.title());
     QPrintDialog dialog(&printer, m_window);
+    PrintTarget::propose(dialog, proposedName(QStringLiteral("pdf")));
     if (dialog.exec() == QDialog::Accepted &&
         !PrintPreview(&source, shownView(), m_theme, m_window).printTo(&printer))
         Q_EMIT message(tr("Nothing was printed"));

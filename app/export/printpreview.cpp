@@ -9,16 +9,19 @@
 #include <app/common/updatesheld.h>
 #include <app/common/workprogress.h>
 #include <app/export/picturesource.h>
+#include <app/export/printtarget.h>
 
 #include <fishbone/drawing/lookinfo.h>
 #include <fishbone/editor/fishscene.h>
 
 #include <QAction>
 #include <QCheckBox>
+#include <QChildEvent>
 #include <QComboBox>
 #include <QLabel>
 #include <QLayout>
 #include <QPaintEngine>
+#include <QPrintDialog>
 #include <QPrintPreviewWidget>
 #include <QPrinter>
 #include <QSettings>
@@ -92,6 +95,15 @@ PrintPreview::~PrintPreview()
     // A field that loses the focus tells its value, when the printer is gone already.
     m_fit->disconnect(this);
     m_percent->disconnect(this);
+}
+
+/** The toolkit makes the dialog that prints when it is wanted first. */
+void PrintPreview::childEvent(QChildEvent *event)
+{
+    QPrintPreviewDialog::childEvent(event);
+    auto *const dialog = event->polished() ? qobject_cast<QPrintDialog *>(event->child()) : nullptr;
+    if (dialog)
+        PrintTarget::propose(*dialog, m_target);
 }
 
 QComboBox *PrintPreview::addBox(QToolBar *bar, const char *name, const QString &text)

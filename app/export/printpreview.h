@@ -33,9 +33,15 @@ public:
                  const CanvasTheme *theme = nullptr, QWidget *parent = nullptr);
     ~PrintPreview() override;
 
+    /** Where a print into a file goes unless the user says otherwise. */
+    void setTarget(const QString &path) { m_target = path; }
+
     /** Prints on @p device what would be shown for it. False when there is nothing to print, or
      * when the user has cancelled it. */
     bool printTo(QPrinter *device);
+
+protected:
+    void childEvent(QChildEvent *event) override;
 
 private:
     QToolBar *makeBar();
@@ -47,6 +53,7 @@ private:
     void refresh();
 
     PictureSource *m_source;
+    QString m_target;
     const CanvasTheme *m_theme;
     DiagramView m_shown;
     DrawingPrinter m_drawing;
