@@ -6,26 +6,22 @@
 #include <fishbone/base/filereplacement.h>
 #include <fishbone/drawing/cleararrangement.h>
 #include <fishbone/drawing/clearcontent.h>
-#include <fishbone/drawing/clearpainter.h>
+#include <fishbone/exchange/clearwriting.h>
 #include <fishbone/exchange/htmlpicture.h>
 #include <fishbone/exchange/picturepart.h>
 #include <fishbone/exchange/pictureprogress.h>
 #include <fishbone/exchange/picturetexts.h>
-#include <fishbone/exchange/svgpicture.h>
 
-#include <QImage>
 #include <QLocale>
-#include <QPageSize>
 #include <QPainter>
-#include <QPdfWriter>
 
 #include <algorithm>
-#include <cmath>
 
 using Error = PictureExport::Error;
 using Result = PictureExport::Result;
 
 namespace {
+
 constexpr double millimetresPerInch = 25.4;
 constexpr double pointsPerInch = 72;
 
@@ -33,96 +29,6 @@ bool isPage(const QString &fileName)
 {
     return fileName.endsWith(QLatin1String(".html"), Qt::CaseInsensitive) ||
            fileName.endsWith(QLatin1String(".htm"), Qt::CaseInsensitive);
-}
-
-/** Paints @p picture as large as it fits into @p target; false when that was ended. */
-bool paintInto(QPainter &painter, const ClearPicture &picture, const QRectF &target)
-{
-    const QRectF bounds = picture.bounds();
-    const qreal scale =
-        std::min(target.width() / bounds.width(), target.height() / bounds.height());
-    painter.save();
-    painter.translate(target.center());
-    painter.scale(scale, scale);
-    painter.translate(-bounds.center());
-    ClearPainter sink(painter);
-    const bool isDone = picture.describe(sink);
-    painter.restore();
-    return isDone;
-}
-
-/** Fills @p rect unless that would be white on white, which only takes room. */
-void fillPaper(QPainter &painter, const QRectF &rect, const QColor &background)
-{
-    if (background.alpha() > 0 && background != Qt::white)
-        painter.fillRect(rect, background);
-}
-
-/** Makes @p writer write one page of @p millimetres. */
-void setUp(QPdfWriter &writer, const QSizeF &millimetres, const QString &title)
-{
-    writer.setPageSize(
-        QPageSize(millimetres, QPageSize::Millimeter, QString(), QPageSize::ExactMatch));
-    writer.setPageMargins(QMarginsF());
-    writer.setTitle(title);
-    writer.setCreator(QStringLiteral("Fishbone"));
-}
-
-/** How one picture is written: the pieces of it, and whoever follows that. */
-struct Writing
-{
-    const ClearPicture &picture;
-    const PictureOptions &options;
-    QSizeF size; ///< in picture units
-    QRectF target;
-    PictureProgress &progress;
-
-    Result svg(QByteArray &bytes) const;
-    Result png(QByteArray &bytes) const;
-    /** A page of @p millimetres, as wide as the size. */
-    Result pdf(const QSizeF &millimetres, QByteArray &bytes) const;
-};
-
-Result Writing::svg(QByteArray &bytes) const
-{
-    SvgPictureOptions svg;
-    svg.title = options.title;
-    svg.background = options.background;
-    svg.margin = options.margin;
-    svg.size = size;
-    PictureBytes buffer(&bytes, progress);
-    return progress.outcome(SvgPicture::write(picture, svg, buffer));
-}
-
-Result Writing::png(QByteArray &bytes) const
-{
-    QImage image(QSize(int(std::ceil(size.width())), int(std::ceil(size.height()))),
-                 QImage::Format_ARGB32_Premultiplied);
-    if (image.isNull())
-        return {Error::TooLarge, DiagramPicture::tr("there is not enough memory for it")};
-    image.fill(options.background.isValid() ? options.background : QColor(Qt::transparent));
-    QPainter painter(&image);
-    const bool isPainted = paintInto(painter, picture, target);
-    painter.end();
-    if (!isPainted)
-        return progress.outcome(false);
-    image.setText(QStringLiteral("Title"), options.title);
-    PictureBytes buffer(&bytes, progress);
-    return progress.outcome(buffer.savePng(image));
-}
-
-Result Writing::pdf(const QSizeF &millimetres, QByteArray &bytes) const
-{
-    PictureBytes buffer(&bytes, progress);
-    QPdfWriter writer(&buffer);
-    setUp(writer, millimetres, options.title);
-    QPainter painter(&writer);
-    const double dots =
-        writer.resolution() / millimetresPerInch * millimetres.width() / size.width();
-    painter.scale(dots, dots);
-    fillPaper(painter, QRectF(QPointF(), size), options.background);
-    const bool isPainted = paintInto(painter, picture, target);
-    return progress.outcome(painter.end() && isPainted);
 }
 
 /** Has @p progress follow how @p picture is described. */
@@ -136,6 +42,7 @@ Result written(const QString &fileName, const QByteArray &bytes)
     const QString failure = replaceFile(fileName, bytes);
     return failure.isEmpty() ? Result() : Result{Error::CannotWrite, failure};
 }
+
 } // namespace
 
 struct DiagramPicture::Data
@@ -219,7 +126,7 @@ double DiagramPicture::textSizeOn(const QSizeF &page) const
 
 void DiagramPicture::paint(QPainter &painter, const QRectF &target) const
 {
-    paintInto(painter, m_data->picture(), target);
+    ClearWriting::paint(painter, m_data->picture(), target);
 }
 
 bool DiagramPicture::paint(QPainter &painter, const QRectF &target, const QRectF &source,
@@ -286,9 +193,9 @@ Result DiagramPicture::render(PictureExport::Format format, const PictureOptions
     ClearPicture picture = m_data->picture();
     PictureProgress progress(options, picture.count());
     follow(picture, progress);
-    const Writing writing{picture, options, size,
-                          QRectF(QPointF(), size).adjusted(margin, margin, -margin, -margin),
-                          progress};
+    const ClearWriting writing{picture, options, size,
+                               QRectF(QPointF(), size).adjusted(margin, margin, -margin, -margin),
+                               progress};
     Result result = format == PictureExport::Format::Svg ? writing.svg(bytes)
                     : format == PictureExport::Format::Png
                         ? writing.png(bytes)
@@ -328,7 +235,7 @@ Result DiagramPicture::writePage(const QString &fileName, const QSizeF &millimet
     PictureProgress progress(options, picture.count());
     follow(picture, progress);
     Result result =
-        Writing{picture, options, millimetres, target, progress}.pdf(millimetres, bytes);
+        ClearWriting{picture, options, millimetres, target, progress}.pdf(millimetres, bytes);
     if (result)
         result = progress.finish();
     return result ? written(fileName, bytes) : result;
