@@ -8,10 +8,10 @@
 
 namespace PrintTarget {
 
-void propose(QPrintDialog &dialog, const QString &path)
+void propose(QPrintDialog &printing, const QString &path)
 {
     // A name that the printer is given would choose the file in place of the user's printer.
-    if (auto *const field = dialog.findChild<QLineEdit *>(QStringLiteral("filename")))
+    if (auto *const field = printing.findChild<QLineEdit *>(QStringLiteral("filename")))
         field->setText(path);
 }
 

@@ -9,7 +9,7 @@ class QString;
 /** Where a print into a file goes. */
 namespace PrintTarget {
 
-/** Has @p dialog begin with @p path for it, in place of the working folder. */
-void propose(QPrintDialog &dialog, const QString &path);
+/** Has @p printing begin with @p path for it, in place of the working folder. */
+void propose(QPrintDialog &printing, const QString &path);
 
 } // namespace PrintTarget

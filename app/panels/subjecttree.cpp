@@ -45,7 +45,7 @@ public:
         Q_UNUSED(model) // hears of it by the step of the history
         const auto *const field = qobject_cast<const QLineEdit *>(editor);
         if (field && field->isModified() && !field->text().trimmed().isEmpty())
-            Q_EMIT m_tree->renameWanted(m_tree->proxy()->mapToSource(index), field->text());
+            m_tree->rename(index, field->text());
     }
 
 protected:
@@ -163,6 +163,11 @@ SubjectTree::SubjectTree(FishModel *model, QWidget *parent)
     connect(m_filter, &QLineEdit::textChanged, this, [this](const QString &text) {
         refilter([this, &text] { m_proxy->setFilterFixedString(text); });
     });
+}
+
+void SubjectTree::rename(const QModelIndex &row, const QString &title)
+{
+    Q_EMIT renameWanted(m_proxy->mapToSource(row), title);
 }
 
 bool SubjectTree::isFiltered() const

@@ -60,6 +60,9 @@ public:
     /** Selects exactly these subjects, given as indexes of the documents' model. */
     void selectSubjects(const QModelIndexList &indexes);
 
+    /** Announces that the user wants @p title for the subject in the row @p row of the view. */
+    void rename(const QModelIndex &row, const QString &title);
+
 Q_SIGNALS:
     /** The user has typed @p title for the subject at @p index of the documents' model. */
     void renameWanted(const QModelIndex &index, const QString &title);
