@@ -16,6 +16,7 @@
 #include <fishbone/items/stackorder.h>
 #include <fishbone/items/taskstatusitem.h>
 #include <fishbone/items/textitem.h>
+#include <fishbone/items/titletext.h>
 #include <fishbone/model/fishmodel.h>
 #include <fishbone/model/treeitem.h>
 
@@ -137,30 +138,8 @@ double SpearItem::textHeight() const
 /** How many characters of the title are shown; -1 for all, whatever their number. */
 int SpearItem::shownLength(const SpearStyle &style) const
 {
-    const int count = style.textCount();
-    if (count < 1 || count >= m_text.length())
-        return -1;
-    const bool splitsPair =
-        m_text.at(count - 1).isHighSurrogate() && m_text.at(count).isLowSurrogate();
-    return splitsPair ? count - 1 : count;
+    return TitleText::shownLength(m_text, style.textCount());
 }
-
-namespace {
-/**
- * The part of @p text before the first "(" that an ASCII digit follows: a head's title without
- * the counts that the model appends.
- */
-QString withoutCounts(const QString &text)
-{
-    for (int i = text.indexOf(QLatin1Char('(')); i >= 0;
-         i = text.indexOf(QLatin1Char('('), i + 1)) {
-        const ushort next = i + 1 < text.length() ? text.at(i + 1).unicode() : 0;
-        if (next >= '0' && next <= '9')
-            return text.left(i);
-    }
-    return text;
-}
-} // namespace
 
 void SpearItem::updateTextMetrics()
 {
@@ -186,7 +165,7 @@ void SpearItem::showText(const SpearStyle &style)
         showIn(QFont());
     // The box goes on showing the counts; only what is reported as the display text goes without.
     if (m_treeItem && m_treeItem->isTopVaildItem())
-        m_textDisplay = withoutCounts(m_text.left(length));
+        m_textDisplay = TitleText::withoutCounts(m_text.left(length));
     else if (length >= 0 && m_textDisplay != QStringView(m_text).left(length))
         m_textDisplay = m_text.left(length);
     else if (length < 0 && !m_textDisplay.isSharedWith(m_text))
