@@ -199,12 +199,7 @@ void EditCommands::rename(const QModelIndex &index, const QString &typed)
     TitleEditor::open(m_editor, index, typed);
 }
 
-void EditCommands::insertChild(const QModelIndex &parent)
-{
-    m_session->select(parent);
-    insertAndRename<InsertChild>();
-}
-
+/** Asks for a title and inserts a task of that title under the one at @p parent. */
 void EditCommands::insertSubTask(const QModelIndex &parent)
 {
     const QPersistentModelIndex above = parent; // the dialog runs an event loop

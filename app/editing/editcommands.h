@@ -29,10 +29,6 @@ public:
     /** Opens a field for the title of the subject at @p index, with @p typed in place of the title
      * unless that is empty. */
     void rename(const QModelIndex &index, const QString &typed = QString());
-    /** Inserts a child under the subject at @p parent and opens a field for its title. */
-    void insertChild(const QModelIndex &parent);
-    /** Asks for a title and inserts a task of that title under the one at @p parent. */
-    void insertSubTask(const QModelIndex &parent);
 
 Q_SIGNALS:
     /** Something for the status bar. */
@@ -41,6 +37,7 @@ Q_SIGNALS:
     void newDiagramWanted();
 
 private:
+    void insertSubTask(const QModelIndex &parent);
     void addHistoryActions();
     void nameHistoryActions();
     void addClipboardActions();

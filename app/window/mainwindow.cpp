@@ -280,16 +280,11 @@ void MainWindow::connectGestures(DocumentTab *tab)
     connect(typing, &TypedTitle::typed, this, [this, editor](const QString &text) {
         m_edits->rename(editor->firstSelectedSpearIndex(), text);
     });
+    // Of what the editor's own menu tells nothing comes: the program's entries stand in it instead.
     connect(editor, &FishEditor::editTaskDetail, this, [this, tab](const QModelIndex &index) {
         tab->details()->showSubject(index);
         showDetails();
     });
-    connect(editor, &FishEditor::oneTaskClicked, this, &MainWindow::showDetails);
-    connect(editor, &FishEditor::createNewSubTask, this,
-            [this, editor] { m_edits->insertSubTask(editor->firstSelectedSpearIndex()); });
-    connect(editor, &FishEditor::insertChildTask, m_edits, &EditCommands::insertChild);
-    connect(editor, &FishEditor::changeFishWithModelIndex, tab->session(),
-            &DiagramSession::showAsDiagram);
     connect(editor, &FishEditor::changeTaskParent, this,
             [this, tab](const QStringList &children, const QString &parentId) {
                 const QModelIndex index = tab->model()->modelIndexByUuid(parentId);

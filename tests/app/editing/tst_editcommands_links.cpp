@@ -39,7 +39,6 @@ private Q_SLOTS:
     void shouldPasteFromTheMenuOfABone();
     void shouldInsertASubTask();
     void shouldInsertNoSubTaskWhenCancelled();
-    void shouldAnswerTheEditorsGestures();
 };
 
 void TestEditCommandsLinks::initTestCase()
@@ -252,9 +251,7 @@ void TestEditCommandsLinks::shouldInsertASubTask()
         dialog.setTextValue(QStringLiteral("Repair"));
         dialog.accept();
     });
-    Q_EMIT app.window.editor()->createNewSubTask(QStringLiteral("Machines"), QStringLiteral("{e}"),
-                                                 QString());
-    AppFixture::settle();
+    app.trigger("subTask");
     QVERIFY(driver.isDone());
     QVERIFY(app.text().contains(QLatin1String("Machines[Repair]")));
     const TreeItem *const made = app.subject("Repair");
@@ -276,18 +273,6 @@ void TestEditCommandsLinks::shouldInsertNoSubTaskWhenCancelled()
     app.trigger("subTask");
     QVERIFY(driver.isDone());
     QCOMPARE(app.text(), original());
-}
-
-void TestEditCommandsLinks::shouldAnswerTheEditorsGestures()
-{
-    AppFixture app;
-    Q_EMIT app.window.editor()->insertChildTask(app.find("Machines"));
-    AppFixture::settle();
-    QVERIFY(titleField(app));
-    QTest::keyClicks(titleField(app), QStringLiteral("Wear"));
-    QTest::keyClick(titleField(app), Qt::Key_Return);
-    AppFixture::settle();
-    QVERIFY(app.text().contains(QLatin1String("Machines[Wear]")));
 }
 
 FISHBONE_TEST(TestEditCommandsLinks)
