@@ -4,7 +4,9 @@
 #include <fishbone/exchange/diagramexchange.h>
 
 #include <fishbone/base/filereplacement.h>
+#include <fishbone/exchange/exchangefilters.h>
 #include <fishbone/exchange/exchangeformat.h>
+#include <fishbone/exchange/exchangeinput.h>
 #include <fishbone/exchange/exchangelosses.h>
 #include <fishbone/exchange/exchangereport.h>
 #include <fishbone/exchange/importedtree.h>
@@ -26,21 +28,6 @@ namespace {
 
 using Format = DiagramExchange::Format;
 
-constexpr qint64 chunkSize = 1 << 20;
-
-/** At most @p limit bytes. In pieces, since a device makes room for all that it is asked for. */
-QByteArray readUpTo(QIODevice &device, qint64 limit)
-{
-    QByteArray bytes;
-    while (bytes.size() < limit) {
-        const QByteArray piece = device.read(qMin<qint64>(chunkSize, limit - bytes.size()));
-        if (piece.isEmpty())
-            break;
-        bytes += piece;
-    }
-    return bytes;
-}
-
 void fail(QString *error, const QString &reason)
 {
     if (error)
@@ -50,35 +37,6 @@ void fail(QString *error, const QString &reason)
 QStringList wordsOf(const char *text)
 {
     return QString::fromLatin1(text).split(QLatin1Char(' '), Qt::SkipEmptyParts);
-}
-
-/** The file patterns of a format, "*.md *.markdown". */
-QString patterns(Format format)
-{
-    const QStringList suffixes = DiagramExchange::suffixes(format);
-    return QLatin1String("*.") + suffixes.join(QLatin1String(" *."));
-}
-
-/** The foreign formats that @p can says yes to. */
-QList<Format> foreignFormats(bool (*can)(Format))
-{
-    QList<Format> foreign;
-    const QList<Format> all = DiagramExchange::formats();
-    for (const Format format : all) {
-        if (format != Format::Json && can(format))
-            foreign.append(format);
-    }
-    return foreign;
-}
-
-/** A name filter for each of @p formats. */
-QStringList nameFilters(const QList<Format> &formats)
-{
-    QStringList filters;
-    for (const Format format : formats)
-        filters.append(
-            QStringLiteral("%1 (%2)").arg(DiagramExchange::name(format), patterns(format)));
-    return filters;
 }
 
 /** The bytes of a diagram; null when there are too many levels. */
@@ -94,38 +52,6 @@ QByteArray bytesOf(const TreeItem &head, Format format, QString *error)
         return QByteArray();
     }
     return ExchangeFormats::of(format).write(head);
-}
-
-/** All bytes of @p device; null when there are too many, or none at all. */
-QByteArray bytesIn(QIODevice &device, QString *error)
-{
-    const QByteArray bytes = readUpTo(device, DiagramExchange::maximalBytes + 1);
-    if (bytes.size() > DiagramExchange::maximalBytes) {
-        fail(error, DiagramExchange::tr("it is larger than %1 MiB")
-                        .arg(DiagramExchange::maximalBytes >> 20));
-        return QByteArray();
-    }
-    if (bytes.isEmpty()) {
-        fail(error, DiagramExchange::tr("it is empty"));
-        return QByteArray();
-    }
-    return bytes;
-}
-
-/** Opens the file @p fileName for reading; false, with an error, when that fails. */
-bool openFile(QFile &file, const QString &fileName, QString *error)
-{
-    const QFileInfo info(fileName);
-    file.setFileName(fileName);
-    if (info.isDir())
-        fail(error, DiagramExchange::tr("it is a folder"));
-    else if (!info.exists())
-        fail(error, DiagramExchange::tr("there is no such file"));
-    else if (!file.open(QIODevice::ReadOnly))
-        fail(error, file.errorString());
-    else
-        return true;
-    return false;
 }
 
 using Take = std::unique_ptr<TreeItem> (ImportedTree::*)();
@@ -144,7 +70,7 @@ std::unique_ptr<TreeItem> readTree(QIODevice &device, Format format, QString *er
         fail(error, DiagramExchange::tr("that format can only be written"));
         return nullptr;
     }
-    const QByteArray bytes = bytesIn(device, error);
+    const QByteArray bytes = ExchangeInput::bytesIn(device, error);
     if (bytes.isEmpty())
         return nullptr;
     std::unique_ptr<TreeItem> taken;
@@ -231,18 +157,12 @@ std::optional<Format> DiagramExchange::formatOf(const QString &fileName)
 
 QString DiagramExchange::importFilter()
 {
-    const QList<Format> formats = foreignFormats(canRead);
-    QStringList all;
-    for (const Format format : formats)
-        all.append(patterns(format));
-    const QString any =
-        QStringLiteral("%1 (%2)").arg(tr("All formats"), all.join(QLatin1Char(' ')));
-    return (QStringList(any) + nameFilters(formats)).join(QLatin1String(";;"));
+    return ExchangeFilters::forImport();
 }
 
 QString DiagramExchange::exportFilter()
 {
-    return nameFilters(foreignFormats(canWrite)).join(QLatin1String(";;"));
+    return ExchangeFilters::forExport();
 }
 
 std::unique_ptr<TreeItem> DiagramExchange::read(QIODevice &device, Format format, QString *error,
@@ -266,7 +186,7 @@ std::unique_ptr<TreeItem> DiagramExchange::readFile(const QString &fileName, For
     QFile file;
     ImportedTree tree;
     tree.setMapping(mapping);
-    return openFile(file, fileName, error)
+    return ExchangeInput::openFile(file, fileName, error)
                ? readTree(file, format, error, report, takeOf(format), tree)
                : nullptr;
 }
@@ -276,9 +196,9 @@ std::optional<TableMapping> DiagramExchange::tableMapping(const QString &fileNam
 {
     QFile file;
     const auto readRows = ExchangeFormats::of(format).readRows;
-    if (!readRows || !openFile(file, fileName, error))
+    if (!readRows || !ExchangeInput::openFile(file, fileName, error))
         return std::nullopt;
-    const QByteArray bytes = bytesIn(file, error);
+    const QByteArray bytes = ExchangeInput::bytesIn(file, error);
     std::vector<TaskTable::Row> rows;
     ImportedTree tree;
     if (bytes.isEmpty())

@@ -6,6 +6,7 @@
 #include <fishbone/drawing/describedpicture.h>
 #include <fishbone/exchange/darkcolors.h>
 #include <fishbone/exchange/linksafety.h>
+#include <fishbone/exchange/svgmarkup.h>
 #include <fishbone/exchange/svgsymbol.h>
 
 #include <QIODevice>
@@ -15,76 +16,12 @@
 namespace {
 constexpr int bufferSize = 1 << 16;
 
-QByteArray number(qreal value)
-{
-    QByteArray out = QByteArray::number(value, 'f', 1);
-    if (out.endsWith(".0"))
-        out.chop(2);
-    return out == "-0" ? QByteArray("0") : out;
-}
-
-QByteArray point(const QPointF &at)
-{
-    return number(at.x()) + ' ' + number(at.y());
-}
-
-/** ` name="#rrggbb"`, with the opacity when there is one. */
-QByteArray paint(const char *name, const QColor &color)
-{
-    if (!color.isValid() || color.alpha() == 0)
-        return QByteArray(" ") + name + "=\"none\"";
-    QByteArray out = QByteArray(" ") + name + "=\"" + color.name().toLatin1() + '"';
-    if (color.alpha() < 255)
-        out += QByteArray(" ") + name + "-opacity=\"" + number(color.alphaF()) + '"';
-    return out;
-}
-
-QByteArray pathData(const QPainterPath &path)
-{
-    QByteArray out;
-    for (int i = 0; i < path.elementCount(); ++i) {
-        const QPainterPath::Element element = path.elementAt(i);
-        if (element.isMoveTo())
-            out += 'M';
-        else if (element.isLineTo())
-            out += 'L';
-        else if (element.type == QPainterPath::CurveToElement)
-            out += 'C';
-        else
-            out += ' ';
-        out += point(element);
-    }
-    return out + 'Z';
-}
-
-/** The dashes of @p pen, which are given in its width, and its ends when they are not round. */
-QByteArray dashes(const QPen &pen)
-{
-    QByteArray out;
-    const qreal width = std::max(pen.widthF(), 1.0);
-    if (pen.style() != Qt::SolidLine) {
-        out += " stroke-dasharray=\"";
-        for (const qreal dash : pen.dashPattern())
-            out += number(dash * width) + ' ';
-        out.chop(1);
-        out += '"';
-    }
-    if (pen.capStyle() != Qt::RoundCap)
-        out += pen.capStyle() == Qt::FlatCap ? " stroke-linecap=\"butt\""
-                                             : " stroke-linecap=\"square\"";
-    return out;
-}
-
-/** The font of a text, as far as it is not that of the file. */
-QByteArray fontOf(const ClearFont &font)
-{
-    QByteArray out = " font-size=\"" + number(font.pixels()) + '"';
-    if (font.font().weight() >= QFont::DemiBold)
-        out += " font-weight=\"bold\"";
-    if (font.font().italic())
-        out += " font-style=\"italic\"";
-    return out;
-}
+using SvgMarkup::dashes;
+using SvgMarkup::fontOf;
+using SvgMarkup::number;
+using SvgMarkup::paint;
+using SvgMarkup::pathData;
+using SvgMarkup::point;
 } // namespace
 
 QByteArray SvgPicture::escaped(const QString &text)

@@ -6,6 +6,7 @@
 #include <fishbone/exchange/diagramexchange.h>
 #include <fishbone/exchange/importedtree.h>
 #include <fishbone/exchange/taskcells.h>
+#include <fishbone/exchange/taskheadings.h>
 #include <fishbone/exchange/taskrownames.h>
 
 #include <QHash>
@@ -305,31 +306,13 @@ private:
     QHash<std::size_t, QList<int>> m_otherParents; ///< of rows, the columns that make no parent
 };
 
-/** The headings of a table in quotes, as many as a message takes. */
-QString headingList(const QStringList &headings)
-{
-    constexpr int most = 40;
-    QStringList quoted;
-    for (const QString &heading : headings.mid(0, most))
-        quoted.append(QLatin1Char('"') + heading.simplified().left(most) + QLatin1Char('"'));
-    return quoted.join(QLatin1String(", "));
-}
-
 } // namespace
 
 namespace TaskTable {
 
 int headerOf(const std::vector<Row> &rows)
 {
-    constexpr std::size_t searched = 10; // names and dates of a report may stand above
-    for (std::size_t i = 0; i < rows.size() && i < searched; ++i) {
-        const QVector<Role> roles = TableMapping::guessed(rows[i].cells);
-        const auto known = std::count_if(roles.cbegin(), roles.cend(),
-                                         [](Role role) { return role != Role::Other; });
-        if (TableMapping::hasTitles(roles) && (i == 0 || known > 1))
-            return int(i);
-    }
-    return -1;
+    return TaskHeadings::rowOf(rows);
 }
 
 TableMapping mappingOf(const std::vector<Row> &rows)
@@ -359,7 +342,7 @@ bool read(const std::vector<Row> &rows, ImportedTree &tree, Texts texts)
             rows[header].line,
             DiagramExchange::tr("there is no column of titles, such as \"title\", \"summary\" or "
                                 "\"name\"; the columns are %1")
-                .arg(headingList(mapping.headings)));
+                .arg(TaskHeadings::listed(mapping.headings)));
     for (std::size_t i = 0; i < header; ++i)
         tree.note(Kind::LeftOut, rows[i].cells.join(QLatin1Char(' ')).simplified(), rows[i].line);
     return TableReader(rows, header, mapping, texts, tree).read();

@@ -1,0 +1,16 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <fishbone/exchange/tasktable.h>
+
+/** The headings of tables. */
+namespace TaskHeadings {
+
+/** The index of the row with the headings; -1 when none of the first rows has titles. */
+int rowOf(const std::vector<TaskTable::Row> &rows);
+/** @p headings in quotes, as many as a message takes. */
+QString listed(const QStringList &headings);
+
+} // namespace TaskHeadings
