@@ -447,11 +447,11 @@ The exit code is 3 when anything is.</translation>
     <message>
         <source>Writes a diagram in another format, or as a picture.
 The endings tell the formats. Read: %1.
-Written: %2, and png, svg, pdf and pptx for pictures.
+Written: %2, and png, svg, pdf, html and pptx for pictures.
 What is left out, or put where it can be kept, is listed on the error output.</source>
         <translation>Writes a diagram in another format, or as a picture.
 The endings tell the formats. Read: %1.
-Written: %2, and png, svg, pdf and pptx for pictures.
+Written: %2, and png, svg, pdf, html and pptx for pictures.
 What is left out, or put where it can be kept, is listed on the error output.</translation>
     </message>
     <message>

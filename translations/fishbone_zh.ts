@@ -445,11 +445,11 @@ The exit code is 3 when anything is.</source>
     <message>
         <source>Writes a diagram in another format, or as a picture.
 The endings tell the formats. Read: %1.
-Written: %2, and png, svg, pdf and pptx for pictures.
+Written: %2, and png, svg, pdf, html and pptx for pictures.
 What is left out, or put where it can be kept, is listed on the error output.</source>
         <translation>将图表写成另一种格式或图片。
 扩展名决定格式。可读取：%1。
-可写入：%2，图片为 png、svg、pdf 和 pptx。
+可写入：%2，图片为 png、svg、pdf、html 和 pptx。
 被省略或另存别处的内容会列在错误输出中。</translation>
     </message>
     <message>

@@ -112,7 +112,7 @@ void describeConvert(QCommandLineParser &parser)
     parser.setApplicationDescription(
         CommandLine::tr("Writes a diagram in another format, or as a picture.\n"
                         "The endings tell the formats. Read: %1.\n"
-                        "Written: %2, and png, svg, pdf and pptx for pictures.\n"
+                        "Written: %2, and png, svg, pdf, html and pptx for pictures.\n"
                         "What is left out, or put where it can be kept, is listed on the error "
                         "output.")
             .arg(FormatNames::ids(DiagramExchange::canRead),

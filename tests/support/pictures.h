@@ -94,6 +94,19 @@ inline int inkedPixels(const QImage &picture)
     return picture.width() * picture.height() - pixelsOf(picture, Qt::white);
 }
 
+/** The smallest rectangle with all pixels that are not white. */
+inline QRect inkedArea(const QImage &picture)
+{
+    QRect area;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            if (picture.pixelColor(x, y) != QColor(Qt::white))
+                area |= QRect(x, y, 1, 1);
+        }
+    }
+    return area;
+}
+
 /** The smallest rectangle with all pixels of exactly that colour. */
 inline QRect areaOf(const QImage &picture, const QColor &color)
 {

@@ -1,13 +1,17 @@
 // SPDX-FileCopyrightText: 2026 The Fishbone authors
 // SPDX-License-Identifier: MIT
 
+#include <app/commandline/commandoptions.h>
 #include <tests/app/programrunner.h>
 #include <tests/program/testprogram.h>
+#include <tests/support/pictures.h>
+#include <tests/support/sourcefolder.h>
 
 #include <fishbone/exchange/importedtree.h>
 #include <fishbone/exchange/ziparchive.h>
 
 #include <QImage>
+#include <QStandardPaths>
 
 using namespace ProgramRunner;
 
@@ -28,6 +32,9 @@ private Q_SLOTS:
     void shouldDrawForAPage_data();
     void shouldDrawForAPage();
     void shouldDrawASlideInTheLookForAPage();
+    void shouldMakeAPdfOfThePage_data();
+    void shouldMakeAPdfOfThePage();
+    void shouldExplainTheIconsUnlessAskedNotTo();
     void shouldMakeThePictureAsLargeAsAsked();
     void shouldFillTheBackgroundAsAsked_data();
     void shouldFillTheBackgroundAsAsked();
@@ -74,6 +81,8 @@ void TestCommandLine::shouldExportEveryFormat_data()
     QTest::newRow("png") << QStringLiteral("png") << QByteArray("\x89PNG");
     QTest::newRow("svg") << QStringLiteral("svg") << QByteArray("<?xml");
     QTest::newRow("pdf") << QStringLiteral("pdf") << QByteArray("%PDF-");
+    QTest::newRow("html") << QStringLiteral("html") << QByteArray("<!DOCTYPE html>");
+    QTest::newRow("pptx") << QStringLiteral("pptx") << QByteArray("PK");
     QTest::newRow("capitals") << QStringLiteral("PNG") << QByteArray("\x89PNG");
 }
 
@@ -271,6 +280,64 @@ void TestCommandLine::shouldDrawASlideInTheLookForAPage()
     QVERIFY(partOf({QStringLiteral("--head=left")}, shapes) != clear);
 }
 
+void TestCommandLine::shouldMakeAPdfOfThePage_data()
+{
+    QTest::addColumn<QString>("page");
+    QTest::addColumn<QSize>("millimetres");
+    QTest::newRow("A4") << QStringLiteral("A4") << QSize(297, 210);
+    QTest::newRow("A3") << QStringLiteral("A3") << QSize(420, 297);
+    QTest::newRow("upright") << QStringLiteral("210x297mm") << QSize(210, 297);
+}
+
+/** With the drawing as large as it fits within margins on which nothing is drawn. */
+void TestCommandLine::shouldMakeAPdfOfThePage()
+{
+    QFETCH(QString, page);
+    QFETCH(QSize, millimetres);
+    const QString renderer = QStandardPaths::findExecutable(QStringLiteral("pdftoppm"));
+    if (renderer.isEmpty())
+        QSKIP("pdftoppm is not installed");
+    const QString target = path(QStringLiteral("page.pdf"));
+    const Outcome outcome =
+        run({QStringLiteral("--page"), page, QStringLiteral("--export"), target, document()},
+            environment());
+    QCOMPARE(outcome.err, QString());
+    QCOMPARE(outcome.code, 0);
+
+    // A pixel a millimetre.
+    QCOMPARE(QProcess::execute(renderer, {QStringLiteral("-r"), QStringLiteral("25.4"),
+                                          QStringLiteral("-png"), QStringLiteral("-singlefile"),
+                                          target, path(QStringLiteral("page"))}),
+             0);
+    const QImage image(path(QStringLiteral("page.png")));
+    QVERIFY(qAbs(image.width() - millimetres.width()) <= 1);
+    QVERIFY(qAbs(image.height() - millimetres.height()) <= 1);
+    const QRect drawn = TestSupport::inkedArea(image);
+    // 10 mm less half of the outline, which is thick where so little is drawn so large.
+    const QRect within = image.rect().adjusted(8, 8, -8, -8);
+    QVERIFY(!drawn.isEmpty());
+    QVERIFY2(within.contains(drawn), "something is drawn in the margin");
+    QVERIFY(drawn.width() >= within.width() - 8 || drawn.height() >= within.height() - 8);
+}
+
+void TestCommandLine::shouldExplainTheIconsUnlessAskedNotTo()
+{
+    const auto drawn = [&](const QStringList &options) {
+        const QString target = path(QStringLiteral("drawn.svg"));
+        QFile::remove(target);
+        const QString sample =
+            TestSupport::sourceFile(QStringLiteral("samples/checkout-outage.fishbone.json"));
+        const QStringList arguments{QStringLiteral("--export"), target, sample};
+        return run(options + arguments, environment()).code == 0 ? contentOf(target) : QByteArray();
+    };
+    const QByteArray with = drawn({QStringLiteral("--legend")});
+    const QByteArray without = drawn({QStringLiteral("--no-legend")});
+    QVERIFY(with.contains(">waiting for approval</text>"));
+    QVERIFY(without.contains("</text>"));
+    QVERIFY(!without.contains(">waiting for approval</text>"));
+    QCOMPARE(drawn({}), with);
+}
+
 void TestCommandLine::shouldMakeThePictureAsLargeAsAsked()
 {
     QCOMPARE(exported({QStringLiteral("--size"), QStringLiteral("321x123")}).size(),
@@ -359,9 +426,16 @@ void TestCommandLine::shouldShowHelpAndVersionWithoutADisplay()
 void TestCommandLine::shouldNameAllOptionsInTheHelp()
 {
     const Outcome outcome = run({QStringLiteral("--help")}, environment());
-    for (const char *option : {"--export", "--expand", "--size", "--scale", "--background",
-                               "--language", "--help", "--version", "convert", "info", "report"})
-        QVERIFY2(outcome.out.contains(QLatin1String(option)), option);
+    QStringList names{QStringLiteral("--export"),  QStringLiteral("--language"),
+                      QStringLiteral("--help"),    QStringLiteral("--version"),
+                      QStringLiteral("  convert"), QStringLiteral("  info"),
+                      QStringLiteral("  report")};
+    const QList<QCommandLineOption> options = CommandOptions::forPictures();
+    for (const QCommandLineOption &option : options)
+        names += QStringLiteral("  --") + option.names().constFirst();
+    QVERIFY(names.size() >= 17);
+    for (const QString &name : qAsConst(names))
+        QVERIFY2(outcome.out.contains(name), qPrintable(name));
     const QRegularExpression version(QStringLiteral("^fishbone [0-9]+\\.[0-9]+\\.[0-9]+\n$"));
     QVERIFY(version.match(run({QStringLiteral("--version")}, environment()).out).hasMatch());
 }

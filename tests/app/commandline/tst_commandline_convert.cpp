@@ -22,6 +22,8 @@ private Q_SLOTS:
     void shouldDrawPicturesOfEveryFormat();
     void shouldGoByTheOptionsMoreThanByTheEndings();
     void shouldTakeTheOptionsOfPictures();
+    void shouldTakeTheOptionsOfLooks_data();
+    void shouldTakeTheOptionsOfLooks();
     void shouldSayWhatIsLeftOut();
     void shouldWriteNothingThatLosesContentWhenStrict();
     void shouldReadFileUrls();
@@ -91,6 +93,8 @@ void TestCommandLineConvert::shouldDrawPicturesOfEveryFormat_data()
         QTest::newRow(source) << QString::fromLatin1(source) << QStringLiteral("png") << png;
     QTest::newRow("svg") << QStringLiteral("md") << QStringLiteral("svg") << QByteArray("<?xml");
     QTest::newRow("pdf") << QStringLiteral("md") << QStringLiteral("pdf") << QByteArray("%PDF-");
+    QTest::newRow("html") << QStringLiteral("md") << QStringLiteral("html")
+                          << QByteArray("<!DOCTYPE html>");
     QTest::newRow("pptx") << QStringLiteral("md") << QStringLiteral("pptx") << QByteArray("PK");
 }
 
@@ -137,6 +141,35 @@ void TestCommandLineConvert::shouldTakeTheOptionsOfPictures()
     const QImage picture(m_folder->picture());
     QCOMPARE(picture.size(), QSize(321, 123));
     QCOMPARE(picture.pixelColor(0, 0), QColor(0x10, 0x20, 0x30));
+}
+
+void TestCommandLineConvert::shouldTakeTheOptionsOfLooks_data()
+{
+    QTest::addColumn<QString>("option");
+    for (const char *option :
+         {"--look=classic", "--page=400x300", "--palette=gray", "--head=left", "--no-legend"})
+        QTest::newRow(option) << QString::fromLatin1(option);
+}
+
+/** The picture is another one, and the one that the same option makes without the command. */
+void TestCommandLineConvert::shouldTakeTheOptionsOfLooks()
+{
+    QFETCH(QString, option);
+    const QString sample =
+        TestSupport::sourceFile(QStringLiteral("samples/solder-joint-voids.fishbone.json"));
+    const QString plain = path(QStringLiteral("plain.png"));
+    const QString converted = path(QStringLiteral("converted.png"));
+    QCOMPARE(convert({sample, plain}).code, 0);
+    const Outcome outcome = convert({option, sample, converted});
+    QCOMPARE(outcome.err, QString());
+    QCOMPARE(outcome.code, 0);
+    QCOMPARE(run({option, QStringLiteral("--export"), m_folder->picture(), sample},
+                 m_folder->environment())
+                 .code,
+             0);
+    QVERIFY(!QImage(plain).isNull());
+    QVERIFY(QImage(converted) != QImage(plain));
+    QCOMPARE(QImage(converted), QImage(m_folder->picture()));
 }
 
 void TestCommandLineConvert::shouldSayWhatIsLeftOut()
@@ -206,7 +239,7 @@ void TestCommandLineConvert::shouldRefuseWhatMakesNoSense_data()
     row("three files", "convert a.md b.md c.md", "convert|file to write");
     row("unknown ending", "convert a.doc b.md", "a.doc|--from|.md|.opml|.plantuml");
     row("unknown target", "convert a.md b.jpg",
-        "b.jpg|--to|.md|.opml|.drawio|.png|.svg|.pdf|.pptx");
+        "b.jpg|--to|.md|.opml|.drawio|.png|.svg|.pdf|.html|.pptx");
     row("only written", "convert a.drawio b.md", "draw.io|written");
     row("only read", "convert a.md b.puml", "PlantUML|read");
     row("strict without a command", "--strict a.md", "--strict|convert");
@@ -324,7 +357,7 @@ void TestCommandLineConvert::shouldDescribeEveryOptionInTheManPage()
                                        QStringList{QStringLiteral("info")}}) {
         const Outcome help =
             run(command + QStringList{QStringLiteral("--help")}, m_folder->environment());
-        const QRegularExpression option(QStringLiteral("--[a-z]+"));
+        const QRegularExpression option(QStringLiteral("--[a-z]+(-[a-z]+)*"));
         for (auto match = option.globalMatch(help.out); match.hasNext();)
             options.insert(match.next().captured());
     }

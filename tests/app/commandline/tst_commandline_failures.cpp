@@ -4,6 +4,10 @@
 #include <tests/app/programrunner.h>
 #include <tests/program/testprogram.h>
 
+#include <QImage>
+
+#include <algorithm>
+
 using namespace ProgramRunner;
 
 class TestCommandLineFailures : public QObject
@@ -18,6 +22,7 @@ private Q_SLOTS:
     void shouldSayWhyADocumentCannotBeRead();
     void shouldSayWhyThePictureCannotBeWritten_data();
     void shouldSayWhyThePictureCannotBeWritten();
+    void shouldSayWhichScaleFits();
     void shouldKeepThePictureThatWasThereOnFailure();
     void shouldSayWhyADocumentCannotBeFetched_data();
     void shouldSayWhyADocumentCannotBeFetched();
@@ -157,6 +162,43 @@ void TestCommandLineFailures::shouldSayWhyThePictureCannotBeWritten()
              qPrintable(outcome.err));
     QVERIFY2(outcome.err.contains(reason), qPrintable(outcome.err));
     QCOMPARE(outcome.err.count(QLatin1Char('\n')), 1);
+}
+
+/** The largest picture that there can be has as many bytes, four a pixel. */
+void TestCommandLineFailures::shouldSayWhichScaleFits()
+{
+    QByteArray titles("Late\n");
+    for (int category = 0; category < 8; ++category) {
+        titles += "\tCategory " + QByteArray::number(category) + '\n';
+        for (int cause = 0; cause < 43; ++cause)
+            titles += "\t\tCause " + QByteArray::number(cause) + '\n';
+    }
+    QCOMPARE(titles.count('\n'), 353);
+    const QString source = path(QStringLiteral("many.txt"));
+    writeFile(source, titles);
+    const auto exported = [&](const QString &scale) {
+        return run(
+            {QStringLiteral("--scale"), scale, QStringLiteral("--export"), picture(), source},
+            environment());
+    };
+    QCOMPARE(exported(QStringLiteral("1")).code, 0);
+    const QSize plain = QImage(picture()).size();
+    QVERIFY(QFile::remove(picture()));
+
+    const Outcome outcome = exported(QStringLiteral("60"));
+    QCOMPARE(outcome.code, 1);
+    QCOMPARE(outcome.err.count(QLatin1Char('\n')), 1);
+    QVERIFY(!QFile::exists(picture()));
+    const QRegularExpression offer(QStringLiteral("it fits at a scale of ([0-9.]+)\n$"));
+    const QRegularExpressionMatch match = offer.match(outcome.err);
+    QVERIFY2(match.hasMatch(), qPrintable(outcome.err));
+
+    const double scale = match.captured(1).toDouble();
+    const double bytes = 4.0 * plain.width() * plain.height() * scale * scale;
+    const double share = std::max({bytes / (1024.0 * 1024 * 1024), plain.width() * scale / 32767,
+                                   plain.height() * scale / 32767});
+    QVERIFY2(share > 0.99 && share < 1.01, qPrintable(QString::number(share)));
+    QCOMPARE(exported(QString::number(scale * 1.01)).code, 1);
 }
 
 void TestCommandLineFailures::shouldKeepThePictureThatWasThereOnFailure()

@@ -18,14 +18,17 @@ private Q_SLOTS:
     void shouldDescribeWhatACommandTakes_data();
     void shouldDescribeWhatACommandTakes();
     void shouldKnowTheOptionsOfAllCommands();
+    void shouldHaveNoOtherOptionsForPictures();
     void shouldNameTheFormatsThatAreConverted();
 };
 
 namespace {
 
-const QStringList pictureNames{QStringLiteral("expand"), QStringLiteral("size"),
-                               QStringLiteral("scale"), QStringLiteral("background"),
-                               QStringLiteral("look")};
+const QStringList pictureNames{QStringLiteral("expand"),  QStringLiteral("size"),
+                               QStringLiteral("scale"),   QStringLiteral("background"),
+                               QStringLiteral("look"),    QStringLiteral("page"),
+                               QStringLiteral("legend"),  QStringLiteral("no-legend"),
+                               QStringLiteral("palette"), QStringLiteral("head")};
 
 bool takes(const QCommandLineParser &parser, const QString &option)
 {
@@ -83,6 +86,18 @@ void TestCommandOptions::shouldKnowTheOptionsOfAllCommands()
     QCOMPARE(parser.value(CommandOptions::forPictures().at(2)), QStringLiteral("2"));
 }
 
+/** So that the list above, by which the commands are checked, is complete. */
+void TestCommandOptions::shouldHaveNoOtherOptionsForPictures()
+{
+    QStringList names;
+    const QList<QCommandLineOption> options = CommandOptions::forPictures();
+    for (const QCommandLineOption &option : options) {
+        names += option.names();
+        QVERIFY2(!option.description().isEmpty(), qPrintable(option.names().join(u' ')));
+    }
+    QCOMPARE(names, pictureNames);
+}
+
 void TestCommandOptions::shouldNameTheFormatsThatAreConverted()
 {
     QCommandLineParser parser;
@@ -90,6 +105,8 @@ void TestCommandOptions::shouldNameTheFormatsThatAreConverted()
     const QList<DiagramExchange::Format> formats = DiagramExchange::formats();
     for (const DiagramExchange::Format format : formats)
         QVERIFY(parser.applicationDescription().contains(DiagramExchange::id(format)));
+    for (const char *picture : {"png", "svg", "pdf", "html", "pptx"})
+        QVERIFY2(parser.applicationDescription().contains(QLatin1String(picture)), picture);
 }
 
 FISHBONE_GUILESS_TEST(TestCommandOptions)
