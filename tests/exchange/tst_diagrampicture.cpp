@@ -8,6 +8,7 @@
 
 #include <tests/program/testprogram.h>
 #include <tests/support/editorfixture.h>
+#include <tests/support/pictures.h>
 #include <tests/support/sourcefolder.h>
 
 #include <QFile>
@@ -143,6 +144,17 @@ void TestDiagramPicture::shouldFitThePage()
     info.start(QStringLiteral("pdftotext"), {name, QStringLiteral("-")});
     QVERIFY(info.waitForFinished());
     QVERIFY(info.readAllStandardOutput().contains("Dashboards"));
+    // A pixel a millimetre: nothing is drawn in the margins, and the drawing reaches two of them.
+    info.start(QStringLiteral("pdftoppm"),
+               {QStringLiteral("-r"), QStringLiteral("25.4"), QStringLiteral("-png"), name});
+    QVERIFY(info.waitForFinished());
+    const QImage paper = QImage::fromData(info.readAllStandardOutput(), "PNG");
+    QVERIFY(qAbs(paper.width() - 297) <= 1 && qAbs(paper.height() - 210) <= 1);
+    const QRect within = paper.rect().adjusted(9, 9, -9, -9);
+    const QRect drawn = TestSupport::inkedArea(paper);
+    QVERIFY(!drawn.isEmpty());
+    QVERIFY(within.contains(drawn));
+    QVERIFY(drawn.width() >= within.width() - 8 || drawn.height() >= within.height() - 8);
 
     QVERIFY(!picture.writePage(name, QSizeF(15, 210)));
     QVERIFY(!picture.writePage(name, QSizeF(1e6, 210)));

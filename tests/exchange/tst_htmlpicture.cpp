@@ -5,6 +5,7 @@
 
 #include <tests/program/testprogram.h>
 #include <tests/support/clearpictures.h>
+#include <tests/support/sourcefolder.h>
 
 #include <QBuffer>
 #include <QFile>
@@ -60,6 +61,39 @@ QByteArray pageOf(const ClearPictureContent &content,
     return isWritten ? buffer.data() : QByteArray();
 }
 
+/** What a browser makes of @p page; null when there is no browser. */
+QString shownInBrowser(const QByteArray &page, const QString &fragment = {},
+                       const QStringList &options = {})
+{
+    const QString browser = QStandardPaths::findExecutable(QStringLiteral("chromium"));
+    const QTemporaryDir folder;
+    QFile file(folder.filePath(QStringLiteral("page.html")));
+    if (browser.isEmpty() || !file.open(QIODevice::WriteOnly))
+        return {};
+    file.write(page);
+    file.close();
+    QProcess process;
+    process.start(browser,
+                  options +
+                      QStringList{QStringLiteral("--headless"), QStringLiteral("--no-sandbox"),
+                                  QStringLiteral("--disable-gpu"), QStringLiteral("--dump-dom"),
+                                  QStringLiteral("--window-size=1280,800"),
+                                  QStringLiteral("--user-data-dir=") + folder.path(),
+                                  QStringLiteral("file://") + file.fileName() + fragment});
+    return process.waitForFinished(120000) ? QString::fromUtf8(process.readAllStandardOutput())
+                                           : QStringLiteral("it took too long");
+}
+
+/** @p page with a script at its end that uses it, which its policy would forbid. */
+QByteArray drivenPage(QByteArray page)
+{
+    QFile script(TestSupport::sourceFile(QStringLiteral("tests/exchange/pagedriver.js")));
+    if (!script.open(QIODevice::ReadOnly))
+        return {};
+    page.replace("http-equiv=\"Content-Security-Policy\"", "name=\"policy\"");
+    return page.replace("</body>", "<script>" + script.readAll() + "</script></body>");
+}
+
 } // namespace
 
 class TestHtmlPicture : public QObject
@@ -73,6 +107,8 @@ private Q_SLOTS:
     void shouldLeaveGreyOnPaper();
     void shouldWorkInABrowser_data();
     void shouldWorkInABrowser();
+    void shouldBeUsedByMouseAndKeyboard_data();
+    void shouldBeUsedByMouseAndKeyboard();
 };
 
 void TestHtmlPicture::shouldStaySmall()
@@ -177,26 +213,88 @@ void TestHtmlPicture::shouldWorkInABrowser()
     QFETCH(QString, fragment);
     QFETCH(QString, expected);
     QFETCH(int, count);
-    const QString browser = QStandardPaths::findExecutable(QStringLiteral("chromium"));
-    if (browser.isEmpty())
+    const QString shown = shownInBrowser(pageOf(content(60)), fragment);
+    if (shown.isNull())
         QSKIP("the browser is not installed");
-    const QTemporaryDir folder;
-    QFile file(folder.filePath(QStringLiteral("page.html")));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(pageOf(content(60)));
-    file.close();
-
-    QProcess process;
-    process.start(browser, {QStringLiteral("--headless"), QStringLiteral("--no-sandbox"),
-                            QStringLiteral("--disable-gpu"), QStringLiteral("--dump-dom"),
-                            QStringLiteral("--user-data-dir=") + folder.path(),
-                            QStringLiteral("file://") + file.fileName() + fragment});
-    QVERIFY(process.waitForFinished(120000));
 
     // The page's own script is in the dump as well.
-    const QString dump = QString::fromUtf8(process.readAllStandardOutput())
-                             .section(QStringLiteral("<script>\n\"use strict\""), 0, 0);
+    const QString dump = shown.section(QStringLiteral("<script>\n\"use strict\""), 0, 0);
     QCOMPARE(dump.count(expected), count);
+}
+
+void TestHtmlPicture::shouldBeUsedByMouseAndKeyboard_data()
+{
+    QTest::addColumn<QStringList>("options");
+    QTest::addColumn<bool>("isDark");
+    QTest::newRow("light") << QStringList() << false;
+    QTest::newRow("dark") << QStringList(QStringLiteral("--blink-settings=preferredColorScheme=0"))
+                          << true;
+}
+
+/** In a browser that prefers light and in one that prefers dark colours. */
+void TestHtmlPicture::shouldBeUsedByMouseAndKeyboard()
+{
+    QFETCH(QStringList, options);
+    QFETCH(bool, isDark);
+    const QString dump = shownInBrowser(drivenPage(pageOf(content(60))), {}, options);
+    if (dump.isNull())
+        QSKIP("the browser is not installed");
+    const QStringList seen = dump.section(QStringLiteral("<pre id=\"result\">"), 1, 1)
+                                 .section(QStringLiteral("</pre>"), 0, 0)
+                                 .split(u'\n');
+    const QStringList expected{
+        QStringLiteral("shown at first: nothing"),
+        QStringLiteral("a click shows: Subject 6"),
+        QStringLiteral("its path: Subject 0 \u203a Subject 1"),
+        QStringLiteral("a click focuses: 6"),
+        QStringLiteral("focusable: 1"),
+        QStringLiteral("Escape leaves: nothing"),
+        QStringLiteral("ArrowDown: 7"),
+        QStringLiteral("ArrowUp: 6"),
+        QStringLiteral("ArrowLeft: 1"),
+        QStringLiteral("ArrowRight: 2"),
+        QStringLiteral("Home: 0"),
+        QStringLiteral("Enter shows: Subject 0"),
+        QStringLiteral("closed: nothing"),
+        QStringLiteral("unfolded: true 60 of 60"),
+        QStringLiteral("space: false 41 of 60"),
+        QStringLiteral("level: 2"),
+        QStringLiteral("past what is folded: 21"),
+        QStringLiteral("ArrowRight: true 60 of 60"),
+        QStringLiteral("double click: false 41 of 60"),
+        QStringLiteral("click on the number: true 60 of 60"),
+        QStringLiteral("a leaf: null"),
+        QStringLiteral("fold: false 4 of 60"),
+        QStringLiteral("expand: true 60 of 60"),
+        QStringLiteral("plus: 1.25"),
+        QStringLiteral("in: 1.56"),
+        QStringLiteral("out again: 1.00"),
+        QStringLiteral("zero: 1.00"),
+        QStringLiteral("wheel: 2.72"),
+        QStringLiteral("keeps its place: true"),
+        QStringLiteral("drag: 50 30"),
+        QStringLiteral("shown after a drag: nothing"),
+        QStringLiteral("fit: 1.00"),
+        QStringLiteral("found: 1"),
+        QStringLiteral("search shows: Subject 7"),
+        QStringLiteral("and focuses: 7"),
+    };
+    for (int i = 0; i < expected.size(); ++i)
+        QCOMPARE(seen.value(i), expected.at(i));
+
+    const QStringList colors = seen.mid(expected.size());
+    QCOMPARE(colors.size(), 3);
+    QCOMPARE(colors.at(0), isDark ? QStringLiteral("dark: true") : QStringLiteral("dark: false"));
+    const QRegularExpression rgb(QStringLiteral("rgb\\((\\d+), (\\d+), (\\d+)\\)$"));
+    const auto color = [&](const QString &line) {
+        const QRegularExpressionMatch match = rgb.match(line);
+        return QColor(match.captured(1).toInt(), match.captured(2).toInt(),
+                      match.captured(3).toInt());
+    };
+    const QColor paper = color(colors.at(1));
+    const QColor ink = color(colors.at(2));
+    QCOMPARE(paper.lightness() < 128, isDark);
+    QVERIFY(ClearColors::contrast(ink, paper) >= ClearColors::enoughForText);
 }
 
 FISHBONE_TEST(TestHtmlPicture)

@@ -7,6 +7,7 @@
 #include <fishbone/model/fishmodel.h>
 #include <fishbone/model/treeitem.h>
 
+#include <tests/exchange/describedfish.h>
 #include <tests/program/testprogram.h>
 #include <tests/support/clearpictures.h>
 #include <tests/support/sourcefolder.h>
@@ -23,39 +24,9 @@
 #include <QXmlStreamReader>
 #include <QtTest>
 
-#include <memory>
+using namespace DescribedFish;
 
 namespace {
-
-ClearFonts fonts()
-{
-    return ClearFonts(QFont(QStringLiteral("Noto Sans CJK SC")));
-}
-
-/** A picture with all that it needs. */
-struct Made
-{
-    explicit Made(ClearPictureContent made, const ClearOptions &options = {})
-        : content(std::move(made))
-        , tree(content.subjects)
-        , layout(tree, fonts(), options, cache, content.legendTexts())
-        , picture(content, layout, fonts(), ClearColors(DiagramLook::DistinctColors))
-    {
-    }
-
-    QByteArray svg(const SvgPictureOptions &options = {}) const
-    {
-        QBuffer buffer;
-        buffer.open(QIODevice::WriteOnly);
-        return SvgPicture::write(picture, options, buffer) ? buffer.data() : QByteArray();
-    }
-
-    ClearPictureContent content;
-    ClearTree tree;
-    ClearTextCache cache;
-    ClearLayout layout;
-    ClearPicture picture;
-};
 
 ClearPictureContent sample(const QString &name)
 {
@@ -65,26 +36,6 @@ ClearPictureContent sample(const QString &name)
     TreeItem root;
     FishModel().read(QJsonDocument::fromJson(file.readAll()).object(), &root, 0);
     return root.childCount() ? ClearContent::of(root.childAtIndex(0)) : ClearPictureContent();
-}
-
-/** A head, a category and causes with these titles, each with that link. */
-ClearPictureContent contentWith(const QStringList &titles, const QString &link = {})
-{
-    std::vector<ClearSubject> subjects(2);
-    subjects[0].title = QStringLiteral("Effect");
-    subjects[1].title = QStringLiteral("Category");
-    subjects[1].parent = 0;
-    for (const QString &title : titles) {
-        ClearSubject subject;
-        subject.parent = 1;
-        subject.title = title;
-        subject.hasLink = !link.isEmpty();
-        subjects.push_back(subject);
-    }
-    ClearPictureContent content = ClearPictures::contentOf(subjects);
-    for (std::size_t i = 2; i < subjects.size(); ++i)
-        content.meanings[i].link = link;
-    return content;
 }
 
 /** All texts, a line each, in order. */
