@@ -32,6 +32,7 @@ public:
     SlideBuilder(const std::vector<SlideShape> &shapes, const TreeItem &head, const QRectF &drawing,
                  qint64 width);
 
+    /** What of the presentation changes with the diagram. */
     SlidePackage::Content content();
 
 private:
