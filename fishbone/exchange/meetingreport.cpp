@@ -151,7 +151,7 @@ bool MeetingReport::write(const QString &fileName, QString *error) const
         reason = replaceFile(fileName, html(QString::fromUtf8(picture())).toUtf8());
     } else {
         const QString drawing = fileName + QStringLiteral(".svg");
-        reason = replaceFile(drawing, picture());
+        reason = replaceFile(drawing, picture(), fileName); // read by nobody who may not read that
         if (reason.isEmpty())
             reason = replaceFile(fileName, markdown(QFileInfo(drawing).fileName()).toUtf8());
     }

@@ -23,6 +23,13 @@ QByteArray contentOf(const QString &fileName)
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("unreadable");
 }
 
+int modeOf(const QString &fileName)
+{
+    struct stat status = {};
+    return stat(QFile::encodeName(fileName).constData(), &status) == 0 ? int(status.st_mode) & 0777
+                                                                       : -1;
+}
+
 /** No file of this process can grow beyond a size while this lives, as on a full disk. */
 class FullDisk
 {
@@ -183,6 +190,7 @@ void tst_FileReplacement::shouldReplaceTheWholeContentInALockedFolder()
     QCOMPARE(contentOf(path("locked")), QByteArray("a longer content"));
     QCOMPARE(replaceFile(path("locked"), "short"), QString());
     QCOMPARE(contentOf(path("locked")), QByteArray("short"));
+    QCOMPARE(modeOf(path("locked")), 0666);
     QCOMPARE(replaceFile(path("locked"), QByteArray()), QString());
     QCOMPARE(contentOf(path("locked")), QByteArray());
     QVERIFY(!replaceFile(path("not there"), "content").isEmpty());
@@ -206,6 +214,7 @@ void tst_FileReplacement::shouldReplaceTheContentWhereEverybodyKeepsWhatIsHis()
 
     QCOMPARE(failure, QString());
     QCOMPARE(contentOf(file), QByteArray("short"));
+    QCOMPARE(modeOf(file), 0666);
     QCOMPARE(QDir(folder.path()).entryList(QDir::Files), QStringList(QStringLiteral("shared")));
 }
 
@@ -259,9 +268,7 @@ void tst_FileReplacement::shouldGiveNoRightsThatTheOriginDoesNotGive()
     QCOMPARE(replaceFile(to, "content", from), QString());
 
     umask(mask);
-    struct stat written = {};
-    QCOMPARE(stat(QFile::encodeName(to).constData(), &written), 0);
-    QCOMPARE(int(written.st_mode) & 0777, after);
+    QCOMPARE(modeOf(to), after);
     QCOMPARE(contentOf(to), QByteArray("content"));
 }
 
@@ -278,9 +285,7 @@ void tst_FileReplacement::shouldKeepTheRightsOfAFileThatIsReplaced()
     QCOMPARE(replaceFile(path("kept"), "old"), QString());
     QCOMPARE(chmod(QFile::encodeName(path("kept")).constData(), mode_t(mode)), 0);
     QCOMPARE(replaceFile(path("kept"), "new"), QString());
-    struct stat written = {};
-    QCOMPARE(stat(QFile::encodeName(path("kept")).constData(), &written), 0);
-    QCOMPARE(int(written.st_mode) & 0777, mode);
+    QCOMPARE(modeOf(path("kept")), mode);
 }
 
 void tst_FileReplacement::shouldRefuseANameWithANullCharacter()

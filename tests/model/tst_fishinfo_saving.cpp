@@ -151,6 +151,9 @@ void TestFishInfoSaving::shouldWriteInPlaceWhereTheFolderIsReadOnly()
     const QFile::Permissions all = QFile::permissions(m_folder->path());
     QVERIFY(QFile::setPermissions(m_folder->path(), QFile::ReadOwner | QFile::ExeOwner));
     const bool isReadOnly = !makeFile(path("other"), "");
+    const QFile::Permissions own = QFile::ReadOwner | QFile::WriteOwner;
+    QVERIFY(QFile::setPermissions(path("effect.json"), own));
+    const QFile::Permissions before = QFile::permissions(path("effect.json"));
 
     const bool saved = m_info->saveFile(path("effect.json"));
     const bool savedNew = m_info->saveFile(path("new.json"));
@@ -158,6 +161,7 @@ void TestFishInfoSaving::shouldWriteInPlaceWhereTheFolderIsReadOnly()
     QVERIFY(QFile::setPermissions(m_folder->path(), all));
     QVERIFY(saved);
     QVERIFY(contentOf(path("effect.json")).contains("Plan"));
+    QCOMPARE(QFile::permissions(path("effect.json")), before);
     QCOMPARE(savedNew, !isReadOnly); // the superuser writes anywhere
 }
 
