@@ -5,6 +5,8 @@
 // items.
 
 #include <fishbone/items/spearitem.h>
+#include <fishbone/items/textitem.h>
+#include <fishbone/model/stylesession.h>
 #include <fishbone/model/treeitem.h>
 
 #include <QModelIndex>
@@ -28,6 +30,13 @@ void TreeItem::setSpear(SpearItem *spear, const QModelIndex &index)
 void TreeItem::showTitle()
 {
     m_spear->setText(m_title);
+}
+
+void showStyle(SpearItem &spear)
+{
+    spear.applyState(spear.currentState());
+    spear.update();
+    spear.textItem()->update();
 }
 
 /** Forgets the spear, which forgets this node unless it shows another one already. */

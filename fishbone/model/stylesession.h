@@ -10,7 +10,15 @@
 #include <memory>
 #include <utility>
 
+class SpearItem;
 class TreeItem;
+
+/**
+ * Has bone and box painted in the style and with the marks that apply now; the next layout gives
+ * them their room. Defined beside the spear, in items/subjectspear.cpp, as a subject knows nothing
+ * of items.
+ */
+void showStyle(SpearItem &spear);
 
 /**
  * A node whose style the user edits. The dialog runs its own event loop, in which the node can die:
@@ -37,9 +45,11 @@ public:
                 session->m_node = nullptr;
         }
     }
-    /** Deletes @p style, later when it is being edited. */
+    /** Deletes @p style, later when it is being edited; null is none. */
     static void discard(const TreeItem *node, std::unique_ptr<SpearStyle> style)
     {
+        if (!style)
+            return;
         for (StyleSession *session = innermost; session; session = session->m_outer) {
             if (session->m_node == node && !session->m_kept) {
                 session->m_kept = std::move(style);

@@ -274,8 +274,11 @@ bool TreeItem::hasOtherFields() const
 void TreeItem::setOtherFields(const QJsonObject &fields)
 {
     const QJsonObject others = JsonNodes::otherFields(fields);
-    if (m_extra || !others.isEmpty())
-        extra().otherFields = others;
+    if (!m_extra && others.isEmpty())
+        return;
+    extra().otherFields = others;
+    if (m_spear)
+        showStyle(*m_spear); // some of them show
 }
 
 TreeItem::Extra &TreeItem::extra()
@@ -313,11 +316,15 @@ void TreeItem::setProgress(int progress)
 
 void TreeItem::setSpearStyle(const QJsonObject &object)
 {
-    delSpearStyle();
-    if (object.isEmpty())
+    if (object.isEmpty()) {
+        delSpearStyle();
         return;
+    }
+    StyleSession::discard(this, std::move(m_spearStyle));
     m_spearStyle = std::make_unique<SpearStyle>();
     m_spearStyle->read(object);
+    if (m_spear)
+        showStyle(*m_spear);
 }
 
 void TreeItem::delSpearStyle()
@@ -325,6 +332,8 @@ void TreeItem::delSpearStyle()
     if (!m_spearStyle)
         return;
     StyleSession::discard(this, std::move(m_spearStyle));
+    if (m_spear)
+        showStyle(*m_spear);
 }
 
 bool TreeItem::isHaveParentTask() const

@@ -5,6 +5,7 @@
 // changed.
 
 #include <fishbone/items/spearitem.h>
+#include <fishbone/style/spearstyledialog.h>
 
 #include <functional>
 
@@ -15,6 +16,7 @@
 #include <tests/program/testprogram.h>
 #include <tests/support/drawing.h>
 #include <tests/support/editorfixture.h>
+#include <tests/support/modaldriver.h>
 #include <tests/support/pictures.h>
 #include <tests/support/statelooks.h>
 
@@ -31,6 +33,17 @@ QJsonObject thickStyle()
         pen.setWidth(13 + 5 * i);
         style.setBroderPen(SpearStyle::SpearState(i), pen);
     }
+    QJsonObject object;
+    style.write(object);
+    return object;
+}
+
+QJsonObject blueStyle()
+{
+    SpearStyle style;
+    setLooks(style, 5);
+    style.setTextBkColor(SpearStyle::ssSelected, QColor(180, 180, 255));
+    style.setBroderPen(SpearStyle::ssSelected, QPen(Qt::blue, 3));
     QJsonObject object;
     style.write(object);
     return object;
@@ -126,6 +139,37 @@ const QVector<Change> &changes()
     };
     return all;
 }
+
+/** One after the other, of styles alone. Nothing else is done to have them shown. */
+const QVector<Change> &styleChanges()
+{
+    static const QVector<Change> all{
+        {"give a style",
+         [](EditorFixture &s) { s.subject(machine)->setSpearStyle(styleWithLooks(3)); }},
+        {"lay out with it", [](EditorFixture &s) { s.editor.updateFish(false); }},
+        {"change the background",
+         [](EditorFixture &s) {
+             s.subject(machine)->spearStyle()->setTextBkColor(SpearStyle::ssSelected, Qt::cyan);
+             s.editor.updateFish(false);
+         }},
+        {"change it in the dialog",
+         [](EditorFixture &s) {
+             const ModalDriver<SpearStyleDialog> user([&s](SpearStyleDialog &dialog) {
+                 SpearStyle &style = *s.subject(machine)->spearStyle();
+                 style.setTextBkColor(SpearStyle::ssSelected, Qt::yellow);
+                 style.setBroderPen(SpearStyle::ssSelected, QPen(Qt::red, 6));
+                 dialog.accept();
+             });
+             s.editor.setSpearStyle();
+         }},
+        {"remove it by the editor", [](EditorFixture &s) { s.editor.delSpearStyle(); }},
+        {"give another", [](EditorFixture &s) { s.subject(machine)->setSpearStyle(blueStyle()); }},
+        {"give one in its place",
+         [](EditorFixture &s) { s.subject(machine)->setSpearStyle(styleWithLooks(2)); }},
+        {"remove it by the subject", [](EditorFixture &s) { s.subject(machine)->delSpearStyle(); }},
+    };
+    return all;
+}
 } // namespace
 
 class TestSpearItemRepainting : public QObject
@@ -137,6 +181,8 @@ private Q_SLOTS:
     void shouldPaintTheSameInPieces();
     void shouldShowAfterEveryChangeWhatAFullPaintShows_data();
     void shouldShowAfterEveryChangeWhatAFullPaintShows();
+    void shouldShowAChangedStyleAtOnce_data();
+    void shouldShowAChangedStyleAtOnce();
     void shouldStayTheSameWhenPartsOfTheViewArePainted_data();
     void shouldStayTheSameWhenPartsOfTheViewArePainted();
     void shouldForgetTheMouseWhenItLeavesItsScene();
@@ -240,6 +286,47 @@ void TestSpearItemRepainting::shouldShowAfterEveryChangeWhatAFullPaintShows()
         before = expected;
     }
     QVERIFY2(visible > 25, qPrintable(QString::number(visible))); // most changes can be seen
+}
+
+void TestSpearItemRepainting::shouldShowAChangedStyleAtOnce_data()
+{
+    QTest::addColumn<int>("look");
+    QTest::addColumn<QJsonObject>("style");
+
+    QTest::newRow("classic") << int(DiagramLook::Classic) << QJsonObject();
+    QTest::newRow("classic, all with a style") << int(DiagramLook::Classic) << styleWithLooks();
+    QTest::newRow("clear") << int(DiagramLook::Clear) << QJsonObject();
+}
+
+void TestSpearItemRepainting::shouldShowAChangedStyleAtOnce()
+{
+    QFETCH(int, look);
+    QFETCH(QJsonObject, style);
+    EditorFixture shown(sampleDocument(style));
+    GraphicsView &view = *shown.editor.view();
+    shown.editor.resize(640, 520);
+    shown.editor.setLook(DiagramLook::Kind(look));
+    shown.editor.expandAll();
+    QVERIFY(shown.show(false));
+    view.centerOn(shown.spear(machine));
+    shown.select({machine});
+    QVERIFY(paintEverything(view));
+    QImage before = shownPicture(view);
+    int visible = 0;
+
+    for (const Change &change : styleChanges()) {
+        change.happen(shown);
+        QVERIFY(paintScheduled(view));
+        const QImage actual = shownPicture(view);
+        QVERIFY(paintEverything(view));
+        const QImage expected = shownPicture(view);
+        const QString found = difference(actual, expected, clipRounding);
+        QVERIFY2(found.isEmpty(),
+                 qPrintable(QLatin1String(change.name) + QLatin1String(": ") + found));
+        visible += !difference(expected, before).isEmpty();
+        before = expected;
+    }
+    QVERIFY2(visible >= 6, qPrintable(QString::number(visible)));
 }
 
 void TestSpearItemRepainting::shouldStayTheSameWhenPartsOfTheViewArePainted_data()
