@@ -22,6 +22,7 @@ using namespace UrlDialogParts;
 using TestSupport::keepMessage;
 using TestSupport::Message;
 using TestSupport::ModalDriver;
+using TestSupport::shownText;
 
 class tst_UrlHistory : public QObject
 {
@@ -44,6 +45,7 @@ private Q_SLOTS:
     void shouldLeaveTheHistoryAloneWhenCancelled();
     void shouldWarnAndCloseWhenTheHistoryCannotBeWritten_data();
     void shouldWarnAndCloseWhenTheHistoryCannotBeWritten();
+    void shouldShowMarkupInANameAsItIs();
     void shouldWarnOnCleanWhenTheHistoryCannotBeWritten();
     void shouldSurviveItsOwnEndWhileItWarns();
     void shouldKeepTheOldHistoryWhenTheDiskIsFull();
@@ -227,6 +229,18 @@ void tst_UrlHistory::shouldWarnAndCloseWhenTheHistoryCannotBeWritten()
         QCOMPARE(dialog.result(), int(QDialog::Accepted));
         QCOMPARE(dialog.url(), QUrl(QStringLiteral("http://a/")));
     }
+}
+
+void tst_UrlHistory::shouldShowMarkupInANameAsItIs()
+{
+    const QString name = QStringLiteral("missing/<b>bold</b><br>&amp;.urllist");
+    URLDialog dialog(QString(), name);
+    Message message;
+    const ModalDriver<QMessageBox> user(keepMessage(message));
+    dialog.saveUrl();
+    QVERIFY(user.isDone());
+    QCOMPARE(shownText(message).section(QLatin1Char('\n'), 0, 0),
+             QStringLiteral("Failed to open ") + name);
 }
 
 void tst_UrlHistory::shouldWarnOnCleanWhenTheHistoryCannotBeWritten()

@@ -30,6 +30,7 @@ private Q_SLOTS:
     void shouldSaveNothingWhenNoNameIsChosen();
     void shouldAskNothingWhenNothingChanged();
     void shouldAskWhetherToSave();
+    void shouldShowMarkupInANameAsItIs();
     void shouldDoAsTheUserAnswers_data();
     void shouldDoAsTheUserAnswers();
     void shouldSaveAsTheHostDoes_data();
@@ -134,6 +135,22 @@ void TestFishInfoQuestions::shouldAskWhetherToSave()
                                           "Do you want to save your changes?"));
     QCOMPARE(message.icon, QMessageBox::Warning);
     QCOMPARE(message.buttons, QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel);
+}
+
+void TestFishInfoQuestions::shouldShowMarkupInANameAsItIs()
+{
+    const QString name = QStringLiteral("<b>bold<br>&amp;.json");
+    m_info->setFileName(QStringLiteral("/x/y/") + name);
+    m_info->setModified(true);
+    Message message;
+    const ModalDriver<QMessageBox> user(keepMessage(message));
+
+    m_info->maybeSave();
+
+    QVERIFY(user.isDone());
+    QCOMPARE(shownText(message), QStringLiteral("'%1' has been modified.\n"
+                                                "Do you want to save your changes?")
+                                     .arg(name));
 }
 
 void TestFishInfoQuestions::shouldDoAsTheUserAnswers_data()

@@ -283,7 +283,7 @@ void TestFishModelListeners::shouldGoOnWhenAListenerEndsTheModelAfterAChange()
 void TestFishModelListeners::shouldRefuseNodesOfAnotherModel_data()
 {
     QTest::addColumn<int>("number");
-    for (int i = 0; i < 6; ++i)
+    for (int i = 0; i < 8; ++i)
         QTest::addRow("%d", i) << i;
 }
 
@@ -314,6 +314,12 @@ void TestFishModelListeners::shouldRefuseNodesOfAnotherModel()
         break;
     case 4:
         isTaken = f.model->moveSrcToDstWithList(other.node("O"), 0, 1, &free, 0);
+        break;
+    case 5:
+        isTaken = f.model->wrapHead(f.document(0), foreign);
+        break;
+    case 6:
+        isTaken = f.model->wrapHead(f.document(0), other.node("O"));
         break;
     default:
         f.model->read(documentFromText(QStringLiteral("R")), foreign, 0);

@@ -132,6 +132,7 @@ private Q_SLOTS:
     void cleanup();
     void shouldLoadADiagram();
     void shouldLoadWithinTheLimit();
+    void shouldReadLinearlyOftenAtAnyLimit();
     void shouldTellHowFarALoadIs();
     void shouldCancelLoads();
     void shouldTellWhyALoadFailed();
@@ -212,6 +213,26 @@ void TestFishModelNetwork::shouldLoadWithinTheLimit()
     for (const qint64 limit : {std::numeric_limits<qint64>::max(), qint64(4000000)}) {
         m_model->setReplyLimit(limit);
         QCOMPARE(load(m_server->url("/large")), QStringLiteral("fishLoaded(Effect, 0)"));
+    }
+}
+
+void TestFishModelNetwork::shouldReadLinearlyOftenAtAnyLimit()
+{
+    const qint64 greatest = std::numeric_limits<qint64>::max();
+    QSignalSpy progress(m_model.get(), &FishModel::loadProgress);
+    for (const qint64 limit : {greatest, greatest - 1, greatest / 2, qint64(0)}) {
+        m_model->setReplyLimit(limit);
+        for (const int size : {100000, 4000000}) {
+            m_server->tell("/a", response("200 OK", QByteArray(size, ' ') + document));
+            progress.clear();
+            QCOMPARE(load(m_server->url("/a")), QStringLiteral("fishLoaded(Effect, 0)"));
+            QVERIFY(progress.count() <= 20 + size / 4000); // parts that are not tiny
+            qint64 before = 0;
+            for (const QVariantList &arguments : progress) {
+                QVERIFY(arguments.at(1).toLongLong() > before); // each is looked at once
+                before = arguments.at(1).toLongLong();
+            }
+        }
     }
 }
 

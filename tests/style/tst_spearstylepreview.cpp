@@ -1,13 +1,20 @@
 // SPDX-FileCopyrightText: 2026 The Fishbone authors
 // SPDX-License-Identifier: MIT
 
+#include <fishbone/items/spearitem.h>
+#include <fishbone/items/textitem.h>
+#include <fishbone/model/treeitem.h>
 #include <fishbone/style/spearstyledialog.h>
 #include <tests/program/testprogram.h>
 #include <tests/style/styledialogparts.h>
+#include <tests/support/pictures.h>
 #include <tests/support/previewchecks.h>
+#include <tests/support/statelooks.h>
 
 #include <QFontMetrics>
 #include <QtTest>
+
+#include <cstdlib>
 
 using namespace StyleDialogParts;
 using TestSupport::inkedPixels;
@@ -26,6 +33,59 @@ QImage uncutPreview(const QString &text)
     return shownPixmap(dialog).toImage();
 }
 
+/** The preview of a text in a state. */
+QImage previewOf(const SpearStyle &style, int state, const QString &text)
+{
+    SpearStyle edited;
+    edited.read(written(style));
+    const SpearStyleDialog dialog(edited);
+    stateCombo(dialog)->setCurrentIndex(state);
+    previewText(dialog)->setText(text);
+    return shownPixmap(dialog).toImage().convertToFormat(QImage::Format_RGB32);
+}
+
+/** The smallest rectangle with all pixels that are not white. */
+QRect inkedArea(const QImage &picture)
+{
+    QRect area;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            if (picture.pixelColor(x, y) != Qt::white)
+                area |= QRect(x, y, 1, 1);
+        }
+    }
+    return area;
+}
+
+QColor darkest(const QImage &picture)
+{
+    QColor found = Qt::white;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            if (qGray(picture.pixel(x, y)) < qGray(found.rgb()))
+                found = picture.pixelColor(x, y);
+        }
+    }
+    return found;
+}
+
+/** What a bone's text box with that text looks like in a state, with white around it. */
+QImage paintedBone(const SpearStyle &style, SpearStyle::SpearState state, const QString &text)
+{
+    constexpr int margin = 4;
+    TreeItem node;
+    node.setSpearStyle(written(style));
+    SpearItem head(QString(), 0, 20); // which alone shows no link in its text
+    SpearItem spear(text, 0, 20);
+    spear.setParentItem(&head);
+    node.setSpear(&spear, QModelIndex());
+    spear.setText(text);
+    spear.applyState(state);
+    const QRect box = spear.textItem()->boundingRect().toAlignedRect();
+    return TestSupport::paintedItem(
+        *spear.textItem(), {box.adjusted(-margin, -margin, margin, margin), 1}, QStyle::State_None);
+}
+
 } // namespace
 
 class tst_SpearStylePreview : public QObject
@@ -42,6 +102,10 @@ private Q_SLOTS:
     void shouldLeaveAnUnsetBackgroundWhite();
     void shouldPreviewAnUnsetPenAsTheDefaultOne();
     void shouldPreviewTheFont();
+    void shouldPreviewTheBoxOfABone_data();
+    void shouldPreviewTheBoxOfABone();
+    void shouldPreviewTheTextOfABone_data();
+    void shouldPreviewTheTextOfABone();
     void shouldBoundThePreview();
     void shouldDrawASharpPreviewOnADenseScreen();
 };
@@ -170,6 +234,68 @@ void tst_SpearStylePreview::shouldPreviewTheFont()
     QCOMPARE(previewWith(40).height() - previewWith(10).height(), height(40) - height(10));
     QVERIFY(previewWith(40).width() > 2 * previewWith(10).width());
     QVERIFY(inkedPixels(previewWith(40)) > 4 * inkedPixels(previewWith(10)));
+}
+
+void tst_SpearStylePreview::shouldPreviewTheBoxOfABone_data()
+{
+    QTest::addColumn<bool>("isSet");
+    QTest::addColumn<int>("state");
+    for (const bool isSet : {true, false}) {
+        // A bone in its normal state has no box.
+        for (int state = SpearStyle::ssSelected; state <= SpearStyle::ssLinked; ++state)
+            QTest::addRow("%s, state %d", isSet ? "set" : "unset", state) << isSet << state;
+    }
+}
+
+void tst_SpearStylePreview::shouldPreviewTheBoxOfABone()
+{
+    QFETCH(bool, isSet);
+    QFETCH(int, state);
+    SpearStyle style;
+    style.setTextCount(0);
+    if (isSet)
+        TestSupport::setLooks(style);
+    // Letters stand a fraction of a pixel elsewhere in a bone.
+    const QImage preview = previewOf(style, state, QString());
+    const QImage bone = paintedBone(style, SpearStyle::SpearState(state), QString());
+    QVERIFY(TestSupport::inkedPixels(bone) > 20);
+    QCOMPARE(TestSupport::difference(preview, bone), QString());
+}
+
+void tst_SpearStylePreview::shouldPreviewTheTextOfABone_data()
+{
+    QTest::addColumn<int>("state");
+    for (int state = SpearStyle::ssNormal; state <= SpearStyle::ssLinked; ++state)
+        QTest::addRow("state %d", state) << state;
+}
+
+void tst_SpearStylePreview::shouldPreviewTheTextOfABone()
+{
+    QFETCH(int, state);
+    const auto shown = SpearStyle::SpearState(state);
+    const QString text = QStringLiteral("Machine");
+    SpearStyle style;
+    TestSupport::setLooks(style);
+    style.setBroderPen(shown, QPen(Qt::NoPen));
+    style.setTextBkColor(shown, QColor());
+
+    const QImage preview = previewOf(style, state, text);
+    const QImage bone = paintedBone(style, shown, text);
+    const QRect letters = inkedArea(preview);
+    const QRect painted = inkedArea(bone);
+    // A preview counts letters in whole pixels, a bone in fractions of them.
+    constexpr int rounding = 2;
+    QVERIFY(std::abs(letters.top() - painted.top()) <= 1);
+    QVERIFY(std::abs(letters.bottom() - painted.bottom()) <= 1);
+    QVERIFY(std::abs(letters.left() - painted.left()) <= rounding);
+    QVERIFY(std::abs(letters.right() - painted.right()) <= rounding);
+    // No pixel of a thin letter need be covered whole.
+    constexpr int smoothing = 60;
+    const QColor one = darkest(preview);
+    const QColor other = darkest(bone);
+    QVERIFY(std::abs(one.red() - other.red()) <= smoothing);
+    QVERIFY(std::abs(one.green() - other.green()) <= smoothing);
+    QVERIFY(std::abs(one.blue() - other.blue()) <= smoothing);
 }
 
 void tst_SpearStylePreview::shouldBoundThePreview()

@@ -7,6 +7,7 @@
 
 #include <QMessageBox>
 #include <QString>
+#include <QTextDocument>
 
 namespace TestSupport {
 
@@ -26,6 +27,16 @@ inline ModalDriver<QMessageBox>::Action keepMessage(Message &message)
         message = {box.windowTitle(), box.text(), box.icon(), box.standardButtons()};
         box.accept();
     };
+}
+
+/** The letters that a user reads in it. */
+inline QString shownText(const Message &message)
+{
+    if (!Qt::mightBeRichText(message.text))
+        return message.text;
+    QTextDocument document;
+    document.setHtml(message.text);
+    return document.toPlainText();
 }
 
 } // namespace TestSupport

@@ -64,6 +64,8 @@ private Q_SLOTS:
     void shouldInsertANewSubjectWhenTheItemIsTakenBack();
     void shouldPutNothingBackBelowAParentThatIsGone();
     void shouldLeaveAnItemOfTheModelWhereItIs();
+    void shouldLeaveAnItemOfAnotherModelWhereItIs_data();
+    void shouldLeaveAnItemOfAnotherModelWhereItIs();
     void shouldRefuseAnItemAboveTheParent();
     void shouldForgetAnItemThatOthersDeleted();
     void shouldRemoveNoOtherSubjectOfTheSameUuid();
@@ -277,6 +279,32 @@ void TestInsertTreeItem::shouldLeaveAnItemOfTheModelWhereItIs()
     f.stack->undo();
     f.stack.reset();
     QCOMPARE(f.text(), QStringLiteral("H[A,B[b]]"));
+}
+
+void TestInsertTreeItem::shouldLeaveAnItemOfAnotherModelWhereItIs_data()
+{
+    QTest::addColumn<QByteArray>("title");
+    QTest::newRow("a bone") << QByteArray("P");
+    QTest::newRow("a head") << QByteArray("O");
+}
+
+void TestInsertTreeItem::shouldLeaveAnItemOfAnotherModelWhereItIs()
+{
+    QFETCH(QByteArray, title);
+    CommandFixture f(QStringLiteral("H[A]"));
+    CommandFixture other(QStringLiteral("O[P[p],Q]"));
+    f.draw();
+    other.draw();
+    auto *const command = new InsertChild(f.model.get(), f.index("A"));
+    command->setTreeItem(other.node(title.constData()));
+    f.stack->push(command);
+    QCOMPARE(f.text(), QStringLiteral("H[A]"));
+    f.stack->undo();
+    f.stack->redo();
+    QCOMPARE(f.text(), QStringLiteral("H[A]"));
+    f.stack.reset(); // which deletes what it owns
+    QCOMPARE(other.text(), QStringLiteral("O[P[p],Q]"));
+    QVERIFY(other.index("P").isValid());
 }
 
 void TestInsertTreeItem::shouldRefuseAnItemAboveTheParent()
