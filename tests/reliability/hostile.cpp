@@ -211,7 +211,7 @@ public:
                     "--seed %u\n",
                     m_run, int(m_combinations.size()), int(m_operations.size()),
                     int(m_reactions.size()), m_failed, seed);
-        return m_failed == 0;
+        return m_failed == 0 && m_run > 0;
     }
 
     void printTable() const

@@ -5,12 +5,14 @@
 
 #include <tests/reliability/hostileacts.h>
 
+#include <fishbone/dialogs/replacefinddialog.h>
 #include <fishbone/editor/graphicsview.h>
 #include <fishbone/items/spearitem.h>
 #include <fishbone/undo/attributecommands.h>
 #include <fishbone/undo/structuralcommands.h>
 #include <tests/reliability/hostilestage.h>
 
+#include <QLineEdit>
 #include <QMimeData>
 
 namespace {
@@ -203,6 +205,17 @@ void addFunctions(std::vector<HostileAct> &acts)
              {"Machine"}));
 }
 
+/** A find dialog of the editor's that warns, as there is nothing to find. */
+HostileAct search()
+{
+    return call(QStringLiteral("find"), [](HostileStage &stage) {
+        auto *const dialog = new ReplaceFindDialog(stage.editor);
+        dialog->setModel(stage.model);
+        dialog->searchField()->setText(QStringLiteral("nowhere"));
+        dialog->find();
+    });
+}
+
 void addStackCalls(std::vector<HostileAct> &acts)
 {
     acts.push_back(call(QStringLiteral("stack.undo"),
@@ -258,6 +271,7 @@ std::vector<HostileAct> hostileOperations()
     addSteps(acts);
     addSlots(acts);
     addFunctions(acts);
+    acts.push_back(search());
     addStackCalls(acts);
     for (const auto &more : {modelOperations(), handOperations()})
         acts.insert(acts.end(), more.cbegin(), more.cend());

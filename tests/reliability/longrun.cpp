@@ -180,10 +180,13 @@ int main(int argc, char **argv)
 
     LongRun run(numberOf(parser, "seed"), numberOf(parser, "subjects"),
                 parser.isSet(QStringLiteral("verbose")));
-    run.run(numberOf(parser, "operations"));
+    const int operations = numberOf(parser, "operations");
+    run.run(operations);
     const auto &calls = run.user().calledSlots();
     std::printf("%d slots of the editor were called, %d dialogs and menus answered, %d times a "
                 "listener did something\n",
                 int(calls.size()), run.answeredDialogs(), run.user().reactions());
+    if (operations >= checkEvery * 10 && run.user().reactions() == 0)
+        fail(QStringLiteral("no listener ever did anything"));
     return 0;
 }
