@@ -3,6 +3,8 @@
 
 #include <fishbone/drawing/clearlayout.h>
 
+#include <fishbone/drawing/clearcover.h>
+
 #include <QTransform>
 
 #include <algorithm>
@@ -19,9 +21,6 @@ constexpr qreal backboneHalf = 3; ///< at the head
 constexpr int headLines = 5;
 constexpr qreal headWidest = 360;
 constexpr qreal penHalf = 1.1;
-constexpr qreal lineHalf = 1;
-constexpr qreal boxSlice = 7;
-constexpr qreal lineSlice = 9;
 constexpr qreal buttonInset = 5;
 
 QRectF around(const QLineF &line)
@@ -128,15 +127,6 @@ QPointF ClearLayout::inPicture(int side, qreal along, qreal across) const
     return {direction() * (-along - across * slope), side * across};
 }
 
-/** What covers @p rect in the skewed coordinates of a category whose joint is at the origin. */
-ClearBox ClearLayout::skewed(const QRectF &rect) const
-{
-    const qreal low = rect.top() < 0 ? -rect.bottom() : rect.top();
-    const qreal high = low + rect.height();
-    const qreal near = m_options.isHeadLeft ? rect.left() : -rect.right();
-    return {near - high * slope, near + rect.width() - low * slope, low, high};
-}
-
 /** Places the bones of a category around its joint, and then all of it on the backbone. */
 void ClearLayout::placeCategory(const ClearTree &tree, const ClearShapes &shapes, int row,
                                 ClearColumns &columns, ClearPacked &packed)
@@ -144,9 +134,7 @@ void ClearLayout::placeCategory(const ClearTree &tree, const ClearShapes &shapes
     const int category = tree.children(0)[row];
     const int side = row % 2 == 0 ? 1 : -1; // below the backbone first
     const bool isKnown = !packed.column.boxes.empty();
-    std::vector<ClearBox> boxes;
-    if (!isKnown)
-        boxes.reserve(std::size_t(5 * (tree.end(category) - category)));
+    ClearCover cover(m_options.isHeadLeft);
     for (int index = category; index < tree.end(category); ++index) {
         Bone &bone = m_bones[std::size_t(index)];
         bone.level = tree.level(index);
@@ -156,54 +144,13 @@ void ClearLayout::placeCategory(const ClearTree &tree, const ClearShapes &shapes
         else
             placeBone(shapes, index, side);
         if (!isKnown)
-            addBoxes(shapes, index, boxes);
+            cover.add(bone, shapes.bone(index));
     }
     if (!isKnown)
-        packed.column = ClearColumns::columnOf(std::move(boxes));
+        packed.column = ClearColumns::columnOf(cover.takeBoxes());
     const qreal joint = columns.place(packed.column, side > 0);
     for (int index = category; index < tree.end(category); ++index)
         m_bones[std::size_t(index)].move(-direction() * joint);
-}
-
-/** What covers @p rect, in slices of @p high at most, since what is skewed is wider the higher it
- * is. */
-void ClearLayout::addSlices(const QRectF &rect, qreal high, std::vector<ClearBox> &out) const
-{
-    const int slices = int(std::ceil(rect.height() / high));
-    const qreal each = rect.height() / slices;
-    for (int slice = 0; slice < slices; ++slice)
-        out.push_back(skewed(QRectF(rect.left(), rect.top() + slice * each, rect.width(), each)));
-}
-
-/** What @p index covers, line by line, so that short lines make room. */
-void ClearLayout::addBoxes(const ClearShapes &shapes, int index, std::vector<ClearBox> &out) const
-{
-    const ClearShapes::Bone &shape = shapes.bone(index);
-    const Bone &bone = m_bones[std::size_t(index)];
-    if (bone.level == 1) {
-        out.push_back({-lineHalf, lineHalf, 0, shape.length});
-        addSlices(bone.box, boxSlice, out);
-    } else {
-        const qreal sign = shape.isMirrored ? -1 : 1;
-        const qreal end =
-            ClearShapes::isSlanted(bone.level) ? shape.along : shape.along + sign * shape.length;
-        const qreal high = ClearShapes::isSlanted(bone.level)
-                               ? shape.across + shape.lead + shape.length
-                               : shape.across;
-        out.push_back({std::min(shape.along, end) - lineHalf, std::max(shape.along, end) + lineHalf,
-                       shape.across - lineHalf, high + lineHalf});
-        const qreal lineHeight = bone.text->font().lineHeight();
-        for (int line = 0; line < bone.text->lineCount(); ++line) {
-            const QPointF base = bone.base(line);
-            addSlices(QRectF(base.x(), base.y() - bone.text->font().ascent(),
-                             bone.text->lines()[std::size_t(line)].width, lineHeight),
-                      lineSlice, out);
-        }
-    }
-    for (const QRectF &part : {bone.status, bone.votes, bone.link, bone.badge}) {
-        if (!part.isNull())
-            out.push_back(skewed(part));
-    }
 }
 
 void ClearLayout::placeBone(const ClearShapes &shapes, int index, int side)

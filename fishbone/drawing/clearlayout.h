@@ -95,13 +95,10 @@ private:
                        ClearColumns &columns, ClearPacked &packed);
     void placeBone(const ClearShapes &shapes, int index, int side);
     void placeBox(const ClearShapes &shapes, int index, int side);
-    void addBoxes(const ClearShapes &shapes, int index, std::vector<ClearBox> &out) const;
     void placeHead(const ClearHead &head);
     void placeLegend();
     void measure(const ClearTree &tree);
-    void addSlices(const QRectF &rect, qreal high, std::vector<ClearBox> &out) const;
     QPointF inPicture(int side, qreal along, qreal across) const;
-    ClearBox skewed(const QRectF &rect) const;
     qreal direction() const { return m_options.isHeadLeft ? -1 : 1; }
 
     ClearOptions m_options;
