@@ -6,15 +6,15 @@
 #include <algorithm>
 
 namespace {
-constexpr qreal narrowest = 3;
+constexpr qreal narrowestCell = 3;
 constexpr std::size_t mostCells = 32;
-constexpr qreal unseen = -1e300;
+constexpr qreal unseenValue = -1e300;
 } // namespace
 
 SeenCells::SeenCells(qreal from, qreal to, std::size_t boxes)
     : m_from(from)
-    , m_width(std::max(narrowest, (to - from) / qreal(boxes)))
-    , m_cells(std::size_t((to - from) / m_width) + 2, unseen)
+    , m_width(std::max(narrowestCell, (to - from) / qreal(boxes)))
+    , m_cells(std::size_t((to - from) / m_width) + 2, unseenValue)
 {
 }
 
