@@ -345,6 +345,7 @@ protected:
 
 private:
     friend class SpearPasses; // which a layout of a whole drawing takes its steps through
+    friend class TextItem;    // whose state the button follows
     friend class TreeItem;    // which hands over its end of the link
 
     /** What was painted, or is about to be, of what no item keeps. */

@@ -198,8 +198,10 @@ void TextItem::followInteraction()
     if (state == m_ownState)
         return;
     m_ownState = state;
-    if (SpearItem *const spear = parentSpear())
+    if (SpearItem *const spear = parentSpear()) {
         spear->updateTextLooks();
+        spear->showButton();
+    }
     update();
 }
 
