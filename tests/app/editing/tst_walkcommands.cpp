@@ -6,6 +6,7 @@
 #include <tests/support/sourcefolder.h>
 
 #include <fishbone/exchange/pictureexport.h>
+#include <fishbone/items/expanditem.h>
 #include <fishbone/items/textitem.h>
 
 #include <QQueue>
@@ -57,6 +58,7 @@ private Q_SLOTS:
     void shouldReachEveryVisibleBone();
     void shouldWalkByLevel_data();
     void shouldWalkByLevel();
+    void shouldShowTheButtonWhereItComesTo();
     void shouldExpandWhatItGoesInto();
     void shouldLeaveTheTreeItsKeys();
     void shouldFitTheDrawingWithHome();
@@ -206,6 +208,31 @@ void TestWalkCommands::shouldWalkByLevel()
     QTest::keyClick(app.window.editor()->view(), Qt::Key(key), Qt::ControlModifier);
     AppFixture::settle();
     QCOMPARE(selected(app), to);
+}
+
+void TestWalkCommands::shouldShowTheButtonWhereItComesTo()
+{
+    AppFixture app;
+    QCOMPARE(app.window.editor()->look(), DiagramLook::Clear);
+    app.window.editor()->expandAll();
+    app.select("Illness");
+    AppFixture::settle();
+    const auto withButton = [&app] {
+        QStringList titles;
+        for (const char *title : {"People", "Too few", "Material"}) {
+            if (app.subject(title)->spear()->expandBuddy()->isVisible())
+                titles << QLatin1String(title);
+        }
+        return titles.join(u',');
+    };
+    QCOMPARE(withButton(), QString());
+    for (const char *title : {"Too few", "People", "Late"}) {
+        QTest::keyClick(app.window.editor()->view(), Qt::Key_Up, Qt::ControlModifier);
+        AppFixture::settle();
+        QCOMPARE(selected(app), QLatin1String(title));
+        QCOMPARE(withButton(),
+                 title == QByteArray("Late") ? QString() : QString::fromLatin1(title));
+    }
 }
 
 void TestWalkCommands::shouldExpandWhatItGoesInto()

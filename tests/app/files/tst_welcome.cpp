@@ -5,7 +5,9 @@
 
 #include <tests/app/appfixture.h>
 #include <tests/program/testprogram.h>
+#include <tests/support/sourcefolder.h>
 
+#include <QDir>
 #include <QSettings>
 
 /** The diagram that greets a new user. */
@@ -19,6 +21,7 @@ private Q_SLOTS:
     void namesTheKeyThatLooksLikeABullet();
     void greetsAtTheFirstStartAlone();
     void comesUntitledAndUnmodifiedAndAllInView();
+    void showsTheClearLookAsSamplesDo();
     void comesAgainFromTheMenu();
     void namesKeysThatWork_data();
     void namesKeysThatWork();
@@ -75,6 +78,24 @@ void TestWelcome::comesUntitledAndUnmodifiedAndAllInView()
     const SpearItem *const spear = window.model()->getTreeItem(deepest.constFirst())->spear();
     QVERIFY(spear && spear->isVisible());
     QVERIFY(shown.contains(spear->sceneBoundingRect()));
+}
+
+void TestWelcome::showsTheClearLookAsSamplesDo()
+{
+    MainWindow window;
+    window.show();
+    window.open({});
+    AppFixture::settle();
+    QCOMPARE(window.editor()->look(), DiagramLook::Clear);
+    const QDir samples(TestSupport::sourceFile(QStringLiteral("samples")));
+    const QStringList names = samples.entryList({QStringLiteral("*.fishbone.json")});
+    QVERIFY(names.size() >= 5);
+    for (const QString &name : names) {
+        window.open({samples.filePath(name)});
+        AppFixture::settle();
+        QCOMPARE(window.session()->document()->fileName(), samples.filePath(name));
+        QVERIFY2(window.editor()->look() == DiagramLook::Clear, qPrintable(name));
+    }
 }
 
 void TestWelcome::comesAgainFromTheMenu()

@@ -41,6 +41,7 @@ private Q_SLOTS:
     void previewsThePaper();
     void lightensAndDarkens();
     void everyPictureOfTheGuideIsTaken();
+    void everyPictureOfTheReadmeIsThere();
 
 private:
     void take(QWidget &window, const char *name);
@@ -115,6 +116,9 @@ void TestGuide::initTestCase()
 void TestGuide::take(QWidget &window, const char *name)
 {
     AppFixture::settle();
+    const auto *const program = qobject_cast<MainWindow *>(&window);
+    if (program && program->editor())
+        QCOMPARE(program->editor()->look(), DiagramLook::Clear);
     if (qEnvironmentVariableIsSet("FISHBONE_GUIDE_PICTURES"))
         QTest::qWait(500); // for what follows a moment later, as the overview does
     const QString file = QLatin1String(name) + QStringLiteral(".png");
@@ -322,6 +326,20 @@ void TestGuide::everyPictureOfTheGuideIsTaken()
         QVERIFY2(QFile::exists(TestSupport::sourceFile(QStringLiteral("docs/guide/pictures/")) +
                                picture),
                  qPrintable(picture));
+}
+
+void TestGuide::everyPictureOfTheReadmeIsThere()
+{
+    const QString readme = QString::fromUtf8(
+        AppFixture::contentOf(TestSupport::sourceFile(QStringLiteral("README.md"))));
+    static const QRegularExpression reference(QStringLiteral("!\\[[^]]+\\]\\(([^)]+)\\)"));
+    int pictures = 0;
+    for (auto found = reference.globalMatch(readme); found.hasNext(); ++pictures) {
+        const QString name = found.next().captured(1);
+        const QImage picture(TestSupport::sourceFile(name));
+        QVERIFY2(picture.width() >= 600, qPrintable(name));
+    }
+    QVERIFY(pictures >= 1);
 }
 
 FISHBONE_TEST(TestGuide)
