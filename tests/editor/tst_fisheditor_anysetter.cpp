@@ -5,7 +5,9 @@
 
 #include <fishbone/editor/fisheditor.h>
 
+#include <QFile>
 #include <QRandomGenerator>
+#include <QRegularExpression>
 #include <QtTest>
 
 #include <tests/program/sanitized.h>
@@ -14,6 +16,7 @@
 #include <tests/support/drawingtext.h>
 #include <tests/support/editorfixture.h>
 #include <tests/support/pictures.h>
+#include <tests/support/sourcefolder.h>
 #include <tests/support/statelooks.h>
 
 using namespace TestSupport;
@@ -25,6 +28,8 @@ class TestFishEditorAnySetter : public QObject
 private Q_SLOTS:
     void init() { AnySetter::restoreShared(); }
 
+    void shouldKnowEverySetter_data();
+    void shouldKnowEverySetter();
     void shouldShowWhatOneSetterChanged_data();
     void shouldShowWhatOneSetterChanged();
     void shouldShowWhatRandomSettersChanged_data();
@@ -70,6 +75,8 @@ public:
             fish->editor.resize(420, 360);
             fish->editor.setLook(look);
             fish->editor.expandAll();
+            // A scene's own grows with whatever an item has ever taken up between two layouts.
+            fish->editor.view()->setSceneRect(-3000, -3000, 6000, 6000);
         }
     }
 
@@ -145,12 +152,101 @@ struct NamedLook
 };
 constexpr NamedLook looks[] = {{"classic", DiagramLook::Classic}, {"clear", DiagramLook::Clear}};
 
+QString contentOf(const QString &fileName)
+{
+    QFile file(fileName);
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+/** The names of the public functions of a header that change an object. */
+QStringList settersOf(const QString &header)
+{
+    const QRegularExpression access(QStringLiteral("^(?=public:|protected:|private:|Q_SIGNALS:)"),
+                                    QRegularExpression::MultilineOption);
+    const QRegularExpression function(
+        QStringLiteral("^    (?:void|bool) (\\w+)\\([^;{]*\\)(?! const| override)\\s*[;{]"),
+        QRegularExpression::MultilineOption);
+    QStringList names;
+    const QStringList parts = header.split(access);
+    for (const QString &part : parts) {
+        auto found =
+            function.globalMatch(part.startsWith(QLatin1String("public:")) ? part : QString());
+        while (found.hasNext())
+            names.append(found.next().captured(1));
+    }
+    names.removeDuplicates();
+    return names;
+}
+
+/** The text of a function of a source file. */
+QString functionOf(const QString &source, const QString &name)
+{
+    const int begin = source.indexOf(QStringLiteral("\nvoid %1(").arg(name));
+    return begin < 0 ? QString()
+                     : source.mid(begin, source.indexOf(QLatin1String("\n}\n"), begin) - begin);
+}
+
 QJsonObject document(quint32 seed)
 {
     return randomDocument(seed, {10, 3, 9, 40});
 }
 
 } // namespace
+
+void TestFishEditorAnySetter::shouldKnowEverySetter_data()
+{
+    QTest::addColumn<QString>("header");
+    QTest::addColumn<QString>("section");     // the function that lists the setters of the class
+    QTest::addColumn<QStringList>("leftOut"); // setters that it need not have
+
+    // The first three say who a subject is; the others rearrange a tree unseen by its model, which
+    // has to announce that.
+    QTest::newRow("subjects")
+        << QStringLiteral("model/treeitem.h") << QStringLiteral("addSubjectSetters")
+        << QStringLiteral("setUuid setShowid setPid ensureUuid setParent appendChild "
+                          "insertChildAtPosition insertChildren moveChildren removeChildren")
+               .split(QLatin1Char(' '));
+    QTest::newRow("styles") << QStringLiteral("style/spearstyle.h")
+                            << QStringLiteral("addStyleSetters") << QStringList();
+    // A look and what it keeps with a bone are the editor's to set, for all bones at a time.
+    QTest::newRow("spears") << QStringLiteral("items/spearitem.h")
+                            << QStringLiteral("addSpearSetters")
+                            << QStringList(
+                                   {QStringLiteral("setLook"), QStringLiteral("setLookData")});
+    QTest::newRow("texts") << QStringLiteral("items/textitem.h") << QStringLiteral("addTextSetters")
+                           << QStringList();
+    QTest::newRow("icons") << QStringLiteral("items/svgitem.h") << QStringLiteral("addIconSetters")
+                           << QStringList();
+    // It fills a menu.
+    QTest::newRow("status icons") << QStringLiteral("items/taskstatusitem.h")
+                                  << QStringLiteral("addIconSetters")
+                                  << QStringList(QStringLiteral("createPopMenu"));
+    QTest::newRow("link icons") << QStringLiteral("items/linkitem.h")
+                                << QStringLiteral("addIconSetters") << QStringList();
+    QTest::newRow("buttons") << QStringLiteral("items/expanditem.h")
+                             << QStringLiteral("addIconSetters") << QStringList();
+}
+
+void TestFishEditorAnySetter::shouldKnowEverySetter()
+{
+    QFETCH(QString, header);
+    QFETCH(QString, section);
+    QFETCH(const QStringList, leftOut);
+    const QStringList setters =
+        settersOf(contentOf(sourceFile(QStringLiteral("fishbone/") + header)));
+    const QString listed =
+        functionOf(contentOf(sourceFile(QStringLiteral("tests/support/anysetter.cpp"))), section);
+    QVERIFY(!setters.isEmpty());
+    QVERIFY(!listed.isEmpty());
+
+    for (const QString &setter : setters) {
+        const QRegularExpression call(QStringLiteral("(\\.|->)%1\\(").arg(setter));
+        const bool isListed = listed.contains(call);
+        QVERIFY2(isListed != leftOut.contains(setter), qPrintable(setter));
+    }
+    for (const QString &name : leftOut)
+        QVERIFY2(setters.contains(name), qPrintable(name));
+}
 
 void TestFishEditorAnySetter::shouldShowWhatOneSetterChanged_data()
 {

@@ -14,6 +14,7 @@
 #include <fishbone/items/spearitem.h>
 #include <fishbone/items/taskstatusitem.h>
 #include <fishbone/items/textitem.h>
+#include <fishbone/model/subjectmarks.h>
 #include <fishbone/model/treeitem.h>
 #include <tests/support/statelooks.h>
 
@@ -118,6 +119,33 @@ void addSubjectSetters(std::vector<Setter> &setters)
         [](TreeItem &node, const Choice &c) { node.setSpearItemIsMovable(c.number % 2); });
     add("own style", [](TreeItem &node, const Choice &c) { node.setSpearStyle(style(c)); });
     add("no own style", [](TreeItem &node, const Choice &) { node.delSpearStyle(); });
+    add("other fields", [](TreeItem &node, const Choice &c) {
+        QJsonObject fields;
+        SubjectMarks::setColour(fields, color(c));
+        SubjectMarks::setVerdict(fields, Verdict(c.another % 3));
+        SubjectMarks::setVotes(fields, number(c, 0, 12));
+        node.setOtherFields(fields);
+    });
+    add("detail", [](TreeItem &node, const Choice &c) { node.setDetail(text(c)); });
+    add("type", [](TreeItem &node, const Choice &c) { node.setType(number(c, -1, 5)); });
+    add("priority", [](TreeItem &node, const Choice &c) { node.setPriority(number(c, -1, 9)); });
+    add("manager", [](TreeItem &node, const Choice &c) {
+        node.setManagerName(text(c));
+        node.setManagerId(text(c));
+    });
+    add("creator", [](TreeItem &node, const Choice &c) {
+        node.setCreatorName(text(c));
+        node.setCreatorId(text(c));
+    });
+    add("followers", [](TreeItem &node, const Choice &c) {
+        node.setFollowers(QStringList(text(c)));
+        node.addFollower(text(c));
+    });
+    add("dates", [](TreeItem &node, const Choice &c) {
+        node.setCreateDate(qint64(c.number) << 24);
+        node.setPlanEndDate(qint64(c.another) << 24);
+    });
+    add("modified", [](TreeItem &node, const Choice &c) { node.setEditModified(c.number % 2); });
     add("no spear", [](TreeItem &node, const Choice &c) {
         if (c.number % 8 == 0 && node.spear() && !node.spear()->isHeader())
             node.setSpear(nullptr, QModelIndex());
@@ -145,6 +173,7 @@ void addStyleSetters(std::vector<Setter> &setters)
             *set = pen(c);
     });
     add("style count", [](SpearStyle &s, const Choice &c) { s.setTextCount(number(c, 0, 9)); });
+    add("style flag", [](SpearStyle &s, const Choice &c) { s.setInheritanceParent(c.number % 2); });
     add("style from JSON", [](SpearStyle &s, const Choice &c) { s.read(style(c)); });
 }
 
@@ -177,6 +206,25 @@ void addSpearSetters(std::vector<Setter> &setters)
         [](SpearItem &s, const Choice &c) { s.setOpacity(0.4 + 0.1 * number(c, 0, 6)); });
     add("spear selected", [](SpearItem &s, const Choice &c) { s.setSelected(c.number % 2); });
     add("spear index", [](SpearItem &s, const Choice &) { s.setModelIndex(s.modelIndex()); });
+    add("spear rotation",
+        [](SpearItem &s, const Choice &c) { s.setRotation(90 * number(c, 0, 3)); });
+    add("spear scale", [](SpearItem &s, const Choice &c) { s.setScale(1 + number(c, 0, 2)); });
+    add("spear transform", [](SpearItem &s, const Choice &c) {
+        s.setTransform(QTransform::fromTranslate(number(c, 0, 20), 5));
+    });
+    add("spear above others", [](SpearItem &s, const Choice &c) { s.setZValue(number(c, -2, 2)); });
+    add("spear follows", [](SpearItem &s, const Choice &) {
+        s.updateMovableFlag();
+        s.updateTaskStatus();
+        s.updateToolTip();
+        s.updateExpandButton();
+    });
+    add("spear text follows", [](SpearItem &s, const Choice &c) {
+        if (c.number % 2)
+            s.updateTextMetrics();
+        else
+            s.updateTextLooks();
+    });
     add("link icon", [](SpearItem &s, const Choice &c) {
         s.setLinkItem(c.number % 2 ? new LinkItem(QStringLiteral("https://other")) : nullptr);
     });
@@ -258,6 +306,8 @@ void addTextSetters(std::vector<Setter> &setters)
     add("text width", [](TextItem &t, const Choice &c) { t.setTextWidth(number(c, 20, 80)); });
     add("text shown", [](TextItem &t, const Choice &c) { t.showText(font(c), text(c)); });
     add("colour shown", [](TextItem &t, const Choice &c) { t.showColor(color(c)); });
+    add("text restored", [](TextItem &t, const Choice &) { t.restoreText(); });
+    add("text box", [](TextItem &t, const Choice &) { t.boxChanges(); });
 }
 
 void addIconSetters(std::vector<Setter> &setters)
@@ -285,7 +335,17 @@ void addIconSetters(std::vector<Setter> &setters)
     add("icon progress",
         [](TaskStatusItem &i, const Choice &c) { i.setProgress(number(c, 0, 100)); });
     add("icon task", [](TaskStatusItem &i, const Choice &c) { i.setTask(number(c, -1, 9), 50); });
+    add("icon follows", [](TaskStatusItem &i, const Choice &) { i.updateStatusIcon(); });
     add("status picture", [](TaskStatusItem &i, const Choice &c) { i.setSvgFile(file(c)); });
+    setters.push_back({"icons follow", [](SpearItem &spear, const Choice &) {
+                           if (auto *const link = dynamic_cast<LinkItem *>(spear.linkItem()))
+                               link->updateSvgIcon();
+                           if (auto *const button =
+                                   dynamic_cast<ExpandItem *>(spear.expandBuddy())) {
+                               button->updateSvgIcon();
+                               button->boxChanges();
+                           }
+                       }});
     setters.push_back({"button picture", [](SpearItem &spear, const Choice &c) {
                            if (auto *const icon = dynamic_cast<SvgItem *>(spear.expandBuddy()))
                                icon->setSvgFile(file(c));
