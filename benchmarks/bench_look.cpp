@@ -10,6 +10,8 @@
 #include <benchmarks/rows.h>
 #include <benchmarks/shownfish.h>
 
+#include <algorithm>
+
 namespace {
 
 /** Two editors on documents that are alike, expanded to the last bone, each in a look. */
@@ -91,6 +93,44 @@ private:
     }
 };
 
+/** The longest wait for another title of the first, of a middle and of the last bone, in a view. */
+class LongestWait : TwoLooks
+{
+public:
+    LongestWait(Synthetic::Shape shape, int count)
+        : TwoLooks(shape, count)
+    {
+        for (ShownFish *fish : {&m_clear, &m_classic}) {
+            fish->editor.resize(1200, 800);
+            fish->editor.show();
+            fish->editor.equalRatio(fish->editor.scene()->itemsBoundingRect());
+        }
+        settle();
+    }
+
+    double ours() { return secondsIn(m_clear); }
+    double bare() { return secondsIn(m_classic); }
+
+private:
+    static double secondsIn(ShownFish &fish)
+    {
+        double longest = 0;
+        const TreeItem *const head = fish.head();
+        for (const int row : {0, head->childCount() / 2, head->childCount() - 1}) {
+            const TreeItem *bone = head->childAtIndex(row);
+            while (bone->childCount() > 0)
+                bone = bone->childAtIndex(row == 0 ? 0 : bone->childCount() - 1);
+            const QModelIndex index = fish.model.indexFromItem(bone);
+            settle();
+            longest = std::max(longest, Paired::secondsOf([&] {
+                                   fish.editor.renameItem(index, bone->title() + QLatin1Char('x'));
+                                   settle(); // with all that is painted for it
+                               }));
+        }
+        return longest;
+    }
+};
+
 /** The best arrangement for a slide, against one relayout. */
 class Arranging : TwoLooks
 {
@@ -116,5 +156,16 @@ void addRows()
     using Paired::Sizes;
     Paired::addRow<MovingAll>("G19a clear look, all moved");
     Paired::addRow<Typing>("G19b clear look, a title", Sizes::GatesOnly);
+    const auto wait = [](benchmark::State &state, Synthetic::Shape shape, int size) {
+        LongestWait fish(shape, size);
+        Paired::compare(
+            state, [&fish] { return fish.ours(); }, [&fish] { return fish.bare(); });
+    };
+    for (const auto shape :
+         {Synthetic::Shape::Fan, Synthetic::Shape::Wide, Synthetic::Shape::Wide2}) {
+        Paired::add("G19b longest wait for a title", shape, 2000, wait)
+            ->UseManualTime()
+            ->Iterations(Paired::repetitions);
+    }
     Paired::addRow<Arranging>("G19c best arrangement", Sizes::GatesOnly);
 }
