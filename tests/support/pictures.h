@@ -16,6 +16,7 @@
 #include <QScreen>
 #include <QStyleOptionGraphicsItem>
 #include <QTest>
+#include <QtMath>
 
 namespace TestSupport {
 
