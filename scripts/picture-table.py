@@ -25,17 +25,19 @@ SHEET = (277, 190)  # millimetres: A4 with a margin of 10
 POINTS = 72 / 25.4  # a millimetre
 MARGIN = 8  # that the program leaves around a drawing
 
-# The trees, and what a sketch of the rules reached on a slide.
+# The trees, and what a sketch of the rules reached on a slide and on a sheet.
 TREES = [
-    ("tests/drawing/fixtures/tree_6m.json", "six categories", 33.1),
-    ("tests/drawing/fixtures/tree_100.json", "a hundred causes", 17.4),
-    ("tests/drawing/fixtures/tree_unbal.json", "one large category", 28.9),
-    ("tests/drawing/fixtures/tree_sample.json", "an outage, five levels", 22.5),
-    ("samples/late-bus-departures.fishbone.json", "late buses", None),
-    ("samples/medication-delay.fishbone.json", "medication", None),
-    ("samples/solder-joint-voids.fishbone.json", "solder joints", None),
-    ("samples/delivery-delay-zh.fishbone.json", "deliveries, in Chinese", None),
+    ("tests/drawing/fixtures/tree_6m.json", "six categories", (33.1, 14.8)),
+    ("tests/drawing/fixtures/tree_100.json", "a hundred causes", (17.4, 7.4)),
+    ("tests/drawing/fixtures/tree_unbal.json", "one large category", (28.9, 12.4)),
+    ("tests/drawing/fixtures/tree_sample.json", "an outage, five levels", (22.5, 10.7)),
+    ("samples/late-bus-departures.fishbone.json", "late buses", (16.3, 8.1)),
+    ("samples/medication-delay.fishbone.json", "medication", (23.4, 10.3)),
+    ("samples/solder-joint-voids.fishbone.json", "solder joints", (22.1, 10.0)),
+    ("samples/delivery-delay-zh.fishbone.json", "deliveries, in Chinese", (24.8, 10.6)),
 ]
+# The sketch takes a third line wherever it gains anything and lets long titles reach out of the head.
+OF_THE_SKETCH = 0.975
 
 
 def size_on(page, size):
@@ -93,7 +95,11 @@ def count(tree):
 def cells(slide, sheet):
     on_slide = slide[1] * size_on(SLIDE, slide[0])
     on_sheet = sheet[1] * size_on(SHEET, sheet[0]) * POINTS
-    return f"{on_slide:.1f} px, {on_sheet:.1f} pt", on_slide
+    return on_slide, on_sheet
+
+
+def text(sizes):
+    return f"{sizes[0]:.1f} px, {sizes[1]:.1f} pt"
 
 
 def table(program):
@@ -103,31 +109,31 @@ def table(program):
     with tempfile.TemporaryDirectory() as folder:
         for file, name, sketch in TREES:
             tree = os.path.join(ROOT, file)
-            clear, pixels = cells(drawn(program, tree, folder, "--page", "16:9"),
-                                  drawn(program, tree, folder, "--page", "A4"))
+            clear = cells(drawn(program, tree, folder, "--page", "16:9"),
+                          drawn(program, tree, folder, "--page", "A4"))
             plain = drawn(program, tree, folder, "--look", "classic")
-            row = [name, str(count(tree)), clear, cells(plain, plain)[0]]
+            row = [name, str(count(tree)), text(clear), text(cells(plain, plain))]
             if has_dot:
                 other = graphviz(tree, folder)
-                row.append(cells(other, other)[0])
-            row.append(f"{sketch:.1f} px" if sketch else "")
+                row.append(text(cells(other, other)))
+            row.append(text(sketch))
             rows.append("| " + " | ".join(row) + " |")
-            if sketch and pixels < sketch:
-                sys.exit(f"{file}: {pixels:.1f} px are less than the {sketch} of the sketch")
+            if any(ours < OF_THE_SKETCH * least for ours, least in zip(clear, sketch)):
+                sys.exit(f"{file}: {text(clear)} are less than the {text(sketch)} of the sketch")
     return "\n".join(rows) + "\n"
 
 
 def main():
-    text = table(os.path.abspath(sys.argv[1]))
+    rows = table(os.path.abspath(sys.argv[1]))
     if "--write" not in sys.argv[2:]:
-        print(text, end="")
+        print(rows, end="")
         return
     with open(PAGE, encoding="utf-8") as file:
         page = file.read()
     before, rest = page.split(BEGIN)
     after = rest.split(END)[1]
     with open(PAGE, "w", encoding="utf-8") as file:
-        file.write(before + BEGIN + text + END + after)
+        file.write(before + BEGIN + rows + END + after)
 
 
 main()
