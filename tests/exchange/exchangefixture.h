@@ -8,6 +8,7 @@
 
 #include <QBuffer>
 #include <QString>
+#include <QTest>
 
 #include <memory>
 #include <tests/support/documents.h>

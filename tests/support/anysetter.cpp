@@ -5,6 +5,7 @@
 
 #include <QFont>
 #include <QGraphicsRectItem>
+#include <QModelIndex>
 #include <QPen>
 #include <QPixmap>
 #include <QTextCursor>
