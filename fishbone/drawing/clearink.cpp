@@ -12,7 +12,6 @@ namespace {
 constexpr qreal categoryLine = 2.2;
 constexpr qreal causeLine = 1.2;
 constexpr qreal deepLine = 1;
-constexpr qreal broader = 1.4; ///< by which a line that stands out is wider
 constexpr int strongestLevel = 2;
 constexpr int deepLevel = 3;
 constexpr qreal tint = 0.16; ///< how much of a colour lies behind what stands out

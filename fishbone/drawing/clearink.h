@@ -42,6 +42,9 @@ struct ClearInk
     QColor accent; ///< what stands out takes it: readable, and of the diagram's own hue
     Verdict verdict = Verdict::None;
 
+    /** By how much the line of what stands out is wider. */
+    static constexpr qreal broader = 1.4;
+
     /** For a subject of @p level in row @p category, of the head; @p inherited is what the bone
      * above it has as colour. The text is readable on whatever lies below it. */
     static ClearInk of(const ClearSubjectLook &look, int level, int category,

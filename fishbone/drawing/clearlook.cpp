@@ -13,8 +13,9 @@
 #include <fishbone/items/textitem.h>
 
 namespace {
-constexpr double hitWidth = 8;   ///< of a bone, for the mouse
-constexpr double lineMargin = 6; ///< of where the mouse hits, with its corners, and of any pen
+constexpr double hitWidth = 8;     ///< of a bone, for the mouse
+constexpr double lineMargin = 6;   ///< of where the mouse hits, with its corners
+constexpr double penCorner = 0.75; ///< of its width: so far from its line the cap of a pen reaches
 
 /** The end of the nearest bone above that is shown. */
 QPointF shownEnd(const SpearItem &spear)
@@ -179,7 +180,10 @@ QRectF ClearLook::boundingRect(const SpearItem &spear) const
         rect |= place->frame->rect();
     else if (place)
         rect |= place->box(); // where it is hit as well, which its text box leaves to the bone
-    return rect.adjusted(-lineMargin, -lineMargin, lineMargin, lineMargin);
+    const qreal widest =
+        qMax(spear.pen().widthF(), place ? place->ink.line.widthF() + ClearInk::broader : 0);
+    const qreal margin = qMax(lineMargin, widest * penCorner + 1);
+    return rect.adjusted(-margin, -margin, margin, margin);
 }
 
 QPainterPath ClearLook::shape(const SpearItem &spear) const

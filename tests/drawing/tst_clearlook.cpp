@@ -22,6 +22,19 @@ using namespace TestSupport;
 using namespace ClearFishes;
 
 /** The clear look on the items of an editor. */
+namespace {
+/** Where a slanted line is cut, the toolkit rounds anew: single pixels, and few. */
+int differingPixels(const QImage &whole, const QImage &pieces)
+{
+    int differing = 0;
+    for (int y = 0; y < whole.height(); ++y) {
+        for (int x = 0; x < whole.width(); ++x)
+            differing += whole.pixel(x, y) != pieces.pixel(x, y) ? 1 : 0;
+    }
+    return differing;
+}
+} // namespace
+
 class TestClearLook : public QObject
 {
     Q_OBJECT
@@ -37,6 +50,8 @@ private Q_SLOTS:
     void shouldRepaintNothingThatStays();
     void shouldPaintInPiecesAsAtOnce_data();
     void shouldPaintInPiecesAsAtOnce();
+    void shouldPaintThickPensInPiecesAsAtOnce_data();
+    void shouldPaintThickPensInPiecesAsAtOnce();
     void shouldDropBetweenTheChildrenThatAreSeen_data();
     void shouldDropBetweenTheChildrenThatAreSeen();
     void shouldBeHitWhereItIsSeen();
@@ -212,14 +227,42 @@ void TestClearLook::shouldPaintInPiecesAsAtOnce()
     const QImage whole = paintedAtOnce(*fish.editor.scene(), canvas);
     const QImage pieces = paintedInPieces(*fish.editor.scene(), canvas, 97);
 
-    // Where a slanted line is cut, the toolkit rounds anew: single pixels, and few.
-    int differing = 0;
-    for (int y = 0; y < whole.height(); ++y) {
-        for (int x = 0; x < whole.width(); ++x)
-            differing += whole.pixel(x, y) != pieces.pixel(x, y) ? 1 : 0;
-    }
+    const int differing = differingPixels(whole, pieces);
     QVERIFY2(differing <= 40, qPrintable(QString::number(differing)));
     QVERIFY(inkedPixels(whole) > 2000);
+}
+
+void TestClearLook::shouldPaintThickPensInPiecesAsAtOnce_data()
+{
+    QTest::addColumn<QString>("selected");
+    QTest::newRow("normal") << wear;
+    QTest::newRow("selected") << man;
+}
+
+void TestClearLook::shouldPaintThickPensInPiecesAsAtOnce()
+{
+    QFETCH(QString, selected);
+    ClearFish fish;
+    fish.select({selected});
+    SpearStyle style;
+    for (const SpearStyle::SpearState state : {SpearStyle::ssNormal, SpearStyle::ssSelected})
+        style.setBroderPen(state, QPen(Qt::red, 30));
+    QJsonObject object;
+    style.write(object);
+    fish.subject(man)->setSpearStyle(object);
+    for (int turn = 0; turn < 2; ++turn) { // before the next layout and after it
+        const Canvas canvas{visibleRect(*fish.editor.scene()).toAlignedRect(), 1};
+
+        const QImage whole = paintedAtOnce(*fish.editor.scene(), canvas);
+        const QImage pieces = paintedInPieces(*fish.editor.scene(), canvas, 23);
+
+        const int differing = differingPixels(whole, pieces);
+        QVERIFY2(differing <= 40, qPrintable(QString::number(differing)));
+        fish.editor.updateFish(false);
+    }
+    const QRectF bone = fish.spear(man)->boundingRect();
+    const QLineF line = fish.spear(man)->line();
+    QVERIFY(bone.contains(QRectF(line.p1(), line.p2()).normalized().adjusted(-15, -15, 15, 15)));
 }
 
 void TestClearLook::shouldDropBetweenTheChildrenThatAreSeen_data()
