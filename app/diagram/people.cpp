@@ -20,7 +20,7 @@ People People::in(const TreeItem *root)
     visitPreOrder(root, childrenOf, [&people](const TreeItem *subject) {
         people.add(subject->managerName(), subject->managerId());
         people.add(subject->creatorName(), subject->creatorId());
-        const QStringList followers = subject->followers();
+        const QStringList &followers = subject->followers();
         for (const QString &follower : followers)
             people.add(follower);
         return true;
