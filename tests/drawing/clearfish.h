@@ -5,6 +5,7 @@
 
 #include <QColor>
 #include <QGraphicsItem>
+#include <QJsonObject>
 #include <QString>
 
 #include <cmath>
@@ -52,6 +53,15 @@ struct ClearFish : EditorFixture
         return shown;
     }
 };
+
+/** Gives the subject titled @p title a field such as its verdict. */
+inline void mark(const ClearFish &fish, const QString &title, const char *key,
+                 const QJsonValue &value)
+{
+    QJsonObject fields = fish.subject(title)->otherFields();
+    fields.insert(QLatin1String(key), value);
+    fish.subject(title)->setOtherFields(fields);
+}
 
 inline QRectF sceneRect(const QGraphicsItem &item)
 {

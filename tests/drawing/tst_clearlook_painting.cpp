@@ -72,13 +72,6 @@ QImage pictureOf(const ClearFish &fish, const DiagramLook::Options &options)
 }
 
 /** A mark of the subject of that title. */
-void mark(const ClearFish &fish, const QString &title, const char *key, const QJsonValue &value)
-{
-    QJsonObject fields = fish.subject(title)->otherFields();
-    fields.insert(QLatin1String(key), value);
-    fish.subject(title)->setOtherFields(fields);
-}
-
 const ClearInk &inkOf(const ClearFish &fish, const QString &title)
 {
     return ClearSpear::of(*fish.spear(title))->ink;
@@ -120,11 +113,7 @@ void TestClearLookPainting::shouldShowOnTheScreenWhatPicturesShow()
 
     QCOMPARE(screen.size(), picture.size());
     // The icons on the screen are snapped to whole pixels: the rest is the same.
-    int differing = 0;
-    for (int y = 0; y < screen.height(); ++y) {
-        for (int x = 0; x < screen.width(); ++x)
-            differing += screen.pixel(x, y) != picture.pixel(x, y) ? 1 : 0;
-    }
+    const int differing = differingPixels(screen, picture);
     const int icons = 3;
     QVERIFY2(differing <= icons * 14 * 14, qPrintable(QString::number(differing)));
     QVERIFY(inkedPixels(picture) > 5000);

@@ -18,17 +18,6 @@ using namespace ClearFishes;
 
 namespace {
 
-/** Empty when what was painted since it was last complete is what all painted anew shows. */
-QString staleness(GraphicsView &view)
-{
-    if (!paintScheduled(view))
-        return QStringLiteral("nothing was painted");
-    const QImage inPieces = shownPicture(view);
-    if (!paintEverything(view))
-        return QStringLiteral("not all was painted");
-    return difference(inPieces, shownPicture(view), clipRounding);
-}
-
 QPoint titleOf(const ClearFish &fish, const QString &title)
 {
     return middleOf(*fish.editor.view(), fish.spear(title)->textItem());
@@ -41,13 +30,6 @@ struct Change
     const char *name;
     std::function<void(ClearFish &)> happen;
 };
-
-void mark(const ClearFish &fish, const char *key, const QJsonValue &value)
-{
-    QJsonObject fields = fish.subject(training)->otherFields();
-    fields.insert(QLatin1String(key), value);
-    fish.subject(training)->setOtherFields(fields);
-}
 
 void pointAt(const ClearFish &fish, const QString &title)
 {
@@ -103,12 +85,12 @@ const QVector<Change> &changes()
          }},
         {"give a verdict",
          [](ClearFish &f) {
-             mark(f, "verdict", QStringLiteral("rootcause"));
+             mark(f, training, "verdict", QStringLiteral("rootcause"));
              f.editor.updateFish(false);
          }},
         {"give a colour",
          [](ClearFish &f) {
-             mark(f, "colour", QStringLiteral("#d2691e"));
+             mark(f, training, "colour", QStringLiteral("#d2691e"));
              f.editor.updateFish(false);
          }},
         {"delete", [](ClearFish &f) { f.editor.deleteItem(f.index(budget)); }},

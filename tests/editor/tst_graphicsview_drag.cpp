@@ -372,16 +372,10 @@ void tst_GraphicsViewDrag::shouldPaintTheSameInPiecesAsInFullDuringADrag()
     drag.enter(onCanvas(fixture));
     for (const char *title : {"A", "B", "Head", "B1", "A2"}) {
         drag.move(onBone(fixture, QString::fromLatin1(title)));
-        QVERIFY(paintScheduled(view));
-        const QImage inPieces = shownPicture(view);
-        QVERIFY(paintEverything(view));
-        QCOMPARE(difference(inPieces, shownPicture(view), clipRounding), QString());
+        QCOMPARE(staleness(view), QString());
     }
     drag.move(onCanvas(fixture));
-    QVERIFY(paintScheduled(view));
-    const QImage inPieces = shownPicture(view);
-    QVERIFY(paintEverything(view));
-    QCOMPARE(difference(inPieces, shownPicture(view), clipRounding), QString());
+    QCOMPARE(staleness(view), QString());
 }
 
 FISHBONE_TEST(tst_GraphicsViewDrag)

@@ -1,42 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The Fishbone authors
 // SPDX-License-Identifier: MIT
 
+#include <tests/exchange/slideshapes.h>
 #include <tests/program/testprogram.h>
 
 #include <fishbone/exchange/slideconnections.h>
-#include <fishbone/exchange/slidedevice.h>
 
 #include <QtTest>
 
-namespace {
-
-SlideShape box(const QRectF &rect)
-{
-    SlideShape shape;
-    shape.path.addRect(rect);
-    shape.fill = Qt::gray;
-    return shape;
-}
-
-SlideShape line(const QPointF &from, const QPointF &to)
-{
-    SlideShape shape;
-    shape.path.moveTo(from);
-    shape.path.lineTo(to);
-    shape.stroke = Qt::black;
-    shape.width = 1;
-    return shape;
-}
-
-SlideShape title(const QRectF &rect)
-{
-    SlideShape shape;
-    shape.text = QStringLiteral("Carrier");
-    shape.box = rect;
-    return shape;
-}
-
-} // namespace
+using namespace SlideShapes;
 
 /** What the lines of a slide hold on to. */
 class TestSlideConnections : public QObject

@@ -1,40 +1,17 @@
 // SPDX-FileCopyrightText: 2026 The Fishbone authors
 // SPDX-License-Identifier: MIT
 
+#include <tests/exchange/slideshapes.h>
 #include <tests/program/testprogram.h>
 
 #include <fishbone/exchange/slideconnections.h>
-#include <fishbone/exchange/slidedevice.h>
 #include <fishbone/exchange/slidegroups.h>
 
 #include <QtTest>
 
+using namespace SlideShapes;
+
 namespace {
-
-SlideShape box(const QRectF &rect)
-{
-    SlideShape shape;
-    shape.path.addRect(rect);
-    shape.fill = Qt::gray;
-    return shape;
-}
-
-SlideShape line(const QPointF &from, const QPointF &to)
-{
-    SlideShape shape;
-    shape.path.moveTo(from);
-    shape.path.lineTo(to);
-    shape.stroke = Qt::black;
-    return shape;
-}
-
-SlideShape title(const QRectF &rect)
-{
-    SlideShape shape;
-    shape.text = QStringLiteral("Carrier");
-    shape.box = rect;
-    return shape;
-}
 
 std::vector<std::vector<int>> groupsOf(const std::vector<SlideShape> &shapes)
 {

@@ -77,6 +77,17 @@ inline QString difference(const QImage &actual, const QImage &expected, int tole
         .arg(area.height());
 }
 
+/** How many pixels of two pictures of one size are not the same. */
+inline int differingPixels(const QImage &actual, const QImage &expected)
+{
+    int count = 0;
+    for (int y = 0; y < expected.height(); ++y) {
+        for (int x = 0; x < expected.width(); ++x)
+            count += actual.pixel(x, y) != expected.pixel(x, y) ? 1 : 0;
+    }
+    return count;
+}
+
 /** How many pixels of a picture of 32 bits a pixel have exactly that colour. */
 inline int pixelsOf(const QImage &picture, const QColor &color)
 {
@@ -238,6 +249,18 @@ inline QImage shownPicture(QGraphicsView &view)
                      viewport.height())
         .toImage()
         .convertToFormat(QImage::Format_RGB32);
+}
+
+/** How what @p view has painted of all that happened so far differs from a full paint; empty when
+ * it does not by more than @p tolerance. Everything is painted then. */
+inline QString staleness(QGraphicsView &view, int tolerance = clipRounding)
+{
+    if (!paintScheduled(view))
+        return QStringLiteral("nothing was painted");
+    const QImage inPieces = shownPicture(view);
+    if (!paintEverything(view))
+        return QStringLiteral("not all was painted");
+    return difference(inPieces, shownPicture(view), tolerance);
 }
 
 } // namespace TestSupport
