@@ -4,6 +4,7 @@
 #pragma once
 
 #include <fishbone/model/subjectmarks.h>
+#include <fishbone/model/treeitem.h>
 
 #include <QCoreApplication>
 #include <QString>
@@ -15,7 +16,7 @@ class MarkNames
     Q_DECLARE_TR_FUNCTIONS(MarkNames)
 
 public:
-    static constexpr int noStatus = -1; ///< the status of a subject without one
+    static constexpr int noStatus = TreeItem::none; ///< the status of a subject without one
 
     /** Of all statuses in the order of their numbers, noStatus first. */
     static QStringList statuses();

@@ -20,8 +20,8 @@ QModelIndexList SelectedSubjects::of(const FishEditor &editor)
     return indexes;
 }
 
-void SelectedSubjects::select(FishEditor &editor, const FishModel &model,
-                              const QList<QPersistentModelIndex> &indexes)
+QList<SpearItem *> SelectedSubjects::spearsOf(const FishModel &model,
+                                              const QList<QPersistentModelIndex> &indexes)
 {
     QList<SpearItem *> spears;
     for (const QPersistentModelIndex &index : indexes) {
@@ -29,5 +29,11 @@ void SelectedSubjects::select(FishEditor &editor, const FishModel &model,
         if (SpearItem *const spear = subject ? subject->spear() : nullptr)
             spears.append(spear);
     }
-    editor.selectSpears(spears);
+    return spears;
+}
+
+void SelectedSubjects::select(FishEditor &editor, const FishModel &model,
+                              const QList<QPersistentModelIndex> &indexes)
+{
+    editor.selectSpears(spearsOf(model, indexes));
 }

@@ -3,13 +3,14 @@
 
 #include <app/editing/rubberband.h>
 
+#include <app/diagram/selectedsubjects.h>
+
 #include <fishbone/editor/fisheditor.h>
 #include <fishbone/editor/fishscene.h>
 #include <fishbone/editor/graphicsview.h>
 #include <fishbone/items/spearitem.h>
 #include <fishbone/items/textitem.h>
 #include <fishbone/model/fishmodel.h>
-#include <fishbone/model/treeitem.h>
 
 #include <QRubberBand>
 
@@ -23,24 +24,16 @@ void RubberBand::begin(const QPoint &pos, bool adds)
     m_origin = m_editor->view()->mapToScene(pos);
     m_adds = adds;
     m_before.clear();
-    const QList<QGraphicsItem *> selected = m_editor->selectedItems();
-    for (QGraphicsItem *item : selected) {
-        if (auto *const spear = qgraphicsitem_cast<SpearItem *>(item))
-            m_before.append(m_editor->spearIndex(spear));
-    }
+    const QModelIndexList selected = SelectedSubjects::of(*m_editor);
+    for (const QModelIndex &index : selected)
+        m_before.append(index);
 }
 
 /** What was selected in the beginning and is still there. */
 QList<SpearItem *> RubberBand::living() const
 {
-    QList<SpearItem *> spears;
     const auto *const model = qobject_cast<const FishModel *>(m_editor->model());
-    for (const QPersistentModelIndex &index : m_before) {
-        const TreeItem *const subject = model ? model->getTreeItem(index) : nullptr;
-        if (subject && subject->spear())
-            spears.append(subject->spear());
-    }
-    return spears;
+    return model ? SelectedSubjects::spearsOf(*model, m_before) : QList<SpearItem *>();
 }
 
 /** The bones whose titles are in @p frame of the scene, or partly. */

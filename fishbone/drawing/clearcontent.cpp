@@ -4,6 +4,7 @@
 #include <fishbone/drawing/clearcontent.h>
 
 #include <fishbone/items/taskstatusinfo.h>
+#include <fishbone/model/subjectwalk.h>
 #include <fishbone/model/treeitem.h>
 #include <fishbone/style/spearstyle.h>
 
@@ -15,13 +16,10 @@
 int ClearContent::countBelow(const TreeItem &subject)
 {
     int count = -1; // without itself
-    std::vector<const TreeItem *> open{&subject};
-    while (!open.empty()) {
-        const TreeItem *const next = open.back();
-        open.pop_back();
+    visitSubjects(&subject, [&count](const TreeItem *) {
         ++count;
-        open.insert(open.end(), next->childItems().cbegin(), next->childItems().cend());
-    }
+        return true;
+    });
     return count;
 }
 
