@@ -47,6 +47,7 @@ QByteArray contentTypes()
            part("ppt/notesMasters/notesMaster1.xml", presentation + "notesMaster") +
            part("ppt/notesSlides/notesSlide1.xml", presentation + "notesSlide") +
            part("ppt/theme/theme1.xml", theme) + part("ppt/theme/theme2.xml", theme) +
+           part("ppt/tableStyles.xml", presentation + "tableStyles") +
            part("docProps/core.xml", "application/vnd.openxmlformats-package.core-properties") +
            "</Types>";
 }
@@ -165,6 +166,14 @@ QByteArray theme(const QStringList &accents)
            "</a:bgFillStyleLst></a:fmtScheme></a:themeElements></a:theme>";
 }
 
+/** No styles; readers warn where there is no such part, though there are no tables. */
+QByteArray tableStyles()
+{
+    return declaration + "<a:tblStyleLst "
+                         "xmlns:a=\"http://schemas.openxmlformats.org/drawingml/2006/main\" "
+                         "def=\"{5C22544A-7EE6-4342-B048-85BDC9FD1C3A}\"/>";
+}
+
 } // namespace
 
 namespace SlidePackage {
@@ -189,7 +198,8 @@ std::vector<ZipWriter::File> parts(const Content &content)
              relations(relation("rId1", "slideMaster", "slideMasters/slideMaster1.xml") +
                        relation("rId2", "slide", "slides/slide1.xml") +
                        relation("rId3", "notesMaster", "notesMasters/notesMaster1.xml") +
-                       relation("rId4", "theme", "theme/theme1.xml"))),
+                       relation("rId4", "theme", "theme/theme1.xml") +
+                       relation("rId5", "tableStyles", "tableStyles.xml"))),
         file("ppt/slideMasters/slideMaster1.xml", slideMaster()),
         file("ppt/slideMasters/_rels/slideMaster1.xml.rels",
              relations(relation("rId1", "slideLayout", "../slideLayouts/slideLayout1.xml") +
@@ -210,6 +220,7 @@ std::vector<ZipWriter::File> parts(const Content &content)
                        relation("rId2", "slide", "../slides/slide1.xml"))),
         file("ppt/theme/theme1.xml", theme(content.accents)),
         file("ppt/theme/theme2.xml", theme(content.accents)),
+        file("ppt/tableStyles.xml", tableStyles()),
     };
 }
 
