@@ -284,9 +284,8 @@ void TestSlideExport::shouldKeepToTheSchema()
     fish.editor.setLook(DiagramLook::Kind(look));
     fish.editor.updateFish(true);
     fish.editor.expandAll();
-    const QByteArray bytes =
-        SlideExport::presentation(*fish.editor.scene(), *fish.subject(QStringLiteral("Effect")),
-                                  SlideExport::Aspect(aspect));
+    const QByteArray bytes = SlideExport::presentation(
+        *fish.editor.scene(), *fish.subject(QStringLiteral("Effect")), SlideExport::Aspect(aspect));
     ImportedTree tree;
     ZipReader archive(bytes, tree);
     int checked = 0;
