@@ -6,6 +6,9 @@
 #include <fishbone/exchange/diagramexchange.h>
 #include <fishbone/exchange/importedtree.h>
 
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QRegularExpression>
 
 namespace {
@@ -25,6 +28,27 @@ bool isFrontMatter(const QString &line)
            line.startsWith(QLatin1String("- ")) || line.at(0).isSpace();
 }
 
+/** Front matter that is JSON, as names and values; as it is when it is none. */
+QStringList entriesOf(const QStringList &lines)
+{
+    const QString text = lines.join(QLatin1Char('\n'));
+    const QJsonDocument document = QJsonDocument::fromJson(text.toUtf8());
+    if (!document.isObject())
+        return lines;
+    QStringList entries;
+    const QJsonObject object = document.object();
+    for (auto entry = object.begin(); entry != object.end(); ++entry) {
+        const QJsonValue value = entry.value();
+        const bool isNested = value.isObject() || value.isArray();
+        const QString nested = QString::fromUtf8(
+            (value.isObject() ? QJsonDocument(value.toObject()) : QJsonDocument(value.toArray()))
+                .toJson(QJsonDocument::Compact));
+        entries.append(entry.key() + QLatin1String(": ") +
+                       (isNested ? nested : value.toVariant().toString()));
+    }
+    return entries;
+}
+
 } // namespace
 
 MarkdownFrontMatter::MarkdownFrontMatter(ExchangeText::Lines lines)
@@ -32,14 +56,16 @@ MarkdownFrontMatter::MarkdownFrontMatter(ExchangeText::Lines lines)
     if (!lines.next() || lines.raw() != QLatin1String("---"))
         return;
     QStringList entries;
+    bool isJson = false;
     while (lines.next()) {
         const QString line = lines.raw();
         if (line == QLatin1String("---") || line == QLatin1String("...")) {
-            m_entries = entries;
+            m_entries = entriesOf(entries);
             m_firstLine = entries.isEmpty() ? 0 : lines.number() + 1;
             return;
         }
-        if (!isFrontMatter(line))
+        isJson = isJson || (entries.isEmpty() && line == QLatin1String("{"));
+        if (!isJson && !isFrontMatter(line))
             return;
         entries.append(line);
     }

@@ -4,6 +4,7 @@
 #include <fishbone/exchange/markdowninline.h>
 
 #include <fishbone/exchange/exchangetext.h>
+#include <fishbone/exchange/markdowntags.h>
 
 #include <QRegularExpression>
 #include <QStringView>
@@ -117,8 +118,10 @@ private:
             m_position += match.capturedLength();
             return true;
         }
-        if (m_kind != InlineKind::Title || !scheme.match(ahead).hasMatch())
+        if (m_kind != InlineKind::Title)
             return false;
+        if (!scheme.match(ahead).hasMatch())
+            return readTag();
         const int end = find(QLatin1Char('>'), m_position);
         if (end < 0)
             return false;
@@ -127,6 +130,31 @@ private:
         m_text.append(url);
         m_position = end + 1;
         return true;
+    }
+
+    /** Reads a tag that forms the text, or a picture. */
+    bool readTag()
+    {
+        constexpr int longest = 2000;
+        const MarkdownTags::Tag tag = MarkdownTags::read(m_markdown.mid(m_position, longest));
+        if (tag.length == 0)
+            return false;
+        m_text.append(tag.text);
+        noteUrl(tag.image, true);
+        m_position += tag.length;
+        if (!tag.image.isEmpty() && tag.text.isEmpty())
+            closeGap();
+        return true;
+    }
+
+    /** Leaves no more blanks where a picture without a text was. */
+    void closeGap()
+    {
+        const bool isBegin = m_text.isEmpty() || m_text.endsWith(QLatin1Char(' '));
+        while (isBegin && at(m_position) == QLatin1Char(' '))
+            ++m_position;
+        while (m_position == m_markdown.size() && m_text.endsWith(QLatin1Char(' ')))
+            m_text.chop(1);
     }
 
     /** Reads a code span, whose text counts as it is. */
@@ -160,10 +188,19 @@ private:
                                                             : readName(begin, textEnd, isImage);
         if (end < 0)
             return false;
-        m_linkTextEnd = textEnd;
+        m_linkTextEnd = isImage ? textEnd - sizeLength(begin, textEnd) : textEnd;
         m_linkEnd = end;
         m_position = begin + 1;
         return true;
+    }
+
+    /** How long the size is that some editors have behind the text of a picture: "|100x145". */
+    int sizeLength(int begin, int textEnd) const
+    {
+        static const QRegularExpression size(QStringLiteral("\\|\\d{1,5}(?:x\\d{1,5})?$"));
+        constexpr int longest = 12;
+        const int from = std::max(begin + 1, textEnd - longest);
+        return int(size.match(m_markdown.mid(from, textEnd - from)).capturedLength());
     }
 
     /** Reads where the link leads whose text ends at @p textEnd; where that ends, -1 for no link.

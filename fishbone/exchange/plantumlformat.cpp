@@ -96,33 +96,55 @@ private:
         return text.endsWith(QLatin1Char(';')) ? text.chopped(1) : text;
     }
 
-    /** Takes the marks of formatting and links out of a text. */
-    void setText(TreeItem &subject, const QString &text, qint64 line)
+    struct Links
+    {
+        QString text;      ///< what is shown
+        QStringList links; ///< where they lead
+        QString tooltips;
+    };
+
+    /** Takes the links out of a text. */
+    static Links linksIn(const QString &text)
     {
         static const QRegularExpression link(
-            QStringLiteral("\\[\\[(\\S+?)(?:\\s+([^\\]]*))?\\]\\]"));
-        static const QRegularExpression pair(
-            QStringLiteral("(\\*\\*|//|__|--|~~|\"\")(?=\\S)(.+?)(?<=\\S)\\1"));
-        static const QRegularExpression tag(
-            QStringLiteral("</?(?:b|i|u|s|w|color|size|font|back)(?:[:=\\s][^<>]*)?>"));
-        QStringList links;
-        QString plain;
+            QStringLiteral("\\[\\[([^\\s{\\]]+)(?:\\{([^}]*)\\})?(?:\\s+([^\\]]*))?\\]\\]"));
+        Links found;
         int end = 0;
         for (auto matches = link.globalMatch(text); matches.hasNext();) {
             const auto match = matches.next();
-            plain += text.mid(end, match.capturedStart() - end);
-            plain += match.captured(2).isEmpty() ? match.captured(1) : match.captured(2);
-            links.append(match.captured(1));
+            found.text += text.mid(end, match.capturedStart() - end);
+            found.text += match.captured(3).isEmpty() ? match.captured(1) : match.captured(3);
+            found.links.append(match.captured(1));
+            found.tooltips += match.captured(2);
             end = match.capturedEnd();
         }
-        plain += text.mid(end);
+        found.text += text.mid(end);
+        return found;
+    }
+
+    /** Takes the marks of formatting, those that a tilde does not make text of, and links out of a
+     * text. */
+    void setText(TreeItem &subject, const QString &text, qint64 line)
+    {
+        static const QRegularExpression pair(QStringLiteral(
+            "(?<!~)(?<!~[*/_~\"-])(\\*\\*|//|__|--|~~|\"\")(?=\\S)(.+?)(?<=\\S)\\1"));
+        static const QRegularExpression escape(
+            QStringLiteral("~(?=\\*\\*|//|__|--|~~|\"\"|\\[\\[|<)"));
+        static const QRegularExpression tag(
+            QStringLiteral("</?(?:b|i|u|s|w|color|size|font|back)(?:[:=\\s][^<>]*)?>"));
+        const Links found = linksIn(text);
+        QString plain = found.text;
         plain.remove(tag);
         // The marks of an address are none; and pairs are sought for each mark, again and again.
         constexpr int longest = 300;
-        if (links.isEmpty() && plain.size() <= longest)
+        if (found.links.isEmpty() && plain.size() <= longest)
             plain.replace(pair, QStringLiteral("\\2"));
+        if (found.links.isEmpty())
+            plain.remove(escape);
         subject.setTitle(plain.replace(QLatin1String("\\n"), QLatin1String("\n")));
-        m_tree.addContent(subject, links, {}, line);
+        m_tree.addContent(subject, found.links, {}, line);
+        if (!found.tooltips.isEmpty())
+            m_tree.addNamedDetail(subject, QStringLiteral("Tooltip"), found.tooltips, line);
     }
 
     bool takeComment(const QString &line)

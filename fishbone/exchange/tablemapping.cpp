@@ -60,7 +60,7 @@ const RoleEntry entries[] = {
      "完成|%完成|完成率|完成比例",
      true},
     {Role::Priority, QT_TRANSLATE_NOOP("TableMapping", "Priority"),
-     "priority|优先级|优先度|优先级别|紧急程度", true},
+     "priority|priority name|优先级|优先度|优先级别|紧急程度", true},
     {Role::Manager, QT_TRANSLATE_NOOP("TableMapping", "Manager"),
      "manager|assignee|assigned to|assignees|owner|owned by|responsible|assignee name|assign|"
      "responsible person|action owner|resource names|resource|person|people|who|负责人|经办人|"
@@ -70,7 +70,8 @@ const RoleEntry entries[] = {
      "manager id|assignee id|assignee username|assignee email|assignee e mail|经办人id|负责人id",
      true},
     {Role::Creator, QT_TRANSLATE_NOOP("TableMapping", "Creator"),
-     "creator|author|reporter|requested by|created by|reported by|raised by|requester|submitter|"
+     "creator|author|reporter|creator name|author name|reporter name|requested by|created "
+     "by|reported by|raised by|requester|submitter|"
      "opened by|创建人|创建者|由谁创建|作者|报告人|提出人|发起人|提交人",
      true},
     {Role::CreatorId, QT_TRANSLATE_NOOP("TableMapping", "Creator's id"),

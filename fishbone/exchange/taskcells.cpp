@@ -80,6 +80,7 @@ TaskCells::TaskCells(const std::vector<TaskTable::Row> &rows, std::size_t firstR
     , m_isOwn(mapping.headings.contains(QLatin1String("uuid")) &&
               mapping.headings.contains(QLatin1String("parent")) &&
               mapping.headings.contains(QLatin1String("title")))
+    , m_idColumn(idColumn())
 {
     findOrder(rows, firstRow);
 }
@@ -93,6 +94,24 @@ QList<int> TaskCells::columnsOf(Role role) const
             columns.append(i);
     }
     return columns;
+}
+
+/** The column with what people call a subject, a key or its number in a project, rather than a
+ * number of the database; -1 for the first of a row that has any. */
+int TaskCells::idColumn() const
+{
+    static const QStringList shown{QStringLiteral("key"),
+                                   QStringLiteral("issue key"),
+                                   QStringLiteral("iid"),
+                                   QStringLiteral("issue iid"),
+                                   QStringLiteral("\u952e\u503c"),
+                                   QStringLiteral("\u5173\u952e\u5b57"),
+                                   QStringLiteral("\u95ee\u9898\u5173\u952e\u5b57")};
+    const QList<int> columns = columnsOf(Role::Id);
+    const auto column = std::find_if(columns.cbegin(), columns.cend(), [this](int each) {
+        return shown.contains(m_mapping.headings.value(each).simplified().toLower());
+    });
+    return column == columns.cend() ? -1 : *column;
 }
 
 QString TaskCells::text(const TaskTable::Row &row, int column) const
@@ -137,6 +156,7 @@ void TaskCells::apply(const TaskTable::Row &row, TreeItem &subject)
 {
     m_kept.clear();
     m_keptPlaces.clear();
+    m_isShown = m_idColumn >= 0 && !text(row, m_idColumn).isEmpty();
     for (m_column = 0; m_column < row.cells.size(); ++m_column) {
         const Role role = m_mapping.roles.value(m_column, Role::Other);
         const QString value = text(row, m_column);
@@ -175,6 +195,8 @@ bool TaskCells::applyCell(Role role, const QString &value, TreeItem &subject,
 {
     if (role == Role::Other)
         return applyOwn(value, subject, heading);
+    if (role == Role::Id && m_isShown && m_column != m_idColumn)
+        return false;
     if (role == Role::Url)
         return applyUrl(value, subject, heading, line);
     if (isDate(role))

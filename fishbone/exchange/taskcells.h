@@ -41,6 +41,7 @@ private:
     bool applyDate(Role role, const QString &value, TreeItem &subject);
     bool applyUrl(const QString &value, TreeItem &subject, const QString &heading, qint64 line);
     void keep(const QString &heading, const QString &value);
+    int idColumn() const;
     void findOrder(const std::vector<TaskTable::Row> &rows, std::size_t firstRow);
 
     const TableMapping &m_mapping;
@@ -51,4 +52,6 @@ private:
     QHash<QString, std::size_t> m_keptPlaces;            ///< by the headings
     std::vector<std::pair<QString, QStringList>> m_kept; ///< of the row, what no field takes
     int m_column = 0;                                    ///< of the cell
+    int m_idColumn;                                      ///< with what people call a subject
+    bool m_isShown = false;                              ///< whether the row has that
 };

@@ -148,7 +148,9 @@ void TestDiagramExchangeOutlines::shouldReadTitlesOfMarkdown_data()
     row("a &amp; b &#65;&#x42; &nosuch; &", "a & b AB &nosuch; &", "");
     row("\\*a\\* \\q \\\\", "*a* \\q \\", "");
     row("a<br>b<br/>c", "a\nb\nc", "");
-    row("<b>a</b>", "<b>a</b>", "");
+    row("<b>a</b>", "a", "");
+    row("\\<b>a\\</b>", "<b>a</b>", "");
+    row("<unknown>a</unknown>", "<unknown>a</unknown>", "");
     row("[a](http://x)", "a", "http://x");
     row("[a](<http://x y>)", "a", "http://x y");
     row("[a](http://x \"title\")", "a", "http://x");
