@@ -44,7 +44,7 @@ FishInfo *loadNow(DocumentLoader &loader, const QString &source, QString &messag
 QSizeF pageOf(const CommandLine &line)
 {
     if (line.look.page)
-        return line.look.page->size;
+        return line.look.page->drawable();
     return line.options.size.isEmpty() ? QSizeF(16, 9) : QSizeF(line.options.size);
 }
 

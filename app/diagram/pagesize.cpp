@@ -3,6 +3,8 @@
 
 #include <app/diagram/pagesize.h>
 
+#include <fishbone/exchange/diagrampicture.h>
+
 #include <QRegularExpression>
 
 namespace {
@@ -50,6 +52,15 @@ std::optional<PageSize> PageSize::of(const QString &text)
     if (size.isEmpty())
         return std::nullopt;
     return PageSize{size, match.captured(3).compare(QLatin1String("mm"), Qt::CaseInsensitive) == 0};
+}
+
+QSizeF PageSize::drawable() const
+{
+    if (!isMillimetres)
+        return size;
+    constexpr double margins = 2 * DiagramPicture::pageMargin;
+    const QSizeF within = size - QSizeF(margins, margins);
+    return within.isEmpty() ? size : within;
 }
 
 QSizeF PageSize::millimetres() const

@@ -21,6 +21,8 @@ struct PageSize
      * "1920x1080px" or "297x210mm". Nothing for any other text. */
     static std::optional<PageSize> of(const QString &text);
 
+    /** What of it a drawing fills, in the unit of the size: paper keeps a margin. */
+    QSizeF drawable() const;
     /** Its size on paper; a pixel is one of 96 on an inch. */
     QSizeF millimetres() const;
     /** Its size in pixels; paper has 192 on an inch. */

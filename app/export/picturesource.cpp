@@ -167,7 +167,7 @@ const DiagramPicture &PictureSource::picture()
         m_picture = std::make_unique<DiagramPicture>(
             &root(), options, [this](const TreeItem &item) { return m_expanded.contains(&item); });
     if (const auto page = PageSize::of(m_wish.view.page))
-        m_picture->arrangeFor(page->size);
+        m_picture->arrangeFor(page->drawable());
     return *m_picture;
 }
 

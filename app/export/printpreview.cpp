@@ -54,11 +54,12 @@ QString printLegendKey()
     return QStringLiteral("print/legend");
 }
 
-/** The part of the paper that @p device prints on, as PageSize reads it. */
+/** The part of the paper that @p device prints on, as PageSize reads it. Without a unit, since a
+ * sheet in millimetres would keep a margin within what is left of this one. */
 QString pageOf(const QPrinter &device)
 {
     const QSizeF size = device.pageRect(QPrinter::Millimeter).size();
-    return QStringLiteral("%1x%2mm").arg(size.width(), 0, 'f', 1).arg(size.height(), 0, 'f', 1);
+    return QStringLiteral("%1x%2").arg(size.width(), 0, 'f', 1).arg(size.height(), 0, 'f', 1);
 }
 
 } // namespace

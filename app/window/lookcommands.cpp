@@ -99,7 +99,7 @@ void LookCommands::arrange(DiagramView &view, const QString &page) const
     const BusyCursor busy(m_session->container());
     view.arrangeForScreen();
     view.page = page;
-    view.options = DiagramPicture::arrangedFor(PageSize::of(page)->size, root, view.options);
+    view.options = DiagramPicture::arrangedFor(PageSize::of(page)->drawable(), root, view.options);
 }
 
 void LookCommands::addPalettes(QMenu *parent)

@@ -34,6 +34,7 @@ private Q_SLOTS:
     void shouldDrawASlideInTheLookForAPage();
     void shouldMakeAPdfOfThePage_data();
     void shouldMakeAPdfOfThePage();
+    void shouldArrangeForWhatTheMarginsLeave();
     void shouldExplainTheIconsUnlessAskedNotTo();
     void shouldMakeThePictureAsLargeAsAsked();
     void shouldFillTheBackgroundAsAsked_data();
@@ -50,6 +51,7 @@ private:
     QString picture() const { return m_folder->picture(); }
     QProcessEnvironment environment() const { return m_folder->environment(); }
     QImage exported(const QStringList &options);
+    QByteArray drawnSample(const QString &name, const QStringList &options);
 
     QScopedPointer<Folder> m_folder;
 };
@@ -320,22 +322,40 @@ void TestCommandLine::shouldMakeAPdfOfThePage()
     QVERIFY(drawn.width() >= within.width() - 8 || drawn.height() >= within.height() - 8);
 }
 
+/** The sample @p name as an SVG that is drawn with @p options, nothing if that failed. */
+QByteArray TestCommandLine::drawnSample(const QString &name, const QStringList &options)
+{
+    const QString target = path(QStringLiteral("drawn.svg"));
+    QFile::remove(target);
+    const QString sample = TestSupport::sourceFile(QStringLiteral("samples/") + name);
+    const QStringList arguments{QStringLiteral("--export"), target, sample};
+    return run(options + arguments, environment()).code == 0 ? contentOf(target) : QByteArray();
+}
+
+/** The drawing of a sheet is one of a picture that has the proportions of its inner part. */
+void TestCommandLine::shouldArrangeForWhatTheMarginsLeave()
+{
+    const auto box = [this](const char *page) {
+        const QString sample = QStringLiteral("solder-joint-voids.fishbone.json");
+        const QString svg = QString::fromUtf8(
+            drawnSample(sample, {QStringLiteral("--page"), QString::fromLatin1(page)}));
+        return svg.section(QLatin1String("viewBox=\""), 1).section(QLatin1Char('"'), 0, 0);
+    };
+    const QString ofSheet = box("A4");
+    QVERIFY(!ofSheet.isEmpty());
+    QCOMPARE(ofSheet, box("2770x1900px"));
+    QVERIFY(ofSheet != box("2970x2100px"));
+}
+
 void TestCommandLine::shouldExplainTheIconsUnlessAskedNotTo()
 {
-    const auto drawn = [&](const QStringList &options) {
-        const QString target = path(QStringLiteral("drawn.svg"));
-        QFile::remove(target);
-        const QString sample =
-            TestSupport::sourceFile(QStringLiteral("samples/checkout-outage.fishbone.json"));
-        const QStringList arguments{QStringLiteral("--export"), target, sample};
-        return run(options + arguments, environment()).code == 0 ? contentOf(target) : QByteArray();
-    };
-    const QByteArray with = drawn({QStringLiteral("--legend")});
-    const QByteArray without = drawn({QStringLiteral("--no-legend")});
+    const QString sample = QStringLiteral("checkout-outage.fishbone.json");
+    const QByteArray with = drawnSample(sample, {QStringLiteral("--legend")});
+    const QByteArray without = drawnSample(sample, {QStringLiteral("--no-legend")});
     QVERIFY(with.contains(">waiting for approval</text>"));
     QVERIFY(without.contains("</text>"));
     QVERIFY(!without.contains(">waiting for approval</text>"));
-    QCOMPARE(drawn({}), with);
+    QCOMPARE(drawnSample(sample, {}), with);
 }
 
 void TestCommandLine::shouldMakeThePictureAsLargeAsAsked()

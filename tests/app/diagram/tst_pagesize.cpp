@@ -18,6 +18,7 @@ private Q_SLOTS:
     void shouldReadNoOtherText_data();
     void shouldReadNoOtherText();
     void shouldConvertBetweenPaperAndScreen();
+    void shouldKeepAMarginOnPaper();
 };
 
 void TestPageSize::shouldKnowEachOfItsNames()
@@ -77,6 +78,14 @@ void TestPageSize::shouldConvertBetweenPaperAndScreen()
     const PageSize screen{QSizeF(96, 192), false};
     QCOMPARE(screen.pixels(), QSize(96, 192));
     QCOMPARE(screen.millimetres(), QSizeF(25.4, 50.8));
+}
+
+void TestPageSize::shouldKeepAMarginOnPaper()
+{
+    QCOMPARE(PageSize::of(QStringLiteral("A4"))->drawable(), QSizeF(277, 190));
+    QCOMPARE(PageSize::of(QStringLiteral("16:9"))->drawable(), QSizeF(1920, 1080));
+    const PageSize label{QSizeF(60, 20), true}; // as high as the margins
+    QCOMPARE(label.drawable(), QSizeF(60, 20));
 }
 
 FISHBONE_GUILESS_TEST(TestPageSize)
