@@ -10,7 +10,7 @@ namespace {
 constexpr int fewSubjects = 500;
 constexpr int someSubjects = 5000;
 constexpr qreal worthChanging = 1.01;   ///< what another arrangement has to gain
-constexpr qreal worthThreeLines = 1.10; ///< and what one with three lines has to
+constexpr qreal worthThreeLines = 1.05; ///< and what one with three lines has to
 constexpr int usualLines = 2;
 constexpr int mostLines = 3;
 
@@ -26,7 +26,7 @@ Trial trialFor(int subjects)
 {
     using S = ClearSides;
     if (subjects <= fewSubjects)
-        return {{0, 200, 170, 145, 125, 110, 95}, {S::One, S::Uneven, S::Both}, {90, 130}};
+        return {{0, 200, 170, 145, 125, 110, 95}, {S::One, S::Uneven, S::Both}, {70, 90, 130}};
     if (subjects <= someSubjects)
         return {{0, 145, 95}, {S::One, S::Both}, {130}};
     return {{0}, {S::One}, {130}};

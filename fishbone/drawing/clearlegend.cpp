@@ -8,9 +8,10 @@
 #include <algorithm>
 
 namespace {
-constexpr qreal rowHeight = 17;
+constexpr qreal rowHeight = 14;
+constexpr qreal rowStep = 17;
 constexpr qreal entryGap = 14;
-constexpr qreal below = 9;      ///< between the drawing and the legend
+constexpr qreal below = 8;      ///< between the drawing and the legend
 constexpr qreal cornerGap = 12; ///< what stays clear of it in a corner
 constexpr qreal narrowest = 160;
 constexpr qreal symbolSpace = ClearMeasure::icon + ClearMeasure::iconGap;
@@ -40,7 +41,7 @@ QSizeF ClearLegend::arrange(qreal width)
     for (Entry &entry : m_entries) {
         const qreal wide = symbolSpace + entry.text->width();
         if (at.x() > 0 && at.x() + wide > width)
-            at = QPointF(0, at.y() + rowHeight);
+            at = QPointF(0, at.y() + rowStep);
         const qreal middle = at.y() + rowHeight / 2;
         entry.symbol =
             QRectF(at.x(), middle - ClearMeasure::icon / 2, ClearMeasure::icon, ClearMeasure::icon);

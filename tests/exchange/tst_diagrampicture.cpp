@@ -167,7 +167,7 @@ void TestDiagramPicture::shouldBeLargestWhenArranged()
     picture.arrangeFor(slide);
     const double size = picture.textSizeOn(slide);
     QVERIFY(qAbs(size * 2 - picture.textSizeOn(slide * 2)) < 1e-6);
-    for (const double headWidth : {90.0, 130.0}) {
+    for (const double headWidth : {70.0, 90.0, 130.0}) {
         for (const auto sides :
              {DiagramLook::OneSide, DiagramLook::UnevenSides, DiagramLook::BothSides}) {
             DiagramLook::Options options;
