@@ -8,6 +8,9 @@
 #include <app/commandline/reportrun.h>
 #include <app/commandline/startup.h>
 #include <app/common/language.h>
+#ifdef FISHBONE_DBUS
+#include <app/common/treeitemrole.h>
+#endif
 #include <app/files/documentloader.h>
 #include <app/window/mainwindow.h>
 
@@ -68,6 +71,9 @@ int showWindow(const StartUp &startUp, const CommandLine &line)
     for (const QString &source : line.documents)
         sources.append(absolute(source));
     useDataFolder();
+#ifdef FISHBONE_DBUS
+    TreeItemRole::install();
+#endif
     MainWindow window;
     window.show();
     window.offerRecovery();

@@ -76,6 +76,25 @@
     </message>
 </context>
 <context>
+    <name>AccessibleSubject</name>
+    <message>
+        <source>level %1</source>
+        <translation>level %1</translation>
+    </message>
+    <message>
+        <source>Contract</source>
+        <translation>Contract</translation>
+    </message>
+    <message>
+        <source>Expand</source>
+        <translation>Expand</translation>
+    </message>
+    <message>
+        <source>Select</source>
+        <translation>Select</translation>
+    </message>
+</context>
+<context>
     <name>ActionList</name>
     <message>
         <source>no date</source>
@@ -3482,8 +3501,8 @@ Do you want to save your changes?</translation>
         <translation>Filter by title</translation>
     </message>
     <message>
-        <source>Documents</source>
-        <translation>Documents</translation>
+        <source>Subjects</source>
+        <translation>Subjects</translation>
     </message>
 </context>
 <context>

@@ -76,6 +76,25 @@
     </message>
 </context>
 <context>
+    <name>AccessibleSubject</name>
+    <message>
+        <source>level %1</source>
+        <translation>第 %1 级</translation>
+    </message>
+    <message>
+        <source>Contract</source>
+        <translation>折叠</translation>
+    </message>
+    <message>
+        <source>Expand</source>
+        <translation>展开</translation>
+    </message>
+    <message>
+        <source>Select</source>
+        <translation>选择</translation>
+    </message>
+</context>
+<context>
     <name>ActionList</name>
     <message>
         <source>no date</source>
@@ -3469,8 +3488,8 @@ Do you want to save your changes?</source>
         <translation>按标题筛选</translation>
     </message>
     <message>
-        <source>Documents</source>
-        <translation>文档</translation>
+        <source>Subjects</source>
+        <translation>主题</translation>
     </message>
 </context>
 <context>

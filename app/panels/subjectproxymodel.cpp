@@ -3,6 +3,8 @@
 
 #include <app/panels/subjectproxymodel.h>
 
+#include <app/diagram/marknames.h>
+
 #include <fishbone/items/taskstatusinfo.h>
 #include <fishbone/model/fishmodel.h>
 #include <fishbone/model/treeitem.h>
@@ -25,6 +27,11 @@ QString SubjectProxyModel::statusIcon(const QModelIndex &index) const
     if (!subject || subject->isTopVaildItem())
         return QString();
     return TaskStatusInfo(TaskStatus(subject->status()), subject->progress()).iconPath();
+}
+
+QString SubjectProxyModel::statusName(const QModelIndex &index) const
+{
+    return statusIcon(index).isEmpty() ? QString() : MarkNames::of(subjectAt(index)->status());
 }
 
 QVariant SubjectProxyModel::data(const QModelIndex &index, int role) const
@@ -59,4 +66,10 @@ bool SubjectProxyModel::filterAcceptsRow(int sourceRow, const QModelIndex &sourc
         !m_shown->contains(model->getTreeItem(model->index(sourceRow, 0, sourceParent))))
         return false;
     return FishProxyModel::filterAcceptsRow(sourceRow, sourceParent);
+}
+
+bool SubjectProxyModel::filterAcceptsColumn(int sourceColumn, const QModelIndex &sourceParent) const
+{
+    Q_UNUSED(sourceParent)
+    return sourceColumn == 0;
 }

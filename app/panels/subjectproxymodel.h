@@ -33,6 +33,9 @@ public:
     /** The path of the icon for the status of the subject at @p index; empty for none. */
     QString statusIcon(const QModelIndex &index) const;
 
+    /** The name of that status; empty for none. */
+    QString statusName(const QModelIndex &index) const;
+
     /** Shows of the subjects below heads none but @p subjects, which are only compared; nothing for
      * all. */
     void setShown(const std::optional<QSet<const TreeItem *>> &subjects);
@@ -40,6 +43,8 @@ public:
     bool isRestricted() const { return m_shown.has_value(); }
 
     bool filterAcceptsRow(int sourceRow, const QModelIndex &sourceParent) const override;
+    /** The title alone: nobody who looks at or listens to the tree wants identities. */
+    bool filterAcceptsColumn(int sourceColumn, const QModelIndex &sourceParent) const override;
 
 private:
     const TreeItem *subjectAt(const QModelIndex &index) const;

@@ -4,6 +4,7 @@
 #include <app/panels/subjecttree.h>
 
 #include <app/common/language.h>
+#include <app/panels/accessiblesubjects.h>
 #include <app/panels/subjectproxymodel.h>
 
 #include <fishbone/model/fishmodel.h>
@@ -82,6 +83,7 @@ private:
 SubjectTreeView::SubjectTreeView(QWidget *parent)
     : QTreeView(parent)
 {
+    AccessibleSubjects::install();
     setHeaderHidden(true);
     setUniformRowHeights(true);
     setSelectionMode(ExtendedSelection);
@@ -116,8 +118,22 @@ void SubjectTreeView::currentChanged(const QModelIndex &current, const QModelInd
 {
     // The base class looks for the current row, for which it lays out. When many rows go one after
     // the other, that would be done for each of them.
-    if (!m_areRowsGoing)
-        QTreeView::currentChanged(current, previous);
+    if (m_areRowsGoing)
+        return;
+    // Not that of the tree view, which adds nothing but a report in which a row is a number that
+    // counts a heading in.
+    QAbstractItemView::currentChanged(current, previous);
+    if (hasFocus())
+        AccessibleSubjects::report(this, current, QAccessible::Focus);
+}
+
+void SubjectTreeView::selectionChanged(const QItemSelection &selected,
+                                       const QItemSelection &deselected)
+{
+    QAbstractItemView::selectionChanged(selected, deselected); // for the same reason
+    const auto first = [](const QItemSelection &rows) { return rows.indexes().value(0); };
+    AccessibleSubjects::report(this, first(selected), QAccessible::Selection);
+    AccessibleSubjects::report(this, first(deselected), QAccessible::SelectionRemove);
 }
 
 void SubjectTreeView::startDrag(Qt::DropActions supportedActions)
@@ -150,11 +166,9 @@ SubjectTree::SubjectTree(FishModel *model, QWidget *parent)
     m_filter->setClearButtonEnabled(true);
     m_view->setObjectName(QStringLiteral("documents"));
     m_view->setItemDelegate(new SubjectDelegate(this, m_view));
-    Language::bind(m_view, &QWidget::setAccessibleName, [] { return tr("Documents"); });
+    Language::bind(m_view, &QWidget::setAccessibleName, [] { return tr("Subjects"); });
     m_proxy->setSourceModel(model);
     m_view->setModel(m_proxy);
-    for (int column = 1; column < m_proxy->columnCount(); ++column)
-        m_view->hideColumn(column);
 
     auto *const layout = new QVBoxLayout(this);
     layout->setContentsMargins(4, 4, 4, 4);
@@ -211,7 +225,7 @@ void SubjectTree::selectSubjects(const QModelIndexList &indexes)
             continue; // filtered out
         if (!first.isValid())
             first = row;
-        selection.select(row, row.siblingAtColumn(m_proxy->columnCount() - 1));
+        selection.select(row, row);
     }
     QItemSelectionModel *const model = m_view->selectionModel();
     if (first.isValid() && !indexes.contains(m_proxy->mapToSource(model->currentIndex())))

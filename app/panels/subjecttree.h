@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <QItemSelection>
 #include <QModelIndexList>
 #include <QSet>
 #include <QTreeView>
@@ -33,6 +34,8 @@ protected:
     bool event(QEvent *event) override;
     void startDrag(Qt::DropActions supportedActions) override;
     void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
+    void selectionChanged(const QItemSelection &selected,
+                          const QItemSelection &deselected) override;
 
 private:
     bool m_areRowsGoing = false;

@@ -3,6 +3,7 @@
 
 #include <app/window/mainwindow.h>
 
+#include <app/common/accessiblepages.h>
 #include <app/common/actionset.h>
 #include <app/common/canvastheme.h>
 #include <app/common/language.h>
@@ -89,6 +90,7 @@ MainWindow::MainWindow(QWidget *parent)
     , m_tabs(new DocumentTabs(m_theme, this))
     , m_drops(new FileDrop(this))
 {
+    AccessiblePages::install();
     setWindowIcon(QIcon(QStringLiteral(":/app/icon.svg")));
     setCentralWidget(m_tabs);
     m_theme->follow(palette());
