@@ -261,7 +261,8 @@ bool TaskCells::applyNumber(Role role, const QString &value, TreeItem &subject,
     const int type = value.trimmed().toInt(&isNumber);
     switch (role) {
     case Role::Status:
-        number = TaskValues::status(value);
+        number = heading.toLower() == QLatin1String("current state") ? TaskValues::storyState(value)
+                                                                     : TaskValues::status(value);
         break;
     case Role::Priority:
         number = TaskValues::priority(value);

@@ -57,7 +57,7 @@ std::optional<int> numberOrWord(const QString &text, const QHash<QString, int> &
 std::optional<int> numberBeforeAWord(const QString &text)
 {
     static const QRegularExpression form(
-        QStringLiteral("^\\s*([0-9])\\s*[-.:]\\s*[A-Za-z]{1,30}$"));
+        QStringLiteral("^\\s*[Pp]?([0-9])\\s*[-.:]\\s*[A-Za-z]{1,30}$"));
     const auto match = form.match(text.left(50));
     return match.hasMatch() ? std::make_optional(match.captured(1).toInt()) : std::nullopt;
 }
@@ -240,6 +240,16 @@ std::optional<int> status(const QString &text)
 {
     static const QHash<QString, int> words = tableOf(statusWords);
     return numberOrWord(text, words);
+}
+
+std::optional<int> storyState(const QString &text)
+{
+    const QString word = plainWord(text);
+    if (word == QLatin1String("delivered"))
+        return TaskStatuses::approval;
+    if (word == QLatin1String("rejected"))
+        return TaskStatuses::waiting;
+    return status(text);
 }
 
 std::optional<int> priority(const QString &text)

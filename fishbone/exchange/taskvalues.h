@@ -15,9 +15,13 @@ namespace TaskValues {
 /** The number of a status (TaskStatus): the number itself or one of many words for it. */
 std::optional<int> status(const QString &text);
 
+/** The number of the status of a story, which is delivered to be accepted, and rejected to be done
+ * again. */
+std::optional<int> storyState(const QString &text);
+
 /**
- * A priority, 1 for the highest: the number itself, alone or before a word ("2 - High"), or a word,
- * -1 for words such as "none". The words of a scale of five are 1 to 5.
+ * A priority, 1 for the highest: the number itself, alone or before a word ("p2 - High"), or a
+ * word, -1 for words such as "none". The words of a scale of five are 1 to 5.
  */
 std::optional<int> priority(const QString &text);
 

@@ -120,6 +120,8 @@ private Q_SLOTS:
     void shouldHaveTenFilesOfEachForeignFormat();
     void shouldHaveTenFilesOfEachProgram_data();
     void shouldHaveTenFilesOfEachProgram();
+    void shouldSayWhereEachProgramIsDocumented_data() { shouldHaveTenFilesOfEachProgram_data(); }
+    void shouldSayWhereEachProgramIsDocumented();
     void shouldExpectSomethingOfEachFile();
     void shouldReadWhatProgramsWrite_data();
     void shouldReadWhatProgramsWrite();
@@ -209,6 +211,22 @@ void TestImportFixtures::shouldHaveTenFilesOfEachProgram()
                name.startsWith(program + QLatin1Char('.'));
     });
     QVERIFY2(count >= 10, qPrintable(QString::number(count)));
+}
+
+/** What the expectations rest on: a row for each program, with what was found or that nothing was.
+ */
+void TestImportFixtures::shouldSayWhereEachProgramIsDocumented()
+{
+    QFETCH(Format, format);
+    QFETCH(QString, program);
+    const QString table = QString::fromUtf8(
+        bytesOf(TestSupport::sourceFile(QStringLiteral("tests/exchange/documentation.md"))));
+    const QStringList rows =
+        table.split(QLatin1Char('\n'))
+            .filter(QStringLiteral("| %1 | %2 | ").arg(DiagramExchange::id(format), program));
+    QCOMPARE(rows.size(), 1);
+    QVERIFY2(!rows.constFirst().section(QLatin1Char('|'), 3, 3).trimmed().isEmpty(),
+             qPrintable(program));
 }
 
 void TestImportFixtures::shouldExpectSomethingOfEachFile()
