@@ -3,11 +3,14 @@
 
 #include <fishbone/drawing/classicmarks.h>
 
+#include <fishbone/drawing/clearcolors.h>
+#include <fishbone/items/headpictures.h>
 #include <fishbone/items/spearitem.h>
 #include <fishbone/items/textitem.h>
 #include <fishbone/model/subjectmarks.h>
 
 #include <QAbstractTextDocumentLayout>
+#include <QFontMetricsF>
 #include <QPainter>
 #include <QPen>
 #include <QTextBlock>
@@ -49,6 +52,25 @@ void paintLines(QPainter &painter, const TextItem &title, bool isThrough)
     }
 }
 
+constexpr qreal votesHeight = 13;
+constexpr qreal votesPadding = 5;      ///< beside the number, left and right together
+constexpr int votesFont = 10;          ///< pixels
+constexpr qreal widestAtLetters = 16;  ///< between those of a level bone and those of its parent
+constexpr qreal letterDistance = 13.5; ///< of a level bone's start from the letters of its title
+constexpr qreal endDistance = 20;      ///< of a slanted bone's end, less than its title leaves free
+
+/** The middle of the number of votes, which is @p width wide. */
+QPointF votesPlace(const SpearItem &spear, qreal width)
+{
+    const QLineF bone = spear.line();
+    if (spear.isHeader())
+        return bone.p1() +
+               QPointF(width / 2, (votesHeight - HeadPictures::headSize().height()) / 2.0);
+    if (spear.direction() == 0)
+        return bone.p1() + QPointF(spear.side() * (letterDistance - width / 2), 0);
+    return bone.pointAt(1 - endDistance / qMax(bone.length(), endDistance));
+}
+
 } // namespace
 
 void ClassicMarks::paint(QPainter &painter, const SpearItem &spear)
@@ -69,5 +91,32 @@ void ClassicMarks::paint(QPainter &painter, const SpearItem &spear)
         painter.setPen(verdictPen(verdict, spear.textColor(spear.textState())));
         paintLines(painter, *title, verdict == Verdict::RuledOut);
     }
+    painter.restore();
+}
+
+void ClassicMarks::paintVotes(QPainter &painter, const SpearItem &spear)
+{
+    const int votes = spear.treeItem() ? SubjectMarks::votes(*spear.treeItem()) : 0;
+    if (votes < 1 || spear.isMoving())
+        return;
+    QFont font = spear.textFont(SpearStyle::ssNormal);
+    font.setPixelSize(votesFont);
+    const QString number = QString::number(votes);
+    const qreal width =
+        qMax(QFontMetricsF(font).horizontalAdvance(number) + votesPadding, votesHeight);
+    const bool isNarrow = spear.direction() == 0 && !spear.isHeader();
+    const qreal scale = isNarrow ? qMin(1.0, widestAtLetters / width) : 1;
+    const QRectF rect(-width / 2, -votesHeight / 2, width, votesHeight);
+    const QColor fill = spear.textColor(SpearStyle::ssNormal);
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.translate(votesPlace(spear, width * scale));
+    painter.scale(scale, scale);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(fill);
+    painter.drawRoundedRect(rect, rect.height() / 2, rect.height() / 2);
+    painter.setFont(font);
+    painter.setPen(ClearColors::inkOn(fill));
+    painter.drawText(rect, Qt::AlignCenter | Qt::TextDontClip, number);
     painter.restore();
 }

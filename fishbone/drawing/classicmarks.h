@@ -14,4 +14,9 @@ namespace ClassicMarks {
  * through what is ruled out, a frame around the root cause. Nothing without a verdict. */
 void paint(QPainter &painter, const SpearItem &spear);
 
+/** Paints how many have voted for @p spear on its bone, in its coordinates: where no title of its
+ * own or of a bone below it stands, and within what the spear covers without votes, too. Nothing
+ * without votes. */
+void paintVotes(QPainter &painter, const SpearItem &spear);
+
 } // namespace ClassicMarks

@@ -9,6 +9,7 @@
 
 #include <QPainter>
 
+#include <fishbone/drawing/classicmarks.h>
 #include <fishbone/items/headpictures.h>
 #include <fishbone/items/spearitem.h>
 #include <fishbone/items/spearpasses.h>
@@ -70,6 +71,7 @@ void ClassicLook::paint(QPainter &painter, const SpearItem &spear) const
         paintHeader(painter, spear);
     else
         paintBone(painter, spear);
+    ClassicMarks::paintVotes(painter, spear);
 }
 
 void ClassicLook::size(const SpearTree &tree) const

@@ -4,7 +4,6 @@
 #include <fishbone/undo/editattributes.h>
 
 #include <fishbone/items/spearitem.h>
-#include <fishbone/items/textitem.h>
 #include <fishbone/model/documentview.h>
 #include <fishbone/model/fishmodel.h>
 #include <fishbone/model/jsonnodes.h>
@@ -93,12 +92,8 @@ struct EditAttributes::Private
                 attribute->copy(target, record);
             if (target.spear())
                 target.spear()->updateMovableFlag();
-            if (changedOthers.isEmpty())
-                return;
-            storeOthers(target, changedOthers, state);
-            // Marks may show where nothing is laid out anew.
-            if (target.spear() && target.spear()->textItem())
-                target.spear()->textItem()->update();
+            if (!changedOthers.isEmpty())
+                storeOthers(target, changedOthers, state); // which paints the bone anew
         }
     };
 

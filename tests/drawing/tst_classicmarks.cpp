@@ -10,7 +10,11 @@
 #include <fishbone/model/subjectmarks.h>
 #include <fishbone/undo/editattributes.h>
 
+#include <QAbstractTextDocumentLayout>
 #include <QSignalSpy>
+#include <QTextBlock>
+#include <QTextDocument>
+#include <QTextLayout>
 #include <QtTest>
 
 using namespace TestSupport;
@@ -44,6 +48,37 @@ int redIn(const QImage &image)
     return count;
 }
 
+QString branched()
+{
+    return QStringLiteral(
+        "Effect[Man[Training[Course],Shifts[Long]],Machine[Age],Method[Order],Dirt]");
+}
+
+/** Where the letters of a bone's title are in the scene, line by line. */
+QList<QPolygonF> lettersOf(const SpearItem &spear)
+{
+    QList<QPolygonF> lines;
+    const TextItem &text = *spear.textItem();
+    const QTextDocument &document = *text.document();
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+        const QPointF corner = document.documentLayout()->blockBoundingRect(block).topLeft();
+        for (int i = 0; i < block.layout()->lineCount(); ++i)
+            lines.append(
+                text.mapToScene(block.layout()->lineAt(i).naturalTextRect().translated(corner)));
+    }
+    return lines;
+}
+
+/** All that could move when something is laid out differently. */
+QVector<QRectF> placesIn(const EditorFixture &fish)
+{
+    QVector<QRectF> places{fish.editor.scene()->itemsBoundingRect()};
+    const QList<QGraphicsItem *> items = fish.editor.scene()->items();
+    for (const QGraphicsItem *item : items)
+        places.append(item->sceneBoundingRect());
+    return places;
+}
+
 } // namespace
 
 /** What the classic look shows of marks. */
@@ -57,6 +92,10 @@ private Q_SLOTS:
     void shouldStayWithinTheTitle();
     void shouldMarkEveryLineOfATitle();
     void shouldRepaintWhatIsMarked();
+    void shouldShowVotesOnTheBone_data();
+    void shouldShowVotesOnTheBone();
+    void shouldLayOutAsWithoutVotes();
+    void shouldRepaintTheVotes();
 };
 
 void TestClassicMarks::shouldShowEachVerdictInItsOwnWay()
@@ -154,6 +193,90 @@ void TestClassicMarks::shouldRepaintWhatIsMarked()
             repainted |= rect;
     }
     QVERIFY(repainted.contains(text.center()));
+}
+
+void TestClassicMarks::shouldShowVotesOnTheBone_data()
+{
+    QTest::addColumn<QString>("bone");
+    QTest::addColumn<int>("votes");
+    for (const char *bone : {"Man", "Machine", "Training", "Age", "Course", "Dirt"}) {
+        for (int votes : {1, 27})
+            QTest::addRow("%d for %s", votes, bone) << QString::fromLatin1(bone) << votes;
+    }
+}
+
+/** Within what the bone covers, and over no letter of any title. */
+void TestClassicMarks::shouldShowVotesOnTheBone()
+{
+    QFETCH(QString, bone);
+    QFETCH(int, votes);
+    EditorFixture fish(branched());
+    fish.editor.expandAll();
+    const QPointF origin = fish.editor.scene()->itemsBoundingRect().topLeft();
+    const QImage before = picture(fish);
+    SubjectMarks::setVotes(*fish.subject(bone), votes);
+    const QImage after = picture(fish);
+    QList<QPolygonF> letters;
+    for (const char *each : {"Man", "Training", "Course", "Shifts", "Long", "Machine", "Age",
+                             "Method", "Order", "Dirt"})
+        letters += lettersOf(*fish.spear(QString::fromLatin1(each)));
+    const QRectF own = fish.spear(bone)->sceneBoundingRect();
+    int changed = 0;
+    for (int y = 0; y < after.height(); ++y) {
+        for (int x = 0; x < after.width(); ++x) {
+            if (after.pixel(x, y) == before.pixel(x, y))
+                continue;
+            ++changed;
+            const QPointF pos = origin + QPointF(x + 0.5, y + 0.5);
+            QVERIFY2(own.adjusted(-1, -1, 1, 1).contains(pos),
+                     qPrintable(QStringLiteral("outside at %1 %2").arg(x).arg(y)));
+            for (const QPolygonF &line : qAsConst(letters))
+                QVERIFY2(!line.containsPoint(pos, Qt::WindingFill),
+                         qPrintable(QStringLiteral("on letters at %1 %2").arg(x).arg(y)));
+        }
+    }
+    QVERIFY2(changed > 80, qPrintable(QString::number(changed)));
+    SubjectMarks::setVotes(*fish.subject(bone), votes + 1);
+    QVERIFY(picture(fish) != after); // another number
+    SubjectMarks::setVotes(*fish.subject(bone), 0);
+    QCOMPARE(picture(fish), before);
+}
+
+void TestClassicMarks::shouldLayOutAsWithoutVotes()
+{
+    EditorFixture plain(branched());
+    plain.editor.expandAll();
+    EditorFixture voted(branched());
+    for (const char *bone : {"Effect", "Man", "Training", "Course"})
+        SubjectMarks::setVotes(*voted.subject(QString::fromLatin1(bone)), 12);
+    voted.editor.updateFish(true);
+    voted.editor.expandAll();
+    QCOMPARE(placesIn(voted), placesIn(plain));
+}
+
+void TestClassicMarks::shouldRepaintTheVotes()
+{
+    EditorFixture fish(branched());
+    fish.editor.expandAll();
+    QVERIFY(fish.show());
+    QTest::qWait(20);
+    const auto seen = [&fish] { return fish.editor.view()->viewport()->grab().toImage(); };
+    const QImage before = seen();
+    const QJsonObject plain = EditAttributes::stateOf(*fish.subject(title));
+    QJsonObject voted = plain;
+    SubjectMarks::setVotes(voted, 8);
+    QSignalSpy changed(fish.editor.scene(), &QGraphicsScene::changed);
+    QVERIFY(fish.editor.run(
+        std::make_unique<EditAttributes>(&fish.model, fish.index(title), plain, voted)));
+    QTRY_VERIFY(!changed.isEmpty());
+    QRectF repainted;
+    for (const QVariantList &arguments : qAsConst(changed)) {
+        const auto rects = arguments.at(0).value<QList<QRectF>>();
+        for (const QRectF &rect : rects)
+            repainted |= rect;
+    }
+    QVERIFY(repainted.contains(fish.spear(title)->mapToScene(fish.spear(title)->line().p1())));
+    QVERIFY(seen() != before);
 }
 
 FISHBONE_TEST(TestClassicMarks)
