@@ -63,6 +63,13 @@
         <source>Shows the bones below</source>
         <translation>Shows the bones below</translation>
     </message>
+    <message numerus="yes">
+        <source>%n vote(s)</source>
+        <translation>
+            <numerusform>%n vote</numerusform>
+            <numerusform>%n votes</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>AccessibleDiagram</name>
@@ -1186,6 +1193,17 @@ The ending .html, .pdf or .md tells the format; .md has its picture in a file be
     <message>
         <source>Close</source>
         <translation>Close</translation>
+    </message>
+</context>
+<context>
+    <name>DrawingFilter</name>
+    <message>
+        <source>left out by the filter</source>
+        <translation>left out by the filter</translation>
+    </message>
+    <message>
+        <source>leads to what the filter shows</source>
+        <translation>leads to what the filter shows</translation>
     </message>
 </context>
 <context>

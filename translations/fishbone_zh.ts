@@ -63,6 +63,12 @@
         <source>Shows the bones below</source>
         <translation>显示下级鱼骨</translation>
     </message>
+    <message numerus="yes">
+        <source>%n vote(s)</source>
+        <translation>
+            <numerusform>%n 票</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>AccessibleDiagram</name>
@@ -1181,6 +1187,17 @@ The ending .html, .pdf or .md tells the format; .md has its picture in a file be
     <message>
         <source>Close</source>
         <translation>关闭</translation>
+    </message>
+</context>
+<context>
+    <name>DrawingFilter</name>
+    <message>
+        <source>left out by the filter</source>
+        <translation>被筛选排除</translation>
+    </message>
+    <message>
+        <source>leads to what the filter shows</source>
+        <translation>通向筛选显示的内容</translation>
     </message>
 </context>
 <context>

@@ -73,19 +73,26 @@ bool DrawingFilter::findHits()
     return m_hits != hitsBefore || m_above != aboveBefore;
 }
 
-/** Gives each bone its opacity. That of the head, on whose line all others stand, stays. */
+/** Gives each bone its opacity, and says why to those who do not see it. That of the head, on whose
+ * line all others stand, stays. */
 void DrawingFilter::dim()
 {
     SpearItem *const head = m_session->editor()->headSpear();
     if (!head || (!isActive() && !m_isDimmed))
         return;
     m_isDimmed = isActive();
+    const QString out = tr("left out by the filter");
+    const QString onTheWay = tr("leads to what the filter shows");
     visitSpears(head, [&](SpearItem *spear) {
         const TreeItem *const subject = spear->treeItem();
         const bool isFull = !m_isDimmed || spear == head || m_hits.contains(subject);
         // A wanted bone may be an item below one that is not.
         spear->setFlag(QGraphicsItem::ItemIgnoresParentOpacity, m_isDimmed && spear != head);
-        spear->setOpacity(isFull ? 1 : m_above.contains(subject) ? wayOpacity : otherOpacity);
+        const bool isOnTheWay = m_above.contains(subject);
+        spear->setOpacity(isFull ? 1 : isOnTheWay ? wayOpacity : otherOpacity);
+        const QVariant note = isFull ? QVariant() : isOnTheWay ? QVariant(onTheWay) : QVariant(out);
+        if (note != spear->data(SpearItem::noteKey))
+            spear->setData(SpearItem::noteKey, note);
         return true;
     });
 }

@@ -4,12 +4,14 @@
 #include <fishbone/accessibility/accessiblebone.h>
 
 #include <fishbone/accessibility/accessiblediagram.h>
+#include <fishbone/drawing/clearcontent.h>
 #include <fishbone/editor/fisheditor.h>
 #include <fishbone/editor/fishscene.h>
 #include <fishbone/items/sceneselection.h>
 #include <fishbone/items/spearitem.h>
 #include <fishbone/items/taskstatusinfo.h>
 #include <fishbone/items/textitem.h>
+#include <fishbone/model/subjectmarks.h>
 #include <fishbone/model/treeitem.h>
 
 #include <QStringList>
@@ -163,8 +165,15 @@ QString AccessibleBone::description() const
         parts.append(status);
     if (!status.isEmpty() || subject->progress() != 0)
         parts.append(QStringLiteral("%1 %").arg(subject->progress()));
+    if (const QString verdict = ClearContent::meaningOf(SubjectMarks::verdict(*subject));
+        !verdict.isEmpty())
+        parts.append(verdict);
+    if (const int votes = SubjectMarks::votes(*subject); votes > 0)
+        parts.append(tr("%n vote(s)", nullptr, votes));
     if (!subject->url().isEmpty())
         parts.append(tr("linked"));
+    if (const QString note = spear->data(SpearItem::noteKey).toString(); !note.isEmpty())
+        parts.append(note);
     return parts.join(QStringLiteral(", "));
 }
 

@@ -63,6 +63,12 @@ public:
     };
 
     /**
+     * The key of QGraphicsItem::data() under which a host keeps, as a text, what it shows of a bone
+     * by other means, such as why the bone is pale. Assistive technology tells it with the rest.
+     */
+    static constexpr int noteKey = 1;
+
+    /**
      * A spear titled @p text. @p direction is 0 for a horizontal bone, 1 or -1 for a slanted one
      * on either side of its parent; @p spearSize is the extra height of a horizontal bone.
      */

@@ -8,6 +8,7 @@
 #include <fishbone/accessibility/accessiblediagram.h>
 #include <fishbone/items/taskstatusinfo.h>
 #include <fishbone/items/textitem.h>
+#include <fishbone/model/subjectmarks.h>
 #include <fishbone/undo/undostack.h>
 #include <tests/accessibility/accessiblestage.h>
 #include <tests/program/testprogram.h>
@@ -28,6 +29,7 @@ private Q_SLOTS:
     void shouldKeepOneEntryABone();
     void shouldTellLevelAndDescription_data();
     void shouldTellLevelAndDescription();
+    void shouldTellWhatATeamHasMarked();
     void shouldFollowTheTitle();
     void shouldNameTheDiagram();
     void shouldTellStates();
@@ -145,6 +147,18 @@ void TestAccessibleDiagram::shouldTellLevelAndDescription()
     QCOMPARE(f.bone("Rust")->text(QAccessible::Value), QStringLiteral("2"));
     QCOMPARE(f.head()->text(QAccessible::Value), QStringLiteral("0"));
     QCOMPARE(f.bone("Ill")->text(QAccessible::Value), QStringLiteral("3"));
+}
+
+void TestAccessibleDiagram::shouldTellWhatATeamHasMarked()
+{
+    Fixture f;
+    f.editor.expandAll();
+    TreeItem &rust = *f.subject(QStringLiteral("Rust"));
+    SubjectMarks::setVerdict(rust, Verdict::RuledOut);
+    SubjectMarks::setVotes(rust, 3);
+    rust.spear()->setData(SpearItem::noteKey, QStringLiteral("pale"));
+    QCOMPARE(f.bone("Rust")->text(QAccessible::Description),
+             QStringLiteral("level 2, ruled out, 3 vote(s), pale"));
 }
 
 void TestAccessibleDiagram::shouldFollowTheTitle()

@@ -13,6 +13,7 @@
 #include <tests/program/testprogram.h>
 #include <tests/support/dialogchecks.h>
 
+#include <QAccessible>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDateTime>
@@ -127,6 +128,7 @@ private Q_SLOTS:
     void shouldLeavePicturesAlone();
     void shouldGoForEachDocumentAlone();
     void shouldNameEveryControl();
+    void shouldTellAssistiveTechnologyWhatIsDimmed();
 };
 
 void TestFilterBar::shouldDimTheOthersAsOneTypes_data()
@@ -317,6 +319,29 @@ void TestFilterBar::shouldNameEveryControl()
 {
     FilterFixture app;
     QCOMPARE(TestSupport::namelessControls(*app.bar()), QStringList());
+}
+
+void TestFilterBar::shouldTellAssistiveTechnologyWhatIsDimmed()
+{
+    FilterFixture f;
+    QAccessibleInterface *const diagram =
+        QAccessible::queryAccessibleInterface(f.window.editor()->view());
+    const auto told = [&](std::initializer_list<int> path) {
+        const QAccessibleInterface *bone = diagram->child(0);
+        for (int row : path)
+            bone = bone->child(row);
+        return bone->text(QAccessible::Name) + QLatin1String(": ") +
+               bone->text(QAccessible::Description);
+    };
+    FilterFixture::type("ill");
+    QCOMPARE(told({}), QStringLiteral("Late: level 0"));
+    QCOMPARE(told({0}), QStringLiteral("People: level 1, leads to what the filter shows"));
+    QCOMPARE(told({0, 0, 0}), QStringLiteral("Illness: level 3"));
+    QCOMPARE(told({1}), QStringLiteral("Machines: level 1, left out by the filter"));
+    QCOMPARE(told({2, 0}), QStringLiteral("Rust: level 2, left out by the filter"));
+    FilterFixture::press(Qt::Key_Escape);
+    QCOMPARE(told({1}), QStringLiteral("Machines: level 1"));
+    QCOMPARE(told({0}), QStringLiteral("People: level 1"));
 }
 
 FISHBONE_TEST(TestFilterBar)
