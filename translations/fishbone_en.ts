@@ -1856,6 +1856,20 @@ Do you want to save your changes?</translation>
         <source>(beginning)</source>
         <translation>(beginning)</translation>
     </message>
+    <message numerus="yes">
+        <source>%1 (%2 of %n)</source>
+        <translation>
+            <numerusform>%1 (%2 of %n)</numerusform>
+            <numerusform>%1 (%2 of %n)</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 (%n times)</source>
+        <translation>
+            <numerusform>%1 (%n times)</numerusform>
+            <numerusform>%1 (%n times)</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>HitList</name>

@@ -1847,6 +1847,18 @@ Do you want to save your changes?</source>
         <source>(beginning)</source>
         <translation>（初始状态）</translation>
     </message>
+    <message numerus="yes">
+        <source>%1 (%2 of %n)</source>
+        <translation>
+            <numerusform>%1（第 %2 次，共 %n 次）</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 (%n times)</source>
+        <translation>
+            <numerusform>%1（%n 次）</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>HitList</name>

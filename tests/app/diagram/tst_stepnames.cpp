@@ -8,15 +8,16 @@
 #include <tests/app/appfixture.h>
 #include <tests/program/testprogram.h>
 
-#include <QListWidget>
+#include <QTreeWidget>
 
 namespace {
 
 /** The last step that the history panel lists. */
 QString lastStep(const AppFixture &app)
 {
-    const auto *const list = app.widget<QListWidget>("history");
-    return list->item(list->count() - 1)->text();
+    const auto *const list = app.widget<QTreeWidget>("history");
+    const QTreeWidgetItem *const row = list->topLevelItem(list->topLevelItemCount() - 1);
+    return (row->childCount() > 0 ? row->child(row->childCount() - 1) : row)->text(0);
 }
 
 void type(const char *text)

@@ -4,16 +4,30 @@
 #include <tests/app/appfixture.h>
 #include <tests/program/testprogram.h>
 
-#include <QListWidget>
+#include <fishbone/model/subjectmarks.h>
+
+#include <QDockWidget>
+#include <QTreeWidget>
 
 namespace {
 
-QStringList rows(const QListWidget &list)
+QStringList rows(const QTreeWidget &list)
 {
     QStringList texts;
-    for (int row = 0; row < list.count(); ++row)
-        texts.append(list.item(row)->text());
+    for (int row = 0; row < list.topLevelItemCount(); ++row)
+        texts.append(list.topLevelItem(row)->text(0));
     return texts;
+}
+
+int currentRow(const QTreeWidget &list)
+{
+    return list.indexOfTopLevelItem(list.currentItem());
+}
+
+/** Where @p row is seen, to be clicked. */
+QPoint placeOf(const QTreeWidget &list, const QTreeWidgetItem *row)
+{
+    return list.visualItemRect(row).center();
 }
 
 QString original()
@@ -35,6 +49,8 @@ private Q_SLOTS:
     void shouldMarkTheDocumentOnUndo();
     void shouldListTheHistoryAndJump();
     void shouldGoOnUndoingBeyondTheBound();
+    void shouldFoldStepsOfOneKind();
+    void shouldKeepARunUnfolded();
 };
 
 void TestUndoHistory::initTestCase()
@@ -88,7 +104,7 @@ void TestUndoHistory::shouldUndoInTheCurrentTabAlone()
     const QString changed = app.text();
     app.trigger("new");
     QVERIFY(!app.action("undo")->isEnabled());
-    QCOMPARE(app.widget<QListWidget>("history")->count(), 1);
+    QCOMPARE(app.widget<QTreeWidget>("history")->topLevelItemCount(), 1);
     app.trigger("child");
     app.trigger("undo");
     QCOMPARE(app.text(), QStringLiteral("自由主题"));
@@ -97,7 +113,7 @@ void TestUndoHistory::shouldUndoInTheCurrentTabAlone()
     app.showTab(0);
     QCOMPARE(app.text(), changed);
     QVERIFY(app.action("undo")->isEnabled());
-    QCOMPARE(app.widget<QListWidget>("history")->count(), 2);
+    QCOMPARE(app.widget<QTreeWidget>("history")->topLevelItemCount(), 2);
     app.trigger("undo");
     QCOMPARE(app.text(), original());
 }
@@ -126,9 +142,9 @@ void TestUndoHistory::shouldMarkTheDocumentOnUndo()
 void TestUndoHistory::shouldListTheHistoryAndJump()
 {
     AppFixture app;
-    auto *const list = app.widget<QListWidget>("history");
-    QCOMPARE(list->count(), 1);
-    QCOMPARE(list->currentRow(), 0);
+    auto *const list = app.widget<QTreeWidget>("history");
+    QCOMPARE(list->topLevelItemCount(), 1);
+    QCOMPARE(currentRow(*list), 0);
     app.select("Rust");
     app.trigger("delete");
     app.select("Machines");
@@ -139,31 +155,31 @@ void TestUndoHistory::shouldListTheHistoryAndJump()
              QStringList({QStringLiteral("Delete selecteds “Rust”"),
                           QStringLiteral("Delete selecteds “Machines”"),
                           QStringLiteral("Insert subject as parent “子主题”")}));
-    QCOMPARE(list->count(), 4);
-    QCOMPARE(list->currentRow(), 3);
+    QCOMPARE(list->topLevelItemCount(), 4);
+    QCOMPARE(currentRow(*list), 3);
 
-    list->setCurrentRow(1);
+    list->setCurrentItem(list->topLevelItem(1));
     AppFixture::settle();
     QCOMPARE(app.text(),
              QStringLiteral("Late[People[Too few[Illness],Too new],Machines,Material]"));
     QCOMPARE(app.window.editor()->undoStack()->currentIndex(), 0);
     QVERIFY(app.subject("Machines")->spear()); // the drawing follows
 
-    list->setCurrentRow(0);
+    list->setCurrentItem(list->topLevelItem(0));
     AppFixture::settle();
     QCOMPARE(app.text(), original());
     QVERIFY(!app.action("undo")->isEnabled());
-    list->setCurrentRow(3);
+    list->setCurrentItem(list->topLevelItem(3));
     AppFixture::settle();
     QCOMPARE(app.text(), QStringLiteral("Late[子主题[People[Too few[Illness],Too new]],Material]"));
     QVERIFY(!app.action("redo")->isEnabled());
 
     app.trigger("undo");
-    QCOMPARE(list->currentRow(), 2);
+    QCOMPARE(currentRow(*list), 2);
     app.select("Material");
-    app.trigger("delete"); // in place of what was undone
-    QCOMPARE(list->count(), 4);
-    QCOMPARE(list->currentRow(), 3);
+    app.trigger("voteMore"); // in place of what was undone
+    QCOMPARE(list->topLevelItemCount(), 4);
+    QCOMPARE(currentRow(*list), 3);
 }
 
 void TestUndoHistory::shouldGoOnUndoingBeyondTheBound()
@@ -176,8 +192,86 @@ void TestUndoHistory::shouldGoOnUndoingBeyondTheBound()
     QVERIFY(app.action("undo")->isEnabled());
     app.trigger("undo");
     QCOMPARE(machines.data().toString(), QStringLiteral("118"));
-    auto *const list = app.widget<QListWidget>("history");
-    QCOMPARE(list->currentRow(), list->count() - 2);
+    auto *const list = app.widget<QTreeWidget>("history");
+    const int steps = app.window.editor()->undoStack()->count(); // all of one kind
+    QCOMPARE(rows(*list).mid(1).join(QLatin1Char('|')),
+             QStringLiteral("Modify subject name (%1 of %2)").arg(steps - 1).arg(steps));
+}
+
+void TestUndoHistory::shouldFoldStepsOfOneKind()
+{
+    AppFixture app;
+    app.select("Machines");
+    for (int i = 0; i < 5; ++i)
+        QTest::keyClick(app.window.editor()->view(), Qt::Key_F7);
+    app.select("Rust");
+    QTest::keyClick(app.window.editor()->view(), Qt::Key_5, Qt::AltModifier);
+    QTest::keyClick(app.window.editor()->view(), Qt::Key_1, Qt::AltModifier);
+    AppFixture::settle();
+    auto *const list = app.widget<QTreeWidget>("history");
+    auto *const dock = app.window.findChild<QDockWidget *>(QStringLiteral("historyDock"));
+    dock->show();
+    dock->raise();
+    QTRY_VERIFY(list->isVisible());
+    AppFixture::settle();
+    QCOMPARE(rows(*list),
+             QStringList({QStringLiteral("(beginning)"), QStringLiteral("Vote (5 times)"),
+                          QStringLiteral("Change verdict “Rust”"),
+                          QStringLiteral("Change verdict “Rust”")})); // two are no run
+    const auto votes = [&app] { return SubjectMarks::votes(*app.subject("Machines")); };
+    QTreeWidgetItem *const run = list->topLevelItem(1);
+    QVERIFY(!run->isExpanded());
+
+    // The run goes to its last step, and the arrow keys to each when it is unfolded.
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier, placeOf(*list, run));
+    AppFixture::settle();
+    QCOMPARE(app.window.editor()->undoStack()->currentIndex(), 4);
+    QCOMPARE(votes(), 5);
+    QCOMPARE(SubjectMarks::verdict(*app.subject("Rust")), Verdict::None);
+    list->setFocus();
+    QTest::keyClick(list, Qt::Key_Right);
+    QVERIFY(run->isExpanded());
+    QCOMPARE(run->childCount(), 5);
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier,
+                      placeOf(*list, run->child(1)));
+    AppFixture::settle();
+    QCOMPARE(votes(), 2);
+    QCOMPARE(list->currentItem(), run->child(1));
+    QCOMPARE(run->text(0), QStringLiteral("Vote (2 of 5)"));
+    QTest::keyClick(list, Qt::Key_Down);
+    AppFixture::settle();
+    QCOMPARE(votes(), 3);
+    QTest::keyClick(list, Qt::Key_Left); // folds, and changes nothing
+    AppFixture::settle();
+    QVERIFY(!run->isExpanded());
+    QCOMPARE(list->currentItem(), run);
+    QCOMPARE(votes(), 3);
+    QCOMPARE(run->text(0), QStringLiteral("Vote (3 of 5)"));
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier, placeOf(*list, run));
+    AppFixture::settle();
+    QCOMPARE(votes(), 5);
+    QTest::keyClick(list, Qt::Key_Up);
+    AppFixture::settle();
+    QCOMPARE(votes(), 0);
+}
+
+/** Also while other steps come. */
+void TestUndoHistory::shouldKeepARunUnfolded()
+{
+    AppFixture app;
+    app.select("Machines");
+    for (int i = 0; i < 3; ++i)
+        app.trigger("voteMore");
+    auto *const list = app.widget<QTreeWidget>("history");
+    list->topLevelItem(1)->setExpanded(true);
+    app.trigger("voteMore");
+    QCOMPARE(rows(*list).mid(1), QStringList(QStringLiteral("Vote (4 times)")));
+    QVERIFY(list->topLevelItem(1)->isExpanded());
+    app.trigger("verdictSuspected");
+    QVERIFY(list->topLevelItem(1)->isExpanded());
+    QCOMPARE(currentRow(*list), 2);
+    app.trigger("undo");
+    QCOMPARE(list->currentItem(), list->topLevelItem(1)->child(3));
 }
 
 FISHBONE_TEST(TestUndoHistory)
