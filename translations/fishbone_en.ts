@@ -2190,6 +2190,21 @@ Do you want to save your changes?</translation>
         <source>Look: %1</source>
         <translation>Look: %1</translation>
     </message>
+    <message>
+        <source>&amp;Take off all own colours and styles</source>
+        <translation>&amp;Take off all own colours and styles</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n subject(s) changed</source>
+        <translation>
+            <numerusform>%n subject changed</numerusform>
+            <numerusform>%n subjects changed</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No subject has a colour or a style of its own</source>
+        <translation>No subject has a colour or a style of its own</translation>
+    </message>
 </context>
 <context>
     <name>LookInfo</name>
@@ -3516,7 +3531,11 @@ Do you want to save your changes?</translation>
     </message>
 </context>
 <context>
-    <name>SubjectEdit</name>
+    <name>SubjectStyles</name>
+    <message>
+        <source>The subject looks as the one above it, also when the style of that is changed</source>
+        <translation>The subject looks as the one above it, also when the style of that is changed</translation>
+    </message>
     <message>
         <source>Change style</source>
         <translation>Change style</translation>
@@ -3524,6 +3543,10 @@ Do you want to save your changes?</translation>
     <message>
         <source>Remove style</source>
         <translation>Remove style</translation>
+    </message>
+    <message>
+        <source>Take off own colours and styles</source>
+        <translation>Take off own colours and styles</translation>
     </message>
 </context>
 <context>

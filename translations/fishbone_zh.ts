@@ -2179,6 +2179,20 @@ Do you want to save your changes?</source>
         <source>Look: %1</source>
         <translation>外观：%1</translation>
     </message>
+    <message>
+        <source>&amp;Take off all own colours and styles</source>
+        <translation>去除所有自有颜色和样式(&amp;T)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n subject(s) changed</source>
+        <translation>
+            <numerusform>已更改 %n 个主题</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No subject has a colour or a style of its own</source>
+        <translation>没有主题带有自有颜色或样式</translation>
+    </message>
 </context>
 <context>
     <name>LookInfo</name>
@@ -3500,7 +3514,11 @@ Do you want to save your changes?</source>
     </message>
 </context>
 <context>
-    <name>SubjectEdit</name>
+    <name>SubjectStyles</name>
+    <message>
+        <source>The subject looks as the one above it, also when the style of that is changed</source>
+        <translation>主题的外观与上级主题一致，上级样式更改时也随之更改</translation>
+    </message>
     <message>
         <source>Change style</source>
         <translation>更改样式</translation>
@@ -3508,6 +3526,10 @@ Do you want to save your changes?</source>
     <message>
         <source>Remove style</source>
         <translation>移除样式</translation>
+    </message>
+    <message>
+        <source>Take off own colours and styles</source>
+        <translation>去除自有颜色和样式</translation>
     </message>
 </context>
 <context>

@@ -11,6 +11,7 @@
 #include <fishbone/style/spearstyle.h>
 #include <fishbone/style/spearstyledialog.h>
 
+#include <QCheckBox>
 #include <QDir>
 #include <QPalette>
 #include <QStandardPaths>
@@ -87,6 +88,8 @@ void CanvasTheme::show(FishEditor &editor) const
 void CanvasTheme::editStyle(QWidget *parent)
 {
     SpearStyleDialog dialog(*SpearStyle::global(), true, parent);
+    // What holds for all subjects has nothing to inherit from.
+    dialog.findChild<QCheckBox *>()->parentWidget()->hide();
     if (dialog.exec() == QDialog::Accepted)
         storeStyle();
     show(m_isDark);

@@ -11,18 +11,14 @@
 #include <fishbone/undo/attributecommands.h>
 #include <fishbone/undo/editattributes.h>
 
-#include <QCoreApplication>
 #include <QJsonObject>
 #include <QPersistentModelIndex>
 #include <QUrl>
 
-#include <memory>
+namespace SubjectEdit {
 
-namespace {
-
-/** Pushes @p command as a step named @p name, unless it changes nothing. */
-bool push(DiagramSession &session, std::unique_ptr<EditAttributes> command,
-          const UndoCommand::Name &name)
+bool run(DiagramSession &session, std::unique_ptr<EditAttributes> command,
+         const UndoCommand::Name &name)
 {
     if (command->count() == 0)
         return false;
@@ -31,10 +27,6 @@ bool push(DiagramSession &session, std::unique_ptr<EditAttributes> command,
     session.touch();
     return isDone;
 }
-
-} // namespace
-
-namespace SubjectEdit {
 
 bool apply(DiagramSession &session, const QModelIndex &index, const UndoCommand::Name &name,
            const std::function<void(TreeItem &)> &change)
@@ -64,7 +56,7 @@ bool changeAll(DiagramSession &session, const QModelIndexList &indexes,
         const QJsonObject before = EditAttributes::stateOf(*subject);
         command->add(index, before, change(before));
     }
-    return push(session, std::move(command), name);
+    return run(session, std::move(command), name);
 }
 
 void editLink(DiagramSession &session, const QModelIndex &index)
@@ -85,45 +77,6 @@ void openLink(const DiagramSession &session, const QModelIndex &index)
     const TreeItem *const subject = session.model()->getTreeItem(index);
     if (subject && !subject->url().isEmpty())
         LinkItem::open(subject->url());
-}
-
-void editStyle(DiagramSession &session, const QModelIndexList &indexes)
-{
-    TreeItem *const subject = session.model()->getTreeItem(indexes.value(0));
-    if (!subject)
-        return;
-    // The dialog runs an event loop, in which subjects may go.
-    QList<QPersistentModelIndex> edited;
-    for (const QModelIndex &index : indexes)
-        edited.append(index);
-    const QLatin1String key("spearstyle");
-    const QJsonValue before = EditAttributes::stateOf(*subject).value(key).toObject();
-    subject->setSpearStyle();
-    const TreeItem *const after = session.model()->getTreeItem(edited.constFirst());
-    if (!after)
-        return;
-    const QJsonValue style = EditAttributes::stateOf(*after).value(key).toObject();
-    auto command = std::make_unique<EditAttributes>(session.model());
-    for (const QPersistentModelIndex &index : qAsConst(edited)) {
-        const TreeItem *const each = session.model()->getTreeItem(index);
-        if (!each || style == before)
-            continue;
-        // Only the style: meanwhile something else may have become of the rest.
-        QJsonObject plain = EditAttributes::stateOf(*each);
-        QJsonObject styled = plain;
-        plain.insert(key, each == after ? before : plain.value(key).toObject());
-        styled.insert(key, style);
-        command->add(index, plain, styled);
-    }
-    push(session, std::move(command),
-         [] { return QCoreApplication::translate("SubjectEdit", "Change style"); });
-}
-
-void removeStyle(DiagramSession &session, const QModelIndexList &indexes)
-{
-    applyToAll(
-        session, indexes, [] { return QCoreApplication::translate("SubjectEdit", "Remove style"); },
-        [](TreeItem &subject) { subject.delSpearStyle(); });
 }
 
 } // namespace SubjectEdit

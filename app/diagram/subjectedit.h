@@ -8,13 +8,19 @@
 #include <QModelIndexList>
 
 #include <functional>
+#include <memory>
 
 class DiagramSession;
+class EditAttributes;
 class QJsonObject;
 class TreeItem;
 
 /** Edits of a subject's attributes as steps of the undo history. */
 namespace SubjectEdit {
+
+/** Runs @p command as a step named @p name. False, without a step, when it changes nothing. */
+bool run(DiagramSession &session, std::unique_ptr<EditAttributes> command,
+         const UndoCommand::Name &name);
 
 /**
  * Makes the subject at @p index what @p change makes of a copy of its attributes, in one step with
@@ -41,11 +47,5 @@ bool changeAll(DiagramSession &session, const QModelIndexList &indexes,
 void editLink(DiagramSession &session, const QModelIndex &index);
 /** Opens the link of the subject at @p index, if it has one. */
 void openLink(const DiagramSession &session, const QModelIndex &index);
-
-/** Lets the user edit the own style of the first of the subjects at @p indexes, and gives it to all
- * of them, in one step. */
-void editStyle(DiagramSession &session, const QModelIndexList &indexes);
-/** Removes the own styles of the subjects at @p indexes, in one step. */
-void removeStyle(DiagramSession &session, const QModelIndexList &indexes);
 
 } // namespace SubjectEdit

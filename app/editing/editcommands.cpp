@@ -7,6 +7,7 @@
 #include <app/diagram/diagramsession.h>
 #include <app/diagram/stepnames.h>
 #include <app/diagram/subjectedit.h>
+#include <app/diagram/subjectstyles.h>
 #include <app/editing/subjectclipboard.h>
 #include <app/editing/titleeditor.h>
 #include <app/panels/finder.h>
@@ -124,9 +125,9 @@ void EditCommands::addSubjectActions()
         [this] { SubjectEdit::openLink(*m_session, m_editor->firstSelectedSpearIndex()); });
     add("unlink", QT_TR_NOOP("Remove l&ink"), {}, [this] { m_editor->modifyDelLink(); });
     add("style", QT_TR_NOOP("&Style…"), {},
-        [this] { SubjectEdit::editStyle(*m_session, m_session->selected()); });
+        [this] { SubjectStyles::edit(*m_session, m_session->selected()); });
     add("removeStyle", QT_TR_NOOP("Remove s&tyle"), {},
-        [this] { SubjectEdit::removeStyle(*m_session, m_session->selected()); });
+        [this] { SubjectStyles::remove(*m_session, m_session->selected()); });
 }
 
 /** Selects all that is below what is selected, too. */

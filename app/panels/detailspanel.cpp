@@ -6,6 +6,7 @@
 #include <app/common/language.h>
 #include <app/diagram/diagramsession.h>
 #include <app/diagram/subjectedit.h>
+#include <app/diagram/subjectstyles.h>
 #include <app/panels/detailsform.h>
 
 #include <fishbone/items/linkitem.h>
@@ -201,5 +202,5 @@ void DetailsPanel::openLink() const
 
 void DetailsPanel::editStyle()
 {
-    SubjectEdit::editStyle(*m_session, living());
+    SubjectStyles::edit(*m_session, living());
 }

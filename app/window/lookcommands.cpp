@@ -8,6 +8,7 @@
 #include <app/diagram/diagramsession.h>
 #include <app/diagram/documentlook.h>
 #include <app/diagram/pagesize.h>
+#include <app/diagram/subjectstyles.h>
 
 #include <fishbone/drawing/lookinfo.h>
 #include <fishbone/editor/fisheditor.h>
@@ -117,6 +118,19 @@ void LookCommands::addPalettes(QMenu *parent)
     addPalette("paletteColours", QT_TR_NOOP("&Colours"), DiagramLook::DistinctColors);
     addPalette("paletteGray", QT_TR_NOOP("&Grey"), DiagramLook::GrayColors);
     addPalette("paletteDark", QT_TR_NOOP("&Dark"), DiagramLook::DarkColors);
+    menu->addSeparator();
+    m_plain = m_actions->add(
+        QStringLiteral("ownColoursOff"), [] { return tr("&Take off all own colours and styles"); },
+        {}, ActionSet::Scope::Window, [this] { takeOffOwn(); });
+    menu->addAction(m_plain);
+}
+
+/** Makes the palette, and the style of all subjects, hold for the whole diagram. */
+void LookCommands::takeOffOwn()
+{
+    const int count = SubjectStyles::removeAll(*m_session);
+    Q_EMIT message(count > 0 ? tr("%n subject(s) changed", nullptr, count)
+                             : tr("No subject has a colour or a style of its own"));
 }
 
 void LookCommands::addLines(QMenu *parent)
@@ -172,6 +186,7 @@ void LookCommands::updateActions()
         return;
     const DiagramView &view = m_look->view();
     const bool isShown = m_session->document();
+    m_plain->setEnabled(isShown);
     for (auto entry = m_tests.cbegin(); entry != m_tests.cend(); ++entry) {
         const bool isLook = m_looks.contains(entry.key());
         // The other looks have nothing to choose.

@@ -39,6 +39,10 @@ public:
     /** The submenus by the names that Menus knows them by. */
     QHash<QString, QMenu *> menus() const { return m_menus; }
 
+Q_SIGNALS:
+    /** Something worth a line in the status bar has happened. */
+    void message(const QString &text);
+
 private:
     /** What an entry does to the view. */
     using Change = std::function<void(DiagramView &)>;
@@ -51,6 +55,7 @@ private:
     void addLines(QMenu *menu);
     void addPalettes(QMenu *menu);
     void addSwitches(QMenu *menu);
+    void takeOffOwn();
     QAction *add(QMenu *menu, const char *name, const Language::Text &text, const Change &change,
                  const Test &test);
     void arrange(DiagramView &view, const QString &page) const;
@@ -60,4 +65,5 @@ private:
     QHash<QString, QMenu *> m_menus;
     QHash<QAction *, Test> m_tests;
     QList<QAction *> m_looks;
+    QAction *m_plain = nullptr; ///< takes own colours and styles off
 };

@@ -244,6 +244,7 @@ void MainWindow::connectCommands()
     connect(m_exports, &ExportCommands::message, this, &MainWindow::showMessage);
     connect(m_edits, &EditCommands::message, this, &MainWindow::showMessage);
     connect(m_marks, &MarkCommands::message, this, &MainWindow::showMessage);
+    connect(m_looks, &LookCommands::message, this, &MainWindow::showMessage);
     connect(m_edits, &EditCommands::newDiagramWanted, this, &MainWindow::startDiagram);
     auto *const links = new LinkOpener(this);
     connect(links, &LinkOpener::failed, this, [this](const QUrl &url) {
