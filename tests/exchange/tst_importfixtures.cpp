@@ -2,31 +2,21 @@
 // SPDX-License-Identifier: MIT
 
 #include <tests/exchange/exchangefixture.h>
+#include <tests/exchange/importfixture.h>
 #include <tests/program/testprogram.h>
-#include <tests/support/sourcefolder.h>
 
 #include <fishbone/exchange/exchangereport.h>
 #include <fishbone/exchange/subjectattributes.h>
-#include <fishbone/exchange/ziparchive.h>
 #include <fishbone/model/jsonnodes.h>
 
 #include <QDateTime>
 #include <QDir>
-#include <QDirIterator>
-#include <QFile>
 #include <QtTest>
 
 using namespace ExchangeFixture;
+using namespace ImportFixture;
 
 namespace {
-
-const QString ending = QStringLiteral(".expected");
-
-QDir folderOf(Format format)
-{
-    return QDir(
-        TestSupport::sourceFile(QStringLiteral("tests/exchange/") + DiagramExchange::id(format)));
-}
 
 QString inOneLine(QString text)
 {
@@ -127,44 +117,7 @@ private Q_SLOTS:
     void shouldReadWhatProgramsWrite();
     void shouldKeepWhatWasReadInTheDiagramFormat_data() { shouldReadWhatProgramsWrite_data(); }
     void shouldKeepWhatWasReadInTheDiagramFormat();
-
-private:
-    static QStringList fixturesOf(Format format);
-    static QByteArray bytesOf(const QString &path);
-    static QByteArray archiveOf(const QString &path);
 };
-
-/** The names of the files, and of the folders that hold the parts of one, without expectations. */
-QStringList TestImportFixtures::fixturesOf(Format format)
-{
-    QStringList names = folderOf(format).entryList(QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot);
-    names.erase(std::remove_if(names.begin(), names.end(),
-                               [](const QString &name) { return name.endsWith(ending); }),
-                names.end());
-    return names;
-}
-
-QByteArray TestImportFixtures::bytesOf(const QString &path)
-{
-    if (QFileInfo(path).isDir())
-        return archiveOf(path);
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-/** The files of a folder as the archive that they stand for. */
-QByteArray TestImportFixtures::archiveOf(const QString &path)
-{
-    std::vector<ZipWriter::File> files;
-    QStringList names;
-    QDirIterator found(path, QDir::Files, QDirIterator::Subdirectories);
-    while (found.hasNext())
-        names.append(found.next());
-    names.sort();
-    for (const QString &name : qAsConst(names))
-        files.emplace_back(QDir(path).relativeFilePath(name), bytesOf(name));
-    return ZipWriter::archive(files);
-}
 
 void TestImportFixtures::initTestCase()
 {

@@ -86,6 +86,8 @@ void TestPastedNotes::shouldMakeTreesOfNotes_data()
     row("rows with headings", "Key\tSummary\tParent\nA-1\tLate\t\nA-2\tStock\tA-1\n",
         "Late[Stock]");
     row("rows without headings", "Late\t3\n\tStock\t4\nHeat\t5\n", "Late[Stock] Heat");
+    row("topics of a map", "Late\r\n\tCarrier\r\n\t\tNo vehicle\r\n\tStock\r\n",
+        "Late[Carrier[No vehicle],Stock]");
     row("opml",
         "<?xml version=\"1.0\"?>\n<opml version=\"2.0\"><body><outline text=\"a\">"
         "<outline text=\"b\"/></outline></body></opml>",

@@ -68,13 +68,14 @@ void TestTableMapping::shouldKnowHeadings_data()
     row("Votes|Vote Count|票数", Role::Votes);
     row("Verdict|结论", Role::Verdict);
     row("Progress|% Done|% Complete|进度", Role::Progress);
-    row("Priority|优先级", Role::Priority);
+    row("Priority|priority_name|优先级", Role::Priority);
     row("Assignee|Owner|Owned By|assigned_to|Resource Names|负责人|经办人", Role::Manager);
-    row("Reporter|Author|Created by|创建人", Role::Creator);
+    row("Reporter|Author|Created by|creator_name|创建人", Role::Creator);
     row("Watchers|Members|关注者", Role::Followers);
     row("Created|Created At (UTC)|Date created|创建时间", Role::Created);
     row("Due date|Due|Deadline|Due_Date:|截止日期|到期日", Role::PlannedEnd);
-    row("URL|Link|Card URL|链接", Role::Url);
+    row("URL|Link|Links|Card URL|链接", Role::Url);
+    row("Labels|标签", Role::Other); // no field takes them: they go to the details
     row("Description|Notes|Details|描述|备注", Role::Detail);
     row("Level|Outline Level|Indent|层级", Role::Level);
     row("WBS|Outline number|大纲编号", Role::Outline);

@@ -9,7 +9,9 @@
 
 #include <app/editing/pastedialog.h>
 #include <app/files/mappingdialog.h>
+#include <fishbone/exchange/ziparchive.h>
 
+#include <QAbstractItemView>
 #include <QClipboard>
 #include <QComboBox>
 #include <QDialogButtonBox>
@@ -33,6 +35,23 @@ void choose(QDialog &dialog, const char *name, int value)
     box->setCurrentIndex(box->findData(value));
 }
 
+/** Chooses an entry of a list as people do: a click opens the list, another one takes the entry. */
+void chooseByMouse(QDialog &dialog, const char *name, int value)
+{
+    auto *const box = dialog.findChild<QComboBox *>(QLatin1String(name));
+    QVERIFY(box);
+    QTest::mouseClick(box, Qt::LeftButton);
+    QTRY_VERIFY(box->view()->isVisible());
+    const int row = box->findData(value);
+    const QModelIndex entry = box->model()->index(row, 0);
+    box->view()->scrollTo(entry);
+    // A click that opens a list must not take an entry of it at once.
+    QTest::qWait(QApplication::doubleClickInterval() + 50);
+    QTest::mouseClick(box->view()->viewport(), Qt::LeftButton, Qt::NoModifier,
+                      box->view()->visualRect(entry).center());
+    QTRY_COMPARE(box->currentIndex(), row);
+}
+
 QPushButton *okOf(QDialog &dialog)
 {
     return dialog.findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Ok);
@@ -50,6 +69,7 @@ private Q_SLOTS:
     void init();
     void shouldShowWhatColumnsStandFor();
     void shouldLetTheUserChangeWhatColumnsStandFor();
+    void shouldBeToldByMouseWhatColumnsStandFor();
     void shouldImportNothingWithoutTitles();
     void shouldNotImportWhatTheUserDoesNotWant();
     void shouldListWhatBecameOfEverything();
@@ -58,6 +78,7 @@ private Q_SLOTS:
     void shouldAskWhatDoubtfulTextIs();
     void shouldPasteNothingThatTheUserDoesNotWant();
     void shouldPasteNotesBelowTheLinesThatHeadThem();
+    void shouldPasteCopiedFiles_data();
     void shouldPasteCopiedFiles();
 };
 
@@ -119,6 +140,25 @@ void TestImportDialogs::shouldLetTheUserChangeWhatColumnsStandFor()
     QVERIFY(driver.isDone());
     QCOMPARE(app.text(), QStringLiteral("Slow[Staff]"));
     QCOMPARE(app.subject("Staff")->managerName(), QStringLiteral("Bo"));
+}
+
+void TestImportDialogs::shouldBeToldByMouseWhatColumnsStandFor()
+{
+    AppFixture app;
+    const QString path = app.path(QStringLiteral("list.csv"));
+    AppFixture::writeFile(path, "Was,Wer\nSlow,Ann\n");
+    const ModalDriver<QFileDialog> files(enter(path));
+    const ModalDriver<MappingDialog> driver([](MappingDialog &dialog) {
+        QTest::mouseClick(okOf(dialog), Qt::LeftButton);
+        QVERIFY(dialog.isVisible()); // without titles there is nothing to import
+        chooseByMouse(dialog, "role0", int(Role::Title));
+        chooseByMouse(dialog, "role1", int(Role::Manager));
+        QTest::mouseClick(okOf(dialog), Qt::LeftButton);
+    });
+    app.trigger("import");
+    QVERIFY(driver.isDone());
+    QCOMPARE(app.text(), QStringLiteral("Slow"));
+    QCOMPARE(app.subject("Slow")->managerName(), QStringLiteral("Ann"));
 }
 
 void TestImportDialogs::shouldImportNothingWithoutTitles()
@@ -244,12 +284,26 @@ void TestImportDialogs::shouldPasteNotesBelowTheLinesThatHeadThem()
              qPrintable(app.text()));
 }
 
+void TestImportDialogs::shouldPasteCopiedFiles_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QByteArray>("content");
+    QTest::newRow("outline") << QStringLiteral("list.opml")
+                             << QByteArray("<opml><body><outline text='Wear'>"
+                                           "<outline text='Belt'/></outline></body></opml>");
+    QTest::newRow("map") << QStringLiteral("list.xmind")
+                         << ZipWriter::archive({{QStringLiteral("content.json"),
+                                                 R"([{"rootTopic": {"title": "Wear", "children":
+                                  {"attached": [{"title": "Belt"}]}}}])"}});
+}
+
 void TestImportDialogs::shouldPasteCopiedFiles()
 {
+    QFETCH(QString, name);
+    QFETCH(QByteArray, content);
     AppFixture app;
-    const QString path = app.path(QStringLiteral("list.opml"));
-    AppFixture::writeFile(path, "<opml><body><outline text='Wear'><outline text='Belt'/></outline>"
-                                "</body></opml>");
+    const QString path = app.path(name);
+    AppFixture::writeFile(path, content);
     auto *const data = new QMimeData; // the clipboard takes it over
     data->setUrls({QUrl::fromLocalFile(path)});
     data->setText(path);
