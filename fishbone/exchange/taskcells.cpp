@@ -8,6 +8,7 @@
 #include <fishbone/exchange/importedtree.h>
 #include <fishbone/exchange/owntable.h>
 #include <fishbone/exchange/subjectattributes.h>
+#include <fishbone/exchange/taskheadings.h>
 #include <fishbone/exchange/taskstatuses.h>
 #include <fishbone/exchange/taskvalues.h>
 #include <fishbone/model/jsonnodes.h>
@@ -80,7 +81,7 @@ TaskCells::TaskCells(const std::vector<TaskTable::Row> &rows, std::size_t firstR
     , m_isOwn(mapping.headings.contains(QLatin1String("uuid")) &&
               mapping.headings.contains(QLatin1String("parent")) &&
               mapping.headings.contains(QLatin1String("title")))
-    , m_idColumn(idColumn())
+    , m_idColumn(TaskHeadings::shownId(mapping.headings, columnsOf(Role::Id)))
 {
     findOrder(rows, firstRow);
 }
@@ -94,24 +95,6 @@ QList<int> TaskCells::columnsOf(Role role) const
             columns.append(i);
     }
     return columns;
-}
-
-/** The column with what people call a subject, a key or its number in a project, rather than a
- * number of the database; -1 for the first of a row that has any. */
-int TaskCells::idColumn() const
-{
-    static const QStringList shown{QStringLiteral("key"),
-                                   QStringLiteral("issue key"),
-                                   QStringLiteral("iid"),
-                                   QStringLiteral("issue iid"),
-                                   QStringLiteral("\u952e\u503c"),
-                                   QStringLiteral("\u5173\u952e\u5b57"),
-                                   QStringLiteral("\u95ee\u9898\u5173\u952e\u5b57")};
-    const QList<int> columns = columnsOf(Role::Id);
-    const auto column = std::find_if(columns.cbegin(), columns.cend(), [this](int each) {
-        return shown.contains(m_mapping.headings.value(each).simplified().toLower());
-    });
-    return column == columns.cend() ? -1 : *column;
 }
 
 QString TaskCells::text(const TaskTable::Row &row, int column) const

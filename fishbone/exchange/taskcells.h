@@ -41,7 +41,6 @@ private:
     bool applyDate(Role role, const QString &value, TreeItem &subject);
     bool applyUrl(const QString &value, TreeItem &subject, const QString &heading, qint64 line);
     void keep(const QString &heading, const QString &value);
-    int idColumn() const;
     void findOrder(const std::vector<TaskTable::Row> &rows, std::size_t firstRow);
 
     const TableMapping &m_mapping;

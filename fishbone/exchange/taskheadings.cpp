@@ -30,4 +30,16 @@ QString listed(const QStringList &headings)
     return quoted.join(QLatin1String(", "));
 }
 
+int shownId(const QStringList &headings, const QList<int> &columns)
+{
+    static const QStringList shown =
+        QString::fromUtf8("key|issue key|iid|issue iid|\u952e\u503c|\u5173\u952e\u5b57|"
+                          "\u95ee\u9898\u5173\u952e\u5b57")
+            .split(QLatin1Char('|'));
+    const auto column = std::find_if(columns.cbegin(), columns.cend(), [&headings](int each) {
+        return shown.contains(headings.value(each).simplified().toLower());
+    });
+    return column == columns.cend() ? -1 : *column;
+}
+
 } // namespace TaskHeadings

@@ -12,5 +12,8 @@ namespace TaskHeadings {
 int rowOf(const std::vector<TaskTable::Row> &rows);
 /** @p headings in quotes, as many as a message takes. */
 QString listed(const QStringList &headings);
+/** Which of @p columns, all of them of ids, has what people call a subject: a key or its number in
+ * a project rather than a number of the database; -1 when none is called so. */
+int shownId(const QStringList &headings, const QList<int> &columns);
 
 } // namespace TaskHeadings
