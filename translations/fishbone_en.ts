@@ -3943,6 +3943,10 @@ Do you want to save your changes?</translation>
         <source>&amp;Just the drawing</source>
         <translation>&amp;Just the drawing</translation>
     </message>
+    <message>
+        <source>Expanding all bones…</source>
+        <translation>Expanding all bones…</translation>
+    </message>
 </context>
 <context>
     <name>WalkCommands</name>

@@ -3926,6 +3926,10 @@ Do you want to save your changes?</source>
         <source>&amp;Just the drawing</source>
         <translation>仅显示图(&amp;J)</translation>
     </message>
+    <message>
+        <source>Expanding all bones…</source>
+        <translation>正在展开所有骨…</translation>
+    </message>
 </context>
 <context>
     <name>WalkCommands</name>

@@ -3,9 +3,17 @@
 
 #include <app/common/workprogress.h>
 
+#include <QSettings>
+
 namespace {
 
-constexpr int patience = 1000;     ///< milliseconds in which nothing is shown
+/** Milliseconds in which nothing is shown; a setting, for whoever wants to see it sooner. */
+int patience()
+{
+    constexpr int usual = 1000;
+    return qMax(0, QSettings().value(QStringLiteral("progressAfterMilliseconds"), usual).toInt());
+}
+
 constexpr int betweenReports = 40; ///< milliseconds; more often nobody sees it
 
 } // namespace
@@ -15,7 +23,7 @@ WorkProgress::WorkProgress(const QString &text, QWidget *window)
 {
     m_dialog.setObjectName(QStringLiteral("workProgress"));
     m_dialog.setWindowModality(Qt::WindowModal);
-    m_dialog.setMinimumDuration(patience);
+    m_dialog.setMinimumDuration(patience());
     m_dialog.setAutoReset(false); // the last step may take its time, too
     m_dialog.setValue(0);
     // However it is closed, it is not to go on unseen.

@@ -5,7 +5,8 @@
 
 #include <fishbone/editor/fisheditor.h>
 #include <fishbone/items/spearitem.h>
-#include <fishbone/model/treeitem.h>
+#include <fishbone/model/fishmodel.h>
+#include <fishbone/model/subjectwalk.h>
 
 namespace Expansion {
 
@@ -33,6 +34,29 @@ void expandLevels(FishEditor &editor, int levels)
         level = next;
     }
     editor.updateFish(false);
+}
+
+bool makeBones(FishEditor &editor, const Progress &progress)
+{
+    const auto *const model = qobject_cast<const FishModel *>(editor.model());
+    const TreeItem *const root = model ? model->getTreeItem(editor.rootIndex()) : nullptr;
+    if (!root)
+        return true;
+    int total = 0;
+    visitSubjects(root, [&total](const TreeItem *) {
+        ++total;
+        return true;
+    });
+    int done = 0;
+    return visitSubjects(root, [&](const TreeItem *subject) {
+        const TreeItem *const last = subject->childAtIndex(subject->childCount() - 1);
+        if (last && !last->spear()) {
+            editor.generateSpear(editor.model(), model->indexFromItem(subject));
+            if (subject->spear() && !subject->spear()->isExpand())
+                subject->spear()->setExpand(false); // hides what has come
+        }
+        return progress(++done, total);
+    });
 }
 
 bool expandAbove(FishEditor &editor, const TreeItem &subject)

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include <functional>
+
 class FishEditor;
 class SpearItem;
 class TreeItem;
@@ -19,6 +21,16 @@ constexpr int allLevels = -1;
  * anew.
  */
 void expandLevels(FishEditor &editor, int levels);
+
+/** Is told that @c done of @c total subjects have their bones; false ends the making. */
+using Progress = std::function<bool(int done, int total)>;
+
+/**
+ * Makes the bones that are missing in what @p editor shows, contracted, which is most of the work
+ * of expanding all. False when @p progress ended it; what was made until then stays for the next
+ * time.
+ */
+bool makeBones(FishEditor &editor, const Progress &progress);
 
 /**
  * Expands or contracts one spear, whose child spears are made where they are missing. Does not lay

@@ -195,25 +195,39 @@ QString ExportCommands::targetOfExport() const
 }
 
 /** Writes @p document in the format that the ending of @p path tells. Returns what went wrong,
- * empty when nothing did. */
-QString ExportCommands::writeAs(const FishInfo &document, const QString &path) const
+ * empty when nothing did, or nothing at all when the user has cancelled. */
+std::optional<QString> ExportCommands::writeAs(const FishInfo &document, const QString &path) const
 {
     const auto format = DiagramExchange::formatOf(path);
-    const bool isSlide = SlideExport::isSlide(path);
-    if (!format && !isSlide)
+    if (SlideExport::isSlide(path))
+        return writeSlide(document, path);
+    if (!format)
         return tr("its ending tells none of the formats");
     const BusyCursor busy(document.treeItem());
     QString reason;
     const TreeItem &head = *document.treeItem()->childAtIndex(0);
-    if (isSlide) {
-        PictureSource source(m_editor);
-        source.setWish({std::nullopt, shownView()});
-        const CanvasTheme::Paper paper(m_theme);
-        return SlideExport::write(*source.scene(), head, path, aspectOf(document), &reason)
-                   ? QString()
-                   : reason;
-    }
     return DiagramExchange::writeFile(path, head, *format, &reason) ? QString() : reason;
+}
+
+std::optional<QString> ExportCommands::writeSlide(const FishInfo &document,
+                                                  const QString &path) const
+{
+    PictureSource source(m_editor);
+    source.setWish({std::nullopt, shownView()});
+    const SlideExport::Aspect aspect = aspectOf(document);
+    WorkProgress progress(tr("Writing %1…").arg(QFileInfo(path).fileName()), m_window);
+    bool goesOn = true;
+    const auto report = [&progress, &goesOn](int done, int total) {
+        return goesOn = progress.report(done, total);
+    };
+    const CanvasTheme::Paper paper(m_theme);
+    const UpdatesHeld still(m_window); // the window does not show what is meant for the slide
+    QString reason;
+    const bool isWritten =
+        SlideExport::write(*source.scene(), source.root(), path, aspect, &reason, report);
+    if (!goesOn)
+        return std::nullopt;
+    return isWritten ? QString() : reason;
 }
 
 /** What of @p document is not in the file @p path, for the status bar; empty when all is. */
@@ -234,12 +248,17 @@ void ExportCommands::exportAs()
     const QString path = document ? targetOfExport() : QString();
     if (path.isEmpty() || !document)
         return;
-    const QString reason = writeAs(*document, path);
-    if (reason.isEmpty()) {
+    const std::optional<QString> reason = writeAs(*document, path);
+    if (!reason) {
+        Q_EMIT message(tr("%1 was not written").arg(path));
+        return;
+    }
+    if (reason->isEmpty()) {
         Q_EMIT message(tr("%1 written").arg(path) + lossesOf(*document, path));
         return;
     }
-    PlainBox::warning(m_window, tr("Export as"), tr("%1 cannot be written: %2.").arg(path, reason));
+    PlainBox::warning(m_window, tr("Export as"),
+                      tr("%1 cannot be written: %2.").arg(path, *reason));
 }
 
 void ExportCommands::previewPrint()

@@ -8,6 +8,10 @@
 
 #include <fishbone/exchange/pictureexport.h>
 
+#include <QString>
+
+#include <optional>
+
 class CanvasTheme;
 class ExportDialog;
 class FishInfo;
@@ -37,7 +41,8 @@ private:
     QString proposedName(const QString &suffix) const;
     void exportPicture();
     PictureExport::Result writePicture(PictureSource &source, const ExportDialog &dialog);
-    QString writeAs(const FishInfo &document, const QString &path) const;
+    std::optional<QString> writeAs(const FishInfo &document, const QString &path) const;
+    std::optional<QString> writeSlide(const FishInfo &document, const QString &path) const;
     QString lossesOf(const FishInfo &document, const QString &path) const;
     void exportAs();
     QString targetOfExport() const;

@@ -6,7 +6,9 @@
 #include <app/common/actionset.h>
 #include <app/common/busycursor.h>
 #include <app/common/canvastheme.h>
+#include <app/common/workprogress.h>
 #include <app/diagram/diagramsession.h>
+#include <app/diagram/expansion.h>
 #include <app/window/windowlayout.h>
 #include <app/window/zoomcontrols.h>
 
@@ -85,15 +87,29 @@ void ViewCommands::addExpandActions()
         m_editor->modifyExpand();
     });
     add("contract", QT_TR_NOOP("&Contract"), Qt::Key_Minus, [this] { m_editor->modifyContract(); });
-    add("expandall", QT_TR_NOOP("Expand &all"), Qt::Key_Asterisk, [this] {
-        const BusyCursor busy(m_session->container());
-        m_editor->generateAllSubSpear(m_session->model(), m_editor->rootIndex());
-        m_editor->modifyExpandAll();
-    });
+    add("expandall", QT_TR_NOOP("Expand &all"), Qt::Key_Asterisk, [this] { expandAll(); });
     add("contractall", QT_TR_NOOP("Con&tract all"), Qt::Key_Slash, [this] {
         const BusyCursor busy(m_session->container());
         m_editor->modifyContractAll();
     });
+}
+
+/** Makes the bones that were never shown, which may take its time, and shows them all. */
+void ViewCommands::expandAll()
+{
+    {
+        WorkProgress progress(tr("Expanding all bones…"), m_window);
+        const auto report = [&progress](int done, int total) {
+            return progress.report(done, total);
+        };
+        if (!Expansion::makeBones(*m_editor, report)) {
+            m_editor->updateFish(false);
+            return;
+        }
+    }
+    const BusyCursor busy(m_session->container());
+    m_editor->generateAllSubSpear(m_session->model(), m_editor->rootIndex());
+    m_editor->modifyExpandAll();
 }
 
 void ViewCommands::addDiagramActions()

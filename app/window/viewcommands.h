@@ -37,6 +37,7 @@ public:
 private:
     void addZoomActions();
     void addExpandActions();
+    void expandAll();
     void addDiagramActions();
     void fitAll();
     void showMode();

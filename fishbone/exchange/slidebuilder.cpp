@@ -54,10 +54,13 @@ SlideBuilder::SlideBuilder(const std::vector<SlideShape> &shapes, const TreeItem
     findAccents();
 }
 
-SlidePackage::Content SlideBuilder::content()
+std::optional<SlidePackage::Content> SlideBuilder::content(const Goes &goes)
 {
+    QByteArray shapes;
+    if (!writeShapes(shapes, goes))
+        return std::nullopt;
     SlidePackage::Content content;
-    content.slide = slide();
+    content.slide = slide(shapes);
     content.slideRelations = m_relations;
     content.notes = SlideNotes::paragraphs(m_head);
     content.accents = m_accents;
@@ -266,13 +269,22 @@ QByteArray SlideBuilder::group(const std::vector<int> &members)
            "</p:grpSpPr>" + content + "</p:grpSp>";
 }
 
-QByteArray SlideBuilder::slide()
+bool SlideBuilder::writeShapes(QByteArray &shapes, const Goes &goes)
 {
-    QByteArray shapes;
     for (int i = 0; i < int(m_connections.joints().size()); ++i)
         shapes += joint(i);
-    for (const std::vector<int> &members : SlideGroups::of(m_shapes, m_connections))
+    std::size_t done = 0;
+    for (const std::vector<int> &members : SlideGroups::of(m_shapes, m_connections)) {
+        if (!goes(double(done) / double(m_shapes.size())))
+            return false;
         shapes += members.size() > 1 ? group(members) : element(members.front());
+        done += members.size();
+    }
+    return true;
+}
+
+QByteArray SlideBuilder::slide(const QByteArray &shapes) const
+{
     int causes = -1; // the head is none
     OutlineWalk::walk(m_head, [&causes](const TreeItem &, int) { ++causes; });
     const QRectF rect(m_origin, m_drawing.size() * m_scale);

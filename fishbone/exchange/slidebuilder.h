@@ -10,6 +10,8 @@
 #include <QRectF>
 #include <QStringList>
 
+#include <functional>
+#include <optional>
 #include <vector>
 
 class QColor;
@@ -32,8 +34,11 @@ public:
     SlideBuilder(const std::vector<SlideShape> &shapes, const TreeItem &head, const QRectF &drawing,
                  qint64 width);
 
-    /** What of the presentation changes with the diagram. */
-    SlidePackage::Content content();
+    /** Is told what part of the shapes is written; false ends the writing. */
+    using Goes = std::function<bool(double part)>;
+
+    /** What of the presentation changes with the diagram; nothing when @p goes ended it. */
+    std::optional<SlidePackage::Content> content(const Goes &goes);
 
 private:
     void findAccents();
@@ -51,7 +56,8 @@ private:
     QByteArray textBox(int index);
     QByteArray element(int index);
     QByteArray group(const std::vector<int> &members);
-    QByteArray slide();
+    bool writeShapes(QByteArray &shapes, const Goes &goes);
+    QByteArray slide(const QByteArray &shapes) const;
 
     const std::vector<SlideShape> &m_shapes;
     const SlideConnections m_connections;

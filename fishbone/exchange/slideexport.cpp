@@ -5,6 +5,7 @@
 
 #include <fishbone/base/filereplacement.h>
 #include <fishbone/drawing/screenonly.h>
+#include <fishbone/exchange/pictureexport.h>
 #include <fishbone/exchange/scenepainter.h>
 #include <fishbone/exchange/slidebuilder.h>
 #include <fishbone/exchange/slidedevice.h>
@@ -36,13 +37,23 @@ SlideExport::Aspect SlideExport::aspectFor(const QSizeF &page)
 QByteArray SlideExport::presentation(QGraphicsScene &scene, const TreeItem &head, Aspect aspect,
                                      QString *error)
 {
+    return made(scene, head, aspect, error, {});
+}
+
+/** presentation(), which @p progress follows: half of the steps draw, the others write. */
+QByteArray SlideExport::made(QGraphicsScene &scene, const TreeItem &head, Aspect aspect,
+                             QString *error, const Progress &progress)
+{
+    const auto fail = [error](const QString &reason) {
+        if (error)
+            *error = reason;
+        return QByteArray();
+    };
     const SceneExtent extent = extentOf(scene);
     const QRectF &drawing = extent.rect;
-    if (drawing.isEmpty()) {
-        if (error)
-            *error = tr("there is nothing to draw");
-        return QByteArray();
-    }
+    if (drawing.isEmpty())
+        return fail(tr("there is nothing to draw"));
+    const int half = extent.items;
     SlideDevice device(drawing.size().toSize());
     QPainter painter(&device);
     ScenePainter items(scene, extent, drawing, drawing);
@@ -50,17 +61,27 @@ QByteArray SlideExport::presentation(QGraphicsScene &scene, const TreeItem &head
         const TreeItem *const subject = subjectOfTitle(item);
         device.setLink(subject ? subject->url() : QString());
     });
-    items.paint(painter, [](int) { return true; });
+    if (!items.paint(painter, [&](int done) { return !progress || progress(done, 2 * half); }))
+        return fail(PictureExport::tr("it was cancelled"));
     painter.end();
     const qint64 width = aspect == Aspect::Wide ? wideSlide : narrowSlide;
     SlideBuilder builder(device.shapes(), head, drawing, width);
-    return ZipWriter::archive(SlidePackage::parts(builder.content()));
+    const auto content = builder.content(
+        [&](double part) { return !progress || progress(half + int(half * part), 2 * half); });
+    return content ? ZipWriter::archive(SlidePackage::parts(*content))
+                   : fail(PictureExport::tr("it was cancelled"));
 }
 
 bool SlideExport::write(QGraphicsScene &scene, const TreeItem &head, const QString &fileName,
                         Aspect aspect, QString *error)
 {
-    const QByteArray bytes = presentation(scene, head, aspect, error);
+    return write(scene, head, fileName, aspect, error, {});
+}
+
+bool SlideExport::write(QGraphicsScene &scene, const TreeItem &head, const QString &fileName,
+                        Aspect aspect, QString *error, const Progress &progress)
+{
+    const QByteArray bytes = made(scene, head, aspect, error, progress);
     if (bytes.isEmpty())
         return false;
     const QString failure = replaceFile(fileName, bytes);

@@ -8,6 +8,8 @@
 #include <QCoreApplication>
 #include <QString>
 
+#include <functional>
+
 class QByteArray;
 class QGraphicsScene;
 class QSizeF;
@@ -32,6 +34,10 @@ public:
         Narrow, ///< 4:3
     };
 
+    /** Is told from time to time how much is done: @c done of @c total steps, as
+     * PictureOptions::progress is. False ends the export. */
+    using Progress = std::function<bool(int done, int total)>;
+
     /** Whether the ending of @p fileName, in any case, is that of a presentation. */
     static bool isSlide(const QString &fileName);
 
@@ -48,4 +54,12 @@ public:
      * on failure, and @p error says why: for the user, translated, a clause without a full stop. */
     static bool write(QGraphicsScene &scene, const TreeItem &head, const QString &fileName,
                       Aspect aspect = Aspect::Wide, QString *error = nullptr);
+    /** As above, for somebody who waits: one that @p progress ended is false, and the file is as it
+     * was. */
+    static bool write(QGraphicsScene &scene, const TreeItem &head, const QString &fileName,
+                      Aspect aspect, QString *error, const Progress &progress);
+
+private:
+    static QByteArray made(QGraphicsScene &scene, const TreeItem &head, Aspect aspect,
+                           QString *error, const Progress &progress);
 };

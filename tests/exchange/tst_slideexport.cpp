@@ -109,6 +109,9 @@ private Q_SLOTS:
     void init();
     void shouldKnowSlidesByTheirEnding();
     void shouldRefuseAnEmptyScene();
+    void shouldTellHowFarItIs();
+    void shouldKeepTheFileWhenItIsEnded_data();
+    void shouldKeepTheFileWhenItIsEnded();
     void shouldHaveAllPartsOfAPresentation();
     void shouldNameOnlyPartsThatThereAre();
     void shouldMakeNativeShapes();
@@ -161,6 +164,52 @@ void TestSlideExport::shouldRefuseAnEmptyScene()
     QString error;
     QVERIFY(SlideExport::presentation(scene, *m_head, SlideExport::Aspect::Wide, &error).isEmpty());
     QCOMPARE(error, QStringLiteral("there is nothing to draw"));
+}
+
+void TestSlideExport::shouldTellHowFarItIs()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("a.pptx"));
+    QList<int> steps;
+    int whole = 0;
+    QVERIFY(SlideExport::write(*m_scene, *m_head, path, SlideExport::Aspect::Wide, nullptr,
+                               [&](int done, int total) {
+                                   steps.append(done);
+                                   whole = total;
+                                   return true;
+                               }));
+    QVERIFY(std::is_sorted(steps.cbegin(), steps.cend()));
+    QCOMPARE(steps.constFirst(), 0);
+    QVERIFY(whole > 0);
+    QVERIFY(steps.constLast() > whole / 2 && steps.constLast() <= whole);
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(file.readAll(), SlideExport::presentation(*m_scene, *m_head));
+}
+
+void TestSlideExport::shouldKeepTheFileWhenItIsEnded_data()
+{
+    QTest::addColumn<bool>("isDrawn");
+    QTest::newRow("while it is drawn") << false;
+    QTest::newRow("while it is written") << true;
+}
+
+void TestSlideExport::shouldKeepTheFileWhenItIsEnded()
+{
+    QFETCH(bool, isDrawn);
+    const QTemporaryDir folder;
+    QFile file(folder.filePath(QStringLiteral("a.pptx")));
+    QVERIFY(file.open(QIODevice::ReadWrite));
+    file.write("old");
+    file.flush();
+    QString error;
+    QVERIFY(!SlideExport::write(
+        *m_scene, *m_head, file.fileName(), SlideExport::Aspect::Wide, &error,
+        [isDrawn](int done, int total) { return isDrawn && done < total / 2; }));
+    QCOMPARE(error, QStringLiteral("it was cancelled"));
+    file.seek(0);
+    QCOMPARE(file.readAll(), QByteArray("old"));
+    QCOMPARE(QDir(folder.path()).entryList(QDir::Files).size(), 1);
 }
 
 void TestSlideExport::shouldHaveAllPartsOfAPresentation()

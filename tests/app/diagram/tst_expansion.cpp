@@ -20,6 +20,8 @@ private Q_SLOTS:
     void shouldExpandOneBone();
     void shouldExpandWhatIsAboveASubject();
     void shouldDoNothingWithoutADiagram();
+    void shouldMakeBonesUnseen();
+    void shouldEndTheMakingOfBones();
 };
 
 namespace {
@@ -92,6 +94,32 @@ void TestExpansion::shouldDoNothingWithoutADiagram()
     Expansion::expandLevels(editor, 2);
     QVERIFY(!editor.headSpear());
     QVERIFY(editor.scene()->items().isEmpty());
+}
+
+void TestExpansion::shouldMakeBonesUnseen()
+{
+    EditorFixture stage(diagram);
+    QStringList steps;
+    QVERIFY(Expansion::makeBones(stage.editor, [&steps](int done, int total) {
+        steps.append(QStringLiteral("%1/%2").arg(done).arg(total));
+        return true;
+    }));
+    QCOMPARE(steps.join(QLatin1Char(' ')), QStringLiteral("1/6 2/6 3/6 4/6 5/6 6/6"));
+    for (const char *title : {"A", "B", "C", "D", "E"})
+        QVERIFY2(stage.spear(QString::fromLatin1(title)), title);
+    QCOMPARE(visibleBones(stage), QStringLiteral("AD"));
+}
+
+void TestExpansion::shouldEndTheMakingOfBones()
+{
+    EditorFixture stage(diagram);
+    QVERIFY(!Expansion::makeBones(stage.editor, [](int done, int) { return done < 2; }));
+    QVERIFY(stage.spear(QStringLiteral("B")));
+    QVERIFY(!stage.spear(QStringLiteral("C")));
+    QVERIFY(!stage.spear(QStringLiteral("E")));
+    QCOMPARE(visibleBones(stage), QStringLiteral("AD"));
+    Expansion::expandLevels(stage.editor, Expansion::allLevels);
+    QCOMPARE(visibleBones(stage), QStringLiteral("ABCDE"));
 }
 
 FISHBONE_TEST(TestExpansion)

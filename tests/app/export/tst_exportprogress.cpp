@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include <tests/app/appfixture.h>
-
+#include <tests/app/dialoganswers.h>
 #include <tests/program/testprogram.h>
 #include <tests/support/modaldriver.h>
 
@@ -25,11 +25,11 @@ using TestSupport::ModalDriver;
 
 namespace {
 
-/** A diagram of some thousand bones on two levels. */
-QByteArray largeDiagram()
+/** A diagram of @p count main bones with 40 causes each. */
+QByteArray largeDiagram(int count = 30)
 {
     QByteArray bones;
-    for (int i = 0; i < 30; ++i) {
+    for (int i = 0; i < count; ++i) {
         QByteArray causes;
         for (int j = 0; j < 40; ++j)
             causes += (j > 0 ? "," : "") + QByteArray(R"({"title": "Cause", "status": 5})");
@@ -56,6 +56,8 @@ private Q_SLOTS:
     void shouldShowNothingBeforeASecondIsOver();
     void shouldShowHowFarItIs();
     void shouldEndOnEscape();
+    void shouldCancelASlide();
+    void shouldCancelTheExpansionOfAll();
 
 private:
     /** Exports all levels of @p app into a large PNG, while @p watch sees the progress. */
@@ -74,6 +76,7 @@ void TestExportProgress::init()
 {
     QDir(RecoveryStore::folder()).removeRecursively();
     QSettings().remove(QStringLiteral("export"));
+    QSettings().remove(QStringLiteral("progressAfterMilliseconds"));
     DiagramView classic; // which takes its time
     classic.look = DiagramLook::Classic;
     classic.becomeUsual();
@@ -222,6 +225,72 @@ void TestExportProgress::shouldEndOnEscape()
     QVERIFY(!goesOn);
     QVERIFY(!progress.report(999, 1000));
     QVERIFY(!QApplication::activeModalWidget());
+}
+
+void TestExportProgress::shouldCancelASlide()
+{
+    QSettings().setValue(QStringLiteral("progressAfterMilliseconds"), 0);
+    AppFixture app;
+    const QString source = app.path(QStringLiteral("large.json"));
+    AppFixture::writeFile(source, largeDiagram(100));
+    app.window.open({source});
+    app.trigger("expandall");
+    const QString path = app.path(QStringLiteral("a.pptx"));
+    AppFixture::writeFile(path, "old");
+    int done = -1;
+    std::unique_ptr<ModalDriver<QProgressDialog>> progress;
+    const ModalDriver<QFileDialog> driver([&](QFileDialog &dialog) {
+        const ModalDriver<QMessageBox> replacing(
+            [](QMessageBox &box) { box.button(QMessageBox::Yes)->click(); });
+        DialogAnswers::enter(path)(dialog);
+        progress = std::make_unique<ModalDriver<QProgressDialog>>(
+            [&done](QProgressDialog &shown) {
+                done = shown.value();
+                QTest::mouseClick(shown.findChild<QPushButton *>(), Qt::LeftButton);
+            },
+            60000);
+    });
+    app.trigger("exportAs");
+    QVERIFY(driver.isDone());
+    QVERIFY(progress && progress->isDone());
+    QVERIFY(done > 0);
+    QCOMPARE(AppFixture::contentOf(path), QByteArray("old"));
+    QVERIFY(!QApplication::activeModalWidget());
+    QCOMPARE(app.window.statusBar()->currentMessage(), path + QStringLiteral(" was not written"));
+    QVERIFY(app.window.updatesEnabled());
+}
+
+void TestExportProgress::shouldCancelTheExpansionOfAll()
+{
+    QSettings().setValue(QStringLiteral("progressAfterMilliseconds"), 0);
+    AppFixture app;
+    const QString source = app.path(QStringLiteral("large.json"));
+    AppFixture::writeFile(source, largeDiagram(400));
+    app.window.open({source});
+    AppFixture::settle();
+    const auto visible = [&app] {
+        int count = 0;
+        const QList<QGraphicsItem *> items = app.window.editor()->scene()->items();
+        for (const QGraphicsItem *item : items)
+            count += item->type() == SpearItem::Type && item->isVisible() ? 1 : 0;
+        return count;
+    };
+    const int before = visible();
+    QCOMPARE(before, 401); // the head and the main bones
+    {
+        const ModalDriver<QProgressDialog> driver(
+            [](QProgressDialog &shown) {
+                QTest::mouseClick(shown.findChild<QPushButton *>(), Qt::LeftButton);
+            },
+            60000);
+        QTest::keyClick(app.window.editor()->view(), Qt::Key_Asterisk);
+        QVERIFY(driver.isDone());
+    }
+    AppFixture::settle();
+    QCOMPARE(visible(), before);
+    QVERIFY(!app.document()->modified());
+    app.trigger("expandall"); // to its end
+    QCOMPARE(visible(), 401 + 400 * 40);
 }
 
 FISHBONE_TEST(TestExportProgress)
