@@ -203,6 +203,11 @@ void TestDiagramExchangeOutlines::shouldWriteMarkdownThatReadsWell()
                         "  > x\n"
                         "  - 1\\. one\n"
                         "- a_b - c\n"));
+    // Nothing of what has no title may be the underline of a heading for any reader.
+    head = treeFrom("a[b[c]]");
+    head->setTitle(QString());
+    head->childAtIndex(0)->setTitle(QString());
+    QCOMPARE(exported(*head, Format::Markdown), QByteArray("# <!-- -->\n\n- <!-- -->\n  - c\n"));
 }
 
 void TestDiagramExchangeOutlines::shouldWriteAnIndentedLineForEachSubject()
@@ -220,6 +225,15 @@ void TestDiagramExchangeOutlines::shouldWriteMermaidAsItsProgramReadsIt()
     head->childAtIndex(0)->childAtIndex(0)->setTitle(QStringLiteral("#35;"));
     QCOMPARE(exported(*head, Format::Mermaid),
              QByteArray("ishikawa\n  a\n    two<br/>lines\n      #35;35;\n    issue #12\n"));
+    // What would be taken for the beginning of a diagram, for a tag or for nothing at all.
+    head = treeFrom("a[b,c,d]");
+    head->setTitle(QStringLiteral("Ishikawa was right"));
+    head->childAtIndex(0)->setTitle(QStringLiteral("Use <stdio.h> here"));
+    head->childAtIndex(1)->setTitle(QString());
+    head->childAtIndex(2)->setTitle(QStringLiteral("1 < 2"));
+    QCOMPARE(exported(*head, Format::Mermaid),
+             QByteArray("ishikawa\n  #73;shikawa was right\n    Use #lt;stdio.h#gt; here\n"
+                        "    #8203;\n    1 < 2\n"));
 }
 
 void TestDiagramExchangeOutlines::shouldRefuseMermaidWithoutItsHeader_data()

@@ -16,6 +16,7 @@ class TestFreeMindIcons : public QObject
 
 private Q_SLOTS:
     void shouldSayAStatusAPriorityOrAProgress();
+    void shouldKnowAllSuchIcons();
     void shouldLeaveASubjectAloneForOtherIcons();
 };
 
@@ -29,6 +30,30 @@ void TestFreeMindIcons::shouldSayAStatusAPriorityOrAProgress()
     QCOMPARE(subject.priority(), 3);
     QCOMPARE(FreeMindIcons::apply(QStringLiteral("75%"), subject).value_or(-1), 75);
     QCOMPARE(subject.progress(), 75);
+}
+
+void TestFreeMindIcons::shouldKnowAllSuchIcons()
+{
+    for (int level = 0; level < 10; ++level) {
+        TreeItem subject;
+        QVERIFY(FreeMindIcons::apply(QStringLiteral("full-%1").arg(level), subject));
+        QCOMPARE(subject.priority(), level);
+    }
+    for (const int percent : {0, 25, 50, 75, 100}) {
+        TreeItem subject;
+        QVERIFY(FreeMindIcons::apply(QStringLiteral("%1%").arg(percent), subject));
+        QCOMPARE(subject.progress(), percent);
+    }
+    const std::pair<const char *, int> statuses[] = {{"button_ok", tsFinish},
+                                                     {"checked", tsFinish},
+                                                     {"button_cancel", tsCancel},
+                                                     {"unchecked", tsWaitting},
+                                                     {"hourglass", tsWaitting}};
+    for (const auto &[name, status] : statuses) {
+        TreeItem subject;
+        QVERIFY2(FreeMindIcons::apply(QLatin1String(name), subject), name);
+        QCOMPARE(subject.status(), status);
+    }
 }
 
 void TestFreeMindIcons::shouldLeaveASubjectAloneForOtherIcons()
