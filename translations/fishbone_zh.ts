@@ -3928,7 +3928,7 @@ Do you want to save your changes?</source>
     </message>
     <message>
         <source>Expanding all bones…</source>
-        <translation>正在展开所有骨…</translation>
+        <translation>正在展开所有鱼骨…</translation>
     </message>
 </context>
 <context>

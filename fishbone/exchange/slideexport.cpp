@@ -20,6 +20,39 @@ namespace {
 constexpr qint64 wideSlide = 12192000; ///< in English metric units, 914,400 an inch
 constexpr qint64 narrowSlide = 9144000;
 
+/** SlideExport::presentation(), which @p progress follows: half of the steps draw, the others
+ * write. */
+QByteArray made(QGraphicsScene &scene, const TreeItem &head, SlideExport::Aspect aspect,
+                QString *error, const SlideExport::Progress &progress)
+{
+    const auto fail = [error](const QString &reason) {
+        if (error)
+            *error = reason;
+        return QByteArray();
+    };
+    const SceneExtent extent = extentOf(scene);
+    const QRectF &drawing = extent.rect;
+    if (drawing.isEmpty())
+        return fail(SlideExport::tr("there is nothing to draw"));
+    const int half = extent.items;
+    SlideDevice device(drawing.size().toSize());
+    QPainter painter(&device);
+    ScenePainter items(scene, extent, drawing, drawing);
+    items.setObserver([&device](const QGraphicsItem &item) {
+        const TreeItem *const subject = subjectOfTitle(item);
+        device.setLink(subject ? subject->url() : QString());
+    });
+    if (!items.paint(painter, [&](int done) { return !progress || progress(done, 2 * half); }))
+        return fail(PictureExport::tr("it was cancelled"));
+    painter.end();
+    const qint64 width = aspect == SlideExport::Aspect::Wide ? wideSlide : narrowSlide;
+    SlideBuilder builder(device.shapes(), head, drawing, width);
+    const auto content = builder.content(
+        [&](double part) { return !progress || progress(half + int(half * part), 2 * half); });
+    return content ? ZipWriter::archive(SlidePackage::parts(*content))
+                   : fail(PictureExport::tr("it was cancelled"));
+}
+
 } // namespace
 
 bool SlideExport::isSlide(const QString &fileName)
@@ -38,38 +71,6 @@ QByteArray SlideExport::presentation(QGraphicsScene &scene, const TreeItem &head
                                      QString *error)
 {
     return made(scene, head, aspect, error, {});
-}
-
-/** presentation(), which @p progress follows: half of the steps draw, the others write. */
-QByteArray SlideExport::made(QGraphicsScene &scene, const TreeItem &head, Aspect aspect,
-                             QString *error, const Progress &progress)
-{
-    const auto fail = [error](const QString &reason) {
-        if (error)
-            *error = reason;
-        return QByteArray();
-    };
-    const SceneExtent extent = extentOf(scene);
-    const QRectF &drawing = extent.rect;
-    if (drawing.isEmpty())
-        return fail(tr("there is nothing to draw"));
-    const int half = extent.items;
-    SlideDevice device(drawing.size().toSize());
-    QPainter painter(&device);
-    ScenePainter items(scene, extent, drawing, drawing);
-    items.setObserver([&device](const QGraphicsItem &item) {
-        const TreeItem *const subject = subjectOfTitle(item);
-        device.setLink(subject ? subject->url() : QString());
-    });
-    if (!items.paint(painter, [&](int done) { return !progress || progress(done, 2 * half); }))
-        return fail(PictureExport::tr("it was cancelled"));
-    painter.end();
-    const qint64 width = aspect == Aspect::Wide ? wideSlide : narrowSlide;
-    SlideBuilder builder(device.shapes(), head, drawing, width);
-    const auto content = builder.content(
-        [&](double part) { return !progress || progress(half + int(half * part), 2 * half); });
-    return content ? ZipWriter::archive(SlidePackage::parts(*content))
-                   : fail(PictureExport::tr("it was cancelled"));
 }
 
 bool SlideExport::write(QGraphicsScene &scene, const TreeItem &head, const QString &fileName,

@@ -58,8 +58,4 @@ public:
      * was. */
     static bool write(QGraphicsScene &scene, const TreeItem &head, const QString &fileName,
                       Aspect aspect, QString *error, const Progress &progress);
-
-private:
-    static QByteArray made(QGraphicsScene &scene, const TreeItem &head, Aspect aspect,
-                           QString *error, const Progress &progress);
 };
