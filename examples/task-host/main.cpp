@@ -1,76 +1,139 @@
 // SPDX-FileCopyrightText: 2026 The Fishbone authors
 // SPDX-License-Identifier: MIT
 
-#include <taskhost.h>
+#include <rehearsal.h>
+#include <taskdesk.h>
+#include <taskform.h>
+#include <taskwindow.h>
 
+#include <fishbone/editor/fisheditor.h>
 #include <fishbone/items/spearitem.h>
 #include <fishbone/model/treeitem.h>
 
 #include <QApplication>
+#include <QCommandLineParser>
+#include <QDir>
+#include <QFile>
+#include <QStandardPaths>
+#include <QTemporaryDir>
 #include <QTextStream>
+#include <QThread>
+
+#include <cstdio>
 
 namespace {
 
-/**
- * Goes once through what a user can do, the entries of the context menu as their signals, and says
- * whether the host did what it should.
- */
-bool demonstrate(TaskHost &host)
+QString contentOf(QFile &file)
 {
-    FishEditor &editor = host.editor();
-    FishModel &model = host.model();
-    const QModelIndex head = model.index(0, 0);
-    const QModelIndex bone = model.index(0, 0, head);
-    const QString id = bone.siblingAtColumn(1).data().toString();
-    const QString title = bone.data().toString();
-    const int bones = model.rowCount(bone);
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
 
-    model.getTreeItem(bone)->spear()->setSelected(true);
-    editor.modifyExpand();
-    editor.modifyContract();
-    editor.modifyExpandAll();
-    editor.modifyContractAll();
-    editor.showEntire();
-    editor.zoomIn(25);
-    editor.copy();
-    Q_EMIT editor.oneTaskClicked(title, id);
-    Q_EMIT editor.editTaskDetail(bone);
-    Q_EMIT editor.createNewSubTask(title, id, QString());
-    Q_EMIT editor.insertChildTask(bone);
-    Q_EMIT editor.contentsChanged();
-    const bool isMarked = host.isWindowModified();
-    const QString newId = model.index(bones, 1, bone).data().toString();
-    Q_EMIT editor.changeTaskParent({newId}, QStringLiteral("elsewhere"), CHANGE_PARENT_BY_MOVE);
-    Q_EMIT editor.changeFishWithModelIndex(bone);
-    return isMarked && model.rowCount(bone) == bones + 2 && host.tasks().count() == 2 &&
-           host.tasks().parentOf(newId) == QLatin1String("elsewhere") && editor.rootIndex() == bone;
+/** The file that a user's tasks are in unless another data base is named. */
+QString usualFile()
+{
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
+    QDir().mkpath(folder);
+    return folder + QStringLiteral("/tasks.sqlite");
+}
+
+/** Goes once through what a user does, and says whether the data base has it afterwards. */
+bool demonstrate(TaskDesk &desk)
+{
+    FishModel &model = desk.model();
+    const QModelIndex bone = model.index(0, 0, model.index(0, 0));
+    if (desk.windows().isEmpty() || !bone.isValid())
+        return false;
+    TaskWindow &window = *desk.windows().constFirst();
+    const QString uuid = bone.siblingAtColumn(1).data().toString();
+    Q_EMIT window.editor().insertChildTask(bone);
+    Q_EMIT window.editor().oneTaskClicked(bone.data().toString(), uuid);
+    window.form().setPerson(QStringLiteral("Ada"));
+    window.form().apply();
+    const int count = desk.sync().current().size();
+    const bool isStored = desk.sync().synchronize();
+    const Task task = desk.sync().known().value(uuid);
+    QTextStream(stdout) << desk.store().errorText() << "revision " << desk.sync().revision() << ", "
+                        << count << " tasks\n";
+    return isStored && desk.sync().known().size() == count &&
+           task.fields.value(QStringLiteral("mgrname")) == QStringLiteral("Ada");
+}
+
+/** Hands the lines of the standard input to @p rehearsal. */
+class InputThread : public QThread
+{
+public:
+    explicit InputThread(Rehearsal &rehearsal)
+        : m_rehearsal(rehearsal)
+    {
+    }
+
+protected:
+    void run() override
+    {
+        QTextStream in(stdin);
+        for (QString line = in.readLine(); !line.isNull(); line = in.readLine()) {
+            QMetaObject::invokeMethod(
+                &m_rehearsal, [this, line] { m_rehearsal.command(line); }, Qt::QueuedConnection);
+            if (line == QLatin1String("quit"))
+                return; // who waits for this thread waits for no further line
+        }
+    }
+
+private:
+    Rehearsal &m_rehearsal;
+};
+
+int rehearse(TaskDesk &desk)
+{
+    Rehearsal rehearsal(desk);
+    InputThread input(rehearsal);
+    input.start();
+    const int code = QApplication::exec();
+    input.wait();
+    return code;
 }
 
 } // namespace
 
 /**
- * Shows a diagram in a host that answers every signal. With --demo it plays through them instead,
- * prints the host's journal and ends.
+ * A small task manager for one or for several people.
+ *
+ * --database names a file, or postgresql://user@host/name; --author who works here. A diagram
+ * that is named is brought in. --demo plays through what a user does on a data base of its own and
+ * ends; --rehearse does what the standard input says.
  */
 int main(int argc, char *argv[])
 {
     QApplication application(argc, argv);
-    QStringList arguments = QApplication::arguments().mid(1);
-    const bool isDemo = arguments.removeAll(QStringLiteral("--demo")) > 0;
-    TaskHost host;
-    host.resize(1200, 800);
-    host.show();
-    if (arguments.isEmpty()) {
-        host.model().loadFishTempl();
-        host.editor().setRootIndex(host.model().index(0, 0));
-    } else {
-        host.model().loadFishFromFile(arguments.constFirst());
+    QApplication::setApplicationName(QStringLiteral("fishbone-task-host"));
+    QCommandLineParser parser;
+    parser.addHelpOption();
+    parser.addOptions(
+        {{QStringLiteral("database"), QStringLiteral("File or server."), QStringLiteral("address")},
+         {QStringLiteral("author"), QStringLiteral("Who works here."), QStringLiteral("name"),
+          qEnvironmentVariable("USER")},
+         {QStringLiteral("demo"), QStringLiteral("Plays through and ends.")},
+         {QStringLiteral("rehearse"), QStringLiteral("Does what the input says.")}});
+    parser.addPositionalArgument(QStringLiteral("diagram"), QStringLiteral("Is brought in."),
+                                 QStringLiteral("[diagram]"));
+    parser.process(application);
+
+    const QTemporaryDir scratch;
+    const bool isDemo = parser.isSet(QStringLiteral("demo"));
+    QString address = parser.value(QStringLiteral("database"));
+    if (address.isEmpty())
+        address = isDemo ? scratch.filePath(QStringLiteral("demo.sqlite")) : usualFile();
+    const QStringList diagrams = parser.positionalArguments();
+
+    TaskDesk desk(address, parser.value(QStringLiteral("author")));
+    if (!desk.start(diagrams.isEmpty()))
+        QTextStream(stderr) << desk.store().errorText() << '\n'; // the windows say it as well
+    for (const QString &diagram : diagrams) {
+        QFile file(diagram);
+        desk.merge(contentOf(file).toUtf8());
+        desk.sync().synchronize();
     }
-    if (!isDemo)
-        return QApplication::exec();
-    if (host.model().rowCount() == 0)
-        return 1;
-    const bool works = demonstrate(host);
-    QTextStream(stdout) << host.journal() << '\n';
-    return works ? 0 : 1;
+    if (parser.isSet(QStringLiteral("rehearse")))
+        return rehearse(desk);
+    return isDemo ? (demonstrate(desk) ? 0 : 1) : QApplication::exec();
 }
