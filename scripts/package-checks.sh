@@ -38,6 +38,7 @@ check_package() {
     stays_open "$folder/consumer/examples/minimal/fishbone-minimal" "$sample"
     "$folder/consumer/examples/model-only/fishbone-model-only" "$sample" "$copy" | tail -n 1
     "$folder/consumer/examples/task-host/fishbone-task-host" --demo "$sample"
+    check_package_hosts "$preset" "$package"
     check_pkg_config "$prefix" "$folder"
     check_installed_program "$prefix" "$folder"
 }
@@ -89,21 +90,39 @@ check_side_by_side() {
     comm -12 <(installed release) <(installed qt6) | none
 }
 
-# check_embedded <part|fetched> <option for CMake>: the library is built as a part of a host, in the way that
-# the embedding guide shows under that name, and installs nothing then.
-check_embedded() {
-    local folder=$PWD/build/embedded top=$PWD
-    rm -rf "${folder:?}/$1"
+# check_hosts <part|fetched> <5|6> <option for CMake…>: hosts that have the library as a part of themselves work, and
+# so does the one of the embedding guide, which is built with them, and is there since check_guide; the library
+# installs nothing then.
+check_hosts() {
+    local way=$1 folder=$PWD/build/hosts/$1-$2
+    rm -rf "$folder"
     mkdir -p "$folder"
-    scripts/guide-steps docs/embedding.md | sed -n "/^mkdir .*\"$1\//,/^END_OF_FILE/p" >"$folder/steps"
-    (cd "$folder" && bash -euo pipefail steps && ln -s "$top" "$1/fishbone")
-    cp cmake/consumer/main.cpp "$folder/$1"
-    cmake -S "$folder/$1" -B "$folder/$1/build" -G Ninja -DCMAKE_BUILD_TYPE=Release \
-        -DCMAKE_CXX_COMPILER_LAUNCHER=ccache "${@:2}"
-    cmake --build "$folder/$1/build"
-    QT_QPA_PLATFORM=offscreen "$folder/$1/build/$1"
-    cmake --install "$folder/$1/build" --prefix "$folder/$1/prefix" >/dev/null
-    [[ ! -e $folder/$1/prefix ]] || find "$folder/$1/prefix" -type f | none
+    cp -r "build/guide/qt$2/$way" "$folder/guide"
+    ln -s "$PWD" "$folder/guide/fishbone"
+    prove "$folder/guide"
+    cmake -S cmake/hosts -B "$folder/build" -G Ninja -DHOST_WAY="$way" -DHOST_GUIDE="$folder/guide" \
+        -DFISHBONE_QT_MAJOR="$2" -DCMAKE_CXX_COMPILER_LAUNCHER=ccache "${@:3}"
+    cmake --build "$folder/build" --target all "$way"
+    export QT_QPA_PLATFORM=offscreen
+    "$folder/build/before"
+    "$folder/build/after"
+    "$folder/build/guide/$way"
+    cmake --install "$folder/build" --prefix "$folder/prefix" >/dev/null
+    [[ ! -e $folder/prefix ]] || find "$folder/prefix" -type f | none
+}
+
+# The same hosts with the package that check_package installed. Only with a static library there is something to
+# optimize at the link.
+check_package_hosts() {
+    local preset=$1 package=$2 version=5 folder=$PWD/build/package/$1/hosts optimize=OFF
+    [[ $preset != qt6* ]] || version=6
+    [[ $preset != *static ]] || optimize=ON
+    cmake -S cmake/hosts -B "$folder" -G Ninja -DHOST_WAY=package -DHOST_PACKAGE="$package" \
+        -DFISHBONE_QT_MAJOR="$version" -DCMAKE_PREFIX_PATH="$PWD/build/package/$preset/moved away" \
+        -DCMAKE_CXX_STANDARD=20 -DCMAKE_INTERPROCEDURAL_OPTIMIZATION="$optimize" -DCMAKE_CXX_COMPILER_LAUNCHER=ccache
+    cmake --build "$folder"
+    QT_QPA_PLATFORM=offscreen "$folder/before"
+    QT_QPA_PLATFORM=offscreen "$folder/after"
 }
 
 # exported <library>: what the library exports, readable and sorted. Weak symbols, which are copies of inline
@@ -171,21 +190,61 @@ check_documentation() {
     [[ -s build/docs/docs/html/classFishEditor.html ]]
 }
 
-# Every block of code in the embedding guide does what the guide says, with the package that was installed for
-# check_package.
+# prove <folder>: the host of the guide in that folder opens no window any more, but does what the guide promises
+# of it, and tells.
+prove() {
+    sed 's/#include <window.h>/#include "window.h"/' cmake/hosts/guide.cpp >"$1/main.cpp"
+}
+
+# check_guide <5|6> <preset>: every block of code in the embedding guide does what the guide says, with the package
+# that check_package installed of the build of the preset.
 check_guide() {
-    local folder=$PWD/build/guide
+    local folder=$PWD/build/guide/qt$1 options=()
+    [[ $1 == 5 ]] || options=(--qt6)
     rm -rf "$folder"
     mkdir -p "$folder"
-    scripts/guide-steps docs/embedding.md >"$folder/steps"
+    scripts/guide-steps "${options[@]}" docs/embedding.md >"$folder/steps"
     # The guide knows no blanks in a prefix.
-    ln -s "$PWD/build/package/release/moved away" "$folder/prefix"
+    ln -s "$PWD/build/package/$2/moved away" "$folder/prefix"
     (
         cd "$folder" || exit
         export CMAKE_PREFIX_PATH=$folder/prefix PKG_CONFIG_PATH=$folder/prefix/lib/pkgconfig
         export LD_LIBRARY_PATH=$folder/prefix/lib
+        # Where Debian keeps the links to ccache, for whatever builds the host.
+        PATH=/usr/lib/ccache:$PATH
         bash -euo pipefail steps
+        cd "$OLDPWD" || exit
+        prove_guide "$folder"
     )
+}
+
+# The hosts that the guide's reader has in that folder then.
+prove_guide() {
+    local name
+    export QT_QPA_PLATFORM=offscreen
+    for name in host meson qmake; do
+        prove "$1/$name"
+    done
+    cmake --build "$1/host/build"
+    "$1/host/build/host"
+    meson compile -C "$1/meson/build"
+    "$1/meson/build/host"
+    make -C "$1/qmake"
+    "$1/qmake/host"
+}
+
+# Each way in that the embedding guide has a heading for is one that a check of scripts/test builds, as the list
+# says, and the list has no others.
+check_ways() {
+    local list=cmake/hosts/ways.txt name
+    sed -n '/^## Ways in$/,/^## [^W]/s/^### //p' docs/embedding.md | LC_ALL=C sort >build/ways
+    [[ $(wc -l <build/ways) -ge 8 ]]
+    {
+        sed -n 's/^\([^#].*\): .*/\1/p' "$list" | LC_ALL=C sort | diff build/ways -
+        sed -n 's/^[^#].*: //p' "$list" | tr ';' '\n' | sed 's/^ *//' | while read -r name; do
+            grep -qF "check \"$name\" " scripts/test || echo "$list: scripts/test has no check \"$name\""
+        done
+    } | none
 }
 
 # The documents and styles that come along keep to the schema. What is saved is validated by a test.
