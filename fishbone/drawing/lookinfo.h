@@ -28,9 +28,9 @@ public:
 
     /** All looks, in the order in which they are offered. */
     static const QVector<LookInfo> &all();
-    /** The look of that name, null when there is none. */
+    /** The look with the name @p name, null when there is none; lives as long as the process. */
     static const LookInfo *find(const QString &name);
-    /** That look; the classic one for a number that stands for none. */
+    /** The look of the number @p kind; the classic one for a number that stands for none. */
     static const LookInfo &of(DiagramLook::Kind kind);
 
     /** What FishEditor::setLook() takes. */

@@ -114,7 +114,7 @@ public:
     void startSaveTmpFileTimer();
     /** The milliseconds between two calls of saveTmpFile(), 0 for none. Starts the timer anew. */
     void setAutosaveInterval(int ms);
-    /** That number. */
+    /** The milliseconds between two calls of saveTmpFile(), 0 for none. */
     int autosaveInterval() const;
     /** @} */
 
@@ -166,7 +166,7 @@ public:
     DiagramLook::Kind look() const;
     /** Chooses what can be chosen of the looks. */
     void setLookOptions(const DiagramLook::Options &options);
-    /** What was chosen. */
+    /** The options of the looks, as setLookOptions() was given them last. */
     const DiagramLook::Options &lookOptions() const;
     /** @} */
 

@@ -45,7 +45,7 @@ public:
                             int levels = allLevels);
     /** Whether what is below a subject is shown; else it is counted. */
     using Shows = std::function<bool(const TreeItem &subject)>;
-    /** The same with what is below those subjects that @p shows tells, and below the head. */
+    /** A picture with what is below the head and below those subjects that @p shows tells. */
     DiagramPicture(const TreeItem *head, const DiagramLook::Options &options, const Shows &shows);
     ~DiagramPicture();
 

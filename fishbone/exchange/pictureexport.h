@@ -114,7 +114,7 @@ public:
     /** Whether a picture of @p size picture units can be made: what is too large is refused here,
      * before anybody makes room for it. */
     static Result check(Format format, const QSizeF &size);
-    /** The same for a picture with @p options, whose scale gave it that size: the reason tells
+    /** As check() without options, of a picture whose scale gave it that size: the reason tells
      * which scale fits. */
     static Result check(Format format, const QSizeF &size, const PictureOptions &options);
     /** The largest factor, at most 1, by which a picture of @p size picture units has to be made

@@ -24,7 +24,7 @@ public:
 
     /** The link target as it was given. */
     const QString &url() const { return m_url; }
-    /** Whether that is @p url, and not empty; quick for the text that the icon was made with. */
+    /** Whether url() is @p url, and not empty; quick for the text that the icon was made with. */
     bool leadsTo(const QString &url) const
     {
         return m_leadsSomewhere && (m_url.isSharedWith(url) || m_url == url);

@@ -270,7 +270,7 @@ public:
 
     /** As the base class does; a line that was set by hand stands until the next layout. */
     void setLine(const QLineF &line);
-    /** The same, from the coordinates of the two points. */
+    /** As setLine(const QLineF &), from the coordinates of the two points. */
     void setLine(qreal x1, qreal y1, qreal x2, qreal y2) { setLine(QLineF(x1, y1, x2, y2)); }
     /** The direction of the bone, as FishEditor::directionFor() gives it. */
     int direction() const { return m_direction; }
@@ -289,7 +289,7 @@ public:
     void initData(int direction);
     /** Records the size of the next child spear. */
     void sumChildSize(const QSizeF &size);
-    /** What was recorded. */
+    /** What sumChildSize() has recorded since initData(). */
     const ChildExtents &childExtents() const { return m_children; }
     /** Extent along the horizontal, children included. */
     double spearWidth() const;

@@ -36,7 +36,7 @@ public:
     QString svgFile() const { return m_file; }
     /** Has the processor fetch what the toolkit keeps of the item. */
     void prefetchInsides() const { prefetch(QGraphicsItem::d_ptr.data(), 384); }
-    /** And what it keeps of those who hear of the position. */
+    /** Has the processor fetch what the toolkit keeps of who hears of the position. */
     void prefetchListeners() const { prefetch(QObject::d_ptr.data(), 128); }
     /** Whether there is a picture behind svgFile(). */
     bool showsPicture() const { return m_shown; }

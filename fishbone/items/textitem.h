@@ -39,11 +39,11 @@ public:
 
     /** Has the processor fetch what the toolkit keeps of the item. */
     void prefetchInsides() const { prefetch(QGraphicsItem::d_ptr.data(), 256); }
-    /** And what it keeps of those who hear of the position. */
+    /** Has the processor fetch what the toolkit keeps of who hears of the position. */
     void prefetchListeners() const { prefetch(QObject::d_ptr.data(), 128); }
     /** Whether showText() with the same arguments would change anything. */
     bool shows(const QFont &font, QStringView text) const;
-    /** The same, without a look at the letters of a text that is the one given last. */
+    /** As the other shows(), without a look at the letters of a text that is the one given last. */
     bool shows(const QFont &font, const QString &text) const;
     /** Shows @p text in @p font; what is shown already is not laid out again. */
     void showText(const QFont &font, const QString &text);
@@ -63,9 +63,9 @@ public:
 
     /** As the look of the parent spear has it. */
     QRectF boundingRect() const override;
-    /** The same. */
+    /** The outline of the box, as the look of the parent spear has it. */
     QPainterPath shape() const override;
-    /** Whether that holds @p point. */
+    /** Whether the outline of the box holds @p point. */
     bool contains(const QPointF &point) const override;
     /** The box is about to become another one. For SpearItem. */
     void boxChanges();

@@ -112,7 +112,7 @@ public:
      * a head.
      */
     QJsonObject view() const;
-    /** Replaces that; false without a head. */
+    /** Replaces view(); false, with nothing stored, without a head. */
     bool setView(const QJsonObject &view);
 
     /** Removes the file @p path. */

@@ -250,7 +250,7 @@ public:
     QModelIndexList searchModelIndexes(const QString &key) const;
     /** What heads show and which context menu the editor offers. */
     FISH_MODEL_TYPE modelType() const;
-    /** Chooses that; views are not told. */
+    /** Chooses what heads show and which menu the editor offers; views are not told. */
     void setModelType(FISH_MODEL_TYPE type);
     /** @} */
 

@@ -31,30 +31,30 @@ namespace SubjectMarks {
 
 /** The verdict in @p fields. */
 FISHBONE_EXPORT Verdict verdict(const QJsonObject &fields);
-/** Stores it; Verdict::None removes the field. */
+/** Stores the verdict in @p fields; Verdict::None removes the field. */
 FISHBONE_EXPORT void setVerdict(QJsonObject &fields, Verdict verdict);
 
 /** How many people hold a subject for the likeliest; never negative. */
 FISHBONE_EXPORT int votes(const QJsonObject &fields);
-/** Stores that number; 0 and less remove the field. */
+/** Stores the number of votes in @p fields; 0 and less remove the field. */
 FISHBONE_EXPORT void setVotes(QJsonObject &fields, int votes);
 
 /** The colour that a subject was given in place of its palette's; invalid when it was not. */
 FISHBONE_EXPORT QColor colour(const QJsonObject &fields);
-/** Stores that colour without its alpha; an invalid one removes the field. */
+/** Stores a colour in @p fields, without its alpha; an invalid one removes the field. */
 FISHBONE_EXPORT void setColour(QJsonObject &fields, const QColor &colour);
 
 /** The verdict of @p subject. */
 FISHBONE_EXPORT Verdict verdict(const TreeItem &subject);
-/** Stores it, as the setters of TreeItem do: no view is told. */
+/** Stores the verdict of @p subject, as the setters of TreeItem do: no view is told. */
 FISHBONE_EXPORT void setVerdict(TreeItem &subject, Verdict verdict);
 /** The votes for @p subject. */
 FISHBONE_EXPORT int votes(const TreeItem &subject);
-/** Stores them, as the setters of TreeItem do. */
+/** Stores the votes for @p subject, as the setters of TreeItem do. */
 FISHBONE_EXPORT void setVotes(TreeItem &subject, int votes);
 /** The colour of @p subject. */
 FISHBONE_EXPORT QColor colour(const TreeItem &subject);
-/** Stores it, as the setters of TreeItem do. */
+/** Stores the colour of @p subject, as the setters of TreeItem do. */
 FISHBONE_EXPORT void setColour(TreeItem &subject, const QColor &colour);
 
 } // namespace SubjectMarks

@@ -225,7 +225,7 @@ public:
     void setPlanEndDate(qint64 msecs) { m_planEndDate = msecs; }
     /** Whether FishModel::updateItem() changed the node. */
     bool isEditModified() const { return m_editModified; }
-    /** Stores that mark. */
+    /** Marks the node as changed by FishModel::updateItem(), or takes the mark away. */
     void setEditModified(bool modified) { m_editModified = modified; }
     /** Whether the node's bone may be dragged. Read from a file, but never written to one. */
     bool spearItemIsMovable() const { return m_spearItemIsMovable; }
@@ -241,7 +241,7 @@ public:
     QJsonObject otherFields() const;
     /** Whether there are any. */
     bool hasOtherFields() const;
-    /** Replaces those fields. Keys of the format are left out: they have attributes here. */
+    /** Replaces otherFields(). Keys of the format are left out: they have attributes here. */
     void setOtherFields(const QJsonObject &fields);
     /** @} */
 

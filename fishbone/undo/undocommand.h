@@ -51,9 +51,9 @@ public:
     /** Returns the titles of the subjects that the command is about, as they were or have become
      * by it; empty when it is about none. */
     QStringList subjectTitles() const { return m_subjectTitles; }
-    /** Replaces those titles, which are there for whoever lists steps. */
+    /** Replaces subjectTitles(), which are there for whoever lists steps. */
     void setSubjectTitles(const QStringList &titles) { m_subjectTitles = titles; }
-    /** Adds @p title to those titles. */
+    /** Adds @p title to subjectTitles(). */
     void addSubjectTitle(const QString &title) { m_subjectTitles.append(title); }
 
 private:
