@@ -9,6 +9,7 @@
 #include <fishbone/model/fishmodel.h>
 
 #include <QMenu>
+#include <QTreeView>
 
 namespace {
 
@@ -28,17 +29,36 @@ void fill(QMenu &menu, const char *const (&names)[size], const ActionSet &action
     }
 }
 
+void fillFor(const FishEditor &editor, QMenu &menu, const ActionSet &actions, QMenu *marks)
+{
+    if (editor.modelType() == FISH_MODEL_NORMAL)
+        fill(menu, taskEntries, actions);
+    else
+        fill(menu, diagramEntries, actions);
+    menu.addMenu(marks);
+    fill(menu, commonEntries, actions);
+}
+
 } // namespace
 
 void offerActionsInBoneMenu(FishEditor &editor, const ActionSet &actions, QMenu *marks)
 {
     editor.setBoneMenuFiller([&editor, &actions, marks](QMenu &menu, SpearItem *) {
         menu.clear();
-        if (editor.modelType() == FISH_MODEL_NORMAL)
-            fill(menu, taskEntries, actions);
-        else
-            fill(menu, diagramEntries, actions);
-        menu.addMenu(marks);
-        fill(menu, commonEntries, actions);
+        fillFor(editor, menu, actions, marks);
+    });
+}
+
+void offerActionsInTreeMenu(QTreeView &tree, FishEditor &editor, const ActionSet &actions,
+                            QMenu *marks)
+{
+    tree.setContextMenuPolicy(Qt::CustomContextMenu);
+    QObject::connect(&tree, &QWidget::customContextMenuRequested, &editor, [&, marks](QPoint pos) {
+        if (!editor.hasSelection())
+            return;
+        auto *const menu = new QMenu(&tree);
+        menu->setAttribute(Qt::WA_DeleteOnClose);
+        fillFor(editor, *menu, actions, marks);
+        menu->popup(tree.viewport()->mapToGlobal(pos));
     });
 }

@@ -276,6 +276,7 @@ void MainWindow::connectGestures(DocumentTab *tab)
 {
     FishEditor *const editor = tab->editor();
     offerActionsInBoneMenu(*editor, *m_actions, m_marks->menu());
+    offerActionsInTreeMenu(*tab->tree()->view(), *editor, *m_actions, m_marks->menu());
     new MouseDrags(
         editor, [this] { m_actions->action(QStringLiteral("markHere"))->trigger(); },
         tab); // which owns it

@@ -5,12 +5,15 @@
 #include <app/panels/treedrops.h>
 
 #include <fishbone/items/taskstatusinfo.h>
+#include <fishbone/model/subjectmarks.h>
 
 #include <tests/app/appfixture.h>
 #include <tests/program/testprogram.h>
 
+#include <QContextMenuEvent>
 #include <QDragEnterEvent>
 #include <QLineEdit>
+#include <QMenu>
 #include <QMimeData>
 #include <QRubberBand>
 
@@ -86,7 +89,9 @@ private Q_SLOTS:
     void shouldMoveByTheMouse_data();
     void shouldMoveByTheMouse();
     void shouldRefuseWhatCannotBe();
+    void shouldMoveToOtherLevelsByKeys();
     void shouldShowTheStatus();
+    void shouldMarkByKeysAndMenu();
 };
 
 void TestTreeDrops::initTestCase()
@@ -206,6 +211,50 @@ void TestTreeDrops::shouldRefuseWhatCannotBe()
                           Qt::NoModifier);
     QApplication::sendEvent(app.view()->viewport(), &enter);
     QVERIFY(!enter.isAccepted());
+}
+
+void TestTreeDrops::shouldMoveToOtherLevelsByKeys()
+{
+    TreeFixture app;
+    const QString before = app.text();
+    app.choose("Machines");
+    QTest::keyClick(app.view(), Qt::Key_Right, Qt::AltModifier);
+    AppFixture::settle();
+    QVERIFY2(app.text().contains(QLatin1String("Too new,Machines]")), qPrintable(app.text()));
+    QCOMPARE(app.selectedInTree(), QStringList(QStringLiteral("Machines")));
+    QTest::keyClick(app.view(), Qt::Key_Left, Qt::AltModifier);
+    AppFixture::settle();
+    QCOMPARE(app.text(), before);
+}
+
+/** Those of the drawing, for all rows that are selected. */
+void TestTreeDrops::shouldMarkByKeysAndMenu()
+{
+    TreeFixture app;
+    app.choose("Machines");
+    app.choose("Rust", Qt::ControlModifier);
+    QTest::keyClick(app.view(), Qt::Key_3, Qt::AltModifier);
+    AppFixture::settle();
+    const QPoint place = app.row("Rust").center();
+    QTest::mouseClick(app.view()->viewport(), Qt::RightButton, {}, place);
+    QContextMenuEvent event(QContextMenuEvent::Mouse, place,
+                            app.view()->viewport()->mapToGlobal(place));
+    QApplication::sendEvent(app.view()->viewport(), &event);
+    AppFixture::settle();
+    auto *const menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+    QVERIFY(menu);
+    QMenu *const marks = app.window.findChild<QMenu *>(QStringLiteral("markMenu"));
+    QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(marks->menuAction()).center());
+    QTRY_VERIFY(marks->isVisible());
+    QTest::keyClick(marks, Qt::Key_T);                             // status
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_F); // finished
+    AppFixture::settle();
+    QVERIFY(!QApplication::activePopupWidget());
+    for (const char *title : {"Machines", "Rust"}) {
+        QCOMPARE(SubjectMarks::verdict(*app.subject(title)), Verdict::Confirmed);
+        QCOMPARE(app.subject(title)->status(), int(tsFinish));
+    }
+    QCOMPARE(app.steps(), 2);
 }
 
 void TestTreeDrops::shouldShowTheStatus()
