@@ -644,6 +644,10 @@ The ending .html, .pdf or .md tells the format; .md has its picture in a file be
         <source>Votes:</source>
         <translation>Votes:</translation>
     </message>
+    <message>
+        <source>What there is to say of it; of a cause, the evidence for its verdict</source>
+        <translation>What there is to say of it; of a cause, the evidence for its verdict</translation>
+    </message>
 </context>
 <context>
     <name>DetailsPanel</name>

@@ -640,6 +640,10 @@ The ending .html, .pdf or .md tells the format; .md has its picture in a file be
         <source>Votes:</source>
         <translation>票数：</translation>
     </message>
+    <message>
+        <source>What there is to say of it; of a cause, the evidence for its verdict</source>
+        <translation>对该主题的说明；对于原因，则为其结论的依据</translation>
+    </message>
 </context>
 <context>
     <name>DetailsPanel</name>

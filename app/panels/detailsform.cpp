@@ -143,6 +143,8 @@ void DetailsForm::showTexts()
     m_style->setText(tr("Edit style…"));
     m_hasPlannedEnd->setAccessibleName(tr("Has a planned end"));
     m_plannedEnd->setAccessibleName(tr("Planned end"));
+    m_detail->setToolTip(
+        tr("What there is to say of it; of a cause, the evidence for its verdict"));
     m_progress->setAccessibleName(tr("Progress"));
     m_link->setAccessibleName(tr("Link"));
     m_openLink->setAccessibleName(tr("Open the link"));

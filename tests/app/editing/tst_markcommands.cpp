@@ -33,6 +33,12 @@ QPoint seen(const AppFixture &app, const char *title)
     return app.window.editor()->view()->mapFromScene(text->sceneBoundingRect().center());
 }
 
+void clickEntry(QMenu &menu, QAction *entry)
+{
+    QTest::mouseMove(&menu, menu.actionGeometry(entry).center());
+    QTest::mouseClick(&menu, Qt::LeftButton, Qt::NoModifier, menu.actionGeometry(entry).center());
+}
+
 /** What is marked in a subject: "rootcause 3 #ff0000, status 3, priority 1, Ada/7". */
 QString marksOf(const TreeItem &subject)
 {
@@ -61,6 +67,8 @@ private Q_SLOTS:
     void shouldCountVotes();
     void shouldOpenAtTheBone_data();
     void shouldOpenAtTheBone();
+    void shouldMarkByTheMenuOfABone_data();
+    void shouldMarkByTheMenuOfABone();
     void shouldKeepASelectionOfSeveralOnARightClick();
     void shouldSelectWhatIsRightClickedBesideTheSelection();
     void shouldSelectSeveralWithTheMouse();
@@ -223,6 +231,48 @@ void TestMarkCommands::shouldOpenAtTheBone()
     }
     QVERIFY(!QApplication::activePopupWidget());
     QCOMPARE(marksOf(*app.subject("People")), marks);
+}
+
+void TestMarkCommands::shouldMarkByTheMenuOfABone_data()
+{
+    QTest::addColumn<QString>("menu");
+    QTest::addColumn<QString>("entry");
+    QTest::addColumn<QString>("marks");
+    const auto row = [](const char *name, const char *menu, const char *entry, const char *marks) {
+        QTest::newRow(name) << QString::fromLatin1(menu) << QString::fromLatin1(entry)
+                            << QString::fromLatin1(marks);
+    };
+    row("verdict", "", "verdictRuledOut", "ruledout 0 , -1, -1, /");
+    row("vote", "", "voteMore", " 1 , -1, -1, /");
+    row("status", "statusMenu", "statusFinished", " 0 , 2, -1, /");
+    row("priority", "priorityMenu", "priority2", " 0 , -1, 2, /");
+    row("colour", "colourMenu", "colourRed", " 0 #b3261e, -1, -1, /");
+}
+
+/** Of all that are selected, by the mouse alone. */
+void TestMarkCommands::shouldMarkByTheMenuOfABone()
+{
+    QFETCH(QString, menu);
+    QFETCH(QString, entry);
+    QFETCH(QString, marks);
+    AppFixture app;
+    click(app, "People", "Machines");
+    const bool isShown = rightClick(app, seen(app, "Machines"), [&](QMenu &shown) {
+        QMenu *marking = app.window.findChild<MarkCommands *>()->menu();
+        clickEntry(shown, marking->menuAction());
+        QTRY_VERIFY(marking->isVisible());
+        if (!menu.isEmpty()) {
+            auto *const below = marking->findChild<QMenu *>(menu);
+            clickEntry(*marking, below->menuAction());
+            QTRY_VERIFY(below->isVisible());
+            marking = below;
+        }
+        clickEntry(*marking, app.action(entry.toLatin1().constData()));
+    });
+    QVERIFY(isShown);
+    QTRY_COMPARE(marksOf(*app.subject("People")), marks);
+    QCOMPARE(marksOf(*app.subject("Machines")), marks);
+    QCOMPARE(app.window.editor()->undoStack()->count(), 1);
 }
 
 void TestMarkCommands::shouldKeepASelectionOfSeveralOnARightClick()

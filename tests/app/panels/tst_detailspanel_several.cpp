@@ -1,7 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Fishbone authors
 // SPDX-License-Identifier: MIT
 
+#include <app/diagram/marknames.h>
+
 #include <tests/app/appfixture.h>
+#include <tests/app/dialoganswers.h>
 #include <tests/program/testprogram.h>
 #include <tests/support/modaldriver.h>
 
@@ -50,6 +53,8 @@ private Q_SLOTS:
     void shouldRevert();
     void shouldApplyWhenOthersAreSelected();
     void shouldGiveAllTheStyle();
+    void shouldGiveAllTheStatus();
+    void shouldKeepTheEvidenceWithTheVerdict();
 
 private:
     template <typename Field>
@@ -258,6 +263,52 @@ void TestDetailsPanelSeveral::shouldGiveAllTheStyle()
     m_app->trigger("undo");
     QVERIFY(!people().spearStyle() && !machines().spearStyle());
     QVERIFY(!m_app->window.editor()->canUndo());
+}
+
+void TestDetailsPanelSeveral::shouldGiveAllTheStatus()
+{
+    auto &status = field<QComboBox>("detailsStatus");
+    status.setFocus();
+    while (status.currentText() != MarkNames::of(int(tsPostpone))) {
+        const int before = status.currentIndex();
+        QTest::keyClick(&status, Qt::Key_Down);
+        QVERIFY(status.currentIndex() != before);
+    }
+    apply();
+    QCOMPARE(people().status(), int(tsPostpone));
+    QCOMPARE(machines().status(), int(tsPostpone));
+    m_app->trigger("undo");
+    QCOMPARE(people().status(), int(tsRunning));
+    QCOMPARE(machines().status(), int(tsFinish));
+    QVERIFY(!m_app->window.editor()->canUndo());
+}
+
+/** In one step, and the report shows both side by side. */
+void TestDetailsPanelSeveral::shouldKeepTheEvidenceWithTheVerdict()
+{
+    m_app->select("Machines");
+    auto &verdict = field<QComboBox>("detailsVerdict");
+    verdict.setFocus();
+    QTest::keyClick(&verdict, Qt::Key_End);
+    QCOMPARE(verdict.currentText(), MarkNames::of(Verdict::RootCause));
+    auto &text = field<QPlainTextEdit>("detailsText");
+    text.setFocus();
+    text.selectAll();
+    QTest::keyClicks(&text, QStringLiteral("Bearing seized"));
+    apply();
+    QCOMPARE(SubjectMarks::verdict(machines()), Verdict::RootCause);
+    QCOMPARE(machines().detail(), QStringLiteral("Bearing seized"));
+    QCOMPARE(m_app->window.editor()->undoStack()->count(), 1);
+    const ModalDriver<QFileDialog> driver(
+        DialogAnswers::enter(m_app->path(QStringLiteral("report.md"))));
+    m_app->trigger("report");
+    QVERIFY(driver.isDone());
+    const QByteArray report = AppFixture::contentOf(m_app->path(QStringLiteral("report.md")));
+    bool isTold = false;
+    for (const QByteArray &line : report.split('\n'))
+        isTold = isTold || (line.contains("Machines") && line.contains("Bearing seized") &&
+                            line.contains("root cause"));
+    QVERIFY2(isTold, report.constData());
 }
 
 FISHBONE_TEST(TestDetailsPanelSeveral)

@@ -183,13 +183,16 @@ void TestFilterBar::shouldFilterByWhatSubjectsAreMarkedWith()
         QDateTime::currentDateTime().addDays(-2).toMSecsSinceEpoch());
     app.chooseIn("filterVerdict", Qt::Key_Down, 6); // the last of the verdicts
     QCOMPARE(app.shown(), QStringLiteral("(Material),Rust"));
+    QCOMPARE(app.inTree(), QStringLiteral("Late,Material,Rust"));
     app.chooseIn("filterVerdict", Qt::Key_Up, 6);
     QCOMPARE(app.opacity("People"), 1.0);
     app.chooseIn("filterVotes", Qt::Key_Up, 3);
     QCOMPARE(app.shown(), QStringLiteral("Machines"));
+    QCOMPARE(app.inTree(), QStringLiteral("Late,Machines"));
     app.chooseIn("filterVotes", Qt::Key_Down, 3);
     app.chooseIn("filterOverdue", Qt::Key_Space, 1);
     QCOMPARE(app.shown(), QStringLiteral("(People),Too new"));
+    QCOMPARE(app.inTree(), QStringLiteral("Late,People,Too new"));
     app.chooseIn("filterOverdue", Qt::Key_Space, 1);
     app.chooseIn("filterStatus", Qt::Key_Down, 8); // waiting
     QCOMPARE(app.widget<QComboBox>("filterStatus")->currentText(), QStringLiteral("waiting"));
