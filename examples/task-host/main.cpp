@@ -70,12 +70,15 @@ public:
 protected:
     void run() override
     {
+        const QString quit = QStringLiteral("quit");
         QTextStream in(stdin);
-        for (QString line = in.readLine(); !line.isNull(); line = in.readLine()) {
+        QString line;
+        while (line != quit) { // who waits for this thread waits for no further line then
+            line = in.readLine();
+            if (line.isNull())
+                line = quit; // whoever tells what to do has gone
             QMetaObject::invokeMethod(
                 &m_rehearsal, [this, line] { m_rehearsal.command(line); }, Qt::QueuedConnection);
-            if (line == QLatin1String("quit"))
-                return; // who waits for this thread waits for no further line
         }
     }
 

@@ -50,7 +50,7 @@ public:
     }
     ~Transaction()
     {
-        if (m_isOpen)
+        if (m_isOpen && m_store.database().isOpen())
             QSqlQuery(m_store.database()).exec(QStringLiteral("ROLLBACK")); // an error stays told
     }
 
@@ -111,6 +111,8 @@ bool TaskStore::fail(const QString &text)
 
 bool TaskStore::run(QSqlQuery &query, const QString &sql, const QVariantList &values)
 {
+    if (!database().isOpen())
+        return fail(tr("There is no connection."));
     query.setForwardOnly(true);
     bool isDone = values.isEmpty() ? query.exec(sql) : query.prepare(sql);
     if (!values.isEmpty() && isDone) {
