@@ -145,7 +145,7 @@ QList<const TreeItem *> subjectsAt(const FishModel &model,
                                    const QList<QPersistentModelIndex> &indexes)
 {
     QList<const TreeItem *> subjects;
-    for (const QModelIndex &index : indexes) {
+    for (const QPersistentModelIndex &index : indexes) {
         if (const TreeItem *const subject = model.getTreeItem(index))
             subjects.append(subject);
     }
