@@ -104,7 +104,7 @@ check_hosts() {
         -DFISHBONE_QT_MAJOR="$2" -DCMAKE_CXX_COMPILER_LAUNCHER=ccache "${@:3}"
     cmake --build "$folder/build" --target all "$way"
     export QT_QPA_PLATFORM=offscreen
-    "$folder/build/before"
+    [[ $way != part ]] || "$folder/build/before"
     "$folder/build/after"
     "$folder/build/guide/$way"
     cmake --install "$folder/build" --prefix "$folder/prefix" >/dev/null
@@ -121,7 +121,6 @@ check_package_hosts() {
         -DFISHBONE_QT_MAJOR="$version" -DCMAKE_PREFIX_PATH="$PWD/build/package/$preset/moved away" \
         -DCMAKE_CXX_STANDARD=20 -DCMAKE_INTERPROCEDURAL_OPTIMIZATION="$optimize" -DCMAKE_CXX_COMPILER_LAUNCHER=ccache
     cmake --build "$folder"
-    QT_QPA_PLATFORM=offscreen "$folder/before"
     QT_QPA_PLATFORM=offscreen "$folder/after"
 }
 
