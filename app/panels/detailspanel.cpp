@@ -15,7 +15,11 @@
 #include <fishbone/model/treeitem.h>
 #include <fishbone/undo/editattributes.h>
 
+#include <QAbstractSpinBox>
+#include <QCheckBox>
+#include <QComboBox>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QPushButton>
 #include <QScrollArea>
 
@@ -53,6 +57,20 @@ DetailsPanel::DetailsPanel(DiagramSession *session, QWidget *parent)
     connect(m_revert, &QPushButton::clicked, this, &DetailsPanel::revert);
     showSubject({});
     Language::bind(this, [this] { showTexts(); });
+}
+
+/** Takes Return for all that have no use for it. Lines of text tell of it by themselves. */
+void DetailsPanel::keyPressEvent(QKeyEvent *event)
+{
+    const QWidget *const field = focusWidget();
+    const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    const bool isPlain = qobject_cast<const QAbstractSpinBox *>(field) ||
+                         qobject_cast<const QComboBox *>(field) ||
+                         qobject_cast<const QCheckBox *>(field);
+    if (isReturn && isPlain)
+        apply();
+    else
+        QWidget::keyPressEvent(event);
 }
 
 void DetailsPanel::buildLayout()

@@ -43,6 +43,9 @@ public Q_SLOTS:
     /** Shows the subjects as they are. */
     void revert();
 
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+
 private:
     void buildLayout();
     void showTexts();
