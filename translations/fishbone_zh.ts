@@ -540,7 +540,7 @@ The ending .html, .pdf or .md tells the format; .md has its picture in a file be
     </message>
     <message>
         <source>Open</source>
-        <translation>确定</translation>
+        <translation>打开</translation>
     </message>
     <message>
         <source>Edit style…</source>

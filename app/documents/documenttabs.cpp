@@ -3,6 +3,7 @@
 
 #include <app/documents/documenttabs.h>
 
+#include <app/common/crossstyle.h>
 #include <app/common/language.h>
 #include <app/common/tabbuttons.h>
 #include <app/diagram/diagramsession.h>
@@ -187,7 +188,9 @@ void DocumentTabs::refresh()
         if (document && document->modified())
             text += QLatin1Char('*');
         m_tabs->setTabText(position, text);
-        bar->tabButton(position, closeSide)->setToolTip(tr("Close"));
+        QWidget *const close = bar->tabButton(position, closeSide);
+        close->setToolTip(tr("Close"));
+        CrossStyle::giveTo(close);
         m_tabs->setTabToolTip(position, tab->path().isEmpty()
                                             ? tr("Not saved to a file yet")
                                             : QDir::toNativeSeparators(tab->path()));

@@ -19,7 +19,6 @@
 #include <QLineEdit>
 #include <QSignalBlocker>
 #include <QSpinBox>
-#include <QStyle>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -81,7 +80,7 @@ void FilterBar::buildLayout()
 {
     m_text->setClearButtonEnabled(true);
     m_votes->setMaximum(9999);
-    m_close->setIcon(style()->standardIcon(QStyle::SP_TitleBarCloseButton));
+    m_close->setText(QStringLiteral("×")); // in the colour of texts, as no icon of the style is
     m_close->setAutoRaise(true);
     constexpr int letters = 8; // of the chosen entry; the list shows them whole
     for (QComboBox *box : {m_status, m_verdict, m_person}) {

@@ -8,6 +8,7 @@
 #include <app/common/canvastheme.h>
 #include <app/common/language.h>
 #include <app/common/linkopener.h>
+#include <app/common/themedicon.h>
 #include <app/diagram/diagramsession.h>
 #include <app/documents/documenttab.h>
 #include <app/documents/documenttabs.h>
@@ -64,20 +65,24 @@
 
 namespace {
 
-/** The toolkit names the buttons in the title of a dock once and for all. */
-void nameTitleButtons(const QDockWidget &dock)
+/** Names the buttons in the title of a dock, as the toolkit does once and for all, and gives them
+ * icons that can be seen on a dark desktop. */
+void dressTitleButtons(const QDockWidget &dock)
 {
-    const auto name = [&dock](const char *button, const QString &text, const QString &description) {
+    const auto dress = [&dock](const char *button, const char *icon, const QString &text,
+                               const QString &description) {
         auto *const found = dock.findChild<QAbstractButton *>(QLatin1String(button));
         if (!found)
             return;
+        found->setIcon(ThemedIcon::icon(QLatin1String(icon), dock.palette()));
         found->setToolTip(text);
         found->setAccessibleName(text);
         found->setAccessibleDescription(description);
     };
-    name("qt_dockwidget_floatbutton", MainWindow::tr("Float"),
-         MainWindow::tr("Takes the panel out of the window, or back into it"));
-    name("qt_dockwidget_closebutton", MainWindow::tr("Close"), MainWindow::tr("Closes the panel"));
+    dress("qt_dockwidget_floatbutton", "floatpanel", MainWindow::tr("Float"),
+          MainWindow::tr("Takes the panel out of the window, or back into it"));
+    dress("qt_dockwidget_closebutton", "closepanel", MainWindow::tr("Close"),
+          MainWindow::tr("Closes the panel"));
 }
 
 } // namespace
@@ -182,8 +187,9 @@ QDockWidget *MainWindow::addDock(const char *name, const char *title, Qt::DockWi
     auto *const dock = new QDockWidget(this);
     Language::bind(dock, [dock, title] {
         dock->setWindowTitle(tr(title));
-        nameTitleButtons(*dock);
+        dressTitleButtons(*dock);
     });
+    connect(dock, &QDockWidget::topLevelChanged, dock, [dock] { dressTitleButtons(*dock); });
     dock->setObjectName(QLatin1String(name));
     dock->setWidget(contents);
     addDockWidget(area, dock);
@@ -232,6 +238,9 @@ void MainWindow::addBars()
     Language::bind(panels, &QMenu::setTitle, [] { return tr("&Panels"); });
     menuBar()->insertMenu(findChild<QMenu *>(QStringLiteral("helpMenu"))->menuAction(), panels);
     m_actions->updateIcons(palette());
+    const QList<QDockWidget *> docks = findChildren<QDockWidget *>();
+    for (const QDockWidget *dock : docks)
+        dressTitleButtons(*dock);
 }
 
 void MainWindow::connectCommands()

@@ -5,8 +5,10 @@
 #include <app/common/themedicon.h>
 
 #include <fishbone/style/spearstyle.h>
+#include <tests/app/appfixture.h>
 #include <tests/program/testprogram.h>
 
+#include <QAbstractButton>
 #include <QDirIterator>
 #include <QImage>
 #include <QPainter>
@@ -114,6 +116,8 @@ private Q_SLOTS:
     void shouldShowThePicturesOfTheDrawing();
     void shouldShowTheIconsOfTheActions_data() { addPalettes(); }
     void shouldShowTheIconsOfTheActions();
+    void shouldShowWhatClosesTabsAndPanels_data() { addPalettes(); }
+    void shouldShowWhatClosesTabsAndPanels();
 
 private:
     static void addPalettes()
@@ -210,6 +214,34 @@ void TestContrast::shouldShowTheIconsOfTheActions()
         QVERIFY2(pixels.drawn > hardlyAnything, qPrintable(file));
         QCOMPARE(pixels.standingOut, pixels.drawn);
     }
+}
+
+void TestContrast::shouldShowWhatClosesTabsAndPanels()
+{
+    QFETCH(QPalette, palette);
+    const QPalette before = QApplication::palette();
+    QApplication::setPalette(palette);
+    {
+        AppFixture app;
+        QTest::keyClick(app.window.editor()->view(), Qt::Key_L,
+                        Qt::ControlModifier | Qt::ShiftModifier);
+        AppFixture::settle();
+        const QImage window = app.window.grab().toImage();
+        int buttons = 0;
+        const QList<QAbstractButton *> all = app.window.findChildren<QAbstractButton *>();
+        for (const QAbstractButton *button : all) {
+            const QString name = button->objectName() + QLatin1Char(' ') +
+                                 QLatin1String(button->metaObject()->className());
+            if (!button->isVisible() || !name.contains(QLatin1String("Close"), Qt::CaseInsensitive))
+                continue;
+            ++buttons;
+            const QRect place(button->mapTo(&app.window, QPoint()), button->size());
+            const Pixels pixels(window.copy(place), palette.color(QPalette::Window));
+            QVERIFY2(pixels.standingOut >= hardlyAnything, qPrintable(name));
+        }
+        QVERIFY(buttons >= 5); // of the tab, of the filter and of the panels
+    }
+    QApplication::setPalette(before);
 }
 
 FISHBONE_TEST(TestContrast)
