@@ -32,6 +32,8 @@ check_scripts() {
     local scripts
     mapfile -t scripts <<<"$(grep -lE '^#!.*bash' scripts/* .ci/*)"
     shellcheck --external-sources "${scripts[@]}" scripts/*.sh
+    # Of several names the command is content with one that exists, and says nothing of the others.
+    search -nE 'command -v +[^ >|&;)]+ +[^ >|&;)]' "${scripts[@]}" scripts/*.sh | none
 }
 
 # What cppcheck remembers of each file makes the next time fast.

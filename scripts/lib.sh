@@ -18,6 +18,16 @@ fail() {
     exit 1
 }
 
+# Whether there is a program $1. One at a time: of several, "command -v" is content with a single one.
+has() {
+    command -v "$1" >/dev/null
+}
+
+# Ends the script when there is no program $1, with the name of the Debian package $2 that it is in.
+need() {
+    has "$1" || fail "there is no $1: please install $2"
+}
+
 # Configures the preset $1 when that was not done since its description changed. The build itself sees
 # every other reason to configure again.
 configure() {
