@@ -3,19 +3,21 @@
 
 #pragma once
 
-#include <QIdentityProxyModel>
+#include <fishbone/model/fishproxymodel.h>
+
 #include <QMainWindow>
 
 class FishModel;
+class QLineEdit;
 class QTreeView;
 
-/** The model for a plain view whose rows can be dragged onto a diagram. */
-class DragProxy : public QIdentityProxyModel
+/** The model for a plain view: filtered, and with rows that can be dragged onto a diagram. */
+class DragProxy : public FishProxyModel
 {
     Q_OBJECT
 
 public:
-    using QIdentityProxyModel::QIdentityProxyModel;
+    using FishProxyModel::FishProxyModel;
 
     /** As the model's, and they can be dragged. */
     Qt::ItemFlags flags(const QModelIndex &index) const override;
@@ -30,6 +32,8 @@ public:
     explicit BoardWindow(FishModel &model, QWidget *parent = nullptr);
 
     QTreeView &tree() const { return *m_tree; }
+    /** Shows the tasks whose titles contain @p text, and what is above them. */
+    void setFilter(const QString &text);
 
 Q_SIGNALS:
     /** The user wants to see the task @p uuid in its diagram. */
@@ -37,5 +41,6 @@ Q_SIGNALS:
 
 private:
     DragProxy m_proxy;
-    QTreeView *m_tree; // a child
+    QLineEdit *m_filter; // a child
+    QTreeView *m_tree;   // a child
 };

@@ -8,6 +8,7 @@
 #include <taskform.h>
 
 #include <fishbone/editor/fisheditor.h>
+#include <fishbone/editor/graphicsview.h>
 #include <fishbone/items/spearitem.h>
 #include <fishbone/model/fishmodel.h>
 #include <fishbone/model/treeitem.h>
@@ -60,6 +61,7 @@ TaskWindow::TaskWindow(TaskDesk &desk, QWidget *parent)
     connectView();
     connectState();
     addMenuEntries();
+    followPalette();
 }
 
 TaskWindow::~TaskWindow()
@@ -148,6 +150,17 @@ void TaskWindow::addMenuEntries()
     });
 }
 
+/** A dark desktop gets a dark canvas, and colours that can be told apart on it. */
+void TaskWindow::followPalette()
+{
+    const QColor canvas = palette().color(QPalette::Base);
+    DiagramLook::Options options = m_editor->lookOptions();
+    options.palette =
+        canvas.lightness() < 128 ? DiagramLook::DarkColors : DiagramLook::DistinctColors;
+    m_editor->setLookOptions(options);
+    m_editor->view()->setBackgroundBrush(canvas);
+}
+
 void TaskWindow::showDiagram(const QModelIndex &head)
 {
     const QString title = head.data().toString();
@@ -197,6 +210,8 @@ void TaskWindow::changeEvent(QEvent *event)
     QMainWindow::changeEvent(event);
     if (event->type() == QEvent::ActivationChange && isActiveWindow())
         m_desk.undoGroup().setActive(m_editor);
+    if (event->type() == QEvent::PaletteChange)
+        followPalette();
 }
 
 void TaskWindow::note(const QString &text)

@@ -51,6 +51,7 @@ private:
     void connectView();
     void connectState();
     void addMenuEntries();
+    void followPalette();
     void addTask(const QModelIndex &parent, const QString &title);
     void showDetails(const QModelIndex &index);
     void exportDiagram();

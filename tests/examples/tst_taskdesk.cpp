@@ -10,6 +10,7 @@
 #include <taskwindow.h>
 
 #include <fishbone/drawing/diagramlook.h>
+#include <fishbone/editor/graphicsview.h>
 #include <fishbone/items/linkitem.h>
 #include <fishbone/items/spearitem.h>
 #include <fishbone/items/taskstatusinfo.h>
@@ -18,6 +19,7 @@
 #include <QAction>
 #include <QGraphicsScene>
 #include <QMenu>
+#include <QMimeData>
 #include <QTreeView>
 
 class TestTaskDesk : public QObject
@@ -59,6 +61,40 @@ private Q_SLOTS:
         QVERIFY(row.flags().testFlag(Qt::ItemIsDragEnabled));
         Q_EMIT tree.activated(row);
         QCOMPARE(m_desk->windows().size(), 2);
+    }
+
+    void theBoardIsFilteredByTitles()
+    {
+        QTreeView &tree = m_desk->board()->tree();
+        m_desk->board()->setFilter(QStringLiteral("deep"));
+        const QModelIndex head = tree.model()->index(0, 0);
+        QCOMPARE(tree.model()->rowCount(head), 1); // what is above it
+        QCOMPARE(tree.model()->index(0, 0, head).data().toString(), QStringLiteral("One"));
+        m_desk->board()->setFilter(QString());
+        QCOMPARE(tree.model()->rowCount(head), 2);
+    }
+
+    void aTaskThatIsDraggedFromTheBoardMovesAndIsStored()
+    {
+        FishEditor &editor = m_desk->windows().constFirst()->editor();
+        QAbstractItemModel *const board = m_desk->board()->tree().model();
+        m_desk->board()->setFilter(QStringLiteral("p"));
+        const QModelIndex dragged = board->index(0, 0, board->index(1, 0)); // of the other diagram
+        const std::unique_ptr<QMimeData> drag(board->mimeData({dragged}));
+        editor.onDropTo(drag.get(), index("b"), 0);
+        QVERIFY(m_desk->sync().synchronize());
+        QCOMPARE(m_desk->sync().known().value(QStringLiteral("p")).parent, QStringLiteral("b"));
+    }
+
+    void aDarkDesktopGetsADarkCanvas()
+    {
+        TaskWindow &window = *m_desk->windows().constFirst();
+        QCOMPARE(int(window.editor().lookOptions().palette), int(DiagramLook::DistinctColors));
+        QPalette dark = window.palette();
+        dark.setColor(QPalette::Base, Qt::black);
+        window.setPalette(dark);
+        QCOMPARE(int(window.editor().lookOptions().palette), int(DiagramLook::DarkColors));
+        QCOMPARE(window.editor().view()->backgroundBrush().color(), QColor(Qt::black));
     }
 
     void theEditorsWishesAreCarriedOutAndStored()
