@@ -15,12 +15,14 @@
 
 #include <QAction>
 #include <QClipboard>
+#include <QCloseEvent>
 #include <QDockWidget>
 #include <QEvent>
 #include <QFileDialog>
 #include <QGuiApplication>
 #include <QLabel>
 #include <QMenu>
+#include <QMessageBox>
 #include <QSaveFile>
 #include <QSlider>
 #include <QSpinBox>
@@ -212,6 +214,21 @@ void TaskWindow::changeEvent(QEvent *event)
         m_desk.undoGroup().setActive(m_editor);
     if (event->type() == QEvent::PaletteChange)
         followPalette();
+}
+
+/** What waits is in this process alone. */
+void TaskWindow::closeEvent(QCloseEvent *event)
+{
+    const bool isStored = m_desk.sync().synchronize();
+    const auto answer =
+        isStored
+            ? QMessageBox::Discard
+            : QMessageBox::warning(this, tr("Close"),
+                                   tr("The data base cannot be reached. What you have changed "
+                                      "since is lost with the last window; take the diagram "
+                                      "away to bring it back later."),
+                                   QMessageBox::Discard | QMessageBox::Cancel, QMessageBox::Cancel);
+    event->setAccepted(answer == QMessageBox::Discard);
 }
 
 void TaskWindow::note(const QString &text)

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Fishbone authors
 // SPDX-License-Identifier: MIT
 
+#include <tests/program/sanitized.h>
 #include <tests/program/testprogram.h>
 
 #include <boardwindow.h>
@@ -168,7 +169,8 @@ private Q_SLOTS:
         FishModel &model = other.model();
         model.setData(model.modelIndexByUuid(QStringLiteral("a")), QStringLiteral("Bobs"));
         QVERIFY(model.insertRows(0, 1, model.modelIndexByUuid(QStringLiteral("a"))));
-        QTRY_COMPARE_WITH_TIMEOUT(index("a").data().toString(), QStringLiteral("Bobs"), 1000);
+        QTRY_COMPARE_WITH_TIMEOUT(index("a").data().toString(), QStringLiteral("Bobs"),
+                                  unlessSanitized(1000, 10000));
         QCOMPARE(m_desk->model().rowCount(index("a")), 2);
         QVERIFY(spear->isSelected());
         QVERIFY(spear->isVisible());

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include <tests/examples/taskmaps.h>
+#include <tests/program/sanitized.h>
 #include <tests/program/testprogram.h>
 
 #include <modeltree.h>
@@ -90,10 +91,9 @@ private Q_SLOTS:
 
     void anEditOfOneIsShownToTheOtherWithinASecond()
     {
-        QElapsedTimer timer;
-        timer.start();
         m_ada->rename(QStringLiteral("Two"), QStringLiteral("Second"));
-        QTRY_COMPARE_WITH_TIMEOUT(m_bob->titles(), QStringLiteral("Head One Deep Second"), 1000);
+        QTRY_COMPARE_WITH_TIMEOUT(m_bob->titles(), QStringLiteral("Head One Deep Second"),
+                                  unlessSanitized(1000, 10000));
         QVERIFY(m_bob->sync.isStored());
     }
 
