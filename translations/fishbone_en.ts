@@ -776,10 +776,6 @@ The ending .html, .pdf or .md tells the format; .md has its picture in a file be
         <translation>Imported diagram</translation>
     </message>
     <message>
-        <source>it is not a JSON document (line %1: %2)</source>
-        <translation>it is not a JSON document (line %1: %2)</translation>
-    </message>
-    <message>
         <source>declarations of entities are not accepted</source>
         <translation>declarations of entities are not accepted</translation>
     </message>
@@ -976,10 +972,6 @@ The ending .html, .pdf or .md tells the format; .md has its picture in a file be
         <translation>a topic of the kind &quot;%1&quot; as a cause</translation>
     </message>
     <message>
-        <source>content.json: it is no list of sheets (%1)</source>
-        <translation>content.json: it is no list of sheets (%1)</translation>
-    </message>
-    <message>
         <source>the icon &quot;%1&quot;</source>
         <translation>the icon &quot;%1&quot;</translation>
     </message>
@@ -1018,6 +1010,10 @@ The ending .html, .pdf or .md tells the format; .md has its picture in a file be
     <message>
         <source>&lt;/%1&gt; is missing, the end of &lt;%1&gt; in line %2</source>
         <translation>&lt;/%1&gt; is missing, the end of &lt;%1&gt; in line %2</translation>
+    </message>
+    <message>
+        <source>content.json: it is no list of sheets</source>
+        <translation>content.json: it is no list of sheets</translation>
     </message>
 </context>
 <context>
@@ -1803,14 +1799,6 @@ Do you want to save your changes?</translation>
         <translation>Free topic</translation>
     </message>
     <message>
-        <source>it is not a JSON document</source>
-        <translation>it is not a JSON document</translation>
-    </message>
-    <message>
-        <source>it is not a JSON document (line %1: %2)</source>
-        <translation>it is not a JSON document (line %1: %2)</translation>
-    </message>
-    <message>
         <source>the reply took too long or was too large</source>
         <translation>the reply took too long or was too large</translation>
     </message>
@@ -1999,6 +1987,69 @@ Do you want to save your changes?</translation>
     </message>
 </context>
 <context>
+    <name>JsonErrors</name>
+    <message>
+        <source>a name in quotes or } is missing</source>
+        <translation>a name in quotes or } is missing</translation>
+    </message>
+    <message>
+        <source>the colon behind a name is missing</source>
+        <translation>the colon behind a name is missing</translation>
+    </message>
+    <message>
+        <source>a comma or ] is missing</source>
+        <translation>a comma or ] is missing</translation>
+    </message>
+    <message>
+        <source>the comma behind a value is missing</source>
+        <translation>the comma behind a value is missing</translation>
+    </message>
+    <message>
+        <source>a text in quotes, a number, true, false, null, { or [ is missing</source>
+        <translation>a text in quotes, a number, true, false, null, { or [ is missing</translation>
+    </message>
+    <message>
+        <source>it ends with a number</source>
+        <translation>it ends with a number</translation>
+    </message>
+    <message>
+        <source>a backslash begins no escape sequence</source>
+        <translation>a backslash begins no escape sequence</translation>
+    </message>
+    <message>
+        <source>a text is not encoded as UTF-8</source>
+        <translation>a text is not encoded as UTF-8</translation>
+    </message>
+    <message>
+        <source>the quote at the end of a text is missing</source>
+        <translation>the quote at the end of a text is missing</translation>
+    </message>
+    <message>
+        <source>a name or a value is missing</source>
+        <translation>a name or a value is missing</translation>
+    </message>
+    <message>
+        <source>it nests too deep</source>
+        <translation>it nests too deep</translation>
+    </message>
+    <message>
+        <source>it is too large</source>
+        <translation>it is too large</translation>
+    </message>
+    <message>
+        <source>there is more behind its end</source>
+        <translation>there is more behind its end</translation>
+    </message>
+    <message>
+        <source>it is not a JSON document</source>
+        <translation>it is not a JSON document</translation>
+    </message>
+    <message>
+        <source>it is not a JSON document (line %1: %2)</source>
+        <translation>it is not a JSON document (line %1: %2)</translation>
+    </message>
+</context>
+<context>
     <name>KeysDialog</name>
     <message>
         <source>Keys</source>
@@ -2052,14 +2103,6 @@ Do you want to save your changes?</translation>
     <message>
         <source>it is empty</source>
         <translation>it is empty</translation>
-    </message>
-    <message>
-        <source>it is not a JSON document</source>
-        <translation>it is not a JSON document</translation>
-    </message>
-    <message>
-        <source>it is not a JSON document (line %1: %2)</source>
-        <translation>it is not a JSON document (line %1: %2)</translation>
     </message>
 </context>
 <context>

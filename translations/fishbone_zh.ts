@@ -770,10 +770,6 @@ The ending .html, .pdf or .md tells the format; .md has its picture in a file be
         <translation>导入的鱼骨图</translation>
     </message>
     <message>
-        <source>it is not a JSON document (line %1: %2)</source>
-        <translation>不是 JSON 文档（第 %1 行：%2）</translation>
-    </message>
-    <message>
         <source>declarations of entities are not accepted</source>
         <translation>不接受实体声明</translation>
     </message>
@@ -970,10 +966,6 @@ The ending .html, .pdf or .md tells the format; .md has its picture in a file be
         <translation>“%1”类主题作为原因</translation>
     </message>
     <message>
-        <source>content.json: it is no list of sheets (%1)</source>
-        <translation>content.json：不是画布列表（%1）</translation>
-    </message>
-    <message>
         <source>the icon &quot;%1&quot;</source>
         <translation>图标“%1”</translation>
     </message>
@@ -1012,6 +1004,10 @@ The ending .html, .pdf or .md tells the format; .md has its picture in a file be
     <message>
         <source>&lt;/%1&gt; is missing, the end of &lt;%1&gt; in line %2</source>
         <translation>缺少 &lt;/%1&gt;，即第 %2 行 &lt;%1&gt; 的结尾</translation>
+    </message>
+    <message>
+        <source>content.json: it is no list of sheets</source>
+        <translation>content.json：不是画布列表</translation>
     </message>
 </context>
 <context>
@@ -1794,14 +1790,6 @@ Do you want to save your changes?</source>
         <translation>自由主题</translation>
     </message>
     <message>
-        <source>it is not a JSON document</source>
-        <translation>不是 JSON 文档</translation>
-    </message>
-    <message>
-        <source>it is not a JSON document (line %1: %2)</source>
-        <translation>不是 JSON 文档（第 %1 行：%2）</translation>
-    </message>
-    <message>
         <source>the reply took too long or was too large</source>
         <translation>等待返回的时间过长，或返回的内容过大</translation>
     </message>
@@ -1988,6 +1976,69 @@ Do you want to save your changes?</source>
     </message>
 </context>
 <context>
+    <name>JsonErrors</name>
+    <message>
+        <source>a name in quotes or } is missing</source>
+        <translation>缺少带引号的名称或 }</translation>
+    </message>
+    <message>
+        <source>the colon behind a name is missing</source>
+        <translation>名称后缺少冒号</translation>
+    </message>
+    <message>
+        <source>a comma or ] is missing</source>
+        <translation>缺少逗号或 ]</translation>
+    </message>
+    <message>
+        <source>the comma behind a value is missing</source>
+        <translation>值后缺少逗号</translation>
+    </message>
+    <message>
+        <source>a text in quotes, a number, true, false, null, { or [ is missing</source>
+        <translation>缺少带引号的文本、数字、true、false、null、{ 或 [</translation>
+    </message>
+    <message>
+        <source>it ends with a number</source>
+        <translation>文档在数字处结束</translation>
+    </message>
+    <message>
+        <source>a backslash begins no escape sequence</source>
+        <translation>反斜杠后不是转义序列</translation>
+    </message>
+    <message>
+        <source>a text is not encoded as UTF-8</source>
+        <translation>有文本不是 UTF-8 编码</translation>
+    </message>
+    <message>
+        <source>the quote at the end of a text is missing</source>
+        <translation>文本末尾缺少引号</translation>
+    </message>
+    <message>
+        <source>a name or a value is missing</source>
+        <translation>缺少名称或值</translation>
+    </message>
+    <message>
+        <source>it nests too deep</source>
+        <translation>嵌套过深</translation>
+    </message>
+    <message>
+        <source>it is too large</source>
+        <translation>过大</translation>
+    </message>
+    <message>
+        <source>there is more behind its end</source>
+        <translation>结尾之后还有内容</translation>
+    </message>
+    <message>
+        <source>it is not a JSON document</source>
+        <translation>不是 JSON 文档</translation>
+    </message>
+    <message>
+        <source>it is not a JSON document (line %1: %2)</source>
+        <translation>不是 JSON 文档（第 %1 行：%2）</translation>
+    </message>
+</context>
+<context>
     <name>KeysDialog</name>
     <message>
         <source>Keys</source>
@@ -2041,14 +2092,6 @@ Do you want to save your changes?</source>
     <message>
         <source>it is empty</source>
         <translation>内容为空</translation>
-    </message>
-    <message>
-        <source>it is not a JSON document</source>
-        <translation>不是 JSON 文档</translation>
-    </message>
-    <message>
-        <source>it is not a JSON document (line %1: %2)</source>
-        <translation>不是 JSON 文档（第 %1 行：%2）</translation>
     </message>
 </context>
 <context>

@@ -5,6 +5,7 @@
 
 #include <app/common/formatnames.h>
 
+#include <fishbone/base/jsonerrors.h>
 #include <fishbone/exchange/diagramexchange.h>
 #include <fishbone/exchange/jsondiagram.h>
 
@@ -47,9 +48,5 @@ QString LoadFailure::reasonOfText(const QByteArray &json, const QJsonParseError 
     const QString foreign = JsonDiagram::reasonAgainst(QJsonDocument::fromJson(json));
     if (error.error == QJsonParseError::NoError && !foreign.isEmpty())
         return foreign;
-    if (error.error == QJsonParseError::NoError)
-        return tr("it is not a JSON document");
-    return tr("it is not a JSON document (line %1: %2)")
-        .arg(json.left(error.offset).count('\n') + 1)
-        .arg(error.errorString());
+    return JsonErrors::reason(json, error);
 }

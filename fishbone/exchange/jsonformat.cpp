@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Fishbone authors
 // SPDX-License-Identifier: MIT
 
+#include <fishbone/base/jsonerrors.h>
 #include <fishbone/exchange/diagramexchange.h>
 #include <fishbone/exchange/exchangeformat.h>
 #include <fishbone/exchange/importedtree.h>
@@ -11,19 +12,12 @@
 
 namespace {
 
-QString reasonOf(const QByteArray &json, const QJsonParseError &error)
-{
-    return DiagramExchange::tr("it is not a JSON document (line %1: %2)")
-        .arg(json.left(error.offset).count('\n') + 1)
-        .arg(error.errorString());
-}
-
 bool readJson(const QByteArray &bytes, ImportedTree &tree)
 {
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson(bytes, &error);
     if (document.isNull())
-        return tree.fail(reasonOf(bytes, error));
+        return tree.fail(JsonErrors::reason(bytes, error));
     const QString reason = JsonDiagram::reasonAgainst(document);
     if (!reason.isEmpty())
         return tree.fail(reason);

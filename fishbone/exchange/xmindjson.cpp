@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Fishbone authors
 // SPDX-License-Identifier: MIT
 
+#include <fishbone/base/jsonerrors.h>
 #include <fishbone/exchange/diagramexchange.h>
 #include <fishbone/exchange/importedtree.h>
 #include <fishbone/exchange/outlinewalk.h>
@@ -239,9 +240,10 @@ bool XmindJson::read(const QByteArray &json, ImportedTree &tree)
 {
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson(json, &error);
+    if (document.isNull())
+        return tree.fail(QStringLiteral("content.json: ") + JsonErrors::reason(json, error));
     if (!document.isArray())
-        return tree.fail(DiagramExchange::tr("content.json: it is no list of sheets (%1)")
-                             .arg(error.errorString()));
+        return tree.fail(DiagramExchange::tr("content.json: it is no list of sheets"));
     return SheetReader(tree).read(document.array());
 }
 

@@ -3,6 +3,7 @@
 
 #include <fishbone/model/fishmodelloading.h>
 
+#include <fishbone/base/jsonerrors.h>
 #include <fishbone/model/fishinfo.h>
 #include <fishbone/model/fishmodel_p.h>
 
@@ -65,12 +66,8 @@ QJsonDocument FishModel::Loading::parse(const QByteArray &json)
     const QJsonDocument parsed = QJsonDocument::fromJson(json, &error);
     if (!parsed.isNull())
         m_error.clear();
-    else if (error.error == QJsonParseError::NoError)
-        m_error = tr("it is not a JSON document");
     else
-        m_error = tr("it is not a JSON document (line %1: %2)")
-                      .arg(json.left(error.offset).count('\n') + 1)
-                      .arg(error.errorString());
+        m_error = JsonErrors::reason(json, error);
     return parsed;
 }
 

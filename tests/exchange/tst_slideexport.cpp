@@ -2,39 +2,26 @@
 // SPDX-License-Identifier: MIT
 
 #include <tests/exchange/exchangefixture.h>
+#include <tests/exchange/slidefixture.h>
 #include <tests/program/testprogram.h>
 #include <tests/support/editorfixture.h>
-#include <tests/support/sourcefolder.h>
 
 #include <fishbone/exchange/importedtree.h>
 #include <fishbone/exchange/slideexport.h>
 #include <fishbone/exchange/ziparchive.h>
-#include <fishbone/items/taskstatusinfo.h>
-#include <fishbone/model/subjectmarks.h>
 
-#include <QGraphicsLineItem>
-#include <QGraphicsRectItem>
 #include <QGraphicsScene>
 #include <QGraphicsSimpleTextItem>
-#include <QProcess>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QXmlStreamReader>
 #include <QtTest>
 
 using namespace ExchangeFixture;
+using SlideFixture::partOf;
+using SlideFixture::slidePart;
 
 namespace {
-
-const QString slidePart = QStringLiteral("ppt/slides/slide1.xml");
-
-/** A part of a presentation, empty when there is none. */
-QByteArray partOf(const QByteArray &presentation, const QString &name)
-{
-    ImportedTree tree;
-    ZipReader archive(presentation, tree);
-    return archive.file(name).value_or(QByteArray());
-}
 
 /** How many elements of that name there are. */
 int countOf(const QByteArray &xml, const char *element)
@@ -63,41 +50,6 @@ QList<double> frameOf(const QByteArray &slide, const char *kind)
     return numbers;
 }
 
-/** What the schema of slides says against @p xml, empty for nothing. */
-QByteArray complaintsAbout(const QByteArray &xml)
-{
-    const QTemporaryDir folder;
-    QFile file(folder.filePath(QStringLiteral("part.xml")));
-    if (!file.open(QIODevice::WriteOnly) || file.write(xml) != xml.size())
-        return "it cannot be written";
-    file.close();
-    QProcess lint;
-    lint.setProcessChannelMode(QProcess::MergedChannels);
-    lint.start(QStringLiteral("xmllint"),
-               {QStringLiteral("--noout"), QStringLiteral("--relaxng"),
-                TestSupport::sourceFile(QStringLiteral("tests/exchange/pptx/slide.rng")),
-                file.fileName()});
-    if (!lint.waitForFinished())
-        return "xmllint does not end";
-    const QByteArray said = lint.readAll();
-    return lint.exitCode() == 0 ? QByteArray() : said + ' ';
-}
-
-/** The numbers of the shapes of a slide that stand more than once. */
-QStringList repeatedIds(const QByteArray &slide)
-{
-    static const QRegularExpression shape(QStringLiteral("<p:cNvPr id=\"(\\d+)\""));
-    QSet<QString> known;
-    QStringList repeated;
-    for (auto matches = shape.globalMatch(QString::fromUtf8(slide)); matches.hasNext();) {
-        const QString id = matches.next().captured(1);
-        if (known.contains(id))
-            repeated.append(id);
-        known.insert(id);
-    }
-    return repeated;
-}
-
 } // namespace
 
 /** Slides of presentations. */
@@ -118,10 +70,6 @@ private Q_SLOTS:
     void shouldPlaceTheDrawingInTheMiddle_data();
     void shouldPlaceTheDrawingInTheMiddle();
     void shouldTurnTextsAsTheyAreDrawn();
-    void shouldKeepToTheSchema_data();
-    void shouldKeepToTheSchema();
-    void shouldHaveASchemaThatRefusesDamage_data();
-    void shouldHaveASchemaThatRefusesDamage();
     void shouldKeepLinks_data();
     void shouldKeepLinks();
     void shouldSuitThePage_data();
@@ -134,20 +82,14 @@ private Q_SLOTS:
     void shouldWriteAFileWholeOrNotAtAll();
 
 private:
-    QScopedPointer<QGraphicsScene> m_scene;
+    std::unique_ptr<QGraphicsScene> m_scene;
     std::unique_ptr<TreeItem> m_head;
 };
 
-/** A bone, a box and a title, 400 x 100 units large. */
 void TestSlideExport::init()
 {
-    m_scene.reset(new QGraphicsScene);
-    m_scene->addRect(QRectF(0, 0, 400, 100), QPen(Qt::NoPen), QBrush(QColor(0x10, 0x80, 0x30)));
-    m_scene->addLine(QLineF(10, 90, 390, 10), QPen(QColor(0x80, 0x10, 0x10), 2));
-    QGraphicsSimpleTextItem *const text = m_scene->addSimpleText(QStringLiteral("Late"));
-    text->setPos(150, 40);
-    text->setBrush(Qt::black);
-    m_head = treeFrom("Late[Carrier[No vehicle],Stock]");
+    m_scene = SlideFixture::scene();
+    m_head = SlideFixture::tree();
 }
 
 void TestSlideExport::shouldKnowSlidesByTheirEnding()
@@ -296,91 +238,6 @@ void TestSlideExport::shouldTurnTextsAsTheyAreDrawn()
     m_scene->items().constFirst()->setRotation(30); // the text is the topmost
     const QByteArray slide = partOf(SlideExport::presentation(*m_scene, *m_head), slidePart);
     QVERIFY2(slide.contains("rot=\"1800000\""), slide.constData());
-}
-
-void TestSlideExport::shouldKeepToTheSchema_data()
-{
-    QTest::addColumn<int>("look");
-    QTest::addColumn<int>("aspect");
-    QTest::newRow("clear") << int(DiagramLook::Clear) << int(SlideExport::Aspect::Wide);
-    QTest::newRow("classic") << int(DiagramLook::Classic) << int(SlideExport::Aspect::Wide);
-    QTest::newRow("narrow") << int(DiagramLook::Clear) << int(SlideExport::Aspect::Narrow);
-}
-
-/**
- * Programs that open slides take an element in the wrong place, a value out of its range and a
- * number of a shape that stands twice for damage.
- */
-void TestSlideExport::shouldKeepToTheSchema()
-{
-    QFETCH(int, look);
-    QFETCH(int, aspect);
-    TestSupport::EditorFixture fish(
-        QStringLiteral("Effect[Man[Twin,Tired[Shift]],Machine[Worn],Method]"));
-    TreeItem *const twin = fish.subject(QStringLiteral("Twin"));
-    twin->setUrl(QStringLiteral("https://example.org/?a=1&b=2"));
-    twin->setStatus(tsRunning);
-    twin->setProgress(40);
-    SubjectMarks::setVerdict(*fish.subject(QStringLiteral("Worn")), Verdict::RootCause);
-    SubjectMarks::setVerdict(*fish.subject(QStringLiteral("Shift")), Verdict::RuledOut);
-    SubjectMarks::setVotes(*fish.subject(QStringLiteral("Tired")), 3);
-    twin->setTitle(QStringLiteral("Two <lines>\nof \"text\" & more"));
-    fish.subject(QStringLiteral("Method"))
-        ->setTitle(QStringLiteral("\u0637\u0631\u064a\u0642\u0629"));
-    DiagramLook::Options options;
-    options.hasLegend = true;
-    fish.editor.setLookOptions(options);
-    fish.editor.setLook(DiagramLook::Kind(look));
-    fish.editor.updateFish(true);
-    fish.editor.expandAll();
-    const QByteArray bytes = SlideExport::presentation(
-        *fish.editor.scene(), *fish.subject(QStringLiteral("Effect")), SlideExport::Aspect(aspect));
-    ImportedTree tree;
-    ZipReader archive(bytes, tree);
-    int checked = 0;
-    for (const QString &name : archive.names()) {
-        if (!name.startsWith(QLatin1String("ppt/")) || !name.endsWith(QLatin1String(".xml")))
-            continue;
-        QCOMPARE(name + QString::fromUtf8(complaintsAbout(partOf(bytes, name))), name);
-        ++checked;
-    }
-    QCOMPARE(checked, 9);
-    QCOMPARE(repeatedIds(partOf(bytes, slidePart)), QStringList());
-}
-
-void TestSlideExport::shouldHaveASchemaThatRefusesDamage_data()
-{
-    QTest::addColumn<QByteArray>("before");
-    QTest::addColumn<QByteArray>("after");
-    const std::pair<QByteArray, QByteArray> damages[] = {
-        {"prst=\"line\"", "prst=\"lines\""},
-        {"cap=\"rnd\"", "cap=\"round\""},
-        {" sz=\"", " sz=\"-"},
-        {"anchor=\"ctr\"", "anchor=\"middle\""},
-        {"algn=\"ctr\"", "algn=\"center\""},
-        {"flipV=\"1\"", "flipV=\"yes\""},
-        {"txBox=\"1\"", "txBox=\"on\""},
-        {"wrap=\"none\"", "wrap=\"no\""},
-        {"val=\"tx1\"", "val=\"text1\""},
-        {"<a:ext cx=\"", "<a:ext cx=\"-"},
-        {"<a:ln w=\"", "<a:ln w=\"99999999"},
-        {"<p:nvPr/>", ""},
-        {"<a:bodyPr", "<a:lstStyle/><a:bodyPr"},
-        {"<a:avLst/><a:gdLst/>", "<a:gdLst/><a:avLst/>"},
-        {"<p:cNvPr id=\"3\"", "<p:cNvPr id=\"three\""},
-    };
-    for (const auto &[before, after] : damages)
-        QTest::newRow(before.constData()) << before << after;
-}
-
-void TestSlideExport::shouldHaveASchemaThatRefusesDamage()
-{
-    QFETCH(QByteArray, before);
-    QFETCH(QByteArray, after);
-    QByteArray slide = partOf(SlideExport::presentation(*m_scene, *m_head), slidePart);
-    QCOMPARE(complaintsAbout(slide), QByteArray());
-    QVERIFY(slide.contains(before));
-    QVERIFY(!complaintsAbout(slide.replace(before, after)).isEmpty());
 }
 
 void TestSlideExport::shouldKeepLinks_data()
