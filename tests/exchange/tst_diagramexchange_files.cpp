@@ -5,6 +5,7 @@
 #include <tests/program/testprogram.h>
 
 #include <fishbone/exchange/exchangereport.h>
+#include <fishbone/exchange/ziparchive.h>
 
 #include <QBuffer>
 #include <QFile>
@@ -29,6 +30,8 @@ private Q_SLOTS:
     void shouldReadAndWriteFiles_data() { addFormats(); }
     void shouldReadAndWriteFiles();
     void shouldSayWhyAFileCannotBeRead();
+    void shouldSayWhatIsMissingInJson_data();
+    void shouldSayWhatIsMissingInJson();
     void shouldKeepTheFileThatCannotBeReplaced();
     void shouldSayWhyADeviceTakesNothing();
     void shouldReadEveryEncodingWithAMark_data();
@@ -74,6 +77,31 @@ void TestDiagramExchangeFiles::shouldSayWhyAFileCannotBeRead()
     QVERIFY(server.listen(name));
     QVERIFY(!DiagramExchange::readFile(name, Format::Text, &error));
     QVERIFY(!error.isEmpty() && error != QLatin1String("there is no such file"));
+}
+
+void TestDiagramExchangeFiles::shouldSayWhatIsMissingInJson_data()
+{
+    QTest::addColumn<Format>("format");
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QString>("reason");
+    const auto map = [](const char *content) {
+        return ZipWriter::archive({{QStringLiteral("content.json"), content}});
+    };
+    const QString colon =
+        QStringLiteral("it is not a JSON document (line 2: the colon behind a name is missing)");
+    QTest::newRow("diagram") << Format::Json << QByteArray("{\n\"title\" 1}") << colon;
+    QTest::newRow("map") << Format::Xmind << map("[{\n\"rootTopic\" 1}]")
+                         << QStringLiteral("content.json: ") + colon;
+    QTest::newRow("one sheet") << Format::Xmind << map("{\"rootTopic\": {}}")
+                               << QStringLiteral("content.json: it is no list of sheets");
+}
+
+void TestDiagramExchangeFiles::shouldSayWhatIsMissingInJson()
+{
+    QFETCH(Format, format);
+    QFETCH(QByteArray, bytes);
+    QFETCH(QString, reason);
+    QCOMPARE(imported(bytes, format).text(), reason);
 }
 
 void TestDiagramExchangeFiles::shouldKeepTheFileThatCannotBeReplaced()
