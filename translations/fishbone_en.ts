@@ -2135,10 +2135,6 @@ Do you want to save your changes?</translation>
         <translation>Leave out the explanation of the icons.</translation>
     </message>
     <message>
-        <source>Draw in &lt;colours&gt;: colour (the default), gray or dark.</source>
-        <translation>Draw in &lt;colours&gt;: colour (the default), gray or dark.</translation>
-    </message>
-    <message>
         <source>Draw the head on the &lt;side&gt;: right (the default) or left.</source>
         <translation>Draw the head on the &lt;side&gt;: right (the default) or left.</translation>
     </message>
@@ -2149,10 +2145,6 @@ Do you want to save your changes?</translation>
     <message>
         <source>--%1 needs the clear look</source>
         <translation>--%1 needs the clear look</translation>
-    </message>
-    <message>
-        <source>colour, gray or dark</source>
-        <translation>colour, gray or dark</translation>
     </message>
     <message>
         <source>left or right</source>
@@ -2170,6 +2162,14 @@ Do you want to save your changes?</translation>
         <source>Draw in the &lt;look&gt; %1; the first one is the default.</source>
         <translation>Draw in the &lt;look&gt; %1; the first one is the default.</translation>
     </message>
+    <message>
+        <source>Draw in &lt;colours&gt;: colour (the default), warm, cool, gray or dark.</source>
+        <translation>Draw in &lt;colours&gt;: colour (the default), warm, cool, gray or dark.</translation>
+    </message>
+    <message>
+        <source>colour, warm, cool, gray or dark</source>
+        <translation>colour, warm, cool, gray or dark</translation>
+    </message>
 </context>
 <context>
     <name>LookCommands</name>
@@ -2184,18 +2184,6 @@ Do you want to save your changes?</translation>
     <message>
         <source>&amp;Palette</source>
         <translation>&amp;Palette</translation>
-    </message>
-    <message>
-        <source>&amp;Colours</source>
-        <translation>&amp;Colours</translation>
-    </message>
-    <message>
-        <source>&amp;Grey</source>
-        <translation>&amp;Grey</translation>
-    </message>
-    <message>
-        <source>&amp;Dark</source>
-        <translation>&amp;Dark</translation>
     </message>
     <message>
         <source>Lines of &amp;titles</source>
@@ -2825,6 +2813,29 @@ Do you want to save your changes?</translation>
     </message>
 </context>
 <context>
+    <name>Palettes</name>
+    <message>
+        <source>&amp;Colours</source>
+        <translation>&amp;Colours</translation>
+    </message>
+    <message>
+        <source>&amp;Warm</source>
+        <translation>&amp;Warm</translation>
+    </message>
+    <message>
+        <source>C&amp;ool</source>
+        <translation>C&amp;ool</translation>
+    </message>
+    <message>
+        <source>&amp;Grey</source>
+        <translation>&amp;Grey</translation>
+    </message>
+    <message>
+        <source>&amp;Dark</source>
+        <translation>&amp;Dark</translation>
+    </message>
+</context>
+<context>
     <name>PasteDialog</name>
     <message>
         <source>Paste</source>
@@ -3051,18 +3062,6 @@ Do you want to save your changes?</translation>
         <translation>&amp;Page:</translation>
     </message>
     <message>
-        <source>Colours</source>
-        <translation>Colours</translation>
-    </message>
-    <message>
-        <source>Grey</source>
-        <translation>Grey</translation>
-    </message>
-    <message>
-        <source>Dark</source>
-        <translation>Dark</translation>
-    </message>
-    <message>
         <source>On the right</source>
         <translation>On the right</translation>
     </message>
@@ -3172,14 +3171,6 @@ Do you want to save your changes?</translation>
     <message>
         <source>Palette</source>
         <translation>Palette</translation>
-    </message>
-    <message>
-        <source>Colours</source>
-        <translation>Colours</translation>
-    </message>
-    <message>
-        <source>Grey</source>
-        <translation>Grey</translation>
     </message>
     <message>
         <source>Printing…</source>

@@ -2124,10 +2124,6 @@ Do you want to save your changes?</source>
         <translation>不说明图标。</translation>
     </message>
     <message>
-        <source>Draw in &lt;colours&gt;: colour (the default), gray or dark.</source>
-        <translation>以 &lt;colours&gt; 绘制：colour（默认）、gray 或 dark。</translation>
-    </message>
-    <message>
         <source>Draw the head on the &lt;side&gt;: right (the default) or left.</source>
         <translation>鱼头在 &lt;side&gt;：right（默认）或 left。</translation>
     </message>
@@ -2138,10 +2134,6 @@ Do you want to save your changes?</source>
     <message>
         <source>--%1 needs the clear look</source>
         <translation>--%1 需要清晰外观</translation>
-    </message>
-    <message>
-        <source>colour, gray or dark</source>
-        <translation>colour、gray 或 dark</translation>
     </message>
     <message>
         <source>left or right</source>
@@ -2159,6 +2151,14 @@ Do you want to save your changes?</source>
         <source>Draw in the &lt;look&gt; %1; the first one is the default.</source>
         <translation>以外观 &lt;look&gt; 绘制：%1；默认为第一个。</translation>
     </message>
+    <message>
+        <source>Draw in &lt;colours&gt;: colour (the default), warm, cool, gray or dark.</source>
+        <translation>以 &lt;colours&gt; 绘制：colour（默认）、warm、cool、gray 或 dark。</translation>
+    </message>
+    <message>
+        <source>colour, warm, cool, gray or dark</source>
+        <translation>colour、warm、cool、gray 或 dark</translation>
+    </message>
 </context>
 <context>
     <name>LookCommands</name>
@@ -2173,18 +2173,6 @@ Do you want to save your changes?</source>
     <message>
         <source>&amp;Palette</source>
         <translation>配色(&amp;P)</translation>
-    </message>
-    <message>
-        <source>&amp;Colours</source>
-        <translation>彩色(&amp;C)</translation>
-    </message>
-    <message>
-        <source>&amp;Grey</source>
-        <translation>灰色(&amp;G)</translation>
-    </message>
-    <message>
-        <source>&amp;Dark</source>
-        <translation>深色(&amp;D)</translation>
     </message>
     <message>
         <source>Lines of &amp;titles</source>
@@ -2812,6 +2800,29 @@ Do you want to save your changes?</source>
     </message>
 </context>
 <context>
+    <name>Palettes</name>
+    <message>
+        <source>&amp;Colours</source>
+        <translation>彩色(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Warm</source>
+        <translation>暖色(&amp;W)</translation>
+    </message>
+    <message>
+        <source>C&amp;ool</source>
+        <translation>冷色(&amp;O)</translation>
+    </message>
+    <message>
+        <source>&amp;Grey</source>
+        <translation>灰色(&amp;G)</translation>
+    </message>
+    <message>
+        <source>&amp;Dark</source>
+        <translation>深色(&amp;D)</translation>
+    </message>
+</context>
+<context>
     <name>PasteDialog</name>
     <message>
         <source>Paste</source>
@@ -3038,18 +3049,6 @@ Do you want to save your changes?</source>
         <translation>页面(&amp;P)：</translation>
     </message>
     <message>
-        <source>Colours</source>
-        <translation>彩色</translation>
-    </message>
-    <message>
-        <source>Grey</source>
-        <translation>灰色</translation>
-    </message>
-    <message>
-        <source>Dark</source>
-        <translation>深色</translation>
-    </message>
-    <message>
         <source>On the right</source>
         <translation>在右</translation>
     </message>
@@ -3157,14 +3156,6 @@ Do you want to save your changes?</source>
     <message>
         <source>Palette</source>
         <translation>配色</translation>
-    </message>
-    <message>
-        <source>Colours</source>
-        <translation>彩色</translation>
-    </message>
-    <message>
-        <source>Grey</source>
-        <translation>灰色</translation>
     </message>
     <message>
         <source>Printing…</source>

@@ -51,7 +51,7 @@ QList<QCommandLineOption> LookChoice::commandLineOptions()
          QStringLiteral("page")},
         {legendName, tr("Explain the icons below the drawing, which is the default.")},
         {noLegendName, tr("Leave out the explanation of the icons.")},
-        {paletteName, tr("Draw in <colours>: colour (the default), gray or dark."),
+        {paletteName, tr("Draw in <colours>: colour (the default), warm, cool, gray or dark."),
          QStringLiteral("colours")},
         {headName, tr("Draw the head on the <side>: right (the default) or left."),
          QStringLiteral("side")},
@@ -79,9 +79,11 @@ QString LookChoice::read(const QCommandLineParser &parser)
                                        {QStringLiteral("color"), DiagramLook::DistinctColors},
                                        {QStringLiteral("gray"), DiagramLook::GrayColors},
                                        {QStringLiteral("grey"), DiagramLook::GrayColors},
-                                       {QStringLiteral("dark"), DiagramLook::DarkColors}},
+                                       {QStringLiteral("dark"), DiagramLook::DarkColors},
+                                       {QStringLiteral("warm"), DiagramLook::WarmColors},
+                                       {QStringLiteral("cool"), DiagramLook::CoolColors}},
                                       parser.value(paletteName), view.options.palette))
-        return wrong(paletteName, tr("colour, gray or dark"));
+        return wrong(paletteName, tr("colour, warm, cool, gray or dark"));
     if (parser.isSet(headName) &&
         !choose<bool>({{QStringLiteral("left"), true}, {QStringLiteral("right"), false}},
                       parser.value(headName), view.options.isHeadLeft))

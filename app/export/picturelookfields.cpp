@@ -5,6 +5,7 @@
 
 #include <app/common/actionset.h>
 #include <app/diagram/pagesize.h>
+#include <app/diagram/palettes.h>
 #include <fishbone/drawing/lookinfo.h>
 
 #include <QCheckBox>
@@ -75,9 +76,8 @@ void PictureLookFields::addPages(QFormLayout *layout)
 
 void PictureLookFields::addColours(QFormLayout *layout)
 {
-    m_palette->addItem(tr("Colours"), int(DiagramLook::DistinctColors));
-    m_palette->addItem(tr("Grey"), int(DiagramLook::GrayColors));
-    m_palette->addItem(tr("Dark"), int(DiagramLook::DarkColors));
+    for (const Palettes::Entry &entry : Palettes::all())
+        m_palette->addItem(entry.name(), int(entry.palette));
     chooseData(m_palette, int(m_shown.options.palette));
     m_head->addItem(tr("On the right"), false);
     m_head->addItem(tr("On the left"), true);

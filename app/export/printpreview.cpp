@@ -8,6 +8,7 @@
 #include <app/common/canvastheme.h>
 #include <app/common/updatesheld.h>
 #include <app/common/workprogress.h>
+#include <app/diagram/palettes.h>
 #include <app/export/picturesource.h>
 #include <app/export/printtarget.h>
 
@@ -139,8 +140,10 @@ QToolBar *PrintPreview::makeBar()
     for (const LookInfo &look : LookInfo::all())
         m_look->addItem(ActionSet::plainText(look.title()), int(look.kind()));
     m_palette = addBox(bar, "palette", tr("Palette"));
-    m_palette->addItem(tr("Colours"), int(DiagramLook::DistinctColors));
-    m_palette->addItem(tr("Grey"), int(DiagramLook::GrayColors));
+    for (const Palettes::Entry &entry : Palettes::all()) {
+        if (entry.palette != DiagramLook::DarkColors) // paper is white
+            m_palette->addItem(entry.name(), int(entry.palette));
+    }
     m_arranged->setObjectName(QStringLiteral("arranged"));
     m_legend->setObjectName(QStringLiteral("legend"));
     bar->addWidget(m_arranged);

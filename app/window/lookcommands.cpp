@@ -8,6 +8,7 @@
 #include <app/diagram/diagramsession.h>
 #include <app/diagram/documentlook.h>
 #include <app/diagram/pagesize.h>
+#include <app/diagram/palettes.h>
 #include <app/diagram/subjectstyles.h>
 
 #include <fishbone/drawing/lookinfo.h>
@@ -108,16 +109,13 @@ void LookCommands::addPalettes(QMenu *parent)
     QMenu *const menu = parent->addMenu(QString());
     menu->setObjectName(QStringLiteral("paletteMenu"));
     Language::bind(menu, &QMenu::setTitle, [] { return tr("&Palette"); });
-    const auto addPalette = [this, menu](const char *name, const char *text,
-                                         DiagramLook::Palette palette) {
+    for (const Palettes::Entry &entry : Palettes::all()) {
+        const DiagramLook::Palette palette = entry.palette;
         add(
-            menu, name, [text] { return tr(text); },
+            menu, entry.action, [&entry] { return entry.menuText(); },
             [palette](DiagramView &view) { view.options.palette = palette; },
             [palette](const DiagramView &view) { return view.options.palette == palette; });
-    };
-    addPalette("paletteColours", QT_TR_NOOP("&Colours"), DiagramLook::DistinctColors);
-    addPalette("paletteGray", QT_TR_NOOP("&Grey"), DiagramLook::GrayColors);
-    addPalette("paletteDark", QT_TR_NOOP("&Dark"), DiagramLook::DarkColors);
+    }
     menu->addSeparator();
     m_plain = m_actions->add(
         QStringLiteral("ownColoursOff"), [] { return tr("&Take off all own colours and styles"); },

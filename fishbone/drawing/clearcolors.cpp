@@ -18,6 +18,36 @@ constexpr Colors gray{0xff3a3a3a, 0xff666666, 0xff4c4c4c, 0xff707070, 0xff404040
 constexpr Colors dark{0xff7db8ee, 0xff6fc9d6, 0xfff0a070, 0xffd09be0, 0xff74cf93,
                       0xffcfcf70, 0xfff092a4, 0xffa9b3ee, 0xffd8b088, 0xffb8d0c8};
 
+constexpr Colors warm{0xffa34308, 0xff7a5c00, 0xff8c1d50, 0xff5d4037, 0xff8a5a00,
+                      0xff7d3560, 0xff96451f, 0xff6b5a1e, 0xff9b3a4e, 0xff6d3b0f};
+constexpr Colors cool{0xff1f6fb4, 0xff00695c, 0xff27348b, 0xff0f7c86, 0xff455a64,
+                      0xff2f5fa8, 0xff2e6b3f, 0xff4a4fa3, 0xff006978, 0xff1d3f6e};
+
+/** All colours that a palette has of its own. */
+struct Scheme
+{
+    Colors categories;
+    QRgb head;
+    QRgb tail;
+    QRgb outline;
+    QRgb backbone;
+};
+
+// In the order of DiagramLook::Palette.
+constexpr std::array<Scheme, 5> schemes{{
+    {distinct, 0xffd8f0e4, 0xff8fd6b4, 0xff23935d, 0xff3cb879},
+    {gray, 0xffe8e8e8, 0xffc8c8c8, 0xff505050, 0xff808080},
+    {dark, 0xff1f4a36, 0xff2f6e52, 0xff63c795, 0xff3cb879},
+    {warm, 0xfffbe6d4, 0xfff0b48a, 0xffb8480f, 0xffd9793f},
+    {cool, 0xffdbe9f6, 0xff9cc3e6, 0xff2b6cb0, 0xff5b9bd5},
+}};
+
+const Scheme &schemeOf(DiagramLook::Palette palette)
+{
+    const auto place = std::size_t(palette);
+    return schemes[place < schemes.size() ? place : 0];
+}
+
 /** As light as the eye takes it, 0 to 1. */
 qreal luminance(const QColor &color)
 {
@@ -36,7 +66,7 @@ ClearColors::ClearColors(DiagramLook::Palette palette)
 
 QColor ClearColors::category(int category) const
 {
-    const Colors &colors = isDark() ? dark : isGray() ? gray : distinct;
+    const Colors &colors = schemeOf(m_palette).categories;
     return QColor(colors[std::size_t(qMax(0, category)) % colors.size()]);
 }
 
@@ -53,9 +83,7 @@ QColor ClearColors::ink(int level) const
 
 QColor ClearColors::head() const
 {
-    if (isDark())
-        return QColor(0x1f4a36);
-    return isGray() ? QColor(0xe8e8e8) : QColor(0xd8f0e4);
+    return QColor(schemeOf(m_palette).head);
 }
 
 QColor ClearColors::paper() const
@@ -65,21 +93,17 @@ QColor ClearColors::paper() const
 
 QColor ClearColors::tail() const
 {
-    if (isDark())
-        return QColor(0x2f6e52);
-    return isGray() ? QColor(0xc8c8c8) : QColor(0x8fd6b4);
+    return QColor(schemeOf(m_palette).tail);
 }
 
 QColor ClearColors::outline() const
 {
-    if (isDark())
-        return QColor(0x63c795);
-    return isGray() ? QColor(0x505050) : QColor(0x23935d);
+    return QColor(schemeOf(m_palette).outline);
 }
 
 QColor ClearColors::backbone() const
 {
-    return isGray() ? QColor(0x808080) : QColor(0x3cb879);
+    return QColor(schemeOf(m_palette).backbone);
 }
 
 QColor ClearColors::badge() const

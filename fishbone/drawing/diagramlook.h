@@ -27,11 +27,13 @@ public:
         BothSides = 2,   ///< on both sides of all
     };
 
-    /** The colours of categories. */
+    /** The colours of a diagram: of categories, and of what they stand on. */
     enum Palette : int {
         DistinctColors = 0, ///< told apart by people who see colours differently, too
         GrayColors = 1,     ///< for printers without colours
         DarkColors = 2,     ///< for dark canvases
+        WarmColors = 3,     ///< reds, oranges and browns, head and backbone as well
+        CoolColors = 4,     ///< blues and greens, head and backbone as well
     };
 
     /** What can be chosen of the clear look; the classic one has no options. */

@@ -203,6 +203,7 @@ void TestClearLook::shouldPaintInPiecesAsAtOnce_data()
     QTest::newRow("colours") << int(DiagramLook::DistinctColors);
     QTest::newRow("gray") << int(DiagramLook::GrayColors);
     QTest::newRow("dark") << int(DiagramLook::DarkColors);
+    QTest::newRow("warm") << int(DiagramLook::WarmColors);
 }
 
 void TestClearLook::shouldPaintInPiecesAsAtOnce()
@@ -365,6 +366,8 @@ void TestClearLook::shouldKeepEveryTextReadable_data()
     QTest::addColumn<QColor>("canvas");
     QTest::newRow("colours") << int(DiagramLook::DistinctColors) << QColor(Qt::white);
     QTest::newRow("gray") << int(DiagramLook::GrayColors) << QColor(Qt::white);
+    QTest::newRow("warm") << int(DiagramLook::WarmColors) << QColor(Qt::white);
+    QTest::newRow("cool") << int(DiagramLook::CoolColors) << QColor(Qt::white);
     QTest::newRow("dark") << int(DiagramLook::DarkColors) << QColor(0x1e, 0x1e, 0x22);
 }
 
@@ -373,8 +376,10 @@ void TestClearLook::shouldKeepEveryTextReadable()
     QFETCH(int, palette);
     QFETCH(QColor, canvas);
     const ClearColors colors{DiagramLook::Palette(palette)};
-    for (int category = 0; category < 20; ++category)
+    for (int category = 0; category < 20; ++category) {
         QVERIFY(contrast(colors.ink(1), colors.category(category)) >= 4.5);
+        QVERIFY(colors.category(category) != colors.category(category + 1));
+    }
     QVERIFY(contrast(colors.ink(0), colors.head()) >= 4.5);
     QVERIFY(contrast(colors.badgeInk(), colors.badge()) >= 4.5);
     for (int level = 2; level < 8; ++level)

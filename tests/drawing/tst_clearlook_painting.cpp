@@ -172,6 +172,8 @@ void TestClearLookPainting::shouldKeepTitlesReadableOnAnyColour_data()
     QTest::newRow("colours") << int(DiagramLook::DistinctColors);
     QTest::newRow("gray") << int(DiagramLook::GrayColors);
     QTest::newRow("dark") << int(DiagramLook::DarkColors);
+    QTest::newRow("warm") << int(DiagramLook::WarmColors);
+    QTest::newRow("cool") << int(DiagramLook::CoolColors);
 }
 
 void TestClearLookPainting::shouldKeepTitlesReadableOnAnyColour()

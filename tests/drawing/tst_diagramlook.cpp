@@ -43,6 +43,8 @@ void TestDiagramLook::shouldCompareAndStoreEachOption_data()
     QTest::newRow("head left") << Change([](Options &o) { o.isHeadLeft = true; });
     QTest::newRow("gray") << Change([](Options &o) { o.palette = DiagramLook::GrayColors; });
     QTest::newRow("dark") << Change([](Options &o) { o.palette = DiagramLook::DarkColors; });
+    QTest::newRow("warm") << Change([](Options &o) { o.palette = DiagramLook::WarmColors; });
+    QTest::newRow("cool") << Change([](Options &o) { o.palette = DiagramLook::CoolColors; });
     QTest::newRow("buttons") << Change([](Options &o) { o.hasButtons = false; });
     QTest::newRow("legend") << Change([](Options &o) { o.hasLegend = true; });
 }

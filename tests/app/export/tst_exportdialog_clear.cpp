@@ -46,7 +46,7 @@ void TestExportDialogClear::shouldChooseHowItIsDrawn()
         QVERIFY(dialog.wish().view.options.hasLegend); // on for pictures
         QVERIFY(!dialog.page());
         chooseEntry(field<QComboBox>(dialog, "page"), 2);
-        chooseEntry(field<QComboBox>(dialog, "palette"), 1);
+        chooseEntry(field<QComboBox>(dialog, "palette"), 3);
         chooseEntry(field<QComboBox>(dialog, "head"), 1);
         focus(field<QCheckBox>(dialog, "legend"));
         QTest::keyClick(field<QCheckBox>(dialog, "legend"), Qt::Key_Space);
@@ -120,7 +120,7 @@ void TestExportDialogClear::shouldShowAPreview()
     const int below = onPage.height() / 2 + int(onPage.width() * 210 / 297 / 2) - 3;
     QCOMPARE(onPage.pixelColor(x, below), QColor(Qt::white));
     QVERIFY(onPage.pixelColor(x, below + 6) != QColor(Qt::white));
-    chooseEntry(field<QComboBox>(dialog, "palette"), 2);
+    chooseEntry(field<QComboBox>(dialog, "palette"), 4);
     QTRY_COMPARE(shown().pixelColor(x, below), QColor(0x1e, 0x21, 0x26));
 }
 
@@ -132,7 +132,7 @@ void TestExportDialogClear::shouldMakeThePictureForAPage()
     const ModalDriver<ExportDialog> driver([&](ExportDialog &dialog) {
         field<QLineEdit>(dialog, "file")->setText(path);
         chooseEntry(field<QComboBox>(dialog, "page"), 1);
-        chooseEntry(field<QComboBox>(dialog, "palette"), 2);
+        chooseEntry(field<QComboBox>(dialog, "palette"), 4);
         dialog.accept();
     });
     app.trigger("export");

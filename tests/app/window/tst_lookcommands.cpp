@@ -262,6 +262,16 @@ void TestLookCommands::shouldOfferPalettes()
     app.trigger("paletteGray");
     QCOMPARE(options(app).palette, DiagramLook::GrayColors);
     QVERIFY(!app.action("paletteColours")->isChecked());
+    const QImage grey = app.window.editor()->view()->grab().toImage();
+    for (const char *name : {"paletteWarm", "paletteCool"}) {
+        app.trigger(name); // in one click, all of it
+        const QImage shown = app.window.editor()->view()->grab().toImage();
+        QVERIFY2(shown != grey, name);
+        if (const QByteArray folder = qgetenv("FISHBONE_TEST_PICTURES"); !folder.isEmpty())
+            shown.save(QString::fromLocal8Bit(folder + '/' + name + ".png"));
+        app.trigger("undo");
+        QCOMPARE(options(app).palette, DiagramLook::GrayColors);
+    }
     app.trigger("paletteDark");
     QCOMPARE(options(app).palette, DiagramLook::DarkColors);
     const GraphicsView *const view = app.window.editor()->view();
