@@ -1,10 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Fishbone authors
 // SPDX-License-Identifier: MIT
 
+#include <app/commandline/checkrun.h>
 #include <app/commandline/commandline.h>
 #include <app/commandline/convertrun.h>
 #include <app/commandline/exportrun.h>
 #include <app/commandline/inforun.h>
+#include <app/commandline/mergerun.h>
 #include <app/commandline/reportrun.h>
 #include <app/commandline/startup.h>
 #include <app/common/language.h>
@@ -113,6 +115,14 @@ int main(int argc, char **argv)
     }
     case CommandLine::Action::Report: {
         const int code = runReport(line, message);
+        return code == CommandLine::success ? code : fail(message, code);
+    }
+    case CommandLine::Action::Check: {
+        const int code = runCheck(line, message);
+        return print(message, code);
+    }
+    case CommandLine::Action::Merge: {
+        const int code = runMerge(line, message);
         return code == CommandLine::success ? code : fail(message, code);
     }
     case CommandLine::Action::Print:

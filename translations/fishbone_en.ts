@@ -497,22 +497,6 @@ What is left out, or put where it can be kept, is listed on the error output.</t
         <translation>a page for the browser needs the clear look</translation>
     </message>
     <message>
-        <source>Edits fishbone diagrams of tasks.
-
-Three commands need no display:
-  convert   write a diagram in another format, or as a picture
-  info      say what is in a diagram, and what is off in it
-  report    write what is sent round after a meeting
-&quot;fishbone convert --help&quot; tells more. A file of such a name is ./convert.</source>
-        <translation>Edits fishbone diagrams of tasks.
-
-Three commands need no display:
-  convert   write a diagram in another format, or as a picture
-  info      say what is in a diagram, and what is off in it
-  report    write what is sent round after a meeting
-&quot;fishbone convert --help&quot; tells more. A file of such a name is ./convert.</translation>
-    </message>
-    <message>
         <source>Writes what is sent round after a meeting: the picture, the causes in the order of what was found out, what is to be done by whom, and a legend.
 The ending .html, .pdf or .md tells the format; .md has its picture in a file beside it.</source>
         <translation>Writes what is sent round after a meeting: the picture, the causes in the order of what was found out, what is to be done by whom, and a legend.
@@ -533,6 +517,86 @@ The ending .html, .pdf or .md tells the format; .md has its picture in a file be
     <message>
         <source>the format of &quot;%1&quot; is unknown: the name must end in .html, .pdf or .md</source>
         <translation>the format of &quot;%1&quot; is unknown: the name must end in .html, .pdf or .md</translation>
+    </message>
+    <message>
+        <source>the ending names no format that can be read</source>
+        <translation>the ending names no format that can be read</translation>
+    </message>
+    <message>
+        <source>--%1 needs info</source>
+        <translation>--%1 needs info</translation>
+    </message>
+    <message>
+        <source>--%1 does not go with check</source>
+        <translation>--%1 does not go with check</translation>
+    </message>
+    <message>
+        <source>check takes the files to look at</source>
+        <translation>check takes the files to look at</translation>
+    </message>
+    <message>
+        <source>--%1 does not go with merge</source>
+        <translation>--%1 does not go with merge</translation>
+    </message>
+    <message>
+        <source>merge takes the files of the base, of ours and of theirs</source>
+        <translation>merge takes the files of the base, of ours and of theirs</translation>
+    </message>
+    <message>
+        <source>Say it as JSON, for programs.</source>
+        <translation>Say it as JSON, for programs.</translation>
+    </message>
+    <message>
+        <source>Edits fishbone diagrams of tasks.
+
+These commands need no display:
+  convert   write a diagram in another format, or as a picture
+  info      say what is in a diagram, and what is off in it
+  report    write what is sent round after a meeting
+  check     name what is off in files, line by line
+  merge     merge two versions of a diagram, for git
+&quot;fishbone convert --help&quot; tells more. A file of such a name is ./convert.</source>
+        <translation>Edits fishbone diagrams of tasks.
+
+These commands need no display:
+  convert   write a diagram in another format, or as a picture
+  info      say what is in a diagram, and what is off in it
+  report    write what is sent round after a meeting
+  check     name what is off in files, line by line
+  merge     merge two versions of a diagram, for git
+&quot;fishbone convert --help&quot; tells more. A file of such a name is ./convert.</translation>
+    </message>
+    <message>
+        <source>Names what is off in each file, and why one cannot be read, a line each.
+The exit code is 1 when there is anything.</source>
+        <translation>Names what is off in each file, and why one cannot be read, a line each.
+The exit code is 1 when there is anything.</translation>
+    </message>
+    <message>
+        <source>The files to look at.</source>
+        <translation>The files to look at.</translation>
+    </message>
+    <message>
+        <source>Merges what changed from the base to theirs into ours, subject by subject, as git asks a merge driver to.
+What both changed differently is kept as in ours, with a cause that says so below it; the exit code is 1 then.</source>
+        <translation>Merges what changed from the base to theirs into ours, subject by subject, as git asks a merge driver to.
+What both changed differently is kept as in ours, with a cause that says so below it; the exit code is 1 then.</translation>
+    </message>
+    <message>
+        <source>The version that both come from.</source>
+        <translation>The version that both come from.</translation>
+    </message>
+    <message>
+        <source>The version to merge into; it is replaced.</source>
+        <translation>The version to merge into; it is replaced.</translation>
+    </message>
+    <message>
+        <source>The other version.</source>
+        <translation>The other version.</translation>
+    </message>
+    <message>
+        <source>there are conflicts: look for the causes &quot;Merge conflict&quot;</source>
+        <translation>there are conflicts: look for the causes &quot;Merge conflict&quot;</translation>
     </message>
 </context>
 <context>
@@ -1014,6 +1078,45 @@ The ending .html, .pdf or .md tells the format; .md has its picture in a file be
     <message>
         <source>content.json: it is no list of sheets</source>
         <translation>content.json: it is no list of sheets</translation>
+    </message>
+</context>
+<context>
+    <name>DiagramMerge</name>
+    <message>
+        <source>It was changed in ours and deleted in theirs.</source>
+        <translation>It was changed in ours and deleted in theirs.</translation>
+    </message>
+    <message>
+        <source>It was deleted in ours and changed in theirs.</source>
+        <translation>It was deleted in ours and changed in theirs.</translation>
+    </message>
+    <message>
+        <source>Theirs has it below &quot;%1&quot;.</source>
+        <translation>Theirs has it below &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>Its %1 is &quot;%2&quot; in ours and &quot;%3&quot; in theirs.</source>
+        <translation>Its %1 is &quot;%2&quot; in ours and &quot;%3&quot; in theirs.</translation>
+    </message>
+    <message>
+        <source>It was deleted in theirs and has more below it in ours.</source>
+        <translation>It was deleted in theirs and has more below it in ours.</translation>
+    </message>
+    <message>
+        <source>It was deleted in ours and has more below it in theirs.</source>
+        <translation>It was deleted in ours and has more below it in theirs.</translation>
+    </message>
+    <message>
+        <source>It is a second head.</source>
+        <translation>It is a second head.</translation>
+    </message>
+    <message>
+        <source>What is below it has another order in theirs.</source>
+        <translation>What is below it has another order in theirs.</translation>
+    </message>
+    <message>
+        <source>Merge conflict</source>
+        <translation>Merge conflict</translation>
     </message>
 </context>
 <context>

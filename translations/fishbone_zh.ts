@@ -494,22 +494,6 @@ What is left out, or put where it can be kept, is listed on the error output.</s
         <translation>浏览器页面需要清晰外观</translation>
     </message>
     <message>
-        <source>Edits fishbone diagrams of tasks.
-
-Three commands need no display:
-  convert   write a diagram in another format, or as a picture
-  info      say what is in a diagram, and what is off in it
-  report    write what is sent round after a meeting
-&quot;fishbone convert --help&quot; tells more. A file of such a name is ./convert.</source>
-        <translation>编辑任务鱼骨图。
-
-有三个命令无需图形显示：
-  convert   将鱼骨图写成另一种格式或图片
-  info      说明鱼骨图的内容及其中的问题
-  report    写出会后分发的报告
-“fishbone convert --help”有更多说明。同名的文件请写作 ./convert。</translation>
-    </message>
-    <message>
         <source>Writes what is sent round after a meeting: the picture, the causes in the order of what was found out, what is to be done by whom, and a legend.
 The ending .html, .pdf or .md tells the format; .md has its picture in a file beside it.</source>
         <translation>写出会后分发的报告：图片、按结论排序的原因、由谁做什么，以及图例。
@@ -530,6 +514,86 @@ The ending .html, .pdf or .md tells the format; .md has its picture in a file be
     <message>
         <source>the format of &quot;%1&quot; is unknown: the name must end in .html, .pdf or .md</source>
         <translation>“%1”的格式未知：名称必须以 .html、.pdf 或 .md 结尾</translation>
+    </message>
+    <message>
+        <source>the ending names no format that can be read</source>
+        <translation>文件后缀不是可以读取的格式</translation>
+    </message>
+    <message>
+        <source>--%1 needs info</source>
+        <translation>--%1 需要 info</translation>
+    </message>
+    <message>
+        <source>--%1 does not go with check</source>
+        <translation>--%1 不能与 check 一起使用</translation>
+    </message>
+    <message>
+        <source>check takes the files to look at</source>
+        <translation>check 需要要检查的文件</translation>
+    </message>
+    <message>
+        <source>--%1 does not go with merge</source>
+        <translation>--%1 不能与 merge 一起使用</translation>
+    </message>
+    <message>
+        <source>merge takes the files of the base, of ours and of theirs</source>
+        <translation>merge 需要基础版本、我方版本和对方版本的文件</translation>
+    </message>
+    <message>
+        <source>Say it as JSON, for programs.</source>
+        <translation>以 JSON 输出，供程序使用。</translation>
+    </message>
+    <message>
+        <source>Edits fishbone diagrams of tasks.
+
+These commands need no display:
+  convert   write a diagram in another format, or as a picture
+  info      say what is in a diagram, and what is off in it
+  report    write what is sent round after a meeting
+  check     name what is off in files, line by line
+  merge     merge two versions of a diagram, for git
+&quot;fishbone convert --help&quot; tells more. A file of such a name is ./convert.</source>
+        <translation>编辑任务鱼骨图。
+
+以下命令无需图形显示：
+  convert   将鱼骨图写成另一种格式或图片
+  info      说明鱼骨图的内容及其中的问题
+  report    写出会后分发的报告
+  check     逐行列出文件中的问题
+  merge     合并鱼骨图的两个版本，供 git 使用
+“fishbone convert --help”有更多说明。同名的文件请写作 ./convert。</translation>
+    </message>
+    <message>
+        <source>Names what is off in each file, and why one cannot be read, a line each.
+The exit code is 1 when there is anything.</source>
+        <translation>逐行列出每个文件中的问题，以及文件无法读取的原因。
+有任何问题时，退出码为 1。</translation>
+    </message>
+    <message>
+        <source>The files to look at.</source>
+        <translation>要检查的文件。</translation>
+    </message>
+    <message>
+        <source>Merges what changed from the base to theirs into ours, subject by subject, as git asks a merge driver to.
+What both changed differently is kept as in ours, with a cause that says so below it; the exit code is 1 then.</source>
+        <translation>按 git 对合并驱动程序的要求，逐个主题地将对方版本相对基础版本的更改合并到我方版本中。
+双方作了不同更改之处保持我方的内容，并在其下加一个说明此事的原因；此时退出码为 1。</translation>
+    </message>
+    <message>
+        <source>The version that both come from.</source>
+        <translation>双方共同的来源版本。</translation>
+    </message>
+    <message>
+        <source>The version to merge into; it is replaced.</source>
+        <translation>合并到的版本；它会被替换。</translation>
+    </message>
+    <message>
+        <source>The other version.</source>
+        <translation>另一个版本。</translation>
+    </message>
+    <message>
+        <source>there are conflicts: look for the causes &quot;Merge conflict&quot;</source>
+        <translation>存在冲突：请查找名为“合并冲突”的原因</translation>
     </message>
 </context>
 <context>
@@ -1008,6 +1072,45 @@ The ending .html, .pdf or .md tells the format; .md has its picture in a file be
     <message>
         <source>content.json: it is no list of sheets</source>
         <translation>content.json：不是画布列表</translation>
+    </message>
+</context>
+<context>
+    <name>DiagramMerge</name>
+    <message>
+        <source>It was changed in ours and deleted in theirs.</source>
+        <translation>我方更改了它，对方删除了它。</translation>
+    </message>
+    <message>
+        <source>It was deleted in ours and changed in theirs.</source>
+        <translation>我方删除了它，对方更改了它。</translation>
+    </message>
+    <message>
+        <source>Theirs has it below &quot;%1&quot;.</source>
+        <translation>对方将它放在“%1”之下。</translation>
+    </message>
+    <message>
+        <source>Its %1 is &quot;%2&quot; in ours and &quot;%3&quot; in theirs.</source>
+        <translation>它的 %1 在我方为“%2”，在对方为“%3”。</translation>
+    </message>
+    <message>
+        <source>It was deleted in theirs and has more below it in ours.</source>
+        <translation>对方删除了它，而我方在其下有更多内容。</translation>
+    </message>
+    <message>
+        <source>It was deleted in ours and has more below it in theirs.</source>
+        <translation>我方删除了它，而对方在其下有更多内容。</translation>
+    </message>
+    <message>
+        <source>It is a second head.</source>
+        <translation>它是第二个鱼头。</translation>
+    </message>
+    <message>
+        <source>What is below it has another order in theirs.</source>
+        <translation>其下的内容在对方有不同的顺序。</translation>
+    </message>
+    <message>
+        <source>Merge conflict</source>
+        <translation>合并冲突</translation>
     </message>
 </context>
 <context>

@@ -4,6 +4,7 @@
 #include <app/commandline/commandline.h>
 
 #include <app/commandline/commandoptions.h>
+#include <app/commandline/optionvalues.h>
 #include <app/common/formatnames.h>
 
 #include <fishbone/exchange/diagrampicture.h>
@@ -12,9 +13,7 @@
 #include <fishbone/version.h>
 
 #include <QCommandLineParser>
-#include <QRegularExpression>
 
-#include <cmath>
 #include <optional>
 
 namespace {
@@ -33,40 +32,11 @@ CommandLine::Command commandFrom(const QString &text)
         return CommandLine::Command::Info;
     if (text == QLatin1String("report"))
         return CommandLine::Command::Report;
+    if (text == QLatin1String("check"))
+        return CommandLine::Command::Check;
+    if (text == QLatin1String("merge"))
+        return CommandLine::Command::Merge;
     return CommandLine::Command::None;
-}
-
-std::optional<int> levelsFrom(const QString &text)
-{
-    if (text == QLatin1String("all"))
-        return Expansion::allLevels;
-    if (text == QLatin1String("none"))
-        return 0;
-    bool isNumber = false;
-    const int levels = text.toInt(&isNumber);
-    return isNumber && levels >= 0 ? std::make_optional(levels) : std::nullopt;
-}
-
-std::optional<QSize> sizeFrom(const QString &text)
-{
-    static const QRegularExpression form(QStringLiteral("^([0-9]{1,6})x([0-9]{1,6})$"),
-                                         QRegularExpression::CaseInsensitiveOption);
-    const QRegularExpressionMatch match = form.match(text);
-    const QSize size(match.captured(1).toInt(), match.captured(2).toInt());
-    return size.isEmpty() ? std::nullopt : std::make_optional(size);
-}
-
-std::optional<double> scaleFrom(const QString &text)
-{
-    bool isNumber = false;
-    const double scale = text.toDouble(&isNumber);
-    return isNumber && std::isfinite(scale) && scale > 0 ? std::make_optional(scale) : std::nullopt;
-}
-
-std::optional<QColor> colorFrom(const QString &text)
-{
-    // Asked first because the conversion complains about a name that it does not know.
-    return QColor::isValidColor(text) ? std::make_optional(QColor(text)) : std::nullopt;
 }
 
 QString expected(const QString &option, const QString &value, const QString &what)
@@ -117,6 +87,7 @@ bool CommandLine::readCommand(const QCommandLineParser &parser)
     case Command::None:
         return refuseOptions(parser, {CommandOptions::forFrom(), CommandOptions::forTo()},
                              tr("--%1 needs convert, info or report")) &&
+               refuseOptions(parser, {CommandOptions::forJson()}, tr("--%1 needs info")) &&
                refuseOptions(parser, {CommandOptions::forStrict()}, tr("--%1 needs convert")) &&
                readExport(parser);
     case Command::Convert:
@@ -125,6 +96,10 @@ bool CommandLine::readCommand(const QCommandLineParser &parser)
         return readInfo(parser);
     case Command::Report:
         return readReport(parser);
+    case Command::Check:
+        return readCheck(parser);
+    case Command::Merge:
+        return readMerge(parser);
     }
     return false;
 }
@@ -150,7 +125,8 @@ bool CommandLine::readExport(const QCommandLineParser &parser)
 bool CommandLine::readConvert(const QCommandLineParser &parser)
 {
     action = Action::Convert;
-    if (!refuseOptions(parser, {CommandOptions::forExport()}, tr("--%1 does not go with convert")))
+    if (!refuseOptions(parser, {CommandOptions::forExport(), CommandOptions::forJson()},
+                       tr("--%1 does not go with convert")))
         return false;
     if (documents.size() != 2)
         return refuse(tr("convert takes a file to read and a file to write"));
@@ -169,8 +145,9 @@ bool CommandLine::readConvert(const QCommandLineParser &parser)
 bool CommandLine::readInfo(const QCommandLineParser &parser)
 {
     action = Action::Info;
-    if (!refuseAllBut(parser, tr("--%1 does not go with info")))
+    if (!refuseOthers(parser, tr("--%1 does not go with info")))
         return false;
+    isJson = parser.isSet(CommandOptions::forJson());
     if (documents.size() != 1)
         return refuse(tr("info takes one file, not %1").arg(documents.size()));
     return readFormat(parser, QStringLiteral("from"), documents.constFirst(), from);
@@ -180,7 +157,9 @@ bool CommandLine::readInfo(const QCommandLineParser &parser)
 bool CommandLine::readReport(const QCommandLineParser &parser)
 {
     action = Action::Report;
-    if (!refuseAllBut(parser, tr("--%1 does not go with report")))
+    const QString reason = tr("--%1 does not go with report");
+    if (!refuseOthers(parser, reason) ||
+        !refuseOptions(parser, {CommandOptions::forJson()}, reason))
         return false;
     if (documents.size() != 2)
         return refuse(tr("report takes a file to read and a file to write"));
@@ -191,8 +170,34 @@ bool CommandLine::readReport(const QCommandLineParser &parser)
     return readFormat(parser, QStringLiteral("from"), documents.constFirst(), from);
 }
 
-/** Refuses all options but the format to read, for @p reason; true when there are no others. */
-bool CommandLine::refuseAllBut(const QCommandLineParser &parser, const QString &reason)
+/** Reads the arguments of "check"; false when they make no sense. */
+bool CommandLine::readCheck(const QCommandLineParser &parser)
+{
+    action = Action::Check;
+    const QString reason = tr("--%1 does not go with check");
+    if (!refuseOthers(parser, reason) ||
+        !refuseOptions(parser, {CommandOptions::forJson()}, reason))
+        return false;
+    if (documents.isEmpty())
+        return refuse(tr("check takes the files to look at"));
+    return !parser.isSet(CommandOptions::forFrom()) ||
+           readFormat(parser, QStringLiteral("from"), QString(), from);
+}
+
+/** Reads the arguments of "merge"; false when they make no sense. */
+bool CommandLine::readMerge(const QCommandLineParser &parser)
+{
+    action = Action::Merge;
+    const QString reason = tr("--%1 does not go with merge");
+    if (!refuseOthers(parser, reason) ||
+        !refuseOptions(parser, {CommandOptions::forJson(), CommandOptions::forFrom()}, reason))
+        return false;
+    return documents.size() == 3 ||
+           refuse(tr("merge takes the files of the base, of ours and of theirs"));
+}
+
+/** Refuses, for @p reason, what no command but convert takes; true when none of it is set. */
+bool CommandLine::refuseOthers(const QCommandLineParser &parser, const QString &reason)
 {
     QList<QCommandLineOption> others = CommandOptions::forPictures();
     others += {CommandOptions::forExport(), CommandOptions::forTo(), CommandOptions::forStrict()};
@@ -236,13 +241,13 @@ bool CommandLine::readPicture(const QCommandLineParser &parser)
     if (look.view.look == DiagramLook::Classic && !PictureExport::formatOf(target) &&
         !SlideExport::isSlide(target))
         return refuse(tr("a page for the browser needs the clear look"));
-    return readOption(parser, QStringLiteral("expand"), levelsFrom,
+    return readOption(parser, QStringLiteral("expand"), OptionValues::levelsFrom,
                       tr("all, none or a number of levels"), levels) &&
-           readOption(parser, QStringLiteral("size"), sizeFrom, tr("a size such as 1600x900"),
-                      options.size) &&
-           readOption(parser, QStringLiteral("scale"), scaleFrom, tr("a number above 0"),
-                      options.scale) &&
-           readOption(parser, QStringLiteral("background"), colorFrom,
+           readOption(parser, QStringLiteral("size"), OptionValues::sizeFrom,
+                      tr("a size such as 1600x900"), options.size) &&
+           readOption(parser, QStringLiteral("scale"), OptionValues::scaleFrom,
+                      tr("a number above 0"), options.scale) &&
+           readOption(parser, QStringLiteral("background"), OptionValues::colorFrom,
                       tr("the name of a colour, #rrggbb or transparent"), options.background);
 }
 

@@ -27,7 +27,7 @@ public:
     /** The program's exit codes. */
     enum ExitCode : int {
         success = 0,
-        failure = 1,  ///< something could not be read, drawn or written
+        failure = 1,  ///< something could not be read, drawn, written, or merged without conflicts
         badUsage = 2, ///< the arguments make no sense
         isOff = 3,    ///< something is off in the document that was asked about
     };
@@ -38,6 +38,8 @@ public:
         Convert, ///< "convert": from one format to another
         Info,    ///< "info": about a document
         Report,  ///< "report": what is sent round after a meeting
+        Check,   ///< "check": what is off in files
+        Merge,   ///< "merge": two versions of a diagram that have one origin
     };
 
     enum class Action {
@@ -46,6 +48,8 @@ public:
         Convert,    ///< write the one document in another format, or as a picture
         Info,       ///< say what is in the one document, and what is off in it
         Report,     ///< write a report of the one document
+        Check,      ///< name what is off in the documents
+        Merge,      ///< merge the third document into the second one, the first being their origin
         Print,      ///< print the text to the standard output: help or version
         Refuse,     ///< print the text to the error output: the arguments make no sense
     };
@@ -67,6 +71,7 @@ public:
     std::optional<DiagramExchange::Format> from; ///< of the document
     std::optional<DiagramExchange::Format> to;   ///< of the target; nothing for a picture
     bool isStrict = false;             ///< a conversion that would leave something out is refused
+    bool isJson = false;               ///< what is said is for programs
     int levels = Expansion::allLevels; ///< how many levels of bones below the main bones to expand
     PictureOptions options;
     LookChoice look; ///< of a picture
@@ -77,7 +82,9 @@ private:
     bool readConvert(const QCommandLineParser &parser);
     bool readInfo(const QCommandLineParser &parser);
     bool readReport(const QCommandLineParser &parser);
-    bool refuseAllBut(const QCommandLineParser &parser, const QString &reason);
+    bool readCheck(const QCommandLineParser &parser);
+    bool readMerge(const QCommandLineParser &parser);
+    bool refuseOthers(const QCommandLineParser &parser, const QString &reason);
     bool readFormat(const QCommandLineParser &parser, const QString &name, const QString &fileName,
                     std::optional<DiagramExchange::Format> &format);
     bool readPicture(const QCommandLineParser &parser);

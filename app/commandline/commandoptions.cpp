@@ -85,6 +85,11 @@ QCommandLineOption forStrict()
             CommandLine::tr("Write nothing when that would leave content out.")};
 }
 
+QCommandLineOption forJson()
+{
+    return {QStringLiteral("json"), CommandLine::tr("Say it as JSON, for programs.")};
+}
+
 } // namespace CommandOptions
 
 namespace {
@@ -93,10 +98,12 @@ void describeWindow(QCommandLineParser &parser)
 {
     parser.setApplicationDescription(CommandLine::tr(
         "Edits fishbone diagrams of tasks.\n\n"
-        "Three commands need no display:\n"
+        "These commands need no display:\n"
         "  convert   write a diagram in another format, or as a picture\n"
         "  info      say what is in a diagram, and what is off in it\n"
         "  report    write what is sent round after a meeting\n"
+        "  check     name what is off in files, line by line\n"
+        "  merge     merge two versions of a diagram, for git\n"
         "\"fishbone convert --help\" tells more. A file of such a name is ./convert."));
     parser.addOptions(
         {helpOption(), versionOption(), languageOption(), CommandOptions::forExport()});
@@ -133,7 +140,8 @@ void describeInfo(QCommandLineParser &parser)
     parser.setApplicationDescription(
         CommandLine::tr("Counts what is in a diagram and lists what is off in it.\n"
                         "The exit code is 3 when anything is."));
-    parser.addOptions({helpOption(), languageOption(), CommandOptions::forFrom()});
+    parser.addOptions(
+        {helpOption(), languageOption(), CommandOptions::forFrom(), CommandOptions::forJson()});
     parser.addPositionalArgument(QStringLiteral("info"), CommandLine::tr("The command."),
                                  QStringLiteral("info"));
     parser.addPositionalArgument(QStringLiteral("file"), CommandLine::tr("The file to read."),
@@ -156,6 +164,38 @@ void describeReport(QCommandLineParser &parser)
                                  QStringLiteral("out"));
 }
 
+void describeCheck(QCommandLineParser &parser)
+{
+    parser.setApplicationDescription(
+        CommandLine::tr("Names what is off in each file, and why one cannot be read, a line each.\n"
+                        "The exit code is 1 when there is anything."));
+    parser.addOptions({helpOption(), languageOption(), CommandOptions::forFrom()});
+    parser.addPositionalArgument(QStringLiteral("check"), CommandLine::tr("The command."),
+                                 QStringLiteral("check"));
+    parser.addPositionalArgument(QStringLiteral("files"), CommandLine::tr("The files to look at."),
+                                 QStringLiteral("file..."));
+}
+
+void describeMerge(QCommandLineParser &parser)
+{
+    parser.setApplicationDescription(
+        CommandLine::tr("Merges what changed from the base to theirs into ours, subject by "
+                        "subject, as git asks a merge driver to.\n"
+                        "What both changed differently is kept as in ours, with a cause that says "
+                        "so below it; the exit code is 1 then."));
+    parser.addOptions({helpOption(), languageOption()});
+    parser.addPositionalArgument(QStringLiteral("merge"), CommandLine::tr("The command."),
+                                 QStringLiteral("merge"));
+    parser.addPositionalArgument(QStringLiteral("base"),
+                                 CommandLine::tr("The version that both come from."),
+                                 QStringLiteral("base"));
+    parser.addPositionalArgument(QStringLiteral("ours"),
+                                 CommandLine::tr("The version to merge into; it is replaced."),
+                                 QStringLiteral("ours"));
+    parser.addPositionalArgument(QStringLiteral("theirs"), CommandLine::tr("The other version."),
+                                 QStringLiteral("theirs"));
+}
+
 } // namespace
 
 void CommandOptions::describe(QCommandLineParser &parser, CommandLine::Command command)
@@ -169,11 +209,15 @@ void CommandOptions::describe(QCommandLineParser &parser, CommandLine::Command c
         return describeInfo(parser);
     case CommandLine::Command::Report:
         return describeReport(parser);
+    case CommandLine::Command::Check:
+        return describeCheck(parser);
+    case CommandLine::Command::Merge:
+        return describeMerge(parser);
     }
 }
 
 void CommandOptions::describeAll(QCommandLineParser &parser)
 {
     describeWindow(parser);
-    parser.addOptions({forFrom(), forTo(), forStrict()});
+    parser.addOptions({forFrom(), forTo(), forStrict(), forJson()});
 }

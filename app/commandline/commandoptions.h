@@ -19,6 +19,8 @@ QCommandLineOption forFrom();
 /** The format of the file that is written. */
 QCommandLineOption forTo();
 QCommandLineOption forStrict();
+/** What is said comes as JSON. */
+QCommandLineOption forJson();
 
 /** Gives @p parser the options, arguments and description of @p command. */
 void describe(QCommandLineParser &parser, CommandLine::Command command);

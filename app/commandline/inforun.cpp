@@ -11,6 +11,41 @@
 #include <fishbone/exchange/exchangereport.h>
 #include <fishbone/model/treeitem.h>
 
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+namespace {
+
+/** @p report as JSON in plain ASCII, which is the same in every locale. */
+QString jsonOf(const DocumentReport &report, DiagramExchange::Format format)
+{
+    QJsonArray findings;
+    for (const DocumentReport::Finding &finding : report.findings())
+        findings.append(QJsonObject{{QStringLiteral("place"), finding.place},
+                                    {QStringLiteral("title"), finding.title},
+                                    {QStringLiteral("reason"), finding.reason}});
+    const QJsonObject object{{QStringLiteral("version"), 1},
+                             {QStringLiteral("format"), DiagramExchange::id(format)},
+                             {QStringLiteral("title"), report.title()},
+                             {QStringLiteral("subjects"), report.subjects()},
+                             {QStringLiteral("mainBones"), report.mainBones()},
+                             {QStringLiteral("levels"), report.levels()},
+                             {QStringLiteral("links"), report.links()},
+                             {QStringLiteral("ownStyles"), report.styles()},
+                             {QStringLiteral("findings"), findings}};
+    QString ascii;
+    for (const QChar letter : QString::fromUtf8(QJsonDocument(object).toJson())) {
+        if (letter.unicode() < 128)
+            ascii += letter;
+        else
+            ascii += QStringLiteral("\\u%1").arg(letter.unicode(), 4, 16, QLatin1Char('0'));
+    }
+    return ascii;
+}
+
+} // namespace
+
 int runInfo(const CommandLine &line, QString &message)
 {
     ExchangeReport read;
@@ -19,7 +54,10 @@ int runInfo(const CommandLine &line, QString &message)
         return CommandLine::failure;
     ImportSummary::print(line.documents.constFirst(), read);
     const DocumentReport report(*head);
-    message =
-        CommandLine::tr("Format: %1\n").arg(DiagramExchange::name(*line.from)) + report.text();
+    if (line.isJson)
+        message = jsonOf(report, *line.from);
+    else
+        message =
+            CommandLine::tr("Format: %1\n").arg(DiagramExchange::name(*line.from)) + report.text();
     return report.findings().isEmpty() ? CommandLine::success : CommandLine::isOff;
 }

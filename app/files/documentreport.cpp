@@ -7,6 +7,7 @@
 #include <fishbone/items/taskstatusinfo.h>
 #include <fishbone/model/treeitem.h>
 
+#include <QStringList>
 #include <QUrl>
 
 #include <algorithm>
@@ -88,15 +89,18 @@ void DocumentReport::checkTask(const TreeItem &subject)
 
 void DocumentReport::find(const TreeItem &subject, const QString &what)
 {
-    m_findings.append(
-        QStringLiteral("%1 \"%2\": %3").arg(place(), shortened(subject.title()), what));
+    m_findings.append({place(), subject.title(), what});
+}
+
+QString DocumentReport::Finding::text() const
+{
+    return QStringLiteral("%1 \"%2\": %3")
+        .arg(place.isEmpty() ? tr("head") : place, shortened(title), reason);
 }
 
 /** The place of the visited subject, "2.1" for the first one below the second main bone. */
 QString DocumentReport::place() const
 {
-    if (m_path.empty())
-        return tr("head");
     QStringList numbers;
     for (const int number : m_path)
         numbers.append(QString::number(number));
@@ -117,8 +121,8 @@ QString DocumentReport::text() const
         lines.append(tr("Nothing is off."));
     } else {
         lines.append(tr("Off: %1").arg(m_findings.size()));
-        for (const QString &finding : m_findings)
-            lines.append(QLatin1String("  ") + finding);
+        for (const Finding &finding : m_findings)
+            lines.append(QLatin1String("  ") + finding.text());
     }
     return lines.join(QLatin1Char('\n')) + QLatin1Char('\n');
 }

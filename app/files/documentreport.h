@@ -6,7 +6,7 @@
 #include <QCoreApplication>
 #include <QSet>
 #include <QString>
-#include <QStringList>
+#include <QVector>
 
 #include <vector>
 
@@ -18,7 +18,21 @@ class DocumentReport
     Q_DECLARE_TR_FUNCTIONS(DocumentReport)
 
 public:
+    /** Something that is off. */
+    struct Finding
+    {
+        QString place;  ///< of the subject, "2.1" below the second main bone; empty for the head
+        QString title;  ///< of the subject
+        QString reason; ///< for the user, a clause
+
+        /** All of it in one line, for the user. */
+        QString text() const;
+    };
+
     explicit DocumentReport(const TreeItem &head);
+
+    /** The title of the head. */
+    const QString &title() const { return m_title; }
 
     int subjects() const { return m_subjects; }
     /** The levels of subjects, the head's included. */
@@ -28,8 +42,7 @@ public:
     int links() const { return m_links; }
     /** Subjects with a style of their own. */
     int styles() const { return m_styles; }
-    /** What is off, each with the place and the title of the subject. */
-    const QStringList &findings() const { return m_findings; }
+    const QVector<Finding> &findings() const { return m_findings; }
 
     /** All of it in lines, for the user. */
     QString text() const;
@@ -47,7 +60,7 @@ private:
     int m_links = 0;
     int m_styles = 0;
     QString m_title;
-    QStringList m_findings;
+    QVector<Finding> m_findings;
     QSet<QString> m_uuids;
     std::vector<int> m_path; ///< the numbers of the subject being visited and of all above it
 };

@@ -353,8 +353,10 @@ void TestCommandLineConvert::shouldDescribeEveryOptionInTheManPage()
         QString::fromUtf8(contentOf(TestSupport::sourceFile(QStringLiteral("docs/fishbone.1"))));
     page.remove(QLatin1Char('\\'));
     QSet<QString> options;
-    for (const QStringList &command : {QStringList(), QStringList{QStringLiteral("convert")},
-                                       QStringList{QStringLiteral("info")}}) {
+    for (const QStringList &command :
+         {QStringList(), QStringList{QStringLiteral("convert")},
+          QStringList{QStringLiteral("info")}, QStringList{QStringLiteral("check")},
+          QStringList{QStringLiteral("merge")}}) {
         const Outcome help =
             run(command + QStringList{QStringLiteral("--help")}, m_folder->environment());
         const QRegularExpression option(QStringLiteral("--[a-z]+(-[a-z]+)*"));

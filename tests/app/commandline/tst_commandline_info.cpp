@@ -5,6 +5,10 @@
 #include <tests/program/testprogram.h>
 #include <tests/support/sourcefolder.h>
 
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
 using namespace ProgramRunner;
 
 /** "fishbone info" as it is typed. */
@@ -15,6 +19,7 @@ class TestCommandLineInfo : public QObject
 private Q_SLOTS:
     void init();
     void shouldCountWhatIsInADiagram();
+    void shouldSayTheSameAsJson();
     void shouldFindWhatIsOff_data();
     void shouldFindWhatIsOff();
     void shouldFindNothingInSoundDiagrams_data();
@@ -59,6 +64,36 @@ void TestCommandLineInfo::shouldCountWhatIsInADiagram()
                                          "Own styles: 1\n"
                                          "Nothing is off.\n"));
     QCOMPARE(outcome.code, 0);
+}
+
+void TestCommandLineInfo::shouldSayTheSameAsJson()
+{
+    writeFile(m_folder->document(),
+              QByteArray(R"({"title": "Zu sp\u00e4t", "uuid": "h", "url": "http://x", "children": [
+        {"title": "a", "uuid": "a", "pid": "h", "children": [{"title": "b", "pid": "a"}]}]})"));
+    QProcessEnvironment plain = m_folder->environment();
+    plain.insert(QStringLiteral("LC_ALL"), QStringLiteral("C"));
+    for (const QProcessEnvironment &environment : {m_folder->environment(), plain}) {
+        const Outcome outcome = run(
+            {QStringLiteral("info"), QStringLiteral("--json"), m_folder->document()}, environment);
+        QCOMPARE(outcome.err, QString());
+        QCOMPARE(outcome.code, 3);
+        const QJsonObject expected{
+            {QStringLiteral("version"), 1},
+            {QStringLiteral("format"), QStringLiteral("json")},
+            {QStringLiteral("title"), QString::fromUtf8("Zu spät")},
+            {QStringLiteral("subjects"), 3},
+            {QStringLiteral("mainBones"), 1},
+            {QStringLiteral("levels"), 3},
+            {QStringLiteral("links"), 1},
+            {QStringLiteral("ownStyles"), 0},
+            {QStringLiteral("findings"),
+             QJsonArray{
+                 QJsonObject{{QStringLiteral("place"), QStringLiteral("1.1")},
+                             {QStringLiteral("title"), QStringLiteral("b")},
+                             {QStringLiteral("reason"), QStringLiteral("it has no uuid")}}}}};
+        QCOMPARE(QJsonDocument::fromJson(outcome.out.toLatin1()).object(), expected);
+    }
 }
 
 void TestCommandLineInfo::shouldFindWhatIsOff_data()

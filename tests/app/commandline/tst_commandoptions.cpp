@@ -51,7 +51,12 @@ void TestCommandOptions::shouldDescribeWhatACommandTakes_data()
     QTest::newRow("convert") << CommandLine::Command::Convert
                              << pictureNames + QStringList{from, to, strict}
                              << QStringList(exporting);
-    QTest::newRow("info") << CommandLine::Command::Info << QStringList(from)
+    const QString json = QStringLiteral("json ");
+    QTest::newRow("check") << CommandLine::Command::Check << QStringList(from)
+                           << pictureNames + QStringList{exporting, to, strict, json};
+    QTest::newRow("merge") << CommandLine::Command::Merge << QStringList()
+                           << pictureNames + QStringList{exporting, from, to, strict, json};
+    QTest::newRow("info") << CommandLine::Command::Info << QStringList{from, json}
                           << pictureNames + QStringList{exporting, to, strict};
     QTest::newRow("report") << CommandLine::Command::Report << QStringList(from)
                             << pictureNames + QStringList{exporting, to, strict};
