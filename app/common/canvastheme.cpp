@@ -11,7 +11,6 @@
 #include <fishbone/style/spearstyle.h>
 #include <fishbone/style/spearstyledialog.h>
 
-#include <QCheckBox>
 #include <QDir>
 #include <QPalette>
 #include <QStandardPaths>
@@ -89,7 +88,7 @@ void CanvasTheme::editStyle(QWidget *parent)
 {
     SpearStyleDialog dialog(*SpearStyle::global(), true, parent);
     // What holds for all subjects has nothing to inherit from.
-    dialog.findChild<QCheckBox *>()->parentWidget()->hide();
+    dialog.setInheritanceOffered(false);
     if (dialog.exec() == QDialog::Accepted)
         storeStyle();
     show(m_isDark);

@@ -12,7 +12,6 @@
 #include <fishbone/style/spearstyledialog.h>
 #include <fishbone/undo/editattributes.h>
 
-#include <QCheckBox>
 #include <QCoreApplication>
 #include <QHash>
 #include <QJsonObject>
@@ -132,11 +131,11 @@ private:
 bool askFor(SpearStyle &style, bool hasParent, QWidget *window)
 {
     SpearStyleDialog dialog(style, true, window);
-    auto *const inheritance = dialog.findChild<QCheckBox *>();
-    inheritance->setToolTip(translated(QT_TRANSLATE_NOOP(
-        "SubjectStyles",
-        "The subject looks as the one above it, also when the style of that is changed")));
-    inheritance->parentWidget()->setVisible(hasParent);
+    dialog.setInheritanceOffered(
+        hasParent,
+        translated(QT_TRANSLATE_NOOP(
+            "SubjectStyles",
+            "The subject looks as the one above it, also when the style of that is changed")));
     return dialog.exec() == QDialog::Accepted;
 }
 

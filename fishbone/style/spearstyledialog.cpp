@@ -90,6 +90,12 @@ SpearStyleDialog::SpearStyleDialog(SpearStyle &style, bool modal, QWidget *paren
 
 SpearStyleDialog::~SpearStyleDialog() = default;
 
+void SpearStyleDialog::setInheritanceOffered(bool offered, const QString &toolTip)
+{
+    m_d->inheritanceParent->parentWidget()->setVisible(offered); // with its frame
+    m_d->inheritanceParent->setToolTip(toolTip);
+}
+
 void SpearStyleDialog::buildFields()
 {
     m_d->textCount->setValidator(new QRegularExpressionValidator(
@@ -160,6 +166,7 @@ QLayout *SpearStyleDialog::makeSetters()
     auto *const grid = new QGridLayout;
     const auto add = [&](const char *text, int row, int column, auto slot) {
         auto *const button = new QPushButton(this);
+        button->setObjectName(QLatin1String(text));
         followLanguage(button, [button, text] { button->setText(tr(text)); });
         connect(button, &QPushButton::clicked, this, slot);
         grid->addWidget(button, row, column);

@@ -33,6 +33,13 @@ public:
     SpearStyleDialog(SpearStyle &style, QWidget *parent) = delete;
     ~SpearStyleDialog() override;
 
+    /**
+     * Whether the dialog offers to have the style of the parent, as it does at first. A host that
+     * follows the flag says what it does in @p toolTip; one that has no parent for the style, or
+     * does nothing with the flag, offers nothing. The flag stays as it is.
+     */
+    void setInheritanceOffered(bool offered, const QString &toolTip = QString());
+
 public Q_SLOTS:
     /** Lets the user choose the font of the chosen state. */
     void openTextFont();

@@ -37,6 +37,7 @@ private Q_SLOTS:
     void shouldSetACountOnlyFromADecimalInteger_data();
     void shouldSetACountOnlyFromADecimalInteger();
     void shouldSetTheFlagWithTheCheckBox();
+    void shouldOfferInheritanceUnlessToldOtherwise();
     void shouldKeepTheStyleWhenAccepted();
     void shouldRestoreWhatWasSetWhenRejected_data();
     void shouldRestoreWhatWasSetWhenRejected();
@@ -172,6 +173,24 @@ void tst_SpearStyleDialog::shouldSetTheFlagWithTheCheckBox()
 
     dialog.inheritanceParentChanged(true);
     QVERIFY(style.inheritanceParent());
+}
+
+void tst_SpearStyleDialog::shouldOfferInheritanceUnlessToldOtherwise()
+{
+    SpearStyle style;
+    style.setInheritanceParent(true);
+    SpearStyleDialog dialog(style, false);
+    dialog.show();
+    const auto *const box = dialog.findChild<QCheckBox *>();
+    QVERIFY(box->isVisible());
+
+    dialog.setInheritanceOffered(false);
+    QVERIFY(!box->isVisible());
+    QVERIFY(style.inheritanceParent());
+
+    dialog.setInheritanceOffered(true, QStringLiteral("as its parent"));
+    QVERIFY(box->isVisible());
+    QCOMPARE(box->toolTip(), QStringLiteral("as its parent"));
 }
 
 void tst_SpearStyleDialog::shouldKeepTheStyleWhenAccepted()

@@ -39,11 +39,9 @@ void chooseColor(SpearStyleDialog &dialog, const QColor &color)
         colors.setCurrentColor(color);
         colors.accept();
     });
-    const QList<QPushButton *> buttons = dialog.findChildren<QPushButton *>();
-    for (QPushButton *button : buttons) {
-        if (button->text() == SpearStyleDialog::tr("Set TextColor"))
-            QTest::mouseClick(button, Qt::LeftButton);
-    }
+    auto *const button = dialog.findChild<QPushButton *>(QStringLiteral("Set TextColor"));
+    QVERIFY(button);
+    QTest::mouseClick(button, Qt::LeftButton);
     QVERIFY(driver.isDone());
 }
 
