@@ -11,6 +11,7 @@
 
 #include <QDateTime>
 #include <QDir>
+#include <QRegularExpression>
 #include <QtTest>
 
 using namespace ExchangeFixture;
@@ -112,6 +113,8 @@ private Q_SLOTS:
     void shouldHaveTenFilesOfEachProgram();
     void shouldSayWhereEachProgramIsDocumented_data() { shouldHaveTenFilesOfEachProgram_data(); }
     void shouldSayWhereEachProgramIsDocumented();
+    void shouldDocumentWhatBecomesOfEachFormat_data();
+    void shouldDocumentWhatBecomesOfEachFormat();
     void shouldExpectSomethingOfEachFile();
     void shouldReadWhatProgramsWrite_data();
     void shouldReadWhatProgramsWrite();
@@ -180,6 +183,48 @@ void TestImportFixtures::shouldSayWhereEachProgramIsDocumented()
     QCOMPARE(rows.size(), 1);
     QVERIFY2(!rows.constFirst().section(QLatin1Char('|'), 3, 3).trimmed().isEmpty(),
              qPrintable(program));
+}
+
+void TestImportFixtures::shouldDocumentWhatBecomesOfEachFormat_data()
+{
+    QTest::addColumn<Format>("format");
+    const QList<Format> formats = DiagramExchange::formats();
+    for (const Format format : formats) {
+        if (format != Format::Json && DiagramExchange::canRead(format))
+            QTest::newRow(qPrintable(DiagramExchange::id(format))) << format;
+    }
+}
+
+/** The table says what goes to the details and what is left out where files have such, only there.
+ */
+void TestImportFixtures::shouldDocumentWhatBecomesOfEachFormat()
+{
+    QFETCH(Format, format);
+    const QString documentation =
+        QString::fromUtf8(bytesOf(TestSupport::sourceFile(QStringLiteral("docs/formats.md"))));
+    const QString section = documentation.section(QStringLiteral("## What other programs write"), 1)
+                                .section(QStringLiteral("\n## "), 0, 0);
+    const QRegularExpression start(
+        QStringLiteral("^\\| (\\w+, )*%1(, \\w+)* \\|").arg(DiagramExchange::id(format)));
+    const QStringList rows = section.split(QLatin1Char('\n')).filter(start);
+    QCOMPARE(rows.size(), 1);
+    const QStringList cells = rows.constFirst().split(QLatin1Char('|'));
+    QCOMPARE(cells.size(), 6);
+
+    QString said;
+    const QStringList names = fixturesOf(format);
+    for (const QString &name : names) {
+        QByteArray bytes = bytesOf(folderOf(format).filePath(name));
+        QBuffer buffer(&bytes);
+        QVERIFY(buffer.open(QIODevice::ReadOnly));
+        ExchangeReport report;
+        DiagramExchange::read(buffer, format, nullptr, &report);
+        said += report.lines().join(QLatin1Char('\n'));
+    }
+    QVERIFY(!cells.at(2).trimmed().isEmpty());
+    QCOMPARE(!cells.at(3).trimmed().isEmpty(),
+             said.contains(QLatin1String("put into the details")));
+    QCOMPARE(!cells.at(4).trimmed().isEmpty(), said.contains(QLatin1String("left out")));
 }
 
 void TestImportFixtures::shouldExpectSomethingOfEachFile()
