@@ -238,6 +238,8 @@ void TestUndoHistory::shouldFoldStepsOfOneKind()
     QCOMPARE(votes(), 2);
     QCOMPARE(list->currentItem(), run->child(1));
     QCOMPARE(run->text(0), QStringLiteral("Vote (2 of 5)"));
+    if (const QByteArray folder = qgetenv("FISHBONE_TEST_PICTURES"); !folder.isEmpty())
+        app.window.grab().save(QString::fromLocal8Bit(folder) + QStringLiteral("/history.png"));
     QTest::keyClick(list, Qt::Key_Down);
     AppFixture::settle();
     QCOMPARE(votes(), 3);
