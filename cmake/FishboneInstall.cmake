@@ -104,6 +104,9 @@ if(TARGET fishbone-app)
     file(MAKE_DIRECTORY "${PROJECT_BINARY_DIR}/links")
     file(CREATE_LINK "${bin_to_prefix}/${program_folder}/fishbone${FISHBONE_SUFFIX}" "${link}" SYMBOLIC)
     install(FILES "${link}" DESTINATION "${CMAKE_INSTALL_BINDIR}" COMPONENT program)
+    install(FILES "${PROJECT_SOURCE_DIR}/resources/fishbone.bash"
+        DESTINATION "${CMAKE_INSTALL_DATADIR}/bash-completion/completions"
+        RENAME "fishbone${FISHBONE_SUFFIX}" COMPONENT program)
     if(UNIX AND NOT APPLE)
         include(FishboneDesktop)
     endif()

@@ -31,7 +31,7 @@ check_format() {
 check_scripts() {
     local scripts
     mapfile -t scripts <<<"$(grep -lE '^#!.*bash' scripts/* .ci/*)"
-    shellcheck --external-sources "${scripts[@]}" scripts/*.sh
+    shellcheck --external-sources "${scripts[@]}" scripts/*.sh resources/*.bash
     # Of several names the command is content with one that exists, and says nothing of the others.
     search -nE 'command -v +[^ >|&;)]+ +[^ >|&;)]' "${scripts[@]}" scripts/*.sh | none
 }

@@ -598,6 +598,10 @@ What both changed differently is kept as in ours, with a cause that says so belo
         <source>there are conflicts: look for the causes &quot;Merge conflict&quot;</source>
         <translation>there are conflicts: look for the causes &quot;Merge conflict&quot;</translation>
     </message>
+    <message>
+        <source>--%1 does not go with a document from the network</source>
+        <translation>--%1 does not go with a document from the network</translation>
+    </message>
 </context>
 <context>
     <name>DetailsForm</name>

@@ -595,6 +595,10 @@ What both changed differently is kept as in ours, with a cause that says so belo
         <source>there are conflicts: look for the causes &quot;Merge conflict&quot;</source>
         <translation>存在冲突：请查找名为“合并冲突”的原因</translation>
     </message>
+    <message>
+        <source>--%1 does not go with a document from the network</source>
+        <translation>--%1 不能用于来自网络的文档</translation>
+    </message>
 </context>
 <context>
     <name>DetailsForm</name>

@@ -6,6 +6,7 @@
 #include <app/commandline/commandoptions.h>
 #include <app/commandline/optionvalues.h>
 #include <app/common/formatnames.h>
+#include <app/files/documentloader.h>
 
 #include <fishbone/exchange/diagrampicture.h>
 #include <fishbone/exchange/meetingreport.h>
@@ -132,7 +133,7 @@ bool CommandLine::readConvert(const QCommandLineParser &parser)
         return refuse(tr("convert takes a file to read and a file to write"));
     target = documents.takeLast();
     isStrict = parser.isSet(CommandOptions::forStrict());
-    if (!readFormat(parser, QStringLiteral("from"), documents.constFirst(), from))
+    if (!readSource(parser))
         return false;
     if (!parser.isSet(QStringLiteral("to")) && isPicture(target))
         return readPicture(parser);
@@ -150,7 +151,7 @@ bool CommandLine::readInfo(const QCommandLineParser &parser)
     isJson = parser.isSet(CommandOptions::forJson());
     if (documents.size() != 1)
         return refuse(tr("info takes one file, not %1").arg(documents.size()));
-    return readFormat(parser, QStringLiteral("from"), documents.constFirst(), from);
+    return readSource(parser);
 }
 
 /** Reads the arguments of "report"; false when they make no sense. */
@@ -167,7 +168,7 @@ bool CommandLine::readReport(const QCommandLineParser &parser)
     if (!MeetingReport::canWrite(target))
         return refuse(tr("the format of \"%1\" is unknown: the name must end in .html, .pdf or .md")
                           .arg(target));
-    return readFormat(parser, QStringLiteral("from"), documents.constFirst(), from);
+    return readSource(parser);
 }
 
 /** Reads the arguments of "check"; false when they make no sense. */
@@ -202,6 +203,16 @@ bool CommandLine::refuseOthers(const QCommandLineParser &parser, const QString &
     QList<QCommandLineOption> others = CommandOptions::forPictures();
     others += {CommandOptions::forExport(), CommandOptions::forTo(), CommandOptions::forStrict()};
     return refuseOptions(parser, others, reason);
+}
+
+/** Reads the format of the document; one from the network is a diagram, whatever its address. */
+bool CommandLine::readSource(const QCommandLineParser &parser)
+{
+    if (!DocumentLoader::isFromNetwork(documents.constFirst()))
+        return readFormat(parser, QStringLiteral("from"), documents.constFirst(), from);
+    from = DiagramExchange::Format::Json;
+    return refuseOptions(parser, {CommandOptions::forFrom()},
+                         tr("--%1 does not go with a document from the network"));
 }
 
 /** Reads the format that the option @p name or the ending of @p fileName tells. */

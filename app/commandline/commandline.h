@@ -85,6 +85,7 @@ private:
     bool readCheck(const QCommandLineParser &parser);
     bool readMerge(const QCommandLineParser &parser);
     bool refuseOthers(const QCommandLineParser &parser, const QString &reason);
+    bool readSource(const QCommandLineParser &parser);
     bool readFormat(const QCommandLineParser &parser, const QString &name, const QString &fileName,
                     std::optional<DiagramExchange::Format> &format);
     bool readPicture(const QCommandLineParser &parser);

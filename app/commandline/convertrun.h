@@ -12,9 +12,9 @@ struct CommandLine;
 class TreeItem;
 
 /**
- * Reads the one file of @p line in its format and returns the head of the diagram. Null on failure,
- * and @p message says what went wrong; otherwise @p report says what became of the things that no
- * field holds.
+ * Reads the one document of @p line, a file, an address or the standard input, in its format and
+ * returns the head of the diagram. Null on failure, and @p message says what went wrong; otherwise
+ * @p report says what became of the things that no field holds.
  */
 std::unique_ptr<TreeItem> readDocument(const CommandLine &line, QString &message,
                                        ExchangeReport &report);

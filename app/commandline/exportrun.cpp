@@ -126,3 +126,12 @@ int drawPicture(std::unique_ptr<TreeItem> head, const CommandLine &line, QString
     model.insertExistItemRows(QModelIndex(), {head.release()});
     return drawPicture(model, model.fishList().constFirst(), line, message);
 }
+
+std::unique_ptr<TreeItem> fetchDiagram(const QString &source, QString &message)
+{
+    FishModel model;
+    DocumentLoader loader(&model);
+    FishInfo *const document = loadNow(loader, source, message);
+    return std::unique_ptr<TreeItem>(
+        document ? model.takeRow(model.fishRow(document), QModelIndex()) : nullptr);
+}

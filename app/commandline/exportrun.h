@@ -21,3 +21,7 @@ int runExport(const CommandLine &line, QString &message);
 
 /** Draws the diagram of @p head into the target of @p line; otherwise as runExport(). */
 int drawPicture(std::unique_ptr<TreeItem> head, const CommandLine &line, QString &message);
+
+/** Fetches the diagram at @p source, an http or https URL, which takes an event loop. Null on
+ * failure, and @p message says what went wrong. */
+std::unique_ptr<TreeItem> fetchDiagram(const QString &source, QString &message);

@@ -69,6 +69,11 @@ QString DocumentLoader::localPath(const QString &source)
     return url.isLocalFile() ? url.toLocalFile() : source;
 }
 
+bool DocumentLoader::isFromNetwork(const QString &source)
+{
+    return isNetworkUrl(QUrl(source));
+}
+
 std::optional<DiagramExchange::Format> DocumentLoader::foreignFormat(const QString &path)
 {
     const auto format = DiagramExchange::formatOf(path);

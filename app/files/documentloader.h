@@ -62,6 +62,9 @@ public:
     /** The path that @p source stands for, empty when it is fetched from the network. */
     static QString localPath(const QString &source);
 
+    /** Whether @p source is an http or https URL. */
+    static bool isFromNetwork(const QString &source);
+
 Q_SIGNALS:
     /** @p source was loaded, or had been loaded before, as @p document, which has a head. */
     void loaded(const QString &source, FishInfo *document);

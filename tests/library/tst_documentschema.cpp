@@ -31,6 +31,7 @@ class tst_DocumentSchema : public QObject
 
 private Q_SLOTS:
     void initTestCase();
+    void shouldHaveAnIdAndAVersion();
     void shouldFitWhatIsLoadedAndSaved();
     void shouldFitSubjectsWithOddValues();
     void shouldFitADocumentAfterEdits();
@@ -110,6 +111,16 @@ void tst_DocumentSchema::initTestCase()
                 {QStringLiteral("-c"), QStringLiteral("import jsonschema")});
     if (!check.waitForFinished() || check.exitCode() != 0)
         QSKIP("python3-jsonschema is not installed");
+}
+
+/** Programs keep the identity to know which documents they understand. */
+void tst_DocumentSchema::shouldHaveAnIdAndAVersion()
+{
+    QFile schema(sourceFile(QStringLiteral("docs/fishbone.schema.json")));
+    QVERIFY(schema.open(QIODevice::ReadOnly));
+    const QJsonObject object = QJsonDocument::fromJson(schema.readAll()).object();
+    QCOMPARE(object.value(QStringLiteral("$id")).toString(),
+             QStringLiteral("urn:fishbone:schema:diagram:1"));
 }
 
 void tst_DocumentSchema::shouldFitWhatIsLoadedAndSaved()
