@@ -22,6 +22,7 @@ namespace {
 
 const QLatin1String outlineName("outline");
 const QLatin1String textName("text");
+const QLatin1String noteName("_note");
 
 /**
  * The name of an attribute in the format: the usual ones for link and note, and the key with an
@@ -32,26 +33,29 @@ QString nameOf(const SubjectAttributes::Attribute &attribute)
     if (attribute.key == JsonNodes::urlKey)
         return QStringLiteral("url");
     if (attribute.key == JsonNodes::detailKey)
-        return QStringLiteral("_note");
+        return noteName;
     return QLatin1Char('_') + attribute.key;
 }
 
-/** The title of an outline without its tags, if it has any; other programs have HTML there. */
-QString titleFrom(const QString &text, ImportedTree &tree, TreeItem &subject, qint64 line)
+/** The title or note of an outline without its tags, if it has any; other programs have HTML there.
+ */
+QString plainFrom(const QString &text, ImportedTree &tree, TreeItem &subject, qint64 line)
 {
     if (!RichText::hasTags(text))
         return RichText::dereferenced(text);
-    const RichText::Content content = RichText::fromHtml(text);
+    QString html = text;
+    html.replace(QLatin1Char('\n'), QLatin1String("<br>")); // an attribute has it for a break
+    const RichText::Content content = RichText::fromHtml(html);
     tree.addContent(subject, content.links, content.images, line);
     return content.text;
 }
 
-/** @p title so that titleFrom() gives it back. */
-QString titleTo(const QString &title)
+/** @p plain so that plainFrom() gives it back. */
+QString plainTo(const QString &plain)
 {
-    if (!RichText::hasTags(title) && !RichText::hasReferences(title))
-        return title;
-    QString text = title;
+    if (!RichText::hasTags(plain) && !RichText::hasReferences(plain))
+        return plain;
+    QString text = plain;
     return text.replace(QLatin1Char('&'), QLatin1String("&amp;"))
         .replace(QLatin1Char('<'), QLatin1String("&lt;"));
 }
@@ -98,7 +102,7 @@ bool takeForeign(const QString &name, const QString &value, TreeItem &subject)
     return true;
 }
 
-/** Takes the attributes of an outline but its text. */
+/** Takes the attributes of an outline but its text and its note. */
 void takeAttributes(const QXmlStreamAttributes &values, qint64 line, TreeItem &subject,
                     ImportedTree &tree)
 {
@@ -111,7 +115,7 @@ void takeAttributes(const QXmlStreamAttributes &values, qint64 line, TreeItem &s
             name == textName ||
             (name == QLatin1String("title") &&
              (value == subject.title() || value == values.value(textName).toString()));
-        if (value.isEmpty() || isText || name == QLatin1String("url"))
+        if (value.isEmpty() || isText || name == QLatin1String("url") || name == noteName)
             continue;
         const SubjectAttributes::Attribute *const attribute = attributeNamed(name);
         if (attribute && attribute->setText(subject, value))
@@ -144,10 +148,11 @@ bool addOutline(const QXmlStreamReader &xml, int depth, ImportedTree &tree)
         return false;
     const QString name =
         values.hasAttribute(textName) ? QString(textName) : QStringLiteral("title");
-    subject->setTitle(titleFrom(values.value(name).toString(), tree, *subject, line));
+    subject->setTitle(plainFrom(values.value(name).toString(), tree, *subject, line));
     const QString linkInTitle = subject->url();
     takeAttributes(values, line, *subject, tree);
     keepLink(linkInTitle, line, *subject, tree);
+    subject->setDetail(plainFrom(values.value(noteName).toString(), tree, *subject, line));
     return true;
 }
 
@@ -251,11 +256,13 @@ QByteArray writeOpml(const TreeItem &head)
         head,
         [&xml](const TreeItem &subject, int) {
             xml.writeStartElement(outlineName);
-            xml.writeAttribute(textName, XmlSupport::storable(titleTo(subject.title())));
+            xml.writeAttribute(textName, XmlSupport::storable(plainTo(subject.title())));
             for (const SubjectAttributes::Attribute &attribute : SubjectAttributes::all()) {
                 const QString value = attribute.text(subject);
+                const QString name = nameOf(attribute);
                 if (!value.isEmpty())
-                    xml.writeAttribute(nameOf(attribute), XmlSupport::storable(value));
+                    xml.writeAttribute(
+                        name, XmlSupport::storable(name == noteName ? plainTo(value) : value));
             }
         },
         [&xml](const TreeItem &) { xml.writeEndElement(); });
