@@ -503,8 +503,8 @@ The ending .html, .pdf or .md tells the format; .md has its picture in a file be
 The ending .html, .pdf or .md tells the format; .md has its picture in a file beside it.</translation>
     </message>
     <message>
-        <source>--%1 needs convert, info or report</source>
-        <translation>--%1 needs convert, info or report</translation>
+        <source>--%1 needs convert, info, report or check</source>
+        <translation>--%1 needs convert, info, report or check</translation>
     </message>
     <message>
         <source>--%1 does not go with report</source>

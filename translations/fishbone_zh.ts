@@ -500,8 +500,8 @@ The ending .html, .pdf or .md tells the format; .md has its picture in a file be
 扩展名 .html、.pdf 或 .md 决定格式；.md 的图片在旁边的文件中。</translation>
     </message>
     <message>
-        <source>--%1 needs convert, info or report</source>
-        <translation>--%1 需要 convert、info 或 report</translation>
+        <source>--%1 needs convert, info, report or check</source>
+        <translation>--%1 需要 convert、info、report 或 check</translation>
     </message>
     <message>
         <source>--%1 does not go with report</source>

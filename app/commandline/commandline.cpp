@@ -86,10 +86,11 @@ bool CommandLine::readCommand(const QCommandLineParser &parser)
 {
     switch (command) {
     case Command::None:
-        return refuseOptions(parser, {CommandOptions::forFrom(), CommandOptions::forTo()},
-                             tr("--%1 needs convert, info or report")) &&
+        return refuseOptions(parser, {CommandOptions::forFrom()},
+                             tr("--%1 needs convert, info, report or check")) &&
                refuseOptions(parser, {CommandOptions::forJson()}, tr("--%1 needs info")) &&
-               refuseOptions(parser, {CommandOptions::forStrict()}, tr("--%1 needs convert")) &&
+               refuseOptions(parser, {CommandOptions::forTo(), CommandOptions::forStrict()},
+                             tr("--%1 needs convert")) &&
                readExport(parser);
     case Command::Convert:
         return readConvert(parser);
@@ -158,9 +159,7 @@ bool CommandLine::readInfo(const QCommandLineParser &parser)
 bool CommandLine::readReport(const QCommandLineParser &parser)
 {
     action = Action::Report;
-    const QString reason = tr("--%1 does not go with report");
-    if (!refuseOthers(parser, reason) ||
-        !refuseOptions(parser, {CommandOptions::forJson()}, reason))
+    if (!refuseOthers(parser, tr("--%1 does not go with report")))
         return false;
     if (documents.size() != 2)
         return refuse(tr("report takes a file to read and a file to write"));
@@ -175,9 +174,7 @@ bool CommandLine::readReport(const QCommandLineParser &parser)
 bool CommandLine::readCheck(const QCommandLineParser &parser)
 {
     action = Action::Check;
-    const QString reason = tr("--%1 does not go with check");
-    if (!refuseOthers(parser, reason) ||
-        !refuseOptions(parser, {CommandOptions::forJson()}, reason))
+    if (!refuseOthers(parser, tr("--%1 does not go with check")))
         return false;
     if (documents.isEmpty())
         return refuse(tr("check takes the files to look at"));
@@ -191,17 +188,19 @@ bool CommandLine::readMerge(const QCommandLineParser &parser)
     action = Action::Merge;
     const QString reason = tr("--%1 does not go with merge");
     if (!refuseOthers(parser, reason) ||
-        !refuseOptions(parser, {CommandOptions::forJson(), CommandOptions::forFrom()}, reason))
+        !refuseOptions(parser, {CommandOptions::forFrom()}, reason))
         return false;
     return documents.size() == 3 ||
            refuse(tr("merge takes the files of the base, of ours and of theirs"));
 }
 
-/** Refuses, for @p reason, what no command but convert takes; true when none of it is set. */
+/** Refuses, for @p reason, what only other commands than this one take; true when none is set. */
 bool CommandLine::refuseOthers(const QCommandLineParser &parser, const QString &reason)
 {
     QList<QCommandLineOption> others = CommandOptions::forPictures();
     others += {CommandOptions::forExport(), CommandOptions::forTo(), CommandOptions::forStrict()};
+    if (command != Command::Info)
+        others += CommandOptions::forJson();
     return refuseOptions(parser, others, reason);
 }
 

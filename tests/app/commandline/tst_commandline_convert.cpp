@@ -253,7 +253,8 @@ void TestCommandLineConvert::shouldRefuseWhatMakesNoSense_data()
     row("no scale", "convert --scale 0 a.md b.png", "--scale|0");
     row("export", "convert --export a.png a.md b.md", "--export|convert");
     row("unknown option", "convert --nonsense a.md b.md", "nonsense");
-    row("from without a command", "--from md a.md", "--from|convert");
+    row("from without a command", "--from md a.md", "--from needs convert, info, report or check");
+    row("to without a command", "--to md a.md", "--to needs convert");
     row("to without a command", "--to md a.md", "--to|convert");
 }
 
