@@ -60,6 +60,8 @@ DocumentTabs::~DocumentTabs()
 
 void DocumentTabs::setEmptyPage(QWidget *page)
 {
+    // It gives way: otherwise no window, with or without documents, would be lower than it.
+    page->setMinimumHeight(1);
     insertWidget(0, page);
     follow();
 }

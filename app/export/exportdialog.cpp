@@ -4,6 +4,7 @@
 #include <app/export/exportdialog.h>
 
 #include <app/common/plainbox.h>
+#include <app/common/rowtaborder.h>
 #include <app/export/clearexport.h>
 #include <app/export/picturelevelfields.h>
 #include <app/export/picturelookfields.h>
@@ -92,6 +93,7 @@ QWidget *ExportDialog::makeFields()
     m_levels = new PictureLevelFields(layout, m_subject.depth, this);
     connect(m_levels, &PictureLevelFields::changed, this, [this] { m_measuring.start(); });
     addColours(layout);
+    RowTabOrder::apply(*layout);
     return fields;
 }
 

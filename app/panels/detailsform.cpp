@@ -4,6 +4,7 @@
 #include <app/panels/detailsform.h>
 
 #include <app/common/language.h>
+#include <app/common/rowtaborder.h>
 #include <app/diagram/marknames.h>
 #include <app/panels/prioritybox.h>
 #include <app/panels/stringlisteditor.h>
@@ -220,6 +221,7 @@ void DetailsForm::addRows(QFormLayout &rows)
     add([] { return tr("Details:"); }, m_detail);
     add([] { return tr("Style:"); }, m_style);
     rows.addRow(m_facts);
+    RowTabOrder::apply(rows);
 }
 
 QVector<QSpinBox *> DetailsForm::allNumbers() const

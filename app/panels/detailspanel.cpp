@@ -78,6 +78,7 @@ void DetailsPanel::buildLayout()
     auto *const scroll = new QScrollArea(this);
     scroll->setWidgetResizable(true);
     scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setFocusPolicy(Qt::NoFocus); // Tab leads from field to field
     scroll->setWidget(m_form);
     auto *const buttons = new QHBoxLayout;
     buttons->addStretch();
