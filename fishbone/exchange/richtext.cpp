@@ -34,6 +34,9 @@ public:
             m_linkBegin = int(m_line.size());
         } else if (name == QLatin1String("img")) {
             addImage(attribute);
+        } else if (name == QLatin1String("mention")) {
+            m_mentioned = attribute(QStringLiteral("id"));
+            m_mentionBegin = int(m_line.size());
         } else if (breaksLine(name)) {
             endLine();
         } else if (name == QLatin1String("td") || name == QLatin1String("th")) {
@@ -48,6 +51,8 @@ public:
                 m_blocks.append(std::exchange(m_exact, QString()));
         } else if (name == QLatin1String("a")) {
             endLink();
+        } else if (name == QLatin1String("mention")) {
+            endMention();
         } else if (breaksLine(name)) {
             endLine();
         }
@@ -100,6 +105,14 @@ private:
         m_link.clear();
     }
 
+    /** Somebody who is mentioned without a name is told by what the program calls him. */
+    void endMention()
+    {
+        if (m_line.mid(m_mentionBegin).trimmed().isEmpty() && !m_mentioned.isEmpty())
+            add(QLatin1Char('@') + m_mentioned);
+        m_mentioned.clear();
+    }
+
     void endLine()
     {
         const QString line = m_line.simplified();
@@ -107,6 +120,7 @@ private:
             m_blocks.append(line);
         m_line.clear();
         m_linkBegin = 0;
+        m_mentionBegin = 0;
     }
 
     int m_preformatted = 0; ///< the depth of preformatted elements
@@ -115,6 +129,8 @@ private:
     QStringList m_blocks; ///< lines, and preformatted texts
     QString m_link;       ///< where the link leads that was entered last
     int m_linkBegin = 0;  ///< where it begins in m_line
+    QString m_mentioned;
+    int m_mentionBegin = 0; ///< as m_linkBegin
     RichText::Content m_content;
 };
 
@@ -261,7 +277,7 @@ bool hasTags(const QString &text)
     static const QRegularExpression tag(
         QStringLiteral(
             "</?(?:html|body|a|b|i|u|s|p|br|strong|em|span|font|code|div|mark|strike|del|"
-            "ul|ol|li|pre|sub|sup|table|tr|td|th|h[1-6]|time)(?:\\s[^<>]*)?/?>|"
+            "ul|ol|li|pre|sub|sup|table|tr|td|th|h[1-6]|time|mention)(?:\\s[^<>]*)?/?>|"
             "<img\\s[^<>]*>"), // one without a file shows nothing
         QRegularExpression::CaseInsensitiveOption);
     return text.contains(QLatin1Char('<')) && text.contains(tag);
