@@ -24,10 +24,24 @@ bool isLarge(const TreeItem *root)
     });
 }
 
+/** Any that is shown, or null. */
+QMainWindow *shownMainWindow()
+{
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (QWidget *window : windows) {
+        auto *const main = window->isVisible() ? qobject_cast<QMainWindow *>(window) : nullptr;
+        if (main)
+            return main;
+    }
+    return nullptr;
+}
+
 /** That of the window that the user works in, or null. */
 QStatusBar *activeStatusBar()
 {
     QWidget *widget = QApplication::activeWindow();
+    if (!widget) // as where a dialog has just closed, until the next event
+        widget = shownMainWindow();
     while (widget && !qobject_cast<QMainWindow *>(widget))
         widget = widget->parentWidget();
     return widget ? static_cast<QMainWindow *>(widget)->statusBar() : nullptr;

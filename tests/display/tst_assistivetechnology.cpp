@@ -216,7 +216,7 @@ void TestAssistiveTechnology::shouldShowTheTreeOfSubjectsOnce()
         names.append(textOf(tree, "name"));
     names.sort();
     QCOMPARE(names, (QStringList{QStringLiteral("Actions"), QStringLiteral("Diagram: Late"),
-                                 QStringLiteral("Subjects")}));
+                                 QStringLiteral("History"), QStringLiteral("Subjects")}));
     const QJsonObject subjects = named(shown, "tree", "Subjects");
     QCOMPARE(childrenOf(subjects).size(), 1);
     QCOMPARE(outline(childrenOf(subjects).constFirst()), QStringLiteral("Late[People,Machines]"));

@@ -6,6 +6,7 @@
 
 #include <app/common/busycursor.h>
 
+#include <QSettings>
 #include <QStatusBar>
 
 namespace {
@@ -37,6 +38,11 @@ private Q_SLOTS:
     void shouldShowNothingForWhatIsQuick();
     void shouldShowThatALargeDiagramIsWorkedOn_data();
     void shouldShowThatALargeDiagramIsWorkedOn();
+    void shouldSayItWhenADialogHasJustClosed();
+
+private:
+    static void openDiagram(AppFixture &app, int causes);
+    bool isBusyDuring(AppFixture &app, const char *name);
 };
 
 void TestBusyCursor::initTestCase()
@@ -108,11 +114,9 @@ void TestBusyCursor::shouldShowThatALargeDiagramIsWorkedOn_data()
     QTest::newRow("large") << 6000 << true;
 }
 
-void TestBusyCursor::shouldShowThatALargeDiagramIsWorkedOn()
+/** Opens a diagram with so many @p causes below one bone. */
+void TestBusyCursor::openDiagram(AppFixture &app, int causes)
 {
-    QFETCH(int, causes);
-    QFETCH(bool, isShown);
-    AppFixture app;
     QByteArray below;
     for (int i = 0; i < causes; ++i)
         below += (i > 0 ? "," : "") + QByteArray(R"({"title": "Cause"})");
@@ -122,18 +126,45 @@ void TestBusyCursor::shouldShowThatALargeDiagramIsWorkedOn()
                               below + "]}]}");
     app.window.open({path});
     AppFixture::settle();
+}
+
+/** Whether the cursor was busy while the status bar said something during the command @p name. */
+bool TestBusyCursor::isBusyDuring(AppFixture &app, const char *name)
+{
+    bool wasBusy = false;
+    const auto watch = connect(app.window.statusBar(), &QStatusBar::messageChanged, this,
+                               [&wasBusy] { wasBusy = wasBusy || isBusy(); });
+    app.trigger(name);
+    disconnect(watch);
+    return wasBusy;
+}
+
+void TestBusyCursor::shouldShowThatALargeDiagramIsWorkedOn()
+{
+    QFETCH(int, causes);
+    QFETCH(bool, isShown);
+    AppFixture app;
+    openDiagram(app, causes);
     for (const char *name : {"expandall", "contractall", "child", "undo", "save"}) {
         if (QLatin1String(name) == QLatin1String("child"))
             app.select("Bone");
-        bool wasBusy = false;
-        const auto watch = connect(app.window.statusBar(), &QStatusBar::messageChanged, this,
-                                   [&wasBusy] { wasBusy = wasBusy || isBusy(); });
-        app.trigger(name);
-        disconnect(watch);
+        const bool wasBusy = isBusyDuring(app, name);
         if (QLatin1String(name) != QLatin1String("child")) // which is one command of many
             QVERIFY2(wasBusy == isShown, name);
         QVERIFY2(!QApplication::overrideCursor(), name);
     }
+}
+
+/** No window is active then until the next event. */
+void TestBusyCursor::shouldSayItWhenADialogHasJustClosed()
+{
+    AppFixture app;
+    openDiagram(app, 6000);
+    const QString patience = QStringLiteral("progressAfterMilliseconds");
+    QSettings().setValue(patience, 0);
+    const bool wasBusy = isBusyDuring(app, "expandall");
+    QSettings().remove(patience);
+    QVERIFY(wasBusy);
 }
 
 FISHBONE_TEST(TestBusyCursor)
