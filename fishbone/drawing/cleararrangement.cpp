@@ -7,6 +7,7 @@
 
 namespace {
 
+constexpr int largeHead = 50; ///< subjects up to which the head is a large part of the picture
 constexpr int fewSubjects = 500;
 constexpr int someSubjects = 5000;
 constexpr qreal worthChanging = 1.01;   ///< what another arrangement has to gain
@@ -25,8 +26,11 @@ struct Trial
 Trial trialFor(int subjects)
 {
     using S = ClearSides;
+    const std::vector<qreal> usualWraps{0, 200, 170, 145, 125, 110, 95};
+    if (subjects <= largeHead) // its title keeps whole phrases together
+        return {usualWraps, {S::One, S::Uneven, S::Both}, {90, 130}};
     if (subjects <= fewSubjects)
-        return {{0, 200, 170, 145, 125, 110, 95}, {S::One, S::Uneven, S::Both}, {70, 90, 130}};
+        return {usualWraps, {S::One, S::Uneven, S::Both}, {70, 90, 130}};
     if (subjects <= someSubjects)
         return {{0, 145, 95}, {S::One, S::Both}, {130}};
     return {{0}, {S::One}, {130}};

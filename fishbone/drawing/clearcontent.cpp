@@ -80,10 +80,18 @@ std::optional<ClearFont> ClearContent::ownFont(const TreeItem &subject)
     return font ? std::optional(ClearFont::onScreen(*font)) : std::nullopt;
 }
 
+/** The status that @p icon tells: what is under way and all done shows that it waits for approval.
+ */
+int ClearSymbols::statusOf(const QString &icon, int status)
+{
+    static const QString approval = TaskStatusInfo(tsWaittingAgree, 0).iconPath();
+    return icon == approval ? int(tsWaittingAgree) : status;
+}
+
 void ClearSymbols::add(const TreeItem &subject, const ClearSubjectLook &look, int level)
 {
     if (level > 0 && !look.icon.isEmpty())
-        m_statuses.emplace(subject.status(), look.icon);
+        m_statuses.emplace(statusOf(look.icon, subject.status()), look.icon);
     if (look.verdict != Verdict::None)
         m_verdicts.insert(int(look.verdict));
     m_hasVotes = m_hasVotes || look.votes > 0;

@@ -24,6 +24,8 @@ public:
     std::vector<ClearMeaning> all() const;
 
 private:
+    static int statusOf(const QString &icon, int status);
+
     std::map<int, QString> m_statuses; ///< with the first icon of each
     std::set<int> m_verdicts;
     bool m_hasVotes = false;
