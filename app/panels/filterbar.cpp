@@ -4,6 +4,7 @@
 #include <app/panels/filterbar.h>
 
 #include <app/common/language.h>
+#include <app/common/themedicon.h>
 #include <app/diagram/diagramsession.h>
 #include <app/diagram/drawingfilter.h>
 #include <app/diagram/marknames.h>
@@ -80,7 +81,7 @@ void FilterBar::buildLayout()
 {
     m_text->setClearButtonEnabled(true);
     m_votes->setMaximum(9999);
-    m_close->setText(QStringLiteral("×")); // in the colour of texts, as no icon of the style is
+    showCross();
     m_close->setAutoRaise(true);
     constexpr int letters = 8; // of the chosen entry; the list shows them whole
     for (QComboBox *box : {m_status, m_verdict, m_person}) {
@@ -216,6 +217,19 @@ void FilterBar::leave()
     clear();
     hide();
     Q_EMIT closed();
+}
+
+/** In the colour of texts, as no icon of the style is. */
+void FilterBar::showCross()
+{
+    m_close->setIcon(ThemedIcon::icon(QStringLiteral("closepanel"), palette()));
+}
+
+void FilterBar::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::PaletteChange)
+        showCross();
+    QFrame::changeEvent(event);
 }
 
 void FilterBar::keyPressEvent(QKeyEvent *event)

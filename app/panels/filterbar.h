@@ -36,6 +36,7 @@ Q_SIGNALS:
     void closed();
 
 protected:
+    void changeEvent(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
@@ -43,6 +44,7 @@ private:
     void buildLayout();
     void connectFields();
     void showTexts();
+    void showCross();
     void listPeople();
     void showCount();
     SubjectFilter entered() const;

@@ -87,6 +87,7 @@ void TestGuideKeyboard::leadsFromNothingToAPictureByKeyboardAlone()
     window.editor()->view()->setFocus();
     {
         const ModalDriver<SpearStyleDialog> driver([](SpearStyleDialog &dialog) {
+            QVERIFY(QTest::qWaitForWindowExposed(&dialog));
             auto *const count = dialog.findChild<QLineEdit *>();
             count->setFocus();
             count->selectAll();
