@@ -40,17 +40,23 @@ inline QProcessEnvironment bareEnvironment(const QString &home)
     return environment;
 }
 
-inline Outcome run(const QStringList &arguments, const QProcessEnvironment &environment)
+/** Waits for the end of what was started, and takes what it has written. */
+inline Outcome outcomeOf(QProcess &process)
 {
-    QProcess process;
-    process.setProcessEnvironment(environment);
-    process.start(program(), arguments);
     Outcome outcome;
     if (process.waitForFinished(timeLimit) && process.exitStatus() == QProcess::NormalExit)
         outcome.code = process.exitCode();
     outcome.out = QString::fromUtf8(process.readAllStandardOutput());
     outcome.err = QString::fromUtf8(process.readAllStandardError());
     return outcome;
+}
+
+inline Outcome run(const QStringList &arguments, const QProcessEnvironment &environment)
+{
+    QProcess process;
+    process.setProcessEnvironment(environment);
+    process.start(program(), arguments);
+    return outcomeOf(process);
 }
 
 inline QByteArray diagram()

@@ -79,6 +79,18 @@ QVector<QRectF> placesIn(const EditorFixture &fish)
     return places;
 }
 
+/** All that @p changed has told to be painted anew. */
+QRectF repaintedIn(const QSignalSpy &changed)
+{
+    QRectF repainted;
+    for (const QVariantList &arguments : changed) {
+        const auto rects = arguments.at(0).value<QList<QRectF>>();
+        for (const QRectF &rect : rects)
+            repainted |= rect;
+    }
+    return repainted;
+}
+
 } // namespace
 
 /** What the classic look shows of marks. */
@@ -186,12 +198,7 @@ void TestClassicMarks::shouldRepaintWhatIsMarked()
     QVERIFY(fish.editor.run(
         std::make_unique<EditAttributes>(&fish.model, fish.index(title), before, after)));
     QTRY_VERIFY(!changed.isEmpty());
-    QRectF repainted;
-    for (const QVariantList &arguments : qAsConst(changed)) {
-        const auto rects = arguments.at(0).value<QList<QRectF>>();
-        for (const QRectF &rect : rects)
-            repainted |= rect;
-    }
+    const QRectF repainted = repaintedIn(changed);
     QVERIFY(repainted.contains(text.center()));
 }
 
@@ -269,12 +276,7 @@ void TestClassicMarks::shouldRepaintTheVotes()
     QVERIFY(fish.editor.run(
         std::make_unique<EditAttributes>(&fish.model, fish.index(title), plain, voted)));
     QTRY_VERIFY(!changed.isEmpty());
-    QRectF repainted;
-    for (const QVariantList &arguments : qAsConst(changed)) {
-        const auto rects = arguments.at(0).value<QList<QRectF>>();
-        for (const QRectF &rect : rects)
-            repainted |= rect;
-    }
+    const QRectF repainted = repaintedIn(changed);
     QVERIFY(repainted.contains(fish.spear(title)->mapToScene(fish.spear(title)->line().p1())));
     QVERIFY(seen() != before);
 }

@@ -50,12 +50,7 @@ Outcome TestCommandLineMerge::git(const QString &arguments) const
     process.setProcessEnvironment(environment);
     process.setWorkingDirectory(path(QString()));
     process.start(QStringLiteral("git"), arguments.split(QLatin1Char(' ')));
-    Outcome outcome;
-    if (process.waitForFinished(timeLimit) && process.exitStatus() == QProcess::NormalExit)
-        outcome.code = process.exitCode();
-    outcome.out = QString::fromUtf8(process.readAllStandardOutput());
-    outcome.err = QString::fromUtf8(process.readAllStandardError());
-    return outcome;
+    return outcomeOf(process);
 }
 
 /** Makes a repository with a diagram and the driver, as the man page says. */

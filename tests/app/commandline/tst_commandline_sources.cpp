@@ -36,12 +36,7 @@ Outcome TestCommandLineSources::pipe(const QStringList &arguments, const QByteAr
     process.start(program(), arguments);
     process.write(input);
     process.closeWriteChannel();
-    Outcome outcome;
-    if (process.waitForFinished(timeLimit) && process.exitStatus() == QProcess::NormalExit)
-        outcome.code = process.exitCode();
-    outcome.out = QString::fromUtf8(process.readAllStandardOutput());
-    outcome.err = QString::fromUtf8(process.readAllStandardError());
-    return outcome;
+    return outcomeOf(process);
 }
 
 void TestCommandLineSources::shouldReadAndWritePipes()
