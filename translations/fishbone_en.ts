@@ -4,34 +4,6 @@
 <context>
     <name>AccessibleBone</name>
     <message>
-        <source>cancelled</source>
-        <translation>cancelled</translation>
-    </message>
-    <message>
-        <source>finished</source>
-        <translation>finished</translation>
-    </message>
-    <message>
-        <source>finished late</source>
-        <translation>finished late</translation>
-    </message>
-    <message>
-        <source>postponed</source>
-        <translation>postponed</translation>
-    </message>
-    <message>
-        <source>under way</source>
-        <translation>under way</translation>
-    </message>
-    <message>
-        <source>waiting</source>
-        <translation>waiting</translation>
-    </message>
-    <message>
-        <source>waiting for approval</source>
-        <translation>waiting for approval</translation>
-    </message>
-    <message>
         <source>level %1</source>
         <translation>level %1</translation>
     </message>

@@ -4,34 +4,6 @@
 <context>
     <name>AccessibleBone</name>
     <message>
-        <source>cancelled</source>
-        <translation>已取消</translation>
-    </message>
-    <message>
-        <source>finished</source>
-        <translation>已完成</translation>
-    </message>
-    <message>
-        <source>finished late</source>
-        <translation>逾期完成</translation>
-    </message>
-    <message>
-        <source>postponed</source>
-        <translation>已推迟</translation>
-    </message>
-    <message>
-        <source>under way</source>
-        <translation>进行中</translation>
-    </message>
-    <message>
-        <source>waiting</source>
-        <translation>等待中</translation>
-    </message>
-    <message>
-        <source>waiting for approval</source>
-        <translation>等待审批</translation>
-    </message>
-    <message>
         <source>level %1</source>
         <translation>第 %1 级</translation>
     </message>

@@ -17,32 +17,6 @@
 #include <QStringList>
 #include <QWindow>
 
-namespace {
-
-QString statusText(int status)
-{
-    switch (status) {
-    case tsCancel:
-        return AccessibleBone::tr("cancelled");
-    case tsFinish:
-        return AccessibleBone::tr("finished");
-    case tsFinishDelay:
-        return AccessibleBone::tr("finished late");
-    case tsPostpone:
-        return AccessibleBone::tr("postponed");
-    case tsRunning:
-        return AccessibleBone::tr("under way");
-    case tsWaitting:
-        return AccessibleBone::tr("waiting");
-    case tsWaittingAgree:
-        return AccessibleBone::tr("waiting for approval");
-    default:
-        return QString();
-    }
-}
-
-} // namespace
-
 AccessibleBone::AccessibleBone(GraphicsView *view, SpearItem *spear)
     : m_view(view)
     , m_spear(spear)
@@ -160,7 +134,7 @@ QString AccessibleBone::description() const
     const TreeItem *const subject = spear->treeItem();
     if (!subject)
         return parts.constFirst();
-    const QString status = statusText(subject->status());
+    const QString status = ClearContent::meaningOf(subject->status());
     if (!status.isEmpty())
         parts.append(status);
     if (!status.isEmpty() || subject->progress() != 0)
