@@ -291,10 +291,6 @@
         <translation>Show the version and quit.</translation>
     </message>
     <message>
-        <source>Show texts in &lt;language&gt;, zh or en, instead of the system&apos;s.</source>
-        <translation>Show texts in &lt;language&gt;, zh or en, instead of the system&apos;s.</translation>
-    </message>
-    <message>
         <source>How far to expand the bones of the picture: all (the default), none, or a number of levels below the main bones.</source>
         <translation>How far to expand the bones of the picture: all (the default), none, or a number of levels below the main bones.</translation>
     </message>
@@ -317,10 +313,6 @@
     <message>
         <source>--%1 takes %2, not &quot;%3&quot;</source>
         <translation>--%1 takes %2, not &quot;%3&quot;</translation>
-    </message>
-    <message>
-        <source>zh or en</source>
-        <translation>zh or en</translation>
     </message>
     <message>
         <source>--%1 needs --export</source>
@@ -573,6 +565,10 @@ What both changed differently is kept as in ours, with a cause that says so belo
     <message>
         <source>--%1 does not go with a document from the network</source>
         <translation>--%1 does not go with a document from the network</translation>
+    </message>
+    <message>
+        <source>Show texts in &lt;language&gt;, such as de or zh, instead of the system&apos;s.</source>
+        <translation>Show texts in &lt;language&gt;, such as de or zh, instead of the system&apos;s.</translation>
     </message>
 </context>
 <context>

@@ -288,10 +288,6 @@
         <translation>显示版本并退出。</translation>
     </message>
     <message>
-        <source>Show texts in &lt;language&gt;, zh or en, instead of the system&apos;s.</source>
-        <translation>以 &lt;language&gt;（zh 或 en）显示文字，而不用系统语言。</translation>
-    </message>
-    <message>
         <source>How far to expand the bones of the picture: all (the default), none, or a number of levels below the main bones.</source>
         <translation>图片中鱼骨展开到何处：all（全部，默认）、none（不展开），或大骨以下的层数。</translation>
     </message>
@@ -314,10 +310,6 @@
     <message>
         <source>--%1 takes %2, not &quot;%3&quot;</source>
         <translation>--%1 的值应为 %2，而不是“%3”</translation>
-    </message>
-    <message>
-        <source>zh or en</source>
-        <translation>zh 或 en</translation>
     </message>
     <message>
         <source>--%1 needs --export</source>
@@ -570,6 +562,10 @@ What both changed differently is kept as in ours, with a cause that says so belo
     <message>
         <source>--%1 does not go with a document from the network</source>
         <translation>--%1 不能用于来自网络的文档</translation>
+    </message>
+    <message>
+        <source>Show texts in &lt;language&gt;, such as de or zh, instead of the system&apos;s.</source>
+        <translation>用 &lt;language&gt; 显示文本（例如 de 或 zh），而不用系统的语言。</translation>
     </message>
 </context>
 <context>

@@ -6,6 +6,7 @@
 #include <app/commandline/commandoptions.h>
 #include <app/commandline/optionvalues.h>
 #include <app/common/formatnames.h>
+#include <app/common/language.h>
 #include <app/files/documentloader.h>
 
 #include <fishbone/exchange/diagrampicture.h>
@@ -73,9 +74,9 @@ CommandLine CommandLine::parse(const QStringList &arguments)
         line.text = versionText();
     } else if (!wellFormed) {
         line.refuse(parser.errorText());
-    } else if (!line.language.isEmpty() && line.language != QLatin1String("zh") &&
-               line.language != QLatin1String("en")) {
-        line.refuse(expected(QStringLiteral("language"), line.language, tr("zh or en")));
+    } else if (!line.language.isEmpty() && !Language::all().contains(line.language)) {
+        line.refuse(expected(QStringLiteral("language"), line.language,
+                             Language::all().join(QLatin1String(", "))));
     } else {
         line.readCommand(parser);
     }

@@ -65,7 +65,7 @@ public:
     Action action = Action::ShowWindow;
     Command command = Command::None;
     QString text;          ///< for Refuse: what is wrong; for Print: empty for the help text
-    QString language;      ///< "zh", "en" or, to go by the locale, empty
+    QString language;      ///< one that there is or, to go by the locale, empty
     QStringList documents; ///< files and URLs
     QString target;        ///< the file to write
     std::optional<DiagramExchange::Format> from; ///< of the document

@@ -27,7 +27,7 @@ QCommandLineOption versionOption()
 QCommandLineOption languageOption()
 {
     return {QStringLiteral("language"),
-            CommandLine::tr("Show texts in <language>, zh or en, instead of the system's."),
+            CommandLine::tr("Show texts in <language>, such as de or zh, instead of the system's."),
             QStringLiteral("language")};
 }
 

@@ -4,6 +4,8 @@
 #include <app/common/language.h>
 
 #include <QApplication>
+#include <QFile>
+#include <QGuiApplication>
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QSettings>
@@ -20,10 +22,41 @@ QString keyName()
     return QStringLiteral("language");
 }
 
-void installFrom(const QLocale &locale, const QString &name, const QString &folder)
+struct Entry
+{
+    const char *code;
+    const char *name;
+};
+
+constexpr Entry entries[] = {
+    {"en", "English"},     {"ar", "العربية"},
+    {"de", "Deutsch"},     {"es", "Español"},
+    {"fr", "Français"},    {"it", "Italiano"},
+    {"ja", "日本語"},      {"ko", "한국어"},
+    {"pl", "Polski"},      {"pt_BR", "Português (Brasil)"},
+    {"ru", "Русский"},     {"zh", "简体中文"},
+    {"zh_TW", "繁體中文"},
+};
+
+/** The locale that a language is written for. */
+QLocale localeOf(const QString &language)
+{
+    return language == QLatin1String("zh") ? QLocale(QLocale::Chinese, QLocale::China)
+                                           : QLocale(language);
+}
+
+/** Whether who reads the language of @p left reads that of @p right: a script apart, Chinese is
+ * two, and Portuguese is one anywhere. */
+bool areRead(const QLocale &left, const QLocale &right)
+{
+    return left.language() == right.language() && left.script() == right.script();
+}
+
+/** Without "_BR" and the like at its end there may be a file @p name, too. */
+void installFrom(const QString &folder, const QString &name)
 {
     auto translator = std::make_unique<QTranslator>();
-    if (!translator->load(locale, name, QStringLiteral("_"), folder))
+    if (!translator->load(name, folder))
         return;
     translator->setObjectName(keyName());
     translator->setParent(QCoreApplication::instance());
@@ -65,28 +98,49 @@ void Language::install(const QString &language)
     self.m_installed = language;
     const QList<QTranslator *> old =
         QCoreApplication::instance()->findChildren<QTranslator *>(keyName());
-    const QLocale locale = self.locale();
-    QLocale::setDefault(locale);
-    installFrom(locale, QStringLiteral("qtbase"), toolkitTranslations());
-    installFrom(locale, QStringLiteral("fishbone"), QStringLiteral(":/i18n"));
+    QLocale::setDefault(self.locale());
+    const QString shown = self.nearest();
+    const QLocale locale = localeOf(shown);
+    installFrom(toolkitTranslations(), QStringLiteral("qtbase_") + locale.name());
+    installFrom(QStringLiteral(":/i18n"), QStringLiteral("fishbone_") + shown);
     qDeleteAll(old);
+    QGuiApplication::setLayoutDirection(locale.textDirection());
     showFormats();
     Q_EMIT self.changed();
 }
 
+/** The language that is asked for, else the first of those that the user reads. */
+QString Language::nearest() const
+{
+    if (!m_installed.isEmpty())
+        return m_installed;
+    const QStringList languages = all();
+    const QStringList read = m_system.uiLanguages();
+    for (const QString &each : read) {
+        const QLocale reader(each);
+        for (const QString &language : languages) {
+            if (areRead(localeOf(language), reader))
+                return language;
+        }
+    }
+    return QLatin1String(entries[0].code);
+}
+
 QLocale Language::locale() const
 {
-    const QLocale wanted = m_installed == QLatin1String("zh")
-                               ? QLocale(QLocale::Chinese, QLocale::China)
-                               : QLocale(m_installed);
     // Whoever speaks the language anyway writes numbers and dates as at home.
-    const bool isSystems = m_installed.isEmpty() || wanted.language() == m_system.language();
-    return isSystems ? m_system : wanted;
+    const bool isSystems = m_installed.isEmpty() || areRead(localeOf(m_installed), m_system);
+    return isSystems ? m_system : localeOf(m_installed);
 }
 
 QString Language::installed()
 {
     return instance().m_installed;
+}
+
+QString Language::shown()
+{
+    return instance().nearest();
 }
 
 void Language::choose(const QString &language)
@@ -103,7 +157,22 @@ QString Language::chosen()
 
 QStringList Language::all()
 {
-    return {QStringLiteral("zh"), QStringLiteral("en")};
+    QStringList codes;
+    for (const Entry &entry : entries) {
+        const QString code = QLatin1String(entry.code);
+        if (QFile::exists(QStringLiteral(":/i18n/fishbone_%1.qm").arg(code)))
+            codes.append(code);
+    }
+    return codes;
+}
+
+QString Language::nameOf(const QString &language)
+{
+    for (const Entry &entry : entries) {
+        if (language == QLatin1String(entry.code))
+            return QString::fromUtf8(entry.name);
+    }
+    return {};
 }
 
 void Language::bind(const QObject *keeper, const std::function<void()> &show)

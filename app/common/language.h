@@ -23,17 +23,22 @@ public:
     /** A text in the language of the moment. */
     using Text = std::function<QString()>;
 
-    /** The languages that there are: "zh" and "en". */
+    /** The languages that there are, as translations/ names them: "en", "zh", "pt_BR". English is
+     * the first; whoever reads none of them gets it. */
     static QStringList all();
+    /** What those who speak @p language call it. */
+    static QString nameOf(const QString &language);
 
     /**
      * Shows everything in @p language, one of all(), or in that of the system when it is empty: the
-     * texts of the program, the library and, as far as they are installed, the toolkit, and numbers
-     * and dates. The application object must exist.
+     * texts of the program, the library and, as far as they are installed, the toolkit, numbers and
+     * dates, and the direction in which it reads. The application object must exist.
      */
     static void install(const QString &language);
     /** What was installed last; empty for that of the system. */
     static QString installed();
+    /** The one of all() that is shown, whatever was asked for. */
+    static QString shown();
 
     /** Installs @p language, and keeps it for the next runs. */
     static void choose(const QString &language);
@@ -57,6 +62,7 @@ Q_SIGNALS:
 
 private:
     static Language &instance();
+    QString nearest() const;
     QLocale locale() const;
 
     QString m_installed;

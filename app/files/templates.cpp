@@ -3,6 +3,7 @@
 
 #include <app/files/templates.h>
 
+#include <app/common/language.h>
 #include <app/files/safename.h>
 
 #include <fishbone/exchange/diagramexchange.h>
@@ -10,7 +11,6 @@
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QLocale>
 #include <QStandardPaths>
 
 namespace {
@@ -38,9 +38,8 @@ namespace Templates {
 
 QList<Template> all()
 {
-    const bool isChinese = QLocale().language() == QLocale::Chinese;
-    const QString place = QStringLiteral(":/app/templates/%1/%2.txt")
-                              .arg(isChinese ? QStringLiteral("zh") : QStringLiteral("en"));
+    const QString place =
+        QStringLiteral(":/app/templates/%1/%2.txt").arg(Language::shown(), QStringLiteral("%1"));
     QList<Template> templates;
     for (const BuiltIn &each : builtIns)
         templates.append({QCoreApplication::translate("Templates", each.name),

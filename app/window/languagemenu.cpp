@@ -13,17 +13,18 @@ LanguageMenu::LanguageMenu(QWidget *parent)
 {
     setObjectName(QStringLiteral("languageMenu"));
     Language::bind(this, &QMenu::setTitle, [] { return tr("Lang&uage"); });
-    add(QString(), "languageSystem", [] { return tr("&System language"); });
+    add(QString(), [] { return tr("&System language"); });
     addSeparator();
     // Each in itself, for those who do not read the one that is shown.
-    add(QStringLiteral("en"), "languageEnglish", [] { return QStringLiteral("&English"); });
-    add(QStringLiteral("zh"), "languageChinese", [] { return QStringLiteral("中文(&Z)"); });
+    const QStringList languages = Language::all();
+    for (const QString &language : languages)
+        add(language, [language] { return Language::nameOf(language); });
 }
 
-void LanguageMenu::add(const QString &language, const char *name, const Language::Text &text)
+void LanguageMenu::add(const QString &language, const Language::Text &text)
 {
     QAction *const action = addAction(QString());
-    action->setObjectName(QLatin1String(name));
+    action->setObjectName(QStringLiteral("language-") + language);
     action->setCheckable(true);
     m_languages->addAction(action);
     connect(action, &QAction::triggered, this, [language] { Language::choose(language); });

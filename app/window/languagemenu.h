@@ -18,7 +18,7 @@ public:
     explicit LanguageMenu(QWidget *parent = nullptr);
 
 private:
-    void add(const QString &language, const char *name, const Language::Text &text);
+    void add(const QString &language, const Language::Text &text);
 
     QActionGroup *m_languages;
 };

@@ -5,6 +5,8 @@
 #include <tests/program/testprogram.h>
 #include <tests/support/sourcefolder.h>
 
+#include <app/common/language.h>
+
 #include <fishbone/exchange/diagramexchange.h>
 
 using namespace ProgramRunner;
@@ -19,6 +21,7 @@ private Q_SLOTS:
     void shouldCompleteTheOptionsOfEachCommand_data();
     void shouldCompleteTheOptionsOfEachCommand();
     void shouldCompleteFormats();
+    void shouldCompleteLanguages();
     void shouldLeaveFilesToTheShell();
 };
 
@@ -98,6 +101,13 @@ void TestCompletion::shouldCompleteFormats()
     written.sort();
     QCOMPARE(completions(QStringLiteral("fishbone convert --from ")), read);
     QCOMPARE(completions(QStringLiteral("fishbone convert --to ")), written);
+}
+
+void TestCompletion::shouldCompleteLanguages()
+{
+    QStringList languages = Language::all();
+    languages.sort();
+    QCOMPARE(completions(QStringLiteral("fishbone --language ")), languages);
 }
 
 void TestCompletion::shouldLeaveFilesToTheShell()

@@ -144,8 +144,11 @@ void TestLanguage::shouldFollowTheLocale_data()
     QTest::newRow("Singapore") << QLocale(QLocale::Chinese, QLocale::Singapore) << chinese;
     QTest::newRow("Great Britain") << QLocale(QLocale::English, QLocale::UnitedKingdom) << english;
     QTest::newRow("United States") << QLocale(QLocale::English, QLocale::UnitedStates) << english;
+    const QString traditional = QStringLiteral("獨立項目");
+    QTest::newRow("Taiwan") << QLocale(QLocale::Chinese, QLocale::Taiwan) << traditional;
+    QTest::newRow("Hong Kong") << QLocale(QLocale::Chinese, QLocale::HongKong) << traditional;
     // Everybody else rather reads one language than the two of the sources.
-    QTest::newRow("Germany") << QLocale(QLocale::German, QLocale::Germany) << english;
+    QTest::newRow("Finland") << QLocale(QLocale::Finnish, QLocale::Finland) << english;
     QTest::newRow("none") << QLocale::c() << english;
 }
 
@@ -425,7 +428,9 @@ void TestLanguage::shouldBeTheLanguageOfTheProgram_data()
     QTest::newRow("Chinese") << asking("zh", help) << QStringLiteral("C.UTF-8") << chinese;
     QTest::newRow("English") << asking("en", help) << QStringLiteral("zh_CN.UTF-8") << english;
     QTest::newRow("Chinese locale") << help << QStringLiteral("zh_CN.UTF-8") << chinese;
-    QTest::newRow("other locale") << help << QStringLiteral("de_DE.UTF-8") << english;
+    QTest::newRow("German locale") << help << QStringLiteral("de_AT.UTF-8")
+                                   << QStringLiteral("Bearbeitet Fischgrätendiagramme");
+    QTest::newRow("other locale") << help << QStringLiteral("fi_FI.UTF-8") << english;
     QTest::newRow("no locale") << help << QStringLiteral("C.UTF-8") << english;
     const QStringList missing{QStringLiteral("--export"), QStringLiteral("a.png"),
                               QStringLiteral("missing.json")};
