@@ -8,6 +8,7 @@
 #                Qt 6, find_package(FishboneQt6) finds, and the file for pkg-config
 #   program      the desktop program
 #   designer     the plugin for Qt Designer
+#   python       the Python module
 #
 # Nothing installed knows where that is, so that the tree may be moved as a whole.
 

@@ -8,7 +8,7 @@
 # The C++ files of the project; with an argument only those with that ending.
 sources() {
     local folder folders=()
-    for folder in app benchmarks cmake designer examples fishbone fuzz tests; do
+    for folder in app benchmarks cmake designer examples fishbone fuzz python tests; do
         [[ ! -d $folder ]] || folders+=("$folder")
     done
     find "${folders[@]}" -type f \( -name "*.${1:-h}" -o -name "*.${1:-cpp}" \) | sort
@@ -53,6 +53,7 @@ check_licence_lines() {
         sources
         find . -path ./build -prune -o \( -name CMakeLists.txt -o -name '*.cmake' \) -print
         find scripts .ci -type f ! -name '*.txt'
+        find python -name '*.py' -o -name '*.pyi'
     } | while read -r file; do
         if [[ $(head -n 3 "$file") != *SPDX-FileCopyrightText:\ *' The Fishbone authors'*SPDX-License-Identifier:\ MIT* ]]; then
             echo "$file: no licence lines on top"
@@ -209,7 +210,7 @@ check_tests_registered() {
 # One form of comments that Doxygen reads: /** … */ with @commands, and ///< behind a member.
 check_comment_form() {
     search -rnE --include='*.h' --include='*.cpp' '^[[:space:]]*///([^<]|$)|(/\*\*|///<|^ +\*).*\\(a|b|c|e|p|brief|name|param|return) ' \
-        fishbone app tests benchmarks designer examples fuzz | none
+        fishbone app tests benchmarks designer examples fuzz python | none
 }
 
 # Marks of unfinished work, of a merge and of one developer's machine, and tests that cannot fail. In outlines

@@ -251,3 +251,19 @@ check_schema() {
     scripts/validate-documents samples/*.json resources/*.json resources/*.spearstyle \
         tests/style/toolkits/*.json tests/style/toolkits/*.spearstyle
 }
+
+# The Python module as it is installed, under the debug allocator of the interpreter, and its types. It is built with the
+# library of the optimized build, which is there.
+check_python() {
+    local folder=$PWD/build/package/python package component
+    cmake --preset python >/dev/null
+    cmake --build --preset python
+    rm -rf "$folder"
+    for component in runtime python; do
+        cmake --install build/release --component "$component" --prefix "$folder" >/dev/null
+    done
+    package=$(find "$folder" -type d -name fishbone -path '*/site-packages/*')
+    PYTHONPATH=$(dirname "$package") PYTHONMALLOC=debug PYTHONDONTWRITEBYTECODE=1 QT_QPA_PLATFORM=offscreen \
+        /usr/bin/python3 -X faulthandler -m pytest -q -p no:cacheprovider python/tests
+    (cd python && /usr/bin/python3 -m mypy --config-file=mypy.ini --cache-dir="$folder/mypy" fishbone examples)
+}

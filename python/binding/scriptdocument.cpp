@@ -10,14 +10,8 @@
 #include <fishbone/model/treeitem.h>
 
 #include <QBuffer>
-#include <QCoreApplication>
 
 namespace {
-
-QString translated(const char *text)
-{
-    return QCoreApplication::translate("ScriptDocument", text);
-}
 
 QStringList notesOf(const ExchangeReport &report)
 {
@@ -75,7 +69,7 @@ ScriptDocument ScriptDocument::take(FishModel *model, std::unique_ptr<TreeItem> 
         return failed(error);
     TreeItem *const item = head.get();
     if (!model || !model->insertExistItemRows(QModelIndex(), {item}))
-        return failed(translated("the model is changing and takes no document now"));
+        return failed(QStringLiteral("the model is changing and takes no document now"));
     head.release(); // the model has taken it over
     ScriptDocument document(model, model->fishOf(item));
     document.m_notes = notesOf(report);
@@ -95,7 +89,7 @@ ScriptDocument ScriptDocument::open(FishModel *model, const QString &fileName,
 {
     const auto known = DiagramExchange::formatById(format);
     if (!known)
-        return failed(translated("the format is not known"));
+        return failed(QStringLiteral("the format is not known"));
     if (*known != DiagramExchange::Format::Json) {
         QString error;
         ExchangeReport report;
@@ -111,7 +105,7 @@ ScriptDocument ScriptDocument::open(FishModel *model, const QString &fileName,
         if (!before.contains(document))
             return ScriptDocument(guard, document);
     }
-    return failed(translated("the document was closed while it was opened"));
+    return failed(QStringLiteral("the document was closed while it was opened"));
 }
 
 ScriptDocument ScriptDocument::read(FishModel *model, const QByteArray &contents,
@@ -119,7 +113,7 @@ ScriptDocument ScriptDocument::read(FishModel *model, const QByteArray &contents
 {
     const auto known = DiagramExchange::formatById(format);
     if (!known)
-        return failed(translated("the format is not known"));
+        return failed(QStringLiteral("the format is not known"));
     QBuffer buffer;
     buffer.setData(contents);
     buffer.open(QIODevice::ReadOnly);
@@ -178,7 +172,7 @@ bool ScriptDocument::isSame(const ScriptDocument &other) const
 const TreeItem *ScriptDocument::headItem()
 {
     const TreeItem *const item = head().item();
-    m_reason = item ? QString() : translated("there is no diagram");
+    m_reason = item ? QString() : QStringLiteral("there is no diagram");
     return item;
 }
 
@@ -200,7 +194,7 @@ bool ScriptDocument::exportTo(const QString &fileName, const QString &format)
     const auto known = DiagramExchange::formatById(format);
     if (!item || !known) {
         if (item)
-            m_reason = translated("the format is not known");
+            m_reason = QStringLiteral("the format is not known");
         return false;
     }
     m_notes = notesOf(DiagramExchange::lossesOf(*item, *known));
@@ -213,7 +207,7 @@ QByteArray ScriptDocument::contents(const QString &format)
     const auto known = DiagramExchange::formatById(format);
     if (!item || !known) {
         if (item)
-            m_reason = translated("the format is not known");
+            m_reason = QStringLiteral("the format is not known");
         return QByteArray();
     }
     m_notes = notesOf(DiagramExchange::lossesOf(*item, *known));

@@ -19,7 +19,8 @@ class TreeItem;
  * A document as a script holds it: a handle that may outlive the document and its model.
  *
  * Formats go by the names of DiagramExchange::id(). What fails leaves a reason: a clause without a
- * full stop, in the language of the user.
+ * full stop, in the language of the translators that the application has installed; of this class
+ * itself, which serves scripts, in English.
  */
 class ScriptDocument
 {

@@ -3,6 +3,7 @@
 
 #include <python/binding/scriptpicture.h>
 
+#include <python/binding/scriptjson.h>
 #include <python/binding/scriptsubject.h>
 
 #include <fishbone/drawing/lookinfo.h>
@@ -13,7 +14,6 @@
 #include <fishbone/model/fishmodel.h>
 #include <fishbone/style/spearstyle.h>
 
-#include <QCoreApplication>
 #include <QJsonDocument>
 #include <QJsonObject>
 
@@ -21,16 +21,6 @@ namespace {
 
 constexpr double dotsOfPaper = 192; // for each inch of a picture of pixels
 constexpr double millimetresPerInch = 25.4;
-
-QString translated(const char *text)
-{
-    return QCoreApplication::translate("ScriptPicture", text);
-}
-
-QJsonObject objectOf(const QString &json)
-{
-    return QJsonDocument::fromJson(json.toUtf8()).object();
-}
 
 const LookInfo *lookOf(const QJsonObject &options)
 {
@@ -80,7 +70,8 @@ PictureExport::Result writeClear(const TreeItem *head, const QString &fileName,
     return picture.write(fileName, how);
 }
 
-// An editor takes the diagram that it shows away from any other that shows it: this one gets a copy.
+// An editor takes the diagram that it shows away from any other that shows it: this one gets a
+// copy.
 PictureExport::Result writeClassic(TreeItem *head, const QString &fileName,
                                    const QJsonObject &options)
 {
@@ -90,7 +81,7 @@ PictureExport::Result writeClassic(TreeItem *head, const QString &fileName,
     model.setModelType(FISH_MODEL_DIAGRAM);
     FishInfo *const document = model.loadJsonFish(QJsonDocument(copy).toJson());
     if (!document)
-        return {PictureExport::Error::TooLarge, translated("the diagram has too many levels")};
+        return {PictureExport::Error::TooLarge, QStringLiteral("the diagram has too many levels")};
     FishEditor editor;
     editor.setAutosaveInterval(0);
     editor.setModel(&model);
@@ -106,12 +97,12 @@ QString ScriptPicture::write(const ScriptSubject &subject, const QString &fileNa
                              const QString &options)
 {
     TreeItem *const head = subject.item();
-    const QJsonObject how = objectOf(options);
+    const QJsonObject how = ScriptJson::objectOf(options);
     const LookInfo *const look = lookOf(how);
     if (!head)
-        return translated("there is no diagram");
+        return QStringLiteral("there is no diagram");
     if (!look)
-        return translated("there is no such look");
+        return QStringLiteral("there is no such look");
     const PictureExport::Result result = look->kind() == DiagramLook::Classic
                                              ? writeClassic(head, fileName, how)
                                              : writeClear(head, fileName, how);
@@ -120,7 +111,7 @@ QString ScriptPicture::write(const ScriptSubject &subject, const QString &fileNa
 
 bool ScriptPicture::setLook(FishEditor *editor, const QString &options)
 {
-    const QJsonObject how = objectOf(options);
+    const QJsonObject how = ScriptJson::objectOf(options);
     const LookInfo *const look = lookOf(how);
     if (!editor || !look)
         return false;
@@ -131,6 +122,6 @@ bool ScriptPicture::setLook(FishEditor *editor, const QString &options)
 
 void ScriptPicture::setGlobalStyle(const QString &json)
 {
-    SpearStyle::global()->read(objectOf(json));
+    SpearStyle::global()->read(ScriptJson::objectOf(json));
     SpearStyle::m_isGlobalInited = true; // the folder of the interpreter has none
 }

@@ -23,7 +23,7 @@ public:
     /** Has @p editor draw in the look and with the options of such an object. False, with nothing
      * changed, when there is no such look. */
     static bool setLook(FishEditor *editor, const QString &options);
-    /** Has the classic look draw with the style in @p json, the contents of a file of a global style.
-     * Needs a QGuiApplication. */
+    /** Has the classic look draw with the style in @p json, the contents of a file of a global
+     * style. Needs a QGuiApplication. */
     static void setGlobalStyle(const QString &json);
 };

@@ -3,6 +3,8 @@
 
 #include <python/binding/scriptsubject.h>
 
+#include <python/binding/scriptjson.h>
+
 #include <fishbone/editor/fisheditor.h>
 #include <fishbone/model/fishinfo.h>
 #include <fishbone/model/fishmodel.h>
@@ -15,11 +17,6 @@
 #include <QJsonObject>
 
 namespace {
-
-QJsonObject objectOf(const QString &json)
-{
-    return QJsonDocument::fromJson(json.toUtf8()).object();
-}
 
 std::unique_ptr<UndoCommand> moveOf(const ScriptSubject &subject, const ScriptSubject &target,
                                     int row)
@@ -121,7 +118,7 @@ bool ScriptSubject::edit(const QString &json) const
         return false;
     const QJsonObject before = EditAttributes::stateOf(*subject);
     QJsonObject after = before;
-    const QJsonObject changes = objectOf(json);
+    const QJsonObject changes = ScriptJson::objectOf(json);
     for (auto change = changes.begin(); change != changes.end(); ++change) {
         if (change.value().isNull())
             after.remove(change.key());
@@ -141,7 +138,7 @@ ScriptSubject ScriptSubject::insert(int row, const QString &json) const
         return ScriptSubject();
     const int end = above->childCount();
     // The command takes the node over, and keeps it while the step is undone.
-    auto *const node = new TreeItem(objectOf(json));
+    auto *const node = new TreeItem(ScriptJson::objectOf(json));
     node->ensureUuid();
     const ScriptSubject inserted(m_model, node);
     auto insertion = std::make_unique<InsertChild>(m_model, index());
@@ -151,11 +148,10 @@ ScriptSubject ScriptSubject::insert(int row, const QString &json) const
     // Where it shall stand is known by a command only once it is there. Both are one step.
     group->add(std::move(insertion));
     const QPointer<FishEditor> shown = editor();
-    const std::unique_ptr<UndoCommand> unshown = shown ? nullptr : std::move(group);
     if (shown)
-        run(std::move(group));
+        run(std::unique_ptr<UndoCommand>(group.release())); // the history has it now
     else
-        unshown->redo();
+        group->redo();
     if (step && row >= 0 && row < end && inserted.isThere() && isThere()) {
         step->add(moveOf(inserted, *this, row));
         if (shown)

@@ -17,7 +17,8 @@ class TreeItem;
 class UndoCommand;
 
 /**
- * A subject as a script holds it: a handle that may outlive the subject, its document and its model.
+ * A subject as a script holds it: a handle that may outlive the subject, its document and its
+ * model.
  *
  * Who asks a handle whose subject is gone, or is out of its document because a step was undone,
  * gets nothing, and no change is made; isThere() tells. A subject that comes back by undo is there

@@ -18,6 +18,10 @@ NOTES = """# Line 3 stopped
 """
 
 
+# What is imported stays, and looking through it again in each collection is most of what the tests would take.
+gc.freeze()
+
+
 @pytest.fixture
 def notes(tmp_path):
     """A file in Markdown."""
