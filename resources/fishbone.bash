@@ -10,7 +10,7 @@ _fishbone() {
     case ${COMP_WORDS[COMP_CWORD - 1]} in
         --from) words='json md txt opml mm mmd csv xmind xlsx org puml' ;;
         --to) words='json md txt opml mm mmd csv xmind xlsx org drawio' ;;
-        --language) words='en de ja ko pt_BR zh zh_TW' ;;
+        --language) words='en ar de es fr it ja ko pl pt_BR ru zh zh_TW' ;;
         --expand) words='all none' ;;
         --background) words='white transparent' ;;
         --look) words='clear classic' ;;

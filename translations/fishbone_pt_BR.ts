@@ -1990,7 +1990,7 @@ O que ambos mudaram de forma diferente fica como na nossa, com uma causa abaixo 
     <message>
         <source>&amp;Open…</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>&amp;Abrir…</translation>
+        <translation>A&amp;brir…</translation>
     </message>
     <message>
         <source>&amp;Import…</source>
@@ -4064,7 +4064,7 @@ Deseja salvar as alterações?</translation>
     <message>
         <source>&amp;Recent files</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>A&amp;bertos recentemente</translation>
+        <translation>&amp;Abertos recentemente</translation>
     </message>
     <message>
         <source>(nothing yet)</source>

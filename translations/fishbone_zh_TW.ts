@@ -842,7 +842,7 @@ What both changed differently is kept as in ours, with a cause that says so belo
     <message>
         <source>Re&amp;vert</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>還原(&amp;V)</translation>
+        <translation>還原(&amp;R)</translation>
     </message>
     <message>
         <source>Created by: %1</source>

@@ -36,6 +36,7 @@ void fillWithNames(QComboBox &box, const QString &any, const QStringList &names,
     for (int i = 0; i < int(names.size()); ++i)
         box.addItem(names.at(i), first + i);
     box.setCurrentIndex(qMax(0, chosen));
+    box.setToolTip(box.currentText());
 }
 
 } // namespace
@@ -95,8 +96,9 @@ void FilterBar::buildLayout()
     first->addWidget(m_count);
     first->addWidget(m_close);
     auto *const second = new QHBoxLayout;
-    for (QWidget *field : QList<QWidget *>{m_status, m_verdict, m_person, m_votes})
-        second->addWidget(field, 1);
+    for (QComboBox *box : {m_status, m_verdict, m_person})
+        second->addWidget(box, 1);
+    second->addWidget(m_votes);
     auto *const layout = new QVBoxLayout(this);
     layout->setContentsMargins(6, 4, 6, 4);
     layout->setSpacing(4);
@@ -114,8 +116,10 @@ void FilterBar::connectFields()
 {
     const auto set = [this] { m_filter->setFilter(entered()); };
     connect(m_text, &QLineEdit::textChanged, this, set);
-    for (const QComboBox *box : {m_status, m_verdict, m_person})
+    for (QComboBox *box : {m_status, m_verdict, m_person}) {
         connect(box, QOverload<int>::of(&QComboBox::currentIndexChanged), this, set);
+        connect(box, &QComboBox::currentTextChanged, box, &QWidget::setToolTip); // may be cut
+    }
     connect(m_votes, QOverload<int>::of(&QSpinBox::valueChanged), this, set);
     connect(m_overdue, &QCheckBox::toggled, this, set);
     connect(m_fold, &QCheckBox::toggled, m_filter, &DrawingFilter::setFolding);
@@ -145,9 +149,18 @@ void FilterBar::showTexts()
     m_person->setAccessibleName(tr("Responsible"));
     m_votes->setAccessibleName(tr("Least number of votes"));
     m_close->setAccessibleName(m_close->toolTip());
-    m_person->clear();
+    showAnybody();
     listPeople();
     showCount();
+}
+
+/** Names the two choices that are nobody's name. */
+void FilterBar::showAnybody()
+{
+    if (m_person->count() < 2)
+        return;
+    m_person->setItemText(0, tr("Anybody"));
+    m_person->setItemText(1, tr("Nobody"));
 }
 
 /** Offers those that the document names by now. What is chosen stays. */
@@ -165,8 +178,9 @@ void FilterBar::listPeople()
     {
         const QSignalBlocker blocker(m_person);
         m_person->clear();
-        m_person->addItem(tr("Anybody"));
-        m_person->addItem(tr("Nobody"), QString());
+        m_person->addItem(QString());
+        m_person->addItem(QString(), QString());
+        showAnybody();
         for (const QString &name : names)
             m_person->addItem(name, name);
         m_person->setCurrentIndex(chosen ? qMax(0, m_person->findData(*chosen)) : 0);

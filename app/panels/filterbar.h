@@ -45,6 +45,7 @@ private:
     void connectFields();
     void showTexts();
     void showCross();
+    void showAnybody();
     void listPeople();
     void showCount();
     SubjectFilter entered() const;

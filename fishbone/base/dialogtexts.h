@@ -10,7 +10,8 @@
 #include <QLabel>
 #include <QStringList>
 
-/** Gives the items of @p combo other texts, and makes those that are missing. */
+/** Gives the items of @p combo other texts, and makes those that are missing. The box, which
+ * adjusts to its contents, gets no narrower than they are. */
 inline void setItemTexts(QComboBox *combo, const QStringList &texts)
 {
     for (int row = 0; row < texts.size(); ++row) {
@@ -19,6 +20,8 @@ inline void setItemTexts(QComboBox *combo, const QStringList &texts)
         else
             combo->addItem(texts.at(row));
     }
+    // The toolkit remembers the least width of the texts that were there first.
+    combo->setMinimumWidth(combo->sizeHint().width());
 }
 
 /**

@@ -55,9 +55,10 @@ void fill(QComboBox *combo, const Choice (&choices)[size], int current)
     combo->setCurrentIndex(combo->findData(current));
     combo->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     followLanguage(combo, [combo, &choices] {
-        int row = 0;
+        QStringList names;
         for (const Choice &choice : choices)
-            combo->setItemText(row++, PenSelect::tr(choice.name));
+            names.append(PenSelect::tr(choice.name));
+        setItemTexts(combo, names);
     });
 }
 

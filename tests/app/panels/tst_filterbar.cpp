@@ -3,6 +3,7 @@
 
 #include <app/panels/filterbar.h>
 
+#include <app/common/language.h>
 #include <app/diagram/drawingfilter.h>
 #include <app/export/picturesource.h>
 
@@ -121,6 +122,7 @@ private Q_SLOTS:
     void shouldFilterTheTreeToo();
     void shouldFilterByWhatSubjectsAreMarkedWith();
     void shouldOfferThosePeopleThatThereAre();
+    void shouldKeepWhoIsChosenInAnotherLanguage();
     void shouldFollowEdits();
     void shouldSurviveANewDrawing();
     void shouldFoldTheOthersAway();
@@ -217,6 +219,24 @@ void TestFilterBar::shouldOfferThosePeopleThatThereAre()
     AppFixture::settle();
     QCOMPARE(app.widget<QComboBox>("filterPerson")->currentText(), QStringLiteral("Anybody"));
     QCOMPARE(app.opacity("People"), 1.0);
+}
+
+void TestFilterBar::shouldKeepWhoIsChosenInAnotherLanguage()
+{
+    FilterFixture app;
+    app.subject("Rust")->setManagerName(QStringLiteral("Ann"));
+    app.window.session()->touch();
+    AppFixture::settle();
+    app.chooseIn("filterPerson", Qt::Key_Down, 2);
+    QCOMPARE(app.shown(), QStringLiteral("(Material),Rust"));
+    Language::install(QStringLiteral("zh"));
+    AppFixture::settle();
+    const auto *const box = app.widget<QComboBox>("filterPerson");
+    QCOMPARE(box->currentText(), QStringLiteral("Ann"));
+    QCOMPARE(box->itemText(0), QStringLiteral("任何人"));
+    QCOMPARE(app.shown(), QStringLiteral("(Material),Rust"));
+    Language::install(QString());
+    QCOMPARE(box->itemText(0), QStringLiteral("Anybody"));
 }
 
 void TestFilterBar::shouldFollowEdits()

@@ -3,6 +3,7 @@
 
 #include <tests/app/appfixture.h>
 #include <tests/app/picturesubject.h>
+#include <tests/app/window/cuttexts.h>
 #include <tests/program/testprogram.h>
 
 #include <app/common/language.h>
@@ -15,16 +16,10 @@
 #include <fishbone/style/spearstyledialog.h>
 
 #include <QAction>
-#include <QComboBox>
-#include <QDateEdit>
-#include <QDockWidget>
 #include <QLabel>
-#include <QLineEdit>
 #include <QLocale>
 #include <QMenu>
 #include <QMenuBar>
-#include <QPushButton>
-#include <QStyleOptionComboBox>
 #include <QTranslator>
 #include <QtTest>
 
@@ -34,100 +29,6 @@
 namespace {
 
 using DialogMaker = std::function<std::unique_ptr<QWidget>()>;
-
-/** Adds the mnemonic of @p text to @p taken; false when it is there already. */
-bool take(QList<QKeySequence> &taken, const QString &text)
-{
-    const QKeySequence mnemonic = QKeySequence::mnemonic(text);
-    if (mnemonic.isEmpty())
-        return true;
-    if (taken.contains(mnemonic))
-        return false;
-    taken.append(mnemonic);
-    return true;
-}
-
-/** The texts of the labels and buttons in @p widget that are shown. */
-QStringList shownTexts(const QWidget &widget)
-{
-    QStringList texts;
-    for (const QWidget *each : widget.findChildren<QWidget *>()) {
-        if (!each->isVisible())
-            continue;
-        if (const auto *const label = qobject_cast<const QLabel *>(each))
-            texts.append(label->text());
-        else if (const auto *const button = qobject_cast<const QAbstractButton *>(each))
-            texts.append(button->text());
-    }
-    return texts;
-}
-
-/** A text that is shown, the width that it has and the width that it needs. */
-struct Fit
-{
-    QString text;
-    int width;
-    int needed;
-};
-
-/** Of the item of @p combo that needs most. */
-Fit fitOf(const QComboBox &combo)
-{
-    QStyleOptionComboBox option;
-    option.initFrom(&combo);
-    const int width =
-        combo.style()
-            ->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, &combo)
-            .width();
-    Fit widest{QString(), width, 0};
-    for (int row = 0; row < combo.count(); ++row) {
-        const int icon = combo.itemIcon(row).isNull() ? 0 : combo.iconSize().width() + 4;
-        const int needed = icon + combo.fontMetrics().horizontalAdvance(combo.itemText(row));
-        if (needed > widest.needed)
-            widest = {combo.itemText(row), width, needed};
-    }
-    return widest;
-}
-
-Fit fitOf(const QWidget &widget)
-{
-    const QFontMetrics metrics = widget.fontMetrics();
-    const int width = widget.contentsRect().width();
-    if (const auto *const label = qobject_cast<const QLabel *>(&widget))
-        return {label->text(), width, label->minimumSizeHint().width()};
-    if (const auto *const button = qobject_cast<const QAbstractButton *>(&widget))
-        return {button->text(), width, button->minimumSizeHint().width()};
-    if (const auto *const field = qobject_cast<const QLineEdit *>(&widget)) {
-        const QString text = field->placeholderText();
-        return {text, width, metrics.horizontalAdvance(text)};
-    }
-    if (const auto *const combo = qobject_cast<const QComboBox *>(&widget))
-        return fitOf(*combo);
-    if (const auto *const date = qobject_cast<const QDateEdit *>(&widget)) {
-        const auto *const inner = date->findChild<const QLineEdit *>();
-        constexpr int margins = 4;
-        return {date->text(), inner->width(), metrics.horizontalAdvance(date->text()) + margins};
-    }
-    if (const auto *const dock = qobject_cast<const QDockWidget *>(&widget)) {
-        const QString text = dock->windowTitle();
-        constexpr int buttons = 40;
-        return {text, width, metrics.horizontalAdvance(text) + buttons};
-    }
-    return {QString(), 0, 0};
-}
-
-/** The texts in @p widget that are shown and find no room. */
-QStringList cutTexts(const QWidget &widget)
-{
-    QStringList cut;
-    for (const QWidget *each : widget.findChildren<QWidget *>()) {
-        const Fit fit = each->isVisible() ? fitOf(*each) : Fit{QString(), 0, 0};
-        if (!fit.text.isEmpty() && fit.width < fit.needed)
-            cut.append(
-                QStringLiteral("%1 (%2 of %3)").arg(fit.text).arg(fit.width).arg(fit.needed));
-    }
-    return cut;
-}
 
 } // namespace
 
@@ -206,11 +107,14 @@ void TestLanguageWindow::shouldGiveNoMnemonicTwiceInAMenu()
     const MainWindow window;
     const QList<QMenu *> menus = window.findChildren<QMenu *>();
     QVERIFY(menus.size() >= 5);
+    QStringList faults;
     for (const QMenu *menu : menus) {
-        QList<QKeySequence> taken;
+        QStringList texts;
         for (const QAction *action : menu->actions())
-            QVERIFY2(take(taken, action->text()), qPrintable(menu->title() + action->text()));
+            texts.append(action->text());
+        faults += CutTexts::doubleMnemonics(texts);
     }
+    QCOMPARE(faults.join(QLatin1Char('\n')), QString());
 }
 
 void TestLanguageWindow::shouldGiveEveryEntryOfAMenuAMnemonic()
@@ -233,12 +137,12 @@ void TestLanguageWindow::shouldGiveNoMnemonicTwiceInTheWindow()
     useLanguage();
     MainWindow window;
     window.show();
-    QList<QKeySequence> taken;
-    for (const QAction *action : window.findChild<QMenuBar *>()->actions())
-        QVERIFY2(take(taken, action->text()), qPrintable(action->text()));
-    QVERIFY(taken.size() >= 5);
-    for (const QString &text : shownTexts(window))
-        QVERIFY2(take(taken, text), qPrintable(text));
+    QStringList texts = CutTexts::shown(window);
+    const QList<QAction *> menus = window.findChild<QMenuBar *>()->actions();
+    QVERIFY(menus.size() >= 5);
+    for (const QAction *action : menus)
+        texts.append(action->text());
+    QCOMPARE(CutTexts::doubleMnemonics(texts), QStringList());
 }
 
 void TestLanguageWindow::shouldShowToolTipsWithoutMnemonics()
@@ -266,7 +170,7 @@ void TestLanguageWindow::shouldHaveRoomForTheTextsOfTheWindow()
     MainWindow window;
     window.show();
     QVERIFY(QTest::qWaitForWindowExposed(&window));
-    QCOMPARE(cutTexts(window).join(QLatin1String(" | ")), QString());
+    QCOMPARE(CutTexts::in(window).join(QLatin1String(" | ")), QString());
 }
 
 void TestLanguageWindow::shouldHaveRoomForTheTextsAfterASwitch()
@@ -281,9 +185,9 @@ void TestLanguageWindow::shouldHaveRoomForTheTextsAfterASwitch()
     app.trigger("find");
     useLanguage();
     AppFixture::settle();
-    const QStringList shown = shownTexts(app.window);
+    const QStringList shown = CutTexts::shown(app.window);
     QVERIFY2(shown.size() > 20, qPrintable(shown.join(QLatin1Char('|'))));
-    QCOMPARE(cutTexts(app.window).join(QLatin1String(" | ")), QString());
+    QCOMPARE(CutTexts::in(app.window).join(QLatin1String(" | ")), QString());
 }
 
 void TestLanguageWindow::shouldHaveRoomForTheTextsOfADialog_data()
@@ -310,16 +214,14 @@ void TestLanguageWindow::shouldHaveRoomForTheTextsOfADialog()
 {
     const std::unique_ptr<QWidget> dialog = shownDialog();
     QVERIFY(QTest::qWaitForWindowExposed(dialog.get()));
-    QVERIFY(shownTexts(*dialog).size() > 3);
-    QCOMPARE(cutTexts(*dialog).join(QLatin1String(" | ")), QString());
+    QVERIFY(CutTexts::shown(*dialog).size() > 3);
+    QCOMPARE(CutTexts::in(*dialog).join(QLatin1String(" | ")), QString());
 }
 
 void TestLanguageWindow::shouldGiveNoMnemonicTwiceInADialog()
 {
     const std::unique_ptr<QWidget> dialog = shownDialog();
-    QList<QKeySequence> taken;
-    for (const QString &text : shownTexts(*dialog))
-        QVERIFY2(take(taken, text), qPrintable(text));
+    QCOMPARE(CutTexts::doubleMnemonics(CutTexts::shown(*dialog)), QStringList());
 }
 
 void TestLanguageWindow::shouldLeadEachMnemonicOfADialogSomewhere()
