@@ -4,7 +4,8 @@
 #pragma once
 
 #include <app/diagram/diagramview.h>
-#include <app/diagram/pagesize.h>
+
+#include <fishbone/exchange/pagesize.h>
 
 #include <QCommandLineOption>
 #include <QCoreApplication>

@@ -3,9 +3,8 @@
 
 #pragma once
 
-#include <app/diagram/pagesize.h>
-
 #include <fishbone/drawing/diagramlook.h>
+#include <fishbone/exchange/pagesize.h>
 #include <fishbone/exchange/pictureexport.h>
 
 #include <optional>

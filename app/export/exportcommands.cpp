@@ -11,7 +11,6 @@
 #include <app/common/updatesheld.h>
 #include <app/common/workprogress.h>
 #include <app/diagram/diagramsession.h>
-#include <app/diagram/pagesize.h>
 #include <app/export/clearexport.h>
 #include <app/export/exportdialog.h>
 #include <app/export/picturecopy.h>
@@ -23,6 +22,7 @@
 #include <fishbone/editor/fishscene.h>
 #include <fishbone/exchange/diagramexchange.h>
 #include <fishbone/exchange/exchangereport.h>
+#include <fishbone/exchange/pagesize.h>
 #include <fishbone/exchange/slideexport.h>
 #include <fishbone/model/fishinfo.h>
 #include <fishbone/model/fishmodel.h>

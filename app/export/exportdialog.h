@@ -3,9 +3,9 @@
 
 #pragma once
 
-#include <app/diagram/pagesize.h>
 #include <app/export/picturesource.h>
 
+#include <fishbone/exchange/pagesize.h>
 #include <fishbone/exchange/pictureexport.h>
 
 #include <QDialog>

@@ -4,9 +4,9 @@
 #include <app/export/picturelookfields.h>
 
 #include <app/common/actionset.h>
-#include <app/diagram/pagesize.h>
 #include <app/diagram/palettes.h>
 #include <fishbone/drawing/lookinfo.h>
+#include <fishbone/exchange/pagesize.h>
 
 #include <QCheckBox>
 #include <QComboBox>

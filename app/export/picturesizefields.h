@@ -3,8 +3,7 @@
 
 #pragma once
 
-#include <app/diagram/pagesize.h>
-
+#include <fishbone/exchange/pagesize.h>
 #include <fishbone/exchange/pictureexport.h>
 
 #include <QRectF>

@@ -3,12 +3,12 @@
 
 #include <app/export/picturesource.h>
 
-#include <app/diagram/pagesize.h>
 #include <app/export/leveldrawing.h>
 
 #include <fishbone/editor/fisheditor.h>
 #include <fishbone/editor/fishscene.h>
 #include <fishbone/exchange/diagrampicture.h>
+#include <fishbone/exchange/pagesize.h>
 #include <fishbone/exchange/pictureexport.h>
 #include <fishbone/items/spearitem.h>
 #include <fishbone/model/fishinfo.h>

@@ -7,13 +7,13 @@
 #include <app/common/busycursor.h>
 #include <app/diagram/diagramsession.h>
 #include <app/diagram/documentlook.h>
-#include <app/diagram/pagesize.h>
 #include <app/diagram/palettes.h>
 #include <app/diagram/subjectstyles.h>
 
 #include <fishbone/drawing/lookinfo.h>
 #include <fishbone/editor/fisheditor.h>
 #include <fishbone/exchange/diagrampicture.h>
+#include <fishbone/exchange/pagesize.h>
 #include <fishbone/model/fishmodel.h>
 
 #include <QAction>

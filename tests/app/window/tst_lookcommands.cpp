@@ -8,9 +8,9 @@
 
 #include <app/common/canvastheme.h>
 #include <app/diagram/diagramview.h>
-#include <app/diagram/pagesize.h>
 
 #include <fishbone/exchange/diagrampicture.h>
+#include <fishbone/exchange/pagesize.h>
 #include <fishbone/exchange/pictureexport.h>
 
 #include <QJsonDocument>

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include <fishbone/fishbone_export.h>
+
 #include <QSizeF>
 #include <QString>
 #include <QStringList>
@@ -10,7 +12,7 @@
 #include <optional>
 
 /** A page or a screen that a drawing is arranged for. */
-struct PageSize
+struct FISHBONE_EXPORT PageSize
 {
     QSizeF size;                ///< lying; in millimetres or in pixels
     bool isMillimetres = false; ///< of paper, else of pixels

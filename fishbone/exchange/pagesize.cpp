@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Fishbone authors
 // SPDX-License-Identifier: MIT
 
-#include <app/diagram/pagesize.h>
+#include <fishbone/exchange/pagesize.h>
 
 #include <fishbone/exchange/diagrampicture.h>
 
@@ -11,7 +11,7 @@ namespace {
 
 constexpr double usualDots = 96;    ///< an inch
 constexpr double printedDots = 192; ///< an inch of paper, as pixels
-constexpr double millimetresPerInch = 25.4;
+constexpr double inchInMillimetres = 25.4;
 
 struct Named
 {
@@ -65,10 +65,10 @@ QSizeF PageSize::drawable() const
 
 QSizeF PageSize::millimetres() const
 {
-    return isMillimetres ? size : size * (millimetresPerInch / usualDots);
+    return isMillimetres ? size : size * (inchInMillimetres / usualDots);
 }
 
 QSize PageSize::pixels() const
 {
-    return (isMillimetres ? size * (printedDots / millimetresPerInch) : size).toSize();
+    return (isMillimetres ? size * (printedDots / inchInMillimetres) : size).toSize();
 }

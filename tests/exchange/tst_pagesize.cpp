@@ -1,8 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Fishbone authors
 // SPDX-License-Identifier: MIT
 
-#include <app/diagram/pagesize.h>
 #include <tests/program/testprogram.h>
+
+#include <fishbone/exchange/pagesize.h>
 
 #include <QtTest>
 
