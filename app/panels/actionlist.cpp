@@ -3,6 +3,7 @@
 
 #include <app/panels/actionlist.h>
 
+#include <app/common/datefield.h>
 #include <app/common/language.h>
 #include <app/diagram/diagramsession.h>
 #include <app/diagram/marknames.h>
@@ -96,8 +97,7 @@ private:
 
     static QWidget *dateField(QWidget *parent)
     {
-        auto *const field = new QDateEdit(parent);
-        field->setCalendarPopup(true);
+        auto *const field = new DateField(parent);
         field->setMinimumDate(noDate);
         field->setSpecialValueText(ActionList::tr("no date"));
         return field;

@@ -9,19 +9,20 @@
 #include <app/diagram/subjectstyles.h>
 #include <app/panels/detailsform.h>
 
-#include <fishbone/items/linkitem.h>
 #include <fishbone/model/fishmodel.h>
-#include <fishbone/model/systemhelper.h>
 #include <fishbone/model/treeitem.h>
 #include <fishbone/undo/editattributes.h>
 
 #include <QAbstractSpinBox>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDateTime>
 #include <QHBoxLayout>
 #include <QKeyEvent>
+#include <QLocale>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QScrollBar>
 
 namespace {
 
@@ -42,6 +43,7 @@ QSet<QString> differenceOf(const QJsonObject &one, const QJsonObject &other)
 DetailsPanel::DetailsPanel(DiagramSession *session, QWidget *parent)
     : QWidget(parent)
     , m_session(session)
+    , m_scroll(new QScrollArea(this))
     , m_form(new DetailsForm(this))
     , m_apply(new QPushButton(this))
     , m_revert(new QPushButton(this))
@@ -51,7 +53,6 @@ DetailsPanel::DetailsPanel(DiagramSession *session, QWidget *parent)
     buildLayout();
     connect(m_form, &DetailsForm::changed, this, [this] { setChanged(true); });
     connect(m_form, &DetailsForm::entered, this, &DetailsPanel::apply);
-    connect(m_form, &DetailsForm::openLinkWanted, this, &DetailsPanel::openLink);
     connect(m_form, &DetailsForm::editStyleWanted, this, &DetailsPanel::editStyle);
     connect(m_apply, &QPushButton::clicked, this, &DetailsPanel::apply);
     connect(m_revert, &QPushButton::clicked, this, &DetailsPanel::revert);
@@ -75,18 +76,17 @@ void DetailsPanel::keyPressEvent(QKeyEvent *event)
 
 void DetailsPanel::buildLayout()
 {
-    auto *const scroll = new QScrollArea(this);
-    scroll->setWidgetResizable(true);
-    scroll->setFrameShape(QFrame::NoFrame);
-    scroll->setFocusPolicy(Qt::NoFocus); // Tab leads from field to field
-    scroll->setWidget(m_form);
+    m_scroll->setWidgetResizable(true);
+    m_scroll->setFrameShape(QFrame::NoFrame);
+    m_scroll->setFocusPolicy(Qt::NoFocus); // Tab leads from field to field
+    m_scroll->setWidget(m_form);
     auto *const buttons = new QHBoxLayout;
     buttons->addStretch();
     buttons->addWidget(m_apply);
     buttons->addWidget(m_revert);
     auto *const layout = new QVBoxLayout(this);
     layout->setContentsMargins(4, 4, 4, 4);
-    layout->addWidget(scroll);
+    layout->addWidget(m_scroll);
     layout->addLayout(buttons);
 }
 
@@ -97,6 +97,15 @@ void DetailsPanel::showTexts()
     m_revert->setText(tr("Re&vert"));
     m_form->showTexts();
     showFacts();
+}
+
+/** As wide as it takes to scroll up and down alone. */
+QSize DetailsPanel::sizeHint() const
+{
+    const QMargins margins = layout()->contentsMargins();
+    const int width = m_form->minimumSizeHint().width() + margins.left() + margins.right() +
+                      m_scroll->verticalScrollBar()->sizeHint().width();
+    return QSize(width, QWidget::sizeHint().height());
 }
 
 void DetailsPanel::setChanged(bool changed)
@@ -187,8 +196,10 @@ void DetailsPanel::showFacts()
     if (subject && !subject->creatorName().isEmpty())
         facts.append(tr("Created by: %1").arg(subject->creatorName()));
     if (subject && subject->createDate() != 0)
-        facts.append(
-            tr("Created on: %1").arg(SystemHelper::stringFromDateTimeMsecs(subject->createDate())));
+        facts.append(tr("Created on: %1")
+                         .arg(QLocale().toString(
+                             QDateTime::fromMSecsSinceEpoch(subject->createDate()).date(),
+                             QLocale::ShortFormat)));
     m_form->setFacts(facts);
 }
 
@@ -212,11 +223,6 @@ void DetailsPanel::apply()
             return state;
         });
     revert();
-}
-
-void DetailsPanel::openLink() const
-{
-    LinkItem::open(m_form->link());
 }
 
 void DetailsPanel::editStyle()

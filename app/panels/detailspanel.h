@@ -13,6 +13,7 @@
 class DetailsForm;
 class DiagramSession;
 class QPushButton;
+class QScrollArea;
 class TreeItem;
 
 /**
@@ -37,6 +38,8 @@ public:
     /** Lets the user begin to type. */
     void focusTitle();
 
+    QSize sizeHint() const override;
+
 public Q_SLOTS:
     /** Gives the subjects what is entered. */
     void apply();
@@ -53,7 +56,6 @@ private:
     void setChanged(bool changed);
     QModelIndexList living() const;
     QSet<QString> differing(const QModelIndexList &indexes) const;
-    void openLink() const;
     void editStyle();
 
     DiagramSession *m_session;
@@ -61,6 +63,7 @@ private:
     QJsonObject m_shown;   ///< what the fields said when they were filled
     QSet<QString> m_mixed; ///< the attributes that are not the same in all subjects
     bool m_isChanged = false;
+    QScrollArea *m_scroll;
     DetailsForm *m_form;
     QPushButton *m_apply;
     QPushButton *m_revert;

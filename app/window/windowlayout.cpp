@@ -139,13 +139,26 @@ bool WindowLayout::eventFilter(QObject *watched, QEvent *event)
         auto *const dock = static_cast<QDockWidget *>(watched);
         if (event->type() == QEvent::ShowToParent) {
             m_yielded.removeOne(dock);
-            if (isSmall() && !m_opened.contains(dock))
+            if (isSmall() && !m_opened.contains(dock)) {
                 m_opened.append(dock);
+                QMetaObject::invokeMethod(
+                    dock, [this, dock] { widen(dock); }, Qt::QueuedConnection);
+            }
         } else if (event->type() == QEvent::HideToParent) {
             m_opened.removeOne(dock);
         }
     }
     return QObject::eventFilter(watched, event);
+}
+
+/** Lets @p dock, which stepped aside where it was narrow, show its whole width. */
+void WindowLayout::widen(QDockWidget *dock)
+{
+    const int wanted = dock->widget()->sizeHint().width();
+    const bool isBeside =
+        m_window->dockWidgetArea(dock) & (Qt::LeftDockWidgetArea | Qt::RightDockWidgetArea);
+    if (isBeside && !dock->isFloating() && dock->isVisible() && dock->width() < wanted)
+        m_window->resizeDocks({dock}, {wanted}, Qt::Horizontal);
 }
 
 /** Once the window has given everything its place. */

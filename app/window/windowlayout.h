@@ -54,6 +54,7 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    void widen(QDockWidget *dock);
     void scheduleYield();
     void yield();
     void showYielded();

@@ -8,6 +8,7 @@
 #include <fishbone/exchange/slidepackage.h>
 
 #include <QDateTime>
+#include <QLocale>
 
 namespace {
 
@@ -23,8 +24,8 @@ QStringList actionOf(const TreeItem &subject)
     if (!subject.managerName().isEmpty())
         parts.append(subject.managerName());
     if (subject.planEndDate() != 0)
-        parts.append(
-            QDateTime::fromMSecsSinceEpoch(subject.planEndDate()).date().toString(Qt::ISODate));
+        parts.append(QLocale().toString(
+            QDateTime::fromMSecsSinceEpoch(subject.planEndDate()).date(), QLocale::ShortFormat));
     if (subject.progress() > 0)
         parts.append(QStringLiteral("%1 %").arg(subject.progress()));
     return parts;

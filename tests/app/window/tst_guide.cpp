@@ -226,7 +226,7 @@ void TestGuide::giveTo(GuidePlayer &player, const QString &title, const QString 
     GuidePlayer::tabTo("detailsPlannedEnd");
     const QDate day = QDate::currentDate().addDays(daysLater);
     GuidePlayer::press(Qt::Key_A, Qt::ControlModifier);
-    GuidePlayer::type(day.toString(Qt::ISODate));
+    GuidePlayer::type(QLocale().toString(day, QLocale::ShortFormat));
     GuidePlayer::press(Qt::Key_Return);
     const TreeItem &subject = *player.subject(title);
     QCOMPARE(subject.managerName(), person);
