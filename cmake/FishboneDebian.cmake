@@ -41,11 +41,6 @@ foreach(component IN ITEMS runtime development program)
         DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/${package}" COMPONENT ${component})
 endforeach()
 
-set(manual "${PROJECT_BINARY_DIR}/debian/fishbone.1")
-configure_file("${PROJECT_SOURCE_DIR}/docs/fishbone.1" "${manual}" COPYONLY)
-execute_process(COMMAND gzip -9nkf "${manual}" COMMAND_ERROR_IS_FATAL ANY)
-install(FILES "${manual}.gz" DESTINATION "${CMAKE_INSTALL_MANDIR}/man1" COMPONENT program)
-
 set(CPACK_PACKAGE_NAME fishbone)
 set(CPACK_PACKAGE_VERSION "${PROJECT_VERSION}")
 set(CPACK_PACKAGE_CONTACT "${maintainer}")

@@ -94,11 +94,7 @@ if(TARGET fishbone-app)
     install(TARGETS fishbone-app RUNTIME DESTINATION "${program_folder}" COMPONENT program)
     install(FILES "${PROJECT_SOURCE_DIR}/resources/global.spearstyle"
         DESTINATION "${program_folder}" COMPONENT program)
-    if(NOT FISHBONE_DEBIAN) # which wants it compressed
-        install(FILES "${PROJECT_SOURCE_DIR}/docs/fishbone.1"
-            DESTINATION "${CMAKE_INSTALL_MANDIR}/man1" RENAME "fishbone${FISHBONE_SUFFIX}.1"
-            COMPONENT program)
-    endif()
+    include(FishboneManual)
     cmake_path(RELATIVE_PATH CMAKE_INSTALL_PREFIX
         BASE_DIRECTORY "${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_BINDIR}" OUTPUT_VARIABLE bin_to_prefix)
     set(link "${PROJECT_BINARY_DIR}/links/fishbone${FISHBONE_SUFFIX}")

@@ -72,6 +72,12 @@ QVector<Text> readTexts(const QString &language)
     return xml.hasError() ? QVector<Text>() : texts;
 }
 
+QString contentOf(const char *name)
+{
+    QFile file(TestSupport::sourceFile(QLatin1String(name)));
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
 /** What English readers see, by the names of the texts: some of the library are in Chinese. */
 QHash<QString, QString> englishTexts()
 {
@@ -198,6 +204,8 @@ private Q_SLOTS:
     void shouldHoldTheSameTextsInEachLanguage_data() { addLanguages(); }
     void shouldHoldTheSameTextsInEachLanguage();
     void shouldTranslateTheLibraryAndTheProgram();
+    void shouldDescribeTheProgramInEachLanguage_data() { addLanguages(); }
+    void shouldDescribeTheProgramInEachLanguage();
 
 private:
     static void addLanguages()
@@ -330,6 +338,29 @@ void TestTranslations::shouldTranslateTheLibraryAndTheProgram()
                              "ModifyName", "SpearStyleDialog", "PenSelect", "URLDialog",
                              "ReplaceFindDialog", "PictureExport", "MainWindow", "CommandLine"})
         QVERIFY2(contexts.contains(QLatin1String(name)), name);
+}
+
+/** In the menu of the desktop, in software centres and in the list of man pages. */
+void TestTranslations::shouldDescribeTheProgramInEachLanguage()
+{
+    QFETCH(QString, language);
+    if (language == QLatin1String("en"))
+        return; // which stands there without a name of its own
+    const QString code = language == QLatin1String("zh") ? QStringLiteral("zh_CN") : language;
+    const QString entry = contentOf("cmake/desktop/fishbone.desktop.in");
+    for (const char *key : {"GenericName", "Comment", "Keywords"}) {
+        const QString line = QStringLiteral("\n%1[%2]=").arg(QLatin1String(key), code);
+        QVERIFY2(entry.count(line) == 1, qPrintable(line));
+    }
+    const QString page = contentOf("cmake/desktop/fishbone.metainfo.xml.in");
+    const QString tag = QString(code).replace(QLatin1Char('_'), QLatin1Char('-'));
+    for (const char *element : {"summary", "p", "li"}) {
+        const QString plain = QStringLiteral("<%1>").arg(QLatin1String(element));
+        const QString own = plain.chopped(1) + QStringLiteral(" xml:lang=\"%1\">").arg(tag);
+        QVERIFY(page.contains(plain));
+        QVERIFY2(page.count(own) == page.count(plain), qPrintable(own));
+    }
+    QVERIFY(contentOf("translations/summaries.txt").count(QStringLiteral("\n%1: ").arg(code)) == 1);
 }
 
 FISHBONE_GUILESS_TEST(TestTranslations)
