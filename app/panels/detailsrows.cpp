@@ -326,24 +326,31 @@ protected:
 
 QVector<DetailsField *> DetailsRows::make(QWidget *form, QWidget *statusIcon)
 {
-    using Form = DetailsForm;
     constexpr auto own = DetailsField::Sharing::Own;
     return {
-        new LineField({"title", "detailsTitle", [] { return Form::tr("Title:"); }, own}, form),
-        new VerdictField({"verdict", "detailsVerdict", [] { return Form::tr("Verdict:"); }}, form),
-        new StatusField({"status", "detailsStatus", [] { return Form::tr("Status:"); }}, form),
-        new LineField({"mgrname", "detailsManager", [] { return Form::tr("Responsible:"); }}, form),
-        new PlannedEndField([] { return Form::tr("Planned end:"); }, form),
-        new TextField({"detail", "detailsText", [] { return Form::tr("Details:"); }}, form),
-        new VotesField({"votes", "detailsVotes", [] { return Form::tr("Votes:"); }}, form),
-        new ProgressField({"progress", "detailsProgress", [] { return Form::tr("Progress:"); }},
-                          statusIcon, form),
-        new NumberField({"priority", "detailsPriority", [] { return Form::tr("Priority:"); }},
-                        new PriorityBox(form), form),
-        new LinkField({"url", "detailsLink", [] { return Form::tr("Link:"); }}, form),
-        new ListField({"followers", "detailsFollowers", [] { return Form::tr("Followers:"); }},
+        new LineField({"title", "detailsTitle", [] { return DetailsForm::tr("Title:"); }, own},
                       form),
-        new LineField({"showid", "detailsNumber", [] { return Form::tr("Number:"); }, own}, form),
-        new LineField({"mgrid", "detailsManagerId", [] { return Form::tr("Their id:"); }}, form),
+        new VerdictField({"verdict", "detailsVerdict", [] { return DetailsForm::tr("Verdict:"); }},
+                         form),
+        new StatusField({"status", "detailsStatus", [] { return DetailsForm::tr("Status:"); }},
+                        form),
+        new LineField({"mgrname", "detailsManager", [] { return DetailsForm::tr("Responsible:"); }},
+                      form),
+        new PlannedEndField([] { return DetailsForm::tr("Planned end:"); }, form),
+        new TextField({"detail", "detailsText", [] { return DetailsForm::tr("Details:"); }}, form),
+        new VotesField({"votes", "detailsVotes", [] { return DetailsForm::tr("Votes:"); }}, form),
+        new ProgressField(
+            {"progress", "detailsProgress", [] { return DetailsForm::tr("Progress:"); }},
+            statusIcon, form),
+        new NumberField(
+            {"priority", "detailsPriority", [] { return DetailsForm::tr("Priority:"); }},
+            new PriorityBox(form), form),
+        new LinkField({"url", "detailsLink", [] { return DetailsForm::tr("Link:"); }}, form),
+        new ListField(
+            {"followers", "detailsFollowers", [] { return DetailsForm::tr("Followers:"); }}, form),
+        new LineField({"showid", "detailsNumber", [] { return DetailsForm::tr("Number:"); }, own},
+                      form),
+        new LineField({"mgrid", "detailsManagerId", [] { return DetailsForm::tr("Their id:"); }},
+                      form),
     };
 }
