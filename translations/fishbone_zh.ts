@@ -2725,7 +2725,7 @@ Do you want to save your changes?</source>
     </message>
     <message>
         <source>Action</source>
-        <translation>行动</translation>
+        <translation>待办事项</translation>
     </message>
     <message>
         <source>Status</source>
@@ -2753,11 +2753,11 @@ Do you want to save your changes?</source>
     </message>
     <message>
         <source>Actions</source>
-        <translation>行动</translation>
+        <translation>待办事项</translation>
     </message>
     <message>
         <source>Nobody is to do anything.</source>
-        <translation>没有待办的行动。</translation>
+        <translation>没有待办事项。</translation>
     </message>
     <message>
         <source>its name must end in .html, .pdf or .md</source>
@@ -3502,7 +3502,7 @@ Do you want to save your changes?</source>
     </message>
     <message>
         <source>Actions</source>
-        <translation>行动</translation>
+        <translation>待办事项</translation>
     </message>
     <message>
         <source>there is nothing to draw</source>

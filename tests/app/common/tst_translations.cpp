@@ -3,99 +3,25 @@
 
 #include <app/common/language.h>
 
-#include <QDir>
 #include <QFile>
 #include <QRegularExpression>
 #include <QTranslator>
-#include <QXmlStreamReader>
 #include <QtTest>
+#include <tests/app/common/translationfile.h>
 
 #include <algorithm>
 
 #include <tests/program/testprogram.h>
 #include <tests/support/sourcefolder.h>
 
+using namespace Translations;
+
 namespace {
-
-/** One text of a translation file. */
-struct Text
-{
-    QString context;
-    QString source;
-    QStringList forms; ///< more than one where the number of things matters
-    bool isNumerus = false;
-    bool isFinished = false;
-
-    /** What names the text in a message. */
-    QString name() const { return context + QLatin1String(": ") + source; }
-};
-
-Text readMessage(QXmlStreamReader &xml, const QString &context)
-{
-    Text text;
-    text.context = context;
-    text.isNumerus = xml.attributes().value(QLatin1String("numerus")) == QLatin1String("yes");
-    while (xml.readNextStartElement()) {
-        if (xml.name() == QLatin1String("source")) {
-            text.source = xml.readElementText();
-        } else if (xml.name() == QLatin1String("translation")) {
-            text.isFinished = !xml.attributes().hasAttribute(QLatin1String("type"));
-            if (!text.isNumerus)
-                text.forms.append(xml.readElementText());
-            while (text.isNumerus && xml.readNextStartElement())
-                text.forms.append(xml.readElementText());
-        } else {
-            xml.skipCurrentElement();
-        }
-    }
-    return text;
-}
-
-/** The texts of translations/fishbone_<language>.ts. */
-QVector<Text> readTexts(const QString &language)
-{
-    QFile file(
-        TestSupport::sourceFile(QStringLiteral("translations/fishbone_%1.ts")).arg(language));
-    if (!file.open(QIODevice::ReadOnly))
-        return {};
-    QXmlStreamReader xml(&file);
-    QVector<Text> texts;
-    QString context;
-    while (!xml.atEnd()) {
-        if (xml.readNext() != QXmlStreamReader::StartElement)
-            continue;
-        if (xml.name() == QLatin1String("name"))
-            context = xml.readElementText();
-        else if (xml.name() == QLatin1String("message"))
-            texts.append(readMessage(xml, context));
-    }
-    return xml.hasError() ? QVector<Text>() : texts;
-}
 
 QString contentOf(const char *name)
 {
     QFile file(TestSupport::sourceFile(QLatin1String(name)));
     return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
-}
-
-/** What English readers see, by the names of the texts: some of the library are in Chinese. */
-QHash<QString, QString> englishTexts()
-{
-    QHash<QString, QString> texts;
-    const QVector<Text> all = readTexts(QStringLiteral("en"));
-    for (const Text &text : all)
-        texts.insert(text.name(), text.forms.constLast());
-    return texts;
-}
-
-/** The languages that translations/ has files of. */
-QStringList languages()
-{
-    const QDir folder(TestSupport::sourceFile(QStringLiteral("translations")));
-    QStringList names = folder.entryList({QStringLiteral("fishbone_*.ts")});
-    for (QString &name : names)
-        name = name.mid(9).chopped(3);
-    return names;
 }
 
 /** The number of plural forms of a language. */
