@@ -3,6 +3,8 @@
 
 #include <python/binding/scriptdocument.h>
 
+#include <python/binding/scriptjson.h>
+
 #include <fishbone/exchange/diagramexchange.h>
 #include <fishbone/exchange/exchangereport.h>
 #include <fishbone/model/fishinfo.h>
@@ -146,6 +148,11 @@ ScriptSubject ScriptDocument::head() const
 {
     return isThere() ? ScriptSubject(m_model, m_document->treeItem()->childAtIndex(0))
                      : ScriptSubject();
+}
+
+QString ScriptDocument::view() const
+{
+    return ScriptJson::textOf(isThere() ? m_document->view() : QJsonObject());
 }
 
 QString ScriptDocument::fileName() const

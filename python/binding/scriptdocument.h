@@ -56,6 +56,8 @@ public:
     QStringList notes() const { return m_notes; }
     /** Its head, a handle of nothing when it has none. */
     ScriptSubject head() const;
+    /** How it was saved to be shown: FishInfo::view() as text. */
+    QString view() const;
     /** Its file; empty while it has none. */
     QString fileName() const;
     /** Whether it has changes that are not saved. */

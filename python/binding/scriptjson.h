@@ -16,4 +16,10 @@ inline QJsonObject objectOf(const QString &json)
     return QJsonDocument::fromJson(json.toUtf8()).object();
 }
 
+/** The text of @p object. */
+inline QString textOf(const QJsonObject &object)
+{
+    return QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact));
+}
+
 } // namespace ScriptJson

@@ -6,107 +6,139 @@
 #include <python/binding/scriptjson.h>
 #include <python/binding/scriptsubject.h>
 
+#include <app/export/clearexport.h>
+#include <app/export/leveldrawing.h>
+
 #include <fishbone/drawing/lookinfo.h>
 #include <fishbone/editor/fisheditor.h>
 #include <fishbone/editor/fishscene.h>
 #include <fishbone/exchange/diagrampicture.h>
+#include <fishbone/exchange/pagesize.h>
+#include <fishbone/exchange/slideexport.h>
 #include <fishbone/model/fishinfo.h>
 #include <fishbone/model/fishmodel.h>
 #include <fishbone/style/spearstyle.h>
 
-#include <QJsonDocument>
-#include <QJsonObject>
-
 namespace {
 
-constexpr double dotsOfPaper = 192; // for each inch of a picture of pixels
-constexpr double millimetresPerInch = 25.4;
+constexpr QSizeF wideScreen(16, 9);
+
+/** What a script has told of a picture. */
+struct Wish
+{
+    explicit Wish(const QJsonObject &options)
+        : given(options)
+        , look(DiagramLook::Options::fromJson(options))
+        , page(PageSize::of(options.value(QLatin1String("page")).toString()))
+        , levels(options.value(QLatin1String("levels")).toInt(DiagramPicture::allLevels))
+        , isArranged(options.value(QLatin1String("arrange")).toBool())
+    {
+    }
+
+    QSizeF shape() const { return page ? page->drawable() : wideScreen; }
+    PictureOptions pictureOptions(bool isClear) const;
+    std::unique_ptr<DiagramPicture> pictureOf(const TreeItem *head) const;
+
+    QJsonObject given;
+    DiagramLook::Options look;
+    std::optional<PageSize> page;
+    int levels;
+    bool isArranged;
+};
+
+PictureOptions Wish::pictureOptions(bool isClear) const
+{
+    PictureOptions picture;
+    if (isClear)
+        picture = ClearExport::suited(picture, look);
+    else if (page)
+        picture.size = page->pixels();
+    picture.scale = given.value(QLatin1String("scale")).toDouble(picture.scale);
+    picture.margin = given.value(QLatin1String("margin")).toDouble(picture.margin);
+    picture.title = given.value(QLatin1String("title")).toString();
+    const QJsonValue background = given.value(QLatin1String("background"));
+    if (background.isString())
+        picture.background = QColor(background.toString());
+    return picture;
+}
+
+std::unique_ptr<DiagramPicture> Wish::pictureOf(const TreeItem *head) const
+{
+    auto picture = std::make_unique<DiagramPicture>(head, look, levels);
+    if (isArranged)
+        picture->arrangeFor(shape());
+    return picture;
+}
 
 const LookInfo *lookOf(const QJsonObject &options)
 {
     return LookInfo::find(options.value(QLatin1String("look")).toString());
 }
 
-QSizeF pageOf(const QJsonObject &options)
+QString writeSlide(LevelDrawing &drawing, const TreeItem &head, const QString &fileName,
+                   const QSizeF &shape)
 {
-    return {options.value(QLatin1String("width")).toDouble(),
-            options.value(QLatin1String("height")).toDouble()};
-}
-
-bool isPaper(const QJsonObject &options)
-{
-    return options.value(QLatin1String("isPaper")).toBool();
-}
-
-PictureOptions pictureOptions(const QJsonObject &options)
-{
-    PictureOptions picture;
-    picture.scale = options.value(QLatin1String("scale")).toDouble(picture.scale);
-    picture.margin = options.value(QLatin1String("margin")).toDouble(picture.margin);
-    picture.title = options.value(QLatin1String("title")).toString();
-    const QJsonValue background = options.value(QLatin1String("background"));
-    if (background.isString())
-        picture.background = QColor(background.toString());
-    const QSizeF page = pageOf(options);
-    if (!page.isEmpty())
-        picture.size =
-            (isPaper(options) ? page * (dotsOfPaper / millimetresPerInch) : page).toSize();
-    return picture;
-}
-
-PictureExport::Result writeClear(const TreeItem *head, const QString &fileName,
-                                 const QJsonObject &options)
-{
-    const QJsonValue levels = options.value(QLatin1String("levels"));
-    DiagramPicture picture(head, DiagramLook::Options::fromJson(options),
-                           levels.toInt(DiagramPicture::allLevels));
-    const QSizeF page = pageOf(options);
-    if (!page.isEmpty())
-        picture.arrangeFor(page);
-    const PictureOptions how = pictureOptions(options);
-    const bool isPdf = PictureExport::formatOf(fileName) == PictureExport::Format::Pdf;
-    if (isPdf && isPaper(options))
-        return picture.writePage(fileName, page, DiagramPicture::pageMargin, how);
-    return picture.write(fileName, how);
+    QString reason;
+    SlideExport::write(*drawing.scene(), head, fileName, SlideExport::aspectFor(shape), &reason);
+    return reason;
 }
 
 // An editor takes the diagram that it shows away from any other that shows it: this one gets a
 // copy.
-PictureExport::Result writeClassic(TreeItem *head, const QString &fileName,
-                                   const QJsonObject &options)
+QString writeScene(TreeItem *head, const QString &fileName, const Wish &wish, bool isClear)
 {
     QJsonObject copy;
     FishModel::write(copy, head, true);
     FishModel model;
     model.setModelType(FISH_MODEL_DIAGRAM);
-    FishInfo *const document = model.loadJsonFish(QJsonDocument(copy).toJson());
-    if (!document)
-        return {PictureExport::Error::TooLarge, QStringLiteral("the diagram has too many levels")};
-    FishEditor editor;
-    editor.setAutosaveInterval(0);
-    editor.setModel(&model);
-    editor.setRootIndex(model.indexFromItem(document->treeItem()->childAtIndex(0)));
-    editor.expandAll();
-    return PictureExport::write(*static_cast<QGraphicsScene *>(editor.scene()), fileName,
-                                pictureOptions(options));
+    if (!model.loadJsonFish(QJsonDocument(copy).toJson()))
+        return QStringLiteral("the diagram has too many levels");
+    LevelDrawing drawing(model, model.index(0, 0));
+    if (isClear)
+        drawing.setLook(DiagramLook::Clear, wish.pictureOf(head)->options());
+    drawing.expand(wish.levels);
+    drawing.update();
+    if (SlideExport::isSlide(fileName))
+        return writeSlide(drawing, *head, fileName, wish.shape());
+    return PictureExport::write(*drawing.scene(), fileName, wish.pictureOptions(isClear)).reason;
 }
 
 } // namespace
+
+QStringList ScriptPicture::lookNames()
+{
+    QStringList names;
+    for (const LookInfo &look : LookInfo::all())
+        names.append(look.name());
+    return names;
+}
+
+QStringList ScriptPicture::pageNames()
+{
+    return PageSize::names();
+}
+
+bool ScriptPicture::isPage(const QString &text)
+{
+    return PageSize::of(text).has_value();
+}
 
 QString ScriptPicture::write(const ScriptSubject &subject, const QString &fileName,
                              const QString &options)
 {
     TreeItem *const head = subject.item();
-    const QJsonObject how = ScriptJson::objectOf(options);
-    const LookInfo *const look = lookOf(how);
+    const Wish wish(ScriptJson::objectOf(options));
+    const LookInfo *const look = lookOf(wish.given);
     if (!head)
         return QStringLiteral("there is no diagram");
     if (!look)
         return QStringLiteral("there is no such look");
-    const PictureExport::Result result = look->kind() == DiagramLook::Classic
-                                             ? writeClassic(head, fileName, how)
-                                             : writeClear(head, fileName, how);
-    return result ? QString() : result.reason;
+    const bool isClear = look->kind() == DiagramLook::Clear;
+    if (!isClear || SlideExport::isSlide(fileName))
+        return writeScene(head, fileName, wish, isClear);
+    return ClearExport::write(*wish.pictureOf(head), wish.page, fileName,
+                              wish.pictureOptions(isClear))
+        .reason;
 }
 
 bool ScriptPicture::setLook(FishEditor *editor, const QString &options)

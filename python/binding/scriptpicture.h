@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 class FishEditor;
 class ScriptSubject;
@@ -12,11 +13,19 @@ class ScriptSubject;
 class ScriptPicture
 {
 public:
+    /** The names of the looks. */
+    static QStringList lookNames();
+    /** The names of the usual pages. */
+    static QStringList pageNames();
+    /** Whether @p text tells a page, by its name or its size. */
+    static bool isPage(const QString &text);
+
     /**
-     * Draws the diagram below @p subject into @p fileName. @p options is a JSON object: "look",
-     * "levels", "scale", "margin", "background" and "title", the size of a page as "width" and
-     * "height" with "isPaper" for millimetres in place of pixels, and whatever
-     * DiagramLook::Options::fromJson() knows. Returns why there is no picture, empty when there is.
+     * Draws the diagram below @p subject into @p fileName, whose ending tells the format: a slide,
+     * or what DiagramPicture writes. @p options is a JSON object: "look", "page", "arrange" for a
+     * drawing that is arranged for the page or else a wide screen, "levels", "scale", "margin",
+     * "background", "title", and what DiagramLook::Options::fromJson() knows. Returns why there is
+     * no picture, empty when there is.
      */
     static QString write(const ScriptSubject &subject, const QString &fileName,
                          const QString &options);

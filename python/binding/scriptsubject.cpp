@@ -56,10 +56,7 @@ bool ScriptSubject::isThere() const
 QString ScriptSubject::state() const
 {
     TreeItem *const subject = item();
-    if (!subject)
-        return QString();
-    const QJsonDocument json(EditAttributes::stateOf(*subject));
-    return QString::fromUtf8(json.toJson(QJsonDocument::Compact));
+    return subject ? ScriptJson::textOf(EditAttributes::stateOf(*subject)) : QString();
 }
 
 QString ScriptSubject::identity() const
@@ -176,7 +173,11 @@ bool ScriptSubject::moveTo(const ScriptSubject &target, int row) const
         return false;
     // Rows are counted with the subject still in its old place.
     const bool isForward = subject->parent() == above && row > subject->index();
-    return run(moveOf(*this, target, isForward ? row + 1 : row));
+    if (!run(moveOf(*this, target, isForward ? row + 1 : row)))
+        return false;
+    if (FishInfo *const changed = target.document()) // which may be another one
+        changed->setModified(true);
+    return true;
 }
 
 bool ScriptSubject::run(std::unique_ptr<UndoCommand> command) const

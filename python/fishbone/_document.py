@@ -7,13 +7,13 @@ from __future__ import annotations
 import json
 import os
 from types import TracebackType
-from typing import Any, Dict, List, Optional, Type, Union
+from typing import Any, List, Optional, Type, Union
 
 from . import _fishbone
 from ._application import application
 from ._errors import GoneError, WriteError
+from ._looks import Options, Page, chosen, drawn_as
 from ._model import Model, Path
-from ._pages import Page, page_options
 from ._subject import Subject
 
 
@@ -62,6 +62,12 @@ class Document:
     def notes(self) -> List[str]:
         """What of the file that was read or written last no field holds, for people."""
         return list(self._there().notes())
+
+    @property
+    def view(self) -> Options:
+        """How the document was saved to be shown: its look, page and palette, as the diagram format has them."""
+        view: Options = json.loads(self._there().view())
+        return view
 
     def save(self, path: Optional[Path] = None) -> None:
         """Saves the document in the diagram format, under its own name or another one.
@@ -131,61 +137,50 @@ class Document:
         return self._handle
 
 
-def look_options(look: str, palette: str, sides: str, head: str, wrap: float, legend: bool) -> Dict[str, Any]:
-    """The options of a look, as the binding takes them. Raises ValueError for unknown words."""
-    for what, word, known in (
-        ("look", look, ("clear", "classic")),
-        ("palette", palette, ("colour", "gray", "dark")),
-        ("sides", sides, ("one", "uneven", "both")),
-        ("head", head, ("right", "left")),
-    ):
-        if word not in known:
-            raise ValueError(f"{word!r} is no {what}: {', '.join(known)}")
-    return {"look": look, "palette": palette, "sides": sides, "head": head, "wrap": wrap, "legend": legend}
-
-
 def draw(
     source: Union[Document, Subject, Path],
     path: Path,
     *,
-    look: str = "clear",
+    look: Optional[str] = None,
     page: Optional[Page] = None,
-    palette: str = "colour",
-    sides: str = "one",
-    head: str = "right",
-    wrap: float = 0,
-    legend: bool = False,
+    palette: Optional[str] = None,
+    sides: Optional[str] = None,
+    head: Optional[str] = None,
+    wrap: Optional[float] = None,
+    legend: Optional[bool] = None,
     levels: Optional[int] = None,
     scale: Optional[float] = None,
     margin: Optional[float] = None,
     background: Optional[str] = None,
-    title: str = "",
+    title: Optional[str] = None,
 ) -> None:
     """Draws a document, a subject with all below it, or a file, into a picture; no display is needed.
 
-    The ending of the path tells its format: png, svg, pdf, and html in the clear look. page is 16:9, A4,
-    A3, Letter or a size such as 1920x1080 or 297x210mm: the drawing is arranged for it. background is a
-    colour such as "#ffffff" or "transparent". Raises ReadError, WriteError, and ValueError for options
-    that make no sense.
+    The ending of the path tells its format: png, svg, pdf, pptx, and html in the clear look. What is not given
+    is as the document was saved to be shown, and where it does not tell as the program draws: in the clear look
+    with a legend, arranged for a wide screen. page is 16:9, A4, A3, Letter or a size such as 1920x1080 or
+    297x210mm: the drawing is arranged for it, unless sides or wrap say how. background is a colour such as
+    "#ffffff" or "transparent". Raises ReadError, WriteError, and ValueError for options that make no sense.
     """
-    options = look_options(look, palette, sides, head, wrap, legend)
-    if page is not None:
-        options.update(page_options(page))
-    given = {"levels": levels, "scale": scale, "margin": margin, "background": background}
-    options.update({name: value for name, value in given.items() if value is not None})
+    how = chosen(look=look, page=page, palette=palette, sides=sides, head=head, wrap=wrap, legend=legend)
+    what = chosen(levels=levels, scale=scale, margin=margin, background=background, title=title)
     application()
     if isinstance(source, Document):
-        _draw(source.head, path, options, title)
+        _draw(source.head, path, how, what)
     elif isinstance(source, Subject):
-        _draw(source, path, options, title)
+        _draw(source, path, how, what)
     else:
         with Model().open(source) as document:
-            _draw(document.head, path, options, title)
+            _draw(document.head, path, how, what)
 
 
-def _draw(subject: Subject, path: Path, options: Dict[str, Any], title: str) -> None:
+_USUAL: Options = {"look": "clear", "legend": True}
+
+
+def _draw(subject: Subject, path: Path, how: Options, what: Options) -> None:
     name = os.fspath(path)
-    given = json.dumps({**options, "title": title or subject.title})
-    reason = _fishbone.ScriptPicture.write(subject._there(), name, given)
+    handle = subject._there()
+    options = drawn_as(subject.document.view, how, _USUAL)
+    reason = _fishbone.ScriptPicture.write(handle, name, json.dumps({"title": subject.title, **options, **what}))
     if reason:
         raise WriteError(f"{name}: {reason}")

@@ -13,8 +13,9 @@ from PySide2.QtWidgets import QWidget
 
 from . import _fishbone
 from ._application import application
-from ._document import Document, look_options
+from ._document import Document
 from ._errors import GoneError
+from ._looks import Options, chosen, drawn_as
 from ._subject import Subject
 
 
@@ -28,13 +29,14 @@ class Editor(_fishbone.FishEditor):
     """
 
     def __init__(
-        self, document: Optional[Document] = None, parent: Optional[QWidget] = None, *, look: str = "clear"
+        self, document: Optional[Document] = None, parent: Optional[QWidget] = None, *, look: Optional[str] = None
     ) -> None:
         application()
         super().__init__(parent)
         self._document: Optional[Document] = None
         self.setAutosaveInterval(0)  # a script says itself what is written where
         self.undoStack().setRolling(True)
+        self._given: Options = {}
         self.set_look(look)
         if document is not None:
             self.show_document(document)
@@ -52,23 +54,31 @@ class Editor(_fishbone.FishEditor):
         if self._document is not None and self._document != document:
             self.undoStack().clear()
         self._document = document
+        self._apply_look()
         self.setModel(document.model)
         self.setRootIndex(head._there().index())
         self.expandAll()
 
     def set_look(
         self,
-        look: str,
+        look: Optional[str] = None,
         *,
-        palette: str = "colour",
-        sides: str = "one",
-        head: str = "right",
-        wrap: float = 0,
-        legend: bool = False,
+        palette: Optional[str] = None,
+        sides: Optional[str] = None,
+        head: Optional[str] = None,
+        wrap: Optional[float] = None,
+        legend: Optional[bool] = None,
     ) -> None:
-        """Draws in another look from now on, as fishbone.draw() has them."""
-        options = look_options(look, palette, sides, head, wrap, legend)
-        _fishbone.ScriptPicture.setLook(self, json.dumps(options))
+        """Draws in another look from now on, as fishbone.draw() has them.
+
+        What is not given is as each shown document was saved to be shown, else in the clear look.
+        """
+        self._given = chosen(look=look, palette=palette, sides=sides, head=head, wrap=wrap, legend=legend)
+        self._apply_look()
+
+    def _apply_look(self) -> None:
+        view = self._document.view if self._document is not None and self._document.is_open else {}
+        _fishbone.ScriptPicture.setLook(self, json.dumps(drawn_as(view, self._given, {"look": "clear"})))
 
     @property
     def selection(self) -> List[Subject]:

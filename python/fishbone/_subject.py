@@ -97,8 +97,13 @@ class Subject(Sequence):  # type: ignore[type-arg]  # of itself, which no type a
 
     @property
     def document(self) -> "Document":
-        """The document that the handle was taken from."""
-        return self._document
+        """The document that holds the subject; of one that is gone the one that it was taken from."""
+        from ._document import Document
+
+        handle = _fishbone.ScriptDocument.of(self._handle)
+        if not handle.isThere() or self._document._handle.isSame(handle):
+            return self._document
+        return Document(handle, self._document.model)
 
     @property
     def is_there(self) -> bool:

@@ -2,6 +2,8 @@
 # SPDX-License-Identifier: MIT
 """The editor is a widget of PySide2, with its signals and its history."""
 
+import json
+
 import pytest
 import shiboken2
 from PySide2.QtWidgets import QFrame, QMainWindow
@@ -124,6 +126,19 @@ def test_looks_draw_differently(editor):
     assert editor.grab().toImage() != clear
     with pytest.raises(ValueError):
         editor.set_look("modern")
+
+
+def test_an_editor_shows_a_document_as_it_was_shown(document):
+    contents = json.loads(document.dumps())
+    view = {"look": "classic"}
+    shown = fishbone.Editor(fishbone.loads(json.dumps({**contents, "view": view})))
+    usual, classic = fishbone.Editor(document), fishbone.Editor(fishbone.loads(document.dumps()), look="classic")
+    for editor in (shown, usual, classic):
+        editor.resize(400, 300)
+        editor.showEntire()
+    assert shown.grab().toImage() == classic.grab().toImage() != usual.grab().toImage()
+    shown.set_look("clear")
+    assert shown.grab().toImage() != classic.grab().toImage()
 
 
 def test_a_subclass_may_override_events(document):

@@ -13,7 +13,7 @@ from PySide2.QtCore import QObject
 from PySide2.QtWidgets import QTreeView, QWidget
 
 import fishbone
-from conftest import NOTES
+from conftest import NOTES, outline
 
 
 def test_a_subject_keeps_its_document():
@@ -118,6 +118,35 @@ def test_references_may_be_dropped_in_any_order(order):
         if "editor" in held:
             held["editor"].undo()
             held["editor"].redo()
+
+
+@pytest.mark.parametrize("shown", [(), (0,), (1,), (0, 1)], ids=str)
+@pytest.mark.parametrize("first_ends", [True, False])
+def test_a_subject_may_move_between_documents_that_editors_show(shown, first_ends):
+    model = fishbone.Model()
+    documents = [model.loads(NOTES, "md"), model.loads("# Other\n\n- Method\n", "md")]
+    editors = [fishbone.Editor(documents[number]) for number in shown]
+    moved = documents[0].head[0]
+    moved.move(documents[1].head)
+    assert [outline(document.head) for document in documents] == [
+        "Line 3 stopped[People[New shift]]", "Other[Method,Machine[Pump worn,Belt slips]]"]
+    for editor in editors:
+        editor.selectAll()
+        assert len(editor.selection) == sum(1 for _ in editor.document.head.walk())
+    moved[0].title = "Pump broken"
+    moved.move(documents[0].head, 0)
+    moved.move(documents[1].head, 0)
+    for editor in editors:
+        while editor.canUndo():
+            editor.undo()
+        while editor.canRedo():
+            editor.redo()
+        editor.grab()
+    documents[0 if first_ends else 1].close()
+    for editor in editors:
+        editor.undo()
+        editor.selectAll()
+        editor.grab()
 
 
 def test_a_slot_may_end_what_called_it(document):

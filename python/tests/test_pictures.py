@@ -2,10 +2,12 @@
 # SPDX-License-Identifier: MIT
 """Pictures are drawn by scripts, without a display."""
 
+import json
 import os
 import struct
 import subprocess
 import sys
+import zipfile
 
 import pytest
 
@@ -33,7 +35,7 @@ def test_a_file_is_drawn_in_one_line_without_a_display(tmp_path):
 
 
 @pytest.mark.parametrize("look", ["clear", "classic"])
-@pytest.mark.parametrize("ending, begin", [("png", b"\x89PNG"), ("svg", b"<?xml"), ("pdf", b"%PDF")])
+@pytest.mark.parametrize("ending, begin", [("png", b"\x89PNG"), ("svg", b"<?xml"), ("pdf", b"%PDF"), ("pptx", b"PK")])
 def test_every_look_is_drawn_in_every_format(document, tmp_path, look, ending, begin):
     path = tmp_path / f"out.{ending}"
     document.draw(path, look=look)
@@ -60,6 +62,79 @@ def test_a_subject_is_drawn_with_what_is_below(document, tmp_path):
     assert "Belt slips" in picture and "New shift" not in picture
 
 
+@pytest.mark.parametrize("look", ["clear", "classic"])
+@pytest.mark.parametrize("page, width", [(None, 12192000), ("A4", 9144000)])
+def test_a_slide_has_the_texts_of_the_diagram(document, tmp_path, look, page, width):
+    document.draw(tmp_path / "out.pptx", look=look, page=page)
+    with zipfile.ZipFile(tmp_path / "out.pptx") as slides:
+        assert "Pump worn" in slides.read("ppt/slides/slide1.xml").decode()
+        assert f'cx="{width}"' in slides.read("ppt/presentation.xml").decode()
+
+
+@pytest.mark.parametrize("look", ["clear", "classic"])
+def test_levels_that_are_left_out_are_not_drawn(document, tmp_path, look):
+    document.head[0][0].add("Seal leaks")
+    for ending in ("svg", "pptx"):
+        texts = []
+        for levels in (1, 2):
+            path = tmp_path / f"{levels}.{ending}"
+            document.draw(path, look=look, levels=levels)
+            texts.append(zipfile.ZipFile(path).read("ppt/slides/slide1.xml").decode() if ending == "pptx" else path.read_text())
+        assert "Pump worn" in texts[0] and "Seal leaks" not in texts[0]
+        assert "Seal leaks" in texts[1]
+
+
+VIEW = {"look": "clear", "palette": "dark", "head": "left", "page": "A4", "legend": False}
+
+
+@pytest.fixture
+def viewed(document):
+    """The document as it is saved when somebody has chosen how it is shown."""
+    return fishbone.loads(json.dumps({**json.loads(document.dumps()), "view": VIEW}))
+
+
+def drawn(source, tmp_path, **options):
+    path = tmp_path / "out.png"
+    fishbone.draw(source, path, **options)
+    return path.read_bytes()
+
+
+def test_a_picture_is_as_the_document_is_shown(viewed, document, tmp_path):
+    assert viewed.view == VIEW and document.view == {}
+    picture = drawn(viewed, tmp_path)
+    assert picture == drawn(document, tmp_path, palette="dark", head="left", page="A4", legend=False)
+    assert picture == drawn(viewed.head, tmp_path)
+    viewed.save(tmp_path / "viewed.json")
+    assert picture == drawn(tmp_path / "viewed.json", tmp_path)
+    assert png_size(tmp_path / "out.png") == (2245, 1587)  # 297 by 210 mm at 192 dots an inch
+
+
+@pytest.mark.parametrize("name, value", [("palette", "warm"), ("head", "right"), ("page", "800x600"), ("look", "classic")])
+def test_what_a_script_asks_for_comes_before_the_view_of_the_document(viewed, document, tmp_path, name, value):
+    other = {"palette": "dark", "head": "left", "page": "A4", "legend": False, name: value}
+    picture = drawn(viewed, tmp_path, **{name: value})
+    assert picture == drawn(document, tmp_path, **other) != drawn(viewed, tmp_path)
+
+
+def test_a_picture_is_that_of_the_program_unless_something_else_is_asked_for(document, tmp_path):
+    document.head[0][0].verdict = "confirmed"
+    assert drawn(document, tmp_path) == drawn(document, tmp_path, look="clear", legend=True, palette="colour")
+    assert drawn(document, tmp_path) != drawn(document, tmp_path, legend=False)
+
+
+def test_sides_that_are_chosen_are_kept_on_a_page(document, tmp_path):
+    for number in range(6):
+        document.head[0].add(f"Cause {number}")
+    one, both = (drawn(document, tmp_path, page="A4", sides=sides) for sides in ("one", "both"))
+    assert one != both
+
+
+@pytest.mark.parametrize("view", [[], "clear", {"look": ["clear"]}, {"look": "none", "palette": "dark"}, {"look": 5, "page": {}}])
+def test_a_view_that_makes_no_sense_is_none(document, tmp_path, view):
+    odd = fishbone.loads(json.dumps({**json.loads(document.dumps()), "view": view}))
+    assert drawn(odd, tmp_path) == drawn(document, tmp_path)
+
+
 def test_options_show_in_the_picture(document, tmp_path):
     pictures = set()
     for number, options in enumerate(
@@ -71,14 +146,16 @@ def test_options_show_in_the_picture(document, tmp_path):
     assert len(pictures) == 7
 
 
-@pytest.mark.parametrize("page, size", [("1920x1080", (1920, 1080)), ((800, 600), (800, 600)), ("25.4x12.7mm", (192, 96))])
+@pytest.mark.parametrize("page, size", [("1920x1080", (1920, 1080)), ((800, 600), (800, 600)), ("25.4x12.7mm", (192, 96)),
+                                        ("a4", (2245, 1587)), ("16:9", (1920, 1080))])
 def test_a_picture_is_as_large_as_its_page(document, tmp_path, page, size):
     document.draw(tmp_path / "out.png", page=page)
     assert png_size(tmp_path / "out.png") == size
 
 
 @pytest.mark.parametrize(
-    "options", [{"look": "modern"}, {"page": "16/9"}, {"page": (0, 5)}, {"palette": "pink"}, {"sides": ""}, {"head": "up"}]
+    "options", [{"look": "modern"}, {"page": "16/9"}, {"page": (0, 5)}, {"page": (-1, 5)},
+                {"page": ""}, {"palette": "pink"}, {"sides": ""}, {"head": "up"}]
 )
 def test_options_that_make_no_sense_are_value_errors(document, tmp_path, options):
     with pytest.raises(ValueError):

@@ -156,6 +156,22 @@ def test_a_subject_does_not_move_into_another_model(document):
     assert len(document.head) == 2 and len(other.head) == 0
 
 
+def test_a_subject_moves_into_another_document_of_its_model(tmp_path):
+    model = fishbone.Model()
+    first, second = model.loads("# A\n\n- a\n  - aa\n- b\n", "md"), model.loads("# B\n\n- c\n", "md")
+    for document in (first, second):
+        document.save(tmp_path / f"{document.head.title}.json")
+    moved, below = first.head[0], first.head[0][0]
+    moved.move(second.head, 0)
+    assert (outline(first.head), outline(second.head)) == ("A[b]", "B[a[aa],c]")
+    assert first.is_modified and second.is_modified
+    assert moved.document == below.document == second and moved.parent == second.head
+    first.close()
+    assert moved.title == "a" and below.is_there
+    second.close()
+    assert not moved.is_there and not below.is_there and moved.document == first
+
+
 def test_walk_visits_everything_in_the_order_of_the_document(document):
     titles = [subject.title for subject in document.head.walk()]
     assert titles == ["Line 3 stopped", "Machine", "Pump worn", "Belt slips", "People", "New shift"]
