@@ -18,6 +18,8 @@
 #include <fishbone/model/treeitem.h>
 
 namespace {
+constexpr std::size_t ahead = 4; ///< spears that are fetched while others are looked at
+
 bool isSeen(const QGraphicsItem *icon)
 {
     return icon && icon->isVisible() && !icon->boundingRect().isEmpty();
@@ -84,6 +86,9 @@ private:
         while (!pending.empty()) {
             const auto [place, parent] = pending.back();
             pending.pop_back();
+            if (pending.size() > ahead)
+                SpearPasses::prefetchParts(
+                    *entries[std::size_t(pending[pending.size() - ahead].first)].spear);
             const SpearTree::Entry &entry = entries[std::size_t(place)];
             const int index = int(spears.size());
             spears.push_back(entry.spear);

@@ -28,8 +28,7 @@ void FishLayout::refreshAll(Refresh refresh, Visit visit)
     SpearItem *const head = m_tree.head().spear;
     head->setLook(m_look);
     refresh(head, 0);
-    head->updateTaskStatus();
-    updateLinkItem(head);
+    SpearPasses::updateIcons(*head);
     visit(std::size_t(0), *head);
     for (const SpearTree::Entry &parent : m_tree.entries()) {
         for (int row = 0; row < parent.childCount; ++row) {
@@ -38,9 +37,9 @@ void FishLayout::refreshAll(Refresh refresh, Visit visit)
             const SpearTree::Entry &child = m_tree.entries()[place];
             child.spear->setLook(m_look);
             refresh(child.spear, SpearBuilder::directionFor(parent.spear, parent.level, row));
-            child.spear->updateTaskStatus();
+            SpearPasses::updateIcons(*child.spear);
             child.spear->setVisible(parent.spear->isExpand());
-            refreshCompanions(child);
+            refreshButton(child);
             visit(place, *child.spear);
         }
     }
@@ -81,9 +80,9 @@ void FishLayout::noteIn(SettledDrawing &settled) const
     settled.note(m_tree, m_look.get());
 }
 
-void FishLayout::refreshCompanions(const SpearTree::Entry &entry) const
+/** Gives the spear of @p entry its expand button, or takes it away with the last child. */
+void FishLayout::refreshButton(const SpearTree::Entry &entry)
 {
-    updateLinkItem(entry.spear);
     if (entry.childCount > 0)
         entry.spear->updateExpandButton();
     const TreeItem *const subject = entry.spear->treeItem();

@@ -41,7 +41,7 @@ private:
     template <typename Refresh, typename Visit>
     void refreshAll(Refresh refresh, Visit visit);
     void noteIn(SettledDrawing &settled) const;
-    void refreshCompanions(const SpearTree::Entry &entry) const;
+    static void refreshButton(const SpearTree::Entry &entry);
 
     SpearTree m_tree;
     std::shared_ptr<const DrawingLook> m_look;

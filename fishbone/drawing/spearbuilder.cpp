@@ -6,19 +6,13 @@
 #include <deque>
 #include <memory>
 
-#include <fishbone/items/expanditem.h>
-#include <fishbone/items/linkitem.h>
 #include <fishbone/items/spearitem.h>
+#include <fishbone/items/spearparts.h>
 #include <fishbone/model/fishmodel.h>
 #include <fishbone/model/treeitem.h>
 
 namespace {
 constexpr double headZValue = -100;
-
-void giveExpandItem(SpearItem *spear)
-{
-    spear->setExpandBuddy(std::make_unique<ExpandItem>(spear).release());
-}
 
 struct PendingSubtree
 {
@@ -30,14 +24,7 @@ struct PendingSubtree
 
 void updateLinkItem(SpearItem *spear)
 {
-    const TreeItem *const subject = spear->treeItem();
-    auto *const link = qgraphicsitem_cast<LinkItem *>(spear->linkItem());
-    if (subject && link && link->leadsTo(subject->url()))
-        link->updateSvgIcon();
-    else if (!subject || subject->url().isEmpty())
-        spear->setLinkItem(nullptr);
-    else
-        spear->setLinkItem(std::make_unique<LinkItem>(subject->url()).release());
+    SpearParts::of(*spear).companions.updateLink();
 }
 
 SpearItem *makeSpear(const QAbstractItemModel &model, const QModelIndex &index, int direction,
@@ -75,7 +62,7 @@ SpearItem *SpearBuilder::makeBone(const QModelIndex &index, SpearItem *parent, i
     SpearItem *const bone = makeSpear(m_model, index, direction, size);
     // Before the bone hangs anywhere: an item that is placed tells all above it.
     if (bone->treeItem()->childCount() > 0)
-        giveExpandItem(bone);
+        bone->updateExpandButton();
     bone->setParentItem(parent);
     return bone;
 }
@@ -141,7 +128,7 @@ SpearItem *SpearBuilder::buildSubtree(const QModelIndex &index, int level, int r
     if (!top)
         return nullptr;
     if (head && !top->treeItem()->url().isEmpty())
-        head->setLinkItem(std::make_unique<LinkItem>(top->treeItem()->url()).release());
+        SpearParts::of(*head).companions.showLink(top->treeItem()->url());
     std::deque<PendingSubtree> queue{{top, index, level}};
     while (!queue.empty()) {
         const PendingSubtree current = queue.front();

@@ -9,16 +9,18 @@
 
 namespace {
 constexpr std::size_t ahead = 8; ///< spears that are fetched while others are looked at
-constexpr std::size_t step = 4;  ///< between a spear, its parts and what is behind these
+constexpr std::size_t step = 4;  ///< between a spear, its parts, companions and their insides
 
 /** Fetches what is looked at after @p place of @p count spears, which @p spearAt has. */
 template <typename SpearAt>
 void fetchAfter(std::size_t place, std::size_t count, SpearAt spearAt)
 {
+    if (place + 4 * step < count)
+        prefetch(&spearAt(place + 4 * step), int(sizeof(SpearItem)));
     if (place + 3 * step < count)
-        prefetch(&spearAt(place + 3 * step), int(sizeof(SpearItem)));
+        SpearPasses::prefetchParts(spearAt(place + 3 * step));
     if (place + 2 * step < count)
-        SpearPasses::prefetchParts(spearAt(place + 2 * step));
+        SpearPasses::prefetchCompanions(spearAt(place + 2 * step));
     if (place + step < count)
         SpearPasses::prefetchInsides(spearAt(place + step));
 }
@@ -30,6 +32,8 @@ SpearTree::SpearTree(SpearItem *head)
     for (std::size_t current = 0; current < m_entries.size(); ++current) {
         if (current + ahead < m_entries.size())
             prefetch(m_entries[current + ahead].spear, int(sizeof(SpearItem)));
+        if (current + step < m_entries.size())
+            SpearPasses::prefetchParts(*m_entries[current + step].spear);
         const QList<SpearItem *> &children = m_entries[current].spear->knownChildSpears();
         m_entries[current].firstChild = int(m_entries.size());
         m_entries[current].childCount = children.count();
@@ -62,12 +66,15 @@ void SpearTree::prefetchMovedAfter(const std::vector<SpearItem *> &spears, std::
 
 void SpearTree::prefetchTextsAround(std::size_t place) const
 {
-    const auto fetch = [this](std::size_t far, std::size_t near) {
+    const auto fetch = [this](std::size_t far, std::size_t middle, std::size_t near) {
         if (far < m_entries.size())
             prefetch(m_entries[far].spear, int(sizeof(SpearItem)));
+        if (middle < m_entries.size())
+            SpearPasses::prefetchParts(*m_entries[middle].spear);
         if (near < m_entries.size())
             SpearPasses::prefetchText(*m_entries[near].spear);
     };
-    fetch(place + 2 * step, place + step);
-    fetch(place - 4 * step, place - 3 * step); // before the first one: beyond the last one
+    fetch(place + 3 * step, place + 2 * step, place + step);
+    // Before the first one: beyond the last one.
+    fetch(place - 5 * step, place - 4 * step, place - 3 * step);
 }

@@ -29,8 +29,8 @@ public:
     const std::vector<Entry> &entries() const { return m_entries; }
     /**
      * Has the processor fetch what a pass that goes forwards through the entries looks at a few
-     * entries after @p place: the spears themselves, nearer ones with their parts, and what the
-     * toolkit keeps of these.
+     * entries after @p place: the spears themselves, nearer ones with their parts, then with their
+     * companions, and what the toolkit keeps of these.
      */
     void prefetchAfter(std::size_t place) const;
     /** The same where spears and companions are moved, which those are told who listen. */

@@ -4,264 +4,135 @@
 #include <fishbone/items/spearitem.h>
 
 #include <QGraphicsSceneHoverEvent>
-#include <QPainter>
-#include <QStyleOptionGraphicsItem>
 
-#include <fishbone/items/expanditem.h>
-#include <fishbone/items/headpictures.h>
 #include <fishbone/items/hovercursor.h>
-#include <fishbone/items/linkitem.h>
-#include <fishbone/items/sceneselection.h>
 #include <fishbone/items/spearlook.h>
-#include <fishbone/items/stackorder.h>
-#include <fishbone/items/taskstatusitem.h>
+#include <fishbone/items/spearparts.h>
 #include <fishbone/items/textitem.h>
-#include <fishbone/items/titletext.h>
-#include <fishbone/model/fishmodel.h>
-#include <fishbone/model/treeitem.h>
+
+QPixmap *SpearItem::m_pixHeader = nullptr;
+QPixmap *SpearItem::m_pixTail = nullptr;
+int SpearItem::m_refCount = 0;
 
 SpearItem::SpearItem(const QString &text, int direction, double spearSize)
-    : m_text(text)
-    , m_look(SpearLook::standard())
-    , m_direction(direction)
-    , m_spearSize(spearSize)
+    : m_parts(std::make_unique<SpearParts>(*this, text, direction, spearSize))
 {
-    ++m_refCount;
-    HeadPictures::load();
-    setToolTip(text);
-    setFlags(ItemIsMovable | ItemIsSelectable | ItemSendsGeometryChanges | ItemIsPanel);
-    m_textItem = new TextItem(QString(), this);
-    m_statusItem = new TaskStatusItem(this, tsUnknown, 0);
-    setAcceptHoverEvents(true);
-    applyState(SpearStyle::ssNormal);
+    m_parts->begin();
 }
 
 SpearItem::~SpearItem()
 {
-    m_guard.clear();
-    if (SpearItem *const parent = standsOut() ? parentSpear() : nullptr)
-        parent->changeStandingOut(-1);
-    TreeItem *const subject = m_treeItem;
-    m_treeItem = nullptr;
-    if (subject && subject->spear() == this)
-        subject->setSpear(nullptr, QModelIndex());
-    if (--m_refCount == 0)
-        HeadPictures::release();
+    m_parts->end();
 }
 
 void SpearItem::setModelIndex(const QModelIndex &index)
 {
-    m_model = qobject_cast<const FishModel *>(index.model());
-    TreeItem *const subject = m_model ? m_model->getTreeItem(index) : nullptr;
-    if (subject != m_treeItem)
-        attachTreeItem(subject);
-    if (subject && subject->spear() != this) {
-        // Given an index directly, not through the subject: link both ends, which comes back here.
-        subject->setSpear(this, index);
-        return;
-    }
-    updateTaskStatus();
-    applyState(m_currentState);
+    m_parts->subject.setIndex(index);
 }
 
 QModelIndex SpearItem::modelIndex() const
 {
-    return m_model && m_treeItem ? m_model->indexFromItem(m_treeItem) : QModelIndex();
+    return m_parts->subject.index();
 }
 
-/** Makes @p item the subject without touching the item's own link. */
-void SpearItem::attachTreeItem(TreeItem *item)
+TreeItem *SpearItem::treeItem() const
 {
-    TreeItem *const previous = m_treeItem;
-    m_treeItem = item;
-    if (previous && previous != item && previous->spear() == this)
-        previous->setSpear(nullptr, QModelIndex());
-}
-
-/** The subject is gone or has another spear. */
-void SpearItem::forgetTreeItem()
-{
-    m_treeItem = nullptr;
-    m_model.clear();
+    return m_parts->subject.item();
 }
 
 bool SpearItem::isMovable() const
 {
-    return !m_treeItem || m_treeItem->spearItemIsMovable();
+    return m_parts->subject.isMovable();
 }
 
 void SpearItem::updateMovableFlag()
 {
-    setFlag(ItemIsMovable, isMovable());
+    m_parts->subject.updateMovableFlag();
 }
 
 void SpearItem::setTaskStatus(int status)
 {
-    if (!m_treeItem)
-        return;
-    m_treeItem->setStatus(status);
-    m_statusItem->setStatus(static_cast<TaskStatus>(status));
-    updatePosition(QPointF(0, 0));
+    m_parts->companions.setStatus(status);
 }
 
 void SpearItem::updateTaskStatus()
 {
-    if (!m_treeItem)
-        return;
-    m_statusItem->setTask(m_treeItem->status(), m_treeItem->progress());
+    m_parts->companions.updateStatus();
 }
 
 void SpearItem::updateToolTip()
 {
-    if (m_treeItem)
-        setToolTip(m_treeItem->toolTipString());
+    m_parts->subject.updateToolTip();
 }
 
 void SpearItem::setText(const QString &text)
 {
-    m_text = text;
-    setToolTip(text);
-    updateTextMetrics();
-    update();
+    m_parts->title.setText(text);
 }
 
-double SpearItem::textWidth() const
+QString SpearItem::text() const
 {
-    return m_textItem->textWidth();
+    return m_parts->title.text();
 }
 
-double SpearItem::textHeight() const
+QString SpearItem::textDisplay() const
 {
-    return m_textItem->textHeight();
-}
-
-/** How many characters of the title are shown; -1 for all, whatever their number. */
-int SpearItem::shownLength(const SpearStyle &style) const
-{
-    return TitleText::shownLength(m_text, style.textCount());
+    return m_parts->title.shownText();
 }
 
 void SpearItem::updateTextMetrics()
 {
-    showText(*style());
+    m_parts->title.show(*style());
 }
 
-void SpearItem::showText(const SpearStyle &style)
+double SpearItem::textWidth() const
 {
-    // This is asked for every bone of every layout: no copy of the font, no look at the letters of
-    // a text that is shown already.
-    const int length = shownLength(style);
-    const auto showIn = [this, length](const QFont &font) {
-        const bool isShown = length < 0 ? m_textItem->shows(font, m_text)
-                                        : m_textItem->shows(font, QStringView(m_text).left(length));
-        if (isShown)
-            return;
-        prepareGeometryChange();
-        m_textItem->showText(font, m_text.left(length));
-    };
-    if (const QFont *const set = style.textFont(textState()))
-        showIn(*set);
-    else
-        showIn(QFont());
-    // The box goes on showing the counts; only what is reported as the display text goes without.
-    if (m_treeItem && m_treeItem->isTopVaildItem())
-        m_textDisplay = TitleText::withoutCounts(m_text.left(length));
-    else if (length >= 0 && m_textDisplay != QStringView(m_text).left(length))
-        m_textDisplay = m_text.left(length);
-    else if (length < 0 && !m_textDisplay.isSharedWith(m_text))
-        m_textDisplay = m_text;
+    return textItem()->textWidth();
+}
+
+double SpearItem::textHeight() const
+{
+    return textItem()->textHeight();
 }
 
 SpearStyle *SpearItem::style() const
 {
-    SpearStyle *const own = m_treeItem ? m_treeItem->spearStyle() : nullptr;
-    return own ? own : SpearStyle::global();
+    return m_parts->subject.style();
 }
 
 SpearStyle::SpearState SpearItem::spearState(const QStyleOptionGraphicsItem *option) const
 {
-    if (m_linked)
-        return SpearStyle::ssLinked;
-    if (option->state & QStyle::State_MouseOver)
-        return SpearStyle::ssHovered;
-    if (option->state & QStyle::State_Selected)
-        return SpearStyle::ssSelected;
-    return SpearStyle::ssNormal;
+    return m_parts->appearance.stateOf(*option);
 }
 
-SpearStyle::SpearState SpearItem::interactionState() const
+SpearStyle::SpearState SpearItem::currentState() const
 {
-    QStyleOptionGraphicsItem option;
-    option.state.setFlag(QStyle::State_MouseOver, m_hovered);
-    option.state.setFlag(QStyle::State_Selected, isSelected());
-    return spearState(&option);
-}
-
-SpearStyle::SpearState SpearItem::boxState() const
-{
-    return qMax(m_currentState, m_textItem->ownState()); // they are numbered by their strength
-}
-
-SpearStyle::SpearState SpearItem::textState() const
-{
-    const SpearStyle::SpearState state = boxState();
-    return state == SpearStyle::ssLinked && isHeader() ? SpearStyle::ssNormal : state;
-}
-
-void SpearItem::updateTextLooks()
-{
-    showLooks(*style());
-}
-
-void SpearItem::showLooks(const SpearStyle &style)
-{
-    showText(style);
-    m_textItem->showColor(style.textColor(textState()));
-    showBox(style);
-    noteStandingOut();
-}
-
-/** Has the text box painted anew when what it paints behind and around its text is another. */
-void SpearItem::showBox(const SpearStyle &style)
-{
-    const SpearStyle::SpearState state = boxState();
-    if (state == SpearStyle::ssNormal)
-        return; // nothing but the text
-    const QColor background = style.textBkColor(state);
-    const QPen *const set = style.broderPen(state);
-    const QPen frame = set ? *set : QPen();
-    if (m_painted.background == background && m_painted.frame == frame)
-        return;
-    m_painted.background = background;
-    m_painted.frame = frame;
-    m_textItem->update();
-}
-
-/** Has the bone painted anew when the subject may be moved now, or no longer. */
-void SpearItem::showMovability()
-{
-    if (m_painted.isMovable == isMovable())
-        return;
-    m_painted.isMovable = isMovable();
-    update();
+    return m_parts->appearance.state();
 }
 
 void SpearItem::applyState(SpearStyle::SpearState state)
 {
-    const SpearStyle &applied = *style();
-    m_currentState = state;
-    showLooks(applied);
-    showPen(applied);
-    showMovability();
-    showButton();
+    m_parts->appearance.apply(state);
 }
 
-void SpearItem::showPen(const SpearStyle &style)
+SpearStyle::SpearState SpearItem::boxState() const
 {
-    if (const QPen *const set = style.broderPen(m_currentState))
-        setPen(*set);
-    else
-        setPen(QPen());
+    return m_parts->appearance.boxState();
+}
+
+SpearStyle::SpearState SpearItem::textState() const
+{
+    return m_parts->appearance.textState();
+}
+
+bool SpearItem::standsOut() const
+{
+    return m_parts->chain.standsOut();
+}
+
+void SpearItem::updateTextLooks()
+{
+    m_parts->appearance.showText(*style());
 }
 
 QFont SpearItem::textFont(SpearStyle::SpearState state) const
@@ -272,7 +143,7 @@ QFont SpearItem::textFont(SpearStyle::SpearState state) const
 
 QFont SpearItem::font() const
 {
-    return textFont(m_currentState);
+    return textFont(currentState());
 }
 
 QColor SpearItem::textColor(SpearStyle::SpearState state) const
@@ -296,85 +167,39 @@ int SpearItem::textDisplayCount() const
     return style()->textCount();
 }
 
+bool SpearItem::isLinked() const
+{
+    return m_parts->appearance.isLinked();
+}
+
+int SpearItem::linkNumber() const
+{
+    return m_parts->appearance.linkNumber();
+}
+
 void SpearItem::setLinked(bool linked, int number)
 {
-    prepareGeometryChange(); // the circle may lie outside the bone
-    m_linked = linked;
-    m_linkNumber = number;
-    applyState(interactionState());
-    update();
-    m_textItem->update();
+    m_parts->appearance.setLinked(linked, number);
+}
+
+bool SpearItem::isMoving() const
+{
+    return m_parts->appearance.isMoving();
 }
 
 void SpearItem::setMoving(bool moving)
 {
-    if (m_moving == moving)
-        return;
-    m_moving = moving;
-    update();
+    m_parts->appearance.setMoving(moving);
+}
+
+bool SpearItem::isExpand() const
+{
+    return m_parts->children.areShown();
 }
 
 void SpearItem::setExpand(bool expand)
 {
-    m_expand = expand;
-    update();
-    showChildren(); // the last: who hears of the selection may end the spear
-}
-
-void SpearItem::showChildren()
-{
-    const QList<SpearItem *> children = knownChildSpears();
-    const SelectionSilence silence(scene()); // what is hidden is not selected any more
-    for (SpearItem *child : children)
-        child->setVisible(m_expand);
-}
-
-int SpearItem::depth() const
-{
-    int ancestors = 0;
-    for (const QGraphicsItem *item = parentItem(); item; item = item->parentItem())
-        ++ancestors;
-    return ancestors;
-}
-
-QList<SpearItem *> SpearItem::childSpears() const
-{
-    QList<SpearItem *> spears;
-    const QList<QGraphicsItem *> items = childItems();
-    for (QGraphicsItem *item : items) {
-        if (auto *const spear = qgraphicsitem_cast<SpearItem *>(item))
-            spears.append(spear);
-    }
-    return spears;
-}
-
-void SpearItem::forgetChildSpears()
-{
-    m_childSpears.clear(); // one of them may be dying
-    m_knowsChildSpears = false;
-    ++m_treeChanges;
-}
-
-const QList<SpearItem *> &SpearItem::knownChildSpears() const
-{
-    if (!m_knowsChildSpears) {
-        m_childSpears = childSpears();
-        m_knowsChildSpears = true;
-    }
-    return m_childSpears;
-}
-
-void SpearItem::stackChildrenInRowOrder()
-{
-    if (!m_treeItem)
-        return;
-    forgetChildSpears();
-    QList<QGraphicsItem *> inRowOrder;
-    for (const TreeItem *subject : m_treeItem->childItems()) {
-        if (subject->spear() && subject->spear()->parentItem() == this)
-            inRowOrder.append(subject->spear());
-    }
-    StackOrder::arrange(this, inRowOrder);
+    m_parts->children.setShown(expand);
 }
 
 SpearItem *SpearItem::parentSpear() const
@@ -382,75 +207,216 @@ SpearItem *SpearItem::parentSpear() const
     return qgraphicsitem_cast<SpearItem *>(parentItem());
 }
 
-void SpearItem::setCompanion(QGraphicsItem *&companion, QGraphicsItem *item)
+int SpearItem::depth() const
 {
-    if (item == companion)
-        return;
-    const std::unique_ptr<QGraphicsItem> replaced(companion);
-    companion = item;
-    if (item)
-        item->setParentItem(this);
+    return m_parts->chain.depth();
+}
+
+QList<SpearItem *> SpearItem::childSpears() const
+{
+    return m_parts->children.find();
+}
+
+const QList<SpearItem *> &SpearItem::knownChildSpears() const
+{
+    return m_parts->children.known();
+}
+
+void SpearItem::stackChildrenInRowOrder()
+{
+    m_parts->children.stackInRowOrder();
+}
+
+TextItem *SpearItem::textItem() const
+{
+    return m_parts->companions.text();
+}
+
+TaskStatusItem *SpearItem::statusItem() const
+{
+    return m_parts->companions.status();
+}
+
+QGraphicsItem *SpearItem::linkItem() const
+{
+    return m_parts->companions.link();
+}
+
+QGraphicsItem *SpearItem::expandBuddy() const
+{
+    return m_parts->companions.button();
 }
 
 void SpearItem::setLinkItem(QGraphicsItem *item)
 {
-    setCompanion(m_linkItem, item);
-    if (m_linkItem)
-        m_linkItem->setPos(linkBuddyPosition());
+    m_parts->companions.setLink(item);
 }
 
 void SpearItem::setExpandBuddy(QGraphicsItem *item)
 {
-    setCompanion(m_expandBuddy, item);
-    m_isButtonHidden = false;
-    if (m_expandBuddy)
-        m_expandBuddy->setPos(expandBuddyPosition());
+    m_parts->companions.setButton(item);
 }
 
 void SpearItem::updateExpandButton()
 {
-    if (auto *const button = qgraphicsitem_cast<ExpandItem *>(m_expandBuddy))
-        button->updateSvgIcon();
-    else
-        setExpandBuddy(std::make_unique<ExpandItem>(this).release());
+    m_parts->companions.updateButton();
+}
+
+const SpearLook &SpearItem::look() const
+{
+    return m_parts->place.look();
+}
+
+void SpearItem::setLook(const std::shared_ptr<const SpearLook> &look)
+{
+    m_parts->place.setLook(look);
+}
+
+const SpearLookData *SpearItem::lookData() const
+{
+    return m_parts->place.lookData();
+}
+
+void SpearItem::setLookData(std::unique_ptr<const SpearLookData> data)
+{
+    m_parts->place.setLookData(std::move(data));
+}
+
+int SpearItem::dropRow(const QPointF &scenePos, const SpearItem *moving) const
+{
+    return m_parts->place.dropRow(scenePos, moving);
+}
+
+void SpearItem::setLine(const QLineF &line)
+{
+    QGraphicsLineItem::setLine(line);
+}
+
+int SpearItem::direction() const
+{
+    return m_parts->place.direction();
+}
+
+void SpearItem::setDirection(int direction)
+{
+    m_parts->place.setDirection(direction);
+}
+
+double SpearItem::spearSize() const
+{
+    return m_parts->place.spearSize();
+}
+
+double SpearItem::offset() const
+{
+    return m_parts->place.offset();
+}
+
+void SpearItem::setOffset(double distance)
+{
+    m_parts->place.addOffset(distance);
+}
+
+void SpearItem::initData(int direction)
+{
+    m_parts->place.reset(direction);
+    m_parts->children.show();
+}
+
+void SpearItem::sumChildSize(const QSizeF &size)
+{
+    m_parts->place.addChild(size);
+}
+
+const SpearItem::ChildExtents &SpearItem::childExtents() const
+{
+    return m_parts->place.children();
+}
+
+double SpearItem::spearWidth() const
+{
+    return look().width(*this);
+}
+
+double SpearItem::spearHeight() const
+{
+    return look().height(*this);
+}
+
+double SpearItem::backboneAngle() const
+{
+    return look().backboneAngle(*this);
+}
+
+void SpearItem::updatePosition(const QPointF &position)
+{
+    Q_UNUSED(position)
+    m_parts->place.setBelow(parentSpear());
+}
+
+QRectF SpearItem::textRect() const
+{
+    return look().textRect(*this);
+}
+
+QPointF SpearItem::expandBuddyPosition() const
+{
+    return look().buttonPosition(*this);
+}
+
+QPointF SpearItem::linkBuddyPosition() const
+{
+    return look().linkPosition(*this);
+}
+
+QPointF SpearItem::TaskStateItemPosition() const
+{
+    return look().statusPosition(*this);
+}
+
+QPointF SpearItem::textBuddyPosition()
+{
+    m_parts->companions.turnText();
+    return look().textPosition(*this);
+}
+
+QRectF SpearItem::boundingRect() const
+{
+    return m_parts->place.boundingRect();
+}
+
+QPainterPath SpearItem::shape() const
+{
+    return look().shape(*this);
+}
+
+void SpearItem::paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget)
+{
+    Q_UNUSED(widget)
+    applyState(spearState(option));
+    m_parts->place.paint(*painter);
+}
+
+quint64 SpearItem::treeChanges()
+{
+    return SpearChildren::changes();
+}
+
+std::shared_ptr<SpearItem *> SpearItem::guardCell()
+{
+    return m_parts->guard.shared(this);
 }
 
 QVariant SpearItem::itemChange(GraphicsItemChange change, const QVariant &value)
 {
     const QVariant result = QGraphicsLineItem::itemChange(change, value);
-    if (change == ItemSelectedHasChanged) {
-        // Applied here rather than by the next paint, which must find nothing to change.
-        applyState(interactionState());
-        m_textItem->update();
-    } else if (change == ItemSceneHasChanged && m_hovered) {
-        m_hovered = false; // the scene that it left sends no further event
-        applyState(interactionState());
-    } else if (change == ItemParentChange && standsOut() && parentSpear()) {
-        parentSpear()->changeStandingOut(-1);
-    } else if (change == ItemParentHasChanged && standsOut() && parentSpear()) {
-        parentSpear()->changeStandingOut(1);
-    } else if (change == ItemChildAddedChange) {
-        forgetChildSpears();
-    } else if (change == ItemChildRemovedChange) {
-        forgetChildSpears();
-        // A companion that dies or is given to somebody else is forgotten.
-        const auto *const removed = value.value<QGraphicsItem *>();
-        if (removed == m_linkItem)
-            m_linkItem = nullptr;
-        if (removed == m_expandBuddy)
-            m_expandBuddy = nullptr;
-    }
+    m_parts->follow(change, value);
     return result;
 }
 
 void SpearItem::hoverEnterEvent(QGraphicsSceneHoverEvent *event)
 {
-    m_hovered = true;
-    applyState(interactionState());
-    update();
-    m_textItem->update();
-    showHoverCursor(*this, event->scenePos());
-    updateToolTip();
+    m_parts->appearance.enter(*event);
     QGraphicsLineItem::hoverEnterEvent(event);
 }
 
@@ -462,10 +428,6 @@ void SpearItem::hoverMoveEvent(QGraphicsSceneHoverEvent *event)
 
 void SpearItem::hoverLeaveEvent(QGraphicsSceneHoverEvent *event)
 {
-    m_hovered = false;
-    applyState(interactionState());
-    update();
-    m_textItem->update();
-    showArrowCursor(*this);
+    m_parts->appearance.leave();
     QGraphicsLineItem::hoverLeaveEvent(event);
 }

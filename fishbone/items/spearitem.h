@@ -8,15 +8,13 @@
 #include <QFont>
 #include <QGraphicsLineItem>
 #include <QPen>
-#include <QPointer>
 
-#include <fishbone/base/guardedpointer.h>
 #include <fishbone/fishbone_export.h>
 #include <fishbone/style/spearstyle.h>
 
-class FishModel;
 class SpearLook;
 class SpearLookData;
+struct SpearParts;
 class TaskStatusItem;
 class TextItem;
 class TreeItem;
@@ -91,7 +89,7 @@ public:
     /** Where the subject stands in its model now; invalid without a subject in a model. */
     QModelIndex modelIndex() const;
     /** The subject, or null. */
-    TreeItem *treeItem() const { return m_treeItem; }
+    TreeItem *treeItem() const;
 
     /** Whether the subject may be dragged; true without a subject. */
     bool isMovable() const;
@@ -113,12 +111,12 @@ public:
     /** Sets title and tool tip. */
     void setText(const QString &text);
     /** The full title. */
-    QString text() const { return m_text; }
+    QString text() const;
     /**
      * The title as measured: cut to the style's count and, for the head of a document, without
      * the counts in parentheses.
      */
-    QString textDisplay() const { return m_textDisplay; }
+    QString textDisplay() const;
     /**
      * Brings the text box in line with title, style and current state; lays out nothing that has
      * not changed.
@@ -140,7 +138,7 @@ public:
     /** The state that @p option asks for: linked wins over hovered, hovered over selected. */
     SpearStyle::SpearState spearState(const QStyleOptionGraphicsItem *option) const;
     /** The state applied last. */
-    SpearStyle::SpearState currentState() const { return m_currentState; }
+    SpearStyle::SpearState currentState() const;
     /**
      * Applies @p state: its font, text colour and line width, where they differ from what is
      * shown.
@@ -158,7 +156,7 @@ public:
      * Whether this spear or one below it is selected, hovered or linked, its text box included.
      * Such spears lead from the header to what the user deals with.
      */
-    bool standsOut() const { return m_standingOut > 0; }
+    bool standsOut() const;
     /**
      * Brings font, colour and text of the text box in line with boxState(), where they differ. The
      * text of a header stays normal while it is linked.
@@ -179,19 +177,19 @@ public:
      */
 
     /** Whether the spear is marked as a link target. */
-    bool isLinked() const { return m_linked; }
+    bool isLinked() const;
     /** The child row that the link circle stands before. */
-    int linkNumber() const { return m_linkNumber; }
+    int linkNumber() const;
     /**
      * Marks the spear as a link target; @p number is the child row that the circle stands before.
      */
     void setLinked(bool linked, int number);
     /** Whether the bone is being moved. */
-    bool isMoving() const { return m_moving; }
+    bool isMoving() const;
     /** While set, the bone's line is not drawn. */
     void setMoving(bool moving);
     /** Whether the child spears are shown. */
-    bool isExpand() const { return m_expand; }
+    bool isExpand() const;
     /** Stores the flag and shows or hides every child spear. */
     void setExpand(bool expand);
     /** @} */
@@ -231,13 +229,13 @@ public:
      */
 
     /** The text box; a child item. */
-    TextItem *textItem() const { return m_textItem; }
+    TextItem *textItem() const;
     /** The status icon; a child item. */
-    TaskStatusItem *statusItem() const { return m_statusItem; }
+    TaskStatusItem *statusItem() const;
     /** The link icon; a child item, null for none. */
-    QGraphicsItem *linkItem() const { return m_linkItem; }
+    QGraphicsItem *linkItem() const;
     /** The expand button; a child item, null for none. */
-    QGraphicsItem *expandBuddy() const { return m_expandBuddy; }
+    QGraphicsItem *expandBuddy() const;
     /**
      * Gives the spear its link icon. The spear becomes its parent and owner; the icon it replaces
      * is deleted. Null removes the icon.
@@ -255,11 +253,11 @@ public:
      */
 
     /** What draws the spear; the classic look until another one is set. For the layout. */
-    const SpearLook &look() const { return *m_look; }
+    const SpearLook &look() const;
     /** Draws the spear in another look, which the next layout follows. For the layout. */
     void setLook(const std::shared_ptr<const SpearLook> &look);
     /** What the look keeps with the spear; null for nothing. */
-    const SpearLookData *lookData() const { return m_lookData.get(); }
+    const SpearLookData *lookData() const;
     /** Keeps @p data, after which everything is painted anew. For the look. */
     void setLookData(std::unique_ptr<const SpearLookData> data);
     /**
@@ -273,24 +271,24 @@ public:
     /** As setLine(const QLineF &), from the coordinates of the two points. */
     void setLine(qreal x1, qreal y1, qreal x2, qreal y2) { setLine(QLineF(x1, y1, x2, y2)); }
     /** The direction of the bone, as FishEditor::directionFor() gives it. */
-    int direction() const { return m_direction; }
+    int direction() const;
     /** Stores the direction; the next layout follows it. */
     void setDirection(int direction);
     /** -1: the drawing grows to the left of the head. */
-    int side() const { return m_side; }
+    int side() const { return -1; }
     /** Extra height of a horizontal bone, as given to the constructor. */
-    double spearSize() const { return m_spearSize; }
+    double spearSize() const;
     /** Distance along the parent's bone. */
-    double offset() const { return m_offset; }
+    double offset() const;
     /** Adds @p distance to the offset; initData() starts it at 0. */
-    void setOffset(double distance) { m_offset += distance; }
+    void setOffset(double distance);
 
     /** Resets the item for a new layout: position, offset, line, recorded child sizes. */
     void initData(int direction);
     /** Records the size of the next child spear. */
     void sumChildSize(const QSizeF &size);
     /** What sumChildSize() has recorded since initData(). */
-    const ChildExtents &childExtents() const { return m_children; }
+    const ChildExtents &childExtents() const;
     /** Extent along the horizontal, children included. */
     double spearWidth() const;
     /**
@@ -330,9 +328,9 @@ public:
                QWidget *widget = nullptr) override;
 
     /** How often a spear of this process has got or lost a child item. For the editor. */
-    static quint64 treeChanges() { return m_treeChanges; }
+    static quint64 treeChanges();
     /** What SpearPointer shares with the spear. For SpearPointer. */
-    std::shared_ptr<SpearItem *> guardCell() { return m_guard.shared(this); }
+    std::shared_ptr<SpearItem *> guardCell();
 
     /**
      * Head and tail picture, shared by all spears and deleted with the last one. A host may assign
@@ -350,80 +348,7 @@ protected:
     void hoverLeaveEvent(QGraphicsSceneHoverEvent *event) override;
 
 private:
-    friend class SpearPasses; // which a layout of a whole drawing takes its steps through
-    friend class TextItem;    // whose state the button follows
-    friend class TreeItem;    // which hands over its end of the link
+    friend struct SpearParts; // which do all of it
 
-    /** What was painted, or is about to be, of what no item keeps. */
-    struct Painted
-    {
-        QColor background; ///< of the text box; invalid for none
-        QPen frame;        ///< of the text box
-        bool isMovable = true;
-    };
-
-    void refresh(int direction);
-    void prefetchParts() const;
-    void prefetchInsides() const;
-    void prefetchText() const;
-    void prefetchListeners() const;
-    void beginLayout();
-    void place(SpearItem *parent);
-    void attachTreeItem(TreeItem *item);
-    void forgetTreeItem();
-    SpearStyle::SpearState interactionState() const;
-    void showChildren();
-    int shownLength(const SpearStyle &style) const;
-    void showText(const SpearStyle &style);
-    void showLooks(const SpearStyle &style);
-    void showBox(const SpearStyle &style);
-    void noteStandingOut();
-    void changeStandingOut(int by);
-    void showMovability();
-    void showButton();
-    void scaleIcons();
-    void repaintAll();
-    void setCompanion(QGraphicsItem *&companion, QGraphicsItem *item);
-    void placeCompanions();
-    void forgetChildSpears();
-    void moveLine(SpearItem *parent, const QLineF &placed);
-    void showPen(const SpearStyle &style);
-
-    void drawLinkCircle(QPainter *painter) const;
-    QRectF linkCircleRect() const;
-
-    static inline quint64 m_treeChanges = 0;
-
-    void showPictures();
-
-    SpearStyle::SpearState m_currentState = SpearStyle::ssNormal;
-    QString m_text;
-    QString m_textDisplay;
-    std::shared_ptr<const SpearLook> m_look;
-    std::unique_ptr<const SpearLookData> m_lookData;
-    ChildExtents m_children;
-    Painted m_painted;
-    qint64 m_paintedPictures = 0; ///< the header's
-    mutable QList<SpearItem *> m_childSpears;
-    mutable bool m_knowsChildSpears = true; ///< whether m_childSpears is up to date
-    double m_offset = 0;
-    int m_direction;
-    int m_side = -1;
-    QPointer<const FishModel> m_model;
-    int m_linkNumber = 0;
-    int m_standingOut = 0; ///< how many child spears do, itself included
-    bool m_linked = false;
-    bool m_moving = false;
-    bool m_expand = false;
-    bool m_hovered = false;
-    bool m_hasHiddenStatus = false; ///< as every header does
-    bool m_isButtonHidden = false;  ///< by the look
-    bool m_standsOutItself = false;
-    TextItem *m_textItem = nullptr;
-    QGraphicsItem *m_linkItem = nullptr;
-    QGraphicsItem *m_expandBuddy = nullptr;
-    TaskStatusItem *m_statusItem = nullptr;
-    TreeItem *m_treeItem = nullptr;
-    double m_spearSize;
-    GuardCell<SpearItem> m_guard;
+    const std::unique_ptr<SpearParts> m_parts;
 };

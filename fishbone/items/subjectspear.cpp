@@ -4,7 +4,7 @@
 // What a TreeItem tells the spear that draws it: defined here, since a subject knows nothing of
 // items.
 
-#include <fishbone/items/spearitem.h>
+#include <fishbone/items/spearparts.h>
 #include <fishbone/items/textitem.h>
 #include <fishbone/model/stylesession.h>
 #include <fishbone/model/treeitem.h>
@@ -23,7 +23,7 @@ void TreeItem::setSpear(SpearItem *spear, const QModelIndex &index)
     spear->setModelIndex(index);
     m_spear = spear; // an index of another node, or of none, made the spear leave this one
     if (spear->treeItem() != this)
-        spear->attachTreeItem(this);
+        SpearParts::of(*spear).subject.attach(this);
     spear->updateMovableFlag();
 }
 
@@ -44,5 +44,5 @@ void TreeItem::leaveSpear()
 {
     SpearItem *const former = std::exchange(m_spear, nullptr);
     if (former->treeItem() == this)
-        former->forgetTreeItem();
+        SpearParts::of(*former).subject.forget();
 }

@@ -17,6 +17,7 @@
 #include <fishbone/items/hovercursor.h>
 #include <fishbone/items/spearitem.h>
 #include <fishbone/items/spearlook.h>
+#include <fishbone/items/spearparts.h>
 #include <fishbone/style/textbox.h>
 
 namespace {
@@ -200,7 +201,7 @@ void TextItem::followInteraction()
     m_ownState = state;
     if (SpearItem *const spear = parentSpear()) {
         spear->updateTextLooks();
-        spear->showButton();
+        SpearParts::of(*spear).companions.showButton();
     }
     update();
 }

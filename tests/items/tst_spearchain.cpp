@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Fishbone authors
 // SPDX-License-Identifier: MIT
 
-#include <fishbone/items/spearitem.h>
+#include <fishbone/items/spearparts.h>
 
 #include <QGraphicsScene>
 #include <QtTest>
@@ -13,7 +13,7 @@
 #include <vector>
 
 /** That bones know whether they lead to one that is selected, hovered or linked. */
-class TestSpearItemChain : public QObject
+class TestSpearChain : public QObject
 {
     Q_OBJECT
 
@@ -25,6 +25,8 @@ private Q_SLOTS:
     void shouldForgetABoneThatIsEnded();
     void shouldForgetABoneThatLeavesTheScene();
     void shouldKeepUpWithManyOfAnyDepth();
+    void shouldCountWhatIsNotedOnce();
+    void shouldKnowItsDepth();
 };
 
 namespace {
@@ -62,7 +64,7 @@ struct Fish
 };
 } // namespace
 
-void TestSpearItemChain::shouldLeadToWhatIsSelected()
+void TestSpearChain::shouldLeadToWhatIsSelected()
 {
     Fish fish;
     QCOMPARE(fish.out(), QString());
@@ -74,7 +76,7 @@ void TestSpearItemChain::shouldLeadToWhatIsSelected()
     QCOMPARE(fish.out(), QStringLiteral("h"));
 }
 
-void TestSpearItemChain::shouldLeadToSeveral()
+void TestSpearChain::shouldLeadToSeveral()
 {
     Fish fish;
     fish.man->setSelected(true);
@@ -89,7 +91,7 @@ void TestSpearItemChain::shouldLeadToSeveral()
     QCOMPARE(fish.out(), QString());
 }
 
-void TestSpearItemChain::shouldLeadToALinkTargetAndToATextBox()
+void TestSpearChain::shouldLeadToALinkTargetAndToATextBox()
 {
     Fish fish;
     fish.wear->setLinked(true, 0);
@@ -103,7 +105,7 @@ void TestSpearItemChain::shouldLeadToALinkTargetAndToATextBox()
     QCOMPARE(fish.out(), QString());
 }
 
-void TestSpearItemChain::shouldFollowABoneToAnotherParent()
+void TestSpearChain::shouldFollowABoneToAnotherParent()
 {
     Fish fish;
     fish.training->setSelected(true);
@@ -117,7 +119,7 @@ void TestSpearItemChain::shouldFollowABoneToAnotherParent()
     QCOMPARE(fish.out(), QString());
 }
 
-void TestSpearItemChain::shouldForgetABoneThatIsEnded()
+void TestSpearChain::shouldForgetABoneThatIsEnded()
 {
     Fish fish;
     fish.training->setSelected(true);
@@ -130,7 +132,7 @@ void TestSpearItemChain::shouldForgetABoneThatIsEnded()
     QCOMPARE(fish.out(), QString());
 }
 
-void TestSpearItemChain::shouldForgetABoneThatLeavesTheScene()
+void TestSpearChain::shouldForgetABoneThatLeavesTheScene()
 {
     Fish fish;
     fish.training->setSelected(true);
@@ -141,7 +143,7 @@ void TestSpearItemChain::shouldForgetABoneThatLeavesTheScene()
     QCOMPARE(fish.out(), QString());
 }
 
-void TestSpearItemChain::shouldKeepUpWithManyOfAnyDepth()
+void TestSpearChain::shouldKeepUpWithManyOfAnyDepth()
 {
     constexpr int count = 3000;
     QGraphicsScene scene;
@@ -163,5 +165,23 @@ void TestSpearItemChain::shouldKeepUpWithManyOfAnyDepth()
     delete chain.front();
 }
 
-FISHBONE_TEST(TestSpearItemChain)
-#include "tst_spearitem_chain.moc"
+void TestSpearChain::shouldCountWhatIsNotedOnce()
+{
+    Fish fish;
+    SpearChain &chain = SpearParts::of(*fish.training).chain;
+    chain.note(true);
+    chain.note(true);
+    QCOMPARE(fish.out(), QStringLiteral("hmt"));
+    chain.note(false);
+    QCOMPARE(fish.out(), QString());
+}
+
+void TestSpearChain::shouldKnowItsDepth()
+{
+    Fish fish;
+    QCOMPARE(SpearParts::of(*fish.head).chain.depth(), 0);
+    QCOMPARE(SpearParts::of(*fish.wear).chain.depth(), 2);
+}
+
+FISHBONE_TEST(TestSpearChain)
+#include "tst_spearchain.moc"

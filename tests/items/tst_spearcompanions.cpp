@@ -1,0 +1,163 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#include <fishbone/items/spearparts.h>
+
+#include <QtTest>
+
+#include <memory>
+
+#include <fishbone/items/expanditem.h>
+#include <fishbone/items/linkitem.h>
+#include <fishbone/items/taskstatusitem.h>
+#include <fishbone/items/textitem.h>
+#include <tests/program/testprogram.h>
+#include <tests/support/drawing.h>
+
+using namespace TestSupport;
+
+/** Where companions are made, and that they follow subject and look. */
+class TestSpearCompanions : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void shouldMakeTextAndStatus();
+    void shouldKeepTheStatusInLineWithTheSubject();
+    void shouldKeepTheLinkInLineWithTheSubject();
+    void shouldMakeTheButtonOnce();
+    void shouldForgetWhatIsGivenToSomebodyElse();
+    void shouldPlaceAllOfThem();
+    void shouldHideTheStatusOfAHeader();
+    void shouldLeaveAStatusAloneThatAHostHides();
+};
+
+namespace {
+const QString man = QStringLiteral("Man");
+const QString fish = QStringLiteral("Effect[Man[Training],Machine]");
+
+SpearCompanions &companionsOf(const SpearItem &spear)
+{
+    return SpearParts::of(spear).companions;
+}
+} // namespace
+
+void TestSpearCompanions::shouldMakeTextAndStatus()
+{
+    SpearItem spear(man, 1, 20);
+    SpearCompanions companions(spear);
+    QCOMPARE(companions.text(), nullptr);
+    QCOMPARE(companions.status(), nullptr);
+    companions.make();
+    QCOMPARE(companions.text()->parentItem(), &spear);
+    QCOMPARE(companions.status()->parentItem(), &spear);
+    QCOMPARE(companions.link(), nullptr);
+    QCOMPARE(companions.button(), nullptr);
+}
+
+void TestSpearCompanions::shouldKeepTheStatusInLineWithTheSubject()
+{
+    const Drawing drawing(fish);
+    SpearCompanions &companions = companionsOf(*drawing.spear(man));
+    companions.setStatus(tsFinish);
+    QCOMPARE(drawing.node(man)->status(), int(tsFinish));
+    QCOMPARE(companions.status()->status(), tsFinish);
+    drawing.node(man)->setStatus(tsPostpone);
+    companions.updateStatus();
+    QCOMPARE(companions.status()->status(), tsPostpone);
+}
+
+void TestSpearCompanions::shouldKeepTheLinkInLineWithTheSubject()
+{
+    const Drawing drawing(fish);
+    SpearCompanions &companions = companionsOf(*drawing.spear(man));
+    companions.updateLink();
+    QCOMPARE(companions.link(), nullptr);
+    drawing.node(man)->setUrl(QStringLiteral("https://example.org/a"));
+    companions.updateLink();
+    QGraphicsItem *const link = companions.link();
+    QVERIFY(link);
+    QCOMPARE(link->pos(), drawing.spear(man)->linkBuddyPosition());
+    companions.updateLink();
+    QCOMPARE(companions.link(), link);
+    drawing.node(man)->setUrl(QStringLiteral("https://example.org/b"));
+    companions.updateLink();
+    QCOMPARE(qgraphicsitem_cast<LinkItem *>(companions.link())->url(),
+             QStringLiteral("https://example.org/b"));
+    drawing.node(man)->setUrl(QString());
+    companions.updateLink();
+    QCOMPARE(companions.link(), nullptr);
+}
+
+void TestSpearCompanions::shouldMakeTheButtonOnce()
+{
+    SpearItem spear(man, 1, 20);
+    SpearCompanions &companions = companionsOf(spear);
+    companions.updateButton();
+    QGraphicsItem *const button = companions.button();
+    QCOMPARE(button->parentItem(), &spear);
+    QCOMPARE(button->pos(), spear.expandBuddyPosition());
+    const QString contracted = qgraphicsitem_cast<ExpandItem *>(button)->svgFile();
+    spear.setExpand(true);
+    companions.updateButton();
+    QCOMPARE(companions.button(), button);
+    QVERIFY(qgraphicsitem_cast<ExpandItem *>(button)->svgFile() != contracted);
+}
+
+void TestSpearCompanions::shouldForgetWhatIsGivenToSomebodyElse()
+{
+    SpearItem spear(man, 1, 20);
+    SpearItem other(man, 1, 20);
+    SpearCompanions &companions = companionsOf(spear);
+    companions.updateButton();
+    companions.showLink(QStringLiteral("https://example.org"));
+    companions.button()->setParentItem(&other);
+    QCOMPARE(companions.button(), nullptr);
+    delete companions.link();
+    QCOMPARE(companions.link(), nullptr);
+}
+
+void TestSpearCompanions::shouldPlaceAllOfThem()
+{
+    const Drawing drawing(fish);
+    SpearItem &spear = *drawing.spear(man);
+    SpearCompanions &companions = companionsOf(spear);
+    companions.showLink(QStringLiteral("https://example.org"));
+    const QPointF elsewhere(1000, 1000);
+    for (QGraphicsItem *const item : {static_cast<QGraphicsItem *>(companions.text()),
+                                      static_cast<QGraphicsItem *>(companions.status()),
+                                      companions.link(), companions.button()})
+        item->setPos(elsewhere);
+    companions.text()->setRotation(7);
+    companions.place();
+    QCOMPARE(companions.text()->pos(), spear.textBuddyPosition());
+    QVERIFY(companions.text()->rotation() != 7);
+    QCOMPARE(companions.status()->pos(), spear.TaskStateItemPosition());
+    QCOMPARE(companions.link()->pos(), spear.linkBuddyPosition());
+    QCOMPARE(companions.button()->pos(), spear.expandBuddyPosition());
+}
+
+void TestSpearCompanions::shouldHideTheStatusOfAHeader()
+{
+    SpearItem head(QStringLiteral("Head"), 0, 20);
+    SpearItem spear(man, 1, 20);
+    SpearCompanions &companions = companionsOf(spear);
+    companions.place(); // without a parent
+    QVERIFY(!companions.status()->isVisible());
+    spear.setParentItem(&head);
+    companions.place();
+    QVERIFY(companions.status()->isVisible());
+    spear.setParentItem(nullptr);
+}
+
+void TestSpearCompanions::shouldLeaveAStatusAloneThatAHostHides()
+{
+    const Drawing drawing(fish);
+    SpearCompanions &companions = companionsOf(*drawing.spear(man));
+    companions.status()->setVisible(false);
+    companions.place();
+    QVERIFY(!companions.status()->isVisible());
+}
+
+FISHBONE_TEST(TestSpearCompanions)
+#include "tst_spearcompanions.moc"
