@@ -95,7 +95,10 @@ int main(int argc, char **argv)
     QApplication::setApplicationVersion(QStringLiteral(FISHBONE_VERSION_STRING));
     QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false"));
 
-    Language::install(languageFor(CommandLine::parse(QApplication::arguments())));
+    const CommandLine first = CommandLine::parse(QApplication::arguments());
+    if (QFileInfo(first.translations).isDir())
+        Language::useFolder(first.translations);
+    Language::install(languageFor(first));
     const CommandLine line = CommandLine::parse(QApplication::arguments()); // in that language now
     QString message;
     switch (line.action) {

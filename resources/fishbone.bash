@@ -17,7 +17,7 @@ _fishbone() {
         --page) words='A4 A3 Letter 1920x1080' ;;
         --palette) words='colour gray dark' ;;
         --head) words='right left' ;;
-        --export | --size | --scale) ;;
+        --export | --size | --scale | --translations) ;;
         *)
             local pictures='--expand --size --scale --background --look --page --legend --no-legend --palette --head'
             case $command in
@@ -25,7 +25,7 @@ _fishbone() {
                 info) words='--help --language --from --json' ;;
                 report | check) words='--help --language --from' ;;
                 merge) words='--help --language' ;;
-                *) words="--help --version --language --export $pictures" ;;
+                *) words="--help --version --language --translations --export $pictures" ;;
             esac
             [[ $current == -* ]] || words=
             ((COMP_CWORD > 1)) || words+=' convert info report check merge'

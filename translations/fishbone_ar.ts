@@ -706,6 +706,16 @@ What both changed differently is kept as in ours, with a cause that says so belo
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
         <translation>لا توجد شاشة عرض لفتح نافذة عليها؛ ولا يحتاج --export إلى واحدة</translation>
     </message>
+    <message>
+        <source>a folder</source>
+        <translatorcomment>Not yet read by a native speaker</translatorcomment>
+        <translation>مجلدًا</translation>
+    </message>
+    <message>
+        <source>Show the texts that the files in &lt;folder&gt; have, and show them anew when these are changed. For translators.</source>
+        <translatorcomment>Not yet read by a native speaker</translatorcomment>
+        <translation>عرض النصوص الموجودة في ملفات &lt;folder&gt;، وعرضها من جديد عند تغيّرها. للمترجمين.</translation>
+    </message>
 </context>
 <context>
     <name>DetailsForm</name>

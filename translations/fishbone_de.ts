@@ -694,6 +694,16 @@ Was beide verschieden geändert haben, bleibt wie in unserer, mit einer Ursache 
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
         <translation>es gibt keinen Bildschirm, um ein Fenster zu öffnen; --export braucht keinen</translation>
     </message>
+    <message>
+        <source>a folder</source>
+        <translatorcomment>Not yet read by a native speaker</translatorcomment>
+        <translation>einen Ordner</translation>
+    </message>
+    <message>
+        <source>Show the texts that the files in &lt;folder&gt; have, and show them anew when these are changed. For translators.</source>
+        <translatorcomment>Not yet read by a native speaker</translatorcomment>
+        <translation>Die Texte zeigen, die in den Dateien in &lt;folder&gt; stehen, und sie neu zeigen, wenn diese sich ändern. Für Übersetzer.</translation>
+    </message>
 </context>
 <context>
     <name>DetailsForm</name>

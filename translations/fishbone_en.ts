@@ -570,6 +570,14 @@ What both changed differently is kept as in ours, with a cause that says so belo
         <source>Show texts in &lt;language&gt;, such as de or zh, instead of the system&apos;s.</source>
         <translation>Show texts in &lt;language&gt;, such as de or zh, instead of the system&apos;s.</translation>
     </message>
+    <message>
+        <source>a folder</source>
+        <translation>a folder</translation>
+    </message>
+    <message>
+        <source>Show the texts that the files in &lt;folder&gt; have, and show them anew when these are changed. For translators.</source>
+        <translation>Show the texts that the files in &lt;folder&gt; have, and show them anew when these are changed. For translators.</translation>
+    </message>
 </context>
 <context>
     <name>DetailsForm</name>

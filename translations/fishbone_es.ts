@@ -694,6 +694,16 @@ Lo que ambas cambiaron de forma distinta queda como en la nuestra, con una causa
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
         <translation>no hay pantalla donde abrir una ventana; --export no la necesita</translation>
     </message>
+    <message>
+        <source>a folder</source>
+        <translatorcomment>Not yet read by a native speaker</translatorcomment>
+        <translation>una carpeta</translation>
+    </message>
+    <message>
+        <source>Show the texts that the files in &lt;folder&gt; have, and show them anew when these are changed. For translators.</source>
+        <translatorcomment>Not yet read by a native speaker</translatorcomment>
+        <translation>Mostrar los textos de los archivos de &lt;folder&gt; y volver a mostrarlos cuando estos cambian. Para traductores.</translation>
+    </message>
 </context>
 <context>
     <name>DetailsForm</name>

@@ -694,6 +694,16 @@ Ce que les deux ont changé différemment reste comme dans notre version, avec e
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
         <translation>il n’y a pas d’écran où ouvrir une fenêtre&#x202f;; --export n’en a pas besoin</translation>
     </message>
+    <message>
+        <source>a folder</source>
+        <translatorcomment>Not yet read by a native speaker</translatorcomment>
+        <translation>un dossier</translation>
+    </message>
+    <message>
+        <source>Show the texts that the files in &lt;folder&gt; have, and show them anew when these are changed. For translators.</source>
+        <translatorcomment>Not yet read by a native speaker</translatorcomment>
+        <translation>Afficher les textes des fichiers de &lt;folder&gt;, et les afficher à nouveau quand ces fichiers changent. Pour les traducteurs.</translation>
+    </message>
 </context>
 <context>
     <name>DetailsForm</name>

@@ -694,6 +694,16 @@ Ciò che entrambe hanno cambiato in modo diverso resta come nella nostra, con so
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
         <translation>non c’è uno schermo su cui aprire una finestra; --export non ne ha bisogno</translation>
     </message>
+    <message>
+        <source>a folder</source>
+        <translatorcomment>Not yet read by a native speaker</translatorcomment>
+        <translation>una cartella</translation>
+    </message>
+    <message>
+        <source>Show the texts that the files in &lt;folder&gt; have, and show them anew when these are changed. For translators.</source>
+        <translatorcomment>Not yet read by a native speaker</translatorcomment>
+        <translation>Mostra i testi dei file in &lt;folder&gt; e li mostra di nuovo quando questi cambiano. Per i traduttori.</translation>
+    </message>
 </context>
 <context>
     <name>DetailsForm</name>

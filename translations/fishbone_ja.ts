@@ -691,6 +691,16 @@ What both changed differently is kept as in ours, with a cause that says so belo
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
         <translation>ウィンドウを開く画面がありません。--export なら画面は不要です</translation>
     </message>
+    <message>
+        <source>a folder</source>
+        <translatorcomment>Not yet read by a native speaker</translatorcomment>
+        <translation>フォルダー</translation>
+    </message>
+    <message>
+        <source>Show the texts that the files in &lt;folder&gt; have, and show them anew when these are changed. For translators.</source>
+        <translatorcomment>Not yet read by a native speaker</translatorcomment>
+        <translation>&lt;folder&gt; にあるファイルの文言を表示し、ファイルが変わると表示し直します。翻訳者向けです。</translation>
+    </message>
 </context>
 <context>
     <name>DetailsForm</name>

@@ -691,6 +691,16 @@ What both changed differently is kept as in ours, with a cause that says so belo
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
         <translation>창을 열 화면이 없습니다. --export에는 화면이 필요 없습니다</translation>
     </message>
+    <message>
+        <source>a folder</source>
+        <translatorcomment>Not yet read by a native speaker</translatorcomment>
+        <translation>폴더</translation>
+    </message>
+    <message>
+        <source>Show the texts that the files in &lt;folder&gt; have, and show them anew when these are changed. For translators.</source>
+        <translatorcomment>Not yet read by a native speaker</translatorcomment>
+        <translation>&lt;folder&gt;에 있는 파일의 텍스트를 표시하고, 파일이 바뀌면 다시 표시합니다. 번역자용입니다.</translation>
+    </message>
 </context>
 <context>
     <name>DetailsForm</name>

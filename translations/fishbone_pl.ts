@@ -697,6 +697,16 @@ Co obie strony zmieniły różnie, pozostaje jak w naszej, a poniżej trafia prz
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
         <translation>nie ma ekranu, na którym można otworzyć okno; --export go nie potrzebuje</translation>
     </message>
+    <message>
+        <source>a folder</source>
+        <translatorcomment>Not yet read by a native speaker</translatorcomment>
+        <translation>folder</translation>
+    </message>
+    <message>
+        <source>Show the texts that the files in &lt;folder&gt; have, and show them anew when these are changed. For translators.</source>
+        <translatorcomment>Not yet read by a native speaker</translatorcomment>
+        <translation>Pokaż teksty z plików w &lt;folder&gt; i pokaż je ponownie, gdy pliki się zmienią. Dla tłumaczy.</translation>
+    </message>
 </context>
 <context>
     <name>DetailsForm</name>

@@ -694,6 +694,16 @@ O que ambos mudaram de forma diferente fica como na nossa, com uma causa abaixo 
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
         <translation>não há tela em que abrir uma janela; --export não precisa de nenhuma</translation>
     </message>
+    <message>
+        <source>a folder</source>
+        <translatorcomment>Not yet read by a native speaker</translatorcomment>
+        <translation>uma pasta</translation>
+    </message>
+    <message>
+        <source>Show the texts that the files in &lt;folder&gt; have, and show them anew when these are changed. For translators.</source>
+        <translatorcomment>Not yet read by a native speaker</translatorcomment>
+        <translation>Mostrar os textos dos arquivos em &lt;folder&gt; e mostrá-los de novo quando estes mudam. Para tradutores.</translation>
+    </message>
 </context>
 <context>
     <name>DetailsForm</name>

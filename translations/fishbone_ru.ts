@@ -697,6 +697,16 @@ What both changed differently is kept as in ours, with a cause that says so belo
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
         <translation>нет дисплея, на котором можно открыть окно; для --export он не нужен</translation>
     </message>
+    <message>
+        <source>a folder</source>
+        <translatorcomment>Not yet read by a native speaker</translatorcomment>
+        <translation>папку</translation>
+    </message>
+    <message>
+        <source>Show the texts that the files in &lt;folder&gt; have, and show them anew when these are changed. For translators.</source>
+        <translatorcomment>Not yet read by a native speaker</translatorcomment>
+        <translation>Показывать тексты из файлов в &lt;folder&gt; и показывать их заново, когда файлы изменяются. Для переводчиков.</translation>
+    </message>
 </context>
 <context>
     <name>DetailsForm</name>

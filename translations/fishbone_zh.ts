@@ -567,6 +567,14 @@ What both changed differently is kept as in ours, with a cause that says so belo
         <source>Show texts in &lt;language&gt;, such as de or zh, instead of the system&apos;s.</source>
         <translation>用 &lt;language&gt; 显示文本（例如 de 或 zh），而不用系统的语言。</translation>
     </message>
+    <message>
+        <source>a folder</source>
+        <translation>一个文件夹</translation>
+    </message>
+    <message>
+        <source>Show the texts that the files in &lt;folder&gt; have, and show them anew when these are changed. For translators.</source>
+        <translation>显示 &lt;folder&gt; 中文件里的文本，文件更改后重新显示。供翻译者使用。</translation>
+    </message>
 </context>
 <context>
     <name>DetailsForm</name>

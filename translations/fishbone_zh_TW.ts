@@ -691,6 +691,16 @@ What both changed differently is kept as in ours, with a cause that says so belo
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
         <translation>沒有可開啟視窗的顯示畫面；--export 不需要顯示畫面</translation>
     </message>
+    <message>
+        <source>a folder</source>
+        <translatorcomment>Not yet read by a native speaker</translatorcomment>
+        <translation>資料夾</translation>
+    </message>
+    <message>
+        <source>Show the texts that the files in &lt;folder&gt; have, and show them anew when these are changed. For translators.</source>
+        <translatorcomment>Not yet read by a native speaker</translatorcomment>
+        <translation>顯示 &lt;folder&gt; 中檔案裡的文字，檔案變更後重新顯示。供譯者使用。</translation>
+    </message>
 </context>
 <context>
     <name>DetailsForm</name>

@@ -15,6 +15,7 @@
 #include <fishbone/version.h>
 
 #include <QCommandLineParser>
+#include <QFileInfo>
 
 #include <optional>
 
@@ -63,6 +64,7 @@ CommandLine CommandLine::parse(const QStringList &arguments)
     CommandOptions::describeAll(parser);
     const bool wellFormed = parser.parse(arguments);
     line.language = parser.value(QStringLiteral("language"));
+    line.translations = parser.value(QStringLiteral("translations"));
     line.documents = parser.positionalArguments();
     line.command = commandFrom(line.documents.value(0));
     if (line.command != Command::None)
@@ -77,6 +79,8 @@ CommandLine CommandLine::parse(const QStringList &arguments)
     } else if (!line.language.isEmpty() && !Language::all().contains(line.language)) {
         line.refuse(expected(QStringLiteral("language"), line.language,
                              Language::all().join(QLatin1String(", "))));
+    } else if (!line.translations.isEmpty() && !QFileInfo(line.translations).isDir()) {
+        line.refuse(expected(QStringLiteral("translations"), line.translations, tr("a folder")));
     } else {
         line.readCommand(parser);
     }

@@ -66,6 +66,7 @@ public:
     Command command = Command::None;
     QString text;          ///< for Refuse: what is wrong; for Print: empty for the help text
     QString language;      ///< one that there is or, to go by the locale, empty
+    QString translations;  ///< a folder of texts to show instead of the own ones, or empty
     QStringList documents; ///< files and URLs
     QString target;        ///< the file to write
     std::optional<DiagramExchange::Format> from; ///< of the document

@@ -31,6 +31,14 @@ QCommandLineOption languageOption()
             QStringLiteral("language")};
 }
 
+QCommandLineOption translationsOption()
+{
+    return {QStringLiteral("translations"),
+            CommandLine::tr("Show the texts that the files in <folder> have, and show them anew "
+                            "when these are changed. For translators."),
+            QStringLiteral("folder")};
+}
+
 } // namespace
 
 namespace CommandOptions {
@@ -105,8 +113,8 @@ void describeWindow(QCommandLineParser &parser)
         "  check     name what is off in files, line by line\n"
         "  merge     merge two versions of a diagram, for git\n"
         "\"fishbone convert --help\" tells more. A file of such a name is ./convert."));
-    parser.addOptions(
-        {helpOption(), versionOption(), languageOption(), CommandOptions::forExport()});
+    parser.addOptions({helpOption(), versionOption(), languageOption(), translationsOption(),
+                       CommandOptions::forExport()});
     parser.addOptions(CommandOptions::forPictures());
     parser.addPositionalArgument(QStringLiteral("documents"),
                                  CommandLine::tr("Diagrams to open: files, or http and https URLs. "

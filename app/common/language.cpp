@@ -3,6 +3,8 @@
 
 #include <app/common/language.h>
 
+#include <app/common/translationfolder.h>
+
 #include <QApplication>
 #include <QFile>
 #include <QGuiApplication>
@@ -56,7 +58,7 @@ bool areRead(const QLocale &left, const QLocale &right)
 void installFrom(const QString &folder, const QString &name)
 {
     auto translator = std::make_unique<QTranslator>();
-    if (!translator->load(name, folder))
+    if (name.isEmpty() || !translator->load(name, folder))
         return;
     translator->setObjectName(keyName());
     translator->setParent(QCoreApplication::instance());
@@ -103,6 +105,8 @@ void Language::install(const QString &language)
     const QLocale locale = localeOf(shown);
     installFrom(toolkitTranslations(), QStringLiteral("qtbase_") + locale.name());
     installFrom(QStringLiteral(":/i18n"), QStringLiteral("fishbone_") + shown);
+    if (self.m_folder)
+        installFrom(QString(), self.m_folder->fileOf(shown));
     qDeleteAll(old);
     QGuiApplication::setLayoutDirection(locale.textDirection());
     showFormats();
@@ -163,6 +167,9 @@ QStringList Language::all()
         if (QFile::exists(QStringLiteral(":/i18n/fishbone_%1.qm").arg(code)))
             codes.append(code);
     }
+    if (const TranslationFolder *const folder = instance().m_folder)
+        codes += folder->languages();
+    codes.removeDuplicates();
     return codes;
 }
 
@@ -172,7 +179,18 @@ QString Language::nameOf(const QString &language)
         if (language == QLatin1String(entry.code))
             return QString::fromUtf8(entry.name);
     }
-    return {};
+    return localeOf(language).nativeLanguageName();
+}
+
+void Language::useFolder(const QString &folder)
+{
+    Language &self = instance();
+    delete self.m_folder;
+    if (folder.isEmpty())
+        return;
+    self.m_folder = new TranslationFolder(folder, QCoreApplication::instance()); // which owns it
+    connect(self.m_folder, &TranslationFolder::changed, &self,
+            [&self] { install(self.m_installed); });
 }
 
 void Language::bind(const QObject *keeper, const std::function<void()> &show)

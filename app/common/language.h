@@ -5,10 +5,13 @@
 
 #include <QLocale>
 #include <QObject>
+#include <QPointer>
 #include <QString>
 #include <QStringList>
 
 #include <functional>
+
+class TranslationFolder;
 
 /**
  * The language of what the program shows. It can change while the program runs, so a text that is
@@ -40,6 +43,13 @@ public:
     /** The one of all() that is shown, whatever was asked for. */
     static QString shown();
 
+    /**
+     * From now on shows the texts that the files in @p folder have, translations/ of the sources
+     * for one, rather than the program's own, and shows them anew when such a file is changed.
+     * Languages that only the folder has count among all(). Without a folder it is as before.
+     */
+    static void useFolder(const QString &folder);
+
     /** Installs @p language, and keeps it for the next runs. */
     static void choose(const QString &language);
     /** The language that was chosen, perhaps in an earlier run; empty for that of the system. */
@@ -65,6 +75,7 @@ private:
     QString nearest() const;
     QLocale locale() const;
 
+    QPointer<TranslationFolder> m_folder; ///< null while there are only the own texts
     QString m_installed;
     QLocale m_system; ///< the default while no other language is installed
 };

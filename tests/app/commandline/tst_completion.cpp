@@ -114,6 +114,7 @@ void TestCompletion::shouldLeaveFilesToTheShell()
 {
     QCOMPARE(completions(QStringLiteral("fishbone convert a")), QStringList());
     QCOMPARE(completions(QStringLiteral("fishbone --export ")), QStringList());
+    QCOMPARE(completions(QStringLiteral("fishbone --translations ")), QStringList());
 }
 
 FISHBONE_GUILESS_TEST(TestCompletion)
