@@ -9,6 +9,7 @@
 #include <app/diagram/marknames.h>
 #include <app/diagram/people.h>
 #include <app/diagram/subjectedit.h>
+#include <app/panels/markbox.h>
 
 #include <fishbone/exchange/meetingreport.h>
 #include <fishbone/model/treeitem.h>
@@ -106,9 +107,7 @@ private:
     static QWidget *statusField(QWidget *parent)
     {
         auto *const field = new QComboBox(parent);
-        const QStringList names = MarkNames::statuses();
-        for (int i = 0; i < int(names.size()); ++i)
-            field->addItem(names.at(i), MarkNames::noStatus + i);
+        MarkBox::listStatuses(*field);
         return field;
     }
 

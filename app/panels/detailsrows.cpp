@@ -3,22 +3,20 @@
 
 #include <app/panels/detailsrows.h>
 
-#include <app/diagram/marknames.h>
 #include <app/panels/detailsfield.h>
 #include <app/panels/detailsform.h>
+#include <app/panels/markbox.h>
 #include <app/panels/plannedendfield.h>
 #include <app/panels/prioritybox.h>
 #include <app/panels/stringlisteditor.h>
 
 #include <fishbone/items/linkitem.h>
-#include <fishbone/items/taskstatusinfo.h>
 #include <fishbone/model/subjectattribute.h>
 #include <fishbone/model/subjectmarks.h>
 #include <fishbone/model/treeitem.h>
 
 #include <QComboBox>
 #include <QHBoxLayout>
-#include <QIcon>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QSpinBox>
@@ -252,14 +250,12 @@ protected:
 class ChoiceField : public Field<QComboBox>
 {
 public:
-    /** The @p names of what the numbers from @p first on mean. */
-    ChoiceField(const Row &row, std::function<QStringList()> names, int first, QWidget *form)
+    /** The values are those that @p list brings into the box, in the language of then. */
+    ChoiceField(const Row &row, std::function<void(QComboBox &)> list, QWidget *form)
         : Field(row, new QComboBox(form), form)
-        , m_names(std::move(names))
+        , m_list(std::move(list))
     {
-        const int count = int(m_names().size());
-        for (int value = first; value < first + count; ++value)
-            field()->addItem(QString(), value);
+        m_list(*field());
         field()->setSizeAdjustPolicy(QComboBox::AdjustToContents);
         connect(field(), QOverload<int>::of(&QComboBox::currentIndexChanged), this,
                 &DetailsField::changed);
@@ -276,15 +272,13 @@ public:
     bool hasValue() const override { return field()->currentIndex() >= 0; }
     void showTexts(const QString &several) override
     {
-        const QStringList names = m_names();
-        for (int row = 0; row < int(names.size()); ++row)
-            field()->setItemText(row, names.at(row));
+        m_list(*field());
         field()->setPlaceholderText(several);
         field()->setMinimumWidth(field()->sizeHint().width()); // of its own it keeps the first one
     }
 
 private:
-    std::function<QStringList()> m_names;
+    std::function<void(QComboBox &)> m_list;
 };
 
 /** The status, with the icons that bones have. */
@@ -292,12 +286,9 @@ class StatusField : public ChoiceField
 {
 public:
     StatusField(const Row &row, QWidget *form)
-        : ChoiceField(row, &MarkNames::statuses, MarkNames::noStatus, form)
+        : ChoiceField(
+              row, [](QComboBox &box) { MarkBox::listStatuses(box); }, form)
     {
-        for (int status = tsUnknown; status <= tsWaittingAgree; ++status) {
-            const TaskStatusInfo info{TaskStatus(status), 0};
-            field()->setItemIcon(status - MarkNames::noStatus, QIcon(info.iconPath()));
-        }
     }
 };
 
@@ -306,7 +297,8 @@ class VerdictField : public ChoiceField
 {
 public:
     VerdictField(const Row &row, QWidget *form)
-        : ChoiceField(row, &MarkNames::verdicts, int(Verdict::None), form)
+        : ChoiceField(
+              row, [](QComboBox &box) { MarkBox::listVerdicts(box); }, form)
     {
     }
     void store(TreeItem &target) const override

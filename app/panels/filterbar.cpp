@@ -7,10 +7,8 @@
 #include <app/common/themedicon.h>
 #include <app/diagram/diagramsession.h>
 #include <app/diagram/drawingfilter.h>
-#include <app/diagram/marknames.h>
 #include <app/diagram/people.h>
-
-#include <fishbone/items/taskstatusinfo.h>
+#include <app/panels/markbox.h>
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -22,24 +20,6 @@
 #include <QSpinBox>
 #include <QToolButton>
 #include <QVBoxLayout>
-
-namespace {
-
-/** Fills @p box with @p any, which is no choice, and @p names, whose data counts up from @p first.
- * What is chosen stays. */
-void fillWithNames(QComboBox &box, const QString &any, const QStringList &names, int first)
-{
-    const QSignalBlocker blocker(&box);
-    const int chosen = box.currentIndex();
-    box.clear();
-    box.addItem(any);
-    for (int i = 0; i < int(names.size()); ++i)
-        box.addItem(names.at(i), first + i);
-    box.setCurrentIndex(qMax(0, chosen));
-    box.setToolTip(box.currentText());
-}
-
-} // namespace
 
 FilterBar::FilterBar(DiagramSession *session, DrawingFilter *filter, QWidget *parent)
     : QFrame(parent)
@@ -130,12 +110,10 @@ void FilterBar::connectFields()
 
 void FilterBar::showTexts()
 {
-    fillWithNames(*m_status, tr("Any status"), MarkNames::statuses(), MarkNames::noStatus);
-    for (int row = 2; row < m_status->count(); ++row) { // behind none
-        const TaskStatusInfo info{TaskStatus(m_status->itemData(row).toInt()), 0};
-        m_status->setItemIcon(row, QIcon(info.iconPath()));
-    }
-    fillWithNames(*m_verdict, tr("Any verdict"), MarkNames::verdicts(), int(Verdict::None));
+    MarkBox::listStatuses(*m_status, tr("Any status"));
+    MarkBox::listVerdicts(*m_verdict, tr("Any verdict"));
+    for (QComboBox *box : {m_status, m_verdict})
+        box->setToolTip(box->currentText());
     m_text->setPlaceholderText(tr("Text"));
     m_votes->setSpecialValueText(tr("Any votes"));
     m_votes->setPrefix(tr("Votes ≥ "));

@@ -3,18 +3,16 @@
 
 #include <app/panels/prioritybox.h>
 
-namespace {
-constexpr int noPriority = -1;
-} // namespace
+#include <fishbone/model/treeitem.h>
 
 QString PriorityBox::textFromValue(int value) const
 {
-    return value == noPriority ? tr("none") : QSpinBox::textFromValue(value);
+    return value == TreeItem::none ? tr("none") : QSpinBox::textFromValue(value);
 }
 
 int PriorityBox::valueFromText(const QString &text) const
 {
-    return text == tr("none") ? noPriority : QSpinBox::valueFromText(text);
+    return text == tr("none") ? TreeItem::none : QSpinBox::valueFromText(text);
 }
 
 QValidator::State PriorityBox::validate(QString &text, int &position) const
