@@ -7,11 +7,11 @@
 #include <app/diagram/diagramsession.h>
 #include <app/diagram/people.h>
 #include <app/diagram/subjectedit.h>
+#include <app/editing/markentries.h>
 
 #include <fishbone/editor/fisheditor.h>
 #include <fishbone/editor/graphicsview.h>
 #include <fishbone/items/spearitem.h>
-#include <fishbone/items/taskstatusinfo.h>
 #include <fishbone/items/textitem.h>
 #include <fishbone/model/fishmodel.h>
 #include <fishbone/model/subjectmarks.h>
@@ -30,76 +30,7 @@
 #include <utility>
 
 namespace {
-
-struct VerdictEntry
-{
-    Verdict verdict;
-    const char *action;
-    const char *text;
-    Qt::Key key; ///< with Alt
-};
-
-const VerdictEntry verdictEntries[] = {
-    {Verdict::Suspected, "verdictSuspected", QT_TRANSLATE_NOOP("MarkCommands", "&Suspected"),
-     Qt::Key_1},
-    {Verdict::Checking, "verdictChecking", QT_TRANSLATE_NOOP("MarkCommands", "Being &checked"),
-     Qt::Key_2},
-    {Verdict::Confirmed, "verdictConfirmed", QT_TRANSLATE_NOOP("MarkCommands", "Con&firmed"),
-     Qt::Key_3},
-    {Verdict::RuledOut, "verdictRuledOut", QT_TRANSLATE_NOOP("MarkCommands", "&Ruled out"),
-     Qt::Key_4},
-    {Verdict::RootCause, "verdictRootCause", QT_TRANSLATE_NOOP("MarkCommands", "R&oot cause"),
-     Qt::Key_5},
-    {Verdict::None, "verdictNone", QT_TRANSLATE_NOOP("MarkCommands", "&No verdict"), Qt::Key_0},
-};
-
-struct NumberEntry
-{
-    int value;
-    const char *action;
-    const char *text;
-};
-
-constexpr int nothing = -1; ///< as a status and as a priority
-
-const NumberEntry statusEntries[] = {
-    {tsWaitting, "statusWaiting", QT_TRANSLATE_NOOP("MarkCommands", "&Waiting")},
-    {tsWaittingAgree, "statusWaitingAgree",
-     QT_TRANSLATE_NOOP("MarkCommands", "Waiting for &approval")},
-    {tsRunning, "statusRunning", QT_TRANSLATE_NOOP("MarkCommands", "&Under way")},
-    {tsFinish, "statusFinished", QT_TRANSLATE_NOOP("MarkCommands", "&Finished")},
-    {tsFinishDelay, "statusFinishedLate", QT_TRANSLATE_NOOP("MarkCommands", "Finished &late")},
-    {tsPostpone, "statusPostponed", QT_TRANSLATE_NOOP("MarkCommands", "&Postponed")},
-    {tsCancel, "statusCancelled", QT_TRANSLATE_NOOP("MarkCommands", "&Cancelled")},
-    {nothing, "statusNone", QT_TRANSLATE_NOOP("MarkCommands", "&No status")},
-};
-
-const NumberEntry priorityEntries[] = {
-    {1, "priority1", QT_TRANSLATE_NOOP("MarkCommands", "&1 (highest)")},
-    {2, "priority2", QT_TRANSLATE_NOOP("MarkCommands", "&2 (high)")},
-    {3, "priority3", QT_TRANSLATE_NOOP("MarkCommands", "&3 (medium)")},
-    {4, "priority4", QT_TRANSLATE_NOOP("MarkCommands", "&4 (low)")},
-    {5, "priority5", QT_TRANSLATE_NOOP("MarkCommands", "&5 (lowest)")},
-    {nothing, "priorityNone", QT_TRANSLATE_NOOP("MarkCommands", "&No priority")},
-};
-
-struct ColourEntry
-{
-    QRgb colour;
-    const char *action;
-    const char *text;
-};
-
-const ColourEntry colourEntries[] = {
-    {0x1f6fb5, "colourBlue", QT_TRANSLATE_NOOP("MarkCommands", "&Blue")},
-    {0x0f7f86, "colourTeal", QT_TRANSLATE_NOOP("MarkCommands", "&Teal")},
-    {0x1f7a3d, "colourGreen", QT_TRANSLATE_NOOP("MarkCommands", "&Green")},
-    {0x7a5c00, "colourBrown", QT_TRANSLATE_NOOP("MarkCommands", "Bro&wn")},
-    {0xb8480f, "colourOrange", QT_TRANSLATE_NOOP("MarkCommands", "&Orange")},
-    {0xb3261e, "colourRed", QT_TRANSLATE_NOOP("MarkCommands", "&Red")},
-    {0x5b21b6, "colourPurple", QT_TRANSLATE_NOOP("MarkCommands", "&Purple")},
-    {0x4c5763, "colourGrey", QT_TRANSLATE_NOOP("MarkCommands", "Gr&ey")},
-};
+using MarkEntries::stepName;
 
 QIcon squareOf(const QColor &colour)
 {
@@ -108,12 +39,6 @@ QIcon squareOf(const QColor &colour)
     square.fill(colour);
     return square;
 }
-
-UndoCommand::Name stepName(const char *text)
-{
-    return [text] { return MarkCommands::tr(text); };
-}
-
 } // namespace
 
 MarkCommands::MarkCommands(DiagramSession *session, ActionSet *actions, QWidget *window)
@@ -127,13 +52,11 @@ MarkCommands::MarkCommands(DiagramSession *session, ActionSet *actions, QWidget 
     m_actions->add(
         QStringLiteral("markHere"), [] { return tr("Mark at the bo&ne"); }, {Qt::Key_Space},
         ActionSet::Scope::Drawing, [this] { showAtBone(); });
-    addVerdicts();
+    addMarks(m_menu, MarkEntries::verdicts(), QT_TR_NOOP("Change verdict"));
     m_menu->addSeparator();
     addVotes();
     m_menu->addSeparator();
-    addStatuses();
-    addPriorities();
-    addColours();
+    addMenus();
     add(m_menu, "manager", QT_TR_NOOP("R&esponsible…"), {QKeySequence(Qt::SHIFT | Qt::Key_F4)},
         [this] { chooseManager(); });
 }
@@ -157,28 +80,19 @@ QAction *MarkCommands::add(QMenu *menu, const char *name, const char *text,
     return action;
 }
 
-QAction *MarkCommands::addMark(QMenu *menu, const char *name, const char *text,
-                               const QList<QKeySequence> &keys, const UndoCommand::Name &step,
-                               const Change &change, const Test &test)
+/** Adds @p entries to @p menu, whose steps are called @p step. */
+void MarkCommands::addMarks(QMenu *menu, const std::vector<MarkEntry> &entries, const char *step)
 {
-    QAction *const action =
-        add(menu, name, text, keys, [this, step, change] { mark(step, change); });
-    action->setCheckable(true);
-    m_marks.push_back({action, test});
-    return action;
-}
-
-void MarkCommands::addVerdicts()
-{
-    for (const VerdictEntry &entry : verdictEntries) {
-        const Verdict verdict = entry.verdict;
-        addMark(
-            m_menu, entry.action, entry.text, {QKeySequence(int(Qt::ALT) + entry.key)},
-            stepName(QT_TR_NOOP("Change verdict")),
-            [verdict](TreeItem &subject) { SubjectMarks::setVerdict(subject, verdict); },
-            [verdict](const TreeItem &subject) {
-                return SubjectMarks::verdict(subject) == verdict;
-            });
+    for (const MarkEntry &entry : entries) {
+        QAction *const action =
+            add(menu, entry.action, entry.text, entry.keys,
+                [this, step, change = entry.change] { mark(stepName(step), change); });
+        action->setCheckable(true);
+        m_marks.push_back({action, entry.test});
+        // The set gives all icons anew when the palette changes.
+        if (entry.square.isValid())
+            connect(menu, &QMenu::aboutToShow, action,
+                    [action, square = entry.square] { action->setIcon(squareOf(square)); });
     }
 }
 
@@ -196,48 +110,16 @@ void MarkCommands::addVotes()
         {QKeySequence(Qt::CTRL | Qt::Key_F7)}, [this] { sortByVotes(); });
 }
 
-void MarkCommands::addStatuses()
+/** Adds the submenus. */
+void MarkCommands::addMenus()
 {
-    QMenu *const menu = addMenu("statusMenu", QT_TR_NOOP("S&tatus"));
-    for (const NumberEntry &entry : statusEntries) {
-        const int value = entry.value;
-        addMark(
-            menu, entry.action, entry.text, {}, stepName(QT_TR_NOOP("Change status")),
-            [value](TreeItem &subject) { subject.setStatus(value); },
-            [value](const TreeItem &subject) { return subject.status() == value; });
-    }
-}
-
-void MarkCommands::addPriorities()
-{
-    QMenu *const menu = addMenu("priorityMenu", QT_TR_NOOP("&Priority"));
-    for (const NumberEntry &entry : priorityEntries) {
-        const int value = entry.value;
-        addMark(
-            menu, entry.action, entry.text, {}, stepName(QT_TR_NOOP("Change priority")),
-            [value](TreeItem &subject) { subject.setPriority(value); },
-            [value](const TreeItem &subject) { return subject.priority() == value; });
-    }
-}
-
-void MarkCommands::addColours()
-{
-    QMenu *const menu = addMenu("colourMenu", QT_TR_NOOP("Colo&ur"));
-    const auto addColour = [this, menu](const char *name, const char *text, const QColor &colour) {
-        return addMark(
-            menu, name, text, {}, stepName(QT_TR_NOOP("Change colour")),
-            [colour](TreeItem &subject) { SubjectMarks::setColour(subject, colour); },
-            [colour](const TreeItem &subject) { return SubjectMarks::colour(subject) == colour; });
-    };
-    for (const ColourEntry &entry : colourEntries) {
-        const QColor colour(entry.colour);
-        QAction *const action = addColour(entry.action, entry.text, colour);
-        // The set gives all icons anew when the palette changes.
-        connect(menu, &QMenu::aboutToShow, action,
-                [action, colour] { action->setIcon(squareOf(colour)); });
-    }
-    addColour("colourNone", QT_TR_NOOP("That of the p&alette"), QColor());
-    add(menu, "colourOther", QT_TR_NOOP("Ot&her…"), {}, [this] { chooseColour(); });
+    addMarks(addMenu("statusMenu", QT_TR_NOOP("S&tatus")), MarkEntries::statuses(),
+             QT_TR_NOOP("Change status"));
+    addMarks(addMenu("priorityMenu", QT_TR_NOOP("&Priority")), MarkEntries::priorities(),
+             QT_TR_NOOP("Change priority"));
+    QMenu *const colours = addMenu("colourMenu", QT_TR_NOOP("Colo&ur"));
+    addMarks(colours, MarkEntries::colours(), QT_TR_NOOP("Change colour"));
+    add(colours, "colourOther", QT_TR_NOOP("Ot&her…"), {}, [this] { chooseColour(); });
 }
 
 void MarkCommands::mark(const UndoCommand::Name &step, const Change &change)
@@ -339,11 +221,11 @@ void MarkCommands::updateActions()
 {
     const SpearItem *const spear = m_editor->firstSelectedSpear();
     const bool isSubject = spear && spear->treeItem();
-    const QList<QAction *> all =
-        m_menu->actions() + m_menu->findChild<QMenu *>(QStringLiteral("statusMenu"))->actions() +
-        m_menu->findChild<QMenu *>(QStringLiteral("priorityMenu"))->actions() +
-        m_menu->findChild<QMenu *>(QStringLiteral("colourMenu"))->actions();
-    for (QAction *action : all)
+    QList<QAction *> all = m_menu->actions();
+    const QList<QMenu *> submenus = m_menu->findChildren<QMenu *>();
+    for (const QMenu *menu : submenus)
+        all += menu->actions();
+    for (QAction *action : qAsConst(all))
         action->setEnabled(isSubject);
     m_actions->action(QStringLiteral("markHere"))->setEnabled(isSubject);
     m_actions->action(QStringLiteral("sortByVotes"))->setEnabled(isSubject && !spear->isHeader());

@@ -19,6 +19,7 @@ class QColor;
 class QMenu;
 class QWidget;
 class TreeItem;
+struct MarkEntry;
 
 /**
  * The commands that say in one go what the selected subjects are: verdict, votes, status, priority,
@@ -53,18 +54,12 @@ private:
         Test test;
     };
 
-    void addVerdicts();
     void addVotes();
-    void addStatuses();
-    void addPriorities();
-    void addColours();
+    void addMenus();
     QMenu *addMenu(const char *name, const char *title);
     QAction *add(QMenu *menu, const char *name, const char *text, const QList<QKeySequence> &keys,
                  std::function<void()> run);
-    /** Adds what gives the selected subjects a value, which @p test finds in them. */
-    QAction *addMark(QMenu *menu, const char *name, const char *text,
-                     const QList<QKeySequence> &keys, const UndoCommand::Name &step,
-                     const Change &change, const Test &test);
+    void addMarks(QMenu *menu, const std::vector<MarkEntry> &entries, const char *step);
     void mark(const UndoCommand::Name &step, const Change &change);
     void setColour(const QColor &colour);
     void chooseColour();

@@ -3,37 +3,24 @@
 
 #pragma once
 
-#include <QList>
 #include <QMainWindow>
 
+#include <memory>
+
 class ActionSet;
-class ActionsPanel;
 class AutosaveStatus;
 class CanvasTheme;
-class DiagramCommands;
 class DiagramCounts;
 class DiagramSession;
 class DocumentTab;
 class DocumentTabs;
-class EditCommands;
-class ExportCommands;
-class FileCommands;
 class FileDrop;
 class FishEditor;
 class FishModel;
-class LookCommands;
-class MarkCommands;
-class Minimap;
-class QDockWidget;
-class QStackedWidget;
 class RecentFiles;
-class RecoveryCommands;
-class ReportCommands;
 class SubjectTree;
-class TabCommands;
-class TemplateCommands;
-class ViewCommands;
-class WindowLayout;
+class WindowCommands;
+class WindowDocks;
 class ZoomControls;
 
 /** The program's window: the documents in tabs, and around them the tree, details and history of
@@ -70,10 +57,8 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
+    void addStatus();
     void addCommands();
-    void addDocks();
-    QDockWidget *addDock(const char *name, const char *title, Qt::DockWidgetArea area,
-                         QWidget *contents);
     void addBars();
     void connectCommands();
     void takeIn(DocumentTab *tab);
@@ -92,22 +77,7 @@ private:
     ZoomControls *m_controls = nullptr;
     FileDrop *m_drops;
     AutosaveStatus *m_autosave = nullptr;
-    FileCommands *m_files = nullptr;
-    RecoveryCommands *m_recovery = nullptr;
-    ReportCommands *m_reports = nullptr;
-    TemplateCommands *m_templates = nullptr;
-    TabCommands *m_tabCommands = nullptr;
-    MarkCommands *m_marks = nullptr;
-    EditCommands *m_edits = nullptr;
-    ExportCommands *m_exports = nullptr;
-    ViewCommands *m_views = nullptr;
-    WindowLayout *m_layout = nullptr;
-    LookCommands *m_looks = nullptr;
-    QList<DiagramCommands *> m_commands; ///< all on the diagram of the current tab
-    QStackedWidget *m_trees = nullptr;
-    QStackedWidget *m_details = nullptr;
-    QStackedWidget *m_histories = nullptr;
-    Minimap *m_overview = nullptr;
-    ActionsPanel *m_actionsPanel = nullptr;
+    WindowCommands *m_commands = nullptr;
+    std::unique_ptr<WindowDocks> m_docks; ///< which are the window's
     DiagramCounts *m_counts = nullptr;
 };

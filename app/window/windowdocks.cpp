@@ -1,0 +1,115 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#include <app/window/windowdocks.h>
+
+#include <app/common/language.h>
+#include <app/common/themedicon.h>
+#include <app/documents/documenttab.h>
+#include <app/panels/actionspanel.h>
+#include <app/panels/detailspanel.h>
+#include <app/panels/historypanel.h>
+#include <app/panels/minimap.h>
+#include <app/panels/subjecttree.h>
+#include <app/window/windowlayout.h>
+
+#include <fishbone/editor/fisheditor.h>
+#include <fishbone/editor/graphicsview.h>
+
+#include <QAbstractButton>
+#include <QDockWidget>
+#include <QMainWindow>
+#include <QStackedWidget>
+
+namespace {
+void dressButton(const QDockWidget &dock, const char *name, const char *icon, const QString &text,
+                 const QString &description)
+{
+    auto *const button = dock.findChild<QAbstractButton *>(QLatin1String(name));
+    if (!button)
+        return;
+    button->setIcon(ThemedIcon::icon(QLatin1String(icon), dock.palette()));
+    button->setToolTip(text);
+    button->setAccessibleName(text);
+    button->setAccessibleDescription(description);
+}
+
+/** Names the buttons in the title of a dock, as the toolkit does once and for all, and gives them
+ * icons that can be seen on a dark desktop. */
+void dressTitle(const QDockWidget &dock)
+{
+    dressButton(dock, "qt_dockwidget_floatbutton", "floatpanel", WindowDocks::tr("Float"),
+                WindowDocks::tr("Takes the panel out of the window, or back into it"));
+    dressButton(dock, "qt_dockwidget_closebutton", "closepanel", WindowDocks::tr("Close"),
+                WindowDocks::tr("Closes the panel"));
+}
+} // namespace
+
+WindowDocks::WindowDocks(QMainWindow *window, QAction *exportActions)
+    : m_window(window)
+    , m_trees(new QStackedWidget(window))
+    , m_details(new QStackedWidget(window))
+    , m_histories(new QStackedWidget(window))
+    , m_overview(new Minimap(window))
+    , m_actions(new ActionsPanel(exportActions, window))
+{
+    QDockWidget *const trees =
+        add("documentsDock", QT_TR_NOOP("Subjects"), Qt::LeftDockWidgetArea, m_trees);
+    m_detailsDock = add("detailsDock", QT_TR_NOOP("Details"), Qt::RightDockWidgetArea, m_details);
+    QDockWidget *const histories =
+        add("historyDock", QT_TR_NOOP("History"), Qt::RightDockWidgetArea, m_histories);
+    QDockWidget *const overview =
+        add("overviewDock", QT_TR_NOOP("Overview"), Qt::LeftDockWidgetArea, m_overview);
+    QDockWidget *const actions =
+        add("actionsDock", QT_TR_NOOP("Actions"), Qt::BottomDockWidgetArea, m_actions);
+    actions->hide(); // until somebody wants it
+    window->resizeDocks({trees, m_detailsDock}, {240, 300}, Qt::Horizontal);
+    window->resizeDocks({m_detailsDock, histories}, {500, 160}, Qt::Vertical);
+    window->resizeDocks({trees, overview}, {500, 160}, Qt::Vertical);
+    m_layout = new WindowLayout(window, {actions, histories, m_detailsDock, overview, trees});
+}
+
+QDockWidget *WindowDocks::add(const char *name, const char *title, Qt::DockWidgetArea area,
+                              QWidget *contents)
+{
+    auto *const dock = new QDockWidget(m_window);
+    Language::bind(dock, [dock, title] {
+        dock->setWindowTitle(tr(title));
+        dressTitle(*dock);
+    });
+    QObject::connect(dock, &QDockWidget::topLevelChanged, dock, [dock] { dressTitle(*dock); });
+    dock->setObjectName(QLatin1String(name));
+    dock->setWidget(contents);
+    m_window->addDockWidget(area, dock);
+    return dock;
+}
+
+void WindowDocks::takeIn(const DocumentTab &tab)
+{
+    m_trees->addWidget(tab.tree());
+    m_details->addWidget(tab.details());
+    m_histories->addWidget(tab.history());
+}
+
+void WindowDocks::show(const DocumentTab &tab)
+{
+    m_trees->setCurrentWidget(tab.tree());
+    m_details->setCurrentWidget(tab.details());
+    m_histories->setCurrentWidget(tab.history());
+    m_overview->setSession(tab.session());
+    m_actions->setSession(tab.session());
+    m_layout->setDrawing(tab.editor()->view());
+}
+
+void WindowDocks::showDetails()
+{
+    m_detailsDock->show();
+    m_detailsDock->raise();
+}
+
+void WindowDocks::dressTitles() const
+{
+    const QList<QDockWidget *> docks = m_window->findChildren<QDockWidget *>();
+    for (const QDockWidget *dock : docks)
+        dressTitle(*dock);
+}
