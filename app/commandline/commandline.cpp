@@ -6,7 +6,6 @@
 #include <app/commandline/commandoptions.h>
 #include <app/commandline/optionvalues.h>
 #include <app/common/formatnames.h>
-#include <app/common/language.h>
 #include <app/files/documentloader.h>
 
 #include <fishbone/exchange/diagrampicture.h>
@@ -15,7 +14,6 @@
 #include <fishbone/version.h>
 
 #include <QCommandLineParser>
-#include <QFileInfo>
 
 #include <optional>
 
@@ -40,11 +38,6 @@ CommandLine::Command commandFrom(const QString &text)
     if (text == QLatin1String("merge"))
         return CommandLine::Command::Merge;
     return CommandLine::Command::None;
-}
-
-QString expected(const QString &option, const QString &value, const QString &what)
-{
-    return CommandLine::tr("--%1 takes %2, not \"%3\"").arg(option, what, value);
 }
 
 } // namespace
@@ -76,11 +69,8 @@ CommandLine CommandLine::parse(const QStringList &arguments)
         line.text = versionText();
     } else if (!wellFormed) {
         line.refuse(parser.errorText());
-    } else if (!line.language.isEmpty() && !Language::all().contains(line.language)) {
-        line.refuse(expected(QStringLiteral("language"), line.language,
-                             Language::all().join(QLatin1String(", "))));
-    } else if (!line.translations.isEmpty() && !QFileInfo(line.translations).isDir()) {
-        line.refuse(expected(QStringLiteral("translations"), line.translations, tr("a folder")));
+    } else if (const QString wrong = CommandOptions::wrongTexts(line); !wrong.isEmpty()) {
+        line.refuse(wrong);
     } else {
         line.readCommand(parser);
     }
@@ -236,7 +226,8 @@ bool CommandLine::readFormat(const QCommandLineParser &parser, const QString &na
     if (format)
         return refuse(tr("%1 can only be read").arg(DiagramExchange::name(*format)));
     if (isSet)
-        return refuse(expected(name, value, tr("one of %1").arg(FormatNames::ids(can))));
+        return refuse(
+            CommandOptions::expected(name, value, tr("one of %1").arg(FormatNames::ids(can))));
     if (reads)
         return refuse(tr("the format of \"%1\" is unknown: the name must end in one of %2, or "
                          "--from tell one of %3")
@@ -287,7 +278,7 @@ bool CommandLine::readOption(const QCommandLineParser &parser, const QString &na
         return true;
     const std::optional<Value> value = read(parser.value(name));
     if (!value)
-        return refuse(expected(name, parser.value(name), what));
+        return refuse(CommandOptions::expected(name, parser.value(name), what));
     destination = *value;
     return true;
 }

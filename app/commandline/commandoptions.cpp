@@ -5,10 +5,12 @@
 
 #include <app/commandline/lookchoice.h>
 #include <app/common/formatnames.h>
+#include <app/common/language.h>
 
 #include <fishbone/exchange/diagramexchange.h>
 
 #include <QCommandLineParser>
+#include <QFileInfo>
 
 namespace {
 
@@ -228,4 +230,20 @@ void CommandOptions::describeAll(QCommandLineParser &parser)
 {
     describeWindow(parser);
     parser.addOptions({forFrom(), forTo(), forStrict(), forJson()});
+}
+
+QString CommandOptions::expected(const QString &option, const QString &value, const QString &what)
+{
+    return CommandLine::tr("--%1 takes %2, not \"%3\"").arg(option, what, value);
+}
+
+QString CommandOptions::wrongTexts(const CommandLine &line)
+{
+    if (!line.language.isEmpty() && !Language::all().contains(line.language))
+        return expected(QStringLiteral("language"), line.language,
+                        Language::all().join(QLatin1String(", ")));
+    if (!line.translations.isEmpty() && !QFileInfo(line.translations).isDir())
+        return expected(QStringLiteral("translations"), line.translations,
+                        CommandLine::tr("a folder"));
+    return {};
 }

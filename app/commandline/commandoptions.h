@@ -28,4 +28,9 @@ void describe(QCommandLineParser &parser, CommandLine::Command command);
  */
 void describeAll(QCommandLineParser &parser);
 
+/** Says that @p option takes @p what instead of @p value. */
+QString expected(const QString &option, const QString &value, const QString &what);
+/** What is wrong with the texts that @p line asks for; empty when nothing is. */
+QString wrongTexts(const CommandLine &line);
+
 } // namespace CommandOptions
