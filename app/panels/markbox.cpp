@@ -15,7 +15,7 @@ namespace {
 
 /** Names the choices of @p box, which are added if there are none; their data counts up from
  * @p first. */
-void list(QComboBox &box, const QString &any, const QStringList &names, int first)
+void listNames(QComboBox &box, const QString &any, const QStringList &names, int first)
 {
     const QSignalBlocker blocker(&box);
     const int before = any.isEmpty() ? 0 : 1; // as many stand before the names
@@ -36,7 +36,7 @@ void list(QComboBox &box, const QString &any, const QStringList &names, int firs
 
 void MarkBox::listStatuses(QComboBox &box, const QString &any)
 {
-    list(box, any, MarkNames::statuses(), MarkNames::noStatus);
+    listNames(box, any, MarkNames::statuses(), MarkNames::noStatus);
     for (int row = 0; row < box.count(); ++row) {
         const QVariant status = box.itemData(row);
         if (status.isValid() && status.toInt() != MarkNames::noStatus)
@@ -46,5 +46,5 @@ void MarkBox::listStatuses(QComboBox &box, const QString &any)
 
 void MarkBox::listVerdicts(QComboBox &box, const QString &any)
 {
-    list(box, any, MarkNames::verdicts(), int(Verdict::None));
+    listNames(box, any, MarkNames::verdicts(), int(Verdict::None));
 }

@@ -18,7 +18,7 @@
 #include <fishbone/model/treeitem.h>
 
 namespace {
-constexpr std::size_t ahead = 4; ///< spears that are fetched while others are looked at
+constexpr std::size_t fetchedAhead = 4; ///< spears that are fetched while others are looked at
 
 bool isSeen(const QGraphicsItem *icon)
 {
@@ -86,9 +86,9 @@ private:
         while (!pending.empty()) {
             const auto [place, parent] = pending.back();
             pending.pop_back();
-            if (pending.size() > ahead)
+            if (pending.size() > fetchedAhead)
                 SpearPasses::prefetchParts(
-                    *entries[std::size_t(pending[pending.size() - ahead].first)].spear);
+                    *entries[std::size_t(pending[pending.size() - fetchedAhead].first)].spear);
             const SpearTree::Entry &entry = entries[std::size_t(place)];
             const int index = int(spears.size());
             spears.push_back(entry.spear);

@@ -33,8 +33,8 @@ private Q_SLOTS:
 };
 
 namespace {
-const QString man = QStringLiteral("Man");
-const QString fish = QStringLiteral("Effect[Man[Training],Machine]");
+const QString boneTitle = QStringLiteral("Man");
+const QString bonedFish = QStringLiteral("Effect[Man[Training],Machine]");
 
 SpearCompanions &companionsOf(const SpearItem &spear)
 {
@@ -44,7 +44,7 @@ SpearCompanions &companionsOf(const SpearItem &spear)
 
 void TestSpearCompanions::shouldMakeTextAndStatus()
 {
-    SpearItem spear(man, 1, 20);
+    SpearItem spear(boneTitle, 1, 20);
     SpearCompanions companions(spear);
     QCOMPARE(companions.text(), nullptr);
     QCOMPARE(companions.status(), nullptr);
@@ -57,41 +57,41 @@ void TestSpearCompanions::shouldMakeTextAndStatus()
 
 void TestSpearCompanions::shouldKeepTheStatusInLineWithTheSubject()
 {
-    const Drawing drawing(fish);
-    SpearCompanions &companions = companionsOf(*drawing.spear(man));
+    const Drawing drawing(bonedFish);
+    SpearCompanions &companions = companionsOf(*drawing.spear(boneTitle));
     companions.setStatus(tsFinish);
-    QCOMPARE(drawing.node(man)->status(), int(tsFinish));
+    QCOMPARE(drawing.node(boneTitle)->status(), int(tsFinish));
     QCOMPARE(companions.status()->status(), tsFinish);
-    drawing.node(man)->setStatus(tsPostpone);
+    drawing.node(boneTitle)->setStatus(tsPostpone);
     companions.updateStatus();
     QCOMPARE(companions.status()->status(), tsPostpone);
 }
 
 void TestSpearCompanions::shouldKeepTheLinkInLineWithTheSubject()
 {
-    const Drawing drawing(fish);
-    SpearCompanions &companions = companionsOf(*drawing.spear(man));
+    const Drawing drawing(bonedFish);
+    SpearCompanions &companions = companionsOf(*drawing.spear(boneTitle));
     companions.updateLink();
     QCOMPARE(companions.link(), nullptr);
-    drawing.node(man)->setUrl(QStringLiteral("https://example.org/a"));
+    drawing.node(boneTitle)->setUrl(QStringLiteral("https://example.org/a"));
     companions.updateLink();
     QGraphicsItem *const link = companions.link();
     QVERIFY(link);
-    QCOMPARE(link->pos(), drawing.spear(man)->linkBuddyPosition());
+    QCOMPARE(link->pos(), drawing.spear(boneTitle)->linkBuddyPosition());
     companions.updateLink();
     QCOMPARE(companions.link(), link);
-    drawing.node(man)->setUrl(QStringLiteral("https://example.org/b"));
+    drawing.node(boneTitle)->setUrl(QStringLiteral("https://example.org/b"));
     companions.updateLink();
     QCOMPARE(qgraphicsitem_cast<LinkItem *>(companions.link())->url(),
              QStringLiteral("https://example.org/b"));
-    drawing.node(man)->setUrl(QString());
+    drawing.node(boneTitle)->setUrl(QString());
     companions.updateLink();
     QCOMPARE(companions.link(), nullptr);
 }
 
 void TestSpearCompanions::shouldMakeTheButtonOnce()
 {
-    SpearItem spear(man, 1, 20);
+    SpearItem spear(boneTitle, 1, 20);
     SpearCompanions &companions = companionsOf(spear);
     companions.updateButton();
     QGraphicsItem *const button = companions.button();
@@ -106,8 +106,8 @@ void TestSpearCompanions::shouldMakeTheButtonOnce()
 
 void TestSpearCompanions::shouldForgetWhatIsGivenToSomebodyElse()
 {
-    SpearItem spear(man, 1, 20);
-    SpearItem other(man, 1, 20);
+    SpearItem spear(boneTitle, 1, 20);
+    SpearItem other(boneTitle, 1, 20);
     SpearCompanions &companions = companionsOf(spear);
     companions.updateButton();
     companions.showLink(QStringLiteral("https://example.org"));
@@ -119,8 +119,8 @@ void TestSpearCompanions::shouldForgetWhatIsGivenToSomebodyElse()
 
 void TestSpearCompanions::shouldPlaceAllOfThem()
 {
-    const Drawing drawing(fish);
-    SpearItem &spear = *drawing.spear(man);
+    const Drawing drawing(bonedFish);
+    SpearItem &spear = *drawing.spear(boneTitle);
     SpearCompanions &companions = companionsOf(spear);
     companions.showLink(QStringLiteral("https://example.org"));
     const QPointF elsewhere(1000, 1000);
@@ -140,7 +140,7 @@ void TestSpearCompanions::shouldPlaceAllOfThem()
 void TestSpearCompanions::shouldHideTheStatusOfAHeader()
 {
     SpearItem head(QStringLiteral("Head"), 0, 20);
-    SpearItem spear(man, 1, 20);
+    SpearItem spear(boneTitle, 1, 20);
     SpearCompanions &companions = companionsOf(spear);
     companions.place(); // without a parent
     QVERIFY(!companions.status()->isVisible());
@@ -152,8 +152,8 @@ void TestSpearCompanions::shouldHideTheStatusOfAHeader()
 
 void TestSpearCompanions::shouldLeaveAStatusAloneThatAHostHides()
 {
-    const Drawing drawing(fish);
-    SpearCompanions &companions = companionsOf(*drawing.spear(man));
+    const Drawing drawing(bonedFish);
+    SpearCompanions &companions = companionsOf(*drawing.spear(boneTitle));
     companions.status()->setVisible(false);
     companions.place();
     QVERIFY(!companions.status()->isVisible());

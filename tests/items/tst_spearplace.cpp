@@ -34,7 +34,7 @@ SpearPlace &placeOf(const SpearItem &spear)
 }
 
 /** Something that a look could keep. */
-class Note : public SpearLookData
+class LookNote : public SpearLookData
 {
 };
 } // namespace
@@ -114,8 +114,8 @@ void TestSpearPlace::shouldKeepWhatTheLookGivesIt()
 {
     const SpearItem spear(QStringLiteral("Cause"), 1, 20);
     QCOMPARE(placeOf(spear).lookData(), nullptr);
-    auto note = std::make_unique<const Note>();
-    const Note *const given = note.get();
+    auto note = std::make_unique<const LookNote>();
+    const LookNote *const given = note.get();
     placeOf(spear).setLookData(std::move(note));
     QCOMPARE(placeOf(spear).lookData(), given);
     placeOf(spear).setLookData(nullptr);
@@ -125,7 +125,7 @@ void TestSpearPlace::shouldKeepWhatTheLookGivesIt()
 void TestSpearPlace::shouldForgetWithItsLookWhatThatGaveIt()
 {
     const SpearItem spear(QStringLiteral("Cause"), 1, 20);
-    placeOf(spear).setLookData(std::make_unique<const Note>());
+    placeOf(spear).setLookData(std::make_unique<const LookNote>());
     placeOf(spear).setLook(SpearLook::standard()); // the one that it has
     QVERIFY(placeOf(spear).lookData());
     const auto other = std::make_shared<const ClearLook>(DiagramLook::Options());

@@ -27,7 +27,7 @@ private Q_SLOTS:
 };
 
 namespace {
-const QString man = QStringLiteral("Man");
+const QString manTitle = QStringLiteral("Man");
 
 SpearSubject &subjectOf(const SpearItem &spear)
 {
@@ -37,7 +37,7 @@ SpearSubject &subjectOf(const SpearItem &spear)
 
 void TestSpearSubject::shouldBeNoneToBeginWith()
 {
-    const SpearItem spear(man, 1, 20);
+    const SpearItem spear(manTitle, 1, 20);
     QCOMPARE(subjectOf(spear).item(), nullptr);
     QVERIFY(!subjectOf(spear).index().isValid());
     QCOMPARE(subjectOf(spear).style(), SpearStyle::global());
@@ -47,13 +47,13 @@ void TestSpearSubject::shouldBeNoneToBeginWith()
 void TestSpearSubject::shouldLinkBothEnds()
 {
     const Drawing drawing(QStringLiteral("Effect[Man,Machine]"));
-    SpearItem *const former = drawing.spear(man);
-    drawing.node(man)->setStatus(tsFinish);
-    SpearItem spear(man, 1, 20);
-    subjectOf(spear).setIndex(drawing.index(man));
-    QCOMPARE(subjectOf(spear).item(), drawing.node(man));
-    QCOMPARE(subjectOf(spear).index(), drawing.index(man));
-    QCOMPARE(drawing.node(man)->spear(), &spear);
+    SpearItem *const former = drawing.spear(manTitle);
+    drawing.node(manTitle)->setStatus(tsFinish);
+    SpearItem spear(manTitle, 1, 20);
+    subjectOf(spear).setIndex(drawing.index(manTitle));
+    QCOMPARE(subjectOf(spear).item(), drawing.node(manTitle));
+    QCOMPARE(subjectOf(spear).index(), drawing.index(manTitle));
+    QCOMPARE(drawing.node(manTitle)->spear(), &spear);
     QCOMPARE(spear.statusItem()->status(), tsFinish);
     QCOMPARE(subjectOf(*former).item(), nullptr);
 }
@@ -61,18 +61,18 @@ void TestSpearSubject::shouldLinkBothEnds()
 void TestSpearSubject::shouldLeaveTheSubjectOfAnotherSpearAlone()
 {
     const Drawing drawing(QStringLiteral("Effect[Man,Machine]"));
-    const SpearItem spear(man, 1, 20);
-    subjectOf(spear).attach(drawing.node(man)); // its end alone
+    const SpearItem spear(manTitle, 1, 20);
+    subjectOf(spear).attach(drawing.node(manTitle)); // its end alone
     subjectOf(spear).attach(nullptr);
-    QVERIFY(drawing.node(man)->spear());
-    QVERIFY(drawing.node(man)->spear() != &spear);
+    QVERIFY(drawing.node(manTitle)->spear());
+    QVERIFY(drawing.node(manTitle)->spear() != &spear);
 }
 
 void TestSpearSubject::shouldForgetASubjectThatLeaves()
 {
     const Drawing drawing(QStringLiteral("Effect[Man,Machine]"));
-    const SpearItem &spear = *drawing.spear(man);
-    drawing.node(man)->setSpear(nullptr, QModelIndex());
+    const SpearItem &spear = *drawing.spear(manTitle);
+    drawing.node(manTitle)->setSpear(nullptr, QModelIndex());
     QCOMPARE(subjectOf(spear).item(), nullptr);
     QVERIFY(!subjectOf(spear).index().isValid());
 }
@@ -80,27 +80,27 @@ void TestSpearSubject::shouldForgetASubjectThatLeaves()
 void TestSpearSubject::shouldLeaveNothingBehind()
 {
     const Drawing drawing(QStringLiteral("Effect[Man,Machine]"));
-    subjectOf(*drawing.spear(man)).leave();
-    QCOMPARE(drawing.node(man)->spear(), nullptr);
+    subjectOf(*drawing.spear(manTitle)).leave();
+    QCOMPARE(drawing.node(manTitle)->spear(), nullptr);
 }
 
 void TestSpearSubject::shouldTakeTheStyleOfItsSubject()
 {
     const Drawing drawing(QStringLiteral("Effect[Man,Machine]"),
                           {{QStringLiteral("textCount"), 3}});
-    QVERIFY(subjectOf(*drawing.spear(man)).style() != SpearStyle::global());
-    QCOMPARE(subjectOf(*drawing.spear(man)).style(), drawing.node(man)->spearStyle());
+    QVERIFY(subjectOf(*drawing.spear(manTitle)).style() != SpearStyle::global());
+    QCOMPARE(subjectOf(*drawing.spear(manTitle)).style(), drawing.node(manTitle)->spearStyle());
 }
 
 void TestSpearSubject::shouldBeAsMovableAsItsSubject()
 {
     const Drawing drawing(QStringLiteral("Effect[Man,Machine]"));
-    SpearItem &spear = *drawing.spear(man);
-    drawing.node(man)->setSpearItemIsMovable(false);
+    SpearItem &spear = *drawing.spear(manTitle);
+    drawing.node(manTitle)->setSpearItemIsMovable(false);
     QVERIFY(!subjectOf(spear).isMovable());
     subjectOf(spear).updateMovableFlag();
     QVERIFY(!spear.flags().testFlag(QGraphicsItem::ItemIsMovable));
-    drawing.node(man)->setSpearItemIsMovable(true);
+    drawing.node(manTitle)->setSpearItemIsMovable(true);
     subjectOf(spear).updateMovableFlag();
     QVERIFY(spear.flags().testFlag(QGraphicsItem::ItemIsMovable));
 }

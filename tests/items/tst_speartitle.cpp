@@ -25,7 +25,7 @@ private Q_SLOTS:
 };
 
 namespace {
-const QString cause = QStringLiteral("Causes"); // as long as the default style shows it
+const QString shortCause = QStringLiteral("Causes"); // as long as the default style shows it
 
 SpearTitle &titleOf(const SpearItem &spear)
 {
@@ -35,33 +35,33 @@ SpearTitle &titleOf(const SpearItem &spear)
 
 void TestSpearTitle::shouldShowTheWholeTitle()
 {
-    const SpearItem spear(cause, 1, 20);
-    QCOMPARE(titleOf(spear).text(), cause);
-    QCOMPARE(titleOf(spear).shownText(), cause);
-    QCOMPARE(spear.textItem()->toPlainText(), cause);
+    const SpearItem spear(shortCause, 1, 20);
+    QCOMPARE(titleOf(spear).text(), shortCause);
+    QCOMPARE(titleOf(spear).shownText(), shortCause);
+    QCOMPARE(spear.textItem()->toPlainText(), shortCause);
 }
 
 void TestSpearTitle::shouldCutTheTitleAsTheStyleSays()
 {
-    const SpearItem spear(cause, 1, 20);
+    const SpearItem spear(shortCause, 1, 20);
     SpearStyle style;
     style.setTextCount(4);
     titleOf(spear).show(style);
-    QCOMPARE(titleOf(spear).text(), cause);
+    QCOMPARE(titleOf(spear).text(), shortCause);
     QCOMPARE(titleOf(spear).shownText(), QStringLiteral("Caus"));
     QCOMPARE(spear.textItem()->toPlainText(), QStringLiteral("Caus"));
     style.setTextCount(0);
     titleOf(spear).show(style);
-    QCOMPARE(titleOf(spear).shownText(), cause);
-    QCOMPARE(spear.textItem()->toPlainText(), cause);
+    QCOMPARE(titleOf(spear).shownText(), shortCause);
+    QCOMPARE(spear.textItem()->toPlainText(), shortCause);
 }
 
 void TestSpearTitle::shouldShowATitleThatIsSet()
 {
     const SpearItem spear(QStringLiteral("Before"), 1, 20);
-    titleOf(spear).setText(cause);
-    QCOMPARE(spear.toolTip(), cause);
-    QCOMPARE(spear.textItem()->toPlainText(), cause);
+    titleOf(spear).setText(shortCause);
+    QCOMPARE(spear.toolTip(), shortCause);
+    QCOMPARE(spear.textItem()->toPlainText(), shortCause);
 }
 
 void TestSpearTitle::shouldReportTheTitleOfAHeadWithoutItsCounts()
@@ -77,12 +77,12 @@ void TestSpearTitle::shouldReportTheTitleOfAHeadWithoutItsCounts()
 
 void TestSpearTitle::shouldLayOutNoTextTwice()
 {
-    const SpearItem spear(cause, 1, 20);
+    const SpearItem spear(shortCause, 1, 20);
     QSignalSpy changes(spear.textItem()->document(), &QTextDocument::contentsChanged);
     titleOf(spear).show(*spear.style());
-    titleOf(spear).setText(cause);
+    titleOf(spear).setText(shortCause);
     QCOMPARE(changes.count(), 0);
-    titleOf(spear).setText(cause.toUpper());
+    titleOf(spear).setText(shortCause.toUpper());
     QVERIFY(changes.count() > 0);
 }
 
