@@ -244,7 +244,7 @@ bool CommandLine::readPicture(const QCommandLineParser &parser)
         return refuse(tr("--size and --scale exclude each other"));
     if (const QString reason = look.read(parser); !reason.isEmpty())
         return refuse(reason);
-    if (look.view.look == DiagramLook::Classic && !PictureExport::formatOf(target) &&
+    if (look.view.look != DiagramLook::Clear && !PictureExport::formatOf(target) &&
         !SlideExport::isSlide(target))
         return refuse(tr("a page for the browser needs the clear look"));
     return readOption(parser, QStringLiteral("expand"), OptionValues::levelsFrom,

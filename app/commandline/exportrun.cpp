@@ -55,11 +55,13 @@ int drawSlide(FishModel &model, FishInfo *document, const CommandLine &line, QSt
     LevelDrawing drawing(model, model.index(model.fishRow(document), 0));
     const TreeItem &head = *document->treeItem()->childAtIndex(0);
     const QSizeF page = pageOf(line);
+    DiagramLook::Options options = line.look.view.options;
     if (line.look.view.look == DiagramLook::Clear) {
-        DiagramPicture picture(&head, line.look.view.options, line.levels);
+        DiagramPicture picture(&head, options, line.levels);
         picture.arrangeFor(page);
-        drawing.setLook(DiagramLook::Clear, picture.options());
+        options = picture.options();
     }
+    drawing.setLook(line.look.view.look, options);
     drawing.expand(line.levels);
     drawing.update();
     QString reason;
@@ -81,12 +83,13 @@ PictureExport::Result drawClear(const TreeItem *head, const CommandLine &line,
                               ClearExport::suited(options, look.view.options));
 }
 
-/** Draws @p document of @p model in the classic look. */
-PictureExport::Result drawClassic(FishModel &model, FishInfo *document, const CommandLine &line,
-                                  const PictureOptions &options)
+/** Draws @p document of @p model in a look that draws with items. */
+PictureExport::Result drawItems(FishModel &model, FishInfo *document, const CommandLine &line,
+                                const PictureOptions &options)
 {
     const CanvasTheme theme; // gives the bones the user's style
     LevelDrawing drawing(model, model.index(model.fishRow(document), 0));
+    drawing.setLook(line.look.view.look, line.look.view.options);
     drawing.expand(line.levels);
     return PictureExport::write(*drawing.scene(), line.target, options);
 }
@@ -101,7 +104,7 @@ int drawPicture(FishModel &model, FishInfo *document, const CommandLine &line, Q
     options.title = head->title();
     const PictureExport::Result result = line.look.view.look == DiagramLook::Clear
                                              ? drawClear(head, line, options)
-                                             : drawClassic(model, document, line, options);
+                                             : drawItems(model, document, line, options);
     if (result)
         return CommandLine::success;
     message = CommandLine::tr("cannot write %1: %2").arg(line.target, result.reason);

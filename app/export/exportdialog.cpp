@@ -199,7 +199,7 @@ void ExportDialog::followFile()
 void ExportDialog::followLook()
 {
     m_measuring.start();
-    m_light->setEnabled(m_look->view().look == DiagramLook::Classic);
+    m_light->setEnabled(m_look->view().look != DiagramLook::Clear);
     m_size->setPage(page());
     followFile();
     followLight();

@@ -58,8 +58,8 @@ void LevelDrawing::update()
 
 void LevelDrawing::hideButtons()
 {
-    if (m_editor.look() != DiagramLook::Classic)
-        return;
+    if (m_editor.look() == DiagramLook::Clear)
+        return; // whose options say so
     const QList<QGraphicsItem *> items = scene()->items();
     for (QGraphicsItem *item : items) {
         if (item->type() == ExpandItem::Type)

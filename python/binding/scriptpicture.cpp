@@ -85,8 +85,10 @@ QString writeSlide(LevelDrawing &drawing, const TreeItem &head, const QString &f
 
 // An editor takes the diagram that it shows away from any other that shows it: this one gets a
 // copy.
-QString writeScene(TreeItem *head, const QString &fileName, const Wish &wish, bool isClear)
+QString writeScene(TreeItem *head, const QString &fileName, const Wish &wish,
+                   DiagramLook::Kind look)
 {
+    const bool isClear = look == DiagramLook::Clear;
     QJsonObject copy;
     FishModel::write(copy, head, true);
     FishModel model;
@@ -94,8 +96,7 @@ QString writeScene(TreeItem *head, const QString &fileName, const Wish &wish, bo
     if (!model.loadJsonFish(QJsonDocument(copy).toJson()))
         return QStringLiteral("the diagram has too many levels");
     LevelDrawing drawing(model, model.index(0, 0));
-    if (isClear)
-        drawing.setLook(DiagramLook::Clear, wish.pictureOf(head)->options());
+    drawing.setLook(look, isClear ? wish.pictureOf(head)->options() : wish.look);
     drawing.expand(wish.levels);
     drawing.update();
     if (SlideExport::isSlide(fileName))
@@ -135,7 +136,7 @@ QString ScriptPicture::write(const ScriptSubject &subject, const QString &fileNa
         return QStringLiteral("there is no such look");
     const bool isClear = look->kind() == DiagramLook::Clear;
     if (!isClear || SlideExport::isSlide(fileName))
-        return writeScene(head, fileName, wish, isClear);
+        return writeScene(head, fileName, wish, look->kind());
     return ClearExport::write(*wish.pictureOf(head), wish.page, fileName,
                               wish.pictureOptions(isClear))
         .reason;
