@@ -8,18 +8,6 @@
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
         <translation>المستوى %1</translation>
     </message>
-    <message numerus="yes">
-        <source>%n vote(s)</source>
-        <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>
-            <numerusform>%n صوت</numerusform>
-            <numerusform>%n صوت</numerusform>
-            <numerusform>%n صوتان</numerusform>
-            <numerusform>%n أصوات</numerusform>
-            <numerusform>%n صوتًا</numerusform>
-            <numerusform>%n صوت</numerusform>
-        </translation>
-    </message>
     <message>
         <source>linked</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>

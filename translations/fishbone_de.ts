@@ -8,14 +8,6 @@
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
         <translation>Ebene %1</translation>
     </message>
-    <message numerus="yes">
-        <source>%n vote(s)</source>
-        <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>
-            <numerusform>%n Stimme</numerusform>
-            <numerusform>%n Stimmen</numerusform>
-        </translation>
-    </message>
     <message>
         <source>linked</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>

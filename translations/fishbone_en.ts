@@ -35,13 +35,6 @@
         <source>Shows the bones below</source>
         <translation>Shows the bones below</translation>
     </message>
-    <message numerus="yes">
-        <source>%n vote(s)</source>
-        <translation>
-            <numerusform>%n vote</numerusform>
-            <numerusform>%n votes</numerusform>
-        </translation>
-    </message>
 </context>
 <context>
     <name>AccessibleDiagram</name>

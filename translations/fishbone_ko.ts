@@ -8,13 +8,6 @@
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
         <translation>%1단계</translation>
     </message>
-    <message numerus="yes">
-        <source>%n vote(s)</source>
-        <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>
-            <numerusform>%n표</numerusform>
-        </translation>
-    </message>
     <message>
         <source>linked</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>

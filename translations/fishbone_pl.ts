@@ -8,15 +8,6 @@
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
         <translation>poziom %1</translation>
     </message>
-    <message numerus="yes">
-        <source>%n vote(s)</source>
-        <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>
-            <numerusform>%n głos</numerusform>
-            <numerusform>%n głosy</numerusform>
-            <numerusform>%n głosów</numerusform>
-        </translation>
-    </message>
     <message>
         <source>linked</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>

@@ -8,14 +8,6 @@
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
         <translation>nível %1</translation>
     </message>
-    <message numerus="yes">
-        <source>%n vote(s)</source>
-        <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>
-            <numerusform>%n voto</numerusform>
-            <numerusform>%n votos</numerusform>
-        </translation>
-    </message>
     <message>
         <source>linked</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>

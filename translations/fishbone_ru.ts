@@ -8,15 +8,6 @@
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
         <translation>уровень %1</translation>
     </message>
-    <message numerus="yes">
-        <source>%n vote(s)</source>
-        <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>
-            <numerusform>%n голос</numerusform>
-            <numerusform>%n голоса</numerusform>
-            <numerusform>%n голосов</numerusform>
-        </translation>
-    </message>
     <message>
         <source>linked</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>

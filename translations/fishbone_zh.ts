@@ -35,12 +35,6 @@
         <source>Shows the bones below</source>
         <translation>显示下级鱼骨</translation>
     </message>
-    <message numerus="yes">
-        <source>%n vote(s)</source>
-        <translation>
-            <numerusform>%n 票</numerusform>
-        </translation>
-    </message>
 </context>
 <context>
     <name>AccessibleDiagram</name>

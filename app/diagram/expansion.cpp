@@ -42,11 +42,7 @@ bool makeBones(FishEditor &editor, const Progress &progress)
     const TreeItem *const root = model ? model->getTreeItem(editor.rootIndex()) : nullptr;
     if (!root)
         return true;
-    int total = 0;
-    visitSubjects(root, [&total](const TreeItem *) {
-        ++total;
-        return true;
-    });
+    const int total = countSubjects(*root);
     int done = 0;
     return visitSubjects(root, [&](const TreeItem *subject) {
         const TreeItem *const last = subject->childAtIndex(subject->childCount() - 1);

@@ -5,7 +5,6 @@
 
 #include <app/common/formatnames.h>
 
-#include <fishbone/base/jsonerrors.h>
 #include <fishbone/exchange/diagramexchange.h>
 #include <fishbone/exchange/jsondiagram.h>
 
@@ -43,10 +42,5 @@ QString LoadFailure::reasonOf(const QString &path)
 
 QString LoadFailure::reasonOfText(const QByteArray &json, const QJsonParseError &error)
 {
-    if (json.isEmpty())
-        return tr("it is empty");
-    const QString foreign = JsonDiagram::reasonAgainst(QJsonDocument::fromJson(json));
-    if (error.error == QJsonParseError::NoError && !foreign.isEmpty())
-        return foreign;
-    return JsonErrors::reason(json, error);
+    return json.isEmpty() ? tr("it is empty") : JsonDiagram::reasonAgainst(json, error);
 }

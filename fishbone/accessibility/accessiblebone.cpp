@@ -135,19 +135,15 @@ QString AccessibleBone::description() const
     if (!subject)
         return parts.constFirst();
     const QString status = ClearContent::meaningOf(subject->status());
-    if (!status.isEmpty())
-        parts.append(status);
+    parts.append(status);
     if (!status.isEmpty() || subject->progress() != 0)
         parts.append(QStringLiteral("%1 %").arg(subject->progress()));
-    if (const QString verdict = ClearContent::meaningOf(SubjectMarks::verdict(*subject));
-        !verdict.isEmpty())
-        parts.append(verdict);
-    if (const int votes = SubjectMarks::votes(*subject); votes > 0)
-        parts.append(tr("%n vote(s)", nullptr, votes));
+    parts << ClearContent::meaningOf(SubjectMarks::verdict(*subject))
+          << ClearContent::textOfVotes(SubjectMarks::votes(*subject));
     if (!subject->url().isEmpty())
         parts.append(tr("linked"));
-    if (const QString note = spear->data(SpearItem::noteKey).toString(); !note.isEmpty())
-        parts.append(note);
+    parts.append(spear->data(SpearItem::noteKey).toString());
+    parts.removeAll(QString());
     return parts.join(QStringLiteral(", "));
 }
 

@@ -13,16 +13,6 @@
 
 #include <utility>
 
-int ClearContent::countBelow(const TreeItem &subject)
-{
-    int count = -1; // without itself
-    visitSubjects(&subject, [&count](const TreeItem *) {
-        ++count;
-        return true;
-    });
-    return count;
-}
-
 QString ClearContent::meaningOf(int status)
 {
     switch (status) {
@@ -64,11 +54,15 @@ QString ClearContent::meaningOf(Verdict verdict)
     return QString();
 }
 
+QString ClearContent::textOfVotes(int votes)
+{
+    return votes > 0 ? tr("%n vote(s)", nullptr, votes) : QString();
+}
+
 QString ClearContent::shownIn(const TreeItem &subject)
 {
-    QStringList all{meaningOf(subject.status()), meaningOf(SubjectMarks::verdict(subject))};
-    if (const int votes = SubjectMarks::votes(subject); votes > 0)
-        all.append(tr("%n vote(s)", nullptr, votes));
+    QStringList all{meaningOf(subject.status()), meaningOf(SubjectMarks::verdict(subject)),
+                    textOfVotes(SubjectMarks::votes(subject))};
     all.removeAll(QString());
     return all.join(QStringLiteral(", "));
 }
@@ -168,7 +162,7 @@ ClearPictureContent ClearContent::of(const TreeItem *head, const Shows &shows)
         symbols.add(*item, content.looks.back(), level);
         const QList<TreeItem *> &children = item->childItems();
         if (index > 0 && !shows(*item, level)) {
-            content.subjects.back().hidden = countBelow(*item);
+            content.subjects.back().hidden = countSubjects(*item) - 1;
             continue;
         }
         for (auto child = children.crbegin(); child != children.crend(); ++child)

@@ -53,14 +53,14 @@ public:
     static QString meaningOf(int status);
     /** What @p verdict means, translated; empty for none. */
     static QString meaningOf(Verdict verdict);
+    /** That a subject has @p votes, translated; empty for none. */
+    static QString textOfVotes(int votes);
 
     /** What a picture says of @p item, which is at @p level and belongs to subject @p parent of the
      * picture; nothing of null. */
     static PictureSubject about(const TreeItem *item, int parent, int level);
     /** The font that @p subject has of its own. */
     static std::optional<ClearFont> ownFont(const TreeItem &subject);
-    /** How many subjects are below @p subject. Linear, without recursion. */
-    static int countBelow(const TreeItem &subject);
 
 private:
     static QString shownIn(const TreeItem &subject);

@@ -15,6 +15,7 @@
 #include <fishbone/items/spearpasses.h>
 #include <fishbone/items/taskstatusitem.h>
 #include <fishbone/model/subjectmarks.h>
+#include <fishbone/model/subjectwalk.h>
 #include <fishbone/model/treeitem.h>
 
 namespace {
@@ -29,7 +30,7 @@ int hiddenBelow(const SpearItem &spear)
 {
     if (spear.isExpand() && !spear.knownChildSpears().isEmpty())
         return 0;
-    return spear.treeItem() ? ClearContent::countBelow(*spear.treeItem())
+    return spear.treeItem() ? countSubjects(*spear.treeItem()) - 1
                             : spear.knownChildSpears().count();
 }
 

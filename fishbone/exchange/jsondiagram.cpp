@@ -3,6 +3,7 @@
 
 #include <fishbone/exchange/jsondiagram.h>
 
+#include <fishbone/base/jsonerrors.h>
 #include <fishbone/model/jsonnodes.h>
 
 #include <QJsonArray>
@@ -44,4 +45,11 @@ QString JsonDiagram::reasonAgainst(const QJsonDocument &document)
     if (!children.isUndefined() && !children.isArray() && !children.isNull())
         return tr("it is JSON of another kind: its \"children\" are no list");
     return QString();
+}
+
+QString JsonDiagram::reasonAgainst(const QByteArray &json, const QJsonParseError &error)
+{
+    const bool isWellFormed = error.error == QJsonParseError::NoError;
+    const QString reason = isWellFormed ? reasonAgainst(QJsonDocument::fromJson(json)) : QString();
+    return reason.isEmpty() ? JsonErrors::reason(json, error) : reason;
 }

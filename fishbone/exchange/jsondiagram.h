@@ -8,7 +8,9 @@
 #include <QCoreApplication>
 #include <QString>
 
+class QByteArray;
 class QJsonDocument;
+struct QJsonParseError;
 
 /** Tells diagrams from what else is kept as JSON. */
 class FISHBONE_EXPORT JsonDiagram
@@ -21,4 +23,6 @@ public:
      * what it has instead. Empty when it is one, or when it holds nothing at all.
      */
     static QString reasonAgainst(const QJsonDocument &document);
+    /** Why the text @p json, which was parsed with @p error, is no diagram; never empty. */
+    static QString reasonAgainst(const QByteArray &json, const QJsonParseError &error);
 };

@@ -15,3 +15,14 @@ bool visitSubjects(Subject *top, Visitor visit)
     };
     return visitPreOrder(top, childrenOf, visit);
 }
+
+/** How many subjects there are from @p top on, itself included. Linear, without recursion. */
+inline int countSubjects(const TreeItem &top)
+{
+    int count = 0;
+    visitSubjects(&top, [&count](const TreeItem *) {
+        ++count;
+        return true;
+    });
+    return count;
+}

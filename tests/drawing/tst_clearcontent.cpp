@@ -3,6 +3,7 @@
 
 #include <fishbone/drawing/clearcontent.h>
 #include <fishbone/items/taskstatusinfo.h>
+#include <fishbone/model/subjectwalk.h>
 #include <fishbone/model/treeitem.h>
 
 #include <tests/program/testprogram.h>
@@ -15,6 +16,8 @@ class TestClearContent : public QObject
 
 private Q_SLOTS:
     void shouldExplainEachIconOnce();
+    void shouldSayHowManyVotesThereAre();
+    void shouldCountWhatIsFolded();
 };
 
 /** What is under way and all done has the icon of what waits for approval. */
@@ -35,6 +38,22 @@ void TestClearContent::shouldExplainEachIconOnce()
     QCOMPARE(ClearContent::of(&head).legendTexts(),
              (std::vector<QString>{ClearContent::meaningOf(tsRunning),
                                    ClearContent::meaningOf(tsWaittingAgree)}));
+}
+
+void TestClearContent::shouldSayHowManyVotesThereAre()
+{
+    QCOMPARE(ClearContent::textOfVotes(0), QString());
+    QVERIFY(ClearContent::textOfVotes(12).contains(QStringLiteral("12")));
+}
+
+void TestClearContent::shouldCountWhatIsFolded()
+{
+    TreeItem head;
+    head.insertChildren(0, 1, QString());
+    head.childAtIndex(0)->insertChildren(0, 2, QString());
+    head.childAtIndex(0)->childAtIndex(1)->insertChildren(0, 3, QString());
+    QCOMPARE(countSubjects(head), 7);
+    QCOMPARE(ClearContent::of(&head, 0).subjects.back().hidden, 5);
 }
 
 FISHBONE_GUILESS_TEST(TestClearContent)

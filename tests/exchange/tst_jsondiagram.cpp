@@ -16,6 +16,8 @@ class TestJsonDiagram : public QObject
 private Q_SLOTS:
     void shouldTellDiagramsFromOtherJson_data();
     void shouldTellDiagramsFromOtherJson();
+    void shouldSayWhatIsWrongWithAText_data();
+    void shouldSayWhatIsWrongWithAText();
 };
 
 void TestJsonDiagram::shouldTellDiagramsFromOtherJson_data()
@@ -47,6 +49,25 @@ void TestJsonDiagram::shouldTellDiagramsFromOtherJson()
     QCOMPARE(reason.isEmpty(), mention.isEmpty());
     QVERIFY2(reason.contains(mention), qPrintable(reason));
     QVERIFY(!reason.contains(QLatin1String("\"g\""))); // a message is no list of everything
+}
+
+void TestJsonDiagram::shouldSayWhatIsWrongWithAText_data()
+{
+    QTest::addColumn<QByteArray>("json");
+    QTest::addColumn<QString>("mention");
+    QTest::newRow("no JSON") << QByteArray("{\n\"title\" 1}") << QStringLiteral("line 2");
+    QTest::newRow("another kind") << QByteArray(R"({"name": "x"})") << QStringLiteral("\"name\"");
+    QTest::newRow("no document") << QByteArray("[]") << QStringLiteral("JSON document");
+}
+
+void TestJsonDiagram::shouldSayWhatIsWrongWithAText()
+{
+    QFETCH(QByteArray, json);
+    QFETCH(QString, mention);
+    QJsonParseError error;
+    QJsonDocument::fromJson(json, &error);
+    const QString reason = JsonDiagram::reasonAgainst(json, error);
+    QVERIFY2(reason.contains(mention), qPrintable(reason));
 }
 
 FISHBONE_APPLESS_TEST(TestJsonDiagram)
