@@ -15,9 +15,6 @@
 
 #include <optional>
 
-class QCommandLineOption;
-class QCommandLineParser;
-
 /** What the arguments of the program ask for. */
 struct CommandLine
 {
@@ -76,25 +73,4 @@ public:
     int levels = Expansion::allLevels; ///< how many levels of bones below the main bones to expand
     PictureOptions options;
     LookChoice look; ///< of a picture
-
-private:
-    bool readCommand(const QCommandLineParser &parser);
-    bool readExport(const QCommandLineParser &parser);
-    bool readConvert(const QCommandLineParser &parser);
-    bool readInfo(const QCommandLineParser &parser);
-    bool readReport(const QCommandLineParser &parser);
-    bool readCheck(const QCommandLineParser &parser);
-    bool readMerge(const QCommandLineParser &parser);
-    bool refuseOthers(const QCommandLineParser &parser, const QString &reason);
-    bool readSource(const QCommandLineParser &parser);
-    bool readFormat(const QCommandLineParser &parser, const QString &name, const QString &fileName,
-                    std::optional<DiagramExchange::Format> &format);
-    bool readPicture(const QCommandLineParser &parser);
-    bool refuseOptions(const QCommandLineParser &parser, const QList<QCommandLineOption> &refused,
-                       const QString &reason);
-    template <typename Value>
-    bool readOption(const QCommandLineParser &parser, const QString &name,
-                    std::optional<Value> (*read)(const QString &), const QString &what,
-                    Value &destination);
-    bool refuse(const QString &reason);
 };

@@ -8,9 +8,15 @@
 #include <QCommandLineOption>
 #include <QList>
 
-/** The options of the program, and what its help says of them and of its commands. */
+/** The options of the program, and what its help says of them. */
 namespace CommandOptions {
 
+QCommandLineOption forHelp();
+QCommandLineOption forVersion();
+/** The language of texts. */
+QCommandLineOption forLanguage();
+/** The folder of texts, for translators. */
+QCommandLineOption forTranslations();
 QCommandLineOption forExport();
 /** The options for pictures, in the order of the help text. */
 QList<QCommandLineOption> forPictures();
@@ -22,8 +28,6 @@ QCommandLineOption forStrict();
 /** What is said comes as JSON. */
 QCommandLineOption forJson();
 
-/** Gives @p parser the options, arguments and description of @p command. */
-void describe(QCommandLineParser &parser, CommandLine::Command command);
 /** Gives @p parser the options of all commands: only behind them it shows which command there is.
  */
 void describeAll(QCommandLineParser &parser);

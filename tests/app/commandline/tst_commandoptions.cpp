@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include <app/commandline/commandoptions.h>
+#include <app/commandline/linecommand.h>
 #include <tests/program/testprogram.h>
 
 #include <QCommandLineParser>
@@ -68,7 +69,7 @@ void TestCommandOptions::shouldDescribeWhatACommandTakes()
     QFETCH(QStringList, taken);
     QFETCH(QStringList, refused);
     QCommandLineParser parser;
-    CommandOptions::describe(parser, command);
+    LineCommand::of(command).describe(parser);
     QVERIFY(!parser.applicationDescription().isEmpty());
     taken += {QStringLiteral("help"), QStringLiteral("language")};
     for (const QString &option : qAsConst(taken))
@@ -106,7 +107,7 @@ void TestCommandOptions::shouldHaveNoOtherOptionsForPictures()
 void TestCommandOptions::shouldNameTheFormatsThatAreConverted()
 {
     QCommandLineParser parser;
-    CommandOptions::describe(parser, CommandLine::Command::Convert);
+    LineCommand::of(CommandLine::Command::Convert).describe(parser);
     const QList<DiagramExchange::Format> formats = DiagramExchange::formats();
     for (const DiagramExchange::Format format : formats)
         QVERIFY(parser.applicationDescription().contains(DiagramExchange::id(format)));

@@ -1,0 +1,14 @@
+// SPDX-FileCopyrightText: 2026 The Fishbone authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <app/commandline/linecommand.h>
+
+/** The command "info": about a document. */
+class InfoCommand : public LineCommand
+{
+public:
+    void describe(QCommandLineParser &parser) const override;
+    bool read(LineReader &reader) const override;
+};
