@@ -68,6 +68,18 @@ check_include_guards() {
     done | none
 }
 
+# What only forwards has no long functions but those that make it: prints each that has more than nine lines.
+long_functions() {
+    awk 'FNR == 1 { body = 0 }
+         /^[A-Za-z].*\(/ { signature = $0 }
+         /^\{/ { body = FNR }
+         /^\}/ && body {
+             if (FNR - body > 10 && signature !~ /^[A-Z][A-Za-z]+::[A-Z]/)
+                 print FILENAME ":" body ": " FNR - body - 1 " lines in what only forwards"
+             body = 0
+         }' "$@"
+}
+
 # A source that nobody reads to its end is several, and so is a class: its header and sources, NAME.h, NAME.cpp and
 # those NAME_*.cpp that have no header of their own, are short together, but for what scripts/long.txt gives a reason
 # for. A line there that is not needed any more fails.
@@ -86,6 +98,7 @@ check_lengths() {
             line=$(search -E "^$name: [^ ]" "$reasons")
             if ((lines > class)); then
                 [[ -n $line ]] || echo "$name: $lines lines with its header, more than $class"
+                [[ $line != *": forwards to"* ]] || long_functions "${files[@]:1}"
             else
                 [[ -z $line ]] || echo "$name: $lines lines, and a line in $reasons"
             fi
