@@ -179,14 +179,18 @@ check_architecture() {
     done | none
 }
 
-# Each public header, which is one that exports something, has test programs of its name.
+# Each public header, which is one that exports something, has test programs of its name; the classes in them are called
+# TestOfWhat.
 check_tests_exist() {
     local header name
-    grep -rl --include='*.h' FISHBONE_EXPORT fishbone | sort | while read -r header; do
-        name=tst_$(basename "$header" .h)
-        compgen -G "tests/*/$name.cpp" >/dev/null || compgen -G "tests/*/${name}_*.cpp" >/dev/null ||
-            echo "$header: no tests/*/$name.cpp"
-    done | none
+    {
+        grep -rl --include='*.h' FISHBONE_EXPORT fishbone | sort | while read -r header; do
+            name=tst_$(basename "$header" .h)
+            compgen -G "tests/*/$name.cpp" >/dev/null || compgen -G "tests/*/${name}_*.cpp" >/dev/null ||
+                echo "$header: no tests/*/$name.cpp"
+        done
+        search -rnE '^class tst_' tests
+    } | none
 }
 
 # Each class of the program and of the two folders that everything stands on has a test program of its name, or a line in

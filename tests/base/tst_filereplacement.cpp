@@ -83,7 +83,7 @@ private:
 
 } // namespace
 
-class tst_FileReplacement : public QObject
+class TestFileReplacement : public QObject
 {
     Q_OBJECT
 
@@ -115,13 +115,13 @@ private:
     QTemporaryDir m_folder;
 };
 
-void tst_FileReplacement::shouldMakeANewFile()
+void TestFileReplacement::shouldMakeANewFile()
 {
     QCOMPARE(replaceFile(path("new"), "content"), QString());
     QCOMPARE(contentOf(path("new")), QByteArray("content"));
 }
 
-void tst_FileReplacement::shouldMakeNoFileOnAFullDisk()
+void TestFileReplacement::shouldMakeNoFileOnAFullDisk()
 {
     QString reason;
     {
@@ -132,21 +132,21 @@ void tst_FileReplacement::shouldMakeNoFileOnAFullDisk()
     QVERIFY(QDir(m_folder.path()).entryList({QStringLiteral("not made*")}).isEmpty());
 }
 
-void tst_FileReplacement::shouldReplaceTheWholeContent()
+void TestFileReplacement::shouldReplaceTheWholeContent()
 {
     QCOMPARE(replaceFile(path("file"), "a longer content"), QString());
     QCOMPARE(replaceFile(path("file"), "short"), QString());
     QCOMPARE(contentOf(path("file")), QByteArray("short"));
 }
 
-void tst_FileReplacement::shouldKeepTheOldContentOnAFullDisk_data()
+void TestFileReplacement::shouldKeepTheOldContentOnAFullDisk_data()
 {
     QTest::addColumn<int>("size");
     QTest::newRow("less than a buffer") << 5000;
     QTest::newRow("more than a buffer") << 500000;
 }
 
-void tst_FileReplacement::shouldKeepTheOldContentOnAFullDisk()
+void TestFileReplacement::shouldKeepTheOldContentOnAFullDisk()
 {
     QFETCH(int, size);
     QCOMPARE(replaceFile(path("full"), "old"), QString());
@@ -159,12 +159,12 @@ void tst_FileReplacement::shouldKeepTheOldContentOnAFullDisk()
     QCOMPARE(contentOf(path("full")), QByteArray("old"));
 }
 
-void tst_FileReplacement::shouldKeepTheOldContentOnAFullDiskInALockedFolder_data()
+void TestFileReplacement::shouldKeepTheOldContentOnAFullDiskInALockedFolder_data()
 {
     shouldKeepTheOldContentOnAFullDisk_data();
 }
 
-void tst_FileReplacement::shouldKeepTheOldContentOnAFullDiskInALockedFolder()
+void TestFileReplacement::shouldKeepTheOldContentOnAFullDiskInALockedFolder()
 {
     QFETCH(int, size);
     QCOMPARE(replaceFile(path("full"), "old"), QString());
@@ -180,7 +180,7 @@ void tst_FileReplacement::shouldKeepTheOldContentOnAFullDiskInALockedFolder()
     QCOMPARE(contentOf(path("full")), QByteArray("old"));
 }
 
-void tst_FileReplacement::shouldReplaceTheWholeContentInALockedFolder()
+void TestFileReplacement::shouldReplaceTheWholeContentInALockedFolder()
 {
     QCOMPARE(replaceFile(path("locked"), "some content"), QString());
     const LockedFolder locked(m_folder.path(), path("locked"));
@@ -197,7 +197,7 @@ void tst_FileReplacement::shouldReplaceTheWholeContentInALockedFolder()
     QVERIFY(!QFileInfo::exists(path("not there")));
 }
 
-void tst_FileReplacement::shouldReplaceTheContentWhereEverybodyKeepsWhatIsHis()
+void TestFileReplacement::shouldReplaceTheContentWhereEverybodyKeepsWhatIsHis()
 {
     if (geteuid() != 0)
         QSKIP("Only the superuser can have a file that belongs to another one.");
@@ -218,7 +218,7 @@ void tst_FileReplacement::shouldReplaceTheContentWhereEverybodyKeepsWhatIsHis()
     QCOMPARE(QDir(folder.path()).entryList(QDir::Files), QStringList(QStringLiteral("shared")));
 }
 
-void tst_FileReplacement::shouldWriteAFileWithTheLongestName()
+void TestFileReplacement::shouldWriteAFileWithTheLongestName()
 {
     const QString longest = m_folder.filePath(QString(255, QLatin1Char('n')));
     QCOMPARE(replaceFile(longest, "a first content"), QString());
@@ -233,7 +233,7 @@ void tst_FileReplacement::shouldWriteAFileWithTheLongestName()
     QVERIFY(!replaceFile(m_folder.filePath(QString(256, QLatin1Char('n'))), "content").isEmpty());
 }
 
-void tst_FileReplacement::shouldGiveNoRightsThatTheOriginDoesNotGive_data()
+void TestFileReplacement::shouldGiveNoRightsThatTheOriginDoesNotGive_data()
 {
     QTest::addColumn<int>("origin");
     QTest::addColumn<int>("before"); // 0: the file is new
@@ -247,7 +247,7 @@ void tst_FileReplacement::shouldGiveNoRightsThatTheOriginDoesNotGive_data()
     QTest::newRow("no origin") << 0 << 0604 << 0604;
 }
 
-void tst_FileReplacement::shouldGiveNoRightsThatTheOriginDoesNotGive()
+void TestFileReplacement::shouldGiveNoRightsThatTheOriginDoesNotGive()
 {
     QFETCH(int, origin);
     QFETCH(int, before);
@@ -272,14 +272,14 @@ void tst_FileReplacement::shouldGiveNoRightsThatTheOriginDoesNotGive()
     QCOMPARE(contentOf(to), QByteArray("content"));
 }
 
-void tst_FileReplacement::shouldKeepTheRightsOfAFileThatIsReplaced_data()
+void TestFileReplacement::shouldKeepTheRightsOfAFileThatIsReplaced_data()
 {
     QTest::addColumn<int>("mode");
     for (const int mode : {0600, 0640, 0644, 0666, 0400 | 0200 | 0004})
         QTest::addRow("%o", mode) << mode;
 }
 
-void tst_FileReplacement::shouldKeepTheRightsOfAFileThatIsReplaced()
+void TestFileReplacement::shouldKeepTheRightsOfAFileThatIsReplaced()
 {
     QFETCH(int, mode);
     QCOMPARE(replaceFile(path("kept"), "old"), QString());
@@ -288,7 +288,7 @@ void tst_FileReplacement::shouldKeepTheRightsOfAFileThatIsReplaced()
     QCOMPARE(modeOf(path("kept")), mode);
 }
 
-void tst_FileReplacement::shouldRefuseANameWithANullCharacter()
+void TestFileReplacement::shouldRefuseANameWithANullCharacter()
 {
     QCOMPARE(replaceFile(path("before"), "old"), QString());
     const QString name = path("before") + QChar(0) + QStringLiteral("after");
@@ -298,7 +298,7 @@ void tst_FileReplacement::shouldRefuseANameWithANullCharacter()
     QVERIFY(!QFileInfo::exists(path("before")));
 }
 
-void tst_FileReplacement::shouldFollowALink()
+void TestFileReplacement::shouldFollowALink()
 {
     QCOMPARE(replaceFile(path("target"), "old"), QString());
     QVERIFY(QFile::link(path("target"), path("link")));
@@ -307,7 +307,7 @@ void tst_FileReplacement::shouldFollowALink()
     QVERIFY(QFileInfo(path("link")).isSymLink());
 }
 
-void tst_FileReplacement::shouldFollowALinkToAFileThatIsNotThereYet()
+void TestFileReplacement::shouldFollowALinkToAFileThatIsNotThereYet()
 {
     QVERIFY(QFile::link(path("not yet"), path("early link")));
     QCOMPARE(replaceFile(path("early link"), "new"), QString());
@@ -315,18 +315,18 @@ void tst_FileReplacement::shouldFollowALinkToAFileThatIsNotThereYet()
     QVERIFY(QFileInfo(path("early link")).isSymLink());
 }
 
-void tst_FileReplacement::shouldSayWhyAFolderCannotBeWritten()
+void TestFileReplacement::shouldSayWhyAFolderCannotBeWritten()
 {
     QVERIFY(!replaceFile(path("no such folder/file"), "content").isEmpty());
     QVERIFY(!replaceFile(m_folder.path(), "content").isEmpty());
 }
 
-void tst_FileReplacement::shouldWriteADeviceInPlace()
+void TestFileReplacement::shouldWriteADeviceInPlace()
 {
     QCOMPARE(replaceFile(QStringLiteral("/dev/null"), "content"), QString());
     QVERIFY(!QFileInfo(QStringLiteral("/dev/null")).isFile());
     QVERIFY(!replaceFile(QStringLiteral("/dev/full"), "content").isEmpty());
 }
 
-FISHBONE_GUILESS_TEST(tst_FileReplacement)
+FISHBONE_GUILESS_TEST(TestFileReplacement)
 #include "tst_filereplacement.moc"

@@ -14,7 +14,7 @@
 #include <memory>
 
 /** The plugin as Qt Designer meets it: a file that is loaded. */
-class tst_FishEditorPlugin : public QObject
+class TestFishEditorPlugin : public QObject
 {
     Q_OBJECT
 
@@ -33,18 +33,18 @@ private:
     QDesignerCustomWidgetInterface *m_plugin = nullptr; // belongs to the loader
 };
 
-std::unique_ptr<QWidget> tst_FishEditorPlugin::create()
+std::unique_ptr<QWidget> TestFishEditorPlugin::create()
 {
     return std::unique_ptr<QWidget>(m_plugin->createWidget(nullptr));
 }
 
-void tst_FishEditorPlugin::initTestCase()
+void TestFishEditorPlugin::initTestCase()
 {
     m_plugin = qobject_cast<QDesignerCustomWidgetInterface *>(m_loader.instance());
     QVERIFY2(m_plugin, qPrintable(m_loader.errorString()));
 }
 
-void tst_FishEditorPlugin::shouldDescribeTheEditor()
+void TestFishEditorPlugin::shouldDescribeTheEditor()
 {
     QCOMPARE(m_plugin->name(), QStringLiteral("FishEditor"));
     QCOMPARE(m_plugin->includeFile(), QStringLiteral("fishbone/editor/fisheditor.h"));
@@ -54,7 +54,7 @@ void tst_FishEditorPlugin::shouldDescribeTheEditor()
     QVERIFY(!m_plugin->icon().pixmap(16).isNull());
 }
 
-void tst_FishEditorPlugin::shouldPutAWellFormedWidgetIntoAForm()
+void TestFishEditorPlugin::shouldPutAWellFormedWidgetIntoAForm()
 {
     QXmlStreamReader xml(m_plugin->domXml());
     QString className;
@@ -67,7 +67,7 @@ void tst_FishEditorPlugin::shouldPutAWellFormedWidgetIntoAForm()
     QCOMPARE(className, QString::fromLatin1(create()->metaObject()->className()));
 }
 
-void tst_FishEditorPlugin::shouldShowTheTemplate()
+void TestFishEditorPlugin::shouldShowTheTemplate()
 {
     const std::unique_ptr<QWidget> editor = create();
     const auto *const view = editor->findChild<QGraphicsView *>();
@@ -76,14 +76,14 @@ void tst_FishEditorPlugin::shouldShowTheTemplate()
     QVERIFY(view->scene()->items().size() > 7);
 }
 
-void tst_FishEditorPlugin::shouldSaveNothingByItself()
+void TestFishEditorPlugin::shouldSaveNothingByItself()
 {
     const std::unique_ptr<QWidget> editor = create();
     for (const QTimer *timer : editor->findChildren<QTimer *>())
         QVERIFY(!timer->isActive());
 }
 
-void tst_FishEditorPlugin::shouldOfferZoomAndRotation()
+void TestFishEditorPlugin::shouldOfferZoomAndRotation()
 {
     const std::unique_ptr<QWidget> editor = create();
     const auto *const view = editor->findChild<QGraphicsView *>();
@@ -104,5 +104,5 @@ void tst_FishEditorPlugin::shouldOfferZoomAndRotation()
     QCOMPARE(editor->property("rotation").toInt(), 90);
 }
 
-QTEST_MAIN(tst_FishEditorPlugin)
+QTEST_MAIN(TestFishEditorPlugin)
 #include "tst_fisheditorplugin.moc"

@@ -15,7 +15,7 @@ using TestSupport::Message;
 using TestSupport::ModalDriver;
 using TestSupport::shownText;
 
-class tst_ReplaceFindDialog : public QObject
+class TestReplaceFindDialog : public QObject
 {
     Q_OBJECT
 
@@ -45,7 +45,7 @@ private Q_SLOTS:
     void shouldTranslateEveryText();
 };
 
-void tst_ReplaceFindDialog::shouldLayOutItsControlsInAGrid()
+void TestReplaceFindDialog::shouldLayOutItsControlsInAGrid()
 {
     const ReplaceFindDialog dialog;
     const auto *const layout = qobject_cast<QGridLayout *>(dialog.layout());
@@ -82,7 +82,7 @@ void tst_ReplaceFindDialog::shouldLayOutItsControlsInAGrid()
     QVERIFY(dialog.matches().isEmpty());
 }
 
-void tst_ReplaceFindDialog::shouldNameItsControlsForHosts()
+void TestReplaceFindDialog::shouldNameItsControlsForHosts()
 {
     const ReplaceFindDialog dialog;
     const auto *const layout = qobject_cast<QGridLayout *>(dialog.layout());
@@ -98,7 +98,7 @@ void tst_ReplaceFindDialog::shouldNameItsControlsForHosts()
     QCOMPARE(at(2, 2), static_cast<QWidget *>(dialog.replaceAllButton()));
 }
 
-void tst_ReplaceFindDialog::shouldShowWhatAHostHasFound()
+void TestReplaceFindDialog::shouldShowWhatAHostHasFound()
 {
     ReplaceFindDialog dialog;
     const QPointer<QWidget> first = new QWidget;
@@ -124,7 +124,7 @@ void tst_ReplaceFindDialog::shouldShowWhatAHostHasFound()
     dialog.setResultsArea(nullptr);
 }
 
-void tst_ReplaceFindDialog::shouldDeclareItsSlotsInOrder()
+void TestReplaceFindDialog::shouldDeclareItsSlotsInOrder()
 {
     const QMetaObject &meta = ReplaceFindDialog::staticMetaObject;
     QStringList slotNames;
@@ -134,7 +134,7 @@ void tst_ReplaceFindDialog::shouldDeclareItsSlotsInOrder()
              QStringLiteral("find() replace() replaceAll() enableCtrl(int)"));
 }
 
-void tst_ReplaceFindDialog::shouldDoNothingWithoutAModel()
+void TestReplaceFindDialog::shouldDoNothingWithoutAModel()
 {
     ReplaceFindDialog dialog;
     dialog.show();
@@ -157,7 +157,7 @@ void tst_ReplaceFindDialog::shouldDoNothingWithoutAModel()
     QVERIFY(dialog.matches().isEmpty());
 }
 
-void tst_ReplaceFindDialog::shouldWarnWhenNothingIsFound()
+void TestReplaceFindDialog::shouldWarnWhenNothingIsFound()
 {
     QStandardItemModel model;
     fill(model);
@@ -174,7 +174,7 @@ void tst_ReplaceFindDialog::shouldWarnWhenNothingIsFound()
     QVERIFY(dialog.matches().isEmpty());
 }
 
-void tst_ReplaceFindDialog::shouldShowMarkupInTheWarningAsItIs()
+void TestReplaceFindDialog::shouldShowMarkupInTheWarningAsItIs()
 {
     QStandardItemModel model;
     ReplaceFindDialog dialog;
@@ -186,7 +186,7 @@ void tst_ReplaceFindDialog::shouldShowMarkupInTheWarningAsItIs()
     QCOMPARE(shownText(message), QStringLiteral("Not found key word <b>bold</b> & so on."));
 }
 
-void tst_ReplaceFindDialog::shouldSurviveItsOwnEndWhileItWarns()
+void TestReplaceFindDialog::shouldSurviveItsOwnEndWhileItWarns()
 {
     QStandardItemModel model;
     auto dialog = std::make_unique<ReplaceFindDialog>();
@@ -197,7 +197,7 @@ void tst_ReplaceFindDialog::shouldSurviveItsOwnEndWhileItWarns()
     QVERIFY(!dialog);
 }
 
-void tst_ReplaceFindDialog::shouldSearchOnceOnReturn()
+void TestReplaceFindDialog::shouldSearchOnceOnReturn()
 {
     RecordingModel model;
     fill(model);
@@ -220,7 +220,7 @@ void tst_ReplaceFindDialog::shouldSearchOnceOnReturn()
     QVERIFY(dialog.isVisible());
 }
 
-void tst_ReplaceFindDialog::shouldSearchOnceOnReturnAfterAClickOnAButton()
+void TestReplaceFindDialog::shouldSearchOnceOnReturnAfterAClickOnAButton()
 {
     RecordingModel model;
     fill(model);
@@ -238,7 +238,7 @@ void tst_ReplaceFindDialog::shouldSearchOnceOnReturnAfterAClickOnAButton()
     QCOMPARE(model.m_searches, 2);
 }
 
-void tst_ReplaceFindDialog::shouldLetReturnPressAFocusedButton()
+void TestReplaceFindDialog::shouldLetReturnPressAFocusedButton()
 {
     RecordingModel model;
     fill(model);
@@ -258,7 +258,7 @@ void tst_ReplaceFindDialog::shouldLetReturnPressAFocusedButton()
     QCOMPARE(model.m_searches, 3);
 }
 
-void tst_ReplaceFindDialog::shouldEnableReplacingForTitlesAndShowidsOnly_data()
+void TestReplaceFindDialog::shouldEnableReplacingForTitlesAndShowidsOnly_data()
 {
     QTest::addColumn<int>("from");
     QTest::addColumn<int>("column");
@@ -269,7 +269,7 @@ void tst_ReplaceFindDialog::shouldEnableReplacingForTitlesAndShowidsOnly_data()
     QTest::newRow("back to title") << 3 << 0 << true;
 }
 
-void tst_ReplaceFindDialog::shouldEnableReplacingForTitlesAndShowidsOnly()
+void TestReplaceFindDialog::shouldEnableReplacingForTitlesAndShowidsOnly()
 {
     QFETCH(int, from);
     QFETCH(int, column);
@@ -284,7 +284,7 @@ void tst_ReplaceFindDialog::shouldEnableReplacingForTitlesAndShowidsOnly()
     QVERIFY(button(dialog, "Find")->isEnabled());
 }
 
-void tst_ReplaceFindDialog::shouldTakeAnyColumnFromAHost()
+void TestReplaceFindDialog::shouldTakeAnyColumnFromAHost()
 {
     RecordingModel model;
     fill(model);
@@ -303,7 +303,7 @@ void tst_ReplaceFindDialog::shouldTakeAnyColumnFromAHost()
     QVERIFY(replaceEdit(dialog)->isEnabled());
 }
 
-void tst_ReplaceFindDialog::shouldNotChangeTheModelOnReplace()
+void TestReplaceFindDialog::shouldNotChangeTheModelOnReplace()
 {
     QStandardItemModel model;
     fill(model);
@@ -324,7 +324,7 @@ void tst_ReplaceFindDialog::shouldNotChangeTheModelOnReplace()
     QVERIFY(!QApplication::activeModalWidget());
 }
 
-void tst_ReplaceFindDialog::shouldReadTheLastMatchOnReplace()
+void TestReplaceFindDialog::shouldReadTheLastMatchOnReplace()
 {
     RecordingModel model;
     fill(model);
@@ -337,7 +337,7 @@ void tst_ReplaceFindDialog::shouldReadTheLastMatchOnReplace()
     QCOMPARE(model.m_readTexts, QStringList{QStringLiteral("Manual")});
 }
 
-void tst_ReplaceFindDialog::shouldReadNothingWhenThereIsNothingToReplace()
+void TestReplaceFindDialog::shouldReadNothingWhenThereIsNothingToReplace()
 {
     RecordingModel model;
     fill(model);
@@ -355,7 +355,7 @@ void tst_ReplaceFindDialog::shouldReadNothingWhenThereIsNothingToReplace()
     QVERIFY2(model.m_readTexts.isEmpty(), "without a replacement");
 }
 
-void tst_ReplaceFindDialog::shouldNotChangeTheModelOnReplaceAll()
+void TestReplaceFindDialog::shouldNotChangeTheModelOnReplaceAll()
 {
     QStandardItemModel model;
     fill(model);
@@ -371,7 +371,7 @@ void tst_ReplaceFindDialog::shouldNotChangeTheModelOnReplaceAll()
     QCOMPARE(dialog.matches().size(), 3);
 }
 
-void tst_ReplaceFindDialog::shouldFilterTheEventsOfItsButtonsOnly()
+void TestReplaceFindDialog::shouldFilterTheEventsOfItsButtonsOnly()
 {
     ReplaceFindDialog dialog;
     QLineEdit edit;
@@ -383,7 +383,7 @@ void tst_ReplaceFindDialog::shouldFilterTheEventsOfItsButtonsOnly()
     QCOMPARE(pressed.size(), 1);
 }
 
-void tst_ReplaceFindDialog::shouldNotShowTheSearchThatSucceeds()
+void TestReplaceFindDialog::shouldNotShowTheSearchThatSucceeds()
 {
     QStandardItemModel model;
     fill(model);
@@ -402,7 +402,7 @@ void tst_ReplaceFindDialog::shouldNotShowTheSearchThatSucceeds()
     QVERIFY(dialog.isVisible());
 }
 
-void tst_ReplaceFindDialog::shouldCloseOnEscape()
+void TestReplaceFindDialog::shouldCloseOnEscape()
 {
     ReplaceFindDialog dialog;
     dialog.show();
@@ -410,7 +410,7 @@ void tst_ReplaceFindDialog::shouldCloseOnEscape()
     QVERIFY(!dialog.isVisible());
 }
 
-void tst_ReplaceFindDialog::shouldNameEveryControlInTabOrder()
+void TestReplaceFindDialog::shouldNameEveryControlInTabOrder()
 {
     ReplaceFindDialog dialog;
     QCOMPARE(TestSupport::tabOrder(dialog).join(QLatin1Char('|')),
@@ -419,7 +419,7 @@ void tst_ReplaceFindDialog::shouldNameEveryControlInTabOrder()
     QCOMPARE(TestSupport::strayLabels(dialog), QStringList());
 }
 
-void tst_ReplaceFindDialog::shouldTranslateEveryText()
+void TestReplaceFindDialog::shouldTranslateEveryText()
 {
     const TestSupport::BracketTranslator translator("ReplaceFindDialog");
     QStandardItemModel model;
@@ -439,5 +439,5 @@ void tst_ReplaceFindDialog::shouldTranslateEveryText()
     QCOMPARE(message.text, QStringLiteral("[Not found key word x.]"));
 }
 
-FISHBONE_TEST(tst_ReplaceFindDialog)
+FISHBONE_TEST(TestReplaceFindDialog)
 #include "tst_replacefinddialog.moc"

@@ -17,7 +17,7 @@ using TestSupport::keepMessage;
 using TestSupport::Message;
 using TestSupport::ModalDriver;
 
-class tst_ReplaceFindSearch : public QObject
+class TestReplaceFindSearch : public QObject
 {
     Q_OBJECT
 
@@ -44,7 +44,7 @@ private Q_SLOTS:
     void shouldForgetAModelThatDies();
 };
 
-void tst_ReplaceFindSearch::shouldFindOnEveryLevelInPreOrder()
+void TestReplaceFindSearch::shouldFindOnEveryLevelInPreOrder()
 {
     RecordingModel model;
     fill(model);
@@ -55,7 +55,7 @@ void tst_ReplaceFindSearch::shouldFindOnEveryLevelInPreOrder()
     QCOMPARE(model.m_searches, 1);
 }
 
-void tst_ReplaceFindSearch::shouldSearchTheChosenColumn_data()
+void TestReplaceFindSearch::shouldSearchTheChosenColumn_data()
 {
     QTest::addColumn<int>("column");
     QTest::addColumn<QString>("text");
@@ -70,7 +70,7 @@ void tst_ReplaceFindSearch::shouldSearchTheChosenColumn_data()
                          << "Training|man power";
 }
 
-void tst_ReplaceFindSearch::shouldSearchTheChosenColumn()
+void TestReplaceFindSearch::shouldSearchTheChosenColumn()
 {
     QFETCH(int, column);
     QFETCH(QString, text);
@@ -87,7 +87,7 @@ void tst_ReplaceFindSearch::shouldSearchTheChosenColumn()
         QCOMPARE(match.column(), column);
 }
 
-void tst_ReplaceFindSearch::shouldCompareCaseAsTheBoxSays()
+void TestReplaceFindSearch::shouldCompareCaseAsTheBoxSays()
 {
     RecordingModel model;
     fill(model);
@@ -103,14 +103,14 @@ void tst_ReplaceFindSearch::shouldCompareCaseAsTheBoxSays()
     QCOMPARE(titles(dialog.matches()), QStringLiteral("Man"));
 }
 
-void tst_ReplaceFindSearch::shouldCompareIdentifiersByTheirEnding_data()
+void TestReplaceFindSearch::shouldCompareIdentifiersByTheirEnding_data()
 {
     QTest::addColumn<int>("column");
     QTest::newRow("uuid") << 1;
     QTest::newRow("pid") << 3;
 }
 
-void tst_ReplaceFindSearch::shouldCompareIdentifiersByTheirEnding()
+void TestReplaceFindSearch::shouldCompareIdentifiersByTheirEnding()
 {
     QFETCH(int, column);
     QStandardItemModel model;
@@ -128,7 +128,7 @@ void tst_ReplaceFindSearch::shouldCompareIdentifiersByTheirEnding()
              column == 1 ? QStringLiteral("Effect") : QStringLiteral("Man|Machine"));
 }
 
-void tst_ReplaceFindSearch::shouldMatchEverythingWithAnEmptyText()
+void TestReplaceFindSearch::shouldMatchEverythingWithAnEmptyText()
 {
     QStandardItemModel model;
     fill(model);
@@ -138,7 +138,7 @@ void tst_ReplaceFindSearch::shouldMatchEverythingWithAnEmptyText()
     QCOMPARE(dialog.matches().size(), 7);
 }
 
-void tst_ReplaceFindSearch::shouldFindNothingInAnEmptyModel()
+void TestReplaceFindSearch::shouldFindNothingInAnEmptyModel()
 {
     QStandardItemModel model;
     ReplaceFindDialog dialog;
@@ -150,7 +150,7 @@ void tst_ReplaceFindSearch::shouldFindNothingInAnEmptyModel()
     QCOMPARE(message.text, QStringLiteral("Not found key word ."));
 }
 
-void tst_ReplaceFindSearch::shouldBeginWithTheFirstDocumentThatHasAHead()
+void TestReplaceFindSearch::shouldBeginWithTheFirstDocumentThatHasAHead()
 {
     FishModel model;
     model.setModelType(FISH_MODEL_DIAGRAM);
@@ -164,7 +164,7 @@ void tst_ReplaceFindSearch::shouldBeginWithTheFirstDocumentThatHasAHead()
     QCOMPARE(titles(dialog.matches()), QStringLiteral("Man|Manual|man"));
 }
 
-void tst_ReplaceFindSearch::shouldSearchAtAnyDepth()
+void TestReplaceFindSearch::shouldSearchAtAnyDepth()
 {
     constexpr int depth = 100000;
     FishModel model;
@@ -180,7 +180,7 @@ void tst_ReplaceFindSearch::shouldSearchAtAnyDepth()
     QCOMPARE(model.getTreeItem(dialog.matches().first()), last);
 }
 
-void tst_ReplaceFindSearch::shouldFindNothingInAColumnThatIsNotThere()
+void TestReplaceFindSearch::shouldFindNothingInAColumnThatIsNotThere()
 {
     QStandardItemModel model;
     model.appendRow(new QStandardItem(QStringLiteral("Effect")));
@@ -194,7 +194,7 @@ void tst_ReplaceFindSearch::shouldFindNothingInAColumnThatIsNotThere()
     QVERIFY(dialog.matches().isEmpty());
 }
 
-void tst_ReplaceFindSearch::shouldSearchAnewOnlyWhenSomethingChanged()
+void TestReplaceFindSearch::shouldSearchAnewOnlyWhenSomethingChanged()
 {
     RecordingModel model;
     fill(model);
@@ -212,7 +212,7 @@ void tst_ReplaceFindSearch::shouldSearchAnewOnlyWhenSomethingChanged()
     QCOMPARE(model.m_searches, 3);
 }
 
-void tst_ReplaceFindSearch::shouldSearchAnewWhileNothingIsFound()
+void TestReplaceFindSearch::shouldSearchAnewWhileNothingIsFound()
 {
     RecordingModel model;
     fill(model);
@@ -230,7 +230,7 @@ void tst_ReplaceFindSearch::shouldSearchAnewWhileNothingIsFound()
     QCOMPARE(titles(dialog.matches()), QStringLiteral("Method"));
 }
 
-void tst_ReplaceFindSearch::shouldEmptyTheMatchesWhenTheColumnChanges()
+void TestReplaceFindSearch::shouldEmptyTheMatchesWhenTheColumnChanges()
 {
     RecordingModel model;
     fill(model);
@@ -246,7 +246,7 @@ void tst_ReplaceFindSearch::shouldEmptyTheMatchesWhenTheColumnChanges()
     QCOMPARE(titles(dialog.matches()), QStringLiteral("Man|man power|Manual"));
 }
 
-void tst_ReplaceFindSearch::shouldKeepTheMatchesWhenTheColumnStays()
+void TestReplaceFindSearch::shouldKeepTheMatchesWhenTheColumnStays()
 {
     QStandardItemModel model;
     fill(model);
@@ -257,7 +257,7 @@ void tst_ReplaceFindSearch::shouldKeepTheMatchesWhenTheColumnStays()
     QCOMPARE(dialog.matches().size(), 3);
 }
 
-void tst_ReplaceFindSearch::shouldKeepMatchesThroughEdits()
+void TestReplaceFindSearch::shouldKeepMatchesThroughEdits()
 {
     QStandardItemModel model;
     fill(model);
@@ -274,7 +274,7 @@ void tst_ReplaceFindSearch::shouldKeepMatchesThroughEdits()
     QCOMPARE(titles(dialog.matches()), QStringLiteral("Manual"));
 }
 
-void tst_ReplaceFindSearch::shouldSearchAnewWhenAllMatchesAreGone()
+void TestReplaceFindSearch::shouldSearchAnewWhenAllMatchesAreGone()
 {
     RecordingModel model;
     fill(model);
@@ -293,7 +293,7 @@ void tst_ReplaceFindSearch::shouldSearchAnewWhenAllMatchesAreGone()
     QCOMPARE(model.m_searches, 2);
 }
 
-void tst_ReplaceFindSearch::shouldEmptyTheMatchesWithAnotherModel()
+void TestReplaceFindSearch::shouldEmptyTheMatchesWithAnotherModel()
 {
     QStandardItemModel first;
     fill(first);
@@ -312,7 +312,7 @@ void tst_ReplaceFindSearch::shouldEmptyTheMatchesWithAnotherModel()
     QVERIFY(dialog.matches().isEmpty());
 }
 
-void tst_ReplaceFindSearch::shouldKeepTheMatchesWithTheSameModel()
+void TestReplaceFindSearch::shouldKeepTheMatchesWithTheSameModel()
 {
     QStandardItemModel model;
     fill(model);
@@ -323,7 +323,7 @@ void tst_ReplaceFindSearch::shouldKeepTheMatchesWithTheSameModel()
     QCOMPARE(dialog.matches().size(), 3);
 }
 
-void tst_ReplaceFindSearch::shouldForgetAModelThatDies()
+void TestReplaceFindSearch::shouldForgetAModelThatDies()
 {
     auto model = std::make_unique<QStandardItemModel>();
     fill(*model);
@@ -345,5 +345,5 @@ void tst_ReplaceFindSearch::shouldForgetAModelThatDies()
     QVERIFY(!warned);
 }
 
-FISHBONE_TEST(tst_ReplaceFindSearch)
+FISHBONE_TEST(TestReplaceFindSearch)
 #include "tst_replacefindsearch.moc"

@@ -18,7 +18,7 @@ using TestSupport::keepMessage;
 using TestSupport::Message;
 using TestSupport::ModalDriver;
 
-class tst_URLDialog : public QObject
+class TestURLDialog : public QObject
 {
     Q_OBJECT
 
@@ -51,19 +51,19 @@ private:
     std::unique_ptr<WorkingFolder> m_folder;
 };
 
-void tst_URLDialog::init()
+void TestURLDialog::init()
 {
     m_folder = std::make_unique<WorkingFolder>();
     QVERIFY(m_folder->isValid());
 }
 
-void tst_URLDialog::cleanup()
+void TestURLDialog::cleanup()
 {
     QVERIFY(!QGuiApplication::overrideCursor());
     m_folder.reset();
 }
 
-void tst_URLDialog::shouldHaveDefaultsForItsArguments()
+void TestURLDialog::shouldHaveDefaultsForItsArguments()
 {
     QVERIFY(writeContent(QStringLiteral("moraine2.urllist"), "http://a/\n"));
     const URLDialog dialog;
@@ -75,12 +75,12 @@ void tst_URLDialog::shouldHaveDefaultsForItsArguments()
         QVERIFY2(texts.contains(QLatin1String(text)), text);
 }
 
-void tst_URLDialog::shouldBeModal()
+void TestURLDialog::shouldBeModal()
 {
     QVERIFY(URLDialog().isModal());
 }
 
-void tst_URLDialog::shouldShowItsTitleAndUseItsFile()
+void TestURLDialog::shouldShowItsTitleAndUseItsFile()
 {
     QVERIFY(writeContent(QStringLiteral("moraine2.urllist"), "http://other/\n"));
     QVERIFY(writeContent(QStringLiteral("mine.txt"), "http://mine/\n"));
@@ -89,7 +89,7 @@ void tst_URLDialog::shouldShowItsTitleAndUseItsFile()
     QCOMPARE(entries(dialog), QStringLiteral("http://mine/"));
 }
 
-void tst_URLDialog::shouldStartOnTheFirstUrlSelected()
+void TestURLDialog::shouldStartOnTheFirstUrlSelected()
 {
     QVERIFY(writeContent(QStringLiteral("moraine2.urllist"), "http://b/\nhttp://a/\n"));
     const URLDialog dialog;
@@ -97,7 +97,7 @@ void tst_URLDialog::shouldStartOnTheFirstUrlSelected()
     QCOMPARE(combo(dialog)->lineEdit()->selectedText(), QStringLiteral("http://b/"));
 }
 
-void tst_URLDialog::shouldPutAUrlIntoTheEditField()
+void TestURLDialog::shouldPutAUrlIntoTheEditField()
 {
     QVERIFY(writeContent(QStringLiteral("moraine2.urllist"), "http://a/\n"));
     URLDialog dialog;
@@ -109,7 +109,7 @@ void tst_URLDialog::shouldPutAUrlIntoTheEditField()
     QCOMPARE(combo(dialog)->currentText(), QString());
 }
 
-void tst_URLDialog::shouldParseTheUrlTolerantly_data()
+void TestURLDialog::shouldParseTheUrlTolerantly_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QByteArray>("encoded");
@@ -120,7 +120,7 @@ void tst_URLDialog::shouldParseTheUrlTolerantly_data()
     QTest::newRow("empty") << "" << QByteArray("");
 }
 
-void tst_URLDialog::shouldParseTheUrlTolerantly()
+void TestURLDialog::shouldParseTheUrlTolerantly()
 {
     QFETCH(QString, text);
     URLDialog dialog;
@@ -128,7 +128,7 @@ void tst_URLDialog::shouldParseTheUrlTolerantly()
     QTEST(dialog.url().toEncoded(), "encoded");
 }
 
-void tst_URLDialog::shouldAppendANewUrl()
+void TestURLDialog::shouldAppendANewUrl()
 {
     QVERIFY(writeContent(QStringLiteral("moraine2.urllist"), "http://b/\nhttp://a/\n"));
     URLDialog dialog;
@@ -143,7 +143,7 @@ void tst_URLDialog::shouldAppendANewUrl()
              QByteArray("http://b/\nhttp://a/\nhttp://new/\n"));
 }
 
-void tst_URLDialog::shouldNotAppendAKnownUrl_data()
+void TestURLDialog::shouldNotAppendAKnownUrl_data()
 {
     QTest::addColumn<QString>("typed");
     QTest::newRow("the first") << "http://b/";
@@ -151,7 +151,7 @@ void tst_URLDialog::shouldNotAppendAKnownUrl_data()
     QTest::newRow("white space around") << "  http://a/ ";
 }
 
-void tst_URLDialog::shouldNotAppendAKnownUrl()
+void TestURLDialog::shouldNotAppendAKnownUrl()
 {
     QFETCH(QString, typed);
     QVERIFY(writeContent(QStringLiteral("moraine2.urllist"), "http://b/\nhttp://a/\n"));
@@ -163,7 +163,7 @@ void tst_URLDialog::shouldNotAppendAKnownUrl()
     QCOMPARE(contentOf(QStringLiteral("moraine2.urllist")), QByteArray("http://b/\nhttp://a/\n"));
 }
 
-void tst_URLDialog::shouldTellUpperFromLowerCase()
+void TestURLDialog::shouldTellUpperFromLowerCase()
 {
     QVERIFY(writeContent(QStringLiteral("moraine2.urllist"), "http://host/Path\n"));
     URLDialog dialog;
@@ -175,7 +175,7 @@ void tst_URLDialog::shouldTellUpperFromLowerCase()
              QByteArray("http://host/Path\nhttp://host/path\n"));
 }
 
-void tst_URLDialog::shouldTrimTheUrlOnAccept()
+void TestURLDialog::shouldTrimTheUrlOnAccept()
 {
     URLDialog dialog;
     dialog.setUrl(QStringLiteral(" \thttp://a/b  "));
@@ -185,14 +185,14 @@ void tst_URLDialog::shouldTrimTheUrlOnAccept()
     QCOMPARE(contentOf(QStringLiteral("moraine2.urllist")), QByteArray("http://a/b\n"));
 }
 
-void tst_URLDialog::shouldStayOpenWithoutAUrl_data()
+void TestURLDialog::shouldStayOpenWithoutAUrl_data()
 {
     QTest::addColumn<QString>("typed");
     QTest::newRow("nothing") << "";
     QTest::newRow("white space") << "  \t ";
 }
 
-void tst_URLDialog::shouldStayOpenWithoutAUrl()
+void TestURLDialog::shouldStayOpenWithoutAUrl()
 {
     QFETCH(QString, typed);
     URLDialog dialog;
@@ -207,7 +207,7 @@ void tst_URLDialog::shouldStayOpenWithoutAUrl()
     QVERIFY(!QFile::exists(QStringLiteral("moraine2.urllist")));
 }
 
-void tst_URLDialog::shouldOpenOnceOnReturn()
+void TestURLDialog::shouldOpenOnceOnReturn()
 {
     QVERIFY(writeContent(QStringLiteral("moraine2.urllist"), "http://a/\n"));
     URLDialog dialog;
@@ -221,14 +221,14 @@ void tst_URLDialog::shouldOpenOnceOnReturn()
     QCOMPARE(contentOf(QStringLiteral("moraine2.urllist")), QByteArray("http://a/\nhttp://new/\n"));
 }
 
-void tst_URLDialog::shouldLetReturnActOnTheDefaultButtonOnly_data()
+void TestURLDialog::shouldLetReturnActOnTheDefaultButtonOnly_data()
 {
     QTest::addColumn<QString>("button");
     QTest::newRow("Clean") << "Clean";
     QTest::newRow("Cancel") << "Cancel";
 }
 
-void tst_URLDialog::shouldLetReturnActOnTheDefaultButtonOnly()
+void TestURLDialog::shouldLetReturnActOnTheDefaultButtonOnly()
 {
     QFETCH(QString, button);
     QVERIFY(writeContent(QStringLiteral("moraine2.urllist"), "http://a/\n"));
@@ -245,7 +245,7 @@ void tst_URLDialog::shouldLetReturnActOnTheDefaultButtonOnly()
     QCOMPARE(contentOf(QStringLiteral("moraine2.urllist")), QByteArray("http://a/\n"));
 }
 
-void tst_URLDialog::shouldCompleteCaseSensitively()
+void TestURLDialog::shouldCompleteCaseSensitively()
 {
     QVERIFY(writeContent(QStringLiteral("moraine2.urllist"), "http://host/Path\n"));
     URLDialog dialog;
@@ -258,7 +258,7 @@ void tst_URLDialog::shouldCompleteCaseSensitively()
     QCOMPARE(combo(dialog)->currentText(), QStringLiteral("http://host/p"));
 }
 
-void tst_URLDialog::shouldPickAUrlFromTheList()
+void TestURLDialog::shouldPickAUrlFromTheList()
 {
     QVERIFY(writeContent(QStringLiteral("moraine2.urllist"), "http://b/\nhttp://a/\n"));
     URLDialog dialog;
@@ -269,7 +269,7 @@ void tst_URLDialog::shouldPickAUrlFromTheList()
     QCOMPARE(contentOf(QStringLiteral("moraine2.urllist")), QByteArray("http://b/\nhttp://a/\n"));
 }
 
-void tst_URLDialog::shouldNameEveryControlInTabOrder()
+void TestURLDialog::shouldNameEveryControlInTabOrder()
 {
     URLDialog dialog;
     QCOMPARE(TestSupport::tabOrder(dialog).join(QLatin1Char('|')),
@@ -277,7 +277,7 @@ void tst_URLDialog::shouldNameEveryControlInTabOrder()
     QCOMPARE(TestSupport::strayLabels(dialog), QStringList());
 }
 
-void tst_URLDialog::shouldTranslateEveryText()
+void TestURLDialog::shouldTranslateEveryText()
 {
     const TestSupport::BracketTranslator translator("URLDialog");
     const URLDialog dialog;
@@ -304,5 +304,5 @@ void tst_URLDialog::shouldTranslateEveryText()
     QVERIFY(message.text.startsWith(QStringLiteral("[Failed to open missing/a\n")));
 }
 
-FISHBONE_TEST(tst_URLDialog)
+FISHBONE_TEST(TestURLDialog)
 #include "tst_urldialog.moc"

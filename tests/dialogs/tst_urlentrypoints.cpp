@@ -38,7 +38,7 @@ void addEntryPoints()
 
 } // namespace
 
-class tst_UrlEntryPoints : public QObject
+class TestUrlEntryPoints : public QObject
 {
     Q_OBJECT
 
@@ -57,24 +57,24 @@ private:
     std::unique_ptr<WorkingFolder> m_folder;
 };
 
-void tst_UrlEntryPoints::init()
+void TestUrlEntryPoints::init()
 {
     m_folder = std::make_unique<WorkingFolder>();
     QVERIFY(m_folder->isValid());
 }
 
-void tst_UrlEntryPoints::cleanup()
+void TestUrlEntryPoints::cleanup()
 {
     QVERIFY(!QGuiApplication::overrideCursor());
     m_folder.reset();
 }
 
-void tst_UrlEntryPoints::shouldReturnTheEnteredUrl_data()
+void TestUrlEntryPoints::shouldReturnTheEnteredUrl_data()
 {
     addEntryPoints();
 }
 
-void tst_UrlEntryPoints::shouldReturnTheEnteredUrl()
+void TestUrlEntryPoints::shouldReturnTheEnteredUrl()
 {
     QFETCH(Entry, entry);
     QFETCH(QString, fileName);
@@ -101,12 +101,12 @@ void tst_UrlEntryPoints::shouldReturnTheEnteredUrl()
     QCOMPARE(m_folder->entries(), QStringList{fileName});
 }
 
-void tst_UrlEntryPoints::shouldReturnAnEmptyUrlWhenCancelled_data()
+void TestUrlEntryPoints::shouldReturnAnEmptyUrlWhenCancelled_data()
 {
     addEntryPoints();
 }
 
-void tst_UrlEntryPoints::shouldReturnAnEmptyUrlWhenCancelled()
+void TestUrlEntryPoints::shouldReturnAnEmptyUrlWhenCancelled()
 {
     QFETCH(Entry, entry);
     QFETCH(QString, fileName);
@@ -122,7 +122,7 @@ void tst_UrlEntryPoints::shouldReturnAnEmptyUrlWhenCancelled()
     QCOMPARE(contentOf(fileName), QByteArray("http://a/\n"));
 }
 
-void tst_UrlEntryPoints::shouldReturnAnEmptyUrlWhenItsParentDies()
+void TestUrlEntryPoints::shouldReturnAnEmptyUrlWhenItsParentDies()
 {
     auto parent = std::make_unique<QWidget>();
     const ModalDriver<URLDialog> user([&](URLDialog &) { parent.reset(); });
@@ -131,14 +131,14 @@ void tst_UrlEntryPoints::shouldReturnAnEmptyUrlWhenItsParentDies()
     QVERIFY(!parent);
 }
 
-void tst_UrlEntryPoints::shouldStartLinkingOnTheGivenUrl_data()
+void TestUrlEntryPoints::shouldStartLinkingOnTheGivenUrl_data()
 {
     QTest::addColumn<QString>("url");
     QTest::newRow("a url") << "http://linked/";
     QTest::newRow("none") << "";
 }
 
-void tst_UrlEntryPoints::shouldStartLinkingOnTheGivenUrl()
+void TestUrlEntryPoints::shouldStartLinkingOnTheGivenUrl()
 {
     QFETCH(QString, url);
     QVERIFY(writeContent(QStringLiteral("linkto.urllist"), "http://a/\n"));
@@ -156,5 +156,5 @@ void tst_UrlEntryPoints::shouldStartLinkingOnTheGivenUrl()
     QCOMPARE(selected, url);
 }
 
-FISHBONE_TEST(tst_UrlEntryPoints)
+FISHBONE_TEST(TestUrlEntryPoints)
 #include "tst_urlentrypoints.moc"

@@ -24,7 +24,7 @@ using TestSupport::Message;
 using TestSupport::ModalDriver;
 using TestSupport::shownText;
 
-class tst_UrlHistory : public QObject
+class TestUrlHistory : public QObject
 {
     Q_OBJECT
 
@@ -58,19 +58,19 @@ private:
     std::unique_ptr<WorkingFolder> m_folder;
 };
 
-void tst_UrlHistory::init()
+void TestUrlHistory::init()
 {
     m_folder = std::make_unique<WorkingFolder>();
     QVERIFY(m_folder->isValid());
 }
 
-void tst_UrlHistory::cleanup()
+void TestUrlHistory::cleanup()
 {
     QVERIFY(!QGuiApplication::overrideCursor());
     m_folder.reset();
 }
 
-void tst_UrlHistory::shouldOfferTheUrlsOfTheHistoryInOrder_data()
+void TestUrlHistory::shouldOfferTheUrlsOfTheHistoryInOrder_data()
 {
     QTest::addColumn<QByteArray>("content");
     QTest::addColumn<QString>("expected");
@@ -87,7 +87,7 @@ void tst_UrlHistory::shouldOfferTheUrlsOfTheHistoryInOrder_data()
     QTest::newRow("byte order mark") << QByteArray("\xef\xbb\xbfhttp://a/\n") << "http://a/";
 }
 
-void tst_UrlHistory::shouldOfferTheUrlsOfTheHistoryInOrder()
+void TestUrlHistory::shouldOfferTheUrlsOfTheHistoryInOrder()
 {
     QFETCH(QByteArray, content);
     QVERIFY(writeContent(QStringLiteral("moraine2.urllist"), content));
@@ -96,7 +96,7 @@ void tst_UrlHistory::shouldOfferTheUrlsOfTheHistoryInOrder()
     QCOMPARE(contentOf(QStringLiteral("moraine2.urllist")), content);
 }
 
-void tst_UrlHistory::shouldStartEmptyWithoutAReadableHistory_data()
+void TestUrlHistory::shouldStartEmptyWithoutAReadableHistory_data()
 {
     QTest::addColumn<QString>("fileName");
     QTest::newRow("missing") << "missing.urllist";
@@ -104,7 +104,7 @@ void tst_UrlHistory::shouldStartEmptyWithoutAReadableHistory_data()
     QTest::newRow("a folder") << ".";
 }
 
-void tst_UrlHistory::shouldStartEmptyWithoutAReadableHistory()
+void TestUrlHistory::shouldStartEmptyWithoutAReadableHistory()
 {
     QFETCH(QString, fileName);
     const URLDialog dialog(QString(), fileName);
@@ -114,7 +114,7 @@ void tst_UrlHistory::shouldStartEmptyWithoutAReadableHistory()
     QVERIFY(m_folder->entries().isEmpty());
 }
 
-void tst_UrlHistory::shouldWaitWhileLoading()
+void TestUrlHistory::shouldWaitWhileLoading()
 {
     QVERIFY(writeContent(QStringLiteral("moraine2.urllist"), "http://a/\n"));
     URLDialog dialog;
@@ -129,7 +129,7 @@ void tst_UrlHistory::shouldWaitWhileLoading()
     QCOMPARE(entries(dialog), QStringLiteral("http://a/|http://a/"));
 }
 
-void tst_UrlHistory::shouldWriteTheHistoryAsUtf8Lines()
+void TestUrlHistory::shouldWriteTheHistoryAsUtf8Lines()
 {
     QVERIFY(writeContent(QStringLiteral("moraine2.urllist"), "a\r\n  b\n"));
     URLDialog dialog;
@@ -138,7 +138,7 @@ void tst_UrlHistory::shouldWriteTheHistoryAsUtf8Lines()
     QCOMPARE(contentOf(QStringLiteral("moraine2.urllist")), QByteArray("a\nb\nhttp://例/ü\n"));
 }
 
-void tst_UrlHistory::shouldDropEmptyLinesWhenSaving()
+void TestUrlHistory::shouldDropEmptyLinesWhenSaving()
 {
     QVERIFY(writeContent(QStringLiteral("moraine2.urllist"), "a\n\n \nb\n"));
     URLDialog dialog;
@@ -146,7 +146,7 @@ void tst_UrlHistory::shouldDropEmptyLinesWhenSaving()
     QCOMPARE(contentOf(QStringLiteral("moraine2.urllist")), QByteArray("a\nb\n"));
 }
 
-void tst_UrlHistory::shouldKeepWhatFollowsANullCharacter()
+void TestUrlHistory::shouldKeepWhatFollowsANullCharacter()
 {
     const QByteArray content("http://a\0b\nhttp://c\n", 20);
     QVERIFY(writeContent(QStringLiteral("nul.urllist"), content));
@@ -156,7 +156,7 @@ void tst_UrlHistory::shouldKeepWhatFollowsANullCharacter()
     QCOMPARE(contentOf(QStringLiteral("nul.urllist")), content);
 }
 
-void tst_UrlHistory::shouldEmptyListAndFileOnClean()
+void TestUrlHistory::shouldEmptyListAndFileOnClean()
 {
     QVERIFY(writeContent(QStringLiteral("moraine2.urllist"), "http://b/\nhttp://a/\n"));
     URLDialog dialog;
@@ -168,7 +168,7 @@ void tst_UrlHistory::shouldEmptyListAndFileOnClean()
     QCOMPARE(contentOf(QStringLiteral("moraine2.urllist")), QByteArray());
 }
 
-void tst_UrlHistory::shouldCreateAnEmptyFileOnClean()
+void TestUrlHistory::shouldCreateAnEmptyFileOnClean()
 {
     URLDialog dialog;
     dialog.clean();
@@ -176,14 +176,14 @@ void tst_UrlHistory::shouldCreateAnEmptyFileOnClean()
     QCOMPARE(contentOf(QStringLiteral("moraine2.urllist")), QByteArray());
 }
 
-void tst_UrlHistory::shouldLeaveTheHistoryAloneWhenCancelled_data()
+void TestUrlHistory::shouldLeaveTheHistoryAloneWhenCancelled_data()
 {
     QTest::addColumn<bool>("byKey");
     QTest::newRow("Cancel") << false;
     QTest::newRow("Escape") << true;
 }
 
-void tst_UrlHistory::shouldLeaveTheHistoryAloneWhenCancelled()
+void TestUrlHistory::shouldLeaveTheHistoryAloneWhenCancelled()
 {
     QFETCH(bool, byKey);
     QVERIFY(writeContent(QStringLiteral("moraine2.urllist"), "a\n\nb"));
@@ -200,7 +200,7 @@ void tst_UrlHistory::shouldLeaveTheHistoryAloneWhenCancelled()
     QCOMPARE(contentOf(QStringLiteral("moraine2.urllist")), QByteArray("a\n\nb"));
 }
 
-void tst_UrlHistory::shouldWarnAndCloseWhenTheHistoryCannotBeWritten_data()
+void TestUrlHistory::shouldWarnAndCloseWhenTheHistoryCannotBeWritten_data()
 {
     QTest::addColumn<QString>("fileName");
     QTest::newRow("in a missing folder") << "missing/a.urllist";
@@ -208,7 +208,7 @@ void tst_UrlHistory::shouldWarnAndCloseWhenTheHistoryCannotBeWritten_data()
     QTest::newRow("placeholders in the name") << "missing/%2%1.urllist";
 }
 
-void tst_UrlHistory::shouldWarnAndCloseWhenTheHistoryCannotBeWritten()
+void TestUrlHistory::shouldWarnAndCloseWhenTheHistoryCannotBeWritten()
 {
     QFETCH(QString, fileName);
     URLDialog dialog(QString(), fileName);
@@ -231,7 +231,7 @@ void tst_UrlHistory::shouldWarnAndCloseWhenTheHistoryCannotBeWritten()
     }
 }
 
-void tst_UrlHistory::shouldShowMarkupInANameAsItIs()
+void TestUrlHistory::shouldShowMarkupInANameAsItIs()
 {
     const QString name = QStringLiteral("missing/<b>bold</b><br>&amp;.urllist");
     URLDialog dialog(QString(), name);
@@ -243,7 +243,7 @@ void tst_UrlHistory::shouldShowMarkupInANameAsItIs()
              QStringLiteral("Failed to open ") + name);
 }
 
-void tst_UrlHistory::shouldWarnOnCleanWhenTheHistoryCannotBeWritten()
+void TestUrlHistory::shouldWarnOnCleanWhenTheHistoryCannotBeWritten()
 {
     URLDialog dialog(QString(), QStringLiteral("missing/a.urllist"));
     Message message;
@@ -253,7 +253,7 @@ void tst_UrlHistory::shouldWarnOnCleanWhenTheHistoryCannotBeWritten()
     QCOMPARE(message.title, QStringLiteral("Error"));
 }
 
-void tst_UrlHistory::shouldSurviveItsOwnEndWhileItWarns()
+void TestUrlHistory::shouldSurviveItsOwnEndWhileItWarns()
 {
     auto dialog = std::make_unique<URLDialog>(QString(), QStringLiteral("missing/a.urllist"));
     dialog->setUrl(QStringLiteral("http://a/"));
@@ -263,7 +263,7 @@ void tst_UrlHistory::shouldSurviveItsOwnEndWhileItWarns()
     QVERIFY(!dialog);
 }
 
-void tst_UrlHistory::shouldKeepTheOldHistoryWhenTheDiskIsFull()
+void TestUrlHistory::shouldKeepTheOldHistoryWhenTheDiskIsFull()
 {
 #ifdef Q_OS_UNIX
     // A limit on the size of files stands in for the end of the disk.
@@ -294,7 +294,7 @@ void tst_UrlHistory::shouldKeepTheOldHistoryWhenTheDiskIsFull()
 #endif
 }
 
-void tst_UrlHistory::shouldWriteInPlaceWhenTheFolderIsNotWritable()
+void TestUrlHistory::shouldWriteInPlaceWhenTheFolderIsNotWritable()
 {
 #ifdef Q_OS_UNIX
     QVERIFY(writeContent(QStringLiteral("moraine2.urllist"), "http://a/\n"));
@@ -320,7 +320,7 @@ void tst_UrlHistory::shouldWriteInPlaceWhenTheFolderIsNotWritable()
 #endif
 }
 
-void tst_UrlHistory::shouldWriteIntoAPipe()
+void TestUrlHistory::shouldWriteIntoAPipe()
 {
 #ifdef Q_OS_UNIX
     URLDialog dialog;
@@ -341,7 +341,7 @@ void tst_UrlHistory::shouldWriteIntoAPipe()
 #endif
 }
 
-void tst_UrlHistory::shouldLeaveNothingElseInTheFolder()
+void TestUrlHistory::shouldLeaveNothingElseInTheFolder()
 {
     URLDialog dialog;
     dialog.setUrl(QStringLiteral("http://a/"));
@@ -349,7 +349,7 @@ void tst_UrlHistory::shouldLeaveNothingElseInTheFolder()
     QCOMPARE(m_folder->entries(), QStringList{QStringLiteral("moraine2.urllist")});
 }
 
-void tst_UrlHistory::shouldKeepItWhereAHostWants()
+void TestUrlHistory::shouldKeepItWhereAHostWants()
 {
     QCOMPARE(URLDialog::historyFolder(), QString());
     const QTemporaryDir elsewhere;
@@ -374,5 +374,5 @@ void tst_UrlHistory::shouldKeepItWhereAHostWants()
     URLDialog::setHistoryFolder(QString());
 }
 
-FISHBONE_TEST(tst_UrlHistory)
+FISHBONE_TEST(TestUrlHistory)
 #include "tst_urlhistory.moc"

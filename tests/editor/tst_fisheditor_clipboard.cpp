@@ -22,7 +22,7 @@ QString treeOf(const EditorFixture &fixture)
 
 } // namespace
 
-class tst_FishEditorClipboard : public QObject
+class TestFishEditorClipboard : public QObject
 {
     Q_OBJECT
 
@@ -45,7 +45,7 @@ private Q_SLOTS:
     void shouldLeaveThePlaceholdersWithoutEffect();
 };
 
-void tst_FishEditorClipboard::shouldStartWithAnEmptyBuffer()
+void TestFishEditorClipboard::shouldStartWithAnEmptyBuffer()
 {
     EditorFixture fixture(document);
     QVERIFY(!fixture.editor.hasClipBoardData());
@@ -54,7 +54,7 @@ void tst_FishEditorClipboard::shouldStartWithAnEmptyBuffer()
     QCOMPARE(treeOf(fixture), document);
 }
 
-void tst_FishEditorClipboard::shouldCopyNothingOfTheHeadAlone()
+void TestFishEditorClipboard::shouldCopyNothingOfTheHeadAlone()
 {
     EditorFixture fixture(document);
     fixture.select({QStringLiteral("Head")});
@@ -64,7 +64,7 @@ void tst_FishEditorClipboard::shouldCopyNothingOfTheHeadAlone()
     QVERIFY(!fixture.editor.hasClipBoardData());
 }
 
-void tst_FishEditorClipboard::shouldSkipItemsThatAreNotThere()
+void TestFishEditorClipboard::shouldSkipItemsThatAreNotThere()
 {
     EditorFixture fixture(document);
     QList<QGraphicsItem *> items{nullptr, fixture.spear(QStringLiteral("A")), nullptr};
@@ -77,7 +77,7 @@ void tst_FishEditorClipboard::shouldSkipItemsThatAreNotThere()
     QCOMPARE(items, QList<QGraphicsItem *>{fixture.spear(QStringLiteral("A"))});
 }
 
-void tst_FishEditorClipboard::shouldCopyOneSubjectAsItsNodeObject()
+void TestFishEditorClipboard::shouldCopyOneSubjectAsItsNodeObject()
 {
     EditorFixture fixture(document);
     fixture.select({QStringLiteral("A")});
@@ -91,7 +91,7 @@ void tst_FishEditorClipboard::shouldCopyOneSubjectAsItsNodeObject()
     QCOMPARE(recorder.take(), QStringLiteral("clipBoardAvailable(true)"));
 }
 
-void tst_FishEditorClipboard::shouldCopyAParentWithItsSelectedChildOnce()
+void TestFishEditorClipboard::shouldCopyAParentWithItsSelectedChildOnce()
 {
     EditorFixture fixture(document);
     fixture.editor.expandAll();
@@ -102,7 +102,7 @@ void tst_FishEditorClipboard::shouldCopyAParentWithItsSelectedChildOnce()
     QCOMPARE(copied.value(QStringLiteral("children")).toArray().count(), 2);
 }
 
-void tst_FishEditorClipboard::shouldCopySeveralInDocumentOrder()
+void TestFishEditorClipboard::shouldCopySeveralInDocumentOrder()
 {
     EditorFixture fixture(document);
     fixture.editor.expandAll();
@@ -117,7 +117,7 @@ void tst_FishEditorClipboard::shouldCopySeveralInDocumentOrder()
     QCOMPARE(titles.join(QLatin1Char(' ')), QStringLiteral("A1 B C"));
 }
 
-void tst_FishEditorClipboard::shouldPasteManyTimesFromOneCopy()
+void TestFishEditorClipboard::shouldPasteManyTimesFromOneCopy()
 {
     EditorFixture fixture(document);
     fixture.select({QStringLiteral("B")});
@@ -131,7 +131,7 @@ void tst_FishEditorClipboard::shouldPasteManyTimesFromOneCopy()
     QCOMPARE(treeOf(fixture), document);
 }
 
-void tst_FishEditorClipboard::shouldPasteUuidsAsTheyAreUnlessToldOtherwise()
+void TestFishEditorClipboard::shouldPasteUuidsAsTheyAreUnlessToldOtherwise()
 {
     EditorFixture fixture(document);
     fixture.select({QStringLiteral("B")});
@@ -142,7 +142,7 @@ void tst_FishEditorClipboard::shouldPasteUuidsAsTheyAreUnlessToldOtherwise()
     QCOMPARE(pasted->childAtIndex(0)->pid(), QStringLiteral("u-B"));
 }
 
-void tst_FishEditorClipboard::shouldGivePastedSubjectsUuidsOfTheirOwn()
+void TestFishEditorClipboard::shouldGivePastedSubjectsUuidsOfTheirOwn()
 {
     EditorFixture fixture(document);
     fixture.editor.setPasteAsNew(true);
@@ -158,7 +158,7 @@ void tst_FishEditorClipboard::shouldGivePastedSubjectsUuidsOfTheirOwn()
     QCOMPARE(treeOf(fixture), document);
 }
 
-void tst_FishEditorClipboard::shouldPasteBackWhatWasCut()
+void TestFishEditorClipboard::shouldPasteBackWhatWasCut()
 {
     EditorFixture fixture(document);
     fixture.select({QStringLiteral("A"), QStringLiteral("C")});
@@ -173,7 +173,7 @@ void tst_FishEditorClipboard::shouldPasteBackWhatWasCut()
     QCOMPARE(treeOf(fixture), document);
 }
 
-void tst_FishEditorClipboard::shouldEmptyTheBufferWhenNothingUsableIsSelected()
+void TestFishEditorClipboard::shouldEmptyTheBufferWhenNothingUsableIsSelected()
 {
     EditorFixture fixture(document);
     fixture.select({QStringLiteral("A")});
@@ -183,7 +183,7 @@ void tst_FishEditorClipboard::shouldEmptyTheBufferWhenNothingUsableIsSelected()
     QVERIFY(!fixture.editor.hasClipBoardData());
 }
 
-void tst_FishEditorClipboard::shouldKeepTheBufferAcrossAChangeOfTheDiagram()
+void TestFishEditorClipboard::shouldKeepTheBufferAcrossAChangeOfTheDiagram()
 {
     EditorFixture fixture(document);
     loadDocument(fixture.model, QStringLiteral("Other[X]"));
@@ -195,7 +195,7 @@ void tst_FishEditorClipboard::shouldKeepTheBufferAcrossAChangeOfTheDiagram()
              QStringLiteral("Other[X[B[B1]]]"));
 }
 
-void tst_FishEditorClipboard::shouldGiveCopiedSubjectsAUuid()
+void TestFishEditorClipboard::shouldGiveCopiedSubjectsAUuid()
 {
     QJsonObject anonymous = documentFromText(QStringLiteral("Head[A]"));
     QJsonObject child = anonymous.value(QStringLiteral("children")).toArray().at(0).toObject();
@@ -209,7 +209,7 @@ void tst_FishEditorClipboard::shouldGiveCopiedSubjectsAUuid()
     QVERIFY(!fixture.editor.isModified());
 }
 
-void tst_FishEditorClipboard::shouldReadTheLastRecordOfAPayload()
+void TestFishEditorClipboard::shouldReadTheLastRecordOfAPayload()
 {
     EditorFixture fixture(document);
     const std::unique_ptr<QMimeData> data(fixture.model.mimeData(
@@ -218,7 +218,7 @@ void tst_FishEditorClipboard::shouldReadTheLastRecordOfAPayload()
              fixture.subject(QStringLiteral("B1")));
 }
 
-void tst_FishEditorClipboard::shouldRefuseForeignPayloads()
+void TestFishEditorClipboard::shouldRefuseForeignPayloads()
 {
     EditorFixture fixture(document);
     EditorFixture other(document);
@@ -234,7 +234,7 @@ void tst_FishEditorClipboard::shouldRefuseForeignPayloads()
     QCOMPARE(fixture.editor.treeItemFromMimeData(nullptr), nullptr);
 }
 
-void tst_FishEditorClipboard::shouldLeaveThePlaceholdersWithoutEffect()
+void TestFishEditorClipboard::shouldLeaveThePlaceholdersWithoutEffect()
 {
     EditorFixture fixture(document);
     fixture.editor.insertItem(fixture.index(QStringLiteral("A")), &fixture.model,
@@ -243,5 +243,5 @@ void tst_FishEditorClipboard::shouldLeaveThePlaceholdersWithoutEffect()
     QCOMPARE(treeOf(fixture), document);
 }
 
-FISHBONE_TEST(tst_FishEditorClipboard)
+FISHBONE_TEST(TestFishEditorClipboard)
 #include "tst_fisheditor_clipboard.moc"

@@ -33,7 +33,7 @@ using Slot = void (FishEditor::*)();
 } // namespace
 Q_DECLARE_METATYPE(Slot)
 
-class tst_FishEditorEditing : public QObject
+class TestFishEditorEditing : public QObject
 {
     Q_OBJECT
 
@@ -67,7 +67,7 @@ private Q_SLOTS:
     void shouldKeepUndoingBeyondTheBoundWhenRolling();
 };
 
-void tst_FishEditorEditing::shouldPushTheCommandOfEachSlot_data()
+void TestFishEditorEditing::shouldPushTheCommandOfEachSlot_data()
 {
     QTest::addColumn<Slot>("slot");
     QTest::addColumn<QString>("selected");
@@ -94,7 +94,7 @@ void tst_FishEditorEditing::shouldPushTheCommandOfEachSlot_data()
     row("cut", &FishEditor::cut, "A", "Delete selecteds", "Head[B[B1],C]");
 }
 
-void tst_FishEditorEditing::shouldPushTheCommandOfEachSlot()
+void TestFishEditorEditing::shouldPushTheCommandOfEachSlot()
 {
     QFETCH(Slot, slot);
     QFETCH(QString, selected);
@@ -112,7 +112,7 @@ void tst_FishEditorEditing::shouldPushTheCommandOfEachSlot()
     QCOMPARE(treeOf(fixture), tree);
 }
 
-void tst_FishEditorEditing::shouldDoNothingWithoutASelection_data()
+void TestFishEditorEditing::shouldDoNothingWithoutASelection_data()
 {
     QTest::addColumn<Slot>("slot");
     QTest::newRow("before") << Slot(&FishEditor::insertSubject);
@@ -131,7 +131,7 @@ void tst_FishEditorEditing::shouldDoNothingWithoutASelection_data()
     QTest::newRow("contract") << Slot(&FishEditor::modifyContract);
 }
 
-void tst_FishEditorEditing::shouldDoNothingWithoutASelection()
+void TestFishEditorEditing::shouldDoNothingWithoutASelection()
 {
     QFETCH(Slot, slot);
     EditorFixture fixture(document);
@@ -141,7 +141,7 @@ void tst_FishEditorEditing::shouldDoNothingWithoutASelection()
     QVERIFY(!fixture.editor.isModified());
 }
 
-void tst_FishEditorEditing::shouldDoNothingWithoutAModel()
+void TestFishEditorEditing::shouldDoNothingWithoutAModel()
 {
     FishEditor editor;
     TreeItem item;
@@ -167,7 +167,7 @@ void tst_FishEditorEditing::shouldDoNothingWithoutAModel()
     QVERIFY(!editor.isModified());
 }
 
-void tst_FishEditorEditing::shouldInsertAGivenItemBelowAnIndex()
+void TestFishEditorEditing::shouldInsertAGivenItemBelowAnIndex()
 {
     EditorFixture fixture(document);
     auto given = std::make_unique<TreeItem>(QStringLiteral("Given"), QStringLiteral("g"), QString(),
@@ -181,14 +181,14 @@ void tst_FishEditorEditing::shouldInsertAGivenItemBelowAnIndex()
     QCOMPARE(fixture.subject(QStringLiteral("Given")), item);
 }
 
-void tst_FishEditorEditing::shouldRefuseAGivenItemThatIsMissing()
+void TestFishEditorEditing::shouldRefuseAGivenItemThatIsMissing()
 {
     EditorFixture fixture(document);
     fixture.editor.insertChildSubject(fixture.index(QStringLiteral("B")), nullptr);
     QVERIFY(fixture.editor.undoStack()->commandNames().isEmpty());
 }
 
-void tst_FishEditorEditing::shouldAppendAFreeSubjectOutsideTheHistory()
+void TestFishEditorEditing::shouldAppendAFreeSubjectOutsideTheHistory()
 {
     EditorFixture fixture(document);
     fixture.editor.insertFreeSubject();
@@ -198,7 +198,7 @@ void tst_FishEditorEditing::shouldAppendAFreeSubjectOutsideTheHistory()
     QVERIFY(fixture.editor.isModified());
 }
 
-void tst_FishEditorEditing::shouldEditASubjectOutsideTheHistory()
+void TestFishEditorEditing::shouldEditASubjectOutsideTheHistory()
 {
     EditorFixture fixture(document);
     TreeItem values(QStringLiteral("New"), QString(), QString(), QString(), 0);
@@ -210,7 +210,7 @@ void tst_FishEditorEditing::shouldEditASubjectOutsideTheHistory()
     QVERIFY(fixture.editor.isModified());
 }
 
-void tst_FishEditorEditing::shouldDeleteTheSubjectOfAnIndex()
+void TestFishEditorEditing::shouldDeleteTheSubjectOfAnIndex()
 {
     EditorFixture fixture(document);
     fixture.editor.deleteSubject(fixture.index(QStringLiteral("A")));
@@ -221,7 +221,7 @@ void tst_FishEditorEditing::shouldDeleteTheSubjectOfAnIndex()
     QCOMPARE(treeOf(fixture), document);
 }
 
-void tst_FishEditorEditing::shouldDeleteTheSelection()
+void TestFishEditorEditing::shouldDeleteTheSelection()
 {
     EditorFixture fixture(document);
     fixture.editor.expandAll();
@@ -232,7 +232,7 @@ void tst_FishEditorEditing::shouldDeleteTheSelection()
     QCOMPARE(treeOf(fixture), document);
 }
 
-void tst_FishEditorEditing::shouldNotDeleteTheHeadThroughTheSelection()
+void TestFishEditorEditing::shouldNotDeleteTheHeadThroughTheSelection()
 {
     EditorFixture fixture(document);
     fixture.select({QStringLiteral("Head")});
@@ -241,7 +241,7 @@ void tst_FishEditorEditing::shouldNotDeleteTheHeadThroughTheSelection()
     QVERIFY(!fixture.editor.canUndo());
 }
 
-void tst_FishEditorEditing::shouldRenameThroughTheModel()
+void TestFishEditorEditing::shouldRenameThroughTheModel()
 {
     EditorFixture fixture(document);
     QSignalSpy changes(&fixture.model, &FishModel::dataChanged);
@@ -253,7 +253,7 @@ void tst_FishEditorEditing::shouldRenameThroughTheModel()
     QCOMPARE(treeOf(fixture), document);
 }
 
-void tst_FishEditorEditing::shouldRebuildContractedAfterUndoAndRedo()
+void TestFishEditorEditing::shouldRebuildContractedAfterUndoAndRedo()
 {
     EditorFixture fixture(document);
     fixture.select({QStringLiteral("C")});
@@ -267,7 +267,7 @@ void tst_FishEditorEditing::shouldRebuildContractedAfterUndoAndRedo()
     QVERIFY(!fixture.spear(QStringLiteral("A"))->isExpand());
 }
 
-void tst_FishEditorEditing::shouldRelayoutWithoutRebuildAfterAnInsertion()
+void TestFishEditorEditing::shouldRelayoutWithoutRebuildAfterAnInsertion()
 {
     EditorFixture fixture(document);
     fixture.editor.expandAll();
@@ -283,7 +283,7 @@ void tst_FishEditorEditing::shouldRelayoutWithoutRebuildAfterAnInsertion()
     QCOMPARE(bones.at(2)->direction(), 1);
 }
 
-void tst_FishEditorEditing::shouldTellCopyAvailableOfTheSelection()
+void TestFishEditorEditing::shouldTellCopyAvailableOfTheSelection()
 {
     EditorFixture fixture(document);
     SignalRecorder recorder(fixture.editor);
@@ -294,7 +294,7 @@ void tst_FishEditorEditing::shouldTellCopyAvailableOfTheSelection()
     QVERIFY(!fixture.editor.hasSelection());
 }
 
-void tst_FishEditorEditing::shouldFindTheSpearOfASelectedText()
+void TestFishEditorEditing::shouldFindTheSpearOfASelectedText()
 {
     EditorFixture fixture(document);
     SpearItem *const spear = fixture.spear(QStringLiteral("B"));
@@ -304,7 +304,7 @@ void tst_FishEditorEditing::shouldFindTheSpearOfASelectedText()
     QCOMPARE(fixture.editor.firstSelectedSpearIndex(), fixture.index(QStringLiteral("B")));
 }
 
-void tst_FishEditorEditing::shouldSelectEverythingVisible()
+void TestFishEditorEditing::shouldSelectEverythingVisible()
 {
     EditorFixture fixture(document);
     QSignalSpy changes(fixture.editor.scene(), &QGraphicsScene::selectionChanged);
@@ -313,7 +313,7 @@ void tst_FishEditorEditing::shouldSelectEverythingVisible()
     QCOMPARE(changes.count(), 1);
 }
 
-void tst_FishEditorEditing::shouldReadTheLinkTextFromTheShowIdColumn()
+void TestFishEditorEditing::shouldReadTheLinkTextFromTheShowIdColumn()
 {
     EditorFixture fixture(document);
     fixture.subject(QStringLiteral("B"))->setShowid(QStringLiteral("T-7"));
@@ -323,7 +323,7 @@ void tst_FishEditorEditing::shouldReadTheLinkTextFromTheShowIdColumn()
     QCOMPARE(fixture.editor.currItemUrl(), QStringLiteral("T-7"));
 }
 
-void tst_FishEditorEditing::shouldOpenTheLinkText()
+void TestFishEditorEditing::shouldOpenTheLinkText()
 {
     QList<QUrl> opened;
     LinkItem::setOpener([&opened](const QUrl &url) { opened.append(url); });
@@ -337,7 +337,7 @@ void tst_FishEditorEditing::shouldOpenTheLinkText()
     LinkItem::setOpener({});
 }
 
-void tst_FishEditorEditing::shouldRemoveALinkAndRefreshItsIcon()
+void TestFishEditorEditing::shouldRemoveALinkAndRefreshItsIcon()
 {
     EditorFixture fixture(document);
     fixture.subject(QStringLiteral("B"))->setUrl(QStringLiteral("https://example.org"));
@@ -352,7 +352,7 @@ void tst_FishEditorEditing::shouldRemoveALinkAndRefreshItsIcon()
     QVERIFY(fixture.spear(QStringLiteral("B"))->linkItem());
 }
 
-void tst_FishEditorEditing::shouldMakeAnOwnStyleWhenTheDialogIsAccepted()
+void TestFishEditorEditing::shouldMakeAnOwnStyleWhenTheDialogIsAccepted()
 {
     EditorFixture fixture(document);
     fixture.select({QStringLiteral("B")});
@@ -364,7 +364,7 @@ void tst_FishEditorEditing::shouldMakeAnOwnStyleWhenTheDialogIsAccepted()
     QVERIFY(!fixture.editor.canUndo());
 }
 
-void tst_FishEditorEditing::shouldLeaveTheStyleWhenTheDialogIsCancelled()
+void TestFishEditorEditing::shouldLeaveTheStyleWhenTheDialogIsCancelled()
 {
     EditorFixture fixture(document);
     fixture.select({QStringLiteral("B")});
@@ -374,7 +374,7 @@ void tst_FishEditorEditing::shouldLeaveTheStyleWhenTheDialogIsCancelled()
     QVERIFY(!fixture.subject(QStringLiteral("B"))->spearStyle());
 }
 
-void tst_FishEditorEditing::shouldRemoveTheOwnStyle()
+void TestFishEditorEditing::shouldRemoveTheOwnStyle()
 {
     EditorFixture fixture(document);
     const QJsonObject style{{QStringLiteral("textCount"), 1}};
@@ -386,7 +386,7 @@ void tst_FishEditorEditing::shouldRemoveTheOwnStyle()
     QVERIFY(!fixture.editor.isModified());
 }
 
-void tst_FishEditorEditing::shouldKeepTheDocumentOfAHeadThatGetsAParent()
+void TestFishEditorEditing::shouldKeepTheDocumentOfAHeadThatGetsAParent()
 {
     EditorFixture fixture(document);
     const QString pid = fixture.subject(QStringLiteral("Head"))->pid();
@@ -403,7 +403,7 @@ void tst_FishEditorEditing::shouldKeepTheDocumentOfAHeadThatGetsAParent()
     QCOMPARE(fixture.subject(QStringLiteral("Head"))->pid(), pid);
 }
 
-void tst_FishEditorEditing::shouldShowTheHeadAgainWhenItsDeletionIsUndone()
+void TestFishEditorEditing::shouldShowTheHeadAgainWhenItsDeletionIsUndone()
 {
     EditorFixture fixture(document);
     fixture.info->setFileName(QStringLiteral("kept.json"));
@@ -419,7 +419,7 @@ void tst_FishEditorEditing::shouldShowTheHeadAgainWhenItsDeletionIsUndone()
     QCOMPARE(fixture.editor.headSpear()->text(), QStringLiteral("Head"));
 }
 
-void tst_FishEditorEditing::shouldKeepUndoingBeyondTheBoundWhenRolling()
+void TestFishEditorEditing::shouldKeepUndoingBeyondTheBoundWhenRolling()
 {
     EditorFixture fixture(document);
     fixture.editor.undoStack()->setRolling(true);
@@ -438,5 +438,5 @@ void tst_FishEditorEditing::shouldKeepUndoingBeyondTheBoundWhenRolling()
     QCOMPARE(fixture.model.rowCount(head), 24);
 }
 
-FISHBONE_TEST(tst_FishEditorEditing)
+FISHBONE_TEST(TestFishEditorEditing)
 #include "tst_fisheditor_editing.moc"

@@ -30,7 +30,7 @@ QList<QGraphicsItem *> items(const EditorFixture &fixture, const QStringList &ti
 
 } // namespace
 
-class tst_FishEditorMoving : public QObject
+class TestFishEditorMoving : public QObject
 {
     Q_OBJECT
 
@@ -57,7 +57,7 @@ private Q_SLOTS:
     void shouldFollowTheTargetOfADropToItsPlace();
 };
 
-void tst_FishEditorMoving::shouldMoveSubjectsUndoably()
+void TestFishEditorMoving::shouldMoveSubjectsUndoably()
 {
     EditorFixture fixture(document);
     fixture.editor.expandAll();
@@ -75,7 +75,7 @@ void tst_FishEditorMoving::shouldMoveSubjectsUndoably()
     QCOMPARE(fixture.subject(QStringLiteral("B1"))->pid(), QStringLiteral("u-B"));
 }
 
-void tst_FishEditorMoving::shouldReportANewParentInTaskModeOnly_data()
+void TestFishEditorMoving::shouldReportANewParentInTaskModeOnly_data()
 {
     QTest::addColumn<int>("type");
     QTest::addColumn<QString>("report");
@@ -84,7 +84,7 @@ void tst_FishEditorMoving::shouldReportANewParentInTaskModeOnly_data()
     QTest::newRow("diagram mode") << int(FISH_MODEL_DIAGRAM) << QString();
 }
 
-void tst_FishEditorMoving::shouldReportANewParentInTaskModeOnly()
+void TestFishEditorMoving::shouldReportANewParentInTaskModeOnly()
 {
     QFETCH(int, type);
     QFETCH(QString, report);
@@ -96,7 +96,7 @@ void tst_FishEditorMoving::shouldReportANewParentInTaskModeOnly()
     QCOMPARE(recorder.take(), report);
 }
 
-void tst_FishEditorMoving::shouldReportSubjectsInTheOrderOfTheSnapshot()
+void TestFishEditorMoving::shouldReportSubjectsInTheOrderOfTheSnapshot()
 {
     EditorFixture fixture(document);
     fixture.model.setModelType(FISH_MODEL_NORMAL);
@@ -108,7 +108,7 @@ void tst_FishEditorMoving::shouldReportSubjectsInTheOrderOfTheSnapshot()
     QCOMPARE(recorder.take(), QStringLiteral("changeTaskParent([u-C, u-A1, u-A2], u-B, 1)"));
 }
 
-void tst_FishEditorMoving::shouldRefuseAMoveWithAnImmovableSubject()
+void TestFishEditorMoving::shouldRefuseAMoveWithAnImmovableSubject()
 {
     EditorFixture fixture(document);
     fixture.model.setModelType(FISH_MODEL_NORMAL);
@@ -122,7 +122,7 @@ void tst_FishEditorMoving::shouldRefuseAMoveWithAnImmovableSubject()
     QVERIFY(!fixture.editor.isModified());
 }
 
-void tst_FishEditorMoving::shouldRefuseAMoveWithoutATarget()
+void TestFishEditorMoving::shouldRefuseAMoveWithoutATarget()
 {
     EditorFixture fixture(document);
     fixture.editor.moveItems({}, items(fixture, {QStringLiteral("B")}), QModelIndex(), 0);
@@ -130,14 +130,14 @@ void tst_FishEditorMoving::shouldRefuseAMoveWithoutATarget()
     QVERIFY(!fixture.editor.canUndo());
 }
 
-void tst_FishEditorMoving::shouldRefuseAMoveIntoTheMovedSubtree_data()
+void TestFishEditorMoving::shouldRefuseAMoveIntoTheMovedSubtree_data()
 {
     QTest::addColumn<QString>("target");
     QTest::newRow("itself") << QStringLiteral("A");
     QTest::newRow("below itself") << QStringLiteral("A2");
 }
 
-void tst_FishEditorMoving::shouldRefuseAMoveIntoTheMovedSubtree()
+void TestFishEditorMoving::shouldRefuseAMoveIntoTheMovedSubtree()
 {
     QFETCH(QString, target);
     EditorFixture fixture(document);
@@ -150,7 +150,7 @@ void tst_FishEditorMoving::shouldRefuseAMoveIntoTheMovedSubtree()
     QVERIFY(!fixture.editor.isModified());
 }
 
-void tst_FishEditorMoving::shouldPutItemsBackAfterARefusal()
+void TestFishEditorMoving::shouldPutItemsBackAfterARefusal()
 {
     EditorFixture fixture(document);
     SpearItem *const dragged = fixture.spear(QStringLiteral("B"));
@@ -161,7 +161,7 @@ void tst_FishEditorMoving::shouldPutItemsBackAfterARefusal()
     QCOMPARE(dragged->line(), line);
 }
 
-void tst_FishEditorMoving::shouldNotMoveTheHead()
+void TestFishEditorMoving::shouldNotMoveTheHead()
 {
     EditorFixture fixture(document);
     loadDocument(fixture.model, QStringLiteral("Other"));
@@ -171,7 +171,7 @@ void tst_FishEditorMoving::shouldNotMoveTheHead()
     QVERIFY(!fixture.editor.canUndo());
 }
 
-void tst_FishEditorMoving::shouldApplyADropOutsideTheHistory()
+void TestFishEditorMoving::shouldApplyADropOutsideTheHistory()
 {
     EditorFixture fixture(document);
     fixture.model.setModelType(FISH_MODEL_NORMAL);
@@ -185,7 +185,7 @@ void tst_FishEditorMoving::shouldApplyADropOutsideTheHistory()
     QVERIFY(fixture.editor.isModified());
 }
 
-void tst_FishEditorMoving::shouldMoveOnlyTheLastRowOfADrop()
+void TestFishEditorMoving::shouldMoveOnlyTheLastRowOfADrop()
 {
     EditorFixture fixture(document);
     const std::unique_ptr<QMimeData> data(fixture.model.mimeData(
@@ -195,7 +195,7 @@ void tst_FishEditorMoving::shouldMoveOnlyTheLastRowOfADrop()
     QCOMPARE(treeOf(fixture), QStringLiteral("Head[A[A1,A2],B,C[B1]]"));
 }
 
-void tst_FishEditorMoving::shouldMakeSpearsForADroppedSubjectThatHadNone()
+void TestFishEditorMoving::shouldMakeSpearsForADroppedSubjectThatHadNone()
 {
     EditorFixture fixture(QStringLiteral("Head[A[A1[Deep[Deeper]]],C]"));
     QVERIFY(!fixture.spear(QStringLiteral("A1")));
@@ -210,7 +210,7 @@ void tst_FishEditorMoving::shouldMakeSpearsForADroppedSubjectThatHadNone()
     QCOMPARE(moved->modelIndex(), fixture.index(QStringLiteral("A1")));
 }
 
-void tst_FishEditorMoving::shouldMakeAllSpearsBelowABoneThatHadNone()
+void TestFishEditorMoving::shouldMakeAllSpearsBelowABoneThatHadNone()
 {
     EditorFixture fixture(document);
     QVERIFY(!fixture.spear(QStringLiteral("A1")));
@@ -224,7 +224,7 @@ void tst_FishEditorMoving::shouldMakeAllSpearsBelowABoneThatHadNone()
     QCOMPARE(children.at(2)->text(), QStringLiteral("A2"));
 }
 
-void tst_FishEditorMoving::shouldIgnoreADropOfForeignData()
+void TestFishEditorMoving::shouldIgnoreADropOfForeignData()
 {
     EditorFixture fixture(document);
     EditorFixture other(document);
@@ -239,12 +239,12 @@ void tst_FishEditorMoving::shouldIgnoreADropOfForeignData()
     QVERIFY(!fixture.editor.isModified());
 }
 
-void tst_FishEditorMoving::shouldIgnoreADropOntoTheDroppedSubtree_data()
+void TestFishEditorMoving::shouldIgnoreADropOntoTheDroppedSubtree_data()
 {
     shouldRefuseAMoveIntoTheMovedSubtree_data();
 }
 
-void tst_FishEditorMoving::shouldIgnoreADropOntoTheDroppedSubtree()
+void TestFishEditorMoving::shouldIgnoreADropOntoTheDroppedSubtree()
 {
     QFETCH(QString, target);
     EditorFixture fixture(document);
@@ -258,7 +258,7 @@ void tst_FishEditorMoving::shouldIgnoreADropOntoTheDroppedSubtree()
     QVERIFY(!fixture.editor.isModified());
 }
 
-void tst_FishEditorMoving::shouldIgnoreADropWithoutATargetOrModel()
+void TestFishEditorMoving::shouldIgnoreADropWithoutATargetOrModel()
 {
     EditorFixture fixture(document);
     const std::unique_ptr<QMimeData> data(
@@ -270,7 +270,7 @@ void tst_FishEditorMoving::shouldIgnoreADropWithoutATargetOrModel()
     QCOMPARE(treeOf(fixture), document);
 }
 
-void tst_FishEditorMoving::shouldIgnoreADropOnASubjectThatIsGone()
+void TestFishEditorMoving::shouldIgnoreADropOnASubjectThatIsGone()
 {
     EditorFixture fixture(document);
     const std::unique_ptr<QMimeData> data(
@@ -286,7 +286,7 @@ void tst_FishEditorMoving::shouldIgnoreADropOnASubjectThatIsGone()
     QVERIFY(!fixture.editor.isModified());
 }
 
-void tst_FishEditorMoving::shouldFollowTheTargetOfADropToItsPlace()
+void TestFishEditorMoving::shouldFollowTheTargetOfADropToItsPlace()
 {
     EditorFixture fixture(document);
     fixture.model.setModelType(FISH_MODEL_NORMAL);
@@ -302,5 +302,5 @@ void tst_FishEditorMoving::shouldFollowTheTargetOfADropToItsPlace()
     QCOMPARE(recorder.take(), QStringLiteral("changeTaskParent([u-C], u-B, 0)"));
 }
 
-FISHBONE_TEST(tst_FishEditorMoving)
+FISHBONE_TEST(TestFishEditorMoving)
 #include "tst_fisheditor_moving.moc"

@@ -270,7 +270,7 @@ QJsonObject documentFor(quint32 seed)
 
 } // namespace
 
-class tst_FishEditorRandomEditing : public QObject
+class TestFishEditorRandomEditing : public QObject
 {
     Q_OBJECT
 
@@ -281,14 +281,14 @@ private Q_SLOTS:
     void shouldStayInStepThroughAnyEdit();
 };
 
-void tst_FishEditorRandomEditing::shouldTakeBackAndRepeatEverySequence_data()
+void TestFishEditorRandomEditing::shouldTakeBackAndRepeatEverySequence_data()
 {
     QTest::addColumn<int>("seed");
     for (int seed = 1; seed <= sequences(); ++seed)
         QTest::newRow(QByteArray::number(seed).constData()) << seed;
 }
 
-void tst_FishEditorRandomEditing::shouldTakeBackAndRepeatEverySequence()
+void TestFishEditorRandomEditing::shouldTakeBackAndRepeatEverySequence()
 {
     QFETCH(int, seed);
     EditorFixture fixture(documentFor(quint32(seed)));
@@ -316,12 +316,12 @@ void tst_FishEditorRandomEditing::shouldTakeBackAndRepeatEverySequence()
     QCOMPARE(fault(fixture), QString());
 }
 
-void tst_FishEditorRandomEditing::shouldStayInStepThroughAnyEdit_data()
+void TestFishEditorRandomEditing::shouldStayInStepThroughAnyEdit_data()
 {
     shouldTakeBackAndRepeatEverySequence_data();
 }
 
-void tst_FishEditorRandomEditing::shouldStayInStepThroughAnyEdit()
+void TestFishEditorRandomEditing::shouldStayInStepThroughAnyEdit()
 {
     QFETCH(int, seed);
     EditorFixture fixture(documentFor(quint32(seed)));
@@ -336,5 +336,5 @@ void tst_FishEditorRandomEditing::shouldStayInStepThroughAnyEdit()
     }
 }
 
-FISHBONE_TEST(tst_FishEditorRandomEditing)
+FISHBONE_TEST(TestFishEditorRandomEditing)
 #include "tst_fisheditor_randomediting.moc"

@@ -74,7 +74,7 @@ QString entriesOf(FishEditor &editor, SpearItem *spear)
 
 } // namespace
 
-class tst_FishEditorTasks : public QObject
+class TestFishEditorTasks : public QObject
 {
     Q_OBJECT
 
@@ -93,7 +93,7 @@ private Q_SLOTS:
     void shouldReportADoubleClickOnTheSelectedSpear();
 };
 
-void tst_FishEditorTasks::shouldOfferTheEntriesOfTheMode_data()
+void TestFishEditorTasks::shouldOfferTheEntriesOfTheMode_data()
 {
     QTest::addColumn<int>("type");
     QTest::addColumn<QString>("title");
@@ -110,7 +110,7 @@ void tst_FishEditorTasks::shouldOfferTheEntriesOfTheMode_data()
         << 1 << QString() << QStringLiteral("1004 编辑节点, 1005 新建子节点");
 }
 
-void tst_FishEditorTasks::shouldOfferTheEntriesOfTheMode()
+void TestFishEditorTasks::shouldOfferTheEntriesOfTheMode()
 {
     QFETCH(int, type);
     QFETCH(QString, title);
@@ -120,13 +120,13 @@ void tst_FishEditorTasks::shouldOfferTheEntriesOfTheMode()
     QCOMPARE(entriesOf(fixture.editor, title.isEmpty() ? nullptr : fixture.spear(title)), entries);
 }
 
-void tst_FishEditorTasks::shouldOfferTaskEntriesWithoutAModel()
+void TestFishEditorTasks::shouldOfferTaskEntriesWithoutAModel()
 {
     FishEditor editor;
     QVERIFY(entriesOf(editor, nullptr).startsWith(QLatin1String("1001 ")));
 }
 
-void tst_FishEditorTasks::shouldReportTheChosenGesture_data()
+void TestFishEditorTasks::shouldReportTheChosenGesture_data()
 {
     QTest::addColumn<int>("type");
     QTest::addColumn<int>("entry");
@@ -139,7 +139,7 @@ void tst_FishEditorTasks::shouldReportTheChosenGesture_data()
     QTest::newRow("nothing chosen") << 1 << 0 << QString();
 }
 
-void tst_FishEditorTasks::shouldReportTheChosenGesture()
+void TestFishEditorTasks::shouldReportTheChosenGesture()
 {
     QFETCH(int, type);
     QFETCH(int, entry);
@@ -154,7 +154,7 @@ void tst_FishEditorTasks::shouldReportTheChosenGesture()
     QCOMPARE(recorder.take(), report);
 }
 
-void tst_FishEditorTasks::shouldDeleteThroughTheMenu()
+void TestFishEditorTasks::shouldDeleteThroughTheMenu()
 {
     EditorFixture fixture(document);
     MenuUser user([](QMenu &menu) { choose(menu, 1006); });
@@ -164,7 +164,7 @@ void tst_FishEditorTasks::shouldDeleteThroughTheMenu()
     QVERIFY(fixture.editor.canUndo());
 }
 
-void tst_FishEditorTasks::shouldWriteADebugLineBeforeTheTaskSignals()
+void TestFishEditorTasks::shouldWriteADebugLineBeforeTheTaskSignals()
 {
     EditorFixture fixture(document);
     fixture.model.setModelType(FISH_MODEL_NORMAL);
@@ -182,7 +182,7 @@ void tst_FishEditorTasks::shouldWriteADebugLineBeforeTheTaskSignals()
     }
 }
 
-void tst_FishEditorTasks::shouldShowNoMenuOnTheHeadInTaskMode()
+void TestFishEditorTasks::shouldShowNoMenuOnTheHeadInTaskMode()
 {
     EditorFixture fixture(document);
     fixture.model.setModelType(FISH_MODEL_NORMAL);
@@ -192,7 +192,7 @@ void tst_FishEditorTasks::shouldShowNoMenuOnTheHeadInTaskMode()
     QVERIFY(!user.hasSeenAMenu());
 }
 
-void tst_FishEditorTasks::shouldShowNoMenuForNothing()
+void TestFishEditorTasks::shouldShowNoMenuForNothing()
 {
     EditorFixture fixture(document);
     SpearItem stranger(QStringLiteral("no subject"), 0, 20);
@@ -203,7 +203,7 @@ void tst_FishEditorTasks::shouldShowNoMenuForNothing()
     QVERIFY(!user.hasSeenAMenu());
 }
 
-void tst_FishEditorTasks::shouldDoNothingWhenTheSubjectGoesWhileTheMenuIsOpen()
+void TestFishEditorTasks::shouldDoNothingWhenTheSubjectGoesWhileTheMenuIsOpen()
 {
     EditorFixture fixture(document);
     SignalRecorder recorder(fixture.editor, {QStringLiteral("editTaskDetail")});
@@ -216,7 +216,7 @@ void tst_FishEditorTasks::shouldDoNothingWhenTheSubjectGoesWhileTheMenuIsOpen()
     QCOMPARE(recorder.take(), QString());
 }
 
-void tst_FishEditorTasks::shouldSurviveItsOwnEndWhileTheMenuIsOpen()
+void TestFishEditorTasks::shouldSurviveItsOwnEndWhileTheMenuIsOpen()
 {
     FishModel model;
     model.setModelType(FISH_MODEL_DIAGRAM);
@@ -233,7 +233,7 @@ void tst_FishEditorTasks::shouldSurviveItsOwnEndWhileTheMenuIsOpen()
     QVERIFY(!editor);
 }
 
-void tst_FishEditorTasks::shouldReportADoubleClickOnTheSelectedSpear()
+void TestFishEditorTasks::shouldReportADoubleClickOnTheSelectedSpear()
 {
     EditorFixture fixture(document);
     SignalRecorder recorder(fixture.editor, {QStringLiteral("editTaskDetail")});
@@ -250,5 +250,5 @@ void tst_FishEditorTasks::shouldReportADoubleClickOnTheSelectedSpear()
     QCOMPARE(recorder.take(), QString());
 }
 
-FISHBONE_TEST(tst_FishEditorTasks)
+FISHBONE_TEST(TestFishEditorTasks)
 #include "tst_fisheditor_tasks.moc"

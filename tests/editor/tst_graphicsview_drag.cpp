@@ -117,7 +117,7 @@ protected:
 
 } // namespace
 
-class tst_GraphicsViewDrag : public QObject
+class TestGraphicsViewDrag : public QObject
 {
     Q_OBJECT
 
@@ -140,7 +140,7 @@ private Q_SLOTS:
     void shouldPaintTheSameInPiecesAsInFullDuringADrag();
 };
 
-void tst_GraphicsViewDrag::shouldTakeADragThatEnters()
+void TestGraphicsViewDrag::shouldTakeADragThatEnters()
 {
     EditorFixture fixture(document);
     QVERIFY(fixture.show());
@@ -149,7 +149,7 @@ void tst_GraphicsViewDrag::shouldTakeADragThatEnters()
     QVERIFY(!fixture.editor.view()->linkedSpear());
 }
 
-void tst_GraphicsViewDrag::shouldRefuseADragWithoutASubject_data()
+void TestGraphicsViewDrag::shouldRefuseADragWithoutASubject_data()
 {
     QTest::addColumn<QByteArray>("format");
     QTest::addColumn<QByteArray>("payload");
@@ -161,7 +161,7 @@ void tst_GraphicsViewDrag::shouldRefuseADragWithoutASubject_data()
     QTest::newRow("half a record") << QByteArray("QModelIndexList") << QByteArray("\0\0\0\0\0", 5);
 }
 
-void tst_GraphicsViewDrag::shouldRefuseADragWithoutASubject()
+void TestGraphicsViewDrag::shouldRefuseADragWithoutASubject()
 {
     QFETCH(QByteArray, format);
     QFETCH(QByteArray, payload);
@@ -178,7 +178,7 @@ void tst_GraphicsViewDrag::shouldRefuseADragWithoutASubject()
     QCOMPARE(treeOf(fixture), document);
 }
 
-void tst_GraphicsViewDrag::shouldMarkTheSpearUnderADrag()
+void TestGraphicsViewDrag::shouldMarkTheSpearUnderADrag()
 {
     EditorFixture fixture(document);
     QVERIFY(fixture.show());
@@ -192,7 +192,7 @@ void tst_GraphicsViewDrag::shouldMarkTheSpearUnderADrag()
     QVERIFY(fixture.spear(QStringLiteral("B"))->isLinked());
 }
 
-void tst_GraphicsViewDrag::shouldUnmarkOverTheCanvas()
+void TestGraphicsViewDrag::shouldUnmarkOverTheCanvas()
 {
     EditorFixture fixture(document);
     QVERIFY(fixture.show());
@@ -204,14 +204,14 @@ void tst_GraphicsViewDrag::shouldUnmarkOverTheCanvas()
     QVERIFY(!fixture.spear(QStringLiteral("A"))->isLinked());
 }
 
-void tst_GraphicsViewDrag::shouldRefuseAndUnmarkOverTheDraggedSubtree_data()
+void TestGraphicsViewDrag::shouldRefuseAndUnmarkOverTheDraggedSubtree_data()
 {
     QTest::addColumn<QString>("target");
     QTest::newRow("itself") << QStringLiteral("A");
     QTest::newRow("below it") << QStringLiteral("A2");
 }
 
-void tst_GraphicsViewDrag::shouldRefuseAndUnmarkOverTheDraggedSubtree()
+void TestGraphicsViewDrag::shouldRefuseAndUnmarkOverTheDraggedSubtree()
 {
     QFETCH(QString, target);
     EditorFixture fixture(document);
@@ -225,7 +225,7 @@ void tst_GraphicsViewDrag::shouldRefuseAndUnmarkOverTheDraggedSubtree()
     QVERIFY(!fixture.spear(QStringLiteral("B"))->isLinked());
 }
 
-void tst_GraphicsViewDrag::shouldKeepTheMarkUntilTheNextDrag()
+void TestGraphicsViewDrag::shouldKeepTheMarkUntilTheNextDrag()
 {
     EditorFixture fixture(document);
     QVERIFY(fixture.show());
@@ -238,7 +238,7 @@ void tst_GraphicsViewDrag::shouldKeepTheMarkUntilTheNextDrag()
     QVERIFY(!fixture.spear(QStringLiteral("A"))->isLinked());
 }
 
-void tst_GraphicsViewDrag::shouldCarryOutADropWhenTheDragHasEnded()
+void TestGraphicsViewDrag::shouldCarryOutADropWhenTheDragHasEnded()
 {
     EditorFixture fixture(document);
     QVERIFY(fixture.show());
@@ -254,7 +254,7 @@ void tst_GraphicsViewDrag::shouldCarryOutADropWhenTheDragHasEnded()
     QVERIFY(!fixture.editor.canUndo());
 }
 
-void tst_GraphicsViewDrag::shouldReportNothingForADropBesideEverySpear()
+void TestGraphicsViewDrag::shouldReportNothingForADropBesideEverySpear()
 {
     EditorFixture fixture(document);
     QVERIFY(fixture.show());
@@ -266,7 +266,7 @@ void tst_GraphicsViewDrag::shouldReportNothingForADropBesideEverySpear()
     QCOMPARE(drops.count(), 0);
 }
 
-void tst_GraphicsViewDrag::shouldSurviveTheEndOfTheEditorBeforeTheDropIsHandled()
+void TestGraphicsViewDrag::shouldSurviveTheEndOfTheEditorBeforeTheDropIsHandled()
 {
     auto fixture = std::make_unique<EditorFixture>(document);
     QVERIFY(fixture->show());
@@ -281,7 +281,7 @@ void tst_GraphicsViewDrag::shouldSurviveTheEndOfTheEditorBeforeTheDropIsHandled(
     QVERIFY(!fixture);
 }
 
-void tst_GraphicsViewDrag::shouldForgetAMarkedSpearThatDies()
+void TestGraphicsViewDrag::shouldForgetAMarkedSpearThatDies()
 {
     EditorFixture fixture(document);
     QVERIFY(fixture.show());
@@ -296,7 +296,7 @@ void tst_GraphicsViewDrag::shouldForgetAMarkedSpearThatDies()
     QCOMPARE(fixture.model.rowCount(), 0);
 }
 
-void tst_GraphicsViewDrag::shouldTakeARowDraggedFromATreeView()
+void TestGraphicsViewDrag::shouldTakeARowDraggedFromATreeView()
 {
     EditorFixture fixture(document);
     QVERIFY(fixture.show());
@@ -327,7 +327,7 @@ void tst_GraphicsViewDrag::shouldTakeARowDraggedFromATreeView()
     QCOMPARE(treeOf(fixture), QStringLiteral("Head[A[A1,A2],B,C[B1]]"));
 }
 
-void tst_GraphicsViewDrag::shouldMoveWithTheMouseAtAnyZoomAndRotation_data()
+void TestGraphicsViewDrag::shouldMoveWithTheMouseAtAnyZoomAndRotation_data()
 {
     QTest::addColumn<int>("zoom");
     QTest::addColumn<int>("rotation");
@@ -338,7 +338,7 @@ void tst_GraphicsViewDrag::shouldMoveWithTheMouseAtAnyZoomAndRotation_data()
     }
 }
 
-void tst_GraphicsViewDrag::shouldMoveWithTheMouseAtAnyZoomAndRotation()
+void TestGraphicsViewDrag::shouldMoveWithTheMouseAtAnyZoomAndRotation()
 {
     QFETCH(int, zoom);
     QFETCH(int, rotation);
@@ -362,7 +362,7 @@ void tst_GraphicsViewDrag::shouldMoveWithTheMouseAtAnyZoomAndRotation()
     QVERIFY(fixture.editor.canUndo());
 }
 
-void tst_GraphicsViewDrag::shouldPaintTheSameInPiecesAsInFullDuringADrag()
+void TestGraphicsViewDrag::shouldPaintTheSameInPiecesAsInFullDuringADrag()
 {
     EditorFixture fixture(document);
     fixture.editor.expandAll();
@@ -378,5 +378,5 @@ void tst_GraphicsViewDrag::shouldPaintTheSameInPiecesAsInFullDuringADrag()
     QCOMPARE(staleness(view), QString());
 }
 
-FISHBONE_TEST(tst_GraphicsViewDrag)
+FISHBONE_TEST(TestGraphicsViewDrag)
 #include "tst_graphicsview_drag.moc"

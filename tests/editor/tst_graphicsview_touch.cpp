@@ -75,7 +75,7 @@ QNativeGestureEvent touchpadGesture(Qt::NativeGestureType type, double value)
 
 } // namespace
 
-class tst_GraphicsViewTouch : public QObject
+class TestGraphicsViewTouch : public QObject
 {
     Q_OBJECT
 
@@ -90,7 +90,7 @@ private Q_SLOTS:
     void shouldIgnoreOtherGestures();
 };
 
-void tst_GraphicsViewTouch::shouldScrollBothWaysWithTwoFingers_data()
+void TestGraphicsViewTouch::shouldScrollBothWaysWithTwoFingers_data()
 {
     QTest::addColumn<QPoint>("pixels");
     QTest::addColumn<QPoint>("angle");
@@ -109,7 +109,7 @@ void tst_GraphicsViewTouch::shouldScrollBothWaysWithTwoFingers_data()
     QTest::newRow("lifted") << QPoint() << QPoint() << int(Qt::ScrollEnd) << QPoint(0, 0);
 }
 
-void tst_GraphicsViewTouch::shouldScrollBothWaysWithTwoFingers()
+void TestGraphicsViewTouch::shouldScrollBothWaysWithTwoFingers()
 {
     QFETCH(QPoint, pixels);
     QFETCH(QPoint, angle);
@@ -121,7 +121,7 @@ void tst_GraphicsViewTouch::shouldScrollBothWaysWithTwoFingers()
     QCOMPARE(fixture.scrolled(), scrolled);
 }
 
-void tst_GraphicsViewTouch::shouldScrollSidewaysWithAWheelThatReportsPixels()
+void TestGraphicsViewTouch::shouldScrollSidewaysWithAWheelThatReportsPixels()
 {
     ZoomedEditor fixture;
     QVERIFY(fixture.prepare());
@@ -130,7 +130,7 @@ void tst_GraphicsViewTouch::shouldScrollSidewaysWithAWheelThatReportsPixels()
     QCOMPARE(fixture.scrolled().y(), 0);
 }
 
-void tst_GraphicsViewTouch::shouldZoomInProportionWithTwoFingersAndCtrl()
+void TestGraphicsViewTouch::shouldZoomInProportionWithTwoFingersAndCtrl()
 {
     ZoomedEditor fixture;
     QVERIFY(fixture.prepare());
@@ -145,7 +145,7 @@ void tst_GraphicsViewTouch::shouldZoomInProportionWithTwoFingersAndCtrl()
     QCOMPARE(fixture.scrolled(), QPoint(0, 0));
 }
 
-void tst_GraphicsViewTouch::shouldNotZoomWhenTheFingersLift()
+void TestGraphicsViewTouch::shouldNotZoomWhenTheFingersLift()
 {
     ZoomedEditor fixture;
     QVERIFY(fixture.prepare());
@@ -154,7 +154,7 @@ void tst_GraphicsViewTouch::shouldNotZoomWhenTheFingersLift()
     QCOMPARE(recorder.take(), QString());
 }
 
-void tst_GraphicsViewTouch::shouldZoomWithAPinchOnATouchpad()
+void TestGraphicsViewTouch::shouldZoomWithAPinchOnATouchpad()
 {
     ZoomedEditor fixture;
     QVERIFY(fixture.prepare());
@@ -168,7 +168,7 @@ void tst_GraphicsViewTouch::shouldZoomWithAPinchOnATouchpad()
     QCOMPARE(recorder.take(), QString());
 }
 
-void tst_GraphicsViewTouch::shouldZoomWithAPinchOnAScreen()
+void TestGraphicsViewTouch::shouldZoomWithAPinchOnAScreen()
 {
     ZoomedEditor fixture;
     QVERIFY(fixture.prepare());
@@ -181,7 +181,7 @@ void tst_GraphicsViewTouch::shouldZoomWithAPinchOnAScreen()
     QVERIFY(event.isAccepted(Qt::PinchGesture));
 }
 
-void tst_GraphicsViewTouch::shouldIgnoreOtherGestures()
+void TestGraphicsViewTouch::shouldIgnoreOtherGestures()
 {
     ZoomedEditor fixture;
     QVERIFY(fixture.prepare());
@@ -195,5 +195,5 @@ void tst_GraphicsViewTouch::shouldIgnoreOtherGestures()
     QCOMPARE(fixture.editor.zoomValue(), 400);
 }
 
-FISHBONE_TEST(tst_GraphicsViewTouch)
+FISHBONE_TEST(TestGraphicsViewTouch)
 #include "tst_graphicsview_touch.moc"

@@ -25,7 +25,7 @@
 using namespace TestSupport;
 
 /** What is saved, compared with the schema of docs/fishbone.schema.json. */
-class tst_DocumentSchema : public QObject
+class TestDocumentSchema : public QObject
 {
     Q_OBJECT
 
@@ -96,14 +96,14 @@ void fill(SpearStyle &style, QRandomGenerator &random)
 
 } // namespace
 
-void tst_DocumentSchema::write(const QJsonObject &object, const QString &name)
+void TestDocumentSchema::write(const QJsonObject &object, const QString &name)
 {
     QFile out(file(name));
     QVERIFY(out.open(QIODevice::WriteOnly));
     out.write(QJsonDocument(object).toJson());
 }
 
-void tst_DocumentSchema::initTestCase()
+void TestDocumentSchema::initTestCase()
 {
     QVERIFY(m_folder.isValid());
     QProcess check;
@@ -114,7 +114,7 @@ void tst_DocumentSchema::initTestCase()
 }
 
 /** Programs keep the identity to know which documents they understand. */
-void tst_DocumentSchema::shouldHaveAnIdAndAVersion()
+void TestDocumentSchema::shouldHaveAnIdAndAVersion()
 {
     QFile schema(sourceFile(QStringLiteral("docs/fishbone.schema.json")));
     QVERIFY(schema.open(QIODevice::ReadOnly));
@@ -123,7 +123,7 @@ void tst_DocumentSchema::shouldHaveAnIdAndAVersion()
              QStringLiteral("urn:fishbone:schema:diagram:1"));
 }
 
-void tst_DocumentSchema::shouldFitWhatIsLoadedAndSaved()
+void TestDocumentSchema::shouldFitWhatIsLoadedAndSaved()
 {
     FishModel model;
     const QStringList samples = filesIn(TestSupport::sourceFile(QStringLiteral("samples")));
@@ -143,7 +143,7 @@ void tst_DocumentSchema::shouldFitWhatIsLoadedAndSaved()
     QCOMPARE(mistakes(files), QString());
 }
 
-void tst_DocumentSchema::shouldFitSubjectsWithOddValues()
+void TestDocumentSchema::shouldFitSubjectsWithOddValues()
 {
     QRandomGenerator random(20260417);
     const int numbers[] = {std::numeric_limits<int>::min(), -1, 0, 1,
@@ -183,7 +183,7 @@ void tst_DocumentSchema::shouldFitSubjectsWithOddValues()
     QCOMPARE(mistakes({file(QStringLiteral("odd.json"))}), QString());
 }
 
-void tst_DocumentSchema::shouldFitADocumentAfterEdits()
+void TestDocumentSchema::shouldFitADocumentAfterEdits()
 {
     EditorFixture fixture(QStringLiteral("Effect[Man[Training],Machine]"));
     QStringList files;
@@ -211,7 +211,7 @@ void tst_DocumentSchema::shouldFitADocumentAfterEdits()
     QCOMPARE(mistakes(files), QString());
 }
 
-void tst_DocumentSchema::shouldFitTheStylesThatAreWritten()
+void TestDocumentSchema::shouldFitTheStylesThatAreWritten()
 {
     QRandomGenerator random(20260418);
     QStringList files;
@@ -227,7 +227,7 @@ void tst_DocumentSchema::shouldFitTheStylesThatAreWritten()
     QCOMPARE(mistakes(files), QString());
 }
 
-void tst_DocumentSchema::shouldFindAMistake_data()
+void TestDocumentSchema::shouldFindAMistake_data()
 {
     QTest::addColumn<QString>("key");
     QTest::addColumn<QJsonValue>("value"); // undefined: without the key
@@ -249,7 +249,7 @@ void tst_DocumentSchema::shouldFindAMistake_data()
         << QJsonValue(QJsonObject{{QStringLiteral("textCount"), 1}});
 }
 
-void tst_DocumentSchema::shouldFindAMistake()
+void TestDocumentSchema::shouldFindAMistake()
 {
     QFETCH(const QString, key);
     QFETCH(const QJsonValue, value);
@@ -270,5 +270,5 @@ void tst_DocumentSchema::shouldFindAMistake()
         mistakes({file(QStringLiteral("broken.json"))}).contains(QLatin1String("broken.json: /")));
 }
 
-FISHBONE_TEST(tst_DocumentSchema)
+FISHBONE_TEST(TestDocumentSchema)
 #include "tst_documentschema.moc"

@@ -20,7 +20,7 @@
 using namespace TestSupport;
 
 /** What the library leaves alone in the program that embeds it. */
-class tst_HostEffects : public QObject
+class TestHostEffects : public QObject
 {
     Q_OBJECT
 
@@ -85,7 +85,7 @@ void edit(EditorFixture &fixture)
 
 } // namespace
 
-void tst_HostEffects::shouldLeaveTheApplicationAsItIs()
+void TestHostEffects::shouldLeaveTheApplicationAsItIs()
 {
     QCoreApplication::setApplicationName(QStringLiteral("A host"));
     qApp->setStyleSheet(QStringLiteral("QSpinBox { color: red }"));
@@ -106,7 +106,7 @@ void tst_HostEffects::shouldLeaveTheApplicationAsItIs()
     QCOMPARE(applicationState(), before);
 }
 
-void tst_HostEffects::shouldWriteNoFilesOfItsOwnAccord()
+void TestHostEffects::shouldWriteNoFilesOfItsOwnAccord()
 {
     const QString folder = QCoreApplication::applicationDirPath();
     const QStringList before = filesBelow(folder);
@@ -121,7 +121,7 @@ void tst_HostEffects::shouldWriteNoFilesOfItsOwnAccord()
     QCOMPARE(filesBelow(folder), before);
 }
 
-void tst_HostEffects::shouldKeepShortcutsToItsWidgets()
+void TestHostEffects::shouldKeepShortcutsToItsWidgets()
 {
     EditorFixture fixture(diagram);
     QVERIFY(fixture.show());
@@ -146,7 +146,7 @@ void tst_HostEffects::shouldKeepShortcutsToItsWidgets()
     }
 }
 
-void tst_HostEffects::shouldStayHiddenUntilTheHostShowsIt()
+void TestHostEffects::shouldStayHiddenUntilTheHostShowsIt()
 {
     EditorFixture fixture(diagram);
     edit(fixture);
@@ -155,5 +155,5 @@ void tst_HostEffects::shouldStayHiddenUntilTheHostShowsIt()
         QVERIFY2(!window->isVisible(), window->metaObject()->className());
 }
 
-FISHBONE_TEST(tst_HostEffects)
+FISHBONE_TEST(TestHostEffects)
 #include "tst_hosteffects.moc"

@@ -20,7 +20,7 @@ using namespace TestSupport;
  * The pages about the library for those who embed it: there is one for each folder, what they show
  * runs and prints what they say, and what they name is there.
  */
-class tst_Pages : public QObject
+class TestPages : public QObject
 {
     Q_OBJECT
 
@@ -115,7 +115,7 @@ QStringList anchors(const QString &page)
 
 } // namespace
 
-void tst_Pages::initTestCase()
+void TestPages::initTestCase()
 {
     const QStringList headers = files(QStringLiteral("fishbone"), QStringLiteral("h"));
     const QString declared = QStringLiteral(
@@ -132,7 +132,7 @@ void tst_Pages::initTestCase()
     QVERIFY(m_classes.size() > 30);
 }
 
-void tst_Pages::shouldBeThereForEachFolderOfTheLibrary()
+void TestPages::shouldBeThereForEachFolderOfTheLibrary()
 {
     QStringList folders =
         QDir(sourceFile(QStringLiteral("fishbone"))).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
@@ -144,7 +144,7 @@ void tst_Pages::shouldBeThereForEachFolderOfTheLibrary()
     }
 }
 
-void tst_Pages::shouldNameEachPublicClassOfTheirFolder()
+void TestPages::shouldNameEachPublicClassOfTheirFolder()
 {
     QStringList missing;
     for (auto each = m_classes.cbegin(); each != m_classes.cend(); ++each) {
@@ -157,24 +157,24 @@ void tst_Pages::shouldNameEachPublicClassOfTheirFolder()
     QCOMPARE(missing.join(QLatin1Char(' ')), QString());
 }
 
-void tst_Pages::shouldTellOwnershipSignalsErrorsAndCost_data()
+void TestPages::shouldTellOwnershipSignalsErrorsAndCost_data()
 {
     addPages(pages());
 }
 
-void tst_Pages::shouldTellOwnershipSignalsErrorsAndCost()
+void TestPages::shouldTellOwnershipSignalsErrorsAndCost()
 {
     QFETCH(QString, page);
     const QStringList told = captured(contents(page), QStringLiteral("^\\*\\*(\\w+)\\.\\*\\* \\S"));
     QCOMPARE(told.join(QLatin1Char(' ')), QStringLiteral("Ownership Signals Errors Cost"));
 }
 
-void tst_Pages::shouldPrintWhatTheySay_data()
+void TestPages::shouldPrintWhatTheySay_data()
 {
     addPages(pages());
 }
 
-void tst_Pages::shouldPrintWhatTheySay()
+void TestPages::shouldPrintWhatTheySay()
 {
     QFETCH(QString, page);
     const QRegularExpression promise(QStringLiteral("<!-- prints -->\\n```text\\n(.*?)```"),
@@ -193,13 +193,13 @@ void tst_Pages::shouldPrintWhatTheySay()
     QCOMPARE(printed, promised.captured(1));
 }
 
-void tst_Pages::shouldNameWhatIsThere_data()
+void TestPages::shouldNameWhatIsThere_data()
 {
     addPages(pages() +
              QStringList{QStringLiteral("docs/how-do-i.md"), QStringLiteral("docs/embedding.md")});
 }
 
-void tst_Pages::shouldNameWhatIsThere()
+void TestPages::shouldNameWhatIsThere()
 {
     QFETCH(QString, page);
     const QStringList names =
@@ -222,7 +222,7 @@ void tst_Pages::shouldNameWhatIsThere()
     QCOMPARE(missing.join(QLatin1Char(' ')), QString());
 }
 
-void tst_Pages::shouldLeadToWhatIsThere_data()
+void TestPages::shouldLeadToWhatIsThere_data()
 {
     QStringList paths = files(QStringLiteral("docs"), QStringLiteral("md"));
     paths.removeAll(QStringLiteral("docs/classes.md")); // of which Doxygen knows the pictures
@@ -230,7 +230,7 @@ void tst_Pages::shouldLeadToWhatIsThere_data()
     addPages(paths);
 }
 
-void tst_Pages::shouldLeadToWhatIsThere()
+void TestPages::shouldLeadToWhatIsThere()
 {
     QFETCH(QString, page);
     const QString folder = QFileInfo(page).path();
@@ -249,7 +249,7 @@ void tst_Pages::shouldLeadToWhatIsThere()
     QCOMPARE(broken.join(QLatin1Char(' ')), QString());
 }
 
-void tst_Pages::shouldAnswerThirtyQuestionsAndMore()
+void TestPages::shouldAnswerThirtyQuestionsAndMore()
 {
     const QString index = contents(QStringLiteral("docs/how-do-i.md"));
     const QStringList questions = captured(index, QStringLiteral("^- \\*\\*(.+\\?)\\*\\*"));
@@ -262,7 +262,7 @@ void tst_Pages::shouldAnswerThirtyQuestionsAndMore()
         QVERIFY2(entry.contains(QLatin1String("](")), qPrintable(entry));
 }
 
-void tst_Pages::shouldNeedNoNeighbourToUnderstandAHeader_data()
+void TestPages::shouldNeedNoNeighbourToUnderstandAHeader_data()
 {
     QTest::addColumn<QString>("header");
     const QStringList headers = files(QStringLiteral("fishbone"), QStringLiteral("h"));
@@ -273,7 +273,7 @@ void tst_Pages::shouldNeedNoNeighbourToUnderstandAHeader_data()
 }
 
 /** Each name has a page, or a place on one, for itself: what its neighbour says is not there. */
-void tst_Pages::shouldNeedNoNeighbourToUnderstandAHeader()
+void TestPages::shouldNeedNoNeighbourToUnderstandAHeader()
 {
     QFETCH(QString, header);
     const QStringList empty = captured(
@@ -283,5 +283,5 @@ void tst_Pages::shouldNeedNoNeighbourToUnderstandAHeader()
     QCOMPARE(empty.join(QLatin1Char('|')), QString());
 }
 
-FISHBONE_TEST(tst_Pages)
+FISHBONE_TEST(TestPages)
 #include "tst_pages.moc"

@@ -11,7 +11,7 @@
 #include <QtTest>
 
 /** The version that headers and library tell, which is the one that the build declares. */
-class tst_Version : public QObject
+class TestVersion : public QObject
 {
     Q_OBJECT
 
@@ -21,7 +21,7 @@ private Q_SLOTS:
     void shouldCompareAsANumber();
 };
 
-void tst_Version::shouldBeTheVersionOfTheProject()
+void TestVersion::shouldBeTheVersionOfTheProject()
 {
     QFile file(TestSupport::sourceFile(QStringLiteral("CMakeLists.txt")));
     QVERIFY(file.open(QIODevice::ReadOnly));
@@ -32,7 +32,7 @@ void tst_Version::shouldBeTheVersionOfTheProject()
     QCOMPARE(QStringLiteral(FISHBONE_VERSION_STRING), match.captured(1));
 }
 
-void tst_Version::shouldBeTheSameInTheHeadersAndInTheLibrary()
+void TestVersion::shouldBeTheSameInTheHeadersAndInTheLibrary()
 {
     QCOMPARE(QString::fromLatin1(fishboneVersion()), QStringLiteral(FISHBONE_VERSION_STRING));
     QCOMPARE(
@@ -40,7 +40,7 @@ void tst_Version::shouldBeTheSameInTheHeadersAndInTheLibrary()
         QVersionNumber(FISHBONE_VERSION_MAJOR, FISHBONE_VERSION_MINOR, FISHBONE_VERSION_PATCH));
 }
 
-void tst_Version::shouldCompareAsANumber()
+void TestVersion::shouldCompareAsANumber()
 {
     QCOMPARE(FISHBONE_VERSION_CHECK(1, 2, 3), 0x010203);
     QVERIFY(FISHBONE_VERSION_CHECK(1, 10, 0) > FISHBONE_VERSION_CHECK(1, 9, 9));
@@ -50,5 +50,5 @@ void tst_Version::shouldCompareAsANumber()
                                     FISHBONE_VERSION_PATCH));
 }
 
-FISHBONE_APPLESS_TEST(tst_Version)
+FISHBONE_APPLESS_TEST(TestVersion)
 #include "tst_version.moc"

@@ -140,7 +140,7 @@ QByteArray bomb()
 
 } // namespace
 
-class tst_HostileServer : public QObject
+class TestHostileServer : public QObject
 {
     Q_OBJECT
 
@@ -168,7 +168,7 @@ private:
     qint64 m_milliseconds = 0;
 };
 
-void tst_HostileServer::init()
+void TestHostileServer::init()
 {
     m_server = std::make_unique<HostileServer>();
     QVERIFY(m_server->isListening());
@@ -178,7 +178,7 @@ void tst_HostileServer::init()
     m_fixture->model->setReplyLimit(replyLimit);
 }
 
-QString tst_HostileServer::load(const QUrl &url)
+QString TestHostileServer::load(const QUrl &url)
 {
     FishModel &model = *m_fixture->model;
     const QString before = modelText(model);
@@ -205,7 +205,7 @@ QString tst_HostileServer::load(const QUrl &url)
     return errors.join(QStringLiteral(", "));
 }
 
-void tst_HostileServer::shouldFailOnceOn_data()
+void TestHostileServer::shouldFailOnceOn_data()
 {
     QTest::addColumn<QByteArray>("answer");
 
@@ -239,7 +239,7 @@ void tst_HostileServer::shouldFailOnceOn_data()
     QTest::newRow("null characters") << QByteArray(4000, '\0');
 }
 
-void tst_HostileServer::shouldFailOnceOn()
+void TestHostileServer::shouldFailOnceOn()
 {
     QFETCH(QByteArray, answer);
 #if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
@@ -252,7 +252,7 @@ void tst_HostileServer::shouldFailOnceOn()
 }
 
 /** A file of this machine is nothing that a server may have loaded. */
-void tst_HostileServer::shouldNotFollowARedirectToAFile()
+void TestHostileServer::shouldNotFollowARedirectToAFile()
 {
     const QTemporaryDir folder;
     QFile file(folder.filePath(QStringLiteral("own.json")));
@@ -263,14 +263,14 @@ void tst_HostileServer::shouldNotFollowARedirectToAFile()
     QCOMPARE(m_fixture->model->rowCount(), 1);
 }
 
-void tst_HostileServer::shouldEndATransferThatCreeps()
+void TestHostileServer::shouldEndATransferThatCreeps()
 {
     m_server->tell(repeats(response("", ""), " ", 20));
     QCOMPARE(load(m_server->url()), QStringLiteral("invalid -10002"));
     QVERIFY2(m_milliseconds < 30 * transferTimeout, qPrintable(QString::number(m_milliseconds)));
 }
 
-void tst_HostileServer::shouldEndWhatHasNoEnd_data()
+void TestHostileServer::shouldEndWhatHasNoEnd_data()
 {
     QTest::addColumn<QByteArray>("begin");
     QTest::addColumn<QByteArray>("part");
@@ -285,7 +285,7 @@ void tst_HostileServer::shouldEndWhatHasNoEnd_data()
     QTest::newRow("continue") << QByteArray() << QByteArray("HTTP/1.1 100 Continue\r\n\r\n");
 }
 
-void tst_HostileServer::shouldEndWhatHasNoEnd()
+void TestHostileServer::shouldEndWhatHasNoEnd()
 {
     QFETCH(QByteArray, begin);
     QFETCH(QByteArray, part);
@@ -296,7 +296,7 @@ void tst_HostileServer::shouldEndWhatHasNoEnd()
     QVERIFY2(growth.kib() < 200 * 1024, qPrintable(QString::number(growth.kib())));
 }
 
-void tst_HostileServer::shouldNotUnpackWithoutALimit()
+void TestHostileServer::shouldNotUnpackWithoutALimit()
 {
     m_server->tell(sends(response("Content-Encoding: deflate\r\n", bomb())));
     const PeakGrowth growth;
@@ -306,7 +306,7 @@ void tst_HostileServer::shouldNotUnpackWithoutALimit()
     QVERIFY2(growth.kib() < 200 * 1024, qPrintable(QString::number(growth.kib())));
 }
 
-void tst_HostileServer::shouldUnpackADocument()
+void TestHostileServer::shouldUnpackADocument()
 {
     m_fixture->model->setTransferTimeout(patience);
     m_server->tell(sends(response("Content-Encoding: deflate\r\n", qCompress(document).mid(4))));
@@ -314,7 +314,7 @@ void tst_HostileServer::shouldUnpackADocument()
     QCOMPARE(m_fixture->model->rowCount(), 2);
 }
 
-void tst_HostileServer::shouldTakeNoMoreThanWasAnnounced()
+void TestHostileServer::shouldTakeNoMoreThanWasAnnounced()
 {
     m_fixture->model->setTransferTimeout(patience);
     m_server->tell(sends(response("Content-Length: " + QByteArray::number(document.size()) + "\r\n",
@@ -322,7 +322,7 @@ void tst_HostileServer::shouldTakeNoMoreThanWasAnnounced()
     QCOMPARE(load(m_server->url()), QStringLiteral("valid 0"));
 }
 
-void tst_HostileServer::shouldFailWhereTheServerKnowsNoTls()
+void TestHostileServer::shouldFailWhereTheServerKnowsNoTls()
 {
     m_server->tell(sends(response("")));
     QUrl url = m_server->url();
@@ -331,14 +331,14 @@ void tst_HostileServer::shouldFailWhereTheServerKnowsNoTls()
     QCOMPARE(m_server->requests, 0);
 }
 
-void tst_HostileServer::shouldFailOnAServerThatNeverAccepts()
+void TestHostileServer::shouldFailOnAServerThatNeverAccepts()
 {
     m_server->pauseAccepting();
     QCOMPARE(load(m_server->url()), QStringLiteral("invalid -10002"));
     QVERIFY(m_milliseconds < 10 * transferTimeout);
 }
 
-void tst_HostileServer::shouldFreeLoadsThatFailTogether()
+void TestHostileServer::shouldFreeLoadsThatFailTogether()
 {
     m_server->tell(repeats(response("", ""), QByteArray(1 << 16, ' '), 0));
     FishModel &model = *m_fixture->model;
@@ -351,5 +351,5 @@ void tst_HostileServer::shouldFreeLoadsThatFailTogether()
     QCOMPARE(model.rowCount(), 1);
 }
 
-FISHBONE_TEST(tst_HostileServer)
+FISHBONE_TEST(TestHostileServer)
 #include "tst_hostileserver.moc"

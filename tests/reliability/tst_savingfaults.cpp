@@ -120,7 +120,7 @@ void addWaysOfSaving()
 
 } // namespace
 
-class tst_SavingFaults : public QObject
+class TestSavingFaults : public QObject
 {
     Q_OBJECT
 
@@ -154,13 +154,13 @@ private:
     std::unique_ptr<QTemporaryDir> m_folder;
 };
 
-void tst_SavingFaults::init()
+void TestSavingFaults::init()
 {
     m_folder = std::make_unique<QTemporaryDir>();
     QVERIFY(m_folder->isValid());
 }
 
-void tst_SavingFaults::shouldLeaveAWholeDocumentWhenKilled()
+void TestSavingFaults::shouldLeaveAWholeDocumentWhenKilled()
 {
     QFETCH(QString, how);
     const QByteArray versions[] = {SavedVersions::bytes(0, manyNodes),
@@ -186,7 +186,7 @@ void tst_SavingFaults::shouldLeaveAWholeDocumentWhenKilled()
     qInfo("%d kills: %d times the one version, %d times the other", kills(), found[0], found[1]);
 }
 
-void tst_SavingFaults::shouldKeepTheOldDocumentAtALimitOfTheSize()
+void TestSavingFaults::shouldKeepTheOldDocumentAtALimitOfTheSize()
 {
     QFETCH(QString, how);
     const QString file = path(QStringLiteral("document.json"));
@@ -208,7 +208,7 @@ void tst_SavingFaults::shouldKeepTheOldDocumentAtALimitOfTheSize()
     QVERIFY(contentOf(file) == SavedVersions::bytes(1, fewNodes));
 }
 
-void tst_SavingFaults::shouldKeepTheOldDocumentOnAFullDisk()
+void TestSavingFaults::shouldKeepTheOldDocumentOnAFullDisk()
 {
     QFETCH(QString, how);
     const QString folder = path(QStringLiteral("small"));
@@ -230,7 +230,7 @@ void tst_SavingFaults::shouldKeepTheOldDocumentOnAFullDisk()
     QCOMPARE(contentOf(file), old);
 }
 
-void tst_SavingFaults::shouldSaveOrRefuseInAReadOnlyFolder()
+void TestSavingFaults::shouldSaveOrRefuseInAReadOnlyFolder()
 {
     QFETCH(QString, how);
     const QString file = path(QStringLiteral("document.json"));
@@ -258,7 +258,7 @@ void tst_SavingFaults::shouldSaveOrRefuseInAReadOnlyFolder()
     QVERIFY(QFile::setPermissions(m_folder->path(), QFile::Permissions(0x7777)));
 }
 
-void tst_SavingFaults::shouldSaveThroughALink()
+void TestSavingFaults::shouldSaveThroughALink()
 {
     QFETCH(QString, how);
     QVERIFY(QDir(m_folder->path()).mkdir(QStringLiteral("elsewhere")));
@@ -277,7 +277,7 @@ void tst_SavingFaults::shouldSaveThroughALink()
     QVERIFY(contentOf(link) == SavedVersions::bytes(1, fewNodes));
 }
 
-void tst_SavingFaults::shouldReplaceWhatSomebodyElseWrote_data()
+void TestSavingFaults::shouldReplaceWhatSomebodyElseWrote_data()
 {
     QTest::addColumn<QString>("meanwhile");
     QTest::addColumn<bool>("isSaved");
@@ -287,7 +287,7 @@ void tst_SavingFaults::shouldReplaceWhatSomebodyElseWrote_data()
     QTest::newRow("its folder removed") << QStringLiteral("no folder") << false;
 }
 
-void tst_SavingFaults::shouldReplaceWhatSomebodyElseWrote()
+void TestSavingFaults::shouldReplaceWhatSomebodyElseWrote()
 {
     QFETCH(QString, meanwhile);
     QFETCH(bool, isSaved);
@@ -317,7 +317,7 @@ void tst_SavingFaults::shouldReplaceWhatSomebodyElseWrote()
         QVERIFY(QDir(file).exists(QStringLiteral("below")));
 }
 
-void tst_SavingFaults::shouldSaveUnderAnyName_data()
+void TestSavingFaults::shouldSaveUnderAnyName_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<bool>("isSaved");
@@ -347,7 +347,7 @@ void tst_SavingFaults::shouldSaveUnderAnyName_data()
     QTest::newRow("ends with a slash") << QStringLiteral("new/") << false;
 }
 
-void tst_SavingFaults::shouldSaveUnderAnyName()
+void TestSavingFaults::shouldSaveUnderAnyName()
 {
     QFETCH(QString, name);
     QFETCH(bool, isSaved);
@@ -367,7 +367,7 @@ void tst_SavingFaults::shouldSaveUnderAnyName()
         QVERIFY(contentOf(file) == largeBytes);
 }
 
-void tst_SavingFaults::shouldAutoSaveUnderAnyTitle_data()
+void TestSavingFaults::shouldAutoSaveUnderAnyTitle_data()
 {
     QTest::addColumn<QString>("title");
 
@@ -389,7 +389,7 @@ void tst_SavingFaults::shouldAutoSaveUnderAnyTitle_data()
     QTest::newRow("template") << QStringLiteral("XXXXXX");
 }
 
-void tst_SavingFaults::shouldAutoSaveUnderAnyTitle()
+void TestSavingFaults::shouldAutoSaveUnderAnyTitle()
 {
     QFETCH(QString, title);
     const QDir folder(SystemHelper::appliactionDirPath() + QStringLiteral("tmp/fishdiagram/"));
@@ -416,5 +416,5 @@ void tst_SavingFaults::shouldAutoSaveUnderAnyTitle()
     QVERIFY(QFile::remove(file));
 }
 
-FISHBONE_GUILESS_TEST(tst_SavingFaults)
+FISHBONE_GUILESS_TEST(TestSavingFaults)
 #include "tst_savingfaults.moc"

@@ -96,7 +96,7 @@ private:
 
 } // namespace
 
-class tst_Sizes : public QObject
+class TestSizes : public QObject
 {
     Q_OBJECT
 
@@ -118,7 +118,7 @@ private:
     QTemporaryDir m_folder;
 };
 
-QString tst_Sizes::savingFault(const FishModel &model)
+QString TestSizes::savingFault(const FishModel &model)
 {
     if (!model.fishList().first()->saveFile(path()))
         return QStringLiteral("not saved");
@@ -133,7 +133,7 @@ QString tst_Sizes::savingFault(const FishModel &model)
     return contentOf(path()) == first ? QString() : QStringLiteral("saved differently");
 }
 
-void tst_Sizes::shouldDoEverythingWithOneSubject()
+void TestSizes::shouldDoEverythingWithOneSubject()
 {
     FishModel model;
     model.setModelType(FISH_MODEL_DIAGRAM);
@@ -173,7 +173,7 @@ void tst_Sizes::shouldDoEverythingWithOneSubject()
     QCOMPARE(savingFault(model), QString());
 }
 
-void tst_Sizes::shouldShowAndSave_data()
+void TestSizes::shouldShowAndSave_data()
 {
     QTest::addColumn<int>("count");
     QTest::addColumn<int>("width");
@@ -187,7 +187,7 @@ void tst_Sizes::shouldShowAndSave_data()
     QTest::newRow("many") << (isLong() ? 1000000 : 10000) << 8 << true;
 }
 
-void tst_Sizes::shouldShowAndSave()
+void TestSizes::shouldShowAndSave()
 {
     QFETCH(int, count);
     QFETCH(int, width);
@@ -233,7 +233,7 @@ void tst_Sizes::shouldShowAndSave()
     steps.done("closed");
 }
 
-void tst_Sizes::shouldRefuseToSaveWhatCouldNotBeReadAgain()
+void TestSizes::shouldRefuseToSaveWhatCouldNotBeReadAgain()
 {
     FishModel model;
     addDocument(model, makeBush(JsonNodes::readableLevels, 1));
@@ -274,7 +274,7 @@ void tst_Sizes::shouldRefuseToSaveWhatCouldNotBeReadAgain()
     QCOMPARE(contentOf(path()), old);
 }
 
-void tst_Sizes::shouldKeepAnyTitle_data()
+void TestSizes::shouldKeepAnyTitle_data()
 {
     QTest::addColumn<QString>("title");
 
@@ -297,7 +297,7 @@ void tst_Sizes::shouldKeepAnyTitle_data()
     QTest::newRow("markup") << QStringLiteral("<b>&lt;</b><img src='file:///etc/passwd'>%1%2");
 }
 
-void tst_Sizes::shouldKeepAnyTitle()
+void TestSizes::shouldKeepAnyTitle()
 {
     QFETCH(QString, title);
     FishModel model;
@@ -326,12 +326,12 @@ void tst_Sizes::shouldKeepAnyTitle()
     QCOMPARE(allNodes(again)[1]->title(), title);
 }
 
-void tst_Sizes::shouldDrawAWholeTitle_data()
+void TestSizes::shouldDrawAWholeTitle_data()
 {
     shouldKeepAnyTitle_data();
 }
 
-void tst_Sizes::shouldDrawAWholeTitle()
+void TestSizes::shouldDrawAWholeTitle()
 {
     QFETCH(QString, title);
     FishModel model;
@@ -357,5 +357,5 @@ void tst_Sizes::shouldDrawAWholeTitle()
     QCOMPARE(spearFault(model), QString());
 }
 
-FISHBONE_TEST(tst_Sizes)
+FISHBONE_TEST(TestSizes)
 #include "tst_sizes.moc"

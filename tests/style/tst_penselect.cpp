@@ -11,7 +11,7 @@
 using namespace StyleDialogParts;
 using TestSupport::buttonWithText;
 
-class tst_PenSelect : public QObject
+class TestPenSelect : public QObject
 {
     Q_OBJECT
 
@@ -43,7 +43,7 @@ private Q_SLOTS:
     void shouldTranslateEveryText();
 };
 
-void tst_PenSelect::shouldOfferTheStylesOfQtWithTheirValues()
+void TestPenSelect::shouldOfferTheStylesOfQtWithTheirValues()
 {
     const PenSelect dialog{QPen()};
     const auto items = [&](int which) {
@@ -64,7 +64,7 @@ void tst_PenSelect::shouldOfferTheStylesOfQtWithTheirValues()
         QVERIFY2(texts.contains(QLatin1String(text)), text);
 }
 
-void tst_PenSelect::shouldStartOnTheValuesOfThePen_data()
+void TestPenSelect::shouldStartOnTheValuesOfThePen_data()
 {
     QTest::addColumn<QPen>("pen");
     QTest::addColumn<QString>("width");
@@ -87,7 +87,7 @@ void tst_PenSelect::shouldStartOnTheValuesOfThePen_data()
                                 << "RoundJoin";
 }
 
-void tst_PenSelect::shouldStartOnTheValuesOfThePen()
+void TestPenSelect::shouldStartOnTheValuesOfThePen()
 {
     QFETCH(QPen, pen);
     const PenSelect dialog(pen);
@@ -98,7 +98,7 @@ void tst_PenSelect::shouldStartOnTheValuesOfThePen()
     QCOMPARE(dialog.selectedPen(), pen);
 }
 
-void tst_PenSelect::shouldShowAnUnusualWidthAsItIs_data()
+void TestPenSelect::shouldShowAnUnusualWidthAsItIs_data()
 {
     QTest::addColumn<qreal>("width");
     QTest::addColumn<QString>("text");
@@ -108,7 +108,7 @@ void tst_PenSelect::shouldShowAnUnusualWidthAsItIs_data()
     QTest::newRow("fraction") << 1.5 << "1.5";
 }
 
-void tst_PenSelect::shouldShowAnUnusualWidthAsItIs()
+void TestPenSelect::shouldShowAnUnusualWidthAsItIs()
 {
     QFETCH(qreal, width);
     const PenSelect dialog(QPen(Qt::black, width));
@@ -119,7 +119,7 @@ void tst_PenSelect::shouldShowAnUnusualWidthAsItIs()
     QCOMPARE(dialog.selectedPen().widthF(), 4.);
 }
 
-void tst_PenSelect::shouldKeepWhatItDoesNotOffer()
+void TestPenSelect::shouldKeepWhatItDoesNotOffer()
 {
     QPen pen(Qt::blue, 2);
     pen.setDashPattern({1, 3, 5, 3});
@@ -135,14 +135,14 @@ void tst_PenSelect::shouldKeepWhatItDoesNotOffer()
     QCOMPARE(dialog.selectedPen().width(), 3);
 }
 
-void tst_PenSelect::shouldSetTheTypedWidth_data()
+void TestPenSelect::shouldSetTheTypedWidth_data()
 {
     QTest::addColumn<int>("width");
     for (int width = 1; width <= 5; ++width)
         QTest::addRow("%d", width) << width;
 }
 
-void tst_PenSelect::shouldSetTheTypedWidth()
+void TestPenSelect::shouldSetTheTypedWidth()
 {
     QFETCH(int, width);
     const PenSelect dialog(QPen(Qt::black, 20));
@@ -152,14 +152,14 @@ void tst_PenSelect::shouldSetTheTypedWidth()
     QCOMPARE(dialog.selectedPen().width(), width);
 }
 
-void tst_PenSelect::shouldRefuseToTypeAnotherWidth_data()
+void TestPenSelect::shouldRefuseToTypeAnotherWidth_data()
 {
     QTest::addColumn<QString>("keys");
     for (const char *const keys : {"0", "6", "7", "8", "9", "a", "-", "+", " ", "."})
         QTest::newRow(keys) << QString::fromLatin1(keys);
 }
 
-void tst_PenSelect::shouldRefuseToTypeAnotherWidth()
+void TestPenSelect::shouldRefuseToTypeAnotherWidth()
 {
     QFETCH(QString, keys);
     const PenSelect dialog(QPen(Qt::black, 2));
@@ -169,7 +169,7 @@ void tst_PenSelect::shouldRefuseToTypeAnotherWidth()
     QCOMPARE(dialog.selectedPen().width(), 2);
 }
 
-void tst_PenSelect::shouldRefuseASecondDigit()
+void TestPenSelect::shouldRefuseASecondDigit()
 {
     const PenSelect dialog(QPen(Qt::black, 2));
     QTest::keyClicks(widthEdit(dialog), QStringLiteral("34"));
@@ -177,7 +177,7 @@ void tst_PenSelect::shouldRefuseASecondDigit()
     QCOMPARE(dialog.selectedPen().width(), 3);
 }
 
-void tst_PenSelect::shouldKeepTheWidthWhileTheFieldIsEmpty()
+void TestPenSelect::shouldKeepTheWidthWhileTheFieldIsEmpty()
 {
     const PenSelect dialog(QPen(Qt::black, 4));
     QTest::keyClick(widthEdit(dialog), Qt::Key_Backspace);
@@ -185,7 +185,7 @@ void tst_PenSelect::shouldKeepTheWidthWhileTheFieldIsEmpty()
     QCOMPARE(dialog.selectedPen().width(), 4);
 }
 
-void tst_PenSelect::shouldIgnoreATextThatIsNoWidth_data()
+void TestPenSelect::shouldIgnoreATextThatIsNoWidth_data()
 {
     QTest::addColumn<QString>("text");
     QTest::newRow("empty") << QString();
@@ -195,7 +195,7 @@ void tst_PenSelect::shouldIgnoreATextThatIsNoWidth_data()
     QTest::newRow("beyond 32 bits") << "99999999999";
 }
 
-void tst_PenSelect::shouldIgnoreATextThatIsNoWidth()
+void TestPenSelect::shouldIgnoreATextThatIsNoWidth()
 {
     QFETCH(QString, text);
     PenSelect dialog(QPen(Qt::black, 4));
@@ -203,7 +203,7 @@ void tst_PenSelect::shouldIgnoreATextThatIsNoWidth()
     QCOMPARE(dialog.selectedPen().widthF(), 4.);
 }
 
-void tst_PenSelect::shouldSetTheValueOfTheChosenItem_data()
+void TestPenSelect::shouldSetTheValueOfTheChosenItem_data()
 {
     QTest::addColumn<int>("which");
     QTest::addColumn<QString>("text");
@@ -237,7 +237,7 @@ void tst_PenSelect::shouldSetTheValueOfTheChosenItem_data()
     QTest::newRow("RoundJoin") << joinCombo << "RoundJoin" << withJoin(Qt::RoundJoin);
 }
 
-void tst_PenSelect::shouldSetTheValueOfTheChosenItem()
+void TestPenSelect::shouldSetTheValueOfTheChosenItem()
 {
     QFETCH(int, which);
     QFETCH(QString, text);
@@ -249,7 +249,7 @@ void tst_PenSelect::shouldSetTheValueOfTheChosenItem()
     QTEST(dialog.selectedPen(), "expected");
 }
 
-void tst_PenSelect::shouldSetTheValueThatASlotIsGiven()
+void TestPenSelect::shouldSetTheValueThatASlotIsGiven()
 {
     PenSelect dialog{QPen()};
     dialog.styleChanged(Qt::DashDotLine);
@@ -266,7 +266,7 @@ void tst_PenSelect::shouldSetTheValueThatASlotIsGiven()
     QCOMPARE(dialog.selectedPen().joinStyle(), Qt::SvgMiterJoin);
 }
 
-void tst_PenSelect::shouldReadAnUnknownValueAsZero_data()
+void TestPenSelect::shouldReadAnUnknownValueAsZero_data()
 {
     QTest::addColumn<int>("value");
     QTest::newRow("an index") << 7;
@@ -274,7 +274,7 @@ void tst_PenSelect::shouldReadAnUnknownValueAsZero_data()
     QTest::newRow("huge") << (1 << 30);
 }
 
-void tst_PenSelect::shouldReadAnUnknownValueAsZero()
+void TestPenSelect::shouldReadAnUnknownValueAsZero()
 {
     QFETCH(int, value);
     PenSelect dialog(QPen(Qt::black, 1, Qt::DotLine, Qt::RoundCap, Qt::RoundJoin));
@@ -284,7 +284,7 @@ void tst_PenSelect::shouldReadAnUnknownValueAsZero()
     QCOMPARE(dialog.selectedPen(), QPen(Qt::black, 1, Qt::NoPen, Qt::FlatCap, Qt::MiterJoin));
 }
 
-void tst_PenSelect::shouldCloseAsAccepted()
+void TestPenSelect::shouldCloseAsAccepted()
 {
     PenSelect dialog(QPen(Qt::black, 2));
     dialog.show();
@@ -295,7 +295,7 @@ void tst_PenSelect::shouldCloseAsAccepted()
     QCOMPARE(dialog.selectedPen().width(), 3);
 }
 
-void tst_PenSelect::shouldAcceptOnReturn()
+void TestPenSelect::shouldAcceptOnReturn()
 {
     PenSelect dialog(QPen(Qt::black, 2));
     QVERIFY(buttonWithText<QPushButton>(dialog, QStringLiteral("Accept"))->isDefault());
@@ -307,7 +307,7 @@ void tst_PenSelect::shouldAcceptOnReturn()
     QCOMPARE(dialog.selectedPen().width(), 4);
 }
 
-void tst_PenSelect::shouldCloseAsRejected()
+void TestPenSelect::shouldCloseAsRejected()
 {
     PenSelect dialog(QPen(Qt::black, 2));
     QSignalSpy rejected(&dialog, &QDialog::rejected);
@@ -317,7 +317,7 @@ void tst_PenSelect::shouldCloseAsRejected()
     QCOMPARE(rejected.size(), 1);
 }
 
-void tst_PenSelect::shouldRejectOnEscape()
+void TestPenSelect::shouldRejectOnEscape()
 {
     PenSelect dialog(QPen(Qt::black, 2));
     QSignalSpy rejected(&dialog, &QDialog::rejected);
@@ -327,7 +327,7 @@ void tst_PenSelect::shouldRejectOnEscape()
     QCOMPARE(rejected.size(), 1);
 }
 
-void tst_PenSelect::shouldNameEveryControlInTabOrder()
+void TestPenSelect::shouldNameEveryControlInTabOrder()
 {
     PenSelect dialog{QPen()};
     QCOMPARE(TestSupport::tabOrder(dialog).join(QLatin1Char('|')),
@@ -335,7 +335,7 @@ void tst_PenSelect::shouldNameEveryControlInTabOrder()
     QCOMPARE(TestSupport::strayLabels(dialog), QStringList());
 }
 
-void tst_PenSelect::shouldTranslateEveryText()
+void TestPenSelect::shouldTranslateEveryText()
 {
     const TestSupport::BracketTranslator translator("PenSelect");
     const PenSelect dialog{QPen()};
@@ -345,5 +345,5 @@ void tst_PenSelect::shouldTranslateEveryText()
         QVERIFY2(text.startsWith(QLatin1Char('[')), qPrintable(text));
 }
 
-FISHBONE_TEST(tst_PenSelect)
+FISHBONE_TEST(TestPenSelect)
 #include "tst_penselect.moc"

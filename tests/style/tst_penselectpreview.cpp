@@ -18,7 +18,7 @@ using TestSupport::ModalDriver;
 using TestSupport::pixelsOf;
 using TestSupport::shownPixmap;
 
-class tst_PenSelectPreview : public QObject
+class TestPenSelectPreview : public QObject
 {
     Q_OBJECT
 
@@ -33,12 +33,12 @@ private Q_SLOTS:
     void shouldDrawASharpSampleOnADenseScreen();
 };
 
-void tst_PenSelectPreview::shouldBeModal()
+void TestPenSelectPreview::shouldBeModal()
 {
     QVERIFY(PenSelect(QPen()).isModal());
 }
 
-void tst_PenSelectPreview::shouldSetTheColorWhenItsDialogIsAccepted()
+void TestPenSelectPreview::shouldSetTheColorWhenItsDialogIsAccepted()
 {
     const QColor before(10, 20, 30, 40);
     const QColor after(200, 100, 50, 128);
@@ -58,7 +58,7 @@ void tst_PenSelectPreview::shouldSetTheColorWhenItsDialogIsAccepted()
     QCOMPARE(dialog.selectedPen(), QPen(after, 2, Qt::DashLine));
 }
 
-void tst_PenSelectPreview::shouldKeepTheColorWhenItsDialogIsCancelled()
+void TestPenSelectPreview::shouldKeepTheColorWhenItsDialogIsCancelled()
 {
     PenSelect dialog(QPen(Qt::red, 2));
     const ModalDriver<QColorDialog> user([](QColorDialog &colors) {
@@ -71,7 +71,7 @@ void tst_PenSelectPreview::shouldKeepTheColorWhenItsDialogIsCancelled()
     QVERIFY(!dialog.findChild<QColorDialog *>());
 }
 
-void tst_PenSelectPreview::shouldSurviveItsEndWhileTheColorDialogIsOpen()
+void TestPenSelectPreview::shouldSurviveItsEndWhileTheColorDialogIsOpen()
 {
     QPointer<PenSelect> dialog(new PenSelect(QPen(Qt::red, 2)));
     const ModalDriver<QColorDialog> user([&](QColorDialog &) { delete dialog.data(); });
@@ -80,21 +80,21 @@ void tst_PenSelectPreview::shouldSurviveItsEndWhileTheColorDialogIsOpen()
     QVERIFY(!dialog);
 }
 
-void tst_PenSelectPreview::shouldDrawTheSampleLineWithThePen()
+void TestPenSelectPreview::shouldDrawTheSampleLineWithThePen()
 {
     const PenSelect dialog(QPen(QColor(0, 160, 80), 4));
     QVERIFY(pixelsOf(shownPixmap(dialog), QColor(0, 160, 80)) > 0);
     QVERIFY(pixelsOf(shownPixmap(dialog), Qt::white) > 0);
 }
 
-void tst_PenSelectPreview::shouldDrawNothingWithoutAPen()
+void TestPenSelectPreview::shouldDrawNothingWithoutAPen()
 {
     const PenSelect dialog{QPen(Qt::NoPen)};
     QVERIFY(!shownPixmap(dialog).isNull());
     QCOMPARE(inkedPixels(shownPixmap(dialog)), 0);
 }
 
-void tst_PenSelectPreview::shouldRefreshTheSampleOnEveryChange()
+void TestPenSelectPreview::shouldRefreshTheSampleOnEveryChange()
 {
     PenSelect dialog(QPen(Qt::black, 2));
     QImage last = shownPixmap(dialog).toImage();
@@ -124,7 +124,7 @@ void tst_PenSelectPreview::shouldRefreshTheSampleOnEveryChange()
     QVERIFY(pixelsOf(shownPixmap(dialog), Qt::green) > 0);
 }
 
-void tst_PenSelectPreview::shouldDrawASharpSampleOnADenseScreen()
+void TestPenSelectPreview::shouldDrawASharpSampleOnADenseScreen()
 {
     const PenSelect plain(QPen(Qt::black, 3));
     TestSupport::OnDenseScreen<PenSelect> dense(QPen(Qt::black, 3));
@@ -134,5 +134,5 @@ void tst_PenSelectPreview::shouldDrawASharpSampleOnADenseScreen()
     QVERIFY(inkedPixels(shownPixmap(dense)) > 3 * inkedPixels(shownPixmap(plain)));
 }
 
-FISHBONE_TEST(tst_PenSelectPreview)
+FISHBONE_TEST(TestPenSelectPreview)
 #include "tst_penselectpreview.moc"

@@ -21,7 +21,7 @@
  * Styles and documents that were written with either version of the toolkit. The files in the
  * folder "toolkits" come from a build with the version that their name begins with.
  */
-class tst_SpearStyleToolkits : public QObject
+class TestSpearStyleToolkits : public QObject
 {
     Q_OBJECT
 
@@ -120,12 +120,12 @@ void addToolkits()
 
 } // namespace
 
-void tst_SpearStyleToolkits::shouldReadAStyleWhole_data()
+void TestSpearStyleToolkits::shouldReadAStyleWhole_data()
 {
     addToolkits();
 }
 
-void tst_SpearStyleToolkits::shouldReadAStyleWhole()
+void TestSpearStyleToolkits::shouldReadAStyleWhole()
 {
     QFETCH(const QString, toolkit);
     const QByteArray text = fixture(toolkit + QStringLiteral(".spearstyle"));
@@ -138,12 +138,12 @@ void tst_SpearStyleToolkits::shouldReadAStyleWhole()
     compareStyles(style, expected);
 }
 
-void tst_SpearStyleToolkits::shouldWriteAStyleAlike_data()
+void TestSpearStyleToolkits::shouldWriteAStyleAlike_data()
 {
     addToolkits();
 }
 
-void tst_SpearStyleToolkits::shouldWriteAStyleAlike()
+void TestSpearStyleToolkits::shouldWriteAStyleAlike()
 {
     QFETCH(const QString, toolkit);
     SpearStyle style;
@@ -152,12 +152,12 @@ void tst_SpearStyleToolkits::shouldWriteAStyleAlike()
     QCOMPARE(written(style), fixture(toolkit + QStringLiteral(".spearstyle")));
 }
 
-void tst_SpearStyleToolkits::shouldReadADocumentWhole_data()
+void TestSpearStyleToolkits::shouldReadADocumentWhole_data()
 {
     addToolkits();
 }
 
-void tst_SpearStyleToolkits::shouldReadADocumentWhole()
+void TestSpearStyleToolkits::shouldReadADocumentWhole()
 {
     QFETCH(const QString, toolkit);
     const QString name = toolkit + QStringLiteral(".fishbone.json");
@@ -183,7 +183,7 @@ void tst_SpearStyleToolkits::shouldReadADocumentWhole()
     QCOMPARE(file.readAll(), fixture(name));
 }
 
-void tst_SpearStyleToolkits::shouldKeepEveryFontWeight_data()
+void TestSpearStyleToolkits::shouldKeepEveryFontWeight_data()
 {
     QTest::addColumn<int>("weight");
     QTest::addColumn<QString>("text"); // on the scale of Qt 5
@@ -198,7 +198,7 @@ void tst_SpearStyleToolkits::shouldKeepEveryFontWeight_data()
     QTest::newRow("black") << int(QFont::Black) << QStringLiteral("87");
 }
 
-void tst_SpearStyleToolkits::shouldKeepEveryFontWeight()
+void TestSpearStyleToolkits::shouldKeepEveryFontWeight()
 {
     QFETCH(const int, weight);
     QFETCH(const QString, text);
@@ -216,5 +216,5 @@ void tst_SpearStyleToolkits::shouldKeepEveryFontWeight()
     QCOMPARE(int(read.textFont(SpearStyle::ssNormal)->weight()), weight);
 }
 
-FISHBONE_TEST(tst_SpearStyleToolkits)
+FISHBONE_TEST(TestSpearStyleToolkits)
 #include "tst_spearstyle_toolkits.moc"

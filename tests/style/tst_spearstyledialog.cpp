@@ -22,7 +22,7 @@ using TestSupport::shownPixmap;
 
 Q_DECLARE_METATYPE(std::function<void(SpearStyleDialog &)>)
 
-class tst_SpearStyleDialog : public QObject
+class TestSpearStyleDialog : public QObject
 {
     Q_OBJECT
 
@@ -48,7 +48,7 @@ private Q_SLOTS:
     void shouldTranslateEveryText();
 };
 
-void tst_SpearStyleDialog::shouldShowTheStyleAndTheTexts()
+void TestSpearStyleDialog::shouldShowTheStyleAndTheTexts()
 {
     SpearStyle style;
     style.setTextCount(12);
@@ -78,14 +78,14 @@ void tst_SpearStyleDialog::shouldShowTheStyleAndTheTexts()
     QCOMPARE(written(style), written(unchanged));
 }
 
-void tst_SpearStyleDialog::shouldShowACountThatCannotBeTyped_data()
+void TestSpearStyleDialog::shouldShowACountThatCannotBeTyped_data()
 {
     QTest::addColumn<int>("count");
     QTest::newRow("negative") << -1;
     QTest::newRow("three digits") << 100;
 }
 
-void tst_SpearStyleDialog::shouldShowACountThatCannotBeTyped()
+void TestSpearStyleDialog::shouldShowACountThatCannotBeTyped()
 {
     QFETCH(int, count);
     SpearStyle style;
@@ -95,7 +95,7 @@ void tst_SpearStyleDialog::shouldShowACountThatCannotBeTyped()
     QCOMPARE(style.textCount(), count);
 }
 
-void tst_SpearStyleDialog::shouldBeModalUnlessToldOtherwise()
+void TestSpearStyleDialog::shouldBeModalUnlessToldOtherwise()
 {
     SpearStyle style;
     QVERIFY(SpearStyleDialog(style).isModal());
@@ -103,7 +103,7 @@ void tst_SpearStyleDialog::shouldBeModalUnlessToldOtherwise()
     QVERIFY(!SpearStyleDialog(style, false).isModal());
 }
 
-void tst_SpearStyleDialog::shouldTypeOneOrTwoDigitsOnly_data()
+void TestSpearStyleDialog::shouldTypeOneOrTwoDigitsOnly_data()
 {
     QTest::addColumn<QString>("keys");
     QTest::addColumn<QString>("text");
@@ -117,7 +117,7 @@ void tst_SpearStyleDialog::shouldTypeOneOrTwoDigitsOnly_data()
                                       << "8";
 }
 
-void tst_SpearStyleDialog::shouldTypeOneOrTwoDigitsOnly()
+void TestSpearStyleDialog::shouldTypeOneOrTwoDigitsOnly()
 {
     QFETCH(QString, keys);
     QFETCH(QString, text);
@@ -128,7 +128,7 @@ void tst_SpearStyleDialog::shouldTypeOneOrTwoDigitsOnly()
     QCOMPARE(style.textCount(), text.toInt());
 }
 
-void tst_SpearStyleDialog::shouldKeepTheCountWhenTheFieldIsEmpty()
+void TestSpearStyleDialog::shouldKeepTheCountWhenTheFieldIsEmpty()
 {
     SpearStyle style;
     style.setTextCount(8);
@@ -138,7 +138,7 @@ void tst_SpearStyleDialog::shouldKeepTheCountWhenTheFieldIsEmpty()
     QCOMPARE(style.textCount(), 8);
 }
 
-void tst_SpearStyleDialog::shouldSetACountOnlyFromADecimalInteger_data()
+void TestSpearStyleDialog::shouldSetACountOnlyFromADecimalInteger_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<int>("count");
@@ -151,7 +151,7 @@ void tst_SpearStyleDialog::shouldSetACountOnlyFromADecimalInteger_data()
     QTest::newRow("fraction") << "1.5" << 6;
 }
 
-void tst_SpearStyleDialog::shouldSetACountOnlyFromADecimalInteger()
+void TestSpearStyleDialog::shouldSetACountOnlyFromADecimalInteger()
 {
     QFETCH(QString, text);
     SpearStyle style;
@@ -160,7 +160,7 @@ void tst_SpearStyleDialog::shouldSetACountOnlyFromADecimalInteger()
     QTEST(style.textCount(), "count");
 }
 
-void tst_SpearStyleDialog::shouldSetTheFlagWithTheCheckBox()
+void TestSpearStyleDialog::shouldSetTheFlagWithTheCheckBox()
 {
     SpearStyle style;
     SpearStyleDialog dialog(style);
@@ -175,7 +175,7 @@ void tst_SpearStyleDialog::shouldSetTheFlagWithTheCheckBox()
     QVERIFY(style.inheritanceParent());
 }
 
-void tst_SpearStyleDialog::shouldOfferInheritanceUnlessToldOtherwise()
+void TestSpearStyleDialog::shouldOfferInheritanceUnlessToldOtherwise()
 {
     SpearStyle style;
     style.setInheritanceParent(true);
@@ -193,7 +193,7 @@ void tst_SpearStyleDialog::shouldOfferInheritanceUnlessToldOtherwise()
     QCOMPARE(box->toolTip(), QStringLiteral("as its parent"));
 }
 
-void tst_SpearStyleDialog::shouldKeepTheStyleWhenAccepted()
+void TestSpearStyleDialog::shouldKeepTheStyleWhenAccepted()
 {
     SpearStyle style;
     SpearStyleDialog dialog(style);
@@ -206,7 +206,7 @@ void tst_SpearStyleDialog::shouldKeepTheStyleWhenAccepted()
     QVERIFY(!QFile::exists(SpearStyle::spearStyleFilePath()));
 }
 
-void tst_SpearStyleDialog::shouldRestoreWhatWasSetWhenRejected_data()
+void TestSpearStyleDialog::shouldRestoreWhatWasSetWhenRejected_data()
 {
     using Leave = std::function<void(SpearStyleDialog &)>;
     QTest::addColumn<Leave>("leave");
@@ -217,7 +217,7 @@ void tst_SpearStyleDialog::shouldRestoreWhatWasSetWhenRejected_data()
     QTest::newRow("slot") << Leave([](SpearStyleDialog &dialog) { dialog.reject(); });
 }
 
-void tst_SpearStyleDialog::shouldRestoreWhatWasSetWhenRejected()
+void TestSpearStyleDialog::shouldRestoreWhatWasSetWhenRejected()
 {
     QFETCH(std::function<void(SpearStyleDialog &)>, leave);
     SpearStyle style;
@@ -246,7 +246,7 @@ void tst_SpearStyleDialog::shouldRestoreWhatWasSetWhenRejected()
     QCOMPARE(written(style), before);
 }
 
-void tst_SpearStyleDialog::shouldLeaveSetWhatWasUnsetWhenRejected()
+void TestSpearStyleDialog::shouldLeaveSetWhatWasUnsetWhenRejected()
 {
     SpearStyle style;
     style.setTextColor(SpearStyle::ssNormal, Qt::red);
@@ -263,7 +263,7 @@ void tst_SpearStyleDialog::shouldLeaveSetWhatWasUnsetWhenRejected()
     QCOMPARE(style.textBkColor(SpearStyle::ssNormal), QColor(Qt::cyan));
 }
 
-void tst_SpearStyleDialog::shouldReportItsResultWhenRunModally()
+void TestSpearStyleDialog::shouldReportItsResultWhenRunModally()
 {
     SpearStyle style;
     {
@@ -278,7 +278,7 @@ void tst_SpearStyleDialog::shouldReportItsResultWhenRunModally()
     QVERIFY(user.isDone());
 }
 
-void tst_SpearStyleDialog::shouldReactToReturn()
+void TestSpearStyleDialog::shouldReactToReturn()
 {
     SpearStyle style;
     SpearStyleDialog dialog(style);
@@ -298,7 +298,7 @@ void tst_SpearStyleDialog::shouldReactToReturn()
     QCOMPARE(dialog.result(), int(QDialog::Accepted));
 }
 
-void tst_SpearStyleDialog::shouldNameEveryControlInTabOrder()
+void TestSpearStyleDialog::shouldNameEveryControlInTabOrder()
 {
     SpearStyle style;
     SpearStyleDialog dialog(style);
@@ -308,7 +308,7 @@ void tst_SpearStyleDialog::shouldNameEveryControlInTabOrder()
     QCOMPARE(TestSupport::strayLabels(dialog), QStringList());
 }
 
-void tst_SpearStyleDialog::shouldTranslateEveryText()
+void TestSpearStyleDialog::shouldTranslateEveryText()
 {
     const TestSupport::BracketTranslator translator("SpearStyleDialog");
     SpearStyle style;
@@ -320,5 +320,5 @@ void tst_SpearStyleDialog::shouldTranslateEveryText()
         QVERIFY2(text.startsWith(QLatin1Char('[')), qPrintable(text));
 }
 
-FISHBONE_TEST(tst_SpearStyleDialog)
+FISHBONE_TEST(TestSpearStyleDialog)
 #include "tst_spearstyledialog.moc"

@@ -88,7 +88,7 @@ QImage paintedBone(const SpearStyle &style, SpearStyle::SpearState state, const 
 
 } // namespace
 
-class tst_SpearStylePreview : public QObject
+class TestSpearStylePreview : public QObject
 {
     Q_OBJECT
 
@@ -110,7 +110,7 @@ private Q_SLOTS:
     void shouldDrawASharpPreviewOnADenseScreen();
 };
 
-void tst_SpearStylePreview::shouldFollowTheTypedCountAtOnce()
+void TestSpearStylePreview::shouldFollowTheTypedCountAtOnce()
 {
     SpearStyle style;
     const SpearStyleDialog dialog(style);
@@ -119,7 +119,7 @@ void tst_SpearStylePreview::shouldFollowTheTypedCountAtOnce()
     QCOMPARE(shownPixmap(dialog).toImage(), uncutPreview(QStringLiteral("Preview...")));
 }
 
-void tst_SpearStylePreview::shouldCutThePreviewText_data()
+void TestSpearStylePreview::shouldCutThePreviewText_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<int>("count");
@@ -136,7 +136,7 @@ void tst_SpearStylePreview::shouldCutThePreviewText_data()
         << QString::fromUtf8("ab😀cd") << 4 << QString::fromUtf8("ab😀...");
 }
 
-void tst_SpearStylePreview::shouldCutThePreviewText()
+void TestSpearStylePreview::shouldCutThePreviewText()
 {
     QFETCH(QString, text);
     QFETCH(int, count);
@@ -149,7 +149,7 @@ void tst_SpearStylePreview::shouldCutThePreviewText()
     QVERIFY(shownPixmap(dialog).toImage() != uncutPreview(shown + QLatin1Char('.')));
 }
 
-void tst_SpearStylePreview::shouldPreviewTheTypedText()
+void TestSpearStylePreview::shouldPreviewTheTypedText()
 {
     SpearStyle style;
     const SpearStyleDialog dialog(style);
@@ -158,7 +158,7 @@ void tst_SpearStylePreview::shouldPreviewTheTypedText()
     QCOMPARE(shownPixmap(dialog).toImage(), uncutPreview(QStringLiteral("Hi")));
 }
 
-void tst_SpearStylePreview::shouldPreviewTheChosenState()
+void TestSpearStylePreview::shouldPreviewTheChosenState()
 {
     SpearStyle style;
     style.setTextBkColor(SpearStyle::ssNormal, Qt::yellow);
@@ -172,7 +172,7 @@ void tst_SpearStylePreview::shouldPreviewTheChosenState()
     QCOMPARE(pixelsOf(shownPixmap(dialog), Qt::yellow), 0);
 }
 
-void tst_SpearStylePreview::shouldPreviewTheColors()
+void TestSpearStylePreview::shouldPreviewTheColors()
 {
     SpearStyle style;
     style.setTextFont(SpearStyle::ssNormal, QFont(QStringLiteral("DejaVu Sans"), 30));
@@ -199,7 +199,7 @@ void tst_SpearStylePreview::shouldPreviewTheColors()
     QVERIFY2(colors.startsWith(QLatin1String("wry")), qPrintable(colors));
 }
 
-void tst_SpearStylePreview::shouldLeaveAnUnsetBackgroundWhite()
+void TestSpearStylePreview::shouldLeaveAnUnsetBackgroundWhite()
 {
     SpearStyle style;
     style.setBroderPen(SpearStyle::ssNormal, QPen(Qt::NoPen));
@@ -209,7 +209,7 @@ void tst_SpearStylePreview::shouldLeaveAnUnsetBackgroundWhite()
     QCOMPARE(inkedPixels(shownPixmap(dialog)), 0);
 }
 
-void tst_SpearStylePreview::shouldPreviewAnUnsetPenAsTheDefaultOne()
+void TestSpearStylePreview::shouldPreviewAnUnsetPenAsTheDefaultOne()
 {
     SpearStyle unset;
     SpearStyle set;
@@ -220,7 +220,7 @@ void tst_SpearStylePreview::shouldPreviewAnUnsetPenAsTheDefaultOne()
     QVERIFY(pixelsOf(shownPixmap(dialog), Qt::black) > 0);
 }
 
-void tst_SpearStylePreview::shouldPreviewTheFont()
+void TestSpearStylePreview::shouldPreviewTheFont()
 {
     const auto previewWith = [](int pointSize) {
         SpearStyle style;
@@ -236,7 +236,7 @@ void tst_SpearStylePreview::shouldPreviewTheFont()
     QVERIFY(inkedPixels(previewWith(40)) > 4 * inkedPixels(previewWith(10)));
 }
 
-void tst_SpearStylePreview::shouldPreviewTheBoxOfABone_data()
+void TestSpearStylePreview::shouldPreviewTheBoxOfABone_data()
 {
     QTest::addColumn<bool>("isSet");
     QTest::addColumn<int>("state");
@@ -247,7 +247,7 @@ void tst_SpearStylePreview::shouldPreviewTheBoxOfABone_data()
     }
 }
 
-void tst_SpearStylePreview::shouldPreviewTheBoxOfABone()
+void TestSpearStylePreview::shouldPreviewTheBoxOfABone()
 {
     QFETCH(bool, isSet);
     QFETCH(int, state);
@@ -273,14 +273,14 @@ void tst_SpearStylePreview::shouldPreviewTheBoxOfABone()
     QVERIFY2(differing <= ofCorners, qPrintable(QString::number(differing)));
 }
 
-void tst_SpearStylePreview::shouldPreviewTheTextOfABone_data()
+void TestSpearStylePreview::shouldPreviewTheTextOfABone_data()
 {
     QTest::addColumn<int>("state");
     for (int state = SpearStyle::ssNormal; state <= SpearStyle::ssLinked; ++state)
         QTest::addRow("state %d", state) << state;
 }
 
-void tst_SpearStylePreview::shouldPreviewTheTextOfABone()
+void TestSpearStylePreview::shouldPreviewTheTextOfABone()
 {
     QFETCH(int, state);
     const auto shown = SpearStyle::SpearState(state);
@@ -309,7 +309,7 @@ void tst_SpearStylePreview::shouldPreviewTheTextOfABone()
     QVERIFY(std::abs(one.blue() - other.blue()) <= smoothing);
 }
 
-void tst_SpearStylePreview::shouldBoundThePreview()
+void TestSpearStylePreview::shouldBoundThePreview()
 {
     SpearStyle style;
     style.setTextCount(0);
@@ -322,7 +322,7 @@ void tst_SpearStylePreview::shouldBoundThePreview()
     QVERIFY(shownPixmap(dialog).height() < 5000);
 }
 
-void tst_SpearStylePreview::shouldDrawASharpPreviewOnADenseScreen()
+void TestSpearStylePreview::shouldDrawASharpPreviewOnADenseScreen()
 {
     SpearStyle style;
     const SpearStyleDialog plain(style);
@@ -332,5 +332,5 @@ void tst_SpearStylePreview::shouldDrawASharpPreviewOnADenseScreen()
     QCOMPARE(shownPixmap(dense).size(), 2 * shownPixmap(plain).size());
 }
 
-FISHBONE_TEST(tst_SpearStylePreview)
+FISHBONE_TEST(TestSpearStylePreview)
 #include "tst_spearstylepreview.moc"

@@ -18,7 +18,7 @@ using TestSupport::ModalDriver;
 using TestSupport::pixelsOf;
 using TestSupport::shownPixmap;
 
-class tst_SpearStyleSetters : public QObject
+class TestSpearStyleSetters : public QObject
 {
     Q_OBJECT
 
@@ -35,7 +35,7 @@ private Q_SLOTS:
     void shouldSurviveItsEndWhileASubDialogIsOpen();
 };
 
-void tst_SpearStyleSetters::shouldSetTheFontOfTheChosenState()
+void TestSpearStyleSetters::shouldSetTheFontOfTheChosenState()
 {
     SpearStyle style;
     fillStyle(style);
@@ -61,7 +61,7 @@ void tst_SpearStyleSetters::shouldSetTheFontOfTheChosenState()
     QVERIFY(shownPixmap(dialog).toImage() != before);
 }
 
-void tst_SpearStyleSetters::shouldKeepTheFontWhenNoneIsChosen()
+void TestSpearStyleSetters::shouldKeepTheFontWhenNoneIsChosen()
 {
     SpearStyle style;
     // The dialog shows a family that is installed in its place.
@@ -74,7 +74,7 @@ void tst_SpearStyleSetters::shouldKeepTheFontWhenNoneIsChosen()
     QCOMPARE(*style.textFont(SpearStyle::ssNormal), font);
 }
 
-void tst_SpearStyleSetters::shouldSetTheTextColorOfTheChosenState()
+void TestSpearStyleSetters::shouldSetTheTextColorOfTheChosenState()
 {
     SpearStyle style;
     fillStyle(style);
@@ -99,7 +99,7 @@ void tst_SpearStyleSetters::shouldSetTheTextColorOfTheChosenState()
     QVERIFY(shownPixmap(dialog).toImage() != before);
 }
 
-void tst_SpearStyleSetters::shouldSetTheBackgroundColorOfTheChosenState()
+void TestSpearStyleSetters::shouldSetTheBackgroundColorOfTheChosenState()
 {
     SpearStyle style;
     fillStyle(style);
@@ -123,7 +123,7 @@ void tst_SpearStyleSetters::shouldSetTheBackgroundColorOfTheChosenState()
     QVERIFY(pixelsOf(shownPixmap(dialog), Qt::cyan) > 0);
 }
 
-void tst_SpearStyleSetters::shouldSetThePenOfTheChosenState()
+void TestSpearStyleSetters::shouldSetThePenOfTheChosenState()
 {
     SpearStyle style;
     fillStyle(style);
@@ -144,7 +144,7 @@ void tst_SpearStyleSetters::shouldSetThePenOfTheChosenState()
     QVERIFY(shownPixmap(dialog).toImage() != before);
 }
 
-void tst_SpearStyleSetters::shouldStartSubDialogsOnDefaultsWhenNothingIsSet()
+void TestSpearStyleSetters::shouldStartSubDialogsOnDefaultsWhenNothingIsSet()
 {
     SpearStyle style;
     const SpearStyleDialog dialog(style);
@@ -179,7 +179,7 @@ void tst_SpearStyleSetters::shouldStartSubDialogsOnDefaultsWhenNothingIsSet()
     }
 }
 
-void tst_SpearStyleSetters::shouldChangeNothingWhenASubDialogIsCancelled_data()
+void TestSpearStyleSetters::shouldChangeNothingWhenASubDialogIsCancelled_data()
 {
     QTest::addColumn<QByteArray>("button");
     QTest::addColumn<bool>("isFilled");
@@ -190,7 +190,7 @@ void tst_SpearStyleSetters::shouldChangeNothingWhenASubDialogIsCancelled_data()
     }
 }
 
-void tst_SpearStyleSetters::shouldChangeNothingWhenASubDialogIsCancelled()
+void TestSpearStyleSetters::shouldChangeNothingWhenASubDialogIsCancelled()
 {
     QFETCH(QByteArray, button);
     QFETCH(bool, isFilled);
@@ -216,7 +216,7 @@ void tst_SpearStyleSetters::shouldChangeNothingWhenASubDialogIsCancelled()
     QVERIFY(!dialog.findChild<QDialog *>());
 }
 
-void tst_SpearStyleSetters::shouldSurviveItsEndWhileASubDialogIsOpen_data()
+void TestSpearStyleSetters::shouldSurviveItsEndWhileASubDialogIsOpen_data()
 {
     QTest::addColumn<QByteArray>("slot");
     QTest::newRow("font") << QByteArray("openTextFont");
@@ -225,7 +225,7 @@ void tst_SpearStyleSetters::shouldSurviveItsEndWhileASubDialogIsOpen_data()
     QTest::newRow("pen") << QByteArray("openBroderPen");
 }
 
-void tst_SpearStyleSetters::shouldSurviveItsEndWhileASubDialogIsOpen()
+void TestSpearStyleSetters::shouldSurviveItsEndWhileASubDialogIsOpen()
 {
     QFETCH(QByteArray, slot);
     SpearStyle style;
@@ -238,5 +238,5 @@ void tst_SpearStyleSetters::shouldSurviveItsEndWhileASubDialogIsOpen()
     QCOMPARE(written(style), before);
 }
 
-FISHBONE_TEST(tst_SpearStyleSetters)
+FISHBONE_TEST(TestSpearStyleSetters)
 #include "tst_spearstylesetters.moc"
