@@ -9,6 +9,7 @@
 
 #include <fishbone/items/textitem.h>
 #include <fishbone/undo/undostack.h>
+#include <tests/program/sanitized.h>
 #include <tests/program/testprogram.h>
 #include <tests/support/commandfixture.h>
 #include <tests/support/editorfixture.h>
@@ -21,10 +22,11 @@ namespace {
 constexpr int operationsASequence = 60;
 constexpr int largestDocument = 60;
 
-/** Every sequence in the long form, a tenth of them otherwise. */
+/** Every sequence in the long form, a tenth of them otherwise, and less where sanitizers look on.
+ */
 int sequences()
 {
-    return qEnvironmentVariableIsSet("FISHBONE_LONG_TESTS") ? 300 : 30;
+    return qEnvironmentVariableIsSet("FISHBONE_LONG_TESTS") ? 300 : unlessSanitized(30, 10);
 }
 
 /** Uses an editor as a host and its user would. */

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include <tests/exchange/exchangefixture.h>
+#include <tests/program/sanitized.h>
 #include <tests/program/testprogram.h>
 
 #include <fishbone/exchange/exchangereport.h>
@@ -214,7 +215,8 @@ void TestDiagramExchangeFiles::shouldSurviveBrokenInput()
     head->childAtIndex(0)->setUrl(QStringLiteral("http://x/(y)"));
     const QByteArray whole = exported(*head, format);
     QRandomGenerator random(quint32(format) + 1);
-    for (int i = 0; i < 1500; ++i) {
+    constexpr int times = unlessSanitized(1500, 400);
+    for (int i = 0; i < times; ++i) {
         QByteArray broken = whole.left(random.bounded(whole.size() + 1));
         for (int change = random.bounded(4); change > 0 && !broken.isEmpty(); --change)
             broken[random.bounded(broken.size())] = char(random.bounded(256));

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include <tests/exchange/exchangefixture.h>
+#include <tests/program/sanitized.h>
 #include <tests/program/testprogram.h>
 
 #include <QElapsedTimer>
@@ -275,7 +276,8 @@ void TestDiagramExchangeTitles::shouldKeepRandomTexts()
     QFETCH(Format, format);
     const QString signs = QString::fromUtf8("ab1 \t\n\r#-+*_`~[]()<>&;\"'=@,.!|\\%/{}:x中\x02");
     QRandomGenerator random(11);
-    for (int round = 0; round < 300; ++round) {
+    constexpr int rounds = unlessSanitized(300, 100);
+    for (int round = 0; round < rounds; ++round) {
         auto head = treeFrom("a[b[c],d]");
         QStringList expected;
         for (TreeItem *subject : {head.get(), head->childAtIndex(0), head->childAtIndex(1)}) {

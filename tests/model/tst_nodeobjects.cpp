@@ -9,6 +9,7 @@
 #include <fishbone/style/spearstyle.h>
 
 #include <tests/model/nodeobjectsparts.h>
+#include <tests/program/sanitized.h>
 #include <tests/program/testprogram.h>
 #include <tests/support/documents.h>
 
@@ -372,7 +373,7 @@ void TestNodeObjects::shouldWriteNothingForNoNode()
 
 void TestNodeObjects::shouldWriteTheSameBytesForTheSameTree()
 {
-    for (quint32 seed = 1; seed <= 10; ++seed) {
+    for (quint32 seed = 1; seed <= unlessSanitized(10u, 4u); ++seed) {
         FishInfo first;
         first.loadFish(randomDocument(seed, {60}), nullptr);
         QJsonObject once;

@@ -3,7 +3,15 @@
 
 #pragma once
 
-#include <QtGlobal>
+// gcc tells by a macro that it builds for the address sanitizer, clang by a feature.
+#ifdef __has_feature
+#if __has_feature(address_sanitizer)
+#define FISHBONE_SANITIZED 1
+#endif
+#endif
+#if !defined(FISHBONE_SANITIZED) && defined(__SANITIZE_ADDRESS__)
+#define FISHBONE_SANITIZED 1
+#endif
 
 /**
  * @p usual, or @p sanitized where the sanitizers look on: what repeats itself or counts time does
@@ -11,13 +19,11 @@
  * once.
  */
 template <typename Number>
-constexpr Number unlessSanitized(Number usual, Number sanitized)
+constexpr Number unlessSanitized([[maybe_unused]] Number usual, [[maybe_unused]] Number sanitized)
 {
-#ifdef __SANITIZE_ADDRESS__
-    Q_UNUSED(usual)
+#ifdef FISHBONE_SANITIZED
     return sanitized;
 #else
-    Q_UNUSED(sanitized)
     return usual;
 #endif
 }

@@ -23,8 +23,9 @@
 #include <malloc.h>
 
 #include <fishbone/items/linkitem.h>
+#include <tests/program/sanitized.h>
 
-#ifdef __SANITIZE_ADDRESS__
+#ifdef FISHBONE_SANITIZED
 extern "C" std::size_t __sanitizer_get_current_allocated_bytes(); // gcc has no header for it
 #endif
 
@@ -55,7 +56,7 @@ void noteOperation(int number, const QString &name)
 
 qint64 allocatedBytes()
 {
-#ifdef __SANITIZE_ADDRESS__
+#ifdef FISHBONE_SANITIZED
     return qint64(__sanitizer_get_current_allocated_bytes());
 #else
     const auto info = mallinfo2();

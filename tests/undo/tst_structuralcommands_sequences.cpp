@@ -6,6 +6,7 @@
 
 #include <fishbone/undo/attributecommands.h>
 #include <fishbone/undo/structuralcommands.h>
+#include <tests/program/sanitized.h>
 #include <tests/program/testprogram.h>
 #include <tests/support/commandfixture.h>
 
@@ -126,8 +127,9 @@ private Q_SLOTS:
 };
 
 namespace {
-void addSeeds(int count)
+void addSeeds()
 {
+    constexpr int count = unlessSanitized(12, 5);
     QTest::addColumn<int>("seed");
     for (int seed = 0; seed < count; ++seed)
         QTest::addRow("seed %d", seed) << seed;
@@ -165,7 +167,7 @@ QString difficultDocuments(CommandFixture &f, int seed)
 
 void TestCommandSequences::shouldUndoAndRedoEverything_data()
 {
-    addSeeds(12);
+    addSeeds();
 }
 
 void TestCommandSequences::shouldUndoAndRedoEverything()
@@ -203,7 +205,7 @@ void TestCommandSequences::shouldUndoAndRedoEverything()
 
 void TestCommandSequences::shouldSurviveEditsOutsideTheHistory_data()
 {
-    addSeeds(12);
+    addSeeds();
 }
 
 void TestCommandSequences::shouldSurviveEditsOutsideTheHistory()

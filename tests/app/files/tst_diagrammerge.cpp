@@ -6,6 +6,7 @@
 #include <fishbone/exchange/diagramexchange.h>
 #include <fishbone/exchange/outlinewalk.h>
 #include <fishbone/model/treeitem.h>
+#include <tests/program/sanitized.h>
 #include <tests/program/testprogram.h>
 
 #include <QBuffer>
@@ -37,6 +38,8 @@ private Q_SLOTS:
 };
 
 namespace {
+
+constexpr int randomRounds = unlessSanitized(300, 90);
 
 using Tree = std::unique_ptr<TreeItem>;
 
@@ -335,7 +338,7 @@ void TestDiagramMerge::shouldBeTheSameBothWaysRoundWithoutConflicts()
 {
     QRandomGenerator random(1);
     int quiet = 0;
-    for (int round = 0; round < 300; ++round) {
+    for (int round = 0; round < randomRounds; ++round) {
         const Tree base = randomTree(25, random);
         const Tree ours = copyOf(*base);
         const Tree theirs = copyOf(*base);
@@ -353,13 +356,13 @@ void TestDiagramMerge::shouldBeTheSameBothWaysRoundWithoutConflicts()
         ++quiet;
         QCOMPARE(bytesOf(*back.head()), bytesOf(*there.head()));
     }
-    QVERIFY(quiet > 200);
+    QVERIFY(quiet > randomRounds * 2 / 3);
 }
 
 void TestDiagramMerge::shouldLoseNoSubject()
 {
     QRandomGenerator random(2);
-    for (int round = 0; round < 300; ++round) {
+    for (int round = 0; round < randomRounds; ++round) {
         const Tree base = randomTree(20, random);
         const Tree ours = copyOf(*base);
         const Tree theirs = copyOf(*base);
