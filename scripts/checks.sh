@@ -130,12 +130,20 @@ check_class_names() {
          }' "${headers[@]}" | none && check_architecture
 }
 
-# There is one spelling of an include, from the top folder; only moc output is included as a neighbour.
+# There is one spelling of an include, from the top folder; only moc output is included as a neighbour. And what a
+# source includes first is the header of its name, which so includes all that it needs itself.
 check_includes() {
-    local files
+    local files source header
     mapfile -t files <<<"$(sources)"
-    search -nE '^[[:space:]]*#[[:space:]]*include[[:space:]]+"' "${files[@]}" |
-        search -vE '"[a-z0-9_]+\.moc"$' | none
+    {
+        search -nE '^[[:space:]]*#[[:space:]]*include[[:space:]]+"' "${files[@]}" |
+            search -vE '"[a-z0-9_]+\.moc"$'
+        find app fishbone -name '*.cpp' | sort | while read -r source; do
+            header=${source%.cpp}.h
+            [[ ! -f $header || $(search -m 1 '^#include' "$source") == "#include <$header>" ]] ||
+                echo "$source: does not include <$header> first"
+        done
+    } | none
 }
 
 # The folders of the library use each other in one direction.

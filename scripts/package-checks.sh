@@ -26,9 +26,9 @@ check_package() {
     prefix="$folder/moved away"
     mv "$folder/first" "$prefix"
     none < <(grep -rIl "$folder/first\|$PWD/fishbone" "$prefix")
-    cmake -S cmake/consumer -B "$folder/consumer" -G Ninja -DCMAKE_BUILD_TYPE=Release \
+    cmake -S cmake/consumer -B "$folder/consumer" -G Ninja -DCMAKE_BUILD_TYPE=Debug \
         -DFISHBONE_PACKAGE="$package" -DCMAKE_PREFIX_PATH="$prefix" -DFISHBONE_EACH_HEADER="$each" \
-        -DCMAKE_CXX_COMPILER_LAUNCHER=ccache
+        -DCMAKE_CXX_COMPILER=clang++ -DCMAKE_UNITY_BUILD=ON -DCMAKE_CXX_COMPILER_LAUNCHER=ccache
     cmake --build "$folder/consumer"
 
     export QT_QPA_PLATFORM=offscreen
@@ -151,11 +151,12 @@ abi_of() {
         --drop-undefined-syms "$1"
 }
 
-# Builds the library as abi_of wants it, and prints where it is.
+# Builds the library as abi_of wants it, and prints where it is. clang-tidy reads the sources in a build that has all
+# debugging information, and is there then.
 abi_library() {
-    configure dev >&2
-    cmake --build --preset dev --target fishbone >&2
-    find build/dev/fishbone -name 'libfishbone.so.*.*'
+    configure tidy >&2
+    cmake --build --preset tidy --target fishbone >&2
+    find build/tidy/fishbone -name 'libfishbone.so.*.*'
 }
 
 # Programs that run with the library of the record run with this one: nothing of what they rely on has gone or
@@ -165,7 +166,8 @@ check_abi() {
     mkdir -p "$folder"
     abi_of "$(abi_library)" >"$folder/built.abi"
     xz --decompress --stdout cmake/abi/fishbone.abi.xz >"$folder/recorded.abi"
-    [[ $(grep -c '<function-decl' "$folder/recorded.abi") -gt 500 ]]
+    # Without debugging information there is nothing to compare.
+    [[ $(grep -c '<function-decl' "$folder/recorded.abi") -gt 500 && $(grep -c '<function-decl' "$folder/built.abi") -gt 500 ]]
     abidiff --no-added-syms --no-unreferenced-symbols --suppressions cmake/abi/others.ini \
         "$folder/recorded.abi" "$folder/built.abi"
 }

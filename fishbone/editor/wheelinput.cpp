@@ -1,8 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Fishbone authors
 // SPDX-License-Identifier: MIT
 
-#include <fishbone/editor/viewframing.h>
 #include <fishbone/editor/wheelinput.h>
+
+#include <fishbone/editor/viewframing.h>
 
 #include <cmath>
 #include <utility>
