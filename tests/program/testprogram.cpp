@@ -4,7 +4,9 @@
 #include <tests/program/testprogram.h>
 
 #include <QFileInfo>
+#include <QGuiApplication>
 #include <QMap>
+#include <QScreen>
 
 #include <cstdio>
 
@@ -27,6 +29,12 @@ QString nameOf(const char *path)
 TestSupport::TestProgram::TestProgram(const char *sourceFile, Main main)
 {
     programs().insert(nameOf(sourceFile), main);
+}
+
+void TestSupport::holdScreen()
+{
+    [[maybe_unused]] static const QPlatformScreen *held = nullptr;
+    held = QGuiApplication::primaryScreen()->handle();
 }
 
 int main(int argc, char *argv[])

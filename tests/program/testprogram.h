@@ -22,6 +22,12 @@ public:
     TestProgram(const char *sourceFile, Main main);
 };
 
+/**
+ * Keeps hold of the screen of the platform without one, which never deletes it: of what nobody
+ * holds the leak checker asks for names, which takes longer than most tests.
+ */
+void holdScreen();
+
 } // namespace TestSupport
 
 /** Registers a function for the tests of this source that takes the place of main(). */
@@ -34,6 +40,7 @@ public:
     {                                                                                              \
         const QApplication application(argc, argv);                                                \
         QApplication::setAttribute(Qt::AA_Use96Dpi);                                               \
+        TestSupport::holdScreen();                                                                 \
         TestObject test;                                                                           \
         return QTest::qExec(&test, argc, argv);                                                    \
     }                                                                                              \
