@@ -51,9 +51,18 @@ function(fishbone_unite_folders target)
         cmake_path(GET folder FILENAME name)
         set_source_files_properties("${source}" PROPERTIES UNITY_GROUP "${name}")
     endforeach()
+    if(CMAKE_UNITY_BUILD)
+        fishbone_allow_unity(${target})
+    endif()
+endfunction()
+
+# fishbone_allow_unity(<target>)
+#
+# Takes back the warnings that sources of the target only get by being compiled together.
+function(fishbone_allow_unity target)
     # A local name may be that of something in another source. And for g++ what a unity source includes is a header,
     # in which a private class had better have no member of a type that each source would have of its own.
-    if(CMAKE_UNITY_BUILD AND CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
+    if(CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
         target_compile_options(${target} PRIVATE -Wno-shadow
             $<$<CXX_COMPILER_ID:GNU>:-Wno-subobject-linkage>)
     endif()

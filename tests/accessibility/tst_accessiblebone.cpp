@@ -14,7 +14,7 @@
 using namespace TestSupport;
 
 namespace {
-const QString document = QStringLiteral("Late[People[Training],Machines]");
+const QString peopleAndMachines = QStringLiteral("Late[People[Training],Machines]");
 const QString people = QStringLiteral("People");
 const QString machines = QStringLiteral("Machines");
 
@@ -30,7 +30,7 @@ struct EndingEditor
 {
     EndingEditor()
     {
-        loadDocument(model, document);
+        loadDocument(model, peopleAndMachines);
         editor->setModel(&model);
         editor->setRootIndex(model.index(0, 0));
     }
@@ -78,7 +78,7 @@ private Q_SLOTS:
 
 void TestAccessibleBone::shouldBeInvalidWithoutABoneInTheView()
 {
-    const EditorFixture fish(document);
+    const EditorFixture fish(peopleAndMachines);
     SpearItem loose(QStringLiteral("Loose"), 0, 20.0);
     Bone bone(fish.editor.view(), &loose);
     QVERIFY(!bone.isValid());
@@ -119,7 +119,7 @@ void TestAccessibleBone::shouldBeInvalidWithoutItsView()
 
 void TestAccessibleBone::shouldNameTheWindowItIsShownIn()
 {
-    EditorFixture fish(document);
+    EditorFixture fish(peopleAndMachines);
     QVERIFY(fish.show());
     const Bone bone(fish.editor.view(), fish.spear(people));
     QVERIFY(bone.window());
@@ -128,7 +128,7 @@ void TestAccessibleBone::shouldNameTheWindowItIsShownIn()
 
 void TestAccessibleBone::shouldDescribeABoneWithoutASubject()
 {
-    const EditorFixture fish(document);
+    const EditorFixture fish(peopleAndMachines);
     auto *const stray = std::make_unique<SpearItem>(QStringLiteral("Stray"), 0, 20.0).release();
     stray->setParentItem(fish.spear(people));
     const Bone bone(fish.editor.view(), stray);
@@ -146,7 +146,7 @@ void TestAccessibleBone::shouldDescribeABoneWithoutASubject()
 
 void TestAccessibleBone::shouldFindOnlyBonesAmongItsChildren()
 {
-    const EditorFixture fish(document);
+    const EditorFixture fish(peopleAndMachines);
     const Bone head(fish.editor.view(), fish.spear(QStringLiteral("Late")));
     const Bone second(fish.editor.view(), fish.spear(machines));
     QCOMPARE(head.indexOfChild(&second), 1);
@@ -157,7 +157,7 @@ void TestAccessibleBone::shouldFindOnlyBonesAmongItsChildren()
 
 void TestAccessibleBone::shouldTellOnlyWhatIsAsked()
 {
-    const EditorFixture fish(document);
+    const EditorFixture fish(peopleAndMachines);
     Bone bone(fish.editor.view(), fish.spear(people));
     QCOMPARE(bone.text(QAccessible::Help), QString());
     bone.setText(QAccessible::Name, QStringLiteral("Other"));
@@ -170,7 +170,7 @@ void TestAccessibleBone::shouldTellOnlyWhatIsAsked()
 
 void TestAccessibleBone::shouldBeSelectedWithItsTitle()
 {
-    EditorFixture fish(document);
+    EditorFixture fish(peopleAndMachines);
     const Bone bone(fish.editor.view(), fish.spear(people));
     QVERIFY(!bone.state().selected);
     TextItem *const title = fish.spear(people)->textItem();
@@ -182,7 +182,7 @@ void TestAccessibleBone::shouldBeSelectedWithItsTitle()
 
 void TestAccessibleBone::shouldBeInvisibleWhileTheEditorIsHidden()
 {
-    EditorFixture fish(document);
+    EditorFixture fish(peopleAndMachines);
     const Bone bone(fish.editor.view(), fish.spear(people));
     QVERIFY(bone.state().invisible);
     QVERIFY(fish.show());
@@ -191,7 +191,7 @@ void TestAccessibleBone::shouldBeInvisibleWhileTheEditorIsHidden()
 
 void TestAccessibleBone::shouldNameWhatTogglingDoes()
 {
-    EditorFixture fish(document);
+    EditorFixture fish(peopleAndMachines);
     fish.editor.expandAll();
     const QString toggle = QAccessibleActionInterface::toggleAction();
     const Bone bone(fish.editor.view(), fish.spear(people));
@@ -204,7 +204,7 @@ void TestAccessibleBone::shouldNameWhatTogglingDoes()
 
 void TestAccessibleBone::shouldSelectItAloneAmongSeveral()
 {
-    EditorFixture fish(document);
+    EditorFixture fish(peopleAndMachines);
     fish.select({people, machines});
     Bone bone(fish.editor.view(), fish.spear(people));
     bone.doAction(QAccessibleActionInterface::pressAction());
@@ -215,7 +215,7 @@ void TestAccessibleBone::shouldSelectItAloneAmongSeveral()
 
 void TestAccessibleBone::shouldHaveNoEntryForNothing()
 {
-    const EditorFixture fish(document);
+    const EditorFixture fish(peopleAndMachines);
     AccessibleDiagram *const diagram = AccessibleDiagram::of(fish.editor.view());
     QCOMPARE(diagram->bone(nullptr), nullptr);
     QCOMPARE(diagram->indexOfChild(nullptr), -1);
@@ -231,7 +231,7 @@ void TestAccessibleBone::shouldHaveNoEntryForNothing()
 
 void TestAccessibleBone::shouldHaveNoEntriesWithoutAScene()
 {
-    EditorFixture fish(document);
+    EditorFixture fish(peopleAndMachines);
     QVERIFY(fish.show());
     AccessibleDiagram *const diagram = AccessibleDiagram::of(fish.editor.view());
     QCOMPARE(diagram->childCount(), 1);
@@ -246,7 +246,7 @@ void TestAccessibleBone::shouldHaveNoEntriesWithoutAScene()
 
 void TestAccessibleBone::shouldMakeAnEntryAnewThatTheToolkitDeleted()
 {
-    EditorFixture fish(document);
+    EditorFixture fish(peopleAndMachines);
     AccessibleDiagram *const diagram = AccessibleDiagram::of(fish.editor.view());
     const auto deleteEntry = [&fish, diagram] {
         QAccessible::deleteAccessibleInterface(
@@ -263,7 +263,7 @@ void TestAccessibleBone::shouldMakeAnEntryAnewThatTheToolkitDeleted()
 
 void TestAccessibleBone::shouldFocusTheFirstOfSeveral()
 {
-    EditorFixture fish(document);
+    EditorFixture fish(peopleAndMachines);
     QVERIFY(fish.show());
     fish.editor.activateWindow();
     fish.editor.view()->setFocus();

@@ -10,8 +10,12 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include <tests/support/filecontent.h>
+
 /** Runs the real program, with a bare environment and a time limit. */
 namespace ProgramRunner {
+
+using TestSupport::contentOf;
 
 constexpr int timeLimit = 30000; ///< milliseconds that the program may take for anything
 
@@ -72,12 +76,6 @@ inline void writeFile(const QString &path, const QByteArray &content)
     QFile file(path);
     QVERIFY(file.open(QIODevice::WriteOnly));
     QCOMPARE(file.write(content), qint64(content.size()));
-}
-
-inline QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 /** A web server that gives every visitor the same reply. */

@@ -14,14 +14,10 @@
 
 #include <fishbone/base/filereplacement.h>
 #include <tests/program/testprogram.h>
+#include <tests/support/filecontent.h>
 
 namespace {
-
-QByteArray contentOf(const QString &fileName)
-{
-    QFile file(fileName);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("unreadable");
-}
+using TestSupport::contentOf;
 
 int modeOf(const QString &fileName)
 {

@@ -22,7 +22,7 @@ private Q_SLOTS:
 namespace {
 
 /** Ab (with abc and cab, which has an AB), x; the second column has the rows' numbers from 1. */
-void fill(QStandardItemModel &model)
+void fillCells(QStandardItemModel &model)
 {
     int number = 0;
     const auto row = [&number](const char *text) {
@@ -61,7 +61,7 @@ void TestCellSearch::shouldFindCellsInPreOrder()
     QFETCH(bool, atTheEnd);
     QFETCH(bool, isCaseSensitive);
     QStandardItemModel model;
-    fill(model);
+    fillCells(model);
     QStringList found;
     const QList<QPersistentModelIndex> cells =
         cellsWith(model, column, text, atTheEnd ? Qt::MatchEndsWith : Qt::MatchContains,

@@ -5,6 +5,7 @@
 
 #include <fishbone/dialogs/urldialog.h>
 #include <tests/support/dialogchecks.h>
+#include <tests/support/filecontent.h>
 
 #include <QDir>
 #include <QFile>
@@ -12,6 +13,8 @@
 
 /** The parts of the URL dialog and of its history files, as its tests use them. */
 namespace UrlDialogParts {
+
+using TestSupport::contentOf;
 
 /**
  * A fresh working folder as long as it lives, since relative names of history files count from
@@ -60,12 +63,6 @@ inline QString entries(const URLDialog &dialog)
 inline void click(const URLDialog &dialog, const char *button)
 {
     QTest::mouseClick(TestSupport::buttonWithText(dialog, QLatin1String(button)), Qt::LeftButton);
-}
-
-inline QByteArray contentOf(const QString &fileName)
-{
-    QFile file(fileName);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("no such file");
 }
 
 inline bool writeContent(const QString &fileName, const QByteArray &content)

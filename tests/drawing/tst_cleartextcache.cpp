@@ -9,7 +9,7 @@
 
 namespace {
 /** Asks @p cache for @p titles as a layout does. */
-std::vector<const ClearText *> layOut(ClearTextCache &cache, const QStringList &titles)
+std::vector<const ClearText *> layOutTitles(ClearTextCache &cache, const QStringList &titles)
 {
     const ClearFont font(QFont(), 12);
     std::vector<const ClearText *> texts;
@@ -45,11 +45,11 @@ void TestClearTextCache::shouldBreakEachTitleOnce()
     ClearTextCache cache;
     const QStringList titles{QStringLiteral("Man"), QStringLiteral("Worn"), QStringLiteral("Man"),
                              QString(), QStringLiteral("Heat")};
-    const auto first = layOut(cache, titles);
+    const auto first = layOutTitles(cache, titles);
     QCOMPARE(cache.layouts(), 4);
     QCOMPARE(first[0], first[2]);
     for (int turn = 0; turn < 3; ++turn)
-        QVERIFY(layOut(cache, titles) == first);
+        QVERIFY(layOutTitles(cache, titles) == first);
     QCOMPARE(cache.layouts(), 4);
 }
 
@@ -57,20 +57,20 @@ void TestClearTextCache::shouldFindTitlesBehindThoseThatComeGoOrMove()
 {
     ClearTextCache cache;
     QStringList titles = numbered(0, 40);
-    const auto first = layOut(cache, titles);
+    const auto first = layOutTitles(cache, titles);
     titles.insert(7, QStringLiteral("new"));
-    auto texts = layOut(cache, titles);
+    auto texts = layOutTitles(cache, titles);
     QCOMPARE(cache.layouts(), 41);
     QCOMPARE(texts[7]->lines().front().text, QStringLiteral("new"));
     QCOMPARE(texts[8], first[7]);
     QCOMPARE(texts[40], first[39]);
     titles.removeAt(7);
     titles.erase(titles.begin() + 3, titles.begin() + 9);
-    texts = layOut(cache, titles);
+    texts = layOutTitles(cache, titles);
     QCOMPARE(texts[3], first[9]);
     QCOMPARE(texts[33], first[39]);
     std::reverse(titles.begin(), titles.end());
-    texts = layOut(cache, titles);
+    texts = layOutTitles(cache, titles);
     QCOMPARE(texts[0], first[39]);
     QCOMPARE(texts[33], first[0]);
     QCOMPARE(cache.layouts(), 41);
@@ -99,16 +99,16 @@ void TestClearTextCache::shouldForgetWhatIsUsedNoMore()
 {
     ClearTextCache cache;
     const QStringList many = numbered(0, 5000);
-    layOut(cache, many);
-    layOut(cache, many);
+    layOutTitles(cache, many);
+    layOutTitles(cache, many);
     QCOMPARE(cache.layouts(), 5000);
     const QStringList few = numbered(10000, 10);
     for (int turn = 0; turn < 3; ++turn)
-        layOut(cache, few);
+        layOutTitles(cache, few);
     QCOMPARE(cache.layouts(), 5010);
-    layOut(cache, many); // they are gone
+    layOutTitles(cache, many); // they are gone
     QCOMPARE(cache.layouts(), 10010);
-    layOut(cache, few); // while this much less is kept
+    layOutTitles(cache, few); // while this much less is kept
     QCOMPARE(cache.layouts(), 10010);
 }
 

@@ -7,6 +7,7 @@
 
 #include <memory>
 
+#include <tests/editor/sampletrees.h>
 #include <tests/program/testprogram.h>
 #include <tests/support/drawingtext.h>
 #include <tests/support/editorfixture.h>
@@ -56,11 +57,6 @@ public:
     }
 };
 
-QString effect()
-{
-    return QStringLiteral("Effect[Man[Training],Machine]");
-}
-
 /** Everything that needs a diagram, on an editor that has none. */
 void useEverything(FishEditor &editor, const QModelIndex &index)
 {
@@ -93,7 +89,7 @@ void useEverything(FishEditor &editor, const QModelIndex &index)
 void TestFishEditorBinding::shouldStoreTheModelAndShowNothingOfIt()
 {
     FishModel model;
-    loadDocument(model, effect());
+    loadDocument(model, SampleTrees::small());
     FishEditor editor;
 
     editor.setModel(&model);
@@ -105,7 +101,7 @@ void TestFishEditorBinding::shouldStoreTheModelAndShowNothingOfIt()
 
 void TestFishEditorBinding::shouldKeepTheDrawingWhenTheModelIsReplaced()
 {
-    EditorFixture fish(effect());
+    EditorFixture fish(SampleTrees::small());
     FishModel other;
     const QStringList drawn = drawingText(fish.editor.headSpear());
 
@@ -119,7 +115,7 @@ void TestFishEditorBinding::shouldKeepTheDrawingWhenTheModelIsReplaced()
 void TestFishEditorBinding::shouldConnectAModelOnce()
 {
     CountingModel model;
-    loadDocument(model, effect());
+    loadDocument(model, SampleTrees::small());
     FishEditor editor;
     QCOMPARE(model.listeners(), 0);
 
@@ -136,7 +132,7 @@ void TestFishEditorBinding::shouldConnectAModelOnce()
 void TestFishEditorBinding::shouldGoOnListeningToAnEarlierModel()
 {
     CountingModel model;
-    FishInfo *const info = loadDocument(model, effect());
+    FishInfo *const info = loadDocument(model, SampleTrees::small());
     CountingModel other;
     FishEditor editor;
     editor.setModel(&model);
@@ -175,7 +171,7 @@ void TestFishEditorBinding::shouldTellTheTypeOfItsModel()
 void TestFishEditorBinding::shouldAnswerWithoutAModel()
 {
     FishModel foreign;
-    loadDocument(foreign, effect());
+    loadDocument(foreign, SampleTrees::small());
     FishEditor editor;
 
     useEverything(editor, QModelIndex());
@@ -204,7 +200,7 @@ void TestFishEditorBinding::shouldAnswerWithAModelOfAnotherKind()
 
 void TestFishEditorBinding::shouldTellWhereASpearsSubjectStands()
 {
-    EditorFixture fish(effect());
+    EditorFixture fish(SampleTrees::small());
     const SpearItem unlinked(QStringLiteral("x"), 0, 20);
 
     QCOMPARE(fish.editor.spearIndex(fish.spear(QStringLiteral("Machine"))),
@@ -215,7 +211,7 @@ void TestFishEditorBinding::shouldTellWhereASpearsSubjectStands()
 
 void TestFishEditorBinding::shouldFindTheDocumentOfWhatItShows()
 {
-    EditorFixture fish(effect());
+    EditorFixture fish(SampleTrees::small());
     FishInfo *const other = loadDocument(fish.model, QStringLiteral("Other[Bone[Branch[Twig]]]"));
     QCOMPARE(fish.editor.currentFishInfo(), fish.info);
 
@@ -238,7 +234,7 @@ void TestFishEditorBinding::shouldFindTheDocumentOfWhatItShows()
 
 void TestFishEditorBinding::shouldMarkTheShownDocumentOnly()
 {
-    EditorFixture fish(effect());
+    EditorFixture fish(SampleTrees::small());
     FishInfo *const other = loadDocument(fish.model, QStringLiteral("Other[Bone]"));
     QVERIFY(!fish.editor.isModified());
 
@@ -258,7 +254,7 @@ void TestFishEditorBinding::shouldMarkTheShownDocumentOnly()
 
 void TestFishEditorBinding::shouldDrawOnWithoutAModel()
 {
-    EditorFixture fish(effect());
+    EditorFixture fish(SampleTrees::small());
     fish.editor.expandAll();
     const QStringList drawn = drawingText(fish.editor.headSpear());
 
@@ -280,7 +276,7 @@ void TestFishEditorBinding::shouldIgnoreWhatAnEarlierModelGoesThrough()
 {
     auto earlier = std::make_unique<FishModel>();
     FishInfo *const info = loadDocument(*earlier, QStringLiteral("Former[Bone]"));
-    EditorFixture fish(effect());
+    EditorFixture fish(SampleTrees::small());
     fish.editor.setModel(earlier.get());
     fish.editor.setRootIndex(earlier->index(0, 0));
     fish.editor.setModel(&fish.model);
@@ -299,7 +295,7 @@ void TestFishEditorBinding::shouldIgnoreWhatAnEarlierModelGoesThrough()
 
 void TestFishEditorBinding::shouldIgnoreTheDeathOfALaterModel()
 {
-    EditorFixture fish(effect());
+    EditorFixture fish(SampleTrees::small());
     const SpearItem *const head = fish.editor.headSpear();
     {
         FishModel later;

@@ -5,6 +5,7 @@
 #include <QtTest>
 
 #include <fishbone/undo/undostack.h>
+#include <tests/editor/sampletrees.h>
 #include <tests/program/testprogram.h>
 #include <tests/support/editorfixture.h>
 #include <tests/support/signalrecorder.h>
@@ -13,13 +14,7 @@ using namespace TestSupport;
 
 namespace {
 
-const QString document = QStringLiteral("Head[A[A1,A2],B[B1],C]");
-
-QString treeOf(const EditorFixture &fixture)
-{
-    return treeToText(*fixture.model.fishList().at(0)->treeItem()->childAtIndex(0));
-}
-
+using SampleTrees::treeOf;
 } // namespace
 
 class TestFishEditorClipboard : public QObject
@@ -47,16 +42,16 @@ private Q_SLOTS:
 
 void TestFishEditorClipboard::shouldStartWithAnEmptyBuffer()
 {
-    EditorFixture fixture(document);
+    EditorFixture fixture(SampleTrees::lettered());
     QVERIFY(!fixture.editor.hasClipBoardData());
     fixture.select({QStringLiteral("A")});
     fixture.editor.paste();
-    QCOMPARE(treeOf(fixture), document);
+    QCOMPARE(treeOf(fixture), SampleTrees::lettered());
 }
 
 void TestFishEditorClipboard::shouldCopyNothingOfTheHeadAlone()
 {
-    EditorFixture fixture(document);
+    EditorFixture fixture(SampleTrees::lettered());
     fixture.select({QStringLiteral("Head")});
     SignalRecorder recorder(fixture.editor);
     fixture.editor.copy();
@@ -66,7 +61,7 @@ void TestFishEditorClipboard::shouldCopyNothingOfTheHeadAlone()
 
 void TestFishEditorClipboard::shouldSkipItemsThatAreNotThere()
 {
-    EditorFixture fixture(document);
+    EditorFixture fixture(SampleTrees::lettered());
     QList<QGraphicsItem *> items{nullptr, fixture.spear(QStringLiteral("A")), nullptr};
     QJsonObject copied;
     fixture.editor.saveObjects(copied, items);
@@ -79,7 +74,7 @@ void TestFishEditorClipboard::shouldSkipItemsThatAreNotThere()
 
 void TestFishEditorClipboard::shouldCopyOneSubjectAsItsNodeObject()
 {
-    EditorFixture fixture(document);
+    EditorFixture fixture(SampleTrees::lettered());
     fixture.select({QStringLiteral("A")});
     QJsonObject copied;
     fixture.editor.selectedObjects(copied);
@@ -93,7 +88,7 @@ void TestFishEditorClipboard::shouldCopyOneSubjectAsItsNodeObject()
 
 void TestFishEditorClipboard::shouldCopyAParentWithItsSelectedChildOnce()
 {
-    EditorFixture fixture(document);
+    EditorFixture fixture(SampleTrees::lettered());
     fixture.editor.expandAll();
     fixture.select({QStringLiteral("A2"), QStringLiteral("A")});
     QJsonObject copied;
@@ -104,7 +99,7 @@ void TestFishEditorClipboard::shouldCopyAParentWithItsSelectedChildOnce()
 
 void TestFishEditorClipboard::shouldCopySeveralInDocumentOrder()
 {
-    EditorFixture fixture(document);
+    EditorFixture fixture(SampleTrees::lettered());
     fixture.editor.expandAll();
     fixture.select({QStringLiteral("C"), QStringLiteral("B"), QStringLiteral("A1")});
     QJsonObject copied;
@@ -119,7 +114,7 @@ void TestFishEditorClipboard::shouldCopySeveralInDocumentOrder()
 
 void TestFishEditorClipboard::shouldPasteManyTimesFromOneCopy()
 {
-    EditorFixture fixture(document);
+    EditorFixture fixture(SampleTrees::lettered());
     fixture.select({QStringLiteral("B")});
     fixture.editor.copy();
     fixture.editor.pasteItem(fixture.index(QStringLiteral("C")));
@@ -128,12 +123,12 @@ void TestFishEditorClipboard::shouldPasteManyTimesFromOneCopy()
     QVERIFY(fixture.editor.isModified());
     fixture.editor.undo();
     fixture.editor.undo();
-    QCOMPARE(treeOf(fixture), document);
+    QCOMPARE(treeOf(fixture), SampleTrees::lettered());
 }
 
 void TestFishEditorClipboard::shouldPasteUuidsAsTheyAreUnlessToldOtherwise()
 {
-    EditorFixture fixture(document);
+    EditorFixture fixture(SampleTrees::lettered());
     fixture.select({QStringLiteral("B")});
     fixture.editor.copy();
     fixture.editor.pasteItem(fixture.index(QStringLiteral("C")));
@@ -144,7 +139,7 @@ void TestFishEditorClipboard::shouldPasteUuidsAsTheyAreUnlessToldOtherwise()
 
 void TestFishEditorClipboard::shouldGivePastedSubjectsUuidsOfTheirOwn()
 {
-    EditorFixture fixture(document);
+    EditorFixture fixture(SampleTrees::lettered());
     fixture.editor.setPasteAsNew(true);
     fixture.select({QStringLiteral("B")});
     fixture.editor.copy();
@@ -155,12 +150,12 @@ void TestFishEditorClipboard::shouldGivePastedSubjectsUuidsOfTheirOwn()
     QCOMPARE(pasted->childAtIndex(0)->pid(), pasted->uuid());
     QVERIFY(pasted->childAtIndex(0)->uuid() != QStringLiteral("u-B1"));
     fixture.editor.undo();
-    QCOMPARE(treeOf(fixture), document);
+    QCOMPARE(treeOf(fixture), SampleTrees::lettered());
 }
 
 void TestFishEditorClipboard::shouldPasteBackWhatWasCut()
 {
-    EditorFixture fixture(document);
+    EditorFixture fixture(SampleTrees::lettered());
     fixture.select({QStringLiteral("A"), QStringLiteral("C")});
     SignalRecorder recorder(fixture.editor, {QStringLiteral("clipBoardAvailable")});
     fixture.editor.cut();
@@ -170,12 +165,12 @@ void TestFishEditorClipboard::shouldPasteBackWhatWasCut()
     QCOMPARE(treeOf(fixture), QStringLiteral("Head[B[B1],A[A1,A2],C]"));
     fixture.editor.undo();
     fixture.editor.undo();
-    QCOMPARE(treeOf(fixture), document);
+    QCOMPARE(treeOf(fixture), SampleTrees::lettered());
 }
 
 void TestFishEditorClipboard::shouldEmptyTheBufferWhenNothingUsableIsSelected()
 {
-    EditorFixture fixture(document);
+    EditorFixture fixture(SampleTrees::lettered());
     fixture.select({QStringLiteral("A")});
     fixture.editor.copy();
     fixture.editor.scene()->clearSelection();
@@ -185,7 +180,7 @@ void TestFishEditorClipboard::shouldEmptyTheBufferWhenNothingUsableIsSelected()
 
 void TestFishEditorClipboard::shouldKeepTheBufferAcrossAChangeOfTheDiagram()
 {
-    EditorFixture fixture(document);
+    EditorFixture fixture(SampleTrees::lettered());
     loadDocument(fixture.model, QStringLiteral("Other[X]"));
     fixture.select({QStringLiteral("B")});
     fixture.editor.copy();
@@ -211,7 +206,7 @@ void TestFishEditorClipboard::shouldGiveCopiedSubjectsAUuid()
 
 void TestFishEditorClipboard::shouldReadTheLastRecordOfAPayload()
 {
-    EditorFixture fixture(document);
+    EditorFixture fixture(SampleTrees::lettered());
     const std::unique_ptr<QMimeData> data(fixture.model.mimeData(
         {fixture.index(QStringLiteral("A")), fixture.index(QStringLiteral("B1"))}));
     QCOMPARE(fixture.editor.treeItemFromMimeData(data.get()),
@@ -220,8 +215,8 @@ void TestFishEditorClipboard::shouldReadTheLastRecordOfAPayload()
 
 void TestFishEditorClipboard::shouldRefuseForeignPayloads()
 {
-    EditorFixture fixture(document);
-    EditorFixture other(document);
+    EditorFixture fixture(SampleTrees::lettered());
+    EditorFixture other(SampleTrees::lettered());
     const std::unique_ptr<QMimeData> foreign(
         other.model.mimeData({other.index(QStringLiteral("A"))}));
     QCOMPARE(fixture.editor.treeItemFromMimeData(foreign.get()), nullptr);
@@ -236,11 +231,11 @@ void TestFishEditorClipboard::shouldRefuseForeignPayloads()
 
 void TestFishEditorClipboard::shouldLeaveThePlaceholdersWithoutEffect()
 {
-    EditorFixture fixture(document);
+    EditorFixture fixture(SampleTrees::lettered());
     fixture.editor.insertItem(fixture.index(QStringLiteral("A")), &fixture.model,
                               fixture.index(QStringLiteral("B")));
     QVERIFY(!fixture.editor.pasteItemFromClipBoard());
-    QCOMPARE(treeOf(fixture), document);
+    QCOMPARE(treeOf(fixture), SampleTrees::lettered());
 }
 
 FISHBONE_TEST(TestFishEditorClipboard)

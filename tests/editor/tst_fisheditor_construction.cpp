@@ -13,6 +13,7 @@
 
 #include <fishbone/items/expanditem.h>
 #include <fishbone/undo/undostack.h>
+#include <tests/editor/sampletrees.h>
 #include <tests/program/testprogram.h>
 #include <tests/support/drawingtext.h>
 #include <tests/support/editorfixture.h>
@@ -60,10 +61,6 @@ QTimer *autosaveTimer(const FishEditor &editor)
     return timers.size() == 1 ? timers.first() : nullptr;
 }
 
-QString effect()
-{
-    return QStringLiteral("Effect[Man[Training],Machine]");
-}
 } // namespace
 
 void TestFishEditorConstruction::shouldTakeTheParentItIsGiven()
@@ -139,7 +136,7 @@ void TestFishEditorConstruction::shouldOwnItsUndoStack()
 
 void TestFishEditorConstruction::shouldReportWhetherAnythingIsSelected()
 {
-    EditorFixture fish(effect());
+    EditorFixture fish(SampleTrees::small());
     SignalRecorder recorder(fish.editor);
 
     fish.spear(QStringLiteral("Man"))->setSelected(true);
@@ -186,7 +183,7 @@ void TestFishEditorConstruction::shouldNotReportASelectionThatStays()
     empty.selectAll();
     QCOMPARE(nothing.take(), QString());
 
-    EditorFixture fish(effect());
+    EditorFixture fish(SampleTrees::small());
     fish.editor.selectAll();
     SignalRecorder recorder(fish.editor);
     fish.editor.selectAll();
@@ -211,7 +208,7 @@ void TestFishEditorConstruction::shouldReportASelectionWhenTheTreeIsWholeAgain()
 
 void TestFishEditorConstruction::shouldReportASelectionWhenTheDrawingIsWholeAgain()
 {
-    EditorFixture fish(effect());
+    EditorFixture fish(SampleTrees::small());
     const QModelIndex other =
         fish.model.index(fish.model.fishRow(loadDocument(fish.model, QStringLiteral("B[C]"))), 0);
     fish.select({QStringLiteral("Man")});
@@ -228,7 +225,7 @@ void TestFishEditorConstruction::shouldReportASelectionWhenTheDrawingIsWholeAgai
 
 void TestFishEditorConstruction::shouldCarryOutAMoveAtOnce()
 {
-    EditorFixture fish(effect());
+    EditorFixture fish(SampleTrees::small());
     SpearItem *const man = fish.spear(QStringLiteral("Man"));
     man->setPos(40, 50);
 
@@ -240,11 +237,11 @@ void TestFishEditorConstruction::shouldCarryOutAMoveAtOnce()
 
 void TestFishEditorConstruction::shouldCarryOutADropWhenTheDragHasEnded()
 {
-    EditorFixture fish(effect());
+    EditorFixture fish(SampleTrees::small());
     const auto payload = dragged(fish.model, fish.index(QStringLiteral("Machine")));
 
     Q_EMIT fish.editor.view()->dropTo(payload.get(), fish.index(QStringLiteral("Man")), 0);
-    QCOMPARE(treeToText(*fish.subject(QStringLiteral("Effect"))), effect());
+    QCOMPARE(treeToText(*fish.subject(QStringLiteral("Effect"))), SampleTrees::small());
 
     QTRY_COMPARE(treeToText(*fish.subject(QStringLiteral("Effect"))),
                  QStringLiteral("Effect[Man[Machine,Training]]"));
@@ -252,7 +249,7 @@ void TestFishEditorConstruction::shouldCarryOutADropWhenTheDragHasEnded()
 
 void TestFishEditorConstruction::shouldAnswerARightClickWithAMenu()
 {
-    EditorFixture fish(effect());
+    EditorFixture fish(SampleTrees::small());
     int entries = 0;
     QTimer closer;
     connect(&closer, &QTimer::timeout, &closer, [&entries] {
@@ -271,7 +268,7 @@ void TestFishEditorConstruction::shouldAnswerARightClickWithAMenu()
 void TestFishEditorConstruction::shouldServeExpandButtonsThatNoEditorShows()
 {
     FishModel model;
-    loadDocument(model, effect());
+    loadDocument(model, SampleTrees::small());
     FishEditor first;
     first.setModel(nullptr);
     FishEditor last;
@@ -321,7 +318,7 @@ void TestFishEditorConstruction::shouldGoOnAutosaving()
 {
     const QTemporaryDir folder;
     const QString file = folder.filePath(QStringLiteral("saved"));
-    EditorFixture fish(effect());
+    EditorFixture fish(SampleTrees::small());
     fish.info->setAutoSaveFile(file);
 
     autosaveTimer(fish.editor)->start(1);
@@ -336,7 +333,7 @@ void TestFishEditorConstruction::shouldGoOnAutosaving()
 void TestFishEditorConstruction::shouldAutosaveTheShownDocument()
 {
     const QTemporaryDir folder;
-    EditorFixture fish(effect());
+    EditorFixture fish(SampleTrees::small());
     FishInfo *const other = loadDocument(fish.model, QStringLiteral("Other[Bone[Branch]]"));
     fish.info->setAutoSaveFile(folder.filePath(QStringLiteral("first")));
     other->setAutoSaveFile(folder.filePath(QStringLiteral("second")));
@@ -356,7 +353,7 @@ void TestFishEditorConstruction::shouldAutosaveTheShownDocument()
 void TestFishEditorConstruction::shouldAutosaveNothingWithoutADocument()
 {
     FishModel model;
-    loadDocument(model, effect());
+    loadDocument(model, SampleTrees::small());
     FishEditor editor;
     const QString folder = QCoreApplication::applicationDirPath() + QStringLiteral("/tmp");
     QVERIFY(!QFile::exists(folder));

@@ -6,6 +6,7 @@
 #include <QtTest>
 
 #include <fishbone/undo/undostack.h>
+#include <tests/editor/sampletrees.h>
 #include <tests/program/testprogram.h>
 #include <tests/support/drawingtext.h>
 #include <tests/support/editorfixture.h>
@@ -41,11 +42,6 @@ private Q_SLOTS:
 };
 
 namespace {
-QString effect()
-{
-    return QStringLiteral("Effect[Man[Train[Cost]],Machine[Wear],Method]");
-}
-
 void expectNothing(const FishEditor &editor)
 {
     QVERIFY(!editor.headSpear());
@@ -56,7 +52,7 @@ void expectNothing(const FishEditor &editor)
 }
 
 /** Everything a host may still call. */
-void useEverything(FishEditor &editor)
+void useAnEmptyOne(FishEditor &editor)
 {
     editor.updateFish(false);
     editor.updateFish(true);
@@ -81,7 +77,7 @@ void useEverything(FishEditor &editor)
 void TestFishEditorDocuments::shouldShowNothingWhenTheModelDies()
 {
     auto model = std::make_unique<FishModel>();
-    loadDocument(*model, effect());
+    loadDocument(*model, SampleTrees::deep());
     FishEditor editor;
     editor.setModel(model.get());
     editor.setRootIndex(model->index(0, 0));
@@ -93,14 +89,14 @@ void TestFishEditorDocuments::shouldShowNothingWhenTheModelDies()
     expectNothing(editor);
     QVERIFY(!editor.model());
     QCOMPARE(SpearItem::m_refCount, 0);
-    useEverything(editor);
+    useAnEmptyOne(editor);
     expectNothing(editor);
 }
 
 void TestFishEditorDocuments::shouldLetTheModelOutliveIt()
 {
     FishModel model;
-    loadDocument(model, effect());
+    loadDocument(model, SampleTrees::deep());
     auto editor = std::make_unique<FishEditor>();
     editor->setModel(&model);
     editor->setRootIndex(model.index(0, 0));
@@ -118,7 +114,7 @@ void TestFishEditorDocuments::shouldLetTheModelOutliveIt()
 void TestFishEditorDocuments::shouldReportNothingWhileItDies()
 {
     FishModel model;
-    loadDocument(model, effect());
+    loadDocument(model, SampleTrees::deep());
     auto editor = std::make_unique<FishEditor>();
     editor->setModel(&model);
     editor->setRootIndex(model.index(0, 0));
@@ -147,7 +143,7 @@ void TestFishEditorDocuments::shouldDieInAnyOrder()
 {
     QFETCH(QString, order);
     auto model = std::make_unique<FishModel>();
-    loadDocument(*model, effect());
+    loadDocument(*model, SampleTrees::deep());
     loadDocument(*model, QStringLiteral("Other[Bone[Branch]]"));
     auto window = std::make_unique<QWidget>();
     auto editor1 = std::make_unique<FishEditor>();
@@ -180,7 +176,7 @@ void TestFishEditorDocuments::shouldDieInAnyOrder()
 void TestFishEditorDocuments::shouldKeepItsHistoryUsableWithoutTheModel()
 {
     auto model = std::make_unique<FishModel>();
-    loadDocument(*model, effect());
+    loadDocument(*model, SampleTrees::deep());
     FishEditor editor;
     editor.setModel(model.get());
     editor.setRootIndex(model->index(0, 0));
@@ -202,7 +198,7 @@ void TestFishEditorDocuments::shouldKeepItsHistoryUsableWithoutTheModel()
 
 void TestFishEditorDocuments::shouldGoOnAfterAReset()
 {
-    EditorFixture fish(effect());
+    EditorFixture fish(SampleTrees::deep());
     fish.editor.expandAll();
     fish.spear(QStringLiteral("Machine"))->setExpand(false);
     fish.editor.updateFish(false);
@@ -219,7 +215,7 @@ void TestFishEditorDocuments::shouldGoOnAfterAReset()
 
 void TestFishEditorDocuments::shouldGoOnBelowASubjectAfterAReset()
 {
-    EditorFixture fish(effect());
+    EditorFixture fish(SampleTrees::deep());
     fish.editor.setRootIndex(fish.index(QStringLiteral("Man")));
     const QStringList drawn = drawingText(fish.editor.headSpear());
 
@@ -237,7 +233,7 @@ void TestFishEditorDocuments::shouldShowNothingAfterAReload()
     QVERIFY(file.open(QIODevice::WriteOnly));
     file.write(QJsonDocument(documentFromText(QStringLiteral("New[Bone]"))).toJson());
     file.close();
-    EditorFixture fish(effect());
+    EditorFixture fish(SampleTrees::deep());
     fish.info->setFileName(path);
     fish.editor.expandAll();
 
@@ -256,7 +252,7 @@ void TestFishEditorDocuments::shouldShowNothingAfterAReload()
 void TestFishEditorDocuments::shouldShowNothingWhenItsDocumentIsEmptied()
 {
     FishModel model;
-    FishInfo *const info = loadDocument(model, effect());
+    FishInfo *const info = loadDocument(model, SampleTrees::deep());
     FishEditor editor;
     editor.setModel(&model);
     editor.setRootIndex(model.index(0, 0));
@@ -265,7 +261,7 @@ void TestFishEditorDocuments::shouldShowNothingWhenItsDocumentIsEmptied()
     info->reset();
 
     expectNothing(editor);
-    useEverything(editor);
+    useAnEmptyOne(editor);
     expectNothing(editor);
 }
 
@@ -284,7 +280,7 @@ void TestFishEditorDocuments::shouldShowNothingWhenItsDocumentLeaves()
 {
     QFETCH(QString, root);
     QFETCH(bool, unload);
-    EditorFixture fish(effect());
+    EditorFixture fish(SampleTrees::deep());
     loadDocument(fish.model, QStringLiteral("Other[Bone]"));
     fish.editor.setRootIndex(fish.index(root));
     fish.editor.expandAll();
@@ -297,7 +293,7 @@ void TestFishEditorDocuments::shouldShowNothingWhenItsDocumentLeaves()
 
     expectNothing(fish.editor);
     QCOMPARE(SpearItem::m_refCount, 0);
-    useEverything(fish.editor);
+    useAnEmptyOne(fish.editor);
     expectNothing(fish.editor);
     fish.editor.setRootIndex(fish.model.index(0, 0));
     QCOMPARE(spearTreeText(fish.editor.headSpear()), QStringLiteral("Other[Bone]"));
@@ -306,7 +302,7 @@ void TestFishEditorDocuments::shouldShowNothingWhenItsDocumentLeaves()
 void TestFishEditorDocuments::shouldStayWhenAnotherDocumentLeaves()
 {
     EditorFixture fish(QStringLiteral("First[Bone]"));
-    FishInfo *const second = loadDocument(fish.model, effect());
+    FishInfo *const second = loadDocument(fish.model, SampleTrees::deep());
     fish.editor.setRootIndex(fish.index(QStringLiteral("Effect")));
     fish.editor.expandAll();
     const QStringList drawn = drawingText(fish.editor.headSpear());
@@ -322,7 +318,7 @@ void TestFishEditorDocuments::shouldStayWhenAnotherDocumentLeaves()
 void TestFishEditorDocuments::shouldNoticeADocumentThatLeftUnannounced()
 {
     FishModel model;
-    loadDocument(model, effect());
+    loadDocument(model, SampleTrees::deep());
     FishEditor editor;
     editor.setModel(&model);
     editor.setRootIndex(model.index(0, 0));
@@ -332,12 +328,12 @@ void TestFishEditorDocuments::shouldNoticeADocumentThatLeftUnannounced()
     editor.updateFish(false);
 
     expectNothing(editor);
-    useEverything(editor);
+    useAnEmptyOne(editor);
 }
 
 void TestFishEditorDocuments::shouldShowNothingWhenASubjectAboveItsRootIsRemoved()
 {
-    EditorFixture fish(effect());
+    EditorFixture fish(SampleTrees::deep());
     fish.editor.setRootIndex(fish.index(QStringLiteral("Train")));
 
     fish.model.removeRow(2, fish.index(QStringLiteral("Effect")));
@@ -349,7 +345,7 @@ void TestFishEditorDocuments::shouldShowNothingWhenASubjectAboveItsRootIsRemoved
 
 void TestFishEditorDocuments::shouldShowADocumentThatUndoBringsBack()
 {
-    EditorFixture fish(effect());
+    EditorFixture fish(SampleTrees::deep());
     loadDocument(fish.model, QStringLiteral("Other[Bone]"));
     fish.info->setFileName(QStringLiteral("mine.json"));
     const QPointer<FishInfo> info = fish.info;
@@ -371,7 +367,7 @@ void TestFishEditorDocuments::shouldShowADocumentThatUndoBringsBack()
 
 void TestFishEditorDocuments::shouldShowNothingAgainWhenTheDeletionIsRedone()
 {
-    EditorFixture fish(effect());
+    EditorFixture fish(SampleTrees::deep());
     fish.editor.deleteItem(fish.editor.rootIndex());
     fish.editor.undo();
 
@@ -390,7 +386,7 @@ void TestFishEditorDocuments::shouldShowNothingAgainWhenTheDeletionIsRedone()
 
 void TestFishEditorDocuments::shouldShowTheSubjectInsertedAboveTheHead()
 {
-    EditorFixture fish(effect());
+    EditorFixture fish(SampleTrees::deep());
     const QString pid = fish.subject(QStringLiteral("Effect"))->pid();
     fish.select({QStringLiteral("Effect")});
 
@@ -410,7 +406,7 @@ void TestFishEditorDocuments::shouldShowTheSubjectInsertedAboveTheHead()
 
 void TestFishEditorDocuments::shouldSurviveTheDeathOfItsSpears()
 {
-    EditorFixture fish(effect());
+    EditorFixture fish(SampleTrees::deep());
     fish.editor.expandAll();
 
     delete fish.spear(QStringLiteral("Man"));
@@ -429,7 +425,7 @@ void TestFishEditorDocuments::shouldSurviveTheDeathOfItsSpears()
     QCOMPARE(spearTreeText(fish.editor.headSpear()), QStringLiteral("Effect[Man,Machine,Method]"));
     fish.editor.scene()->clear();
     QVERIFY(!fish.editor.headSpear());
-    useEverything(fish.editor);
+    useAnEmptyOne(fish.editor);
 }
 
 FISHBONE_TEST(TestFishEditorDocuments)

@@ -9,6 +9,7 @@
 #include <fishbone/style/spearstyle.h>
 #include <fishbone/style/spearstyledialog.h>
 #include <fishbone/undo/undostack.h>
+#include <tests/editor/sampletrees.h>
 #include <tests/program/testprogram.h>
 #include <tests/support/editorfixture.h>
 #include <tests/support/modaldriver.h>
@@ -18,10 +19,8 @@ using namespace TestSupport;
 
 namespace {
 
-const QString document = QStringLiteral("Head[A[A1,A2],B[B1],C]");
-
 /** The tree of the first document, with "+" for a new subject and "*" for a new head. */
-QString treeOf(const EditorFixture &fixture)
+QString marked(const EditorFixture &fixture)
 {
     return treeToText(*fixture.model.fishList().at(0)->treeItem()->childAtIndex(0))
         .replace(QStringLiteral("子主题"), QStringLiteral("+"))
@@ -100,16 +99,16 @@ void TestFishEditorEditing::shouldPushTheCommandOfEachSlot()
     QFETCH(QString, selected);
     QFETCH(QString, name);
     QFETCH(QString, tree);
-    EditorFixture fixture(document);
+    EditorFixture fixture(SampleTrees::lettered());
     fixture.select({selected});
     (fixture.editor.*slot)();
-    QCOMPARE(treeOf(fixture), tree);
+    QCOMPARE(marked(fixture), tree);
     QCOMPARE(fixture.editor.undoStack()->commandNames(), QStringList{name});
     QVERIFY(fixture.editor.isModified());
     fixture.editor.undo();
-    QCOMPARE(treeOf(fixture), document);
+    QCOMPARE(marked(fixture), SampleTrees::lettered());
     fixture.editor.redo();
-    QCOMPARE(treeOf(fixture), tree);
+    QCOMPARE(marked(fixture), tree);
 }
 
 void TestFishEditorEditing::shouldDoNothingWithoutASelection_data()
@@ -134,9 +133,9 @@ void TestFishEditorEditing::shouldDoNothingWithoutASelection_data()
 void TestFishEditorEditing::shouldDoNothingWithoutASelection()
 {
     QFETCH(Slot, slot);
-    EditorFixture fixture(document);
+    EditorFixture fixture(SampleTrees::lettered());
     (fixture.editor.*slot)();
-    QCOMPARE(treeOf(fixture), document);
+    QCOMPARE(marked(fixture), SampleTrees::lettered());
     QVERIFY(fixture.editor.undoStack()->commandNames().isEmpty());
     QVERIFY(!fixture.editor.isModified());
 }
@@ -169,28 +168,28 @@ void TestFishEditorEditing::shouldDoNothingWithoutAModel()
 
 void TestFishEditorEditing::shouldInsertAGivenItemBelowAnIndex()
 {
-    EditorFixture fixture(document);
+    EditorFixture fixture(SampleTrees::lettered());
     auto given = std::make_unique<TreeItem>(QStringLiteral("Given"), QStringLiteral("g"), QString(),
                                             QString(), 0);
     TreeItem *const item = given.release();
     fixture.editor.insertChildSubject(fixture.index(QStringLiteral("B")), item);
-    QCOMPARE(treeOf(fixture), QStringLiteral("Head[A[A1,A2],B[B1,Given],C]"));
+    QCOMPARE(marked(fixture), QStringLiteral("Head[A[A1,A2],B[B1,Given],C]"));
     fixture.editor.undo();
-    QCOMPARE(treeOf(fixture), document);
+    QCOMPARE(marked(fixture), SampleTrees::lettered());
     fixture.editor.redo();
     QCOMPARE(fixture.subject(QStringLiteral("Given")), item);
 }
 
 void TestFishEditorEditing::shouldRefuseAGivenItemThatIsMissing()
 {
-    EditorFixture fixture(document);
+    EditorFixture fixture(SampleTrees::lettered());
     fixture.editor.insertChildSubject(fixture.index(QStringLiteral("B")), nullptr);
     QVERIFY(fixture.editor.undoStack()->commandNames().isEmpty());
 }
 
 void TestFishEditorEditing::shouldAppendAFreeSubjectOutsideTheHistory()
 {
-    EditorFixture fixture(document);
+    EditorFixture fixture(SampleTrees::lettered());
     fixture.editor.insertFreeSubject();
     QCOMPARE(fixture.model.rowCount(), 2);
     QCOMPARE(fixture.model.index(1, 0).data().toString(), QStringLiteral("自由主题"));
@@ -200,11 +199,11 @@ void TestFishEditorEditing::shouldAppendAFreeSubjectOutsideTheHistory()
 
 void TestFishEditorEditing::shouldEditASubjectOutsideTheHistory()
 {
-    EditorFixture fixture(document);
+    EditorFixture fixture(SampleTrees::lettered());
     TreeItem values(QStringLiteral("New"), QString(), QString(), QString(), 0);
     values.setDetail(QStringLiteral("more"));
     fixture.editor.editSubject(fixture.index(QStringLiteral("B")), &values);
-    QCOMPARE(treeOf(fixture), QStringLiteral("Head[A[A1,A2],New[B1],C]"));
+    QCOMPARE(marked(fixture), QStringLiteral("Head[A[A1,A2],New[B1],C]"));
     QCOMPARE(fixture.subject(QStringLiteral("New"))->detail(), QStringLiteral("more"));
     QVERIFY(!fixture.editor.canUndo());
     QVERIFY(fixture.editor.isModified());
@@ -212,50 +211,50 @@ void TestFishEditorEditing::shouldEditASubjectOutsideTheHistory()
 
 void TestFishEditorEditing::shouldDeleteTheSubjectOfAnIndex()
 {
-    EditorFixture fixture(document);
+    EditorFixture fixture(SampleTrees::lettered());
     fixture.editor.deleteSubject(fixture.index(QStringLiteral("A")));
-    QCOMPARE(treeOf(fixture), QStringLiteral("Head[B[B1],C]"));
+    QCOMPARE(marked(fixture), QStringLiteral("Head[B[B1],C]"));
     QCOMPARE(fixture.editor.undoStack()->commandNames(),
              QStringList{QStringLiteral("Delete current selected")});
     fixture.editor.undo();
-    QCOMPARE(treeOf(fixture), document);
+    QCOMPARE(marked(fixture), SampleTrees::lettered());
 }
 
 void TestFishEditorEditing::shouldDeleteTheSelection()
 {
-    EditorFixture fixture(document);
+    EditorFixture fixture(SampleTrees::lettered());
     fixture.editor.expandAll();
     fixture.select({QStringLiteral("A"), QStringLiteral("A2"), QStringLiteral("C")});
     fixture.editor.del();
-    QCOMPARE(treeOf(fixture), QStringLiteral("Head[B[B1]]"));
+    QCOMPARE(marked(fixture), QStringLiteral("Head[B[B1]]"));
     fixture.editor.undo();
-    QCOMPARE(treeOf(fixture), document);
+    QCOMPARE(marked(fixture), SampleTrees::lettered());
 }
 
 void TestFishEditorEditing::shouldNotDeleteTheHeadThroughTheSelection()
 {
-    EditorFixture fixture(document);
+    EditorFixture fixture(SampleTrees::lettered());
     fixture.select({QStringLiteral("Head")});
     fixture.editor.del();
-    QCOMPARE(treeOf(fixture), document);
+    QCOMPARE(marked(fixture), SampleTrees::lettered());
     QVERIFY(!fixture.editor.canUndo());
 }
 
 void TestFishEditorEditing::shouldRenameThroughTheModel()
 {
-    EditorFixture fixture(document);
+    EditorFixture fixture(SampleTrees::lettered());
     QSignalSpy changes(&fixture.model, &FishModel::dataChanged);
     fixture.editor.renameItem(fixture.index(QStringLiteral("B")), QStringLiteral("Renamed"));
     QCOMPARE(changes.count(), 1);
     QCOMPARE(fixture.spear(QStringLiteral("Renamed"))->text(), QStringLiteral("Renamed"));
     QVERIFY(fixture.editor.isModified());
     fixture.editor.undo();
-    QCOMPARE(treeOf(fixture), document);
+    QCOMPARE(marked(fixture), SampleTrees::lettered());
 }
 
 void TestFishEditorEditing::shouldRebuildContractedAfterUndoAndRedo()
 {
-    EditorFixture fixture(document);
+    EditorFixture fixture(SampleTrees::lettered());
     fixture.select({QStringLiteral("C")});
     fixture.editor.appendSubject();
     fixture.editor.expandAll();
@@ -269,7 +268,7 @@ void TestFishEditorEditing::shouldRebuildContractedAfterUndoAndRedo()
 
 void TestFishEditorEditing::shouldRelayoutWithoutRebuildAfterAnInsertion()
 {
-    EditorFixture fixture(document);
+    EditorFixture fixture(SampleTrees::lettered());
     fixture.editor.expandAll();
     SpearItem *const kept = fixture.spear(QStringLiteral("A"));
     fixture.select({QStringLiteral("B")});
@@ -285,7 +284,7 @@ void TestFishEditorEditing::shouldRelayoutWithoutRebuildAfterAnInsertion()
 
 void TestFishEditorEditing::shouldTellCopyAvailableOfTheSelection()
 {
-    EditorFixture fixture(document);
+    EditorFixture fixture(SampleTrees::lettered());
     SignalRecorder recorder(fixture.editor);
     fixture.spear(QStringLiteral("A"))->setSelected(true);
     QVERIFY(fixture.editor.hasSelection());
@@ -296,7 +295,7 @@ void TestFishEditorEditing::shouldTellCopyAvailableOfTheSelection()
 
 void TestFishEditorEditing::shouldFindTheSpearOfASelectedText()
 {
-    EditorFixture fixture(document);
+    EditorFixture fixture(SampleTrees::lettered());
     SpearItem *const spear = fixture.spear(QStringLiteral("B"));
     spear->textItem()->setFlag(QGraphicsItem::ItemIsSelectable);
     spear->textItem()->setSelected(true);
@@ -306,7 +305,7 @@ void TestFishEditorEditing::shouldFindTheSpearOfASelectedText()
 
 void TestFishEditorEditing::shouldSelectEverythingVisible()
 {
-    EditorFixture fixture(document);
+    EditorFixture fixture(SampleTrees::lettered());
     QSignalSpy changes(fixture.editor.scene(), &QGraphicsScene::selectionChanged);
     fixture.editor.selectAll();
     QCOMPARE(fixture.editor.selectedItems().count(), 4);
@@ -315,7 +314,7 @@ void TestFishEditorEditing::shouldSelectEverythingVisible()
 
 void TestFishEditorEditing::shouldReadTheLinkTextFromTheShowIdColumn()
 {
-    EditorFixture fixture(document);
+    EditorFixture fixture(SampleTrees::lettered());
     fixture.subject(QStringLiteral("B"))->setShowid(QStringLiteral("T-7"));
     fixture.subject(QStringLiteral("B"))->setUrl(QStringLiteral("https://example.org"));
     QCOMPARE(fixture.editor.currItemUrl(), QString());
@@ -327,7 +326,7 @@ void TestFishEditorEditing::shouldOpenTheLinkText()
 {
     QList<QUrl> opened;
     LinkItem::setOpener([&opened](const QUrl &url) { opened.append(url); });
-    EditorFixture fixture(document);
+    EditorFixture fixture(SampleTrees::lettered());
     fixture.select({QStringLiteral("B")});
     fixture.editor.modifyOpenLink();
     QVERIFY(opened.isEmpty());
@@ -339,7 +338,7 @@ void TestFishEditorEditing::shouldOpenTheLinkText()
 
 void TestFishEditorEditing::shouldRemoveALinkAndRefreshItsIcon()
 {
-    EditorFixture fixture(document);
+    EditorFixture fixture(SampleTrees::lettered());
     fixture.subject(QStringLiteral("B"))->setUrl(QStringLiteral("https://example.org"));
     fixture.editor.updateFish(false);
     QVERIFY(fixture.spear(QStringLiteral("B"))->linkItem());
@@ -354,7 +353,7 @@ void TestFishEditorEditing::shouldRemoveALinkAndRefreshItsIcon()
 
 void TestFishEditorEditing::shouldMakeAnOwnStyleWhenTheDialogIsAccepted()
 {
-    EditorFixture fixture(document);
+    EditorFixture fixture(SampleTrees::lettered());
     fixture.select({QStringLiteral("B")});
     ModalDriver<SpearStyleDialog> user([](SpearStyleDialog &dialog) { dialog.accept(); });
     fixture.editor.setSpearStyle();
@@ -366,7 +365,7 @@ void TestFishEditorEditing::shouldMakeAnOwnStyleWhenTheDialogIsAccepted()
 
 void TestFishEditorEditing::shouldLeaveTheStyleWhenTheDialogIsCancelled()
 {
-    EditorFixture fixture(document);
+    EditorFixture fixture(SampleTrees::lettered());
     fixture.select({QStringLiteral("B")});
     ModalDriver<SpearStyleDialog> user([](SpearStyleDialog &dialog) { dialog.reject(); });
     fixture.editor.setSpearStyle();
@@ -376,7 +375,7 @@ void TestFishEditorEditing::shouldLeaveTheStyleWhenTheDialogIsCancelled()
 
 void TestFishEditorEditing::shouldRemoveTheOwnStyle()
 {
-    EditorFixture fixture(document);
+    EditorFixture fixture(SampleTrees::lettered());
     const QJsonObject style{{QStringLiteral("textCount"), 1}};
     fixture.subject(QStringLiteral("B"))->setSpearStyle(style);
     fixture.editor.updateFish(false);
@@ -388,16 +387,16 @@ void TestFishEditorEditing::shouldRemoveTheOwnStyle()
 
 void TestFishEditorEditing::shouldKeepTheDocumentOfAHeadThatGetsAParent()
 {
-    EditorFixture fixture(document);
+    EditorFixture fixture(SampleTrees::lettered());
     const QString pid = fixture.subject(QStringLiteral("Head"))->pid();
     fixture.select({QStringLiteral("Head")});
     fixture.editor.insertParentSubject();
-    QCOMPARE(treeOf(fixture), QStringLiteral("*[Head[A[A1,A2],B[B1],C]]"));
+    QCOMPARE(marked(fixture), QStringLiteral("*[Head[A[A1,A2],B[B1],C]]"));
     QCOMPARE(fixture.model.fishList(), QList<FishInfo *>{fixture.info});
     QCOMPARE(fixture.editor.rootIndex(), fixture.model.index(0, 0));
     QCOMPARE(fixture.editor.headSpear()->text(), QStringLiteral("自由主题"));
     fixture.editor.undo();
-    QCOMPARE(treeOf(fixture), document);
+    QCOMPARE(marked(fixture), SampleTrees::lettered());
     QCOMPARE(fixture.editor.headSpear()->text(), QStringLiteral("Head"));
     QCOMPARE(fixture.editor.rootIndex(), fixture.model.index(0, 0));
     QCOMPARE(fixture.subject(QStringLiteral("Head"))->pid(), pid);
@@ -405,14 +404,14 @@ void TestFishEditorEditing::shouldKeepTheDocumentOfAHeadThatGetsAParent()
 
 void TestFishEditorEditing::shouldShowTheHeadAgainWhenItsDeletionIsUndone()
 {
-    EditorFixture fixture(document);
+    EditorFixture fixture(SampleTrees::lettered());
     fixture.info->setFileName(QStringLiteral("kept.json"));
     fixture.editor.deleteItem(fixture.editor.rootIndex());
     QCOMPARE(fixture.model.rowCount(), 0);
     QVERIFY(!fixture.editor.headSpear());
     QVERIFY(fixture.editor.scene()->items().isEmpty());
     fixture.editor.undo();
-    QCOMPARE(treeOf(fixture), document);
+    QCOMPARE(marked(fixture), SampleTrees::lettered());
     QCOMPARE(fixture.model.fishList(), QList<FishInfo *>{fixture.info});
     QCOMPARE(fixture.info->fileName(), QStringLiteral("kept.json"));
     QVERIFY(fixture.editor.headSpear());
@@ -421,7 +420,7 @@ void TestFishEditorEditing::shouldShowTheHeadAgainWhenItsDeletionIsUndone()
 
 void TestFishEditorEditing::shouldKeepUndoingBeyondTheBoundWhenRolling()
 {
-    EditorFixture fixture(document);
+    EditorFixture fixture(SampleTrees::lettered());
     fixture.editor.undoStack()->setRolling(true);
     const QPersistentModelIndex head = fixture.model.index(0, 0);
     for (int i = 0; i < 120; ++i) {

@@ -3,6 +3,7 @@
 
 #include <QtTest>
 
+#include <tests/editor/sampletrees.h>
 #include <tests/program/testprogram.h>
 #include <tests/support/drawingtext.h>
 #include <tests/support/editorfixture.h>
@@ -26,16 +27,9 @@ private Q_SLOTS:
     void shouldExcludeItemsBelowOthers();
 };
 
-namespace {
-QString effect()
-{
-    return QStringLiteral("Effect[Man[Train[Cost]],Machine[Wear],Method]");
-}
-} // namespace
-
 void TestFishEditorExpanding::shouldExpandAndContractWithoutMakingSpears()
 {
-    EditorFixture fish(effect());
+    EditorFixture fish(SampleTrees::deep());
     fish.editor.generateSpear(&fish.model, fish.index(QStringLiteral("Man")));
 
     fish.editor.expandorContractAll(true);
@@ -51,7 +45,7 @@ void TestFishEditorExpanding::shouldExpandAndContractWithoutMakingSpears()
 
 void TestFishEditorExpanding::shouldExpandEverythingThereIsToShow()
 {
-    EditorFixture fish(effect());
+    EditorFixture fish(SampleTrees::deep());
     SignalRecorder recorder(fish.editor);
 
     fish.editor.expandAll();
@@ -67,7 +61,7 @@ void TestFishEditorExpanding::shouldExpandEverythingThereIsToShow()
 
 void TestFishEditorExpanding::shouldContractEverythingButTheHead()
 {
-    EditorFixture fish(effect());
+    EditorFixture fish(SampleTrees::deep());
     const QStringList drawn = drawingText(fish.editor.headSpear());
     fish.editor.expandAll();
     SignalRecorder recorder(fish.editor);
@@ -82,7 +76,7 @@ void TestFishEditorExpanding::shouldContractEverythingButTheHead()
 
 void TestFishEditorExpanding::shouldReportThatTheUserExpandedEverything()
 {
-    EditorFixture fish(effect());
+    EditorFixture fish(SampleTrees::deep());
     SignalRecorder recorder(fish.editor);
 
     fish.editor.modifyExpandAll();
@@ -98,7 +92,7 @@ void TestFishEditorExpanding::shouldReportThatTheUserExpandedEverything()
 
 void TestFishEditorExpanding::shouldReportThatTheUserExpandedASubject()
 {
-    EditorFixture fish(effect());
+    EditorFixture fish(SampleTrees::deep());
     fish.editor.expandAll();
     fish.editor.contractAll();
     fish.select({QStringLiteral("Man")});
@@ -120,7 +114,7 @@ void TestFishEditorExpanding::shouldReportThatTheUserExpandedASubject()
 
 void TestFishEditorExpanding::shouldReportNothingWithoutASelection()
 {
-    EditorFixture fish(effect());
+    EditorFixture fish(SampleTrees::deep());
     SignalRecorder recorder(fish.editor);
 
     fish.editor.modifyExpand();
@@ -133,7 +127,7 @@ void TestFishEditorExpanding::shouldReportNothingWithoutASelection()
 
 void TestFishEditorExpanding::shouldExcludeTopLevelItems()
 {
-    EditorFixture fish(effect());
+    EditorFixture fish(SampleTrees::deep());
     SpearItem *const man = fish.spear(QStringLiteral("Man"));
     SpearItem *const method = fish.spear(QStringLiteral("Method"));
     auto *const other = fish.editor.scene()->addRect(0, 0, 5, 5);
@@ -148,7 +142,7 @@ void TestFishEditorExpanding::shouldExcludeTopLevelItems()
 
 void TestFishEditorExpanding::shouldExcludeItemsBelowOthers()
 {
-    EditorFixture fish(effect());
+    EditorFixture fish(SampleTrees::deep());
     fish.editor.expandAll();
     const auto spear = [&fish](const char *title) {
         return static_cast<QGraphicsItem *>(fish.spear(QString::fromLatin1(title)));

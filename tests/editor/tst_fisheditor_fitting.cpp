@@ -6,6 +6,7 @@
 #include <cmath>
 #include <limits>
 
+#include <tests/editor/sampletrees.h>
 #include <tests/program/testprogram.h>
 #include <tests/support/editorfixture.h>
 #include <tests/support/signalrecorder.h>
@@ -39,11 +40,6 @@ private Q_SLOTS:
 };
 
 namespace {
-QString effect()
-{
-    return QStringLiteral("Effect[Man[Train],Machine]");
-}
-
 /** Where the view looks: its scale and the scene point in its middle. */
 QString look(const FishEditor &editor)
 {
@@ -68,7 +64,7 @@ bool isInView(const FishEditor &editor, const QRectF &rect)
 
 void TestFishEditorFitting::shouldReturnToFullSize()
 {
-    EditorFixture fish(effect());
+    EditorFixture fish(SampleTrees::narrow());
     QVERIFY(fish.show(false));
     fish.editor.scene()->setSceneRect(-9000, -9000, 18000, 18000);
     fish.editor.zoomFish(300);
@@ -108,7 +104,7 @@ void TestFishEditorFitting::shouldFitARectangle()
     QFETCH(QSizeF, relative);
     QFETCH(double, scale);
     QFETCH(int, value);
-    EditorFixture fish(effect());
+    EditorFixture fish(SampleTrees::narrow());
     QVERIFY(fish.show(false));
     fish.editor.zoomFish(17);
     fish.editor.rotateFish(33);
@@ -127,7 +123,7 @@ void TestFishEditorFitting::shouldFitARectangle()
 
 void TestFishEditorFitting::shouldSnapToTheZoomValueAfterFitting()
 {
-    EditorFixture fish(effect());
+    EditorFixture fish(SampleTrees::narrow());
     QVERIFY(fish.show(false));
     const QSizeF available = fish.editor.view()->viewport()->size() - QSize(100, 100);
 
@@ -154,7 +150,7 @@ void TestFishEditorFitting::shouldFitNothing_data()
 void TestFishEditorFitting::shouldFitNothing()
 {
     QFETCH(QRectF, rect);
-    EditorFixture fish(effect());
+    EditorFixture fish(SampleTrees::narrow());
     QVERIFY(fish.show(false));
     fish.editor.zoomFish(180);
     fish.editor.rotateFish(33);
@@ -184,7 +180,7 @@ void TestFishEditorFitting::shouldFitNothingIntoATinyView()
 {
     QFETCH(QSize, viewport);
     QFETCH(bool, fits);
-    EditorFixture fish(effect());
+    EditorFixture fish(SampleTrees::narrow());
     GraphicsView *const view = fish.editor.view();
     view->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     view->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -205,7 +201,7 @@ void TestFishEditorFitting::shouldFitNothingIntoATinyView()
 
 void TestFishEditorFitting::shouldBringAFittedRectangleIntoView()
 {
-    EditorFixture fish(effect());
+    EditorFixture fish(SampleTrees::narrow());
     QVERIFY(fish.show(false));
     fish.editor.scene()->setSceneRect(-9000, -9000, 18000, 18000);
     const QRectF rect(3000, -2000, 700, 300);
@@ -222,7 +218,7 @@ void TestFishEditorFitting::shouldBringAFittedRectangleIntoView()
 
 void TestFishEditorFitting::shouldShowEverythingBelowTheHead()
 {
-    EditorFixture fish(effect());
+    EditorFixture fish(SampleTrees::narrow());
     fish.editor.expandAll();
     QVERIFY(fish.show(false));
     const QSizeF available = fish.editor.view()->viewport()->size() - QSize(100, 100);
@@ -249,7 +245,7 @@ void TestFishEditorFitting::shouldShowNothingEntirelyWithoutAHead()
 
 void TestFishEditorFitting::shouldShowWhatIsSelectedInItsOwnCoordinates()
 {
-    EditorFixture fish(effect());
+    EditorFixture fish(SampleTrees::narrow());
     QVERIFY(fish.show(false));
     QGraphicsItem *const item = fish.editor.scene()->addRect(0, 0, 199, 49);
     item->setFlag(QGraphicsItem::ItemIsSelectable);
@@ -267,7 +263,7 @@ void TestFishEditorFitting::shouldShowWhatIsSelectedInItsOwnCoordinates()
 
 void TestFishEditorFitting::shouldUniteSelectedRectangles()
 {
-    EditorFixture fish(effect());
+    EditorFixture fish(SampleTrees::narrow());
     QVERIFY(fish.show(false));
     fish.select({QStringLiteral("Man"), QStringLiteral("Machine")});
     const QRectF united = fish.spear(QStringLiteral("Man"))->boundingRect() |
@@ -283,7 +279,7 @@ void TestFishEditorFitting::shouldUniteSelectedRectangles()
 
 void TestFishEditorFitting::shouldStayWhenNothingIsSelected()
 {
-    EditorFixture fish(effect());
+    EditorFixture fish(SampleTrees::narrow());
     QVERIFY(fish.show(false));
     const QString before = look(fish.editor);
     SignalRecorder recorder(fish.editor);
@@ -296,7 +292,7 @@ void TestFishEditorFitting::shouldStayWhenNothingIsSelected()
 
 void TestFishEditorFitting::shouldCentreASpear()
 {
-    EditorFixture fish(effect());
+    EditorFixture fish(SampleTrees::narrow());
     QVERIFY(fish.show(false));
     fish.editor.scene()->setSceneRect(-9000, -9000, 18000, 18000);
     const GraphicsView &view = *fish.editor.view();
@@ -310,7 +306,7 @@ void TestFishEditorFitting::shouldCentreASpear()
 
 void TestFishEditorFitting::shouldScrollASpearIntoView()
 {
-    EditorFixture fish(effect());
+    EditorFixture fish(SampleTrees::narrow());
     QVERIFY(fish.show(false));
     fish.editor.scene()->setSceneRect(-9000, -9000, 18000, 18000);
     fish.editor.view()->centerOn(5000, 3000);
@@ -338,7 +334,7 @@ void TestFishEditorFitting::shouldStayForASubjectThatHasNoSpear_data()
 void TestFishEditorFitting::shouldStayForASubjectThatHasNoSpear()
 {
     QFETCH(QString, title);
-    EditorFixture fish(effect());
+    EditorFixture fish(SampleTrees::narrow());
     loadDocument(fish.model, QStringLiteral("Other[Bone]"));
     QVERIFY(fish.show(false));
     fish.editor.scene()->setSceneRect(-9000, -9000, 18000, 18000);

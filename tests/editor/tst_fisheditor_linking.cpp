@@ -6,6 +6,7 @@
 #include <fishbone/style/spearstyledialog.h>
 #include <fishbone/undo/undostack.h>
 #include <tests/dialogs/urldialogparts.h>
+#include <tests/editor/sampletrees.h>
 #include <tests/program/testprogram.h>
 #include <tests/support/editorfixture.h>
 #include <tests/support/modaldriver.h>
@@ -38,11 +39,6 @@ private:
 
 namespace {
 
-QString effect()
-{
-    return QStringLiteral("Effect[Man[Training],Machine]");
-}
-
 /** Enters a URL like a user. */
 ModalDriver<URLDialog>::Action enter(const QString &url)
 {
@@ -67,7 +63,7 @@ void TestFishEditorLinking::cleanup()
 
 void TestFishEditorLinking::shouldLinkToTheEnteredUrl()
 {
-    EditorFixture fish(effect());
+    EditorFixture fish(SampleTrees::small());
     fish.select({QStringLiteral("Man")});
     const ModalDriver<URLDialog> user(enter(QStringLiteral("https://example.org/a b")));
 
@@ -89,7 +85,7 @@ void TestFishEditorLinking::shouldLinkToTheEnteredUrl()
 
 void TestFishEditorLinking::shouldAskForTheUrlStartingOnTheShowId()
 {
-    EditorFixture fish(effect());
+    EditorFixture fish(SampleTrees::small());
     fish.subject(QStringLiteral("Man"))->setUrl(QStringLiteral("https://example.org"));
     fish.subject(QStringLiteral("Man"))->setShowid(QStringLiteral("T-7"));
     fish.select({QStringLiteral("Man")});
@@ -110,7 +106,7 @@ void TestFishEditorLinking::shouldAskForTheUrlStartingOnTheShowId()
 
 void TestFishEditorLinking::shouldNotLayOutAfterALinkCommand()
 {
-    EditorFixture fish(effect());
+    EditorFixture fish(SampleTrees::small());
     fish.select({QStringLiteral("Man")});
     SpearItem *const machine = fish.spear(QStringLiteral("Machine"));
     machine->setPos(40, 50);
@@ -135,7 +131,7 @@ void TestFishEditorLinking::shouldKeepTheLinkWithoutAUsableUrl_data()
 void TestFishEditorLinking::shouldKeepTheLinkWithoutAUsableUrl()
 {
     QFETCH(QString, entered);
-    EditorFixture fish(effect());
+    EditorFixture fish(SampleTrees::small());
     fish.subject(QStringLiteral("Man"))->setUrl(QStringLiteral("https://example.org"));
     fish.select({QStringLiteral("Man")});
     const ModalDriver<URLDialog> user([&entered](URLDialog &dialog) {
@@ -153,7 +149,7 @@ void TestFishEditorLinking::shouldKeepTheLinkWithoutAUsableUrl()
 
 void TestFishEditorLinking::shouldLinkNothingWhenTheSubjectGoesMeanwhile()
 {
-    EditorFixture fish(effect());
+    EditorFixture fish(SampleTrees::small());
     fish.select({QStringLiteral("Man")});
     const ModalDriver<URLDialog> user([&fish](URLDialog &dialog) {
         fish.model.removeRows(0, 1, fish.editor.rootIndex());
@@ -169,7 +165,7 @@ void TestFishEditorLinking::shouldLinkNothingWhenTheSubjectGoesMeanwhile()
 
 void TestFishEditorLinking::shouldLinkTheSubjectThatWasSelectedWhenItAsked()
 {
-    EditorFixture fish(effect());
+    EditorFixture fish(SampleTrees::small());
     fish.select({QStringLiteral("Machine")});
     const ModalDriver<URLDialog> user([&fish](URLDialog &dialog) {
         fish.select({QStringLiteral("Man")});
@@ -187,7 +183,7 @@ void TestFishEditorLinking::shouldLinkTheSubjectThatWasSelectedWhenItAsked()
 void TestFishEditorLinking::shouldSurviveItsOwnEndWhileItAsks()
 {
     FishModel model;
-    loadDocument(model, effect());
+    loadDocument(model, SampleTrees::small());
     auto editor = std::make_unique<FishEditor>();
     editor->setModel(&model);
     editor->setRootIndex(model.index(0, 0));
@@ -204,7 +200,7 @@ void TestFishEditorLinking::shouldSurviveItsOwnEndWhileItAsks()
 void TestFishEditorLinking::shouldSurviveItsOwnEndWhileAStyleIsEdited()
 {
     FishModel model;
-    loadDocument(model, effect());
+    loadDocument(model, SampleTrees::small());
     auto editor = std::make_unique<FishEditor>();
     editor->setModel(&model);
     editor->setRootIndex(model.index(0, 0));

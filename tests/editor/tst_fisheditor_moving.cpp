@@ -5,6 +5,7 @@
 #include <QtTest>
 
 #include <fishbone/undo/undostack.h>
+#include <tests/editor/sampletrees.h>
 #include <tests/program/testprogram.h>
 #include <tests/support/editorfixture.h>
 #include <tests/support/signalrecorder.h>
@@ -13,13 +14,7 @@ using namespace TestSupport;
 
 namespace {
 
-const QString document = QStringLiteral("Head[A[A1,A2],B[B1],C]");
-
-QString treeOf(const EditorFixture &fixture)
-{
-    return treeToText(*fixture.model.fishList().at(0)->treeItem()->childAtIndex(0));
-}
-
+using SampleTrees::treeOf;
 QList<QGraphicsItem *> items(const EditorFixture &fixture, const QStringList &titles)
 {
     QList<QGraphicsItem *> found;
@@ -59,7 +54,7 @@ private Q_SLOTS:
 
 void TestFishEditorMoving::shouldMoveSubjectsUndoably()
 {
-    EditorFixture fixture(document);
+    EditorFixture fixture(SampleTrees::lettered());
     fixture.editor.expandAll();
     fixture.editor.moveItems({}, items(fixture, {QStringLiteral("B1")}),
                              fixture.index(QStringLiteral("A")), 1);
@@ -71,7 +66,7 @@ void TestFishEditorMoving::shouldMoveSubjectsUndoably()
     QCOMPARE(fixture.spear(QStringLiteral("A"))->childSpears().at(1)->text(), QStringLiteral("B1"));
     QVERIFY(!fixture.spear(QStringLiteral("B"))->expandBuddy());
     fixture.editor.undo();
-    QCOMPARE(treeOf(fixture), document);
+    QCOMPARE(treeOf(fixture), SampleTrees::lettered());
     QCOMPARE(fixture.subject(QStringLiteral("B1"))->pid(), QStringLiteral("u-B"));
 }
 
@@ -88,7 +83,7 @@ void TestFishEditorMoving::shouldReportANewParentInTaskModeOnly()
 {
     QFETCH(int, type);
     QFETCH(QString, report);
-    EditorFixture fixture(document);
+    EditorFixture fixture(SampleTrees::lettered());
     fixture.model.setModelType(FISH_MODEL_TYPE(type));
     SignalRecorder recorder(fixture.editor, {QStringLiteral("changeTaskParent")});
     fixture.editor.moveItems({}, items(fixture, {QStringLiteral("C")}),
@@ -98,7 +93,7 @@ void TestFishEditorMoving::shouldReportANewParentInTaskModeOnly()
 
 void TestFishEditorMoving::shouldReportSubjectsInTheOrderOfTheSnapshot()
 {
-    EditorFixture fixture(document);
+    EditorFixture fixture(SampleTrees::lettered());
     fixture.model.setModelType(FISH_MODEL_NORMAL);
     fixture.editor.expandAll();
     SignalRecorder recorder(fixture.editor, {QStringLiteral("changeTaskParent")});
@@ -110,13 +105,13 @@ void TestFishEditorMoving::shouldReportSubjectsInTheOrderOfTheSnapshot()
 
 void TestFishEditorMoving::shouldRefuseAMoveWithAnImmovableSubject()
 {
-    EditorFixture fixture(document);
+    EditorFixture fixture(SampleTrees::lettered());
     fixture.model.setModelType(FISH_MODEL_NORMAL);
     fixture.subject(QStringLiteral("C"))->setSpearItemIsMovable(false);
     SignalRecorder recorder(fixture.editor);
     fixture.editor.moveItems({}, items(fixture, {QStringLiteral("B"), QStringLiteral("C")}),
                              fixture.index(QStringLiteral("A")), 0);
-    QCOMPARE(treeOf(fixture), document);
+    QCOMPARE(treeOf(fixture), SampleTrees::lettered());
     QCOMPARE(recorder.take(), QString());
     QVERIFY(!fixture.editor.canUndo());
     QVERIFY(!fixture.editor.isModified());
@@ -124,9 +119,9 @@ void TestFishEditorMoving::shouldRefuseAMoveWithAnImmovableSubject()
 
 void TestFishEditorMoving::shouldRefuseAMoveWithoutATarget()
 {
-    EditorFixture fixture(document);
+    EditorFixture fixture(SampleTrees::lettered());
     fixture.editor.moveItems({}, items(fixture, {QStringLiteral("B")}), QModelIndex(), 0);
-    QCOMPARE(treeOf(fixture), document);
+    QCOMPARE(treeOf(fixture), SampleTrees::lettered());
     QVERIFY(!fixture.editor.canUndo());
 }
 
@@ -140,11 +135,11 @@ void TestFishEditorMoving::shouldRefuseAMoveIntoTheMovedSubtree_data()
 void TestFishEditorMoving::shouldRefuseAMoveIntoTheMovedSubtree()
 {
     QFETCH(QString, target);
-    EditorFixture fixture(document);
+    EditorFixture fixture(SampleTrees::lettered());
     fixture.model.setModelType(FISH_MODEL_NORMAL);
     SignalRecorder recorder(fixture.editor);
     fixture.editor.moveItems({}, items(fixture, {QStringLiteral("A")}), fixture.index(target), 0);
-    QCOMPARE(treeOf(fixture), document);
+    QCOMPARE(treeOf(fixture), SampleTrees::lettered());
     QCOMPARE(recorder.take(), QString());
     QVERIFY(!fixture.editor.canUndo());
     QVERIFY(!fixture.editor.isModified());
@@ -152,7 +147,7 @@ void TestFishEditorMoving::shouldRefuseAMoveIntoTheMovedSubtree()
 
 void TestFishEditorMoving::shouldPutItemsBackAfterARefusal()
 {
-    EditorFixture fixture(document);
+    EditorFixture fixture(SampleTrees::lettered());
     SpearItem *const dragged = fixture.spear(QStringLiteral("B"));
     const QLineF line = dragged->line();
     dragged->setPos(40, 70);
@@ -163,7 +158,7 @@ void TestFishEditorMoving::shouldPutItemsBackAfterARefusal()
 
 void TestFishEditorMoving::shouldNotMoveTheHead()
 {
-    EditorFixture fixture(document);
+    EditorFixture fixture(SampleTrees::lettered());
     loadDocument(fixture.model, QStringLiteral("Other"));
     fixture.editor.moveItems({}, {fixture.editor.headSpear()},
                              fixture.index(QStringLiteral("Other")), 0);
@@ -173,7 +168,7 @@ void TestFishEditorMoving::shouldNotMoveTheHead()
 
 void TestFishEditorMoving::shouldApplyADropOutsideTheHistory()
 {
-    EditorFixture fixture(document);
+    EditorFixture fixture(SampleTrees::lettered());
     fixture.model.setModelType(FISH_MODEL_NORMAL);
     SignalRecorder recorder(fixture.editor, {QStringLiteral("changeTaskParent")});
     const std::unique_ptr<QMimeData> data(
@@ -187,7 +182,7 @@ void TestFishEditorMoving::shouldApplyADropOutsideTheHistory()
 
 void TestFishEditorMoving::shouldMoveOnlyTheLastRowOfADrop()
 {
-    EditorFixture fixture(document);
+    EditorFixture fixture(SampleTrees::lettered());
     const std::unique_ptr<QMimeData> data(fixture.model.mimeData(
         {fixture.index(QStringLiteral("A1")), fixture.index(QStringLiteral("A2")),
          fixture.index(QStringLiteral("B1"))}));
@@ -212,7 +207,7 @@ void TestFishEditorMoving::shouldMakeSpearsForADroppedSubjectThatHadNone()
 
 void TestFishEditorMoving::shouldMakeAllSpearsBelowABoneThatHadNone()
 {
-    EditorFixture fixture(document);
+    EditorFixture fixture(SampleTrees::lettered());
     QVERIFY(!fixture.spear(QStringLiteral("A1")));
     fixture.editor.moveItems({}, items(fixture, {QStringLiteral("C")}),
                              fixture.index(QStringLiteral("A")), 1);
@@ -226,8 +221,8 @@ void TestFishEditorMoving::shouldMakeAllSpearsBelowABoneThatHadNone()
 
 void TestFishEditorMoving::shouldIgnoreADropOfForeignData()
 {
-    EditorFixture fixture(document);
-    EditorFixture other(document);
+    EditorFixture fixture(SampleTrees::lettered());
+    EditorFixture other(SampleTrees::lettered());
     const std::unique_ptr<QMimeData> foreign(
         other.model.mimeData({other.index(QStringLiteral("A"))}));
     fixture.editor.onDropTo(foreign.get(), fixture.index(QStringLiteral("B")), 0);
@@ -235,7 +230,7 @@ void TestFishEditorMoving::shouldIgnoreADropOfForeignData()
     text.setText(QStringLiteral("C;"));
     fixture.editor.onDropTo(&text, fixture.index(QStringLiteral("B")), 0);
     fixture.editor.onDropTo(nullptr, fixture.index(QStringLiteral("B")), 0);
-    QCOMPARE(treeOf(fixture), document);
+    QCOMPARE(treeOf(fixture), SampleTrees::lettered());
     QVERIFY(!fixture.editor.isModified());
 }
 
@@ -247,32 +242,32 @@ void TestFishEditorMoving::shouldIgnoreADropOntoTheDroppedSubtree_data()
 void TestFishEditorMoving::shouldIgnoreADropOntoTheDroppedSubtree()
 {
     QFETCH(QString, target);
-    EditorFixture fixture(document);
+    EditorFixture fixture(SampleTrees::lettered());
     fixture.model.setModelType(FISH_MODEL_NORMAL);
     SignalRecorder recorder(fixture.editor);
     const std::unique_ptr<QMimeData> data(
         fixture.model.mimeData({fixture.index(QStringLiteral("A"))}));
     fixture.editor.onDropTo(data.get(), fixture.index(target), 0);
-    QCOMPARE(treeOf(fixture), document);
+    QCOMPARE(treeOf(fixture), SampleTrees::lettered());
     QCOMPARE(recorder.take(), QString());
     QVERIFY(!fixture.editor.isModified());
 }
 
 void TestFishEditorMoving::shouldIgnoreADropWithoutATargetOrModel()
 {
-    EditorFixture fixture(document);
+    EditorFixture fixture(SampleTrees::lettered());
     const std::unique_ptr<QMimeData> data(
         fixture.model.mimeData({fixture.index(QStringLiteral("A"))}));
     fixture.editor.onDropTo(data.get(), QModelIndex(), 0);
-    QCOMPARE(treeOf(fixture), document);
+    QCOMPARE(treeOf(fixture), SampleTrees::lettered());
     FishEditor empty;
     empty.onDropTo(data.get(), fixture.index(QStringLiteral("B")), 0);
-    QCOMPARE(treeOf(fixture), document);
+    QCOMPARE(treeOf(fixture), SampleTrees::lettered());
 }
 
 void TestFishEditorMoving::shouldIgnoreADropOnASubjectThatIsGone()
 {
-    EditorFixture fixture(document);
+    EditorFixture fixture(SampleTrees::lettered());
     const std::unique_ptr<QMimeData> data(
         fixture.model.mimeData({fixture.index(QStringLiteral("C"))}));
     Q_EMIT fixture.editor.view()->dropTo(data.get(), fixture.index(QStringLiteral("B")), 0);
@@ -288,7 +283,7 @@ void TestFishEditorMoving::shouldIgnoreADropOnASubjectThatIsGone()
 
 void TestFishEditorMoving::shouldFollowTheTargetOfADropToItsPlace()
 {
-    EditorFixture fixture(document);
+    EditorFixture fixture(SampleTrees::lettered());
     fixture.model.setModelType(FISH_MODEL_NORMAL);
     SignalRecorder recorder(fixture.editor, {QStringLiteral("changeTaskParent")});
     const std::unique_ptr<QMimeData> data(

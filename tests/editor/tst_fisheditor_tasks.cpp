@@ -6,6 +6,7 @@
 #include <QtTest>
 
 #include <fishbone/undo/undostack.h>
+#include <tests/editor/sampletrees.h>
 #include <tests/program/testprogram.h>
 #include <tests/support/editorfixture.h>
 #include <tests/support/signalrecorder.h>
@@ -13,8 +14,6 @@
 using namespace TestSupport;
 
 namespace {
-
-const QString document = QStringLiteral("Head[A[A1,A2],B[B1],C]");
 
 /** Waits for a context menu, lets @p act have it and closes it; gives up after a while. */
 class MenuUser
@@ -115,7 +114,7 @@ void TestFishEditorTasks::shouldOfferTheEntriesOfTheMode()
     QFETCH(int, type);
     QFETCH(QString, title);
     QFETCH(QString, entries);
-    EditorFixture fixture(document);
+    EditorFixture fixture(SampleTrees::lettered());
     fixture.model.setModelType(FISH_MODEL_TYPE(type));
     QCOMPARE(entriesOf(fixture.editor, title.isEmpty() ? nullptr : fixture.spear(title)), entries);
 }
@@ -144,7 +143,7 @@ void TestFishEditorTasks::shouldReportTheChosenGesture()
     QFETCH(int, type);
     QFETCH(int, entry);
     QFETCH(QString, report);
-    EditorFixture fixture(document);
+    EditorFixture fixture(SampleTrees::lettered());
     fixture.model.setModelType(FISH_MODEL_TYPE(type));
     fixture.subject(QStringLiteral("A"))->setShowid(QStringLiteral("T-1"));
     SignalRecorder recorder(fixture.editor);
@@ -156,7 +155,7 @@ void TestFishEditorTasks::shouldReportTheChosenGesture()
 
 void TestFishEditorTasks::shouldDeleteThroughTheMenu()
 {
-    EditorFixture fixture(document);
+    EditorFixture fixture(SampleTrees::lettered());
     MenuUser user([](QMenu &menu) { choose(menu, 1006); });
     fixture.editor.onRightClicked(fixture.spear(QStringLiteral("A")));
     QVERIFY(user.hasSeenAMenu());
@@ -166,7 +165,7 @@ void TestFishEditorTasks::shouldDeleteThroughTheMenu()
 
 void TestFishEditorTasks::shouldWriteADebugLineBeforeTheTaskSignals()
 {
-    EditorFixture fixture(document);
+    EditorFixture fixture(SampleTrees::lettered());
     fixture.model.setModelType(FISH_MODEL_NORMAL);
     QTest::ignoreMessage(QtDebugMsg, "emit createNewSubTask signal :  \"u-A\"");
     QTest::ignoreMessage(QtDebugMsg, "emit oneTaskClicked signal :  \"u-B\"");
@@ -184,7 +183,7 @@ void TestFishEditorTasks::shouldWriteADebugLineBeforeTheTaskSignals()
 
 void TestFishEditorTasks::shouldShowNoMenuOnTheHeadInTaskMode()
 {
-    EditorFixture fixture(document);
+    EditorFixture fixture(SampleTrees::lettered());
     fixture.model.setModelType(FISH_MODEL_NORMAL);
     MenuUser user([](QMenu &menu) { menu.close(); });
     fixture.editor.onRightClicked(fixture.editor.headSpear());
@@ -194,7 +193,7 @@ void TestFishEditorTasks::shouldShowNoMenuOnTheHeadInTaskMode()
 
 void TestFishEditorTasks::shouldShowNoMenuForNothing()
 {
-    EditorFixture fixture(document);
+    EditorFixture fixture(SampleTrees::lettered());
     SpearItem stranger(QStringLiteral("no subject"), 0, 20);
     MenuUser user([](QMenu &menu) { menu.close(); });
     fixture.editor.onRightClicked(nullptr);
@@ -205,7 +204,7 @@ void TestFishEditorTasks::shouldShowNoMenuForNothing()
 
 void TestFishEditorTasks::shouldDoNothingWhenTheSubjectGoesWhileTheMenuIsOpen()
 {
-    EditorFixture fixture(document);
+    EditorFixture fixture(SampleTrees::lettered());
     SignalRecorder recorder(fixture.editor, {QStringLiteral("editTaskDetail")});
     MenuUser user([&fixture](QMenu &menu) {
         fixture.model.unloadFish(fixture.info);
@@ -220,7 +219,7 @@ void TestFishEditorTasks::shouldSurviveItsOwnEndWhileTheMenuIsOpen()
 {
     FishModel model;
     model.setModelType(FISH_MODEL_DIAGRAM);
-    loadDocument(model, document);
+    loadDocument(model, SampleTrees::lettered());
     auto editor = std::make_unique<FishEditor>();
     editor->setModel(&model);
     editor->setRootIndex(model.index(0, 0));
@@ -235,7 +234,7 @@ void TestFishEditorTasks::shouldSurviveItsOwnEndWhileTheMenuIsOpen()
 
 void TestFishEditorTasks::shouldReportADoubleClickOnTheSelectedSpear()
 {
-    EditorFixture fixture(document);
+    EditorFixture fixture(SampleTrees::lettered());
     SignalRecorder recorder(fixture.editor, {QStringLiteral("editTaskDetail")});
     QMouseEvent left(QEvent::MouseButtonDblClick, QPointF(1, 1), Qt::LeftButton, Qt::LeftButton,
                      Qt::NoModifier);

@@ -7,6 +7,7 @@
 #include <cmath>
 #include <limits>
 
+#include <tests/editor/sampletrees.h>
 #include <tests/program/testprogram.h>
 #include <tests/support/editorfixture.h>
 #include <tests/support/signalrecorder.h>
@@ -35,11 +36,6 @@ private Q_SLOTS:
 };
 
 namespace {
-QString effect()
-{
-    return QStringLiteral("Effect[Man[Train],Machine]");
-}
-
 constexpr int lowest = std::numeric_limits<int>::min();
 constexpr int highest = std::numeric_limits<int>::max();
 } // namespace
@@ -256,7 +252,7 @@ void TestFishEditorViewport::shouldAskToEditADoubleClickedSubject()
     QFETCH(int, buttons);
     QFETCH(QString, selected);
     QFETCH(QString, expected);
-    EditorFixture fish(effect());
+    EditorFixture fish(SampleTrees::narrow());
     if (!selected.isEmpty())
         fish.select({selected});
     SignalRecorder recorder(fish.editor);

@@ -8,6 +8,7 @@
 #include <QTreeView>
 #include <QtTest>
 
+#include <tests/editor/sampletrees.h>
 #include <tests/program/testprogram.h>
 #include <tests/support/editorfixture.h>
 #include <tests/support/pictures.h>
@@ -17,13 +18,7 @@ using namespace TestSupport;
 
 namespace {
 
-const QString document = QStringLiteral("Head[A[A1,A2],B[B1],C]");
-
-QString treeOf(const EditorFixture &fixture)
-{
-    return treeToText(*fixture.model.fishList().at(0)->treeItem()->childAtIndex(0));
-}
-
+using SampleTrees::treeOf;
 /** A point of the viewport in the middle of a bone's outer half, where only that bone is. */
 QPoint onBone(const EditorFixture &fixture, const QString &title)
 {
@@ -142,7 +137,7 @@ private Q_SLOTS:
 
 void TestGraphicsViewDrag::shouldTakeADragThatEnters()
 {
-    EditorFixture fixture(document);
+    EditorFixture fixture(SampleTrees::lettered());
     QVERIFY(fixture.show());
     QVERIFY(Drag(fixture, QStringLiteral("C")).enter(onCanvas(fixture)));
     QVERIFY(Drag(fixture, std::make_unique<QMimeData>()).enter(onCanvas(fixture)));
@@ -165,7 +160,7 @@ void TestGraphicsViewDrag::shouldRefuseADragWithoutASubject()
 {
     QFETCH(QByteArray, format);
     QFETCH(QByteArray, payload);
-    EditorFixture fixture(document);
+    EditorFixture fixture(SampleTrees::lettered());
     QVERIFY(fixture.show());
     auto data = std::make_unique<QMimeData>();
     data->setData(QString::fromLatin1(format), payload);
@@ -175,12 +170,12 @@ void TestGraphicsViewDrag::shouldRefuseADragWithoutASubject()
     QVERIFY(!fixture.editor.view()->linkedSpear());
     drag.drop(onBone(fixture, QStringLiteral("A")));
     QCoreApplication::processEvents();
-    QCOMPARE(treeOf(fixture), document);
+    QCOMPARE(treeOf(fixture), SampleTrees::lettered());
 }
 
 void TestGraphicsViewDrag::shouldMarkTheSpearUnderADrag()
 {
-    EditorFixture fixture(document);
+    EditorFixture fixture(SampleTrees::lettered());
     QVERIFY(fixture.show());
     Drag drag(fixture, QStringLiteral("C"));
     drag.enter(onCanvas(fixture));
@@ -194,7 +189,7 @@ void TestGraphicsViewDrag::shouldMarkTheSpearUnderADrag()
 
 void TestGraphicsViewDrag::shouldUnmarkOverTheCanvas()
 {
-    EditorFixture fixture(document);
+    EditorFixture fixture(SampleTrees::lettered());
     QVERIFY(fixture.show());
     Drag drag(fixture, QStringLiteral("C"));
     drag.enter(onCanvas(fixture));
@@ -214,7 +209,7 @@ void TestGraphicsViewDrag::shouldRefuseAndUnmarkOverTheDraggedSubtree_data()
 void TestGraphicsViewDrag::shouldRefuseAndUnmarkOverTheDraggedSubtree()
 {
     QFETCH(QString, target);
-    EditorFixture fixture(document);
+    EditorFixture fixture(SampleTrees::lettered());
     fixture.editor.expandAll();
     QVERIFY(fixture.show());
     Drag drag(fixture, QStringLiteral("A"));
@@ -227,7 +222,7 @@ void TestGraphicsViewDrag::shouldRefuseAndUnmarkOverTheDraggedSubtree()
 
 void TestGraphicsViewDrag::shouldKeepTheMarkUntilTheNextDrag()
 {
-    EditorFixture fixture(document);
+    EditorFixture fixture(SampleTrees::lettered());
     QVERIFY(fixture.show());
     Drag drag(fixture, QStringLiteral("C"));
     drag.enter(onCanvas(fixture));
@@ -240,7 +235,7 @@ void TestGraphicsViewDrag::shouldKeepTheMarkUntilTheNextDrag()
 
 void TestGraphicsViewDrag::shouldCarryOutADropWhenTheDragHasEnded()
 {
-    EditorFixture fixture(document);
+    EditorFixture fixture(SampleTrees::lettered());
     QVERIFY(fixture.show());
     Drag drag(fixture, QStringLiteral("C"));
     drag.enter(onCanvas(fixture));
@@ -248,7 +243,7 @@ void TestGraphicsViewDrag::shouldCarryOutADropWhenTheDragHasEnded()
     QTest::ignoreMessage(QtDebugMsg, "GraphicsView::dropEvent");
     QVERIFY(drag.drop(onBone(fixture, QStringLiteral("A"))));
     QVERIFY(!fixture.spear(QStringLiteral("A"))->isLinked());
-    QCOMPARE(treeOf(fixture), document);
+    QCOMPARE(treeOf(fixture), SampleTrees::lettered());
     QCoreApplication::processEvents();
     QCOMPARE(fixture.subject(QStringLiteral("C"))->parent(), fixture.subject(QStringLiteral("A")));
     QVERIFY(!fixture.editor.canUndo());
@@ -256,7 +251,7 @@ void TestGraphicsViewDrag::shouldCarryOutADropWhenTheDragHasEnded()
 
 void TestGraphicsViewDrag::shouldReportNothingForADropBesideEverySpear()
 {
-    EditorFixture fixture(document);
+    EditorFixture fixture(SampleTrees::lettered());
     QVERIFY(fixture.show());
     QSignalSpy drops(fixture.editor.view(), &GraphicsView::dropTo);
     Drag drag(fixture, QStringLiteral("C"));
@@ -268,7 +263,7 @@ void TestGraphicsViewDrag::shouldReportNothingForADropBesideEverySpear()
 
 void TestGraphicsViewDrag::shouldSurviveTheEndOfTheEditorBeforeTheDropIsHandled()
 {
-    auto fixture = std::make_unique<EditorFixture>(document);
+    auto fixture = std::make_unique<EditorFixture>(SampleTrees::lettered());
     QVERIFY(fixture->show());
     {
         Drag drag(*fixture, QStringLiteral("C"));
@@ -283,7 +278,7 @@ void TestGraphicsViewDrag::shouldSurviveTheEndOfTheEditorBeforeTheDropIsHandled(
 
 void TestGraphicsViewDrag::shouldForgetAMarkedSpearThatDies()
 {
-    EditorFixture fixture(document);
+    EditorFixture fixture(SampleTrees::lettered());
     QVERIFY(fixture.show());
     Drag drag(fixture, QStringLiteral("C"));
     drag.enter(onCanvas(fixture));
@@ -298,7 +293,7 @@ void TestGraphicsViewDrag::shouldForgetAMarkedSpearThatDies()
 
 void TestGraphicsViewDrag::shouldTakeARowDraggedFromATreeView()
 {
-    EditorFixture fixture(document);
+    EditorFixture fixture(SampleTrees::lettered());
     QVERIFY(fixture.show());
     DraggableProxy proxy;
     proxy.setSourceModel(&fixture.model);
@@ -342,7 +337,7 @@ void TestGraphicsViewDrag::shouldMoveWithTheMouseAtAnyZoomAndRotation()
 {
     QFETCH(int, zoom);
     QFETCH(int, rotation);
-    EditorFixture fixture(document);
+    EditorFixture fixture(SampleTrees::lettered());
     QVERIFY(fixture.show(false));
     fixture.editor.zoomFish(zoom);
     fixture.editor.rotateFish(rotation);
@@ -364,7 +359,7 @@ void TestGraphicsViewDrag::shouldMoveWithTheMouseAtAnyZoomAndRotation()
 
 void TestGraphicsViewDrag::shouldPaintTheSameInPiecesAsInFullDuringADrag()
 {
-    EditorFixture fixture(document);
+    EditorFixture fixture(SampleTrees::lettered());
     fixture.editor.expandAll();
     QVERIFY(fixture.show());
     GraphicsView &view = *fixture.editor.view();

@@ -9,6 +9,11 @@
 /** Tasks for tests. */
 namespace TaskMaps {
 
+/** The uuids of small(). */
+const QString h = QStringLiteral("h");
+const QString a = QStringLiteral("a");
+const QString b = QStringLiteral("b");
+
 /** A task of that title. */
 inline Task task(const QString &uuid, const QString &parent, qint64 position,
                  const QString &title = QString())
@@ -32,10 +37,8 @@ inline TaskMap map(const QList<Task> &tasks)
 /** h with a and b, c below a. */
 inline TaskMap small()
 {
-    return map({task(QStringLiteral("h"), QString(), 10),
-                task(QStringLiteral("a"), QStringLiteral("h"), 10),
-                task(QStringLiteral("b"), QStringLiteral("h"), 20),
-                task(QStringLiteral("c"), QStringLiteral("a"), 10)});
+    return map(
+        {task(h, QString(), 10), task(a, h, 10), task(b, h, 20), task(QStringLiteral("c"), a, 10)});
 }
 
 /** "h(a(c)b)": who stands where, in order. Linear in small trees, which these are. */

@@ -12,9 +12,6 @@ using namespace TaskMaps;
 
 namespace {
 
-const QString h = QStringLiteral("h");
-const QString a = QStringLiteral("a");
-const QString b = QStringLiteral("b");
 const QString c = QStringLiteral("c");
 const QString fresh = QStringLiteral("n");
 

@@ -13,10 +13,6 @@ using namespace TaskMaps;
 
 namespace {
 
-const QString h = QStringLiteral("h");
-const QString a = QStringLiteral("a");
-const QString b = QStringLiteral("b");
-
 TaskBatch batchOf(const QList<Task> &written, const QStringList &removed = {})
 {
     static int number = 0;

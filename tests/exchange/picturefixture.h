@@ -5,6 +5,8 @@
 
 #include <fishbone/exchange/pictureexport.h>
 
+#include <tests/support/filecontent.h>
+
 #include <QFile>
 #include <QGraphicsRectItem>
 #include <QGraphicsScene>
@@ -17,6 +19,8 @@ Q_DECLARE_METATYPE(PictureOptions)
 
 /** Small scenes and pictures of them, for the tests of the export. */
 namespace PictureFixture {
+
+using TestSupport::contentOf;
 
 using Format = PictureExport::Format;
 using Error = PictureExport::Error;
@@ -57,12 +61,6 @@ inline QByteArray rendered(QGraphicsScene &scene, Format format, const PictureOp
 inline QImage renderedPng(QGraphicsScene &scene, const PictureOptions &options = {})
 {
     return QImage::fromData(rendered(scene, Format::Png, options), "PNG");
-}
-
-inline QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 inline void writeFile(const QString &path, const QByteArray &content)

@@ -8,6 +8,7 @@
 
 #include <tests/program/testprogram.h>
 #include <tests/support/editorfixture.h>
+#include <tests/support/filecontent.h>
 #include <tests/support/pictures.h>
 #include <tests/support/sourcefolder.h>
 
@@ -25,14 +26,9 @@
 #include <cmath>
 
 namespace {
+using TestSupport::contentOf;
 
 const QString sample = QStringLiteral("samples/checkout-outage.fishbone.json");
-
-QByteArray contentOf(const QString &fileName)
-{
-    QFile file(fileName);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 /** What of its uuid names a subject in a file. */
 QByteArray idOf(const TreeItem &subject)

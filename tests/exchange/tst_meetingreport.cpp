@@ -3,6 +3,7 @@
 
 #include <tests/exchange/exchangefixture.h>
 #include <tests/program/testprogram.h>
+#include <tests/support/filecontent.h>
 
 #include <fishbone/exchange/meetingreport.h>
 
@@ -16,6 +17,7 @@
 using namespace ExchangeFixture;
 
 namespace {
+using TestSupport::contentOf;
 
 const QDate today(2024, 1, 31);
 
@@ -43,12 +45,6 @@ std::unique_ptr<TreeItem> reviewed()
     ill->setPlanEndDate(QDateTime(QDate(2024, 1, 2), QTime(12, 0)).toMSecsSinceEpoch());
     head->childAtIndex(2)->setPlanEndDate(QDateTime(today, QTime(12, 0)).toMSecsSinceEpoch());
     return head;
-}
-
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 } // namespace

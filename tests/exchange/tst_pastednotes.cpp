@@ -30,13 +30,13 @@ QString treesOf(const QString &text)
 }
 
 /** All words of all fields of a tree. */
-QString allTextOf(const TreeItem &subject)
+QString shownTextOf(const TreeItem &subject)
 {
     QString text = subject.title() + QLatin1Char(' ') + subject.detail() + QLatin1Char(' ') +
                    subject.url() + QLatin1Char(' ') + subject.showid() + QLatin1Char(' ') +
                    subject.managerName();
     for (const TreeItem *child : subject.childItems())
-        text += QLatin1Char(' ') + allTextOf(*child);
+        text += QLatin1Char(' ') + shownTextOf(*child);
     return text;
 }
 
@@ -176,7 +176,7 @@ void TestPastedNotes::shouldKeepEveryWord()
         }
         const auto branches = PastedNotes::read(text, PastedNotes::kindOf(text));
         QVERIFY2(branches, qPrintable(text));
-        const QString all = allTextOf(*branches);
+        const QString all = shownTextOf(*branches);
         for (const QString &word : qAsConst(words))
             QVERIFY2(all.contains(word), qPrintable(word + QLatin1String(" of\n") + text +
                                                     QLatin1String("\nis not in\n") + all));

@@ -7,6 +7,7 @@
 #include <fishbone/items/expanditem.h>
 #include <fishbone/items/spearitem.h>
 #include <fishbone/model/fishmodel.h>
+#include <tests/exchange/picturefixture.h>
 #include <tests/program/testprogram.h>
 
 #include <QFile>
@@ -21,11 +22,9 @@
 #include <algorithm>
 #include <memory>
 
-using Format = PictureExport::Format;
-
-Q_DECLARE_METATYPE(Format)
-
 namespace {
+
+using PictureFixture::Format;
 
 constexpr int manyItems = 500;
 

@@ -3,6 +3,7 @@
 
 #include <tests/program/testprogram.h>
 #include <tests/support/editorfixture.h>
+#include <tests/support/filecontent.h>
 
 #include <fishbone/drawing/screenonly.h>
 #include <fishbone/exchange/outlinewalk.h>
@@ -18,6 +19,7 @@
 #include <QtTest>
 
 namespace {
+using TestSupport::contentOf;
 
 constexpr int timeLimit = 200000; ///< milliseconds; an office takes long to start
 const QSize slide(960, 540);
@@ -31,12 +33,6 @@ bool run(const QString &program, const QStringList &arguments)
     process.start(program, arguments);
     return process.waitForFinished(timeLimit) && process.exitStatus() == QProcess::NormalExit &&
            process.exitCode() == 0;
-}
-
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 QString withoutBlanks(QString text)

@@ -15,7 +15,7 @@ using namespace ExchangeFixture;
 
 namespace {
 
-QString partOf(const QByteArray &workbook, const char *name)
+QString textOfPart(const QByteArray &workbook, const char *name)
 {
     ImportedTree tree;
     ZipReader archive(workbook, tree);
@@ -55,7 +55,8 @@ private Q_SLOTS:
 
 void TestXlsxWriting::shouldHaveTheOutlineAndTheActions()
 {
-    const QString workbook = partOf(exported(*treeFrom("a[b]"), Format::Xlsx), "xl/workbook.xml");
+    const QString workbook =
+        textOfPart(exported(*treeFrom("a[b]"), Format::Xlsx), "xl/workbook.xml");
     static const QRegularExpression sheet(QStringLiteral("<sheet name=\"([^\"]*)\""));
     QStringList names;
     for (auto matches = sheet.globalMatch(workbook); matches.hasNext();)
@@ -66,7 +67,7 @@ void TestXlsxWriting::shouldHaveTheOutlineAndTheActions()
 void TestXlsxWriting::shouldGroupTheOutlineByLevels()
 {
     const QString sheet =
-        partOf(exported(*treeFrom("a[b[c],d]"), Format::Xlsx), "xl/worksheets/sheet1.xml");
+        textOfPart(exported(*treeFrom("a[b[c],d]"), Format::Xlsx), "xl/worksheets/sheet1.xml");
     static const QRegularExpression row(
         QStringLiteral("<row r=\"\\d+\"(?: outlineLevel=\"(\\d+)\")?[^>]*>"));
     QStringList levels;
@@ -88,7 +89,7 @@ void TestXlsxWriting::shouldListWhatIsToBeDone()
     head->childAtIndex(1)->setPlanEndDate(
         QDateTime(QDate(2024, 1, 31), QTime(12, 0)).toMSecsSinceEpoch());
     const QStringList rows =
-        rowsOf(partOf(exported(*head, Format::Xlsx), "xl/worksheets/sheet2.xml"));
+        rowsOf(textOfPart(exported(*head, Format::Xlsx), "xl/worksheets/sheet2.xml"));
     QCOMPARE(rows.size(), 4); // the headings, and neither the head nor the category
     QVERIFY2(rows.at(1).startsWith(QLatin1String("No vehicle|Carrier|")), qPrintable(rows.at(1)));
     QVERIFY2(rows.at(1).contains(QLatin1String("|0.4")), qPrintable(rows.at(1)));
@@ -109,7 +110,7 @@ void TestXlsxWriting::shouldWriteNoFormula()
         head->setManagerName(text);
         const QByteArray workbook = exported(*head, Format::Xlsx);
         for (const char *sheet : {"xl/worksheets/sheet1.xml", "xl/worksheets/sheet2.xml"}) {
-            const QString xml = partOf(workbook, sheet);
+            const QString xml = textOfPart(workbook, sheet);
             QVERIFY2(!xml.contains(QLatin1String("<f")), qPrintable(xml));
             QVERIFY2(xml.contains(QLatin1String("t=\"inlineStr\"")), qPrintable(xml));
         }

@@ -15,6 +15,23 @@ const double cos70 = std::cos(70 * degree);
 const double sin70 = std::sin(70 * degree);
 constexpr double widestBackboneAngle = 0.002181661564992912;
 
+/** A spear that nothing shows. */
+inline std::unique_ptr<SpearItem> newSpear(const QString &title = QStringLiteral("Cause"))
+{
+    return std::make_unique<SpearItem>(title, 0, 20.0);
+}
+
+/** The pictures of the button, as the resources name them. */
+inline QString expandFile()
+{
+    return QStringLiteral(":/fishboneDiagram/expand.svg");
+}
+
+inline QString contractFile()
+{
+    return QStringLiteral(":/fishboneDiagram/contract.svg");
+}
+
 /** Whether two lengths agree to a billionth of a unit. */
 inline bool alike(double a, double b)
 {

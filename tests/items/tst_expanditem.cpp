@@ -9,6 +9,7 @@
 #include <fishbone/drawing/spearbuilder.h>
 #include <fishbone/items/textitem.h>
 #include <tests/items/boneparts.h>
+#include <tests/items/shownbones.h>
 #include <tests/program/testprogram.h>
 #include <tests/support/drawing.h>
 #include <tests/support/editorfixture.h>
@@ -52,20 +53,13 @@ private Q_SLOTS:
 };
 
 namespace {
-const QString man = QStringLiteral("Man");
-const QString machine = QStringLiteral("Machine");
-const QString training = QStringLiteral("Training");
+
+using BoneParts::contractFile;
+using BoneParts::expandFile;
+using ShownBones::machine;
+using ShownBones::man;
+using ShownBones::training;
 const QString sample = QStringLiteral("Effect[Man[Training[Course],Shift],Machine]");
-
-QString expandFile()
-{
-    return QStringLiteral(":/fishboneDiagram/expand.svg");
-}
-
-QString contractFile()
-{
-    return QStringLiteral(":/fishboneDiagram/contract.svg");
-}
 
 ExpandItem *buttonOf(const SpearItem *spear)
 {

@@ -11,6 +11,8 @@
 #include <fishbone/items/svgcache.h>
 #include <fishbone/items/taskstatusitem.h>
 #include <fishbone/items/textitem.h>
+#include <tests/items/boneparts.h>
+#include <tests/items/shownbones.h>
 #include <tests/program/testprogram.h>
 #include <tests/support/drawing.h>
 #include <tests/support/pictures.h>
@@ -45,13 +47,9 @@ private Q_SLOTS:
 };
 
 namespace {
-std::unique_ptr<SpearItem> newSpear(const QString &title = QStringLiteral("Cause"))
-{
-    return std::make_unique<SpearItem>(title, 0, 20.0);
-}
-
-const QString effect = QStringLiteral("Effect");
-const QString man = QStringLiteral("Man");
+using BoneParts::newSpear;
+using ShownBones::effect;
+using ShownBones::man;
 } // namespace
 
 void TestSpearItem::shouldBeFreshAfterConstruction()

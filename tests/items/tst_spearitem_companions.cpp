@@ -4,6 +4,7 @@
 // The part of SpearItem that concerns the link icon and the expand button that it is given.
 
 #include <fishbone/items/spearitem.h>
+#include <tests/items/boneparts.h>
 #include <tests/program/testprogram.h>
 
 #include <QGraphicsRectItem>
@@ -11,10 +12,7 @@
 #include <QtTest>
 
 namespace {
-std::unique_ptr<SpearItem> newSpear()
-{
-    return std::make_unique<SpearItem>(QStringLiteral("Cause"), 0, 20.0);
-}
+using BoneParts::newSpear;
 
 /** An item that counts how many of its kind are deleted. */
 class CountedItem : public QGraphicsRectItem

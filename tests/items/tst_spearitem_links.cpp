@@ -9,6 +9,8 @@
 #include <QtTest>
 
 #include <fishbone/items/taskstatusitem.h>
+#include <tests/items/boneparts.h>
+#include <tests/items/shownbones.h>
 #include <tests/program/testprogram.h>
 #include <tests/support/drawing.h>
 #include <tests/support/pictures.h>
@@ -16,13 +18,10 @@
 using namespace TestSupport;
 
 namespace {
-const QString man = QStringLiteral("Man");
-const QString machine = QStringLiteral("Machine");
 
-std::unique_ptr<SpearItem> newSpear()
-{
-    return std::make_unique<SpearItem>(QStringLiteral("Cause"), 0, 20.0);
-}
+using BoneParts::newSpear;
+using ShownBones::machine;
+using ShownBones::man;
 
 /** Ways to let the spear or the node of "Man" die. */
 enum class Death {

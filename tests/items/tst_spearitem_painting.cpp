@@ -10,6 +10,8 @@
 #include <QtTest>
 
 #include <fishbone/items/textitem.h>
+#include <tests/items/boneparts.h>
+#include <tests/items/shownbones.h>
 #include <tests/program/testprogram.h>
 #include <tests/support/drawing.h>
 #include <tests/support/pictures.h>
@@ -47,7 +49,8 @@ private Q_SLOTS:
 };
 
 namespace {
-const QString man = QStringLiteral("Man");
+
+using ShownBones::man;
 const QColor backbone(60, 184, 121);
 constexpr int scale = 4;
 

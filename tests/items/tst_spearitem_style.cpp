@@ -8,6 +8,8 @@
 #include <QTextDocument>
 #include <QtTest>
 
+#include <tests/items/boneparts.h>
+#include <tests/items/shownbones.h>
 #include <tests/program/testprogram.h>
 #include <tests/support/drawing.h>
 #include <tests/support/pictures.h>
@@ -41,13 +43,10 @@ private Q_SLOTS:
 };
 
 namespace {
-std::unique_ptr<SpearItem> newSpear(const QString &title = QStringLiteral("Cause"))
-{
-    return std::make_unique<SpearItem>(title, 0, 20.0);
-}
-
-const QString effect = QStringLiteral("Effect");
-const QString man = QStringLiteral("Man");
+using BoneParts::newSpear;
+using ShownBones::effect;
+using ShownBones::machine;
+using ShownBones::man;
 } // namespace
 
 void TestSpearItemStyle::shouldCutTheTitle_data()

@@ -7,6 +7,7 @@
 #include <QtTest>
 
 #include <fishbone/items/spearitem.h>
+#include <tests/items/boneparts.h>
 #include <tests/program/testprogram.h>
 
 class TestSpearPointer : public QObject
@@ -26,10 +27,7 @@ private Q_SLOTS:
 };
 
 namespace {
-std::unique_ptr<SpearItem> newSpear()
-{
-    return std::make_unique<SpearItem>(QStringLiteral("Cause"), 0, 20.0);
-}
+using BoneParts::newSpear;
 } // namespace
 
 void TestSpearPointer::shouldBeNullWithoutASpear()

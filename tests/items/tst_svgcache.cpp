@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include <fishbone/items/svgcache.h>
+#include <tests/items/boneparts.h>
 #include <tests/program/testprogram.h>
 
 #include <fishbone/base/onepass.h>
@@ -12,6 +13,8 @@
 #include <QtTest>
 
 namespace {
+using BoneParts::expandFile;
+
 /** What the first of the two application objects of this program saw. */
 struct FirstApplication
 {
@@ -19,11 +22,6 @@ struct FirstApplication
     bool owned = false;
     int parsedFiles = 0;
 } firstApplication;
-
-QString expandFile()
-{
-    return QStringLiteral(":/fishboneDiagram/expand.svg");
-}
 
 QStringList &warnings()
 {

@@ -16,6 +16,7 @@
 #include <fishbone/items/linkitem.h>
 #include <fishbone/items/svgcache.h>
 #include <fishbone/items/taskstatusitem.h>
+#include <tests/items/boneparts.h>
 #include <tests/program/testprogram.h>
 #include <tests/support/drawing.h>
 #include <tests/support/pictures.h>
@@ -56,19 +57,12 @@ private Q_SLOTS:
 };
 
 namespace {
+using BoneParts::contractFile;
+using BoneParts::expandFile;
+
 QString picture(const char *name)
 {
     return QLatin1String(":/fishboneDiagram/") + QLatin1String(name);
-}
-
-QString expandFile()
-{
-    return picture("expand.svg");
-}
-
-QString contractFile()
-{
-    return picture("contract.svg");
 }
 
 QImage pictureOf(const QString &file, const Canvas &canvas)

@@ -12,6 +12,12 @@ namespace TestSupport {
 
 constexpr int maxInt = std::numeric_limits<int>::max();
 
+/** A style that shows so many characters of titles. */
+inline QJsonObject styleShowing(int characters)
+{
+    return {{QStringLiteral("textCount"), characters}};
+}
+
 /** A node with @p count children c0, c1, … whose uuid is "u". */
 inline std::unique_ptr<TreeItem> makeParent(int count)
 {

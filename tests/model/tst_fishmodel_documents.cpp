@@ -6,6 +6,7 @@
 #include <fishbone/model/fishinfo.h>
 #include <fishbone/model/treeitem.h>
 
+#include <tests/model/treeitemtreeparts.h>
 #include <tests/program/testprogram.h>
 #include <tests/support/documents.h>
 #include <tests/support/modelfollower.h>
@@ -20,8 +21,6 @@
 using namespace TestSupport;
 
 namespace {
-
-constexpr int maxInt = std::numeric_limits<int>::max();
 
 QString heads(const FishModel &model)
 {
@@ -159,7 +158,7 @@ void TestFishModelDocuments::shouldRefuseListChangesOutsideTheRange()
     QVERIFY(!m_model->insertFishToList(0, nullptr));
     QVERIFY(!m_model->removeFishFromList(-1, 1));
     QVERIFY(!m_model->removeFishFromList(2, 2));
-    QVERIFY(!m_model->removeFishFromList(1, maxInt));
+    QVERIFY(!m_model->removeFishFromList(1, TestSupport::maxInt));
     QVERIFY(!m_model->removeFishFromList(4, 0));
     QVERIFY(m_model->removeFishFromList(3, 0));
     QVERIFY(m_model->removeFishFromList(0, -1));

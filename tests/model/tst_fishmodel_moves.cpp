@@ -6,6 +6,7 @@
 #include <fishbone/model/fishinfo.h>
 #include <fishbone/model/treeitem.h>
 
+#include <tests/model/treeitemtreeparts.h>
 #include <tests/program/testprogram.h>
 #include <tests/support/documents.h>
 #include <tests/support/modelfollower.h>
@@ -16,12 +17,6 @@
 #include <limits>
 
 using namespace TestSupport;
-
-namespace {
-
-constexpr int maxInt = std::numeric_limits<int>::max();
-
-} // namespace
 
 /** Moves of rows: between nodes, among documents, and between both. */
 class TestFishModelMoves : public QObject
@@ -273,9 +268,9 @@ void TestFishModelMoves::shouldRefuseMovesOutsideTheRange_data()
             add("negative destination", 0, 1, -1);
             add("row past the end", 4, 1, 0);
             add("too many", 3, 2, 0);
-            add("count at the limit", 1, maxInt, 0);
+            add("count at the limit", 1, TestSupport::maxInt, 0);
             add("destination past the end", 2, 1, 5);
-            add("destination at the limit", 2, 1, maxInt);
+            add("destination at the limit", 2, 1, TestSupport::maxInt);
             add("none past the end", 5, 0, 0);
         }
     }

@@ -6,6 +6,7 @@
 #include <fishbone/model/fishinfo.h>
 #include <fishbone/model/treeitem.h>
 
+#include <tests/model/treeitemtreeparts.h>
 #include <tests/program/testprogram.h>
 #include <tests/support/documents.h>
 #include <tests/support/modelfollower.h>
@@ -18,8 +19,6 @@
 using namespace TestSupport;
 
 namespace {
-
-constexpr int maxInt = std::numeric_limits<int>::max();
 
 TreeItem *makeNode(const char *title)
 {
@@ -144,12 +143,14 @@ void TestFishModelRows::shouldCheckRangesBeforeAnnouncing_data()
     QTest::newRow("none past the end") << false << 4 << 0 << false << false;
     QTest::newRow("none") << false << 1 << 0 << true << true;
     QTest::newRow("less than none") << false << 1 << -3 << true << true;
-    QTest::newRow("more than can be") << false << 1 << maxInt << false << false;
-    QTest::newRow("row at the limit") << false << maxInt << maxInt << false << false;
+    QTest::newRow("more than can be") << false << 1 << TestSupport::maxInt << false << false;
+    QTest::newRow("row at the limit")
+        << false << TestSupport::maxInt << TestSupport::maxInt << false << false;
     QTest::newRow("document before the first") << true << -1 << 1 << false << false;
     QTest::newRow("document past the end") << true << 2 << 1 << false << false;
     QTest::newRow("no document") << true << 1 << 0 << true << true;
-    QTest::newRow("more documents than can be") << true << 1 << maxInt << false << false;
+    QTest::newRow("more documents than can be")
+        << true << 1 << TestSupport::maxInt << false << false;
 }
 
 void TestFishModelRows::shouldCheckRangesBeforeAnnouncing()

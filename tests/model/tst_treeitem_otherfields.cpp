@@ -10,6 +10,7 @@
 
 #include <tests/program/testprogram.h>
 #include <tests/support/commandfixture.h>
+#include <tests/support/filecontent.h>
 
 #include <QJsonDocument>
 #include <QTemporaryDir>
@@ -18,6 +19,7 @@
 using namespace TestSupport;
 
 namespace {
+using TestSupport::contentOf;
 
 QJsonObject objectFrom(const char *json)
 {
@@ -48,12 +50,6 @@ QByteArray documentWithStrangers()
     document.insert(QStringLiteral("children"), bones);
     document.insert(QStringLiteral("view"), objectFrom(R"({"look": "clear"})"));
     return QJsonDocument(document).toJson();
-}
-
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 /** Arrays in arrays. */

@@ -9,6 +9,7 @@
 #include <fishbone/style/spearstyle.h>
 #include <fishbone/style/spearstyledialog.h>
 
+#include <tests/model/treeitemtreeparts.h>
 #include <tests/program/testprogram.h>
 #include <tests/support/documents.h>
 #include <tests/support/modaldriver.h>
@@ -18,15 +19,6 @@
 #include <QtTest>
 
 using namespace TestSupport;
-
-namespace {
-
-QJsonObject styleShowing(int characters)
-{
-    return {{QStringLiteral("textCount"), characters}};
-}
-
-} // namespace
 
 /** The attributes of a node and its links to a spear and a style. */
 /** The spear of a node, and its own style. */
@@ -158,7 +150,7 @@ void TestTreeItemSpear::shouldMakeItsStyleFromAnObject()
 {
     TreeItem node;
 
-    node.setSpearStyle(styleShowing(3));
+    node.setSpearStyle(TestSupport::styleShowing(3));
 
     QVERIFY(node.spearStyle());
     QCOMPARE(node.spearStyle()->textCount(), 3);
@@ -171,7 +163,7 @@ void TestTreeItemSpear::shouldMakeItsStyleFromAnObject()
 void TestTreeItemSpear::shouldLoseItsStyleToAnEmptyObject()
 {
     TreeItem node;
-    node.setSpearStyle(styleShowing(3));
+    node.setSpearStyle(TestSupport::styleShowing(3));
 
     node.setSpearStyle(QJsonObject());
 
@@ -181,10 +173,10 @@ void TestTreeItemSpear::shouldLoseItsStyleToAnEmptyObject()
 void TestTreeItemSpear::shouldReplaceItsStyleAndNotMergeIt()
 {
     TreeItem node;
-    node.setSpearStyle(styleShowing(3));
+    node.setSpearStyle(TestSupport::styleShowing(3));
     node.spearStyle()->setTextColor(SpearStyle::ssNormal, Qt::red);
 
-    node.setSpearStyle(styleShowing(4));
+    node.setSpearStyle(TestSupport::styleShowing(4));
 
     QVERIFY(!node.spearStyle()->textColor(SpearStyle::ssNormal).isValid());
 }
@@ -223,7 +215,7 @@ void TestTreeItemSpear::shouldForgetTheStyleOfARejectedDialog()
 void TestTreeItemSpear::shouldEditItsOwnStyleInPlace()
 {
     TreeItem node;
-    node.setSpearStyle(styleShowing(3));
+    node.setSpearStyle(TestSupport::styleShowing(3));
     const SpearStyle *const own = node.spearStyle();
     int whileOpen = 0;
     const ModalDriver<SpearStyleDialog> user([own, &whileOpen](SpearStyleDialog &dialog) {
@@ -253,7 +245,7 @@ void TestTreeItemSpear::shouldSurviveWhenItsNodeDiesUnderTheDialog()
     QFETCH(bool, hasStyle);
     auto node = std::make_unique<TreeItem>();
     if (hasStyle)
-        node->setSpearStyle(styleShowing(3));
+        node->setSpearStyle(TestSupport::styleShowing(3));
     const ModalDriver<SpearStyleDialog> user([&node](SpearStyleDialog &dialog) {
         node.reset();
         dialog.textCountChanged(QStringLiteral("17"));

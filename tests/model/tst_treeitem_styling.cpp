@@ -6,6 +6,7 @@
 #include <fishbone/style/spearstyle.h>
 #include <fishbone/style/spearstyledialog.h>
 
+#include <tests/model/treeitemtreeparts.h>
 #include <tests/program/testprogram.h>
 #include <tests/support/modaldriver.h>
 
@@ -15,15 +16,6 @@
 #include <memory>
 
 using namespace TestSupport;
-
-namespace {
-
-QJsonObject styleShowing(int characters)
-{
-    return {{QStringLiteral("textCount"), characters}};
-}
-
-} // namespace
 
 /** What happens to the styles of nodes while the user edits one of them. */
 class TestTreeItemStyling : public QObject
@@ -38,9 +30,9 @@ private Q_SLOTS:
 void TestTreeItemStyling::shouldLeaveTheDialogItsStyleWhileOthersGo()
 {
     TreeItem node;
-    node.setSpearStyle(styleShowing(3));
+    node.setSpearStyle(TestSupport::styleShowing(3));
     auto other = std::make_unique<TreeItem>();
-    other->setSpearStyle(styleShowing(4));
+    other->setSpearStyle(TestSupport::styleShowing(4));
     const ModalDriver<SpearStyleDialog> user([&](SpearStyleDialog &dialog) {
         other->delSpearStyle();
         other.reset();
@@ -57,11 +49,11 @@ void TestTreeItemStyling::shouldLeaveTheDialogItsStyleWhileOthersGo()
 void TestTreeItemStyling::shouldLeaveEachOfTwoDialogsItsStyle()
 {
     TreeItem node;
-    node.setSpearStyle(styleShowing(3));
+    node.setSpearStyle(TestSupport::styleShowing(3));
     const ModalDriver<SpearStyleDialog> user([&node](SpearStyleDialog &dialog) {
-        node.setSpearStyle(styleShowing(5));
+        node.setSpearStyle(TestSupport::styleShowing(5));
         const ModalDriver<SpearStyleDialog> second([&node](SpearStyleDialog &inner) {
-            node.setSpearStyle(styleShowing(7));
+            node.setSpearStyle(TestSupport::styleShowing(7));
             inner.textCountChanged(QStringLiteral("8"));
             inner.accept();
         });

@@ -25,7 +25,7 @@ using namespace TestSupport;
 
 namespace {
 
-constexpr int patience = 20000;
+constexpr int serverPatience = 20000;
 constexpr int transferTimeout = 200;
 constexpr qint64 replyLimit = 1 << 20;
 
@@ -194,7 +194,7 @@ QString TestHostileServer::load(const QUrl &url)
     elapsed.start();
     model.loadFishFromUrl(url);
     const auto isFreed = [&model] { return !model.findChild<QNetworkAccessManager *>(); };
-    if (!QTest::qWaitFor(isFreed, patience))
+    if (!QTest::qWaitFor(isFreed, serverPatience))
         errors.append(QStringLiteral("never freed"));
     m_milliseconds = elapsed.elapsed();
     disconnect(noted);
@@ -308,7 +308,7 @@ void TestHostileServer::shouldNotUnpackWithoutALimit()
 
 void TestHostileServer::shouldUnpackADocument()
 {
-    m_fixture->model->setTransferTimeout(patience);
+    m_fixture->model->setTransferTimeout(serverPatience);
     m_server->tell(sends(response("Content-Encoding: deflate\r\n", qCompress(document).mid(4))));
     QCOMPARE(load(m_server->url()), QStringLiteral("valid 0"));
     QCOMPARE(m_fixture->model->rowCount(), 2);
@@ -316,7 +316,7 @@ void TestHostileServer::shouldUnpackADocument()
 
 void TestHostileServer::shouldTakeNoMoreThanWasAnnounced()
 {
-    m_fixture->model->setTransferTimeout(patience);
+    m_fixture->model->setTransferTimeout(serverPatience);
     m_server->tell(sends(response("Content-Length: " + QByteArray::number(document.size()) + "\r\n",
                                   document + "and more")));
     QCOMPARE(load(m_server->url()), QStringLiteral("valid 0"));
@@ -346,7 +346,7 @@ void TestHostileServer::shouldFreeLoadsThatFailTogether()
     constexpr int loads = 20;
     for (int i = 0; i < loads; ++i)
         model.loadFishFromUrl(m_server->url());
-    QTRY_VERIFY_WITH_TIMEOUT(!model.findChild<QNetworkAccessManager *>(), patience);
+    QTRY_VERIFY_WITH_TIMEOUT(!model.findChild<QNetworkAccessManager *>(), serverPatience);
     QCOMPARE(loaded.count(), loads);
     QCOMPARE(model.rowCount(), 1);
 }

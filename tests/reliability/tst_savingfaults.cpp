@@ -8,6 +8,7 @@
 
 #include <tests/program/testprogram.h>
 #include <tests/reliability/savedversions.h>
+#include <tests/support/filecontent.h>
 
 #include <QDir>
 #include <QFile>
@@ -26,6 +27,7 @@
 #include <fishbone/model/systemhelper.h>
 
 namespace {
+using TestSupport::contentOf;
 
 constexpr int patience = 30000;
 constexpr int manyNodes = 2000;
@@ -35,12 +37,6 @@ const QString nobody = QStringLiteral("65534");
 int kills()
 {
     return qEnvironmentVariableIsSet("FISHBONE_LONG_TESTS") ? 200 : 8;
-}
-
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("unreadable");
 }
 
 bool writeFile(const QString &path, const QByteArray &content)

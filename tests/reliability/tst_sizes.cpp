@@ -7,6 +7,7 @@
 
 #include <tests/program/testprogram.h>
 #include <tests/support/commandfixture.h>
+#include <tests/support/filecontent.h>
 
 #include <QAbstractItemModelTester>
 #include <QBuffer>
@@ -28,16 +29,11 @@
 using namespace TestSupport;
 
 namespace {
+using TestSupport::contentOf;
 
 bool isLong()
 {
     return qEnvironmentVariableIsSet("FISHBONE_LONG_TESTS");
-}
-
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("unreadable");
 }
 
 /** A tree of @p count subjects in which each has @p width children at most. */

@@ -76,7 +76,7 @@ void fill(SpearStyle &style)
     style.setInheritanceParent(true);
 }
 
-QByteArray written(const SpearStyle &style)
+QByteArray writtenBytes(const SpearStyle &style)
 {
     QJsonObject object;
     style.write(object);
@@ -149,7 +149,7 @@ void TestSpearStyleToolkits::shouldWriteAStyleAlike()
     SpearStyle style;
     fill(style);
 
-    QCOMPARE(written(style), fixture(toolkit + QStringLiteral(".spearstyle")));
+    QCOMPARE(writtenBytes(style), fixture(toolkit + QStringLiteral(".spearstyle")));
 }
 
 void TestSpearStyleToolkits::shouldReadADocumentWhole_data()
@@ -207,7 +207,7 @@ void TestSpearStyleToolkits::shouldKeepEveryFontWeight()
     SpearStyle style;
     style.setTextFont(SpearStyle::ssNormal, font);
 
-    const QByteArray json = written(style);
+    const QByteArray json = writtenBytes(style);
     SpearStyle read;
     read.read(QJsonDocument::fromJson(json).object());
 

@@ -5,6 +5,7 @@
 
 #include <fishbone/base/onepass.h>
 #include <tests/program/testprogram.h>
+#include <tests/support/filecontent.h>
 #include <tests/support/messagecounter.h>
 #include <tests/support/spearstyletext.h>
 
@@ -22,15 +23,10 @@
 using namespace TestSupport;
 
 namespace {
+using TestSupport::contentOf;
 
 /** Taken while the program starts: before main(), and before any application object. */
 SpearStyle *const globalBeforeMain = SpearStyle::global();
-
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(not readable)");
-}
 
 void writeFile(const QString &path, const QByteArray &content)
 {

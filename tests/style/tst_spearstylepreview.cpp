@@ -44,19 +44,6 @@ QImage previewOf(const SpearStyle &style, int state, const QString &text)
     return shownPixmap(dialog).toImage().convertToFormat(QImage::Format_RGB32);
 }
 
-/** The smallest rectangle with all pixels that are not white. */
-QRect inkedArea(const QImage &picture)
-{
-    QRect area;
-    for (int y = 0; y < picture.height(); ++y) {
-        for (int x = 0; x < picture.width(); ++x) {
-            if (picture.pixelColor(x, y) != Qt::white)
-                area |= QRect(x, y, 1, 1);
-        }
-    }
-    return area;
-}
-
 QColor darkest(const QImage &picture)
 {
     QColor found = Qt::white;
@@ -292,8 +279,8 @@ void TestSpearStylePreview::shouldPreviewTheTextOfABone()
 
     const QImage preview = previewOf(style, state, text);
     const QImage bone = paintedBone(style, shown, text);
-    const QRect letters = inkedArea(preview);
-    const QRect painted = inkedArea(bone);
+    const QRect letters = TestSupport::inkedArea(preview);
+    const QRect painted = TestSupport::inkedArea(bone);
     // A preview counts letters in whole pixels, a bone in fractions of them.
     constexpr int rounding = 2;
     QVERIFY(std::abs(letters.top() - painted.top()) <= 1);

@@ -2,27 +2,14 @@
 // SPDX-License-Identifier: MIT
 
 #include <tests/app/appfixture.h>
+#include <tests/app/editing/editcommandsparts.h>
 #include <tests/program/testprogram.h>
 
 #include <app/editing/titleeditor.h>
 
 #include <QInputMethodEvent>
 
-namespace {
-
-/** The field over the drawing; null when none is open. */
-TitleEditor *titleField(const AppFixture &app)
-{
-    const QList<TitleEditor *> fields =
-        app.window.editor()->view()->viewport()->findChildren<TitleEditor *>();
-    for (TitleEditor *field : fields) {
-        if (field->isVisible())
-            return field;
-    }
-    return nullptr;
-}
-
-} // namespace
+using TestSupport::titleField;
 
 class TestTypedTitle : public QObject
 {

@@ -16,8 +16,8 @@ namespace {
 
 const QList<int> directionKeys{Qt::Key_Left, Qt::Key_Right, Qt::Key_Up, Qt::Key_Down};
 
-/** Where the title of the subject @p title is seen. */
-QPointF seen(const AppFixture &app, const QString &title)
+/** The middle of the title of the subject @p title. */
+QPointF sceneCenter(const AppFixture &app, const QString &title)
 {
     const TextItem *const text = app.subject(title.toUtf8().constData())->spear()->textItem();
     return app.window.editor()->view()->viewportTransform().map(
@@ -108,7 +108,7 @@ void TestWalkCommands::shouldGoTheWayOfTheKey()
             if (selected(app) == from)
                 continue; // there is nothing that way
             ++steps;
-            const QPointF way = seen(app, selected(app)) - seen(app, from);
+            const QPointF way = sceneCenter(app, selected(app)) - sceneCenter(app, from);
             const double ahead = key == Qt::Key_Left    ? -way.x()
                                  : key == Qt::Key_Right ? way.x()
                                  : key == Qt::Key_Up    ? -way.y()

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include <tests/app/appfixture.h>
+#include <tests/app/makedialog.h>
 #include <tests/app/picturesubject.h>
 
 #include <tests/program/testprogram.h>
@@ -17,9 +18,6 @@
 #include <QPen>
 
 #include <functional>
-
-using MakeDialog = std::function<std::unique_ptr<QDialog>()>;
-Q_DECLARE_METATYPE(MakeDialog)
 
 /** Whoever does not see the window knows what each control is for. */
 class TestAccessibleNames : public QObject

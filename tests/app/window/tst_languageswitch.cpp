@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include <tests/app/appfixture.h>
+#include <tests/app/makedialog.h>
 
 #include <app/common/language.h>
 #include <app/editing/titleeditor.h>
@@ -31,9 +32,6 @@
 
 #include <functional>
 #include <memory>
-
-using MakeDialog = std::function<std::unique_ptr<QDialog>()>;
-Q_DECLARE_METATYPE(MakeDialog)
 
 namespace {
 
