@@ -19,7 +19,11 @@ namespace {
 class LongTexts : public QTranslator
 {
 public:
-    LongTexts() { m_english.load(QStringLiteral(":/i18n/fishbone_en.qm")); }
+    LongTexts()
+    {
+        if (!m_english.load(QStringLiteral(":/i18n/fishbone_en.qm")))
+            qFatal("There are no English texts");
+    }
 
     bool isEmpty() const override { return false; }
     QString translate(const char *context, const char *source, const char *comment,
