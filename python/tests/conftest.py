@@ -5,6 +5,7 @@
 import gc
 
 import pytest
+from PySide2.QtWidgets import QApplication
 
 import fishbone
 
@@ -20,6 +21,13 @@ NOTES = """# Line 3 stopped
 
 # What is imported stays, and looking through it again in each collection is most of what the tests would take.
 gc.freeze()
+
+
+@pytest.fixture(scope="session", autouse=True)
+def application():
+    """The application object, which widgets of any test need."""
+    fishbone.Editor()  # makes it
+    return QApplication.instance()
 
 
 @pytest.fixture

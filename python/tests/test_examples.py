@@ -59,7 +59,6 @@ def window(notes):
     spec = importlib.util.spec_from_file_location("example_editor", EXAMPLES / "editor.py")
     example = importlib.util.module_from_spec(spec)
     spec.loader.exec_module(example)
-    fishbone.Editor()  # makes the application object
     return example.Window(fishbone.open(notes))
 
 

@@ -15,7 +15,7 @@ import pytest
 from fishbone import _fishbone
 from PySide2.QtCore import QObject, Signal
 
-STUB = ast.parse((pathlib.Path(__file__).resolve().parent.parent / "fishbone" / "_fishbone.pyi").read_text())
+STUB = ast.parse(pathlib.Path(_fishbone.__file__).with_name("_fishbone.pyi").read_text())
 CLASSES = {node.name: node for node in STUB.body if isinstance(node, ast.ClassDef)}
 NO_NAME = {"del"}  # a keyword of the language, which no stub can say
 INDEXES = {"searchModelIndexes", "indexList"}  # the generator takes the list for one of numbers
