@@ -30,7 +30,7 @@ check_format() {
 
 check_scripts() {
     local scripts
-    mapfile -t scripts <<<"$(grep -lE '^#!.*bash' scripts/* .ci/*)"
+    mapfile -t scripts <<<"$(grep -lE '^#!.*bash' scripts/* .ci/* packaging/*/*)"
     shellcheck --external-sources "${scripts[@]}" scripts/*.sh resources/*.bash
     # Of several names the command is content with one that exists, and says nothing of the others.
     search -nE 'command -v +[^ >|&;)]+ +[^ >|&;)]' "${scripts[@]}" scripts/*.sh | none
@@ -52,7 +52,7 @@ check_licence_lines() {
     {
         sources
         find . -path ./build -prune -o \( -name CMakeLists.txt -o -name '*.cmake' \) -print
-        find scripts .ci -type f ! -name '*.txt'
+        find scripts .ci packaging -type f ! -name '*.txt'
         find python -name '*.py' -o -name '*.pyi'
     } | while read -r file; do
         if [[ $(head -n 3 "$file") != *SPDX-FileCopyrightText:\ *' The Fishbone authors'*SPDX-License-Identifier:\ MIT* ]]; then
