@@ -7,6 +7,7 @@
 #include <app/files/largefilereader.h>
 #include <app/files/loadfailure.h>
 
+#include <fishbone/base/filenames.h>
 #include <fishbone/exchange/jsondiagram.h>
 #include <fishbone/model/fishinfo.h>
 #include <fishbone/model/treeitem.h>
@@ -55,7 +56,7 @@ FishInfo *DocumentLoader::openDocument(const QString &path) const
     const QString canonical = QFileInfo(path).canonicalFilePath();
     const QList<FishInfo *> documents = m_openDocuments();
     for (FishInfo *document : documents) {
-        if (!canonical.isEmpty() && document->fileName() == canonical)
+        if (!canonical.isEmpty() && FileNames::areSame(document->fileName(), canonical))
             return document;
     }
     return nullptr;

@@ -5,10 +5,14 @@
 
 #include <app/common/language.h>
 
+#include <fishbone/base/filenames.h>
+
 #include <QDir>
 #include <QFileInfo>
 #include <QMenu>
 #include <QSettings>
+
+#include <algorithm>
 
 namespace {
 
@@ -23,6 +27,18 @@ QString settingsKey()
 QString normalized(const QString &path)
 {
     return QDir::cleanPath(QFileInfo(path).absoluteFilePath());
+}
+
+/** Takes @p path out of @p paths, however it is spelled there; whether it was there. */
+bool removeFrom(QStringList &paths, const QString &path)
+{
+    const int before = int(paths.size());
+    const QString wanted = normalized(path);
+    const auto isWanted = [&wanted](const QString &other) {
+        return FileNames::areSame(other, wanted);
+    };
+    paths.erase(std::remove_if(paths.begin(), paths.end(), isWanted), paths.end());
+    return paths.size() < before;
 }
 
 /** @p path as the user reads it, with a "~" for the home folder. */
@@ -52,7 +68,7 @@ QStringList RecentFiles::files() const
 void RecentFiles::add(const QString &path)
 {
     QStringList paths = files();
-    paths.removeAll(normalized(path));
+    removeFrom(paths, path);
     paths.prepend(normalized(path));
     while (paths.size() > limit)
         paths.removeLast();
@@ -62,7 +78,7 @@ void RecentFiles::add(const QString &path)
 void RecentFiles::remove(const QString &path)
 {
     QStringList paths = files();
-    if (paths.removeAll(normalized(path)) > 0)
+    if (removeFrom(paths, path))
         QSettings().setValue(settingsKey(), paths);
 }
 

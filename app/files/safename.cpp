@@ -3,24 +3,38 @@
 
 #include <app/files/safename.h>
 
+#include <fishbone/base/filenames.h>
+
 #include <QCoreApplication>
 #include <QString>
+
+namespace {
+
+bool isDotOrBlank(QChar c)
+{
+    return c == QLatin1Char('.') || c.isSpace();
+}
+
+} // namespace
 
 QString safeFileName(const QString &title)
 {
     constexpr int longest = 60; // UTF-16 units, so that every file system takes it
     QString name;
     for (const QChar c : title) {
-        const bool isUsable = c.isPrint() && !QStringLiteral("/\\:*?\"<>|").contains(c);
+        const bool isUsable = (c.isPrint() || c.isSurrogate()) &&
+                              !FileNames::isForbidden(c, FileNames::System::Windows);
         name.append(isUsable ? c : QChar(QLatin1Char(' ')));
     }
     name = name.simplified().left(longest);
     if (!name.isEmpty() && name.at(name.size() - 1).isHighSurrogate())
         name.chop(1);
-    while (name.startsWith(QLatin1Char('.')))
+    // Windows leaves out dots and blanks at the end, and elsewhere a dot in front hides a file.
+    while (!name.isEmpty() && isDotOrBlank(name.at(0)))
         name.remove(0, 1);
-    while (name.endsWith(QLatin1Char('.')))
+    while (!name.isEmpty() && isDotOrBlank(name.at(name.size() - 1)))
         name.chop(1);
-    return name.trimmed().isEmpty() ? QCoreApplication::translate("FileName", "Untitled")
-                                    : name.trimmed();
+    if (FileNames::isDevice(name))
+        name.prepend(QLatin1Char('_'));
+    return name.isEmpty() ? QCoreApplication::translate("FileName", "Untitled") : name;
 }

@@ -3,6 +3,8 @@
 
 #include <fishbone/items/linkitem.h>
 
+#include <fishbone/base/filenames.h>
+
 #include <QDesktopServices>
 #include <QGraphicsScene>
 #include <QGraphicsSceneMouseEvent>
@@ -41,7 +43,7 @@ void LinkItem::setOpener(std::function<void(const QUrl &)> opener)
 
 void LinkItem::open(const QString &url)
 {
-    const QUrl target(url, QUrl::TolerantMode);
+    const QUrl target = FileNames::toUrl(url);
     // A copy, since an opener may well set another one.
     if (const auto opener = linkOpener())
         opener(target);

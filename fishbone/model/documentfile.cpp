@@ -19,17 +19,6 @@ namespace {
 /** Leaves room for the time, and for the ending of the temporary file, in the usual 255 bytes. */
 constexpr int longestNamePart = 200;
 
-bool isForbiddenInNames(QChar c)
-{
-    if (c == QLatin1Char('/') || c == QLatin1Char('\\') || c.category() == QChar::Other_Control)
-        return true;
-#ifdef Q_OS_WIN
-    return QStringLiteral("<>:\"|?*").contains(c);
-#else
-    return false;
-#endif
-}
-
 } // namespace
 
 namespace DocumentFile {
@@ -56,10 +45,14 @@ void makeEmpty(const QString &fileName)
     QFile(fileName).open(QIODevice::WriteOnly | QIODevice::Truncate);
 }
 
-QString namePart(const QString &title)
+QString namePart(const QString &title, FileNames::System system)
 {
     QString part = title;
-    std::replace_if(part.begin(), part.end(), isForbiddenInNames, QLatin1Char('_'));
+    std::replace_if(
+        part.begin(), part.end(), [system](QChar c) { return FileNames::isForbidden(c, system); },
+        QLatin1Char('_'));
+    if (system == FileNames::System::Windows && FileNames::isDevice(part))
+        part.prepend(QLatin1Char('_'));
     while (part.toUtf8().size() > longestNamePart) {
         const int excess = part.toUtf8().size() - longestNamePart;
         part.chop(std::max(1, excess / 3)); // a UTF-16 unit makes at most three bytes

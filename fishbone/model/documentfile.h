@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include <fishbone/base/filenames.h>
+
 class QByteArray;
 class QString;
 class TreeItem;
@@ -18,9 +20,10 @@ void makeEmpty(const QString &fileName);
 
 /**
  * @p title as a part of a file name: without separators and control characters, and short enough
- * for any file system. An ordinary title stands unchanged.
+ * for any file system, and nothing else for @p system than a name. An ordinary title stands
+ * unchanged.
  */
-QString namePart(const QString &title);
+QString namePart(const QString &title, FileNames::System system = FileNames::here());
 
 /**
  * Makes an empty file in @p folder under a name that nobody else was given: @p title, a dot, and

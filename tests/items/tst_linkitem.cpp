@@ -112,6 +112,8 @@ void TestLinkItem::shouldParseTheUrlTolerantly_data()
                            << QStringLiteral("https://example.org/a%20b");
     QTest::newRow("lonely percent sign") << QStringLiteral("https://example.org/100%")
                                          << QStringLiteral("https://example.org/100%25");
+    QTest::newRow("file of Windows")
+        << QStringLiteral("C:\\a b.html") << QStringLiteral("file:///C:/a%20b.html");
 }
 
 void TestLinkItem::shouldParseTheUrlTolerantly()
