@@ -4,12 +4,11 @@
 #include <tests/program/testprogram.h>
 
 #include <fishbone/exchange/diagramexchange.h>
-#include <fishbone/model/fishmodel.h>
 #include <fishbone/model/treeitem.h>
 
 #include <QBuffer>
-#include <QJsonDocument>
-#include <QJsonObject>
+#include <QDateTime>
+#include <QLocale>
 #include <QtTest>
 
 /** Text is the same whatever its lines end with and wherever it is written. */

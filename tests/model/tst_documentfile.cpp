@@ -44,7 +44,7 @@ void TestDocumentFile::shouldBoundTheLengthOfWhatItReplacedToo()
 {
     const QString device = QStringLiteral("con.") + QString(300, QLatin1Char('a'));
     const QString part = DocumentFile::namePart(device, System::Windows);
-    QCOMPARE(part.size(), 200);
+    QCOMPARE(int(part.size()), 200);
     QVERIFY(part.startsWith(QLatin1String("_con.")));
 }
 
