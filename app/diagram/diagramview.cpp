@@ -5,6 +5,7 @@
 
 #include <fishbone/drawing/lookinfo.h>
 
+#include <QGuiApplication>
 #include <QJsonDocument>
 #include <QSettings>
 
@@ -43,7 +44,10 @@ void DiagramView::store(QJsonObject &fields) const
 DiagramView DiagramView::usual()
 {
     const QByteArray stored = QSettings().value(usualKey()).toByteArray();
-    return of(QJsonDocument::fromJson(stored).object(), DiagramView());
+    DiagramView fresh;
+    // The fish swims to where the language reads.
+    fresh.options.isHeadLeft = QGuiApplication::isRightToLeft();
+    return of(QJsonDocument::fromJson(stored).object(), fresh);
 }
 
 void DiagramView::becomeUsual() const

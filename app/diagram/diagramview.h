@@ -20,7 +20,8 @@ struct DiagramView
     /** Stores it in @p fields, of which others stay as they are. */
     void store(QJsonObject &fields) const;
 
-    /** What the user has chosen last, for documents that tell no view. */
+    /** What the user has chosen last, for documents that tell no view. While nothing was chosen
+     * the head stands on the side that the language reads towards. */
     static DiagramView usual();
     /** Makes it the usual one, but for what suits one diagram alone: how it is arranged. */
     void becomeUsual() const;

@@ -18,8 +18,11 @@
 
 #include <QAbstractButton>
 #include <QDockWidget>
+#include <QGuiApplication>
 #include <QMainWindow>
 #include <QStackedWidget>
+
+#include <memory>
 
 namespace {
 void dressButton(const QDockWidget &dock, const char *name, const char *icon, const QString &text,
@@ -42,6 +45,45 @@ void dressTitle(const QDockWidget &dock)
                 WindowDocks::tr("Takes the panel out of the window, or back into it"));
     dressButton(dock, "qt_dockwidget_closebutton", "closepanel", WindowDocks::tr("Close"),
                 WindowDocks::tr("Closes the panel"));
+}
+
+/** Takes what stands on the left of @p window to the right, and the other way round. What floats,
+ * and what is stacked, stays so. */
+void mirror(QMainWindow &window)
+{
+    QList<QDockWidget *> moved;
+    QList<int> widths;
+    QList<QDockWidget *> stackedOn;
+    const QList<QDockWidget *> docks = window.findChildren<QDockWidget *>();
+    for (QDockWidget *dock : docks) {
+        const Qt::DockWidgetArea area = window.dockWidgetArea(dock);
+        const bool isBeside = area == Qt::LeftDockWidgetArea || area == Qt::RightDockWidgetArea;
+        if (!isBeside || dock->isFloating())
+            continue;
+        moved.append(dock);
+        widths.append(dock->width());
+        stackedOn.append(window.tabifiedDockWidgets(dock).value(0));
+    }
+    for (int i = 0; i < int(moved.size()); ++i) {
+        const bool isLeft = window.dockWidgetArea(moved.at(i)) == Qt::LeftDockWidgetArea;
+        window.addDockWidget(isLeft ? Qt::RightDockWidgetArea : Qt::LeftDockWidgetArea,
+                             moved.at(i));
+        if (moved.mid(0, i).contains(stackedOn.at(i)))
+            window.tabifyDockWidget(stackedOn.at(i), moved.at(i));
+    }
+    window.resizeDocks(moved, widths, Qt::Horizontal);
+}
+
+/** Has the panels of @p window stand where its language reads from and to. */
+void followDirection(QMainWindow *window)
+{
+    const auto isMirrored = std::make_shared<bool>(false);
+    Language::bind(window, [window, isMirrored] {
+        if (*isMirrored == QGuiApplication::isRightToLeft())
+            return;
+        *isMirrored = !*isMirrored;
+        mirror(*window);
+    });
 }
 } // namespace
 
@@ -66,6 +108,7 @@ WindowDocks::WindowDocks(QMainWindow *window, QAction *exportActions)
     window->resizeDocks({trees, m_detailsDock}, {240, 300}, Qt::Horizontal);
     window->resizeDocks({m_detailsDock, histories}, {500, 160}, Qt::Vertical);
     window->resizeDocks({trees, overview}, {500, 160}, Qt::Vertical);
+    followDirection(window);
     m_layout = new WindowLayout(window, {actions, histories, m_detailsDock, overview, trees});
 }
 

@@ -81,7 +81,7 @@ inline QHash<QString, QString> englishTexts()
 }
 
 /** The languages that translations/ has files of. */
-inline QStringList languages()
+inline QStringList translatedLanguages()
 {
     const QDir folder(TestSupport::sourceFile(QStringLiteral("translations")));
     QStringList names = folder.entryList({QStringLiteral("fishbone_*.ts")});

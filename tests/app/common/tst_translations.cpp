@@ -18,7 +18,7 @@ using namespace Translations;
 
 namespace {
 
-QString contentOf(const char *name)
+QString textOfFile(const char *name)
 {
     QFile file(TestSupport::sourceFile(QLatin1String(name)));
     return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
@@ -89,7 +89,7 @@ QChar endOf(const QString &text)
 }
 
 /** What the program replaces or looks for in a text, sorted. */
-QStringList marksOf(const QString &text)
+QStringList replacedIn(const QString &text)
 {
     static const QRegularExpression mark(
         QStringLiteral("%[0-9n]|\\[\\*\\]|<[a-z]+>|#rrggbb|\\*?\\.[a-z]{3,4}\\b|--[a-z]+|;;|\\n"));
@@ -137,7 +137,7 @@ private:
     static void addLanguages()
     {
         QTest::addColumn<QString>("language");
-        const QStringList all = languages();
+        const QStringList all = translatedLanguages();
         for (const QString &language : all)
             QTest::newRow(qPrintable(language)) << language;
     }
@@ -190,7 +190,7 @@ void TestTranslations::shouldKeepWhatTheProgramReplaces()
     QVERIFY(!all.isEmpty());
     for (const Text &text : all) {
         for (const QString &form : text.forms)
-            QVERIFY2(marksOf(form) == marksOf(text.source), qPrintable(text.name()));
+            QVERIFY2(replacedIn(form) == replacedIn(text.source), qPrintable(text.name()));
     }
 }
 
@@ -238,7 +238,7 @@ void TestTranslations::shouldBeOfferedAsALanguage()
     QVERIFY(!names.contains(QString()));
     QCOMPARE(names.size(), offered.size());
     offered.sort();
-    QCOMPARE(offered, languages());
+    QCOMPARE(offered, translatedLanguages());
 }
 
 void TestTranslations::shouldHoldTheSameTextsInEachLanguage()
@@ -273,12 +273,12 @@ void TestTranslations::shouldDescribeTheProgramInEachLanguage()
     if (language == QLatin1String("en"))
         return; // which stands there without a name of its own
     const QString code = language == QLatin1String("zh") ? QStringLiteral("zh_CN") : language;
-    const QString entry = contentOf("cmake/desktop/fishbone.desktop.in");
+    const QString entry = textOfFile("cmake/desktop/fishbone.desktop.in");
     for (const char *key : {"GenericName", "Comment", "Keywords"}) {
         const QString line = QStringLiteral("\n%1[%2]=").arg(QLatin1String(key), code);
         QVERIFY2(entry.count(line) == 1, qPrintable(line));
     }
-    const QString page = contentOf("cmake/desktop/fishbone.metainfo.xml.in");
+    const QString page = textOfFile("cmake/desktop/fishbone.metainfo.xml.in");
     const QString tag = QString(code).replace(QLatin1Char('_'), QLatin1Char('-'));
     for (const char *element : {"summary", "p", "li"}) {
         const QString plain = QStringLiteral("<%1>").arg(QLatin1String(element));
@@ -286,7 +286,7 @@ void TestTranslations::shouldDescribeTheProgramInEachLanguage()
         QVERIFY(page.contains(plain));
         QVERIFY2(page.count(own) == page.count(plain), qPrintable(own));
     }
-    QVERIFY(contentOf("translations/summaries.txt").count(QStringLiteral("\n%1: ").arg(code)) == 1);
+    QVERIFY(textOfFile("translations/summaries.txt").count(QStringLiteral("\n%1: ").arg(code)) == 1);
 }
 
 FISHBONE_GUILESS_TEST(TestTranslations)

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 
 #include <app/diagram/diagramview.h>
+
+#include <app/common/language.h>
 #include <tests/program/testprogram.h>
 
 #include <QSettings>
@@ -19,6 +21,7 @@ private Q_SLOTS:
     void shouldComeBackFromWhatItStored();
     void shouldLeaveOtherFieldsAlone();
     void shouldBeTheUsualOneWhenNothingIsStored();
+    void shouldHaveTheHeadWhereTheLanguageReadsTo();
     void shouldBecomeTheUsualOneWithoutThePage();
     void shouldTakeBackWhatWasArrangedForAPage();
 };
@@ -74,6 +77,18 @@ void TestDiagramView::shouldBeTheUsualOneWhenNothingIsStored()
     QVERIFY(DiagramView::of(unknown, arranged()) == arranged());
     QVERIFY(DiagramView::usual() == DiagramView());
     QCOMPARE(DiagramView::usual().look, DiagramLook::Clear);
+}
+
+void TestDiagramView::shouldHaveTheHeadWhereTheLanguageReadsTo()
+{
+    Language::install(QStringLiteral("ar"));
+    QVERIFY(DiagramView::usual().options.isHeadLeft);
+    DiagramView chosen;
+    chosen.becomeUsual();
+    QVERIFY(!DiagramView::usual().options.isHeadLeft); // as the user wants it
+    QSettings().clear();
+    Language::install(QString());
+    QVERIFY(!DiagramView::usual().options.isHeadLeft);
 }
 
 void TestDiagramView::shouldBecomeTheUsualOneWithoutThePage()

@@ -113,7 +113,8 @@ inline QStringList in(const QWidget &widget)
     const QList<QWidget *> all = widget.findChildren<QWidget *>();
     for (const QWidget *each : all) {
         const Fit fit = each->isVisible() ? fitOf(*each) : Fit();
-        if (!fit.text.isEmpty() && fit.width < fit.needed)
+        constexpr int rounding = 2; // of the widths of letters
+        if (!fit.text.isEmpty() && fit.width < fit.needed - rounding)
             cut.append(
                 QStringLiteral("%1 (%2 of %3)").arg(fit.text).arg(fit.width).arg(fit.needed));
     }

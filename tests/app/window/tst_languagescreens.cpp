@@ -6,10 +6,12 @@
 
 #include <app/common/language.h>
 
+#include <fishbone/items/textitem.h>
 #include <tests/program/testprogram.h>
 
 #include <QMenu>
 #include <QMenuBar>
+#include <QPointer>
 #include <QSettings>
 #include <QTranslator>
 
@@ -35,8 +37,8 @@ public:
         while (end > 0 && !text.at(end - 1).isLetterOrNumber())
             --end;
         QString longer;
-        for (int i = 0; i < (end * 2 + 4) / 5; ++i)
-            longer.append(i % 9 == 0 ? QLatin1Char(' ') : QLatin1Char('e'));
+        for (int i = 0; i < end * 2 / 5; ++i)
+            longer.append(QLatin1Char(" ererere"[i % 8]));
         return text.left(end) + longer + text.mid(end);
     }
 
@@ -45,17 +47,41 @@ private:
 };
 
 /** What is looked at: each language, and the one with long texts, which has no name. */
-QStringList languages()
+QStringList languagesToShow()
 {
     return Language::all() + QStringList{QString()};
+}
+
+const QSize smallScreen(1024, 700);
+
+/** What is wrong with @p shown, @p window or a dialog of it, in the language @p name. */
+QStringList faultsOf(const QWidget &shown, const MainWindow &window, const QString &name)
+{
+    QStringList faults;
+    if (shown.width() > smallScreen.width() || shown.height() > smallScreen.height())
+        faults.append(
+            QStringLiteral("%1: %2 x %3").arg(name).arg(shown.width()).arg(shown.height()));
+    const QStringList cut = CutTexts::in(shown);
+    for (const QString &text : cut)
+        faults.append(QStringLiteral("%1 cuts %2").arg(name, text));
+    QStringList texts = CutTexts::shown(shown);
+    if (&shown == &window) {
+        const QList<QAction *> menus = window.menuBar()->actions();
+        for (const QAction *menu : menus)
+            texts.append(menu->text());
+    }
+    const QStringList twice = CutTexts::doubleMnemonics(texts);
+    for (const QString &text : twice)
+        faults.append(QStringLiteral("%1 has %2").arg(name, text));
+    return faults;
 }
 
 } // namespace
 
 /**
  * The window, its panels and its dialogs in every language: no text is cut on a small screen, and
- * no menu key there is twice. The language changes under what is shown, which is what a user does
- * in View > Language, and gives what a start in it gives.
+ * no menu key there is twice. The language changes under the window, which is what a user does in
+ * View > Language, and gives what a start in it gives.
  */
 class TestLanguageScreens : public QObject
 {
@@ -68,9 +94,12 @@ private Q_SLOTS:
     void shouldCutNoTextInAnyLanguage_data();
     void shouldCutNoTextInAnyLanguage();
     void shouldGiveNoMnemonicTwiceInAMenu();
+    void shouldKeepWhatIsTypedInEachLanguage();
+    void shouldMirrorTheWindow();
+    void shouldWalkAsSeenInAMirroredWindow();
 
 private:
-    /** Shows @p language, one of languages(). */
+    /** Shows @p language, one of languagesToShow(). */
     void use(const QString &language);
 
     LongTexts m_long;
@@ -113,33 +142,26 @@ void TestLanguageScreens::shouldCutNoTextInAnyLanguage()
 {
     QFETCH(int, number);
     QSettings().clear();
-    const QSize size(1024, 700);
     AppFixture app;
-    Screens::prepare(app, size);
-    QWidget *const shown = Screens::all().at(number).show(app);
-    shown->resize(shown->size().boundedTo(size));
-    shown->show();
+    Screens::prepare(app, smallScreen);
+    const Screens::Screen screen = Screens::all().at(number);
+    QPointer<QWidget> shown;
     QStringList faults;
-    const QStringList all = languages();
+    const QStringList all = languagesToShow();
     QVERIFY(all.size() > 10);
     for (const QString &language : all) {
         use(language);
+        if (!shown)
+            shown = screen.show(app);
+        shown->resize(shown->size().boundedTo(smallScreen));
+        shown->show();
+        AppFixture::settle();
         const QString name = language.isEmpty() ? QStringLiteral("long texts") : language;
-        if (shown->width() > size.width() || shown->height() > size.height())
-            faults.append(
-                QStringLiteral("%1: %2 x %3").arg(name).arg(shown->width()).arg(shown->height()));
-        for (const QString &text : CutTexts::in(*shown))
-            faults.append(QStringLiteral("%1 cuts %2").arg(name, text));
-        QStringList texts = CutTexts::shown(*shown);
-        if (shown == &app.window) {
-            for (const QAction *menu : app.window.menuBar()->actions())
-                texts.append(menu->text());
-        }
-        for (const QString &twice : CutTexts::doubleMnemonics(texts))
-            faults.append(QStringLiteral("%1 has %2").arg(name, twice));
+        faults += faultsOf(*shown, app.window, name);
+        // What is modal hears of no other language while it is open, and is made anew.
+        if (shown != &app.window && !qobject_cast<ReplaceFindDialog *>(shown))
+            delete shown;
     }
-    if (shown != &app.window)
-        delete shown;
     for (const QString &fault : qAsConst(faults))
         qWarning().noquote() << fault; // each, where a comparison shows the first few
     QVERIFY(faults.isEmpty());
@@ -151,7 +173,7 @@ void TestLanguageScreens::shouldGiveNoMnemonicTwiceInAMenu()
     const QList<QMenu *> menus = window.findChildren<QMenu *>();
     QVERIFY(menus.size() >= 5);
     QStringList faults;
-    const QStringList all = languages();
+    const QStringList all = languagesToShow();
     for (const QString &language : all) {
         use(language);
         for (const QMenu *menu : menus) {
@@ -165,6 +187,76 @@ void TestLanguageScreens::shouldGiveNoMnemonicTwiceInAMenu()
     for (const QString &fault : qAsConst(faults))
         qWarning().noquote() << fault;
     QVERIFY(faults.isEmpty());
+}
+
+void TestLanguageScreens::shouldKeepWhatIsTypedInEachLanguage()
+{
+    QSettings().clear();
+    AppFixture app;
+    app.select("Machines");
+    app.trigger("details");
+    app.widget<QLineEdit>("detailsTitle")->setText(QStringLiteral("Engines"));
+    app.trigger("filter");
+    app.widget<QLineEdit>("filterText")->setText(QStringLiteral("ru"));
+    app.trigger("find");
+    auto *const dialog = app.window.findChild<ReplaceFindDialog *>();
+    dialog->searchField()->setText(QStringLiteral("zz"));
+    dialog->replacementField()->setText(QStringLiteral("Two"));
+    const QString before = app.text();
+    const QStringList all = languagesToShow();
+    for (const QString &language : all) {
+        use(language);
+        QCOMPARE(app.widget<QLineEdit>("detailsTitle")->text(), QStringLiteral("Engines"));
+        QCOMPARE(app.widget<QLineEdit>("filterText")->text(), QStringLiteral("ru"));
+        QCOMPARE(dialog->searchField()->text(), QStringLiteral("zz"));
+        QCOMPARE(dialog->replacementField()->text(), QStringLiteral("Two"));
+        QCOMPARE(app.text(), before);
+        QVERIFY(!app.document()->modified());
+        QCOMPARE(app.selectedInDrawing(), QStringList(QStringLiteral("Machines")));
+    }
+}
+
+void TestLanguageScreens::shouldMirrorTheWindow()
+{
+    QSettings().clear();
+    use(QStringLiteral("ar"));
+    AppFixture app;
+    const auto *const tree = app.window.findChild<QDockWidget *>(QStringLiteral("documentsDock"));
+    const auto *const details = app.window.findChild<QDockWidget *>(QStringLiteral("detailsDock"));
+    const auto *const view = app.window.editor()->view();
+    const auto left = [&app](const QWidget *widget) {
+        return widget->mapTo(&app.window, QPoint()).x();
+    };
+    QVERIFY(left(tree) > left(view));
+    QVERIFY(left(view) > left(details));
+    QVERIFY(app.window.tree()->isRightToLeft());
+    // The fish looks to the left, and its bones stand on its right.
+    const auto textAt = [](const SpearItem *spear) {
+        return spear->textItem()->sceneBoundingRect().center().x();
+    };
+    QVERIFY(textAt(app.window.editor()->headSpear()) < textAt(app.subject("People")->spear()));
+    const int width = tree->width();
+    use(QStringLiteral("en"));
+    QVERIFY(left(tree) < left(view));
+    QVERIFY(left(view) < left(details));
+    QVERIFY(qAbs(tree->width() - width) < 20);
+    QVERIFY(!app.window.tree()->isRightToLeft());
+    use(QStringLiteral("ar"));
+    QVERIFY(left(tree) > left(view));
+}
+
+void TestLanguageScreens::shouldWalkAsSeenInAMirroredWindow()
+{
+    QSettings().clear();
+    use(QStringLiteral("ar"));
+    AppFixture app;
+    app.trigger("expandall");
+    app.trigger("fit");
+    app.select("People");
+    QTest::keyClick(app.window.editor()->view(), Qt::Key_Left);
+    QCOMPARE(app.selectedInDrawing(), QStringList(QStringLiteral("Late")));
+    QTest::keyClick(app.window.editor()->view(), Qt::Key_Right);
+    QVERIFY(app.selectedInDrawing() != QStringList(QStringLiteral("Late")));
 }
 
 FISHBONE_TEST(TestLanguageScreens)
