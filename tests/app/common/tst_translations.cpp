@@ -286,7 +286,8 @@ void TestTranslations::shouldDescribeTheProgramInEachLanguage()
         QVERIFY(page.contains(plain));
         QVERIFY2(page.count(own) == page.count(plain), qPrintable(own));
     }
-    QVERIFY(textOfFile("translations/summaries.txt").count(QStringLiteral("\n%1: ").arg(code)) == 1);
+    QVERIFY(textOfFile("translations/summaries.txt").count(QStringLiteral("\n%1: ").arg(code)) ==
+            1);
 }
 
 FISHBONE_GUILESS_TEST(TestTranslations)
