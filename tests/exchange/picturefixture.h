@@ -22,7 +22,7 @@ namespace PictureFixture {
 
 using TestSupport::contentOf;
 
-using Format = PictureExport::Format;
+using PictureFormat = PictureExport::Format;
 using Error = PictureExport::Error;
 
 /** A red rectangle of 40 x 20 at (100, 50), without an outline. */
@@ -52,7 +52,8 @@ inline PictureOptions ofSize(const QSize &size)
     return options;
 }
 
-inline QByteArray rendered(QGraphicsScene &scene, Format format, const PictureOptions &options = {})
+inline QByteArray rendered(QGraphicsScene &scene, PictureFormat format,
+                           const PictureOptions &options = {})
 {
     QByteArray picture;
     return PictureExport::render(scene, format, options, picture) ? picture : QByteArray();
@@ -60,7 +61,7 @@ inline QByteArray rendered(QGraphicsScene &scene, Format format, const PictureOp
 
 inline QImage renderedPng(QGraphicsScene &scene, const PictureOptions &options = {})
 {
-    return QImage::fromData(rendered(scene, Format::Png, options), "PNG");
+    return QImage::fromData(rendered(scene, PictureFormat::Png, options), "PNG");
 }
 
 inline void writeFile(const QString &path, const QByteArray &content)

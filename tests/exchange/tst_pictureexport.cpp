@@ -111,25 +111,26 @@ void TestPictureExport::shouldTellTheFormatFromTheSuffix_data()
 {
     QTest::addColumn<QString>("fileName");
     QTest::addColumn<bool>("known");
-    QTest::addColumn<Format>("format");
+    QTest::addColumn<PictureFormat>("format");
 
-    QTest::newRow("png") << QStringLiteral("a/b.png") << true << Format::Png;
-    QTest::newRow("svg") << QStringLiteral("b.c.svg") << true << Format::Svg;
-    QTest::newRow("pdf") << QStringLiteral("b.pdf") << true << Format::Pdf;
-    QTest::newRow("capitals") << QStringLiteral("b.PnG") << true << Format::Png;
-    QTest::newRow("other suffix") << QStringLiteral("b.jpg") << false << Format::Png;
-    QTest::newRow("no suffix") << QStringLiteral("png") << false << Format::Png;
-    QTest::newRow("suffix of the folder") << QStringLiteral("a.png/b") << false << Format::Png;
-    QTest::newRow("empty") << QString() << false << Format::Png;
+    QTest::newRow("png") << QStringLiteral("a/b.png") << true << PictureFormat::Png;
+    QTest::newRow("svg") << QStringLiteral("b.c.svg") << true << PictureFormat::Svg;
+    QTest::newRow("pdf") << QStringLiteral("b.pdf") << true << PictureFormat::Pdf;
+    QTest::newRow("capitals") << QStringLiteral("b.PnG") << true << PictureFormat::Png;
+    QTest::newRow("other suffix") << QStringLiteral("b.jpg") << false << PictureFormat::Png;
+    QTest::newRow("no suffix") << QStringLiteral("png") << false << PictureFormat::Png;
+    QTest::newRow("suffix of the folder")
+        << QStringLiteral("a.png/b") << false << PictureFormat::Png;
+    QTest::newRow("empty") << QString() << false << PictureFormat::Png;
 }
 
 void TestPictureExport::shouldTellTheFormatFromTheSuffix()
 {
     QFETCH(QString, fileName);
     QFETCH(bool, known);
-    QFETCH(Format, format);
+    QFETCH(PictureFormat, format);
 
-    const std::optional<Format> told = PictureExport::formatOf(fileName);
+    const std::optional<PictureFormat> told = PictureExport::formatOf(fileName);
     QCOMPARE(told.has_value(), known);
     if (known)
         QCOMPARE(*told, format);
@@ -293,7 +294,7 @@ void TestPictureExport::shouldGiveTheSvgTheViewBoxOfTheDrawing()
     QGraphicsScene scene;
     addRedRectangle(scene);
 
-    const QByteArray svg = rendered(scene, Format::Svg);
+    const QByteArray svg = rendered(scene, PictureFormat::Svg);
     QSvgRenderer renderer(svg);
     QVERIFY(renderer.isValid());
     QCOMPARE(renderer.viewBoxF(), QRectF(0, 0, 80, 60));
@@ -305,7 +306,7 @@ void TestPictureExport::shouldGiveTheSvgTheViewBoxOfTheDrawing()
     QCOMPARE(image.pixelColor(2, 2), QColor(Qt::white));
     QCOMPARE(redPixels(image), QRect(20, 20, 40, 20));
 
-    const QByteArray sized = rendered(scene, Format::Svg, ofSize(QSize(300, 200)));
+    const QByteArray sized = rendered(scene, PictureFormat::Svg, ofSize(QSize(300, 200)));
     QCOMPARE(QSvgRenderer(sized).viewBoxF(), QRectF(0, 0, 300, 200));
 }
 
@@ -314,7 +315,7 @@ void TestPictureExport::shouldWriteTextIntoTheSvg()
     QGraphicsScene scene;
     scene.addItem(new QGraphicsTextItem(QStringLiteral("Fish & 鱼骨")));
 
-    const QByteArray svg = rendered(scene, Format::Svg);
+    const QByteArray svg = rendered(scene, PictureFormat::Svg);
     QCOMPARE(svgTexts(svg).join(QString()), QStringLiteral("Fish & 鱼骨"));
     QVERIFY(!svg.contains("<image"));
 }
@@ -326,7 +327,7 @@ void TestPictureExport::shouldEscapeTheTitleOfTheSvg()
     PictureOptions options;
     options.title = QStringLiteral("a < b & \"c\"");
 
-    QXmlStreamReader reader(rendered(scene, Format::Svg, options));
+    QXmlStreamReader reader(rendered(scene, PictureFormat::Svg, options));
     QString title;
     while (!reader.atEnd()) {
         if (reader.readNext() == QXmlStreamReader::StartElement &&
@@ -352,9 +353,9 @@ void TestPictureExport::shouldMakeThePdfsPageAsLargeAsTheDrawing()
             numbers.append(QString::number(number.toDouble()));
         return numbers.join(QLatin1Char(' '));
     };
-    QCOMPARE(mediaBox(rendered(scene, Format::Pdf)),
+    QCOMPARE(mediaBox(rendered(scene, PictureFormat::Pdf)),
              QStringLiteral("0 0 %1 %2").arg(pointsOf(80)).arg(pointsOf(60)));
-    QCOMPARE(mediaBox(rendered(scene, Format::Pdf, ofSize(QSize(1190, 1683)))), // nearly A4
+    QCOMPARE(mediaBox(rendered(scene, PictureFormat::Pdf, ofSize(QSize(1190, 1683)))), // nearly A4
              QStringLiteral("0 0 %1 %2").arg(pointsOf(1190)).arg(pointsOf(1683)));
 }
 
@@ -365,7 +366,7 @@ void TestPictureExport::shouldWriteTextIntoThePdf()
     PictureOptions options;
     options.title = QStringLiteral("Bones");
 
-    const QByteArray pdf = rendered(scene, Format::Pdf, options);
+    const QByteArray pdf = rendered(scene, PictureFormat::Pdf, options);
     QVERIFY(pdf.startsWith("%PDF-"));
     QVERIFY(pdf.contains("/ToUnicode"));
     QVERIFY(!pdf.contains("/Subtype /Image"));
@@ -385,7 +386,7 @@ void TestPictureExport::shouldDrawADiagramWithoutBitmaps()
     editor.setRootIndex(model.index(0, 0));
     editor.expandAll();
 
-    const QByteArray svg = rendered(*editor.scene(), Format::Svg);
+    const QByteArray svg = rendered(*editor.scene(), PictureFormat::Svg);
     QVERIFY(!svg.contains("<image"));
     const QStringList texts = svgTexts(svg);
     const TreeItem *const head = model.getFishHeadTreeItem();
@@ -393,7 +394,7 @@ void TestPictureExport::shouldDrawADiagramWithoutBitmaps()
         const QString shown = bone->title().left(6); // what fits even without a style file
         QVERIFY2(texts.join(QLatin1Char('\n')).contains(shown), qPrintable(shown));
     }
-    const QByteArray pdf = rendered(*editor.scene(), Format::Pdf);
+    const QByteArray pdf = rendered(*editor.scene(), PictureFormat::Pdf);
     QVERIFY(!pdf.contains("/Subtype /Image"));
 }
 

@@ -84,7 +84,7 @@ void TestPictureExportClear::shouldWriteASmallSvg()
     const auto fish = clearEditor();
     PictureOptions options;
     options.title = QStringLiteral("A <title>");
-    const QByteArray svg = rendered(*fish->editor.scene(), Format::Svg, options);
+    const QByteArray svg = rendered(*fish->editor.scene(), PictureFormat::Svg, options);
     QVERIFY(!isByTheToolkit(svg));
     const QStringList texts = textsIn(svg, "text");
     for (const char *line : {"Effect", "Man", "Training", "Once a year", "Never", "Two shifts",
@@ -116,13 +116,13 @@ void TestPictureExportClear::shouldWriteWhatTheSceneShows()
 {
     QFETCH(QString, selected);
     const auto fish = clearEditor();
-    const QByteArray plain = rendered(*fish->editor.scene(), Format::Svg);
+    const QByteArray plain = rendered(*fish->editor.scene(), PictureFormat::Svg);
     if (!selected.isEmpty()) {
         fish->select({selected});
         fish->editor.updateFish(false);
     }
     const QImage expected = renderedPng(*fish->editor.scene());
-    const QByteArray svg = rendered(*fish->editor.scene(), Format::Svg);
+    const QByteArray svg = rendered(*fish->editor.scene(), PictureFormat::Svg);
     QCOMPARE(svg == plain, selected.isEmpty());
     const QString program = QStandardPaths::findExecutable(QStringLiteral("rsvg-convert"));
     if (program.isEmpty())
@@ -141,14 +141,14 @@ void TestPictureExportClear::shouldWriteWhatTheSceneShows()
 void TestPictureExportClear::shouldSayHowManyAreHidden()
 {
     const auto fish = clearEditor(false);
-    const QStringList texts = textsIn(rendered(*fish->editor.scene(), Format::Svg), "text");
+    const QStringList texts = textsIn(rendered(*fish->editor.scene(), PictureFormat::Svg), "text");
     QVERIFY(texts.contains(QStringLiteral("+4")));
     QVERIFY(!texts.contains(QStringLiteral("Training")));
     // The button of an expanded bone is for the screen.
     const auto open = clearEditor();
     open->select({QStringLiteral("Man")});
     open->editor.updateFish(false);
-    const QStringList all = textsIn(rendered(*open->editor.scene(), Format::Svg), "text");
+    const QStringList all = textsIn(rendered(*open->editor.scene(), PictureFormat::Svg), "text");
     QVERIFY(all.filter(QStringLiteral("+")).isEmpty());
 }
 
@@ -157,7 +157,7 @@ void TestPictureExportClear::shouldHaveTheSizeOfTheOtherFormats()
     const auto fish = clearEditor();
     for (const PictureOptions &options : {PictureOptions(), scaledBy(2), ofSize(QSize(500, 300))}) {
         const QSize size = renderedPng(*fish->editor.scene(), options).size();
-        const QByteArray svg = rendered(*fish->editor.scene(), Format::Svg, options);
+        const QByteArray svg = rendered(*fish->editor.scene(), PictureFormat::Svg, options);
         QVERIFY(svg.contains("width=\"" + QByteArray::number(size.width()) + "\" height=\"" +
                              QByteArray::number(size.height()) + '"'));
     }
@@ -169,7 +169,8 @@ void TestPictureExportClear::shouldEndWhenCancelled()
     PictureOptions options;
     options.progress = [](int, int) { return false; };
     QByteArray svg;
-    const auto result = PictureExport::render(*fish->editor.scene(), Format::Svg, options, svg);
+    const auto result =
+        PictureExport::render(*fish->editor.scene(), PictureFormat::Svg, options, svg);
     QCOMPARE(result.error, Error::Cancelled);
     QVERIFY(svg.isEmpty());
     int last = 0;
@@ -179,7 +180,7 @@ void TestPictureExportClear::shouldEndWhenCancelled()
         whole = total;
         return true;
     };
-    QVERIFY(PictureExport::render(*fish->editor.scene(), Format::Svg, options, svg));
+    QVERIFY(PictureExport::render(*fish->editor.scene(), PictureFormat::Svg, options, svg));
     QCOMPARE(last, whole);
 }
 
@@ -203,7 +204,7 @@ void TestPictureExportClear::shouldLeaveOtherScenesToTheToolkit()
         new QGraphicsRectItem(QRectF(0, 0, 9, 9), fish->spear(QStringLiteral("Man")));
     else
         fish->spear(QStringLiteral("Man"))->setOpacity(0.5);
-    QVERIFY(isByTheToolkit(rendered(*editor.scene(), Format::Svg)));
+    QVERIFY(isByTheToolkit(rendered(*editor.scene(), PictureFormat::Svg)));
 }
 
 FISHBONE_TEST(TestPictureExportClear)

@@ -24,7 +24,7 @@
 
 namespace {
 
-using PictureFixture::Format;
+using PictureFixture::PictureFormat;
 
 constexpr int manyItems = 500;
 
@@ -90,7 +90,7 @@ QImage paintedBy(QGraphicsScene &scene, const QRectF &part)
 QImage exported(QGraphicsScene &scene)
 {
     QByteArray picture;
-    if (!PictureExport::render(scene, Format::Png, {}, picture))
+    if (!PictureExport::render(scene, PictureFormat::Png, {}, picture))
         return {};
     return QImage::fromData(picture).convertToFormat(QImage::Format_RGB32);
 }
@@ -182,15 +182,15 @@ void TestPictureExportProgress::shouldLeaveEffectsToTheScene()
 
 void TestPictureExportProgress::shouldReportWhatIsDone_data()
 {
-    QTest::addColumn<Format>("format");
-    QTest::newRow("png") << Format::Png;
-    QTest::newRow("svg") << Format::Svg;
-    QTest::newRow("pdf") << Format::Pdf;
+    QTest::addColumn<PictureFormat>("format");
+    QTest::newRow("png") << PictureFormat::Png;
+    QTest::newRow("svg") << PictureFormat::Svg;
+    QTest::newRow("pdf") << PictureFormat::Pdf;
 }
 
 void TestPictureExportProgress::shouldReportWhatIsDone()
 {
-    QFETCH(Format, format);
+    QFETCH(PictureFormat, format);
     QGraphicsScene scene;
     addSquares(scene, manyItems);
     QList<int> reports;
@@ -212,16 +212,16 @@ void TestPictureExportProgress::shouldReportWhatIsDone()
     QByteArray unwatched;
     options.progress = nullptr;
     QVERIFY(PictureExport::render(scene, format, options, unwatched));
-    if (format != Format::Pdf) // which holds the time
+    if (format != PictureFormat::Pdf) // which holds the time
         QCOMPARE(picture, unwatched);
 }
 
 void TestPictureExportProgress::shouldEndWhenCancelled_data()
 {
-    QTest::addColumn<Format>("format");
+    QTest::addColumn<PictureFormat>("format");
     QTest::addColumn<int>("after"); // the first answer that is no
-    const QList<QPair<const char *, Format>> formats{
-        {"png", Format::Png}, {"svg", Format::Svg}, {"pdf", Format::Pdf}};
+    const QList<QPair<const char *, PictureFormat>> formats{
+        {"png", PictureFormat::Png}, {"svg", PictureFormat::Svg}, {"pdf", PictureFormat::Pdf}};
     for (const auto &[name, format] : formats) {
         QTest::addRow("%s, at once", name) << format << 0;
         QTest::addRow("%s, half way", name) << format << 4;
@@ -231,7 +231,7 @@ void TestPictureExportProgress::shouldEndWhenCancelled_data()
 
 void TestPictureExportProgress::shouldEndWhenCancelled()
 {
-    QFETCH(Format, format);
+    QFETCH(PictureFormat, format);
     QFETCH(int, after);
     QGraphicsScene scene;
     addSquares(scene, manyItems);
@@ -253,12 +253,12 @@ void TestPictureExportProgress::shouldKeepTheOldFileWhenCancelled_data()
 
 void TestPictureExportProgress::shouldKeepTheOldFileWhenCancelled()
 {
-    QFETCH(Format, format);
+    QFETCH(PictureFormat, format);
     QFETCH(int, after);
     const QTemporaryDir folder;
-    const char *const suffix = format == Format::Png   ? "png"
-                               : format == Format::Svg ? "svg"
-                                                       : "pdf";
+    const char *const suffix = format == PictureFormat::Png   ? "png"
+                               : format == PictureFormat::Svg ? "svg"
+                                                              : "pdf";
     const QString path = folder.filePath(QStringLiteral("a.") + QLatin1String(suffix));
     {
         QFile file(path);
@@ -286,7 +286,7 @@ void TestPictureExportProgress::shouldLeaveTheSceneAsItWasWhenCancelled()
     PictureOptions options;
     options.progress = [](int, int) { return false; };
     QByteArray picture;
-    QVERIFY(!PictureExport::render(scene, Format::Png, options, picture));
+    QVERIFY(!PictureExport::render(scene, PictureFormat::Png, options, picture));
     QCOMPARE(scene.backgroundBrush(), QBrush(Qt::blue));
     QCOMPARE(paintedBy(scene, withMargin(scene)), before);
 }
@@ -318,7 +318,7 @@ void TestPictureExportProgress::shouldTellTheSizeBeforehand()
     QGraphicsScene scene;
     scene.addRect(QRectF(10, 20, 100, 50), QPen(Qt::NoPen), Qt::red);
     QByteArray picture;
-    if (PictureExport::render(scene, Format::Png, options, picture))
+    if (PictureExport::render(scene, PictureFormat::Png, options, picture))
         QCOMPARE(QSizeF(QImage::fromData(picture).size()), expected);
 }
 
@@ -334,7 +334,7 @@ void TestPictureExportProgress::shouldRefuseAnSvgThatIsTooLarge()
     PictureOptions options;
     options.progress = [&questions](int, int) { return ++questions > 0; };
     QByteArray picture;
-    const auto result = PictureExport::render(scene, Format::Svg, options, picture);
+    const auto result = PictureExport::render(scene, PictureFormat::Svg, options, picture);
     QCOMPARE(result.error, PictureExport::Error::TooLarge);
     QVERIFY(result.reason.contains(QLatin1String("512")));
     QCOMPARE(questions, 0);

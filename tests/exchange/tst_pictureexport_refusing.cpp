@@ -57,7 +57,8 @@ void TestPictureExportRefusing::shouldRefuseBadOptions()
     QGraphicsScene scene;
     addRedRectangle(scene);
 
-    for (const Format format : {Format::Png, Format::Svg, Format::Pdf}) {
+    for (const PictureFormat format :
+         {PictureFormat::Png, PictureFormat::Svg, PictureFormat::Pdf}) {
         QByteArray picture("old");
         const auto result = PictureExport::render(scene, format, options, picture);
         QCOMPARE(result.error, Error::BadOptions);
@@ -72,31 +73,31 @@ void TestPictureExportRefusing::shouldRefuseADrawingWithoutHeightThatHasNoMargin
     scene.addLine(0, 0, 40, 0, QPen(Qt::red, 0));
 
     QByteArray picture("old");
-    const auto result = PictureExport::render(scene, Format::Png, withMargin(0), picture);
+    const auto result = PictureExport::render(scene, PictureFormat::Png, withMargin(0), picture);
     QCOMPARE(result.error, Error::BadOptions);
     QVERIFY(!result.reason.isEmpty());
     QVERIFY(picture.isEmpty());
 
-    QVERIFY(PictureExport::render(scene, Format::Png, withMargin(1), picture));
+    QVERIFY(PictureExport::render(scene, PictureFormat::Png, withMargin(1), picture));
 }
 
 void TestPictureExportRefusing::shouldRefuseWhatIsTooLarge_data()
 {
-    QTest::addColumn<Format>("format");
+    QTest::addColumn<PictureFormat>("format");
     QTest::addColumn<PictureOptions>("options");
 
-    QTest::newRow("wide png") << Format::Png << ofSize(QSize(32768, 10));
-    QTest::newRow("high png") << Format::Png << ofSize(QSize(10, 32768));
-    QTest::newRow("large png") << Format::Png << ofSize(QSize(20000, 20000)); // 1.5 GiB
-    QTest::newRow("scaled png") << Format::Png << scaledBy(1e4);
-    QTest::newRow("pdf") << Format::Pdf << ofSize(QSize(30000, 10));
-    QTest::newRow("svg") << Format::Svg << scaledBy(1e6);
-    QTest::newRow("beyond all numbers") << Format::Svg << scaledBy(1e300);
+    QTest::newRow("wide png") << PictureFormat::Png << ofSize(QSize(32768, 10));
+    QTest::newRow("high png") << PictureFormat::Png << ofSize(QSize(10, 32768));
+    QTest::newRow("large png") << PictureFormat::Png << ofSize(QSize(20000, 20000)); // 1.5 GiB
+    QTest::newRow("scaled png") << PictureFormat::Png << scaledBy(1e4);
+    QTest::newRow("pdf") << PictureFormat::Pdf << ofSize(QSize(30000, 10));
+    QTest::newRow("svg") << PictureFormat::Svg << scaledBy(1e6);
+    QTest::newRow("beyond all numbers") << PictureFormat::Svg << scaledBy(1e300);
 }
 
 void TestPictureExportRefusing::shouldRefuseWhatIsTooLarge()
 {
-    QFETCH(Format, format);
+    QFETCH(PictureFormat, format);
     QFETCH(PictureOptions, options);
     QGraphicsScene scene;
     addRedRectangle(scene);
@@ -110,17 +111,17 @@ void TestPictureExportRefusing::shouldRefuseWhatIsTooLarge()
 
 void TestPictureExportRefusing::shouldSayWhichScaleFits_data()
 {
-    QTest::addColumn<Format>("format");
+    QTest::addColumn<PictureFormat>("format");
     QTest::addColumn<QSizeF>("size");
-    QTest::newRow("wide png") << Format::Png << QSizeF(100000, 50);
-    QTest::newRow("large png") << Format::Png << QSizeF(30000, 30000);
-    QTest::newRow("pdf") << Format::Pdf << QSizeF(100, 90000);
-    QTest::newRow("svg") << Format::Svg << QSizeF(3e6, 100);
+    QTest::newRow("wide png") << PictureFormat::Png << QSizeF(100000, 50);
+    QTest::newRow("large png") << PictureFormat::Png << QSizeF(30000, 30000);
+    QTest::newRow("pdf") << PictureFormat::Pdf << QSizeF(100, 90000);
+    QTest::newRow("svg") << PictureFormat::Svg << QSizeF(3e6, 100);
 }
 
 void TestPictureExportRefusing::shouldSayWhichScaleFits()
 {
-    QFETCH(Format, format);
+    QFETCH(PictureFormat, format);
     QFETCH(QSizeF, size);
     const double factor = PictureExport::fittingFactor(format, size);
     QVERIFY(factor > 0 && factor < 1);
@@ -144,7 +145,7 @@ void TestPictureExportRefusing::shouldRefuseAnEmptyScene()
     addRedRectangle(scene)->setVisible(false);
 
     QByteArray picture;
-    const auto result = PictureExport::render(scene, Format::Png, {}, picture);
+    const auto result = PictureExport::render(scene, PictureFormat::Png, {}, picture);
     QCOMPARE(result.error, Error::NothingToDraw);
     QVERIFY(!result);
     QVERIFY(!result.reason.isEmpty());
@@ -169,7 +170,7 @@ void TestPictureExportRefusing::shouldRefuseANumberThatIsNoFormat()
     addRedRectangle(scene);
 
     QByteArray picture("old");
-    const auto result = PictureExport::render(scene, static_cast<Format>(3), {}, picture);
+    const auto result = PictureExport::render(scene, static_cast<PictureFormat>(3), {}, picture);
     QCOMPARE(result.error, Error::UnknownFormat);
     QVERIFY(!result.reason.isEmpty());
     QVERIFY(picture.isEmpty());
