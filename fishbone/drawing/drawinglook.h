@@ -19,7 +19,7 @@ public:
     virtual void size(const SpearTree &tree) const = 0;
     /** Places all spears of @p tree and their companions. */
     virtual void place(const SpearTree &tree) const = 0;
-    /** Whether an unchanged tree is placed as it stands: nothing but what SpearItem::Measures tells
+    /** Whether an unchanged tree is placed as it stands: nothing but what SettledDrawing compares
      * has a part in the layout. */
     virtual bool isSettled() const { return true; }
 };
