@@ -66,12 +66,12 @@ void DocumentLook::show()
     FishEditor *const editor = m_session->editor();
     const bool isClear = m_view.look == DiagramLook::Clear;
     DiagramLook::Options options = m_view.options;
-    if (m_theme->isDark() && options.palette == DiagramLook::DistinctColors)
-        options.palette = DiagramLook::DarkColors;
+    if (m_theme->isDark())
+        options.palette = DiagramLook::onDark(options.palette);
     editor->setLookOptions(options);
     if (editor->look() != m_view.look)
         editor->setLook(m_view.look);
-    const bool isDark = isClear ? options.palette == DiagramLook::DarkColors : m_theme->isDark();
+    const bool isDark = isClear ? DiagramLook::isDark(options.palette) : m_theme->isDark();
     editor->view()->setBackgroundBrush(CanvasTheme::canvasColor(isDark));
     m_session->touch();
 }

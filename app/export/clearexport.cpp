@@ -9,7 +9,7 @@ namespace ClearExport {
 
 QColor paperOf(DiagramLook::Palette palette)
 {
-    return palette == DiagramLook::DarkColors ? QColor(0x1e, 0x21, 0x26) : QColor(Qt::white);
+    return DiagramLook::isDark(palette) ? QColor(0x1e, 0x21, 0x26) : QColor(Qt::white);
 }
 
 PictureOptions suited(PictureOptions options, const DiagramLook::Options &look)

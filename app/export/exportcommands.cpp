@@ -101,8 +101,8 @@ void ExportCommands::updateActions()
 DiagramView ExportCommands::shownView() const
 {
     DiagramView view{m_editor->look(), QString(), m_editor->lookOptions()};
-    if (m_theme->isDark() && view.options.palette == DiagramLook::DarkColors)
-        view.options.palette = DiagramLook::DistinctColors; // which are dark for the canvas alone
+    if (m_theme->isDark()) // the colours are dark for the canvas alone
+        view.options.palette = DiagramLook::onPaper(view.options.palette);
     return view;
 }
 

@@ -25,8 +25,8 @@ namespace {
 DiagramLook::Options optionsOn(const QColor &canvas, DiagramLook::Options options)
 {
     constexpr int dark = 128;
-    options.palette =
-        canvas.lightness() < dark ? DiagramLook::DarkColors : DiagramLook::DistinctColors;
+    options.palette = canvas.lightness() < dark ? DiagramLook::onDark(options.palette)
+                                                : DiagramLook::onPaper(options.palette);
     options.hasButtons = false;
     options.hasLegend = false;
     return options;

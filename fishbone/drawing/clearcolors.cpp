@@ -23,6 +23,13 @@ constexpr Colors warm{0xffa34308, 0xff7a5c00, 0xff8c1d50, 0xff5d4037, 0xff8a5a00
 constexpr Colors cool{0xff1f6fb4, 0xff00695c, 0xff27348b, 0xff0f7c86, 0xff455a64,
                       0xff2f5fa8, 0xff2e6b3f, 0xff4a4fa3, 0xff006978, 0xff1d3f6e};
 
+constexpr Colors darkGray{0xffc8c8c8, 0xffa0a0a0, 0xffb8b8b8, 0xff989898, 0xffd4d4d4,
+                          0xffacacac, 0xffbebebe, 0xff9c9c9c, 0xffc2c2c2, 0xff949494};
+constexpr Colors darkWarm{0xfff0a070, 0xffe8c468, 0xfff092a4, 0xffd8b088, 0xfff2b84b,
+                          0xffe39ac0, 0xfff4b79a, 0xffd6c47c, 0xfff4a0a0, 0xffdda15e};
+constexpr Colors darkCool{0xff7db8ee, 0xff5fd0c0, 0xffa9b3ee, 0xff6fc9d6, 0xffb0c4ce,
+                          0xff9cc3f0, 0xff86cfa0, 0xffbcb8f4, 0xff60cbe0, 0xffa0d0c8};
+
 /** All colours that a palette has of its own. */
 struct Scheme
 {
@@ -34,12 +41,15 @@ struct Scheme
 };
 
 // In the order of DiagramLook::Palette.
-constexpr std::array<Scheme, 5> schemes{{
+constexpr std::array<Scheme, 8> schemes{{
     {distinct, 0xffd8f0e4, 0xff8fd6b4, 0xff23935d, 0xff3cb879},
     {gray, 0xffe8e8e8, 0xffc8c8c8, 0xff505050, 0xff808080},
     {dark, 0xff1f4a36, 0xff2f6e52, 0xff63c795, 0xff3cb879},
     {warm, 0xfffbe6d4, 0xfff0b48a, 0xffb8480f, 0xffd9793f},
     {cool, 0xffdbe9f6, 0xff9cc3e6, 0xff2b6cb0, 0xff5b9bd5},
+    {darkGray, 0xff3a3a3a, 0xff5a5a5a, 0xffb0b0b0, 0xff909090},
+    {darkWarm, 0xff4a2a17, 0xff7a4526, 0xffe8945a, 0xffd9793f},
+    {darkCool, 0xff1c3450, 0xff2d547d, 0xff7db8ee, 0xff5b9bd5},
 }};
 
 const Scheme &schemeOf(DiagramLook::Palette palette)
@@ -119,7 +129,7 @@ QColor ClearColors::badgeInk() const
 QColor ClearColors::rootCause() const
 {
     if (isGray())
-        return QColor(0x202020);
+        return isDark() ? QColor(0xe8e8e8) : QColor(0x202020);
     return isDark() ? QColor(0xf28b82) : QColor(0xb3261e);
 }
 

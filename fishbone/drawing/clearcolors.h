@@ -40,8 +40,8 @@ public:
     static qreal contrast(const QColor &one, const QColor &other);
 
 private:
-    bool isDark() const { return m_palette == DiagramLook::DarkColors; }
-    bool isGray() const { return m_palette == DiagramLook::GrayColors; }
+    bool isDark() const { return DiagramLook::isDark(m_palette); }
+    bool isGray() const { return DiagramLook::onPaper(m_palette) == DiagramLook::GrayColors; }
 
     DiagramLook::Palette m_palette;
 };

@@ -28,9 +28,10 @@ const QLatin1String legendKey("legend");
 const QLatin1String sidesNames[] = {QLatin1String("one"), QLatin1String("uneven"),
                                     QLatin1String("both")};
 const QLatin1String headNames[] = {QLatin1String("right"), QLatin1String("left")};
-const QLatin1String paletteNames[] = {QLatin1String("colour"), QLatin1String("gray"),
-                                      QLatin1String("dark"), QLatin1String("warm"),
-                                      QLatin1String("cool")};
+const QLatin1String paletteNames[] = {QLatin1String("colour"),    QLatin1String("gray"),
+                                      QLatin1String("dark"),      QLatin1String("warm"),
+                                      QLatin1String("cool"),      QLatin1String("dark-gray"),
+                                      QLatin1String("dark-warm"), QLatin1String("dark-cool")};
 
 /** The number of the name in @p value, @p fallback when it is none of @p names. */
 template <std::size_t count>

@@ -34,7 +34,48 @@ public:
         DarkColors = 2,     ///< for dark canvases
         WarmColors = 3,     ///< reds, oranges and browns, head and backbone as well
         CoolColors = 4,     ///< blues and greens, head and backbone as well
+        DarkGrayColors = 5, ///< GrayColors for dark canvases
+        DarkWarmColors = 6, ///< WarmColors for dark canvases
+        DarkCoolColors = 7, ///< CoolColors for dark canvases
     };
+
+    /** Whether @p palette is for dark canvases. */
+    static constexpr bool isDark(Palette palette)
+    {
+        return palette == DarkColors || palette >= DarkGrayColors;
+    }
+    /** What @p palette is on a dark canvas: the same for one that is made for it. */
+    static constexpr Palette onDark(Palette palette)
+    {
+        switch (palette) {
+        case DistinctColors:
+            return DarkColors;
+        case GrayColors:
+            return DarkGrayColors;
+        case WarmColors:
+            return DarkWarmColors;
+        case CoolColors:
+            return DarkCoolColors;
+        default:
+            return palette;
+        }
+    }
+    /** What @p palette is on paper: the same for one that is made for it. */
+    static constexpr Palette onPaper(Palette palette)
+    {
+        switch (palette) {
+        case DarkColors:
+            return DistinctColors;
+        case DarkGrayColors:
+            return GrayColors;
+        case DarkWarmColors:
+            return WarmColors;
+        case DarkCoolColors:
+            return CoolColors;
+        default:
+            return palette;
+        }
+    }
 
     /** What can be chosen of the clear look; the classic one has no options. */
     struct FISHBONE_EXPORT Options

@@ -35,13 +35,13 @@ QByteArray button(const char *id, const QString &text, const QString &hint)
 DiagramLook::Palette darkPalette(const ClearColors &colors)
 {
     return colors.palette() == DiagramLook::GrayColors ? DiagramLook::GrayColors
-                                                       : DiagramLook::DarkColors;
+                                                       : DiagramLook::onDark(colors.palette());
 }
 
 /** What puts a drawing in grey, which is made for white paper, on such a paper in the dark. */
 QByteArray paperFor(const ClearColors &colors)
 {
-    if (darkPalette(colors) == DiagramLook::DarkColors)
+    if (DiagramLook::isDark(darkPalette(colors)))
         return {};
     return "main > svg { background: " + colors.paper().name().toLatin1() + "; }\n";
 }

@@ -368,7 +368,11 @@ void TestClearLook::shouldKeepEveryTextReadable_data()
     QTest::newRow("gray") << int(DiagramLook::GrayColors) << QColor(Qt::white);
     QTest::newRow("warm") << int(DiagramLook::WarmColors) << QColor(Qt::white);
     QTest::newRow("cool") << int(DiagramLook::CoolColors) << QColor(Qt::white);
-    QTest::newRow("dark") << int(DiagramLook::DarkColors) << QColor(0x1e, 0x1e, 0x22);
+    const QColor canvas(0x1e, 0x1e, 0x22);
+    QTest::newRow("dark") << int(DiagramLook::DarkColors) << canvas;
+    QTest::newRow("dark gray") << int(DiagramLook::DarkGrayColors) << canvas;
+    QTest::newRow("dark warm") << int(DiagramLook::DarkWarmColors) << canvas;
+    QTest::newRow("dark cool") << int(DiagramLook::DarkCoolColors) << canvas;
 }
 
 void TestClearLook::shouldKeepEveryTextReadable()
@@ -378,6 +382,7 @@ void TestClearLook::shouldKeepEveryTextReadable()
     const ClearColors colors{DiagramLook::Palette(palette)};
     for (int category = 0; category < 20; ++category) {
         QVERIFY(contrast(colors.ink(1), colors.category(category)) >= 4.5);
+        QVERIFY(contrast(colors.category(category), canvas) >= 3); // the lines
         QVERIFY(colors.category(category) != colors.category(category + 1));
     }
     QVERIFY(contrast(colors.ink(0), colors.head()) >= 4.5);

@@ -45,6 +45,12 @@ void TestDiagramLook::shouldCompareAndStoreEachOption_data()
     QTest::newRow("dark") << Change([](Options &o) { o.palette = DiagramLook::DarkColors; });
     QTest::newRow("warm") << Change([](Options &o) { o.palette = DiagramLook::WarmColors; });
     QTest::newRow("cool") << Change([](Options &o) { o.palette = DiagramLook::CoolColors; });
+    QTest::newRow("dark gray") << Change(
+        [](Options &o) { o.palette = DiagramLook::DarkGrayColors; });
+    QTest::newRow("dark warm") << Change(
+        [](Options &o) { o.palette = DiagramLook::DarkWarmColors; });
+    QTest::newRow("dark cool") << Change(
+        [](Options &o) { o.palette = DiagramLook::DarkCoolColors; });
     QTest::newRow("buttons") << Change([](Options &o) { o.hasButtons = false; });
     QTest::newRow("legend") << Change([](Options &o) { o.hasLegend = true; });
 }

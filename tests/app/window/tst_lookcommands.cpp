@@ -340,12 +340,20 @@ void TestLookCommands::shouldAdaptToADarkCanvas()
     QCOMPARE(options(app).palette, DiagramLook::DarkColors);
     QVERIFY(view->backgroundBrush().color().lightness() < 60);
     QVERIFY(app.action("paletteColours")->isChecked()); // is what was chosen
-    app.trigger("paletteGray");                         // which is for paper
-    QVERIFY(view->backgroundBrush().color().lightness() > 200);
+    // No palette lights up a window that is dark.
+    for (const char *name : {"paletteGray", "paletteWarm", "paletteCool", "paletteDark"}) {
+        app.trigger(name);
+        QVERIFY2(view->backgroundBrush().color().lightness() < 60, name);
+        QVERIFY(DiagramLook::isDark(options(app).palette));
+        QVERIFY(app.action(name)->isChecked());
+    }
+    app.trigger("paletteWarm");
+    QCOMPARE(options(app).palette, DiagramLook::DarkWarmColors);
+    QCOMPARE(app.document()->view().value(QStringLiteral("palette")), QStringLiteral("warm"));
     app.trigger("lookClassic");
     QVERIFY(view->backgroundBrush().color().lightness() < 60);
-    app.trigger("undo");
-    app.trigger("undo");
+    for (int step = 0; step < 6; ++step)
+        app.trigger("undo");
     app.window.setPalette(light);
     AppFixture::settle();
     QCOMPARE(options(app).palette, DiagramLook::DistinctColors);
