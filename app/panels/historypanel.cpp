@@ -13,6 +13,8 @@
 #include <QKeyEvent>
 #include <QSignalBlocker>
 
+#include <iterator>
+
 namespace {
 
 constexpr int stepRole = Qt::UserRole; ///< the command that a row goes to
@@ -36,20 +38,19 @@ HistoryPanel::HistoryPanel(DiagramSession *session, QWidget *parent)
     setUniformRowHeights(true);
     setExpandsOnDoubleClick(false); // which would fold what the first click has chosen
     const UndoStack *const stack = session->editor()->undoStack();
-    connect(stack, &UndoStack::stackChanged, this, &HistoryPanel::refresh);
+    connect(stack, &UndoStack::stackChanged, this, [this] {
+        countSteps();
+        refresh();
+    });
     connect(stack, &UndoStack::currentChanged, this, &HistoryPanel::refresh);
     // A new subject gets its title within the step that inserted it.
     connect(session, &DiagramSession::stateChanged, this, &HistoryPanel::refresh);
     connect(this, &QTreeWidget::currentItemChanged, this, &HistoryPanel::goTo);
     connect(this, &QTreeWidget::itemClicked, this, &HistoryPanel::goTo);
-    connect(this, &QTreeWidget::itemExpanded, this, [this](const QTreeWidgetItem *row) {
-        m_unfolded.insert(row->child(0)->data(0, stepRole).toInt());
-        showCurrent();
-    });
-    connect(this, &QTreeWidget::itemCollapsed, this, [this](const QTreeWidgetItem *row) {
-        m_unfolded.remove(row->child(0)->data(0, stepRole).toInt());
-        showCurrent();
-    });
+    connect(this, &QTreeWidget::itemExpanded, this,
+            [this](const QTreeWidgetItem *row) { keepFolding(row, true); });
+    connect(this, &QTreeWidget::itemCollapsed, this,
+            [this](const QTreeWidgetItem *row) { keepFolding(row, false); });
     Language::bind(this, [this] { refresh(); });
 }
 
@@ -73,6 +74,41 @@ std::vector<HistoryPanel::Run> HistoryPanel::runsOf(const QStringList &names)
     return runs;
 }
 
+/** After a command was added: those that were undone are gone, and at the bound the oldest one, by
+ * which the places of all others are one less. */
+void HistoryPanel::countSteps()
+{
+    const int kept = m_current + 1;
+    const int count = m_session->editor()->undoStack()->count();
+    const int end = m_gone + kept;
+    for (auto step = m_unfolded.begin(); step != m_unfolded.end();)
+        step = count == 0 || *step >= end ? m_unfolded.erase(step) : std::next(step);
+    m_gone = count == 0 ? 0 : m_gone + qMax(0, kept + 1 - count);
+}
+
+/** Remembers whether the run of @p row is unfolded. */
+void HistoryPanel::keepFolding(const QTreeWidgetItem *row, bool isUnfolded)
+{
+    for (int i = 0; i < row->childCount(); ++i) {
+        const int step = m_gone + row->child(i)->data(0, stepRole).toInt();
+        if (isUnfolded)
+            m_unfolded.insert(step);
+        else
+            m_unfolded.remove(step);
+    }
+    showCurrent();
+}
+
+/** Whether the user has unfolded @p run, or what it was before it grew or its beginning went. */
+bool HistoryPanel::isUnfolded(const Run &run) const
+{
+    for (int step = run.first; step < run.first + run.length; ++step) {
+        if (m_unfolded.contains(m_gone + step))
+            return true;
+    }
+    return false;
+}
+
 void HistoryPanel::refresh()
 {
     const QSignalBlocker blocker(this);
@@ -80,8 +116,7 @@ void HistoryPanel::refresh()
     const QStringList names = stack->commandNames();
     const QStringList steps = StepNames::of(*stack);
     const std::vector<Run> runs = runsOf(names);
-    if (runs.empty())
-        m_unfolded.clear();
+    m_current = currentStep(*stack);
     if (topLevelItemCount() == 0 || runs != m_runs)
         build(runs);
     write(topLevelItem(0), beginning, tr("(beginning)"));
@@ -116,7 +151,7 @@ void HistoryPanel::build(const std::vector<Run> &runs)
     addTopLevelItems(rows); // which owns them
     setRootIsDecorated(hasFolded);
     for (int i = 0; i < int(runs.size()); ++i) {
-        if (m_unfolded.contains(runs[std::size_t(i)].first))
+        if (isUnfolded(runs[std::size_t(i)]))
             topLevelItem(i + 1)->setExpanded(true);
     }
 }

@@ -45,6 +45,9 @@ private:
 
     static std::vector<Run> runsOf(const QStringList &names);
     void refresh();
+    void countSteps();
+    void keepFolding(const QTreeWidgetItem *row, bool isUnfolded);
+    bool isUnfolded(const Run &run) const;
     void build(const std::vector<Run> &runs);
     void write(QTreeWidgetItem *row, int step, const QString &text);
     void showRun(QTreeWidgetItem *row, const Run &run, const QString &name);
@@ -54,5 +57,7 @@ private:
 
     DiagramSession *m_session;
     std::vector<Run> m_runs; ///< as they are shown
-    QSet<int> m_unfolded;    ///< the first commands of the runs that the user has unfolded
+    int m_current = -1;      ///< the command that counts last
+    int m_gone = 0;          ///< how many commands have fallen off at the bound
+    QSet<int> m_unfolded;    ///< the steps of unfolded runs, counted from the very first one
 };

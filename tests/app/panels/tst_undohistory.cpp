@@ -51,6 +51,8 @@ private Q_SLOTS:
     void shouldGoOnUndoingBeyondTheBound();
     void shouldFoldStepsOfOneKind();
     void shouldKeepARunUnfolded();
+    void shouldKeepARunUnfoldedWhoseBeginningFallsOff();
+    void shouldFoldARunInThePlaceOfAnother();
 };
 
 void TestUndoHistory::initTestCase()
@@ -274,6 +276,55 @@ void TestUndoHistory::shouldKeepARunUnfolded()
     QCOMPARE(currentRow(*list), 2);
     app.trigger("undo");
     QCOMPARE(list->currentItem(), list->topLevelItem(1)->child(3));
+}
+
+/** At the bound of the history the first step goes with each new one: the rest moves up. */
+void TestUndoHistory::shouldKeepARunUnfoldedWhoseBeginningFallsOff()
+{
+    AppFixture app;
+    app.select("Machines");
+    for (int i = 0; i < 5; ++i)
+        app.trigger("voteMore");
+    app.trigger("verdictSuspected");
+    for (int i = 0; i < 4; ++i)
+        app.trigger("voteMore");
+    auto *const list = app.widget<QTreeWidget>("history");
+    list->setFocus();
+    list->topLevelItem(1)->setExpanded(true);
+    QVERIFY(!list->topLevelItem(3)->isExpanded());
+    bool isConfirmed = true;
+    const auto pushUntil = [&](const char *first) {
+        for (int i = 0; i < 2 * UndoStack::m_limit && rows(*list).at(1) != QLatin1String(first);
+             ++i) {
+            app.trigger(isConfirmed ? "verdictConfirmed" : "verdictSuspected");
+            isConfirmed = !isConfirmed;
+        }
+        QCOMPARE(rows(*list).at(1), QLatin1String(first));
+    };
+    pushUntil("Vote (3 times)"); // two of the five are gone
+    QVERIFY(list->topLevelItem(1)->isExpanded());
+    QCOMPARE(rows(*list).mid(3, 1), QStringList(QStringLiteral("Vote (4 times)")));
+    QVERIFY(!list->topLevelItem(3)->isExpanded());
+    pushUntil("Vote (4 times)"); // what comes in the place of the run is folded
+    QVERIFY(!list->topLevelItem(1)->isExpanded());
+}
+
+void TestUndoHistory::shouldFoldARunInThePlaceOfAnother()
+{
+    AppFixture app;
+    app.select("Machines");
+    for (int i = 0; i < 3; ++i)
+        app.trigger("voteMore");
+    auto *const list = app.widget<QTreeWidget>("history");
+    list->topLevelItem(1)->setExpanded(true);
+    for (int i = 0; i < 3; ++i)
+        app.trigger("undo");
+    QVERIFY(list->topLevelItem(1)->isExpanded()); // it can be redone
+    app.select("Rust");
+    for (int i = 0; i < 3; ++i)
+        app.trigger("voteMore");
+    QCOMPARE(rows(*list).mid(1), QStringList(QStringLiteral("Vote (3 times)")));
+    QVERIFY(!list->topLevelItem(1)->isExpanded());
 }
 
 FISHBONE_TEST(TestUndoHistory)
