@@ -107,6 +107,10 @@ void TitleEditor::place()
         close();
         return;
     }
+    if (!subject->spear()->isVisible()) { // contracted: taken, but not while it is painted
+        QMetaObject::invokeMethod(this, &TitleEditor::finish, Qt::QueuedConnection);
+        return;
+    }
     const TextItem *const title = subject->spear()->textItem();
     const QRect box =
         m_editor->view()->mapFromScene(title->mapToScene(title->boundingRect())).boundingRect();

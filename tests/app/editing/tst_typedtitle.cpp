@@ -29,6 +29,10 @@ private Q_SLOTS:
     void shouldOpenNoFieldForOtherKeys();
     void shouldOpenNoFieldWithoutASelection();
     void shouldBuildADiagramByKeyboardAlone();
+    void shouldCloseWithItsBone_data();
+    void shouldCloseWithItsBone();
+    void shouldTakeTheTitleOfABoneThatIsContracted();
+    void shouldCloseWithItsDocument();
 };
 
 void TestTypedTitle::initTestCase()
@@ -244,6 +248,79 @@ void TestTypedTitle::shouldBuildADiagramByKeyboardAlone()
     press(Qt::Key_Right, Qt::ControlModifier);
     press(Qt::Key_Delete);
     QCOMPARE(app.text(), QStringLiteral("slow[rooms[winter[cold]],tools]"));
+}
+
+void TestTypedTitle::shouldCloseWithItsBone_data()
+{
+    QTest::addColumn<QString>("before"); // what makes or selects the bone
+    QTest::addColumn<QString>("action"); // what takes it away, by the menu
+    QTest::addColumn<QString>("left");
+    const QString whole =
+        QStringLiteral("Late[People[Too few[Illness],Too new],Machines,Material[Rust]]");
+    const QString none;
+    QTest::newRow("deleted") << none << QStringLiteral("delete")
+                             << QStringLiteral("Late[People[Too few[Illness],Too new],Machines]");
+    QTest::newRow("its insertion undone")
+        << QStringLiteral("child") << QStringLiteral("undo") << whole;
+    QTest::newRow("cut") << none << QStringLiteral("cut")
+                         << QStringLiteral("Late[People[Too few[Illness],Too new],Machines]");
+    QTest::newRow("read anew") << none << QStringLiteral("revert") << whole;
+}
+
+/** A field that nobody sees would take what is typed next, or stay for ever. */
+void TestTypedTitle::shouldCloseWithItsBone()
+{
+    QFETCH(QString, before);
+    QFETCH(QString, action);
+    QFETCH(QString, left);
+    AppFixture app;
+    QVERIFY(QTest::qWaitForWindowActive(&app.window));
+    app.select("Material");
+    app.trigger(before.isEmpty() ? "rename" : before.toLatin1());
+    const QPointer<TitleEditor> field = titleField(app);
+    QVERIFY(field && field->hasFocus());
+    app.trigger(action.toLatin1());
+    QTest::qWait(20); // until it is painted
+    AppFixture::settle();
+    QVERIFY(!titleField(app));
+    QVERIFY(!field);
+    QCOMPARE(app.text(), left);
+    // What is typed from here does not go to a bone that nobody sees.
+    QWidget *const focus = QApplication::focusWidget();
+    QVERIFY(focus && focus->isVisible());
+    for (int i = 0; i < 10; ++i)
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+    AppFixture::settle();
+    QCOMPARE(app.text(), left);
+}
+
+void TestTypedTitle::shouldTakeTheTitleOfABoneThatIsContracted()
+{
+    AppFixture app;
+    QVERIFY(QTest::qWaitForWindowActive(&app.window));
+    app.select("Rust");
+    app.trigger("rename");
+    const QPointer<TitleEditor> field = titleField(app);
+    QTest::keyClicks(field, QStringLiteral("Dust"));
+    app.trigger("contractall");
+    QTRY_VERIFY(!field); // once it is painted
+    QVERIFY2(app.text().contains(QLatin1String("Material[Dust]")), qPrintable(app.text()));
+}
+
+void TestTypedTitle::shouldCloseWithItsDocument()
+{
+    AppFixture app;
+    QVERIFY(QTest::qWaitForWindowActive(&app.window));
+    app.select("Material");
+    app.trigger("rename");
+    const QPointer<TitleEditor> field = titleField(app);
+    QVERIFY(field);
+    app.trigger("close");
+    QTRY_VERIFY(!field);
+    QVERIFY(!app.window.session()->document());
+    // Nor does one stay behind in another tab.
+    app.trigger("new");
+    QVERIFY(!titleField(app));
 }
 
 FISHBONE_TEST(TestTypedTitle)
