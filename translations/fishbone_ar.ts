@@ -185,6 +185,10 @@
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
         <translation>حسب الحالة</translation>
     </message>
+    <message>
+        <source>Print…</source>
+        <translation>طباعة…</translation>
+    </message>
 </context>
 <context>
     <name>AutosaveStatus</name>
@@ -4360,6 +4364,10 @@ Do you want to save your changes?</source>
         <source>%1 cannot be written: %2.</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
         <translation>تتعذر كتابة %1: %2.</translation>
+    </message>
+    <message>
+        <source>Print act&amp;ions…</source>
+        <translation>طباعة الإجراءا&amp;ت…</translation>
     </message>
 </context>
 <context>

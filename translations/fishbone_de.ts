@@ -185,6 +185,10 @@
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
         <translation>Nach Status</translation>
     </message>
+    <message>
+        <source>Print…</source>
+        <translation>Drucken…</translation>
+    </message>
 </context>
 <context>
     <name>AutosaveStatus</name>
@@ -4300,6 +4304,10 @@ Möchten Sie Ihre Änderungen speichern?</translation>
         <source>%1 cannot be written: %2.</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
         <translation>%1 kann nicht geschrieben werden: %2.</translation>
+    </message>
+    <message>
+        <source>Print act&amp;ions…</source>
+        <translation>Maßnahmen dr&amp;ucken…</translation>
     </message>
 </context>
 <context>

@@ -151,6 +151,10 @@
         <source>By status</source>
         <translation>By status</translation>
     </message>
+    <message>
+        <source>Print…</source>
+        <translation>Print…</translation>
+    </message>
 </context>
 <context>
     <name>AutosaveStatus</name>
@@ -3509,6 +3513,10 @@ Do you want to save your changes?</translation>
     <message>
         <source>Ta&amp;ble of actions…</source>
         <translation>Ta&amp;ble of actions…</translation>
+    </message>
+    <message>
+        <source>Print act&amp;ions…</source>
+        <translation>Print act&amp;ions…</translation>
     </message>
 </context>
 <context>

@@ -185,6 +185,10 @@
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
         <translation>Por estado</translation>
     </message>
+    <message>
+        <source>Print…</source>
+        <translation>Imprimir…</translation>
+    </message>
 </context>
 <context>
     <name>AutosaveStatus</name>
@@ -4300,6 +4304,10 @@ Do you want to save your changes?</source>
         <source>%1 cannot be written: %2.</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
         <translation>No se puede escribir %1: %2.</translation>
+    </message>
+    <message>
+        <source>Print act&amp;ions…</source>
+        <translation>Imprimir acci&amp;ones…</translation>
     </message>
 </context>
 <context>

@@ -185,6 +185,10 @@
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
         <translation>Par statut</translation>
     </message>
+    <message>
+        <source>Print…</source>
+        <translation>Imprimer…</translation>
+    </message>
 </context>
 <context>
     <name>AutosaveStatus</name>
@@ -4300,6 +4304,10 @@ Voulez-vous enregistrer vos modifications&#x202f;?</translation>
         <source>%1 cannot be written: %2.</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
         <translation>Impossible d’écrire %1&#x202f;: %2.</translation>
+    </message>
+    <message>
+        <source>Print act&amp;ions…</source>
+        <translation>Imprimer les actio&amp;ns…</translation>
     </message>
 </context>
 <context>

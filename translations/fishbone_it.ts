@@ -185,6 +185,10 @@
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
         <translation>Per stato</translation>
     </message>
+    <message>
+        <source>Print…</source>
+        <translation>Stampa…</translation>
+    </message>
 </context>
 <context>
     <name>AutosaveStatus</name>
@@ -4300,6 +4304,10 @@ Salvare le modifiche?</translation>
         <source>%1 cannot be written: %2.</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
         <translation>Impossibile scrivere %1: %2.</translation>
+    </message>
+    <message>
+        <source>Print act&amp;ions…</source>
+        <translation>Stampa le az&amp;ioni…</translation>
     </message>
 </context>
 <context>

@@ -185,6 +185,10 @@
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
         <translation>ステータス別</translation>
     </message>
+    <message>
+        <source>Print…</source>
+        <translation>印刷…</translation>
+    </message>
 </context>
 <context>
     <name>AutosaveStatus</name>
@@ -4285,6 +4289,10 @@ Do you want to save your changes?</source>
         <source>%1 cannot be written: %2.</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
         <translation>%1 を書き込めません: %2。</translation>
+    </message>
+    <message>
+        <source>Print act&amp;ions…</source>
+        <translation>対策の印刷(&amp;I)…</translation>
     </message>
 </context>
 <context>

@@ -185,6 +185,10 @@
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
         <translation>상태별</translation>
     </message>
+    <message>
+        <source>Print…</source>
+        <translation>인쇄…</translation>
+    </message>
 </context>
 <context>
     <name>AutosaveStatus</name>
@@ -4285,6 +4289,10 @@ Do you want to save your changes?</source>
         <source>%1 cannot be written: %2.</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
         <translation>%1을(를) 쓸 수 없습니다: %2.</translation>
+    </message>
+    <message>
+        <source>Print act&amp;ions…</source>
+        <translation>조치 인쇄(&amp;I)…</translation>
     </message>
 </context>
 <context>

@@ -185,6 +185,10 @@
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
         <translation>Według statusu</translation>
     </message>
+    <message>
+        <source>Print…</source>
+        <translation>Drukuj…</translation>
+    </message>
 </context>
 <context>
     <name>AutosaveStatus</name>
@@ -4315,6 +4319,10 @@ Czy zapisać zmiany?</translation>
         <source>%1 cannot be written: %2.</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
         <translation>Nie można zapisać %1: %2.</translation>
+    </message>
+    <message>
+        <source>Print act&amp;ions…</source>
+        <translation>Druku&amp;j działania…</translation>
     </message>
 </context>
 <context>

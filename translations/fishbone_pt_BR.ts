@@ -185,6 +185,10 @@
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
         <translation>Por status</translation>
     </message>
+    <message>
+        <source>Print…</source>
+        <translation>Imprimir…</translation>
+    </message>
 </context>
 <context>
     <name>AutosaveStatus</name>
@@ -4300,6 +4304,10 @@ Deseja salvar as alterações?</translation>
         <source>%1 cannot be written: %2.</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
         <translation>Não é possível gravar %1: %2.</translation>
+    </message>
+    <message>
+        <source>Print act&amp;ions…</source>
+        <translation>Imprimir aç&amp;ões…</translation>
     </message>
 </context>
 <context>

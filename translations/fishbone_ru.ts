@@ -185,6 +185,10 @@
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
         <translation>По статусу</translation>
     </message>
+    <message>
+        <source>Print…</source>
+        <translation>Печать…</translation>
+    </message>
 </context>
 <context>
     <name>AutosaveStatus</name>
@@ -4315,6 +4319,10 @@ Do you want to save your changes?</source>
         <source>%1 cannot be written: %2.</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
         <translation>Не удаётся записать %1: %2.</translation>
+    </message>
+    <message>
+        <source>Print act&amp;ions…</source>
+        <translation>Печать &amp;мероприятий…</translation>
     </message>
 </context>
 <context>

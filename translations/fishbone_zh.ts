@@ -151,6 +151,10 @@
         <source>By status</source>
         <translation>按状态</translation>
     </message>
+    <message>
+        <source>Print…</source>
+        <translation>打印…</translation>
+    </message>
 </context>
 <context>
     <name>AutosaveStatus</name>
@@ -3494,6 +3498,10 @@ Do you want to save your changes?</source>
     <message>
         <source>Ta&amp;ble of actions…</source>
         <translation>待办事项表(&amp;B)…</translation>
+    </message>
+    <message>
+        <source>Print act&amp;ions…</source>
+        <translation>打印待办事项(&amp;I)…</translation>
     </message>
 </context>
 <context>

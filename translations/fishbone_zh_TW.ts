@@ -185,6 +185,10 @@
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
         <translation>依狀態</translation>
     </message>
+    <message>
+        <source>Print…</source>
+        <translation>列印…</translation>
+    </message>
 </context>
 <context>
     <name>AutosaveStatus</name>
@@ -4285,6 +4289,10 @@ Do you want to save your changes?</source>
         <source>%1 cannot be written: %2.</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
         <translation>無法寫入 %1：%2。</translation>
+    </message>
+    <message>
+        <source>Print act&amp;ions…</source>
+        <translation>列印對策(&amp;I)…</translation>
     </message>
 </context>
 <context>

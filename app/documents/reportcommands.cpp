@@ -10,6 +10,7 @@
 #include <app/diagram/diagramsession.h>
 #include <app/documents/documenttab.h>
 #include <app/documents/documenttabs.h>
+#include <app/export/printtarget.h>
 
 #include <fishbone/editor/fisheditor.h>
 #include <fishbone/exchange/meetingreport.h>
@@ -19,6 +20,9 @@
 #include <QAction>
 #include <QDir>
 #include <QPointer>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QTextDocument>
 
 ReportCommands::ReportCommands(DocumentTabs *tabs, ActionSet *actions, QWidget *window)
     : QObject(window)
@@ -38,11 +42,14 @@ ReportCommands::ReportCommands(DocumentTabs *tabs, ActionSet *actions, QWidget *
         [this] {
             write(tr("Actions"), &ReportCommands::chosenList, &MeetingReport::writeActions);
         });
+    actions->add(
+        QStringLiteral("printActions"), [] { return tr("Print act&ions…"); }, {},
+        ActionSet::Scope::Window, [this] { printActions(); });
 }
 
 void ReportCommands::updateActions()
 {
-    for (const char *name : {"report", "exportActions"})
+    for (const char *name : {"report", "exportActions", "printActions"})
         m_actions->action(QLatin1String(name))->setEnabled(m_tabs->current()->document());
 }
 
@@ -73,6 +80,20 @@ QString ReportCommands::chosenList() const
         m_window, tr("Actions"), proposed(QStringLiteral("-%1.csv").arg(tr("actions"))),
         {tr("Table for spreadsheets (*.csv)"), QStringLiteral("Markdown (*.md)")},
         {QStringLiteral("csv"), QStringLiteral("md")});
+}
+
+/** Asks where to, and prints the list of actions as it is shown. */
+void ReportCommands::printActions()
+{
+    m_tabs->current()->takeTyped();
+    QTextDocument page;
+    page.setHtml(m_actionsPage());
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setDocName(tr("Actions"));
+    QPrintDialog dialog(&printer, m_window);
+    PrintTarget::propose(dialog, proposed(QStringLiteral("-%1.pdf").arg(tr("actions"))));
+    if (dialog.exec() == QDialog::Accepted)
+        page.print(&printer);
 }
 
 /** Asks by @p choose for a file, in a dialog called @p title, and has @p write write it. */

@@ -18,10 +18,13 @@ class ReportCommands : public QObject
     Q_OBJECT
 
 public:
-    /** Adds the action to @p actions. Dialogs stand over @p window, which owns this object. */
+    /** Adds the actions to @p actions. Dialogs stand over @p window, which owns this object. */
     ReportCommands(DocumentTabs *tabs, ActionSet *actions, QWidget *window);
 
-    /** Enables the action as the open documents allow. */
+    /** Prints what @p page says, in HTML, as the actions. */
+    void setActionsPage(const std::function<QString()> &page) { m_actionsPage = page; }
+
+    /** Enables the actions as the open documents allow. */
     void updateActions();
 
 Q_SIGNALS:
@@ -33,6 +36,7 @@ private:
         std::function<bool(const MeetingReport &report, const QString &path, QString *reason)>;
 
     QString proposed(const QString &ending) const;
+    void printActions();
     QString chosenReport() const;
     QString chosenList() const;
     void write(const QString &title, QString (ReportCommands::*choose)() const, const Write &write);
@@ -40,4 +44,5 @@ private:
     DocumentTabs *m_tabs;
     ActionSet *m_actions;
     QWidget *m_window;
+    std::function<QString()> m_actionsPage;
 };

@@ -14,7 +14,22 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
-ActionsPanel::ActionsPanel(QAction *exportAction, QWidget *parent)
+namespace {
+
+/** A button that does what @p action does, when that can be done. */
+QToolButton *buttonFor(QAction *action, QWidget *parent)
+{
+    auto *const button = new QToolButton(parent);
+    QObject::connect(button, &QToolButton::clicked, action, &QAction::trigger);
+    const auto follow = [button, action] { button->setEnabled(action->isEnabled()); };
+    QObject::connect(action, &QAction::changed, button, follow);
+    follow();
+    return button;
+}
+
+} // namespace
+
+ActionsPanel::ActionsPanel(QAction *exportAction, QAction *printAction, QWidget *parent)
     : QTabWidget(parent)
     , m_actions(new ActionList(this))
     , m_ranked(new RankedList(this))
@@ -29,26 +44,26 @@ ActionsPanel::ActionsPanel(QAction *exportAction, QWidget *parent)
     m_groups->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     connect(m_groups, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
             [this](int groups) { m_actions->setGroups(ActionList::Groups(groups)); });
-    addTab(actionsPage(exportAction), QString());
+    addTab(actionsPage(exportAction, printAction), QString());
     addTab(m_ranked, QString());
     Language::bind(this, [this] { showTexts(); });
     Language::bind(this, [this] { m_groups->setMinimumWidth(m_groups->sizeHint().width()); });
 }
 
-QWidget *ActionsPanel::actionsPage(QAction *exportAction)
+QWidget *ActionsPanel::actionsPage(QAction *exportAction, QAction *printAction)
 {
     auto *const page = new QWidget(this);
-    auto *const button = new QToolButton(page);
-    button->setObjectName(QStringLiteral("actionsToFile"));
-    connect(button, &QToolButton::clicked, exportAction, &QAction::trigger);
-    const auto follow = [button, exportAction] { button->setEnabled(exportAction->isEnabled()); };
-    connect(exportAction, &QAction::changed, button, follow);
-    follow();
-    Language::bind(button, &QToolButton::setText, [] { return tr("Write to a file…"); });
+    QToolButton *const toFile = buttonFor(exportAction, page);
+    toFile->setObjectName(QStringLiteral("actionsToFile"));
+    Language::bind(toFile, &QToolButton::setText, [] { return tr("Write to a file…"); });
+    QToolButton *const toPrinter = buttonFor(printAction, page);
+    toPrinter->setObjectName(QStringLiteral("actionsToPrinter"));
+    Language::bind(toPrinter, &QToolButton::setText, [] { return tr("Print…"); });
     auto *const row = new QHBoxLayout;
     row->addWidget(m_groups);
     row->addStretch();
-    row->addWidget(button);
+    row->addWidget(toFile);
+    row->addWidget(toPrinter);
     auto *const layout = new QVBoxLayout(page);
     layout->setContentsMargins(4, 4, 4, 4);
     layout->addLayout(row);
@@ -71,4 +86,9 @@ void ActionsPanel::setSession(DiagramSession *session)
 {
     m_actions->setSession(session);
     m_ranked->setSession(session);
+}
+
+QString ActionsPanel::page() const
+{
+    return m_actions->page();
 }

@@ -18,14 +18,17 @@ class ActionsPanel : public QTabWidget
     Q_OBJECT
 
 public:
-    /** Has a button for @p exportAction, which writes the actions to a file. */
-    explicit ActionsPanel(QAction *exportAction, QWidget *parent = nullptr);
+    /** Has buttons for @p exportAction, which writes the actions to a file, and @p printAction,
+     * which prints page(). */
+    ActionsPanel(QAction *exportAction, QAction *printAction, QWidget *parent = nullptr);
 
     /** Lists what @p session shows. */
     void setSession(DiagramSession *session);
+    /** The actions as they are listed, as a page in HTML. */
+    QString page() const;
 
 private:
-    QWidget *actionsPage(QAction *exportAction);
+    QWidget *actionsPage(QAction *exportAction, QAction *printAction);
     void showTexts();
 
     ActionList *m_actions;

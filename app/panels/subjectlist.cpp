@@ -8,6 +8,7 @@
 #include <fishbone/exchange/meetingreport.h>
 #include <fishbone/model/fishmodel.h>
 #include <fishbone/model/subjectwalk.h>
+#include <fishbone/model/treeitem.h>
 
 #include <QHeaderView>
 #include <QScopedValueRollback>
@@ -21,6 +22,20 @@ constexpr int entryRole = Qt::UserRole; ///< the position among the entries, of 
 
 const QColor urgentColour(0xb0, 0x00, 0x20);
 const QColor urgentOnDark(0xff, 0x8a, 0x80);
+
+QString inHtml(const QString &text)
+{
+    return text.toHtmlEscaped().replace(QLatin1Char('\n'), QLatin1String("<br>"));
+}
+
+/** A row of a table, with its texts in @p element. */
+QString rowInHtml(const QStringList &cells, const char *element)
+{
+    QString row;
+    for (const QString &cell : cells)
+        row += QStringLiteral("<td><%1>%2</%1></td>").arg(QLatin1String(element), inHtml(cell));
+    return QStringLiteral("<tr>%1</tr>").arg(row);
+}
 
 } // namespace
 
@@ -59,9 +74,38 @@ void SubjectList::refresh()
     // Whoever types into a cell goes on.
     if (!isVisible() || state() == EditingState)
         return;
+    list(head() ? entries(MeetingReport(head())) : QVector<Entry>());
+}
+
+/** The head of the document, null when there is none. */
+const TreeItem *SubjectList::head() const
+{
     const FishInfo *const document = m_session ? m_session->document() : nullptr;
-    const TreeItem *const head = document ? m_session->container()->childAtIndex(0) : nullptr;
-    list(head ? entries(MeetingReport(head)) : QVector<Entry>());
+    return document ? m_session->container()->childAtIndex(0) : nullptr;
+}
+
+QString SubjectList::page() const
+{
+    if (!head())
+        return QString();
+    QStringList groups;
+    QHash<QString, QString> rows;
+    const QVector<Entry> all = entries(MeetingReport(head()));
+    for (const Entry &entry : all) {
+        if (!rows.contains(entry.group))
+            groups.append(entry.group);
+        rows[entry.group] += rowInHtml(entry.cells, entry.isMarked ? "b" : "span");
+    }
+    QStringList headings;
+    for (int column = 0; column < columnCount(); ++column)
+        headings.append(headerItem()->text(column));
+    QString page = QStringLiteral("<h1>%1</h1><h2>%2</h2>")
+                       .arg(inHtml(head()->title()), inHtml(accessibleName()));
+    for (const QString &group : qAsConst(groups))
+        page += QStringLiteral("<h3>%1</h3><table width=\"100%\" border=\"1\" cellspacing=\"0\" "
+                               "cellpadding=\"4\">%2%3</table>")
+                    .arg(inHtml(group), rowInHtml(headings, "b"), rows.value(group));
+    return page;
 }
 
 void SubjectList::showEvent(QShowEvent *event)

@@ -30,6 +30,10 @@ public:
     /** Lists anew. */
     void refresh();
 
+    /** What the list shows, or would if it were in sight, as a page with a heading, in HTML. Empty
+     * where there is no document. */
+    QString page() const;
+
 protected:
     /** What stands in a row. */
     struct Entry
@@ -53,6 +57,7 @@ protected:
     void showEvent(QShowEvent *event) override;
 
 private:
+    const TreeItem *head() const;
     void list(const QVector<Entry> &entries);
     QTreeWidgetItem *rowFor(const Entry &entry, QTreeWidgetItem *group);
     QSet<QString> foldedGroups() const;

@@ -13,6 +13,7 @@
 #include <app/documents/documenttabs.h>
 #include <app/documents/filecommands.h>
 #include <app/documents/recoverycommands.h>
+#include <app/documents/reportcommands.h>
 #include <app/editing/bonemenuentries.h>
 #include <app/editing/editcommands.h>
 #include <app/editing/markcommands.h>
@@ -126,7 +127,9 @@ void MainWindow::addCommands()
         {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_L)}, ActionSet::Scope::Window,
         [this] { m_tabs->current()->filterBar()->open(); });
     m_docks =
-        std::make_unique<WindowDocks>(this, m_actions->action(QStringLiteral("exportActions")));
+        std::make_unique<WindowDocks>(this, m_actions->action(QStringLiteral("exportActions")),
+                                      m_actions->action(QStringLiteral("printActions")));
+    m_commands->reports()->setActionsPage([this] { return m_docks->actionsPage(); });
     m_commands->views()->offerFocus(m_docks->layout());
 }
 

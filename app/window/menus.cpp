@@ -25,7 +25,8 @@ struct Bar
 constexpr Bar menus[] = {
     {"fileMenu", QT_TRANSLATE_NOOP("Menus", "&File"),
      "new newFromTemplate newExample | open recent import url recover | save saveAs saveCopy "
-     "saveAsTemplate saveAll revert | export exportAs report exportActions print printPreview | "
+     "saveAsTemplate saveAll revert | export exportAs report exportActions print printPreview "
+     "printActions | "
      "close | reopen "
      "quit"},
     {"editMenu", QT_TRANSLATE_NOOP("Menus", "&Edit"),

@@ -41,6 +41,7 @@ public:
 
     FileCommands *files() const { return m_files; }
     RecoveryCommands *recovery() const { return m_recovery; }
+    ReportCommands *reports() const { return m_reports; }
     EditCommands *edits() const { return m_edits; }
     MarkCommands *marks() const { return m_marks; }
     LookCommands *looks() const { return m_looks; }

@@ -87,13 +87,13 @@ void followDirection(QMainWindow *window)
 }
 } // namespace
 
-WindowDocks::WindowDocks(QMainWindow *window, QAction *exportActions)
+WindowDocks::WindowDocks(QMainWindow *window, QAction *exportActions, QAction *printActions)
     : m_window(window)
     , m_trees(new QStackedWidget(window))
     , m_details(new QStackedWidget(window))
     , m_histories(new QStackedWidget(window))
     , m_overview(new Minimap(window))
-    , m_actions(new ActionsPanel(exportActions, window))
+    , m_actions(new ActionsPanel(exportActions, printActions, window))
 {
     QDockWidget *const trees =
         add("documentsDock", QT_TR_NOOP("Subjects"), Qt::LeftDockWidgetArea, m_trees);
@@ -155,4 +155,9 @@ void WindowDocks::dressTitles() const
     const QList<QDockWidget *> docks = m_window->findChildren<QDockWidget *>();
     for (const QDockWidget *dock : docks)
         dressTitle(*dock);
+}
+
+QString WindowDocks::actionsPage() const
+{
+    return m_actions->page();
 }

@@ -21,8 +21,9 @@ class WindowDocks
     Q_DECLARE_TR_FUNCTIONS(MainWindow)
 
 public:
-    /** Adds them to @p window, which owns them; @p exportActions stands in the list of actions. */
-    WindowDocks(QMainWindow *window, QAction *exportActions);
+    /** Adds them to @p window, which owns them; @p exportActions and @p printActions stand in the
+     * list of actions. */
+    WindowDocks(QMainWindow *window, QAction *exportActions, QAction *printActions);
 
     /** Which of them are shown, and how large they are. */
     WindowLayout *layout() const { return m_layout; }
@@ -33,6 +34,8 @@ public:
     void show(const DocumentTab &tab);
     /** Brings the details of the current tab to the front. */
     void showDetails();
+    /** The list of actions as it is shown, as a page in HTML. */
+    QString actionsPage() const;
     /** Names the buttons in the titles anew, in the colours and the language of now. */
     void dressTitles() const;
 

@@ -7,12 +7,20 @@
 #include <tests/program/testprogram.h>
 #include <tests/support/modaldriver.h>
 
+#include <fishbone/items/taskstatusinfo.h>
 #include <fishbone/model/subjectmarks.h>
 
+#include <QComboBox>
+#include <QDateTime>
+#include <QDockWidget>
 #include <QFileDialog>
 #include <QLineEdit>
+#include <QLocale>
 #include <QMessageBox>
+#include <QPrintDialog>
+#include <QProcess>
 #include <QStatusBar>
+#include <QToolButton>
 
 using TestSupport::ModalDriver;
 
@@ -26,6 +34,7 @@ private Q_SLOTS:
     void shouldWriteAReportBesideTheDocument();
     void shouldWriteTheKindThatIsChosen();
     void shouldSayThatItCannotBeWritten();
+    void shouldPrintTheActionsAsTheyAreListed();
     void shouldBeThereWithADocumentAlone();
 };
 
@@ -85,6 +94,47 @@ void TestReportCommands::shouldSayThatItCannotBeWritten()
     QVERIFY(driver.isDone() && box.isDone());
     QVERIFY2(said.contains(QLatin1String(".html, .pdf or .md")), qPrintable(said));
     QVERIFY(!QFile::exists(path));
+}
+
+/** By the button of the panel, and what it prints is what it lists: here by status. */
+void TestReportCommands::shouldPrintTheActionsAsTheyAreListed()
+{
+    AppFixture app;
+    TreeItem &rust = *app.subject("Rust");
+    rust.setManagerName(QStringLiteral("Ann"));
+    rust.setStatus(tsRunning);
+    rust.setPlanEndDate(QDateTime(QDate(2020, 3, 4), QTime(12, 0)).toMSecsSinceEpoch());
+    app.subject("Machines")->setManagerName(QStringLiteral("Bo <& Co>"));
+    app.window.findChild<QDockWidget *>(QStringLiteral("actionsDock"))
+        ->toggleViewAction()
+        ->trigger();
+    app.widget<QComboBox>("actionGroups")->setFocus();
+    QTest::keyClick(app.widget<QComboBox>("actionGroups"), Qt::Key_End);
+    AppFixture::settle();
+    QString proposed;
+    const QString file = app.path(QStringLiteral("to do.pdf"));
+    const ModalDriver<QPrintDialog> driver([&](QPrintDialog &dialog) {
+        auto *const name = dialog.findChild<QLineEdit *>(QStringLiteral("filename"));
+        proposed = name->text();
+        name->setText(file);
+        QTest::keyClick(&dialog, Qt::Key_Return);
+    });
+    QTest::mouseClick(app.widget<QToolButton>("actionsToPrinter"), Qt::LeftButton);
+    QVERIFY(driver.isDone());
+    QCOMPARE(proposed, app.path(QStringLiteral("late.json-actions.pdf"))
+                           .replace(QStringLiteral(".json"), QString()));
+    QVERIFY(AppFixture::contentOf(file).startsWith("%PDF"));
+    QProcess reader;
+    reader.start(QStringLiteral("pdftotext"), {file, QStringLiteral("-")});
+    QVERIFY(reader.waitForFinished());
+    const QString text = QString::fromUtf8(reader.readAllStandardOutput());
+    const QString day = QLocale().toString(QDate(2020, 3, 4), QLocale::ShortFormat);
+    for (const QString &word :
+         {QStringLiteral("Late"), QStringLiteral("under way"), QStringLiteral("Rust"),
+          QStringLiteral("Ann"), day + QStringLiteral(", overdue"), QStringLiteral("No status"),
+          QStringLiteral("Machines"), QStringLiteral("Bo <& Co>")})
+        QVERIFY2(text.contains(word), qPrintable(word + QLatin1Char('\n') + text));
+    QVERIFY(text.indexOf(QLatin1String("under way")) < text.indexOf(QLatin1String("Rust")));
 }
 
 void TestReportCommands::shouldBeThereWithADocumentAlone()
