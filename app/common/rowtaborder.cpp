@@ -4,7 +4,6 @@
 #include <app/common/rowtaborder.h>
 
 #include <QFormLayout>
-#include <QVector>
 #include <QWidget>
 
 namespace {
@@ -40,16 +39,15 @@ QVector<QWidget *> stopsIn(QLayoutItem &item)
 
 } // namespace
 
-void RowTabOrder::apply(const QFormLayout &rows)
+void RowTabOrder::apply(const QVector<const QFormLayout *> &forms)
 {
-    QWidget *before = nullptr;
-    for (int row = 0; row < rows.rowCount(); ++row) {
-        QLayoutItem *const field = rows.itemAt(row, QFormLayout::FieldRole);
-        const QVector<QWidget *> stops = field ? stopsIn(*field) : QVector<QWidget *>();
-        for (QWidget *stop : stops) {
-            if (before)
-                QWidget::setTabOrder(before, stop);
-            before = stop;
+    QVector<QWidget *> stops;
+    for (const QFormLayout *form : forms) {
+        for (int row = 0; row < form->rowCount(); ++row) {
+            if (QLayoutItem *const field = form->itemAt(row, QFormLayout::FieldRole))
+                stops += stopsIn(*field);
         }
     }
+    for (int i = 1; i < int(stops.size()); ++i)
+        QWidget::setTabOrder(stops.at(i - 1), stops.at(i));
 }

@@ -23,6 +23,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSettings>
+#include <QVBoxLayout>
 
 #include <utility>
 
@@ -61,16 +62,12 @@ ExportDialog::ExportDialog(const QString &path, Subject subject, QWidget *parent
     , m_preview(new PicturePreview(this))
 {
     setWindowTitle(tr("Export picture"));
-    auto *const beside = new QHBoxLayout;
-    beside->addWidget(makeFields(), 1);
-    beside->addWidget(m_preview);
+    addFields(new QVBoxLayout(this));
     auto *const buttons =
         new QDialogButtonBox(QDialogButtonBox::Save | QDialogButtonBox::Cancel, this);
     connect(buttons, &QDialogButtonBox::accepted, this, &ExportDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &ExportDialog::reject);
-    auto *const layout = new QVBoxLayout(this);
-    layout->addLayout(beside);
-    layout->addWidget(buttons);
+    layout()->addWidget(buttons);
 
     m_measuring.setSingleShot(true);
     m_measuring.setInterval(300);
@@ -81,20 +78,29 @@ ExportDialog::ExportDialog(const QString &path, Subject subject, QWidget *parent
     measure();
 }
 
-QWidget *ExportDialog::makeFields()
+/** In two columns, so that a small screen has room for them: what it looks like, and how large it
+ * becomes with the preview of that. */
+void ExportDialog::addFields(QVBoxLayout *layout)
 {
-    auto *const fields = new QWidget(this);
-    auto *const layout = new QFormLayout(fields);
-    layout->setContentsMargins(0, 0, 0, 0);
-    addFile(layout);
-    m_look = new PictureLookFields(layout, m_subject.view, this);
+    auto *const file = new QFormLayout;
+    auto *const looks = new QFormLayout;
+    auto *const sizes = new QFormLayout;
+    addFile(file);
+    m_look = new PictureLookFields(looks, m_subject.view, this);
     connect(m_look, &PictureLookFields::changed, this, &ExportDialog::followLook);
-    m_size = new PictureSizeFields(layout, this);
-    m_levels = new PictureLevelFields(layout, m_subject.depth, this);
+    addColours(looks);
+    m_levels = new PictureLevelFields(sizes, m_subject.depth, this);
     connect(m_levels, &PictureLevelFields::changed, this, [this] { m_measuring.start(); });
-    addColours(layout);
-    RowTabOrder::apply(*layout);
-    return fields;
+    m_size = new PictureSizeFields(sizes, this);
+    auto *const right = new QVBoxLayout;
+    right->addWidget(m_preview, 1);
+    right->addLayout(sizes);
+    auto *const columns = new QHBoxLayout;
+    columns->addLayout(looks);
+    columns->addLayout(right, 1);
+    layout->addLayout(file);
+    layout->addLayout(columns);
+    RowTabOrder::apply({file, looks, sizes});
 }
 
 void ExportDialog::addFile(QFormLayout *layout)
@@ -165,7 +171,7 @@ std::optional<PageSize> ExportDialog::page() const
 bool ExportDialog::isLight() const
 {
     const DiagramView view = m_look->view();
-    return view.look == DiagramLook::Clear ? view.options.palette != DiagramLook::DarkColors
+    return view.look == DiagramLook::Clear ? !DiagramLook::isDark(view.options.palette)
                                            : m_light->isChecked();
 }
 

@@ -22,6 +22,7 @@ class QCheckBox;
 class QComboBox;
 class QFormLayout;
 class QLineEdit;
+class QVBoxLayout;
 
 /** Asks for the file and the looks of a picture, and shows what becomes of it. What was chosen last
  * is chosen the next time. */
@@ -64,7 +65,7 @@ public Q_SLOTS:
     void accept() override;
 
 private:
-    QWidget *makeFields();
+    void addFields(QVBoxLayout *layout);
     void addFile(QFormLayout *layout);
     void addColours(QFormLayout *layout);
     void restore();

@@ -8,7 +8,8 @@
 
 namespace {
 
-constexpr QSize previewSize(400, 300);
+constexpr QSize usualSize(400, 300);
+constexpr QSize leastSize(200, 150);
 
 } // namespace
 
@@ -17,27 +18,53 @@ PicturePreview::PicturePreview(QWidget *parent)
 {
     setObjectName(QStringLiteral("preview"));
     setAccessibleName(tr("Preview"));
-    setFixedSize(previewSize);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    resize(usualSize); // what is drawn before it has its place needs no second time, mostly
+}
+
+QSize PicturePreview::sizeHint() const
+{
+    return usualSize;
+}
+
+QSize PicturePreview::minimumSizeHint() const
+{
+    return leastSize;
 }
 
 void PicturePreview::draw(const QSizeF &paper, const QColor &background, const Paint &paint)
 {
+    m_paper = paper;
+    m_background = background;
+    m_paint = paint;
+    drawAgain();
+}
+
+void PicturePreview::resizeEvent(QResizeEvent *event)
+{
+    QLabel::resizeEvent(event);
+    if (m_paint)
+        drawAgain();
+}
+
+void PicturePreview::drawAgain()
+{
     constexpr double marginOfPage = 0.03;
     const double dots = devicePixelRatioF();
-    QPixmap pixmap((QSizeF(previewSize) * dots).toSize());
+    QPixmap pixmap((QSizeF(size()) * dots).toSize());
     pixmap.setDevicePixelRatio(dots);
     pixmap.fill(palette().color(QPalette::Window));
-    if (!paper.isEmpty()) {
-        QRectF sheet(QPointF(0, 0), paper.scaled(previewSize, Qt::KeepAspectRatio));
-        sheet.moveCenter(QRectF(QPointF(0, 0), previewSize).center());
+    if (!m_paper.isEmpty()) {
+        QRectF sheet(QPointF(0, 0), m_paper.scaled(size(), Qt::KeepAspectRatio));
+        sheet.moveCenter(QRectF(QPointF(0, 0), size()).center());
         QPainter painter(&pixmap);
         painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-        if (background.alpha() > 0)
-            painter.fillRect(sheet, background);
+        if (m_background.alpha() > 0)
+            painter.fillRect(sheet, m_background);
         else
             painter.fillRect(sheet, QBrush(Qt::lightGray, Qt::Dense6Pattern));
         const double margin = marginOfPage * qMin(sheet.width(), sheet.height());
-        paint(painter, sheet.adjusted(margin, margin, -margin, -margin));
+        m_paint(painter, sheet.adjusted(margin, margin, -margin, -margin));
     }
     setPixmap(pixmap);
 }

@@ -9,7 +9,7 @@
 
 #include <functional>
 
-/** Shows what becomes of a picture, small, on its paper. */
+/** Shows what becomes of a picture, small, on its paper, as large as there is room. */
 class PicturePreview : public QLabel
 {
     Q_OBJECT
@@ -21,6 +21,20 @@ public:
     explicit PicturePreview(QWidget *parent = nullptr);
 
     /** Shows what @p paint paints on paper of the proportions of @p paper, in @p background, which
-     * may be transparent. Nothing for an empty @p paper. */
+     * may be transparent. Nothing for an empty @p paper. It is painted again when the room
+     * changes. */
     void draw(const QSizeF &paper, const QColor &background, const Paint &paint);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
+private:
+    void drawAgain();
+
+    QSizeF m_paper;
+    QColor m_background;
+    Paint m_paint;
 };

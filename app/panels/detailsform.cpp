@@ -54,7 +54,7 @@ void DetailsForm::addRows()
         add(field->label(), field->widget());
     add([] { return tr("Style:"); }, m_style);
     rows->addRow(m_facts);
-    RowTabOrder::apply(*rows);
+    RowTabOrder::apply({rows});
 }
 
 void DetailsForm::watch(DetailsField *field)

@@ -116,12 +116,17 @@ void TestExportDialogClear::shouldShowAPreview()
     chooseEntry(field<QComboBox>(dialog, "page"), 2);
     QTRY_VERIFY(shown() != atFirst);
     const QImage onPage = shown();
-    const int x = onPage.width() / 2;
-    const int below = onPage.height() / 2 + int(onPage.width() * 210 / 297 / 2) - 3;
-    QCOMPARE(onPage.pixelColor(x, below), QColor(Qt::white));
-    QVERIFY(onPage.pixelColor(x, below + 6) != QColor(Qt::white));
+    const QSizeF sheet = QSizeF(297, 210).scaled(onPage.size(), Qt::KeepAspectRatio);
+    const QPointF corner(onPage.width() / 2.0 + sheet.width() / 2,
+                         onPage.height() / 2.0 + sheet.height() / 2);
+    const QPoint within = (corner - QPointF(3, 3)).toPoint();
+    const bool isBeside = sheet.width() < onPage.width() - 12; // else there is room below
+    const QPoint outside = within + (isBeside ? QPoint(6, 0) : QPoint(0, 6));
+    QVERIFY(onPage.rect().contains(outside));
+    QCOMPARE(onPage.pixelColor(within), QColor(Qt::white));
+    QVERIFY(onPage.pixelColor(outside) != QColor(Qt::white));
     chooseEntry(field<QComboBox>(dialog, "palette"), 4);
-    QTRY_COMPARE(shown().pixelColor(x, below), QColor(0x1e, 0x21, 0x26));
+    QTRY_COMPARE(shown().pixelColor(within), QColor(0x1e, 0x21, 0x26));
 }
 
 void TestExportDialogClear::shouldMakeThePictureForAPage()

@@ -18,6 +18,7 @@ private Q_SLOTS:
     void shouldKeepAMarginAroundWhatIsPainted();
     void shouldShowThatPaperIsTransparent();
     void shouldShowNothingWithoutPaper();
+    void shouldFillTheRoomThatThereIs();
 };
 
 namespace {
@@ -74,6 +75,21 @@ void TestPicturePreview::shouldShowNothingWithoutPaper()
     QVERIFY(!isPainted);
     const QImage image = imageOf(preview);
     QCOMPARE(image.pixelColor(image.rect().center()), preview.palette().color(QPalette::Window));
+}
+
+void TestPicturePreview::shouldFillTheRoomThatThereIs()
+{
+    PicturePreview preview;
+    preview.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&preview));
+    preview.draw(QSizeF(400, 300), Qt::red, paintNothing);
+    for (const QSize &size : {QSize(240, 180), QSize(600, 450)}) {
+        preview.resize(size);
+        const QImage image = imageOf(preview);
+        QCOMPARE(image.size(), size * preview.devicePixelRatioF());
+        QCOMPARE(image.pixelColor(3, 3), QColor(Qt::red));
+        QCOMPARE(image.pixelColor(image.width() - 3, image.height() - 3), QColor(Qt::red));
+    }
 }
 
 FISHBONE_TEST(TestPicturePreview)

@@ -35,7 +35,8 @@ private:
         return visited;
     }
 
-    /** Those of @p visited that stand above the one before, or before it in the same row. */
+    /** Those of @p visited that stand before the one before in the same row, or above it, but for
+     * the beginning of the next column. */
     static QString stepsBack(const QWidget &within, const QList<QWidget *> &visited)
     {
         QStringList back;
@@ -46,7 +47,8 @@ private:
             const QRect before = placeOf(visited.at(i - 1));
             const QRect now = placeOf(visited.at(i));
             const bool isBeside = now.top() <= before.bottom() && now.bottom() >= before.top();
-            if (isBeside ? now.left() < before.left() : now.top() < before.top())
+            const bool isBelow = now.top() >= before.top() || now.left() > before.right();
+            if (isBeside ? now.left() < before.left() : !isBelow)
                 back.append(visited.at(i - 1)->objectName() + QStringLiteral(" > ") +
                             visited.at(i)->objectName());
         }
