@@ -29,7 +29,7 @@ namespace {
 
 constexpr int patience = 20000;
 
-const char *const document = R"({"title": "Effect", "children": [{"title": "Man"}]})";
+const char *const sentDocument = R"({"title": "Effect", "children": [{"title": "Man"}]})";
 
 QByteArray response(const QByteArray &status, const QByteArray &body,
                     const QByteArray &headers = {})
@@ -191,7 +191,7 @@ QString TestFishModelNetwork::load(const QUrl &url)
 
 void TestFishModelNetwork::shouldLoadADiagram()
 {
-    m_server->tell("/effect.json", response("200 OK", document));
+    m_server->tell("/effect.json", response("200 OK", sentDocument));
 
     QCOMPARE(load(m_server->url("/effect.json")), QStringLiteral("fishLoaded(Effect, 0)"));
 
@@ -203,13 +203,14 @@ void TestFishModelNetwork::shouldLoadADiagram()
 
 void TestFishModelNetwork::shouldLoadWithinTheLimit()
 {
-    m_server->tell("/a", response("200 OK", document));
-    m_model->setReplyLimit(qint64(qstrlen(document)));
+    m_server->tell("/a", response("200 OK", sentDocument));
+    m_model->setReplyLimit(qint64(qstrlen(sentDocument)));
 
     QCOMPARE(load(m_server->url("/a")), QStringLiteral("fishLoaded(Effect, 0)"));
     m_model->setReplyLimit(0); // any size
     QCOMPARE(load(m_server->url("/a")), QStringLiteral("fishLoaded(Effect, 0)"));
-    m_server->tell("/large", response("200 OK", QByteArray(document) + QByteArray(2000000, ' ')));
+    m_server->tell("/large",
+                   response("200 OK", QByteArray(sentDocument) + QByteArray(2000000, ' ')));
     for (const qint64 limit : {std::numeric_limits<qint64>::max(), qint64(4000000)}) {
         m_model->setReplyLimit(limit);
         QCOMPARE(load(m_server->url("/large")), QStringLiteral("fishLoaded(Effect, 0)"));
@@ -223,7 +224,7 @@ void TestFishModelNetwork::shouldReadLinearlyOftenAtAnyLimit()
     for (const qint64 limit : {greatest, greatest - 1, greatest / 2, qint64(0)}) {
         m_model->setReplyLimit(limit);
         for (const int size : {100000, 4000000}) {
-            m_server->tell("/a", response("200 OK", QByteArray(size, ' ') + document));
+            m_server->tell("/a", response("200 OK", QByteArray(size, ' ') + sentDocument));
             progress.clear();
             QCOMPARE(load(m_server->url("/a")), QStringLiteral("fishLoaded(Effect, 0)"));
             QVERIFY(progress.count() <= 20 + size / 4000); // parts that are not tiny
@@ -238,10 +239,10 @@ void TestFishModelNetwork::shouldReadLinearlyOftenAtAnyLimit()
 
 void TestFishModelNetwork::shouldTellHowFarALoadIs()
 {
-    const QByteArray large = QByteArray(document) + QByteArray(200000, ' ');
+    const QByteArray large = QByteArray(sentDocument) + QByteArray(200000, ' ');
     m_server->tell("/large", response("200 OK", large));
     m_server->tell("/unknown",
-                   QByteArray("HTTP/1.1 200 OK\r\nConnection: close\r\n\r\n") + document);
+                   QByteArray("HTTP/1.1 200 OK\r\nConnection: close\r\n\r\n") + sentDocument);
     QSignalSpy progress(m_model.get(), &FishModel::loadProgress);
     QVERIFY(!m_model->isLoading());
 
@@ -259,7 +260,7 @@ void TestFishModelNetwork::shouldTellHowFarALoadIs()
 
 void TestFishModelNetwork::shouldCancelLoads()
 {
-    m_server->tell("/a", response("200 OK", QByteArray(document)).left(60), false);
+    m_server->tell("/a", response("200 OK", QByteArray(sentDocument)).left(60), false);
     QSignalSpy loaded(m_model.get(), &FishModel::fishLoaded);
     m_model->loadFishFromUrl(m_server->url("/a"));
     m_model->loadFishFromUrl(m_server->url("/a"));
@@ -279,7 +280,7 @@ void TestFishModelNetwork::shouldTellWhyALoadFailed()
     m_server->tell("/text", response("200 OK", "{\n\"title\":"));
     QCOMPARE(load(m_server->url("/text")), QStringLiteral("fishLoaded(invalid, -10002)"));
     QVERIFY(m_model->loadError().contains(QStringLiteral("line 2")));
-    m_server->tell("/a", response("200 OK", document));
+    m_server->tell("/a", response("200 OK", sentDocument));
     m_model->setReplyLimit(10);
     QCOMPARE(load(m_server->url("/a")), QStringLiteral("fishLoaded(invalid, -10002)"));
     QVERIFY(m_model->loadError().contains(QStringLiteral("too large")));
@@ -294,7 +295,7 @@ void TestFishModelNetwork::shouldFollowRedirects()
 {
     m_server->tell("/old", response("302 Found", "moved", "Location: /older\r\n"));
     m_server->tell("/older", response("301 Moved Permanently", "", "Location: /new\r\n"));
-    m_server->tell("/new", response("200 OK", document));
+    m_server->tell("/new", response("200 OK", sentDocument));
 
     QCOMPARE(load(m_server->url("/old")), QStringLiteral("fishLoaded(Effect, 0)"));
 
@@ -303,7 +304,7 @@ void TestFishModelNetwork::shouldFollowRedirects()
 
 void TestFishModelNetwork::shouldNotFollowRedirectsForEver()
 {
-    m_server->tell("/loop", response("302 Found", document, "Location: /loop\r\n"));
+    m_server->tell("/loop", response("302 Found", sentDocument, "Location: /loop\r\n"));
 
     QCOMPARE(load(m_server->url("/loop")), QStringLiteral("fishLoaded(invalid, -10002)"));
 }
@@ -316,12 +317,12 @@ void TestFishModelNetwork::shouldReportWhatIsNoDiagram_data()
     QTest::newRow("nothing") << response("200 OK", "");
     QTest::newRow("no content") << QByteArray("HTTP/1.1 204 No Content\r\n\r\n");
     QTest::newRow("not found, with a page") << response("404 Not Found", "<html></html>");
-    QTest::newRow("not found, with a diagram") << response("404 Not Found", document);
+    QTest::newRow("not found, with a diagram") << response("404 Not Found", sentDocument);
     QTest::newRow("server error, with a diagram")
-        << response("500 Internal Server Error", document);
-    QTest::newRow("forbidden, with a diagram") << response("403 Forbidden", document);
+        << response("500 Internal Server Error", sentDocument);
+    QTest::newRow("forbidden, with a diagram") << response("403 Forbidden", sentDocument);
     QTest::newRow("cut in the body")
-        << QByteArray("HTTP/1.1 200 OK\r\nContent-Length: 1000\r\n\r\n") + document;
+        << QByteArray("HTTP/1.1 200 OK\r\nContent-Length: 1000\r\n\r\n") + sentDocument;
     QTest::newRow("cut in the head") << QByteArray("HTTP/1.1 200 OK\r\nContent-Le");
     QTest::newRow("not HTTP") << QByteArray("hello\r\n\r\n");
     QTest::newRow("connection closed at once") << QByteArray();
@@ -359,14 +360,14 @@ void TestFishModelNetwork::shouldEndRepliesThatAreTooLarge_data()
 {
     QTest::addColumn<QByteArray>("answer");
 
-    const QByteArray large = QByteArray(document) + QByteArray(100000, ' ');
+    const QByteArray large = QByteArray(sentDocument) + QByteArray(100000, ' ');
     QTest::newRow("announced") << response("200 OK", large);
     QTest::newRow("announced and never sent")
-        << QByteArray("HTTP/1.1 200 OK\r\nContent-Length: 99999999\r\n\r\n") + document;
+        << QByteArray("HTTP/1.1 200 OK\r\nContent-Length: 99999999\r\n\r\n") + sentDocument;
     QTest::newRow("of unknown size")
         << QByteArray("HTTP/1.1 200 OK\r\nConnection: close\r\n\r\n") + large;
     QTest::newRow("one byte too large") << response(
-        "200 OK", QByteArray(document) + QByteArray(1001 - int(qstrlen(document)), ' '));
+        "200 OK", QByteArray(sentDocument) + QByteArray(1001 - int(qstrlen(sentDocument)), ' '));
 }
 
 void TestFishModelNetwork::shouldEndRepliesThatAreTooLarge()
@@ -425,7 +426,7 @@ void TestFishModelNetwork::shouldLoadSeveralAtATime()
 
 void TestFishModelNetwork::shouldFreeEverythingAfterALoad()
 {
-    m_server->tell("/", response("200 OK", document));
+    m_server->tell("/", response("200 OK", sentDocument));
 
     m_model->loadFishFromUrl(m_server->url("/"));
 
@@ -438,7 +439,7 @@ void TestFishModelNetwork::shouldFreeEverythingAfterALoad()
 
 void TestFishModelNetwork::shouldBeDestroyedWhileLoading()
 {
-    m_server->tell("/", response("200 OK", document));
+    m_server->tell("/", response("200 OK", sentDocument));
     m_model->loadFishFromUrl(m_server->url("/"));
     const QPointer<QNetworkAccessManager> manager = m_model->findChild<QNetworkAccessManager *>();
 
@@ -449,7 +450,7 @@ void TestFishModelNetwork::shouldBeDestroyedWhileLoading()
 
 void TestFishModelNetwork::shouldTakeTheReplyOfTheHostsOwnRequest()
 {
-    m_server->tell("/", response("200 OK", document));
+    m_server->tell("/", response("200 OK", sentDocument));
     QNetworkAccessManager manager;
     connect(&manager, &QNetworkAccessManager::finished, m_model.get(), &FishModel::replyFinished);
     QSignalSpy loaded(m_model.get(), &FishModel::fishLoaded);
@@ -463,7 +464,7 @@ void TestFishModelNetwork::shouldTakeTheReplyOfTheHostsOwnRequest()
 
 void TestFishModelNetwork::shouldTakeAReplyWithoutAManager()
 {
-    QPointer<QNetworkReply> reply = new LooseReply(document);
+    QPointer<QNetworkReply> reply = new LooseReply(sentDocument);
     m_model->replyFinished(reply);
     QCOMPARE(m_model->fishList().size(), 1);
     QCOMPARE(m_model->fishList().first()->fileName(), QStringLiteral("x://loose"));
@@ -471,7 +472,7 @@ void TestFishModelNetwork::shouldTakeAReplyWithoutAManager()
 
     m_model->setReplyLimit(10);
     QSignalSpy loaded(m_model.get(), &FishModel::fishLoaded);
-    m_model->replyFinished(new LooseReply(document)); // complete before anybody could end it
+    m_model->replyFinished(new LooseReply(sentDocument)); // complete before anybody could end it
     QCOMPARE(m_model->fishList().size(), 1);
     QCOMPARE(loaded.count(), 1);
     QCOMPARE(loaded.first().at(1).value<MODEL_ERROR>(), MODEL_DATA_ERROR);
