@@ -113,5 +113,5 @@ void TestDiagramView::shouldTakeBackWhatWasArrangedForAPage()
     QVERIFY(view == expected);
 }
 
-FISHBONE_GUILESS_TEST(TestDiagramView)
+FISHBONE_TEST(TestDiagramView)
 #include "tst_diagramview.moc"
