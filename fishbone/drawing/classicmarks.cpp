@@ -9,13 +9,9 @@
 #include <fishbone/items/textitem.h>
 #include <fishbone/model/subjectmarks.h>
 
-#include <QAbstractTextDocumentLayout>
 #include <QFontMetricsF>
 #include <QPainter>
 #include <QPen>
-#include <QTextBlock>
-#include <QTextDocument>
-#include <QTextLayout>
 
 namespace {
 
@@ -39,16 +35,10 @@ QPen verdictPen(Verdict verdict, const QColor &color)
 /** Draws a line below each line of @p title, or through it. */
 void paintLines(QPainter &painter, const TextItem &title, bool isThrough)
 {
-    const QTextDocument &document = *title.document();
-    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
-        const QPointF corner = document.documentLayout()->blockBoundingRect(block).topLeft();
-        for (int i = 0; i < block.layout()->lineCount(); ++i) {
-            const QTextLine line = block.layout()->lineAt(i);
-            const QRectF text = line.naturalTextRect().translated(corner);
-            const qreal base = text.top() + line.ascent();
-            const qreal y = isThrough ? base - line.ascent() * 0.3 : base + markWidth;
-            painter.drawLine(QLineF(text.left(), y, text.right(), y));
-        }
+    for (const TextItem::Line &line : title.lines()) {
+        const qreal base = line.rect.top() + line.ascent;
+        const qreal y = isThrough ? base - line.ascent * 0.3 : base + markWidth;
+        painter.drawLine(QLineF(line.rect.left(), y, line.rect.right(), y));
     }
 }
 

@@ -4,15 +4,11 @@
 #include <fishbone/items/textitem.h>
 
 #include <cmath>
-#include <memory>
 
-#include <QAbstractTextDocumentLayout>
 #include <QGraphicsSceneHoverEvent>
 #include <QPaintEngine>
 #include <QPainter>
 #include <QStyleOptionGraphicsItem>
-#include <QTextCursor>
-#include <QTextDocument>
 
 #include <fishbone/items/hovercursor.h>
 #include <fishbone/items/spearitem.h>
@@ -33,76 +29,10 @@ SpearStyle::SpearState stateOf(bool hovered, bool selected)
 } // namespace
 
 TextItem::TextItem(const QString &text, QGraphicsItem *parent)
-    : QGraphicsTextItem(parent)
-    , m_text(text)
+    : ShapedTextItem(text, parent)
 {
-    fillDocument(true);
-    m_color = defaultTextColor();
     if (!parentSpear()) // a spear gives its own
         showColor(QColor());
-}
-
-bool TextItem::shows(const QFont &font, QStringView text) const
-{
-    return m_text == text && m_font == font;
-}
-
-bool TextItem::shows(const QFont &font, const QString &text) const
-{
-    return (m_text.isSharedWith(text) || m_text == text) && m_font == font;
-}
-
-void TextItem::showText(const QFont &font, const QString &text)
-{
-    if (shows(font, text))
-        return;
-    const bool isAnotherText = m_text != text;
-    m_text = text;
-    m_font = font;
-    fillDocument(isAnotherText);
-}
-
-void TextItem::restoreText()
-{
-    if (m_isTouched)
-        fillDocument(true);
-}
-
-void TextItem::fillDocument(bool isAnotherText)
-{
-    if (m_isTouched) {
-        if (document() != m_document)
-            setDocument(std::make_unique<QTextDocument>(m_documentOwner).release());
-        setTextWidth(-1);
-        setTextCursor(QTextCursor()); // which would hand its format on to the new text
-    }
-    // The font first: the other way round the text would be laid out twice.
-    if (font() != m_font)
-        setFont(m_font);
-    if (isAnotherText)
-        setPlainText(m_text);
-    if (m_document != document())
-        watchDocument();
-    m_size = document()->size();
-    m_isTouched = false;
-}
-
-/** Hears of whatever anybody else does to the document, its end included. */
-void TextItem::watchDocument()
-{
-    m_document = document();
-    m_documentOwner = m_document->parent(); // with which another document takes its place
-    connect(m_document, &QObject::destroyed, this, &TextItem::noteTouch);
-    connect(m_document->documentLayout(), &QAbstractTextDocumentLayout::update, this,
-            &TextItem::noteTouch);
-}
-
-void TextItem::showColor(const QColor &color)
-{
-    if (m_color == color)
-        return;
-    m_color = color;
-    setDefaultTextColor(color);
 }
 
 SpearItem *TextItem::parentSpear() const
@@ -120,23 +50,7 @@ QRectF TextItem::ownBox() const
 QRectF TextItem::boundingRect() const
 {
     const QRectF box = ownBox();
-    return box.isNull() ? QGraphicsTextItem::boundingRect() : box;
-}
-
-QPainterPath TextItem::shape() const
-{
-    const QRectF box = ownBox();
-    if (box.isNull())
-        return QGraphicsTextItem::shape();
-    QPainterPath path;
-    path.addRect(box);
-    return path;
-}
-
-bool TextItem::contains(const QPointF &point) const
-{
-    const QRectF box = ownBox();
-    return box.isNull() ? QGraphicsTextItem::contains(point) : box.contains(point);
+    return box.isNull() ? ShapedTextItem::boundingRect() : box;
 }
 
 void TextItem::boxChanges()
@@ -147,8 +61,7 @@ void TextItem::boxChanges()
 
 void TextItem::paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget)
 {
-    if (defaultTextColor() != m_color)
-        setDefaultTextColor(m_color); // somebody has set another one
+    restoreColor();
     m_ownState =
         stateOf(option->state & QStyle::State_MouseOver, option->state & QStyle::State_Selected);
     SpearStyle::SpearState state = m_ownState;
@@ -162,13 +75,13 @@ void TextItem::paint(QPainter *painter, const QStyleOptionGraphicsItem *option, 
         fill = spear->textBkColor(state);
         frame = spear->broaderPen(state);
     } else {
-        showText(QFont(), m_text);
+        showText(QFont(), shownText());
         showColor(QColor());
     }
     if (state != SpearStyle::ssNormal)
         paintTextBox(*painter, boundingRect(), QRectF(option->rect), fill, frame);
     if (isReadable(*painter))
-        QGraphicsTextItem::paint(painter, option, widget);
+        ShapedTextItem::paint(painter, option, widget);
     else
         paintStroke(painter);
 }
@@ -208,7 +121,7 @@ void TextItem::followInteraction()
 
 QVariant TextItem::itemChange(GraphicsItemChange change, const QVariant &value)
 {
-    const QVariant result = QGraphicsTextItem::itemChange(change, value);
+    const QVariant result = ShapedTextItem::itemChange(change, value);
     if (change == ItemSceneHasChanged)
         m_hovered = false; // the scene that it left sends no further event
     if (change == ItemSceneHasChanged || change == ItemSelectedHasChanged)
@@ -221,13 +134,13 @@ void TextItem::hoverEnterEvent(QGraphicsSceneHoverEvent *event)
     m_hovered = true;
     followInteraction();
     showHoverCursor(*this, event->scenePos());
-    QGraphicsTextItem::hoverEnterEvent(event);
+    ShapedTextItem::hoverEnterEvent(event);
 }
 
 void TextItem::hoverMoveEvent(QGraphicsSceneHoverEvent *event)
 {
     showHoverCursor(*this, event->scenePos());
-    QGraphicsTextItem::hoverMoveEvent(event);
+    ShapedTextItem::hoverMoveEvent(event);
 }
 
 void TextItem::hoverLeaveEvent(QGraphicsSceneHoverEvent *event)
@@ -235,5 +148,5 @@ void TextItem::hoverLeaveEvent(QGraphicsSceneHoverEvent *event)
     m_hovered = false;
     followInteraction();
     showArrowCursor(*this);
-    QGraphicsTextItem::hoverLeaveEvent(event);
+    ShapedTextItem::hoverLeaveEvent(event);
 }

@@ -215,6 +215,11 @@ void TestFishEditorAnySetter::shouldKnowEverySetter_data()
                                    {QStringLiteral("setLook"), QStringLiteral("setLookData")});
     QTest::newRow("texts") << QStringLiteral("items/textitem.h") << QStringLiteral("addTextSetters")
                            << QStringList();
+    // These say how a text is edited and whose document it shows, which is among the setters.
+    QTest::newRow("texts without a document")
+        << QStringLiteral("items/shapedtextitem.h") << QStringLiteral("addTextSetters")
+        << QStringLiteral("setTextCursor setOpenExternalLinks setTextInteractionFlags adjustSize")
+               .split(QLatin1Char(' '));
     QTest::newRow("icons") << QStringLiteral("items/svgitem.h") << QStringLiteral("addIconSetters")
                            << QStringList();
     // It fills a menu.
