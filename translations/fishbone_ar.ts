@@ -187,6 +187,7 @@
     </message>
     <message>
         <source>Print…</source>
+        <translatorcomment>Not yet read by a native speaker</translatorcomment>
         <translation>طباعة…</translation>
     </message>
 </context>
@@ -4367,7 +4368,8 @@ Do you want to save your changes?</source>
     </message>
     <message>
         <source>Print act&amp;ions…</source>
-        <translation>طباعة الإجراءا&amp;ت…</translation>
+        <translatorcomment>Not yet read by a native speaker</translatorcomment>
+        <translation>طبا&amp;عة الإجراءات…</translation>
     </message>
 </context>
 <context>

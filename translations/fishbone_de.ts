@@ -187,6 +187,7 @@
     </message>
     <message>
         <source>Print…</source>
+        <translatorcomment>Not yet read by a native speaker</translatorcomment>
         <translation>Drucken…</translation>
     </message>
 </context>
@@ -4307,7 +4308,8 @@ Möchten Sie Ihre Änderungen speichern?</translation>
     </message>
     <message>
         <source>Print act&amp;ions…</source>
-        <translation>Maßnahmen dr&amp;ucken…</translation>
+        <translatorcomment>Not yet read by a native speaker</translatorcomment>
+        <translation>Ma&amp;ßnahmen drucken…</translation>
     </message>
 </context>
 <context>

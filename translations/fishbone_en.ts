@@ -3516,7 +3516,7 @@ Do you want to save your changes?</translation>
     </message>
     <message>
         <source>Print act&amp;ions…</source>
-        <translation>Print act&amp;ions…</translation>
+        <translation>Print actions (&amp;K)…</translation>
     </message>
 </context>
 <context>

@@ -187,6 +187,7 @@
     </message>
     <message>
         <source>Print…</source>
+        <translatorcomment>Not yet read by a native speaker</translatorcomment>
         <translation>Imprimir…</translation>
     </message>
 </context>
@@ -4307,7 +4308,8 @@ Do you want to save your changes?</source>
     </message>
     <message>
         <source>Print act&amp;ions…</source>
-        <translation>Imprimir acci&amp;ones…</translation>
+        <translatorcomment>Not yet read by a native speaker</translatorcomment>
+        <translation>Imprimir acciones (&amp;K)…</translation>
     </message>
 </context>
 <context>

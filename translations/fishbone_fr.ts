@@ -187,6 +187,7 @@
     </message>
     <message>
         <source>Print…</source>
+        <translatorcomment>Not yet read by a native speaker</translatorcomment>
         <translation>Imprimer…</translation>
     </message>
 </context>
@@ -4307,7 +4308,8 @@ Voulez-vous enregistrer vos modifications&#x202f;?</translation>
     </message>
     <message>
         <source>Print act&amp;ions…</source>
-        <translation>Imprimer les actio&amp;ns…</translation>
+        <translatorcomment>Not yet read by a native speaker</translatorcomment>
+        <translation>Imprimer les actions (&amp;K)…</translation>
     </message>
 </context>
 <context>

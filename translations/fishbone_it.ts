@@ -187,6 +187,7 @@
     </message>
     <message>
         <source>Print…</source>
+        <translatorcomment>Not yet read by a native speaker</translatorcomment>
         <translation>Stampa…</translation>
     </message>
 </context>
@@ -4307,7 +4308,8 @@ Salvare le modifiche?</translation>
     </message>
     <message>
         <source>Print act&amp;ions…</source>
-        <translation>Stampa le az&amp;ioni…</translation>
+        <translatorcomment>Not yet read by a native speaker</translatorcomment>
+        <translation>Stampa le azioni (&amp;X)…</translation>
     </message>
 </context>
 <context>

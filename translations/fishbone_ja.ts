@@ -187,6 +187,7 @@
     </message>
     <message>
         <source>Print…</source>
+        <translatorcomment>Not yet read by a native speaker</translatorcomment>
         <translation>印刷…</translation>
     </message>
 </context>
@@ -4292,7 +4293,8 @@ Do you want to save your changes?</source>
     </message>
     <message>
         <source>Print act&amp;ions…</source>
-        <translation>対策の印刷(&amp;I)…</translation>
+        <translatorcomment>Not yet read by a native speaker</translatorcomment>
+        <translation>対策の印刷(&amp;Z)…</translation>
     </message>
 </context>
 <context>

@@ -187,6 +187,7 @@
     </message>
     <message>
         <source>Print…</source>
+        <translatorcomment>Not yet read by a native speaker</translatorcomment>
         <translation>인쇄…</translation>
     </message>
 </context>
@@ -4292,7 +4293,8 @@ Do you want to save your changes?</source>
     </message>
     <message>
         <source>Print act&amp;ions…</source>
-        <translation>조치 인쇄(&amp;I)…</translation>
+        <translatorcomment>Not yet read by a native speaker</translatorcomment>
+        <translation>조치 인쇄(&amp;Z)…</translation>
     </message>
 </context>
 <context>

@@ -187,6 +187,7 @@
     </message>
     <message>
         <source>Print…</source>
+        <translatorcomment>Not yet read by a native speaker</translatorcomment>
         <translation>Drukuj…</translation>
     </message>
 </context>
@@ -4322,7 +4323,8 @@ Czy zapisać zmiany?</translation>
     </message>
     <message>
         <source>Print act&amp;ions…</source>
-        <translation>Druku&amp;j działania…</translation>
+        <translatorcomment>Not yet read by a native speaker</translatorcomment>
+        <translation>Drukuj dzia&amp;łania…</translation>
     </message>
 </context>
 <context>

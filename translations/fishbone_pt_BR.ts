@@ -187,6 +187,7 @@
     </message>
     <message>
         <source>Print…</source>
+        <translatorcomment>Not yet read by a native speaker</translatorcomment>
         <translation>Imprimir…</translation>
     </message>
 </context>
@@ -4307,7 +4308,8 @@ Deseja salvar as alterações?</translation>
     </message>
     <message>
         <source>Print act&amp;ions…</source>
-        <translation>Imprimir aç&amp;ões…</translation>
+        <translatorcomment>Not yet read by a native speaker</translatorcomment>
+        <translation>Imprimir a&amp;ções…</translation>
     </message>
 </context>
 <context>

@@ -187,6 +187,7 @@
     </message>
     <message>
         <source>Print…</source>
+        <translatorcomment>Not yet read by a native speaker</translatorcomment>
         <translation>Печать…</translation>
     </message>
 </context>
@@ -3827,7 +3828,7 @@ Do you want to save your changes?</source>
     <message>
         <source>Levels below the main bones:</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>Уровни ниже основных костей:</translation>
+        <translation>Ниже основных костей:</translation>
     </message>
     <message>
         <source>Levels below the main bones</source>
@@ -4322,7 +4323,8 @@ Do you want to save your changes?</source>
     </message>
     <message>
         <source>Print act&amp;ions…</source>
-        <translation>Печать &amp;мероприятий…</translation>
+        <translatorcomment>Not yet read by a native speaker</translatorcomment>
+        <translation>Пе&amp;чать мероприятий…</translation>
     </message>
 </context>
 <context>

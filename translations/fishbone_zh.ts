@@ -3501,7 +3501,7 @@ Do you want to save your changes?</source>
     </message>
     <message>
         <source>Print act&amp;ions…</source>
-        <translation>打印待办事项(&amp;I)…</translation>
+        <translation>打印待办事项(&amp;Z)…</translation>
     </message>
 </context>
 <context>
