@@ -76,14 +76,16 @@ bool ShapedTextItem::hasDocument() const
 QGraphicsTextItem &ShapedTextItem::withDocument() const
 {
     auto &item = const_cast<ShapedTextItem &>(*this); // which goes on showing what it shows
-    return m_document ? item : item.takeDocument();
+    if (!m_document)
+        item.takeDocument();
+    return item;
 }
 
 /**
  * Makes the document, or takes over that which somebody has made through the base class: an empty
  * one shows the text from now on, in its color and in the font that the document was given.
  */
-QGraphicsTextItem &ShapedTextItem::takeDocument()
+void ShapedTextItem::takeDocument()
 {
     const bool isForeign = hasDocument();
     const QTextDocument &made = *QGraphicsTextItem::document();
@@ -97,7 +99,6 @@ QGraphicsTextItem &ShapedTextItem::takeDocument()
     watchDocument();
     m_size = made.size();
     m_isTouched = isForeign;
-    return *this;
 }
 
 /** Hears of a document that somebody makes through the base class. */

@@ -115,7 +115,7 @@ private:
     QSizeF measuredSize() const;
     bool hasDocument() const;
     QGraphicsTextItem &withDocument() const;
-    QGraphicsTextItem &takeDocument();
+    void takeDocument();
     void fillDocument(bool isAnotherText);
     void watchDocument();
     void noteTouch() { m_isTouched = true; }
