@@ -58,9 +58,7 @@ void ShapedTextItem::showText(const QFont &font, const QString &text)
 
 void ShapedTextItem::restoreText()
 {
-    if (!m_isTouched)
-        return;
-    if (hasDocument()) {
+    if (m_isTouched && hasDocument()) {
         withDocument();
         fillDocument(true);
     }
