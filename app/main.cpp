@@ -26,6 +26,7 @@
 #include <QStandardPaths>
 
 #include <cstdio>
+#include <memory>
 
 namespace {
 
@@ -88,18 +89,17 @@ int showWindow(const StartUp &startUp, const CommandLine &line)
 int main(int argc, char **argv)
 {
     StartUp startUp(argc, argv);
-    const QApplication application(startUp.argc(), startUp.argv());
-    StartUp::restoreMessages();
-    QApplication::setApplicationName(QStringLiteral("Fishbone"));
-    QApplication::setOrganizationName(QStringLiteral("Fishbone"));
-    QApplication::setApplicationVersion(QStringLiteral(FISHBONE_VERSION_STRING));
+    const std::unique_ptr<QCoreApplication> application = startUp.makeApplication();
+    QCoreApplication::setApplicationName(QStringLiteral("Fishbone"));
+    QCoreApplication::setOrganizationName(QStringLiteral("Fishbone"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(FISHBONE_VERSION_STRING));
     QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false"));
 
-    const CommandLine first = CommandLine::parse(QApplication::arguments());
+    const CommandLine first = CommandLine::parse(startUp.arguments());
     if (QFileInfo(first.translations).isDir())
         Language::useFolder(first.translations);
     Language::install(languageFor(first));
-    const CommandLine line = CommandLine::parse(QApplication::arguments()); // in that language now
+    const CommandLine line = CommandLine::parse(startUp.arguments()); // in that language now
     QString message;
     switch (line.action) {
     case CommandLine::Action::ShowWindow:

@@ -5,6 +5,7 @@
 
 #include <app/commandline/commandline.h>
 
+#include <QApplication>
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -65,24 +66,31 @@ StartUp::StartUp(int argc, char **argv)
     QStringList arguments;
     for (int i = 0; i < argc; ++i)
         arguments.append(QString::fromLocal8Bit(argv[i]));
-    const bool windowed = wantsWindow(arguments);
+    const CommandLine::Action action = CommandLine::parse(withoutToolkitOptions(arguments)).action;
+    const bool windowed = action == CommandLine::Action::ShowWindow;
     m_lacksDisplay = windowed && !hasDisplay(arguments);
+    m_drawsNothing = m_lacksDisplay || action == CommandLine::Action::Print ||
+                     action == CommandLine::Action::Refuse;
     windowless = !windowed || m_lacksDisplay;
     if (windowless)
         useOffscreenPlatform();
-    qInstallMessageHandler(reportStart);
     m_argv.push_back(nullptr);
 }
 
-void StartUp::restoreMessages()
+std::unique_ptr<QCoreApplication> StartUp::makeApplication()
 {
+    if (m_drawsNothing)
+        return std::make_unique<QCoreApplication>(m_argc, m_argv.data());
+    qInstallMessageHandler(reportStart);
+    auto application = std::make_unique<QApplication>(m_argc, m_argv.data());
     qInstallMessageHandler(nullptr);
+    return application;
 }
 
-bool StartUp::wantsWindow(const QStringList &arguments)
+QStringList StartUp::arguments() const
 {
-    const CommandLine line = CommandLine::parse(withoutToolkitOptions(arguments));
-    return line.action == CommandLine::Action::ShowWindow;
+    const QStringList all = QCoreApplication::arguments();
+    return m_drawsNothing ? withoutToolkitOptions(all) : all;
 }
 
 bool StartUp::hasDisplay(const QStringList &arguments)

@@ -6,15 +6,21 @@
 #include <QByteArray>
 #include <QStringList>
 
+#include <memory>
 #include <vector>
 
+class QCoreApplication;
+
 /**
- * What has to be settled before the application object is made: which platform it runs on.
+ * What has to be settled before the application object is made: which one it is, and which platform
+ * it runs on.
  *
- * A run that shows no window (an export, a help text) gets Qt's offscreen platform, whatever the
+ * A run that only says something (its version, what its options are, what is wrong with them) has
+ * no platform at all: loading one, with its fonts, would be nearly all that it does.
+ *
+ * A run that draws without a window, an export for one, gets Qt's offscreen platform, whatever the
  * environment and the arguments say, so that it works without a display and draws the same
- * everywhere. So does a run that wants a window where there is no display: it lives just long
- * enough to say so.
+ * everywhere.
  */
 class StartUp
 {
@@ -23,18 +29,17 @@ class StartUp
 public:
     StartUp(int argc, char **argv);
 
-    /** The arguments for the application object; valid as long as this object. */
-    int &argc() { return m_argc; }
-    char **argv() { return m_argv.data(); }
+    /** Makes the application object that the run needs, which must not outlive this object. */
+    std::unique_ptr<QCoreApplication> makeApplication();
 
-    /** Ends what was set up for the time in which the application object is made. */
-    static void restoreMessages();
+    /** The arguments, the program's name in front, without those that the toolkit takes. They are
+     * those of the application object, which alone knows how they are encoded. */
+    QStringList arguments() const;
 
     /** Whether a window cannot be shown because there is no display. */
     bool lacksDisplay() const { return m_lacksDisplay; }
 
 private:
-    static bool wantsWindow(const QStringList &arguments);
     static bool hasDisplay(const QStringList &arguments);
     void useOffscreenPlatform();
 
@@ -43,4 +48,5 @@ private:
     QByteArray m_option = "-platform";
     QByteArray m_platform = "offscreen";
     bool m_lacksDisplay = false;
+    bool m_drawsNothing = false;
 };

@@ -74,9 +74,13 @@ QString toolkitTranslations()
 #endif
 }
 
-/** A widget keeps the default locale of the time when it was made. */
-void showFormats()
+/** Lays out widgets in @p direction. One keeps the default locale of the time when it was made. A
+ * run that draws nothing has no application to tell. */
+void show(Qt::LayoutDirection direction)
 {
+    if (!qobject_cast<QGuiApplication *>(QCoreApplication::instance()))
+        return;
+    QGuiApplication::setLayoutDirection(direction);
     const QWidgetList windows = QApplication::topLevelWidgets();
     for (QWidget *window : windows) {
         if (!window->testAttribute(Qt::WA_SetLocale))
@@ -108,8 +112,7 @@ void Language::install(const QString &language)
     if (self.m_folder)
         installFrom(QString(), self.m_folder->fileOf(shown));
     qDeleteAll(old);
-    QGuiApplication::setLayoutDirection(locale.textDirection());
-    showFormats();
+    show(locale.textDirection());
     Q_EMIT self.changed();
 }
 
