@@ -30,9 +30,9 @@ RecoveryCopy::RecoveryCopy(DiagramSession *session, QObject *parent)
     , m_session(session)
 {
     session->editor()->setAutosaveInterval(0);
-    connect(session, &DiagramSession::stateChanged, this, [this] { m_mayHaveChanged = true; });
+    connect(session, &DiagramSession::stateChanged, this, &RecoveryCopy::expectChanges);
     connect(&m_timer, &QTimer::timeout, this, &RecoveryCopy::saveChanges);
-    m_timer.start(interval());
+    m_timer.setInterval(interval());
 }
 
 RecoveryCopy::~RecoveryCopy() = default;
@@ -41,6 +41,7 @@ void RecoveryCopy::setDocument(FishInfo *document)
 {
     m_document = document;
     redirect();
+    expectChanges();
 }
 
 /** Chooses the path of the copy. Whatever else autosaves the document writes there as well, and not
@@ -52,12 +53,26 @@ void RecoveryCopy::redirect()
     m_document->setAutoSaveFile(m_path);
 }
 
+/** The timer runs while there may be something to save only: an idle program wakes for nothing. */
+void RecoveryCopy::expectChanges()
+{
+    m_mayHaveChanged = true;
+    if (!m_timer.isActive())
+        m_timer.start();
+}
+
 void RecoveryCopy::saveChanges()
 {
-    if (m_document && m_mayHaveChanged && m_document->modified())
-        save();
-    else if (m_document && m_mayHaveChanged && QFile::exists(m_path))
-        discard(); // all of it was undone
+    if (m_document && m_mayHaveChanged) {
+        if (m_document->modified())
+            save();
+        else if (QFile::exists(m_path))
+            discard(); // all of it was undone
+        else
+            m_mayHaveChanged = false;
+    }
+    if (!m_mayHaveChanged || !m_document)
+        m_timer.stop();
 }
 
 bool RecoveryCopy::save()
@@ -68,7 +83,7 @@ bool RecoveryCopy::save()
     m_mayHaveChanged = false;
     const bool saved = write();
     if (!saved)
-        m_mayHaveChanged = true; // to be tried again
+        expectChanges(); // to be tried again
     setState(saved ? State::Saved : State::Failed);
     return saved;
 }

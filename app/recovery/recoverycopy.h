@@ -55,6 +55,7 @@ Q_SIGNALS:
     void changed();
 
 private:
+    void expectChanges();
     void saveChanges();
     bool write();
     void redirect();
