@@ -67,7 +67,7 @@ PictureExport::Result ClearWriting::svg(QByteArray &bytes) const
 PictureExport::Result ClearWriting::png(QByteArray &bytes) const
 {
     QImage image(QSize(int(std::ceil(size.width())), int(std::ceil(size.height()))),
-                 QImage::Format_ARGB32_Premultiplied);
+                 PictureBytes::formatOn(options.background));
     if (image.isNull())
         return {PictureExport::Error::TooLarge,
                 DiagramPicture::tr("there is not enough memory for it")};

@@ -65,10 +65,7 @@ Result drawPng(PictureDrawing &drawing, QByteArray &picture)
 {
     const PictureFrame &frame = drawing.frame();
     const PictureOptions &options = drawing.options();
-    // Without an alpha channel there is a quarter less to compress.
-    const bool isOpaque = options.background.isValid() && options.background.alpha() == 255;
-    QImage image(frame.size.toSize(),
-                 isOpaque ? QImage::Format_RGB32 : QImage::Format_ARGB32_Premultiplied);
+    QImage image(frame.size.toSize(), PictureBytes::formatOn(options.background));
     if (image.isNull())
         return tooLarge(frame.size, PictureExport::tr("there is not enough memory"));
     image.fill(Qt::transparent);

@@ -5,8 +5,6 @@
 
 #include <algorithm>
 
-#include <QImage>
-
 bool PictureProgress::goesOn(int done)
 {
     m_done = std::max(m_done, done);
@@ -28,6 +26,13 @@ PictureExport::Result PictureProgress::finish()
 {
     goesOn(m_steps);
     return outcome(true);
+}
+
+QImage::Format PictureBytes::formatOn(const QColor &background)
+{
+    // Without an alpha channel there is a quarter less to compress.
+    const bool isOpaque = background.isValid() && background.alpha() == 255;
+    return isOpaque ? QImage::Format_RGB32 : QImage::Format_ARGB32_Premultiplied;
 }
 
 bool PictureBytes::savePng(const QImage &image)

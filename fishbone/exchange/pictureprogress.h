@@ -6,8 +6,7 @@
 #include <fishbone/exchange/pictureexport.h>
 
 #include <QBuffer>
-
-class QImage;
+#include <QImage>
 
 /** Tells whoever waits for a picture how far it is, and hears whether it is still wanted. */
 class PictureProgress
@@ -53,6 +52,8 @@ public:
         open(QIODevice::WriteOnly);
     }
 
+    /** The format of an image that is painted on @p background and then encoded. */
+    static QImage::Format formatOn(const QColor &background);
     /** Encodes @p image. False when that was not possible. */
     bool savePng(const QImage &image);
 

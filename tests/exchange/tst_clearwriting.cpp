@@ -42,6 +42,7 @@ private Q_SLOTS:
     void shouldPaintWithinTheTarget();
     void shouldWriteEachFormat();
     void shouldFillTheBackgroundOfAPng();
+    void shouldKeepNoOpacityThatIsTheSameEverywhere();
 };
 
 void TestClearWriting::shouldPaintWithinTheTarget()
@@ -93,6 +94,23 @@ void TestClearWriting::shouldFillTheBackgroundOfAPng()
     QByteArray png;
     QVERIFY(writing.png(png));
     QCOMPARE(QImage::fromData(png).pixelColor(2, 2), QColor(Qt::yellow));
+}
+
+void TestClearWriting::shouldKeepNoOpacityThatIsTheSameEverywhere()
+{
+    const TwoSubjects two;
+    for (const QColor &background : {QColor(Qt::white), QColor(Qt::transparent), QColor()}) {
+        PictureOptions options;
+        options.background = background;
+        PictureProgress progress(options, two.picture.count());
+        const ClearWriting writing{two.picture, options, QSizeF(300, 200), QRectF(0, 0, 300, 200),
+                                   progress};
+        QByteArray png;
+        QVERIFY(writing.png(png));
+        const QImage image = QImage::fromData(png);
+        QCOMPARE(image.hasAlphaChannel(), background != Qt::white);
+        QCOMPARE(image.pixelColor(0, 0).alpha(), background == Qt::white ? 255 : 0);
+    }
 }
 
 FISHBONE_TEST(TestClearWriting)
