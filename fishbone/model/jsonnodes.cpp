@@ -83,6 +83,17 @@ QJsonObject attributes(const TreeItem &node)
     return object;
 }
 
+int readAttributes(TreeItem &node, const QJsonObject &object)
+{
+    int known = object.contains(childrenKey);
+    for (const SubjectAttribute &attribute : SubjectAttribute::inKeyOrder()) {
+        const QJsonValue value = object.value(attribute.key());
+        known += !value.isUndefined();
+        attribute.read(node, value);
+    }
+    return known;
+}
+
 Extent write(QJsonObject &out, const TreeItem &top, int maxLevels)
 {
     struct Frame

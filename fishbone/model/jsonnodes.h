@@ -54,6 +54,11 @@ QJsonObject otherFields(const QJsonObject &object);
 
 /** The object of a node without its children. */
 QJsonObject attributes(const TreeItem &node);
+/**
+ * Gives @p node the attributes that @p object, a node's of a file, says it has. Returns how many of
+ * the keys of the object the format knows.
+ */
+int readAttributes(TreeItem &node, const QJsonObject &object);
 
 /** What was written of a tree. */
 struct Extent

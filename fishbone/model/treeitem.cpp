@@ -19,11 +19,13 @@
 
 namespace {
 
-/** Empty but not null, since the file writer leaves out null strings. */
-const QString &emptyText()
+constexpr int shownColumns = 5;
+
+/** What a column shows: the columns are the attributes that people see first. Null for none. */
+const SubjectAttribute *attributeOf(int column)
 {
-    static const QString text = QStringLiteral("");
-    return text;
+    const bool isShown = column >= 0 && column < shownColumns;
+    return isShown ? &SubjectAttribute::all().at(column) : nullptr;
 }
 
 } // namespace
@@ -33,6 +35,13 @@ struct TreeItem::Extra
     QJsonObject otherFields;
     FishInfo *document = nullptr; // whose container the node is
 };
+
+/** Empty but not null, since the file writer leaves out null strings. All nodes share it. */
+const QString &TreeItem::emptyText()
+{
+    static const QString text = QStringLiteral("");
+    return text;
+}
 
 const QString &TreeItem::noIdentity()
 {
@@ -45,33 +54,23 @@ bool TreeItem::isIdentity(const QString &text)
     return !text.isEmpty() && text != noIdentity();
 }
 
-TreeItem::TreeItem()
-{
-    initData();
-}
+TreeItem::TreeItem() = default;
 
 TreeItem::TreeItem(const QString &title, const QString &uuid, const QString &showid,
                    const QString &pid, int type, TreeItem *parent)
+    : m_parent(parent)
+    , m_title(title)
+    , m_uuid(uuid)
+    , m_showid(showid)
+    , m_pid(pid)
+    , m_type(type)
 {
-    initData();
-    m_parent = parent;
-    m_title = title;
-    m_uuid = uuid;
-    m_showid = showid;
-    m_pid = pid;
-    m_type = type;
 }
 
 TreeItem::TreeItem(const QJsonObject &object, TreeItem *parent)
+    : m_parent(parent)
 {
-    initData();
-    m_parent = parent;
-    int known = object.contains(JsonNodes::childrenKey);
-    for (const SubjectAttribute &attribute : SubjectAttribute::inKeyOrder()) {
-        const QJsonValue value = object.value(attribute.key());
-        known += !value.isUndefined();
-        attribute.read(*this, value);
-    }
+    const int known = JsonNodes::readAttributes(*this, object);
     if (parent && m_pid == parent->m_uuid)
         m_pid = parent->m_uuid; // one text for all siblings
     if (known < object.size())
@@ -81,33 +80,11 @@ TreeItem::TreeItem(const QJsonObject &object, TreeItem *parent)
 TreeItem::~TreeItem()
 {
     m_guard.clear();
-    // Every node below is emptied before it is deleted, so that no destructor calls another.
-    QList<TreeItem *> doomed;
-    doomed.swap(m_children);
-    while (!doomed.isEmpty()) {
-        const std::unique_ptr<TreeItem> node(doomed.takeLast());
-        doomed.append(node->m_children);
-        node->m_children.clear();
-    }
+    Place(*this).deleteAll();
     if (m_spear)
         leaveSpear();
     delSpearStyle();
     StyleSession::nodeDies(this);
-}
-
-void TreeItem::initData()
-{
-    // All nodes share these texts.
-    m_title = emptyText();
-    m_uuid = noIdentity();
-    m_showid = emptyText();
-    m_pid = noIdentity();
-    m_detail = emptyText();
-    m_url = emptyText();
-    m_managerName = emptyText();
-    m_managerId = emptyText();
-    m_creatorName = emptyText();
-    m_creatorId = emptyText();
 }
 
 void TreeItem::setParent(TreeItem *parent)
@@ -195,49 +172,22 @@ bool TreeItem::removeChildren(int position, int count)
 
 int TreeItem::columnCount() const
 {
-    return 5;
+    return shownColumns;
 }
 
 QVariant TreeItem::data(int column) const
 {
-    switch (column) {
-    case 0:
-        return m_title;
-    case 1:
-        return m_uuid;
-    case 2:
-        return m_showid;
-    case 3:
-        return m_pid;
-    case 4:
-        return m_type;
-    default:
-        return QVariant();
-    }
+    const SubjectAttribute *const shown = attributeOf(column);
+    return shown ? shown->get(*this) : QVariant();
 }
 
 bool TreeItem::setData(int column, const QVariant &value)
 {
-    switch (column) {
-    case 0:
-        setTitle(value.toString());
-        return true;
-    case 1:
-        m_uuid = value.toString();
-        return true;
-    case 2:
-        m_showid = value.toString();
-        return true;
-    case 3:
-        m_pid = value.toString();
-        return true;
-    case 4:
-        // Kept, but never announced as an edit: the type is the host's.
-        m_type = value.toInt();
-        return false;
-    default:
-        return false;
-    }
+    const SubjectAttribute *const shown = attributeOf(column);
+    if (shown)
+        shown->set(*this, value);
+    // The type is kept, but never announced as an edit: it is the host's.
+    return shown && shown->key() != JsonNodes::typeKey;
 }
 
 void TreeItem::setTitle(const QString &title)

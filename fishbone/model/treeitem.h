@@ -292,7 +292,7 @@ private:
     struct Extra; // what few nodes have
     class Place;  // in a list of children
 
-    void initData();
+    static const QString &emptyText();
     // What concerns the spear is defined beside it, in items/subjectspear.cpp.
     void showTitle();
     void leaveSpear();
@@ -304,20 +304,20 @@ private:
     QList<TreeItem *> m_children;
     TreeItem *m_parent = nullptr;
     TreeItem *m_lister = nullptr; // the node whose list holds this one
-    QString m_title;
-    QString m_uuid;
-    QString m_showid;
-    QString m_pid;
-    QString m_detail;
+    QString m_title = emptyText();
+    QString m_uuid = noIdentity();
+    QString m_showid = emptyText();
+    QString m_pid = noIdentity();
+    QString m_detail = emptyText();
     int m_type = 0;
     int m_status = none;
     int m_progress = 0;
     int m_priority = none;
-    QString m_url;
-    QString m_managerName;
-    QString m_managerId;
-    QString m_creatorName;
-    QString m_creatorId;
+    QString m_url = emptyText();
+    QString m_managerName = emptyText();
+    QString m_managerId = emptyText();
+    QString m_creatorName = emptyText();
+    QString m_creatorId = emptyText();
     QStringList m_followers;
     qint64 m_createDate = 0;
     qint64 m_planEndDate = 0;

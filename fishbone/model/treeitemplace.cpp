@@ -142,3 +142,15 @@ bool TreeItem::Place::remove(int position, int count)
     qDeleteAll(takeAll(position, count));
     return true;
 }
+
+void TreeItem::Place::deleteAll()
+{
+    // Every node below is emptied before it is deleted, so that no destructor calls another.
+    QList<TreeItem *> doomed;
+    doomed.swap(m_node.m_children);
+    while (!doomed.isEmpty()) {
+        const std::unique_ptr<TreeItem> node(doomed.takeLast());
+        doomed.append(node->m_children);
+        node->m_children.clear();
+    }
+}

@@ -26,6 +26,8 @@ public:
     TreeItem *take(int row);
     /** Deletes @p count children from @p position on; false for a range that does not exist. */
     bool remove(int position, int count);
+    /** Deletes the whole subtree below the node, of any depth. */
+    void deleteAll();
 
 private:
     bool accepts(const TreeItem *child) const;
