@@ -108,18 +108,24 @@ private:
     /** Gives the style of @p giver to those below that have it from there. */
     void handDown(const TreeItem *giver)
     {
-        std::vector<const TreeItem *> givers{giver};
-        while (!givers.empty()) {
-            const TreeItem *const above = givers.back();
-            givers.pop_back();
-            for (const TreeItem *child : above->childItems()) {
-                const SpearStyle *const style = child->spearStyle();
-                if (!style || !style->inheritanceParent() || m_chosen.contains(child))
-                    continue;
-                set(child, inheritedBy(*child, {}));
-                givers.push_back(child);
-            }
+        const auto heirs = [this](const TreeItem &above) { return heirsOf(above); };
+        visitPreOrder(giver, heirs, [this, giver](const TreeItem *subject) {
+            if (subject != giver)
+                set(subject, inheritedBy(*subject, {}));
+            return true;
+        });
+    }
+
+    /** The children of @p above that have its style from it, but for those that are chosen. */
+    QList<const TreeItem *> heirsOf(const TreeItem &above) const
+    {
+        QList<const TreeItem *> heirs;
+        for (const TreeItem *child : above.childItems()) {
+            const SpearStyle *const style = child->spearStyle();
+            if (style && style->inheritanceParent() && !m_chosen.contains(child))
+                heirs.append(child);
         }
+        return heirs;
     }
 
     const QSet<const TreeItem *> m_chosen;

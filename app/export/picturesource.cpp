@@ -8,6 +8,7 @@
 #include <fishbone/editor/fisheditor.h>
 #include <fishbone/editor/fishscene.h>
 #include <fishbone/exchange/diagrampicture.h>
+#include <fishbone/exchange/outlinewalk.h>
 #include <fishbone/exchange/pagesize.h>
 #include <fishbone/exchange/pictureexport.h>
 #include <fishbone/items/spearitem.h>
@@ -121,15 +122,8 @@ QString PictureSource::title() const
 
 int PictureSource::depth() const
 {
-    int levels = -1; // the head and the main bones count for none
-    QList<TreeItem *> level = root().childItems();
-    for (; !level.isEmpty(); ++levels) {
-        QList<TreeItem *> next;
-        for (const TreeItem *item : qAsConst(level))
-            next += item->childItems();
-        level = next;
-    }
-    return qMax(levels, 0);
+    constexpr int uncounted = 2; // the head and the main bones
+    return qMax(OutlineWalk::levelsOf(root()) - uncounted, 0);
 }
 
 void PictureSource::setWish(const PictureWish &wish)
