@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include <tests/support/filecontent.h>
+
 #include <app/diagram/diagramsession.h>
 #include <app/documents/documenttab.h>
 #include <app/documents/documenttabs.h>
@@ -70,11 +72,7 @@ public:
         QCOMPARE(file.write(content), qint64(content.size()));
     }
 
-    static QByteArray contentOf(const QString &name)
-    {
-        QFile file(name);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
+    static QByteArray contentOf(const QString &name) { return TestSupport::contentOf(name); }
 
     /** Lets the window answer what has happened. */
     static void settle()

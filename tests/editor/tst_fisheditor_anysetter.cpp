@@ -15,6 +15,7 @@
 #include <tests/support/anysetter.h>
 #include <tests/support/drawingtext.h>
 #include <tests/support/editorfixture.h>
+#include <tests/support/filecontent.h>
 #include <tests/support/pictures.h>
 #include <tests/support/sourcefolder.h>
 #include <tests/support/statelooks.h>
@@ -152,10 +153,9 @@ struct NamedLook
 };
 constexpr NamedLook looks[] = {{"classic", DiagramLook::Classic}, {"clear", DiagramLook::Clear}};
 
-QString contentOf(const QString &fileName)
+QString textOf(const QString &path)
 {
-    QFile file(fileName);
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+    return QString::fromUtf8(TestSupport::contentOf(path));
 }
 
 /** The names of the public functions of a header that change an object. */
@@ -237,10 +237,9 @@ void TestFishEditorAnySetter::shouldKnowEverySetter()
     QFETCH(QString, header);
     QFETCH(QString, section);
     QFETCH(const QStringList, leftOut);
-    const QStringList setters =
-        settersOf(contentOf(sourceFile(QStringLiteral("fishbone/") + header)));
+    const QStringList setters = settersOf(textOf(sourceFile(QStringLiteral("fishbone/") + header)));
     const QString listed =
-        functionOf(contentOf(sourceFile(QStringLiteral("tests/support/anysetter.cpp"))), section);
+        functionOf(textOf(sourceFile(QStringLiteral("tests/support/anysetter.cpp"))), section);
     QVERIFY(!setters.isEmpty());
     QVERIFY(!listed.isEmpty());
 

@@ -6,6 +6,7 @@
 #include <fishbone/model/fishinfo.h>
 #include <fishbone/model/fishmodel.h>
 #include <tests/support/documents.h>
+#include <tests/support/filecontent.h>
 
 #include <QDir>
 #include <QFile>
@@ -17,11 +18,7 @@
 class SavingFixture
 {
 protected:
-    static QByteArray contentOf(const QString &path)
-    {
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("cannot be read");
-    }
+    static QByteArray contentOf(const QString &path) { return TestSupport::contentOf(path); }
 
     static bool makeFile(const QString &path, const QByteArray &content)
     {

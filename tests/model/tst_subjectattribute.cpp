@@ -11,6 +11,7 @@
 
 #include <tests/program/testprogram.h>
 #include <tests/support/commandfixture.h>
+#include <tests/support/filecontent.h>
 #include <tests/support/sourcefolder.h>
 
 #include <QBuffer>
@@ -50,8 +51,7 @@ QVariant unusual(const SubjectAttribute &attribute)
 
 QByteArray contentOf(const char *path)
 {
-    QFile file(sourceFile(QString::fromLatin1(path)));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    return TestSupport::contentOf(sourceFile(QString::fromLatin1(path)));
 }
 
 void addAttributes()
