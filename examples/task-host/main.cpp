@@ -28,12 +28,17 @@ QString contentOf(QFile &file)
     return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
 }
 
+/** Where this program keeps what is a user's own. */
+QString usualFolder()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
+}
+
 /** The file that a user's tasks are in unless another data base is named. */
 QString usualFile()
 {
-    const QString folder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
-    QDir().mkpath(folder);
-    return folder + QStringLiteral("/tasks.sqlite");
+    QDir().mkpath(usualFolder());
+    return usualFolder() + QStringLiteral("/tasks.sqlite");
 }
 
 /** Goes once through what a user does, and says whether the data base has it afterwards. */
@@ -129,6 +134,8 @@ int main(int argc, char *argv[])
     const QStringList diagrams = parser.positionalArguments();
 
     TaskDesk desk(address, parser.value(QStringLiteral("author")));
+    if (!isDemo)
+        desk.setJournalFolder(usualFolder() + QStringLiteral("/waiting"));
     if (!desk.start(diagrams.isEmpty()))
         QTextStream(stderr) << desk.store().errorText() << '\n'; // the windows say it as well
     for (const QString &diagram : diagrams) {

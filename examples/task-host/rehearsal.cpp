@@ -44,6 +44,9 @@ void Rehearsal::command(const QString &line)
     } else if (words.constFirst() == QLatin1String("tree")) {
         m_isTreeAsked = true;
         tellTree();
+    } else if (words.constFirst() == QLatin1String("here")) {
+        m_desk.sync().synchronize(); // or the next turn of the event loop
+        tellTasks();
     } else if (words.constFirst() == QLatin1String("quit")) {
         QCoreApplication::quit();
     }
@@ -128,6 +131,11 @@ void Rehearsal::tellTree()
     if (!m_desk.sync().synchronize())
         return; // as soon as it is
     m_isTreeAsked = false;
+    tellTasks();
+}
+
+void Rehearsal::tellTasks()
+{
     const TaskMap tasks = ModelTree::read(m_desk.model(), m_desk.sync().known());
     const QStringList order = TaskTree::preOrder(tasks);
     QHash<QString, int> levels;

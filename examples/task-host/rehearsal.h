@@ -20,6 +20,7 @@ class TreeItem;
  * - "edit COUNT SEED" makes that many random edits, then says "done";
  * - "tree" tells all tasks in order, a line each with level, uuid and fields, then "end REVISION",
  *   once everything is stored and fetched;
+ * - "here" tells them as this host has them, stored or not;
  * - "quit" ends the program.
  *
  * For each revision that the desk has stored it says "task UUID TITLE" for each task of it and
@@ -42,6 +43,7 @@ private:
     int random(int below);
     void tellStored(qint64 revision);
     void tellTree();
+    void tellTasks();
     void nextEdit();
 
     TaskDesk &m_desk;

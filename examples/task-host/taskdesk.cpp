@@ -4,8 +4,10 @@
 #include <taskdesk.h>
 
 #include <boardwindow.h>
+#include <modeltree.h>
 #include <offlinedocument.h>
 #include <taskwindow.h>
+#include <waitingjournal.h>
 
 #include <fishbone/editor/fisheditor.h>
 #include <fishbone/items/linkitem.h>
@@ -42,6 +44,12 @@ TaskDesk::TaskDesk(const QString &address, const QString &author, QObject *paren
 
 TaskDesk::~TaskDesk() = default;
 
+void TaskDesk::setJournalFolder(const QString &folder)
+{
+    m_journal = std::make_unique<WaitingJournal>(folder, m_store.address());
+    m_sync.setJournal(m_journal.get());
+}
+
 bool TaskDesk::start(bool hasTemplate)
 {
     m_board = std::make_unique<BoardWindow>(m_model);
@@ -49,9 +57,17 @@ bool TaskDesk::start(bool hasTemplate)
     m_board->show();
     const bool isOpen = m_sync.start();
     if (isOpen && hasTemplate && m_model.rowCount() == 0)
-        m_model.loadFishTempl();
+        beginWithTemplate();
     showFirstDiagram();
     return isOpen;
+}
+
+/** Through the data base, which takes the template of one host alone. */
+void TaskDesk::beginWithTemplate()
+{
+    FishModel draft;
+    draft.loadFishTempl();
+    m_sync.begin(ModelTree::read(draft, {}));
 }
 
 QList<TaskWindow *> TaskDesk::windows() const

@@ -17,6 +17,7 @@
 class BoardWindow;
 class QUrl;
 class TaskWindow;
+class WaitingJournal;
 
 /**
  * The host: the data base, the one model of all diagrams, and the windows on it.
@@ -32,6 +33,8 @@ public:
     TaskDesk(const QString &address, const QString &author, QObject *parent = nullptr);
     ~TaskDesk() override;
 
+    /** Keeps what waits for the data base in a file in @p folder; before start(). */
+    void setJournalFolder(const QString &folder);
     /**
      * Loads what there is and opens the windows: the board, and the first diagram. An empty data
      * base gets the template diagram, or nothing with @p hasTemplate false. False when the data
@@ -67,10 +70,12 @@ Q_SIGNALS:
 private:
     void openLink(const QUrl &url);
     void showFirstDiagram();
+    void beginWithTemplate();
     TaskWindow *windowOf(const FishInfo *document) const;
 
     FishModel m_model;
     TaskStore m_store;
+    std::unique_ptr<WaitingJournal> m_journal;
     TaskSync m_sync;
     UndoGroup m_undoGroup;
     QNetworkAccessManager m_network;

@@ -69,6 +69,8 @@ public:
     bool isOpen() const { return m_isOpen; }
     /** Why the last call failed, in the words of the data base. */
     QString errorText() const { return m_errorText; }
+    /** Where the data base is. */
+    QString address() const { return m_address; }
     /** Who writes here. */
     QString author() const { return m_author; }
 

@@ -5,6 +5,7 @@
 
 #include <modeltree.h>
 #include <tasktree.h>
+#include <waitingjournal.h>
 
 #include <fishbone/model/fishinfo.h>
 #include <fishbone/model/fishmodel.h>
@@ -72,6 +73,7 @@ void TaskSync::noteChange()
     if (m_isBusy)
         return;
     m_isChanged = true;
+    m_isJournalDue = true;
     setState(m_isOnline, false);
     m_soon.start();
 }
@@ -79,7 +81,61 @@ void TaskSync::noteChange()
 bool TaskSync::start()
 {
     m_poll.start();
+    takeUp();
     return synchronize();
+}
+
+/** Goes on where processes were that ended while something waited. */
+void TaskSync::takeUp()
+{
+    if (!m_journal)
+        return;
+    const QList<WaitingJournal::Entry> left = m_journal->left();
+    for (const WaitingJournal::Entry &entry : left) {
+        const TaskMap present = ModelTree::read(m_model, m_known);
+        if (m_known.isEmpty()) { // the first one, and the newest
+            m_known = entry.known;
+            m_revision = entry.revision;
+            apply(present, {entry.mine, {}});
+        } else {
+            apply(present, TaskMerge::merge(entry.known, present, entry.mine));
+        }
+        m_unanswered += entry.unanswered;
+        m_conflicts += entry.conflicts;
+    }
+    if (left.isEmpty())
+        return;
+    noteChange();
+    Q_EMIT conflictsChanged();
+    keep();
+    if (m_isKept)
+        m_journal->removeLeft();
+}
+
+/** Brings the journal in line with what waits. */
+void TaskSync::keep()
+{
+    if (!m_journal || !m_isJournalDue)
+        return;
+    m_isJournalDue = false;
+    if (m_isStored && m_conflicts.isEmpty()) {
+        m_journal->clear();
+        m_isKept = true;
+        return;
+    }
+    m_isKept = m_journal->write(
+        {m_revision, m_known, ModelTree::read(m_model, m_known), m_unanswered, m_conflicts});
+    m_isJournalDue = !m_isKept;
+}
+
+void TaskSync::begin(const TaskMap &tasks)
+{
+    TaskStore::Outcome outcome = TaskStore::Outcome::Outdated;
+    while (outcome == TaskStore::Outcome::Outdated && m_known.isEmpty() && m_store.isOpen()) {
+        // Whoever has written since makes this the wrong revision, and is looked at first.
+        outcome = m_store.commit(difference({}, tasks), m_revision);
+        synchronize();
+    }
 }
 
 void TaskSync::addEditor(FishEditor *editor)
@@ -91,7 +147,10 @@ void TaskSync::poll()
 {
     // A few edits, as that of a bone's style, are told by no signal.
     constexpr int pollsToLook = 8;
-    m_isChanged = m_isChanged || ++m_polls % pollsToLook == 0;
+    if (++m_polls % pollsToLook == 0) {
+        m_isChanged = true;
+        m_isJournalDue = m_isJournalDue || !m_isStored;
+    }
     if (m_isChanged || !m_store.isOpen() || m_store.latestRevision() != m_revision)
         synchronize();
 }
@@ -100,12 +159,15 @@ bool TaskSync::synchronize()
 {
     if (m_isBusy)
         return false;
+    if (!m_store.isOpen())
+        keep();                      // to connect may take its time
     constexpr int mostAttempts = 20; // then others have their turn, and the next poll goes on
     for (int i = 0; i < mostAttempts; ++i) {
         const bool isThere = m_store.open() && fetch();
         const TaskStore::Outcome outcome = isThere ? store() : TaskStore::Outcome::Failed;
         if (outcome != TaskStore::Outcome::Outdated) {
             setState(m_store.isOpen(), outcome == TaskStore::Outcome::Done);
+            keep();
             return outcome == TaskStore::Outcome::Done;
         }
     }
@@ -128,10 +190,17 @@ bool TaskSync::fetch()
     TaskNews news;
     if (!m_store.readNews(m_revision, news))
         return false;
+    if (news.revision < m_revision) {
+        // Another data base has come in its place, or an old copy: nothing is known of it.
+        m_known.clear();
+        m_revision = 0;
+        return fetch();
+    }
     const bool hasNews = news.revision != m_revision;
     m_revision = news.revision;
     if (!hasNews)
         return true;
+    m_isJournalDue = true;
     const TaskMap base = baseFor(news);
     for (const QString &uuid : std::as_const(news.removed))
         m_known.remove(uuid);
@@ -184,6 +253,7 @@ TaskStore::Outcome TaskSync::store()
         learn(batch, m_revision + 1);
     else if (outcome == TaskStore::Outcome::Unanswered)
         m_unanswered.append(batch);
+    m_isJournalDue = true;
     m_isChanged = outcome != TaskStore::Outcome::Done;
     return outcome;
 }
@@ -223,6 +293,8 @@ void TaskSync::settle(int conflict, bool keepsMine)
         TaskMerge::keepMine(tasks, settled);
         replace({tasks, {}});
     }
+    m_isJournalDue = true;
+    m_soon.start(); // and the journal goes on without it
     Q_EMIT conflictsChanged();
 }
 

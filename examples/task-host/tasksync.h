@@ -13,6 +13,7 @@
 #include <QTimer>
 
 class FishModel;
+class WaitingJournal;
 
 /**
  * Keeps a model and a data base the same.
@@ -21,7 +22,7 @@ class FishModel;
  * comparing the model with what the data base had last, and stored as one transaction when the call
  * that did it is through. What others have stored is merged into the model. While the data base
  * cannot be reached that difference is what waits: there is no queue that could be lost or come out
- * of order.
+ * of order. With a journal it outlives the process.
  *
  * Both comparisons take time in proportion to the number of tasks.
  */
@@ -36,13 +37,26 @@ public:
     /** Neither is owned, and both have to outlive this. */
     TaskSync(FishModel &model, TaskStore &store, QObject *parent = nullptr);
 
-    /** Opens the data base and fills the model; false when that cannot be, now. Begins to poll. */
+    /** Keeps what waits in @p journal, which is not owned and has to outlive this; before start().
+     */
+    void setJournal(WaitingJournal *journal) { m_journal = journal; }
+    /**
+     * Fills the model with what the journal has and with the data base; false when that cannot be
+     * reached now. Begins to poll.
+     */
     bool start();
+    /**
+     * Has @p tasks be the first of a data base that has none; what others have put there meanwhile
+     * stands in their place. No more than one host begins a data base, whoever starts at once.
+     */
+    void begin(const TaskMap &tasks);
     /** Has @p editor lay out when others have changed the model. */
     void addEditor(FishEditor *editor);
 
     /** Whether the data base has all that the model has. */
     bool isStored() const { return m_isStored; }
+    /** Whether what waits, changes and conflicts, outlives this process. */
+    bool isKept() const { return m_isKept; }
     /** Whether the data base could be reached last. */
     bool isOnline() const { return m_isOnline; }
     /** The revision that the model was brought up to. */
@@ -77,6 +91,8 @@ private:
     void noteChange();
     void poll();
     bool fetch();
+    void takeUp();
+    void keep();
     TaskStore::Outcome store();
     TaskMap baseFor(const TaskNews &news) const;
     void apply(const TaskMap &mine, const TaskMerge::Result &merged);
@@ -85,6 +101,7 @@ private:
 
     FishModel &m_model;
     TaskStore &m_store;
+    WaitingJournal *m_journal = nullptr;
     QList<QPointer<FishEditor>> m_editors;
     QTimer m_soon;
     QTimer m_poll;
@@ -97,4 +114,6 @@ private:
     bool m_isStored = true;
     bool m_isChanged = false;
     bool m_isBusy = false;
+    bool m_isJournalDue = false; // what waits may be another than the journal has
+    bool m_isKept = false;
 };

@@ -216,12 +216,12 @@ void TaskWindow::changeEvent(QEvent *event)
         followPalette();
 }
 
-/** What waits is in this process alone. */
+/** Asks when what waits is in this process alone. */
 void TaskWindow::closeEvent(QCloseEvent *event)
 {
-    const bool isStored = m_desk.sync().synchronize();
+    const bool isSafe = m_desk.sync().synchronize() || m_desk.sync().isKept();
     const auto answer =
-        isStored
+        isSafe
             ? QMessageBox::Discard
             : QMessageBox::warning(this, tr("Close"),
                                    tr("The data base cannot be reached. What you have changed "

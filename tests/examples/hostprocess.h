@@ -6,6 +6,7 @@
 #include <QElapsedTimer>
 #include <QProcess>
 #include <QStringList>
+#include <QTemporaryDir>
 
 /** The example host as a process of its own, which does what it is told line by line. */
 class HostProcess
@@ -18,9 +19,15 @@ public:
     /** Where the program is. */
     static QString program();
 
-    /** Starts a host on @p database for @p author. */
-    HostProcess(const QString &database, const QString &author)
+    /**
+     * Starts a host on @p database for @p author, who has @p home for what a program keeps, or a
+     * new folder.
+     */
+    HostProcess(const QString &database, const QString &author, const QString &home = QString())
     {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QStringLiteral("XDG_DATA_HOME"), home.isEmpty() ? m_home.path() : home);
+        m_process.setProcessEnvironment(environment);
         m_process.setProcessChannelMode(QProcess::SeparateChannels);
         m_process.start(program(),
                         {QStringLiteral("--database"), database, QStringLiteral("--author"), author,
@@ -53,20 +60,10 @@ public:
         lines.swap(m_lines);
         return lines;
     }
-    /** All tasks as the host tells them; empty when it does not. */
-    QStringList tree(int limit = timeLimit)
-    {
-        tell(QStringLiteral("tree"));
-        if (!waitFor(QStringLiteral("end "), limit))
-            return {};
-        QStringList told;
-        const QStringList lines = takeLines();
-        for (const QString &line : lines) {
-            if (!line.isEmpty() && line.at(0).isDigit())
-                told.append(line);
-        }
-        return told;
-    }
+    /** All tasks as the host tells them once all is stored; empty when it does not. */
+    QStringList tree(int limit = timeLimit) { return tasks(QStringLiteral("tree"), limit); }
+    /** All tasks as the host has them itself; empty when it does not tell. */
+    QStringList here() { return tasks(QStringLiteral("here"), timeLimit); }
     /** Ends the process in the middle of whatever it does, and reads what it had said. */
     void kill()
     {
@@ -86,6 +83,21 @@ public:
     }
 
 private:
+    QStringList tasks(const QString &command, int limit)
+    {
+        tell(command);
+        if (!waitFor(QStringLiteral("end "), limit))
+            return {};
+        QStringList told;
+        const QStringList lines = takeLines();
+        for (const QString &line : lines) {
+            if (!line.isEmpty() && line.at(0).isDigit())
+                told.append(line);
+        }
+        return told;
+    }
+
+    QTemporaryDir m_home;
     QProcess m_process;
     QStringList m_lines;
 };

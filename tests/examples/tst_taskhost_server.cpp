@@ -16,6 +16,7 @@
 
 #include <QAbstractButton>
 #include <QMessageBox>
+#include <QRegularExpression>
 #include <QSignalSpy>
 
 using namespace TaskMaps;
@@ -132,6 +133,57 @@ private Q_SLOTS:
         const QString uuid = bone.siblingAtColumn(1).data().toString();
         QCOMPARE(ada.sync().known().value(uuid).title(), QStringLiteral("While it was away"));
         QVERIFY(ada.windows().constFirst()->close()); // and nobody asks
+    }
+
+    void whatWaitsInAHostThatIsKilledIsFound()
+    {
+        const QTemporaryDir home; // of Ada
+        QStringList before;
+        QStringList here;
+        {
+            HostProcess ada(m_address, QStringLiteral("Ada"), home.path());
+            before = ada.tree();
+            QVERIFY(!before.isEmpty());
+            QVERIFY(m_server.stop(SIGQUIT));
+            ada.tell(QStringLiteral("edit 60 5"));
+            QVERIFY(ada.waitFor(QStringLiteral("done")));
+            here = ada.here();
+            QVERIFY(here != before);
+            ada.kill();
+        }
+        {
+            HostProcess ada(m_address, QStringLiteral("Ada"), home.path());
+            QCOMPARE(ada.here(), here); // without the server
+            ada.kill();
+        }
+        QVERIFY2(m_server.start(), qPrintable(m_server.error()));
+        HostProcess bob(m_address, QStringLiteral("Bob"));
+        QCOMPARE(bob.tree(), before);
+        HostProcess ada(m_address, QStringLiteral("Ada"), home.path());
+        QCOMPARE(ada.tree(), here);
+        QCOMPARE(bob.tree(), here);
+        QVERIFY(ada.quit());
+        QVERIFY(bob.quit());
+    }
+
+    void hostsThatStartAtOnceBeginWithOneTemplate()
+    {
+        TaskDesk desk(m_address, QStringLiteral("Eve"));
+        TaskDesk late(m_address, QStringLiteral("Lot"));
+        QVERIFY(desk.start(false) && late.start(false)); // and both see that there is nothing
+        desk.sync().begin(map({task(a, QString(), 1)}));
+        late.sync().begin(map({task(b, QString(), 1)}));
+        QCOMPARE(desk.sync().known().keys(), QStringList{a});
+        QCOMPARE(late.sync().known().keys(), QStringList{a});
+
+        init();
+        HostProcess ada(m_address, QStringLiteral("Ada"));
+        HostProcess bob(m_address, QStringLiteral("Bob"));
+        const QStringList tree = ada.tree();
+        QCOMPARE(tree.filter(QRegularExpression(QStringLiteral("^0 "))).size(), 1);
+        QCOMPARE(bob.tree(), tree);
+        QVERIFY(ada.quit());
+        QVERIFY(bob.quit());
     }
 
     void aThousandEditsOfTwoHostsEndInOneTreeAlsoWhenTheServerCrashes()

@@ -7,11 +7,14 @@
 
 #include <modeltree.h>
 #include <tasksync.h>
+#include <waitingjournal.h>
 
 #include <fishbone/model/fishinfo.h>
 #include <fishbone/model/fishmodel.h>
 #include <fishbone/undo/structuralcommands.h>
 #include <fishbone/undo/undostack.h>
+
+#include <QSqlDatabase>
 
 using namespace TaskMaps;
 
@@ -23,10 +26,14 @@ class Host
     Q_DISABLE_COPY(Host)
 
 public:
-    Host(const QString &path, const QString &author)
+    /** With @p folder it keeps what waits there. */
+    Host(const QString &path, const QString &author, const QString &folder = QString())
         : store(path, author)
+        , journal(folder, path)
         , sync(model, store)
     {
+        if (!folder.isEmpty())
+            sync.setJournal(&journal);
         editor.setModel(&model);
         editor.setAutosaveInterval(0);
         sync.addEditor(&editor);
@@ -52,6 +59,7 @@ public:
 
     FishModel model;
     TaskStore store;
+    WaitingJournal journal;
     TaskSync sync;
     FishEditor editor;
 };
@@ -186,7 +194,167 @@ private Q_SLOTS:
         QCOMPARE(outline(carol.sync.known()), QStringLiteral("w"));
     }
 
+    void whatWaitsIsThereInTheNextProcess()
+    {
+        {
+            Host carol(shared(), QStringLiteral("Carol"), journals());
+            fillShare(carol);
+            QVERIFY(waiting().isEmpty());
+            takeShareAway();
+            carol.rename(QStringLiteral("Two"), QStringLiteral("Mine"));
+            carol.editor.deleteItem(carol.index(QStringLiteral("Deep")));
+            QVERIFY(!carol.sync.synchronize());
+            QVERIFY(carol.sync.isKept());
+        }
+        {
+            Host again(shared(), QStringLiteral("Carol"), journals());
+            QVERIFY(!again.sync.start());
+            QCOMPARE(again.titles(), QStringLiteral("Head One Mine"));
+            QVERIFY(again.sync.isKept());
+            again.rename(QStringLiteral("One"), QStringLiteral("First"));
+            QVERIFY(!again.sync.synchronize());
+        }
+        bringShareBack();
+        {
+            Host again(shared(), QStringLiteral("Carol"), journals());
+            QVERIFY(again.sync.start());
+            QCOMPARE(again.titles(), QStringLiteral("Head First Mine"));
+            QVERIFY(again.sync.conflicts().isEmpty());
+            QVERIFY(waiting().isEmpty());
+        }
+        Host bob(shared(), QStringLiteral("Bob"));
+        QVERIFY(bob.sync.start());
+        QCOMPARE(bob.titles(), QStringLiteral("Head First Mine"));
+    }
+
+    void aConflictWithWhatWaitedIsToldUntilItIsSettled()
+    {
+        {
+            Host carol(shared(), QStringLiteral("Carol"), journals());
+            fillShare(carol);
+            takeShareAway();
+            carol.rename(QStringLiteral("Two"), QStringLiteral("Mine"));
+            QVERIFY(!carol.sync.synchronize());
+        }
+        bringShareBack();
+        {
+            Host bob(shared(), QStringLiteral("Bob"));
+            QVERIFY(bob.sync.start());
+            bob.rename(QStringLiteral("Two"), QStringLiteral("Bobs"));
+            QVERIFY(bob.sync.synchronize());
+        }
+        for (int start = 0; start < 2; ++start) { // nobody settles it in the first of them
+            Host again(shared(), QStringLiteral("Carol"), journals());
+            QVERIFY(again.sync.start());
+            QCOMPARE(again.titles(), QStringLiteral("Head One Deep Bobs"));
+            QCOMPARE(again.sync.conflicts().size(), 1);
+            QCOMPARE(again.sync.conflicts().constFirst().mine.title(), QStringLiteral("Mine"));
+        }
+        Host last(shared(), QStringLiteral("Carol"), journals());
+        QVERIFY(last.sync.start());
+        last.sync.settle(0, true);
+        QVERIFY(last.sync.synchronize());
+        QCOMPARE(last.titles(), QStringLiteral("Head One Deep Mine"));
+        QVERIFY(waiting().isEmpty());
+    }
+
+    void whatSeveralProcessesLeftIsTakenUpTogether()
+    {
+        {
+            Host carol(shared(), QStringLiteral("Carol"), journals());
+            fillShare(carol);
+            Host dave(shared(), QStringLiteral("Dave"), journals());
+            QVERIFY(dave.sync.start());
+            takeShareAway();
+            carol.rename(QStringLiteral("One"), QStringLiteral("Carols"));
+            dave.rename(QStringLiteral("Two"), QStringLiteral("Daves"));
+            QVERIFY(!carol.sync.synchronize());
+            QVERIFY(!dave.sync.synchronize());
+            QCOMPARE(waiting().size(), 2);
+        }
+        Host next(shared(), QStringLiteral("Carol"), journals());
+        QVERIFY(!next.sync.start());
+        QCOMPARE(next.titles(), QStringLiteral("Head Carols Deep Daves"));
+        QCOMPARE(waiting().size(), 1); // its own
+        bringShareBack();
+        QVERIFY(next.sync.synchronize());
+        QVERIFY(next.sync.conflicts().isEmpty());
+        QVERIFY(waiting().isEmpty());
+    }
+
+    void aNewDataBaseInTheOldPlaceGetsEverything()
+    {
+        {
+            Host carol(shared(), QStringLiteral("Carol"), journals());
+            fillShare(carol);
+            takeShareAway();
+            carol.rename(QStringLiteral("Two"), QStringLiteral("Mine"));
+            QVERIFY(!carol.sync.synchronize());
+        }
+        QVERIFY(QDir(m_folder->path()).mkdir(QStringLiteral("share")));
+        Host again(shared(), QStringLiteral("Carol"), journals());
+        QVERIFY(again.sync.start());
+        QCOMPARE(outline(again.sync.known()), QStringLiteral("h(a(c)b)"));
+        QCOMPARE(again.sync.known().value(b).title(), QStringLiteral("Mine"));
+    }
+
+    void whereNothingCanBeKeptThatIsTold()
+    {
+        QFile file(journals()); // in the place of the folder
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        Host carol(shared(), QStringLiteral("Carol"), journals());
+        fillShare(carol);
+        takeShareAway();
+        carol.rename(QStringLiteral("Two"), QStringLiteral("Mine"));
+        QVERIFY(!carol.sync.synchronize());
+        QVERIFY(!carol.sync.isKept());
+    }
+
+    void ofTwoThatBeginADataBaseOneDoes()
+    {
+        const QString path = m_folder->filePath(QStringLiteral("empty.sqlite"));
+        Host one(path, QStringLiteral("Ada"));
+        Host other(path, QStringLiteral("Bob"));
+        QVERIFY(one.sync.start() && other.sync.start()); // and both see that there is nothing
+        one.sync.begin(map({task(a, QString(), 1)}));
+        other.sync.begin(map({task(b, QString(), 1)}));
+        QCOMPARE(one.titles(), a);
+        QCOMPARE(other.titles(), a);
+        QVERIFY(one.sync.synchronize() && other.sync.synchronize());
+        QCOMPARE(outline(one.sync.known()), a);
+        QVERIFY(other.sync.conflicts().isEmpty());
+    }
+
 private:
+    QString shared() const { return m_folder->filePath(QStringLiteral("share/tasks.sqlite")); }
+    QString journals() const { return m_folder->filePath(QStringLiteral("waiting")); }
+    QStringList waiting() const
+    {
+        return QDir(journals()).entryList({QStringLiteral("*.json")}, QDir::Files);
+    }
+    /** Has @p host store a few tasks in a data base that can be taken away. */
+    void fillShare(Host &host)
+    {
+        QVERIFY(QDir(m_folder->path()).mkdir(QStringLiteral("share")));
+        QVERIFY(host.sync.start());
+        QVERIFY(host.model.loadJsonFish(R"({"title": "Head", "uuid": "h", "children": [
+            {"title": "One", "uuid": "a", "children": [{"title": "Deep", "uuid": "c"}]},
+            {"title": "Two", "uuid": "b"}]})"));
+        QVERIFY(host.sync.synchronize());
+    }
+    /** As a server that goes: no connection stands, and none can be made. */
+    void takeShareAway()
+    {
+        const QStringList connections = QSqlDatabase::connectionNames();
+        for (const QString &connection : connections)
+            QSqlDatabase::database(connection, false).close();
+        QVERIFY(QDir(m_folder->path()).rename(QStringLiteral("share"), QStringLiteral("gone")));
+    }
+    void bringShareBack()
+    {
+        QVERIFY(QDir(m_folder->path()).rename(QStringLiteral("gone"), QStringLiteral("share")));
+    }
+
     std::unique_ptr<QTemporaryDir> m_folder;
     QString m_path;
     std::unique_ptr<Host> m_ada;
