@@ -28,7 +28,7 @@ class ModalDriver
 public:
     using Action = std::function<void(Dialog &)>;
 
-    explicit ModalDriver(Action action, int limitMs = 10000)
+    explicit ModalDriver(Action action, int limitMs = 60000)
         : m_action(std::move(action))
         , m_limitMs(limitMs)
     {
