@@ -94,12 +94,13 @@ const Words statusWords[] = {
      "awaiting approval|pending approval|needs review|ready for review|approval|qa|in qa|"
      "testing|in testing|in test|ready for test|"
      "feedback|verify|to verify|verification|待审批|审核中|待审核|评审中|待评审|待确认|等待审批|"
-     "测试中|待验收"},
+     "测试中|待验收|反馈"},
 };
 
 const Words priorityWords[] = {
     {0, "p0"},
-    {1, "highest|blocker|show stopper|urgent|immediate|top|p1|最高|紧急|特急|立即|非常高|阻塞"},
+    {1,
+     "highest|blocker|show stopper|urgent|immediate|top|p1|最高|紧急|特急|立即|立刻|非常高|阻塞"},
     {2, "high|critical|important|p2|高|较高|重要|严重"},
     {3, "medium|normal|major|middle|moderate|standard|default|p3|中|普通|一般|正常|中等|主要"},
     {4, "low|minor|optional|p4|低|较低|次要"},
