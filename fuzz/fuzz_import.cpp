@@ -51,8 +51,10 @@ QByteArray packed(const QByteArray &bytes, Format format)
 {
     const bool isArchive = bytes.startsWith("PK");
     if (format == Format::Xmind && !isArchive) {
-        const char *const name = bytes.startsWith('<') ? "content.xml" : "content.json";
-        return ZipWriter::archive({{QLatin1String(name), bytes}});
+        if (!bytes.startsWith('<'))
+            return ZipWriter::archive({{QStringLiteral("content.json"), bytes}});
+        return ZipWriter::archive(
+            {{QStringLiteral("content.xml"), bytes}, {QStringLiteral("comments.xml"), bytes}});
     }
     if (format != Format::Xlsx || isArchive)
         return bytes;

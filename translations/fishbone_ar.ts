@@ -1317,6 +1317,11 @@ What both changed differently is kept as in ours, with a cause that says so belo
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
         <translation>يتضخم عند فك الضغط أكثر من %1 مرة</translation>
     </message>
+    <message>
+        <source>the map is protected by a password</source>
+        <translatorcomment>Not yet read by a native speaker</translatorcomment>
+        <translation>الخريطة محمية بكلمة مرور</translation>
+    </message>
 </context>
 <context>
     <name>DiagramMerge</name>

@@ -1297,6 +1297,11 @@ Was beide verschieden geändert haben, bleibt wie in unserer, mit einer Ursache 
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
         <translation>es wird entpackt mehr als %1-mal so groß</translation>
     </message>
+    <message>
+        <source>the map is protected by a password</source>
+        <translatorcomment>Not yet read by a native speaker</translatorcomment>
+        <translation>die Mindmap ist durch ein Passwort geschützt</translation>
+    </message>
 </context>
 <context>
     <name>DiagramMerge</name>

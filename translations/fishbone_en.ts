@@ -1056,6 +1056,10 @@ What both changed differently is kept as in ours, with a cause that says so belo
         <source>content.json: it is no list of sheets</source>
         <translation>content.json: it is no list of sheets</translation>
     </message>
+    <message>
+        <source>the map is protected by a password</source>
+        <translation>the map is protected by a password</translation>
+    </message>
 </context>
 <context>
     <name>DiagramMerge</name>

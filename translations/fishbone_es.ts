@@ -1297,6 +1297,11 @@ Lo que ambas cambiaron de forma distinta queda como en la nuestra, con una causa
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
         <translation>al descomprimirse supera %1 veces su tamaño</translation>
     </message>
+    <message>
+        <source>the map is protected by a password</source>
+        <translatorcomment>Not yet read by a native speaker</translatorcomment>
+        <translation>el mapa está protegido por una contraseña</translation>
+    </message>
 </context>
 <context>
     <name>DiagramMerge</name>

@@ -1297,6 +1297,11 @@ Ce que les deux ont changé différemment reste comme dans notre version, avec e
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
         <translation>décompressé, il dépasse %1 fois sa taille</translation>
     </message>
+    <message>
+        <source>the map is protected by a password</source>
+        <translatorcomment>Not yet read by a native speaker</translatorcomment>
+        <translation>la carte est protégée par un mot de passe</translation>
+    </message>
 </context>
 <context>
     <name>DiagramMerge</name>

@@ -1297,6 +1297,11 @@ Ciò che entrambe hanno cambiato in modo diverso resta come nella nostra, con so
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
         <translation>espanso supera %1 volte la sua dimensione</translation>
     </message>
+    <message>
+        <source>the map is protected by a password</source>
+        <translatorcomment>Not yet read by a native speaker</translatorcomment>
+        <translation>la mappa è protetta da una password</translation>
+    </message>
 </context>
 <context>
     <name>DiagramMerge</name>

@@ -1292,6 +1292,11 @@ What both changed differently is kept as in ours, with a cause that says so belo
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
         <translation>展開すると元のサイズの %1 倍を超えます</translation>
     </message>
+    <message>
+        <source>the map is protected by a password</source>
+        <translatorcomment>Not yet read by a native speaker</translatorcomment>
+        <translation>マップはパスワードで保護されています</translation>
+    </message>
 </context>
 <context>
     <name>DiagramMerge</name>

@@ -1292,6 +1292,11 @@ What both changed differently is kept as in ours, with a cause that says so belo
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
         <translation>압축을 풀면 원래 크기의 %1배를 넘습니다</translation>
     </message>
+    <message>
+        <source>the map is protected by a password</source>
+        <translatorcomment>Not yet read by a native speaker</translatorcomment>
+        <translation>맵이 암호로 보호되어 있습니다</translation>
+    </message>
 </context>
 <context>
     <name>DiagramMerge</name>

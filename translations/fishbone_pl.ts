@@ -1302,6 +1302,11 @@ Co obie strony zmieniły różnie, pozostaje jak w naszej, a poniżej trafia prz
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
         <translation>po rozpakowaniu przekracza swój rozmiar ponad %1 razy</translation>
     </message>
+    <message>
+        <source>the map is protected by a password</source>
+        <translatorcomment>Not yet read by a native speaker</translatorcomment>
+        <translation>mapa jest chroniona hasłem</translation>
+    </message>
 </context>
 <context>
     <name>DiagramMerge</name>

@@ -1297,6 +1297,11 @@ O que ambos mudaram de forma diferente fica como na nossa, com uma causa abaixo 
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
         <translation>descompactado, passa de %1 vezes o seu tamanho</translation>
     </message>
+    <message>
+        <source>the map is protected by a password</source>
+        <translatorcomment>Not yet read by a native speaker</translatorcomment>
+        <translation>o mapa está protegido por uma senha</translation>
+    </message>
 </context>
 <context>
     <name>DiagramMerge</name>

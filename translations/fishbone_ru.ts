@@ -1302,6 +1302,11 @@ What both changed differently is kept as in ours, with a cause that says so belo
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
         <translation>при распаковке он увеличивается более чем в %1 раз</translation>
     </message>
+    <message>
+        <source>the map is protected by a password</source>
+        <translatorcomment>Not yet read by a native speaker</translatorcomment>
+        <translation>карта защищена паролем</translation>
+    </message>
 </context>
 <context>
     <name>DiagramMerge</name>

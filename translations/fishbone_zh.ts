@@ -1051,6 +1051,10 @@ What both changed differently is kept as in ours, with a cause that says so belo
         <source>content.json: it is no list of sheets</source>
         <translation>content.json：不是画布列表</translation>
     </message>
+    <message>
+        <source>the map is protected by a password</source>
+        <translation>导图受密码保护</translation>
+    </message>
 </context>
 <context>
     <name>DiagramMerge</name>

@@ -1292,6 +1292,11 @@ What both changed differently is kept as in ours, with a cause that says so belo
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
         <translation>解壓縮後超過原大小的 %1 倍</translation>
     </message>
+    <message>
+        <source>the map is protected by a password</source>
+        <translatorcomment>Not yet read by a native speaker</translatorcomment>
+        <translation>心智圖受密碼保護</translation>
+    </message>
 </context>
 <context>
     <name>DiagramMerge</name>

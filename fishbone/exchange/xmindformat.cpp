@@ -14,6 +14,9 @@ constexpr int jsonLevels = 300;
 
 const QString jsonName = QStringLiteral("content.json");
 const QString xmlName = QStringLiteral("content.xml");
+// Of the older generation:
+const QString commentsName = QStringLiteral("comments.xml");
+const QString manifestName = QStringLiteral("META-INF/manifest.xml");
 
 /** Notes the files of an archive that hold more than how a map looks. */
 void noteOtherFiles(const QStringList &names, ImportedTree &tree)
@@ -24,9 +27,11 @@ void noteOtherFiles(const QStringList &names, ImportedTree &tree)
                                    QStringLiteral("manifest.json"),
                                    QStringLiteral("meta.xml"),
                                    QStringLiteral("styles.xml"),
-                                   QStringLiteral("META-INF/manifest.xml")};
+                                   manifestName};
+    const bool isJson = names.contains(jsonName);
     for (const QString &name : names) {
-        if (known.contains(name) || name.endsWith(QLatin1Char('/')))
+        const bool isRead = known.contains(name) || (name == commentsName && !isJson);
+        if (isRead || name.endsWith(QLatin1Char('/')))
             continue;
         const bool isLook = name.startsWith(QLatin1String("Thumbnails/")) ||
                             name.startsWith(QLatin1String("Revisions/")) ||
@@ -34,6 +39,20 @@ void noteOtherFiles(const QStringList &names, ImportedTree &tree)
         tree.note(isLook ? ExchangeReport::Kind::Appearance : ExchangeReport::Kind::LeftOut,
                   DiagramExchange::tr("the file \"%1\"").arg(name));
     }
+}
+
+/** Reads the older generation of the format, which names encrypted files in its manifest. */
+bool readXml(ZipReader &archive, ImportedTree &tree)
+{
+    const auto part = [&archive](const QString &name) {
+        return archive.contains(name) ? archive.file(name) : QByteArray();
+    };
+    const std::optional<QByteArray> manifest = part(manifestName);
+    if (manifest && manifest->contains("<encryption-data"))
+        return tree.fail(DiagramExchange::tr("the map is protected by a password"));
+    const std::optional<QByteArray> xml = part(xmlName);
+    const std::optional<QByteArray> comments = part(commentsName);
+    return manifest && xml && comments && XmindXml::read(*xml, *comments, tree);
 }
 
 bool readXMind(const QByteArray &bytes, ImportedTree &tree)
@@ -48,10 +67,8 @@ bool readXMind(const QByteArray &bytes, ImportedTree &tree)
         const std::optional<QByteArray> json = archive.file(jsonName);
         return json && XmindJson::read(*json, tree);
     }
-    if (archive.contains(xmlName)) {
-        const std::optional<QByteArray> xml = archive.file(xmlName);
-        return xml && XmindXml::read(*xml, tree);
-    }
+    if (archive.contains(xmlName))
+        return readXml(archive, tree);
     return tree.fail(DiagramExchange::tr("the archive has neither content.json nor content.xml, "
                                          "one of which holds the map"));
 }
@@ -72,7 +89,7 @@ QByteArray writeXMind(const TreeItem &head)
                                    {QStringLiteral("manifest.json"), manifest(jsonName)}});
     return ZipWriter::archive(
         {{xmlName, XmindXml::write(head)},
-         {QStringLiteral("META-INF/manifest.xml"),
+         {manifestName,
           "<?xml version=\"1.0\" encoding=\"UTF-8\"?>"
           "<manifest xmlns=\"urn:xmind:xmap:xmlns:manifest:1.0\">"
           "<file-entry full-path=\"content.xml\" media-type=\"text/xml\"/></manifest>"}});

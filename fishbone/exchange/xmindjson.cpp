@@ -99,12 +99,27 @@ private:
                 m_tree.addNamedDetail(*m_tree.last(), DiagramExchange::tr("Sheet"), name);
             waiting.push_back({childrenOf(topic), 0});
         }
+        keepLegend(sheet);
         const QJsonArray arrows = list(sheet, "relationships");
         for (const QJsonValue &value : arrows) {
             const QJsonObject arrow = value.toObject();
             m_topics.addArrow(text(arrow, "end1Id"), text(arrow, "end2Id"), text(arrow, "title"));
         }
         return true;
+    }
+
+    /** Keeps what markers stand for in a sheet; the rest of it is how it looks. */
+    void keepLegend(const QJsonObject &sheet)
+    {
+        const QString id = text(sheet.value(QLatin1String("rootTopic")).toObject(), "id");
+        const QJsonObject markers = sheet.value(QLatin1String("legend"))
+                                        .toObject()
+                                        .value(QLatin1String("markers"))
+                                        .toObject();
+        for (auto marker = markers.begin(); marker != markers.end(); ++marker)
+            m_topics.addRemark(id, XmindNames::legend,
+                               marker.key() + QLatin1String(": ") +
+                                   text(marker.value().toObject(), "name"));
     }
 
     void readTopic(const QJsonObject &topic)

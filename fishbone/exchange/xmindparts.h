@@ -14,6 +14,7 @@ QByteArray write(const TreeItem &head);
 } // namespace XmindJson
 
 namespace XmindXml {
-bool read(const QByteArray &xml, ImportedTree &tree);
+/** Reads the map in @p xml; @p comments is what people said about its topics, if there is such. */
+bool read(const QByteArray &xml, const QByteArray &comments, ImportedTree &tree);
 QByteArray write(const TreeItem &head);
 } // namespace XmindXml

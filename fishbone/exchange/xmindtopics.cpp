@@ -170,12 +170,35 @@ void XmindTopics::setTaskValue(const QString &name, const QString &value)
         addDetail(name, value);
 }
 
+void XmindTopics::addId(const QString &id)
+{
+    if (!id.isEmpty())
+        m_byId.insert(id, m_open.back().subject);
+}
+
+void XmindTopics::addRemark(const QString &id, const QString &name, const QString &text)
+{
+    m_remarks.push_back({id, name, text});
+}
+
 void XmindTopics::addArrow(const QString &from, const QString &to, const QString &title)
 {
     m_arrows.push_back({from, to, title});
 }
 
 void XmindTopics::finish()
+{
+    for (const Remark &remark : m_remarks) {
+        const TreeItem *const subject = m_byId.value(remark.id);
+        if (subject)
+            m_tree.addNamedDetail(*subject, remark.name, remark.text);
+        else // of a topic that has been deleted
+            m_tree.note(Kind::LeftOut, QStringLiteral("<%1> %2").arg(remark.name, remark.text));
+    }
+    finishArrows();
+}
+
+void XmindTopics::finishArrows()
 {
     for (const Arrow &arrow : m_arrows) {
         const TreeItem *const from = m_byId.value(arrow.from);

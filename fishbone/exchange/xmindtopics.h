@@ -44,8 +44,13 @@ public:
     void setTaskValue(const QString &name, const QString &value);
     /** @} */
 
+    /** Another id of the topic that was opened last. */
+    void addId(const QString &id);
+
     /** Notes an arrow between two topics, by their ids. */
     void addArrow(const QString &from, const QString &to, const QString &title);
+    /** Notes what is said of a topic in another place, by its id. @p name is for the details. */
+    void addRemark(const QString &id, const QString &name, const QString &text);
     /** To be called once after all topics. */
     void finish();
 
@@ -66,11 +71,20 @@ private:
         QString title;
     };
 
+    struct Remark
+    {
+        QString id;
+        QString name;
+        QString text;
+    };
+
     bool applyMarker(const QString &marker);
+    void finishArrows();
 
     ImportedTree &m_tree;
     std::vector<Topic> m_open;
     std::vector<Arrow> m_arrows;
+    std::vector<Remark> m_remarks;
     QHash<QString, TreeItem *> m_byId;
 };
 
@@ -80,6 +94,10 @@ namespace XmindNames {
 inline const QLatin1String provider("fishbone");
 /** What keeps how many topics stand on which side. */
 inline const QLatin1String lookProvider("org.xmind.ui.map.");
+/** What somebody said about a topic. */
+inline const QLatin1String comment("comment");
+/** What markers stand for in a sheet. */
+inline const QLatin1String legend("legend");
 /** What the ids of topics begin with that stand for no uuid. */
 inline const QLatin1String noUuid("fishbone-");
 

@@ -11,6 +11,7 @@
 #include <fishbone/exchange/xmlsupport.h>
 #include <fishbone/model/jsonnodes.h>
 
+#include <QDateTime>
 #include <QXmlStreamReader>
 #include <QXmlStreamWriter>
 
@@ -29,6 +30,23 @@ public:
     {
     }
 
+    /**
+     * Keeps what people said about topics until these are there. False when not all of it can be
+     * read.
+     */
+    bool readComments(const QByteArray &bytes)
+    {
+        QXmlStreamReader xml(bytes);
+        while (!xml.atEnd()) {
+            const QXmlStreamReader::TokenType token = xml.readNext();
+            if (token == QXmlStreamReader::DTD)
+                return false; // the program writes none, and it may expand to anything
+            if (token == QXmlStreamReader::StartElement && xml.name() == XmindNames::comment)
+                readComment(xml);
+        }
+        return !xml.hasError();
+    }
+
     bool read()
     {
         while (!m_xml.atEnd()) {
@@ -45,6 +63,21 @@ public:
     }
 
 private:
+    void readComment(QXmlStreamReader &xml)
+    {
+        const QXmlStreamAttributes values = xml.attributes();
+        const QString author = values.value(QLatin1String("author")).toString();
+        const qint64 time = values.value(QLatin1String("time")).toString().toLongLong();
+        QString text = xml.readElementText(QXmlStreamReader::IncludeChildElements).trimmed();
+        text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+        QStringList parts{author, text};
+        if (time > 0)
+            parts.insert(1, QDateTime::fromMSecsSinceEpoch(time, Qt::UTC).toString(Qt::ISODate));
+        parts.removeAll(QString());
+        m_topics.addRemark(values.value(QLatin1String("object-id")).toString(), XmindNames::comment,
+                           parts.join(QLatin1String(", ")));
+    }
+
     QString value(const char *name) const
     {
         return m_xml.attributes().value(QLatin1String(name)).toString();
@@ -77,13 +110,25 @@ private:
             return openTopic();
         if (name == QLatin1String("relationship"))
             readArrow();
-        else if (m_topics.depth() == 0 && name == QLatin1String("title"))
-            m_sheetName = elementText();
         else if (m_topics.depth() == 0)
-            return true; // what holds the topics
+            readSheetPart(name.toString());
         else
             readPart(name.toString());
         return true;
+    }
+
+    /** Reads an element of a sheet; most of them hold others, which come next. */
+    void readSheetPart(const QString &name)
+    {
+        if (name == QLatin1String("sheet"))
+            m_sheetId = value("id");
+        else if (name == QLatin1String("title"))
+            m_sheetName = elementText();
+        else if (name == QLatin1String("marker-description"))
+            m_topics.addRemark(m_sheetId, XmindNames::legend,
+                               value("marker-id") + QLatin1String(": ") + value("description"));
+        else if (name == QLatin1String("extensions"))
+            leaveOut(Kind::LeftOut);
     }
 
     bool openTopic()
@@ -92,8 +137,10 @@ private:
         const bool isRoot = m_topics.depth() == 0;
         if (!m_topics.open(value("id"), m_xml.lineNumber()))
             return false;
-        if (isRoot)
+        if (isRoot) {
             m_root = m_tree.last();
+            m_topics.addId(m_sheetId); // a sheet may have comments, and has the legend
+        }
         for (const QXmlStreamAttribute &attribute : values) {
             if (attribute.name() == QLatin1String("href"))
                 m_topics.setLink(attribute.value().toString());
@@ -148,8 +195,9 @@ private:
             readExtension();
         else if (name == QLatin1String("extensions") || name == QLatin1String("boundaries"))
             return;
-        else if (name == QLatin1String("position") || name == QLatin1String("summaries") ||
-                 name == QLatin1String("numbering"))
+        else if (name == QLatin1String("numbering"))
+            readNumbering();
+        else if (name == QLatin1String("position") || name == QLatin1String("summaries"))
             leaveOut(Kind::Appearance);
         else
             leaveOut(Kind::LeftOut);
@@ -164,6 +212,16 @@ private:
             m_topics.addDetail(DiagramExchange::tr("Link"), link);
         for (const QString &image : content.images)
             m_topics.addImage(image);
+    }
+
+    /** Numbers are looks, but for the words around them. */
+    void readNumbering()
+    {
+        m_tree.note(Kind::Appearance, QStringLiteral("<numbering>"), m_xml.lineNumber());
+        while (m_xml.readNextStartElement()) {
+            const QString name = m_xml.name().toString();
+            m_topics.addDetail(name, elementText());
+        }
     }
 
     void addMarker()
@@ -224,6 +282,7 @@ private:
     ImportedTree &m_tree;
     XmindTopics m_topics;
     const TreeItem *m_root = nullptr; ///< of the sheet
+    QString m_sheetId;
     QString m_sheetName;
 };
 
@@ -290,11 +349,16 @@ void writeTopic(QXmlStreamWriter &xml, const TreeItem &subject, int number)
 
 } // namespace
 
-bool XmindXml::read(const QByteArray &bytes, ImportedTree &tree)
+bool XmindXml::read(const QByteArray &bytes, const QByteArray &comments, ImportedTree &tree)
 {
     QXmlStreamReader xml(bytes);
-    return XmlSupport::enterRoot(xml, QStringLiteral("xmap-content"), tree) &&
-           XMindMapReader(xml, tree).read() && XmlSupport::finish(xml, tree, bytes);
+    if (!XmlSupport::enterRoot(xml, QStringLiteral("xmap-content"), tree))
+        return false;
+    XMindMapReader reader(xml, tree);
+    if (!comments.isEmpty() && !reader.readComments(comments))
+        tree.note(Kind::LeftOut,
+                  DiagramExchange::tr("the file \"%1\"").arg(QLatin1String("comments.xml")));
+    return reader.read() && XmlSupport::finish(xml, tree, bytes);
 }
 
 QByteArray XmindXml::write(const TreeItem &head)

@@ -87,11 +87,19 @@ QSet<QString> wordsOfXml(const QByteArray &bytes, const QString &report)
 /** The texts in JSON, but for names and looks. */
 QSet<QString> wordsOfJson(const QJsonValue &value)
 {
-    static const QSet<QString> skipped{
-        QStringLiteral("id"),     QStringLiteral("class"),      QStringLiteral("structureClass"),
-        QStringLiteral("style"),  QStringLiteral("theme"),      QStringLiteral("markerId"),
-        QStringLiteral("type"),   QStringLiteral("extensions"), QStringLiteral("topicPositioning"),
-        QStringLiteral("branch"), QStringLiteral("end1Id"),     QStringLiteral("end2Id")};
+    static const QSet<QString> skipped{QStringLiteral("id"),
+                                       QStringLiteral("class"),
+                                       QStringLiteral("structureClass"),
+                                       QStringLiteral("style"),
+                                       QStringLiteral("theme"),
+                                       QStringLiteral("markerId"),
+                                       QStringLiteral("type"),
+                                       QStringLiteral("extensions"),
+                                       QStringLiteral("topicPositioning"),
+                                       QStringLiteral("branch"),
+                                       QStringLiteral("end1Id"),
+                                       QStringLiteral("end2Id"),
+                                       QStringLiteral("visibility")};
     QSet<QString> words = wordsIn(withoutTags(value.toString()));
     const QJsonArray array = value.toArray();
     for (const QJsonValue &entry : array)
@@ -117,7 +125,8 @@ QSet<QString> wordsOfArchive(const QByteArray &bytes)
     for (const QString &name : names) {
         const bool isTable = name == QLatin1String("xl/sharedStrings.xml") ||
                              name.startsWith(QLatin1String("xl/worksheets/sheet"));
-        if (!isTable && name != QLatin1String("content.xml"))
+        if (!isTable && name != QLatin1String("content.xml") &&
+            name != QLatin1String("comments.xml"))
             continue;
         QXmlStreamReader reader(archive.file(name).value_or(QByteArray()));
         bool isText = false;
@@ -127,6 +136,9 @@ QSet<QString> wordsOfArchive(const QByteArray &bytes)
                 reader.skipCurrentElement(); // how a word is spoken
             else if (token == QXmlStreamReader::StartElement)
                 isText = !isTable || reader.name() == QLatin1String("t");
+            if (token == QXmlStreamReader::StartElement)
+                words +=
+                    wordsIn(reader.attributes().value(QLatin1String("description")).toString());
             else if (token == QXmlStreamReader::Characters && isText)
                 words += wordsIn(reader.text().toString());
         }
