@@ -118,6 +118,7 @@ void ClearContent::add(const TreeItem *item, int parent, ClearPictureContent &co
     subject.title = item->title();
     subject.hasLink = !item->url().isEmpty();
     subject.hasStatus = !look.icon.isEmpty();
+    subject.isFilled = look.fillsTitle(parent <= 0);
     subject.votes = look.votes;
     subject.font = ownFont(*item);
     const int level = parent < 0 ? 0 : content.meanings[std::size_t(parent)].level + 1;

@@ -40,6 +40,10 @@ void ClearCover::addCause(const ClearLayout::Bone &bone, const ClearShapes::Bone
     const qreal high = isSlanted ? shape.across + shape.lead + shape.length : shape.across;
     m_boxes.push_back({std::min(shape.along, end) - lineHalf, std::max(shape.along, end) + lineHalf,
                        shape.across - lineHalf, high + lineHalf});
+    if (bone.isFilled) {
+        addSlices(bone.titleRect(), lineSlice);
+        return;
+    }
     const ClearFont &font = bone.text->font();
     for (int line = 0; line < bone.text->lineCount(); ++line) {
         const QPointF base = bone.base(line);

@@ -49,6 +49,11 @@ ClearSubjectLook ClearSubjectLook::of(const TreeItem &subject)
     return look;
 }
 
+bool ClearSubjectLook::fillsTitle(bool isCategory) const
+{
+    return isSeen(background) || (verdict == Verdict::RootCause && !isCategory);
+}
+
 ClearInk ClearInk::of(const ClearSubjectLook &look, int level, int category,
                       const QColor &inherited, const ClearColors &colors)
 {

@@ -27,6 +27,8 @@ struct ClearSubjectLook
 
     /** That of @p subject, without its icon. */
     static ClearSubjectLook of(const TreeItem &subject);
+    /** Whether it puts a colour behind the title, that of a category or not. */
+    bool fillsTitle(bool isCategory) const;
     /** The resource of the status icon of @p subject. */
     static QString iconOf(const TreeItem &subject);
 };

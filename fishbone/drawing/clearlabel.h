@@ -20,10 +20,27 @@ struct ClearLabelPlaces
     QRectF badge;  ///< null without a badge
 };
 
+/** What a title has beside and behind it. */
+struct ClearLabelMarks
+{
+    bool hasStatus = false;
+    bool hasLink = false;
+    bool isFilled = false; ///< a colour lies behind all of its lines
+    qreal badgeWidth = 0;  ///< 0 without a badge
+    qreal votesWidth = 0;  ///< 0 without votes
+
+    bool operator==(const ClearLabelMarks &o) const
+    {
+        return hasStatus == o.hasStatus && hasLink == o.hasLink && isFilled == o.isFilled &&
+               badgeWidth == o.badgeWidth && votesWidth == o.votesWidth;
+    }
+};
+
 /**
  * A title with what belongs to it: the status before its first line, the votes and the link after
  * its last one, as it is read, each in the middle of that line; and between the title and its bone
- * the badge that says how many subjects are hidden.
+ * the badge that says how many subjects are hidden. Beside a title with a colour behind it they
+ * stand clear of that, which is as wide as the widest line.
  */
 class ClearLabel
 {
@@ -36,9 +53,7 @@ public:
     };
 
     ClearLabel() = default;
-    /** @p badgeWidth and @p votesWidth are 0 where there is none. */
-    ClearLabel(std::shared_ptr<const ClearText> text, bool hasStatus, bool hasLink,
-               qreal badgeWidth, qreal votesWidth = 0);
+    ClearLabel(std::shared_ptr<const ClearText> text, const ClearLabelMarks &marks);
 
     const std::shared_ptr<const ClearText> &text() const { return m_text; }
 
@@ -48,7 +63,7 @@ public:
     qreal anyWidth() const;
     qreal height() const;
     /** How wide its badge is, 0 without one. A centred label leaves it to others to place it. */
-    qreal badgeWidth() const { return m_badgeWidth; }
+    qreal badgeWidth() const { return m_marks.badgeWidth; }
 
     /** The places when the bone is on @p side, and the middle of that side (of all, when it is
      * centred) is at @p anchor. */
@@ -57,30 +72,35 @@ public:
     /** Where the base line of @p line begins. */
     static QPointF base(const ClearText &text, const QRectF &rect, Side side, int line);
 
+    /** What a colour behind the title at @p text covers. */
+    static QRectF filled(const QRectF &text)
+    {
+        return text.adjusted(-fillPadding, 0, fillPadding, 0);
+    }
+
     static constexpr qreal badgeHeight = 15;
     static constexpr qreal votesHeight = 14;
+    static constexpr qreal fillPadding = 2; ///< of the colour behind a title, on its left and right
 
     /** Whether it takes the same room: texts that are laid out once are compared. */
     bool operator==(const ClearLabel &o) const
     {
-        return m_text == o.m_text && m_hasStatus == o.m_hasStatus && m_hasLink == o.m_hasLink &&
-               m_badgeWidth == o.m_badgeWidth && m_votesWidth == o.m_votesWidth;
+        return m_text == o.m_text && m_marks == o.m_marks;
     }
 
 private:
     bool isStatusSide(bool onLeft) const;
     qreal spaceOn(bool onLeft) const;
+    qreal freeSpaceOn(bool onLeft) const;
     qreal votesSpace() const;
     QRectF votesRect(const QRectF &text, Side side, bool onLeft) const;
     qreal iconLineWidth(bool onLeft) const;
+    qreal iconLineEnd(const QRectF &text, Side side, bool onLeft) const;
     qreal iconSize() const;
     qreal iconSpace() const;
     QRectF iconRect(const QRectF &text, Side side, bool onLeft, qreal width) const;
     qreal leftShift(Side side) const;
 
     std::shared_ptr<const ClearText> m_text;
-    bool m_hasStatus = false;
-    bool m_hasLink = false;
-    qreal m_badgeWidth = 0;
-    qreal m_votesWidth = 0;
+    ClearLabelMarks m_marks;
 };

@@ -27,6 +27,21 @@ QRectF around(const QLineF &line)
 {
     return QRectF(line.p1(), line.p2()).normalized().adjusted(-penHalf, -penHalf, penHalf, penHalf);
 }
+
+/** What stands beside and behind the title of @p subject, whose texts @p bone has. */
+ClearLabelMarks marksOf(const ClearSubject &subject, const ClearLayout::Bone &bone)
+{
+    ClearLabelMarks marks;
+    marks.hasStatus = subject.hasStatus && subject.parent >= 0;
+    marks.hasLink = subject.hasLink;
+    marks.isFilled = subject.isFilled;
+    if (bone.badgeText)
+        marks.badgeWidth = bone.badgeText->width() + 2 * badgePadding;
+    if (bone.votesText)
+        marks.votesWidth =
+            std::max(bone.votesText->width() + 2 * badgePadding, ClearLabel::votesHeight);
+    return marks;
+}
 } // namespace
 
 QRectF ClearLayout::Bone::rect() const
@@ -99,16 +114,11 @@ void ClearLayout::makeLabels(const ClearTree &tree, const ClearFonts &fonts, Cle
         if (subject.hidden > 0)
             bone.badgeText =
                 cache.text(u'+' + QString::number(subject.hidden), fonts.badge(), ClearWrap());
-        const qreal badgeWidth = bone.badgeText ? bone.badgeText->width() + 2 * badgePadding : 0;
         if (subject.votes > 0)
             bone.votesText = cache.text(QString::number(subject.votes), fonts.badge(), ClearWrap());
-        const qreal votesWidth =
-            bone.votesText
-                ? std::max(bone.votesText->width() + 2 * badgePadding, ClearLabel::votesHeight)
-                : 0;
         bone.text = text;
-        m_labels.emplace_back(std::move(text), subject.hasStatus && level > 0, subject.hasLink,
-                              badgeWidth, votesWidth);
+        bone.isFilled = subject.isFilled;
+        m_labels.emplace_back(std::move(text), marksOf(subject, bone));
     }
 }
 

@@ -35,6 +35,7 @@ public:
     {
         std::shared_ptr<const ClearText> text;
         ClearLabel::Side side = ClearLabel::Side::Center; ///< of the text the bone is on
+        bool isFilled = false;                            ///< a colour lies behind all its lines
         int level = 0;
         int category = -1;                          ///< the row of its category, -1 for the head
         QLineF line;                                ///< from the joint to the end
@@ -50,8 +51,10 @@ public:
 
         /** Where the base line of line @p number of the title begins. */
         QPointF base(int number) const { return ClearLabel::base(*text, textRect, side, number); }
+        /** The title with the colour behind it. */
+        QRectF titleRect() const { return isFilled ? ClearLabel::filled(textRect) : textRect; }
         /** The title with its icons and its badge. */
-        QRectF labelRect() const { return textRect | status | votes | link | badge | box; }
+        QRectF labelRect() const { return titleRect() | status | votes | link | badge | box; }
         /** All of it. */
         QRectF rect() const;
         /** Moves it along the backbone. */

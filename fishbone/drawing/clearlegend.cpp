@@ -53,6 +53,20 @@ QSizeF ClearLegend::arrange(qreal width)
     return QSizeF(widest, at.y() + rowHeight);
 }
 
+/** The same in as many rows, but with no row that is far shorter than the others. */
+QSizeF ClearLegend::arrangeEvenly(qreal width)
+{
+    const QSizeF size = arrange(width);
+    qreal enough = size.width();
+    if (size.height() <= rowHeight)
+        return size;
+    for (qreal step = enough / 2; step > 1; step /= 2) {
+        if (arrange(enough - step).height() <= size.height())
+            enough -= step;
+    }
+    return arrange(enough);
+}
+
 void ClearLegend::moveTo(const QPointF &corner)
 {
     for (Entry &entry : m_entries) {
@@ -68,7 +82,7 @@ QRectF ClearLegend::place(const QRectF &drawing, const std::vector<QRectF> &take
     };
     // In a corner it takes no room of its own. One row first, then more and more of them.
     for (qreal width : {1e9, 420.0, 300.0, 200.0, 120.0}) {
-        const QSizeF size = arrange(width);
+        const QSizeF size = arrangeEvenly(width);
         if (size.width() > drawing.width())
             continue;
         const QPointF corner(leftOf(size), drawing.bottom() - size.height());
@@ -77,7 +91,7 @@ QRectF ClearLegend::place(const QRectF &drawing, const std::vector<QRectF> &take
             return drawing;
         }
     }
-    const QSizeF size = arrange(std::max(drawing.width(), narrowest));
+    const QSizeF size = arrangeEvenly(std::max(drawing.width(), narrowest));
     const QPointF corner(leftOf(size), drawing.bottom() + below);
     moveTo(corner);
     return drawing | QRectF(corner, size);

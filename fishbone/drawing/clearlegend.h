@@ -41,6 +41,7 @@ public:
 
 private:
     QSizeF arrange(qreal width);
+    QSizeF arrangeEvenly(qreal width);
     void moveTo(const QPointF &corner);
 
     std::vector<Entry> m_entries;

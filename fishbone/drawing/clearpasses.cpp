@@ -71,6 +71,7 @@ struct Shown
             SpearTree::prefetchMovedAfter(spears, i);
             subjects.push_back(subjectOf(*spears[i], parents[i]));
             looks.push_back(lookOf(*spears[i]));
+            subjects.back().isFilled = looks.back().fillsTitle(parents[i] <= 0);
         }
     }
 

@@ -101,7 +101,7 @@ void ClearPieces::label(PictureSink &sink, const ClearLayout::Bone &bone, const 
         }
     }
     if (ink.background.isValid())
-        sink.box(bone.textRect.adjusted(-padding, 0, padding, 0), padding, ink.background);
+        sink.box(ClearLabel::filled(bone.textRect), padding, ink.background);
     sink.text(*bone.text, bone.textRect, bone.side, ink.text);
     for (int line = 0; line < bone.text->lineCount(); ++line)
         verdictOn(sink, ink.verdict, bone.base(line), bone.text->lines()[std::size_t(line)].width,

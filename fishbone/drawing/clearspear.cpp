@@ -26,13 +26,14 @@ const ClearSpear *ClearSpear::of(const SpearItem &spear)
 
 bool ClearSpear::operator==(const ClearSpear &other) const
 {
-    return bone.text == other.bone.text && bone.side == other.bone.side &&
-           bone.level == other.bone.level && bone.category == other.bone.category &&
-           bone.line == other.bone.line && bone.textRect == other.bone.textRect &&
-           bone.box == other.bone.box && bone.status == other.bone.status &&
-           bone.votes == other.bone.votes && bone.votesText == other.bone.votesText &&
-           bone.link == other.bone.link && bone.badge == other.bone.badge &&
-           bone.button == other.bone.button && extent == other.extent && hidden == other.hidden &&
+    return bone.text == other.bone.text && bone.isFilled == other.bone.isFilled &&
+           bone.side == other.bone.side && bone.level == other.bone.level &&
+           bone.category == other.bone.category && bone.line == other.bone.line &&
+           bone.textRect == other.bone.textRect && bone.box == other.bone.box &&
+           bone.status == other.bone.status && bone.votes == other.bone.votes &&
+           bone.votesText == other.bone.votesText && bone.link == other.bone.link &&
+           bone.badge == other.bone.badge && bone.button == other.bone.button &&
+           extent == other.extent && hidden == other.hidden &&
            bone.badgeText == other.bone.badgeText && ink == other.ink && isSame(frame, other.frame);
 }
 

@@ -17,6 +17,7 @@ struct ClearSubject
     QString title;
     bool hasStatus = false; ///< a status icon stands before the title
     bool hasLink = false;   ///< a link icon stands after it
+    bool isFilled = false;  ///< a colour of its own lies behind the title
     int votes = 0;          ///< a number that stands before that icon; 0 for none
     int hidden = 0;         ///< how many subjects below it are not shown; 0 when it is expanded
     std::optional<ClearFont> font; ///< its own font in place of that of its level

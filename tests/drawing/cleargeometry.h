@@ -97,6 +97,9 @@ private:
             if (!rect.isNull())
                 m_parts.push_back({index, rect, what});
         };
+        // As it is painted behind a cause: beyond both ends of its widest line.
+        if (m_tree.at(index).isFilled && bone.level > 1)
+            put(bone.titleRect(), "fill");
         put(bone.status, "status");
         put(bone.votes, "votes");
         put(bone.link, "link");
@@ -153,6 +156,10 @@ private:
         const bool isBoxAndText = a.owner == b.owner && (a.what[0] == 'b' || b.what[0] == 'b');
         if (isBoxAndText && m_layout.bone(a.owner).level == 1)
             return; // the box is behind them
+        const auto isText = [](const Part &part) { return part.what[0] == 't'; };
+        const auto isFill = [](const Part &part) { return part.what[0] == 'f'; };
+        if (a.owner == b.owner && ((isText(a) && isFill(b)) || (isFill(a) && isText(b))))
+            return;
         const QRectF common = a.rect & b.rect;
         if (common.width() > 0.01 && common.height() > 0.01)
             fault(QStringLiteral("%1 of %2 on %3 of %4")
@@ -162,8 +169,8 @@ private:
 
     void checkLine(int index, const QLineF &line, const Part &part)
     {
-        if (part.owner == index && part.what[0] == 'b')
-            return; // the badge of a category sits on its bone
+        if (part.owner == index && (part.what[0] == 'b' || part.what[0] == 'f'))
+            return; // the badge of a category sits on its bone, what is filled may end one
         if (crosses(line, part.rect))
             fault(QStringLiteral("line of %1 through %2 of %3")
                       .arg(name(index), QLatin1String(part.what), name(part.owner)));

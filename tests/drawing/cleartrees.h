@@ -149,6 +149,7 @@ inline std::vector<ClearSubject> random(quint32 seed, const Kind &kind)
             subject.hasLink = random.bounded(4) == 0;
             if (random.bounded(4) == 0)
                 subject.votes = 1 + int(random.bounded(120));
+            subject.isFilled = (subject.votes + subject.title.size()) % 3 == 0;
             if (below.empty() && random.bounded(5) == 0)
                 subject.hidden = 1 + int(random.bounded(200));
             if (random.bounded(10) == 0)

@@ -12,6 +12,7 @@
 #include <QtTest>
 
 #include <cmath>
+#include <map>
 
 namespace {
 
@@ -96,7 +97,10 @@ private Q_SLOTS:
     void shouldSwapIconsOfTextFromRightToLeft();
     void shouldShowHowManyAreHidden();
     void shouldLayOutUnchangedTextsOnce();
+    void shouldPutIconsBesideAFilledTitle_data();
+    void shouldPutIconsBesideAFilledTitle();
     void shouldPutALegendBelowTheTail();
+    void shouldFillTheRowsOfALegendEvenly();
     void shouldCostLittleMoreThanItsSize_data();
     void shouldCostLittleMoreThanItsSize();
 };
@@ -336,6 +340,71 @@ void TestClearLayout::shouldLayOutUnchangedTextsOnce()
     const ClearLayout second(ClearTree(subjects), fonts(), {}, cache);
 
     QCOMPARE(cache.layouts(), before + 1);
+}
+
+void TestClearLayout::shouldPutIconsBesideAFilledTitle_data()
+{
+    QTest::addColumn<QString>("title");
+    QTest::addColumn<bool>("isHeadLeft");
+    const QString arabic = QStringLiteral("\u062a\u0623\u062e\u064a\u0631");
+    for (const bool isHeadLeft : {false, true}) {
+        const char *const head = isHeadLeft ? "left" : "right";
+        QTest::addRow("first line short, head %s", head)
+            << QStringLiteral("short\nand a longer one") << isHeadLeft;
+        QTest::addRow("last line short, head %s", head)
+            << QStringLiteral("a longer one\nshort") << isHeadLeft;
+        QTest::addRow("from right to left, head %s", head)
+            << arabic + QStringLiteral(" ") + arabic + QStringLiteral("\n") + arabic << isHeadLeft;
+    }
+}
+
+void TestClearLayout::shouldPutIconsBesideAFilledTitle()
+{
+    QFETCH(QString, title);
+    QFETCH(bool, isHeadLeft);
+    std::vector<ClearSubject> subjects = chain(3);
+    subjects[2].title = title;
+    subjects[2].hasStatus = subjects[2].hasLink = subjects[2].isFilled = true;
+    subjects[2].votes = 12;
+    const ClearTree tree(subjects);
+    ClearOptions options;
+    options.isHeadLeft = isHeadLeft;
+    ClearTextCache cache;
+    const ClearLayout layout(tree, fonts(), options, cache);
+
+    const ClearLayout::Bone &bone = layout.bone(2);
+    const QRectF fill = bone.textRect.adjusted(-2, 0, 2, 0);
+    const bool isReversed = bone.text->isRightToLeft();
+    QCOMPARE(isReversed ? bone.status.left() - 4 : bone.status.right() + 4,
+             isReversed ? fill.right() : fill.left());
+    QCOMPARE(isReversed ? bone.votes.right() + 4 : bone.votes.left() - 4,
+             isReversed ? fill.left() : fill.right());
+    QVERIFY(!bone.link.intersects(bone.votes) && !bone.link.intersects(fill));
+    const qreal lineHeight = bone.text->font().lineHeight();
+    QCOMPARE(bone.status.center().y(), bone.textRect.top() + lineHeight / 2);
+    QCOMPARE(bone.link.center().y(), bone.textRect.bottom() - lineHeight / 2);
+    QCOMPARE(ClearGeometry(tree, layout).faults().join(u'\n'), QString());
+}
+
+void TestClearLayout::shouldFillTheRowsOfALegendEvenly()
+{
+    const std::vector<QString> meanings(11, QStringLiteral("under way"));
+    ClearTextCache cache;
+    bool hasSeenTwoRows = false;
+    for (int width = 160; width < 1200; width += 20) {
+        ClearLegend legend(meanings, fonts().legend(), cache);
+        const QRectF drawing(0, 0, width, 100);
+        legend.place(drawing, {drawing}, false); // no room in a corner
+        std::map<qreal, std::size_t> rows;
+        for (const ClearLegend::Entry &entry : legend.entries())
+            ++rows[entry.symbol.top()];
+        // Rows are filled one after the other, and to the same length: the last one has the rest.
+        const std::size_t count = rows.size();
+        const std::size_t fullest = (meanings.size() + count - 1) / count;
+        QCOMPARE(rows.begin()->second, fullest);
+        hasSeenTwoRows = hasSeenTwoRows || count == 2;
+    }
+    QVERIFY(hasSeenTwoRows);
 }
 
 void TestClearLayout::shouldPutALegendBelowTheTail()

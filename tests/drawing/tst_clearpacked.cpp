@@ -84,6 +84,7 @@ void TestClearPacked::shouldStandAsIfPackedAnew()
         [](Subjects &s) { s[91].hasLink = !s[91].hasLink; },
         [](Subjects &s) { s[92].votes = 7; },
         [](Subjects &s) { s[92].votes = 8; },
+        [](Subjects &s) { s[92].isFilled = !s[92].isFilled; },
         [](Subjects &s) { s[119].hidden = 17; },
         [](Subjects &s) { s[30].font = ClearFont(QFont(), 24); },
         removeLast,
