@@ -207,6 +207,7 @@ check_guide() {
     scripts/guide-steps "${options[@]}" docs/embedding.md >"$folder/steps"
     # The guide knows no blanks in a prefix.
     ln -s "$PWD/build/package/$2/moved away" "$folder/prefix"
+    ln -s "$PWD" "$folder/fishbone" # its readers have the sources there
     (
         cd "$folder" || exit
         export CMAKE_PREFIX_PATH=$folder/prefix PKG_CONFIG_PATH=$folder/prefix/lib/pkgconfig
@@ -223,6 +224,8 @@ check_guide() {
 prove_guide() {
     local name
     export QT_QPA_PLATFORM=offscreen
+    "$1/task-host/fishbone-task-host" --demo
+    [[ -s $1/tasks.sqlite ]] # which its window has made
     for name in host meson qmake; do
         prove "$1/$name"
     done
