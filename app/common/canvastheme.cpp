@@ -87,6 +87,7 @@ void CanvasTheme::show(FishEditor &editor) const
 void CanvasTheme::editStyle(QWidget *parent)
 {
     SpearStyleDialog dialog(*SpearStyle::global(), true, parent);
+    dialog.setPreviewBackground(canvasColor());
     // What holds for all subjects has nothing to inherit from.
     dialog.setInheritanceOffered(false);
     if (dialog.exec() == QDialog::Accepted)

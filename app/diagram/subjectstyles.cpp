@@ -6,6 +6,8 @@
 #include <app/diagram/diagramsession.h>
 #include <app/diagram/subjectedit.h>
 
+#include <fishbone/editor/fisheditor.h>
+#include <fishbone/editor/graphicsview.h>
 #include <fishbone/model/subjectmarks.h>
 #include <fishbone/model/subjectwalk.h>
 #include <fishbone/style/spearstyle.h>
@@ -133,10 +135,11 @@ private:
     std::vector<const TreeItem *> m_changed;
 };
 
-/** Lets the user edit @p style. A head has no parent to have it from. */
-bool askFor(SpearStyle &style, bool hasParent, QWidget *window)
+/** Lets the user edit @p style, of what @p editor shows. A head has no parent to have it from. */
+bool askFor(SpearStyle &style, bool hasParent, const FishEditor &editor)
 {
-    SpearStyleDialog dialog(style, true, window);
+    SpearStyleDialog dialog(style, true, editor.window());
+    dialog.setPreviewBackground(editor.view()->backgroundBrush().color());
     dialog.setInheritanceOffered(
         hasParent,
         translated(QT_TRANSLATE_NOOP(
@@ -179,7 +182,7 @@ void edit(DiagramSession &session, const QModelIndexList &indexes)
     const bool hasParent = std::any_of(asked.cbegin(), asked.cend(), [](const TreeItem *subject) {
         return parentOf(*subject) != nullptr;
     });
-    if (!askFor(style, hasParent, session.editor()->window()) || valuesOf(style) == before)
+    if (!askFor(style, hasParent, *session.editor()) || valuesOf(style) == before)
         return;
     const StyleChange change(subjectsAt(model, edited), valuesOf(style));
     SubjectEdit::run(session, change.command(session.model()),

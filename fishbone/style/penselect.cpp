@@ -100,6 +100,7 @@ struct FISHBONE_NO_EXPORT PenSelect::Private
     }
 
     QPen pen;
+    QColor background = Qt::white; ///< of the preview
     QLineEdit *const width;
     QComboBox *const style;
     QComboBox *const capStyle;
@@ -166,6 +167,12 @@ void PenSelect::buildLayout()
     layout->addWidget(buttons);
 }
 
+void PenSelect::setPreviewBackground(const QColor &background)
+{
+    m_d->background = background;
+    updatePreview();
+}
+
 QPen PenSelect::selectedPen() const
 {
     return m_d->pen;
@@ -213,7 +220,7 @@ void PenSelect::openColor()
 void PenSelect::updatePreview()
 {
     const QSize size(300, 64);
-    QPixmap pixmap = previewPixmap(size, devicePixelRatioF());
+    QPixmap pixmap = previewPixmap(size, devicePixelRatioF(), m_d->background);
     QPainter painter(&pixmap);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(m_d->pen);

@@ -30,6 +30,9 @@ public:
     /** The pen as edited so far. */
     QPen selectedPen() const;
 
+    /** Shows the sample line on @p background instead of white: on what the pen will draw on. */
+    void setPreviewBackground(const QColor &background);
+
 public Q_SLOTS:
     /** Sets the width, in pixels, to the integer that @p text holds; does nothing if it holds none.
      */

@@ -3,13 +3,15 @@
 
 #pragma once
 
+#include <QColor>
 #include <QPixmap>
 
-/** A white pixmap of @p size in device-independent pixels, sharp on a screen of that @p ratio. */
-inline QPixmap previewPixmap(const QSize &size, qreal ratio)
+/** A pixmap of @p size in device-independent pixels, filled with @p background and sharp on a
+ * screen of that @p ratio. */
+inline QPixmap previewPixmap(const QSize &size, qreal ratio, const QColor &background)
 {
     QPixmap pixmap(size * ratio);
     pixmap.setDevicePixelRatio(ratio);
-    pixmap.fill(Qt::white);
+    pixmap.fill(background);
     return pixmap;
 }

@@ -69,7 +69,8 @@ struct FISHBONE_NO_EXPORT SpearStyleDialog::Private
     }
 
     SpearStyle &style;
-    QJsonObject snapshot; ///< the values when the dialog was made
+    QJsonObject snapshot;          ///< the values when the dialog was made
+    QColor background = Qt::white; ///< of the preview
     QLineEdit *const textCount;
     QCheckBox *const inheritanceParent;
     QComboBox *const state;
@@ -94,6 +95,12 @@ void SpearStyleDialog::setInheritanceOffered(bool offered, const QString &toolTi
 {
     m_d->inheritanceParent->parentWidget()->setVisible(offered); // with its frame
     m_d->inheritanceParent->setToolTip(toolTip);
+}
+
+void SpearStyleDialog::setPreviewBackground(const QColor &background)
+{
+    m_d->background = background;
+    updatePreview();
 }
 
 void SpearStyleDialog::buildFields()
@@ -249,6 +256,7 @@ void SpearStyleDialog::openTextBkColor()
 void SpearStyleDialog::openBroderPen()
 {
     auto *const dialog = new PenSelect(currentPen(), this);
+    dialog->setPreviewBackground(m_d->background);
     if (const std::optional<QPen> pen = modalAnswer(dialog, &PenSelect::selectedPen)) {
         m_d->style.setBroderPen(currentState(), *pen);
         updatePreview();
@@ -292,7 +300,7 @@ QPixmap SpearStyleDialog::drawPreview(const QString &text) const
     // A long text in a large font must not take up more memory than a screen can show.
     const QSize size = (box.size() + QSize(2 * margin, 2 * margin)).boundedTo(QSize(2400, 800));
 
-    QPixmap pixmap = previewPixmap(size, devicePixelRatioF());
+    QPixmap pixmap = previewPixmap(size, devicePixelRatioF(), m_d->background);
     QPainter painter(&pixmap);
     paintTextBox(painter, box, box, background, pen);
     painter.setFont(font);

@@ -40,6 +40,12 @@ public:
      */
     void setInheritanceOffered(bool offered, const QString &toolTip = QString());
 
+    /**
+     * Shows the preview, and that of the border pen, on @p background instead of white: on the
+     * canvas of the host, where light texts may be meant for a dark one.
+     */
+    void setPreviewBackground(const QColor &background);
+
 public Q_SLOTS:
     /** Lets the user choose the font of the chosen state. */
     void openTextFont();

@@ -7,6 +7,7 @@
 #include <fishbone/style/spearstyledialog.h>
 #include <tests/program/testprogram.h>
 #include <tests/style/styledialogparts.h>
+#include <tests/support/modaldriver.h>
 #include <tests/support/pictures.h>
 #include <tests/support/previewchecks.h>
 #include <tests/support/statelooks.h>
@@ -87,6 +88,7 @@ private Q_SLOTS:
     void shouldPreviewTheChosenState();
     void shouldPreviewTheColors();
     void shouldLeaveAnUnsetBackgroundWhite();
+    void shouldPreviewOnTheBackgroundOfTheHost();
     void shouldPreviewAnUnsetPenAsTheDefaultOne();
     void shouldPreviewTheFont();
     void shouldPreviewTheBoxOfABone_data();
@@ -194,6 +196,26 @@ void TestSpearStylePreview::shouldLeaveAnUnsetBackgroundWhite()
     previewText(dialog)->clear();
     QVERIFY(!shownPixmap(dialog).isNull());
     QCOMPARE(inkedPixels(shownPixmap(dialog)), 0);
+}
+
+void TestSpearStylePreview::shouldPreviewOnTheBackgroundOfTheHost()
+{
+    const QColor night(10, 20, 30);
+    SpearStyle style;
+    SpearStyleDialog dialog(style);
+    dialog.setPreviewBackground(night);
+    QCOMPARE(pixelsOf(shownPixmap(dialog), Qt::white), 0);
+    QVERIFY(pixelsOf(shownPixmap(dialog), night) > 100);
+    previewText(dialog)->setText(QStringLiteral("W")); // and what is drawn anew
+    QCOMPARE(shownPixmap(dialog).toImage().pixelColor(0, 0), night);
+    int behindPen = -1;
+    const TestSupport::ModalDriver<PenSelect> user([&](PenSelect &pen) {
+        behindPen = pixelsOf(shownPixmap(pen), night);
+        pen.reject();
+    });
+    dialog.openBroderPen();
+    QVERIFY(user.isDone());
+    QVERIFY(behindPen > 100);
 }
 
 void TestSpearStylePreview::shouldPreviewAnUnsetPenAsTheDefaultOne()
