@@ -39,7 +39,6 @@ EmptyPage::EmptyPage(const ActionSet &actions, RecentFiles *recent, QWidget *par
     auto *const hint = new QLabel(this);
     Language::bind(hint, &QLabel::setText,
                    [] { return tr("Files can also be dragged into this window."); });
-    hint->setEnabled(false); // as what can be left out
     m_list->setObjectName(QStringLiteral("recentList"));
     m_label->setBuddy(m_list);
     const auto listTitle = [] { return tr("Opened lately:"); };

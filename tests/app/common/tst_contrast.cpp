@@ -6,6 +6,8 @@
 
 #include <fishbone/style/spearstyle.h>
 #include <tests/app/appfixture.h>
+#include <tests/app/contrast.h>
+#include <tests/app/palettes.h>
 #include <tests/program/testprogram.h>
 
 #include <QAbstractButton>
@@ -16,31 +18,9 @@
 #include <QSvgRenderer>
 #include <QtTest>
 
-#include <algorithm>
-#include <cmath>
-
 namespace {
 
-constexpr double forText = 4.5;    ///< WCAG 2.1, 1.4.3
-constexpr double forShapes = 3.0;  ///< WCAG 2.1, 1.4.11
 constexpr int hardlyAnything = 20; ///< pixels of a picture
-
-/** The relative luminance of WCAG 2.1. */
-double luminanceOf(const QColor &color)
-{
-    const auto linear = [](double value) {
-        return value <= 0.03928 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +
-           0.0722 * linear(color.blueF());
-}
-
-double contrastOf(const QColor &one, const QColor &other)
-{
-    const double first = luminanceOf(one) + 0.05;
-    const double second = luminanceOf(other) + 0.05;
-    return std::max(first, second) / std::min(first, second);
-}
 
 /**
  * How many pixels of @p picture are drawn through and through, and how many of them stand out from
@@ -55,8 +35,8 @@ struct Pixels
             for (int x = 0; x < picture.width(); ++x) {
                 const QColor color = picture.pixelColor(x, y);
                 drawn += color.alpha() >= opaque;
-                standingOut +=
-                    color.alpha() >= opaque && contrastOf(color, background) >= forShapes;
+                standingOut += color.alpha() >= opaque &&
+                               Contrast::between(color, background) >= Contrast::forShapes;
             }
         }
     }
@@ -85,18 +65,6 @@ QStringList picturesIn(const QString &folder)
     return files;
 }
 
-QPalette lightPalette()
-{
-    return QPalette(QColor(0xef, 0xef, 0xef));
-}
-
-QPalette darkPalette()
-{
-    QPalette palette(QColor(0x31, 0x36, 0x3b));
-    palette.setColor(QPalette::Base, QColor(0x23, 0x26, 0x29));
-    return palette;
-}
-
 } // namespace
 
 /** What is drawn can be told from what it is drawn on, on a light desktop and on a dark one. */
@@ -123,8 +91,8 @@ private:
     static void addPalettes()
     {
         QTest::addColumn<QPalette>("palette");
-        QTest::newRow("light") << lightPalette();
-        QTest::newRow("dark") << darkPalette();
+        QTest::newRow("light") << Palettes::light();
+        QTest::newRow("dark") << Palettes::dark();
     }
 
     /** Shows the canvas of the current row's palette. */
@@ -139,11 +107,11 @@ private:
 
 void TestContrast::shouldCompareColours()
 {
-    QCOMPARE(contrastOf(Qt::black, Qt::white), 21.0);
-    QCOMPARE(contrastOf(Qt::red, Qt::red), 1.0);
+    QCOMPARE(Contrast::between(Qt::black, Qt::white), 21.0);
+    QCOMPARE(Contrast::between(Qt::red, Qt::red), 1.0);
     // The known limit: the lightest gray on white that is dark enough for text.
-    QVERIFY(contrastOf(QColor(0x76, 0x76, 0x76), Qt::white) >= forText);
-    QVERIFY(contrastOf(QColor(0x77, 0x77, 0x77), Qt::white) < forText);
+    QVERIFY(Contrast::between(QColor(0x76, 0x76, 0x76), Qt::white) >= Contrast::forText);
+    QVERIFY(Contrast::between(QColor(0x77, 0x77, 0x77), Qt::white) < Contrast::forText);
 }
 
 void TestContrast::shouldShowTheTextsOfBones_data()
@@ -152,8 +120,8 @@ void TestContrast::shouldShowTheTextsOfBones_data()
     QTest::addColumn<int>("state");
 
     for (int state = SpearStyle::ssNormal; state <= SpearStyle::ssLinked; ++state) {
-        QTest::addRow("light, state %d", state) << lightPalette() << state;
-        QTest::addRow("dark, state %d", state) << darkPalette() << state;
+        QTest::addRow("light, state %d", state) << Palettes::light() << state;
+        QTest::addRow("dark, state %d", state) << Palettes::dark() << state;
     }
 }
 
@@ -164,8 +132,9 @@ void TestContrast::shouldShowTheTextsOfBones()
     const auto spearState = SpearStyle::SpearState(state);
     const QColor text = SpearStyle::global()->textColor(spearState);
     const QColor behind = SpearStyle::global()->textBkColor(spearState);
-    const double contrast = contrastOf(text, behind.isValid() ? behind : m_theme.canvasColor());
-    QVERIFY2(contrast >= forText, qPrintable(QString::number(contrast)));
+    const double contrast =
+        Contrast::between(text, behind.isValid() ? behind : m_theme.canvasColor());
+    QVERIFY2(contrast >= Contrast::forText, qPrintable(QString::number(contrast)));
 }
 
 void TestContrast::shouldShowTheLinesOfBones()
@@ -174,8 +143,8 @@ void TestContrast::shouldShowTheLinesOfBones()
     QFETCH(int, state);
     const QPen *const pen = SpearStyle::global()->broderPen(SpearStyle::SpearState(state));
     QVERIFY(pen);
-    const double contrast = contrastOf(pen->color(), m_theme.canvasColor());
-    QVERIFY2(contrast >= forShapes, qPrintable(QString::number(contrast)));
+    const double contrast = Contrast::between(pen->color(), m_theme.canvasColor());
+    QVERIFY2(contrast >= Contrast::forShapes, qPrintable(QString::number(contrast)));
 }
 
 void TestContrast::shouldShowTheTitleOnTheHead()
@@ -186,8 +155,8 @@ void TestContrast::shouldShowTheTitleOnTheHead()
     const QColor behind = head.pixelColor(head.width() / 3, head.height() * 3 / 4);
     QVERIFY(behind != m_theme.canvasColor());
     const double contrast =
-        contrastOf(SpearStyle::global()->textColor(SpearStyle::ssNormal), behind);
-    QVERIFY2(contrast >= forText, qPrintable(QString::number(contrast)));
+        Contrast::between(SpearStyle::global()->textColor(SpearStyle::ssNormal), behind);
+    QVERIFY2(contrast >= Contrast::forText, qPrintable(QString::number(contrast)));
 }
 
 void TestContrast::shouldShowThePicturesOfTheDrawing()

@@ -4,7 +4,6 @@
 #pragma once
 
 #include <tests/app/appfixture.h>
-#include <tests/app/picturesubject.h>
 
 #include <app/common/actionset.h>
 #include <app/documents/closequestion.h>
@@ -29,6 +28,7 @@
 #include <QTabBar>
 
 #include <functional>
+#include <memory>
 
 /** The dialogs and panels of the program, for tests that go through all of them. */
 namespace Screens {
@@ -84,6 +84,22 @@ inline QWidget *recovery(AppFixture &app)
     return new RecoveryDialog({copy}, &app.window);
 }
 
+inline QWidget *exported(AppFixture &app)
+{
+    DiagramView view;
+    view.look = DiagramLook::Clear;
+    const auto source = std::make_shared<PictureSource>(app.window.editor());
+    const auto extent = [source](const PictureWish &wish) {
+        source->setWish(wish);
+        return source->extent();
+    };
+    const auto paint = [source](QPainter &painter, const QRectF &target, bool) {
+        source->paint(painter, target);
+    };
+    return new ExportDialog(QStringLiteral("late.png"),
+                            {source->depth(), Qt::white, view, extent, paint}, &app.window);
+}
+
 inline QWidget *preview(AppFixture &app)
 {
     DiagramView view;
@@ -120,11 +136,7 @@ inline QVector<Screen> all()
          [](AppFixture &app) {
              return new CloseQuestion({app.window.tabs()->current()}, &app.window);
          }},
-        {"export", "ExportDialog",
-         [](AppFixture &app) {
-             return new ExportDialog(QStringLiteral("late.png"), pictureSubject(DiagramLook::Clear),
-                                     &app.window);
-         }},
+        {"export", "ExportDialog", exported},
         {"find", "ReplaceFindDialog", found},
         {"keys", "KeysDialog",
          [](AppFixture &app) {

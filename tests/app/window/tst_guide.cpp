@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include <tests/app/exportdialogparts.h>
+#include <tests/app/palettes.h>
 #include <tests/app/window/guideplayer.h>
 #include <tests/app/window/guidewords.h>
 
@@ -418,10 +419,7 @@ void TestGuide::lightensAndDarkens()
 {
     GuidePlayer player;
     const QPalette light = QApplication::palette();
-    QPalette dark(QColor(0x31, 0x36, 0x3b));
-    dark.setColor(QPalette::Base, QColor(0x23, 0x26, 0x29));
-    dark.setColor(QPalette::AlternateBase, QColor(0x2b, 0x2f, 0x33));
-    QApplication::setPalette(dark);
+    QApplication::setPalette(Palettes::dark());
     beginFromTemplate(player, 1, m_words.voids);
     take(player.window, "dark");
     const QColor canvas = player.window.editor()->view()->backgroundBrush().color();

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Fishbone authors
 // SPDX-License-Identifier: MIT
 
+#include <tests/app/palettes.h>
 #include <tests/app/window/cuttexts.h>
 #include <tests/app/window/screens.h>
 
@@ -16,8 +17,8 @@ using Screens::Screen;
 
 /**
  * Shows every dialog and panel in small and large windows, light and dark, in English and Chinese:
- * each fits the screen, and no text is cut. Writes pictures of them into the folder "screens"
- * beside the program, to be looked at.
+ * each fits the screen, and no text is cut. Writes pictures of them to be looked at: into the
+ * folder "screens" beside the program, or all of them into FISHBONE_TEST_PICTURES, if that is set.
  */
 class TestScreens : public QObject
 {
@@ -37,7 +38,9 @@ void TestScreens::initTestCase()
 {
     QStandardPaths::setTestModeEnabled(true);
     QCoreApplication::setApplicationName(QStringLiteral("tst_screens"));
-    m_folder = QCoreApplication::applicationDirPath() + QStringLiteral("/screens");
+    m_folder =
+        qEnvironmentVariable("FISHBONE_TEST_PICTURES",
+                             QCoreApplication::applicationDirPath() + QStringLiteral("/screens"));
     QVERIFY(QDir().mkpath(m_folder));
 }
 
@@ -79,14 +82,19 @@ void TestScreens::shouldFitAndShowTheirTexts_data()
     // What 1600 x 1000 pixels are at two a pixel.
     const QList<QSize> sizes =
         isFine ? QList<QSize>{{800, 500}} : QList<QSize>{{1024, 700}, {1600, 1000}};
+    const auto add = [](const QSize &size, bool isDark, const char *language) {
+        QTest::addRow("%dx%d@%g %s %s", size.width(), size.height(), qApp->devicePixelRatio(),
+                      isDark ? "dark" : "light", language)
+            << size << isDark << QString::fromLatin1(language);
+    };
+    const bool isWhole = qEnvironmentVariableIsSet("FISHBONE_TEST_PICTURES");
     for (const QSize &size : sizes) {
         // Of size, colours and language each two meet, which four rows in place of eight do.
         for (const bool isDark : {false, true}) {
-            const bool isFirst = size == sizes.constFirst();
-            const char *const language = isDark == isFirst ? "zh" : "en";
-            QTest::addRow("%dx%d@%g %s %s", size.width(), size.height(), qApp->devicePixelRatio(),
-                          isDark ? "dark" : "light", language)
-                << size << isDark << QString::fromLatin1(language);
+            const bool isChinese = isDark == (size == sizes.constFirst());
+            add(size, isDark, isChinese ? "zh" : "en");
+            if (isWhole)
+                add(size, isDark, isChinese ? "en" : "zh");
         }
     }
 }
@@ -99,9 +107,7 @@ void TestScreens::shouldFitAndShowTheirTexts()
     QSettings().clear();
     Language::install(language);
     const QPalette before = QApplication::palette();
-    QPalette dark(QColor(0x31, 0x36, 0x3b));
-    dark.setColor(QPalette::Base, QColor(0x23, 0x26, 0x29));
-    QApplication::setPalette(isDark ? dark : QPalette(QColor(0xef, 0xef, 0xef)));
+    QApplication::setPalette(isDark ? Palettes::dark() : Palettes::light());
     QString folder = m_folder + QLatin1Char('/') + QString::fromLatin1(QTest::currentDataTag());
     folder.replace(QLatin1Char(' '), QLatin1Char('-'));
     QVERIFY(QDir().mkpath(folder));
