@@ -5,6 +5,7 @@
 
 #include <app/common/language.h>
 #include <app/common/themedicon.h>
+#include <app/diagram/diagramsession.h>
 #include <app/documents/documenttab.h>
 #include <app/panels/actionspanel.h>
 #include <app/panels/detailspanel.h>
@@ -141,7 +142,9 @@ void WindowDocks::show(const DocumentTab &tab)
     m_histories->setCurrentWidget(tab.history());
     m_overview->setSession(tab.session());
     m_actions->setSession(tab.session());
-    m_layout->setDrawing(tab.editor()->view());
+    // Without a document there is the page that stands in for it.
+    m_layout->setDrawing(tab.session()->document() ? tab.editor()->view()
+                                                   : m_window->centralWidget());
 }
 
 void WindowDocks::showDetails()

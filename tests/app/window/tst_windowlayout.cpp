@@ -22,6 +22,7 @@ private Q_SLOTS:
     void init();
     void shouldLeaveTheDrawingMostOfASmallWindow_data();
     void shouldLeaveTheDrawingMostOfASmallWindow();
+    void shouldLeaveThePageWithoutDocumentsMostOfASmallWindow();
     void shouldBringPanelsBackWhenTheWindowGrows();
     void shouldKeepAPanelThatTheUserOpened();
     void shouldNotBringBackWhatTheUserClosed();
@@ -82,6 +83,22 @@ void TestWindowLayout::shouldLeaveTheDrawingMostOfASmallWindow()
     QCOMPARE(app.window.size(), size);
     const double share = WindowLayout::shareOf(*app.window.editor()->view());
     QVERIFY2(share >= 0.6, qPrintable(QString::number(share)));
+}
+
+void TestWindowLayout::shouldLeaveThePageWithoutDocumentsMostOfASmallWindow()
+{
+    AppFixture app;
+    const auto *const page = app.window.findChild<QWidget *>(QStringLiteral("emptyPage"));
+    QVERIFY(page);
+    app.trigger("close");
+    for (const QSize &size : {QSize(1024, 700), QSize(800, 500)}) {
+        resize(app, size);
+        QVERIFY(page->isVisible());
+        const double share = WindowLayout::shareOf(*page);
+        QVERIFY2(share >= 0.6, qPrintable(QString::number(share)));
+    }
+    resize(app, QSize(1400, 900));
+    QCOMPARE(shownDocks(app.window), names);
 }
 
 void TestWindowLayout::shouldBringPanelsBackWhenTheWindowGrows()
