@@ -32,6 +32,7 @@ private Q_SLOTS:
     void shouldSayThatNothingWasFound();
     void shouldReplaceAsAStepThatCanBeUndone();
     void shouldReplaceInAllTitles();
+    void shouldAnnounceEachOfManyReplacementsOnce();
     void shouldRespectTheCase();
     void shouldReplaceNumbersToo();
     void shouldReplaceNoIdentities();
@@ -176,6 +177,32 @@ void TestFinder::shouldReplaceInAllTitles()
     QVERIFY(app.text().contains(QLatin1String("People[Too few[Illness],Too new]")));
     app.trigger("redo");
     QVERIFY(app.text().contains(QLatin1String("People[Very few[Illness],Very new]")));
+}
+
+void TestFinder::shouldAnnounceEachOfManyReplacementsOnce()
+{
+    // What follows a change is done once for all of them, so that 20,000 take no second.
+    constexpr int count = 2000;
+    FinderFixture app;
+    QByteArray causes;
+    for (int i = 0; i < count; ++i)
+        causes += QByteArray(i > 0 ? "," : "") + R"({"title": "Cause"})";
+    const QString file = app.path(QStringLiteral("many.json"));
+    AppFixture::writeFile(file, R"({"title": "Many", "children": [)" + causes + "]}");
+    app.window.open({file});
+    AppFixture::settle();
+    app.search(QStringLiteral("Cause"));
+    app.dialog->replacementField()->setText(QStringLiteral("Reason"));
+    AppFixture::settle();
+
+    const QSignalSpy changes(app.window.model(), &QAbstractItemModel::dataChanged);
+    const QSignalSpy states(app.window.session(), &DiagramSession::stateChanged);
+    const int steps = app.window.editor()->undoStack()->count();
+    app.replaceAll();
+    QCOMPARE(changes.count(), count);
+    QVERIFY2(states.count() <= 2, qPrintable(QString::number(states.count())));
+    QCOMPARE(app.window.editor()->undoStack()->count(), steps + 1);
+    QCOMPARE(app.window.model()->searchModelIndexes(QStringLiteral("Reason")).size(), count);
 }
 
 void TestFinder::shouldRespectTheCase()

@@ -46,6 +46,7 @@ private Q_SLOTS:
     void shouldKeepACopyFromWhoeverMayNotReadTheFile();
     void shouldKeepACopyOfEachTab();
     void shouldSaveChangesByItself();
+    void shouldSaveManyChangesAtOnce();
     void shouldSaveNothingThatIsNotModified();
     void shouldTakeTheEditorsAutosaveOver();
     void shouldRemoveTheCopyOfASavedDocument();
@@ -138,6 +139,19 @@ void TestRecoveryCopy::shouldSaveChangesByItself()
     const RecoveryCopy *const copy = app.window.tabs()->tabs().at(0)->recovery();
     QTRY_COMPARE_WITH_TIMEOUT(copy->state(), RecoveryCopy::State::Saved, 10000);
     QVERIFY(!AppFixture::contentOf(copy->path()).contains("Machines"));
+}
+
+void TestRecoveryCopy::shouldSaveManyChangesAtOnce()
+{
+    QSettings().setValue(QStringLiteral("autosaveSeconds"), 1);
+    AppFixture app;
+    const QSignalSpy copies(recoveryOf(app), &RecoveryCopy::changed);
+    const QPersistentModelIndex subject = app.find("Machines");
+    for (int i = 0; i < 50; ++i)
+        app.window.editor()->renameItem(subject, QString::number(i));
+    QTRY_COMPARE(copies.count(), 1);
+    QTest::qWait(1500); // nothing is new
+    QCOMPARE(copies.count(), 1);
 }
 
 void TestRecoveryCopy::shouldSaveNothingThatIsNotModified()
