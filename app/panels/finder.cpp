@@ -5,6 +5,7 @@
 
 #include <app/common/busycursor.h>
 #include <app/common/keepclear.h>
+#include <app/common/workprogress.h>
 #include <app/diagram/diagramsession.h>
 #include <app/panels/hitlist.h>
 
@@ -219,20 +220,44 @@ void Finder::keepClear()
                   *m_dialog);
 }
 
-/** Replaces in the texts that were found at @p hits, in one step; how many have changed. */
-int Finder::replaceIn(const QModelIndexList &hits)
+/** The step that replaces in the texts that were found at @p hits; null when @p progress ends it.
+ */
+std::unique_ptr<EditAttributes> Finder::draft(const QModelIndexList &hits,
+                                              const Progress &progress) const
 {
-    const BusyCursor busy(m_session->container());
-    auto command = std::make_unique<EditAttributes>(m_session->model());
-    for (const QModelIndex &hit : hits) {
-        const TreeItem *const subject = m_session->model()->getTreeItem(hit);
+    FishModel *const model = m_session->model();
+    // While somebody sees the progress, subjects may go.
+    const QList<QPersistentModelIndex> places(hits.cbegin(), hits.cend());
+    auto command = std::make_unique<EditAttributes>(model);
+    int done = 0;
+    for (const QPersistentModelIndex &hit : places) {
+        if (!progress(done++, places.size()))
+            return nullptr;
+        const TreeItem *const subject = hit.isValid() ? model->getTreeItem(hit) : nullptr;
         if (!subject || !isReplaceable(hit))
             continue;
         const QJsonObject before = EditAttributes::stateOf(*subject);
         TreeItem draft(before);
         draft.setData(hit.column(), replaced(subject->data(hit.column()).toString()));
-        command->add(hit.siblingAtColumn(titleColumn), before, EditAttributes::stateOf(draft));
+        command->add(hit.sibling(hit.row(), titleColumn), before, EditAttributes::stateOf(draft));
     }
+    return command;
+}
+
+/** The same for many, which the user may cancel. */
+std::unique_ptr<EditAttributes> Finder::draftAll(const QModelIndexList &hits)
+{
+    const DiagramSession *const session = m_session;
+    WorkProgress progress(m_dialog->replaceAllButton()->text().remove(u'&'), m_dialog);
+    return draft(hits, [&](int done, int total) {
+        return progress.report(done, total) && m_session == session;
+    });
+}
+
+/** Runs @p command as one step; how many texts have changed. */
+int Finder::run(std::unique_ptr<EditAttributes> command)
+{
+    const BusyCursor busy(m_session->container());
     const int count = command->count();
     if (count == 0)
         return 0;
@@ -252,7 +277,7 @@ void Finder::replaceCurrent()
     }
     const QModelIndex hit = matches.at(m_current);
     const int current = m_current;
-    const bool isReplaced = replaceIn({hit}) > 0;
+    const bool isReplaced = run(draft({hit}, [](int, int) { return true; })) > 0;
     m_matches.clear(); // so that they are listed with their new texts
     listHits();
     m_current = current;
@@ -272,9 +297,13 @@ void Finder::replaceAll()
     const QList<int> rows = m_hits->checkedRows();
     for (int row : rows)
         hits.append(m_matches.value(row));
-    const int count = replaceIn(hits);
-    m_matches.clear();
-    listHits();
+    std::unique_ptr<EditAttributes> command = draftAll(hits);
+    const bool isCancelled = !command;
+    const int count = isCancelled ? 0 : run(std::move(command));
+    if (!isCancelled) {
+        m_matches.clear();
+        listHits();
+    }
     Q_EMIT message(tr("%n text(s) replaced", nullptr, count));
 }
 

@@ -10,7 +10,11 @@
 #include <QPersistentModelIndex>
 #include <QTimer>
 
+#include <functional>
+#include <memory>
+
 class DiagramSession;
+class EditAttributes;
 class HitList;
 class QLineEdit;
 class ReplaceFindDialog;
@@ -19,8 +23,9 @@ class ReplaceFindDialog;
  * Makes the library's find dialog useful. What was found is listed in it, with what a replacement
  * would make of it, as one types; the first hit is shown at once, and the window steps aside from
  * it. Every search goes on to the next hit, and the list leads to any of them.
- * Replacing is a step of the undo history, one step for all of them. Esc ends the search and gives
- * the drawing the look that it had before.
+ * Replacing is a step of the undo history, one step for all of them, with progress and a button
+ * that cancels it when it takes long. Esc ends the search and gives the drawing the look that it
+ * had before.
  */
 class Finder : public QObject
 {
@@ -42,6 +47,9 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    /** Hears how many of how many are done; false ends it. */
+    using Progress = std::function<bool(int done, int total)>;
+
     void connectControls();
     void forgetHits();
     void listHits();
@@ -52,7 +60,10 @@ private:
     void followView();
     void replaceCurrent();
     void replaceAll();
-    int replaceIn(const QModelIndexList &hits);
+    std::unique_ptr<EditAttributes> draft(const QModelIndexList &hits,
+                                          const Progress &progress) const;
+    std::unique_ptr<EditAttributes> draftAll(const QModelIndexList &hits);
+    int run(std::unique_ptr<EditAttributes> command);
     void preview();
     void rememberLook();
     void restoreLook();

@@ -14,8 +14,10 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QProgressDialog>
 #include <QPushButton>
 #include <QScreen>
+#include <QSettings>
 #include <QStatusBar>
 #include <QTreeWidget>
 
@@ -33,6 +35,7 @@ private Q_SLOTS:
     void shouldReplaceAsAStepThatCanBeUndone();
     void shouldReplaceInAllTitles();
     void shouldAnnounceEachOfManyReplacementsOnce();
+    void shouldReplaceNothingOnceCancelled();
     void shouldRespectTheCase();
     void shouldReplaceNumbersToo();
     void shouldReplaceNoIdentities();
@@ -59,6 +62,18 @@ struct FinderFixture : AppFixture
     {
         trigger("find");
         dialog = window.findChild<ReplaceFindDialog *>();
+    }
+
+    /** Opens a diagram of @p count subjects "Cause" below its head. */
+    void openCauses(int count)
+    {
+        QByteArray causes;
+        for (int i = 0; i < count; ++i)
+            causes += QByteArray(i > 0 ? "," : "") + R"({"title": "Cause"})";
+        const QString file = path(QStringLiteral("many.json"));
+        writeFile(file, R"({"title": "Many", "children": [)" + causes + "]}");
+        window.open({file});
+        settle();
     }
 
     void search(const QString &text)
@@ -181,20 +196,13 @@ void TestFinder::shouldReplaceInAllTitles()
 
 void TestFinder::shouldAnnounceEachOfManyReplacementsOnce()
 {
-    // What follows a change is done once for all of them, so that 20,000 take no second.
+    // What follows a change is done once for all of them, whatever their number.
     constexpr int count = 2000;
     FinderFixture app;
-    QByteArray causes;
-    for (int i = 0; i < count; ++i)
-        causes += QByteArray(i > 0 ? "," : "") + R"({"title": "Cause"})";
-    const QString file = app.path(QStringLiteral("many.json"));
-    AppFixture::writeFile(file, R"({"title": "Many", "children": [)" + causes + "]}");
-    app.window.open({file});
-    AppFixture::settle();
+    app.openCauses(count);
     app.search(QStringLiteral("Cause"));
     app.dialog->replacementField()->setText(QStringLiteral("Reason"));
     AppFixture::settle();
-
     const QSignalSpy changes(app.window.model(), &QAbstractItemModel::dataChanged);
     const QSignalSpy states(app.window.session(), &DiagramSession::stateChanged);
     const int steps = app.window.editor()->undoStack()->count();
@@ -203,6 +211,38 @@ void TestFinder::shouldAnnounceEachOfManyReplacementsOnce()
     QVERIFY2(states.count() <= 2, qPrintable(QString::number(states.count())));
     QCOMPARE(app.window.editor()->undoStack()->count(), steps + 1);
     QCOMPARE(app.window.model()->searchModelIndexes(QStringLiteral("Reason")).size(), count);
+}
+
+void TestFinder::shouldReplaceNothingOnceCancelled()
+{
+    QSettings().setValue(QStringLiteral("progressAfterMilliseconds"), 0);
+    constexpr int count = 8000; // which take longer than a look at the progress
+    FinderFixture app;
+    app.openCauses(count);
+    app.search(QStringLiteral("Cause"));
+    app.dialog->replacementField()->setText(QStringLiteral("Reason"));
+    AppFixture::settle();
+    const int steps = app.window.editor()->undoStack()->count();
+    int done = -1;
+    int whole = 0;
+    {
+        const ModalDriver<QProgressDialog> user(
+            [&](QProgressDialog &dialog) {
+                done = dialog.value();
+                whole = dialog.maximum();
+                QTest::mouseClick(dialog.findChild<QPushButton *>(), Qt::LeftButton);
+            },
+            60000);
+        app.replaceAll();
+        QVERIFY(user.isDone());
+    }
+    QSettings().remove(QStringLiteral("progressAfterMilliseconds"));
+    QVERIFY2(done >= 0 && done < whole, qPrintable(QString::number(done)));
+    QCOMPARE(whole, count);
+    QCOMPARE(app.window.editor()->undoStack()->count(), steps);
+    QVERIFY(!app.document()->modified());
+    QVERIFY(app.window.model()->searchModelIndexes(QStringLiteral("Reason")).isEmpty());
+    QCOMPARE(app.hits()->topLevelItemCount(), count); // to be replaced all the same
 }
 
 void TestFinder::shouldRespectTheCase()
