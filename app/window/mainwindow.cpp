@@ -5,7 +5,7 @@
 
 #include <app/common/accessiblepages.h>
 #include <app/common/actionset.h>
-#include <app/common/boxstyle.h>
+#include <app/common/contraststyle.h>
 #include <app/common/canvastheme.h>
 #include <app/common/language.h>
 #include <app/common/linkopener.h>
@@ -62,7 +62,7 @@ MainWindow::MainWindow(QWidget *parent)
     , m_drops(new FileDrop(this))
 {
     AccessiblePages::install();
-    BoxStyle::install();
+    ContrastStyle::install();
     setWindowIcon(QIcon(QStringLiteral(":/app/icon.svg")));
     setCentralWidget(m_tabs);
     m_theme->follow(palette());

@@ -142,9 +142,7 @@ void WindowDocks::show(const DocumentTab &tab)
     m_histories->setCurrentWidget(tab.history());
     m_overview->setSession(tab.session());
     m_actions->setSession(tab.session());
-    // Without a document there is the page that stands in for it.
-    m_layout->setDrawing(tab.session()->document() ? tab.editor()->view()
-                                                   : m_window->centralWidget());
+    m_layout->setDrawing(tab.session()->document() ? tab.editor()->view() : nullptr);
 }
 
 void WindowDocks::showDetails()

@@ -66,7 +66,7 @@ double WindowLayout::shareOf(const QWidget &widget)
 
 bool WindowLayout::hasRoom() const
 {
-    return !m_drawing || shareOf(*m_drawing) >= drawingShare;
+    return m_drawing && shareOf(*m_drawing) >= drawingShare;
 }
 
 void WindowLayout::setDrawing(const QWidget *drawing)

@@ -31,7 +31,8 @@ public:
      * first. */
     WindowLayout(QMainWindow *window, const QList<QDockWidget *> &docks);
 
-    /** The drawing that is shown now, somewhere in the window. */
+    /** The drawing that is shown now, somewhere in the window. With none, panels have nothing to
+     * show and in a small window all step aside. */
     void setDrawing(const QWidget *drawing);
 
     /** The part of the window that @p widget in it takes up, from 0 to 1. */

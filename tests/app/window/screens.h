@@ -24,7 +24,6 @@
 #include <fishbone/style/spearstyledialog.h>
 
 #include <QDockWidget>
-#include <QPen>
 #include <QTabBar>
 
 #include <functional>
@@ -116,6 +115,14 @@ inline QWidget *found(AppFixture &app)
     return app.window.findChild<ReplaceFindDialog *>();
 }
 
+/** Has @p dialog preview on the canvas, as the program does. */
+template <typename Dialog>
+QWidget *onCanvas(Dialog *dialog, const AppFixture &app)
+{
+    dialog->setPreviewBackground(app.window.editor()->view()->backgroundBrush().color());
+    return dialog;
+}
+
 /** All dialogs and panels of the program. */
 inline QVector<Screen> all()
 {
@@ -147,12 +154,17 @@ inline QVector<Screen> all()
          [](AppFixture &app) {
              return new PasteDialog(QStringLiteral("# Late\n- People\n  - Too few"), &app.window);
          }},
-        {"pen", "PenSelect", [](AppFixture &app) { return new PenSelect(QPen(), &app.window); }},
+        {"pen", "PenSelect",
+         [](AppFixture &app) {
+             auto *const dialog =
+                 new PenSelect(*SpearStyle::global()->broderPen(SpearStyle::ssNormal), &app.window);
+             return onCanvas(dialog, app);
+         }},
         {"preview", "PrintPreview", preview},
         {"recovery", "RecoveryDialog", recovery},
         {"style", "SpearStyleDialog",
          [](AppFixture &app) {
-             return new SpearStyleDialog(*SpearStyle::global(), true, &app.window);
+             return onCanvas(new SpearStyleDialog(*SpearStyle::global(), true, &app.window), app);
          }},
         {"templates", "TemplateGallery",
          [](AppFixture &app) { return new TemplateGallery(&app.window); }},

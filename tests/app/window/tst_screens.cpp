@@ -117,6 +117,8 @@ void TestScreens::shouldFitAndShowTheirTexts()
         AppFixture app;
         Screens::prepare(app, size);
         QWidget *const shown = screen.show(app);
+        if (!shown->testAttribute(Qt::WA_Resized))
+            shown->adjustSize(); // as showing it does
         shown->resize(shown->size().boundedTo(size));
         shown->show();
         AppFixture::settle();

@@ -96,7 +96,11 @@ void TestWindowLayout::shouldLeaveThePageWithoutDocumentsMostOfASmallWindow()
         QVERIFY(page->isVisible());
         const double share = WindowLayout::shareOf(*page);
         QVERIFY2(share >= 0.6, qPrintable(QString::number(share)));
+        QCOMPARE(shownDocks(app.window), QStringList()); // which are empty
     }
+    app.trigger("new");
+    AppFixture::settle();
+    QVERIFY(WindowLayout::shareOf(*app.window.editor()->view()) >= 0.6);
     resize(app, QSize(1400, 900));
     QCOMPARE(shownDocks(app.window), names);
 }

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Fishbone authors
 // SPDX-License-Identifier: MIT
 
-#include <app/common/boxstyle.h>
+#include <app/common/contraststyle.h>
 
 #include <tests/app/contrast.h>
 #include <tests/app/palettes.h>
@@ -9,9 +9,12 @@
 
 #include <QCheckBox>
 #include <QListWidget>
+#include <QMainWindow>
 #include <QMenu>
 #include <QRadioButton>
 #include <QStyleOptionButton>
+#include <QToolBar>
+#include <QToolButton>
 
 namespace {
 
@@ -38,8 +41,9 @@ int edgesOf(const QImage &box, const QColor &background)
 
 } // namespace
 
-/** Boxes that are not checked can be seen, on a light desktop and on a dark one. */
-class TestBoxStyle : public QObject
+/** Boxes that are not checked can be seen, and the arrows of bars that are too short, on a light
+ * desktop and on a dark one. */
+class TestContrastStyle : public QObject
 {
     Q_OBJECT
 
@@ -51,27 +55,29 @@ private Q_SLOTS:
     void shouldShowTheBoxesOfLists();
     void shouldShowTheBoxesOfMenus_data() { addPalettes(); }
     void shouldShowTheBoxesOfMenus();
+    void shouldShowThatBarsHaveMore_data();
+    void shouldShowThatBarsHaveMore();
     void shouldLeaveTheStyleOfADesktopAlone();
 
 private:
     static void addPalettes();
 };
 
-void TestBoxStyle::initTestCase()
+void TestContrastStyle::initTestCase()
 {
     QApplication::setStyle(QStringLiteral("fusion"));
-    BoxStyle::install();
-    QVERIFY(qobject_cast<BoxStyle *>(QApplication::style()));
+    ContrastStyle::install();
+    QVERIFY(qobject_cast<ContrastStyle *>(QApplication::style()));
 }
 
-void TestBoxStyle::addPalettes()
+void TestContrastStyle::addPalettes()
 {
     QTest::addColumn<QPalette>("palette");
     QTest::newRow("light") << Palettes::light();
     QTest::newRow("dark") << Palettes::dark();
 }
 
-void TestBoxStyle::shouldShowTheBoxesOfButtons_data()
+void TestContrastStyle::shouldShowTheBoxesOfButtons_data()
 {
     QTest::addColumn<QPalette>("palette");
     QTest::addColumn<bool>("isRound");
@@ -81,7 +87,7 @@ void TestBoxStyle::shouldShowTheBoxesOfButtons_data()
     }
 }
 
-void TestBoxStyle::shouldShowTheBoxesOfButtons()
+void TestContrastStyle::shouldShowTheBoxesOfButtons()
 {
     QFETCH(QPalette, palette);
     QFETCH(bool, isRound);
@@ -92,7 +98,7 @@ void TestBoxStyle::shouldShowTheBoxesOfButtons()
     QVERIFY(edgesOf(boxOf(button), palette.color(QPalette::Window)) >= 2);
 }
 
-void TestBoxStyle::shouldShowTheBoxesOfLists()
+void TestContrastStyle::shouldShowTheBoxesOfLists()
 {
     QFETCH(QPalette, palette);
     QListWidget list;
@@ -103,7 +109,7 @@ void TestBoxStyle::shouldShowTheBoxesOfLists()
     QVERIFY(edgesOf(row, palette.color(QPalette::Base)) >= 2);
 }
 
-void TestBoxStyle::shouldShowTheBoxesOfMenus()
+void TestContrastStyle::shouldShowTheBoxesOfMenus()
 {
     QFETCH(QPalette, palette);
     const QPalette before = QApplication::palette();
@@ -119,12 +125,42 @@ void TestBoxStyle::shouldShowTheBoxesOfMenus()
     QApplication::setPalette(before);
 }
 
-void TestBoxStyle::shouldLeaveTheStyleOfADesktopAlone()
+void TestContrastStyle::shouldShowThatBarsHaveMore_data()
 {
-    QApplication::setStyle(QStringLiteral("windows")); // stands for any other than Qt's usual one
-    BoxStyle::install();
-    QVERIFY(!qobject_cast<BoxStyle *>(QApplication::style()));
+    QTest::addColumn<QPalette>("palette");
+    QTest::addColumn<QSize>("size");
+    for (const QSize &size : {QSize(80, 300), QSize(300, 80)}) {
+        QTest::addRow("light, %d wide", size.width()) << Palettes::light() << size;
+        QTest::addRow("dark, %d wide", size.width()) << Palettes::dark() << size;
+    }
 }
 
-FISHBONE_TEST(TestBoxStyle)
-#include "tst_boxstyle.moc"
+void TestContrastStyle::shouldShowThatBarsHaveMore()
+{
+    QFETCH(QPalette, palette);
+    QFETCH(QSize, size);
+    QMainWindow window;
+    window.setPalette(palette);
+    auto *const bar = new QToolBar(&window);
+    window.addToolBar(size.width() < size.height() ? Qt::TopToolBarArea : Qt::LeftToolBarArea, bar);
+    for (int i = 0; i < 20; ++i)
+        bar->addAction(QStringLiteral("Action"));
+    window.resize(size);
+    window.show();
+    QCoreApplication::processEvents();
+    const auto *const more = bar->findChild<QToolButton *>(QStringLiteral("qt_toolbar_ext_button"));
+    QVERIFY(more && more->isVisible());
+    const QImage shown =
+        window.grab().toImage().copy(QRect(more->mapTo(&window, QPoint()), more->size()));
+    QVERIFY(Contrast::greatestIn(shown, palette.color(QPalette::Window)) >= Contrast::forShapes);
+}
+
+void TestContrastStyle::shouldLeaveTheStyleOfADesktopAlone()
+{
+    QApplication::setStyle(QStringLiteral("windows")); // stands for any other than Qt's usual one
+    ContrastStyle::install();
+    QVERIFY(!qobject_cast<ContrastStyle *>(QApplication::style()));
+}
+
+FISHBONE_TEST(TestContrastStyle)
+#include "tst_contraststyle.moc"

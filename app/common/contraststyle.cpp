@@ -1,11 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Fishbone authors
 // SPDX-License-Identifier: MIT
 
-#include <app/common/boxstyle.h>
+#include <app/common/contraststyle.h>
 
 #include <QApplication>
 #include <QPainter>
 #include <QStyleOption>
+#include <QToolBar>
 
 namespace {
 
@@ -24,21 +25,28 @@ QColor edgeColor(const QPalette &palette)
                   mean(text.blue(), behind.blue()));
 }
 
+/** Whether @p widget shows what a bar of tools or menus has no room for. */
+bool isExtension(const QWidget *widget)
+{
+    return widget && (widget->objectName() == QLatin1String("qt_toolbar_ext_button") ||
+                      widget->objectName() == QLatin1String("qt_menubar_ext_button"));
+}
+
 } // namespace
 
-BoxStyle::BoxStyle()
+ContrastStyle::ContrastStyle()
     : QProxyStyle(ownStyle())
 {
 }
 
-void BoxStyle::install()
+void ContrastStyle::install()
 {
     if (QApplication::style()->objectName().compare(ownStyle(), Qt::CaseInsensitive) == 0)
-        QApplication::setStyle(new BoxStyle); // which takes it over
+        QApplication::setStyle(new ContrastStyle); // which takes it over
 }
 
-void BoxStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *option,
-                             QPainter *painter, const QWidget *widget) const
+void ContrastStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *option,
+                                  QPainter *painter, const QWidget *widget) const
 {
     QProxyStyle::drawPrimitive(element, option, painter, widget);
     const bool isRound = element == PE_IndicatorRadioButton;
@@ -57,5 +65,29 @@ void BoxStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *optio
     } else {
         painter->drawRect(QRectF(box).adjusted(0.5, 0.5, -0.5, -0.5));
     }
+    painter->restore();
+}
+
+void ContrastStyle::drawControl(ControlElement element, const QStyleOption *option,
+                                QPainter *painter, const QWidget *widget) const
+{
+    if (element != CE_ToolButtonLabel || !isExtension(widget)) {
+        QProxyStyle::drawControl(element, option, painter, widget);
+        return;
+    }
+    constexpr qreal arm = 3;
+    constexpr qreal apart = 4;
+    const auto *const bar = qobject_cast<const QToolBar *>(widget->parentWidget());
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setPen(QPen(option->palette.color(QPalette::WindowText), 1.4, Qt::SolidLine,
+                         Qt::RoundCap, Qt::RoundJoin));
+    painter->translate(QRectF(option->rect).center());
+    if (bar && bar->orientation() == Qt::Vertical)
+        painter->rotate(90);
+    else if (option->direction == Qt::RightToLeft)
+        painter->scale(-1, 1);
+    for (const qreal tip : {0.0, apart})
+        painter->drawPolyline(QPolygonF({{tip - arm, -arm}, {tip, 0}, {tip - arm, arm}}));
     painter->restore();
 }
