@@ -62,7 +62,7 @@ QString runs(QXmlStreamReader &xml)
         if (token == QXmlStreamReader::EndElement) {
             --depth;
         } else if (token == QXmlStreamReader::StartElement && xml.name() == QLatin1String("t")) {
-            text += xml.readElementText(QXmlStreamReader::IncludeChildElements);
+            text += XmlSupport::textOf(xml);
         } else if (token == QXmlStreamReader::StartElement) {
             if (xml.name() == QLatin1String("rPh"))
                 xml.skipCurrentElement();

@@ -68,7 +68,7 @@ private:
         const QXmlStreamAttributes values = xml.attributes();
         const QString author = values.value(QLatin1String("author")).toString();
         const qint64 time = values.value(QLatin1String("time")).toString().toLongLong();
-        QString text = xml.readElementText(QXmlStreamReader::IncludeChildElements).trimmed();
+        QString text = XmlSupport::textOf(xml).trimmed();
         text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
         QStringList parts{author, text};
         if (time > 0)
@@ -101,7 +101,7 @@ private:
         m_sheetName.clear();
     }
 
-    QString elementText() { return m_xml.readElementText(QXmlStreamReader::IncludeChildElements); }
+    QString elementText() { return XmlSupport::textOf(m_xml); }
 
     bool readElement()
     {

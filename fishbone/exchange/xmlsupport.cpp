@@ -89,6 +89,20 @@ bool enterRoot(QXmlStreamReader &xml, const QString &root, ImportedTree &tree)
     return finish(xml, tree, QByteArray());
 }
 
+QString textOf(QXmlStreamReader &xml)
+{
+    QString text;
+    int depth = 1;
+    while (depth > 0 && !xml.atEnd()) {
+        const QXmlStreamReader::TokenType token = xml.readNext();
+        depth += token == QXmlStreamReader::StartElement ? 1 : 0;
+        depth -= token == QXmlStreamReader::EndElement ? 1 : 0;
+        if (token == QXmlStreamReader::Characters || token == QXmlStreamReader::EntityReference)
+            text += xml.text();
+    }
+    return text;
+}
+
 bool finish(QXmlStreamReader &xml, ImportedTree &tree, const QByteArray &document)
 {
     while (!xml.atEnd())

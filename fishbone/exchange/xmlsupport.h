@@ -21,6 +21,10 @@ QString storable(const QString &text);
  */
 bool enterRoot(QXmlStreamReader &xml, const QString &root, ImportedTree &tree);
 
+/** The text in the element that @p xml has just entered, up to its end, and in all elements in it,
+ * however deep they nest: Qt's reader recurses for these. */
+QString textOf(QXmlStreamReader &xml);
+
 /** Reads the rest of @p document, which @p xml reads. Whether all of it is well-formed; @p tree
  * fails when not, and names the element that is not closed, if that is it. */
 bool finish(QXmlStreamReader &xml, ImportedTree &tree, const QByteArray &document);

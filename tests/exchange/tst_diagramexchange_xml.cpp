@@ -4,11 +4,24 @@
 #include <tests/exchange/exchangefixture.h>
 #include <tests/program/testprogram.h>
 
+#include <fishbone/exchange/ziparchive.h>
+
 #include <QElapsedTimer>
 #include <QXmlStreamReader>
 #include <QtTest>
 
 using namespace ExchangeFixture;
+
+namespace {
+
+/** @p text in so many elements that a stack would not do for them. */
+QByteArray deepElements(const QByteArray &text)
+{
+    constexpr int count = 100000;
+    return QByteArray("<x>").repeated(count) + text + QByteArray("</x>").repeated(count);
+}
+
+} // namespace
 
 /** The XML formats as other programs write them, and as attackers do. */
 class TestDiagramExchangeXml : public QObject
@@ -30,6 +43,8 @@ private Q_SLOTS:
     void shouldNotExpandEntities();
     void shouldPassOverDeepForeignElements_data();
     void shouldPassOverDeepForeignElements();
+    void shouldReadTextsOfDeepElements_data();
+    void shouldReadTextsOfDeepElements();
     void shouldWriteWellFormedXml_data();
     void shouldWriteWellFormedXml();
     void shouldReplaceHalvesOfCharacters_data();
@@ -261,8 +276,7 @@ void TestDiagramExchangeXml::shouldPassOverDeepForeignElements_data()
 {
     QTest::addColumn<Format>("format");
     QTest::addColumn<QByteArray>("content");
-    const QByteArray deep =
-        QByteArray("<x>").repeated(100000) + QByteArray("</x>").repeated(100000);
+    const QByteArray deep = deepElements(QByteArray());
     QTest::newRow("opml") << Format::Opml
                           << "<opml><head>" + deep + "</head><body><outline text='a'>" + deep +
                                  "</outline></body></opml>";
@@ -277,6 +291,43 @@ void TestDiagramExchangeXml::shouldPassOverDeepForeignElements()
     QFETCH(Format, format);
     QFETCH(QByteArray, content);
     QCOMPARE(imported(content, format).text(), QStringLiteral("a"));
+}
+
+void TestDiagramExchangeXml::shouldReadTextsOfDeepElements_data()
+{
+    QTest::addColumn<Format>("format");
+    QTest::addColumn<QByteArray>("bytes");
+    const QByteArray deep = deepElements("a");
+    const QByteArray map =
+        "<xmap-content><sheet><topic id='t'><title>%1</title></topic></sheet></xmap-content>";
+    const QString content = QStringLiteral("content.xml");
+    QTest::newRow("xmind") << Format::Xmind
+                           << ZipWriter::archive({{content, QByteArray(map).replace("%1", deep)}});
+    QTest::newRow("xmind comments")
+        << Format::Xmind
+        << ZipWriter::archive(
+               {{content, QByteArray(map).replace("%1", "a")},
+                {QStringLiteral("comments.xml"),
+                 "<comments><comment object-id='t'>" + deep + "</comment></comments>"}});
+    QTest::newRow("xlsx")
+        << Format::Xlsx
+        << ZipWriter::archive(
+               {{QStringLiteral("xl/workbook.xml"),
+                 "<workbook xmlns:r='r'><sheets><sheet name='a' r:id='1'/></sheets></workbook>"},
+                {QStringLiteral("xl/_rels/workbook.xml.rels"),
+                 "<Relationships><Relationship Id='1' Target='a.xml'/></Relationships>"},
+                {QStringLiteral("xl/a.xml"),
+                 "<worksheet><sheetData><row r='1'><c r='A1' t='inlineStr'><is><t>Title</t></is>"
+                 "</c></row><row r='2'><c r='A2' t='inlineStr'><is><t>" +
+                     deep + "</t></is></c></row></sheetData></worksheet>"}});
+}
+
+/** However deep elements are in one whose text counts, the stack is not. */
+void TestDiagramExchangeXml::shouldReadTextsOfDeepElements()
+{
+    QFETCH(Format, format);
+    QFETCH(QByteArray, bytes);
+    QCOMPARE(imported(bytes, format).text(), QStringLiteral("a"));
 }
 
 void TestDiagramExchangeXml::shouldWriteWellFormedXml_data()
