@@ -168,12 +168,13 @@ void ClearTextBreaker::splitPiece(const Piece &piece, qreal limit, std::vector<P
     }
 }
 
-/** How many lines of @p width the text takes; counts no further than one beyond @p atMost. */
-int ClearTextBreaker::countLines(qreal width, int atMost) const
+/** How many lines of @p width the text takes from piece @p first on; counts no further than one
+ * beyond @p atMost. */
+int ClearTextBreaker::countLines(qreal width, int atMost, std::size_t first) const
 {
     int lines = 1;
     qreal used = -1; // nothing on the line yet
-    for (std::size_t i = 0; i < m_pieces.size(); ++i) {
+    for (std::size_t i = first; i < m_pieces.size(); ++i) {
         const Piece &piece = m_pieces[i];
         if (used >= 0 && used + piece.width > width) {
             if (++lines > atMost)
@@ -213,6 +214,35 @@ ClearText::Line ClearTextBreaker::lineOf(int start, int end) const
     return line;
 }
 
+/** Whether a line that ends with @p piece parts what may well be one word: nothing but characters
+ * that need no space says where one ends. */
+bool ClearTextBreaker::isPartedAfter(std::size_t piece) const
+{
+    if (piece + 1 >= m_pieces.size() || m_pieces[piece].endsLine || m_pieces[piece].space > 0)
+        return false;
+    const QChar before = m_title.at(m_pieces[piece].end - 1);
+    const QChar after = m_title.at(m_pieces[piece + 1].start);
+    return isIdeographic(before) && !before.isPunct() && isIdeographic(after);
+}
+
+/** With which piece a line ends that could take those from @p first to @p last: an earlier one when
+ * that parts nothing, leaves no short line and @p linesLeft lines for the rest do. */
+std::size_t ClearTextBreaker::betterLast(std::size_t first, std::size_t last, qreal width,
+                                         int linesLeft) const
+{
+    if (!isPartedAfter(last))
+        return last;
+    std::size_t end = last;
+    while (end > first && isPartedAfter(end))
+        --end;
+    qreal used = 0;
+    for (std::size_t i = first; i <= end; ++i)
+        used += m_pieces[i].width + m_pieces[i].space;
+    const bool isBetter = !isPartedAfter(end) && used >= width / 2 &&
+                          countLines(width, linesLeft, end + 1) <= linesLeft;
+    return isBetter ? end : last;
+}
+
 std::vector<ClearText::Line> ClearTextBreaker::linesWithin(qreal width, int atMost, bool &isCut)
 {
     std::vector<ClearText::Line> lines;
@@ -233,6 +263,7 @@ std::vector<ClearText::Line> ClearTextBreaker::linesWithin(qreal width, int atMo
             lines.push_back(cutLine(m_pieces[first].start, m_pieces[last].end, width));
             break;
         }
+        last = betterLast(first, last, width, atMost - int(lines.size()) - 1);
         lines.push_back(lineOf(m_pieces[first].start, m_pieces[last].end));
         first = last + 1;
     }
@@ -275,6 +306,6 @@ std::shared_ptr<const ClearText> ClearTextBreaker::broken(const ClearWrap &wrap)
     if (lines <= allowed)
         width = narrowest(std::max(width, longestWord), lines);
     bool isCut = false;
-    std::vector<ClearText::Line> result = linesWithin(width, allowed, isCut);
+    std::vector<ClearText::Line> result = linesWithin(width, std::min(lines, allowed), isCut);
     return std::make_shared<ClearText>(m_font, std::move(result), m_title.isRightToLeft(), isCut);
 }

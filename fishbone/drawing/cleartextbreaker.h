@@ -10,7 +10,7 @@
 
 /**
  * Breaks one title into lines: between words, between the characters of Chinese, Japanese and
- * Korean text, and inside a word only when it is wider than a line.
+ * Korean text, there rather behind a comma, and inside a word only when it is wider than a line.
  */
 class ClearTextBreaker
 {
@@ -39,7 +39,9 @@ private:
     qreal widthOf(int start, int end);
 
     int ownLines() const;
-    int countLines(qreal width, int atMost) const;
+    int countLines(qreal width, int atMost, std::size_t first = 0) const;
+    bool isPartedAfter(std::size_t piece) const;
+    std::size_t betterLast(std::size_t first, std::size_t last, qreal width, int linesLeft) const;
     qreal narrowest(qreal widest, int lines) const;
     std::vector<ClearText::Line> linesWithin(qreal width, int atMost, bool &isCut);
     ClearText::Line lineOf(int start, int end) const;

@@ -8,6 +8,7 @@
 
 #include <fishbone/drawing/clearpainter.h>
 #include <fishbone/drawing/clearspear.h>
+#include <fishbone/drawing/cleartextbreaker.h>
 #include <fishbone/editor/graphicsview.h>
 #include <fishbone/items/spearlook.h>
 #include <fishbone/items/taskstatusinfo.h>
@@ -28,6 +29,8 @@ private Q_SLOTS:
     void shouldReadFromRightToLeft();
     void shouldBreakTitlesOfAnyScript_data();
     void shouldBreakTitlesOfAnyScript();
+    void shouldBreakBehindACommaOfChinese_data();
+    void shouldBreakBehindACommaOfChinese();
     void shouldKeepTheLinesOfATitle();
     void shouldCutNoTitleOnAPage_data();
     void shouldCutNoTitleOnAPage();
@@ -143,6 +146,40 @@ void TestClearLookReading::shouldBreakTitlesOfAnyScript()
     for (const ClearText::Line &line : text.lines())
         lines << line.text;
     QCOMPARE(lines.join(keepsWords ? QStringLiteral(" ") : QString()), title);
+}
+
+void TestClearLookReading::shouldBreakBehindACommaOfChinese_data()
+{
+    QTest::addColumn<QString>("title");
+    QTest::addColumn<QStringList>("expected");
+    const auto row = [](const char *name, const char *title, const QStringList &expected) {
+        QTest::newRow(name) << QString::fromUtf8(title) << expected;
+    };
+    row("the rest fits", "顾客等待时间过长，投诉率上升",
+        {QStringLiteral("顾客等待时"), QStringLiteral("间过长，"), QStringLiteral("投诉率上升")});
+    row("the rest needs another line", "缺货，供应商交付延期三周半以上",
+        {QStringLiteral("缺货，供应"), QStringLiteral("商交付延期"), QStringLiteral("三周半以上")});
+    row("without one", "顾客等待时间过长投诉率上升",
+        {QStringLiteral("顾客等待时"), QStringLiteral("间过长投诉"), QStringLiteral("率上升")});
+}
+
+void TestClearLookReading::shouldBreakBehindACommaOfChinese()
+{
+    QFETCH(QString, title);
+    QFETCH(QStringList, expected);
+    const ClearFont font(QFont(QStringLiteral("Noto Sans CJK SC")), 20);
+    QHash<QString, qreal> widths;
+    ClearWrap wrap;
+    wrap.limit = 5.2 * 20; // five characters
+    wrap.lines = 3;
+
+    const auto text = ClearTextBreaker(title, font, widths).broken(wrap);
+
+    QStringList lines;
+    for (const ClearText::Line &line : text->lines())
+        lines << line.text;
+    QCOMPARE(lines, expected);
+    QVERIFY(!text->isCut());
 }
 
 void TestClearLookReading::shouldKeepTheLinesOfATitle()
