@@ -98,6 +98,9 @@ ROWS = [
      at_most(50)),
 ]
 
+# The one row that is measured at a size of its own, for each shape.
+WAIT, WAIT_SIZE, WAIT_LIMIT = "G19b longest wait for a title", 2000, 3
+
 
 def read(names):
     """The counters of every run, by name, shape and size, and where and when they were taken."""
@@ -130,6 +133,15 @@ def listed(values):
     return " ".join(shown) if any(value is not None for value in values) else ""
 
 
+def waits(runs):
+    """The line of the longest waits, and whether the limit is kept for each shape that was run."""
+    ratios = [runs.get((WAIT, shape, WAIT_SIZE), {}).get("ratio") for shape in SHAPES]
+    known = [ratio for ratio in ratios if ratio is not None]
+    met = bool(known) and max(known) <= WAIT_LIMIT
+    line = "| G19 | longest wait for a title among %s / in the classic look: fan wide wide2 | %s | | | %.1f | %s | | |"
+    return line % (format(WAIT_SIZE, ","), listed(ratios) or "–", WAIT_LIMIT, "pass" if met else "**FAIL**"), met
+
+
 def table(runs):
     """The lines of the table, and whether each limit is kept."""
     lines = ["| Gate | What | 1k | 10k | 100k | At most | | Growth: fan wide wide2 | of the bare |",
@@ -148,6 +160,9 @@ def table(runs):
             [gate, what] + cells + [limit, "pass" if met else "**FAIL**",
                                     listed(exponents(runs, name, "ours_ms")),
                                     listed(exponents(runs, name, "bare_ms"))]))
+    line, met = waits(runs)
+    lines.append(line)
+    all_met &= met
     worst = max(((value, name, shape) for name in sorted({row[1] for row in ROWS})
                  for shape, value in zip(SHAPES, exponents(runs, name, "ours_ms")) if value is not None))
     met = worst[0] <= GROWTH_LIMIT
