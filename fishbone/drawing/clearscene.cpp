@@ -8,6 +8,7 @@
 #include <fishbone/drawing/clearspear.h>
 #include <fishbone/drawing/screenonly.h>
 #include <fishbone/items/spearitem.h>
+#include <fishbone/items/spearpasses.h>
 #include <fishbone/items/taskstatusitem.h>
 #include <fishbone/items/textitem.h>
 
@@ -35,7 +36,8 @@ const SpearItem *onlyHeader(const QGraphicsScene &scene)
 /** Whether what @p child shows of @p spear is told by the place that its look gave it. */
 bool isKnown(const QGraphicsItem *child, const SpearItem &spear)
 {
-    if (child == spear.textItem() || child == spear.statusItem() || isForTheScreenOnly(*child))
+    if (child == spear.textItem() || child == SpearPasses::madeStatus(spear) ||
+        isForTheScreenOnly(*child))
         return true;
     if (child == spear.expandBuddy())
         return !spear.look().badge(spear).isNull();
@@ -104,7 +106,7 @@ QStringList ClearScene::icons() const
 {
     QStringList files;
     for (const Part &part : m_spears)
-        files << fileOf(part.spear->statusItem()) << fileOf(part.spear->linkItem());
+        files << fileOf(SpearPasses::madeStatus(*part.spear)) << fileOf(part.spear->linkItem());
     for (const ClearMeaning &symbol : ClearSpear::of(*m_spears.front().spear)->frame->symbols)
         files << symbol.icon;
     return files;
@@ -121,7 +123,8 @@ bool ClearScene::describe(PictureSink &sink) const
         sink.beginSubject(index, ClearContent::about(spear->treeItem(), parent, level));
         m_look->describe(sink, *spear);
         const ClearLayout::Bone &bone = ClearSpear::of(*spear)->bone;
-        const QString status = bone.status.isNull() ? QString() : fileOf(spear->statusItem());
+        const QString status =
+            bone.status.isNull() ? QString() : fileOf(SpearPasses::madeStatus(*spear));
         const QString link = bone.link.isNull() ? QString() : fileOf(spear->linkItem());
         if (!status.isEmpty())
             sink.icon(bone.status, status);

@@ -103,12 +103,13 @@ void FishLayout::placeSpears()
 int FishLayout::itemCount() const
 {
     const std::vector<SpearTree::Entry> &entries = m_tree.entries();
-    return std::accumulate(
-        entries.cbegin(), entries.cend(), 0, [](int count, const SpearTree::Entry &entry) {
-            const SpearItem &spear = *entry.spear;
-            const int always = 3; // the spear, its text and its status
-            return count + always + (spear.linkItem() ? 1 : 0) + (spear.expandBuddy() ? 1 : 0);
-        });
+    return std::accumulate(entries.cbegin(), entries.cend(), 0,
+                           [](int count, const SpearTree::Entry &entry) {
+                               const SpearItem &spear = *entry.spear;
+                               const int always = 2; // the spear and its text
+                               return count + always + (SpearPasses::madeStatus(spear) ? 1 : 0) +
+                                      (spear.linkItem() ? 1 : 0) + (spear.expandBuddy() ? 1 : 0);
+                           });
 }
 
 void FishLayout::expandBones(bool expand)

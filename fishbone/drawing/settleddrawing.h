@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <optional>
 #include <vector>
 
 #include <QLineF>
@@ -32,6 +33,7 @@ private:
         bool holds(const QGraphicsItem *item) const;
     };
 
+    static std::optional<QPointF> placeOf(const QGraphicsItem *item);
     static Part partOf(const QGraphicsItem *item);
 
     const SpearItem *m_spear; ///< only compared
@@ -43,7 +45,7 @@ private:
     QLineF m_line;
     QPointF m_textPosition;
     double m_textRotation;
-    QPointF m_statusPosition;
+    std::optional<QPointF> m_status; ///< where it was made
     Part m_link;
     Part m_button;
 };

@@ -25,7 +25,29 @@ SpearCompanions::SpearCompanions(SpearItem &spear)
 void SpearCompanions::make()
 {
     m_text = std::make_unique<TextItem>(QString(), &m_spear).release();
+}
+
+TaskStatusItem *SpearCompanions::status()
+{
+    if (!m_status)
+        makeStatus();
+    return m_status;
+}
+
+void SpearCompanions::makeStatus()
+{
     m_status = std::make_unique<TaskStatusItem>(&m_spear, tsUnknown, 0).release();
+    m_status->setTask(m_taskStatus, m_taskProgress);
+    // Right above the text, whatever came meanwhile, since that is how a drawing made anew has it.
+    if (m_text && m_spear.childItems().size() > 2) {
+        m_status->stackBefore(m_text);
+        m_text->stackBefore(m_status);
+    }
+    if (!m_isPlaced)
+        return;
+    if (m_spear.look().scalesIcons())
+        scaleIcon(m_status);
+    placeStatus();
 }
 
 void SpearCompanions::replace(QGraphicsItem *&companion, QGraphicsItem *item)
@@ -67,14 +89,25 @@ void SpearCompanions::setStatus(int status)
     if (!subject)
         return;
     subject->setStatus(status);
-    m_status->setStatus(static_cast<TaskStatus>(status));
+    this->status()->setStatus(static_cast<TaskStatus>(status));
     m_spear.updatePosition(QPointF(0, 0));
 }
 
 void SpearCompanions::updateStatus()
 {
-    if (const TreeItem *const subject = m_spear.treeItem())
-        m_status->setTask(subject->status(), subject->progress());
+    const TreeItem *const subject = m_spear.treeItem();
+    if (!subject)
+        return;
+    const int number = subject->status();
+    const int progress = subject->progress();
+    if (m_status) {
+        m_status->setTask(number, progress);
+    } else if (number != m_taskStatus || progress != m_taskProgress) {
+        m_taskStatus = number;
+        m_taskProgress = progress;
+        if (!TaskStatusInfo(static_cast<TaskStatus>(number), progress).iconPath().isEmpty())
+            makeStatus();
+    }
 }
 
 void SpearCompanions::updateLink()
@@ -112,6 +145,7 @@ void SpearCompanions::showButton()
 
 void SpearCompanions::place()
 {
+    m_isPlaced = true;
     placeText();
     if (m_spear.look().scalesIcons())
         scaleIcons();
@@ -135,6 +169,8 @@ void SpearCompanions::placeText()
 
 void SpearCompanions::placeStatus()
 {
+    if (!m_status)
+        return;
     if (!m_spear.look().showsStatus(m_spear)) {
         m_hasHiddenStatus = m_hasHiddenStatus || m_status->isVisible();
         m_status->setVisible(false);
@@ -156,12 +192,18 @@ void SpearCompanions::turnText()
 
 void SpearCompanions::scaleIcons()
 {
-    for (QGraphicsItem *const icon : {static_cast<QGraphicsItem *>(m_status), m_link}) {
-        // Compared first: the scale that is there already would schedule a repaint.
-        const double scale = icon ? m_spear.look().iconScale(*icon) : 1;
-        if (icon && icon->scale() != scale)
-            icon->setScale(scale);
-    }
+    if (m_status)
+        scaleIcon(m_status);
+    if (m_link)
+        scaleIcon(m_link);
+}
+
+void SpearCompanions::scaleIcon(QGraphicsItem *icon)
+{
+    // Compared first: the scale that is there already would schedule a repaint.
+    const double scale = m_spear.look().iconScale(*icon);
+    if (icon->scale() != scale)
+        icon->setScale(scale);
 }
 
 void SpearCompanions::boxesChange()
@@ -182,7 +224,8 @@ void SpearCompanions::prefetchAll() const
 void SpearCompanions::prefetchInsides() const
 {
     m_text->prefetchInsides();
-    m_status->prefetchInsides();
+    if (m_status)
+        m_status->prefetchInsides();
     if (const auto *const link = qgraphicsitem_cast<LinkItem *>(m_link))
         link->prefetchInsides();
     if (const auto *const button = qgraphicsitem_cast<ExpandItem *>(m_button))
@@ -192,7 +235,8 @@ void SpearCompanions::prefetchInsides() const
 void SpearCompanions::prefetchListeners() const
 {
     m_text->prefetchListeners();
-    m_status->prefetchListeners();
+    if (m_status)
+        m_status->prefetchListeners();
     if (const auto *const link = qgraphicsitem_cast<LinkItem *>(m_link))
         link->prefetchListeners();
     if (const auto *const button = qgraphicsitem_cast<ExpandItem *>(m_button))

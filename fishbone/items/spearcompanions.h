@@ -5,6 +5,8 @@
 
 #include <QString>
 
+#include <fishbone/items/taskstatusinfo.h>
+
 class QGraphicsItem;
 class SpearItem;
 class TaskStatusItem;
@@ -12,7 +14,8 @@ class TextItem;
 
 /**
  * What stands at a spear: text box, status icon, link icon and expand button. They are made here
- * and nowhere else, but for links and buttons that a host gives the spear.
+ * and nowhere else, but for links and buttons that a host gives the spear. What would show nothing
+ * is not made: most subjects have no status, and an icon takes as much as a sixth of a bone.
  */
 class SpearCompanions
 {
@@ -20,12 +23,14 @@ public:
     /** Those of @p spear, which has none before make(). */
     explicit SpearCompanions(SpearItem &spear);
 
-    /** Makes those that every spear has: text box and status icon. */
+    /** Makes the one that every spear has: the text box. */
     void make();
     /** The text box. */
     TextItem *text() const { return m_text; }
-    /** The status icon. */
-    TaskStatusItem *status() const { return m_status; }
+    /** The status icon; made when there is none yet, as it would stand by now. */
+    TaskStatusItem *status();
+    /** The status icon, null as long as it has shown nothing and nobody has asked for it. */
+    TaskStatusItem *madeStatus() const { return m_status; }
     /** The link icon, null for none. */
     QGraphicsItem *link() const { return m_link; }
     /** The expand button, null for none. */
@@ -73,14 +78,19 @@ private:
     Q_DISABLE_COPY(SpearCompanions)
 
     void replace(QGraphicsItem *&companion, QGraphicsItem *item);
+    void makeStatus();
     void placeText();
     void placeStatus();
+    void scaleIcon(QGraphicsItem *icon);
 
     SpearItem &m_spear;
     TextItem *m_text = nullptr;
     QGraphicsItem *m_link = nullptr;
     QGraphicsItem *m_button = nullptr;
     TaskStatusItem *m_status = nullptr;
+    int m_taskStatus = tsUnknown;   ///< of an icon that is not made
+    int m_taskProgress = 0;         ///< of it as well
+    bool m_isPlaced = false;        ///< at least once
     bool m_hasHiddenStatus = false; ///< as every header does
     bool m_isButtonHidden = false;  ///< by the look
 };

@@ -25,8 +25,9 @@ class TreeItem;
  *
  * The item's line is the bone, in the coordinates that the whole drawing shares (every spear
  * stands at position (0, 0)). Child spears are child items, in the row order of their subjects, so
- * that a subtree moves and dies with its root. The text box and the status icon are made with the
- * spear; the link icon and the expand button are given to it and become its child items as well.
+ * that a subtree moves and dies with its root. The text box is made with the spear, the status icon
+ * when it has something to show or is asked for; the link icon and the expand button are given to
+ * it and become its child items as well.
  *
  * A spear shows one subject (TreeItem) and a subject knows one spear. The link is cleared from
  * both ends: whichever dies first leaves nothing dangling. A spear without a subject draws with
@@ -230,7 +231,7 @@ public:
 
     /** The text box; a child item. */
     TextItem *textItem() const;
-    /** The status icon; a child item. */
+    /** The status icon; a child item, which is made when nothing has needed it before. */
     TaskStatusItem *statusItem() const;
     /** The link icon; a child item, null for none. */
     QGraphicsItem *linkItem() const;

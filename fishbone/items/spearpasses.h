@@ -26,6 +26,11 @@ public:
         SpearParts::of(spear).companions.updateStatus();
         SpearParts::of(spear).companions.updateLink();
     }
+    /** The status icon of @p spear, null as long as it has shown nothing. */
+    static const TaskStatusItem *madeStatus(const SpearItem &spear)
+    {
+        return SpearParts::of(spear).companions.madeStatus();
+    }
     /** Forgets offset and child sizes. */
     static void begin(SpearItem &spear) { SpearParts::of(spear).place.begin(); }
     /** Sets the line from that of @p parent, which is null for the head, and places companions. */

@@ -59,7 +59,10 @@ void TestFishEditorLayout::shouldPlaceAHeadWithoutBones()
     QCOMPARE(head->pos(), QPointF(0, 0));
     QCOMPARE(head->childSpears().size(), 0);
     QVERIFY(!head->expandBuddy());
-    // The head with its text and its (hidden) status icon, nothing else.
+    // The head with its text, nothing else: a status icon would be hidden, and is not made before
+    // somebody asks for it.
+    QCOMPARE(fish.editor.scene()->items().size(), 2);
+    QVERIFY(!head->statusItem()->isVisible());
     QCOMPARE(fish.editor.scene()->items().size(), 3);
 }
 

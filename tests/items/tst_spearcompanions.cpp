@@ -11,6 +11,7 @@
 #include <fishbone/items/linkitem.h>
 #include <fishbone/items/taskstatusitem.h>
 #include <fishbone/items/textitem.h>
+#include <fishbone/model/treeitem.h>
 #include <tests/program/testprogram.h>
 #include <tests/support/drawing.h>
 
@@ -23,6 +24,9 @@ class TestSpearCompanions : public QObject
 
 private Q_SLOTS:
     void shouldMakeTextAndStatus();
+    void shouldMakeNoStatusThatShowsNothing();
+    void shouldMakeTheStatusAsIfItHadAlwaysBeenThere();
+    void shouldShowTheSameWhetherOrNotTheStatusWasMade();
     void shouldKeepTheStatusInLineWithTheSubject();
     void shouldKeepTheLinkInLineWithTheSubject();
     void shouldMakeTheButtonOnce();
@@ -34,6 +38,7 @@ private Q_SLOTS:
 
 namespace {
 const QString boneTitle = QStringLiteral("Man");
+const QString machineTitle = QStringLiteral("Machine");
 const QString bonedFish = QStringLiteral("Effect[Man[Training],Machine]");
 
 SpearCompanions &companionsOf(const SpearItem &spear)
@@ -47,12 +52,74 @@ void TestSpearCompanions::shouldMakeTextAndStatus()
     SpearItem spear(boneTitle, 1, 20);
     SpearCompanions companions(spear);
     QCOMPARE(companions.text(), nullptr);
-    QCOMPARE(companions.status(), nullptr);
+    QCOMPARE(companions.madeStatus(), nullptr);
     companions.make();
     QCOMPARE(companions.text()->parentItem(), &spear);
+    QCOMPARE(companions.madeStatus(), nullptr);
     QCOMPARE(companions.status()->parentItem(), &spear);
     QCOMPARE(companions.link(), nullptr);
     QCOMPARE(companions.button(), nullptr);
+}
+
+void TestSpearCompanions::shouldMakeNoStatusThatShowsNothing()
+{
+    const Drawing drawing(bonedFish);
+    const SpearItem &spear = *drawing.spear(boneTitle);
+    SpearCompanions &companions = companionsOf(spear);
+    for (const int nothing : {TreeItem::none, int(tsUnknown), 4711}) {
+        drawing.node(boneTitle)->setStatus(nothing);
+        companions.updateStatus();
+        companions.place();
+        QCOMPARE(companions.madeStatus(), nullptr);
+    }
+    QCOMPARE(int(spear.statusItem()->status()), 4711);
+    drawing.node(machineTitle)->setStatus(tsRunning);
+    drawing.spear(machineTitle)->updateTaskStatus();
+    QVERIFY(companionsOf(*drawing.spear(machineTitle)).madeStatus());
+    QVERIFY(companionsOf(*drawing.spear(machineTitle)).madeStatus()->showsPicture());
+}
+
+void TestSpearCompanions::shouldMakeTheStatusAsIfItHadAlwaysBeenThere()
+{
+    const Drawing early(bonedFish);
+    const Drawing late(bonedFish);
+    early.spear(boneTitle)->statusItem();
+    for (const Drawing *drawing : {&early, &late}) {
+        SpearItem &spear = *drawing->spear(boneTitle);
+        companionsOf(spear).showLink(QStringLiteral("https://example.org"));
+        companionsOf(spear).place();
+        companionsOf(*drawing->spear(QStringLiteral("Effect"))).place();
+    }
+    const auto typesOf = [](const SpearItem &spear) {
+        QList<int> types;
+        for (const QGraphicsItem *item : spear.childItems())
+            types.append(item->type());
+        return types;
+    };
+    for (const QString &title : {boneTitle, QStringLiteral("Effect")}) {
+        const TaskStatusItem &made = *early.spear(title)->statusItem();
+        const TaskStatusItem &fresh = *late.spear(title)->statusItem();
+        QCOMPARE(fresh.pos(), made.pos());
+        QCOMPARE(fresh.scale(), made.scale());
+        QCOMPARE(fresh.isVisible(), made.isVisible());
+    }
+    const SpearItem &spear = *late.spear(boneTitle);
+    QCOMPARE(typesOf(spear), typesOf(*early.spear(boneTitle)));
+    QCOMPARE(spear.childItems().at(0), spear.textItem());
+    QCOMPARE(spear.childItems().at(1), spear.statusItem());
+    QVERIFY(!late.spear(QStringLiteral("Effect"))->statusItem()->isVisible());
+}
+
+void TestSpearCompanions::shouldShowTheSameWhetherOrNotTheStatusWasMade()
+{
+    const Drawing drawing(bonedFish);
+    SpearItem &spear = *drawing.spear(boneTitle);
+    SpearCompanions &companions = companionsOf(spear);
+    companions.place();
+    const QRectF before = spear.childrenBoundingRect();
+    QVERIFY(companions.status()->boundingRect().isEmpty());
+    QCOMPARE(spear.childrenBoundingRect(), before);
+    QCOMPARE(companions.status()->pos(), spear.TaskStateItemPosition());
 }
 
 void TestSpearCompanions::shouldKeepTheStatusInLineWithTheSubject()
