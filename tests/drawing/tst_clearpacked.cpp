@@ -10,6 +10,7 @@
 #include <tests/program/testprogram.h>
 
 #include <algorithm>
+#include <cmath>
 
 /** That categories which are not packed again stand as if they were. */
 class TestClearPacked : public QObject
@@ -20,6 +21,8 @@ private Q_SLOTS:
     void shouldStandAsIfPackedAnew_data();
     void shouldStandAsIfPackedAnew();
     void shouldPackOnlyWhatChanges();
+    void shouldPlaceAgainInProportionToItsSize_data();
+    void shouldPlaceAgainInProportionToItsSize();
 };
 
 namespace {
@@ -122,6 +125,41 @@ void TestClearPacked::shouldPackOnlyWhatChanges()
     const quint64 one = ClearLayout(ClearTree(subjects), fonts(), {}, cache, {}, packed).work();
     QVERIFY2(none < all && none < one && one < all,
              qPrintable(QStringLiteral("%1 %2 %3").arg(all).arg(one).arg(none)));
+}
+
+void TestClearPacked::shouldPlaceAgainInProportionToItsSize_data()
+{
+    QTest::addColumn<int>("subjectsACategory");
+    QTest::addColumn<int>("depth");
+    QTest::newRow("all below the head") << 1 << 1;
+    QTest::newRow("half of them below the head") << 2 << 2;
+    QTest::newRow("few below the head") << 200 << 5;
+}
+
+/** What an edit of the first category does, which moves all others. */
+void TestClearPacked::shouldPlaceAgainInProportionToItsSize()
+{
+    QFETCH(int, subjectsACategory);
+    QFETCH(int, depth);
+    ClearTextCache cache;
+    const auto workFor = [&](int count) {
+        ClearTrees::Kind kind;
+        kind.subjects = count + 1;
+        kind.categories = count / subjectsACategory;
+        kind.depth = depth;
+        kind.hasOddities = false;
+        Subjects subjects = ClearTrees::random(4, kind);
+        std::vector<ClearPacked> packed;
+        const ClearLayout before(ClearTree(subjects), fonts(), {}, cache, {}, packed);
+        subjects[1].title += QStringLiteral(" and much more");
+        const ClearLayout after(ClearTree(subjects), fonts(), {}, cache, {}, packed);
+        return qreal(after.work());
+    };
+    constexpr int few = 1000;
+    constexpr int many = 10000;
+    const qreal exponent = std::log10(workFor(many) / workFor(few));
+    qInfo("exponent %.2f", exponent);
+    QVERIFY2(exponent <= 1.2, qPrintable(QString::number(exponent)));
 }
 
 FISHBONE_TEST(TestClearPacked)
