@@ -15,7 +15,7 @@ from html import escape
 SIZES = (1000, 10000, 100000)
 GATED = SIZES[:2]
 SHAPES = ("fan", "wide", "wide2")
-GROWTH_LIMIT = 1.2
+GROWTH_LIMIT = 0.1  # beyond that of the bare counterpart, which meets the caches of the machine as we do
 PAGE = "docs/performance.md"
 PLOTS = "docs/pictures/performance.svg"
 BEGIN, END = "<!-- table: written by scripts/benchmark -->\n", "<!-- end of the table -->\n"
@@ -56,8 +56,8 @@ ROWS = [
     ("G3", "G3 expandAll", "show and expand everything / bare build", ratio, "%.2f", "0.6", at_most(0.6)),
     ("G4", "G4 setRootIndex", "show contracted, beyond one walk over the nodes", beyond_walk, "%.2f ms",
      "5 ms", at_most(5)),
-    ("G5", "G5 relayout, all moved", "relayout, all moved / placing bare items", ratio, "%.2f", "2.0",
-     at_most(2.0)),
+    ("G5", "G5 relayout, all moved", "relayout, all moved / placing bare items", ratio, "%.2f", "1.2",
+     at_most(1.2)),
     ("G6", "G6 relayout, nothing changed", "relayout, nothing changed / the same", ratio, "%.2f", "0.5",
      at_most(0.5)),
     ("G7", "G7 paints", "repaints after that relayout", counter("relayout"), "%d", "0", exactly(0)),
@@ -78,8 +78,8 @@ ROWS = [
     ("G11", "G11d move command", "move command / the same", ratio, "%.2f", "1.5", at_most(1.5)),
     ("G12", "G12 undo or redo", "undo or redo, all expanded / clear and bare build", ratio, "%.2f", "0.6",
      at_most(0.6)),
-    ("G13", "G13 filter change", "filter change / Qt's recursive filter", ratio, "%.2f", "1.3",
-     at_most(1.3)),
+    ("G13", "G13 filter change", "filter change / Qt's recursive filter", ratio, "%.2f", "1.1",
+     at_most(1.1)),
     ("G14", "G14a loaded node", "memory of a loaded node / plain struct", ratio, "%.2f", "1.3",
      at_most(1.3)),
     ("G14", "G14b expanded bone", "memory of an expanded bone / bare items", ratio, "%.2f", "0.35",
@@ -89,13 +89,16 @@ ROWS = [
     ("G15", "G15 teardown", "teardown / bare clear()", ratio, "%.2f", "1.0", at_most(1.0)),
     ("G16", "G16 parses", "picture files parsed / shown", ratio, "%.2f", "1", at_most(1)),
     ("G17", "G17 export", "picture of the program, times as fast as dot", times_faster, "%.1fx",
-     "5x, 10x faster", lambda value, size: value >= (5 if size == 1000 else 10)),
+     "8x, 14x faster", lambda value, size: value >= (8 if size == 1000 else 14)),
     ("G19", "G19a clear look, all moved", "relayout of the clear look, all moved / of the classic one", ratio,
      "%.2f", "3.0 at 10,000", lambda value, size: size < 10000 or value <= 3),
     ("G19", "G19b clear look, a title", "another title in the clear look / in the classic one", ratio, "%.2f",
      "3.0 at 10,000", lambda value, size: size < 10000 or value <= 3),
     ("G19", "G19c best arrangement", "best arrangement for a slide / a relayout", ratio, "%.1f", "50",
      at_most(50)),
+    ("G20", "G20 start", "start until a document is drawn / a bare window with an empty view", ratio, "%.1f", "1.5",
+     at_most(1.5)),
+    ("G20", "G20 start", "memory of its own then / the same", counter("memory"), "%.1f", "1.5", at_most(1.5)),
 ]
 
 # The one row that is measured at a size of its own, for each shape.
@@ -126,6 +129,17 @@ def growth(runs, name, shape, whose):
 
 def exponents(runs, name, whose):
     return [growth(runs, name, shape, whose) for shape in SHAPES]
+
+
+def most_excess(runs):
+    """How far a time of ours grows faster than its bare counterpart at most, and where. What has no counterpart
+    of both sizes, or one that is ours in another look, is left out."""
+    found = []
+    for name in sorted({row[1] for row in ROWS if row[0] != "G19"}):
+        for shape, ours, bare in zip(SHAPES, exponents(runs, name, "ours_ms"), exponents(runs, name, "bare_ms")):
+            if ours is not None and bare is not None:
+                found.append((ours - bare, name, shape, ours))
+    return max(found)
 
 
 def listed(values):
@@ -163,12 +177,13 @@ def table(runs):
     line, met = waits(runs)
     lines.append(line)
     all_met &= met
-    worst = max(((value, name, shape) for name in sorted({row[1] for row in ROWS})
-                 for shape, value in zip(SHAPES, exponents(runs, name, "ours_ms")) if value is not None))
-    met = worst[0] <= GROWTH_LIMIT
+    excess, name, shape, value = most_excess(runs)
+    met = excess <= GROWTH_LIMIT
     all_met &= met
-    lines.append("| G18 | largest growth exponent: %s, %s | | %.2f | | %.1f | %s | | |" % (
-        worst[1].split(" ", 1)[1], worst[2], worst[0], GROWTH_LIMIT, "pass" if met else "**FAIL**"))
+    what = "largest growth beyond that of the bare: %s, %s, %.2f instead of %.2f" % (
+        name.split(" ", 1)[1], shape, value, value - excess)
+    lines.append("| G18 | %s | | %.2f | | %.1f | %s | | |" % (
+        what, excess, GROWTH_LIMIT, "pass" if met else "**FAIL**"))
     return lines, all_met
 
 
