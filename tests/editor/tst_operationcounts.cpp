@@ -36,6 +36,7 @@ private Q_SLOTS:
     void shouldAskTheModelLinearlyOften();
     void shouldAskTheModelForWhatIsShownOnly();
     void shouldMakeOneSpearASubject();
+    void shouldMakeTheMainBonesAloneForUndoAndRedo();
     void shouldNotRepaintWhatStaysTheSame();
     void shouldPaintOnceForOneUpdate();
     void shouldParseNoPictureForMoreSubjects();
@@ -215,6 +216,25 @@ void TestOperationCounts::shouldMakeOneSpearASubject()
         // Bone, text, status, link and button at most.
         QVERIFY(fish.editor.scene()->items().size() <= 5 * subjects);
         fish.editor.updateFish(false);
+        QCOMPARE(SpearItem::m_refCount, subjects);
+    }
+}
+
+void TestOperationCounts::shouldMakeTheMainBonesAloneForUndoAndRedo()
+{
+    for (const int nodes : {small, large}) {
+        LargeFish fish(makeBushy(nodes));
+        fish.editor.expandAll();
+        fish.editor.scene()->clearSelection();
+        lastNode(fish.head)->spear()->setSelected(true);
+        fish.editor.appendSubject();
+        const int subjects = 1 + subjectsBelow(fish.head);
+        QCOMPARE(SpearItem::m_refCount, subjects);
+        fish.editor.undo();
+        QCOMPARE(SpearItem::m_refCount, 1 + fish.head->childCount());
+        fish.editor.redo();
+        QCOMPARE(SpearItem::m_refCount, 1 + fish.head->childCount());
+        fish.editor.expandAll();
         QCOMPARE(SpearItem::m_refCount, subjects);
     }
 }
