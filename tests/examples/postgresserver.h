@@ -6,6 +6,7 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QProcess>
+#include <QTcpServer>
 #include <QTemporaryDir>
 
 #include <csignal>
@@ -15,7 +16,8 @@
 
 /**
  * A PostgreSQL server of its own for one test program: new files in a folder for temporary ones, a
- * socket there and no port, so that it meets no other server. It ends with the process.
+ * socket there and a port that was free, so that it meets no other server. It ends with the
+ * process.
  */
 class PostgresServer
 {
@@ -27,6 +29,9 @@ public:
     PostgresServer()
         : m_folder(QDir::tempPath() + QStringLiteral("/postgres-XXXXXX"))
     {
+        QTcpServer probe;
+        if (probe.listen(QHostAddress::LocalHost))
+            m_port = QString::number(probe.serverPort());
     }
     ~PostgresServer() { stop(SIGQUIT); }
 
@@ -54,14 +59,15 @@ public:
         m_server.setStandardErrorFile(m_folder.filePath(QStringLiteral("log")), QIODevice::Append);
         startAsUser(m_server, QStringLiteral("postgres"),
                     {QStringLiteral("-D"), data(), QStringLiteral("-k"), m_folder.path(),
-                     QStringLiteral("-c"), QStringLiteral("listen_addresses="),
-                     QStringLiteral("-c"), QStringLiteral("fsync=off")});
+                     QStringLiteral("-c"), QStringLiteral("listen_addresses=127.0.0.1"),
+                     QStringLiteral("-p"), m_port, QStringLiteral("-c"),
+                     QStringLiteral("fsync=off")});
         QElapsedTimer timer;
         timer.start();
         while (timer.elapsed() < timeLimit && m_server.state() != QProcess::NotRunning) {
-            if (QProcess::execute(
-                    program(QStringLiteral("pg_isready")),
-                    {QStringLiteral("--quiet"), QStringLiteral("--host"), m_folder.path()}) == 0)
+            if (QProcess::execute(program(QStringLiteral("pg_isready")),
+                                  {QStringLiteral("--quiet"), QStringLiteral("--host"),
+                                   m_folder.path(), QStringLiteral("--port"), m_port}) == 0)
                 return true;
             m_server.waitForFinished(20);
         }
@@ -77,10 +83,16 @@ public:
         return m_server.waitForFinished(timeLimit);
     }
 
-    /** What hosts call the data base. */
+    /** What hosts call the data base, by its socket. */
     QString address() const
     {
-        return QStringLiteral("postgresql://fishbone@localhost/postgres?host=") + m_folder.path();
+        return QStringLiteral("postgresql://fishbone@localhost:%1/postgres?host=%2")
+            .arg(m_port, m_folder.path());
+    }
+    /** The same as other machines call it, by its port. */
+    QString networkAddress() const
+    {
+        return QStringLiteral("postgresql://fishbone@127.0.0.1:%1/postgres").arg(m_port);
     }
     QString error() const { return m_error; }
 
@@ -115,6 +127,7 @@ private:
     }
 
     QTemporaryDir m_folder;
+    QString m_port;
     QProcess m_server;
     QString m_error;
 };

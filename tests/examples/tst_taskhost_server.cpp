@@ -70,7 +70,7 @@ private Q_SLOTS:
         TaskDesk ada(m_address, QStringLiteral("Ada"));
         QVERIFY(ada.start());
         QVERIFY(ada.sync().synchronize());
-        TaskDesk bob(m_address, QStringLiteral("Bob"));
+        TaskDesk bob(m_server.networkAddress(), QStringLiteral("Bob")); // from another machine
         QVERIFY(bob.start());
         QCOMPARE(bob.windows().size(), 1);
         constexpr int second = unlessSanitized(1000, 10000);
@@ -190,7 +190,7 @@ private Q_SLOTS:
     {
         HostProcess ada(m_address, QStringLiteral("Ada"));
         QVERIFY(!ada.tree().isEmpty());
-        HostProcess bob(m_address, QStringLiteral("Bob"));
+        HostProcess bob(m_server.networkAddress(), QStringLiteral("Bob")); // from another machine
         QVERIFY(!bob.tree().isEmpty());
         constexpr int edits = unlessSanitized(250, 60);
         for (const int signal : {SIGQUIT, SIGINT}) { // a crash, and a restart in good order
