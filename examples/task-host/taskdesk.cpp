@@ -34,7 +34,6 @@ TaskDesk::TaskDesk(const QString &address, const QString &author, QObject *paren
     , m_store(address, author)
     , m_sync(m_model, m_store)
 {
-    m_model.setModelType(FISH_MODEL_DIAGRAM);
     connect(&m_sync, &TaskSync::received, this, &TaskDesk::showFirstDiagram);
     LinkItem::setOpener([desk = QPointer<TaskDesk>(this)](const QUrl &url) {
         if (desk)

@@ -3,10 +3,9 @@
 
 #pragma once
 
+#include <deskmodel.h>
 #include <tasksync.h>
 #include <undogroup.h>
-
-#include <fishbone/model/fishmodel.h>
 
 #include <QNetworkAccessManager>
 #include <QObject>
@@ -73,7 +72,7 @@ private:
     void beginWithTemplate();
     TaskWindow *windowOf(const FishInfo *document) const;
 
-    FishModel m_model;
+    DeskModel m_model;
     TaskStore m_store;
     std::unique_ptr<WaitingJournal> m_journal;
     TaskSync m_sync;

@@ -3,6 +3,7 @@
 
 #include <tests/program/sanitized.h>
 #include <tests/program/testprogram.h>
+#include <tests/support/modaldriver.h>
 
 #include <boardwindow.h>
 #include <conflictbar.h>
@@ -17,11 +18,16 @@
 #include <fishbone/items/taskstatusinfo.h>
 #include <fishbone/model/fishinfo.h>
 
+#include <QAbstractButton>
 #include <QAction>
 #include <QGraphicsScene>
 #include <QMenu>
+#include <QMessageBox>
 #include <QMimeData>
+#include <QSqlDatabase>
 #include <QTreeView>
+
+using namespace TestSupport;
 
 class TestTaskDesk : public QObject
 {
@@ -58,6 +64,7 @@ private Q_SLOTS:
     {
         QTreeView &tree = m_desk->board()->tree();
         QCOMPARE(tree.model()->rowCount(), 2);
+        QCOMPARE(tree.model()->index(0, 0).data().toString(), QStringLiteral("Head"));
         const QModelIndex row = tree.model()->index(1, 0);
         QVERIFY(row.flags().testFlag(Qt::ItemIsDragEnabled));
         Q_EMIT tree.activated(row);
@@ -85,6 +92,18 @@ private Q_SLOTS:
         editor.onDropTo(drag.get(), index("b"), 0);
         QVERIFY(m_desk->sync().synchronize());
         QCOMPARE(m_desk->sync().known().value(QStringLiteral("p")).parent, QStringLiteral("b"));
+        QCOMPARE(m_desk->windows().constFirst()->lastNote(), QStringLiteral("Moved 1 task(s)"));
+    }
+
+    void aBoneThatIsMovedWithTheMouseIsToldAndStored()
+    {
+        TaskWindow &window = *m_desk->windows().constFirst();
+        SpearItem *const bone = m_desk->model().getTreeItem(index("b"))->spear();
+        QVERIFY(bone);
+        window.editor().moveItems(QPoint(), {bone}, index("a"), 1);
+        QCOMPARE(window.lastNote(), QStringLiteral("Moved 1 task(s)"));
+        QVERIFY(m_desk->sync().synchronize());
+        QCOMPARE(m_desk->sync().known().value(QStringLiteral("b")).parent, QStringLiteral("a"));
     }
 
     void aDarkDesktopGetsADarkCanvas()
@@ -215,6 +234,37 @@ private Q_SLOTS:
         QTRY_VERIFY(m_desk->sync().isStored());
     }
 
+    void aWindowAsksBeforeWhatWaitsIsLostAndNotWhenItIsKept_data()
+    {
+        QTest::addColumn<bool>("keeps");
+        QTest::newRow("lost") << false;
+        QTest::newRow("kept") << true;
+    }
+
+    void aWindowAsksBeforeWhatWaitsIsLostAndNotWhenItIsKept()
+    {
+        QFETCH(bool, keeps);
+        QVERIFY(QDir(m_folder->path()).mkdir(QStringLiteral("share")));
+        TaskDesk desk(m_folder->filePath(QStringLiteral("share/tasks.sqlite")),
+                      QStringLiteral("Bob"));
+        if (keeps)
+            desk.setJournalFolder(m_folder->filePath(QStringLiteral("waiting")));
+        QVERIFY(desk.start());
+        QCOMPARE(desk.windows().size(), 1);
+        const QStringList connections = QSqlDatabase::connectionNames();
+        for (const QString &connection : connections)
+            QSqlDatabase::database(connection, false).close();
+        QVERIFY(QDir(m_folder->path()).rename(QStringLiteral("share"), QStringLiteral("gone")));
+        const QModelIndex bone = desk.model().index(0, 0, desk.model().index(0, 0));
+        desk.windows().constFirst()->editor().renameItem(bone, QStringLiteral("Waits"));
+
+        const ModalDriver<QMessageBox> user(
+            [](QMessageBox &box) { box.button(QMessageBox::Cancel)->click(); });
+        QCOMPARE(desk.windows().constFirst()->close(), keeps);
+        QCOMPARE(user.isDone(), !keeps);
+        QCOMPARE(desk.sync().isKept(), keeps);
+    }
+
     void anAddressOfATaskOpensItsWindow()
     {
         LinkItem::open(TaskDesk::addressOf(QStringLiteral("o")).toString());
@@ -227,7 +277,7 @@ private Q_SLOTS:
         QMenu menu;
         editor.createPopMenu(menu, m_desk->model().getTreeItem(index("a"))->spear());
         const QList<QAction *> actions = menu.actions();
-        QVERIFY(!actions.isEmpty());
+        QCOMPARE(actions.size(), 4); // the sub-task, the details and the diagram of a task's own
         QCOMPARE(actions.constLast()->text(), QStringLiteral("Copy address"));
     }
 
