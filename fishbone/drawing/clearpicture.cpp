@@ -44,6 +44,16 @@ QStringList ClearPicture::icons() const
     return files << m_content.linkIcon;
 }
 
+QStringList ClearPicture::categories() const
+{
+    QStringList titles;
+    for (const ClearSubject &subject : m_content.subjects) {
+        if (subject.parent == 0)
+            titles << subject.title;
+    }
+    return titles;
+}
+
 bool ClearPicture::describe(PictureSink &sink) const
 {
     if (m_layout.size() == 0)

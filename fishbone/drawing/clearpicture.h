@@ -44,6 +44,7 @@ public:
     QRectF bounds() const override { return m_layout.bounds(); }
     QString family() const override;
     QStringList icons() const override;
+    QStringList categories() const override;
     int count() const override { return m_layout.size(); }
     bool describe(PictureSink &sink) const override;
 

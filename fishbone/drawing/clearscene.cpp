@@ -102,6 +102,16 @@ QString ClearScene::family() const
     return ClearFonts::ofTheUser().ofLevel(2).font().family();
 }
 
+QStringList ClearScene::categories() const
+{
+    QStringList titles;
+    for (const Part &part : m_spears) {
+        if (part.level == 1)
+            titles << part.spear->text();
+    }
+    return titles;
+}
+
 QStringList ClearScene::icons() const
 {
     QStringList files;

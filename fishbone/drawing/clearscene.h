@@ -24,6 +24,7 @@ public:
     QRectF bounds() const override { return m_bounds; }
     QString family() const override;
     QStringList icons() const override;
+    QStringList categories() const override;
     int count() const override { return int(m_spears.size()); }
     bool describe(PictureSink &sink) const override;
 

@@ -26,6 +26,8 @@ public:
     virtual QString family() const = 0;
     /** The resources of all icons that it describes; some more than once, some of them empty. */
     virtual QStringList icons() const = 0;
+    /** The titles of its categories in row order, which say in short what it is about. */
+    virtual QStringList categories() const = 0;
     /** How many subjects it describes. */
     virtual int count() const = 0;
 

@@ -22,6 +22,17 @@ using SvgMarkup::number;
 using SvgMarkup::paint;
 using SvgMarkup::pathData;
 using SvgMarkup::point;
+
+/** As many of @p titles as somebody listens to. */
+QString listed(QStringList titles)
+{
+    constexpr int most = 20;
+    if (titles.size() > most) {
+        titles.erase(titles.begin() + most, titles.end());
+        titles << QStringLiteral("\u2026");
+    }
+    return titles.join(QStringLiteral("; ")).simplified();
+}
 } // namespace
 
 QByteArray SvgPicture::escaped(const QString &text)
@@ -86,8 +97,10 @@ void SvgPicture::begin(const DescribedPicture &picture, const SvgPictureOptions 
         " sans-serif\">\n");
     if (!options.title.isEmpty())
         put("<title>" + escaped(options.title) + "</title>\n");
-    if (!options.description.isEmpty())
-        put("<desc>" + escaped(options.description) + "</desc>\n");
+    const QString description =
+        options.description.isEmpty() ? listed(picture.categories()) : options.description;
+    if (!description.isEmpty())
+        put("<desc>" + escaped(description) + "</desc>\n");
     put("<defs>\n");
     const QStringList icons = picture.icons();
     for (const QString &icon : icons)

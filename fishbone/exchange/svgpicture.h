@@ -19,7 +19,7 @@ class QIODevice;
 struct SvgPictureOptions
 {
     QString title;       ///< of the file; empty for none
-    QString description; ///< for whoever cannot see it; empty for none
+    QString description; ///< for whoever cannot see it; empty for its categories
     QColor background;   ///< what it is filled with; invalid for nothing
     qreal margin = 8;    ///< around the drawing
     QSizeF size;         ///< how large it is shown; empty for the drawing and its margin at 100 %

@@ -98,6 +98,7 @@ void TestPictureExportClear::shouldWriteASmallSvg()
     QCOMPARE(svg.count("<g id="), bones);
     const int aBone = (int(svg.size()) - int(svg.indexOf("</defs>"))) / bones;
     QVERIFY2(aBone < 500, qPrintable(QString::number(aBone)));
+    QVERIFY2(svg.contains("<desc>Man; Machine</desc>"), svg.constData());
     QString id = fish->subject(QStringLiteral("Training"))->uuid();
     id.remove(QRegularExpression(QStringLiteral("[^A-Za-z0-9-]")));
     QVERIFY2(svg.contains("id=\"s" + id.toUtf8() + '"'), svg.constData());

@@ -83,6 +83,7 @@ private Q_SLOTS:
     void shouldMakeIdsHarmlessAndUnique();
     void shouldTakeShapesOfIconsOnly();
     void shouldSayWhatItIs();
+    void shouldNameItsCategoriesToWhoCannotSeeIt();
     void shouldLookAlikeInOtherRenderers_data();
     void shouldLookAlikeInOtherRenderers();
 };
@@ -183,7 +184,7 @@ void TestSvgPicture::shouldKeepHostileTitlesText()
     QCOMPARE(textsOf(svg).join(u' ').simplified(),
              QStringLiteral("Effect Category %1").arg(title).simplified());
     QSet<QString> names = namesIn(svg);
-    names -= {QStringLiteral("title"), QStringLiteral("desc")};
+    names.remove(QStringLiteral("title"));
     QCOMPARE(names, namesIn(plain.svg()));
 }
 
@@ -290,6 +291,21 @@ void TestSvgPicture::shouldSayWhatItIs()
     QVERIFY(svg.contains("sans-serif"));
     QVERIFY(svg.contains("fill=\"#ffffff\""));
     QVERIFY(svg.endsWith("</svg>\n"));
+}
+
+void TestSvgPicture::shouldNameItsCategoriesToWhoCannotSeeIt()
+{
+    QVERIFY(Made(contentWith({QStringLiteral("cause")})).svg().contains("<desc>Category</desc>\n"));
+    ClearPictureContent many = contentWith({QStringLiteral("cause")});
+    for (int i = 0; i < 30; ++i) {
+        many.subjects.push_back(many.subjects[1]);
+        many.subjects.back().title = QStringLiteral("<%1>\n%2").arg(i).arg(i);
+        many.meanings.push_back(many.meanings[1]);
+        many.looks.push_back(many.looks[1]);
+    }
+    const QByteArray svg = Made(std::move(many)).svg();
+    QVERIFY(svg.contains("<desc>Category; &lt;0&gt; 0; &lt;1&gt; 1; "));
+    QVERIFY(svg.contains("&lt;18&gt; 18; \u2026</desc>\n"));
 }
 
 void TestSvgPicture::shouldLookAlikeInOtherRenderers_data()
