@@ -14,8 +14,8 @@
 /**
  * What the columns of a table of tasks stand for.
  *
- * A reader finds that out of the headings, which task lists of many programs have in English or
- * Chinese; a user may know better.
+ * A reader finds that out of the headings, which task lists of many programs have in the languages
+ * that this one speaks; a user may know better.
  */
 struct FISHBONE_EXPORT TableMapping
 {

@@ -109,21 +109,22 @@ QString TaskCells::text(const TaskTable::Row &row, int column) const
 }
 
 /** Finds out whether dates such as 3/4/2024 begin with the day or with the month: all dates of a
- * column do the same, and only the day can be above twelve. */
+ * column do the same, and only the day can be above twelve. Where none is, the language tells. */
 void TaskCells::findOrder(const std::vector<TaskTable::Row> &rows, std::size_t firstRow)
 {
     constexpr int months = 12;
+    const bool isDayFirst = TaskHeadings::areDayFirst(m_mapping.headings);
     for (int column = 0; column < m_mapping.roles.size(); ++column) {
         if (!isDate(m_mapping.roles.at(column)))
             continue;
         bool isSlashed = false;
         bool isKnown = false;
-        bool dayFirst = false;
+        bool dayFirst = isDayFirst;
         for (std::size_t i = firstRow; i < rows.size() && !isKnown; ++i) {
             const auto numbers = TaskValues::slashedNumbers(rows[i].cells.value(column));
             isSlashed = isSlashed || numbers;
             isKnown = numbers && (numbers->first > months || numbers->second > months);
-            dayFirst = numbers && numbers->first > months;
+            dayFirst = isKnown ? numbers->first > months : isDayFirst;
         }
         m_dayFirst.insert(column, dayFirst);
         if (isSlashed)

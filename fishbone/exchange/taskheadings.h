@@ -15,5 +15,8 @@ QString listed(const QStringList &headings);
 /** Which of @p columns, all of them of ids, has what people call a subject: a key or its number in
  * a project rather than a number of the database; -1 when none is called so. */
 int shownId(const QStringList &headings, const QList<int> &columns);
+/** Whether who writes @p headings writes the day of a date such as 3/4/2024 in front, which those
+ * do who speak another language than English. */
+bool areDayFirst(const QStringList &headings);
 
 } // namespace TaskHeadings

@@ -9,7 +9,7 @@
 
 #include <optional>
 
-/** Values as task lists of other programs spell them, in English and Chinese. */
+/** Values as task lists of other programs spell them, in the languages of TaskWords. */
 namespace TaskValues {
 
 /** The number of a status (TaskStatus): the number itself or one of many words for it. */
