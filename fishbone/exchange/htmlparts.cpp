@@ -11,23 +11,24 @@ body { display: flex; flex-direction: column; font: 15px/1.45 "Noto Sans", "Noto
   background: var(--paper); color: var(--ink); }
 header { display: flex; flex-wrap: wrap; gap: .5em; align-items: center; padding: .5em .8em; background: var(--bar);
   border-bottom: 1px solid var(--line); }
-h1 { font-size: 1.1em; margin: 0 auto 0 0; }
+h1 { font-size: 1.1em; margin: 0; margin-inline-end: auto; }
+h1, h2, p { unicode-bidi: plaintext; }
 button, input { font: inherit; color: inherit; background: var(--paper); border: 1px solid var(--line); border-radius: 5px;
   padding: .25em .7em; }
 main { flex: 1; position: relative; overflow: hidden; min-height: 0; }
-svg { width: 100%; height: 100%; display: block; touch-action: none; cursor: grab; }
+svg { width: 100%; height: 100%; display: block; direction: ltr; touch-action: none; cursor: grab; }
 svg g[role] { cursor: pointer; outline: none; }
 svg g[role]:focus-visible text, svg g.current text { text-decoration: underline; }
 svg g.hit text { paint-order: stroke; stroke: #ffd54a; stroke-width: 6px; stroke-linejoin: round; fill: #1d2733; }
 svg.seeking g[role]:not(.hit) { opacity: .35; }
 svg g.hidden { display: none; }
 svg .count { font-size: 11px; font-weight: bold; }
-aside { position: absolute; right: .8em; top: .8em; width: min(24em, 90%); max-height: calc(100% - 1.6em); overflow: auto;
+aside { position: absolute; inset-inline-end: .8em; top: .8em; width: min(24em, 90%); max-height: calc(100% - 1.6em); overflow: auto;
   background: var(--paper); border: 1px solid var(--line); border-radius: 8px; padding: 1em; box-shadow: 0 4px 16px #0003; }
 aside[hidden] { display: none; }
-aside h2 { font-size: 1.05em; margin: 0 2em .4em 0; white-space: pre-line; }
+aside h2 { font-size: 1.05em; margin: 0 0 .4em; margin-inline-end: 2em; white-space: pre-line; }
 aside p { margin: .3em 0; white-space: pre-line; overflow-wrap: anywhere; }
-aside .close { position: absolute; right: .6em; top: .6em; }
+aside .close { position: absolute; inset-inline-end: .6em; top: .6em; }
 .muted { opacity: .75; }
 @media (prefers-color-scheme: dark) {
   :root { --paper: #1e2126; --ink: #e8edf2; --line: #424a55; --bar: #282c33; }

@@ -50,8 +50,8 @@ QByteArray paperFor(const ClearColors &colors)
 
 QByteArray HtmlPicture::head(const QString &title, const QString &language, const QByteArray &style)
 {
-    return "<!DOCTYPE html>\n<html lang=\"" + SvgPicture::escaped(language) +
-           "\">\n<head>\n<meta charset=\"utf-8\">\n"
+    return "<!DOCTYPE html>\n" + HtmlParts::root(language) +
+           "\n<head>\n<meta charset=\"utf-8\">\n"
            "<meta http-equiv=\"Content-Security-Policy\" content=\"default-src 'none'; "
            "base-uri 'none'; form-action 'none'; style-src " +
            digestOf(style) + "; script-src " + digestOf(HtmlParts::script) +

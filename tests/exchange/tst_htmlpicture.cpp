@@ -47,7 +47,8 @@ ClearPictureContent content(int subjects)
 }
 
 QByteArray pageOf(const ClearPictureContent &content,
-                  DiagramLook::Palette palette = DiagramLook::DistinctColors)
+                  DiagramLook::Palette palette = DiagramLook::DistinctColors,
+                  const QString &language = QStringLiteral("en"))
 {
     const ClearFonts fonts(QFont(QStringLiteral("Noto Sans CJK SC")));
     const ClearTree tree(content.subjects);
@@ -57,7 +58,7 @@ QByteArray pageOf(const ClearPictureContent &content,
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
     const bool isWritten =
-        HtmlPicture::write(picture, QStringLiteral("Effect <b>"), QStringLiteral("en"), buffer);
+        HtmlPicture::write(picture, QStringLiteral("Effect <b>"), language, buffer);
     return isWritten ? buffer.data() : QByteArray();
 }
 
@@ -105,6 +106,7 @@ private Q_SLOTS:
     void shouldNeedNothingElse();
     void shouldStayReadableInTheDark();
     void shouldLeaveGreyOnPaper();
+    void shouldReadFromTheRightWhereTheLanguageDoes();
     void shouldWorkInABrowser_data();
     void shouldWorkInABrowser();
     void shouldBeUsedByMouseAndKeyboard_data();
@@ -178,6 +180,22 @@ void TestHtmlPicture::shouldLeaveGreyOnPaper()
     const QByteArray page = pageOf(content(5), DiagramLook::GrayColors);
     QVERIFY(page.contains("main > svg { background: #ffffff; }"));
     QVERIFY(!page.contains(".k0{"));
+}
+
+/** A title with words of both directions is in its own order, in the drawing and beside it. */
+void TestHtmlPicture::shouldReadFromTheRightWhereTheLanguageDoes()
+{
+    ClearSubject subject;
+    subject.title = QString::fromUtf8("تأخر 12% من server01 في /var/log");
+    const QByteArray page = pageOf(ClearPictures::contentOf({subject}), DiagramLook::DistinctColors,
+                                   QStringLiteral("ar"));
+    QVERIFY(page.startsWith("<!DOCTYPE html>\n<html lang=\"ar\" dir=\"rtl\">"));
+    QVERIFY(page.contains("unicode-bidi: plaintext"));
+    QVERIFY(page.contains("direction=\"rtl\"")); // of the text in the drawing
+    QVERIFY(page.contains("display: block; direction: ltr;"));
+    const QByteArray english = pageOf(content(1));
+    QVERIFY(english.startsWith("<!DOCTYPE html>\n<html lang=\"en\">"));
+    QVERIFY(!english.contains("direction=\"rtl\""));
 }
 
 void TestHtmlPicture::shouldWorkInABrowser_data()
