@@ -3,6 +3,7 @@
 
 #include <app/diagram/people.h>
 
+#include <fishbone/base/collation.h>
 #include <fishbone/base/preorder.h>
 #include <fishbone/model/treeitem.h>
 
@@ -37,11 +38,16 @@ void People::add(const QString &name, const QString &id)
         known = id;
 }
 
+QStringList People::names() const
+{
+    return Collation::sorted(m_ids.keys());
+}
+
 QString People::spelled(const QString &typed) const
 {
     if (m_ids.contains(typed))
         return typed;
-    const QStringList known = names();
+    const QStringList known = m_ids.keys();
     const auto same = std::find_if(known.cbegin(), known.cend(), [&typed](const QString &name) {
         return name.compare(typed, Qt::CaseInsensitive) == 0;
     });

@@ -17,8 +17,8 @@ public:
      * made it. Linear, without recursion. */
     static People in(const TreeItem *root);
 
-    /** Their names, sorted, each once. */
-    QStringList names() const { return m_ids.keys(); }
+    /** Their names, each once, sorted as the language of the user sorts them. */
+    QStringList names() const;
     /** The name as the document has it, which @p typed may write with other capitals; @p typed
      * itself for somebody new. */
     QString spelled(const QString &typed) const;

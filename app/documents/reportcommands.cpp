@@ -19,6 +19,7 @@
 
 #include <QAction>
 #include <QDir>
+#include <QLocale>
 #include <QPointer>
 #include <QPrintDialog>
 #include <QPrinter>
@@ -51,6 +52,14 @@ void ReportCommands::updateActions()
 {
     for (const char *name : {"report", "exportActions", "printActions"})
         m_actions->action(QLatin1String(name))->setEnabled(m_tabs->current()->document());
+}
+
+/** What the spreadsheets of the user take for the end of a cell: where the comma is in numbers, it
+ * is a semicolon. */
+QChar ReportCommands::listSeparator()
+{
+    const QChar comma = QLatin1Char(',');
+    return QString(QLocale().decimalPoint()) == comma ? QLatin1Char(';') : comma;
 }
 
 /** A file beside that of the document, whose name ends in @p ending. */
@@ -111,6 +120,7 @@ void ReportCommands::write(const QString &title, QString (ReportCommands::*choos
         const BusyCursor busy(tab->document()->treeItem());
         MeetingReport report(tab->document()->treeItem()->childAtIndex(0));
         report.setLook(tab->editor()->lookOptions());
+        report.setCellSeparator(listSeparator());
         isWritten = write(report, path, &reason);
     }
     if (isWritten)

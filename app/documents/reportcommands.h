@@ -35,6 +35,7 @@ private:
     using Write =
         std::function<bool(const MeetingReport &report, const QString &path, QString *reason)>;
 
+    static QChar listSeparator();
     QString proposed(const QString &ending) const;
     void printActions();
     QString chosenReport() const;

@@ -6,12 +6,15 @@
 #include <app/common/language.h>
 #include <app/files/safename.h>
 
+#include <fishbone/base/collation.h>
 #include <fishbone/exchange/diagramexchange.h>
 #include <fishbone/model/treeitem.h>
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QStandardPaths>
+
+#include <algorithm>
 
 namespace {
 
@@ -44,9 +47,12 @@ QList<Template> all()
     for (const BuiltIn &each : builtIns)
         templates.append({QCoreApplication::translate("Templates", each.name),
                           place.arg(QLatin1String(each.file)), false});
-    const QFileInfoList own =
-        QDir(folder()).entryInfoList({QStringLiteral("*.json")}, QDir::Files, QDir::Name);
-    for (const QFileInfo &file : own)
+    QFileInfoList own = QDir(folder()).entryInfoList({QStringLiteral("*.json")}, QDir::Files);
+    const QCollator collator = Collation::ofUser();
+    std::sort(own.begin(), own.end(), [&collator](const QFileInfo &one, const QFileInfo &other) {
+        return collator(one.completeBaseName(), other.completeBaseName());
+    });
+    for (const QFileInfo &file : qAsConst(own))
         templates.append({file.completeBaseName(), file.filePath(), true});
     return templates;
 }

@@ -11,6 +11,7 @@
 #include <app/diagram/subjectedit.h>
 #include <app/panels/markbox.h>
 
+#include <fishbone/base/collation.h>
 #include <fishbone/exchange/meetingreport.h>
 #include <fishbone/model/treeitem.h>
 
@@ -204,7 +205,8 @@ void ActionList::sort(QVector<Entry> &entries) const
     if (column < 0 || column > Status)
         return;
     const bool isUp = header()->sortIndicatorOrder() == Qt::AscendingOrder;
-    const auto comesBefore = [column](const Entry &one, const Entry &other) {
+    const QCollator collator = Collation::ofUser();
+    const auto comesBefore = [column, &collator](const Entry &one, const Entry &other) {
         const QVariant left = one.values.at(column);
         const QVariant right = other.values.at(column);
         if (column == End) // what has no date comes last
@@ -212,7 +214,7 @@ void ActionList::sort(QVector<Entry> &entries) const
                    (!right.toDate().isValid() || left.toDate() < right.toDate());
         if (column == Status)
             return left.toInt() < right.toInt();
-        return left.toString().localeAwareCompare(right.toString()) < 0;
+        return collator.compare(left.toString(), right.toString()) < 0;
     };
     std::stable_sort(entries.begin(), entries.end(), [&](const Entry &one, const Entry &other) {
         return isUp ? comesBefore(one, other) : comesBefore(other, one);

@@ -167,10 +167,10 @@ Beginning beginningOf(const QString &text)
     return beginning;
 }
 
-bool needsQuotes(const QString &cell)
+bool needsQuotes(const QString &cell, QChar separator)
 {
-    return cell != cell.trimmed() || std::any_of(cell.cbegin(), cell.cend(), [](QChar c) {
-               return c == QLatin1Char(',') || c == quoteMark || isLineEnd(c);
+    return cell != cell.trimmed() || std::any_of(cell.cbegin(), cell.cend(), [separator](QChar c) {
+               return c == separator || c == quoteMark || isLineEnd(c);
            });
 }
 
@@ -194,14 +194,14 @@ std::vector<Row> parse(const QString &text, ImportedTree &tree)
     return rows;
 }
 
-QByteArray line(const QStringList &cells)
+QByteArray line(const QStringList &cells, QChar separator)
 {
     QString text;
     for (const QString &cell : cells) {
         if (&cell != &cells.constFirst())
-            text.append(QLatin1Char(','));
+            text.append(separator);
         QString content = cell;
-        if (needsQuotes(cell))
+        if (needsQuotes(cell, separator))
             content = quoteMark + content.replace(quoteMark, QLatin1String("\"\"")) + quoteMark;
         text.append(content);
     }

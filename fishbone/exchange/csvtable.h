@@ -23,8 +23,8 @@ namespace CsvTable {
  */
 std::vector<TaskTable::Row> parse(const QString &text, ImportedTree &tree);
 
-/** A line of a table, with its end. */
-QByteArray line(const QStringList &cells);
+/** A line of a table, with its end; @p separator stands between the cells. */
+QByteArray line(const QStringList &cells, QChar separator = QLatin1Char(','));
 
 /**
  * @p text in a form that no spreadsheet takes for a formula: an apostrophe is put before what

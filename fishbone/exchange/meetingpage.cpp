@@ -5,6 +5,7 @@
 
 #include <fishbone/drawing/clearcontent.h>
 #include <fishbone/exchange/csvtable.h>
+#include <fishbone/exchange/htmlparts.h>
 #include <fishbone/exchange/linksafety.h>
 #include <fishbone/model/treeitem.h>
 
@@ -85,8 +86,10 @@ QString explained(Verdict verdict)
 // The margins of a window are in properties that the toolkit, which prints the page, does not know.
 constexpr char pageStyle[] =
     "body{font-family:sans-serif;margin-inline:auto;max-width:70em;padding-inline:1em;color:#222;"
-    "background:#fff}svg,img{max-width:100%;height:auto}table{border-collapse:collapse;width:100%}"
-    "th,td{border:1px solid #bbb;padding:.3em .5em;text-align:left;vertical-align:top}"
+    "background:#fff}svg,img{max-width:100%;height:auto}svg{direction:ltr}h1,td{unicode-bidi:"
+    "plaintext}table{border-collapse:collapse;width:100%}"
+    "th,td{border:1px solid #bbb;padding:.3em "
+    ".5em;text-align:left;text-align:start;vertical-align:top}"
     "th{background:#eee}.over{color:#b00020;font-weight:bold}"
     "h1{margin-top:0px;margin-bottom:12px}h2,h3{margin-top:16px;margin-bottom:8px}";
 
@@ -209,10 +212,11 @@ QVector<MeetingPage::Table> MeetingPage::tables(const Markup &markup) const
 QString MeetingPage::html(const QString &picture) const
 {
     const QString title = inHtml(m_head.title());
-    QString page = QStringLiteral("<!DOCTYPE html>\n<html lang=\"%1\">\n<head>\n"
+    QString page = QStringLiteral("<!DOCTYPE html>\n%1\n<head>\n"
                                   "<meta charset=\"utf-8\">\n<title>%2</title>\n"
                                   "<style>%3</style>\n</head>\n<body>\n<h1>%2</h1>\n")
-                       .arg(QLocale().bcp47Name(), title, QLatin1String(pageStyle));
+                       .arg(QString::fromUtf8(HtmlParts::root(QLocale().bcp47Name())), title,
+                            QLatin1String(pageStyle));
     page += QStringLiteral("<div>%1</div>\n").arg(picture);
     const QVector<Table> all = tables({inHtml, linkInHtml, strongInHtml});
     for (const Table &table : all) {
@@ -266,14 +270,15 @@ QString MeetingPage::actionsMarkdown() const
            inMarkdown(actionsTables({textInMarkdown, linkInMarkdown, strongInMarkdown}));
 }
 
-QByteArray MeetingPage::actionsCsv() const
+QByteArray MeetingPage::actionsCsv(QChar separator) const
 {
     // The mark in front tells spreadsheets that it is UTF-8.
     QByteArray bytes = "\xef\xbb\xbf" +
                        CsvTable::line({MeetingReport::tr("Action"), MeetingReport::tr("In"),
                                        MeetingReport::tr("Responsible"), MeetingReport::tr("Until"),
                                        MeetingReport::tr("Status"), MeetingReport::tr("Progress"),
-                                       MeetingReport::tr("Overdue")});
+                                       MeetingReport::tr("Overdue")},
+                                      separator);
     for (const MeetingReport::Action &action : m_actions) {
         const TreeItem &subject = *action.subject;
         bytes += CsvTable::line({CsvTable::guarded(subject.title()),
@@ -281,7 +286,8 @@ QByteArray MeetingPage::actionsCsv() const
                                  CsvTable::guarded(action.person), action.end.toString(Qt::ISODate),
                                  ClearContent::meaningOf(subject.status()),
                                  QString::number(std::max(0, subject.progress())),
-                                 action.isOverdue ? MeetingReport::tr("yes") : QString()});
+                                 action.isOverdue ? MeetingReport::tr("yes") : QString()},
+                                separator);
     }
     return bytes;
 }

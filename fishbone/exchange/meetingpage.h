@@ -14,8 +14,8 @@ public:
 
     QString html(const QString &picture) const;
     QString markdown(const QString &pictureName) const;
-    /** The actions alone, for spreadsheets. */
-    QByteArray actionsCsv() const;
+    /** The actions alone, for spreadsheets, with @p separator between the cells. */
+    QByteArray actionsCsv(QChar separator) const;
     /** The actions alone, with the title of the diagram above them. */
     QString actionsMarkdown() const;
 

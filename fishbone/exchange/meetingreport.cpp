@@ -3,6 +3,7 @@
 
 #include <fishbone/exchange/meetingreport.h>
 
+#include <fishbone/base/collation.h>
 #include <fishbone/base/filereplacement.h>
 #include <fishbone/exchange/diagrampicture.h>
 #include <fishbone/exchange/meetingpage.h>
@@ -84,12 +85,14 @@ MeetingReport::MeetingReport(const TreeItem *head, const QDate &today)
         return std::make_tuple(rankOf(a.verdict), -a.votes) <
                std::make_tuple(rankOf(b.verdict), -b.votes);
     });
-    std::stable_sort(m_actions.begin(), m_actions.end(), [](const Action &a, const Action &b) {
-        const auto key = [](const Action &action) {
+    const QCollator collator = Collation::ofUser();
+    std::stable_sort(m_actions.begin(), m_actions.end(), [&](const Action &a, const Action &b) {
+        const int names = collator.compare(a.person, b.person);
+        const auto key = [](const Action &action, int name) {
             const QDate end = action.end.isValid() ? action.end : QDate(9999, 12, 31);
-            return std::make_tuple(action.person.isEmpty(), action.person, end);
+            return std::make_tuple(action.person.isEmpty(), name, action.person, end);
         };
-        return key(a) < key(b);
+        return key(a, names) < key(b, 0);
     });
 }
 
@@ -171,8 +174,9 @@ bool MeetingReport::writeActions(const QString &fileName, QString *error) const
         return false;
     }
     const MeetingPage page(*m_head, m_causes, m_actions);
-    const QString reason = replaceFile(
-        fileName, isKind(fileName, "csv") ? page.actionsCsv() : page.actionsMarkdown().toUtf8());
+    const QString reason =
+        replaceFile(fileName, isKind(fileName, "csv") ? page.actionsCsv(m_cellSeparator)
+                                                      : page.actionsMarkdown().toUtf8());
     say(error, reason);
     return reason.isEmpty();
 }

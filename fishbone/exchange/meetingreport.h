@@ -9,6 +9,7 @@
 #include <fishbone/fishbone_export.h>
 #include <fishbone/model/subjectmarks.h>
 
+#include <QChar>
 #include <QCoreApplication>
 #include <QDate>
 #include <QString>
@@ -56,10 +57,14 @@ public:
     /** How the picture is drawn; it always has a legend. */
     void setLook(const DiagramLook::Options &options);
 
+    /** What stands between the cells of the table for spreadsheets, a comma unless it is set:
+     * spreadsheets of languages that write 0,5 want a semicolon. */
+    void setCellSeparator(QChar separator) { m_cellSeparator = separator; }
+
     /** Root causes, then what is confirmed, being checked, open and ruled out; among those what has
      * more votes comes first. */
     const QVector<Cause> &causes() const { return m_causes; }
-    /** By person, nobody last, and for each by date. */
+    /** By person as the default locale sorts names, nobody last, and for each by date. */
     const QVector<Action> &actions() const { return m_actions; }
 
     /** Whether the planned end of @p subject is before @p today, and it is not done. */
@@ -90,6 +95,7 @@ private:
     const TreeItem *m_head;
     const QDate m_today;
     DiagramLook::Options m_look;
+    QChar m_cellSeparator = QLatin1Char(',');
     QVector<Cause> m_causes;
     QVector<Action> m_actions;
 };

@@ -64,6 +64,10 @@ private Q_SLOTS:
     void shouldLinkNowhereHarmful();
     void shouldWritePages();
     void shouldWriteTheActionsAlone();
+    void shouldReadFromTheRightWhereTheLanguageDoes();
+    void shouldSeparateTheCellsAsItIsTold();
+    void shouldSortPeopleAsTheLanguageDoes_data();
+    void shouldSortPeopleAsTheLanguageDoes();
     void shouldSayWhyNothingIsWritten();
     void shouldSayThatThereIsNothing();
 };
@@ -234,6 +238,73 @@ void TestMeetingReport::shouldWriteTheActionsAlone()
     QVERIFY(!report.writeActions(QStringLiteral("a.html"), &error));
     QVERIFY(!error.isEmpty());
     QVERIFY(!report.writeActions(QStringLiteral("/nowhere/a.csv"), &error));
+}
+
+void TestMeetingReport::shouldReadFromTheRightWhereTheLanguageDoes()
+{
+    const auto head = reviewed();
+    const auto pageIn = [&head](const char *language) {
+        const QLocale locale;
+        QLocale::setDefault(QLocale(QLatin1String(language)));
+        const QString page = MeetingReport(head.get(), today).html(QStringLiteral("<svg/>"));
+        QLocale::setDefault(locale);
+        return page;
+    };
+    QVERIFY(pageIn("ar").contains(QLatin1String("\" dir=\"rtl\">")));
+    QVERIFY(!pageIn("de").contains(QLatin1String("rtl")));
+    // Each title in its own direction, and the picture as it is.
+    QVERIFY(pageIn("ar").contains(QLatin1String("h1,td{unicode-bidi:plaintext}")));
+    QVERIFY(pageIn("ar").contains(QLatin1String("svg{direction:ltr}")));
+}
+
+void TestMeetingReport::shouldSeparateTheCellsAsItIsTold()
+{
+    const auto head = reviewed();
+    head->childAtIndex(2)->setTitle(QStringLiteral("a,b;c"));
+    const QTemporaryDir folder;
+    MeetingReport report(head.get(), today);
+    report.setCellSeparator(QLatin1Char(';'));
+    const QString name = folder.filePath(QStringLiteral("a.csv"));
+    QVERIFY(report.writeActions(name));
+    const QList<QByteArray> lines = contentOf(name).split('\n');
+    QCOMPARE(lines.at(0), QByteArray("\xef\xbb\xbf"
+                                     "Action;In;Responsible;Until;Status;Progress;Overdue\r"));
+    QCOMPARE(lines.at(4), QByteArray("\"a,b;c\";Late;;2024-01-31;;0;\r"));
+}
+
+void TestMeetingReport::shouldSortPeopleAsTheLanguageDoes_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<QStringList>("people");
+
+    const QString oddOne = QString::fromUtf8("\u00c4rmel"); // A with two dots
+    QTest::newRow("German") << QStringLiteral("de")
+                            << QStringList({oddOne, QStringLiteral("Zoe"), QString()});
+    QTest::newRow("Swedish") << QStringLiteral("sv")
+                             << QStringList({QStringLiteral("Zoe"), oddOne, QString()});
+}
+
+void TestMeetingReport::shouldSortPeopleAsTheLanguageDoes()
+{
+    QFETCH(QString, language);
+    QFETCH(QStringList, people);
+    const auto head = reviewed();
+    const MeetingReport before(head.get(), today);
+    QVERIFY(before.actions().size() >= 3);
+    QStringList names = people;
+    names.sort();
+    for (const MeetingReport::Action &action : before.actions())
+        const_cast<TreeItem *>(action.subject)
+            ->setManagerName(names.isEmpty() ? QString() : names.takeLast());
+    const QLocale locale;
+    QLocale::setDefault(QLocale(language));
+    const MeetingReport report(head.get(), today);
+    QLocale::setDefault(locale);
+    QStringList sorted;
+    for (const MeetingReport::Action &action : report.actions())
+        sorted.append(action.person);
+    sorted.removeDuplicates();
+    QCOMPARE(sorted, people);
 }
 
 void TestMeetingReport::shouldSayWhyNothingIsWritten()

@@ -14,6 +14,8 @@ class TestPeople : public QObject
 
 private Q_SLOTS:
     void shouldKnowWhoIsNamedAnywhere();
+    void shouldSortAsTheLanguageDoes_data();
+    void shouldSortAsTheLanguageDoes();
     void shouldKnowNobodyWithoutADocument();
     void shouldSpellNamesAsTheDocumentDoes();
 };
@@ -34,6 +36,33 @@ void TestPeople::shouldKnowWhoIsNamedAnywhere()
     QCOMPARE(people.idOf(QStringLiteral("Ada")), QStringLiteral("7"));
     QCOMPARE(people.idOf(QStringLiteral("Bo")), QString());
     QCOMPARE(people.idOf(QStringLiteral("Dee")), QString());
+}
+
+void TestPeople::shouldSortAsTheLanguageDoes_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<QString>("sorted");
+    QTest::newRow("German") << QStringLiteral("de")
+                            << QString::fromUtf8("adam|Ärmel|Bo|Team 9|Team 10|Zoe");
+    QTest::newRow("French") << QStringLiteral("fr") << QString::fromUtf8("Éric|Eve|Zoé");
+    QTest::newRow("Polish") << QStringLiteral("pl") << QString::fromUtf8("Leon|Łukasz|Maria");
+    QTest::newRow("Russian") << QStringLiteral("ru") << QString::fromUtf8("Егор|Ёлкин|Жанна");
+}
+
+void TestPeople::shouldSortAsTheLanguageDoes()
+{
+    QFETCH(QString, language);
+    QFETCH(QString, sorted);
+    QStringList names = sorted.split(QLatin1Char('|'));
+    const QStringList expected = names;
+    std::reverse(names.begin(), names.end());
+    TreeItem root;
+    root.setFollowers(names);
+    const QLocale locale;
+    QLocale::setDefault(QLocale(language));
+    const QStringList shown = People::in(&root).names();
+    QLocale::setDefault(locale);
+    QCOMPARE(shown, expected);
 }
 
 void TestPeople::shouldKnowNobodyWithoutADocument()

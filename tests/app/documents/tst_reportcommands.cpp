@@ -4,6 +4,8 @@
 #include <tests/app/appfixture.h>
 #include <tests/app/dialoganswers.h>
 
+#include <app/common/language.h>
+
 #include <tests/program/testprogram.h>
 #include <tests/support/modaldriver.h>
 
@@ -33,6 +35,8 @@ private Q_SLOTS:
     void initTestCase();
     void shouldWriteAReportBesideTheDocument();
     void shouldWriteTheKindThatIsChosen();
+    void shouldSeparateCellsAsSpreadsheetsOfTheLanguageDo_data();
+    void shouldSeparateCellsAsSpreadsheetsOfTheLanguageDo();
     void shouldSayThatItCannotBeWritten();
     void shouldPrintTheActionsAsTheyAreListed();
     void shouldBeThereWithADocumentAlone();
@@ -78,6 +82,32 @@ void TestReportCommands::shouldWriteTheKindThatIsChosen()
     app.trigger("report");
     QVERIFY(driver.isDone());
     QVERIFY(AppFixture::contentOf(app.path(QStringLiteral("late.pdf"))).startsWith("%PDF"));
+}
+
+void TestReportCommands::shouldSeparateCellsAsSpreadsheetsOfTheLanguageDo_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<QByteArray>("row");
+    QTest::newRow("English") << QStringLiteral("en") << QByteArray("Machines,Late,Ann,");
+    QTest::newRow("German") << QStringLiteral("de") << QByteArray("Machines;Late;Ann;");
+    QTest::newRow("Japanese") << QStringLiteral("ja") << QByteArray("Machines,Late,Ann,");
+    QTest::newRow("Russian") << QStringLiteral("ru") << QByteArray("Machines;Late;Ann;");
+}
+
+void TestReportCommands::shouldSeparateCellsAsSpreadsheetsOfTheLanguageDo()
+{
+    QFETCH(QString, language);
+    QFETCH(QByteArray, row);
+    Language::install(language);
+    AppFixture app;
+    app.subject("Machines")->setManagerName(QStringLiteral("Ann"));
+    const QString path = app.path(QStringLiteral("actions.csv"));
+    const ModalDriver<QFileDialog> driver(DialogAnswers::enter(path));
+    app.trigger("exportActions");
+    Language::install(QStringLiteral("en"));
+    QVERIFY(driver.isDone());
+    const QByteArray table = AppFixture::contentOf(path);
+    QVERIFY2(table.contains("\r\n" + row), table.constData());
 }
 
 void TestReportCommands::shouldSayThatItCannotBeWritten()
