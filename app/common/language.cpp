@@ -3,12 +3,12 @@
 
 #include <app/common/language.h>
 
+#include <app/common/toolkitfolder.h>
 #include <app/common/translationfolder.h>
 
 #include <QApplication>
 #include <QFile>
 #include <QGuiApplication>
-#include <QLibraryInfo>
 #include <QLocale>
 #include <QSettings>
 #include <QTranslator>
@@ -65,15 +65,6 @@ void installFrom(const QString &folder, const QString &name)
     QCoreApplication::installTranslator(translator.release());
 }
 
-QString toolkitTranslations()
-{
-#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
-    return QLibraryInfo::path(QLibraryInfo::TranslationsPath);
-#else
-    return QLibraryInfo::location(QLibraryInfo::TranslationsPath);
-#endif
-}
-
 /** Lays out widgets in @p direction. One keeps the default locale of the time when it was made. A
  * run that draws nothing has no application to tell. */
 void show(Qt::LayoutDirection direction)
@@ -107,7 +98,8 @@ void Language::install(const QString &language)
     QLocale::setDefault(self.locale());
     const QString shown = self.nearest();
     const QLocale locale = localeOf(shown);
-    installFrom(toolkitTranslations(), QStringLiteral("qtbase_") + locale.name());
+    installFrom(ToolkitFolder::of(QLibraryInfo::TranslationsPath),
+                QStringLiteral("qtbase_") + locale.name());
     installFrom(QStringLiteral(":/i18n"), QStringLiteral("fishbone_") + shown);
     if (self.m_folder)
         installFrom(QString(), self.m_folder->fileOf(shown));

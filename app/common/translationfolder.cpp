@@ -3,10 +3,11 @@
 
 #include <app/common/translationfolder.h>
 
+#include <app/common/toolkitfolder.h>
+
 #include <QDateTime>
 #include <QDir>
 #include <QFileInfo>
-#include <QLibraryInfo>
 #include <QProcess>
 #include <QStandardPaths>
 
@@ -17,11 +18,7 @@ namespace {
 QString compiler()
 {
     const QString name = QStringLiteral("lrelease");
-#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
-    const QString own = QLibraryInfo::path(QLibraryInfo::BinariesPath);
-#else
-    const QString own = QLibraryInfo::location(QLibraryInfo::BinariesPath);
-#endif
+    const QString own = ToolkitFolder::of(QLibraryInfo::BinariesPath);
     const QString found = QStandardPaths::findExecutable(name, {own});
     return found.isEmpty() ? QStandardPaths::findExecutable(name) : found;
 }
