@@ -35,6 +35,13 @@ QAction *ActionSet::add(const QString &name, const Language::Text &text,
     return action;
 }
 
+void ActionSet::setShortcuts(const QString &name, const QList<QKeySequence> &shortcuts)
+{
+    QAction *const changed = action(name);
+    changed->setShortcuts(shortcuts);
+    changed->setToolTip(toolTip(*changed));
+}
+
 /** The plain text and the first key. */
 QString ActionSet::toolTip(const QAction &action)
 {
@@ -50,8 +57,8 @@ QString ActionSet::plainText(const QAction &action)
 
 QString ActionSet::plainText(const QString &text)
 {
-    // In Chinese the mnemonic is a letter of its own, in brackets behind the text.
-    static const QRegularExpression mnemonicInBrackets(QStringLiteral("\\(&[A-Z0-9]\\)"));
+    // In Chinese and Arabic the mnemonic is a letter of its own, in brackets behind the text.
+    static const QRegularExpression mnemonicInBrackets(QStringLiteral("\\s*\\(&[\\p{L}\\p{N}]\\)"));
     return QString(text)
         .remove(mnemonicInBrackets)
         .remove(QLatin1Char('&'))

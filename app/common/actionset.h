@@ -40,6 +40,9 @@ public:
     QAction *add(const QString &name, const Language::Text &text,
                  const QList<QKeySequence> &shortcuts, Scope scope, std::function<void()> run);
 
+    /** Gives the action of that name, which must exist, other keys. */
+    void setShortcuts(const QString &name, const QList<QKeySequence> &shortcuts);
+
     /** The action of that name, which must exist. */
     QAction *action(const QString &name) const;
 

@@ -4,6 +4,7 @@
 #include <app/editing/movecommands.h>
 
 #include <app/common/actionset.h>
+#include <app/common/language.h>
 #include <app/diagram/diagramsession.h>
 
 #include <fishbone/editor/fisheditor.h>
@@ -11,6 +12,8 @@
 #include <fishbone/model/fishmodel.h>
 
 #include <QAction>
+#include <QGuiApplication>
+#include <QKeySequence>
 
 /** Below a parent, in front of what stands in that row now. */
 struct MoveCommands::Place
@@ -22,16 +25,30 @@ struct MoveCommands::Place
 MoveCommands::MoveCommands(DiagramSession *session, ActionSet *actions, QObject *parent)
     : DiagramCommands(session, actions, parent)
 {
-    const auto add = [this](const char *name, const char *text, Qt::Key key, Rule rule) {
+    const auto add = [this](const char *name, const char *text, Rule rule) {
         m_actions->add(
-            QLatin1String(name), [text] { return tr(text); }, {QKeySequence(int(Qt::ALT) + key)},
+            QLatin1String(name), [text] { return tr(text); }, QList<QKeySequence>(),
             ActionSet::Scope::Selection, [this, rule] { move(rule); });
     };
-    add("moveUp", QT_TR_NOOP("Move &up"), Qt::Key_Up, &MoveCommands::earlier);
-    add("moveDown", QT_TR_NOOP("Move do&wn"), Qt::Key_Down, &MoveCommands::later);
-    add("promote", QT_TR_NOOP("Pro&mote (beside its parent)"), Qt::Key_Left, &MoveCommands::higher);
-    add("demote", QT_TR_NOOP("D&emote (below the one before)"), Qt::Key_Right,
-        &MoveCommands::lower);
+    add("moveUp", QT_TR_NOOP("Move &up"), &MoveCommands::earlier);
+    add("moveDown", QT_TR_NOOP("Move do&wn"), &MoveCommands::later);
+    add("promote", QT_TR_NOOP("Pro&mote (beside its parent)"), &MoveCommands::higher);
+    add("demote", QT_TR_NOOP("D&emote (below the one before)"), &MoveCommands::lower);
+    Language::bind(this, [this] { showKeys(); });
+}
+
+/** Gives each command the arrow that points where the tree shows it to go: what is above stands on
+ * the side that the language reads from. */
+void MoveCommands::showKeys()
+{
+    const bool isMirrored = QGuiApplication::isRightToLeft();
+    const auto show = [this](const char *name, Qt::Key key) {
+        m_actions->setShortcuts(QLatin1String(name), {QKeySequence(int(Qt::ALT) + key)});
+    };
+    show("moveUp", Qt::Key_Up);
+    show("moveDown", Qt::Key_Down);
+    show("promote", isMirrored ? Qt::Key_Right : Qt::Key_Left);
+    show("demote", isMirrored ? Qt::Key_Left : Qt::Key_Right);
 }
 
 std::optional<MoveCommands::Place> MoveCommands::earlier(const QModelIndex &bone) const

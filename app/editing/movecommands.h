@@ -30,6 +30,7 @@ private:
     std::optional<Place> later(const QModelIndex &bone) const;
     std::optional<Place> higher(const QModelIndex &bone) const;
     std::optional<Place> lower(const QModelIndex &bone) const;
+    void showKeys();
     void move(Rule rule);
     SpearItem *movableBone() const;
 };
