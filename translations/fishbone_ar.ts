@@ -337,12 +337,12 @@
     <message>
         <source>&amp;Save checked</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>&amp;حفظ المؤشر عليها</translation>
+        <translation>حفظ المؤشر عليها (&amp;ح)</translation>
     </message>
     <message>
         <source>Close &amp;without saving</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>إغلاق &amp;دون حفظ</translation>
+        <translation>إغلاق دون حفظ (&amp;د)</translation>
     </message>
 </context>
 <context>
@@ -860,12 +860,12 @@ What both changed differently is kept as in ours, with a cause that says so belo
     <message>
         <source>&amp;Apply</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>&amp;تطبيق</translation>
+        <translation>تطبيق (&amp;ت)</translation>
     </message>
     <message>
         <source>Re&amp;vert</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>است&amp;رجاع</translation>
+        <translation>استرجاع (&amp;ر)</translation>
     </message>
     <message>
         <source>Created by: %1</source>
@@ -1578,17 +1578,17 @@ What both changed differently is kept as in ours, with a cause that says so belo
     <message>
         <source>&amp;Close</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>إ&amp;غلاق</translation>
+        <translation>إغلاق (&amp;غ)</translation>
     </message>
     <message>
         <source>Close &amp;others</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>إغلاق الأ&amp;خرى</translation>
+        <translation>إغلاق الأخرى (&amp;خ)</translation>
     </message>
     <message>
         <source>Copy &amp;path</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>نسخ ال&amp;مسار</translation>
+        <translation>نسخ المسار (&amp;م)</translation>
     </message>
 </context>
 <context>
@@ -1625,112 +1625,112 @@ What both changed differently is kept as in ours, with a cause that says so belo
     <message>
         <source>&amp;Undo</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>ت&amp;راجع</translation>
+        <translation>تراجع (&amp;ر)</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>إ&amp;عادة</translation>
+        <translation>إعادة (&amp;ع)</translation>
     </message>
     <message>
         <source>&amp;Find and replace…</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>&amp;بحث واستبدال…</translation>
+        <translation>بحث واستبدال (&amp;ب)…</translation>
     </message>
     <message>
         <source>Cu&amp;t</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>&amp;قص</translation>
+        <translation>قص (&amp;ق)</translation>
     </message>
     <message>
         <source>&amp;Copy</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>&amp;نسخ</translation>
+        <translation>نسخ (&amp;ن)</translation>
     </message>
     <message>
         <source>&amp;Paste</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>&amp;لصق</translation>
+        <translation>لصق (&amp;ل)</translation>
     </message>
     <message>
         <source>&amp;Delete</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>&amp;حذف</translation>
+        <translation>حذف (&amp;ح)</translation>
     </message>
     <message>
         <source>Select &amp;all</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>تحديد ال&amp;كل</translation>
+        <translation>تحديد الكل (&amp;ك)</translation>
     </message>
     <message>
         <source>Select the &amp;branch</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>تحديد ال&amp;فرع</translation>
+        <translation>تحديد الفرع (&amp;ف)</translation>
     </message>
     <message>
         <source>Select the sib&amp;lings</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>تحديد الأ&amp;شقاء</translation>
+        <translation>تحديد الأشقاء (&amp;ش)</translation>
     </message>
     <message>
         <source>&amp;Child subject</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>موضوع &amp;فرعي</translation>
+        <translation>موضوع فرعي (&amp;ف)</translation>
     </message>
     <message>
         <source>Subject &amp;before</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>موضوع &amp;قبله</translation>
+        <translation>موضوع قبله (&amp;ق)</translation>
     </message>
     <message>
         <source>Subject &amp;after</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>موضوع &amp;بعده</translation>
+        <translation>موضوع بعده (&amp;ب)</translation>
     </message>
     <message>
         <source>&amp;Parent subject</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>&amp;موضوع أب</translation>
+        <translation>موضوع أب (&amp;م)</translation>
     </message>
     <message>
         <source>&amp;Free subject (a new diagram)</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>موضوع &amp;حر (مخطط جديد)</translation>
+        <translation>موضوع حر (مخطط جديد) (&amp;ح)</translation>
     </message>
     <message>
         <source>&amp;Sub-task…</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>مهمة فر&amp;عية…</translation>
+        <translation>مهمة فرعية (&amp;ع)…</translation>
     </message>
     <message>
         <source>&amp;Rename</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>إعادة ال&amp;تسمية</translation>
+        <translation>إعادة التسمية (&amp;ت)</translation>
     </message>
     <message>
         <source>&amp;Link to…</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>&amp;رابط إلى…</translation>
+        <translation>رابط إلى (&amp;ر)…</translation>
     </message>
     <message>
         <source>&amp;Open link</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>فتح الراب&amp;ط</translation>
+        <translation>فتح الرابط (&amp;ط)</translation>
     </message>
     <message>
         <source>Remove l&amp;ink</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>إ&amp;زالة الرابط</translation>
+        <translation>إزالة الرابط (&amp;ز)</translation>
     </message>
     <message>
         <source>&amp;Style…</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>ا&amp;لنمط…</translation>
+        <translation>النمط (&amp;ل)…</translation>
     </message>
     <message>
         <source>Remove s&amp;tyle</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>إزالة &amp;النمط</translation>
+        <translation>إزالة النمط (&amp;ا)</translation>
     </message>
     <message>
         <source>New sub-task</source>
@@ -1846,27 +1846,27 @@ What both changed differently is kept as in ours, with a cause that says so belo
     <message>
         <source>&amp;Export picture…</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>&amp;تصدير صورة…</translation>
+        <translation>تصدير صورة (&amp;ت)…</translation>
     </message>
     <message>
         <source>E&amp;xport as…</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>ت&amp;صدير بتنسيق آخر…</translation>
+        <translation>تصدير بتنسيق آخر (&amp;ص)…</translation>
     </message>
     <message>
         <source>Copy as p&amp;icture</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>نسخ ك&amp;صورة</translation>
+        <translation>نسخ كصورة (&amp;ص)</translation>
     </message>
     <message>
         <source>&amp;Print…</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>&amp;طباعة…</translation>
+        <translation>طباعة (&amp;ط)…</translation>
     </message>
     <message>
         <source>Print previe&amp;w…</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>&amp;معاينة الطباعة…</translation>
+        <translation>معاينة الطباعة (&amp;م)…</translation>
     </message>
     <message>
         <source>%1 written</source>
@@ -1929,7 +1929,7 @@ What both changed differently is kept as in ours, with a cause that says so belo
     <message>
         <source>&amp;Light, as on paper</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>&amp;فاتح، كما على الورق</translation>
+        <translation>فاتح، كما على الورق (&amp;ف)</translation>
     </message>
     <message>
         <source>Export picture</source>
@@ -1939,17 +1939,17 @@ What both changed differently is kept as in ours, with a cause that says so belo
     <message>
         <source>B&amp;rowse…</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>ا&amp;ستعراض…</translation>
+        <translation>استعراض (&amp;س)…</translation>
     </message>
     <message>
         <source>&amp;File:</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>ال&amp;ملف:</translation>
+        <translation>الملف (&amp;م):</translation>
     </message>
     <message>
         <source>&amp;Background:</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>ال&amp;خلفية:</translation>
+        <translation>الخلفية (&amp;خ):</translation>
     </message>
     <message>
         <source>Dark</source>
@@ -2007,27 +2007,27 @@ What both changed differently is kept as in ours, with a cause that says so belo
     <message>
         <source>&amp;New</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>&amp;جديد</translation>
+        <translation>جديد (&amp;ج)</translation>
     </message>
     <message>
         <source>New from the &amp;example</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>جديد من الم&amp;ثال</translation>
+        <translation>جديد من المثال (&amp;ث)</translation>
     </message>
     <message>
         <source>&amp;Welcome diagram</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>مخطط ال&amp;ترحيب</translation>
+        <translation>مخطط الترحيب (&amp;ت)</translation>
     </message>
     <message>
         <source>&amp;Open…</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>&amp;فتح…</translation>
+        <translation>فتح (&amp;ف)…</translation>
     </message>
     <message>
         <source>&amp;Import…</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>ا&amp;ستيراد…</translation>
+        <translation>استيراد (&amp;س)…</translation>
     </message>
     <message>
         <source>Open &amp;URL…</source>
@@ -2037,42 +2037,42 @@ What both changed differently is kept as in ours, with a cause that says so belo
     <message>
         <source>&amp;Save</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>&amp;حفظ</translation>
+        <translation>حفظ (&amp;ح)</translation>
     </message>
     <message>
         <source>Save &amp;as…</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>حفظ &amp;باسم…</translation>
+        <translation>حفظ باسم (&amp;ب)…</translation>
     </message>
     <message>
         <source>Save a cop&amp;y…</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>حفظ &amp;نسخة…</translation>
+        <translation>حفظ نسخة (&amp;ن)…</translation>
     </message>
     <message>
         <source>Revert to &amp;file</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>الرج&amp;وع إلى الملف</translation>
+        <translation>الرجوع إلى الملف (&amp;و)</translation>
     </message>
     <message>
         <source>Save a&amp;ll</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>حفظ ا&amp;لكل</translation>
+        <translation>حفظ الكل (&amp;ل)</translation>
     </message>
     <message>
         <source>&amp;Close</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>إ&amp;غلاق</translation>
+        <translation>إغلاق (&amp;غ)</translation>
     </message>
     <message>
         <source>Reopen &amp;documents at the start</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>إعادة فتح المستندات عند بدء الت&amp;شغيل</translation>
+        <translation>إعادة فتح المستندات عند بدء التشغيل (&amp;ش)</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>إن&amp;هاء</translation>
+        <translation>إنهاء (&amp;ه)</translation>
     </message>
     <message>
         <source>%1 loaded</source>
@@ -2115,17 +2115,17 @@ What both changed differently is kept as in ours, with a cause that says so belo
     <message>
         <source>Re&amp;load</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>إعا&amp;دة التحميل</translation>
+        <translation>إعادة التحميل (&amp;د)</translation>
     </message>
     <message>
         <source>&amp;Keep mine</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>إ&amp;بقاء نسختي</translation>
+        <translation>إبقاء نسختي (&amp;ب)</translation>
     </message>
     <message>
         <source>Save &amp;under another name…</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>الحف&amp;ظ باسم آخر…</translation>
+        <translation>الحفظ باسم آخر (&amp;ظ)…</translation>
     </message>
     <message>
         <source>%1 was deleted, moved or renamed by another program.</source>
@@ -2135,12 +2135,12 @@ What both changed differently is kept as in ours, with a cause that says so belo
     <message>
         <source>Save agai&amp;n</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>الحفظ م&amp;جددًا</translation>
+        <translation>الحفظ مجددًا (&amp;ج)</translation>
     </message>
     <message>
         <source>&amp;Hide</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>إ&amp;خفاء</translation>
+        <translation>إخفاء (&amp;خ)</translation>
     </message>
 </context>
 <context>
@@ -2356,17 +2356,17 @@ Do you want to save your changes?</source>
     <message>
         <source>&amp;Keys…</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>م&amp;فاتيح الاختصار…</translation>
+        <translation>مفاتيح الاختصار (&amp;ف)…</translation>
     </message>
     <message>
         <source>&amp;About Fishbone</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>&amp;حول Fishbone</translation>
+        <translation>حول Fishbone (&amp;ح)</translation>
     </message>
     <message>
         <source>About &amp;Qt</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>حول م&amp;كتبة Qt</translation>
+        <translation>حول مكتبة Qt (&amp;ك)</translation>
     </message>
     <message>
         <source>Version %1, library %2&lt;br&gt;Qt %3, built with %4&lt;br&gt;%5</source>
@@ -2674,12 +2674,12 @@ Do you want to save your changes?</source>
     <message>
         <source>Lang&amp;uage</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>الل&amp;غة (Language)</translation>
+        <translation>اللغة (Language) (&amp;غ)</translation>
     </message>
     <message>
         <source>&amp;System language</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>لغة ال&amp;نظام</translation>
+        <translation>لغة النظام (&amp;ن)</translation>
     </message>
 </context>
 <context>
@@ -2809,27 +2809,27 @@ Do you want to save your changes?</source>
     <message>
         <source>Loo&amp;k</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>الم&amp;ظهر</translation>
+        <translation>المظهر (&amp;ظ)</translation>
     </message>
     <message>
         <source>Arrang&amp;e for page</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>الترتيب حسب الص&amp;فحة</translation>
+        <translation>الترتيب حسب الصفحة (&amp;ف)</translation>
     </message>
     <message>
         <source>&amp;Screen</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>ال&amp;شاشة</translation>
+        <translation>الشاشة (&amp;ش)</translation>
     </message>
     <message>
         <source>&amp;Palette</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>&amp;لوحة الألوان</translation>
+        <translation>لوحة الألوان (&amp;ل)</translation>
     </message>
     <message>
         <source>&amp;Take off all own colours and styles</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>إ&amp;زالة كل الألوان والأنماط الخاصة</translation>
+        <translation>إزالة كل الألوان والأنماط الخاصة (&amp;ز)</translation>
     </message>
     <message numerus="yes">
         <source>%n subject(s) changed</source>
@@ -2851,42 +2851,42 @@ Do you want to save your changes?</source>
     <message>
         <source>Lines of &amp;titles</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>أ&amp;سطر العناوين</translation>
+        <translation>أسطر العناوين (&amp;س)</translation>
     </message>
     <message>
         <source>&amp;Not broken</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>بلا &amp;تقسيم</translation>
+        <translation>بلا تقسيم (&amp;ت)</translation>
     </message>
     <message>
         <source>&amp;Long</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>&amp;طويلة</translation>
+        <translation>طويلة (&amp;ط)</translation>
     </message>
     <message>
         <source>&amp;Medium</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>&amp;متوسطة</translation>
+        <translation>متوسطة (&amp;م)</translation>
     </message>
     <message>
         <source>&amp;Short</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>&amp;قصيرة</translation>
+        <translation>قصيرة (&amp;ق)</translation>
     </message>
     <message>
         <source>&amp;Bones on both sides</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>العظام على ال&amp;جانبين</translation>
+        <translation>العظام على الجانبين (&amp;ج)</translation>
     </message>
     <message>
         <source>&amp;Head on the left</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>ال&amp;رأس على اليسار</translation>
+        <translation>الرأس على اليسار (&amp;ر)</translation>
     </message>
     <message>
         <source>&amp;Legend</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>&amp;وسيلة الإيضاح</translation>
+        <translation>وسيلة الإيضاح (&amp;و)</translation>
     </message>
 </context>
 <context>
@@ -2894,12 +2894,12 @@ Do you want to save your changes?</source>
     <message>
         <source>&amp;Clear</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>وا&amp;ضح</translation>
+        <translation>واضح (&amp;ض)</translation>
     </message>
     <message>
         <source>Cl&amp;assic</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>&amp;كلاسيكي</translation>
+        <translation>كلاسيكي (&amp;ك)</translation>
     </message>
 </context>
 <context>
@@ -2927,12 +2927,12 @@ Do you want to save your changes?</source>
     <message>
         <source>&amp;Details</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>التفا&amp;صيل</translation>
+        <translation>التفاصيل (&amp;ص)</translation>
     </message>
     <message>
         <source>Filt&amp;er…</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>&amp;تصفية…</translation>
+        <translation>تصفية (&amp;ت)…</translation>
     </message>
     <message>
         <source>Subjects</source>
@@ -2962,12 +2962,12 @@ Do you want to save your changes?</source>
     <message>
         <source>Shown be&amp;fore</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>المعروض سا&amp;بقًا</translation>
+        <translation>المعروض سابقًا (&amp;ب)</translation>
     </message>
     <message>
         <source>&amp;Panels</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>ال&amp;لوحات</translation>
+        <translation>اللوحات (&amp;ل)</translation>
     </message>
     <message>
         <source>Nothing opens %1</source>
@@ -3030,72 +3030,72 @@ Do you want to save your changes?</source>
     <message>
         <source>&amp;Suspected</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>م&amp;شتبه به</translation>
+        <translation>مشتبه به (&amp;ش)</translation>
     </message>
     <message>
         <source>Being &amp;checked</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>قيد الت&amp;حقق</translation>
+        <translation>قيد التحقق (&amp;ح)</translation>
     </message>
     <message>
         <source>Con&amp;firmed</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>مؤ&amp;كد</translation>
+        <translation>مؤكد (&amp;ك)</translation>
     </message>
     <message>
         <source>&amp;Ruled out</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>م&amp;ستبعد</translation>
+        <translation>مستبعد (&amp;س)</translation>
     </message>
     <message>
         <source>R&amp;oot cause</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>سبب &amp;جذري</translation>
+        <translation>سبب جذري (&amp;ج)</translation>
     </message>
     <message>
         <source>&amp;No verdict</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>&amp;بلا حكم</translation>
+        <translation>بلا حكم (&amp;ب)</translation>
     </message>
     <message>
         <source>&amp;Waiting</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>&amp;قيد الانتظار</translation>
+        <translation>قيد الانتظار (&amp;ق)</translation>
     </message>
     <message>
         <source>Waiting for &amp;approval</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>&amp;بانتظار الموافقة</translation>
+        <translation>بانتظار الموافقة (&amp;ب)</translation>
     </message>
     <message>
         <source>&amp;Under way</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>&amp;جارٍ</translation>
+        <translation>جارٍ (&amp;ج)</translation>
     </message>
     <message>
         <source>&amp;Finished</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>م&amp;كتمل</translation>
+        <translation>مكتمل (&amp;ك)</translation>
     </message>
     <message>
         <source>Finished &amp;late</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>مكتمل بعد المو&amp;عد</translation>
+        <translation>مكتمل بعد الموعد (&amp;ع)</translation>
     </message>
     <message>
         <source>&amp;Postponed</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>&amp;مؤجل</translation>
+        <translation>مؤجل (&amp;م)</translation>
     </message>
     <message>
         <source>&amp;Cancelled</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>م&amp;لغى</translation>
+        <translation>ملغى (&amp;ل)</translation>
     </message>
     <message>
         <source>&amp;No status</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>بلا &amp;حالة</translation>
+        <translation>بلا حالة (&amp;ح)</translation>
     </message>
     <message>
         <source>&amp;1 (highest)</source>
@@ -3125,62 +3125,62 @@ Do you want to save your changes?</source>
     <message>
         <source>&amp;No priority</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>بلا أ&amp;ولوية</translation>
+        <translation>بلا أولوية (&amp;و)</translation>
     </message>
     <message>
         <source>&amp;Blue</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>أ&amp;زرق</translation>
+        <translation>أزرق (&amp;ز)</translation>
     </message>
     <message>
         <source>&amp;Teal</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>أزرق م&amp;خضر</translation>
+        <translation>أزرق مخضر (&amp;خ)</translation>
     </message>
     <message>
         <source>&amp;Green</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>أخ&amp;ضر</translation>
+        <translation>أخضر (&amp;ض)</translation>
     </message>
     <message>
         <source>Bro&amp;wn</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>&amp;بني</translation>
+        <translation>بني (&amp;ب)</translation>
     </message>
     <message>
         <source>&amp;Orange</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>بر&amp;تقالي</translation>
+        <translation>برتقالي (&amp;ت)</translation>
     </message>
     <message>
         <source>&amp;Red</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>أ&amp;حمر</translation>
+        <translation>أحمر (&amp;ح)</translation>
     </message>
     <message>
         <source>&amp;Purple</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>بنفس&amp;جي</translation>
+        <translation>بنفسجي (&amp;ج)</translation>
     </message>
     <message>
         <source>Gr&amp;ey</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>ر&amp;مادي</translation>
+        <translation>رمادي (&amp;م)</translation>
     </message>
     <message>
         <source>Mar&amp;k</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>&amp;وضع علامة</translation>
+        <translation>وضع علامة (&amp;و)</translation>
     </message>
     <message>
         <source>Mark at the bo&amp;ne</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>وضع علامة عن&amp;د العظمة</translation>
+        <translation>وضع علامة عند العظمة (&amp;د)</translation>
     </message>
     <message>
         <source>R&amp;esponsible…</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>ال&amp;مسؤول…</translation>
+        <translation>المسؤول (&amp;م)…</translation>
     </message>
     <message>
         <source>Change verdict</source>
@@ -3195,22 +3195,22 @@ Do you want to save your changes?</source>
     <message>
         <source>One vote &amp;more</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>&amp;زيادة صوت</translation>
+        <translation>زيادة صوت (&amp;ز)</translation>
     </message>
     <message>
         <source>One vote &amp;less</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>إن&amp;قاص صوت</translation>
+        <translation>إنقاص صوت (&amp;ق)</translation>
     </message>
     <message>
         <source>Sort it and its siblings &amp;by votes</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>&amp;ترتيب مع الأشقاء حسب الأصوات</translation>
+        <translation>ترتيب مع الأشقاء حسب الأصوات (&amp;ت)</translation>
     </message>
     <message>
         <source>S&amp;tatus</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>الحا&amp;لة</translation>
+        <translation>الحالة (&amp;ل)</translation>
     </message>
     <message>
         <source>Change status</source>
@@ -3220,7 +3220,7 @@ Do you want to save your changes?</source>
     <message>
         <source>&amp;Priority</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>الأ&amp;ولوية</translation>
+        <translation>الأولوية (&amp;و)</translation>
     </message>
     <message>
         <source>Change priority</source>
@@ -3230,7 +3230,7 @@ Do you want to save your changes?</source>
     <message>
         <source>Colo&amp;ur</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>اللو&amp;ن</translation>
+        <translation>اللون (&amp;ن)</translation>
     </message>
     <message>
         <source>Change colour</source>
@@ -3240,12 +3240,12 @@ Do you want to save your changes?</source>
     <message>
         <source>That of the p&amp;alette</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>من &amp;لوحة الألوان</translation>
+        <translation>من لوحة الألوان (&amp;ل)</translation>
     </message>
     <message>
         <source>Ot&amp;her…</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>لو&amp;ن آخر…</translation>
+        <translation>لون آخر (&amp;ن)…</translation>
     </message>
     <message>
         <source>Colour of the bone</source>
@@ -3494,32 +3494,32 @@ Do you want to save your changes?</source>
     <message>
         <source>&amp;File</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>&amp;ملف</translation>
+        <translation>ملف (&amp;م)</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>ت&amp;حرير</translation>
+        <translation>تحرير (&amp;ح)</translation>
     </message>
     <message>
         <source>&amp;Subject</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>مو&amp;ضوع</translation>
+        <translation>موضوع (&amp;ض)</translation>
     </message>
     <message>
         <source>&amp;Go</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>&amp;انتقال</translation>
+        <translation>انتقال (&amp;ا)</translation>
     </message>
     <message>
         <source>&amp;View</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>&amp;عرض</translation>
+        <translation>عرض (&amp;ع)</translation>
     </message>
     <message>
         <source>&amp;Help</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>م&amp;ساعدة</translation>
+        <translation>مساعدة (&amp;س)</translation>
     </message>
     <message>
         <source>File</source>
@@ -3579,22 +3579,22 @@ Do you want to save your changes?</source>
     <message>
         <source>Move &amp;up</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>&amp;نقل لأعلى</translation>
+        <translation>نقل لأعلى (&amp;ن)</translation>
     </message>
     <message>
         <source>Move do&amp;wn</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>نقل لأ&amp;سفل</translation>
+        <translation>نقل لأسفل (&amp;س)</translation>
     </message>
     <message>
         <source>Pro&amp;mote (beside its parent)</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>ترقية (ب&amp;جانب الأب)</translation>
+        <translation>ترقية (بجانب الأب) (&amp;ج)</translation>
     </message>
     <message>
         <source>D&amp;emote (below the one before)</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>&amp;خفض (تحت السابق)</translation>
+        <translation>خفض (تحت السابق) (&amp;خ)</translation>
     </message>
 </context>
 <context>
@@ -3602,27 +3602,27 @@ Do you want to save your changes?</source>
     <message>
         <source>&amp;Colours</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>&amp;ملونة</translation>
+        <translation>ملونة (&amp;م)</translation>
     </message>
     <message>
         <source>&amp;Warm</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>&amp;دافئة</translation>
+        <translation>دافئة (&amp;د)</translation>
     </message>
     <message>
         <source>C&amp;ool</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>&amp;باردة</translation>
+        <translation>باردة (&amp;ب)</translation>
     </message>
     <message>
         <source>&amp;Grey</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>&amp;رمادية</translation>
+        <translation>رمادية (&amp;ر)</translation>
     </message>
     <message>
         <source>&amp;Dark</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>دا&amp;كنة</translation>
+        <translation>داكنة (&amp;ك)</translation>
     </message>
 </context>
 <context>
@@ -3660,12 +3660,12 @@ Do you want to save your changes?</source>
     <message>
         <source>&amp;Paste</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>&amp;لصق</translation>
+        <translation>لصق (&amp;ل)</translation>
     </message>
     <message>
         <source>&amp;Read as:</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>ال&amp;قراءة على أنها:</translation>
+        <translation>القراءة على أنها (&amp;ق):</translation>
     </message>
 </context>
 <context>
@@ -3879,7 +3879,7 @@ Do you want to save your changes?</source>
     <message>
         <source>&amp;Expanded:</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>ال&amp;توسيع:</translation>
+        <translation>التوسيع (&amp;ت):</translation>
     </message>
 </context>
 <context>
@@ -3887,12 +3887,12 @@ Do you want to save your changes?</source>
     <message>
         <source>Le&amp;gend</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>&amp;وسيلة الإيضاح</translation>
+        <translation>وسيلة الإيضاح (&amp;و)</translation>
     </message>
     <message>
         <source>Loo&amp;k:</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>الم&amp;ظهر:</translation>
+        <translation>المظهر (&amp;ظ):</translation>
     </message>
     <message>
         <source>As on the screen</source>
@@ -3902,7 +3902,7 @@ Do you want to save your changes?</source>
     <message>
         <source>&amp;Page:</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>ال&amp;صفحة:</translation>
+        <translation>الصفحة (&amp;ص):</translation>
     </message>
     <message>
         <source>On the right</source>
@@ -3917,12 +3917,12 @@ Do you want to save your changes?</source>
     <message>
         <source>Pale&amp;tte:</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>&amp;لوحة الألوان:</translation>
+        <translation>لوحة الألوان (&amp;ل):</translation>
     </message>
     <message>
         <source>Hea&amp;d:</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>ال&amp;رأس:</translation>
+        <translation>الرأس (&amp;ر):</translation>
     </message>
 </context>
 <context>
@@ -3943,17 +3943,17 @@ Do you want to save your changes?</source>
     <message>
         <source>Sc&amp;ale:</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>الم&amp;قياس:</translation>
+        <translation>المقياس (&amp;ق):</translation>
     </message>
     <message>
         <source>&amp;Width:</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>ال&amp;عرض:</translation>
+        <translation>العرض (&amp;ع):</translation>
     </message>
     <message>
         <source>&amp;Height:</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>&amp;الارتفاع:</translation>
+        <translation>الارتفاع (&amp;ا):</translation>
     </message>
     <message>
         <source>A page of %1 × %2 mm</source>
@@ -3968,7 +3968,7 @@ Do you want to save your changes?</source>
     <message>
         <source>&amp;Use %1, which fits</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>استخ&amp;دام %1 المناسب</translation>
+        <translation>استخدام %1 المناسب (&amp;د)</translation>
     </message>
 </context>
 <context>
@@ -4132,7 +4132,7 @@ Do you want to save your changes?</source>
     <message>
         <source>&amp;Recent files</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>الملفات الأ&amp;خيرة</translation>
+        <translation>الملفات الأخيرة (&amp;خ)</translation>
     </message>
     <message>
         <source>(nothing yet)</source>
@@ -4142,7 +4142,7 @@ Do you want to save your changes?</source>
     <message>
         <source>&amp;Clear the list</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>&amp;مسح القائمة</translation>
+        <translation>مسح القائمة (&amp;م)</translation>
     </message>
 </context>
 <context>
@@ -4150,7 +4150,7 @@ Do you want to save your changes?</source>
     <message>
         <source>Reco&amp;ver documents…</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>استر&amp;داد المستندات…</translation>
+        <translation>استرداد المستندات (&amp;د)…</translation>
     </message>
     <message>
         <source>There is nothing to recover.</source>
@@ -4193,17 +4193,17 @@ Do you want to save your changes?</source>
     <message>
         <source>&amp;Open</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>&amp;فتح</translation>
+        <translation>فتح (&amp;ف)</translation>
     </message>
     <message>
         <source>&amp;Discard</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>&amp;تجاهل</translation>
+        <translation>تجاهل (&amp;ت)</translation>
     </message>
     <message>
         <source>&amp;Later</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>&amp;لاحقًا</translation>
+        <translation>لاحقًا (&amp;ل)</translation>
     </message>
     <message>
         <source>Discard</source>
@@ -4324,7 +4324,7 @@ Do you want to save your changes?</source>
     <message>
         <source>Meetin&amp;g report…</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>تق&amp;رير الاجتماع…</translation>
+        <translation>تقرير الاجتماع (&amp;ر)…</translation>
     </message>
     <message>
         <source>Meeting report</source>
@@ -4334,7 +4334,7 @@ Do you want to save your changes?</source>
     <message>
         <source>Ta&amp;ble of actions…</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>جدول &amp;الإجراءات…</translation>
+        <translation>جدول الإجراءات (&amp;ا)…</translation>
     </message>
     <message>
         <source>Actions</source>
@@ -4374,7 +4374,7 @@ Do you want to save your changes?</source>
     <message>
         <source>Print act&amp;ions…</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>طبا&amp;عة الإجراءات…</translation>
+        <translation>طباعة الإجراءات (&amp;ع)…</translation>
     </message>
 </context>
 <context>
@@ -4596,12 +4596,12 @@ Do you want to save your changes?</source>
     <message>
         <source>Next &amp;tab</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>ع&amp;لامة التبويب التالية</translation>
+        <translation>علامة التبويب التالية (&amp;ل)</translation>
     </message>
     <message>
         <source>Previous t&amp;ab</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>علا&amp;مة التبويب السابقة</translation>
+        <translation>علامة التبويب السابقة (&amp;م)</translation>
     </message>
 </context>
 <context>
@@ -4737,12 +4737,12 @@ Do you want to save your changes?</source>
     <message>
         <source>New from &amp;template…</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>جديد من &amp;قالب…</translation>
+        <translation>جديد من قالب (&amp;ق)…</translation>
     </message>
     <message>
         <source>Save as te&amp;mplate…</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>حفظ &amp;كقالب…</translation>
+        <translation>حفظ كقالب (&amp;ك)…</translation>
     </message>
     <message>
         <source>New from template</source>
@@ -4795,17 +4795,17 @@ Do you want to save your changes?</source>
     <message>
         <source>C&amp;reate</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>إ&amp;نشاء</translation>
+        <translation>إنشاء (&amp;ن)</translation>
     </message>
     <message>
         <source>From a &amp;file…</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>من &amp;ملف…</translation>
+        <translation>من ملف (&amp;م)…</translation>
     </message>
     <message>
         <source>&amp;Delete</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>&amp;حذف</translation>
+        <translation>حذف (&amp;ح)</translation>
     </message>
     <message>
         <source>Delete the template %1?</source>
@@ -4947,12 +4947,12 @@ Do you want to save your changes?</source>
     <message>
         <source>Zoom &amp;in</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>ت&amp;كبير</translation>
+        <translation>تكبير (&amp;ك)</translation>
     </message>
     <message>
         <source>Zoom &amp;out</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>ت&amp;صغير</translation>
+        <translation>تصغير (&amp;ص)</translation>
     </message>
     <message>
         <source>&amp;100 %</source>
@@ -4962,52 +4962,52 @@ Do you want to save your changes?</source>
     <message>
         <source>&amp;Fit all</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>&amp;ملاءمة الكل</translation>
+        <translation>ملاءمة الكل (&amp;م)</translation>
     </message>
     <message>
         <source>Fit &amp;selection</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>ملاءمة الت&amp;حديد</translation>
+        <translation>ملاءمة التحديد (&amp;ح)</translation>
     </message>
     <message>
         <source>Rotate &amp;right</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>تدوير لليمي&amp;ن</translation>
+        <translation>تدوير لليمين (&amp;ن)</translation>
     </message>
     <message>
         <source>Rotate &amp;left</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>تدوير لل&amp;يسار</translation>
+        <translation>تدوير لليسار (&amp;ي)</translation>
     </message>
     <message>
         <source>U&amp;pright</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>ب&amp;لا تدوير</translation>
+        <translation>بلا تدوير (&amp;ل)</translation>
     </message>
     <message>
         <source>S&amp;how full screen</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>ملء ال&amp;شاشة</translation>
+        <translation>ملء الشاشة (&amp;ش)</translation>
     </message>
     <message>
         <source>E&amp;xpand</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>&amp;توسيع</translation>
+        <translation>توسيع (&amp;ت)</translation>
     </message>
     <message>
         <source>&amp;Contract</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>&amp;طي</translation>
+        <translation>طي (&amp;ط)</translation>
     </message>
     <message>
         <source>Expand &amp;all</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>تو&amp;سيع الكل</translation>
+        <translation>توسيع الكل (&amp;س)</translation>
     </message>
     <message>
         <source>Con&amp;tract all</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>طي &amp;الكل</translation>
+        <translation>طي الكل (&amp;ا)</translation>
     </message>
     <message>
         <source>Expanding all bones…</source>
@@ -5017,37 +5017,37 @@ Do you want to save your changes?</source>
     <message>
         <source>Show as a &amp;diagram of its own</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>&amp;عرض كمخطط مستقل</translation>
+        <translation>عرض كمخطط مستقل (&amp;ع)</translation>
     </message>
     <message>
         <source>&amp;Back</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>&amp;رجوع</translation>
+        <translation>رجوع (&amp;ر)</translation>
     </message>
     <message>
         <source>Show the &amp;whole diagram</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>عرض الم&amp;خطط كاملًا</translation>
+        <translation>عرض المخطط كاملًا (&amp;خ)</translation>
     </message>
     <message>
         <source>Style of &amp;all subjects…</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>نمط كل الموا&amp;ضيع…</translation>
+        <translation>نمط كل المواضيع (&amp;ض)…</translation>
     </message>
     <message>
         <source>&amp;Diagram mode</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>&amp;وضع المخطط</translation>
+        <translation>وضع المخطط (&amp;و)</translation>
     </message>
     <message>
         <source>&amp;Task mode</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>وضع الم&amp;هام</translation>
+        <translation>وضع المهام (&amp;ه)</translation>
     </message>
     <message>
         <source>&amp;Just the drawing</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>الرسم ف&amp;قط</translation>
+        <translation>الرسم فقط (&amp;ق)</translation>
     </message>
     <message>
         <source>(nothing yet)</source>
@@ -5060,42 +5060,42 @@ Do you want to save your changes?</source>
     <message>
         <source>To the &amp;left</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>إلى ال&amp;يسار</translation>
+        <translation>إلى اليسار (&amp;ي)</translation>
     </message>
     <message>
         <source>To the &amp;right</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>إلى اليمي&amp;ن</translation>
+        <translation>إلى اليمين (&amp;ن)</translation>
     </message>
     <message>
         <source>&amp;Up</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>إلى الأ&amp;على</translation>
+        <translation>إلى الأعلى (&amp;ع)</translation>
     </message>
     <message>
         <source>&amp;Down</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>إلى الأ&amp;سفل</translation>
+        <translation>إلى الأسفل (&amp;س)</translation>
     </message>
     <message>
         <source>To the &amp;parent</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>إلى الأ&amp;ب</translation>
+        <translation>إلى الأب (&amp;ب)</translation>
     </message>
     <message>
         <source>To the &amp;first child</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>إلى أول &amp;فرعي</translation>
+        <translation>إلى أول فرعي (&amp;ف)</translation>
     </message>
     <message>
         <source>To the one &amp;before</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>إلى الساب&amp;ق</translation>
+        <translation>إلى السابق (&amp;ق)</translation>
     </message>
     <message>
         <source>To the &amp;next one</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>إلى ال&amp;تالي</translation>
+        <translation>إلى التالي (&amp;ت)</translation>
     </message>
 </context>
 <context>

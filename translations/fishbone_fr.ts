@@ -2047,7 +2047,7 @@ Ce que les deux ont changé différemment reste comme dans notre version, avec e
     <message>
         <source>Reopen &amp;documents at the start</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>&amp;Rouvrir les documents au démarrage</translation>
+        <translation>Ro&amp;uvrir les documents au démarrage</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
@@ -4094,7 +4094,7 @@ Voulez-vous enregistrer vos modifications&#x202f;?</translation>
     <message>
         <source>Reco&amp;ver documents…</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>Réc&amp;upérer des documents…</translation>
+        <translation>R&amp;écupérer des documents…</translation>
     </message>
     <message>
         <source>There is nothing to recover.</source>
@@ -4314,7 +4314,7 @@ Voulez-vous enregistrer vos modifications&#x202f;?</translation>
     <message>
         <source>Print act&amp;ions…</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
-        <translation>Imprimer les actions (&amp;K)…</translation>
+        <translation>Imp&amp;rimer les actions…</translation>
     </message>
 </context>
 <context>

@@ -86,7 +86,7 @@ void TestLanguageKeys::shouldShowTheNamesInToolTipsAndInTheListOfKeys()
         const QString key = app.action("save")->shortcut().toString(QKeySequence::NativeText);
         QVERIFY2(app.action("save")->toolTip().endsWith(QStringLiteral(" (%1)").arg(key)),
                  qPrintable(app.action("save")->toolTip()));
-        const KeysDialog dialog(*app.window.findChild<ActionSet *>());
+        const KeysDialog dialog(*app.window.findChild<ActionSet *>(), nullptr);
         const QString cell = QStringLiteral("item: ") + key;
         const QStringList values = TestSupport::shownValues(dialog);
         QVERIFY2(values.filter(cell).size() > 0, qPrintable(language + values.join(u'|')));
@@ -116,8 +116,9 @@ void TestLanguageKeys::shouldPromoteWhereTheArrowPoints()
         AppFixture::settle();
         const bool isMirrored = app.window.isRightToLeft();
         QCOMPARE(isMirrored, shown == QLatin1String("ar"));
-        QWidget *const view =
-            inTree ? static_cast<QWidget *>(app.window.tree()) : app.window.editor()->view();
+        QWidget *view = app.window.editor()->view();
+        if (inTree)
+            view = app.window.tree()->view();
         const auto press = [&](Qt::Key key) {
             app.select("Too new");
             view->setFocus();

@@ -9,6 +9,7 @@
 #include <fishbone/items/textitem.h>
 #include <tests/program/testprogram.h>
 
+#include <QDir>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPointer>
@@ -54,6 +55,17 @@ QStringList languagesToShow()
 
 const QSize smallScreen(1024, 700);
 
+/** Writes a picture of @p shown, to be looked at, where the environment names a folder. */
+void keepPicture(QWidget &shown, const QString &language, const char *screen)
+{
+    const QString folder = qEnvironmentVariable("FISHBONE_LANGUAGE_PICTURES");
+    if (folder.isEmpty())
+        return;
+    const QString place = folder + QLatin1Char('/') + language;
+    QVERIFY(QDir().mkpath(place));
+    QVERIFY(shown.grab().save(QStringLiteral("%1/%2.png").arg(place, QLatin1String(screen))));
+}
+
 /** What is wrong with @p shown, @p window or a dialog of it, in the language @p name. */
 QStringList faultsOf(const QWidget &shown, const MainWindow &window, const QString &name)
 {
@@ -81,7 +93,8 @@ QStringList faultsOf(const QWidget &shown, const MainWindow &window, const QStri
 /**
  * The window, its panels and its dialogs in every language: no text is cut on a small screen, and
  * no menu key there is twice. The language changes under the window, which is what a user does in
- * View > Language, and gives what a start in it gives.
+ * View > Language, and gives what a start in it gives. FISHBONE_LANGUAGE_PICTURES names a folder
+ * for pictures of all of it.
  */
 class TestLanguageScreens : public QObject
 {
@@ -158,6 +171,7 @@ void TestLanguageScreens::shouldCutNoTextInAnyLanguage()
         AppFixture::settle();
         const QString name = language.isEmpty() ? QStringLiteral("long texts") : language;
         faults += faultsOf(*shown, app.window, name);
+        keepPicture(*shown, language, screen.name);
         // What is modal hears of no other language while it is open, and is made anew.
         if (shown != &app.window && !qobject_cast<ReplaceFindDialog *>(shown))
             delete shown;
