@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Fishbone authors
 // SPDX-License-Identifier: MIT
 
+#include <hosttexts.h>
 #include <rehearsal.h>
 #include <taskdesk.h>
 #include <taskform.h>
@@ -114,6 +115,9 @@ int main(int argc, char *argv[])
 {
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("fishbone-task-host"));
+    const std::unique_ptr<QTranslator> texts = HostTexts::load();
+    if (texts)
+        QApplication::installTranslator(texts.get());
     QCommandLineParser parser;
     parser.addHelpOption();
     parser.addOptions(

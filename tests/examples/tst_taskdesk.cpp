@@ -7,6 +7,7 @@
 
 #include <boardwindow.h>
 #include <conflictbar.h>
+#include <hosttexts.h>
 #include <taskdesk.h>
 #include <taskform.h>
 #include <taskwindow.h>
@@ -273,10 +274,13 @@ private Q_SLOTS:
 
     void theMenuOfABoneHasTheHostsEntry()
     {
+        const std::unique_ptr<QTranslator> texts = HostTexts::load();
+        QVERIFY(texts && QApplication::installTranslator(texts.get()));
         FishEditor &editor = m_desk->windows().constFirst()->editor();
         QMenu menu;
         editor.createPopMenu(menu, m_desk->model().getTreeItem(index("a"))->spear());
         const QList<QAction *> actions = menu.actions();
+        QCOMPARE(actions.constFirst()->text(), QStringLiteral("New sub-task"));
         QCOMPARE(actions.size(), 4); // the sub-task, the details and the diagram of a task's own
         QCOMPARE(actions.constLast()->text(), QStringLiteral("Copy address"));
     }
