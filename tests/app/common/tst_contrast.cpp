@@ -78,6 +78,8 @@ private Q_SLOTS:
     void shouldShowTheTextsOfBones();
     void shouldShowTheLinesOfBones_data() { shouldShowTheTextsOfBones_data(); }
     void shouldShowTheLinesOfBones();
+    void shouldFrameWhatIsSelected_data() { addPalettes(); }
+    void shouldFrameWhatIsSelected();
     void shouldShowTheTitleOnTheHead_data() { addPalettes(); }
     void shouldShowTheTitleOnTheHead();
     void shouldShowThePicturesOfTheDrawing_data() { addPalettes(); }
@@ -144,6 +146,17 @@ void TestContrast::shouldShowTheLinesOfBones()
     const QPen *const pen = SpearStyle::global()->broderPen(SpearStyle::SpearState(state));
     QVERIFY(pen);
     const double contrast = Contrast::between(pen->color(), m_theme.canvasColor());
+    QVERIFY2(contrast >= Contrast::forShapes, qPrintable(QString::number(contrast)));
+}
+
+void TestContrast::shouldFrameWhatIsSelected()
+{
+    // The filling alone may be the colour that another category has.
+    follow();
+    const QPen *const frame = SpearStyle::global()->broderPen(SpearStyle::ssSelected);
+    QVERIFY(frame);
+    const QColor filling = SpearStyle::global()->textBkColor(SpearStyle::ssSelected);
+    const double contrast = Contrast::between(frame->color(), filling);
     QVERIFY2(contrast >= Contrast::forShapes, qPrintable(QString::number(contrast)));
 }
 
