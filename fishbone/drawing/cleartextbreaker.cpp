@@ -46,10 +46,28 @@ bool isIdeographic(QChar c)
            (code >= 0xd840 && code <= 0xd8ff) || (code >= 0xdc00 && code <= 0xdfff); // rare ones
 }
 
-/** Whether @p c stays with the number before the space. */
-bool isUnit(QChar c)
+bool isUnitSign(QChar c)
 {
     return c == u'%' || c == QChar(0x2030) || c == QChar(0xb0); // per mille, degrees
+}
+
+/** Whether the word from @p start on stays with what is before the space: a sign of a unit, or a
+ * letter or two that are one behind a number. */
+bool isUnit(const QString &title, int start)
+{
+    static const QStringList units{QStringLiteral("ms"), QStringLiteral("mm"), QStringLiteral("cm"),
+                                   QStringLiteral("km"), QStringLiteral("kg"), QStringLiteral("kW"),
+                                   QStringLiteral("Hz"), QStringLiteral("kB"), QStringLiteral("MB"),
+                                   QStringLiteral("GB"), QStringLiteral("TB")};
+    if (isUnitSign(title.at(start)))
+        return true;
+    if (start < 2 || !title.at(start - 2).isDigit())
+        return false;
+    int end = start;
+    while (end < title.size() && title.at(end).isLetterOrNumber() && end < start + 3)
+        ++end;
+    return (end == start + 1 && title.at(start).isLetter()) ||
+           units.contains(title.mid(start, end - start));
 }
 
 bool isInnerBreak(QChar c)
@@ -95,9 +113,9 @@ void ClearTextBreaker::collectPieces()
         if (next < 0 || next > size)
             next = size;
         const QChar before = next > 0 ? m_title.at(next - 1) : QChar();
-        const bool canBreak =
-            next >= size || (before.isSpace() && (before == u'\n' || !isUnit(m_title.at(next)))) ||
-            isIdeographic(before) || isIdeographic(m_title.at(next));
+        const bool canBreak = next >= size ||
+                              (before.isSpace() && (before == u'\n' || !isUnit(m_title, next))) ||
+                              isIdeographic(before) || isIdeographic(m_title.at(next));
         if (!canBreak)
             continue;
         int end = next;
