@@ -18,7 +18,6 @@
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QJsonObject>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPushButton>
@@ -29,7 +28,6 @@
 namespace {
 
 constexpr int titleColumn = 0;
-constexpr int showidColumn = 2;
 
 } // namespace
 
@@ -122,24 +120,18 @@ void Finder::show()
     m_search->selectAll();
 }
 
-Qt::CaseSensitivity Finder::caseSensitivity() const
+/** What is to be replaced as the dialog has it now. */
+Replacement Finder::replacement() const
 {
-    return m_dialog->caseBox()->isChecked() ? Qt::CaseSensitive : Qt::CaseInsensitive;
+    return {m_search->text(), m_replacement->text(),
+            m_dialog->caseBox()->isChecked() ? Qt::CaseSensitive : Qt::CaseInsensitive};
 }
 
-/** What a replacement makes of @p text. */
+/** What becomes of a text that is listed. */
 QString Finder::replaced(const QString &text) const
 {
-    const QString search = m_search->text();
-    if (search.isEmpty())
-        return text;
-    QString result = text;
-    return result.replace(search, m_replacement->text(), caseSensitivity());
-}
-
-bool Finder::isReplaceable(const QModelIndex &hit) const
-{
-    return hit.column() == titleColumn || hit.column() == showidColumn;
+    const bool isPossible = !m_matches.isEmpty() && Replacement::isPossible(m_matches.constFirst());
+    return isPossible ? replacement().of(text) : text;
 }
 
 /** The list is of another search than the one that is entered. */
@@ -157,17 +149,12 @@ void Finder::listHits()
         return;
     m_matches = matches;
     m_current = -1;
-    m_hits->setHits(matches, [this, &matches](const QString &text) {
-        return !matches.isEmpty() && isReplaceable(matches.constFirst()) ? replaced(text) : text;
-    });
+    m_hits->setHits(matches, [this](const QString &text) { return replaced(text); });
 }
 
 void Finder::preview()
 {
-    m_hits->preview([this](const QString &text) {
-        return !m_matches.isEmpty() && isReplaceable(m_matches.constFirst()) ? replaced(text)
-                                                                             : text;
-    });
+    m_hits->preview([this](const QString &text) { return replaced(text); });
 }
 
 void Finder::findSoon()
@@ -220,36 +207,12 @@ void Finder::keepClear()
                   *m_dialog);
 }
 
-/** The step that replaces in the texts that were found at @p hits; null when @p progress ends it.
- */
-std::unique_ptr<EditAttributes> Finder::draft(const QModelIndexList &hits,
-                                              const Progress &progress) const
-{
-    FishModel *const model = m_session->model();
-    // While somebody sees the progress, subjects may go.
-    const QList<QPersistentModelIndex> places(hits.cbegin(), hits.cend());
-    auto command = std::make_unique<EditAttributes>(model);
-    int done = 0;
-    for (const QPersistentModelIndex &hit : places) {
-        if (!progress(done++, places.size()))
-            return nullptr;
-        const TreeItem *const subject = hit.isValid() ? model->getTreeItem(hit) : nullptr;
-        if (!subject || !isReplaceable(hit))
-            continue;
-        const QJsonObject before = EditAttributes::stateOf(*subject);
-        TreeItem draft(before);
-        draft.setData(hit.column(), replaced(subject->data(hit.column()).toString()));
-        command->add(hit.sibling(hit.row(), titleColumn), before, EditAttributes::stateOf(draft));
-    }
-    return command;
-}
-
-/** The same for many, which the user may cancel. */
+/** The step that replaces in what was found at @p hits; null when the user cancels it. */
 std::unique_ptr<EditAttributes> Finder::draftAll(const QModelIndexList &hits)
 {
     const DiagramSession *const session = m_session;
     WorkProgress progress(m_dialog->replaceAllButton()->text().remove(u'&'), m_dialog);
-    return draft(hits, [&](int done, int total) {
+    return replacement().draft(m_session->model(), hits, [&](int done, int total) {
         return progress.report(done, total) && m_session == session;
     });
 }
@@ -277,12 +240,13 @@ void Finder::replaceCurrent()
     }
     const QModelIndex hit = matches.at(m_current);
     const int current = m_current;
-    const bool isReplaced = run(draft({hit}, [](int, int) { return true; })) > 0;
+    const bool isReplaced =
+        run(replacement().draft(m_session->model(), {hit}, [](int, int) { return true; })) > 0;
     m_matches.clear(); // so that they are listed with their new texts
     listHits();
     m_current = current;
     showNext();
-    if (!isReplaced && !isReplaceable(hit))
+    if (!isReplaced && !Replacement::isPossible(hit))
         Q_EMIT message(tr("Only titles and numbers can be replaced."));
 }
 

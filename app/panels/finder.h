@@ -4,13 +4,13 @@
 #pragma once
 
 #include <app/diagram/drawingstate.h>
+#include <app/panels/replacement.h>
 
 #include <QModelIndexList>
 #include <QObject>
 #include <QPersistentModelIndex>
 #include <QTimer>
 
-#include <functional>
 #include <memory>
 
 class DiagramSession;
@@ -47,9 +47,6 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    /** Hears how many of how many are done; false ends it. */
-    using Progress = std::function<bool(int done, int total)>;
-
     void connectControls();
     void forgetHits();
     void listHits();
@@ -60,16 +57,13 @@ private:
     void followView();
     void replaceCurrent();
     void replaceAll();
-    std::unique_ptr<EditAttributes> draft(const QModelIndexList &hits,
-                                          const Progress &progress) const;
     std::unique_ptr<EditAttributes> draftAll(const QModelIndexList &hits);
     int run(std::unique_ptr<EditAttributes> command);
     void preview();
     void rememberLook();
     void restoreLook();
-    bool isReplaceable(const QModelIndex &hit) const;
     QString replaced(const QString &text) const;
-    Qt::CaseSensitivity caseSensitivity() const;
+    Replacement replacement() const;
 
     DiagramSession *m_session;
     ReplaceFindDialog *m_dialog;

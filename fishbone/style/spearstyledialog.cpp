@@ -6,40 +6,25 @@
 #include <fishbone/base/dialogtexts.h>
 #include <fishbone/style/colorchoice.h>
 #include <fishbone/style/penselect.h>
-#include <fishbone/style/previewpixmap.h>
-#include <fishbone/style/textbox.h>
+#include <fishbone/style/stylepreview.h>
 
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QFontDialog>
 #include <QFontInfo>
-#include <QFontMetrics>
 #include <QFormLayout>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QJsonObject>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPainter>
 #include <QPushButton>
 #include <QRegularExpressionValidator>
 #include <QScrollArea>
 #include <QVBoxLayout>
 
 namespace {
-
-/**
- * The preview text as a bone with that many characters would cut it, never through a surrogate
- * pair, and marked as cut.
- */
-QString shortened(const QString &text, int count)
-{
-    if (count < 1 || count >= text.length())
-        return text;
-    const int length = text.at(count - 1).isHighSurrogate() ? count - 1 : count;
-    return text.left(length) + QLatin1String("...");
-}
 
 /**
  * The font with the family that it is really drawn with. A font dialog starts on any family at all
@@ -281,33 +266,8 @@ void SpearStyleDialog::inheritanceParentChanged(bool inherit)
 
 void SpearStyleDialog::updatePreview()
 {
-    m_d->preview->setPixmap(
-        drawPreview(shortened(m_d->previewText->text(), m_d->style.textCount())));
-}
-
-QPixmap SpearStyleDialog::drawPreview(const QString &text) const
-{
-    const QFont font = currentFont();
-    const QPen pen = currentPen();
-    const QColor textColor = m_d->style.textColor(currentState());
-    const QColor background = m_d->style.textBkColor(currentState());
-
-    const int padding = 4;
-    const int margin = padding;
-    const QFontMetrics metrics(font);
-    const QRect box(margin, margin, metrics.horizontalAdvance(text) + 2 * padding,
-                    metrics.height() + 2 * padding);
-    // A long text in a large font must not take up more memory than a screen can show.
-    const QSize size = (box.size() + QSize(2 * margin, 2 * margin)).boundedTo(QSize(2400, 800));
-
-    QPixmap pixmap = previewPixmap(size, devicePixelRatioF(), m_d->background);
-    QPainter painter(&pixmap);
-    paintTextBox(painter, box, box, background, pen);
-    painter.setFont(font);
-    painter.setPen(textColor); // black when invalid
-    painter.drawText(box, Qt::AlignCenter | Qt::TextSingleLine, text);
-    painter.end();
-    return pixmap;
+    m_d->preview->setPixmap(stylePreview(m_d->style, currentState(), m_d->previewText->text(),
+                                         m_d->background, devicePixelRatioF()));
 }
 
 void SpearStyleDialog::reject()

@@ -84,7 +84,6 @@ private:
     QGroupBox *makeParentGroup();
     QGroupBox *makePreviewGroup();
     QLayout *makeSetters();
-    QPixmap drawPreview(const QString &text) const;
 
     const std::unique_ptr<Private> m_d;
 };
