@@ -134,7 +134,7 @@ void ClearPieces::legend(PictureSink &sink, const std::vector<ClearLegend::Entry
         if (!meanings[i].icon.isEmpty())
             sink.icon(symbol, meanings[i].icon);
         else if (meanings[i].isVotes)
-            sink.box(symbol.adjusted(0, padding, 0, -padding), symbol.height() / 2, ink);
+            sink.box(symbol, symbol.height() / 2, ink); // round, as one digit is
         else if (meanings[i].colour.isValid())
             sink.box(symbol, symbol.width() * dotRadius, meanings[i].colour);
         else if (meanings[i].verdict == Verdict::RootCause)

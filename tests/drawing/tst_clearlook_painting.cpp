@@ -367,6 +367,12 @@ void TestClearLookPainting::shouldExplainTheSymbolsInUse()
     }
     const Canvas canvas = canvasOf(frame.legend[3].symbol);
     QVERIFY(pixelsOf(paintedAtOnce(*fish.editor.scene(), canvas), orange) > 50);
+    // That of the votes is round, as a number of one digit is.
+    const QRectF round = frame.legend[2].symbol;
+    const Canvas votes = canvasOf(round, 2);
+    const QImage picture = paintedAtOnce(*fish.editor.scene(), votes);
+    QVERIFY(votes.colorAt(picture, {round.center().x(), round.top() + 1.2}).lightness() < 160);
+    QVERIFY(votes.colorAt(picture, round.topLeft()).lightness() > 240);
 
     // What is contracted explains nothing.
     fish.spear(man)->setExpand(false);
