@@ -39,7 +39,8 @@ void MarkBox::listStatuses(QComboBox &box, const QString &any)
     listNames(box, any, MarkNames::statuses(), MarkNames::noStatus);
     for (int row = 0; row < box.count(); ++row) {
         const QVariant status = box.itemData(row);
-        if (status.isValid() && status.toInt() != MarkNames::noStatus)
+        const bool isListed = !box.itemIcon(row).isNull(); // in another language, with a picture
+        if (!isListed && status.isValid() && status.toInt() != MarkNames::noStatus)
             box.setItemIcon(row, QIcon(TaskStatusInfo(TaskStatus(status.toInt()), 0).iconPath()));
     }
 }

@@ -22,6 +22,7 @@ private Q_SLOTS:
     void shouldListAllVerdicts();
     void shouldListThemBehindAnything();
     void shouldKeepWhatIsChosen();
+    void shouldReadEachPictureOnce();
 };
 
 void TestMarkBox::shouldListAllStatuses()
@@ -72,6 +73,16 @@ void TestMarkBox::shouldKeepWhatIsChosen()
     MarkBox::listVerdicts(box);
     QCOMPARE(box.currentIndex(), -1);
     QCOMPARE(changes.count(), 2);
+}
+
+void TestMarkBox::shouldReadEachPictureOnce()
+{
+    QComboBox box;
+    MarkBox::listStatuses(box);
+    const int row = box.findData(int(tsFinish));
+    const qint64 icon = box.itemIcon(row).cacheKey();
+    MarkBox::listStatuses(box); // in another language
+    QCOMPARE(box.itemIcon(row).cacheKey(), icon);
 }
 
 FISHBONE_TEST(TestMarkBox)
