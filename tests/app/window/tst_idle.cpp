@@ -69,7 +69,7 @@ void TestIdle::shouldNotWakeWhileNobodyDoesAnything()
     // Copies for recovery as often as can be, which would show if they were made for nothing.
     const QString settings = m_folder.path(QStringLiteral(".config/Fishbone/Fishbone.conf"));
     QVERIFY(QDir().mkpath(QFileInfo(settings).path()));
-    writeFile(settings, "[General]\nautosaveSeconds=1\n");
+    ProgramRunner::writeFile(settings, "[General]\nautosaveSeconds=1\n");
     QProcessEnvironment environment = m_folder.environment();
     environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
     QProcess program;
