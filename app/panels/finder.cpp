@@ -27,7 +27,7 @@
 
 namespace {
 
-constexpr int titleColumn = 0;
+constexpr int firstColumn = 0;
 
 } // namespace
 
@@ -185,7 +185,7 @@ void Finder::showHit(int row)
         return;
     m_current = row;
     m_hits->setCurrentHit(row);
-    m_session->select(matches.at(row).siblingAtColumn(titleColumn));
+    m_session->select(matches.at(row).siblingAtColumn(firstColumn));
     m_aside.start();
     Q_EMIT message(tr("Match %1 of %2").arg(row + 1).arg(matches.size()));
 }
