@@ -5,8 +5,8 @@
 
 #include <app/common/accessiblepages.h>
 #include <app/common/actionset.h>
-#include <app/common/contraststyle.h>
 #include <app/common/canvastheme.h>
+#include <app/common/contraststyle.h>
 #include <app/common/language.h>
 #include <app/common/linkopener.h>
 #include <app/diagram/diagramsession.h>
