@@ -14,7 +14,7 @@
 
 namespace {
 
-void writeFile(const QString &path, const QByteArray &content)
+void putFile(const QString &path, const QByteArray &content)
 {
     QFile file(path);
     QVERIFY(file.open(QIODevice::WriteOnly));
@@ -25,7 +25,7 @@ void writeFile(const QString &path, const QByteArray &content)
 QString leaveCopy(const QString &name, const QString &original, const QByteArray &content)
 {
     const QString copy = RecoveryStore::newCopy(name);
-    writeFile(copy, content);
+    putFile(copy, content);
     [&] { QVERIFY(RecoveryStore::writeNote(copy, original, name)); }();
     return copy;
 }
@@ -67,7 +67,7 @@ void TestRecoveryStore::shouldNameCopiesApart()
     const QString first = RecoveryStore::newCopy(name);
     QVERIFY(first != RecoveryStore::newCopy(name));
     QCOMPARE(QFileInfo(first).absolutePath(), QDir(RecoveryStore::folder()).absolutePath());
-    writeFile(first, "{}"); // the name can be that of a file
+    putFile(first, "{}"); // the name can be that of a file
     QVERIFY(!QFileInfo(first).fileName().contains(QLatin1Char('*')));
 }
 
@@ -99,7 +99,7 @@ void TestRecoveryStore::shouldFindACopyWithoutANote()
     const QString copy = leaveCopy(QStringLiteral("a.json"), QStringLiteral("/x/a.json"), "{}");
     QVERIFY(QFile::remove(RecoveryStore::noteOf(copy)));
     if (!note.isEmpty())
-        writeFile(RecoveryStore::noteOf(copy), note);
+        putFile(RecoveryStore::noteOf(copy), note);
     const QList<LeftCopy> left = RecoveryStore::left();
     QCOMPARE(left.size(), 1);
     QCOMPARE(left.first().original, QString());
@@ -122,7 +122,7 @@ void TestRecoveryStore::shouldRemoveCopiesThatAreNoNewer()
 {
     const QTemporaryDir folder;
     const QString original = folder.filePath(QStringLiteral("a.json"));
-    writeFile(original, "{\"title\": \"a\"}");
+    putFile(original, "{\"title\": \"a\"}");
     const QString copy = leaveCopy(QStringLiteral("a.json"), original, "{\"title\": \"a\"}");
     QVERIFY(RecoveryStore::left().isEmpty());
     QVERIFY(!QFileInfo::exists(copy));
