@@ -3,10 +3,10 @@
 
 #include <app/documents/closequestion.h>
 
+#include <app/common/shownpath.h>
 #include <app/documents/documenttab.h>
 
 #include <QDialogButtonBox>
-#include <QDir>
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
@@ -28,7 +28,7 @@ CloseQuestion::CloseQuestion(const QList<QPointer<DocumentTab>> &tabs, QWidget *
     m_list->setAccessibleName(tr("Documents with changes that were not saved"));
     for (const QPointer<DocumentTab> &tab : tabs) {
         auto *const item = new QListWidgetItem(tab->name(), m_list);
-        item->setToolTip(QDir::toNativeSeparators(tab->path()));
+        item->setToolTip(ShownPath::of(tab->path()));
         item->setFlags(item->flags() | Qt::ItemIsUserCheckable);
         item->setCheckState(Qt::Checked);
     }

@@ -5,6 +5,7 @@
 
 #include <app/common/crossstyle.h>
 #include <app/common/language.h>
+#include <app/common/shownpath.h>
 #include <app/common/tabbuttons.h>
 #include <app/diagram/diagramsession.h>
 #include <app/documents/documenttab.h>
@@ -193,9 +194,8 @@ void DocumentTabs::refresh()
         QWidget *const close = bar->tabButton(position, closeSide);
         close->setToolTip(tr("Close"));
         CrossStyle::giveTo(close);
-        m_tabs->setTabToolTip(position, tab->path().isEmpty()
-                                            ? tr("Not saved to a file yet")
-                                            : QDir::toNativeSeparators(tab->path()));
+        m_tabs->setTabToolTip(position, tab->path().isEmpty() ? tr("Not saved to a file yet")
+                                                              : ShownPath::of(tab->path()));
     }
 }
 

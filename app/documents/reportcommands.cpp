@@ -7,6 +7,7 @@
 #include <app/common/busycursor.h>
 #include <app/common/plainbox.h>
 #include <app/common/savedialog.h>
+#include <app/common/shownpath.h>
 #include <app/diagram/diagramsession.h>
 #include <app/documents/documenttab.h>
 #include <app/documents/documenttabs.h>
@@ -18,7 +19,6 @@
 #include <fishbone/model/treeitem.h>
 
 #include <QAction>
-#include <QDir>
 #include <QLocale>
 #include <QPointer>
 #include <QPrintDialog>
@@ -124,7 +124,7 @@ void ReportCommands::write(const QString &title, QString (ReportCommands::*choos
         isWritten = write(report, path, &reason);
     }
     if (isWritten)
-        Q_EMIT message(tr("%1 written").arg(QDir::toNativeSeparators(path)));
+        Q_EMIT message(tr("%1 written").arg(ShownPath::of(path)));
     else
         PlainBox::warning(m_window, title, tr("%1 cannot be written: %2.").arg(path, reason));
 }

@@ -4,6 +4,7 @@
 #include <app/files/recentfiles.h>
 
 #include <app/common/language.h>
+#include <app/common/shownpath.h>
 
 #include <fishbone/base/filenames.h>
 
@@ -45,8 +46,8 @@ bool removeFrom(QStringList &paths, const QString &path)
 QString shownPath(const QString &path)
 {
     const QString home = QDir::homePath() + QLatin1Char('/');
-    return QDir::toNativeSeparators(
-        path.startsWith(home) ? QLatin1String("~/") + path.mid(home.size()) : path);
+    return ShownPath::of(path.startsWith(home) ? QLatin1String("~/") + path.mid(home.size())
+                                               : path);
 }
 
 } // namespace

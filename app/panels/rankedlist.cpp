@@ -66,10 +66,21 @@ RankedList::RankedList(QWidget *parent)
         refresh();
     });
     constexpr int wide = 220;
-    constexpr int narrow = 130;
     for (const int column : {Votes, Title})
         setColumnWidth(column, wide);
-    setColumnWidth(VerdictColumn, narrow);
+    Language::bind(this, [this] { setColumnWidth(VerdictColumn, roomForVerdicts()); });
+}
+
+/** What any verdict needs in the language of the moment. */
+int RankedList::roomForVerdicts() const
+{
+    constexpr int usual = 130;
+    constexpr int margins = 16;
+    int room = usual;
+    const QStringList names = MarkNames::verdicts();
+    for (const QString &name : names)
+        room = qMax(room, fontMetrics().horizontalAdvance(name) + margins);
+    return room;
 }
 
 QVector<SubjectList::Entry> RankedList::entries(const MeetingReport &report) const

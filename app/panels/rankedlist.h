@@ -18,4 +18,7 @@ public:
 
 protected:
     QVector<Entry> entries(const MeetingReport &report) const override;
+
+private:
+    int roomForVerdicts() const;
 };

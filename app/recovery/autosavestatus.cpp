@@ -4,9 +4,9 @@
 #include <app/recovery/autosavestatus.h>
 
 #include <app/common/language.h>
+#include <app/common/shownpath.h>
 #include <app/recovery/recoverycopy.h>
 
-#include <QDir>
 #include <QLocale>
 
 AutosaveStatus::AutosaveStatus(QWidget *parent)
@@ -30,7 +30,7 @@ void AutosaveStatus::refresh()
 {
     if (!m_copy)
         return;
-    const QString path = QDir::toNativeSeparators(m_copy->path());
+    const QString path = ShownPath::of(m_copy->path());
     const QString time = QLocale().toString(m_copy->time().time(), QLocale::ShortFormat);
     switch (m_copy->state()) {
     case RecoveryCopy::State::None:

@@ -3,9 +3,9 @@
 
 #include <app/recovery/recoverymodel.h>
 
+#include <app/common/shownpath.h>
 #include <app/recovery/documentpicture.h>
 
-#include <QDir>
 #include <QLocale>
 
 #include <algorithm>
@@ -64,8 +64,7 @@ QString RecoveryModel::text(const LeftCopy &copy, int column) const
     case Name:
         return copy.name;
     case File:
-        return copy.original.isEmpty() ? tr("(never saved)")
-                                       : QDir::toNativeSeparators(copy.original);
+        return copy.original.isEmpty() ? tr("(never saved)") : ShownPath::of(copy.original);
     case Saved:
         return QLocale().toString(copy.saved, QLocale::ShortFormat);
     case Size:

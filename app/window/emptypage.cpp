@@ -5,10 +5,10 @@
 
 #include <app/common/actionset.h>
 #include <app/common/language.h>
+#include <app/common/shownpath.h>
 #include <app/files/recentfiles.h>
 
 #include <QAction>
-#include <QDir>
 #include <QFileInfo>
 #include <QGridLayout>
 #include <QLabel>
@@ -77,7 +77,7 @@ void EmptyPage::listRecent()
     const QStringList paths = m_recent->files();
     for (const QString &path : paths) {
         auto *const item = new QListWidgetItem(QFileInfo(path).fileName(), m_list);
-        item->setToolTip(QDir::toNativeSeparators(path));
+        item->setToolTip(ShownPath::of(path));
         item->setData(Qt::UserRole, path);
     }
     m_label->setVisible(!paths.isEmpty());

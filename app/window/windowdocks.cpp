@@ -111,6 +111,16 @@ WindowDocks::WindowDocks(QMainWindow *window, QAction *exportActions, QAction *p
     window->resizeDocks({trees, overview}, {500, 160}, Qt::Vertical);
     followDirection(window);
     m_layout = new WindowLayout(window, {actions, histories, m_detailsDock, overview, trees});
+    Language::bind(m_detailsDock, [this] { followTexts(); });
+}
+
+/** Has the details keep their whole width in another language, once all of them have their texts.
+ */
+void WindowDocks::followTexts()
+{
+    if (m_window->isVisible())
+        QMetaObject::invokeMethod(
+            m_layout, [this] { m_layout->widen(m_detailsDock); }, Qt::QueuedConnection);
 }
 
 QDockWidget *WindowDocks::add(const char *name, const char *title, Qt::DockWidgetArea area,

@@ -42,6 +42,7 @@ public:
 private:
     Q_DISABLE_COPY(WindowDocks)
 
+    void followTexts();
     QDockWidget *add(const char *name, const char *title, Qt::DockWidgetArea area,
                      QWidget *contents);
 

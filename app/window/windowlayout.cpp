@@ -151,7 +151,6 @@ bool WindowLayout::eventFilter(QObject *watched, QEvent *event)
     return QObject::eventFilter(watched, event);
 }
 
-/** Lets @p dock, which stepped aside where it was narrow, show its whole width. */
 void WindowLayout::widen(QDockWidget *dock)
 {
     const int wanted = dock->widget()->sizeHint().width();

@@ -44,6 +44,10 @@ public:
      * aside. */
     void save();
 
+    /** Lets @p dock show its whole width when it stands beside the drawing: one that stepped aside
+     * where it was narrow, or whose texts have become longer. */
+    void widen(QDockWidget *dock);
+
     bool isFocused() const { return !m_beforeFocus.isEmpty(); }
     /** Shows the drawing alone, or again what was around it. */
     void setFocused(bool focused);
@@ -55,7 +59,6 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    void widen(QDockWidget *dock);
     void scheduleYield();
     void yield();
     void showYielded();

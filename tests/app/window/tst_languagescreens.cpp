@@ -5,6 +5,8 @@
 #include <tests/app/window/screens.h>
 
 #include <app/common/language.h>
+#include <app/diagram/marknames.h>
+#include <app/panels/rankedlist.h>
 
 #include <fishbone/items/textitem.h>
 #include <tests/program/testprogram.h>
@@ -13,8 +15,11 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPointer>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QSettings>
 #include <QTranslator>
+#include <QTreeWidget>
 
 namespace {
 
@@ -66,6 +71,28 @@ void keepPicture(QWidget &shown, const QString &language, const char *screen)
     QVERIFY(shown.grab().save(QStringLiteral("%1/%2.png").arg(place, QLatin1String(screen))));
 }
 
+/** What can be seen in @p shown only by scrolling to the side, or by making a column wider. */
+QStringList hiddenParts(const QWidget &shown, const QString &name)
+{
+    QStringList faults;
+    const QList<QScrollArea *> areas = shown.findChildren<QScrollArea *>();
+    for (const QScrollArea *area : areas) {
+        if (area->isVisible() && area->horizontalScrollBar()->isVisible())
+            faults.append(QStringLiteral("%1 scrolls to the side").arg(name));
+    }
+    const auto *const ranked = shown.findChild<QTreeWidget *>(QStringLiteral("ranked"));
+    if (!ranked || !ranked->isVisible())
+        return faults;
+    const QStringList verdicts = MarkNames::verdicts();
+    for (const QString &verdict : verdicts) {
+        constexpr int margins = 6;
+        const int needed = ranked->fontMetrics().horizontalAdvance(verdict) + margins;
+        if (ranked->columnWidth(RankedList::VerdictColumn) < needed)
+            faults.append(QStringLiteral("%1 cuts %2").arg(name, verdict));
+    }
+    return faults;
+}
+
 /** What is wrong with @p shown, @p window or a dialog of it, in the language @p name. */
 QStringList faultsOf(const QWidget &shown, const MainWindow &window, const QString &name)
 {
@@ -76,6 +103,7 @@ QStringList faultsOf(const QWidget &shown, const MainWindow &window, const QStri
     const QStringList cut = CutTexts::in(shown);
     for (const QString &text : cut)
         faults.append(QStringLiteral("%1 cuts %2").arg(name, text));
+    faults += hiddenParts(shown, name);
     QStringList texts = CutTexts::shown(shown);
     if (&shown == &window) {
         const QList<QAction *> menus = window.menuBar()->actions();
