@@ -20,7 +20,6 @@
 #include <QChildEvent>
 #include <QComboBox>
 #include <QLabel>
-#include <QLayout>
 #include <QPaintEngine>
 #include <QPrintDialog>
 #include <QPrintPreviewWidget>
@@ -28,6 +27,7 @@
 #include <QSettings>
 #include <QSpinBox>
 #include <QToolBar>
+#include <QVBoxLayout>
 
 #include <optional>
 
@@ -80,7 +80,7 @@ PrintPreview::PrintPreview(PictureSource *source, const DiagramView &shown,
     printer()->setResolution(600); // the dialog's own has that of the screen
     printer()->setPageOrientation(QPageLayout::Landscape); // as wide as most fishbones are
     printer()->setDocName(source->title());
-    layout()->setMenuBar(makeBar());
+    layout()->setMenuBar(makeBars());
     restore();
     connect(this, &QPrintPreviewDialog::paintRequested, this, &PrintPreview::printTo);
     for (QComboBox *box : {m_fit, m_look, m_palette})
@@ -118,7 +118,19 @@ QComboBox *PrintPreview::addBox(QToolBar *bar, const char *name, const QString &
     return box;
 }
 
-QToolBar *PrintPreview::makeBar()
+/** Two of them: what a bar has no room for would be out of reach. */
+QWidget *PrintPreview::makeBars()
+{
+    auto *const bars = new QWidget(this);
+    auto *const rows = new QVBoxLayout(bars);
+    rows->setContentsMargins(0, 0, 0, 0);
+    rows->setSpacing(0);
+    rows->addWidget(makeSizeBar());
+    rows->addWidget(makeLookBar());
+    return bars;
+}
+
+QToolBar *PrintPreview::makeSizeBar()
 {
     auto *const bar = new QToolBar(this);
     m_fit = addBox(bar, "fit", tr("Size on paper"));
@@ -135,7 +147,12 @@ QToolBar *PrintPreview::makeBar()
     m_pages->setMargin(4);
     bar->addWidget(m_percent);
     bar->addWidget(m_pages);
-    bar->addSeparator();
+    return bar;
+}
+
+QToolBar *PrintPreview::makeLookBar()
+{
+    auto *const bar = new QToolBar(this);
     m_look = addBox(bar, "look", tr("Look"));
     for (const LookInfo &look : LookInfo::all())
         m_look->addItem(ActionSet::plainText(look.title()), int(look.kind()));

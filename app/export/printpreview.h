@@ -44,7 +44,9 @@ protected:
     void childEvent(QChildEvent *event) override;
 
 private:
-    QToolBar *makeBar();
+    QWidget *makeBars();
+    QToolBar *makeSizeBar();
+    QToolBar *makeLookBar();
     QComboBox *addBox(QToolBar *bar, const char *name, const QString &text);
     void restore();
     void takeOver(const QPrinter &device);

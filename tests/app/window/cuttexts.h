@@ -112,6 +112,10 @@ inline QStringList in(const QWidget &widget)
     QStringList cut;
     const QList<QWidget *> all = widget.findChildren<QWidget *>();
     for (const QWidget *each : all) {
+        // The rest of a bar: when it is disabled, it is of fields, which have no menu.
+        if (each->isVisible() && !each->isEnabled() &&
+            each->objectName() == QLatin1String("qt_toolbar_ext_button"))
+            cut.append(QStringLiteral("fields of a bar"));
         const Fit fit = each->isVisible() ? fitOf(*each) : Fit();
         constexpr int rounding = 2; // of the widths of letters
         if (!fit.text.isEmpty() && fit.width < fit.needed - rounding)
