@@ -4,6 +4,7 @@
 #include <app/panels/subjecttree.h>
 
 #include <app/common/language.h>
+#include <app/common/owndirection.h>
 #include <app/panels/accessiblesubjects.h>
 #include <app/panels/subjectproxymodel.h>
 
@@ -47,6 +48,11 @@ public:
         const auto *const field = qobject_cast<const QLineEdit *>(editor);
         if (field && field->isModified() && !field->text().trimmed().isEmpty())
             m_tree->rename(index, field->text());
+    }
+
+    QString displayText(const QVariant &value, const QLocale &locale) const override
+    {
+        return OwnDirection::of(QStyledItemDelegate::displayText(value, locale));
     }
 
 protected:
