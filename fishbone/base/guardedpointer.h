@@ -19,7 +19,7 @@ public:
     GuardCell &operator=(const GuardCell &) = delete;
     ~GuardCell() { clear(); }
 
-    /** The cell for pointers at @p object, whose member this is. */
+    /** The cell for pointers at @p object, whose member this is and which owns it with them. */
     std::shared_ptr<Object *> shared(Object *object)
     {
         if (!m_cell)

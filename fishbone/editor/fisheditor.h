@@ -84,13 +84,14 @@ public:
      * @{
      */
 
-    GraphicsView *view() const;        ///< a child widget
+    GraphicsView *view() const;        ///< a child widget, owned by the editor; never null
     FishScene *scene() const;          ///< owned by the editor
     UndoStack *undoStack() const;      ///< owned by the editor
     QAbstractItemModel *model() const; ///< not owned; null until setModel()
     /**
-     * Sets the model and connects it. The drawing and the root index stay as they are until
-     * another root is set; what a model set before tells of its data is ignored.
+     * Sets the model, which is not owned, and connects it; null for none. The drawing and the root
+     * index stay as they are until another root is set; what a model set before tells of its data
+     * is ignored.
      */
     void setModel(QAbstractItemModel *model);
     /** The model's FishModel::modelType(), 0 without a model. */
@@ -127,16 +128,22 @@ public:
     static int directionFor(const SpearItem *parent, int level, int row);
     /**
      * Makes the head and the main bones of @p index and adds them to the scene. Neither clears nor
-     * lays out; setRootIndex() does both.
+     * lays out; setRootIndex() does both. Linear in the number of main bones.
      */
     void loadFish(const QModelIndex &index);
-    /** Makes the missing spears of the children of @p index. */
+    /**
+     * Makes the missing spears of the children of @p index. @p model is only compared: any other
+     * than the one that @p index is of makes none. Linear in the number of children.
+     */
     void generateSpear(QAbstractItemModel *model, const QModelIndex &index);
-    /** Makes the missing spears of all descendants of @p index. */
+    /**
+     * Makes the missing spears of all descendants of @p index. @p model is only compared: any other
+     * than the one that @p index is of makes none. Linear in the number of descendants.
+     */
     void generateAllSubSpear(QAbstractItemModel *model, const QModelIndex &index);
     /**
      * Makes new spears for @p index and all its descendants, in @p row on @p level below @p
-     * parent.
+     * parent, which owns them then. Linear in their number.
      */
     void generateSpear(const QModelIndex &index, int level, int row, SpearItem *parent);
     /**
@@ -144,11 +151,11 @@ public:
      * Linear in the number of spears.
      */
     void updateFish(bool rebuild);
-    /** The second pass of a relayout: every visible spear adds its size to its parent. */
+    /** The second pass of a relayout: every visible spear adds its size to its parent. Linear. */
     void updateSpearSize();
-    /** The third pass of a relayout: places all spears from the head down. */
+    /** The third pass of a relayout: places all spears from the head down. Linear. */
     void updateSpearPostion();
-    /** Expands or contracts every spear but the head, then lays out. Makes no spears. */
+    /** Expands or contracts every spear but the head, then lays out. Makes no spears. Linear. */
     void expandorContractAll(bool expand);
     /** @} */
 
@@ -159,12 +166,12 @@ public:
 
     /**
      * Draws in another look from now on; the classic one until this is called. What is selected,
-     * expanded and in view stays so.
+     * expanded and in view stays so. Lays out, as updateFish() does.
      */
     void setLook(DiagramLook::Kind look);
     /** The look that is shown. */
     DiagramLook::Kind look() const;
-    /** Chooses what can be chosen of the looks. */
+    /** Chooses what can be chosen of the looks. Lays out when they are others than before. */
     void setLookOptions(const DiagramLook::Options &options);
     /** The options of the looks, as setLookOptions() was given them last. */
     const DiagramLook::Options &lookOptions() const;
@@ -177,23 +184,28 @@ public:
 
     /**
      * The scene's selected items: spears in document order (parents before children, siblings by
-     * row), then whatever else is selected.
+     * row), then whatever else is selected. The scene owns them. Linear
+     * in the number of spears when several are.
      */
     QList<QGraphicsItem *> selectedItems() const;
-    /** Whether anything is selected. */
+    /** Whether anything is selected. Linear in the number of selected items. */
     bool hasSelection() const;
     /** The first selected spear, also when its text box is what is selected; null for none. */
     SpearItem *firstSelectedSpear() const;
     /** The index of firstSelectedSpear(); invalid for none. */
     QModelIndex firstSelectedSpearIndex() const;
     /**
-     * Selects @p spears, as far as they are in this drawing, and nothing else; told once, if at
-     * all.
+     * Selects @p spears, none of them null, as far as they are in this drawing, and nothing else;
+     * copyAvailable() comes once, if at all.
      */
     void selectSpears(const QList<SpearItem *> &spears);
-    /** Removes the items without a parent item (the head) and null pointers from @p items. */
+    /** Removes the items without a parent item (the head) and null pointers from @p items. Linear.
+     */
     static void excludeCenterSubject(QList<QGraphicsItem *> &items);
-    /** Removes the items that have an ancestor in @p items; the others keep their order. */
+    /**
+     * Removes the items that have an ancestor in @p items; the others, null pointers among them,
+     * keep their order. Takes a step for each level above each item.
+     */
     static void excludeChildSubject(QList<QGraphicsItem *> &items);
     /** @} */
 
@@ -245,7 +257,7 @@ public:
      * Writes the subjects of @p items with all below them to @p objects: one as its node object,
      * several as an array "children" in the order of @p items, none as the empty object. The head
      * and items below other listed items are left out. Subjects without a uuid, and their parents,
-     * are given one.
+     * are given one. Linear in the number of subjects that are written.
      */
     void saveObjects(QJsonObject &objects, const QList<QGraphicsItem *> &items) const;
     /**
@@ -254,8 +266,8 @@ public:
      */
     void setPasteAsNew(bool pasteAsNew);
     /**
-     * The subject that a drag of @p mimeData carries: the last one, when it lives in the model;
-     * else null.
+     * The subject that a drag of @p mimeData carries: the last one, when it lives in the model,
+     * which owns it; else null.
      */
     TreeItem *treeItemFromMimeData(const QMimeData *mimeData) const;
     /** A placeholder that does nothing. */
@@ -303,20 +315,22 @@ Q_SIGNALS:
     void clipBoardAvailable(bool);
     /** Declared for the host; the editor never emits it. */
     void contentsChanged();
-    /** Open the task @p taskId. */
+    /** Open the task @p taskId. From the menu of a bone, in a model of type FISH_MODEL_NORMAL. */
     void oneTaskClicked(const QString &title, const QString &taskId);
-    /** Create a sub-task of the task @p taskId. */
+    /** Create a sub-task of the task @p taskId. Comes as oneTaskClicked() does. */
     void createNewSubTask(const QString &title, const QString &taskId, const QString &showid);
     /**
      * The subjects with the uuids @p childIds were given a new parent, whose uuid is the second
-     * argument.
+     * argument. In a model of type FISH_MODEL_NORMAL.
      */
     void changeTaskParent(QStringList childIds, QString, CHANGE_PARENT_TYPE type);
-    /** Show @p index as a diagram of its own. */
+    /** Show @p index as a diagram of its own. Comes as oneTaskClicked() does. */
     void changeFishWithModelIndex(const QModelIndex &index);
-    /** Edit the details of @p index. */
+    /** Edit the details of @p index: of a bone that was clicked twice, and from its menu in a model
+     * of another type than FISH_MODEL_NORMAL. */
     void editTaskDetail(const QModelIndex &index);
-    /** Create a child of @p parentIndex. */
+    /** Create a child of @p parentIndex. From the menu of a bone, in a model of another type than
+     * FISH_MODEL_NORMAL. */
     void insertChildTask(const QModelIndex &parentIndex);
     /** The zoom value to set is @p value; hosts hand it to zoomFish(), which applies it. */
     void zoomValueChanged(int value);
@@ -336,9 +350,9 @@ public Q_SLOTS:
     void setZoomValue(int value);
     /** Stores the rotation; the view stays as it is. */
     void setRotateValue(int value);
-    /** Stores the zoom value and applies it. */
+    /** Stores the zoom value and applies it. Emits nothing. */
     void zoomFish(int value);
-    /** Stores the rotation and applies it. */
+    /** Stores the rotation (degrees) and applies it. Emits nothing. */
     void rotateFish(int value);
     /** Applies rotation 0. */
     void rotateReset();
@@ -346,9 +360,9 @@ public Q_SLOTS:
     void showEntire();
     /** Fits the selected items' rectangles, each in its own coordinates. */
     void showSelected();
-    /** Contracts every spear but the head. */
+    /** Contracts every spear but the head. Linear in the number of spears. */
     void contractAll();
-    /** Makes all missing spears and expands every one. */
+    /** Makes all missing spears and expands every one. Linear in the number of subjects. */
     void expandAll();
     /**
      * Undoes the last command, rebuilds the drawing and marks what has changed. When the stack is
@@ -357,7 +371,10 @@ public Q_SLOTS:
     void undo();
     /** Redoes the next command, as undo() does. */
     void redo();
-    /** Copies the selected subjects, then deletes them. */
+    /**
+     * Copies the selected subjects, then deletes them. Emits clipBoardAvailable(). Linear in the
+     * number of subjects.
+     */
     void cut();
     /** Copies the selected subjects. Emits clipBoardAvailable(). */
     void copy();
@@ -420,25 +437,34 @@ public Q_SLOTS:
     /** The first pass of a relayout: brings every spear in line with its subject and resets it. */
     void refreshFish();
     /**
-     * Shows the context menu of @p data, a SpearItem, and does what is chosen. Connected to the
-     * view.
+     * Shows the context menu of @p data, a SpearItem that is not owned, and does what is chosen,
+     * which for what only the host can do is to emit createNewSubTask(), oneTaskClicked(),
+     * changeFishWithModelIndex(), editTaskDetail() or insertChildTask(). Nothing for null.
+     * Connected to the view.
      */
     void onRightClicked(void *data);
     /**
      * Carries out, or refuses, a move of spears with the mouse: the arguments are those of
-     * GraphicsView::moveSpear(), to which this is connected.
+     * GraphicsView::moveSpear(), to which this is connected, the first one in viewport coordinates.
+     * Emits changeTaskParent() unless it refuses, in a model of type FISH_MODEL_NORMAL. Linear in
+     * the number of spears and of the subjects that move.
      */
     void moveItems(const QPoint &, const QList<QGraphicsItem *> &srcs, const QModelIndex &, int);
     /**
      * Carries out a drop of dragged rows on @p indexTo, at the row given last; not undoable. A
-     * subject that may not be moved stays. Connected to GraphicsView::dropTo(), queued.
+     * subject that may not be moved stays. Emits changeTaskParent() for one that was, in a
+     * model of type FISH_MODEL_NORMAL. @p mimeData is not owned. Linear in the number of subjects
+     * of the model. Connected to GraphicsView::dropTo(), queued.
      */
     void onDropTo(const QMimeData *mimeData, const QModelIndex &indexTo, int);
     /** Autosaves the shown document; nothing without one. */
     void saveTmpFile();
 
 public:
-    /** Fills @p menu with the entries for @p spear in the model's mode, and what a host adds. */
+    /**
+     * Fills @p menu with the entries for @p spear in the model's mode, and what a host adds. The
+     * spear is not owned; what the host's filler makes of null is its affair.
+     */
     void createPopMenu(QMenu &menu, SpearItem *spear);
     /**
      * Has @p filler add a host's own entries to the context menu of a bone, or take some off; they
@@ -447,7 +473,7 @@ public:
      * shown.
      */
     void setBoneMenuFiller(const std::function<void(QMenu &menu, SpearItem *spear)> &filler);
-    /** Reports a double click on the selected spear. For the view. */
+    /** Emits editTaskDetail() for a left double click on the selected spear. For the view. */
     void doubleClicked(QMouseEvent *event);
 
 private:

@@ -38,10 +38,12 @@ public Q_SLOTS:
 protected:
     /**
      * A picture of the scene begins: whatever is missing, such as the file of the global style, is
-     * looked for once until drawForeground(), however many bones ask for it.
+     * looked for once until drawForeground(), however many bones ask for it. @p rect is in scene
+     * coordinates.
      */
     void drawBackground(QPainter *painter, const QRectF &rect) override;
-    void drawForeground(QPainter *painter, const QRectF &rect) override; ///< the picture is drawn
+    /** The picture, the part @p rect of it in scene coordinates, is drawn. */
+    void drawForeground(QPainter *painter, const QRectF &rect) override;
 
 private:
     std::unique_ptr<const OnePass> m_picture; ///< while one is drawn

@@ -47,7 +47,8 @@ public:
 
     /**
      * Ends a move with the mouse whose release will not come here, or shall not count: what was
-     * moved goes back. Emits moveSpear() without a target; nothing while no button is down.
+     * moved goes back. Emits moveSpear() without a target; nothing while no button is down. Linear
+     * in the number of spears that were moved.
      */
     void abandonMove();
 
@@ -55,8 +56,9 @@ Q_SIGNALS:
     /** The context menu is wanted for @p item, a SpearItem, or for the canvas (null). */
     void rightClicked(void *item);
     /**
-     * Moving subjects with the mouse has ended over @p target (invalid: over none that may take
-     * them), where they would be inserted at @p row.
+     * Moving subjects with the mouse has ended at @p pos (viewport coordinates) over @p target
+     * (invalid: over none that may take them), where they would be inserted at @p row. The items
+     * belong to the scene.
      */
     void moveSpear(const QPoint &pos, const QList<QGraphicsItem *> &items,
                    const QModelIndex &target, int row);
@@ -65,7 +67,7 @@ Q_SIGNALS:
      * lives until receivers with a queued connection have been called as well.
      */
     void dropTo(const QMimeData *data, const QModelIndex &target, int row);
-    /** Declared for the host; the view never emits it. */
+    /** Declared for the host; the view never emits it. A spear belongs to its scene. */
     void spearItemClicked(SpearItem *spear);
 
 protected:

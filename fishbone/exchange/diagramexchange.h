@@ -71,7 +71,8 @@ public:
     static bool canRead(Format format);
     /** Whether diagrams can be written in that format; some are only read. */
     static bool canWrite(Format format);
-    /** The keys of the diagram format whose values come back after writing and reading. */
+    /** The keys of the diagram format whose values come back after writing and reading. A new list,
+     * linear in the number of keys. */
     static QStringList keptKeys(Format format);
     /** The name of a format for the user, translated. */
     static QString name(Format format);

@@ -76,8 +76,8 @@ public:
     /** Is told from time to time how much is done; false ends it. */
     using Progress = std::function<bool(int done, int total)>;
 
-    /** Paints it as large as it fits into @p target, in whose middle it stands, and nothing behind
-     * it. */
+    /** Paints it as large as it fits into @p target (the painter's coordinates), in whose middle it
+     * stands, and nothing behind it. */
     void paint(QPainter &painter, const QRectF &target) const;
     /** Paints the part @p source, in the coordinates of the drawing at 100 % from its left upper
      * corner on, into @p target, which has the same shape; nothing of the rest. @p progress is as

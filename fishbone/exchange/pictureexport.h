@@ -101,8 +101,8 @@ public:
     static std::optional<Format> formatOf(const QString &fileName);
 
     /**
-     * The part of @p scene that its visible items cover; empty when it shows nothing. Linear in the
-     * number of items, without recursion.
+     * The part of @p scene, in its coordinates, that its visible items cover; empty when it shows
+     * nothing. Linear in the number of items, without recursion.
      */
     static QRectF visibleRect(const QGraphicsScene &scene);
 
@@ -114,20 +114,22 @@ public:
     /** Whether a picture of @p size picture units can be made: what is too large is refused here,
      * before anybody makes room for it. */
     static Result check(Format format, const QSizeF &size);
-    /** As check() without options, of a picture whose scale gave it that size: the reason tells
-     * which scale fits. */
+    /** As check() without options, of a picture whose scale gave it @p size picture units: the
+     * reason tells which scale fits. */
     static Result check(Format format, const QSizeF &size, const PictureOptions &options);
     /** The largest factor, at most 1, by which a picture of @p size picture units has to be made
      * smaller so that it can be made. */
     static double fittingFactor(Format format, const QSizeF &size);
-    /** The largest scale of three decimals that is not above @p scale. */
+    /** The largest scale of three decimals that is not above @p scale; 1 is a picture unit for each
+     * of the scene. */
     static double roundedScale(double scale);
     /** The millimetres of a PDF's page for each picture unit. */
     static double millimetresPerUnit();
 
     /**
-     * Paints the part @p source of what @p scene shows into @p target, which has the same shape, as
-     * into a picture: without buttons, and nothing behind it. Of what is not seen there nothing is
+     * Paints the part @p source (scene coordinates) of what @p scene shows into @p target (the
+     * painter's coordinates), which has the same shape, as into a picture: without buttons, and
+     * nothing behind it. Of what is not seen there nothing is
      * painted. @p progress is as in PictureOptions; false when that ended the painting.
      */
     static bool paint(QGraphicsScene &scene, QPainter &painter, const QRectF &target,

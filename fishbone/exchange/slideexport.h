@@ -41,8 +41,8 @@ public:
     /** Whether the ending of @p fileName, in any case, is that of a presentation. */
     static bool isSlide(const QString &fileName);
 
-    /** The shape of slide that is nearer to @p page: the wide one for an empty page. A4 and A3 lie
-     * nearer to 4:3. */
+    /** The shape of slide that is nearer to the proportions of @p page: the wide one for an empty
+     * page. A4 and A3 lie nearer to 4:3. */
     static Aspect aspectFor(const QSizeF &page);
 
     /** The presentation of @p scene, which shows the diagram of @p head; empty, with an error, when

@@ -33,7 +33,7 @@ public:
      */
     static void setFishEditor(FishEditor *editor);
 
-    /** The picture, or what the spear's look has in place of it. */
+    /** The picture, or what the spear's look has in place of it; in scene units. */
     QRectF boundingRect() const override;
     void paint(QPainter *painter, const QStyleOptionGraphicsItem *option,
                QWidget *widget = nullptr) override;

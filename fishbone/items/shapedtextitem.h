@@ -45,21 +45,22 @@ public:
      * @name As in the base class, whether or not there is a document
      * @{
      */
-    QString toPlainText() const;                                                  ///< makes none
-    QFont font() const;                                                           ///< makes none
-    QColor defaultTextColor() const;                                              ///< makes none
-    QString toHtml() const { return withDocument().toHtml(); }                    ///< makes one
-    QTextDocument *document() const { return withDocument().document(); }         ///< makes one
-    QTextCursor textCursor() const { return withDocument().textCursor(); }        ///< makes one
+    QString toPlainText() const;                                           ///< makes none
+    QFont font() const;                                                    ///< makes none
+    QColor defaultTextColor() const;                                       ///< makes none
+    QString toHtml() const { return withDocument().toHtml(); }             ///< makes one
+    QTextDocument *document() const { return withDocument().document(); }  ///< makes one of its own
+    QTextCursor textCursor() const { return withDocument().textCursor(); } ///< makes one
     void setPlainText(const QString &text) { withDocument().setPlainText(text); } ///< makes one
     void setHtml(const QString &text) { withDocument().setHtml(text); }           ///< makes one
     void setFont(const QFont &another) { withDocument().setFont(another); }       ///< makes one
     /** Makes one. */
     void setDefaultTextColor(const QColor &color) { withDocument().setDefaultTextColor(color); }
-    void setDocument(QTextDocument *another) { withDocument().setDocument(another); } ///< makes one
+    /** Makes one and puts @p another, which is not owned, in its place; null for an empty one. */
+    void setDocument(QTextDocument *another) { withDocument().setDocument(another); }
     /** Makes one. */
     void setTextCursor(const QTextCursor &cursor) { withDocument().setTextCursor(cursor); }
-    void setTextWidth(qreal width) { withDocument().setTextWidth(width); } ///< makes one
+    void setTextWidth(qreal width) { withDocument().setTextWidth(width); } ///< makes one; in units
     void adjustSize() { withDocument().adjustSize(); }                     ///< makes one
     /** Makes one. */
     void setOpenExternalLinks(bool open) { withDocument().setOpenExternalLinks(open); }
@@ -69,11 +70,11 @@ public:
     /** The lines of the text from the top, in the item's coordinates. Makes no document. */
     std::vector<Line> lines() const;
 
-    /** Width of the laid-out text, margins included. */
+    /** Width of the laid-out text in scene units, margins included. */
     qreal textWidth() const { return textSize().width(); }
-    /** Height of the laid-out text, margins included. */
+    /** Height of the laid-out text in scene units, margins included. */
     qreal textHeight() const { return textSize().height(); }
-    /** Size of the laid-out text, margins included. */
+    /** Size of the laid-out text in scene units, margins included. */
     QSizeF textSize() const { return m_isTouched || !m_size.isValid() ? measuredSize() : m_size; }
 
     /** Has the processor fetch what the toolkit keeps of the item. */
@@ -96,7 +97,7 @@ public:
 
     QRectF boundingRect() const override;
     QPainterPath shape() const override;                ///< boundingRect()
-    bool contains(const QPointF &point) const override; ///< as shape() does
+    bool contains(const QPointF &point) const override; ///< as shape(); in the item's coordinates
 
     /** Paints the text. Schedules no repaint. */
     void paint(QPainter *painter, const QStyleOptionGraphicsItem *option,

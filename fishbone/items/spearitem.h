@@ -191,7 +191,7 @@ public:
     void setMoving(bool moving);
     /** Whether the child spears are shown. */
     bool isExpand() const;
-    /** Stores the flag and shows or hides every child spear. */
+    /** Stores the flag and shows or hides every child spear. Linear in their number. */
     void setExpand(bool expand);
     /** @} */
 
@@ -204,7 +204,7 @@ public:
     bool isHeader() const { return !parentItem(); }
     /** The parent item when it is a spear; else null. */
     SpearItem *parentSpear() const;
-    /** Number of item ancestors; 0 for the header. */
+    /** Number of item ancestors; 0 for the header. Takes a step for each level. */
     int depth() const;
     /** The child items that are spears, in stacking order. Linear in the number of child items. */
     QList<SpearItem *> childSpears() const;
@@ -242,7 +242,7 @@ public:
      * is deleted. Null removes the icon.
      */
     void setLinkItem(QGraphicsItem *item);
-    /** Gives the spear its expand button, as setLinkItem() does. */
+    /** Gives the spear its expand button, which it owns, as setLinkItem() does; null removes it. */
     void setExpandBuddy(QGraphicsItem *item);
     /** Brings the picture of the expand button in line with isExpand(). */
     void updateExpandButton();
@@ -284,7 +284,8 @@ public:
     /** Adds @p distance to the offset; initData() starts it at 0. */
     void setOffset(double distance);
 
-    /** Resets the item for a new layout: position, offset, line, recorded child sizes. */
+    /** Resets the item for a new layout: position, offset, line, recorded child sizes. Linear in
+     * the number of child spears, which are shown or hidden. */
     void initData(int direction);
     /** Records the size of the next child spear. */
     void sumChildSize(const QSizeF &size);

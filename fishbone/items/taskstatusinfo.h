@@ -52,7 +52,7 @@ public:
      */
     void setStatus(TaskStatus status);
 
-    /** Changes the progress and the identifier; a progress outside 0 to 100 is ignored. */
+    /** Changes the progress (percent) and the identifier; one outside 0 to 100 is ignored. */
     void setProgress(int progress);
 
     /** Derives the identifier from the status and the progress again. */

@@ -20,7 +20,7 @@ public:
 
     int type() const override { return Type; }
 
-    /** An icon for @p status and @p progress (percent), a child of @p spear. */
+    /** An icon for @p status and @p progress (percent), a child item of @p spear, which owns it. */
     TaskStatusItem(SpearItem *spear, TaskStatus status, int progress);
 
     /** The status shown. */
@@ -30,15 +30,17 @@ public:
 
     /** Shows @p status; a value that is no status changes nothing. */
     void setStatus(TaskStatus status);
-    /** Shows @p progress; a value outside 0 to 100 changes nothing. */
+    /** Shows @p progress (percent); a value outside 0 to 100 changes nothing. */
     void setProgress(int progress);
-    /** Shows a subject's stored numbers as they are: a status that is none shows no icon. */
+    /** Shows a subject's stored numbers, the progress in percent, as they are: a status that is
+     * none shows no icon. */
     void setTask(int status, int progress);
 
     /** Brings the picture in line with status and progress; "unknown" shows none. */
     void updateStatusIcon();
 
-    /** An extension point: adds nothing to the menu. */
+    /** An extension point: adds nothing to the menu. Neither argument is owned; both may be null.
+     */
     void createPopMenu(QMenu *menu, QSignalMapper *mapper);
 
 protected:

@@ -31,7 +31,7 @@ public:
      */
     SpearStyle::SpearState ownState() const { return m_ownState; }
 
-    /** As the look of the parent spear has it. */
+    /** As the look of the parent spear has it, in scene units. */
     QRectF boundingRect() const override;
     /** The box is about to become another one. For SpearItem. */
     void boxChanges();

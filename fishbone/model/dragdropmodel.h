@@ -34,7 +34,8 @@ public:
 
     /**
      * One index for each whole record of "QModelIndexList" in @p data; empty without that format.
-     * A record that does not belong to this model gives an invalid index in its place.
+     * A record that does not belong to this model gives an invalid index in its place. Linear in
+     * the number of records, but for what the subclass does to know its own.
      */
     QModelIndexList indexList(const QMimeData *data) const;
 
@@ -67,7 +68,7 @@ protected:
      *
      * The records come from outside, possibly from another process, so a model whose indexes point
      * at something must override this and answer an invalid index for a pointer it does not know.
-     * The implementation here creates the indexes as the records say.
+     * The implementation here creates the indexes as the records say. Linear in their number.
      */
     virtual QModelIndexList indexesFromRecords(const QVector<Record> &records) const;
 };

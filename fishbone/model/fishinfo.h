@@ -62,7 +62,7 @@ public:
     void setAutoSaveFile(const QString &fileName);
     /** The model that shows the document; not owned, null when there is none. */
     QAbstractItemModel *model() const;
-    /** Stores the model; the document enters no list. */
+    /** Stores the model, which is not owned, null for none; the document enters no list. */
     void setModel(QAbstractItemModel *model);
 
     /** Names the document after the canonical form of @p path; its changes count as saved then. */
@@ -75,8 +75,9 @@ public:
     /** Empties the tree and clears the modified flag; counters, names and history stay. */
     void reset();
     /**
-     * Builds the tree of @p root under the container, counts its nodes and stores @p model. An
-     * empty object anywhere is skipped with all below it.
+     * Builds the tree of @p root under the container, counts its nodes and stores @p model as
+     * setModel() does: it is not owned. An empty object anywhere is skipped with all below it.
+     * Linear in the number of nodes.
      */
     void loadFish(const QJsonObject &root, QAbstractItemModel *model);
 
@@ -84,20 +85,23 @@ public:
      * Writes the diagram to @p fileName, whole or not at all; the old content stays when it fails.
      * A file in a folder that is not writable is written in place. False also for a tree that nests
      * too deep to be read again, and, leaving an empty file, for a document without a model.
-     * saveError() tells which.
+     * saveError() tells which. Emits fileSaved() when it went well, from the event loop. Linear in
+     * the number of nodes.
      */
     bool saveFile(const QString &fileName);
     /** Why the last saveFile() failed, in the user's language; empty when it did not. */
     QString saveError() const;
-    /** saveFile() under the document's name, or saveAs() while it has none. */
+    /** saveFile() under the document's name, or saveAs() while it has none; emits what they do. */
     bool save();
-    /** Asks for a file and writes it. The document keeps its name and its flags. */
+    /** Asks for a file and writes it, as saveFile() does. The document keeps its name and its
+     * flags. */
     bool saveAs();
-    /** Offers to save unsaved changes; false when the user cancels or saving fails. */
+    /** Offers to save unsaved changes, which emits what save() does; false when the user cancels or
+     * saving fails. */
     bool maybeSave();
     /**
      * maybeSave() for a host that saves in its own way: the answer to save is that of @p save,
-     * which is called instead of save() and may delete the document.
+     * which is called instead of save() and may delete the document. Emits nothing by itself.
      */
     bool maybeSave(const std::function<bool()> &save);
     /**
@@ -126,7 +130,7 @@ public:
     /** Uuids of the remembered subjects, oldest first. */
     QStringList fishHistorys() const;
 
-    /** Recounts noParentNodeCount() over the head's direct children. */
+    /** Recounts noParentNodeCount() over the head's direct children. Linear in their number. */
     void updateNoParentNodeCount();
 
 Q_SIGNALS:

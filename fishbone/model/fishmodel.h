@@ -126,7 +126,8 @@ public:
     bool putRow(int row, TreeItem *item, const QModelIndex &parent);
     /**
      * Copies title, detail, manager, followers, planned end and priority of @p source to the node
-     * at @p index and marks it edited. Emits nothing: the caller refreshes.
+     * at @p index and marks it edited. Emits nothing: the caller refreshes. @p source stays the
+     * caller's; nothing for null.
      */
     void updateItem(const QModelIndex &index, TreeItem *source);
     /** How often updateItem() has changed a node: what was worked out before may be wrong. */
@@ -158,7 +159,8 @@ public:
      * first; tells no view.
      */
     bool insertFishToList(int row, int count);
-    /** Makes a document of @p head at @p row; tells no view. False for a node of this model. */
+    /** Makes a document of @p head at @p row and takes it over; tells no view. False for a node of
+     * this model, which stays where it is, and for null. */
     bool insertFishToList(int row, TreeItem *head);
     /** Deletes @p count documents from @p row on; tells no view. */
     bool removeFishFromList(int row, int count);
@@ -192,8 +194,9 @@ public:
     bool moveToTopLevel(const QModelIndex &index, int row, FishInfo *document);
     /**
      * Makes @p newHead, which no list may hold, the head of @p document, with the old head as its
-     * first child, whose pid becomes its uuid. Announced as a change of the layout, with the
-     * document and its row as they were. False, with nothing changed, when that cannot be.
+     * first child, whose pid becomes its uuid. The model takes it over. Announced as a change of
+     * the layout, with the document and its row as they were. False, with nothing changed, when
+     * that cannot be.
      */
     bool wrapHead(FishInfo *document, TreeItem *newHead);
     /**
@@ -205,7 +208,8 @@ public:
     TreeItem *unwrapHead(FishInfo *document, TreeItem *child);
     /** The row of @p document, -1 when this model does not list it. */
     int fishRow(const FishInfo *document) const;
-    /** The document that holds @p item, null when no document of this model does. */
+    /** The document that holds @p item, null when no document of this model does. Takes a step for
+     * each level above the node. */
     FishInfo *fishOf(const TreeItem *item) const;
     /** A number that grows with each change of any document of any model. */
     static quint64 changeStamp();
@@ -223,7 +227,8 @@ public:
      * signal was emitted by hand.
      */
     FishInfo *fishOfTold(const QModelIndex &index) const;
-    /** The top-level index of the first document of that file name. */
+    /** The top-level index of the first document of that file name, invalid when there is none.
+     * Linear in the number of documents. */
     QModelIndex findFish(const QString &fileName) const;
     /** @} */
 
@@ -233,9 +238,9 @@ public:
      */
     /** The node of @p index, null for an invalid index and for one of another model. */
     TreeItem *getTreeItem(const QModelIndex &index) const;
-    /** The node above @p index, null for a head. */
+    /** The node above @p index, null for a head; owned by the model, as all nodes are. */
     TreeItem *getParentTreeItem(const QModelIndex &index) const;
-    /** The head of the first document. */
+    /** The head of the first document, null without one; owned by the model. */
     TreeItem *getFishHeadTreeItem() const;
     /**
      * The index of a living node, invalid when it is not in this model. Takes a step for each level
@@ -285,8 +290,9 @@ public:
      */
     QString loadError() const;
     /**
-     * Loads @p path into @p document in place of its tree. Returns a MODEL_ERROR number, and
-     * reports the document's index with fishLoaded(), an invalid one when no model lists it.
+     * Loads @p path into @p document in place of its tree. Returns a MODEL_ERROR number,
+     * MODEL_NO_DOCUMENT for null, and reports the document's index with fishLoaded(), an invalid
+     * one when no model lists it; who owns the document goes on to.
      */
     int reloadDataFromFile(const QString &path, FishInfo *document);
     /**
@@ -306,6 +312,7 @@ public:
      * Sets @p out to the object of @p item with its subtree, or, with @p includeItem false, to that
      * of its last child (@p out stays when it has none). Nothing for null. A subtree of more than
      * 20,000 levels leaves @p out empty, since no JSON value of that depth can be destroyed safely.
+     * Linear in the number of nodes.
      */
     static void write(QJsonObject &out, TreeItem *item, bool includeItem);
     /**
@@ -317,7 +324,8 @@ public:
     /** @} */
 
 public Q_SLOTS:
-    /** Takes the reply of a fetch; it is freed later. */
+    /** Takes the reply of a fetch over: it is deleted later. Emits fishLoaded(); nothing for null.
+     */
     void replyFinished(QNetworkReply *reply);
 
 Q_SIGNALS:

@@ -88,11 +88,12 @@ public:
      */
     /** The node above this one, null when there is none. */
     TreeItem *parent() const { return m_parent; }
-    /** Names another parent; no list changes. A parent inside the node's own subtree is ignored. */
+    /** Names another parent, null for none; no list changes. A parent inside the node's own subtree
+     * is ignored, which takes a step for each level above it to see. */
     void setParent(TreeItem *parent);
     /** A copy of the children in display order; cheap, since the list is shared until written. */
     QList<TreeItem *> children() const { return m_children; }
-    /** The children in display order, for loops that do not change the tree. */
+    /** The children in display order, owned by the node, for loops that do not change the tree. */
     const QList<TreeItem *> &childItems() const { return m_children; }
     /** The number of children. */
     int childCount() const { return m_children.size(); }
@@ -105,22 +106,25 @@ public:
      */
     int index() const;
     /** True when this node is above @p node, following the lists; a node is not its own ancestor.
-     */
+     * Takes a step for each level above @p node. */
     bool isAncestorOf(const TreeItem *node) const;
-    /** The row of the child that is @p node or lies above it; -1 when none does. */
+    /** The row of the child that is @p node or lies above it; -1 when none does. Takes a step for
+     * each level. */
     int branchOf(const TreeItem *node) const;
-    /** The topmost node that lists this one, directly or through others; itself when unlisted. */
+    /** The topmost node that lists this one, directly or through others; itself when unlisted,
+     * never null. Takes a step for each level. */
     const TreeItem *root() const;
 
     /**
      * Puts @p child at @p position, at the end when that is negative or past it, and names this
      * node its parent. Its pid stays. A child that another list holds leaves that list first.
-     * Null, the node itself and its ancestors are ignored.
+     * Null, the node itself and its ancestors are ignored. The node owns what it lists.
      */
     void appendChild(TreeItem *child, int position = -1);
     /**
      * As appendChild(), and the child's pid becomes this node's uuid.
-     * @p position must be in 0..childCount(). False when the child cannot be placed here.
+     * @p position must be in 0..childCount(). The node owns it then. False when the child cannot be
+     * placed here; then nothing has changed hands.
      */
     bool insertChildAtPosition(int position, TreeItem *child);
     /**
@@ -132,8 +136,8 @@ public:
      * Moves @p count children, one after the other, each from @p source to
      * @p destinationChild + k under @p destination (one less within this node when that lies behind
      * @p source, and at the end when it lies past it). Their pid becomes the uuid of @p
-     * destination. False, with nothing changed, for a range that does not exist and for a
-     * destination below a child that would move.
+     * destination, which owns them then. False, with nothing changed, for a range that does not
+     * exist and for a destination below a child that would move.
      */
     bool moveChildren(int source, int count, TreeItem *destination, int destinationChild);
     /**
@@ -183,9 +187,9 @@ public:
     int status() const { return m_status; }
     /** Stores the status. */
     void setStatus(int status);
-    /** The progress of the task in per cent. */
+    /** The progress of the task in percent. */
     int progress() const { return m_progress; }
-    /** Stores the progress. */
+    /** Stores the progress, in percent, unchecked. */
     void setProgress(int progress);
     /** The priority, a number of the host's, or none. */
     int priority() const { return m_priority; }
@@ -217,11 +221,11 @@ public:
     void addFollower(const QString &follower) { m_followers.append(follower); }
     /** Milliseconds since the Unix epoch; 0 means unset. */
     qint64 createDate() const { return m_createDate; }
-    /** Stores the creation time. */
+    /** Stores the creation time, in milliseconds since the Unix epoch. */
     void setCreateDate(qint64 msecs) { m_createDate = msecs; }
     /** Milliseconds since the Unix epoch; 0 means unset. */
     qint64 planEndDate() const { return m_planEndDate; }
-    /** Stores the planned end. */
+    /** Stores the planned end, in milliseconds since the Unix epoch. */
     void setPlanEndDate(qint64 msecs) { m_planEndDate = msecs; }
     /** Whether FishModel::updateItem() changed the node. */
     bool isEditModified() const { return m_editModified; }

@@ -131,7 +131,7 @@ public:
     /** Applies the values as FishModel::updateItem() does, without a signal. */
     void redo() override;
 
-    /** The record with the new values. */
+    /** The record with the new values; not owned. */
     TreeItem *item() const { return m_item; }
 
 private:

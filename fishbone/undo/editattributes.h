@@ -50,7 +50,7 @@ public:
                    const QJsonObject &after);
     ~EditAttributes() override;
 
-    /** The attributes of @p subject, without anything that is below it. */
+    /** The attributes of @p subject, without anything that is below it. Linear in their number. */
     static QJsonObject stateOf(const TreeItem &subject);
 
     /**
@@ -60,7 +60,8 @@ public:
     bool add(const QModelIndex &index, const QJsonObject &before, const QJsonObject &after);
     /**
      * Will replace FishInfo::view() of @p document by @p view, so that it comes and goes with the
-     * history as attributes do. False as add() is, for a document without a head, too.
+     * history as attributes do. False as add() is, for a document without a head, too. Linear in
+     * the number of the head's attributes.
      */
     bool addView(const FishInfo &document, const QJsonObject &view);
     /** The number of subjects that change. */

@@ -176,6 +176,10 @@ protected:
  * A snapshot is a node object of the diagram format, or an object whose "children" lists node
  * objects; only their "uuid" counts here. undo() puts back what redo() took out, unchanged and
  * exactly where it stood. A head takes its document with it, and both come back as they were.
+ *
+ * Finding the subjects is linear in the number of nodes of the model, however many they are; each
+ * that is found costs a step for each level above it. The model is not owned; once it is gone the
+ * command does nothing any more.
  */
 class FISHBONE_EXPORT EditDelete : public UndoCommand
 {
@@ -195,7 +199,11 @@ public:
 
     /** Replaces model and snapshot. Not between redo() and undo(). */
     void init(FishModel *model, const QJsonObject &objects);
-    /** Where the subjects of the snapshot are looked for first; documents may share uuids. */
+    /**
+     * Where the subjects of the snapshot are looked for first; documents may share uuids. The
+     * document is not owned, and null for none. Looks them up anew, which is linear in the number
+     * of nodes of the model at most.
+     */
     void setDocument(FishInfo *document);
 
     void undo() override;
@@ -220,13 +228,19 @@ private:
  * The copies keep the uuids of the snapshot, and their descendants the order that
  * FishModel::read() gives them at the place of the copy. undo() takes the copies out, never a
  * subject with the same uuid that was there before, and redo() puts them back.
+ *
+ * Finding the target is linear in the number of nodes of the model at most. The model is not owned;
+ * once it is gone the command does nothing any more.
  */
 class FISHBONE_EXPORT EditPaste : public UndoCommand
 {
     Q_OBJECT
 
 public:
-    /** Will add copies of the subjects of @p objects, a snapshot, below @p target. */
+    /**
+     * Will add copies of the subjects of @p objects, a snapshot, below @p target. Linear in the
+     * number of subjects of the snapshot.
+     */
     EditPaste(FishModel *model, const QModelIndex &target, const QJsonObject &objects);
     ~EditPaste() override;
 
@@ -262,6 +276,10 @@ private:
  *
  * Spears move along. One whose subject leaves the drawing is deleted, and a bone gets the spears of
  * all its children when one moves in.
+ *
+ * Finding the subjects is linear in the number of nodes of the model, however many they are; each
+ * that is found costs a step for each level above it. The model is not owned; once it is gone the
+ * command does nothing any more.
  */
 class FISHBONE_EXPORT EditMove : public UndoCommand
 {
@@ -271,13 +289,18 @@ public:
     /**
      * Moves the subjects that @p objects names to @p row below @p target. @p subjects are the very
      * ones that the snapshot was taken of, in its order, where they are known: the ones meant among
-     * several of one uuid, and found without a search.
+     * several of one uuid, and found without a search. Looks the others up, which is linear
+     * in the number of nodes of the model at most.
      */
     EditMove(FishModel *model, const QModelIndex &target, int row, const QJsonObject &objects,
              const QList<TreeItem *> &subjects = {});
     ~EditMove() override;
 
-    /** Where the subjects are looked for first; the target's document unless set. */
+    /**
+     * Where the subjects are looked for first; the target's document unless set. It is not owned,
+     * and null for none. Looks them up anew, which is linear in the number of nodes of the model at
+     * most.
+     */
     void setDocument(FishInfo *document);
 
     void undo() override;

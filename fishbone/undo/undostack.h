@@ -97,7 +97,8 @@ public:
      */
     QStringList commandNames() const;
 
-    /** Returns for each of these commands the titles of the subjects that it is about. */
+    /** Returns for each of these commands the titles of the subjects that it is about. Linear in
+     * the number of commands. */
     QVector<QStringList> commandSubjects() const;
 
     /**
@@ -133,7 +134,8 @@ Q_SIGNALS:
     /** Tells whether there is a command to redo. */
     void redoAvailable(bool available);
 
-    /** @p stack has a new command; @p index is the current position. */
+    /** @p stack, which is the sender and never null, has a new command or, after clear(), none;
+     * @p index is the current position. */
     void stackChanged(UndoStack *stack, int index);
 
     /** @p index is the current position after undo() or redo(). */
