@@ -5156,6 +5156,21 @@ Do you want to save your changes?</source>
         <translation>Ctrl+Z: تراجع</translation>
     </message>
     <message>
+        <source>Mark it</source>
+        <translatorcomment>Not yet read by a native speaker</translatorcomment>
+        <translation>علّمه</translation>
+    </message>
+    <message>
+        <source>Space: all marks</source>
+        <translatorcomment>Not yet read by a native speaker</translatorcomment>
+        <translation>Space: كل العلامات</translation>
+    </message>
+    <message>
+        <source>F7: a vote</source>
+        <translatorcomment>Not yet read by a native speaker</translatorcomment>
+        <translation>F7: صوت واحد</translation>
+    </message>
+    <message>
         <source>Walk in it</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
         <translation>تنقّل فيه</translation>

@@ -5092,6 +5092,21 @@ Möchten Sie Ihre Änderungen speichern?</translation>
         <translation>Strg+Z: rückgängig</translation>
     </message>
     <message>
+        <source>Mark it</source>
+        <translatorcomment>Not yet read by a native speaker</translatorcomment>
+        <translation>Kennzeichnen</translation>
+    </message>
+    <message>
+        <source>Space: all marks</source>
+        <translatorcomment>Not yet read by a native speaker</translatorcomment>
+        <translation>Leertaste: alle Kennzeichen</translation>
+    </message>
+    <message>
+        <source>F7: a vote</source>
+        <translatorcomment>Not yet read by a native speaker</translatorcomment>
+        <translation>F7: eine Stimme</translation>
+    </message>
+    <message>
         <source>Walk in it</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
         <translation>Sich bewegen</translation>

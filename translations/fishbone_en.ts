@@ -4156,6 +4156,18 @@ Do you want to save your changes?</translation>
         <translation>Ctrl+Z: undo</translation>
     </message>
     <message>
+        <source>Mark it</source>
+        <translation>Mark it</translation>
+    </message>
+    <message>
+        <source>Space: all marks</source>
+        <translation>Space: all marks</translation>
+    </message>
+    <message>
+        <source>F7: a vote</source>
+        <translation>F7: a vote</translation>
+    </message>
+    <message>
         <source>Walk in it</source>
         <translation>Walk in it</translation>
     </message>

@@ -5092,6 +5092,21 @@ Do you want to save your changes?</source>
         <translation>Ctrl+Z: deshacer</translation>
     </message>
     <message>
+        <source>Mark it</source>
+        <translatorcomment>Not yet read by a native speaker</translatorcomment>
+        <translation>Marcar</translation>
+    </message>
+    <message>
+        <source>Space: all marks</source>
+        <translatorcomment>Not yet read by a native speaker</translatorcomment>
+        <translation>Espacio: todas las marcas</translation>
+    </message>
+    <message>
+        <source>F7: a vote</source>
+        <translatorcomment>Not yet read by a native speaker</translatorcomment>
+        <translation>F7: un voto</translation>
+    </message>
+    <message>
         <source>Walk in it</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
         <translation>Recorrer</translation>

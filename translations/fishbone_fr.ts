@@ -5092,6 +5092,21 @@ Voulez-vous enregistrer vos modifications&#x202f;?</translation>
         <translation>Ctrl+Z&#x202f;: annuler</translation>
     </message>
     <message>
+        <source>Mark it</source>
+        <translatorcomment>Not yet read by a native speaker</translatorcomment>
+        <translation>Marquer</translation>
+    </message>
+    <message>
+        <source>Space: all marks</source>
+        <translatorcomment>Not yet read by a native speaker</translatorcomment>
+        <translation>Espace&#x202f;: toutes les marques</translation>
+    </message>
+    <message>
+        <source>F7: a vote</source>
+        <translatorcomment>Not yet read by a native speaker</translatorcomment>
+        <translation>F7&#x202f;: un vote</translation>
+    </message>
+    <message>
         <source>Walk in it</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
         <translation>Se déplacer</translation>

@@ -5092,6 +5092,21 @@ Salvare le modifiche?</translation>
         <translation>Ctrl+Z: annulla</translation>
     </message>
     <message>
+        <source>Mark it</source>
+        <translatorcomment>Not yet read by a native speaker</translatorcomment>
+        <translation>Contrassegnare</translation>
+    </message>
+    <message>
+        <source>Space: all marks</source>
+        <translatorcomment>Not yet read by a native speaker</translatorcomment>
+        <translation>Spazio: tutti i contrassegni</translation>
+    </message>
+    <message>
+        <source>F7: a vote</source>
+        <translatorcomment>Not yet read by a native speaker</translatorcomment>
+        <translation>F7: un voto</translation>
+    </message>
+    <message>
         <source>Walk in it</source>
         <translatorcomment>Not yet read by a native speaker</translatorcomment>
         <translation>Muoversi</translation>

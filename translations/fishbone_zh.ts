@@ -4140,6 +4140,18 @@ Do you want to save your changes?</source>
         <translation>Ctrl+Z：撤销</translation>
     </message>
     <message>
+        <source>Mark it</source>
+        <translation>标记</translation>
+    </message>
+    <message>
+        <source>Space: all marks</source>
+        <translation>空格：所有标记</translation>
+    </message>
+    <message>
+        <source>F7: a vote</source>
+        <translation>F7：投一票</translation>
+    </message>
+    <message>
         <source>Walk in it</source>
         <translation>移动选择</translation>
     </message>

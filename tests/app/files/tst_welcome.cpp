@@ -32,7 +32,7 @@ void TestWelcome::teachesTheKeysOnThreeLevels()
     const auto head = Welcome::diagram();
     QVERIFY(head);
     QCOMPARE(head->title(), QStringLiteral("Your first fishbone"));
-    QCOMPARE(head->childCount(), 6);
+    QCOMPARE(head->childCount(), 7);
     for (const TreeItem *bone : head->childItems())
         QVERIFY2(bone->childCount() >= 2, qPrintable(bone->title()));
 }
@@ -123,6 +123,10 @@ void TestWelcome::namesKeysThatWork_data()
                             << "rename";
     QTest::newRow("details") << "F4: details"
                              << "details";
+    QTest::newRow("mark") << "Space: all marks"
+                          << "markHere";
+    QTest::newRow("vote") << "F7: a vote"
+                          << "voteMore";
     QTest::newRow("undo") << "Ctrl+Z: undo"
                           << "undo";
     QTest::newRow("fit") << "Home: all of it"
