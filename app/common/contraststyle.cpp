@@ -18,8 +18,8 @@ QString ownStyle()
 /** Halfway between the text of a window and what is behind it. */
 QColor edgeColor(const QPalette &palette)
 {
-    const QColor text = palette.color(QPalette::WindowText);
-    const QColor behind = palette.color(QPalette::Window);
+    const QColor &text = palette.color(QPalette::WindowText);
+    const QColor &behind = palette.color(QPalette::Window);
     const auto mean = [](int one, int other) { return (one + other) / 2; };
     return QColor(mean(text.red(), behind.red()), mean(text.green(), behind.green()),
                   mean(text.blue(), behind.blue()));
